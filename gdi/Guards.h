@@ -1,0 +1,99 @@
+#pragma once
+
+#include <afxwin.h>
+
+/// Scope guards: each makes one change to a DC and takes it back at the end of the scope, also when something
+/// throws. Declare a guard after the objects it selects, so that nothing is deleted while it is selected.
+namespace kavlix {
+
+/// Selects an object; the one selected before comes back at the end. A null object leaves the DC as it is, so
+/// that painting goes on with what is there when GDI runs out of objects.
+class SelectGuard {
+public:
+    SelectGuard(CDC& dc, HGDIOBJ object)
+        : m_dc(dc.GetSafeHdc()), m_previous(object != nullptr ? ::SelectObject(m_dc, object) : nullptr) {}
+    ~SelectGuard() {
+        if (m_previous != nullptr)
+            ::SelectObject(m_dc, m_previous);
+    }
+    SelectGuard(const SelectGuard&) = delete;
+    SelectGuard& operator=(const SelectGuard&) = delete;
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_previous;
+};
+
+/// Selects a stock object at the end of the scope, in place of whatever was selected meanwhile.
+class StockAfterGuard {
+public:
+    StockAfterGuard(CDC& dc, int stockObject) : m_dc(dc.GetSafeHdc()), m_stockObject(stockObject) {}
+    ~StockAfterGuard() { ::SelectObject(m_dc, ::GetStockObject(m_stockObject)); }
+    StockAfterGuard(const StockAfterGuard&) = delete;
+    StockAfterGuard& operator=(const StockAfterGuard&) = delete;
+
+private:
+    HDC m_dc;
+    int m_stockObject;
+};
+
+/// Saves the whole state of a DC and restores it.
+class SavedDcGuard {
+public:
+    explicit SavedDcGuard(CDC& dc) : m_dc(dc), m_state(dc.SaveDC()) {}
+    ~SavedDcGuard() {
+        if (m_state != 0)
+            m_dc.RestoreDC(m_state);
+    }
+    SavedDcGuard(const SavedDcGuard&) = delete;
+    SavedDcGuard& operator=(const SavedDcGuard&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_state;
+};
+
+/// Brings background mode, text colour and text alignment back.
+class TextSettingsGuard {
+public:
+    explicit TextSettingsGuard(CDC& dc)
+        : m_dc(dc), m_bkMode(dc.GetBkMode()), m_color(dc.GetTextColor()), m_align(dc.GetTextAlign()) {}
+    ~TextSettingsGuard() {
+        m_dc.SetTextAlign(m_align);
+        m_dc.SetTextColor(m_color);
+        m_dc.SetBkMode(m_bkMode);
+    }
+    TextSettingsGuard(const TextSettingsGuard&) = delete;
+    TextSettingsGuard& operator=(const TextSettingsGuard&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_bkMode;
+    COLORREF m_color;
+    UINT m_align;
+};
+
+/// Clips to a rectangle in device units; at the end to `outer` again.
+class ClipGuard {
+public:
+    ClipGuard(CDC& dc, const CRect& device, CRgn& outer) : m_dc(dc), m_outer(outer) {
+        CRgn region;
+        if (region.CreateRectRgnIndirect(&device))
+            m_dc.SelectClipRgn(&region);
+    }
+    ~ClipGuard() { m_dc.SelectClipRgn(&m_outer); }
+    ClipGuard(const ClipGuard&) = delete;
+    ClipGuard& operator=(const ClipGuard&) = delete;
+
+private:
+    CDC& m_dc;
+    CRgn& m_outer;
+};
+
+/// Selects an object for as long as nothing else is; a null object is passed over.
+inline void Select(CDC& dc, const CGdiObject& object) {
+    if (HGDIOBJ handle = object.GetSafeHandle())
+        ::SelectObject(dc.GetSafeHdc(), handle);
+}
+
+} // namespace kavlix

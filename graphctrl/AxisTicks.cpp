@@ -1,0 +1,30 @@
+#include "graphctrl/AxisTicks.h"
+
+#include <cmath>
+#include <cstdio>
+
+namespace kavlix {
+
+ValueTicks::ValueTicks(double min, double max, int ticks, int exponent)
+    : m_value(min), m_step((max - min) / (ticks - 1)) {
+    const double power = std::pow(10.0, exponent);
+    if (power != 0) {
+        m_step /= power;
+        m_value /= power;
+    }
+}
+
+std::string FormatTick(double value, int decimals) {
+    // GDI draws at most 8192 characters of a text; what would stand behind them is not made.
+    constexpr int kMostDecimals = 8192;
+    const int precision = std::clamp(decimals, 0, kMostDecimals);
+    const int length = std::snprintf(nullptr, 0, "%.*f", precision, value);
+    if (length <= 0)
+        return {};
+    std::string text(static_cast<std::size_t>(length) + 1, '\0');
+    std::snprintf(text.data(), text.size(), "%.*f", precision, value);
+    text.pop_back();
+    return text;
+}
+
+} // namespace kavlix

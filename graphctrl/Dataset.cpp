@@ -1,0 +1,71 @@
+#include <kavlix/Dataset.h>
+
+#include <new>
+
+#include "graphctrl/SampleStore.h"
+
+namespace {
+
+constexpr COLORREF kDefaultColor = RGB(204, 58, 183);
+
+} // namespace
+
+CDataset::CDataset()
+    : m_Samples(std::make_unique<kavlix::SampleStore>()), m_Color(kDefaultColor), m_MarkerType(MarkerNone),
+      m_LineSize(0), m_Visible(TRUE) {
+}
+
+CDataset::~CDataset() = default;
+
+BOOL CDataset::AddData(double y, double* pX) {
+    const int index = GetSize();
+    if (!AddYData(y))
+        return FALSE;
+    if (pX != nullptr)
+        *pX = index;
+    return TRUE;
+}
+
+BOOL CDataset::AddYData(double y) {
+    try {
+        try {
+            m_Samples->Append(y);
+        } catch (const std::bad_alloc&) {
+            AfxThrowMemoryException();
+        }
+    } catch (CMemoryException* exception) {
+        exception->ReportError(MB_OK);
+        exception->Delete();
+        return FALSE;
+    }
+    return TRUE;
+}
+
+BOOL CDataset::GetData(int i, double& x, double& y) const {
+    if (!GetYData(i, y))
+        return FALSE;
+    x = i;
+    return TRUE;
+}
+
+BOOL CDataset::GetYData(int i, double& y) const {
+    if (!m_Samples->Has(i))
+        return FALSE;
+    y = (*m_Samples)[i];
+    return TRUE;
+}
+
+BOOL CDataset::RemoveYData(int i, int count) {
+    if (!m_Samples->Has(i))
+        return FALSE;
+    m_Samples->Remove(i, count);
+    return TRUE;
+}
+
+void CDataset::RemoveAll() {
+    m_Samples->Clear();
+}
+
+int CDataset::GetSize() const {
+    return m_Samples->Size();
+}

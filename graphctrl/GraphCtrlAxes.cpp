@@ -1,0 +1,165 @@
+#include <kavlix/GraphCtrl.h>
+
+#include <algorithm>
+#include <string>
+
+#include "gdi/Guards.h"
+#include "gdi/Text.h"
+#include "graphctrl/AxisTicks.h"
+#include "graphctrl/BarSlots.h"
+#include "graphctrl/GraphCtrlPainters.h"
+
+using namespace kavlix;
+
+namespace {
+
+// Logical units.
+constexpr int kTickLabelGap = 100;   // between axis strip and tick labels
+constexpr int kTickLabelRaise = 150; // centres a label on its tick
+constexpr int kUnitOverlap = 50;     // the unit text begins that far behind the axis line
+constexpr int kUpTextShift = 70;     // upper line of a two-line X tick label
+constexpr int kSingleTextShift = 100;
+
+constexpr UINT kUnitAlignY = TA_LEFT | TA_BOTTOM;
+constexpr UINT kUnitAlignY2 = TA_RIGHT | TA_BOTTOM;
+
+void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
+    dc.MoveTo(x1, y1);
+    dc.LineTo(x2, y2);
+}
+
+} // namespace
+
+namespace kavlix {
+
+void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest) {
+    const auto drawTwo = [&](const CString& first, const CString& second) {
+        dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
+        DrawTextAt(dc, x + kUpTextShift, y, first);
+        dc.SetTextAlign(TA_RIGHT);
+        DrawTextAt(dc, x, y, second);
+    };
+    if (!down.IsEmpty()) {
+        drawTwo(up, down);
+    } else if (up.GetLength() > longest) {
+        const int cut = std::max(longest, 0);
+        CString first = up.Left(cut);
+        CString second = up.Mid(cut);
+        first.TrimRight();
+        second.TrimLeft();
+        drawTwo(first, second);
+    } else {
+        dc.SetTextAlign(TA_RIGHT | TA_BASELINE);
+        DrawTextAt(dc, x + kSingleTextShift, y, up);
+    }
+}
+
+} // namespace kavlix
+
+void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks, int nAxis) {
+    const bool twoAxis = m_GraphStyle == GraphStyleTwoAxis;
+    if (!twoAxis && nAxis != 0)
+        return;
+    const bool y2 = nAxis == 1;
+    CPen axisPen;
+    axisPen.CreatePen(PS_SOLID, 0, twoAxis ? m_Datasets[y2 ? 1 : 0].GetColor() : m_AxisColor);
+    CPen gridPen;
+    StockAfterGuard penAfter(dc, NULL_PEN);
+    Select(dc, axisPen);
+    const int axisX = y2 ? m_rectY2Axis.left : m_rectYAxis.right;
+    DrawLine(dc, axisX, rectAxis.top, axisX, rectAxis.bottom);
+    if (nTicks < 2)
+        return;
+
+    const int step = (rectLabel.bottom - rectLabel.top) / (nTicks - 1);
+    for (int i = 0; i < nTicks; ++i)
+        DrawLine(dc, rectAxis.left, rectAxis.bottom - i * step, rectAxis.right, rectAxis.bottom - i * step);
+    gridPen.CreatePen(PS_DOT, 0, m_GridColor);
+    if (m_GridY && nAxis == 0) {
+        Select(dc, gridPen);
+        for (int i = 1; i < nTicks; ++i)
+            DrawLine(dc, m_rectPlot.left, rectAxis.bottom - i * step, m_rectPlot.right,
+                     rectAxis.bottom - i * step);
+    }
+
+    ValueTicks values = y2 ? ValueTicks(m_Y2VisibleMin, m_Y2VisibleMax, nTicks, m_Y2UnitExponent)
+                           : ValueTicks(m_YVisibleMin, m_YVisibleMax, nTicks, m_YUnitExponent);
+    SelectGuard font(dc, m_YTickLabelFont);
+    dc.SetTextColor(y2 ? m_Y2TickLabelColor : m_YTickLabelColor);
+    dc.SetTextAlign(y2 ? TA_LEFT | TA_TOP : TA_RIGHT | TA_TOP);
+    const int labelX = y2 ? rectAxis.right + kTickLabelGap : rectAxis.right - kTickLabelGap;
+    for (int i = 0; i < nTicks; ++i, values.Next()) {
+        const std::string text = FormatTick(values.Value(), y2 ? m_Y2TickLabelScale : m_YTickLabelScale);
+        DrawTextAt(dc, labelX, rectAxis.bottom - kTickLabelRaise - i * step, text.c_str(),
+                   static_cast<int>(text.size()));
+    }
+
+    Select(dc, m_UnitFont);
+    dc.SetTextAlign(y2 ? kUnitAlignY2 : kUnitAlignY);
+    DrawTextAt(dc, y2 ? rectAxis.right + kUnitOverlap : rectAxis.right - kUnitOverlap, rectAxis.top,
+               y2 ? m_Y2Unit : m_YUnit);
+}
+
+void CGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) {
+    CPen axisPen;
+    axisPen.CreatePen(PS_SOLID, 0, m_AxisColor);
+    StockAfterGuard penAfter(dc, NULL_PEN);
+    Select(dc, axisPen);
+    DrawLine(dc, m_rectXAxis.left, m_rectXAxis.top, m_rectXAxis.right, m_rectXAxis.top);
+    if (nTicks < 2)
+        return;
+
+    const int minGap = (rectLabel.right - rectLabel.left) / (nTicks - 1);
+    SelectGuard font(dc, m_XTickLabelFont);
+    dc.SetTextColor(m_XTickLabelColor);
+    if (m_GraphStyle == GraphStyleBar)
+        DrawBarTicks(dc, rectLabel, rectAxis, minGap);
+    else if (m_GraphStyle == GraphStyleLine || m_GraphStyle == GraphStyleTwoAxis)
+        DrawLineTicks(dc, rectLabel, rectAxis, axisPen, minGap);
+}
+
+void CGraphCtrl::DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,
+                               int minGap) {
+    CPen gridPen;
+    gridPen.CreatePen(PS_DOT, 0, m_GridColor);
+    StockAfterGuard penAfter(dc, NULL_PEN);
+    const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, m_rectPlot.left, m_rectPlot.Width());
+    LineTicks(xMap, m_XVisibleMin, m_XVisibleMax, m_Datasets[0].GetSize(), minGap, [&](int index, int x) {
+        if (m_GridX)
+            Select(dc, axisPen);
+        DrawLine(dc, x, rectAxis.bottom, x, rectAxis.top);
+        if (m_GridX) {
+            Select(dc, gridPen);
+            dc.LineTo(x, m_rectPlot.top);
+        }
+        DrawTickLabel(dc, rectLabel, x, index);
+    });
+}
+
+void CGraphCtrl::DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, int minGap) {
+    BarSlots slots;
+    if (!CalcBarSize(slots.barWidth, slots.datasets, slots.visible))
+        return;
+    // Sample indices are the same positions in every dataset: the first one with a sample to show fills all
+    // slots.
+    for (const CDataset& dataset : m_Datasets) {
+        const IndexRange range = IndicesInSlots(dataset.GetSize(), m_XVisibleMin, slots);
+        if (range.IsEmpty())
+            continue;
+        ThinTicks(
+            range.Count(), m_rectPlot.left, minGap,
+            [&](int slot) { return slots.SlotMiddle(slot, m_rectPlot.left); },
+            [&](int slot, int x) {
+                DrawLine(dc, x, rectAxis.bottom, x, rectAxis.top);
+                DrawTickLabel(dc, rectLabel, x, range.first + slot);
+            });
+        return;
+    }
+}
+
+void CGraphCtrl::DrawTickLabel(CDC& dc, const CRect& rectLabel, int x, int nIndex) {
+    CString up;
+    CString down;
+    CGraphCtrl::GetXData(nIndex, up, down);
+    DrawXTickLabel(dc, x, rectLabel.top + kTickLabelGap, up, down, m_XTickLabelUpStringMaxLength);
+}

@@ -1,0 +1,121 @@
+#include <kavlix/GraphCtrl.h>
+
+#include <algorithm>
+
+#include "gdi/Guards.h"
+#include "gdi/Mapping.h"
+#include "gdi/Text.h"
+#include "graphctrl/Numeric.h"
+
+using namespace kavlix;
+
+namespace {
+
+// Logical units.
+constexpr int kCaptionPadding = 120; // beyond the font's height
+constexpr int kIconTop = 50;
+constexpr int kIconBottom = 70;
+constexpr int kIconRight = 50;
+constexpr int kIconExtraWidth = 50; // the icon is that much wider than high
+
+// A font size that still fits an int when it is scaled to logical units.
+constexpr int kLargestFontSize = 1 << 22;
+
+void FillBar(CDC& dc, const CRect& rect, const CBrush& brush) {
+    Select(dc, brush);
+    dc.Rectangle(&rect);
+}
+
+void FillBody(CDC& dc, const CRect& rect) {
+    dc.SelectStockObject(WHITE_BRUSH);
+    dc.Rectangle(&rect);
+}
+
+} // namespace
+
+void CGraphCtrl::DrawTitle(CDC& dc, int nHeight) {
+    CFont bold;
+    MakeFont(bold, nHeight, 0, FW_BOLD);
+    SelectGuard font(dc, bold);
+    dc.SetTextColor(m_TitleColor);
+    dc.SetTextAlign(TA_CENTER);
+    DrawTextAt(dc, (m_rectTitle.left + m_rectTitle.right) / 2, m_rectTitle.top, m_Title);
+}
+
+void CGraphCtrl::DrawCaption(CDC& dc) {
+    if (m_hWnd == nullptr)
+        return;
+    // A point size is a size on the screen; taking it to logical units first keeps it so under the control's
+    // mapping.
+    CSize size(0, std::clamp(m_CaptionFontSize, -kLargestFontSize, kLargestFontSize));
+    dc.DPtoLP(&size);
+    CFont captionFont;
+    captionFont.CreatePointFont(size.cy, m_CaptionFontFace);
+    CBrush band;
+    band.CreateSolidBrush(m_CaptionColor);
+    StockAfterGuard brushAfter(dc, NULL_BRUSH);
+    SelectGuard font(dc, captionFont);
+    const int height = ToCoordinate(static_cast<std::int64_t>(dc.GetTextExtent("Gg", 2).cy));
+
+    CRect client;
+    GetClientRect(&client);
+    if (m_ShowBorder)
+        client.BottomRight() -= CSize(1, 1);
+    m_rectCaption = ToLogical(dc, client + dc.GetViewportOrg());
+    m_rectCaption.bottom = m_rectCaption.top + height + kCaptionPadding;
+    Select(dc, band);
+    dc.Rectangle(&m_rectCaption);
+
+    CString text;
+    GetWindowText(text);
+    dc.SetTextColor(m_CaptionTextColor);
+    dc.SetTextAlign(TA_CENTER | TA_TOP);
+    DrawTextAt(dc, (m_rectCaption.left + m_rectCaption.right) / 2, m_rectCaption.top, text);
+
+    if (m_ShowIconMaximize) {
+        m_rectIconMaximize.top = m_rectCaption.top + kIconTop;
+        m_rectIconMaximize.bottom = m_rectCaption.bottom - kIconBottom;
+        m_rectIconMaximize.right = m_rectCaption.right - kIconRight;
+        m_rectIconMaximize.left = m_rectIconMaximize.right - m_rectIconMaximize.Height() - kIconExtraWidth;
+        DrawIconMaximize(dc);
+    }
+}
+
+void CGraphCtrl::DrawIconMaximize(CDC& dc) {
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 0, m_CaptionColor);
+    CBrush bar;
+    bar.CreateSolidBrush(m_CaptionColor);
+    StockAfterGuard penAfter(dc, NULL_PEN);
+    StockAfterGuard brushAfter(dc, NULL_BRUSH);
+
+    dc.SelectStockObject(WHITE_BRUSH);
+    dc.SelectStockObject(NULL_PEN);
+    dc.Rectangle(&m_rectIconMaximize);
+    Select(dc, pen);
+
+    CSize pixel(1, 1);
+    dc.DPtoLP(&pixel);
+    CRect icon = m_rectIconMaximize;
+    if (m_IconMaximizePressed)
+        icon.OffsetRect(pixel);
+    // Distances from the icon's edges, in pixels.
+    const auto part = [&](int left, int top, int right, int bottom) {
+        return CRect(icon.left + left * pixel.cx, icon.top + top * pixel.cy, icon.right - right * pixel.cx,
+                     icon.bottom - bottom * pixel.cy);
+    };
+    const auto barAt = [&](int left, int top, int right) {
+        CRect rect = part(left, top, right, 0);
+        rect.bottom = rect.top + pixel.cy;
+        return rect;
+    };
+    if (m_IconMaximized == TRUE) {
+        FillBar(dc, barAt(3, 1, 2), bar);
+        FillBody(dc, part(3, 2, 2, 5));
+        FillBar(dc, barAt(1, 4, 4), bar);
+        FillBody(dc, part(1, 5, 4, 2));
+    } else {
+        FillBar(dc, barAt(1, 1, 2), bar);
+        FillBody(dc, part(1, 2, 2, 2));
+    }
+}

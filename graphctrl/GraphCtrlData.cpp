@@ -1,0 +1,86 @@
+#include <kavlix/GraphCtrl.h>
+
+#include <algorithm>
+
+namespace {
+
+// The visible range ends this far behind the newest sample, so that the sample lies inside.
+constexpr double kBehindNewest = 0.001;
+
+void AppendLabel(CStringArray& labels, const CString& text) {
+    // Growing by the array's own size each time it has doubled keeps the cost of a label constant, however
+    // many there are; the collection's own rule stops at 1024 at a time.
+    constexpr INT_PTR kOwnRuleUpTo = 1024;
+    const INT_PTR size = labels.GetSize();
+    if (size >= kOwnRuleUpTo && (size & (size - 1)) == 0)
+        labels.SetSize(size, size);
+    labels.Add(text);
+}
+
+void RemoveLabels(CStringArray& labels, int count) {
+    const INT_PTR removed = std::min<INT_PTR>(count, labels.GetSize());
+    if (removed > 0)
+        labels.RemoveAt(0, removed);
+}
+
+} // namespace
+
+BOOL CGraphCtrl::AddData(int nDataset, double y, double* pX) {
+    double x = 0;
+    if (!IsDataset(nDataset) || !m_Datasets[nDataset].AddData(y, &x))
+        return FALSE;
+    if (m_AutoXVisible)
+        m_XVisibleMax = x + kBehindNewest;
+    if (pX != nullptr)
+        *pX = x;
+    return TRUE;
+}
+
+BOOL CGraphCtrl::AddXTickLabel(CString up, CString down) {
+    AppendLabel(m_XTickLabelUp, up);
+    AppendLabel(m_XTickLabelDown, down);
+    return TRUE;
+}
+
+void CGraphCtrl::ClearSamples(CDataset& dataset) {
+    m_SelectionMarkPos = -1;
+    dataset.RemoveAll();
+}
+
+void CGraphCtrl::ResetData(int nDataset) {
+    if (IsDataset(nDataset))
+        ClearSamples(m_Datasets[nDataset]);
+}
+
+int CGraphCtrl::GetDatasetSize(int nDataset) const {
+    return IsDataset(nDataset) ? m_Datasets[nDataset].GetSize() : -1;
+}
+
+BOOL CGraphCtrl::GetYData(int nDataset, int nIndex, double& y) const {
+    return IsDataset(nDataset) && m_Datasets[nDataset].GetYData(nIndex, y);
+}
+
+BOOL CGraphCtrl::GetXData(int nIndex, CString& up, CString& down) {
+    if (nIndex >= 0 && nIndex < m_XTickLabelUp.GetSize())
+        up = m_XTickLabelUp.GetAt(nIndex);
+    if (nIndex >= 0 && nIndex < m_XTickLabelDown.GetSize())
+        down = m_XTickLabelDown.GetAt(nIndex);
+    return TRUE;
+}
+
+void CGraphCtrl::RemoveHeadData(int nCount) {
+    const int count = std::max(nCount, 0);
+    for (CDataset& dataset : m_Datasets)
+        dataset.RemoveYData(0, count);
+    RemoveLabels(m_XTickLabelUp, count);
+    RemoveLabels(m_XTickLabelDown, count);
+    m_SelectionMarkPos = -1;
+    if (m_AutoXVisible)
+        m_XVisibleMax = m_Datasets[0].GetSize() - 1 + kBehindNewest;
+    RedrawData();
+}
+
+void CGraphCtrl::ResetXTickLabel() {
+    m_XTickLabelUp.SetSize(0);
+    m_XTickLabelDown.SetSize(0);
+}

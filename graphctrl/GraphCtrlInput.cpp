@@ -1,0 +1,157 @@
+#include <kavlix/GraphCtrl.h>
+
+#include "gdi/Guards.h"
+#include "gdi/Mapping.h"
+#include "graphctrl/GraphCtrlConvert.h"
+#include "graphctrl/HitTest.h"
+
+using namespace kavlix;
+
+void CGraphCtrl::SetSelectionMarkPos(int nPos) {
+    if (nPos < -1 || nPos >= m_Datasets[0].GetSize())
+        return;
+    m_SelectionMarkPos = nPos;
+    RedrawData();
+}
+
+int CGraphCtrl::GetIndexFromPt(CPoint point) {
+    int sizes[DatasetCount];
+    GetSizes(sizes);
+    const Rect plot = ToRect(m_rectPlot);
+    switch (m_GraphStyle) {
+    case GraphStyleLine:
+    case GraphStyleTwoAxis:
+        return NearestIndex(LinearMap(m_XVisibleMin, m_XVisibleMax, plot.left, plot.Width()), sizes,
+                            DatasetCount, point.x);
+    case GraphStyleBar:
+        return BarGroupAt(sizes, DatasetCount, m_XVisibleMin, m_XVisibleMax, plot, ToPoint(point));
+    default:
+        return -1;
+    }
+}
+
+CPoint CGraphCtrl::ToLogicalPoint(CPoint point) {
+    CClientDC dc(this);
+    SetMapModeAnisotropic(dc);
+    dc.DPtoLP(&point);
+    return point;
+}
+
+void CGraphCtrl::RepaintIcon() {
+    CClientDC dc(this);
+    SavedDcGuard saved(dc);
+    SetMapModeAnisotropic(dc);
+    DrawIconMaximize(dc);
+}
+
+void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
+    if (::GetParent(m_hWnd) == nullptr)
+        return;
+    const CPoint logical = ToLogicalPoint(point);
+    if (m_rectPlot.PtInRect(logical)) {
+        m_SelectionMarkPos = GetIndexFromPt(logical);
+        RedrawData();
+        if (!NotifyMarkMoved())
+            return;
+    } else if (m_rectIconMaximize.PtInRect(logical)) {
+        m_IconMaximizeTracking = TRUE;
+        m_IconMaximizePressed = TRUE;
+        SetCapture();
+        RepaintIcon();
+    }
+    // Last, so that the notifications find the focus where it was.
+    SetFocus();
+}
+
+void CGraphCtrl::OnMouseMove(UINT nFlags, CPoint point) {
+    if (::GetParent(m_hWnd) == nullptr)
+        return;
+    NMGRAPHCTRL record = {};
+    record.nFlags = nFlags;
+    record.pt = point;
+    if (!Notify(record, GCN_MOUSEMOVE) || !m_IconMaximizeTracking)
+        return;
+    const BOOL inside = m_rectIconMaximize.PtInRect(ToLogicalPoint(point));
+    if (inside == m_IconMaximizePressed)
+        return;
+    m_IconMaximizePressed = inside;
+    RepaintIcon();
+}
+
+void CGraphCtrl::OnLButtonUp(UINT nFlags, CPoint point) {
+    if (m_IconMaximizeTracking) {
+        // All state is back at rest before anything leaves the control.
+        const BOOL pressed = m_IconMaximizePressed;
+        m_IconMaximizeTracking = FALSE;
+        m_IconMaximizePressed = FALSE;
+        ReleaseCapture();
+        if (pressed) {
+            NMGRAPHCTRL record = {};
+            record.nFlags = nFlags;
+            record.pt = point;
+            if (!Notify(record, GCN_MAXIMIZE))
+                return;
+        }
+        RepaintIcon();
+    }
+    Default();
+}
+
+void CGraphCtrl::OnLButtonDblClk(UINT nFlags, CPoint point) {
+    if (::GetParent(m_hWnd) == nullptr)
+        return;
+    const CPoint logical = ToLogicalPoint(point);
+    NMGRAPHCTRL record = {};
+    record.nFlags = nFlags;
+    record.pt = point;
+    record.nIndex = -1;
+    UINT code = GCN_DBLCLK;
+    if (m_rectCaption.PtInRect(logical)) {
+        code = GCN_DBLCLK_CAPTION;
+    } else if (m_rectLegend.PtInRect(logical)) {
+        code = GCN_DBLCLK_LEGEND;
+        record.nIndex = LegendRowAt(logical);
+    }
+    Notify(record, code);
+}
+
+int CGraphCtrl::LegendRowAt(CPoint point) const {
+    // Rows are counted by dataset, also past datasets without a legend text, which take no row on the screen.
+    const std::int64_t rowHeight = std::int64_t{m_LegendMargin} + m_LegendItemHeight;
+    std::int64_t top = std::int64_t{m_rectLegend.top} + m_LegendMargin / 2;
+    for (int i = 0; i < DatasetCount; ++i, top += rowHeight)
+        if (!m_Datasets[i].m_Legend.IsEmpty() && point.y >= top && point.y < top + rowHeight)
+            return i;
+    return -1;
+}
+
+void CGraphCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
+    const int mark = m_SelectionMarkPos;
+    int moved = mark;
+    if (nChar == VK_ESCAPE && mark >= 0)
+        moved = -1;
+    else if (nChar == VK_LEFT && mark >= 1)
+        moved = mark - 1;
+    else if (nChar == VK_RIGHT && mark + 1 < m_Datasets[0].GetSize())
+        moved = mark + 1;
+    if (moved != mark) {
+        m_SelectionMarkPos = moved;
+        RedrawData();
+        if (!NotifyMarkMoved())
+            return;
+    }
+    Default();
+}
+
+UINT CGraphCtrl::OnGetDlgCode() {
+    UINT code = static_cast<UINT>(Default()) | DLGC_WANTARROWS;
+    // While there is a mark to clear, Escape is the control's; else it closes the dialog.
+    const MSG* current = GetCurrentMessage();
+    if (m_SelectionMarkPos >= 0 && current != nullptr && current->message == WM_GETDLGCODE &&
+        current->lParam != 0) {
+        const MSG* asked = reinterpret_cast<const MSG*>(current->lParam);
+        if (asked->message == WM_KEYDOWN && asked->wParam == VK_ESCAPE)
+            code |= DLGC_WANTMESSAGE;
+    }
+    return code;
+}

@@ -1,0 +1,158 @@
+#include <kavlix/GraphCtrl.h>
+
+#include <cmath>
+
+#include "gdi/Guards.h"
+#include "graphctrl/GraphCtrlConvert.h"
+#include "graphctrl/GraphCtrlPainters.h"
+#include "graphctrl/SampleStore.h"
+
+namespace kavlix {
+
+namespace {
+
+// Logical units.
+constexpr int kMarkerHalf = 90;
+constexpr int kMarkerTriangleBase = 60; // below the point
+constexpr int kMarkTriangleHeight = 180;
+constexpr int kMarkTriangleTip = 10; // the triangle stands right of the line by this much
+constexpr int kMarkTriangleRight = 90;
+constexpr int kMarkTriangleLeft = -70;
+constexpr int kRoundingReach = 60; // two pixels
+
+void DrawPath(CDC& dc, std::initializer_list<CPoint> points) {
+    auto point = points.begin();
+    dc.MoveTo(*point);
+    while (++point != points.end())
+        dc.LineTo(*point);
+}
+
+bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y) {
+    const int left = x - kMarkerHalf;
+    const int top = y - kMarkerHalf;
+    const int right = x + kMarkerHalf;
+    const int bottom = y + kMarkerHalf;
+    const int base = y + kMarkerTriangleBase;
+    switch (type) {
+    case CDataset::MarkerSquare:
+        dc.Rectangle(left, top, right, bottom);
+        return true;
+    case CDataset::MarkerDiamond:
+        DrawPath(dc, {{x, top}, {right, y}, {x, bottom}, {left, y}, {x, top}});
+        return true;
+    case CDataset::MarkerTriangle:
+        DrawPath(dc, {{x, top}, {left, base}, {right, base}, {x, top}});
+        return true;
+    case CDataset::MarkerCircle:
+        dc.Ellipse(left, top, right, bottom);
+        return true;
+    case CDataset::MarkerCross:
+        DrawPath(dc, {{x, top}, {x, bottom}});
+        DrawPath(dc, {{left, y}, {right, y}});
+        return true;
+    default:
+        return false;
+    }
+}
+
+void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x) {
+    const CPoint position = dc.GetCurrentPosition();
+    POINT triangle[] = {{x + kMarkTriangleTip, mark.top + kMarkTriangleHeight},
+                        {x + kMarkTriangleRight, mark.top},
+                        {x + kMarkTriangleLeft, mark.top}};
+    CRgn region;
+    if (region.CreatePolygonRgn(triangle, 3, ALTERNATE))
+        dc.FillRgn(&region, &mark.triangleBrush);
+    Select(dc, mark.cursorPen);
+    dc.MoveTo(x, mark.bottom);
+    dc.LineTo(x, mark.top);
+    Select(dc, seriesPen);
+    dc.MoveTo(position);
+}
+
+} // namespace
+
+int LineReach(const CDataset& dataset) {
+    return kMarkerHalf + dataset.GetLineSize() + kRoundingReach;
+}
+
+void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPositions& xPositions,
+                    const LinearMap& yMap, IndexRange range, const LineMark& mark) {
+    Select(dc, pen);
+    const SampleStore& samples = dataset.Samples();
+    bool started = false;
+    CPoint lastPixel;
+    for (int i = range.first; i <= range.last; ++i) {
+        const double value = samples[i];
+        const std::optional<int> x = xPositions.At(i);
+        const std::optional<int> y = yMap.Position(value);
+        if (x && i == mark.index && !std::isnan(value))
+            DrawMark(dc, mark, pen, *x);
+        if (!x || !y) {
+            started = false;
+            continue;
+        }
+        CPoint pixel(*x, *y);
+        dc.LPtoDP(&pixel);
+        if (!started)
+            dc.MoveTo(*x, *y);
+        else if (pixel != lastPixel)
+            dc.LineTo(*x, *y);
+        lastPixel = pixel;
+        started = true;
+        if (DrawMarker(dc, dataset.GetMarkerType(), *x, *y))
+            dc.MoveTo(*x, *y);
+    }
+}
+
+} // namespace kavlix
+
+using namespace kavlix;
+
+void CGraphCtrl::DrawGraphData(CDC& dc) {
+    switch (m_GraphStyle) {
+    case GraphStyleLine:
+    case GraphStyleTwoAxis:
+        DrawLines(dc);
+        break;
+    case GraphStyleBar:
+        DrawBars(dc);
+        break;
+    default:
+        break;
+    }
+}
+
+void CGraphCtrl::DrawLines(CDC& dc) {
+    constexpr COLORREF kMarkColor = RGB(255, 0, 0);
+    CBrush triangleBrush;
+    triangleBrush.CreateSolidBrush(kMarkColor);
+    CPen cursorPen;
+    cursorPen.CreatePen(PS_DOT, 0, m_LineCursorColor);
+    CPen pens[DatasetCount];
+    for (int i = 0; i < DatasetCount; ++i)
+        pens[i].CreatePen(PS_SOLID, m_Datasets[i].GetLineSize(), m_Datasets[i].GetColor());
+    StockAfterGuard brushAfter(dc, NULL_BRUSH);
+    StockAfterGuard penAfter(dc, NULL_PEN);
+    dc.SelectStockObject(NULL_BRUSH);
+
+    const CRect& plot = m_rectPlot;
+    const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, plot.left, plot.Width());
+    const LinearMap yMap(m_YVisibleMin, m_YVisibleMax, plot.bottom, -plot.Height());
+    const LinearMap y2Map(m_Y2VisibleMin, m_Y2VisibleMax, plot.bottom, -plot.Height());
+    const IndexPositions xPositions(xMap);
+    const LineMark mark{m_SelectionMarkPos, static_cast<int>(plot.top), static_cast<int>(plot.bottom),
+                        cursorPen, triangleBrush};
+
+    // Dataset 0 comes last and lies on top.
+    const bool twoAxis = m_GraphStyle == GraphStyleTwoAxis;
+    for (int i = twoAxis ? 1 : DatasetCount - 1; i >= 0; --i) {
+        const CDataset& dataset = m_Datasets[i];
+        if (!dataset.m_Visible)
+            continue;
+        const int reach = LineReach(dataset);
+        const IndexRange range =
+            IndicesToDraw(xMap, plot.left - reach, plot.right + reach, dataset.GetSize());
+        DrawSeriesLine(dc, dataset, pens[i], xPositions, twoAxis && i == 1 ? y2Map : yMap, range, mark);
+    }
+}

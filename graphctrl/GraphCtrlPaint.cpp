@@ -1,0 +1,209 @@
+#include <kavlix/GraphCtrl.h>
+
+#include "gdi/Guards.h"
+#include "gdi/Mapping.h"
+#include "gdi/Offscreen.h"
+#include "gdi/Text.h"
+#include "graphctrl/GraphCtrlConvert.h"
+#include "graphctrl/GraphLayout.h"
+
+using namespace kavlix;
+
+namespace {
+
+// Logical units.
+constexpr int kLabelFontInset = 50;    // label fonts are that much lower than a label row
+constexpr int kDataRegionAbove = 600;  // the unit texts stand above the Y bands
+constexpr int kDataRegionBeside = 900; // X tick labels may reach beyond their band
+constexpr int kShadowOffset = 100;
+constexpr int kUpwards = 900; // tenths of a degree
+constexpr int kDownwards = -900;
+// Pixels.
+constexpr int kLegendClipInset = 3;
+
+CRect LessOnePixel(const CRect& device) {
+    return CRect(device.left, device.top, device.right - 1, device.bottom - 1);
+}
+
+} // namespace
+
+void CGraphCtrl::OnPaint() {
+    CPaintDC paintDc(this);
+    CRect client;
+    GetClientRect(&client);
+    if (client.IsRectEmpty())
+        return;
+
+    SavedDcGuard saved(paintDc);
+    SetMapModeAnisotropic(paintDc);
+    Offscreen offscreen(paintDc, client.Size());
+    if (!offscreen.IsReady()) {
+        DrawGraph(paintDc);
+        return;
+    }
+    SetMapModeAnisotropic(offscreen.Dc());
+    DrawGraph(offscreen.Dc());
+    const CRect copied = ToLogical(paintDc, LessOnePixel(client));
+    paintDc.BitBlt(0, 0, copied.right, copied.bottom, &offscreen.Dc(), 0, 0, SRCCOPY);
+}
+
+LRESULT CGraphCtrl::OnPrintClient(WPARAM wParam, LPARAM) {
+    CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
+    if (dc == nullptr)
+        return Default();
+    SavedDcGuard saved(*dc);
+    // Whoever asks may have moved the origin to place the picture.
+    CPoint origin(0, 0);
+    dc->LPtoDP(&origin);
+    SetMapModeAnisotropic(*dc);
+    dc->SetViewportOrg(origin);
+    DrawGraph(*dc);
+    return 0;
+}
+
+void CGraphCtrl::Redraw() {
+    if (m_hWnd != nullptr)
+        InvalidateRect(nullptr, FALSE);
+}
+
+void CGraphCtrl::RedrawData() {
+    if (m_hWnd == nullptr)
+        return;
+    CClientDC dc(this);
+    SetMapModeAnisotropic(dc);
+    const CRect region(m_rectYTickLabel.left, m_rectYTickLabel.top - kDataRegionAbove,
+                       m_rectXTickLabel.right + kDataRegionBeside, m_rectXTickLabel.bottom);
+    const CRect device = ToDeviceWithEdges(dc, region);
+    InvalidateRect(&device, FALSE);
+}
+
+void CGraphCtrl::SetMapModeAnisotropic(CDC& dc) {
+    SetControlMapping(dc);
+}
+
+int CGraphCtrl::GetTitleTextHeight() {
+    if (m_hWnd == nullptr)
+        return 0;
+    CClientDC dc(this);
+    SetMapModeAnisotropic(dc);
+    CRect client;
+    GetClientRect(&client);
+    return LabelUnit(ToRect(ToLogical(dc, client)));
+}
+
+void CGraphCtrl::DrawGraph(CDC& dc) {
+    if (m_hWnd == nullptr)
+        return;
+    TextSettingsGuard textSettings(dc);
+    dc.SetBkMode(TRANSPARENT);
+    CBrush background;
+    background.CreateSolidBrush(m_BkColor);
+    SelectGuard brush(dc, ::GetStockObject(BLACK_BRUSH));
+    SelectGuard pen(dc, ::GetStockObject(WHITE_PEN));
+    SelectGuard font(dc, ::GetCurrentObject(dc.GetSafeHdc(), OBJ_FONT));
+
+    GetClientRect(&m_rectClient);
+    m_rectClientInner = LessOnePixel(m_rectClient);
+    // Device units of this DC, whose viewport origin may be anywhere.
+    const CPoint origin = dc.GetViewportOrg();
+    const CRect client = ToLogical(dc, m_rectClient + origin);
+    const CRect inner = m_rectClientInner + origin;
+
+    Select(dc, background);
+    dc.SelectStockObject(m_ShowBorder ? BLACK_PEN : NULL_PEN);
+    dc.Rectangle(m_ShowBorder ? ToLogical(dc, inner) : client);
+
+    CRgn clientClip;
+    clientClip.CreateRectRgnIndirect(&inner);
+    dc.SelectClipRgn(&clientClip);
+
+    m_rectCaption.SetRectEmpty();
+    m_rectIconMaximize.SetRectEmpty();
+    if (m_TitleStyle == TitleStyleCaption)
+        DrawCaption(dc);
+    const GraphLayout layout = LayOut(client);
+    if (m_TitleStyle != TitleStyleCaption)
+        DrawTitle(dc, layout.labelUnit);
+
+    DrawLabels(dc, layout);
+    if (layout.HasPlot()) {
+        DrawYAxis(dc, m_rectYTickLabel, m_rectYAxis, layout.yTicks, 0);
+        if (m_GraphStyle == GraphStyleTwoAxis)
+            DrawYAxis(dc, m_rectY2TickLabel, m_rectY2Axis, layout.yTicks, 1);
+        DrawXAxis(dc, m_rectXTickLabel, m_rectXAxis, layout.xTicks);
+
+        ClipGuard plotClip(dc, ToDeviceWithEdges(dc, m_rectPlot), clientClip);
+        DrawGraphData(dc);
+    }
+    if (m_ShowLegend && layout.HasLegend())
+        DrawLegendArea(dc, client.right, clientClip);
+    dc.SelectClipRgn(nullptr);
+}
+
+GraphLayout CGraphCtrl::LayOut(const CRect& client) {
+    LayoutInput input;
+    input.client = ToRect(client);
+    input.twoAxis = m_GraphStyle == GraphStyleTwoAxis;
+    input.bars = m_GraphStyle != GraphStyleLine && !input.twoAxis;
+    input.caption = m_TitleStyle == TitleStyleCaption;
+    input.captionBottom = m_rectCaption.bottom;
+    input.showXLabel = m_ShowXLabel;
+    input.showYLabel = m_ShowYLabel;
+    input.showY2Label = m_ShowY2Label;
+    input.showLegend = m_ShowLegend;
+    input.xTickLabelHeight = m_XTickLabelHeight;
+    input.yTickLabelWidth = m_YTickLabelWidth;
+    input.y2TickLabelWidth = m_Y2TickLabelWidth;
+    input.legendWidth = m_LegendWidth;
+
+    const GraphLayout layout = ComputeLayout(input);
+    m_rectTitle = ToCRect(layout.title);
+    m_rectYTickLabel = ToCRect(layout.yTickLabel);
+    m_rectYAxis = ToCRect(layout.yAxis);
+    m_rectY2TickLabel = ToCRect(layout.y2TickLabel);
+    m_rectY2Axis = ToCRect(layout.y2Axis);
+    m_rectXTickLabel = ToCRect(layout.xTickLabel);
+    m_rectXAxis = ToCRect(layout.xAxis);
+    m_rectPlot = ToCRect(layout.plot);
+    m_rectLegend = ToCRect(layout.legend);
+    return layout;
+}
+
+void CGraphCtrl::DrawLabels(CDC& dc, const GraphLayout& layout) {
+    const int height = layout.labelUnit - kLabelFontInset;
+    const auto draw = [&](BOOL show, int escapement, COLORREF color, const Point& point,
+                          const CString& text) {
+        if (!show)
+            return;
+        CFont font;
+        MakeFont(font, height, escapement, FW_NORMAL);
+        SelectGuard selected(dc, font);
+        dc.SetTextColor(color);
+        dc.SetTextAlign(TA_CENTER);
+        DrawTextAt(dc, point.x, point.y, text);
+    };
+    draw(m_ShowYLabel, kUpwards, m_YLabelColor, layout.yLabel, m_YLabel);
+    draw(m_ShowY2Label && m_GraphStyle == GraphStyleTwoAxis, kDownwards, m_Y2LabelColor, layout.y2Label,
+         m_Y2Label);
+    draw(m_ShowXLabel, 0, m_XLabelColor, layout.xLabel, m_XLabel);
+}
+
+void CGraphCtrl::DrawLegendArea(CDC& dc, int right, CRgn& clientClip) {
+    CBrush board;
+    board.CreateSolidBrush(m_LegendColor);
+    StockAfterGuard brushAfter(dc, NULL_BRUSH);
+    if (m_ShowLegendBoard) {
+        dc.SelectStockObject(NULL_PEN);
+        dc.SelectStockObject(LTGRAY_BRUSH);
+        dc.Rectangle(m_rectLegend + CPoint(kShadowOffset, kShadowOffset));
+        Select(dc, board);
+        dc.Rectangle(m_rectLegend);
+    }
+    CRect area = m_rectLegend;
+    if (!m_ShowLegendBoard)
+        area.right = right;
+    CRect clip = ToDevice(dc, area);
+    clip.right -= kLegendClipInset;
+    ClipGuard legendClip(dc, clip, clientClip);
+    DrawLegend(dc);
+}

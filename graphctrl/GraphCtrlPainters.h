@@ -1,0 +1,70 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <kavlix/Dataset.h>
+
+#include <optional>
+
+#include "graphctrl/BarSlots.h"
+#include "graphctrl/IndexRange.h"
+#include "graphctrl/LinearMap.h"
+
+/// The painters that the graph controls share. They take everything they need as arguments, keep nothing, and
+/// never ask the window.
+namespace kavlix {
+
+/// Where samples stand along the X axis.
+class XPositions {
+public:
+    virtual ~XPositions() = default;
+    /// Position of sample `index` in logical units, none when it has none.
+    virtual std::optional<int> At(int index) const = 0;
+};
+
+/// Samples that stand at their index.
+class IndexPositions : public XPositions {
+public:
+    explicit IndexPositions(const LinearMap& map) : m_map(map) {}
+    std::optional<int> At(int index) const override { return m_map.Position(index); }
+
+private:
+    LinearMap m_map;
+};
+
+/// The selection mark of the line styles: a dotted line across the plot with a triangle on top.
+struct LineMark {
+    int index = -1; ///< marked sample, -1 for none
+    int top = 0;    ///< of the plot
+    int bottom = 0;
+    CPen& cursorPen;
+    CBrush& triangleBrush;
+};
+
+/// How far a line with its markers and the mark reaches beyond the positions of its samples, in logical
+/// units.
+int LineReach(const CDataset& dataset);
+
+/// Draws the samples `range` of a dataset as a line with markers and, at the marked sample, the mark. Samples
+/// without position leave a gap. Uses the NULL_BRUSH that the caller has selected; leaves `pen` selected.
+void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPositions& xPositions,
+                    const LinearMap& yMap, IndexRange range, const LineMark& mark);
+
+/// The selection mark of the bar style: a band behind a whole group of bars.
+struct BarMark {
+    int index = -1; ///< marked sample, -1 for none
+    CBrush& brush;
+};
+
+/// Draws the samples `range` of a dataset as bars in the slots 0, 1, 2, ..., `offset` right of each slot's
+/// left edge, with `brush` and the null pen that the caller has selected. `mark` is null for all but the
+/// dataset that draws it. Of a hidden dataset only the mark is drawn. Leaves `brush` selected.
+void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSlots& slots, int offset,
+                    IndexRange range, const Rect& plot, const LinearMap& yMap, const BarMark* mark);
+
+/// Draws the upright texts of an X tick at `x`, `y` being the top of the label band's text: `up` and `down`
+/// side by side, or `up` alone, broken in two when it is longer than `longest`. Text colour and font are the
+/// caller's.
+void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest);
+
+} // namespace kavlix

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cmath>
+#include <optional>
+
+#include "graphctrl/Numeric.h"
+
+namespace kavlix {
+
+/// Turns the values of a visible range into positions along a plot edge.
+///
+/// The range's minimum lies at `edge`, its maximum at `edge` + `extent`; a value axis, which grows upwards,
+/// has its edge at the plot's bottom and a negative extent. Values outside the range lie outside the plot.
+class LinearMap {
+public:
+    LinearMap(double min, double max, int edge, int extent)
+        : m_min(min), m_range(max - min), m_edge(edge), m_extent(extent) {}
+
+    /// Position of `value` in logical units, computed in doubles, truncated once, saturated. None for NaN, on
+    /// a range of 0, and on an infinite range that leaves the position undefined.
+    std::optional<int> Position(double value) const {
+        if (m_range == 0)
+            return std::nullopt;
+        const double position = (value - m_min) * m_extent / m_range + m_edge;
+        if (std::isnan(position))
+            return std::nullopt;
+        return ToCoordinate(position);
+    }
+
+    /// The value that lies at `position`; not a number where there is none.
+    double Value(double position) const {
+        return m_range == 0 || m_extent == 0 ? std::nan("")
+                                             : m_min + (position - m_edge) * m_range / m_extent;
+    }
+
+    /// Whether every finite value has a position and positions never change direction as values grow.
+    bool IsMonotonic() const { return m_range != 0 && std::isfinite(m_range) && std::isfinite(m_min); }
+
+    /// Whether positions grow with values.
+    bool IsAscending() const { return (m_range > 0) == (m_extent > 0); }
+
+    int Edge() const { return m_edge; }
+
+private:
+    double m_min;
+    double m_range;
+    int m_edge;
+    int m_extent;
+};
+
+} // namespace kavlix

@@ -1,0 +1,7 @@
+#pragma once
+
+/// Everything a host needs of Kavlix.
+#include <kavlix/Dataset.h>
+#include <kavlix/Export.h>
+#include <kavlix/GraphCtrl.h>
+#include <kavlix/GraphNotify.h>

@@ -1,0 +1,246 @@
+#include <afxtempl.h>
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "mfc/base/ArchiveTables.h"
+
+// CArchive's buffer, and the values whose bytes go through it.
+
+namespace {
+
+constexpr UINT smallestBuffer = 128;
+
+// A text's length: one byte, or this mark and two more, or twice the mark and four more.
+constexpr BYTE mark8 = 0xFF;
+constexpr WORD mark16 = 0xFFFF;
+constexpr WORD wideMark16 = 0xFFFE; // reserved for texts in UTF-16
+constexpr DWORD mark32 = 0xFFFFFFFF;
+
+} // namespace
+
+CArchive::CArchive(CFile* file, UINT mode, int bufferSize, void* buffer)
+    : m_pFile(file), m_nMode(mode), m_pBuffer(static_cast<BYTE*>(buffer)),
+      m_nBufferSize(static_cast<UINT>(std::max(bufferSize, 0))) {
+    ASSERT(file != nullptr);
+    if (m_pBuffer == nullptr || m_nBufferSize == 0) {
+        m_nBufferSize = std::max(m_nBufferSize, smallestBuffer);
+        m_pOwnBuffer = AfxWithMemory([this] { return std::make_unique<BYTE[]>(m_nBufferSize); });
+        m_pBuffer = m_pOwnBuffer.get();
+    }
+}
+
+CArchive::~CArchive() {
+    if (m_pFile == nullptr || (m_nMode & bNoFlushOnDelete) != 0)
+        return;
+    try {
+        Close();
+    } catch (CException* exception) {
+        exception->Delete();
+    }
+}
+
+void CArchive::RequireMode(Mode mode) const {
+    if (m_pFile == nullptr)
+        AfxThrowArchiveException(CArchiveException::genericException);
+    if (mode == load && IsStoring())
+        AfxThrowArchiveException(CArchiveException::writeOnly, FileName());
+    if (mode == store && IsLoading())
+        AfxThrowArchiveException(CArchiveException::readOnly, FileName());
+}
+
+CString CArchive::FileName() const {
+    return m_pFile == nullptr ? CString() : m_pFile->GetFilePath();
+}
+
+void CArchive::Flush() {
+    if (m_pFile == nullptr)
+        return;
+    if (IsLoading()) {
+        if (!IsBufferEmpty())
+            m_pFile->Seek(-static_cast<LONGLONG>(m_nFilled - m_nPosition), CFile::current);
+        m_nPosition = m_nFilled = 0;
+    } else if (m_nPosition > 0) {
+        m_pFile->Write(m_pBuffer, m_nPosition);
+        m_nPosition = 0;
+    }
+}
+
+void CArchive::Close() {
+    Flush();
+    m_pFile = nullptr;
+}
+
+void CArchive::Abort() {
+    m_pFile = nullptr;
+    m_nPosition = m_nFilled = 0;
+}
+
+void CArchive::FillBuffer() {
+    m_nPosition = m_nFilled = 0;
+    m_nFilled = m_pFile->Read(m_pBuffer, m_nBufferSize);
+}
+
+UINT CArchive::Read(void* buffer, UINT count) {
+    RequireMode(load);
+    BYTE* target = static_cast<BYTE*>(buffer);
+    UINT left = count;
+    while (left > 0) {
+        if (IsBufferEmpty()) {
+            if (left >= m_nBufferSize) {
+                const UINT direct = m_pFile->Read(target, left);
+                return count - left + direct;
+            }
+            FillBuffer();
+            if (m_nFilled == 0)
+                break;
+        }
+        const UINT now = std::min(left, m_nFilled - m_nPosition);
+        std::memcpy(target, m_pBuffer + m_nPosition, now);
+        m_nPosition += now;
+        target += now;
+        left -= now;
+    }
+    return count - left;
+}
+
+void CArchive::ReadAll(void* buffer, UINT count) {
+    if (Read(buffer, count) != count)
+        AfxThrowArchiveException(CArchiveException::endOfFile, FileName());
+}
+
+void CArchive::Write(const void* buffer, UINT count) {
+    RequireMode(store);
+    const BYTE* source = static_cast<const BYTE*>(buffer);
+    if (count > m_nBufferSize - m_nPosition) {
+        Flush();
+        if (count >= m_nBufferSize) {
+            m_pFile->Write(source, count);
+            return;
+        }
+    }
+    if (count > 0)
+        std::memcpy(m_pBuffer + m_nPosition, source, count);
+    m_nPosition += count;
+}
+
+void CArchive::WriteString(LPCTSTR text) {
+    if (text != nullptr)
+        Write(text, static_cast<UINT>(std::strlen(text)));
+}
+
+LPTSTR CArchive::ReadString(LPTSTR text, UINT maxCount) {
+    UINT length = 0;
+    bool any = false;
+    for (char ch; length < maxCount && Read(&ch, 1) == 1;) {
+        any = true;
+        if (ch == '\n') {
+            if (length > 0 && text[length - 1] == '\r')
+                --length;
+            break;
+        }
+        text[length++] = ch;
+    }
+    text[length] = 0;
+    return any || maxCount == 0 ? text : nullptr;
+}
+
+BOOL CArchive::ReadString(CString& text) {
+    text.Empty();
+    bool any = false;
+    for (char ch; Read(&ch, 1) == 1;) {
+        any = true;
+        if (ch == '\n') {
+            if (!text.IsEmpty() && text[text.GetLength() - 1] == '\r')
+                text.Delete(text.GetLength() - 1);
+            break;
+        }
+        text += ch;
+    }
+    return any;
+}
+
+void CArchive::WriteCount(DWORD_PTR count) {
+    if (count < mark16) {
+        *this << static_cast<WORD>(count);
+        return;
+    }
+    *this << mark16;
+    if (count < mark32) {
+        *this << static_cast<DWORD>(count);
+        return;
+    }
+    *this << mark32 << static_cast<ULONGLONG>(count);
+}
+
+DWORD_PTR CArchive::ReadCount() {
+    const WORD brief = Get<WORD>();
+    if (brief != mark16)
+        return brief;
+    const DWORD middle = Get<DWORD>();
+    if (middle != mark32)
+        return middle;
+    const ULONGLONG full = Get<ULONGLONG>();
+    if (full > MAXULONG_PTR)
+        AfxThrowArchiveException(CArchiveException::badIndex, FileName());
+    return static_cast<DWORD_PTR>(full);
+}
+
+CArchive& operator<<(CArchive& ar, const CString& text) {
+    const DWORD length = static_cast<DWORD>(text.m_text.size());
+    if (length < mark8)
+        ar << static_cast<BYTE>(length);
+    else if (length < wideMark16)
+        ar << mark8 << static_cast<WORD>(length);
+    else
+        ar << mark8 << mark16 << length;
+    ar.Write(text.m_text.data(), length);
+    return ar;
+}
+
+CArchive& operator>>(CArchive& ar, CString& text) {
+    BYTE brief = 0;
+    ar >> brief;
+    DWORD length = brief;
+    if (brief == mark8) {
+        WORD middle = 0;
+        ar >> middle;
+        length = middle;
+        if (middle == wideMark16)
+            AfxThrowArchiveException(CArchiveException::genericException);
+        if (middle == mark16)
+            ar >> length;
+    }
+    // Piece by piece: a wrong length fails at the end of the file, before its memory is asked for.
+    CString loaded;
+    char piece[4096];
+    while (length > 0) {
+        const UINT now = std::min<DWORD>(length, sizeof piece);
+        if (ar.Read(piece, now) != now)
+            AfxThrowArchiveException(CArchiveException::endOfFile);
+        loaded.Append(piece, static_cast<int>(now));
+        length -= now;
+    }
+    text = std::move(loaded);
+    return ar;
+}
+
+CArchive& operator<<(CArchive& ar, SIZE size) {
+    return ar << size.cx << size.cy;
+}
+CArchive& operator<<(CArchive& ar, POINT point) {
+    return ar << point.x << point.y;
+}
+CArchive& operator<<(CArchive& ar, const RECT& rect) {
+    return ar << rect.left << rect.top << rect.right << rect.bottom;
+}
+CArchive& operator>>(CArchive& ar, SIZE& size) {
+    return ar >> size.cx >> size.cy;
+}
+CArchive& operator>>(CArchive& ar, POINT& point) {
+    return ar >> point.x >> point.y;
+}
+CArchive& operator>>(CArchive& ar, RECT& rect) {
+    return ar >> rect.left >> rect.top >> rect.right >> rect.bottom;
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <afxwin.h>
+
+/// Copies a text, cut to `maxLength` bytes with its terminating zero.
+void AfxCopyMessage(LPTSTR text, UINT maxLength, LPCTSTR message);

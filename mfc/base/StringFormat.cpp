@@ -1,0 +1,91 @@
+#include <afxtempl.h>
+
+#include <cstdio>
+
+#include "mfc/base/Resource.h"
+
+// Members of CString that make texts from formats and resources.
+
+BOOL CString::LoadResource(UINT id) {
+    const HINSTANCE module = AfxFindStringResourceHandle(id);
+    if (module != nullptr) {
+        // With a length of 0 the system gives the address of the resource itself, which is not terminated.
+        LPCWSTR text = nullptr;
+        const int length = ::LoadStringW(module, id, reinterpret_cast<LPWSTR>(&text), 0);
+        if (length > 0) {
+            *this = CString(text, length);
+            return TRUE;
+        }
+    }
+    TCHAR prompt[256];
+    const int length = AfxLoadString(id, prompt, sizeof prompt);
+    *this = CString(prompt, length);
+    return length > 0;
+}
+
+void CString::AppendFormatted(std::size_t keep, LPCTSTR format, va_list args) {
+    if (format == nullptr)
+        AfxThrowInvalidArgException();
+    // The arguments may be characters of this very string, which stays as it is until the text is made.
+    char brief[256];
+    va_list measured;
+    va_copy(measured, args);
+    const int length = std::vsnprintf(brief, sizeof brief, format, measured);
+    va_end(measured);
+    if (length < 0) {
+        // A wide text that has no form in the code page, or a text longer than INT_MAX.
+        m_text.resize(keep);
+        return;
+    }
+    CString made;
+    if (static_cast<std::size_t>(length) < sizeof brief) {
+        made = CString(brief, length);
+    } else {
+        LPTSTR const buffer = made.GetBuffer(length);
+        std::vsnprintf(buffer, static_cast<std::size_t>(length) + 1, format, args);
+        made.ReleaseBuffer(length);
+    }
+    if (keep == 0)
+        m_text.swap(made.m_text);
+    else
+        *this += made;
+}
+
+void CString::FormatV(LPCTSTR format, va_list args) {
+    AppendFormatted(0, format, args);
+}
+void CString::FormatPlain(LPCTSTR format, ...) {
+    va_list args;
+    va_start(args, format);
+    struct End {
+        va_list& args;
+        ~End() { va_end(args); }
+    } end{args};
+    AppendFormatted(0, format, args);
+}
+void CString::AppendFormatPlain(LPCTSTR format, ...) {
+    va_list args;
+    va_start(args, format);
+    struct End {
+        va_list& args;
+        ~End() { va_end(args); }
+    } end{args};
+    AppendFormatted(m_text.size(), format, args);
+}
+
+void CString::FormatMessagePlain(LPCTSTR format, ...) {
+    va_list args;
+    va_start(args, format);
+    char* message = nullptr;
+    ::SetLastError(NO_ERROR);
+    const DWORD length = ::FormatMessageA(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, format,
+                                          0, 0, reinterpret_cast<LPSTR>(&message), 0, &args);
+    va_end(args);
+    struct Free {
+        void operator()(char* block) const { ::LocalFree(block); }
+    };
+    const std::unique_ptr<char, Free> owner(message);
+    if (length == 0 && ::GetLastError() != NO_ERROR)
+        AfxThrowMemoryException();
+    *this = CString(message, static_cast<int>(length));
+}

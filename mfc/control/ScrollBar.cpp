@@ -1,0 +1,32 @@
+#include "afx/Controls.h"
+
+#include <algorithm>
+
+IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
+
+CScrollBar::~CScrollBar() {
+    DestroyWindow();
+}
+
+BOOL CScrollBar::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return CWnd::Create(_T("SCROLLBAR"), nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
+    lpScrollInfo->cbSize = sizeof(SCROLLINFO);
+    ::SetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo, bRedraw); // answers a position, which may be 0
+    return TRUE;
+}
+
+BOOL CScrollBar::GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask) {
+    lpScrollInfo->cbSize = sizeof(SCROLLINFO);
+    lpScrollInfo->fMask = nMask;
+    return ::GetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo);
+}
+
+int CScrollBar::GetScrollLimit() {
+    SCROLLINFO info{};
+    if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE))
+        return 0;
+    return info.nMax - std::max(static_cast<int>(info.nPage) - 1, 0);
+}

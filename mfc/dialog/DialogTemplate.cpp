@@ -1,0 +1,85 @@
+#include "mfc/dialog/DialogTemplate.h"
+
+#include <afxwin.h>
+
+#include <cstring>
+
+namespace {
+
+const LPCTSTR kListDataType = MAKEINTRESOURCE(240);
+constexpr WORD kExtendedSignature = 0xFFFF;
+
+/// Head of an extended template; what follows it does not matter here.
+#pragma pack(push, 2)
+struct ExtendedTemplate {
+    WORD version;
+    WORD signature;
+    DWORD helpId;
+    DWORD exStyle;
+    DWORD style;
+    WORD itemCount;
+    short x;
+    short y;
+};
+
+/// One entry of list data, followed by `size` bytes of text with its zero. A zero ID ends the list.
+struct ListEntry {
+    WORD control;
+    WORD message;
+    DWORD size;
+};
+#pragma pack(pop)
+
+// Messages as list data numbers them: those of the first 16-bit systems.
+constexpr WORD kAddToListBox = 0x0401;
+constexpr WORD kAddToComboBox = 0x0403;
+
+} // namespace
+
+LPCDLGTEMPLATE LoadDialogTemplate(HINSTANCE module, LPCTSTR name) {
+    HRSRC const resource = ::FindResource(module, name, RT_DIALOG);
+    HGLOBAL const loaded = resource == nullptr ? nullptr : ::LoadResource(module, resource);
+    return loaded == nullptr ? nullptr : static_cast<LPCDLGTEMPLATE>(::LockResource(loaded));
+}
+
+bool WantsCentering(LPCDLGTEMPLATE dialogTemplate) {
+    ExtendedTemplate extended;
+    std::memcpy(&extended, dialogTemplate, sizeof(WORD) * 2);
+    DWORD style = dialogTemplate->style;
+    int x = dialogTemplate->x;
+    int y = dialogTemplate->y;
+    if (extended.signature == kExtendedSignature) {
+        std::memcpy(&extended, dialogTemplate, sizeof(extended));
+        style = extended.style;
+        x = extended.x;
+        y = extended.y;
+    }
+    return x == 0 && y == 0 && (style & (WS_CHILD | DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) == 0;
+}
+
+bool FillLists(HWND dialog, LPCTSTR templateName, const void* listData) {
+    if (listData == nullptr && templateName != nullptr) {
+        HINSTANCE const module = AfxFindResourceHandle(templateName, kListDataType);
+        if (HRSRC const resource = ::FindResource(module, templateName, kListDataType))
+            if (HGLOBAL const loaded = ::LoadResource(module, resource))
+                listData = ::LockResource(loaded);
+    }
+    const auto* bytes = static_cast<const BYTE*>(listData);
+    while (bytes != nullptr) {
+        ListEntry entry{};
+        std::memcpy(&entry.control, bytes, sizeof(entry.control));
+        if (entry.control == 0)
+            break;
+        std::memcpy(&entry, bytes, sizeof(entry));
+        bytes += sizeof(entry);
+        const UINT message = entry.message == kAddToListBox    ? LB_ADDSTRING
+                             : entry.message == kAddToComboBox ? CB_ADDSTRING
+                                                               : entry.message;
+        const LRESULT added =
+            ::SendDlgItemMessageA(dialog, entry.control, message, 0, reinterpret_cast<LPARAM>(bytes));
+        if ((message == LB_ADDSTRING || message == CB_ADDSTRING) && added < 0)
+            return false;
+        bytes += entry.size;
+    }
+    return true;
+}

@@ -1,0 +1,156 @@
+#include <afxdlgs.h>
+
+#include <cstring>
+
+IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
+
+namespace {
+
+CString WithoutExtension(const CString& name) {
+    const int dot = name.ReverseFind(_T('.'));
+    return dot > 0 ? name.Left(dot) : name;
+}
+
+} // namespace
+
+CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
+                         LPCTSTR lpszFilter, CWnd* pParentWnd)
+    : CCommonDialog(pParentWnd), m_bOpenFileDialog(bOpenFileDialog) {
+    m_ofn.lStructSize = sizeof(m_ofn);
+    m_ofn.lpstrFile = m_szFileName;
+    m_ofn.nMaxFile = _countof(m_szFileName);
+    m_ofn.lpstrFileTitle = m_szFileTitle;
+    m_ofn.nMaxFileTitle = _countof(m_szFileTitle);
+    m_ofn.lpstrDefExt = lpszDefExt;
+    m_ofn.Flags = dwFlags | OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING;
+    m_ofn.hInstance = AfxGetInstanceHandle();
+    m_ofn.lpfnHook = HookProc;
+    if (lpszFileName != nullptr)
+        lstrcpyn(m_szFileName, lpszFileName, _countof(m_szFileName));
+    if (lpszFilter != nullptr) {
+        m_strFilter = lpszFilter;
+        m_strFilter += _T("||"); // the list ends with two zeros, also where the caller left bars out
+        for (int i = 0; i < m_strFilter.GetLength(); ++i)
+            if (m_strFilter[i] == _T('|'))
+                m_strFilter.SetAt(i, _T('\0'));
+        m_ofn.lpstrFilter = m_strFilter;
+    }
+}
+
+CFileDialog::~CFileDialog() = default;
+
+INT_PTR CFileDialog::DoModal() {
+    m_ofn.hwndOwner = OwnerWindow();
+    m_ofn.lCustData = reinterpret_cast<LPARAM>(this);
+    const BOOL accepted = m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
+    Detach();
+    return accepted ? IDOK : IDCANCEL;
+}
+
+UINT_PTR CALLBACK CFileDialog::HookProc(HWND window, UINT message, WPARAM, LPARAM lParam) {
+    if (message != WM_INITDIALOG)
+        return FALSE;
+    auto* const dialog = reinterpret_cast<CFileDialog*>(reinterpret_cast<OPENFILENAME*>(lParam)->lCustData);
+    return dialog->SubclassWindow(window) && dialog->OnInitDialog();
+}
+
+CString CFileDialog::AskDialog(UINT message) const {
+    TCHAR text[MAX_PATH] = {};
+    ::SendMessage(::GetParent(m_hWnd), message, _countof(text), reinterpret_cast<LPARAM>(text));
+    text[MAX_PATH - 1] = 0;
+    return text;
+}
+
+CString CFileDialog::GetPathName() const {
+    return m_hWnd != nullptr ? AskDialog(CDM_GETFILEPATH) : CString(m_ofn.lpstrFile);
+}
+
+CString CFileDialog::GetFileName() const {
+    if (m_hWnd != nullptr)
+        return AskDialog(CDM_GETSPEC);
+    return m_ofn.lpstrFileTitle != nullptr && m_ofn.lpstrFileTitle[0] != 0
+               ? CString(m_ofn.lpstrFileTitle)
+               : CString(m_ofn.lpstrFile + m_ofn.nFileOffset);
+}
+
+CString CFileDialog::GetFileExt() const {
+    const CString name = GetFileName();
+    const int dot = name.ReverseFind(_T('.'));
+    return dot >= 0 ? name.Mid(dot + 1) : CString();
+}
+
+CString CFileDialog::GetFileTitle() const {
+    return WithoutExtension(GetFileName());
+}
+
+POSITION CFileDialog::GetStartPosition() const {
+    const LPTSTR file = m_ofn.lpstrFile;
+    const bool several = (m_ofn.Flags & OFN_ALLOWMULTISELECT) != 0 && m_ofn.nFileOffset > 0 &&
+                         file[m_ofn.nFileOffset - 1] == 0;
+    return reinterpret_cast<POSITION>(several ? file + m_ofn.nFileOffset : file);
+}
+
+CString CFileDialog::GetNextPathName(POSITION& pos) const {
+    const auto name = reinterpret_cast<LPCTSTR>(pos);
+    if (name == m_ofn.lpstrFile) {
+        pos = nullptr;
+        return name;
+    }
+    // Several files: the folder, then the names, each with its zero; an empty name ends them.
+    CString path = m_ofn.lpstrFile;
+    if (path.Right(1) != _T("\\"))
+        path += _T('\\');
+    path += name;
+    const LPCTSTR next = name + std::strlen(name) + 1;
+    pos = *next == 0 ? nullptr : reinterpret_cast<POSITION>(const_cast<LPTSTR>(next));
+    return path;
+}
+
+BOOL CFileDialog::OnFileNameOK() {
+    return FALSE;
+}
+
+UINT CFileDialog::OnShareViolation(LPCTSTR) {
+    return OFN_SHAREWARN;
+}
+
+void CFileDialog::OnInitDone() {
+}
+
+void CFileDialog::OnFileNameChange() {
+}
+
+void CFileDialog::OnFolderChange() {
+}
+
+void CFileDialog::OnTypeChange() {
+}
+
+BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    const auto* const notify = reinterpret_cast<const OFNOTIFY*>(lParam);
+    switch (notify->hdr.code) {
+    case CDN_INITDONE:
+        OnInitDone();
+        return TRUE;
+    case CDN_SELCHANGE:
+        OnFileNameChange();
+        return TRUE;
+    case CDN_FOLDERCHANGE:
+        OnFolderChange();
+        return TRUE;
+    case CDN_TYPECHANGE:
+        OnTypeChange();
+        return TRUE;
+    case CDN_SHAREVIOLATION:
+        *pResult = static_cast<LRESULT>(OnShareViolation(notify->pszFile));
+        break;
+    case CDN_FILEOK:
+        *pResult = OnFileNameOK();
+        break;
+    default:
+        return CCommonDialog::OnNotify(wParam, lParam, pResult);
+    }
+    // The system's dialog reads the answer where dialog procedures leave theirs.
+    ::SetWindowLongPtr(m_hWnd, DWLP_MSGRESULT, *pResult);
+    return TRUE;
+}

@@ -1,0 +1,132 @@
+#include "afx/DC.h"
+
+#include "mfc/gdi/Handles.h"
+#include "mfc/gdi/ThreadMaps.h"
+
+IMPLEMENT_DYNCREATE(CDC, CObject)
+
+std::unique_ptr<CDC> DCTraits::Wrap(HDC handle) {
+    auto dc = std::make_unique<CDC>();
+    dc->m_hDC = handle;
+    dc->m_hAttribDC = handle;
+    return dc;
+}
+
+void DCTraits::Unwrap(CDC& dc) {
+    dc.m_hDC = nullptr;
+    dc.m_hAttribDC = nullptr;
+}
+
+CDC::~CDC() {
+    if (m_hDC != nullptr)
+        ::DeleteDC(Detach());
+}
+
+CDC* PASCAL CDC::FromHandle(HDC hDC) {
+    ThreadGdiMaps* const maps = GdiMaps();
+    CDC* const dc = maps == nullptr ? nullptr : maps->dcs.FromHandle(hDC);
+    if (dc != nullptr && dc->m_hDC != hDC) { // a program detached or deleted through a temporary wrapper
+        dc->m_hDC = hDC;
+        dc->m_hAttribDC = hDC;
+    }
+    return dc;
+}
+
+void PASCAL CDC::DeleteTempMap() {
+    if (ThreadGdiMaps* const maps = GdiMaps())
+        maps->dcs.DeleteTemporaries();
+}
+
+HDC CDC::GetSafeHdc() const {
+    const CDC* volatile self = this; // may be asked of a NULL object
+    return self == nullptr ? nullptr : m_hDC;
+}
+
+CWnd* CDC::GetWindow() const {
+    return CWnd::FromHandle(::WindowFromDC(m_hDC));
+}
+
+BOOL CDC::Attach(HDC hDC) {
+    ASSERT(m_hDC == nullptr);
+    if (hDC == nullptr)
+        return FALSE;
+    if (ThreadGdiMaps* const maps = GdiMaps())
+        maps->dcs.SetPermanent(hDC, this);
+    SetOutputDC(hDC);
+    SetAttribDC(hDC);
+    return TRUE;
+}
+
+HDC CDC::Detach() {
+    const HDC handle = m_hDC;
+    ThreadGdiMaps* const maps = GdiMaps();
+    if (handle != nullptr && maps != nullptr && maps->dcs.Permanent(handle) == this)
+        maps->dcs.Remove(handle);
+    ReleaseAttribDC();
+    ReleaseOutputDC();
+    return handle;
+}
+
+void CDC::SetAttribDC(HDC hDC) {
+    m_hAttribDC = hDC;
+}
+
+void CDC::SetOutputDC(HDC hDC) {
+    m_hDC = hDC;
+}
+
+void CDC::ReleaseAttribDC() {
+    m_hAttribDC = nullptr;
+}
+
+void CDC::ReleaseOutputDC() {
+    m_hDC = nullptr;
+}
+
+BOOL CDC::IsPrinting() const {
+    return ::GetObjectType(m_hDC) == OBJ_DC && ::GetDeviceCaps(m_hDC, TECHNOLOGY) == DT_RASPRINTER;
+}
+
+BOOL CDC::CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
+                   const void* lpInitData) {
+    return Attach(
+        ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+}
+
+BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
+                   const void* lpInitData) {
+    return Attach(
+        ::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+}
+
+BOOL CDC::CreateCompatibleDC(CDC* pDC) {
+    return Attach(::CreateCompatibleDC(SafeHandle(pDC)));
+}
+
+BOOL CDC::DeleteDC() {
+    const HDC handle = Detach();
+    return handle != nullptr && ::DeleteDC(handle);
+}
+
+BOOL CDC::ResetDC(const DEVMODE* lpDevMode) {
+    return ::ResetDC(m_hAttribDC, lpDevMode) != nullptr;
+}
+
+int CDC::SaveDC() {
+    if (m_hDC == m_hAttribDC || m_hAttribDC == nullptr || m_hDC == nullptr)
+        return ::SaveDC(m_hDC != nullptr ? m_hDC : m_hAttribDC);
+    // Two DCs count their saves apart; "the latest" is the only number that means the same to both.
+    const bool saved = ::SaveDC(m_hAttribDC) != 0;
+    return ::SaveDC(m_hDC) != 0 && saved ? -1 : 0;
+}
+
+BOOL CDC::RestoreDC(int nSavedDC) {
+    const bool two = m_hDC != nullptr && m_hAttribDC != nullptr && m_hDC != m_hAttribDC;
+    ASSERT(!two || nSavedDC < 0);
+    const BOOL restored = ::RestoreDC(m_hDC != nullptr ? m_hDC : m_hAttribDC, nSavedDC);
+    return two ? ::RestoreDC(m_hAttribDC, nSavedDC) && restored : restored;
+}
+
+int CDC::EnumObjects(int nObjectType, int(CALLBACK* lpfn)(LPVOID, LPARAM), LPARAM lpData) {
+    return ::EnumObjects(m_hAttribDC, nObjectType, lpfn, lpData);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "afx/DC.h"
+#include "afx/GdiObject.h"
+#include "afx/Wnd.h"
+
+/// Handles of objects that may be NULL, without a member call on them.
+inline HDC SafeHandle(const CDC* dc) {
+    return dc == nullptr ? nullptr : dc->m_hDC;
+}
+inline HGDIOBJ SafeHandle(const CGdiObject* object) {
+    return object == nullptr ? nullptr : object->m_hObject;
+}
+inline HWND SafeHandle(const CWnd* window) {
+    return window == nullptr ? nullptr : window->m_hWnd;
+}
+inline HBRUSH BrushHandle(const CBrush* brush) {
+    return static_cast<HBRUSH>(SafeHandle(brush));
+}
+inline HRGN RegionHandle(const CRgn* region) {
+    return static_cast<HRGN>(SafeHandle(region));
+}
+
+/// Applies a setting to the output DC and the attribute DC; the attribute DC's answer counts if there is one.
+template <class Set> auto ForBoth(const CDC& dc, Set set) -> decltype(set(HDC())) {
+    decltype(set(HDC())) answer{};
+    if (dc.m_hDC != nullptr && dc.m_hDC != dc.m_hAttribDC)
+        answer = set(dc.m_hDC);
+    if (dc.m_hAttribDC != nullptr)
+        answer = set(dc.m_hAttribDC);
+    return answer;
+}

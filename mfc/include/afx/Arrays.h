@@ -1,0 +1,66 @@
+#pragma once
+
+#include <afx/CArray.h>
+
+// The arrays that need no template argument. They have the members of CArray.
+
+/// An array of bytes, which it stores as they are.
+class MFC_API CByteArray : public CArray<BYTE, BYTE> {
+    DECLARE_DYNCREATE(CByteArray)
+public:
+    CByteArray();
+    ~CByteArray() override;
+};
+
+class MFC_API CWordArray : public CArray<WORD, WORD> {
+    DECLARE_DYNCREATE(CWordArray)
+public:
+    CWordArray();
+    ~CWordArray() override;
+};
+
+class MFC_API CDWordArray : public CArray<DWORD, DWORD> {
+    DECLARE_DYNCREATE(CDWordArray)
+public:
+    CDWordArray();
+    ~CDWordArray() override;
+};
+
+/// Not serialisable: Serialize throws CNotSupportedException*.
+class MFC_API CUIntArray : public CArray<UINT, UINT> {
+    DECLARE_DYNAMIC(CUIntArray)
+public:
+    CUIntArray();
+    ~CUIntArray() override;
+    void Serialize(CArchive& ar) override;
+};
+
+/// The pointers' targets are not owned. Not serialisable: Serialize throws CNotSupportedException*.
+class MFC_API CPtrArray : public CArray<void*, void*> {
+    DECLARE_DYNAMIC(CPtrArray)
+public:
+    CPtrArray();
+    ~CPtrArray() override;
+    void Serialize(CArchive& ar) override;
+};
+
+/// The objects are not owned. Serialize stores and loads them; loaded ones are owned by whoever loads.
+class MFC_API CObArray : public CArray<CObject*, CObject*> {
+    DECLARE_DYNCREATE(CObArray)
+public:
+    CObArray();
+    ~CObArray() override;
+};
+
+class MFC_API CStringArray : public CArray<CString, const CString&> {
+    DECLARE_DYNCREATE(CStringArray)
+public:
+    CStringArray();
+    ~CStringArray() override;
+};
+
+MFC_API CArchive& operator>>(CArchive& ar, CByteArray*& array);
+MFC_API CArchive& operator>>(CArchive& ar, CWordArray*& array);
+MFC_API CArchive& operator>>(CArchive& ar, CDWordArray*& array);
+MFC_API CArchive& operator>>(CArchive& ar, CObArray*& array);
+MFC_API CArchive& operator>>(CArchive& ar, CStringArray*& array);

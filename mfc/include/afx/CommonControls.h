@@ -1,0 +1,189 @@
+#pragma once
+
+#include "afx/Controls.h"
+#include "afx/Export.h"
+#include <commctrl.h>
+
+/// The common controls, as objects. Creating one loads the system's common-control library first.
+
+/// A status bar. Panes count from 0; 255 names the one simple pane.
+class MFC_API CStatusBarCtrl : public CWnd {
+    DECLARE_DYNAMIC(CStatusBarCtrl)
+
+public:
+    CStatusBarCtrl() = default;
+    ~CStatusBarCtrl() override;
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    /// `nType` holds drawing flags (0, SBT_NOBORDERS, SBT_POPOUT, SBT_OWNERDRAW).
+    BOOL SetText(LPCTSTR lpszText, int nPane, int nType);
+    CString GetText(int nPane, int* pType = nullptr) const;
+    /// Copies text and zero: the buffer holds GetTextLength() + 1 characters. Returns the length.
+    int GetText(LPTSTR lpszText, int nPane, int* pType = nullptr) const;
+    int GetTextLength(int nPane, int* pType = nullptr) const;
+    /// Right edges of the panes in client pixels; -1 stands for the end of the window.
+    BOOL SetParts(int nParts, int* pWidths);
+    /// Returns the number of panes and fills at most `nParts` edges.
+    int GetParts(int nParts, int* pParts) const;
+    /// Widths of the borders in pixels: horizontal, vertical, between panes.
+    BOOL GetBorders(int* pBorders) const;
+    BOOL GetBorders(int& nHorz, int& nVert, int& nSpacing) const;
+    void SetMinHeight(int nMin);
+    BOOL SetSimple(BOOL bSimple = TRUE);
+    BOOL GetRect(int nPane, LPRECT lpRect) const;
+
+    /// Panes drawn by their owner: override it. The default draws nothing.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+};
+
+/// A progress bar. Its range starts as 0 to 100, its step as 10.
+class MFC_API CProgressCtrl : public CWnd {
+    DECLARE_DYNAMIC(CProgressCtrl)
+
+public:
+    CProgressCtrl() = default;
+    ~CProgressCtrl() override;
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    /// 16-bit limits; SetRange32() takes any int.
+    void SetRange(short nLower, short nUpper);
+    void SetRange32(int nLower, int nUpper);
+    void GetRange(int& nLower, int& nUpper) const;
+    int GetPos() const { return afx_control::Ask(m_hWnd, PBM_GETPOS); }
+    /// All three return the former position.
+    int SetPos(int nPos) { return afx_control::Ask(m_hWnd, PBM_SETPOS, Param(nPos)); }
+    int OffsetPos(int nPos) { return afx_control::Ask(m_hWnd, PBM_DELTAPOS, Param(nPos)); }
+    int StepIt() { return afx_control::Ask(m_hWnd, PBM_STEPIT); }
+    /// Returns the former step.
+    int SetStep(int nStep) { return afx_control::Ask(m_hWnd, PBM_SETSTEP, Param(nStep)); }
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
+};
+
+/// A slider (trackbar). Its parent learns of moves by WM_HSCROLL and WM_VSCROLL.
+class MFC_API CSliderCtrl : public CWnd {
+    DECLARE_DYNAMIC(CSliderCtrl)
+
+public:
+    CSliderCtrl() = default;
+    ~CSliderCtrl() override;
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    int GetLineSize() const { return afx_control::Ask(m_hWnd, TBM_GETLINESIZE); }
+    int SetLineSize(int nSize) { return afx_control::Ask(m_hWnd, TBM_SETLINESIZE, 0, nSize); }
+    int GetPageSize() const { return afx_control::Ask(m_hWnd, TBM_GETPAGESIZE); }
+    int SetPageSize(int nSize) { return afx_control::Ask(m_hWnd, TBM_SETPAGESIZE, 0, nSize); }
+    int GetRangeMax() const { return afx_control::Ask(m_hWnd, TBM_GETRANGEMAX); }
+    int GetRangeMin() const { return afx_control::Ask(m_hWnd, TBM_GETRANGEMIN); }
+    void GetRange(int& nMin, int& nMax) const;
+    void SetRangeMin(int nMin, BOOL bRedraw = FALSE);
+    void SetRangeMax(int nMax, BOOL bRedraw = FALSE);
+    void SetRange(int nMin, int nMax, BOOL bRedraw = FALSE);
+    void GetSelection(int& nMin, int& nMax) const;
+    void SetSelection(int nMin, int nMax);
+    int GetPos() const { return afx_control::Ask(m_hWnd, TBM_GETPOS); }
+    /// Held inside the range; repaints.
+    void SetPos(int nPos) { afx_control::Ask(m_hWnd, TBM_SETPOS, TRUE, nPos); }
+    UINT GetNumTics() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, TBM_GETNUMTICS)); }
+    int GetTic(int nTic) const { return afx_control::Ask(m_hWnd, TBM_GETTIC, static_cast<WPARAM>(nTic)); }
+    int GetTicPos(int nTic) const {
+        return afx_control::Ask(m_hWnd, TBM_GETTICPOS, static_cast<WPARAM>(nTic));
+    }
+    BOOL SetTic(int nTic) { return afx_control::Ask(m_hWnd, TBM_SETTIC, 0, nTic); }
+    void SetTicFreq(int nFreq) { afx_control::Ask(m_hWnd, TBM_SETTICFREQ, static_cast<WPARAM>(nFreq)); }
+    void ClearTics(BOOL bRedraw = FALSE) {
+        afx_control::Ask(m_hWnd, TBM_CLEARTICS, static_cast<WPARAM>(bRedraw));
+    }
+    void ClearSel(BOOL bRedraw = FALSE) {
+        afx_control::Ask(m_hWnd, TBM_CLEARSEL, static_cast<WPARAM>(bRedraw));
+    }
+    void GetChannelRect(LPRECT lprc) const;
+    void GetThumbRect(LPRECT lprc) const;
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+};
+
+/// An up-down control, often beside an edit control (its buddy).
+class MFC_API CSpinButtonCtrl : public CWnd {
+    DECLARE_DYNAMIC(CSpinButtonCtrl)
+
+public:
+    CSpinButtonCtrl() = default;
+    ~CSpinButtonCtrl() override;
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    /// 16-bit positions; the "32" forms take any int. SetPos() returns the former position.
+    int SetPos(int nPos) {
+        return static_cast<short>(afx_control::Ask(m_hWnd, UDM_SETPOS, 0, MAKELPARAM(nPos, 0)));
+    }
+    /// Low word: position; high word: nonzero on error (a buddy's text that is no number).
+    int GetPos() const { return afx_control::Ask(m_hWnd, UDM_GETPOS); }
+    int SetPos32(int nPos) { return afx_control::Ask(m_hWnd, UDM_SETPOS32, 0, nPos); }
+    int GetPos32(LPBOOL lpbError = nullptr) const;
+    void SetRange(short nLower, short nUpper);
+    void SetRange32(int nLower, int nUpper);
+    /// Low word: upper limit; high word: lower limit.
+    DWORD GetRange() const { return static_cast<DWORD>(afx_control::Ask(m_hWnd, UDM_GETRANGE)); }
+    void GetRange(int& lower, int& upper) const;
+    void GetRange32(int& lower, int& upper) const;
+    /// 10 or 16; returns the former base, 0 for another one.
+    int SetBase(int nBase) { return afx_control::Ask(m_hWnd, UDM_SETBASE, static_cast<WPARAM>(nBase)); }
+    UINT GetBase() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, UDM_GETBASE)); }
+    /// Both buddies may be temporary; NULL if there is none.
+    CWnd* SetBuddy(CWnd* pWndBuddy);
+    CWnd* GetBuddy() const;
+    BOOL SetAccel(int nAccel, UDACCEL* pAccel);
+    UINT GetAccel(int nAccel, UDACCEL* pAccel) const;
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+};
+
+/// A tooltip window for the controls of a window. Relay mouse messages to it (CWnd::PreTranslateMessage() is
+/// the place), or add tools with TTF_SUBCLASS.
+class MFC_API CToolTipCtrl : public CWnd {
+    DECLARE_DYNAMIC(CToolTipCtrl)
+
+public:
+    CToolTipCtrl() = default;
+    ~CToolTipCtrl() override;
+    BOOL Create(CWnd* pParentWnd, DWORD dwStyle = 0);
+
+    void Activate(BOOL bActivate) { afx_control::Ask(m_hWnd, TTM_ACTIVATE, static_cast<WPARAM>(bActivate)); }
+    /// A tool is the whole of `pWnd` (`nIDTool` 0), or the part `lpRectTool` of its client area (`nIDTool`
+    /// not 0). LPSTR_TEXTCALLBACK asks the window for the text when it is needed.
+    BOOL AddTool(CWnd* pWnd, LPCTSTR lpszText = LPSTR_TEXTCALLBACK, LPCRECT lpRectTool = nullptr,
+                 UINT_PTR nIDTool = 0);
+    /// The text is loaded through the resource chain.
+    BOOL AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool = nullptr, UINT_PTR nIDTool = 0);
+    void DelTool(CWnd* pWnd, UINT_PTR nIDTool = 0);
+    int GetToolCount() const { return afx_control::Ask(m_hWnd, TTM_GETTOOLCOUNT); }
+    void GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
+    void UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool = 0);
+    void UpdateTipText(UINT nIDText, CWnd* pWnd, UINT_PTR nIDTool = 0);
+    void SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect);
+    void RelayEvent(LPMSG lpMsg) {
+        ::SendMessage(m_hWnd, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(lpMsg));
+    }
+    /// Milliseconds: TTDT_AUTOMATIC sets all from one, TTDT_INITIAL, TTDT_AUTOPOP, TTDT_RESHOW set one each.
+    void SetDelayTime(UINT nDelay) { SetDelayTime(TTDT_AUTOMATIC, static_cast<int>(nDelay)); }
+    void SetDelayTime(DWORD dwDuration, int iTime);
+    int GetDelayTime(DWORD dwDuration) const {
+        return afx_control::Ask(m_hWnd, TTM_GETDELAYTIME, dwDuration);
+    }
+    int SetMaxTipWidth(int iWidth) { return afx_control::Ask(m_hWnd, TTM_SETMAXTIPWIDTH, 0, iWidth); }
+    int GetMaxTipWidth() const { return afx_control::Ask(m_hWnd, TTM_GETMAXTIPWIDTH); }
+    void Pop() { afx_control::Ask(m_hWnd, TTM_POP); }
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+};

@@ -1,0 +1,202 @@
+#pragma once
+
+#include "afx/Export.h"
+#include "afx/GdiObject.h"
+#include "afx/Wnd.h"
+
+/// The controls of the system, as objects. Every Create() makes the control as a child of `pParentWnd` with
+/// the command ID `nID`, in client coordinates of the parent, and returns FALSE on failure. Members send the
+/// control's own messages, so they need a window, and the control repaints itself as the system has it do.
+
+namespace afx_control {
+/// A control's answer as an int: counts, indices and flags all fit one.
+inline int Ask(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return static_cast<int>(::SendMessage(control, message, wParam, lParam));
+}
+} // namespace afx_control
+
+/// A label, frame or picture.
+class MFC_API CStatic : public CWnd {
+    DECLARE_DYNAMIC(CStatic)
+
+public:
+    CStatic() = default;
+    ~CStatic() override;
+    BOOL Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID = 0xFFFF);
+
+    /// Pictures stay the caller's. Setters return the former one.
+    HBITMAP SetBitmap(HBITMAP hBitmap) { return reinterpret_cast<HBITMAP>(SetImage(IMAGE_BITMAP, hBitmap)); }
+    HBITMAP GetBitmap() const { return reinterpret_cast<HBITMAP>(GetImage(IMAGE_BITMAP)); }
+    HICON SetIcon(HICON hIcon);
+    HICON GetIcon() const;
+    HCURSOR SetCursor(HCURSOR hCursor) { return reinterpret_cast<HCURSOR>(SetImage(IMAGE_CURSOR, hCursor)); }
+    HCURSOR GetCursor() const { return reinterpret_cast<HCURSOR>(GetImage(IMAGE_CURSOR)); }
+    HENHMETAFILE SetEnhMetaFile(HENHMETAFILE hMetaFile) {
+        return reinterpret_cast<HENHMETAFILE>(SetImage(IMAGE_ENHMETAFILE, hMetaFile));
+    }
+    HENHMETAFILE GetEnhMetaFile() const {
+        return reinterpret_cast<HENHMETAFILE>(GetImage(IMAGE_ENHMETAFILE));
+    }
+
+    /// Owner draw (SS_OWNERDRAW): override it. The default draws nothing.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    LRESULT SetImage(UINT kind, HANDLE image);
+    LRESULT GetImage(UINT kind) const;
+};
+
+/// A push button, check box, radio button or group box.
+class MFC_API CButton : public CWnd {
+    DECLARE_DYNAMIC(CButton)
+
+public:
+    CButton() = default;
+    ~CButton() override;
+    BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    /// BST_ bits: checked, pushed, focus.
+    UINT GetState() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, BM_GETSTATE)); }
+    void SetState(BOOL bHighlight) { afx_control::Ask(m_hWnd, BM_SETSTATE, static_cast<WPARAM>(bHighlight)); }
+    /// 0 unchecked, 1 checked, 2 indeterminate.
+    int GetCheck() const { return afx_control::Ask(m_hWnd, BM_GETCHECK); }
+    void SetCheck(int nCheck) { afx_control::Ask(m_hWnd, BM_SETCHECK, static_cast<WPARAM>(nCheck)); }
+    /// The BS_ bits of the window style.
+    UINT GetButtonStyle() const;
+    void SetButtonStyle(UINT nStyle, BOOL bRedraw = TRUE) {
+        afx_control::Ask(m_hWnd, BM_SETSTYLE, nStyle, bRedraw);
+    }
+    /// Pictures stay the caller's. Setters return the former one.
+    HICON SetIcon(HICON hIcon);
+    HICON GetIcon() const;
+    HBITMAP SetBitmap(HBITMAP hBitmap);
+    HBITMAP GetBitmap() const;
+    HCURSOR SetCursor(HCURSOR hCursor) { return static_cast<HCURSOR>(SetIcon(static_cast<HICON>(hCursor))); }
+    HCURSOR GetCursor() const { return static_cast<HCURSOR>(GetIcon()); }
+
+    /// Owner draw (BS_OWNERDRAW): override it. The default draws nothing.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+};
+
+/// An edit control, of one line or several. Character positions count from 0 through the whole text.
+class MFC_API CEdit : public CWnd {
+    DECLARE_DYNAMIC(CEdit)
+
+public:
+    CEdit() = default;
+    ~CEdit() override;
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    BOOL CanUndo() const { return afx_control::Ask(m_hWnd, EM_CANUNDO); }
+    int GetLineCount() const { return afx_control::Ask(m_hWnd, EM_GETLINECOUNT); }
+    BOOL GetModify() const { return afx_control::Ask(m_hWnd, EM_GETMODIFY); }
+    void SetModify(BOOL bModified = TRUE) {
+        afx_control::Ask(m_hWnd, EM_SETMODIFY, static_cast<WPARAM>(bModified));
+    }
+    void GetRect(LPRECT lpRect) const;
+    /// Start in the low word, end in the high word; texts beyond 65,535 characters need the other form.
+    DWORD GetSel() const { return static_cast<DWORD>(afx_control::Ask(m_hWnd, EM_GETSEL)); }
+    /// `nEndChar` is the first character behind the selection.
+    void GetSel(int& nStartChar, int& nEndChar) const;
+    HLOCAL GetHandle() const { return reinterpret_cast<HLOCAL>(::SendMessage(m_hWnd, EM_GETHANDLE, 0, 0)); }
+    void SetHandle(HLOCAL hBuffer) {
+        ::SendMessage(m_hWnd, EM_SETHANDLE, reinterpret_cast<WPARAM>(hBuffer), 0);
+    }
+    /// Low word: left margin, high word: right margin, in pixels.
+    DWORD GetMargins() const { return static_cast<DWORD>(afx_control::Ask(m_hWnd, EM_GETMARGINS)); }
+    void SetMargins(UINT nLeft, UINT nRight);
+    UINT GetLimitText() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, EM_GETLIMITTEXT)); }
+    void SetLimitText(UINT nMax) { afx_control::Ask(m_hWnd, EM_SETLIMITTEXT, nMax); }
+    CPoint PosFromChar(UINT nChar) const;
+    /// Low word: character, high word: line.
+    int CharFromPos(CPoint pt) const;
+    /// Copies line `nIndex` (from 0) without a terminating zero; the first form takes the buffer's size from
+    /// its first word. Returns the characters copied, 0 if there is no such line.
+    int GetLine(int nIndex, LPTSTR lpszBuffer) const;
+    int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
+    void EmptyUndoBuffer() { afx_control::Ask(m_hWnd, EM_EMPTYUNDOBUFFER); }
+    BOOL FmtLines(BOOL bAddEOL) {
+        return afx_control::Ask(m_hWnd, EM_FMTLINES, static_cast<WPARAM>(bAddEOL));
+    }
+    void LimitText(int nChars = 0) { afx_control::Ask(m_hWnd, EM_LIMITTEXT, static_cast<WPARAM>(nChars)); }
+    /// The line that holds a character; -1 asks for the line where the selection starts.
+    int LineFromChar(int nIndex = -1) const {
+        return afx_control::Ask(m_hWnd, EM_LINEFROMCHAR, Position(nIndex));
+    }
+    /// The first character of a line; -1 asks for the line with the caret.
+    int LineIndex(int nLine = -1) const { return afx_control::Ask(m_hWnd, EM_LINEINDEX, Position(nLine)); }
+    int LineLength(int nLine = -1) const { return afx_control::Ask(m_hWnd, EM_LINELENGTH, Position(nLine)); }
+    void LineScroll(int nLines, int nChars = 0) {
+        afx_control::Ask(m_hWnd, EM_LINESCROLL, Position(nChars), nLines);
+    }
+    void ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo = FALSE);
+    void SetPasswordChar(TCHAR ch) { afx_control::Ask(m_hWnd, EM_SETPASSWORDCHAR, static_cast<BYTE>(ch)); }
+    TCHAR GetPasswordChar() const { return static_cast<TCHAR>(afx_control::Ask(m_hWnd, EM_GETPASSWORDCHAR)); }
+    void SetRect(LPCRECT lpRect);
+    void SetRectNP(LPCRECT lpRect);
+    /// (0, -1) selects all; a start of -1 takes the selection away. The caret is scrolled into view unless
+    /// told not to.
+    void SetSel(DWORD dwSelection, BOOL bNoScroll = FALSE);
+    void SetSel(int nStartChar, int nEndChar, BOOL bNoScroll = FALSE);
+    BOOL SetTabStops(int nTabStops, LPINT rgTabStops);
+    void SetTabStops();
+    BOOL SetTabStops(const int& cxEachStop) { return SetTabStops(1, const_cast<LPINT>(&cxEachStop)); }
+    BOOL SetReadOnly(BOOL bReadOnly = TRUE) {
+        return afx_control::Ask(m_hWnd, EM_SETREADONLY, static_cast<WPARAM>(bReadOnly));
+    }
+    int GetFirstVisibleLine() const { return afx_control::Ask(m_hWnd, EM_GETFIRSTVISIBLELINE); }
+
+    BOOL Undo() { return afx_control::Ask(m_hWnd, EM_UNDO); }
+    void Clear() { afx_control::Ask(m_hWnd, WM_CLEAR); }
+    void Copy() { afx_control::Ask(m_hWnd, WM_COPY); }
+    void Cut() { afx_control::Ask(m_hWnd, WM_CUT); }
+    void Paste() { afx_control::Ask(m_hWnd, WM_PASTE); }
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    static WPARAM Position(int index) { return static_cast<WPARAM>(static_cast<INT_PTR>(index)); }
+};
+
+/// A scroll bar control. (Scroll bars that belong to a window's frame are members of CWnd.)
+class MFC_API CScrollBar : public CWnd {
+    DECLARE_DYNAMIC(CScrollBar)
+
+public:
+    CScrollBar() = default;
+    ~CScrollBar() override;
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
+    /// Returns the former position.
+    int SetScrollPos(int nPos, BOOL bRedraw = TRUE) { return ::SetScrollPos(m_hWnd, SB_CTL, nPos, bRedraw); }
+    void GetScrollRange(LPINT lpMinPos, LPINT lpMaxPos) const {
+        ::GetScrollRange(m_hWnd, SB_CTL, lpMinPos, lpMaxPos);
+    }
+    void SetScrollRange(int nMinPos, int nMaxPos, BOOL bRedraw = TRUE) {
+        ::SetScrollRange(m_hWnd, SB_CTL, nMinPos, nMaxPos, bRedraw);
+    }
+    void ShowScrollBar(BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, bShow); }
+    BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH) {
+        return ::EnableScrollBar(m_hWnd, SB_CTL, nArrowFlags);
+    }
+    /// cbSize is filled in.
+    BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
+    BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
+    /// The largest position a user can reach, the page considered.
+    int GetScrollLimit();
+
+private:
+    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+};
+
+#include "afx/ListControls.h"

@@ -1,0 +1,253 @@
+#pragma once
+
+#include "afx/Export.h"
+#include <afx.h>
+
+class CDC;
+class CBitmap;
+
+/// A GDI object and the handle it owns.
+///
+/// The destructor deletes the handle, unless it was detached before. Objects obtained from FromHandle() for a
+/// handle that no CGdiObject owns are temporary: they end at the next idle time of the thread and leave the
+/// handle alone.
+class MFC_API CGdiObject : public CObject {
+    DECLARE_DYNCREATE(CGdiObject)
+
+public:
+    /// The handle, or NULL. Read it freely; change it by Attach() and Detach() only.
+    HGDIOBJ m_hObject = nullptr;
+
+    CGdiObject() = default;
+    /// Deletes the handle it still owns.
+    ~CGdiObject() override;
+
+    /// The permanent object of `hObject`, else a temporary one of the handle's real class (CPen for a pen,
+    /// and so on). NULL for a NULL handle.
+    static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
+    /// Deletes the temporaries of the calling thread; their handles stay.
+    static void PASCAL DeleteTempMap();
+
+    operator HGDIOBJ() const { return m_hObject; }
+    /// The handle; NULL also for a NULL object.
+    HGDIOBJ GetSafeHandle() const;
+
+    /// Takes ownership of `hObject`. FALSE for NULL. The object must not own a handle yet.
+    BOOL Attach(HGDIOBJ hObject);
+    /// Gives the handle away: the caller deletes it from now on.
+    HGDIOBJ Detach();
+    /// Deletes the handle and forgets it, though it should be selected into no DC. FALSE if there was none or
+    /// GDI refused.
+    BOOL DeleteObject();
+
+    /// Fills the buffer with the object's record (LOGPEN, LOGBRUSH, LOGFONT, BITMAP ...). Returns bytes, 0 on
+    /// failure.
+    int GetObject(int nCount, LPVOID lpObject) const { return ::GetObject(m_hObject, nCount, lpObject); }
+    /// OBJ_PEN, OBJ_BRUSH, ...; 0 if the handle is not valid.
+    UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
+    /// Attaches a stock object (WHITE_PEN, SYSTEM_FONT ...). Deleting it later does no harm.
+    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
+    /// Resets a brush's origin, or makes a palette be realized anew.
+    BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
+
+    /// Objects are equal when their handles are.
+    BOOL operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
+    BOOL operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
+};
+
+/// A pen. Widths are in logical units.
+class MFC_API CPen : public CGdiObject {
+    DECLARE_DYNAMIC(CPen)
+
+public:
+    CPen() = default;
+    /// Creates the pen at once; throws CResourceException* on failure.
+    CPen(int nPenStyle, int nWidth, COLORREF crColor);
+    CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
+         const DWORD* lpStyle = nullptr);
+
+    /// NULL if the handle is NULL or is no pen.
+    static CPen* PASCAL FromHandle(HPEN hPen);
+    operator HPEN() const { return static_cast<HPEN>(m_hObject); }
+
+    BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
+        return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+    }
+    BOOL CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
+                   const DWORD* lpStyle = nullptr);
+    BOOL CreatePenIndirect(LPLOGPEN lpLogPen) { return Attach(::CreatePenIndirect(lpLogPen)); }
+    /// Fails for pens made with a LOGBRUSH; ask those with GetExtLogPen().
+    int GetLogPen(LOGPEN* pLogPen) const { return GetObject(sizeof(LOGPEN), pLogPen); }
+    int GetExtLogPen(EXTLOGPEN* pLogPen) const { return GetObject(sizeof(EXTLOGPEN), pLogPen); }
+};
+
+/// A brush.
+class MFC_API CBrush : public CGdiObject {
+    DECLARE_DYNAMIC(CBrush)
+
+public:
+    CBrush() = default;
+    /// Each creates the brush at once; throws CResourceException* on failure.
+    explicit CBrush(COLORREF crColor);
+    CBrush(int nIndex, COLORREF crColor);
+    explicit CBrush(CBitmap* pBitmap);
+
+    /// NULL if the handle is NULL or is no brush.
+    static CBrush* PASCAL FromHandle(HBRUSH hBrush);
+    operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
+
+    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
+    BOOL CreateHatchBrush(int nIndex, COLORREF crColor) {
+        return Attach(::CreateHatchBrush(nIndex, crColor));
+    }
+    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return Attach(::CreateBrushIndirect(lpLogBrush)); }
+    BOOL CreatePatternBrush(CBitmap* pBitmap);
+    BOOL CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage);
+    BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
+        return Attach(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
+    }
+    /// The brush of a system colour (COLOR_WINDOW ...); the system keeps it.
+    BOOL CreateSysColorBrush(int nIndex) { return Attach(::GetSysColorBrush(nIndex)); }
+    int GetLogBrush(LOGBRUSH* pLogBrush) const { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
+};
+
+/// A font.
+class MFC_API CFont : public CGdiObject {
+    DECLARE_DYNAMIC(CFont)
+
+public:
+    CFont() = default;
+
+    /// NULL if the handle is NULL or is no font.
+    static CFont* PASCAL FromHandle(HFONT hFont);
+    operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+
+    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return Attach(::CreateFontIndirect(lpLogFont)); }
+    BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
+                    BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
+                    BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
+    /// A font of `nPointSize` tenths of a point, converted to the logical units of `pDC` as it is mapped now;
+    /// without one, to pixels of the screen.
+    BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = nullptr);
+    /// As CreatePointFont(); `lpLogFont->lfHeight` holds the tenths of a point.
+    BOOL CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC = nullptr);
+    int GetLogFont(LOGFONT* pLogFont) const { return GetObject(sizeof(LOGFONT), pLogFont); }
+};
+
+/// A bitmap.
+class MFC_API CBitmap : public CGdiObject {
+    DECLARE_DYNAMIC(CBitmap)
+
+public:
+    CBitmap() = default;
+
+    /// NULL if the handle is NULL or is no bitmap.
+    static CBitmap* PASCAL FromHandle(HBITMAP hBitmap);
+    operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
+
+    /// Loads from the first module of the resource chain that holds the bitmap.
+    BOOL LoadBitmap(LPCTSTR lpszResourceName);
+    BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
+    /// One of the system's own (OBM_CLOSE ...).
+    BOOL LoadOEMBitmap(UINT nIDBitmap) { return Attach(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap))); }
+
+    BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits) {
+        return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
+    }
+    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap) { return Attach(::CreateBitmapIndirect(lpBitmap)); }
+    /// Compatible with the output DC of `pDC`.
+    BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
+    BOOL CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight);
+
+    int GetBitmap(BITMAP* pBitMap) const { return GetObject(sizeof(BITMAP), pBitMap); }
+    /// Both copy at most `dwCount` bytes of device-dependent bits and return the bytes copied.
+    DWORD SetBitmapBits(DWORD dwCount, const void* lpBits);
+    DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const;
+    /// The size noted by SetBitmapDimension(), in tenths of a millimetre; (0, 0) if none was.
+    CSize GetBitmapDimension() const;
+    /// Returns the size noted before.
+    CSize SetBitmapDimension(int nWidth, int nHeight);
+};
+
+/// A colour palette.
+class MFC_API CPalette : public CGdiObject {
+    DECLARE_DYNAMIC(CPalette)
+
+public:
+    CPalette() = default;
+
+    /// NULL if the handle is NULL or is no palette.
+    static CPalette* PASCAL FromHandle(HPALETTE hPalette);
+    operator HPALETTE() const { return static_cast<HPALETTE>(m_hObject); }
+
+    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return Attach(::CreatePalette(lpLogPalette)); }
+    BOOL CreateHalftonePalette(CDC* pDC);
+
+    int GetEntryCount() const;
+    /// Both return the number of entries copied, 0 on failure.
+    UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const {
+        return ::GetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    UINT SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) {
+        return ::SetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    void AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) {
+        ::AnimatePalette(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    UINT GetNearestPaletteIndex(COLORREF crColor) const { return ::GetNearestPaletteIndex(*this, crColor); }
+    BOOL ResizePalette(UINT nNumEntries) { return ::ResizePalette(*this, nNumEntries); }
+};
+
+/// A region. Coordinates are device units where a DC clips by it. Members that combine or measure return
+/// ERROR, NULLREGION, SIMPLEREGION or COMPLEXREGION.
+class MFC_API CRgn : public CGdiObject {
+    DECLARE_DYNAMIC(CRgn)
+
+public:
+    CRgn() = default;
+
+    /// NULL if the handle is NULL or is no region.
+    static CRgn* PASCAL FromHandle(HRGN hRgn);
+    operator HRGN() const { return static_cast<HRGN>(m_hObject); }
+
+    /// All creators answer FALSE on failure. Right and bottom edges do not belong to the region.
+    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
+    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
+    BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2) {
+        return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
+    }
+    BOOL CreateEllipticRgnIndirect(LPCRECT lpRect) { return Attach(::CreateEllipticRgnIndirect(lpRect)); }
+    BOOL CreatePolygonRgn(LPPOINT lpPoints, int nCount, int nMode) {
+        return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
+    }
+    BOOL CreatePolyPolygonRgn(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount, int nPolyFillMode) {
+        return Attach(::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nPolyFillMode));
+    }
+    BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3) {
+        return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
+    }
+    /// From the closed path of `pDC`, which is used up.
+    BOOL CreateFromPath(CDC* pDC);
+    BOOL CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData) {
+        return Attach(::ExtCreateRegion(lpXForm, static_cast<DWORD>(nCount), pRgnData));
+    }
+
+    void SetRectRgn(int x1, int y1, int x2, int y2) { ::SetRectRgn(*this, x1, y1, x2, y2); }
+    void SetRectRgn(LPCRECT lpRect) {
+        ::SetRectRgn(*this, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+    }
+    /// Replaces this region, which must exist, by the combination of two others.
+    int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
+    int CopyRgn(const CRgn* pRgnSrc);
+    BOOL EqualRgn(const CRgn* pRgn) const;
+    int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
+    int OffsetRgn(POINT point) { return ::OffsetRgn(*this, point.x, point.y); }
+    int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
+    BOOL PtInRegion(int x, int y) const { return ::PtInRegion(*this, x, y); }
+    BOOL PtInRegion(POINT point) const { return ::PtInRegion(*this, point.x, point.y); }
+    BOOL RectInRegion(LPCRECT lpRect) const { return ::RectInRegion(*this, lpRect); }
+    /// With NULL, the bytes needed; else the bytes copied, 0 if `nCount` is too small.
+    int GetRegionData(LPRGNDATA lpRgnData, int nCount) const {
+        return static_cast<int>(::GetRegionData(*this, static_cast<DWORD>(nCount), lpRgnData));
+    }
+};

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <ctime>
+
+#include <afx/String.h>
+
+class CArchive;
+
+/// Seconds, positive or negative, held in 64 bits.
+class MFC_API CTimeSpan {
+public:
+    CTimeSpan() : m_nSpan(0) {}
+    CTimeSpan(__time64_t seconds) : m_nSpan(seconds) {}
+    CTimeSpan(LONG days, int hours, int minutes, int seconds)
+        : m_nSpan(((days * __time64_t{24} + hours) * 60 + minutes) * 60 + seconds) {}
+
+    /// Whole days; and what is left of them, each with the sign of the span: hours -23..23, minutes and
+    /// seconds -59..59.
+    LONGLONG GetDays() const { return m_nSpan / SecondsPerDay; }
+    LONG GetHours() const { return static_cast<LONG>(m_nSpan % SecondsPerDay / 3600); }
+    LONG GetMinutes() const { return static_cast<LONG>(m_nSpan % 3600 / 60); }
+    LONG GetSeconds() const { return static_cast<LONG>(m_nSpan % 60); }
+    /// The whole span in one unit, rounded towards 0.
+    LONGLONG GetTotalHours() const { return m_nSpan / 3600; }
+    LONGLONG GetTotalMinutes() const { return m_nSpan / 60; }
+    LONGLONG GetTotalSeconds() const { return m_nSpan; }
+    LONGLONG GetTimeSpan() const { return m_nSpan; }
+
+    /// %D whole days, %H hours, %M minutes and %S seconds in two digits, %% a percent sign; with an `id`, the
+    /// format is that string resource.
+    CString Format(LPCTSTR format) const;
+    CString Format(UINT id) const;
+
+    CTimeSpan operator+(CTimeSpan span) const { return Wrapped(Bits() + span.Bits()); }
+    CTimeSpan operator-(CTimeSpan span) const { return Wrapped(Bits() - span.Bits()); }
+    CTimeSpan& operator+=(CTimeSpan span) { return *this = *this + span; }
+    CTimeSpan& operator-=(CTimeSpan span) { return *this = *this - span; }
+    bool operator==(CTimeSpan span) const { return m_nSpan == span.m_nSpan; }
+    bool operator!=(CTimeSpan span) const { return m_nSpan != span.m_nSpan; }
+    bool operator<(CTimeSpan span) const { return m_nSpan < span.m_nSpan; }
+    bool operator>(CTimeSpan span) const { return m_nSpan > span.m_nSpan; }
+    bool operator<=(CTimeSpan span) const { return m_nSpan <= span.m_nSpan; }
+    bool operator>=(CTimeSpan span) const { return m_nSpan >= span.m_nSpan; }
+
+private:
+    friend class CTime;
+    static constexpr __time64_t SecondsPerDay = 86400;
+    ULONGLONG Bits() const { return static_cast<ULONGLONG>(m_nSpan); }
+    static CTimeSpan Wrapped(ULONGLONG bits) { return CTimeSpan(static_cast<__time64_t>(bits)); }
+
+    __time64_t m_nSpan;
+};
+
+/// A point in time: seconds since 1970-01-01 00:00:00 UTC, in 64 bits. Local time is that of the system's
+/// zone with the daylight-saving rules of the year in question. Years 1601 to 30827 can be told as a date;
+/// the date of a time outside them reads as 1970-01-01 00:00:00.
+class MFC_API CTime {
+public:
+    static CTime GetCurrentTime();
+
+    CTime() : m_time(0) {}
+    CTime(__time64_t time) : m_time(time) {}
+    /// Local time. `isDst`: 0 standard time, greater daylight-saving time, -1 what the zone's rules say.
+    /// Debug builds assert that every value is in its range (year from 1900); in others a value outside gives
+    /// the time -1.
+    CTime(int year, int month, int day, int hour, int minute, int second, int isDst = -1);
+    /// Local time in the DOS form, whose seconds are even.
+    CTime(WORD dosDate, WORD dosTime, int isDst = -1);
+    /// Local time. A record that is no date gives the time -1.
+    explicit CTime(const SYSTEMTIME& local, int isDst = -1);
+    /// UTC, cut to whole seconds.
+    explicit CTime(const FILETIME& utc, int isDst = -1);
+
+    __time64_t GetTime() const { return m_time; }
+    /// Local date and time: month 1..12, day 1..31, day of week 1 (Sunday)..7.
+    int GetYear() const;
+    int GetMonth() const;
+    int GetDay() const;
+    int GetHour() const;
+    int GetMinute() const;
+    int GetSecond() const;
+    int GetDayOfWeek() const;
+
+    /// Fill `*result`, or with null a record of the calling thread that the next such call overwrites, and
+    /// return it.
+    struct tm* GetLocalTm(struct tm* result = nullptr) const;
+    struct tm* GetGmtTm(struct tm* result = nullptr) const;
+    /// Local time. FALSE if the time has no date.
+    bool GetAsSystemTime(SYSTEMTIME& local) const;
+
+    /// As strftime: local time (FormatGmt: UTC). Codes unknown to strftime are copied as they are. With an
+    /// `id`, the format is that string resource.
+    CString Format(LPCTSTR format) const;
+    CString Format(UINT id) const;
+    CString FormatGmt(LPCTSTR format) const;
+    CString FormatGmt(UINT id) const;
+
+    CTimeSpan operator-(CTime time) const { return CTimeSpan(m_time) - CTimeSpan(time.m_time); }
+    CTime operator-(CTimeSpan span) const { return CTime((CTimeSpan(m_time) - span).m_nSpan); }
+    CTime operator+(CTimeSpan span) const { return CTime((CTimeSpan(m_time) + span).m_nSpan); }
+    CTime& operator+=(CTimeSpan span) { return *this = *this + span; }
+    CTime& operator-=(CTimeSpan span) { return *this = *this - span; }
+    bool operator==(CTime time) const { return m_time == time.m_time; }
+    bool operator!=(CTime time) const { return m_time != time.m_time; }
+    bool operator<(CTime time) const { return m_time < time.m_time; }
+    bool operator>(CTime time) const { return m_time > time.m_time; }
+    bool operator<=(CTime time) const { return m_time <= time.m_time; }
+    bool operator>=(CTime time) const { return m_time >= time.m_time; }
+
+private:
+    void SetLocal(const SYSTEMTIME& local, int isDst);
+
+    __time64_t m_time;
+};
+
+/// Seconds as 8 bytes.
+MFC_API CArchive& operator<<(CArchive& ar, CTimeSpan span);
+MFC_API CArchive& operator>>(CArchive& ar, CTimeSpan& span);
+MFC_API CArchive& operator<<(CArchive& ar, CTime time);
+MFC_API CArchive& operator>>(CArchive& ar, CTime& time);

@@ -1,0 +1,5 @@
+#pragma once
+
+#include "afx/CommonControls.h"
+#include <afxwin.h>
+#include <commctrl.h>

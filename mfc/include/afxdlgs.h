@@ -1,0 +1,5 @@
+#pragma once
+
+#include "afx/CommonDialogs.h"
+#include <afxwin.h>
+#include <commdlg.h>

@@ -1,0 +1,5 @@
+#pragma once
+
+// What the main source of an extension DLL includes: AFX_EXTENSION_MODULE and CDynLinkLibrary.
+
+#include <afxwin.h>

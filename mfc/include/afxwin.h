@@ -1,0 +1,29 @@
+#pragma once
+
+// Programs ask for it, to tell whether their precompiled header came first.
+#define __AFXWIN_H__
+
+// Windows, dialogs, controls, drawing and the application.
+
+#include <afx.h>
+#include <afxcoll.h>
+#include <commctrl.h>
+#include <shellapi.h>
+
+#include "afxres.h"
+
+#include "afx/CmdTarget.h"
+#include "afx/GdiObject.h"
+#include "afx/DC.h"
+#include "afx/Menu.h"
+#include "afx/Wnd.h"
+#include "afx/WindowDC.h"
+#include "afx/Module.h"
+#include "afx/Thread.h"
+#include "afx/App.h"
+#include "afx/FrameWnd.h"
+#include "afx/DataExchange.h"
+#include "afx/Dialog.h"
+#include "afx/Controls.h"
+#include "afxmsg_.h"
+#include "afxdd_.h"

@@ -1,0 +1,218 @@
+#include "mfc/window/ThreadState.h"
+
+#include "afxres.h"
+
+#include <algorithm>
+#include <charconv>
+#include <mutex>
+#include <string>
+#include <vector>
+
+// Extension DLLs, the chain of modules that resources are looked up in, and window classes.
+
+IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
+
+namespace {
+
+std::mutex& ChainGuard() {
+    static std::mutex guard;
+    return guard;
+}
+
+/// Linked libraries, the last one first.
+std::vector<CDynLinkLibrary*>& Chain() {
+    static std::vector<CDynLinkLibrary*> chain;
+    return chain;
+}
+
+struct RegisteredClass {
+    std::string name;
+    HINSTANCE instance;
+};
+
+/// Window classes of DLLs.
+std::vector<RegisteredClass>& DllClasses() {
+    static std::vector<RegisteredClass> classes;
+    return classes;
+}
+
+/// The modules in the order in which they are asked; a module may stand in it twice.
+std::vector<HINSTANCE> ModulesToAsk() {
+    std::vector<HINSTANCE> modules{AfxGetResourceHandle(),
+                                   AfxStateOfModule(nullptr)->m_hCurrentResourceHandle,
+                                   ::GetModuleHandle(nullptr)};
+    {
+        const std::lock_guard<std::mutex> lock(ChainGuard());
+        for (const bool system : {false, true})
+            for (const CDynLinkLibrary* const library : Chain())
+                if ((library->m_bSystem != FALSE) == system && library->m_hResource != nullptr)
+                    modules.push_back(library->m_hResource);
+    }
+    modules.push_back(AfxStateOfModule(nullptr)->m_hCurrentInstanceHandle);
+    modules.push_back(reinterpret_cast<HINSTANCE>(&__ImageBase));
+    return modules;
+}
+
+/// English texts of the library's own prompts.
+LPCSTR OwnText(UINT id) {
+    switch (id) {
+    case AFX_IDS_IDLEMESSAGE:
+        return "Ready";
+    case AFX_IDP_NO_ERROR_AVAILABLE:
+        return "No error message is available.";
+    case AFX_IDP_INTERNAL_FAILURE:
+        return "An internal error occurred.";
+    case AFX_IDP_COMMAND_FAILURE:
+        return "The command failed.";
+    case AFX_IDP_FAILED_MEMORY_ALLOC:
+        return "Out of memory.";
+    case AFX_IDP_NOT_SUPPORTED:
+        return "This operation is not supported.";
+    case AFX_IDP_RESOURCE_FAILURE:
+        return "A required resource is not available.";
+    case AFX_IDP_FAILED_TO_LAUNCH_HELP:
+        return "Help cannot be opened.";
+    case AFX_IDP_PARSE_INT:
+        return "Enter an integer.";
+    case AFX_IDP_PARSE_REAL:
+        return "Enter a number.";
+    case AFX_IDP_PARSE_INT_RANGE:
+        return "Enter an integer between %1 and %2.";
+    case AFX_IDP_PARSE_REAL_RANGE:
+        return "Enter a number between %1 and %2.";
+    case AFX_IDP_PARSE_STRING_SIZE:
+        return "Enter no more than %1 characters.";
+    case AFX_IDP_PARSE_RADIO_BUTTON:
+        return "Select a button.";
+    case AFX_IDP_PARSE_BYTE:
+        return "Enter an integer between 0 and 255.";
+    case AFX_IDP_PARSE_UINT:
+        return "Enter a positive integer.";
+    case AFX_IDP_PARSE_DATETIME:
+        return "Enter a date or a time.";
+    case AFX_IDP_PARSE_CURRENCY:
+        return "Enter an amount of money.";
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
+    : m_hModule(state.hModule), m_hResource(state.hResource), m_bSystem(bSystem) {
+    const std::lock_guard<std::mutex> lock(ChainGuard());
+    Chain().insert(Chain().begin(), this);
+}
+
+CDynLinkLibrary::CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource)
+    : m_hModule(hModule), m_hResource(hResource), m_bSystem(FALSE) {
+    const std::lock_guard<std::mutex> lock(ChainGuard());
+    Chain().insert(Chain().begin(), this);
+}
+
+CDynLinkLibrary::~CDynLinkLibrary() {
+    const std::lock_guard<std::mutex> lock(ChainGuard());
+    Chain().erase(std::remove(Chain().begin(), Chain().end(), this), Chain().end());
+}
+
+BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule) {
+    if (!state.bInitialized) {
+        state.hModule = hModule;
+        state.hResource = hModule;
+        state.bInitialized = TRUE;
+    }
+    return TRUE;
+}
+
+void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
+    if (!state.bInitialized)
+        return;
+    std::vector<CDynLinkLibrary*> leaving;
+    std::vector<RegisteredClass> classes;
+    {
+        const std::lock_guard<std::mutex> lock(ChainGuard());
+        for (CDynLinkLibrary* const library : Chain())
+            if (bAll || library->m_hModule == state.hModule)
+                leaving.push_back(library);
+        auto& registered = DllClasses();
+        const auto stays = [&](const RegisteredClass& entry) {
+            return !bAll && entry.instance != state.hModule;
+        };
+        const auto first = std::stable_partition(registered.begin(), registered.end(), stays);
+        classes.assign(first, registered.end());
+        registered.erase(first, registered.end());
+    }
+    for (CDynLinkLibrary* const library : leaving)
+        delete library; // takes itself out of the chain
+    for (const RegisteredClass& entry : classes)
+        ::UnregisterClassA(entry.name.c_str(), entry.instance);
+    state.bInitialized = FALSE;
+}
+
+HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
+    for (const HINSTANCE module : ModulesToAsk())
+        if (::FindResource(module, lpszName, lpszType) != nullptr)
+            return module;
+    return AfxGetResourceHandle();
+}
+
+HINSTANCE AfxFindStringResourceHandle(UINT nID) {
+    char probe[2] = "";
+    for (const HINSTANCE module : ModulesToAsk())
+        if (::LoadStringA(module, nID, probe, static_cast<int>(sizeof(probe))) > 0)
+            return module;
+    return nullptr;
+}
+
+int AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf) {
+    if (nMaxBuf == 0)
+        return 0;
+    lpszBuf[0] = '\0';
+    if (const HINSTANCE module = AfxFindStringResourceHandle(nID))
+        return ::LoadString(module, nID, lpszBuf, static_cast<int>(nMaxBuf));
+    if (const LPCSTR own = OwnText(nID)) {
+        ::lstrcpyn(lpszBuf, own, static_cast<int>(nMaxBuf));
+        return ::lstrlen(lpszBuf);
+    }
+    return 0;
+}
+
+BOOL AfxRegisterClass(WNDCLASS* lpWndClass) {
+    WNDCLASS present{};
+    if (::GetClassInfo(lpWndClass->hInstance, lpWndClass->lpszClassName, &present))
+        return TRUE;
+    if (!::RegisterClass(lpWndClass))
+        return FALSE;
+    if (lpWndClass->hInstance != ::GetModuleHandle(nullptr) && !IS_INTRESOURCE(lpWndClass->lpszClassName)) {
+        const std::lock_guard<std::mutex> lock(ChainGuard());
+        DllClasses().push_back({lpWndClass->lpszClassName, lpWndClass->hInstance});
+    }
+    return TRUE;
+}
+
+LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
+    const auto hex = [](UINT_PTR value) {
+        char digits[2 * sizeof(value)];
+        return std::string(digits, std::to_chars(digits, digits + sizeof(digits), value, 16).ptr);
+    };
+    const auto hexHandle = [&](const void* handle) { return hex(reinterpret_cast<UINT_PTR>(handle)); };
+    const HINSTANCE instance = AfxGetInstanceHandle();
+    std::string name = "Afx:" + hexHandle(instance) + ":" + hex(nClassStyle);
+    if (hCursor != nullptr || hbrBackground != nullptr || hIcon != nullptr)
+        name += ":" + hexHandle(hCursor) + ":" + hexHandle(hbrBackground) + ":" + hexHandle(hIcon);
+
+    WNDCLASS windowClass{};
+    windowClass.style = nClassStyle;
+    windowClass.lpfnWndProc = ::DefWindowProc;
+    windowClass.hInstance = instance;
+    windowClass.hCursor = hCursor;
+    windowClass.hbrBackground = hbrBackground;
+    windowClass.hIcon = hIcon;
+    windowClass.lpszClassName = name.c_str();
+    if (!AfxRegisterClass(&windowClass))
+        AfxThrowResourceException();
+    ThreadState& thread = CurrentThreadState();
+    ::lstrcpynA(thread.className, name.c_str(), static_cast<int>(sizeof(thread.className)));
+    return thread.className;
+}

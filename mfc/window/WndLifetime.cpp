@@ -1,0 +1,251 @@
+#include "mfc/window/ThreadState.h"
+
+#include "afx/App.h"
+
+#include <cstring>
+
+// How a window object and its window find each other and part again.
+
+IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
+
+const CWnd CWnd::wndTop(HWND_TOP);
+const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+
+CWnd::~CWnd() {
+    const bool isPlacement =
+        this == &wndTop || this == &wndBottom || this == &wndTopMost || this == &wndNoTopMost;
+    if (m_hWnd != nullptr && !isPlacement) {
+        TRACE(
+            "CWnd is deleted with its window: OnDestroy and PostNcDestroy of derived classes do not run.\n");
+        CWnd::DestroyWindow();
+        // Still there: the window belongs to another thread, or is none any more.
+        if (m_hWnd != nullptr)
+            Detach();
+    }
+}
+
+HWND CWnd::GetSafeHwnd() const {
+    const CWnd* volatile self = this; // programs ask NULL objects too; the detour keeps the test in the code
+    return self == nullptr ? nullptr : m_hWnd;
+}
+
+CWnd* CWnd::FromHandle(HWND hWnd) {
+    CWnd* const window = CurrentThreadState().windows.FromHandle(hWnd);
+    // A program may have detached the temporary object by hand.
+    if (window != nullptr && window->m_hWnd == nullptr)
+        window->m_hWnd = hWnd;
+    return window;
+}
+
+CWnd* CWnd::FromHandlePermanent(HWND hWnd) {
+    return CurrentThreadState().windows.Permanent(hWnd);
+}
+
+void CWnd::DeleteTempMap() {
+    CurrentThreadState().windows.DeleteTemporaries();
+}
+
+BOOL CWnd::Attach(HWND hWndNew) {
+    ASSERT(m_hWnd == nullptr);
+    if (hWndNew == nullptr)
+        return FALSE;
+    ASSERT(FromHandlePermanent(hWndNew) == nullptr);
+    m_hWnd = hWndNew;
+    CurrentThreadState().windows.SetPermanent(hWndNew, this);
+    return TRUE;
+}
+
+HWND CWnd::Detach() {
+    const HWND window = m_hWnd;
+    if (window != nullptr && FromHandlePermanent(window) == this)
+        CurrentThreadState().windows.Remove(window);
+    m_hWnd = nullptr;
+    return window;
+}
+
+BOOL CWnd::SubclassWindow(HWND hWnd) {
+    if (m_hWnd != nullptr || FromHandlePermanent(hWnd) != nullptr || !Attach(hWnd))
+        return FALSE;
+    PreSubclassWindow();
+    ::SetLastError(0);
+    const auto former = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
+    if (former == nullptr && ::GetLastError() != 0) { // no such window, or one of another process
+        Detach();
+        return FALSE;
+    }
+    // A window whose procedure is the library's already has no former one to go back to.
+    if (former != AfxWndProc)
+        *GetSuperWndProcAddr() = former;
+    return TRUE;
+}
+
+BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
+    const HWND item = ::GetDlgItem(SafeWindow(pParent), static_cast<int>(nID));
+    return item != nullptr && SubclassWindow(item);
+}
+
+HWND CWnd::UnsubclassWindow() {
+    WNDPROC* const former = GetSuperWndProcAddr();
+    if (m_hWnd != nullptr && *former != nullptr) {
+        ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*former));
+        *former = nullptr;
+    }
+    return Detach();
+}
+
+// ---- Creation: a hook ties the window to its object before the window's first message. ----
+
+/// Runs while this thread creates a window.
+LRESULT CALLBACK AfxCbtHook(int nCode, WPARAM wParam, LPARAM lParam) {
+    ThreadState& state = CurrentThreadState();
+    const HHOOK hook = state.creationHook;
+    CWnd* const object = state.windowInCreation;
+    if (nCode == HCBT_CREATEWND && object != nullptr) {
+        const HWND window = reinterpret_cast<HWND>(wParam);
+        // The system may make an input-method window of its own in between.
+        char className[8] = "";
+        ::GetClassNameA(window, className, static_cast<int>(sizeof(className)));
+        if (_stricmp(className, "ime") != 0) {
+            state.windowInCreation = nullptr;
+            object->Attach(window);
+            object->PreSubclassWindow();
+            const auto former = reinterpret_cast<WNDPROC>(
+                ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
+            if (former != AfxWndProc)
+                *object->GetSuperWndProcAddr() = former;
+        }
+    }
+    return ::CallNextHookEx(hook, nCode, wParam, lParam);
+}
+
+void AfxHookWindowCreate(CWnd* pWnd) {
+    ThreadState& state = CurrentThreadState();
+    if (state.creationHook == nullptr) {
+        state.creationHook = ::SetWindowsHookEx(WH_CBT, AfxCbtHook, nullptr, ::GetCurrentThreadId());
+        if (state.creationHook == nullptr)
+            AfxThrowMemoryException();
+    }
+    ++state.creationHookDepth;
+    state.windowInCreation = pWnd;
+}
+
+BOOL AfxUnhookWindowCreate() {
+    ThreadState& state = CurrentThreadState();
+    // A window that handles its creation by creating another one ends the inner creation first.
+    if (state.creationHookDepth > 0 && --state.creationHookDepth == 0) {
+        ::UnhookWindowsHookEx(state.creationHook);
+        state.creationHook = nullptr;
+    }
+    const bool tied = state.windowInCreation == nullptr;
+    state.windowInCreation = nullptr;
+    return tied;
+}
+
+BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
+    if (cs.lpszClass == nullptr) {
+        ASSERT((cs.style & WS_CHILD) != 0); // top-level windows name their class
+        WNDCLASS windowClass{};
+        windowClass.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
+        windowClass.lpfnWndProc = ::DefWindowProc;
+        windowClass.hInstance = AfxGetInstanceHandle();
+        windowClass.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
+        windowClass.lpszClassName = TEXT("AfxWnd42");
+        if (!AfxRegisterClass(&windowClass))
+            return FALSE;
+        cs.lpszClass = windowClass.lpszClassName;
+    }
+    return TRUE;
+}
+
+BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                  CWnd* pParentWnd, UINT nID, CCreateContext* pContext) {
+    ASSERT(pParentWnd != nullptr);
+    ASSERT((dwStyle & WS_POPUP) == 0);
+    return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID, pContext);
+}
+
+BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                    const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam) {
+    // CFrameWnd::rectDefault leaves the extent to the system too, whose values must not be subtracted.
+    const bool leaveToSystem = rect.left == CW_USEDEFAULT;
+    const int width = leaveToSystem ? CW_USEDEFAULT : rect.right - rect.left;
+    const int height = leaveToSystem ? CW_USEDEFAULT : rect.bottom - rect.top;
+    return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top, width, height,
+                    SafeWindow(pParentWnd), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
+}
+
+BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
+                    int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
+    ASSERT(m_hWnd == nullptr);
+    CREATESTRUCT wanted{};
+    wanted.dwExStyle = dwExStyle;
+    wanted.lpszClass = lpszClassName;
+    wanted.lpszName = lpszWindowName;
+    wanted.style = static_cast<LONG>(dwStyle);
+    wanted.x = x;
+    wanted.y = y;
+    wanted.cx = nWidth;
+    wanted.cy = nHeight;
+    wanted.hwndParent = hWndParent;
+    wanted.hMenu = nIDorHMenu;
+    wanted.hInstance = AfxGetInstanceHandle();
+    wanted.lpCreateParams = lpParam;
+    if (!PreCreateWindow(wanted)) {
+        PostNcDestroy();
+        return FALSE;
+    }
+    AfxHookWindowCreate(this);
+    const HWND window =
+        ::CreateWindowEx(wanted.dwExStyle, wanted.lpszClass, wanted.lpszName,
+                         static_cast<DWORD>(wanted.style), wanted.x, wanted.y, wanted.cx, wanted.cy,
+                         wanted.hwndParent, wanted.hMenu, wanted.hInstance, wanted.lpCreateParams);
+    // Once a window was tied, its WM_NCDESTROY has already cleaned up if the creation failed; the object may
+    // be gone.
+    if (!AfxUnhookWindowCreate())
+        PostNcDestroy();
+    return window != nullptr;
+}
+
+// ---- Destruction ----
+
+BOOL CWnd::DestroyWindow() {
+    if (m_hWnd == nullptr)
+        return FALSE;
+    const HWND window = m_hWnd;
+    const bool attached = FromHandlePermanent(window) == this;
+    const BOOL destroyed = ::DestroyWindow(window);
+    // The map tells whether the object still exists: OnNcDestroy() took it out, and it may have deleted
+    // itself. An object that is only attached gets no WM_NCDESTROY.
+    if (destroyed && attached && FromHandlePermanent(window) == this)
+        Detach();
+    return destroyed;
+}
+
+void CWnd::OnDestroy() {
+    Default();
+}
+
+void CWnd::OnNcDestroy() {
+    if (CWinThread* const thread = AfxGetThread()) {
+        if (thread->m_pMainWnd == this) {
+            AfxPostQuitMessage(0);
+            thread->m_pMainWnd = nullptr;
+        }
+        if (thread->m_pActiveWnd == this)
+            thread->m_pActiveWnd = nullptr;
+    }
+    const HWND window = m_hWnd;
+    Default();
+    // Whatever still arrives goes to the former procedure, unless that has replaced itself meanwhile.
+    WNDPROC* const former = GetSuperWndProcAddr();
+    if (*former != nullptr &&
+        reinterpret_cast<WNDPROC>(::GetWindowLongPtr(window, GWLP_WNDPROC)) == AfxWndProc)
+        ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*former));
+    *former = nullptr;
+    m_hWndOwner = nullptr;
+    Detach();
+    PostNcDestroy();
+}

@@ -1,0 +1,69 @@
+#include "monitor/Console.h"
+
+#include <windows.h>
+
+#include <vector>
+
+namespace kavlix::monitor {
+
+namespace {
+
+/// A program with windows gets no console of its own, but may use that of the program that started it.
+HANDLE FindHandle(DWORD which) {
+    const HANDLE handle = GetStdHandle(which);
+    if (handle && handle != INVALID_HANDLE_VALUE && GetFileType(handle) != FILE_TYPE_UNKNOWN)
+        return handle;
+    if (!AttachConsole(ATTACH_PARENT_PROCESS) && GetLastError() != ERROR_ACCESS_DENIED)
+        return nullptr;
+    const HANDLE console =
+        CreateFileA("CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                    OPEN_EXISTING, 0, nullptr);
+    return console == INVALID_HANDLE_VALUE ? nullptr : console;
+}
+
+bool WriteToConsole(HANDLE console, const std::string& text) {
+    const int length = static_cast<int>(text.size());
+    std::vector<WCHAR> wide(text.size() + 1);
+    const int count =
+        MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(), static_cast<int>(wide.size()));
+    DWORD written = 0;
+    return WriteConsoleW(console, wide.data(), static_cast<DWORD>(count), &written, nullptr) != FALSE;
+}
+
+bool WriteToFile(HANDLE file, const std::string& text) {
+    std::size_t done = 0;
+    while (done < text.size()) {
+        DWORD written = 0;
+        if (!WriteFile(file, text.data() + done, static_cast<DWORD>(text.size() - done), &written, nullptr) ||
+            written == 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+bool Write(DWORD which, const std::string& text) {
+    if (text.empty())
+        return true;
+    const HANDLE handle = FindHandle(which);
+    if (!handle)
+        return false;
+    DWORD mode = 0;
+    const bool isConsole = GetConsoleMode(handle, &mode) != FALSE;
+    const bool done = isConsole ? WriteToConsole(handle, text) : WriteToFile(handle, text);
+    if (handle != GetStdHandle(which))
+        CloseHandle(handle);
+    return done;
+}
+
+} // namespace
+
+bool WriteOutput(const std::string& text) {
+    return Write(STD_OUTPUT_HANDLE, text);
+}
+
+bool WriteError(const std::string& text) {
+    return Write(STD_ERROR_HANDLE, text);
+}
+
+} // namespace kavlix::monitor

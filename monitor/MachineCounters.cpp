@@ -1,0 +1,71 @@
+// The socket header must come before windows.h: this file is compiled without the precompiled header.
+#include <winsock2.h>
+
+#include "monitor/MachineCounters.h"
+
+#include <ws2ipdef.h>
+
+#include <iphlpapi.h>
+
+namespace kavlix::monitor {
+
+namespace {
+
+std::uint64_t ToNumber(const FILETIME& time) {
+    return (static_cast<std::uint64_t>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+}
+
+double NowInSeconds() {
+    LARGE_INTEGER ticks;
+    LARGE_INTEGER frequency;
+    QueryPerformanceCounter(&ticks);
+    QueryPerformanceFrequency(&frequency);
+    return static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+std::optional<MachineCounters::Processor> ReadProcessor() {
+    FILETIME idle;
+    FILETIME kernel;
+    FILETIME user;
+    if (!GetSystemTimes(&idle, &kernel, &user))
+        return std::nullopt;
+    // The time in the kernel includes the idle time.
+    return MachineCounters::Processor{ToNumber(idle), ToNumber(kernel) + ToNumber(user)};
+}
+
+std::optional<double> ReadMemoryPercent() {
+    MEMORYSTATUSEX status;
+    status.dwLength = sizeof status;
+    if (!GlobalMemoryStatusEx(&status) || status.ullTotalPhys == 0)
+        return std::nullopt;
+    return 100 * (1 - static_cast<double>(status.ullAvailPhys) / static_cast<double>(status.ullTotalPhys));
+}
+
+std::optional<std::vector<InterfaceCounters>> ReadInterfaces() {
+    MIB_IF_TABLE2* table = nullptr;
+    if (GetIfTable2(&table) != NO_ERROR)
+        return std::nullopt;
+    std::vector<InterfaceCounters> interfaces;
+    for (ULONG i = 0; i < table->NumEntries; ++i) {
+        const MIB_IF_ROW2& row = table->Table[i];
+        // Filters and virtual interfaces count the bytes of the hardware below them once more.
+        if (row.Type != IF_TYPE_SOFTWARE_LOOPBACK && row.InterfaceAndOperStatusFlags.HardwareInterface &&
+            !row.InterfaceAndOperStatusFlags.FilterInterface)
+            interfaces.push_back({row.InterfaceLuid.Value, row.InOctets, row.OutOctets});
+    }
+    FreeMibTable(table);
+    return interfaces;
+}
+
+} // namespace
+
+MachineCounters ReadMachineCounters() {
+    MachineCounters counters;
+    counters.seconds = NowInSeconds();
+    counters.processor = ReadProcessor();
+    counters.memoryPercent = ReadMemoryPercent();
+    counters.interfaces = ReadInterfaces();
+    return counters;
+}
+
+} // namespace kavlix::monitor

@@ -1,0 +1,252 @@
+// Where the main window's data come from: files, read in slices, or the machine itself; and how the program
+// ends.
+
+#include "monitor/MainFrame.h"
+
+#include "monitor/Console.h"
+#include "monitor/WindowPicture.h"
+#include "monitor/recording/CheckReport.h"
+#include "monitor/recording/NumberText.h"
+#include "monitor/resource.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+namespace kavlix::monitor {
+
+using recording::Recording;
+using recording::RecordingLoader;
+
+namespace {
+
+constexpr UINT_PTR kLiveTimer = 1;
+constexpr UINT_PTR kEndTimer = 2;
+constexpr UINT kLiveInterval = 1000;      // milliseconds
+constexpr double kLivePictureSeconds = 3; // live readings before a picture when no time is asked for
+constexpr double kMillisPerSecond = 1000;
+constexpr std::size_t kNamedFiles = 2;       // more are only counted in titles
+constexpr double kLongestTimer = 0x7FFFFFFF; // milliseconds: what a window timer can wait
+
+std::string BaseName(const std::string& path) {
+    const std::size_t slash = path.find_last_of("/\\:");
+    return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+CGraphCtrl::GraphStyle ToGraphStyle(recording::ViewStyle style) {
+    return static_cast<CGraphCtrl::GraphStyle>(style);
+}
+
+std::vector<std::string> NamesOf(const Recording& recording) {
+    std::vector<std::string> names;
+    for (const recording::Series& series : recording.series)
+        names.push_back(series.name);
+    return names;
+}
+
+} // namespace
+
+void CMainFrame::Start() {
+    if (!m_options.files.empty())
+        BeginReading(m_options.files);
+    else
+        BeginLive();
+    m_fromCommandLine = true;
+
+    double seconds = m_options.seconds.value_or(0);
+    if (!m_options.seconds && m_live && !m_options.shot.empty())
+        seconds = kLivePictureSeconds;
+    if (seconds > 0)
+        SetTimer(kEndTimer, static_cast<UINT>(std::clamp(seconds * kMillisPerSecond, 1.0, kLongestTimer)),
+                 nullptr);
+}
+
+bool CMainFrame::WorkInIdle() {
+    if (m_loader) {
+        ReadSlice();
+        return true;
+    }
+    if (std::exchange(m_pictureDue, false))
+        TakePicture();
+    return false;
+}
+
+void CMainFrame::BeginReading(std::vector<std::string> paths) {
+    KillTimer(kLiveTimer);
+    m_live.reset();
+    m_fromCommandLine = false;
+    m_paths = std::move(paths);
+    m_loader = std::make_unique<RecordingLoader>(m_paths);
+    SetWindowText(("Kavlix Monitor - " + SourceText()).c_str());
+    m_recording.reset();
+    ShowNothing("Reading " + SourceText());
+}
+
+void CMainFrame::ShowNothing(const std::string& title) {
+    GraphSettings settings;
+    settings.title = title;
+    settings.legend = false;
+    settings.gridY = false;
+    m_graph.Show(GraphSource(), std::move(settings));
+}
+
+void CMainFrame::ReadSlice() {
+    const recording::Progress progress = m_loader->Step(RecordingLoader::kSlice);
+    if (progress.finished) {
+        const std::unique_ptr<RecordingLoader> loader = std::move(m_loader);
+        ShowRecording(loader->Take());
+        return;
+    }
+    const std::string file =
+        progress.file < m_paths.size() ? BaseName(m_paths[progress.file]) : std::string();
+    SetStatus("Reading " + file + "   " + std::to_string(progress.Percent()) + " %   (Escape stops)",
+              recording::FormatCount(progress.rows) + " rows");
+}
+
+void CMainFrame::CancelReading() {
+    const std::unique_ptr<RecordingLoader> loader = std::move(m_loader);
+    loader->Cancel();
+    ShowRecording(loader->Take());
+}
+
+void CMainFrame::ShowRecording(Recording read) {
+    m_recording = std::make_shared<const Recording>(std::move(read));
+    const auto style = m_options.style.value_or(recording::ViewStyle::Line);
+    if (m_recording->Empty())
+        ShowNothing("Nothing to show: " + SourceText());
+    else
+        m_graph.Show({m_recording, {}, {}, 0},
+                     DefaultSettings(SourceText(), NamesOf(*m_recording), m_recording->times.size(),
+                                     ToGraphStyle(style)));
+    ShowSelection();
+    if (!m_fromCommandLine)
+        return;
+    m_exitStatus = static_cast<int>(m_recording->GetStatus());
+    if (!m_options.shot.empty()) {
+        WriteError(recording::MessageReport(*m_recording));
+        m_pictureDue = !m_options.seconds;
+    } else if (m_recording->GetStatus() == recording::Status::Nothing) {
+        PostMessage(WM_COMMAND, ID_VIEW_MESSAGES);
+    }
+}
+
+void CMainFrame::BeginLive() {
+    m_loader.reset();
+    m_recording.reset();
+    m_paths.clear();
+    m_fromCommandLine = false;
+    m_live = std::make_unique<LiveReadings>();
+    m_counters = ReadMachineCounters();
+    const auto style = m_options.style.value_or(recording::ViewStyle::Line);
+    GraphSettings settings = DefaultSettings("Live readings of this machine", m_live->SeriesNames(),
+                                             LiveReadings::kHistory, ToGraphStyle(style));
+    m_graph.Show(
+        {m_live->History(), LiveReadings::AxisSpan(), m_live->AxisText(), LiveReadings::kShownAtLeast},
+        std::move(settings));
+    SetWindowText("Kavlix Monitor - live readings");
+    SetStatus(m_live->LatestText(), "");
+    SetTimer(kLiveTimer, kLiveInterval, nullptr);
+}
+
+void CMainFrame::TakeLiveReading() {
+    MachineCounters now = ReadMachineCounters();
+    const LiveReadings::Change change = m_live->Add(LocalTimeNow(), RatesBetween(m_counters, now));
+    m_counters = std::move(now);
+
+    GraphSource source{m_live->History(), LiveReadings::AxisSpan(), m_live->AxisText(),
+                       LiveReadings::kShownAtLeast};
+    GraphSettings settings = m_graph.Settings();
+    const std::vector<std::string> names = m_live->SeriesNames();
+    for (std::size_t i = 0; i < names.size() && i < settings.series.size(); ++i)
+        settings.series[i].name = names[i];
+    if (change.unitChanged || !(settings == m_graph.Settings()))
+        m_graph.Show(std::move(source), std::move(settings));
+    else
+        m_graph.ShowGrown(std::move(source), change.removed);
+    ShowSelection();
+}
+
+void CMainFrame::OnTimer(UINT_PTR nIDEvent) {
+    if (nIDEvent == kLiveTimer && m_live) {
+        TakeLiveReading();
+    } else if (nIDEvent == kEndTimer) {
+        KillTimer(kEndTimer);
+        EndAsAsked();
+    } else {
+        CFrameWnd::OnTimer(nIDEvent);
+    }
+}
+
+void CMainFrame::EndAsAsked() {
+    if (m_loader)
+        CancelReading();
+    if (m_options.shot.empty())
+        PostMessage(WM_CLOSE);
+    else
+        m_pictureDue = true;
+}
+
+void CMainFrame::TakePicture() {
+    const std::string fault = SavePicture(*this, m_options.shot);
+    if (!fault.empty()) {
+        WriteError("--shot: " + fault + "\n");
+        m_exitStatus = static_cast<int>(recording::Status::Nothing);
+    }
+    PostMessage(WM_CLOSE);
+}
+
+std::string CMainFrame::SourceText() const {
+    if (m_paths.size() > kNamedFiles)
+        return std::to_string(m_paths.size()) + " recordings";
+    std::string text;
+    for (const std::string& path : m_paths)
+        text += (text.empty() ? "" : ", ") + BaseName(path);
+    return text;
+}
+
+std::string CMainFrame::MarkText(const CMonitorGraph::Mark& mark) const {
+    std::string text = recording::FormatDateTime(mark.time, recording::TimePrecision::Seconds);
+    for (std::size_t i = 0; i < mark.values.size() && i < m_graph.Settings().series.size(); ++i) {
+        if (std::isnan(mark.values[i]))
+            continue;
+        // A mean has more digits than its samples say.
+        char mean[32];
+        std::snprintf(mean, sizeof mean, "%.6g", mark.values[i]);
+        text += "   " + m_graph.Settings().series[i].name + ": " +
+                (m_graph.SamplesEach() > 1 ? std::string(mean) : recording::FormatNumber(mark.values[i]));
+    }
+    return text;
+}
+
+std::string CMainFrame::RangeText() const {
+    if (SampleCount() == 0)
+        return "Nothing to show";
+    const recording::VisibleRange range = m_graph.Visible();
+    std::string text =
+        recording::FormatDateTime(m_recording->times[range.first], recording::TimePrecision::Seconds) +
+        "  to  " +
+        recording::FormatDateTime(m_recording->times[range.last], recording::TimePrecision::Seconds) +
+        (m_recording->Zoned() ? "  UTC" : "");
+    if (m_graph.SamplesEach() > 1)
+        text += (m_graph.Settings().style == CGraphCtrl::GraphStyleBar ? "   each bar the mean of "
+                                                                       : "   lowest and highest of every ") +
+                recording::FormatCount(m_graph.SamplesEach()) + " samples";
+    if (m_recording->cancelled)
+        text += "   reading was stopped";
+    return text;
+}
+
+void CMainFrame::ShowSelection() {
+    const CMonitorGraph::Mark mark = m_graph.SelectionMark();
+    std::string text;
+    if (mark.index >= 0)
+        text = MarkText(mark);
+    else if (m_live)
+        text = m_live->LatestText();
+    else if (m_recording)
+        text = RangeText();
+    SetStatus(text, m_recording ? recording::StatusLine(*m_recording) : std::string());
+}
+
+} // namespace kavlix::monitor

@@ -1,0 +1,24 @@
+#include "monitor/MessagesDlg.h"
+
+namespace kavlix::monitor {
+
+CMessagesDlg::CMessagesDlg(const std::string& text, CWnd* parent)
+    : CDialog(CMessagesDlg::IDD, parent), m_text(text.c_str()) {
+    // Edit controls break lines at both characters only.
+    m_text.Replace("\r\n", "\n");
+    m_text.Replace("\n", "\r\n");
+}
+
+void CMessagesDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_Text(pDX, IDC_MESSAGES, m_text);
+}
+
+BOOL CMessagesDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    // The whole text would be selected when the edit control gets the focus.
+    GetDlgItem(IDOK)->SetFocus();
+    return FALSE;
+}
+
+} // namespace kavlix::monitor

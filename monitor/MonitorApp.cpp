@@ -1,0 +1,94 @@
+#include "monitor/MonitorApp.h"
+
+#include "monitor/Console.h"
+#include "monitor/MainFrame.h"
+#include "monitor/recording/CheckReport.h"
+#include "monitor/recording/Options.h"
+#include "monitor/recording/RecordingLoader.h"
+#include "monitor/resource.h"
+
+#include <cstdlib>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kavlix::monitor {
+
+namespace {
+
+constexpr int kNothing = static_cast<int>(recording::Status::Nothing);
+
+std::vector<std::string> Arguments() {
+    return std::vector<std::string>(__argv + (__argc > 0 ? 1 : 0), __argv + __argc);
+}
+
+/// Tells somebody who started the program from a terminal, or else somebody who started it with the mouse.
+void Tell(const std::string& text) {
+    if (!WriteError(text + "\n"))
+        AfxMessageBox(text.c_str(), MB_OK | MB_ICONEXCLAMATION);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMonitorApp, CWinApp)
+ON_COMMAND(ID_APP_ABOUT, &CMonitorApp::OnAppAbout)
+END_MESSAGE_MAP()
+
+CMonitorApp::CMonitorApp() : CWinApp("Kavlix Monitor") {
+}
+
+BOOL CMonitorApp::InitInstance() {
+    CWinApp::InitInstance();
+    recording::Options options = recording::ParseOptions(Arguments());
+    if (options.help) {
+        WriteOutput(recording::HelpText());
+        return FALSE;
+    }
+    if (!options.error.empty()) {
+        Tell(options.error);
+        m_exitStatus = kNothing;
+        return FALSE;
+    }
+    if (options.check) {
+        const recording::Recording read = recording::RecordingLoader::Load(options.files);
+        WriteOutput(recording::CheckReport(read));
+        m_exitStatus = static_cast<int>(read.GetStatus());
+        return FALSE;
+    }
+
+    // A window that starts as an icon has no picture.
+    const int show = options.shot.empty() ? m_nCmdShow : SW_SHOWNORMAL;
+    m_frame = new CMainFrame(std::move(options), m_exitStatus);
+    if (!m_frame->CreateMainWindow()) {
+        // A frame whose window cannot be made has deleted itself.
+        m_frame = nullptr;
+        Tell("The window cannot be made: is there a display?");
+        m_exitStatus = kNothing;
+        return FALSE;
+    }
+    m_pMainWnd = m_frame;
+    m_frame->ShowWindow(show);
+    m_frame->UpdateWindow();
+    m_frame->Start();
+    return TRUE;
+}
+
+int CMonitorApp::ExitInstance() {
+    CWinApp::ExitInstance();
+    return m_exitStatus;
+}
+
+BOOL CMonitorApp::OnIdle(LONG lCount) {
+    const BOOL more = CWinApp::OnIdle(lCount);
+    if (!m_pMainWnd)
+        return more;
+    return m_frame->WorkInIdle() || more;
+}
+
+void CMonitorApp::OnAppAbout() {
+    CDialog(IDD_ABOUT, m_pMainWnd).DoModal();
+}
+
+CMonitorApp theApp;
+
+} // namespace kavlix::monitor

@@ -1,0 +1,200 @@
+#include "monitor/MonitorGraph.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace kavlix::monitor {
+
+using recording::Recording;
+using recording::VisibleRange;
+
+namespace {
+
+/// Samples handed to the control for lines: many times what the widest screen has pixels, and little enough
+/// that changing the view takes no time to speak of.
+constexpr std::size_t kLineSamples = 50'000;
+
+/// The control labels at most one time in so many logical units.
+constexpr int kLineLabelDistance = 800;
+constexpr int kBarLabelDistance = 1000;
+
+VisibleRange AllOf(const GraphSource& source) {
+    const std::size_t size = source.recording ? source.recording->times.size() : 0;
+    return {0, size == 0 ? 0 : size - 1};
+}
+
+CString ToText(const std::string& text) {
+    return CString(text.c_str());
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMonitorGraph, CGraphCtrl)
+ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+bool CMonitorGraph::CreateChild(CWnd& parent, UINT id) {
+    // The samples are those of a recording: they are looked at, not removed.
+    ShowMenuRemoveDataBeforeSelectionMark(FALSE);
+    return Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id) !=
+           FALSE;
+}
+
+void CMonitorGraph::Show(GraphSource source, GraphSettings settings) {
+    m_source = std::move(source);
+    m_settings = std::move(settings);
+    m_visible = AllOf(m_source);
+    m_fed = false;
+    Fit();
+}
+
+void CMonitorGraph::ShowGrown(GraphSource source, std::size_t removed) {
+    const int marked = m_SelectionMarkPos;
+    const bool whole = m_fed && m_shown.samplesEach == 1 && ShowsAll();
+    const std::size_t held = m_shown.recording.times.size();
+    m_source = std::move(source);
+    m_visible = AllOf(m_source);
+    if (whole && !m_fedBars && removed <= held && m_source.recording->times.size() <= kLineSamples) {
+        m_shown = Reduce(kLineSamples);
+        if (recording::ChooseTimeLabels(m_shown.recording.times, m_timeLabels) == m_labels) {
+            if (removed > 0)
+                RemoveHeadData(static_cast<int>(removed));
+            FeedTail(held - removed);
+        } else {
+            FeedAll();
+        }
+    } else {
+        m_fed = false;
+    }
+    Fit();
+    const int kept = marked < 0 ? -1 : marked - static_cast<int>(removed);
+    if (whole && m_shown.samplesEach == 1 && kept >= 0)
+        SetSelectionMarkPos(kept);
+}
+
+void CMonitorGraph::SetSettings(GraphSettings settings) {
+    m_settings = std::move(settings);
+    Fit();
+}
+
+void CMonitorGraph::SetVisible(VisibleRange range) {
+    const VisibleRange all = AllOf(m_source);
+    m_visible = {std::min(range.first, all.last), std::min(range.last, all.last)};
+    if (m_visible.first > m_visible.last)
+        std::swap(m_visible.first, m_visible.last);
+    m_fed = false;
+    Fit();
+}
+
+bool CMonitorGraph::ShowsAll() const {
+    const VisibleRange all = AllOf(m_source);
+    return m_visible.first == 0 && m_visible.last == all.last;
+}
+
+CMonitorGraph::Mark CMonitorGraph::SelectionMark() const {
+    Mark mark;
+    if (m_SelectionMarkPos < 0 ||
+        static_cast<std::size_t>(m_SelectionMarkPos) >= m_shown.recording.times.size())
+        return mark;
+    mark.index = m_SelectionMarkPos;
+    const auto index = static_cast<std::size_t>(mark.index);
+    mark.time = m_shown.recording.times[index];
+    // What a line goes through between two samples of a series is no sample.
+    const bool asRead = m_shown.samplesEach == 1;
+    for (const auto& series : asRead ? m_source.recording->series : m_shown.recording.series)
+        mark.values.push_back(series.values[asRead ? m_visible.first + index : index]);
+    return mark;
+}
+
+std::optional<std::size_t> CMonitorGraph::MarkedSample() const {
+    if (m_SelectionMarkPos < 0 || m_shown.recording.times.empty())
+        return std::nullopt;
+    // In a reduced picture of lines two samples of the picture stand for one run of the recording.
+    const std::size_t perRun = !m_fedBars && m_shown.samplesEach > 1 ? 2 : 1;
+    const std::size_t run = static_cast<std::size_t>(m_SelectionMarkPos) / perRun;
+    return std::min(m_visible.first + run * m_shown.samplesEach, m_visible.last);
+}
+
+void CMonitorGraph::OnSize(UINT nType, int cx, int cy) {
+    CGraphCtrl::OnSize(nType, cx, cy);
+    if (cx > 0 && cy > 0)
+        Fit();
+}
+
+void CMonitorGraph::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) {
+    if (!m_measuring)
+        CGraphCtrl::DrawXAxis(dc, rectLabel, rectAxis, nTicks);
+}
+
+void CMonitorGraph::DrawGraphData(CDC& dc) {
+    if (!m_measuring)
+        CGraphCtrl::DrawGraphData(dc);
+}
+
+void CMonitorGraph::FeedSamples(const Layout& layout) {
+    const bool bars = m_settings.style == GraphStyleBar;
+    const std::size_t limit = SampleLimit(layout);
+    m_timeLabels = static_cast<int>(layout.plot.cx) / (bars ? kBarLabelDistance : kLineLabelDistance);
+    if (m_fed && m_fedBars == bars && m_fedLimit == limit &&
+        recording::ChooseTimeLabels(m_shown.recording.times, m_timeLabels) == m_labels)
+        return;
+    const int marked = m_fed && m_fedBars == bars ? m_SelectionMarkPos : -1;
+    const std::size_t before = m_shown.recording.times.size();
+    m_shown = Reduce(limit);
+    FeedAll();
+    m_fed = true;
+    m_fedBars = bars;
+    m_fedLimit = limit;
+    if (marked >= 0 && before == m_shown.recording.times.size())
+        SetSelectionMarkPos(marked);
+}
+
+void CMonitorGraph::FeedAll() {
+    SetAutoXVisible(FALSE);
+    for (int i = 0; i < DatasetCount; ++i)
+        ResetData(i);
+    ResetXTickLabel();
+    const Recording& shown = m_shown.recording;
+    m_labels = recording::ChooseTimeLabels(shown.times, m_timeLabels);
+    SetXTickLabelHeight(m_labels.bandHeight);
+    SetXTickLabelUpStringMaxLength(m_labels.chars);
+    FeedTail(0);
+}
+
+void CMonitorGraph::FeedTail(std::size_t first) {
+    const Recording& shown = m_shown.recording;
+    const std::size_t seriesCount = std::min<std::size_t>(shown.series.size(), DatasetCount);
+    for (std::size_t series = 0; series < seriesCount; ++series) {
+        const auto& values = shown.series[series].values;
+        for (std::size_t i = first; i < values.size(); ++i)
+            AddData(static_cast<int>(series), values[i], nullptr);
+    }
+    for (std::size_t i = first; i < shown.times.size(); ++i)
+        AddXTickLabel(ToText(recording::MakeTimeLabel(m_labels, shown.times[i])), CString());
+    // Of the samples read, since the last bar begins before they end.
+    const std::vector<recording::Time>* const times =
+        m_source.recording ? &m_source.recording->times : nullptr;
+    std::vector<recording::Time> ends;
+    if (times && !times->empty())
+        ends = {(*times)[m_visible.first], (*times)[m_visible.last]};
+    m_timeTitle = recording::TimeAxisTitle(ends, m_labels, shown.Zoned());
+}
+
+std::size_t CMonitorGraph::SampleLimit(const Layout& layout) const {
+    if (m_settings.style != GraphStyleBar)
+        return kLineSamples;
+    // Bars that can be seen well: four pixels and more.
+    const std::size_t series = m_source.recording ? m_source.recording->series.size() : 1;
+    return recording::BarCapacity(static_cast<int>(layout.plot.cx / 4), std::max<std::size_t>(series, 1));
+}
+
+ShownSamples CMonitorGraph::Reduce(std::size_t limit) const {
+    if (!m_source.recording)
+        return {};
+    return m_settings.style == GraphStyleBar ? ReduceForBars(*m_source.recording, m_visible, limit)
+                                             : ReduceForLines(*m_source.recording, m_visible, limit);
+}
+
+} // namespace kavlix::monitor

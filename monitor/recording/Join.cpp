@@ -1,0 +1,132 @@
+#include "monitor/recording/Join.h"
+
+#include "monitor/recording/NumberText.h"
+
+#include <algorithm>
+#include <limits>
+#include <set>
+#include <utility>
+
+namespace kavlix::recording {
+namespace {
+
+constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
+
+/// A name that several files have is told apart by the file: by its name alone when that says enough.
+std::string NameInFile(const std::vector<Table>& tables, std::size_t file, const std::string& name,
+                       const std::string& path) {
+    for (std::size_t other = 0; other < tables.size(); ++other) {
+        const std::vector<std::string>& names = tables[other].names;
+        if (other != file && std::find(names.begin(), names.end(), name) != names.end()) {
+            const std::string stem = ToValidUtf8(FileStem(path));
+            return tables[file].names.size() == 1 ? stem : stem + ": " + name;
+        }
+    }
+    return name;
+}
+
+std::string MakeDistinct(std::set<std::string>& taken, const std::string& name) {
+    std::string distinct = name;
+    for (int number = 2; !taken.insert(distinct).second; ++number) {
+        distinct = name + " (" + std::to_string(number) + ")";
+    }
+    return distinct;
+}
+
+void NameSeries(const std::vector<Table>& tables, Recording& recording) {
+    std::set<std::string> taken;
+    for (std::size_t file = 0; file < tables.size(); ++file) {
+        for (std::size_t i = 0; i < tables[file].names.size(); ++i) {
+            Series series;
+            series.file = file;
+            series.name = MakeDistinct(
+                taken, NameInFile(tables, file, tables[file].names[i], recording.files[file].path));
+            recording.files[file].series[i].name = series.name;
+            recording.series.push_back(std::move(series));
+        }
+    }
+}
+
+/// Walks several tables in the order of time. Every step takes the rows of the next time, one a table at
+/// most, so that equal times within a table stay rows of their own.
+class Merge {
+public:
+    explicit Merge(const std::vector<Table>& tables)
+        : m_tables(tables), m_next(tables.size(), 0), m_taken(tables.size()) {}
+
+    /// @return false at the end.
+    bool Step(Time& time) {
+        bool any = false;
+        for (std::size_t file = 0; file < m_tables.size(); ++file) {
+            if (HasRow(file) && (!any || Head(file) < time)) {
+                time = Head(file);
+                any = true;
+            }
+        }
+        for (std::size_t file = 0; any && file < m_tables.size(); ++file) {
+            m_taken[file] = HasRow(file) && Head(file) == time;
+            m_next[file] += m_taken[file] ? 1 : 0;
+        }
+        return any;
+    }
+
+    /// The value of the current step.
+    double Value(std::size_t file, std::size_t column) const {
+        return m_taken[file] ? m_tables[file].columns[column][m_next[file] - 1] : kGap;
+    }
+
+private:
+    bool HasRow(std::size_t file) const { return m_next[file] < m_tables[file].times.size(); }
+    Time Head(std::size_t file) const { return m_tables[file].times[m_next[file]]; }
+
+    const std::vector<Table>& m_tables;
+    std::vector<std::size_t> m_next;
+    std::vector<bool> m_taken;
+};
+
+void MergeRows(const std::vector<Table>& tables, Recording& recording) {
+    std::size_t longest = 0;
+    for (const Table& table : tables) {
+        longest = std::max(longest, table.times.size());
+    }
+    recording.times.reserve(longest);
+    for (Series& series : recording.series) {
+        series.values.reserve(longest);
+    }
+    Merge merge(tables);
+    for (Time time = 0; merge.Step(time);) {
+        recording.times.push_back(time);
+        std::size_t target = 0;
+        for (std::size_t file = 0; file < tables.size(); ++file) {
+            for (std::size_t column = 0; column < tables[file].columns.size(); ++column) {
+                recording.series[target++].values.push_back(merge.Value(file, column));
+            }
+        }
+    }
+}
+
+} // namespace
+
+std::string FileStem(const std::string& path) {
+    const std::size_t slash = path.find_last_of("/\\");
+    const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
+    const std::size_t point = name.rfind('.');
+    const std::string stem = point == std::string::npos || point == 0 ? name : name.substr(0, point);
+    return stem.empty() ? "file" : stem;
+}
+
+void JoinTables(std::vector<Table> tables, Recording& recording) {
+    NameSeries(tables, recording);
+    const auto hasRows = [](const Table& table) { return !table.times.empty(); };
+    if (std::count_if(tables.begin(), tables.end(), hasRows) != 1) {
+        MergeRows(tables, recording);
+        return;
+    }
+    Table& only = *std::find_if(tables.begin(), tables.end(), hasRows);
+    recording.times = std::move(only.times);
+    for (std::size_t i = 0; i < only.columns.size(); ++i) {
+        recording.series[i].values = std::move(only.columns[i]);
+    }
+}
+
+} // namespace kavlix::recording

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace kavlix::recording {
+
+/// What a message is about. Messages of one kind are limited for each file.
+enum class Complaint {
+    File,          ///< the file cannot be opened, is empty, is no text, has no series
+    Header,        ///< no header row, or a name in it
+    Line,          ///< a line beyond the limit
+    Quote,         ///< an open quote, or text behind a closing one
+    Time,          ///< an unreadable time
+    TimeBackwards, ///< a time before the previous row's
+    Cell,          ///< a cell that is no number
+    ShortRow,      ///< a row with too few cells
+    LongRow,       ///< a row with too many cells
+    SeriesLimit,   ///< more series than can be shown
+    Memory,        ///< the memory ran out
+    Count_         ///< number of kinds
+};
+
+/// One thing that was wrong.
+struct Message {
+    Complaint complaint = Complaint::File;
+    std::string file;
+    std::uint64_t line = 0;   ///< from 1; 0 when the whole file is meant
+    std::uint64_t column = 0; ///< byte position in the line, from 1; 0 when the whole line is meant
+    std::string text;         ///< what was expected and what was found
+
+    /// `FILE:LINE:COLUMN: text`, without the parts that are 0.
+    std::string ToText() const;
+};
+
+/// The messages about one file. The first kLimit of every kind are kept, of the others only the count.
+class MessageLog {
+public:
+    static constexpr std::size_t kLimit = 5;
+
+    explicit MessageLog(std::string file = {}) : m_file(std::move(file)) {}
+
+    /// Counts one message of the kind; true when its text is still wanted, and must be given with Add.
+    bool Count(Complaint complaint);
+
+    /// Keeps the text of a message that Count asked for.
+    void Add(Complaint complaint, std::uint64_t line, std::uint64_t column, std::string text);
+
+    /// The kept messages in the order they came.
+    const std::vector<Message>& Kept() const { return m_kept; }
+
+    /// How many messages of the kind there were, kept or not.
+    std::uint64_t CountOf(Complaint complaint) const { return m_counts[static_cast<std::size_t>(complaint)]; }
+
+    /// How many messages there were in all.
+    std::uint64_t Total() const;
+
+    /// One line a message, and one line for each kind of which more were counted than kept.
+    std::vector<std::string> Lines() const;
+
+private:
+    std::string m_file;
+    std::vector<Message> m_kept;
+    std::array<std::uint64_t, static_cast<std::size_t>(Complaint::Count_)> m_counts{};
+};
+
+} // namespace kavlix::recording

@@ -1,0 +1,40 @@
+#pragma once
+
+// Identifiers of the program's own resources and commands.
+
+#define IDR_MAINFRAME 100
+#define IDD_SETTINGS 110
+#define IDD_MESSAGES 111
+#define IDD_ABOUT 112
+
+#define IDC_GRAPH 1000
+#define IDC_STATUS 1001
+#define IDC_PREVIEW 1010
+#define IDC_TITLE 1011
+#define IDC_STYLE 1012
+#define IDC_TITLE_STYLE 1013
+#define IDC_LEGEND 1014
+#define IDC_GRID_X 1015
+#define IDC_GRID_Y 1016
+#define IDC_SERIES 1017
+#define IDC_COLOR 1018
+#define IDC_LINE_SIZE 1019
+#define IDC_MARKER 1020
+#define IDC_SHOW_SERIES 1021
+#define IDC_MESSAGES 1030
+
+#define ID_FILE_LIVE 32771
+#define ID_FILE_SAVE_PICTURE 32772
+#define ID_VIEW_LINE 32780
+#define ID_VIEW_BAR 32781
+#define ID_VIEW_TWO_AXES 32782
+#define ID_VIEW_LEGEND 32783
+#define ID_VIEW_GRID_X 32784
+#define ID_VIEW_GRID_Y 32785
+#define ID_VIEW_ZOOM_IN 32786
+#define ID_VIEW_ZOOM_OUT 32787
+#define ID_VIEW_EARLIER 32788
+#define ID_VIEW_LATER 32789
+#define ID_VIEW_FULL_RANGE 32790
+#define ID_VIEW_MESSAGES 32791
+#define ID_SETTINGS 32800

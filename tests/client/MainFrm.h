@@ -1,0 +1,57 @@
+// MainFrm.h : interface of the CMainFrame class
+//
+
+#if !defined(AFX_MAINFRM_H__INCLUDED_)
+#define AFX_MAINFRM_H__INCLUDED_
+
+class CMonitorDlg;
+
+class CMainFrame : public CFrameWnd
+{
+public:
+    CMainFrame();
+protected:
+    DECLARE_DYNAMIC(CMainFrame)
+
+// Attributes
+public:
+    static int m_nAlive;
+    BOOL m_bOn;
+    int m_nTarget;
+    int m_nUnits;
+    CString m_strName;
+    CMonitorDlg* m_pMonitor;
+    int m_nPaints;
+
+// Overrides
+    //{{AFX_VIRTUAL(CMainFrame)
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    //}}AFX_VIRTUAL
+
+// Implementation
+public:
+    virtual ~CMainFrame();
+
+// Generated message map functions
+protected:
+    //{{AFX_MSG(CMainFrame)
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnPaint();
+    afx_msg void OnHeatingOn();
+    afx_msg void OnUpdateHeatingOn(CCmdUI* pCmdUI);
+    afx_msg void OnHeatingWarmer();
+    afx_msg void OnUpdateHeatingWarmer(CCmdUI* pCmdUI);
+    afx_msg void OnViewSettings();
+    afx_msg void OnViewMonitor();
+    //}}AFX_MSG
+    afx_msg void OnUnits(UINT nID);
+    afx_msg void OnUpdateUnits(CCmdUI* pCmdUI);
+    DECLARE_MESSAGE_MAP()
+
+    void Refresh();
+    CFont m_font;
+};
+
+/////////////////////////////////////////////////////////////////////////////
+
+#endif // !defined(AFX_MAINFRM_H__INCLUDED_)

@@ -1,0 +1,42 @@
+// Thermostat.h : main header file for the THERMOSTAT application
+//
+
+#if !defined(AFX_THERMOSTAT_H__INCLUDED_)
+#define AFX_THERMOSTAT_H__INCLUDED_
+
+#ifndef __AFXWIN_H__
+    #error include 'stdafx.h' before including this file for PCH
+#endif
+
+#include "resource.h"       // main symbols
+
+/////////////////////////////////////////////////////////////////////////////
+// CThermostatApp:
+// See Thermostat.cpp for the implementation of this class
+//
+
+class CThermostatApp : public CWinApp
+{
+public:
+    CThermostatApp();
+
+    int m_nExits;
+
+// Overrides
+    // ClassWizard generated virtual function overrides
+    //{{AFX_VIRTUAL(CThermostatApp)
+    public:
+    virtual BOOL InitInstance();
+    virtual int ExitInstance();
+    //}}AFX_VIRTUAL
+
+// Implementation
+    //{{AFX_MSG(CThermostatApp)
+    afx_msg void OnAppAbout();
+    //}}AFX_MSG
+    DECLARE_MESSAGE_MAP()
+};
+
+extern CThermostatApp theApp;
+
+#endif // !defined(AFX_THERMOSTAT_H__INCLUDED_)

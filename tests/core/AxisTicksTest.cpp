@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <utility>
+#include <vector>
+
+#include "graphctrl/AxisTicks.h"
+
+namespace kavlix {
+namespace {
+
+using Ticks = std::vector<std::pair<int, int>>; // index, position
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+std::vector<std::string> Labels(double min, double max, int ticks, int exponent, int decimals) {
+    std::vector<std::string> labels;
+    ValueTicks values(min, max, ticks, exponent);
+    for (int i = 0; i < ticks; ++i, values.Next())
+        labels.push_back(FormatTick(values.Value(), decimals));
+    return labels;
+}
+
+TEST(ValueTicksTest, Labels) {
+    using List = std::vector<std::string>;
+    EXPECT_EQ(Labels(0, 100, 5, 0, 0), (List{"0", "25", "50", "75", "100"}));
+    EXPECT_EQ(Labels(0, 100000, 5, 3, 1), (List{"0.0", "25.0", "50.0", "75.0", "100.0"}));
+    EXPECT_EQ(Labels(0, 100, 5, 3, 1), (List{"0.0", "0.0", "0.1", "0.1", "0.1"}));
+    EXPECT_EQ(Labels(10, -10, 3, 0, -4), (List{"10", "0", "-10"}));
+    EXPECT_EQ(Labels(7, 7, 2, 0, 2), (List{"7.00", "7.00"}));
+    EXPECT_EQ(Labels(0, 1, 2, -2, 0), (List{"0", "100"}));
+    EXPECT_EQ(Labels(0, 3, 2, -400, 0), (List{"0", "3"})); // 10^-400 is 0: undivided
+}
+
+TEST(ValueTicksTest, ValuesCarryTheRoundingOfRepeatedAddition) {
+    ValueTicks values(0, 1, 11, 0);
+    double sum = 0;
+    for (int i = 0; i < 10; ++i, sum += 0.1)
+        values.Next();
+    EXPECT_EQ(values.Value(), sum);
+    EXPECT_NE(values.Value(), 1.0);
+}
+
+TEST(ValueTicksTest, NoTextIsTooLong) {
+    EXPECT_EQ(FormatTick(1.5, 400).size(), 402u);
+    EXPECT_EQ(FormatTick(1e300, 0).size(), 301u);
+    EXPECT_EQ(FormatTick(-1e300, 400).size(), 703u);
+    EXPECT_LE(FormatTick(1, INT_MAX).size(), 8200u);
+    EXPECT_FALSE(FormatTick(kInfinity, 2).empty());
+    EXPECT_FALSE(FormatTick(std::nan(""), INT_MAX).empty());
+}
+
+// The rule as it reads, visiting every point.
+template <class Position> Ticks WalkedTicks(int count, int left, int minGap, Position xOf) {
+    Ticks ticks;
+    std::int64_t nextX = left;
+    int interval = -1;
+    int counted = -1;
+    for (int i = 0; i < count; ++i) {
+        const int x = xOf(i);
+        if (x < nextX)
+            continue;
+        if (counted != -1)
+            ++counted;
+        if (interval != -1) {
+            if (counted % interval != 0)
+                continue;
+        } else if (nextX != left) {
+            interval = i;
+            counted = 0;
+        }
+        ticks.emplace_back(i, x);
+        if (interval == -1)
+            nextX += minGap;
+    }
+    return ticks;
+}
+
+template <class Position> Ticks ThinnedTicks(int count, int left, int minGap, Position xOf) {
+    Ticks ticks;
+    ThinTicks(count, left, minGap, xOf, [&](int i, int x) { ticks.emplace_back(i, x); });
+    return ticks;
+}
+
+TEST(TickThinningTest, EqualsTheWalkOverEveryPoint) {
+    std::mt19937 random(11);
+    for (int round = 0; round < 3000; ++round) {
+        const int count = static_cast<int>(random() % 400);
+        const int left = static_cast<int>(random() % 4000);
+        const int minGap = 800 + static_cast<int>(random() % 400);
+        const int start = left + static_cast<int>(random() % 3) * static_cast<int>(random() % 3000);
+        const double spacing = 30 + random() % 2000 / 7.0;
+        const auto xOf = [&](int i) { return static_cast<int>(start + i * spacing); };
+        ASSERT_EQ(ThinnedTicks(count, left, minGap, xOf), WalkedTicks(count, left, minGap, xOf))
+            << count << " points from " << start << " every " << spacing << ", gap " << minGap << " from "
+            << left;
+    }
+}
+
+TEST(TickThinningTest, IntervalOfTheFirstTwoTicksIsKept) {
+    // 100 units apart, 850 needed: the second tick is the 9th point, then every 9th.
+    const Ticks ticks = ThinnedTicks(30, 2000, 850, [](int i) { return 2000 + i * 100; });
+    EXPECT_EQ(ticks, (Ticks{{0, 2000}, {9, 2900}, {18, 3800}, {27, 4700}}));
+}
+
+TEST(TickThinningTest, MillionsOfPointsGiveNoMoreTicksThanPixels) {
+    int visited = 0;
+    // Crowded, far right of where the axis begins, so that the interval would be 1.
+    const auto crowded = [&](int i) {
+        ++visited;
+        return 50000 + i / 100000;
+    };
+    const Ticks ticks = ThinnedTicks(INT_MAX, 2000, 800, crowded);
+    EXPECT_LE(ticks.size(), INT_MAX / 100000 / kPixel + 3u);
+    EXPECT_LT(visited, 200000);
+    for (std::size_t i = 2; i < ticks.size(); ++i)
+        EXPECT_GE(ticks[i].second - ticks[i - 1].second, kPixel);
+
+    for (const int gap : {0, -500, INT_MIN, INT_MAX}) {
+        const Ticks odd = ThinnedTicks(1000000, 0, gap, [](int i) { return i / 1000; });
+        EXPECT_GE(odd.size(), 1u);
+        EXPECT_LE(odd.size(), 40u);
+    }
+    EXPECT_EQ(ThinnedTicks(1000000, 0, 800, [](int) { return 0; }).size(), 1u);
+    EXPECT_TRUE(ThinnedTicks(0, 0, 800, [](int) { return 0; }).empty());
+}
+
+TEST(LineTicksTest, OnlyVisiblePointsOfAnUprightRange) {
+    const auto ticksOf = [](double min, double max, int count) {
+        Ticks ticks;
+        LineTicks(LinearMap(min, max, 1000, 3000), min, max, count, 900,
+                  [&](int i, int x) { ticks.emplace_back(i, x); });
+        return ticks;
+    };
+    // A point on the right end is inside, one past it is not.
+    EXPECT_EQ(ticksOf(0, 3, 10), (Ticks{{0, 1000}, {1, 2000}, {2, 3000}, {3, 4000}}));
+    EXPECT_EQ(ticksOf(1.5, 4.5, 10), (Ticks{{2, 1500}, {3, 2500}, {4, 3500}}));
+    EXPECT_EQ(ticksOf(-2, 1, 10), (Ticks{{0, 3000}, {1, 4000}}));
+    EXPECT_TRUE(ticksOf(20, 30, 10).empty());
+    EXPECT_TRUE(ticksOf(0, 3, 0).empty());
+    EXPECT_TRUE(ticksOf(3, 0, 10).empty());
+    EXPECT_TRUE(ticksOf(2, 2, 10).empty());
+    EXPECT_TRUE(ticksOf(0, kInfinity, 10).empty());
+    EXPECT_TRUE(ticksOf(std::nan(""), 5, 10).empty());
+    EXPECT_EQ(ticksOf(0, 1e300, 10), (Ticks{{0, 1000}}));
+}
+
+} // namespace
+} // namespace kavlix

@@ -1,0 +1,272 @@
+#include "tests/graphctrl/GraphTest.h"
+#include "tests/support/ImportHook.h"
+
+class GraphPaintFrameTest : public GraphTest {
+protected:
+    /// A picture with something of everything.
+    void Fill() {
+        FixX(0, 19);
+        for (int i = 0; i < 20; ++i) {
+            Add(0, {5.0 * i});
+            Add(1, {100.0 - 3 * i});
+            graph.AddXTickLabel(("label " + std::to_string(i)).c_str(), i % 2 ? "down" : "");
+        }
+        graph.SetLegend(0, "zero");
+        graph.SetLegend(1, "one");
+        graph.SetMarkerType(0, CDataset::MarkerSquare);
+        graph.SetMarkerType(1, CDataset::MarkerDiamond);
+        graph.SetLineSize(1, 60);
+        graph.SetGrid(TRUE, TRUE);
+        graph.SetSelectionMarkPos(7);
+        graph.SetYUnit("unit", 0, 1);
+    }
+
+    /// What the window shows, without the last column and row, which the copy to the screen leaves out.
+    std::string DifferenceToWindow(const testkit::DibSurface& picture) {
+        testkit::DibSurface shown(picture.Width(), picture.Height());
+        shown.Grab(graph.m_hWnd);
+        return testkit::Difference(picture, shown, {0, 0, picture.Width() - 1, picture.Height() - 1});
+    }
+};
+
+TEST_F(GraphPaintFrameTest, WholeRecordOrder) {
+    Add(0, {0, 50});
+    graph.AddXTickLabel("t0", "");
+    graph.SetLegend(0, "a");
+    graph.SetYUnit("u", 0, 0);
+    const auto picture = Record();
+    const std::string client = " in 0,0,299,199", plot = " in 74,37,188,128", legend = " in 193,37,290,180";
+    const std::string axis = " pen solid 0 B9DDC1" + client, grid = " pen dot 0 B9DDC1" + client;
+    const std::string tick_text = " right|top 3F7F4D Arial 350 ";
+    const Strings expected = {
+        "rect 0,0,9000,6000 pen null brush FFFFFF in none",
+        "text 4500,200 center|top 60608C Arial 400 bold \"Graph Title\"" + client,
+        "text 200,2450 center|top 7EA2E2 Arial 350 @900 \"Y Label\"" + client,
+        "text 3900,5400 center|top 7EA2E2 Arial 350 \"X Label\"" + client,
+        "line 2200,1100 2200,3800" + axis,
+        "line 2100,3800 2200,3800" + axis,
+        "line 2100,3125 2200,3125" + axis,
+        "line 2100,2450 2200,2450" + axis,
+        "line 2100,1775 2200,1775" + axis,
+        "line 2100,1100 2200,1100" + axis,
+        "line 2230,3125 5600,3125" + grid,
+        "line 2230,2450 5600,2450" + grid,
+        "line 2230,1775 5600,1775" + grid,
+        "line 2230,1100 5600,1100" + grid,
+        "text 2100,3650" + tick_text + "\"0\"" + client,
+        "text 2100,2975" + tick_text + "\"25\"" + client,
+        "text 2100,2300" + tick_text + "\"50\"" + client,
+        "text 2100,1625" + tick_text + "\"75\"" + client,
+        "text 2100,950" + tick_text + "\"100\"" + client,
+        "text 2150,1100 left|bottom 3F7F4D Arial 450 \"u\"" + client,
+        "line 2200,3800 5600,3800" + axis,
+        "line 2230,3900 2230,3800" + axis,
+        "text 2330,4000 right|baseline 3F7F4D Arial 300 @900 \"t0\"" + client,
+        "line 5596,3900 5596,3800" + axis,
+        "line 2230,3800 5596,2450 pen solid 0 F000B1" + plot,
+        "rect 5900,1200,8900,5500 pen null brush C0C0C0" + client,
+        "rect 5800,1100,8800,5400 pen null brush D7E8F1" + client,
+        "rect 5900,1200,6200,1500 pen null brush F000B1" + legend,
+        "text 6300,1150 left|top 3F5171 Arial 350 \"a\"" + legend,
+    };
+    EXPECT_EQ(picture->ClippedLines(testkit::kDrawing), expected);
+    EXPECT_FALSE(picture->FinalState().clipped);
+    for (const testkit::MetafileRecord& record : picture->Records()) {
+        EXPECT_EQ(record.state.mapMode, MM_ANISOTROPIC);
+        EXPECT_EQ(record.state.windowExt.cx, 15000);
+        EXPECT_EQ(record.state.windowExt.cy, 15000);
+        EXPECT_EQ(record.state.viewportExt.cx, 500);
+        EXPECT_EQ(record.state.viewportExt.cy, 500);
+        if (record.kind == testkit::kText) {
+            EXPECT_EQ(record.state.bkMode, TRANSPARENT) << record.Line();
+        }
+    }
+}
+
+TEST_F(GraphPaintFrameTest, BackgroundAndBorder) {
+    graph.SetBkColor(RGB(1, 2, 3));
+    EXPECT_EQ(Record()->Lines(testkit::kRectangle)[0], "rect 0,0,9000,6000 pen null brush 010203");
+    graph.ShowBorder(TRUE);
+    EXPECT_EQ(Record()->Lines(testkit::kRectangle)[0], "rect 0,0,8970,5970 pen solid 0 000000 brush 010203");
+    const auto picture = Paint();
+    for (const POINT corner : {POINT{0, 0}, POINT{298, 0}, POINT{0, 198}, POINT{298, 198}})
+        EXPECT_EQ(picture->At(corner.x, corner.y), RGB(0, 0, 0)) << corner.x << "," << corner.y;
+    EXPECT_EQ(picture->At(1, 1), RGB(1, 2, 3));
+}
+
+TEST_F(GraphPaintFrameTest, EveryObjectIsDeletedAndTheDcIsLeftAsItWas) {
+    Fill();
+    for (int style = 0; style < 4; ++style) {
+        for (const bool caption : {false, true}) {
+            SCOPED_TRACE(std::to_string(style) + (caption ? " caption" : " text"));
+            graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(style));
+            graph.SetTitleStyle(caption ? CGraphCtrl::TitleStyleCaption : CGraphCtrl::TitleStyleText);
+            graph.ShowIconMaximize(caption, style == 1);
+            graph.ShowLegend(TRUE);
+            const auto picture = Record();
+            EXPECT_EQ(picture->ObjectFaults(kControlFonts), "");
+            const testkit::MetafileState start;
+            EXPECT_EQ(picture->FinalState().pen, start.pen);
+            EXPECT_EQ(picture->FinalState().brush, start.brush);
+            EXPECT_EQ(picture->FinalState().font, start.font);
+            EXPECT_EQ(picture->LinesFrom("other"), Strings());
+
+            testkit::DibSurface surface(300, 200);
+            const HPEN pen = ::CreatePen(PS_SOLID, 5, RGB(7, 7, 7));
+            const HGDIOBJ old_pen = ::SelectObject(surface.Dc(), pen);
+            const HGDIOBJ font = ::GetCurrentObject(surface.Dc(), OBJ_FONT);
+            const HGDIOBJ brush = ::GetCurrentObject(surface.Dc(), OBJ_BRUSH);
+            PaintInto(surface.Dc());
+            EXPECT_EQ(::GetCurrentObject(surface.Dc(), OBJ_PEN), pen);
+            EXPECT_EQ(::GetCurrentObject(surface.Dc(), OBJ_BRUSH), brush);
+            EXPECT_EQ(::GetCurrentObject(surface.Dc(), OBJ_FONT), font);
+            const HRGN clip = ::CreateRectRgn(0, 0, 0, 0);
+            EXPECT_EQ(::GetClipRgn(surface.Dc(), clip), 0) << "no clip region remains";
+            ::DeleteObject(clip);
+            ::SelectObject(surface.Dc(), old_pen);
+            EXPECT_TRUE(::DeleteObject(pen));
+        }
+    }
+}
+
+TEST_F(GraphPaintFrameTest, RedrawInvalidatesTheClientAndRedrawDataTheDataRegion) {
+    EXPECT_EQ(Text(UpdateRect()), "0,0,0,0");
+    graph.Redraw();
+    EXPECT_EQ(Text(UpdateRect()), "0,0,300,200");
+    Settle();
+    graph.RedrawData();
+    // (600, 500)-(6500, 5400) in units; (20, 17)-(217, 180) in pixels, one more at right and bottom.
+    EXPECT_EQ(Text(UpdateRect()), "20,17,218,181");
+    Settle();
+    graph.SetGraphStyle(CGraphCtrl::GraphStyleTwoAxis);
+    graph.RedrawData();
+    EXPECT_EQ(Text(UpdateRect()), "20,17,218,181") << "the region of the last paint";
+    Record();
+    Settle();
+    graph.RedrawData();
+    EXPECT_EQ(Text(UpdateRect()), "20,17,258,181");
+    graph.erased = 0;
+    graph.UpdateWindow();
+    graph.Redraw();
+    graph.UpdateWindow();
+    EXPECT_EQ(graph.erased, 0) << "the control never asks to be erased";
+    EXPECT_EQ(Text(UpdateRect()), "0,0,0,0") << "painting validates";
+    testkit::Pump();
+    EXPECT_EQ(parent.Log(), Strings());
+}
+
+TEST_F(GraphPaintFrameTest, WithoutAWindowNothingFails) {
+    OpenGraph windowless;
+    EXPECT_TRUE(windowless.AddData(0, 1, nullptr));
+    windowless.Redraw();
+    windowless.RedrawData();
+    windowless.RemoveHeadData(1);
+    EXPECT_EQ(windowless.GetDatasetSize(0), 0);
+}
+
+TEST_F(GraphPaintFrameTest, WindowShowsWhatDrawGraphDraws) {
+    HideTexts();
+    Fill();
+    for (int style = 0; style < 3; ++style) {
+        graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(style));
+        graph.Redraw();
+        graph.UpdateWindow();
+        const auto drawn = Paint();
+        EXPECT_EQ(DifferenceToWindow(*drawn), "") << "style " << style;
+        EXPECT_GT(drawn->Count(graph.m_Datasets[0].m_Color), 50);
+    }
+}
+
+namespace {
+
+int g_copies = 0;
+void* g_bitBlt = nullptr;
+
+BOOL WINAPI CountedBitBlt(HDC to, int x, int y, int width, int height, HDC from, int from_x, int from_y,
+                          DWORD rop) {
+    ++g_copies;
+    return reinterpret_cast<decltype(&::BitBlt)>(g_bitBlt)(to, x, y, width, height, from, from_x, from_y,
+                                                           rop);
+}
+
+} // namespace
+
+TEST_F(GraphPaintFrameTest, ThePictureIsComposedElsewhereAndCopiedOnce) {
+    Fill();
+    const testkit::ImportHook hook("KavlixMfc.dll", "BitBlt", reinterpret_cast<void*>(&CountedBitBlt));
+    ASSERT_TRUE(hook.Installed());
+    g_bitBlt = hook.Original();
+    for (int i = 1; i <= 3; ++i) {
+        graph.Redraw();
+        graph.UpdateWindow();
+        EXPECT_EQ(g_copies, i);
+    }
+}
+
+TEST_F(GraphPaintFrameTest, PartialRepaintEqualsWholeRepaint) {
+    HideTexts();
+    Fill();
+    graph.Redraw();
+    graph.UpdateWindow();
+    for (int round = 0; round < 10; ++round) {
+        Add(0, {100.0 - 7 * round});
+        graph.SetYVisibleMax(100 - round);
+        graph.SetSelectionMarkPos(round);
+        graph.RedrawData();
+        graph.UpdateWindow();
+        EXPECT_EQ(DifferenceToWindow(*Paint()), "") << "round " << round;
+    }
+    // A stripe only: what lies outside keeps its pixels, what lies inside is new.
+    graph.SetColor(0, RGB(0, 0, 1));
+    const CRect stripe(100, 40, 120, 120);
+    testkit::DibSurface before(300, 200);
+    before.Grab(graph.m_hWnd);
+    graph.InvalidateRect(stripe, FALSE);
+    graph.UpdateWindow();
+    testkit::DibSurface after(300, 200);
+    after.Grab(graph.m_hWnd);
+    EXPECT_EQ(testkit::Difference(*Paint(), after, stripe), "");
+    EXPECT_EQ(testkit::Difference(before, after, CRect(0, 0, 100, 199)), "");
+    EXPECT_EQ(testkit::Difference(before, after, CRect(120, 0, 299, 199)), "");
+}
+
+TEST_F(GraphPaintFrameTest, PrintClientPaintsTheSamePictureIntoAnyDc) {
+    HideTexts();
+    Fill();
+    graph.Redraw();
+    graph.UpdateWindow();
+    testkit::DibSurface printed(300, 200);
+    graph.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.Dc()), PRF_CLIENT);
+    EXPECT_EQ(DifferenceToWindow(printed), "");
+    EXPECT_EQ(::GetMapMode(printed.Dc()), MM_TEXT) << "the caller's DC keeps its mapping";
+
+    // A DC whose origin was moved, as a parent prints its children.
+    testkit::DibSurface moved(340, 230);
+    ::SetViewportOrgEx(moved.Dc(), 40, 30, nullptr);
+    graph.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(moved.Dc()), PRF_CLIENT);
+    ::SetViewportOrgEx(moved.Dc(), 0, 0, nullptr);
+    testkit::DibSurface back(300, 200);
+    ::BitBlt(back.Dc(), 0, 0, 300, 200, moved.Dc(), 40, 30, SRCCOPY);
+    EXPECT_EQ(testkit::Difference(printed, back, CRect(0, 0, 299, 199)), "");
+}
+
+TEST_F(GraphPaintFrameTest, MetafileReplaysToTheSamePicture) {
+    HideTexts();
+    Fill();
+    // A frame of half the screen is a whole number of hundredths of a millimetre, so nothing is scaled.
+    const HDC screen = ::GetDC(nullptr);
+    const int width = ::GetDeviceCaps(screen, HORZRES) / 2, height = ::GetDeviceCaps(screen, VERTRES) / 2;
+    const RECT frame = {0, 0, ::GetDeviceCaps(screen, HORZSIZE) * 50, ::GetDeviceCaps(screen, VERTSIZE) * 50};
+    ::ReleaseDC(nullptr, screen);
+    Resize(width, height);
+    testkit::MetafileRecorder recorder(&frame);
+    PaintInto(recorder.Dc());
+    recorder.Close();
+    testkit::DibSurface replayed(width, height);
+    const RECT area = {0, 0, width, height};
+    ASSERT_TRUE(::PlayEnhMetaFile(replayed.Dc(), recorder.Handle(), &area));
+    // The replay computes positions in another arithmetic: what lies half-way between two pixels may go
+    // either way.
+    EXPECT_EQ(testkit::Displaced(*Paint(), replayed, CRect(0, 0, width - 1, height - 1), 1), 0);
+    EXPECT_GT(replayed.Count(graph.m_Datasets[0].m_Color), 100);
+}

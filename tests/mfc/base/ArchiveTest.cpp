@@ -1,0 +1,374 @@
+#include <afxtempl.h>
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <climits>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/mfc/base/Refusal.h"
+
+// What is stored through CArchive and loaded again.
+
+namespace {
+
+class Node : public CObject {
+    DECLARE_SERIAL(Node)
+public:
+    Node() { ++alive; }
+    ~Node() override { --alive; }
+    void Serialize(CArchive& ar) override {
+        if (ar.IsStoring())
+            ar << name << next << other;
+        else
+            ar >> name >> next >> other;
+    }
+    CString name;
+    Node* next = nullptr;
+    CObject* other = nullptr;
+    static inline int alive = 0;
+};
+IMPLEMENT_SERIAL(Node, CObject, 1)
+
+class Versioned : public CObject {
+    DECLARE_SERIAL(Versioned)
+public:
+    void Serialize(CArchive& ar) override {
+        if (ar.IsStoring()) {
+            ar << 1;
+            return;
+        }
+        schema = ar.GetObjectSchema();
+        again = ar.GetObjectSchema();
+        int one = 0;
+        ar >> one;
+    }
+    UINT schema = 0;
+    UINT again = 0;
+};
+IMPLEMENT_SERIAL(Versioned, CObject, VERSIONABLE_SCHEMA | 3)
+
+class Plain : public CObject {
+    DECLARE_DYNCREATE(Plain)
+};
+IMPLEMENT_DYNCREATE(Plain, CObject)
+
+/// Stores with `store`, then loads with `load` from the same memory, each through a buffer of `bufferSize`.
+template <class STORE, class LOAD> ULONGLONG RoundTrip(STORE store, LOAD load, int bufferSize = 4096) {
+    CMemFile file;
+    CArchive out(&file, CArchive::store, bufferSize);
+    store(out);
+    out.Close();
+    file.SeekToBegin();
+    CArchive in(&file, CArchive::load, bufferSize);
+    load(in);
+    BYTE more = 0;
+    EXPECT_EQ(0u, in.Read(&more, 1)) << "not everything was loaded";
+    return file.GetLength();
+}
+
+/// An archive that loads the bytes given.
+class Bytes {
+public:
+    Bytes(std::string bytes) : m_bytes(std::move(bytes)) {
+        m_file.Attach(reinterpret_cast<BYTE*>(m_bytes.data()), static_cast<UINT>(m_bytes.size()));
+        m_archive = std::make_unique<CArchive>(&m_file, CArchive::load);
+    }
+    CArchive& Archive() { return *m_archive; }
+
+private:
+    std::string m_bytes;
+    CMemFile m_file{0};
+    std::unique_ptr<CArchive> m_archive;
+};
+
+TEST(Archive, BasicTypesComeBackAtTheirLimits) {
+    for (const int bufferSize : {0, 128, 131, 4096}) {
+        RoundTrip(
+            [](CArchive& ar) {
+                for (int i = 0; i < 20; ++i)
+                    ar << true << 'c' << BYTE{255} << SHRT_MIN << WORD{65535} << INT_MIN << UINT_MAX
+                       << LONG_MIN << DWORD{ULONG_MAX} << LLONG_MIN << ULLONG_MAX << FLT_MIN << DBL_MAX
+                       << L'\x20AC' << static_cast<short>(SHRT_MIN) << CPoint(-1, 2) << CSize(3, INT_MIN)
+                       << CRect(1, 2, 3, 4) << CTime(9999999999LL) << CTimeSpan(-5) << CString("text");
+            },
+            [](CArchive& ar) {
+                for (int i = 0; i < 20; ++i) {
+                    bool b = false;
+                    char c = 0;
+                    BYTE byte = 0;
+                    int promoted = 0;
+                    WORD w = 0;
+                    int n = 0;
+                    unsigned u = 0;
+                    LONG l = 0;
+                    DWORD d = 0;
+                    LONGLONG ll = 0;
+                    ULONGLONG ull = 0;
+                    float f = 0;
+                    double g = 0;
+                    wchar_t wide = 0;
+                    short s = 0;
+                    CPoint point;
+                    CSize size;
+                    CRect rect;
+                    CTime time;
+                    CTimeSpan span;
+                    CString text;
+                    ar >> b >> c >> byte >> promoted >> w >> n >> u >> l >> d >> ll >> ull >> f >> g >>
+                        wide >> s >> point >> size >> rect >> time >> span >> text;
+                    EXPECT_TRUE(b && c == 'c' && byte == 255 && promoted == SHRT_MIN && w == 65535 &&
+                                n == INT_MIN);
+                    EXPECT_TRUE(u == UINT_MAX && l == LONG_MIN && d == ULONG_MAX && ll == LLONG_MIN);
+                    EXPECT_TRUE(ull == ULLONG_MAX && f == FLT_MIN && g == DBL_MAX && wide == L'\x20AC');
+                    EXPECT_TRUE(s == SHRT_MIN && point == CPoint(-1, 2) && size == CSize(3, INT_MIN));
+                    EXPECT_TRUE(rect == CRect(1, 2, 3, 4) && time == CTime(9999999999LL) &&
+                                span == CTimeSpan(-5));
+                    EXPECT_TRUE(text == "text");
+                }
+            },
+            bufferSize);
+    }
+}
+
+TEST(Archive, TextsOfEveryLengthClassComeBack) {
+    for (const int length : {0, 1, 254, 255, 256, 65533, 65534, 65535, 65536, 1000000}) {
+        const CString text('t', length);
+        const ULONGLONG stored = RoundTrip([&](CArchive& ar) { ar << text; },
+                                           [&](CArchive& ar) {
+                                               CString loaded("old");
+                                               ar >> loaded;
+                                               EXPECT_TRUE(loaded == text) << length;
+                                           });
+        const int prefix = length < 255 ? 1 : length < 65534 ? 3 : 7;
+        EXPECT_EQ(static_cast<ULONGLONG>(length + prefix), stored);
+    }
+    for (const DWORD_PTR count : {DWORD_PTR{0}, DWORD_PTR{65534}, DWORD_PTR{65535}, DWORD_PTR{0xFFFFFFFE},
+                                  DWORD_PTR{0xFFFFFFFF}, static_cast<DWORD_PTR>(-1)})
+        RoundTrip([&](CArchive& ar) { ar.WriteCount(count); },
+                  [&](CArchive& ar) { EXPECT_EQ(count, ar.ReadCount()); });
+}
+
+TEST(Archive, ObjectsKeepTheirIdentity) {
+    Node a;
+    Node b;
+    CStringArray list;
+    list.Add("element");
+    a.name = "a";
+    b.name = "b";
+    a.next = &b;
+    b.next = &a; // a ring
+    a.other = &list;
+    b.other = &list;
+    RoundTrip([&](CArchive& ar) { ar << &a << &b << static_cast<Node*>(nullptr) << &list; },
+              [&](CArchive& ar) {
+                  Node* first = nullptr;
+                  Node* second = nullptr;
+                  Node* none = &a;
+                  CStringArray* loadedList = nullptr;
+                  ar >> first >> second >> none >> loadedList;
+                  const std::unique_ptr<Node> owner1(first);
+                  const std::unique_ptr<Node> owner2(second);
+                  const std::unique_ptr<CStringArray> owner3(loadedList);
+                  EXPECT_EQ(second, first->next);
+                  EXPECT_EQ(first, second->next);
+                  EXPECT_EQ(nullptr, none);
+                  EXPECT_EQ(loadedList, first->other);
+                  EXPECT_EQ(loadedList, second->other);
+                  EXPECT_STREQ("b", second->name);
+                  EXPECT_STREQ("element", loadedList->GetAt(0));
+                  EXPECT_EQ(4, Node::alive);
+              });
+    EXPECT_EQ(2, Node::alive);
+}
+
+TEST(Archive, CollectionsComeBackWhole) {
+    CArray<double, double> numbers;
+    for (int i = 0; i < 70000; ++i)
+        numbers.Add(i / 3.0);
+    CList<CString, const CString&> list;
+    list.AddTail("one");
+    list.AddTail("two");
+    CMap<int, int, CString, LPCTSTR> map;
+    map.SetAt(1, "one");
+    map.SetAt(-2, "two");
+    Node shared;
+    CObArray objects;
+    objects.Add(&shared);
+    objects.Add(nullptr);
+    objects.Add(&shared);
+    RoundTrip(
+        [&](CArchive& ar) {
+            numbers.Serialize(ar);
+            list.Serialize(ar);
+            map.Serialize(ar);
+            objects.Serialize(ar);
+        },
+        [&](CArchive& ar) {
+            CArray<double, double> loadedNumbers;
+            CList<CString, const CString&> loadedList;
+            CMap<int, int, CString, LPCTSTR> loadedMap;
+            CObArray loadedObjects;
+            loadedNumbers.Serialize(ar);
+            loadedList.Serialize(ar);
+            loadedMap.Serialize(ar);
+            loadedObjects.Serialize(ar);
+            ASSERT_EQ(70000, loadedNumbers.GetSize());
+            EXPECT_EQ(numbers[69999], loadedNumbers[69999]);
+            EXPECT_STREQ("one", loadedList.GetHead());
+            EXPECT_STREQ("two", loadedList.GetTail());
+            EXPECT_EQ(2, loadedMap.GetCount());
+            EXPECT_STREQ("two", loadedMap[-2]);
+            ASSERT_EQ(3, loadedObjects.GetSize());
+            EXPECT_EQ(loadedObjects[0], loadedObjects[2]);
+            EXPECT_EQ(nullptr, loadedObjects[1]);
+            delete loadedObjects[0];
+        });
+    CMemFile file;
+    CArchive out(&file, CArchive::store);
+    EXPECT_TRUE(Throws<CNotSupportedException>([&] { CPtrArray().Serialize(out); }));
+}
+
+TEST(Archive, ManyObjectsNeedLongTags) {
+    constexpr int count = 40000; // beyond what a short tag can number
+    std::vector<Node> nodes(count);
+    RoundTrip(
+        [&](CArchive& ar) {
+            for (Node& node : nodes)
+                ar << &node;
+            ar << &nodes[0] << &nodes[count - 1] << RUNTIME_CLASS(Node)->m_wSchema;
+        },
+        [&](CArchive& ar) {
+            std::vector<std::unique_ptr<Node>> loaded(count);
+            for (auto& node : loaded) {
+                Node* one = nullptr;
+                ar >> one;
+                node.reset(one);
+            }
+            Node* first = nullptr;
+            Node* last = nullptr;
+            UINT schema = 0;
+            ar >> first >> last >> schema;
+            EXPECT_EQ(loaded.front().get(), first);
+            EXPECT_EQ(loaded.back().get(), last);
+        });
+}
+
+TEST(Archive, SchemasAreComparedUnlessTheClassIsVersionable) {
+    RoundTrip(
+        [](CArchive& ar) {
+            Versioned one;
+            ar << &one;
+        },
+        [](CArchive& ar) {
+            Versioned* one = nullptr;
+            ar >> one;
+            EXPECT_EQ(3u, one->schema);
+            EXPECT_EQ(static_cast<UINT>(-1), one->again);
+            delete one;
+        });
+    using namespace std::string_literals;
+    const std::string one("\1\0\0\0"s);
+    Bytes older("\xFF\xFF\2\0\x9\0Versioned"s + one);
+    const std::unique_ptr<CObject> loaded(older.Archive().ReadObject(RUNTIME_CLASS(Versioned)));
+    EXPECT_EQ(2u, static_cast<Versioned*>(loaded.get())->schema);
+    Bytes otherNode("\xFF\xFF\2\0\4\0Node"s);
+    EXPECT_EQ(CArchiveException::badSchema,
+              CauseOf<CArchiveException>([&] { otherNode.Archive().ReadObject(RUNTIME_CLASS(Node)); }));
+}
+
+TEST(Archive, BytesThatMakeNoSenseAreRefused) {
+    using namespace std::string_literals;
+    struct {
+        std::string bytes;
+        int cause;
+    } const cases[] = {
+        {""s, CArchiveException::endOfFile},
+        {"\xFF"s, CArchiveException::endOfFile},
+        {"\xFF\xFF\1\0\xFF\xFFxxxx"s, CArchiveException::badClass}, // a name without end
+        {"\xFF\xFF\1\0\7\0Unknown"s, CArchiveException::badClass},
+        {"\xFF\xFF\1\0\5\0Plain"s, CArchiveException::badClass},              // not serialisable
+        {"\xFF\xFF\0\0\x0C\0CStringArray\0\0"s, CArchiveException::badClass}, // not what is asked for
+        {"\5\0"s, CArchiveException::badIndex},                               // an object never met
+        {"\5\x80"s, CArchiveException::badIndex},                             // a class never met
+        {"\0\x80"s, CArchiveException::badIndex},
+        {"\xFF\x7F\xFF\xFF\xFF\x7F"s, CArchiveException::badIndex},
+        {"\xFF\x7F\xFF\xFF\xFF\xFF"s, CArchiveException::badIndex},
+        {"\xFF\xFF\1\0\4\0Node\0\1\0\0\0"s, CArchiveException::badIndex}, // a class where an object should be
+        {"\xFF\xFF\1\0\4\0Node\xFF\xFF\xFF\xFF\xFF\xFF\x7Ftext"s,
+         CArchiveException::endOfFile}, // 2 GB of text
+    };
+    for (const auto& c : cases) {
+        Bytes bytes(c.bytes);
+        EXPECT_EQ(c.cause,
+                  CauseOf<CArchiveException>([&] { delete bytes.Archive().ReadObject(RUNTIME_CLASS(Node)); }))
+            << testing::PrintToString(c.bytes);
+        EXPECT_EQ(0, Node::alive) << "half-loaded objects are deleted";
+    }
+    Bytes huge("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF"s);
+    CArray<double, double> numbers;
+    EXPECT_TRUE(Throws<CMemoryException>([&] { numbers.Serialize(huge.Archive()); }));
+    CMemFile file;
+    CArchive out(&file, CArchive::store);
+    Plain plain;
+    EXPECT_TRUE(Throws<CNotSupportedException>([&] { out << &plain; }));
+}
+
+TEST(Archive, KnowsItsDirection) {
+    CMemFile file;
+    {
+        CArchive out(&file, CArchive::store);
+        out << 7;
+        int value = 0;
+        EXPECT_EQ(CArchiveException::writeOnly, CauseOf<CArchiveException>([&] { out >> value; }));
+        EXPECT_EQ(0u, file.GetLength()) << "buffered";
+    }
+    EXPECT_EQ(4u, file.GetLength()) << "the destructor flushes";
+    file.SeekToBegin();
+    CArchive in(&file, CArchive::load);
+    EXPECT_EQ(CArchiveException::readOnly, CauseOf<CArchiveException>([&] { in << 1; }));
+    in.Abort();
+    EXPECT_EQ(nullptr, in.GetFile());
+    int value = 0;
+    EXPECT_EQ(CArchiveException::genericException, CauseOf<CArchiveException>([&] { in >> value; }));
+}
+
+TEST(Archive, FlushWhileLoadingGivesTheFileBackWhereTheArchiveIs) {
+    CMemFile file;
+    for (BYTE i = 0; i < 100; ++i)
+        file.Write(&i, 1);
+    file.SeekToBegin();
+    CArchive in(&file, CArchive::load);
+    BYTE first[10];
+    EXPECT_EQ(10u, in.Read(first, 10));
+    EXPECT_FALSE(in.IsBufferEmpty());
+    in.Flush();
+    EXPECT_EQ(10u, file.GetPosition());
+    EXPECT_TRUE(in.IsBufferEmpty());
+    BYTE next = 0;
+    in >> next;
+    EXPECT_EQ(10, next);
+}
+
+TEST(Archive, LinesEndWhereTheyEnd) {
+    using namespace std::string_literals;
+    Bytes bytes("one\r\n\ntwo words\nlast"s);
+    CString line;
+    std::vector<std::string> lines;
+    while (bytes.Archive().ReadString(line))
+        lines.push_back(line.GetString());
+    EXPECT_EQ((std::vector<std::string>{"one", "", "two words", "last"}), lines);
+    Bytes more("abcdef\ng\n"s);
+    char text[5] = "####";
+    EXPECT_EQ(text, more.Archive().ReadString(text, 4));
+    EXPECT_STREQ("abcd", text);
+    EXPECT_EQ(text, more.Archive().ReadString(text, 4));
+    EXPECT_STREQ("ef", text);
+    EXPECT_EQ(text, more.Archive().ReadString(text, 4));
+    EXPECT_STREQ("g", text);
+    EXPECT_EQ(nullptr, more.Archive().ReadString(text, 4));
+}
+
+} // namespace

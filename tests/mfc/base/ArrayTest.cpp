@@ -1,0 +1,335 @@
+#include <afxtempl.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "tests/mfc/base/Refusal.h"
+#include "tests/support/AllocationGuard.h"
+
+// CArray and the arrays made of it.
+
+namespace {
+
+/// Counts its objects, and knows its own address: moved bit by bit it would notice.
+class Tracked {
+public:
+    Tracked() : m_self(this) { ++alive; }
+    Tracked(int value) : m_value(value), m_self(this) { ++alive; }
+    Tracked(const Tracked& other) : m_value(other.m_value), m_self(this) {
+        MayThrow();
+        ++alive;
+    }
+    Tracked& operator=(const Tracked& other) {
+        MayThrow();
+        m_value = other.m_value;
+        return *this;
+    }
+    ~Tracked() {
+        EXPECT_EQ(this, m_self);
+        --alive;
+    }
+    int Value() const {
+        EXPECT_EQ(this, m_self);
+        return m_value;
+    }
+
+    static inline int alive = 0;
+    /// The copy that throws, counted down; 0: none.
+    static inline int throwAt = 0;
+
+private:
+    static void MayThrow() {
+        if (throwAt > 0 && --throwAt == 0)
+            throw std::string("copy");
+    }
+    int m_value = 0;
+    Tracked* m_self;
+};
+
+std::vector<int> Values(const CArray<Tracked>& array) {
+    std::vector<int> values;
+    for (INT_PTR i = 0; i < array.GetSize(); ++i)
+        values.push_back(array[i].Value());
+    return values;
+}
+
+/// Like most classes derived from CObject: assignable, but not copyable.
+class Record : public CObject {
+public:
+    Record() = default;
+    Record& operator=(const Record& other) {
+        number = other.number;
+        return *this;
+    }
+    int number = -1;
+};
+
+TEST(Array, GrowsByAnEighthBetweenFourAnd1024OrAsTold) {
+    const auto growthAt = [](INT_PTR size, INT_PTR growBy) {
+        CArray<double, double> array;
+        array.SetSize(size, growBy);
+        array.FreeExtra();
+        array.Add(1.0);
+        const double* const block = array.GetData();
+        INT_PTR added = 1;
+        while (array.Add(1.0), array.GetData() == block)
+            ++added;
+        return added;
+    };
+    EXPECT_EQ(4, growthAt(1, -1));
+    EXPECT_EQ(4, growthAt(39, 0));
+    EXPECT_EQ(5, growthAt(40, -1));
+    EXPECT_EQ(125, growthAt(1000, -1));
+    EXPECT_EQ(1024, growthAt(8192, -1));
+    EXPECT_EQ(1024, growthAt(100000, -1));
+    EXPECT_EQ(7, growthAt(1000, 7));
+    EXPECT_EQ(1, growthAt(1000, 1));
+}
+
+TEST(Array, NewElementsAreZeroAlsoInMemoryUsedBefore) {
+    CUIntArray array;
+    array.SetSize(3);
+    for (INT_PTR i = 0; i < 100; ++i)
+        array.SetAtGrow(i, 0xFFFFFFFF);
+    array.RemoveAt(10, 90);
+    array.SetSize(60);
+    for (INT_PTR i = 10; i < 60; ++i)
+        ASSERT_EQ(0u, array[i]);
+    array.SetAtGrow(80, 9);
+    EXPECT_EQ(81, array.GetSize());
+    EXPECT_EQ(0u, array[79]);
+    EXPECT_EQ(9u, array[80]);
+    EXPECT_EQ(80, array.GetUpperBound());
+}
+
+TEST(Array, SizeZeroFreesAndRemoveAtDoesNot) {
+    testkit::AllocationGuard guard;
+    CArray<int, int> array;
+    EXPECT_EQ(nullptr, array.GetData());
+    EXPECT_EQ(-1, array.GetUpperBound());
+    array.SetSize(100);
+    EXPECT_EQ(1, guard.Live());
+    const int* const block = array.GetData();
+    array.RemoveAt(0, 100);
+    EXPECT_EQ(block, array.GetData());
+    EXPECT_TRUE(array.IsEmpty());
+    array.SetSize(0);
+    EXPECT_EQ(nullptr, array.GetData());
+    EXPECT_EQ(0, guard.Live());
+    EXPECT_EQ(0, guard.Damaged());
+}
+
+TEST(Array, ActsLikeAVectorUnderRandomCalls) {
+    std::mt19937 random(20);
+    const auto upTo = [&](INT_PTR most) {
+        return static_cast<INT_PTR>(random() % static_cast<unsigned>(most + 1));
+    };
+    testkit::AllocationGuard guard;
+    {
+        CArray<Tracked> array;
+        std::vector<int> model;
+        for (int step = 0; step < 3000; ++step) {
+            const INT_PTR size = array.GetSize();
+            const int value = step + 1;
+            switch (random() % 9) {
+            case 0:
+            case 1:
+                EXPECT_EQ(size, array.Add(value));
+                model.push_back(value);
+                break;
+            case 2: {
+                const INT_PTR at = upTo(size + 3);
+                const INT_PTR count = 1 + upTo(4);
+                array.InsertAt(at, value, count);
+                if (at > size)
+                    model.resize(static_cast<std::size_t>(at));
+                model.insert(model.begin() + at, static_cast<std::size_t>(count), value);
+                break;
+            }
+            case 3:
+                if (size > 0) {
+                    const INT_PTR at = upTo(size - 1);
+                    const INT_PTR count = upTo(std::min<INT_PTR>(size - at, 6));
+                    array.RemoveAt(at, count);
+                    model.erase(model.begin() + at, model.begin() + at + count);
+                }
+                break;
+            case 4: {
+                const INT_PTR newSize = upTo(size + 5);
+                array.SetSize(newSize, upTo(3) - 1);
+                model.resize(static_cast<std::size_t>(newSize));
+                break;
+            }
+            case 5: {
+                const INT_PTR at = upTo(size + 2);
+                array.SetAtGrow(at, value);
+                if (at >= size)
+                    model.resize(static_cast<std::size_t>(at + 1));
+                model[static_cast<std::size_t>(at)] = value;
+                break;
+            }
+            case 6:
+                if (size > 0) { // an element of the array itself as the argument
+                    const INT_PTR from = upTo(size - 1);
+                    const INT_PTR at = upTo(size);
+                    const int copy = model[static_cast<std::size_t>(from)];
+                    array.InsertAt(at, array[from], 2);
+                    model.insert(model.begin() + at, 2, copy);
+                    array.Add(array[from]);
+                    model.push_back(model[static_cast<std::size_t>(from)]);
+                }
+                break;
+            case 7:
+                array.FreeExtra();
+                break;
+            default:
+                if (size < 40) {
+                    EXPECT_EQ(size, array.Append(array));
+                    const std::vector<int> copy = model;
+                    model.insert(model.end(), copy.begin(), copy.end());
+                } else {
+                    array.RemoveAt(20, size - 20);
+                    model.resize(20);
+                }
+            }
+            ASSERT_EQ(static_cast<int>(model.size()), Tracked::alive);
+            ASSERT_EQ(model, Values(array)) << "step " << step;
+        }
+    }
+    EXPECT_EQ(0, Tracked::alive);
+    EXPECT_EQ(0, guard.Damaged());
+}
+
+TEST(Array, StaysAsItWasWhenMemoryRunsOut) {
+    CArray<Tracked> source;
+    source.SetSize(3);
+    struct Change {
+        const char* name;
+        std::function<void(CArray<Tracked>&)> apply;
+    } const changes[] = {
+        {"Add", [](CArray<Tracked>& array) { array.Add(9); }},
+        {"SetSize", [](CArray<Tracked>& array) { array.SetSize(500); }},
+        {"SetAtGrow", [](CArray<Tracked>& array) { array.SetAtGrow(70, 9); }},
+        {"InsertAt front", [](CArray<Tracked>& array) { array.InsertAt(0, array[2], 2); }},
+        {"InsertAt array", [&](CArray<Tracked>& array) { array.InsertAt(1, &source); }},
+        {"Append", [&](CArray<Tracked>& array) { array.Append(source); }},
+    };
+    for (const Change& change : changes) {
+        SCOPED_TRACE(change.name);
+        CArray<Tracked> array;
+        for (int i = 1; i <= 10; ++i)
+            array.Add(i);
+        array.FreeExtra();
+        const std::vector<int> before = Values(array);
+        const int alive = Tracked::alive;
+        int failures = 0;
+        for (int n = 1;; ++n) {
+            testkit::AllocationGuard guard;
+            guard.FailAt(n);
+            const bool thrown = Throws<CMemoryException>([&] { change.apply(array); });
+            ASSERT_EQ(guard.Failed(), thrown);
+            if (!thrown)
+                break;
+            ++failures;
+            ASSERT_EQ(before, Values(array));
+            ASSERT_EQ(alive, Tracked::alive);
+        }
+        EXPECT_GT(failures, 0);
+        EXPECT_NE(before, Values(array));
+
+        // The same with an element that fails to be copied.
+        CArray<Tracked> copied;
+        copied.Copy(array);
+        copied.FreeExtra();
+        const std::vector<int> unharmed = Values(copied);
+        const int stillAlive = Tracked::alive;
+        for (int n = 1;; ++n) {
+            Tracked::throwAt = n;
+            try {
+                change.apply(copied);
+                break;
+            } catch (const std::string&) {
+                ASSERT_EQ(unharmed, Values(copied)) << "copy " << n;
+                ASSERT_EQ(stillAlive, Tracked::alive);
+            }
+        }
+        Tracked::throwAt = 0;
+    }
+}
+
+TEST(Array, SizesWithoutARepresentationAreOutOfMemory) {
+    CArray<double, double> array;
+    array.Add(1.5);
+    EXPECT_TRUE(Throws<CMemoryException>([&] { array.SetSize(PTRDIFF_MAX); }));
+    EXPECT_TRUE(Throws<CMemoryException>([&] { array.SetSize(PTRDIFF_MAX / 8); }));
+    EXPECT_TRUE(Throws<CMemoryException>([&] { array.SetAtGrow(PTRDIFF_MAX / 8 - 1, 2.5); }));
+    ASSERT_EQ(1, array.GetSize());
+    EXPECT_EQ(1.5, array[0]);
+}
+
+TEST(Array, IndexesOutsideItAreRefused) {
+    CArray<int, int> array;
+    array.Add(1);
+    EXPECT_REFUSED(array.GetAt(1));
+    EXPECT_REFUSED(array[-1] = 2);
+    EXPECT_REFUSED(array.SetAt(1, 2));
+    EXPECT_REFUSED(array.RemoveAt(0, 2));
+    EXPECT_REFUSED(array.RemoveAt(0, PTRDIFF_MAX));
+    EXPECT_REFUSED(array.InsertAt(-1, 5));
+    EXPECT_REFUSED(array.SetSize(-1));
+}
+
+TEST(Array, HoldsClassesThatCanOnlyBeAssigned) {
+    CArray<Record, Record&> array;
+    Record record;
+    for (int i = 0; i < 50; ++i) {
+        record.number = i;
+        array.Add(record);
+    }
+    record.number = 99;
+    array.InsertAt(10, record, 2);
+    array.RemoveAt(0, 5);
+    EXPECT_EQ(47, array.GetSize());
+    EXPECT_EQ(5, array[0].number);
+    EXPECT_EQ(99, array[6].number);
+    EXPECT_EQ(49, array[46].number);
+}
+
+TEST(Array, ReadyMadeArraysKeepTheirTypes) {
+    CStringArray texts;
+    texts.Add("a");
+    texts.Add(CString("b"));
+    texts[0] += "!";
+    texts.InsertAt(0, "first");
+    texts.SetAtGrow(4, "last");
+    EXPECT_STREQ("a!", texts[1]);
+    EXPECT_TRUE(texts[3].IsEmpty());
+    for (int i = 0; i < 100; ++i)
+        texts.Add(texts[1]);
+    EXPECT_STREQ("a!", texts[104]);
+
+    CObArray objects;
+    EXPECT_TRUE(objects.IsKindOf(RUNTIME_CLASS(CObArray)));
+    EXPECT_TRUE(objects.IsSerializable());
+    EXPECT_FALSE(CPtrArray().IsSerializable());
+    objects.Add(&texts);
+    objects.InsertAt(0, static_cast<CObject*>(nullptr));
+    CObArray more;
+    more.InsertAt(0, &objects);
+    EXPECT_EQ(2, more.GetSize()) << "another array, not an element";
+    EXPECT_EQ(&texts, more.GetAt(1));
+
+    CTypedPtrArray<CObArray, CStringArray*> typed;
+    typed.Add(&texts);
+    typed.SetAtGrow(2, &texts);
+    EXPECT_EQ(nullptr, typed[1]);
+    typed[1] = typed.GetAt(0);
+    EXPECT_STREQ("a!", typed[1]->GetAt(1));
+}
+
+} // namespace

@@ -1,0 +1,244 @@
+#include <afxtempl.h>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "tests/mfc/base/Refusal.h"
+#include "tests/support/AllocationGuard.h"
+
+// Lists and maps.
+
+namespace {
+
+struct Key {
+    int number;
+    bool operator==(const Key& other) const { return number == other.number; }
+};
+
+std::string Join(CStringList& list) {
+    std::string joined;
+    for (POSITION position = list.GetHeadPosition(); position != nullptr;)
+        joined += list.GetNext(position).GetString();
+    return joined;
+}
+
+std::string JoinBackwards(const CStringList& list) {
+    std::string joined;
+    for (POSITION position = list.GetTailPosition(); position != nullptr;)
+        joined += list.GetPrev(position).GetString();
+    return joined;
+}
+
+} // namespace
+
+// Without it, Key would not be a key: there is no general way to hash a class.
+template <> UINT AFXAPI HashKey<const Key&>(const Key& key) {
+    return static_cast<UINT>(key.number % 3);
+}
+
+namespace {
+
+TEST(List, PositionsSurviveChangesElsewhere) {
+    CStringList list;
+    const POSITION b = list.AddTail("b");
+    list.AddHead("a");
+    const POSITION d = list.InsertAfter(b, "d");
+    list.InsertBefore(d, "c");
+    list.InsertAfter(nullptr, "e");
+    list.InsertBefore(nullptr, "0");
+    EXPECT_EQ("0abcde", Join(list));
+    EXPECT_EQ("edcba0", JoinBackwards(list));
+    list.RemoveAt(list.FindIndex(3));
+    EXPECT_STREQ("b", list.GetAt(b));
+    list.SetAt(d, "D");
+    EXPECT_EQ("0abDe", Join(list));
+    list.RemoveAt(b);
+    EXPECT_STREQ("0", list.RemoveHead());
+    EXPECT_STREQ("e", list.RemoveTail());
+    EXPECT_EQ("aD", Join(list));
+    EXPECT_EQ("Da", JoinBackwards(list));
+    EXPECT_EQ(2, list.GetCount());
+
+    CStringList more;
+    more.AddTail("1");
+    more.AddTail("2");
+    list.AddHead(&more);
+    list.AddTail(&more);
+    EXPECT_EQ("12aD12", Join(list));
+    list.RemoveAll();
+    EXPECT_TRUE(list.IsEmpty());
+    list.AddHead(&more);
+    EXPECT_EQ("12", Join(list)) << "into an empty list";
+    EXPECT_EQ("21", JoinBackwards(list));
+}
+
+TEST(List, FindsBehindAPosition) {
+    CList<int, int> list;
+    for (const int value : {5, 6, 5, 7})
+        list.AddTail(value);
+    const POSITION first = list.Find(5);
+    EXPECT_EQ(list.FindIndex(0), first);
+    EXPECT_EQ(list.FindIndex(2), list.Find(5, first));
+    EXPECT_EQ(nullptr, list.Find(6, list.FindIndex(1)));
+    EXPECT_EQ(nullptr, list.Find(9));
+    EXPECT_EQ(nullptr, list.FindIndex(4));
+    EXPECT_EQ(nullptr, list.FindIndex(-1));
+    CStringList texts;
+    texts.AddTail("find me");
+    EXPECT_EQ(texts.GetHeadPosition(), texts.Find("find me"));
+}
+
+TEST(List, WalkMayRemoveWhatItHasPassed) {
+    CTypedPtrList<CPtrList, int*> list;
+    int values[] = {1, 2, 3, 4, 5};
+    for (int& value : values)
+        list.AddTail(&value);
+    for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
+        const POSITION here = position;
+        if (*list.GetNext(position) % 2 == 0)
+            list.RemoveAt(here);
+    }
+    EXPECT_EQ(3, list.GetCount());
+    list.GetHead() = &values[4];
+    EXPECT_EQ(5, *list.RemoveHead());
+    EXPECT_EQ(5, *list.GetTail());
+}
+
+TEST(List, RefusesWhatIsNotThere) {
+    CList<int, int> list;
+    EXPECT_REFUSED(list.GetHead());
+    EXPECT_REFUSED(list.RemoveTail());
+    EXPECT_REFUSED(list.RemoveAt(nullptr));
+}
+
+TEST(List, StaysAsItWasWhenMemoryRunsOut) {
+    CList<CString, const CString&> list;
+    list.AddTail("kept");
+    testkit::AllocationGuard guard;
+    guard.FailAt(1);
+    EXPECT_TRUE(Throws<CMemoryException>([&] { list.AddHead(list.GetTail()); }));
+    EXPECT_TRUE(guard.Failed());
+    EXPECT_EQ(1, list.GetCount());
+    EXPECT_STREQ("kept", list.GetHead());
+}
+
+TEST(Map, ActsLikeAMapUnderRandomCalls) {
+    std::mt19937 random(21);
+    CMap<int, int, CString, LPCTSTR> map;
+    std::map<int, std::string> model;
+    map.InitHashTable(7);
+    for (int step = 0; step < 4000; ++step) {
+        const int key = static_cast<int>(random() % 100) - 50;
+        const std::string value = std::to_string(step);
+        switch (random() % 4) {
+        case 0:
+            map.SetAt(key, value.c_str());
+            model[key] = value;
+            break;
+        case 1:
+            map[key] += value.c_str();
+            model[key] += value;
+            break;
+        case 2:
+            ASSERT_EQ(model.erase(key) == 1, map.RemoveKey(key) != FALSE);
+            break;
+        default: {
+            CString found("untouched");
+            const auto expected = model.find(key);
+            ASSERT_EQ(expected != model.end(), map.Lookup(key, found) != FALSE);
+            ASSERT_STREQ(expected == model.end() ? "untouched" : expected->second.c_str(), found);
+        }
+        }
+        ASSERT_EQ(static_cast<INT_PTR>(model.size()), map.GetCount());
+    }
+    EXPECT_EQ(7u, map.GetHashTableSize());
+    std::map<int, std::string> seen;
+    for (POSITION position = map.GetStartPosition(); position != nullptr;) {
+        int key = 0;
+        CString value;
+        map.GetNextAssoc(position, key, value);
+        EXPECT_TRUE(seen.emplace(key, value.GetString()).second) << "a key twice";
+        map.RemoveKey(key); // what the walk has passed may go
+    }
+    EXPECT_EQ(model, seen);
+    EXPECT_TRUE(map.IsEmpty());
+    EXPECT_EQ(nullptr, map.GetStartPosition());
+}
+
+TEST(Map, KeysAreHashedAndComparedAsTheProgramSays) {
+    CMap<Key, const Key&, int, int> map;
+    for (int i = 0; i < 30; ++i)
+        map.SetAt(Key{i}, i * i);
+    int value = 0;
+    for (int i = 0; i < 30; ++i) {
+        ASSERT_TRUE(map.Lookup(Key{i}, value));
+        EXPECT_EQ(i * i, value);
+    }
+    EXPECT_FALSE(map.Lookup(Key{30}, value));
+}
+
+TEST(Map, TextKeysCompareByCharacters) {
+    CMapStringToString map;
+    map["key"] = "one";
+    char same[] = "key";
+    map.SetAt(same, "two");
+    EXPECT_EQ(1, map.GetCount());
+    CString value;
+    EXPECT_TRUE(map.Lookup(CString("key"), value));
+    EXPECT_STREQ("two", value);
+    EXPECT_FALSE(map.Lookup("Key", value));
+    LPCTSTR stored = nullptr;
+    EXPECT_TRUE(map.LookupKey(same, stored));
+    EXPECT_STREQ("key", stored);
+    EXPECT_NE(same, stored) << "the map's own copy";
+
+    CTypedPtrMap<CMapStringToOb, CString, CMapStringToString*> typed;
+    typed.SetAt("map", &map);
+    CMapStringToString* found = nullptr;
+    EXPECT_TRUE(typed.Lookup("map", found));
+    EXPECT_EQ(&map, found);
+    typed["other"] = found;
+    POSITION position = typed.GetStartPosition();
+    CString key;
+    typed.GetNextAssoc(position, key, found);
+    typed.GetNextAssoc(position, key, found);
+    EXPECT_EQ(nullptr, position);
+    EXPECT_TRUE(typed.RemoveKey("map"));
+    EXPECT_FALSE(typed.RemoveKey("map"));
+}
+
+TEST(Map, PairsWalkThroughTheWholeMap) {
+    CMap<UINT, UINT, double, double> map;
+    std::set<UINT> keys;
+    for (UINT i = 0; i < 100; ++i)
+        map.SetAt(i * 16, i);
+    for (auto* pair = map.PGetFirstAssoc(); pair != nullptr; pair = map.PGetNextAssoc(pair)) {
+        keys.insert(pair->key);
+        pair->value += 1;
+    }
+    EXPECT_EQ(100u, keys.size());
+    EXPECT_EQ(51.0, map.PLookup(800)->value);
+    EXPECT_EQ(nullptr, map.PLookup(801));
+}
+
+TEST(Map, StaysAsItWasWhenMemoryRunsOut) {
+    for (int n = 1;; ++n) {
+        CMap<int, int, int, int> map;
+        testkit::AllocationGuard guard;
+        guard.FailAt(n);
+        if (!Throws<CMemoryException>([&] { map.SetAt(1, 2); })) {
+            EXPECT_GT(n, 2) << "table and element";
+            break;
+        }
+        int value = 0;
+        EXPECT_FALSE(map.Lookup(1, value));
+        EXPECT_EQ(0, map.GetCount());
+    }
+}
+
+} // namespace

@@ -1,0 +1,227 @@
+#include <afxtempl.h>
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "tests/mfc/base/BaseTestIds.h"
+#include "tests/mfc/base/Refusal.h"
+#include "tests/support/MessageBoxWatcher.h"
+
+// Exceptions; those of AfxThrow... are thrown in the library's DLL and caught here.
+
+namespace {
+
+/// Counts its objects.
+class CCountedException : public CException {
+    DECLARE_DYNAMIC(CCountedException)
+public:
+    explicit CCountedException(BOOL autoDelete = TRUE) : CException(autoDelete) { ++alive; }
+    ~CCountedException() override { --alive; }
+    static inline int alive = 0;
+};
+IMPLEMENT_DYNAMIC(CCountedException, CException)
+
+class CSpecialException : public CCountedException {
+    DECLARE_DYNAMIC(CSpecialException)
+};
+IMPLEMENT_DYNAMIC(CSpecialException, CCountedException)
+
+std::string MessageOf(CException& exception) {
+    char text[256] = "untouched";
+    UINT help = 77;
+    const BOOL told = exception.GetErrorMessage(text, sizeof text, &help);
+    EXPECT_EQ(0u, help);
+    return told ? text : "(none)";
+}
+
+TEST(Exception, CrossesTheDllBorderByItsOwnTypeAndByItsBases) {
+    EXPECT_TRUE(Throws<CMemoryException>([] { AfxThrowMemoryException(); }));
+    EXPECT_TRUE(Throws<CSimpleException>([] { AfxThrowResourceException(); }));
+    EXPECT_TRUE(Throws<CException>([] { AfxThrowFileException(CFileException::diskFull); }));
+    EXPECT_TRUE(Throws<CUserException>([] { AfxThrowUserException(); }));
+    EXPECT_TRUE(Throws<CNotSupportedException>([] { AfxThrowNotSupportedException(); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([] { AfxThrowInvalidArgException(); }));
+    bool passed = false;
+    try {
+        try {
+            AfxThrowArchiveException(CArchiveException::badClass, "name");
+        } catch (CFileException*) {
+            ADD_FAILURE() << "another type";
+        }
+    } catch (CArchiveException* exception) {
+        EXPECT_STREQ("name", exception->m_strFileName);
+        exception->Delete();
+        passed = true;
+    }
+    EXPECT_TRUE(passed);
+}
+
+TEST(Exception, DeleteLeavesWhatIsNotOnTheHeap) {
+    (new CCountedException)->Delete();
+    EXPECT_EQ(0, CCountedException::alive);
+    {
+        CCountedException local(FALSE);
+        local.Delete();
+        EXPECT_EQ(1, CCountedException::alive);
+    }
+    EXPECT_EQ(0, CCountedException::alive);
+}
+
+TEST(ExceptionMacros, TheFirstFittingBlockCatchesAndDeletes) {
+    std::string seen;
+    TRY {
+        THROW(new CSpecialException);
+    }
+    CATCH(CFileException, e) {
+        seen += "file";
+        e->ReportError();
+    }
+    AND_CATCH(CCountedException, e) {
+        seen += e->GetRuntimeClass()->m_lpszClassName;
+        EXPECT_EQ(1, CCountedException::alive);
+    }
+    AND_CATCH_ALL(e) {
+        seen += "all";
+        e->ReportError();
+    }
+    END_CATCH_ALL
+    EXPECT_EQ("CSpecialException", seen);
+    EXPECT_EQ(0, CCountedException::alive) << "the macro deletes it";
+}
+
+// clang-format off
+TEST(ExceptionMacros, ThrowLastPassesTheSameObjectOn) {
+    CException* first = nullptr;
+    CException* second = nullptr;
+    TRY {
+        TRY {
+            THROW(new CSpecialException);
+        }
+        CATCH(CSpecialException, e) {
+            first = e;
+            THROW_LAST();
+        }
+        END_CATCH
+    }
+    CATCH_ALL(e) {
+        second = e;
+        EXPECT_EQ(1, CCountedException::alive);
+    }
+    END_CATCH_ALL
+    EXPECT_NE(nullptr, first);
+    EXPECT_EQ(first, second);
+    EXPECT_EQ(0, CCountedException::alive);
+}
+// clang-format on
+
+TEST(ExceptionMacros, LeavingTheBlockAnyWayDeletes) {
+    const auto leaveByReturn = [] {
+        TRY {
+            THROW(new CCountedException);
+        }
+        CATCH(CCountedException, e) {
+            return e->IsKindOf(RUNTIME_CLASS(CCountedException));
+        }
+        END_CATCH
+        return FALSE;
+    };
+    EXPECT_TRUE(leaveByReturn());
+    EXPECT_EQ(0, CCountedException::alive);
+    EXPECT_TRUE(Throws<CUserException>([] {
+        TRY {
+            THROW(new CCountedException);
+        }
+        CATCH_ALL(e) {
+            static_cast<void>(e);
+            AfxThrowUserException();
+        }
+        END_CATCH_ALL
+    }));
+    EXPECT_EQ(0, CCountedException::alive);
+}
+
+TEST(Exception, NewThrowsTheLibrarysOwnWhenMemoryRunsOut) {
+    // This program's operator new is a test's own; the library's DLL has the real one.
+    CString text;
+    EXPECT_TRUE(Throws<CMemoryException>([&] { text.GetBuffer(INT_MAX); }));
+    const std::new_handler handler = std::get_new_handler();
+    ASSERT_NE(nullptr, handler);
+    EXPECT_TRUE(Throws<CMemoryException>([&] { handler(); }));
+}
+
+TEST(Exception, MessagesAreCutToTheirBuffer) {
+    CFileException file(CFileException::fileNotFound, -1, "C:\\data.csv");
+    EXPECT_EQ("C:\\data.csv was not found.", MessageOf(file));
+    CFileException unnamed(CFileException::diskFull);
+    EXPECT_NE(std::string::npos, MessageOf(unnamed).find("unnamed"));
+    CFileException strange(4711);
+    EXPECT_NE("(none)", MessageOf(strange)) << "an unknown cause reads as the generic one";
+    CArchiveException archive(CArchiveException::endOfFile, "a.bin");
+    EXPECT_NE(std::string::npos, MessageOf(archive).find("a.bin"));
+    CMemoryException memory;
+    EXPECT_NE("(none)", MessageOf(memory));
+    CUserException user;
+    EXPECT_EQ("(none)", MessageOf(user));
+
+    char small[] = "1234567";
+    EXPECT_TRUE(file.GetErrorMessage(small, 4));
+    EXPECT_STREQ("C:\\", small);
+    EXPECT_STREQ("567", small + 4) << "nothing behind the limit is touched";
+    EXPECT_TRUE(file.GetErrorMessage(small, 0));
+    EXPECT_STREQ("C:\\", small);
+    // A name longer than any buffer.
+    CFileException longName(CFileException::badPath, -1, CString('n', 100000));
+    char text[64];
+    EXPECT_TRUE(longName.GetErrorMessage(text, sizeof text));
+    EXPECT_EQ(63u, strlen(text));
+}
+
+TEST(Exception, ReportErrorShowsTheTextOrSaysThereIsNone) {
+    testkit::MessageBoxWatcher watcher(IDYES);
+    CFileException file(CFileException::accessDenied, -1, "x.txt");
+    EXPECT_EQ(IDYES, file.ReportError(MB_YESNO));
+    CCountedException silent;
+    silent.ReportError();
+    silent.ReportError(MB_OK, 64999); // no such string
+    silent.ReportError(MB_OK, IDS_BASE_PLAIN);
+    ASSERT_EQ(4u, watcher.Boxes().size());
+    EXPECT_EQ("A text from the resources", watcher.Boxes()[3].text);
+    EXPECT_EQ("Access to x.txt was denied.", watcher.Boxes()[0].text);
+    EXPECT_EQ("No error message is available", watcher.Boxes()[1].text);
+    EXPECT_EQ("No error message is available", watcher.Boxes()[2].text);
+}
+
+TEST(Exception, ErrorNumbersHaveCauses) {
+    struct {
+        LONG osError;
+        int cause;
+    } const cases[] = {
+        {NO_ERROR, CFileException::none},
+        {ERROR_FILE_NOT_FOUND, CFileException::fileNotFound},
+        {ERROR_PATH_NOT_FOUND, CFileException::badPath},
+        {ERROR_TOO_MANY_OPEN_FILES, CFileException::tooManyOpenFiles},
+        {ERROR_ACCESS_DENIED, CFileException::accessDenied},
+        {ERROR_INVALID_HANDLE, CFileException::invalidFile},
+        {ERROR_CURRENT_DIRECTORY, CFileException::removeCurrentDir},
+        {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
+        {ERROR_CRC, CFileException::hardIO},
+        {ERROR_SHARING_VIOLATION, CFileException::sharingViolation},
+        {ERROR_LOCK_VIOLATION, CFileException::lockViolation},
+        {ERROR_DISK_FULL, CFileException::diskFull},
+        {ERROR_HANDLE_EOF, CFileException::endOfFile},
+        {123456, CFileException::genericException},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.cause, CFileException::OsErrorToException(c.osError)) << c.osError;
+    EXPECT_EQ(CFileException::fileNotFound, CFileException::ErrnoToException(ENOENT));
+    EXPECT_EQ(CFileException::diskFull, CFileException::ErrnoToException(ENOSPC));
+    EXPECT_EQ(CFileException::sharingViolation,
+              CauseOf<CFileException>([] { CFileException::ThrowOsError(ERROR_SHARING_VIOLATION); }));
+}
+
+} // namespace

@@ -1,0 +1,115 @@
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/mfc/base/BaseTestIds.h"
+#include "tests/mfc/base/Refusal.h"
+
+// CString's formats and resources.
+
+namespace {
+
+#define EXPECT_TEXT(expected, text) EXPECT_STREQ(expected, static_cast<LPCTSTR>(text))
+
+constexpr UINT missingString = 64999;
+
+TEST(StringFormat, TakesStringsNumbersAndTheTargetItself) {
+    const CString name("name");
+    CString text;
+    text.Format("%s=%d|%-6s|%5.2f|%c|%x|%u", name, -7, CString("ab"), 3.14159, 'q', 255u, 4000000000u);
+    EXPECT_TEXT("name=-7|ab    | 3.14|q|ff|4000000000", text);
+    text.Format("%s+%s", text, text);
+    EXPECT_TEXT("name=-7|ab    | 3.14|q|ff|4000000000+name=-7|ab    | 3.14|q|ff|4000000000", text);
+    text.Format("%I64d %lld %p", LONGLONG{-9000000000}, LONGLONG{9000000000}, nullptr);
+    EXPECT_EQ(0, text.Find("-9000000000 9000000000 "));
+    text.Format("%S|%ls|%hs", L"wide", L"wider", "narrow");
+    EXPECT_TEXT("wide|wider|narrow", text);
+    text.Format("%*d|%.*s|100%%", 5, 42, 2, "abc");
+    EXPECT_TEXT("   42|ab|100%", text);
+    text.Format("plain");
+    EXPECT_TEXT("plain", text);
+    text.AppendFormat(" and %s", name);
+    EXPECT_TEXT("plain and name", text);
+    text.AppendFormat("<%s>", text);
+    EXPECT_TEXT("plain and name<plain and name>", text);
+}
+
+TEST(StringFormat, HasNoLongestText) {
+    CString text;
+    text.Format("%.400f", 1.0 / 3.0);
+    EXPECT_EQ(402, text.GetLength());
+    EXPECT_EQ(0, text.Find("0.333333333333333314829616256247"));
+    text.Format("%f", -1e300);
+    EXPECT_EQ(302, text.Find('.')) << "a sign and 301 digits";
+    const CString million('m', 1000000);
+    text.Format("<%s>", million);
+    EXPECT_EQ(1000002, text.GetLength());
+    EXPECT_TRUE(text == "<" + million + ">");
+    // Around the size of an inner buffer, a terminating zero more or less would show.
+    for (int length = 200; length < 600; ++length) {
+        text.Format("%*d", length, 7);
+        ASSERT_EQ(length, text.GetLength());
+        ASSERT_EQ('7', text[length - 1]);
+    }
+}
+
+TEST(StringFormat, FormatVTakesAnArgumentList) {
+    const auto format = [](CString& text, LPCTSTR pattern, ...) {
+        va_list args;
+        va_start(args, pattern);
+        text.FormatV(pattern, args);
+        va_end(args);
+    };
+    CString text("before");
+    format(text, "%d-%s", 5, "five");
+    EXPECT_TEXT("5-five", text);
+}
+
+TEST(StringFormat, MessagesPlaceInsertsByNumber) {
+    CString text;
+    text.FormatMessage("%2 before %1, %3!d!", "first", CString("second"), 3);
+    EXPECT_TEXT("second before first, 3", text);
+}
+
+TEST(StringFormat, ResourcesAreTextsAndFormats) {
+    CString text;
+    EXPECT_TRUE(text.LoadString(IDS_BASE_PLAIN));
+    EXPECT_TEXT("A text from the resources", text);
+    EXPECT_TEXT("A text from the resources", CString(MAKEINTRESOURCE(IDS_BASE_PLAIN)));
+    text.Format(IDS_BASE_FORMAT, CString("it"), 3);
+    EXPECT_TEXT("it has 3 parts", text);
+    text.AppendFormat(IDS_BASE_FORMAT, "!", 4);
+    EXPECT_TEXT("it has 3 parts! has 4 parts", text);
+    text.FormatMessage(IDS_BASE_MESSAGE, "one", CString("two"));
+    EXPECT_TEXT("two before one", text);
+    EXPECT_TEXT("1970-01-01", CTime(0).FormatGmt(IDS_BASE_TIME));
+    EXPECT_TRUE(text.LoadString(IDS_BASE_LONG));
+    EXPECT_TEXT("its very end.", text.Right(13));
+
+    char message[64];
+    CMemoryException exception(FALSE, IDS_BASE_PLAIN);
+    EXPECT_TRUE(exception.GetErrorMessage(message, sizeof message));
+    EXPECT_STREQ("A text from the resources", message);
+}
+
+TEST(StringFormat, MissingResourcesAreToldAndLeaveNoText) {
+    CString text("old");
+    EXPECT_FALSE(text.LoadString(missingString));
+    EXPECT_TRUE(text.IsEmpty());
+    text = "old";
+    text.Format(missingString, 1);
+    EXPECT_TEXT("old", text);
+    EXPECT_TRUE(CString(MAKEINTRESOURCE(missingString)).IsEmpty());
+}
+
+TEST(StringFormat, TraceTakesStringsToo) {
+    const CString text("text");
+    const int number = 5;
+    TRACE("%s %d\n", text, number);
+    TRACE0("100% plain\n");
+    TRACE2("%s %d\n", text, number);
+}
+
+} // namespace

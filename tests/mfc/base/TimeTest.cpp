@@ -1,0 +1,225 @@
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+#include "tests/mfc/base/Refusal.h"
+#include "tests/support/ImportHook.h"
+
+// CTime and CTimeSpan.
+
+namespace {
+
+constexpr __time64_t hour = 3600;
+constexpr __time64_t day = 24 * hour;
+
+std::string Local(CTime time) {
+    return time.Format("%Y-%m-%d %H:%M:%S").GetString();
+}
+
+std::string Gmt(CTime time) {
+    return time.FormatGmt("%Y-%m-%d %H:%M:%S").GetString();
+}
+
+/// The rules of some zones as the system would tell them: `day` is the how many-th Sunday of the month, 5 the
+/// last.
+struct Change {
+    WORD month;
+    WORD day;
+    WORD hour;
+};
+struct Zone {
+    const char* name;
+    LONG bias; // minutes, west positive
+    WORD firstYear;
+    Change toStandard;
+    Change toDaylight;
+};
+
+const Zone zones[] = {
+    {"America/New_York", 300, 2007, {11, 1, 2}, {3, 2, 2}},
+    {"America/New_York", 300, 0, {10, 5, 2}, {4, 1, 2}},
+    {"Asia/Tokyo", -540, 0, {}, {}},
+    {"Asia/Kolkata", -330, 0, {}, {}},
+    {"Australia/Sydney", -600, 0, {4, 1, 3}, {10, 1, 2}},
+    {"UTC", 0, 0, {}, {}},
+};
+
+const char* currentZone = nullptr;
+
+SYSTEMTIME AsRule(const Change& change) {
+    SYSTEMTIME rule{};
+    rule.wMonth = change.month;
+    rule.wDay = change.day;
+    rule.wHour = change.hour;
+    return rule;
+}
+
+BOOL WINAPI RulesOfCurrentZone(USHORT year, PDYNAMIC_TIME_ZONE_INFORMATION, LPTIME_ZONE_INFORMATION rules) {
+    for (const Zone& zone : zones) {
+        if (strcmp(zone.name, currentZone) != 0 || year < zone.firstYear)
+            continue;
+        *rules = {};
+        rules->Bias = zone.bias;
+        rules->DaylightBias = -60;
+        rules->StandardDate = AsRule(zone.toStandard);
+        rules->DaylightDate = AsRule(zone.toDaylight);
+        return TRUE;
+    }
+    return FALSE;
+}
+
+struct Moment {
+    const char* zone;
+    __time64_t utc;
+    const char* local;
+    int isDst;
+};
+
+const Moment moments[] = {
+    {"America/New_York", 1705320000, "2024-01-15 07:00:00", 0},
+    {"America/New_York", 1721044800, "2024-07-15 08:00:00", 1},
+    {"America/New_York", 1710053999, "2024-03-10 01:59:59",
+     0}, // the last second before the clocks go forward
+    {"America/New_York", 1710054000, "2024-03-10 03:00:00", 1},
+    {"America/New_York", 1730613599, "2024-11-03 01:59:59", 1}, // and before they go back
+    {"America/New_York", 1730613600, "2024-11-03 01:00:00", 0},
+    {"America/New_York", 1704067199, "2023-12-31 18:59:59", 0}, // another year than in UTC
+    {"America/New_York", -1, "1969-12-31 18:59:59", 0},
+    {"America/New_York", -86400 * 365, "1968-12-31 19:00:00", 0},
+    {"Asia/Tokyo", 1721044800, "2024-07-15 21:00:00", 0},
+    {"Asia/Tokyo", 1735657200, "2025-01-01 00:00:00", 0},
+    {"Asia/Kolkata", 1721044800, "2024-07-15 17:30:00", 0},     // half an hour
+    {"Australia/Sydney", 1705320000, "2024-01-15 23:00:00", 1}, // summer in January
+    {"Australia/Sydney", 1721044800, "2024-07-15 22:00:00", 0},
+    {"UTC", 1721044800, "2024-07-15 12:00:00", 0},
+    {"UTC", 4102444800, "2100-01-01 00:00:00", 0}, // beyond 32 bits
+};
+
+void CheckMoments(const char* zone) {
+    for (const Moment& moment : moments) {
+        if (strcmp(zone, moment.zone) != 0)
+            continue;
+        const CTime time(moment.utc);
+        EXPECT_EQ(moment.local, Local(time)) << zone << " " << moment.utc;
+        EXPECT_EQ(moment.isDst, time.GetLocalTm()->tm_isdst) << zone << " " << moment.local;
+        SYSTEMTIME local{};
+        ASSERT_TRUE(time.GetAsSystemTime(local));
+        EXPECT_TRUE(CTime(local, moment.isDst) == time) << zone << " " << moment.local << " back again";
+        EXPECT_TRUE(CTime(time.GetYear(), time.GetMonth(), time.GetDay(), time.GetHour(), time.GetMinute(),
+                          time.GetSecond(), moment.isDst) == time);
+    }
+}
+
+TEST(Time, FollowsTheRulesOfTheZoneAndYear) {
+    const testkit::ImportHook hook("KavlixMfc.dll", "GetTimeZoneInformationForYear",
+                                   reinterpret_cast<void*>(&RulesOfCurrentZone));
+    ASSERT_TRUE(hook.Installed());
+    for (const char* zone : {"America/New_York", "Asia/Tokyo", "Asia/Kolkata", "Australia/Sydney", "UTC"}) {
+        currentZone = zone;
+        CheckMoments(zone);
+    }
+    currentZone = "America/New_York";
+    EXPECT_EQ("2006-03-20 07:00:00", Local(CTime(1142856000))) << "the rules of 2006, not of today";
+    EXPECT_EQ("2007-03-20 08:00:00", Local(CTime(1174392000)));
+    EXPECT_EQ(1721044800, CTime(2024, 7, 15, 8, 0, 0).GetTime()) << "the rules decide";
+    EXPECT_EQ(1705320000, CTime(2024, 1, 15, 7, 0, 0).GetTime());
+    EXPECT_EQ(1721044800 + hour, CTime(2024, 7, 15, 8, 0, 0, 0).GetTime()) << "standard time was asked for";
+    EXPECT_EQ(1705320000 - hour, CTime(2024, 1, 15, 7, 0, 0, 1).GetTime()) << "daylight-saving time was";
+    EXPECT_STREQ("-0400", CTime(1721044800).Format("%z"));
+    EXPECT_STREQ("-0500", CTime(1705320000).Format("%z"));
+    EXPECT_STREQ("+0000", CTime(1705320000).FormatGmt("%z"));
+    currentZone = "Asia/Kolkata";
+    EXPECT_STREQ("+0530", CTime(1721044800).Format("%z"));
+}
+
+TEST(Time, FollowsTheZoneOfTheSystem) {
+    // In a zone of the table, told by TZ, the system itself must come to the same; in any other, back and
+    // forth must.
+    char zone[64] = "";
+    GetEnvironmentVariableA("TZ", zone, sizeof zone);
+    CheckMoments(zone);
+    for (__time64_t utc = -20 * 365 * day; utc < 100 * 365 * day; utc += 37 * day + 12345) {
+        const CTime time(utc);
+        const struct tm local = *time.GetLocalTm();
+        ASSERT_TRUE(CTime(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
+                          local.tm_sec, local.tm_isdst) == time)
+            << utc;
+    }
+}
+
+TEST(Time, TellsGmtOfAnyYear) {
+    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime()));
+    EXPECT_EQ("1969-12-31 23:59:59", Gmt(CTime(-1)));
+    EXPECT_EQ("2000-02-29 00:00:00", Gmt(CTime(951782400)));
+    EXPECT_EQ("2038-01-19 03:14:08", Gmt(CTime(2147483648LL)));
+    EXPECT_EQ("1601-01-01 00:00:00", Gmt(CTime(-11644473600)));
+    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime(-11644473601))) << "before all dates";
+    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime(INT64_MAX)));
+    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime(INT64_MIN)));
+    struct tm record {};
+    EXPECT_EQ(&record, CTime(951782400).GetGmtTm(&record));
+    EXPECT_EQ(2, record.tm_wday);
+    EXPECT_EQ(59, record.tm_yday);
+    EXPECT_EQ(3, CTime(CTime(951782400 + 12 * hour)).GetDayOfWeek()) << "a Tuesday, counted from 1";
+}
+
+TEST(Time, FormatsEveryCodeAndCopiesWhatIsNone) {
+    const CTime time(951827696); // 2000-02-29 12:34:56 UTC
+    EXPECT_STREQ("00 02 29|12:34:56|060|AM/PM PM|12", time.FormatGmt("%y %m %d|%H:%M:%S|%j|AM/PM %p|%I"));
+    EXPECT_STREQ("100% %Q %", time.FormatGmt("100%% %Q %"));
+    EXPECT_STREQ("", time.FormatGmt(""));
+    const CString padding('x', 5000);
+    EXPECT_EQ(10004, time.FormatGmt(padding + "%Y" + padding).GetLength());
+}
+
+TEST(Time, OtherFormsOfDateAreTakenAndCutToSeconds) {
+    const FILETIME fileTime{0xD53E8000 + 9999999, 0x019DB1DE}; // 1970-01-01 and almost a second
+    EXPECT_EQ(0, CTime(fileTime).GetTime());
+    EXPECT_EQ("2024-07-15 10:20:30",
+              Local(CTime(WORD{(44 << 9) | (7 << 5) | 15}, WORD{(10 << 11) | (20 << 5) | 15})));
+    SYSTEMTIME nonsense{};
+    nonsense.wYear = 2023;
+    nonsense.wMonth = 2;
+    nonsense.wDay = 29;
+    EXPECT_EQ(-1, CTime(nonsense).GetTime());
+    EXPECT_EQ(-1, CTime(2023, 2, 29, 0, 0, 0).GetTime());
+#ifdef _DEBUG
+    EXPECT_DEATH(CTime(2023, 13, 1, 0, 0, 0), "assertion failed");
+    EXPECT_DEATH(CTime(2023, 1, 1, 24, 0, 0), "assertion failed");
+#else
+    EXPECT_EQ(-1, CTime(2023, 13, 1, 0, 0, 0).GetTime());
+    EXPECT_EQ(-1, CTime(-5, 1, 1, 24, 0, 0).GetTime());
+#endif
+    const __time64_t before = _time64(nullptr);
+    const __time64_t now = CTime::GetCurrentTime().GetTime();
+    EXPECT_LE(before, now);
+    EXPECT_GE(_time64(nullptr) + 1, now);
+}
+
+TEST(Time, SpansAddAndCompare) {
+    const CTimeSpan span(2, 3, 4, 5);
+    EXPECT_EQ(2 * day + 3 * hour + 4 * 60 + 5, span.GetTotalSeconds());
+    EXPECT_EQ(2, span.GetDays());
+    EXPECT_EQ(3, span.GetHours());
+    EXPECT_EQ(4, span.GetMinutes());
+    EXPECT_EQ(5, span.GetSeconds());
+    EXPECT_EQ(51, span.GetTotalHours());
+    EXPECT_STREQ("2 days 03:04:05 100%", span.Format("%D days %H:%M:%S 100%%"));
+    const CTimeSpan back = CTimeSpan(0) - span;
+    EXPECT_EQ(-2, back.GetDays());
+    EXPECT_EQ(-3, back.GetHours());
+    EXPECT_EQ(-5, back.GetSeconds());
+    const CTime start(1000);
+    CTime time = start + span;
+    EXPECT_TRUE(time > start && time - start == span && time - span == start && !(time <= start));
+    time -= span;
+    EXPECT_TRUE(time == start && time >= start);
+    EXPECT_TRUE(CTimeSpan(1) < CTimeSpan(2) && CTimeSpan(-1) < CTimeSpan(0));
+    // The ends of 64 bits wrap and do not trap.
+    EXPECT_EQ(INT64_MIN, (CTime(INT64_MAX) + CTimeSpan(1)).GetTime());
+}
+
+} // namespace

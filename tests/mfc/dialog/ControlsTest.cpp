@@ -1,0 +1,277 @@
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Each test makes its controls as children of a window that is never shown.
+class Controls : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(
+            m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr));
+    }
+    void TearDown() override { m_parent.DestroyWindow(); }
+    CWnd m_parent;
+    CRect m_rect{0, 0, 200, 100};
+    static constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE;
+};
+
+TEST_F(Controls, EditTextSelectionAndLines) {
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(kStyle | ES_MULTILINE, m_rect, &m_parent, 5));
+    EXPECT_EQ(5, edit.GetDlgCtrlID());
+    edit.SetWindowText("first\r\nsecond line\r\n\r\nlast");
+    EXPECT_EQ(4, edit.GetLineCount());
+    EXPECT_EQ(7, edit.LineIndex(1));
+    EXPECT_EQ(11, edit.LineLength(7));
+    EXPECT_EQ(1, edit.LineFromChar(8));
+    char line[32];
+    EXPECT_EQ(11, edit.GetLine(1, line, sizeof(line)));
+    EXPECT_EQ("second line", std::string(line, 11));
+    char one[2] = {'-', '-'};
+    EXPECT_EQ(1, edit.GetLine(1, one, 1))
+        << "room for one character, less than the message needs for its size";
+    EXPECT_EQ('s', one[0]);
+    EXPECT_EQ('-', one[1]);
+    EXPECT_EQ(0, edit.GetLine(9, line, sizeof(line)));
+
+    edit.SetSel(7, 13);
+    int start = 0, end = 0;
+    edit.GetSel(start, end);
+    EXPECT_EQ(7, start);
+    EXPECT_EQ(13, end);
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(7, 13)), edit.GetSel());
+    edit.ReplaceSel("2nd", TRUE);
+    EXPECT_TRUE(edit.CanUndo());
+    CString text;
+    edit.GetWindowText(text);
+    EXPECT_STREQ("first\r\n2nd line\r\n\r\nlast", text);
+    EXPECT_TRUE(edit.Undo());
+    edit.SetSel(0, -1);
+    edit.GetSel(start, end);
+    EXPECT_EQ(0, start);
+    edit.GetWindowText(text);
+    EXPECT_EQ(text.GetLength(), end);
+
+    edit.SetModify();
+    EXPECT_TRUE(edit.GetModify());
+    edit.SetLimitText(10);
+    EXPECT_EQ(10u, edit.GetLimitText());
+    edit.SetMargins(3, 4);
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(3, 4)), edit.GetMargins());
+    EXPECT_TRUE(edit.SetReadOnly());
+    EXPECT_NE(0u, edit.GetStyle() & ES_READONLY);
+}
+
+TEST_F(Controls, ButtonsAndStatics) {
+    CButton button;
+    ASSERT_TRUE(button.Create("&Three", kStyle | BS_AUTO3STATE, m_rect, &m_parent, 6));
+    EXPECT_EQ(0, button.GetCheck());
+    button.SetCheck(2);
+    EXPECT_EQ(2, button.GetCheck());
+    EXPECT_EQ(2u, button.GetState() & 3);
+    EXPECT_EQ(static_cast<UINT>(BS_AUTO3STATE), button.GetButtonStyle() & 0xF);
+    button.SetButtonStyle(BS_AUTOCHECKBOX);
+    EXPECT_EQ(static_cast<UINT>(BS_AUTOCHECKBOX), button.GetButtonStyle() & 0xF);
+
+    CStatic label;
+    ASSERT_TRUE(label.Create("", kStyle | SS_ICON, m_rect, &m_parent));
+    HICON const icon = ::LoadIcon(nullptr, IDI_APPLICATION);
+    EXPECT_EQ(nullptr, label.SetIcon(icon));
+    EXPECT_EQ(icon, label.GetIcon());
+}
+
+TEST_F(Controls, ListBoxItems) {
+    CListBox list;
+    ASSERT_TRUE(list.Create(kStyle | LBS_SORT, m_rect, &m_parent, 7));
+    EXPECT_EQ(0, list.AddString("pear"));
+    EXPECT_EQ(0, list.AddString("apple"));
+    EXPECT_EQ(2, list.InsertString(-1, "applause"));
+    EXPECT_EQ(3, list.GetCount());
+    CString text("unchanged");
+    list.GetText(1, text);
+    EXPECT_STREQ("pear", text);
+    list.GetText(9, text);
+    EXPECT_STREQ("", text);
+    EXPECT_EQ(2, list.FindString(0, "app"));
+    EXPECT_EQ(0, list.FindStringExact(-1, "APPLE"));
+    EXPECT_EQ(LB_ERR, list.FindStringExact(-1, "app"));
+    EXPECT_EQ(1, list.SelectString(-1, "pe"));
+    EXPECT_EQ(1, list.GetCurSel());
+    EXPECT_EQ(LB_ERR, list.SetCurSel(-1));
+    EXPECT_EQ(LB_ERR, list.GetCurSel());
+    list.SetItemDataPtr(2, &list);
+    EXPECT_EQ(&list, list.GetItemDataPtr(2));
+    EXPECT_EQ(2, list.DeleteString(0));
+    EXPECT_EQ(&list, list.GetItemDataPtr(1));
+    CRect first, second;
+    list.GetItemRect(0, first);
+    list.GetItemRect(1, second);
+    EXPECT_EQ(first.bottom, second.top);
+    BOOL outside = TRUE;
+    EXPECT_EQ(1u, list.ItemFromPoint(second.CenterPoint(), outside));
+    EXPECT_FALSE(outside);
+    list.ResetContent();
+    EXPECT_EQ(0, list.GetCount());
+
+    CListBox several;
+    ASSERT_TRUE(several.Create(kStyle | LBS_MULTIPLESEL, m_rect, &m_parent, 8));
+    for (LPCTSTR item : {"a", "b", "c", "d"})
+        several.AddString(item);
+    several.SetSel(3);
+    several.SelItemRange(TRUE, 0, 1);
+    EXPECT_EQ(3, several.GetSelCount());
+    int chosen[4] = {-1, -1, -1, -1};
+    EXPECT_EQ(3, several.GetSelItems(4, chosen));
+    EXPECT_EQ(3, chosen[2]);
+    EXPECT_EQ(-1, chosen[3]);
+    EXPECT_FALSE(several.GetSel(2));
+}
+
+TEST_F(Controls, ComboBoxItemsAndEditField) {
+    CComboBox combo;
+    ASSERT_TRUE(combo.Create(kStyle | CBS_DROPDOWN | CBS_AUTOHSCROLL, m_rect, &m_parent, 9));
+    const CString longText('z', 500);
+    combo.AddString("one");
+    combo.AddString(longText);
+    EXPECT_EQ(1, combo.InsertString(1, "two"));
+    CString text;
+    combo.GetLBText(2, text);
+    EXPECT_EQ(longText, text);
+    EXPECT_EQ(500, combo.GetLBTextLen(2));
+    combo.GetLBText(7, text);
+    EXPECT_STREQ("", text);
+    EXPECT_EQ(1, combo.SetCurSel(1));
+    combo.GetWindowText(text);
+    EXPECT_STREQ("two", text);
+    EXPECT_TRUE(combo.SetEditSel(1, 3));
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(1, 3)), combo.GetEditSel());
+    EXPECT_EQ(CB_ERR, combo.SetCurSel(-1));
+    combo.GetWindowText(text);
+    EXPECT_STREQ("", text);
+    combo.SetItemData(0, 1234);
+    EXPECT_EQ(1234u, combo.GetItemData(0));
+    EXPECT_FALSE(combo.GetDroppedState());
+}
+
+TEST_F(Controls, ScrollBarsAndTheirLimit) {
+    CScrollBar bar;
+    ASSERT_TRUE(bar.Create(kStyle | SBS_HORZ, m_rect, &m_parent, 10));
+    bar.SetScrollRange(-10, 90);
+    EXPECT_EQ(0, bar.SetScrollPos(40));
+    EXPECT_EQ(40, bar.SetScrollPos(500));
+    EXPECT_EQ(90, bar.GetScrollPos()) << "held in the range";
+    SCROLLINFO info{};
+    info.fMask = SIF_PAGE;
+    info.nPage = 21;
+    EXPECT_TRUE(bar.SetScrollInfo(&info));
+    EXPECT_EQ(70, bar.GetScrollLimit());
+    SCROLLINFO read{};
+    ASSERT_TRUE(bar.GetScrollInfo(&read));
+    EXPECT_EQ(-10, read.nMin);
+    EXPECT_EQ(21u, read.nPage);
+}
+
+TEST_F(Controls, OwnerDrawReachesTheControl) {
+    class CDrawn : public CListBox {
+    public:
+        int drawn = 0, compared = 0, deleted = 0;
+        void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
+        void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 33; }
+        int CompareItem(LPCOMPAREITEMSTRUCT items) override {
+            ++compared;
+            return items->itemData1 < items->itemData2 ? -1 : items->itemData1 > items->itemData2;
+        }
+        void DeleteItem(LPDELETEITEMSTRUCT) override { ++deleted; }
+    };
+    CDrawn list;
+    m_parent.ShowWindow(SW_SHOW);
+    ASSERT_TRUE(list.Create(kStyle | LBS_OWNERDRAWVARIABLE | LBS_SORT, m_rect, &m_parent, 11));
+    for (UINT_PTR value : {30, 10, 20})
+        list.AddString(reinterpret_cast<LPCTSTR>(value));
+    EXPECT_EQ(10u, list.GetItemData(0));
+    EXPECT_EQ(30u, list.GetItemData(2));
+    EXPECT_GT(list.compared, 0);
+    EXPECT_EQ(33, list.GetItemHeight(1));
+    list.UpdateWindow();
+    EXPECT_GE(list.drawn, 3);
+    list.DeleteString(0);
+    EXPECT_EQ(1, list.deleted);
+
+    class CDrawnButton : public CButton {
+    public:
+        UINT itemId = 0;
+        void DrawItem(LPDRAWITEMSTRUCT item) override { itemId = item->CtlID; }
+    } button;
+    ASSERT_TRUE(button.Create("", kStyle | BS_OWNERDRAW, CRect(0, 120, 50, 150), &m_parent, 12));
+    button.UpdateWindow();
+    EXPECT_EQ(12u, button.itemId);
+}
+
+TEST_F(Controls, CommonControls) {
+    CProgressCtrl progress;
+    ASSERT_TRUE(progress.Create(kStyle, m_rect, &m_parent, 20));
+    progress.SetRange32(0, 100000);
+    EXPECT_EQ(0, progress.SetPos(70000));
+    EXPECT_EQ(70000, progress.GetPos());
+    int low = 0, high = 0;
+    progress.GetRange(low, high);
+    EXPECT_EQ(100000, high);
+
+    CSliderCtrl slider;
+    ASSERT_TRUE(slider.Create(kStyle | TBS_ENABLESELRANGE, m_rect, &m_parent, 21));
+    slider.SetRange(-70000, 70000);
+    slider.SetPos(-65000);
+    EXPECT_EQ(-65000, slider.GetPos());
+    slider.SetPos(90000);
+    EXPECT_EQ(70000, slider.GetPos());
+    slider.SetSelection(-5, 5);
+    slider.GetSelection(low, high);
+    EXPECT_EQ(-5, low);
+    EXPECT_EQ(5, high);
+
+    CEdit buddy;
+    ASSERT_TRUE(buddy.Create(kStyle, m_rect, &m_parent, 22));
+    CSpinButtonCtrl spin;
+    ASSERT_TRUE(spin.Create(kStyle | UDS_SETBUDDYINT | UDS_NOTHOUSANDS, m_rect, &m_parent, 23));
+    EXPECT_EQ(nullptr, spin.SetBuddy(&buddy));
+    EXPECT_EQ(&buddy, spin.GetBuddy());
+    spin.SetRange(-50, 50);
+    spin.GetRange(low, high);
+    EXPECT_EQ(-50, low);
+    EXPECT_EQ(50, high);
+    spin.SetPos(-12);
+    CString text;
+    buddy.GetWindowText(text);
+    EXPECT_STREQ("-12", text);
+    EXPECT_EQ(-12, spin.SetPos(3)) << "the former position, with its sign";
+
+    CStatusBarCtrl status;
+    ASSERT_TRUE(status.Create(kStyle, m_rect, &m_parent, 24));
+    int edges[] = {100, -1};
+    EXPECT_TRUE(status.SetParts(2, edges));
+    EXPECT_TRUE(status.SetText("ready", 1, SBT_NOBORDERS));
+    int type = 0;
+    EXPECT_STREQ("ready", status.GetText(1, &type));
+    EXPECT_EQ(SBT_NOBORDERS, type);
+    int read[3] = {};
+    EXPECT_EQ(2, status.GetParts(3, read));
+    EXPECT_EQ(100, read[0]);
+
+    CToolTipCtrl tips;
+    ASSERT_TRUE(tips.Create(&m_parent));
+    EXPECT_TRUE(tips.AddTool(&slider, "drag me"));
+    EXPECT_TRUE(tips.AddTool(&m_parent, "corner", CRect(0, 0, 10, 10), 77));
+    EXPECT_EQ(2, tips.GetToolCount());
+    tips.GetText(text, &m_parent, 77);
+    EXPECT_STREQ("corner", text);
+    tips.UpdateTipText("other", &slider);
+    tips.GetText(text, &slider);
+    EXPECT_STREQ("other", text);
+    tips.DelTool(&m_parent, 77);
+    EXPECT_EQ(1, tips.GetToolCount());
+}
+
+} // namespace

@@ -1,0 +1,349 @@
+#include "tests/mfc/dialog/DialogIds.h"
+#include "tests/mfc/dialog/PromptAnswerer.h"
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <functional>
+#include <limits>
+
+namespace {
+
+/// A dialog whose exchange is whatever the test says.
+class CExchangeDialog : public CDialog {
+public:
+    std::function<void(CDataExchange*)> exchange;
+
+    void SetText(LPCTSTR text) { SetDlgItemText(IDC_TEXT, text); }
+    CString Text() const {
+        CString text;
+        GetDlgItemText(IDC_TEXT, text);
+        return text;
+    }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        CDialog::DoDataExchange(pDX);
+        if (exchange)
+            exchange(pDX);
+    }
+};
+
+class DataExchange : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(m_dialog.Create(IDD_DATA)); }
+    void TearDown() override { m_dialog.DestroyWindow(); }
+
+    HWND Item(int id) const { return ::GetDlgItem(m_dialog, id); }
+    BOOL Load(std::function<void(CDataExchange*)> exchange) {
+        m_dialog.exchange = std::move(exchange);
+        return m_dialog.UpdateData(FALSE);
+    }
+    BOOL Save(std::function<void(CDataExchange*)> exchange) {
+        m_dialog.exchange = std::move(exchange);
+        return m_dialog.UpdateData(TRUE);
+    }
+    /// Shows `value` and returns the text that appeared.
+    template <class Value> CString Shown(Value value) {
+        EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, value); }));
+        return m_dialog.Text();
+    }
+    /// What `text` reads as; `refused` if the exchange failed, and the user was told once.
+    template <class Value> Value Read(LPCTSTR text, Value refused) {
+        PromptAnswerer prompts;
+        m_dialog.SetText(text);
+        Value value = 77;
+        const BOOL read = Save([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, value); });
+        EXPECT_EQ(read ? 0u : 1u, prompts.texts.size()) << text;
+        if (!prompts.texts.empty())
+            m_prompt = prompts.texts[0];
+        if (read)
+            return value;
+        EXPECT_EQ(Value(77), value) << "the member changed though the input was refused";
+        return refused;
+    }
+
+    CExchangeDialog m_dialog;
+    std::string m_prompt;
+};
+
+TEST_F(DataExchange, IntegersOfEveryTypeAreShownAndRead) {
+    EXPECT_STREQ("-2147483648", Shown<int>(INT_MIN));
+    EXPECT_STREQ("4294967295", Shown<UINT>(UINT_MAX));
+    EXPECT_STREQ("-32768", Shown<short>(SHRT_MIN));
+    EXPECT_STREQ("255", Shown<BYTE>(255));
+    EXPECT_STREQ("-5", Shown<long>(-5));
+    EXPECT_STREQ("4294967295", Shown<DWORD>(UINT_MAX));
+
+    EXPECT_EQ(INT_MIN, Read<int>("-2147483648", 0));
+    EXPECT_EQ(INT_MAX, Read<int>(" \t+2147483647 ", 0));
+    EXPECT_EQ(UINT_MAX, Read<UINT>("4294967295", 0));
+    EXPECT_EQ(SHRT_MIN, Read<short>("-32768", 0));
+    EXPECT_EQ(255, Read<BYTE>("255", 0));
+    EXPECT_EQ(LONG_MAX, Read<long>("2147483647", 0));
+    EXPECT_EQ(UINT_MAX, Read<DWORD>("4294967295", 0));
+    EXPECT_EQ(10, Read<int>("010", 0)) << "decimal, whatever it begins with";
+}
+
+TEST_F(DataExchange, InputThatIsNoIntegerIsRefused) {
+    for (LPCTSTR text :
+         {"", "  ", "x", "12x", "1 2", "1.5", "2147483648", "-2147483649", "99999999999999999999999"})
+        EXPECT_EQ(-1, Read<int>(text, -1)) << text;
+    EXPECT_EQ("Enter an integer.", m_prompt);
+    for (LPCTSTR text : {"-1", "4294967296", "- 1", "abc", "", "-18446744073709551615"})
+        EXPECT_EQ(1u, Read<UINT>(text, 1u)) << text;
+    EXPECT_EQ("Enter a positive integer.", m_prompt);
+    for (LPCTSTR text : {"256", "-1", ""})
+        EXPECT_EQ(9, Read<BYTE>(text, 9)) << text;
+    EXPECT_EQ("Enter an integer between 0 and 255.", m_prompt);
+    for (LPCTSTR text : {"32768", "-32769"})
+        EXPECT_EQ(9, Read<short>(text, 9)) << text;
+}
+
+TEST_F(DataExchange, RealNumbersKeepTheDigitsTheyHave) {
+    EXPECT_STREQ("0.1", Shown<double>(0.1));
+    EXPECT_STREQ("0.1", Shown<float>(0.1f));
+    EXPECT_STREQ("123456789012345", Shown<double>(123456789012345.0));
+    EXPECT_STREQ("1e+300", Shown<double>(1e300));
+
+    EXPECT_EQ(-1.5e-7, Read<double>("-1.5e-7", 0));
+    EXPECT_EQ(2.5f, Read<float>("  2.5  ", 0));
+    for (LPCTSTR text : {"", "1,5", "nan", "inf", "0x10", "1e", "1e999", ".", "--1"})
+        EXPECT_EQ(-9.0, Read<double>(text, -9.0)) << text;
+    EXPECT_EQ("Enter a number.", m_prompt);
+    EXPECT_EQ(-9.0f, Read<float>("1e39", -9.0f)) << "too large for the member";
+}
+
+TEST_F(DataExchange, TextIsCopiedWholeAndOnlyWhenItDiffers) {
+    CString text('x', 20000);
+    ::SendMessage(Item(IDC_TEXT), EM_SETLIMITTEXT, 0, 0);
+    ASSERT_TRUE(Load([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, text); }));
+    EXPECT_EQ(text, m_dialog.Text());
+    CString read;
+    ASSERT_TRUE(Save([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, read); }));
+    EXPECT_EQ(text, read);
+
+    ::SendMessage(Item(IDC_TEXT), EM_SETSEL, 3, 5);
+    ASSERT_TRUE(Load([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, text); }));
+    EXPECT_EQ(MAKELONG(3, 5), ::SendMessage(Item(IDC_TEXT), EM_GETSEL, 0, 0))
+        << "the same text was set again";
+    m_dialog.SetText("");
+    ASSERT_TRUE(Save([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, read); }));
+    EXPECT_TRUE(read.IsEmpty());
+}
+
+TEST_F(DataExchange, FailureBringsTheUserBackToTheControl) {
+    m_dialog.ShowWindow(SW_SHOW);
+    ::SetFocus(Item(IDOK));
+    PromptAnswerer prompts;
+    m_dialog.SetText("12 apples");
+    int number = 3;
+    int later = 4;
+    ::SendMessage(Item(IDC_CHECK), BM_SETCHECK, 1, 0);
+    EXPECT_FALSE(Save([&](CDataExchange* pDX) {
+        DDX_Text(pDX, IDC_TEXT, number);
+        DDX_Check(pDX, IDC_CHECK, later);
+    }));
+    EXPECT_EQ(4, later) << "nothing behind the failure is exchanged";
+    EXPECT_EQ(Item(IDC_TEXT), ::GetFocus());
+    EXPECT_EQ(MAKELONG(0, 9), ::SendMessage(Item(IDC_TEXT), EM_GETSEL, 0, 0)) << "the text is selected";
+}
+
+TEST_F(DataExchange, ChecksAndRadioGroups) {
+    for (int value : {0, 1, 2}) {
+        EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Check(pDX, IDC_CHECK, value); }));
+        EXPECT_EQ(value, ::SendMessage(Item(IDC_CHECK), BM_GETCHECK, 0, 0));
+        int read = -5;
+        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_Check(pDX, IDC_CHECK, read); }));
+        EXPECT_EQ(value, read);
+    }
+    int wrong = 9;
+    EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Check(pDX, IDC_CHECK, wrong); }));
+    EXPECT_EQ(0, ::SendMessage(Item(IDC_CHECK), BM_GETCHECK, 0, 0));
+
+    // The label between the buttons does not count, and the group ends where the next begins.
+    ::SendMessage(Item(IDC_OTHER_RADIO), BM_SETCHECK, 1, 0);
+    const int ids[] = {IDC_RADIO_FIRST, IDC_RADIO_SECOND, IDC_RADIO_THIRD};
+    for (int value = -1; value < 3; ++value) {
+        EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_FIRST, value); }));
+        for (int button = 0; button < 3; ++button)
+            EXPECT_EQ(button == value ? 1 : 0, ::SendMessage(Item(ids[button]), BM_GETCHECK, 0, 0));
+        int read = -5;
+        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_FIRST, read); }));
+        EXPECT_EQ(value, read);
+    }
+    EXPECT_EQ(1, ::SendMessage(Item(IDC_OTHER_RADIO), BM_GETCHECK, 0, 0));
+}
+
+TEST_F(DataExchange, ListsByIndexByTextAndByExactText) {
+    for (int id : {IDC_LIST, IDC_DROPLIST, IDC_COMBO})
+        for (LPCTSTR text : {"Green tea", "Green", "Red"})
+            ::SendMessage(Item(id), id == IDC_LIST ? LB_ADDSTRING : CB_ADDSTRING, 0,
+                          reinterpret_cast<LPARAM>(text));
+    const auto list = [&](void (*ddx)(CDataExchange*, int, CString&), int id, LPCTSTR text) {
+        CString value(text);
+        EXPECT_TRUE(Load([&](CDataExchange* pDX) { ddx(pDX, id, value); }));
+        value = "unchanged";
+        EXPECT_TRUE(Save([&](CDataExchange* pDX) { ddx(pDX, id, value); }));
+        return value;
+    };
+    EXPECT_STREQ("Green tea", list(DDX_LBString, IDC_LIST, "gre"));
+    EXPECT_STREQ("Green", list(DDX_LBStringExact, IDC_LIST, "green"));
+    EXPECT_STREQ("Green", list(DDX_LBStringExact, IDC_LIST, "gre")) << "no exact match: the selection stays";
+    EXPECT_STREQ("Green tea", list(DDX_CBString, IDC_DROPLIST, "gre"));
+    EXPECT_STREQ("Green", list(DDX_CBStringExact, IDC_DROPLIST, "Green"));
+    EXPECT_STREQ("Purple", list(DDX_CBString, IDC_COMBO, "Purple")) << "goes into the edit field";
+    EXPECT_STREQ("Gre", list(DDX_CBStringExact, IDC_COMBO, "Gre"));
+
+    for (int index : {2, 0, -1}) {
+        int read = 5;
+        EXPECT_TRUE(Load([&](CDataExchange* pDX) {
+            DDX_LBIndex(pDX, IDC_LIST, index);
+            DDX_CBIndex(pDX, IDC_COMBO, index);
+        }));
+        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_LBIndex(pDX, IDC_LIST, read); }));
+        EXPECT_EQ(index, read);
+        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_CBIndex(pDX, IDC_COMBO, read); }));
+        EXPECT_EQ(index, read);
+    }
+    CString none("unchanged");
+    EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_LBString(pDX, IDC_LIST, none); }));
+    EXPECT_STREQ("", none);
+}
+
+TEST_F(DataExchange, PositionsOfScrollBarAndSlider) {
+    ::SetScrollRange(Item(IDC_SCROLL), SB_CTL, 0, 50, FALSE);
+    int scroll = 31;
+    int slider = 17;
+    EXPECT_TRUE(Load([&](CDataExchange* pDX) {
+        DDX_Scroll(pDX, IDC_SCROLL, scroll);
+        DDX_Slider(pDX, IDC_SLIDER, slider);
+    }));
+    EXPECT_EQ(31, ::GetScrollPos(Item(IDC_SCROLL), SB_CTL));
+    ::SendMessage(Item(IDC_SLIDER), TBM_SETPOS, TRUE, 44);
+    EXPECT_TRUE(Save([&](CDataExchange* pDX) {
+        DDX_Scroll(pDX, IDC_SCROLL, scroll);
+        DDX_Slider(pDX, IDC_SLIDER, slider);
+        DDV_MinMaxSlider(pDX, static_cast<DWORD>(slider), 0, 44);
+    }));
+    EXPECT_EQ(31, scroll);
+    EXPECT_EQ(44, slider);
+}
+
+TEST_F(DataExchange, RangesAreCheckedWhenSavingOnly) {
+    PromptAnswerer prompts;
+    int value = 50;
+    const auto range = [&](CDataExchange* pDX) {
+        DDX_Text(pDX, IDC_TEXT, value);
+        DDV_MinMaxInt(pDX, value, -5, 10);
+    };
+    EXPECT_TRUE(Load(range)) << "a member out of range is shown all the same";
+    EXPECT_STREQ("50", m_dialog.Text());
+    EXPECT_FALSE(Save(range));
+    for (LPCTSTR text : {"-5", "10", "0"}) {
+        m_dialog.SetText(text);
+        EXPECT_TRUE(Save(range)) << text;
+    }
+    m_dialog.SetText("-6");
+    EXPECT_FALSE(Save(range));
+    ASSERT_EQ(2u, prompts.texts.size());
+    EXPECT_EQ("Enter an integer between -5 and 10.", prompts.texts[1]);
+
+    const auto tell = [&](std::function<void(CDataExchange*)> check) {
+        EXPECT_FALSE(Save([&](CDataExchange* pDX) {
+            pDX->PrepareEditCtrl(IDC_TEXT);
+            check(pDX);
+        }));
+        return prompts.texts.back();
+    };
+    EXPECT_EQ("Enter an integer between 1 and 4294967295.",
+              tell([](CDataExchange* pDX) { DDV_MinMaxDWord(pDX, 0, 1, UINT_MAX); }));
+    EXPECT_EQ("Enter a number between 0.5 and 1e+30.",
+              tell([](CDataExchange* pDX) { DDV_MinMaxDouble(pDX, 0.25, 0.5, 1e30); }));
+    EXPECT_EQ("Enter a number between 0.1 and 0.2.",
+              tell([](CDataExchange* pDX) { DDV_MinMaxFloat(pDX, 0.3f, 0.1f, 0.2f); }));
+    EXPECT_EQ("Enter a number between 0 and 1.", tell([](CDataExchange* pDX) {
+                  DDV_MinMaxDouble(pDX, std::numeric_limits<double>::quiet_NaN(), 0, 1);
+              }));
+}
+
+TEST_F(DataExchange, LengthLimitHoldsForTypingAndForSaving) {
+    PromptAnswerer prompts;
+    CString value("abcdef");
+    const auto limited = [&](CDataExchange* pDX) {
+        DDX_Text(pDX, IDC_TEXT, value);
+        DDV_MaxChars(pDX, value, 4);
+    };
+    EXPECT_TRUE(Load(limited));
+    EXPECT_EQ(4, ::SendMessage(Item(IDC_TEXT), EM_GETLIMITTEXT, 0, 0));
+    EXPECT_FALSE(Save(limited));
+    ASSERT_EQ(1u, prompts.texts.size());
+    EXPECT_EQ("Enter no more than 4 characters.", prompts.texts[0]);
+    m_dialog.SetText("abcd");
+    EXPECT_TRUE(Save(limited));
+
+    CString combo;
+    EXPECT_TRUE(Load([&](CDataExchange* pDX) {
+        DDX_Text(pDX, IDC_COMBO, combo);
+        DDV_MaxChars(pDX, combo, 3);
+    }));
+    HWND const edit = ::FindWindowEx(Item(IDC_COMBO), nullptr, "EDIT", nullptr);
+    EXPECT_EQ(3, ::SendMessage(edit, EM_GETLIMITTEXT, 0, 0));
+}
+
+TEST_F(DataExchange, ControlsAreBoundOnce) {
+    class CBound : public CStatic {
+    public:
+        int subclassed = 0;
+        int texts = 0;
+
+    protected:
+        void PreSubclassWindow() override { ++subclassed; }
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            texts += message == WM_SETTEXT;
+            return CStatic::WindowProc(message, wParam, lParam);
+        }
+    };
+    CBound bound;
+    CEdit edit;
+    const auto bind = [&](CDataExchange* pDX) {
+        DDX_Control(pDX, IDC_BOUND, bound);
+        DDX_Control(pDX, IDC_TEXT, edit);
+    };
+    EXPECT_TRUE(Load(bind));
+    EXPECT_TRUE(Load(bind));
+    EXPECT_TRUE(Save(bind));
+    EXPECT_EQ(1, bound.subclassed);
+    EXPECT_EQ(Item(IDC_BOUND), bound.m_hWnd);
+    EXPECT_EQ(&bound, m_dialog.GetDlgItem(IDC_BOUND));
+    m_dialog.SetDlgItemText(IDC_BOUND, "new");
+    EXPECT_EQ(1, bound.texts);
+    CString text;
+    bound.GetWindowText(text);
+    EXPECT_STREQ("new", text) << "the control's own procedure still works";
+
+    m_dialog.DestroyWindow();
+    EXPECT_EQ(nullptr, bound.m_hWnd);
+    EXPECT_EQ(nullptr, edit.m_hWnd);
+}
+
+TEST_F(DataExchange, MissingControlsAreAnError) {
+    CDataExchange exchange(&m_dialog, TRUE);
+    CException* caught = nullptr;
+    try {
+        exchange.PrepareCtrl(4444);
+    } catch (CNotSupportedException* e) {
+        caught = e;
+    }
+    ASSERT_NE(nullptr, caught);
+    caught->Delete();
+    EXPECT_EQ(Item(IDC_CHECK), exchange.PrepareCtrl(IDC_CHECK));
+    EXPECT_FALSE(exchange.m_bEditLastControl);
+    EXPECT_EQ(Item(IDC_TEXT), exchange.PrepareEditCtrl(IDC_TEXT));
+    EXPECT_TRUE(exchange.m_bEditLastControl);
+}
+
+} // namespace

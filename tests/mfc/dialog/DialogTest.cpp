@@ -1,0 +1,359 @@
+#include "tests/mfc/dialog/DialogIds.h"
+#include "tests/mfc/dialog/PromptAnswerer.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <functional>
+
+namespace {
+
+constexpr UINT kRoutedCommand = 0x8123; // in the range that dialogs pass on
+constexpr UINT kControlCommand = 1099;  // not in it
+
+/// A dialog that does what the test says when it appears, and counts what it goes through.
+class CTestDialog : public CDialog {
+public:
+    explicit CTestDialog(UINT id, CWnd* parent = nullptr) : CDialog(id, parent) {}
+    CTestDialog() = default;
+
+    std::function<void(CTestDialog&)> onInit;
+    std::function<void(CTestDialog&)> onCommand;
+    CString text;
+    int number = 0;
+    bool withNumber = false;
+    int oks = 0;
+    int cancels = 0;
+    int ncDestroys = 0;
+    bool keepOnCancel = false;
+
+    BOOL OnInitDialog() override {
+        const BOOL setFocus = CDialog::OnInitDialog();
+        if (onInit)
+            onInit(*this);
+        return setFocus;
+    }
+    void Press(int id) { PostMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), 0); }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        CDialog::DoDataExchange(pDX);
+        if (withNumber)
+            DDX_Text(pDX, IDC_TEXT, number);
+        else
+            DDX_Text(pDX, IDC_TEXT, text);
+    }
+    void OnOK() override {
+        ++oks;
+        CDialog::OnOK();
+    }
+    void OnCancel() override {
+        ++cancels;
+        if (!keepOnCancel)
+            CDialog::OnCancel();
+    }
+    void PostNcDestroy() override { ++ncDestroys; }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        if (LOWORD(wParam) == kControlCommand && onCommand) {
+            onCommand(*this);
+            return TRUE;
+        }
+        return CDialog::OnCommand(wParam, lParam);
+    }
+};
+
+/// A window to own dialogs, which counts the commands that reach it.
+class COwner : public CWnd {
+public:
+    COwner() {
+        CreateEx(0, AfxRegisterWndClass(0), "owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 300, 200, 400, 300,
+                 nullptr, nullptr);
+    }
+    ~COwner() override { DestroyWindow(); }
+    int commands = 0;
+
+protected:
+    afx_msg void OnRouted() { ++commands; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(COwner, CWnd)
+ON_COMMAND(kRoutedCommand, &COwner::OnRouted)
+ON_COMMAND(kControlCommand, &COwner::OnRouted)
+END_MESSAGE_MAP()
+
+void DispatchQueued() {
+    MSG message;
+    while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+        ::DispatchMessage(&message);
+}
+
+TEST(Dialog, OkTakesTheDataAndCancelLeavesIt) {
+    CTestDialog ok(IDD_DATA);
+    ok.text = "before";
+    ok.onInit = [](CTestDialog& dialog) {
+        CString shown;
+        dialog.GetDlgItemText(IDC_TEXT, shown);
+        EXPECT_STREQ("before", shown) << "members are shown before the dialog is";
+        EXPECT_FALSE(dialog.IsWindowVisible());
+        dialog.SetDlgItemText(IDC_TEXT, "after");
+        dialog.Press(IDOK);
+    };
+    EXPECT_EQ(IDOK, ok.DoModal());
+    EXPECT_STREQ("after", ok.text);
+    EXPECT_EQ(nullptr, ok.m_hWnd);
+    EXPECT_EQ(1, ok.ncDestroys);
+
+    CTestDialog cancel(IDD_DATA);
+    cancel.text = "before";
+    cancel.onInit = [](CTestDialog& dialog) {
+        dialog.SetDlgItemText(IDC_TEXT, "after");
+        dialog.Press(IDCANCEL);
+    };
+    EXPECT_EQ(IDCANCEL, cancel.DoModal());
+    EXPECT_STREQ("before", cancel.text);
+    EXPECT_EQ(IDCANCEL, cancel.DoModal()) << "the same object can be used again";
+}
+
+TEST(Dialog, StaysOpenWhileTheDataIsRefused) {
+    PromptAnswerer prompts;
+    CTestDialog dialog(IDD_DATA);
+    dialog.withNumber = true;
+    dialog.onInit = [](CTestDialog& self) {
+        self.SetDlgItemText(IDC_TEXT, "no number");
+        self.Press(IDOK);
+        self.PostMessage(WM_COMMAND, kControlCommand);
+    };
+    dialog.onCommand = [](CTestDialog& self) {
+        EXPECT_EQ(1, self.oks);
+        EXPECT_TRUE(::IsWindow(self));
+        self.SetDlgItemText(IDC_TEXT, "42");
+        self.Press(IDOK);
+    };
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_EQ(2, dialog.oks);
+    EXPECT_EQ(42, dialog.number);
+    EXPECT_EQ(1u, prompts.texts.size());
+}
+
+TEST(Dialog, EndingItInOnInitDialogShowsNothing) {
+    CTestDialog dialog(IDD_DATA);
+    dialog.onInit = [](CTestDialog& self) { self.EndDialog(4711); };
+    EXPECT_EQ(4711, dialog.DoModal());
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+    EXPECT_EQ(1, dialog.ncDestroys);
+}
+
+TEST(Dialog, MissingTemplatesAreTold) {
+    CTestDialog missing(9999);
+    EXPECT_EQ(-1, missing.DoModal());
+    CTestDialog modeless;
+    EXPECT_FALSE(modeless.Create(9999u));
+    CDialog named("NoSuchDialog");
+    EXPECT_EQ(-1, named.DoModal());
+}
+
+TEST(Dialog, OwnersAreBlockedAndGivenBack) {
+    COwner owner;
+    CTestDialog palette;
+    ASSERT_TRUE(palette.Create(IDD_SMALL, &owner));
+    palette.ShowWindow(SW_SHOW);
+    CTestDialog dialog(IDD_DATA, &palette);
+    dialog.onInit = [](CTestDialog& self) { self.PostMessage(WM_COMMAND, kControlCommand); };
+    dialog.onCommand = [&](CTestDialog& self) {
+        EXPECT_FALSE(palette.IsWindowEnabled());
+        EXPECT_FALSE(owner.IsWindowEnabled()) << "the window behind the owner";
+        EXPECT_EQ(palette.m_hWnd, ::GetWindow(self, GW_OWNER));
+        self.EndDialog(IDOK);
+    };
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_TRUE(palette.IsWindowEnabled());
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(palette.m_hWnd, ::GetActiveWindow()) << "the owner is active again";
+
+    owner.EnableWindow(FALSE); // a window that was disabled before stays so
+    CTestDialog second(IDD_DATA, &palette);
+    second.onInit = [](CTestDialog& self) { self.Press(IDOK); };
+    EXPECT_EQ(IDOK, second.DoModal());
+    EXPECT_FALSE(owner.IsWindowEnabled());
+    owner.EnableWindow(TRUE);
+    palette.DestroyWindow();
+}
+
+TEST(Dialog, DialogsWithinDialogs) {
+    CTestDialog outer(IDD_DATA);
+    INT_PTR inner = 0;
+    outer.onInit = [](CTestDialog& self) { self.PostMessage(WM_COMMAND, kControlCommand); };
+    outer.onCommand = [&](CTestDialog& self) {
+        CTestDialog nested(IDD_SMALL, &self);
+        nested.onInit = [](CTestDialog& dialog) { dialog.Press(IDCANCEL); };
+        inner = nested.DoModal();
+        EXPECT_TRUE(self.IsWindowEnabled());
+        self.Press(IDOK);
+    };
+    EXPECT_EQ(IDOK, outer.DoModal());
+    EXPECT_EQ(IDCANCEL, inner);
+}
+
+TEST(Dialog, KeysReachTheDialogManager) {
+    const auto press = [](WPARAM key) {
+        CTestDialog dialog(IDD_DATA);
+        dialog.onInit = [key](CTestDialog& self) {
+            ::PostMessage(::GetDlgItem(self, IDC_TEXT), WM_KEYDOWN, key, 1);
+        };
+        return dialog.DoModal();
+    };
+    EXPECT_EQ(IDCANCEL, press(VK_ESCAPE));
+    EXPECT_EQ(IDOK, press(VK_RETURN)) << "the default button";
+
+    CTestDialog tab(IDD_DATA);
+    HWND focus = nullptr;
+    tab.onInit = [](CTestDialog& self) {
+        ::PostMessage(::GetDlgItem(self, IDC_TEXT), WM_KEYDOWN, VK_TAB, 1);
+        self.PostMessage(WM_COMMAND, kControlCommand);
+    };
+    tab.onCommand = [&](CTestDialog& self) {
+        focus = ::GetFocus();
+        EXPECT_EQ(::GetDlgItem(self, IDC_CHECK), focus);
+        self.SetDefID(IDCANCEL);
+        EXPECT_EQ(static_cast<DWORD>(MAKELONG(IDCANCEL, DC_HASDEFID)), self.GetDefID());
+        self.GotoDlgCtrl(self.GetDlgItem(IDC_LIST));
+        EXPECT_EQ(::GetDlgItem(self, IDC_LIST), ::GetFocus());
+        self.PrevDlgCtrl();
+        EXPECT_NE(::GetDlgItem(self, IDC_LIST), ::GetFocus());
+        self.EndDialog(1);
+    };
+    EXPECT_EQ(1, tab.DoModal());
+}
+
+TEST(Dialog, EndsWhenItsWindowIsDestroyed) {
+    COwner owner;
+    CTestDialog dialog(IDD_DATA, &owner);
+    dialog.onInit = [](CTestDialog& self) { self.PostMessage(WM_COMMAND, kControlCommand); };
+    dialog.onCommand = [](CTestDialog& self) { self.DestroyWindow(); };
+    dialog.DoModal();
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+    EXPECT_EQ(1, dialog.ncDestroys);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+
+    CTestDialog orphan(IDD_DATA, &owner);
+    orphan.onInit = [](CTestDialog& self) { self.PostMessage(WM_COMMAND, kControlCommand); };
+    orphan.onCommand = [&](CTestDialog&) { owner.DestroyWindow(); };
+    orphan.DoModal();
+    EXPECT_EQ(nullptr, orphan.m_hWnd);
+}
+
+TEST(Dialog, ExceptionInOnInitDialogAborts) {
+    PromptAnswerer prompts;
+    COwner owner;
+    CTestDialog dialog(IDD_DATA, &owner);
+    dialog.onInit = [](CTestDialog&) { AfxThrowResourceException(); };
+    EXPECT_EQ(IDABORT, dialog.DoModal());
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(Dialog, ModelessLivesUntilItsClassDestroysIt) {
+    COwner owner;
+    CTestDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_DATA, &owner));
+    EXPECT_FALSE(dialog.IsWindowVisible()) << "the template does not say so";
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    dialog.ShowWindow(SW_SHOW);
+    dialog.SendMessage(WM_COMMAND, IDOK);
+    EXPECT_TRUE(::IsWindow(dialog)) << "the base class only hides";
+    EXPECT_FALSE(dialog.IsWindowVisible());
+    EXPECT_EQ(0, dialog.ncDestroys);
+    EXPECT_TRUE(dialog.DestroyWindow());
+    EXPECT_EQ(1, dialog.ncDestroys);
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+
+    ASSERT_TRUE(dialog.Create(IDD_DATA, &owner));
+    dialog.keepOnCancel = true;
+    dialog.SendMessage(WM_CLOSE);
+    DispatchQueued();
+    EXPECT_EQ(1, dialog.cancels) << "the close box cancels";
+    owner.DestroyWindow();
+    EXPECT_EQ(nullptr, dialog.m_hWnd) << "owned windows go with their owner";
+    EXPECT_EQ(2, dialog.ncDestroys);
+}
+
+TEST(Dialog, PositionsAndUnits) {
+    COwner owner;
+    CTestDialog centred;
+    ASSERT_TRUE(centred.Create(IDD_SMALL, &owner));
+    CRect dialog, behind;
+    centred.GetWindowRect(dialog);
+    owner.GetWindowRect(behind);
+    EXPECT_NEAR(behind.CenterPoint().x, dialog.CenterPoint().x, 1) << "at (0, 0) no place is asked for";
+    EXPECT_NEAR(behind.CenterPoint().y, dialog.CenterPoint().y, 1);
+    CRect units(4, 8, 8, 16);
+    CRect expected = units;
+    ::MapDialogRect(centred, expected);
+    centred.MapDialogRect(units);
+    EXPECT_EQ(expected, units);
+    EXPECT_GT(units.left, 4);
+    centred.DestroyWindow();
+
+    CTestDialog placed;
+    ASSERT_TRUE(placed.Create(IDD_DATA, &owner));
+    CPoint corner(0, 0);
+    placed.ClientToScreen(&corner);
+    CRect asked(20, 30, 0, 0); // dialog units of the template, from the owner's client area
+    placed.MapDialogRect(asked);
+    owner.ClientToScreen(asked);
+    EXPECT_EQ(asked.TopLeft(), corner);
+    placed.DestroyWindow();
+}
+
+TEST(Dialog, ListsAreFilledFromTheResource) {
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_LISTS));
+    EXPECT_EQ(1, dialog.SendDlgItemMessage(IDC_LIST, LB_GETCOUNT));
+    EXPECT_EQ(2, dialog.SendDlgItemMessage(IDC_COMBO, CB_GETCOUNT));
+    char text[20] = {};
+    dialog.SendDlgItemMessage(IDC_COMBO, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(text));
+    EXPECT_STREQ("Beta", text);
+    dialog.DestroyWindow();
+}
+
+TEST(Dialog, TemplatesInMemory) {
+    struct {
+        DLGTEMPLATE head;
+        WORD menu, windowClass, title;
+    } block = {{WS_POPUP | WS_CAPTION, 0, 0, 10, 10, 60, 40}, 0, 0, 0};
+    class CBare : public CDialog {
+    public:
+        BOOL OnInitDialog() override {
+            CDialog::OnInitDialog();
+            EndDialog(77);
+            return TRUE;
+        }
+    } bare;
+    ASSERT_TRUE(bare.InitModalIndirect(&block.head));
+    EXPECT_EQ(77, bare.DoModal());
+    CDialog modeless;
+    ASSERT_TRUE(modeless.CreateIndirect(&block.head));
+    EXPECT_TRUE(modeless.DestroyWindow());
+    HGLOBAL const memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof(block));
+    std::memcpy(::GlobalLock(memory), &block, sizeof(block));
+    ::GlobalUnlock(memory);
+    ASSERT_TRUE(modeless.CreateIndirect(memory));
+    EXPECT_TRUE(modeless.DestroyWindow());
+    ::GlobalFree(memory);
+}
+
+TEST(Dialog, CommandsGoOnToTheParentControlsDoNot) {
+    COwner owner;
+    CTestDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_DATA, &owner));
+    EXPECT_TRUE(dialog.OnCmdMsg(kRoutedCommand, CN_COMMAND, nullptr, nullptr));
+    EXPECT_EQ(1, owner.commands);
+    EXPECT_FALSE(dialog.OnCmdMsg(kControlCommand, CN_COMMAND, nullptr, nullptr));
+    EXPECT_EQ(1, owner.commands);
+    dialog.DestroyWindow();
+}
+
+} // namespace

@@ -1,0 +1,360 @@
+#include "tests/support/DibSurface.h"
+#include "tests/support/GdiCounter.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A DC over a picture whose pixels can be read; the picture keeps the handle.
+class PictureDC : public CDC {
+public:
+    explicit PictureDC(testkit::DibSurface& surface) { Attach(surface.Dc()); }
+    ~PictureDC() override { Detach(); }
+};
+
+TEST(DC, SelectingReturnsWhatWasThere) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    CPen red(PS_SOLID, 1, RGB(255, 0, 0));
+    CPen blue(PS_SOLID, 1, RGB(0, 0, 255));
+    CPen* const first = dc.SelectObject(&red);
+    ASSERT_NE(nullptr, first);
+    EXPECT_EQ(::GetStockObject(BLACK_PEN), first->m_hObject);
+    EXPECT_EQ(&red, dc.SelectObject(&blue)) << "a permanent object comes back as itself";
+    EXPECT_EQ(&blue, dc.GetCurrentPen());
+    EXPECT_EQ(&blue, dc.SelectStockObject(NULL_PEN));
+    EXPECT_EQ(::GetStockObject(NULL_PEN), dc.SelectObject(first)->m_hObject);
+
+    CBrush brush(RGB(1, 2, 3));
+    CBrush* const oldBrush = dc.SelectObject(&brush);
+    ASSERT_NE(nullptr, oldBrush);
+    EXPECT_EQ(RUNTIME_CLASS(CBrush), oldBrush->GetRuntimeClass());
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(120, "Arial"));
+    CFont* const oldFont = dc.SelectObject(&font);
+    ASSERT_NE(nullptr, oldFont);
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateBitmap(4, 4, 1, 32, nullptr));
+    CBitmap* const oldBitmap = dc.SelectObject(&bitmap);
+    ASSERT_NE(nullptr, oldBitmap);
+
+    // The same through the general form, which has to find the classes itself.
+    EXPECT_EQ(&brush, dc.SelectObject(static_cast<CGdiObject*>(oldBrush)));
+    EXPECT_EQ(&font, dc.SelectObject(static_cast<CGdiObject*>(oldFont)));
+    EXPECT_EQ(&bitmap, dc.SelectObject(static_cast<CGdiObject*>(oldBitmap)));
+
+    EXPECT_EQ(nullptr, dc.SelectObject(static_cast<CPen*>(nullptr))) << "an error, and the pen stays";
+    EXPECT_EQ(first->m_hObject, dc.GetCurrentPen()->m_hObject);
+    CDC second;
+    ASSERT_TRUE(second.CreateCompatibleDC(nullptr));
+    ASSERT_NE(nullptr, dc.SelectObject(&bitmap));
+    EXPECT_EQ(nullptr, second.SelectObject(&bitmap)) << "a bitmap is in one DC at a time";
+    dc.SelectObject(oldBitmap);
+}
+
+TEST(DC, SaveAndRestore) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    const COLORREF before = dc.GetTextColor();
+    const int outer = dc.SaveDC();
+    ASSERT_GT(outer, 0);
+    EXPECT_EQ(before, dc.SetTextColor(RGB(1, 2, 3)));
+    const int inner = dc.SaveDC();
+    EXPECT_EQ(outer + 1, inner);
+    EXPECT_EQ(RGB(1, 2, 3), dc.SetTextColor(RGB(4, 5, 6)));
+    EXPECT_TRUE(dc.RestoreDC(-1));
+    EXPECT_EQ(RGB(1, 2, 3), dc.GetTextColor());
+    EXPECT_TRUE(dc.RestoreDC(outer));
+    EXPECT_EQ(before, dc.GetTextColor());
+    EXPECT_FALSE(dc.RestoreDC(outer));
+}
+
+/// Output and attributes in two DCs, as a print preview has them.
+class SplitDC : public testing::Test {
+protected:
+    void SetUp() override {
+        m_output = ::CreateCompatibleDC(nullptr);
+        m_attribute = ::CreateCompatibleDC(nullptr);
+        m_dc.SetOutputDC(m_output);
+        m_dc.SetAttribDC(m_attribute);
+    }
+    void TearDown() override {
+        m_dc.ReleaseOutputDC();
+        m_dc.ReleaseAttribDC();
+        ::DeleteDC(m_output);
+        ::DeleteDC(m_attribute);
+    }
+    HDC m_output = nullptr;
+    HDC m_attribute = nullptr;
+    CDC m_dc;
+};
+
+TEST_F(SplitDC, SettingsReachBothAndTheAttributeDCAnswers) {
+    ::SetTextColor(m_output, RGB(1, 0, 0));
+    ::SetTextColor(m_attribute, RGB(2, 0, 0));
+    EXPECT_EQ(RGB(2, 0, 0), m_dc.SetTextColor(RGB(3, 0, 0)));
+    EXPECT_EQ(RGB(3, 0, 0), ::GetTextColor(m_output));
+    EXPECT_EQ(RGB(3, 0, 0), ::GetTextColor(m_attribute));
+
+    CPen pen(PS_SOLID, 2, RGB(7, 7, 7));
+    ASSERT_NE(nullptr, m_dc.SelectObject(&pen));
+    EXPECT_EQ(pen.m_hObject, ::GetCurrentObject(m_output, OBJ_PEN));
+    EXPECT_EQ(pen.m_hObject, ::GetCurrentObject(m_attribute, OBJ_PEN));
+    m_dc.SelectStockObject(BLACK_PEN);
+
+    m_dc.SetMapMode(MM_ANISOTROPIC);
+    m_dc.SetWindowExt(30, 30);
+    SIZE extent{};
+    ::GetWindowExtEx(m_output, &extent);
+    EXPECT_EQ(30, extent.cx);
+    EXPECT_EQ(CSize(30, 30), m_dc.GetWindowExt());
+
+    m_dc.MoveTo(5, 6);
+    m_dc.LineTo(70, 80);
+    EXPECT_EQ(CPoint(70, 80), m_dc.GetCurrentPosition()) << "lines move the position of the DC that answers";
+    const POINT corners[] = {{1, 2}, {3, 4}};
+    m_dc.PolylineTo(corners, 2);
+    EXPECT_EQ(CPoint(3, 4), m_dc.GetCurrentPosition());
+}
+
+TEST_F(SplitDC, SavesAreRestoredTogether) {
+    ::SaveDC(m_output); // the two DCs now count differently
+    const int saved = m_dc.SaveDC();
+    EXPECT_EQ(-1, saved);
+    m_dc.SetBkColor(RGB(9, 9, 9));
+    EXPECT_TRUE(m_dc.RestoreDC(saved));
+    EXPECT_EQ(RGB(255, 255, 255), ::GetBkColor(m_output));
+    EXPECT_EQ(RGB(255, 255, 255), ::GetBkColor(m_attribute));
+}
+
+TEST(DC, HandlesAndMaps) {
+    HDC const raw = ::CreateCompatibleDC(nullptr);
+    {
+        CDC dc;
+        EXPECT_FALSE(dc.Attach(nullptr));
+        ASSERT_TRUE(dc.Attach(raw));
+        EXPECT_EQ(raw, dc.m_hAttribDC);
+        EXPECT_EQ(&dc, CDC::FromHandle(raw));
+        EXPECT_EQ(raw, dc.Detach());
+        EXPECT_EQ(nullptr, dc.m_hAttribDC);
+        CDC* const temporary = CDC::FromHandle(raw);
+        ASSERT_NE(nullptr, temporary);
+        EXPECT_NE(&dc, temporary);
+        EXPECT_EQ(raw, temporary->GetSafeHdc());
+        AfxDeleteTempGdiMaps();
+        EXPECT_NE(0u, ::GetObjectType(raw));
+        ASSERT_TRUE(dc.Attach(raw));
+    }
+    EXPECT_EQ(0u, ::GetObjectType(raw)) << "the destructor deletes the DC";
+    EXPECT_EQ(nullptr, CDC::FromHandle(nullptr));
+}
+
+TEST(DC, WindowDCsAreGivenBack) {
+    CWnd window;
+    ASSERT_TRUE(window.CreateEx(0, "STATIC", "", WS_POPUP, 0, 0, 50, 40, nullptr, nullptr));
+    const auto work = [&] {
+        CClientDC client(&window);
+        EXPECT_EQ(window.m_hWnd, client.GetWindow()->m_hWnd);
+        CWindowDC whole(&window);
+        CClientDC screen(nullptr);
+        EXPECT_FALSE(client.IsPrinting());
+    };
+    work(); // the system keeps DCs for the next time
+    AfxDeleteTempGdiMaps();
+    const testkit::ObjectCounts before = testkit::CountObjects();
+    for (int i = 0; i < 10; ++i)
+        work();
+    AfxDeleteTempGdiMaps();
+    EXPECT_EQ(before, testkit::CountObjects());
+    window.DestroyWindow();
+}
+
+TEST(DC, PaintDCValidatesTheWindow) {
+    class CPainted : public CWnd {
+    public:
+        CRect painted;
+        BOOL erase = FALSE;
+        int paints = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message != WM_PAINT)
+                return CWnd::WindowProc(message, wParam, lParam);
+            CPaintDC dc(this);
+            painted = dc.m_ps.rcPaint;
+            erase = dc.m_ps.fErase;
+            ++paints;
+            return 0;
+        }
+    };
+    CPainted window;
+    ASSERT_TRUE(window.CreateEx(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 60, 40, nullptr, nullptr));
+    window.UpdateWindow();
+    const int before = window.paints;
+    window.InvalidateRect(CRect(5, 6, 17, 18));
+    window.UpdateWindow();
+    EXPECT_EQ(before + 1, window.paints);
+    EXPECT_EQ(CRect(5, 6, 17, 18), window.painted);
+    EXPECT_FALSE(window.GetUpdateRect(nullptr)) << "EndPaint() came";
+    window.DestroyWindow();
+}
+
+TEST(DC, ClipResults) {
+    testkit::DibSurface surface(100, 80);
+    PictureDC dc(surface);
+    CRect box;
+    CRgn region;
+    ASSERT_TRUE(region.CreateRectRgn(10, 10, 50, 40));
+    EXPECT_EQ(SIMPLEREGION, dc.SelectClipRgn(&region));
+    EXPECT_EQ(SIMPLEREGION, dc.GetClipBox(box));
+    EXPECT_EQ(CRect(10, 10, 50, 40), box);
+    region.SetRectRgn(0, 0, 1, 1);
+    dc.GetClipBox(box);
+    EXPECT_EQ(CRect(10, 10, 50, 40), box) << "the DC holds a copy";
+
+    EXPECT_EQ(SIMPLEREGION, dc.IntersectClipRect(20, 0, 60, 30));
+    dc.GetClipBox(box);
+    EXPECT_EQ(CRect(20, 10, 50, 30), box);
+    EXPECT_EQ(COMPLEXREGION, dc.ExcludeClipRect(CRect(30, 15, 35, 20)));
+    EXPECT_FALSE(dc.PtVisible(32, 17));
+    EXPECT_TRUE(dc.PtVisible(CPoint(29, 17)));
+    EXPECT_FALSE(dc.RectVisible(CRect(0, 0, 20, 10)));
+    EXPECT_EQ(COMPLEXREGION, dc.OffsetClipRgn(CSize(1, 1)));
+    EXPECT_FALSE(dc.PtVisible(35, 20));
+    EXPECT_EQ(NULLREGION, dc.IntersectClipRect(0, 0, 1, 1));
+
+    EXPECT_NE(ERROR, dc.SelectClipRgn(nullptr));
+    dc.GetClipBox(box);
+    EXPECT_EQ(CRect(0, 0, 100, 80), box);
+    EXPECT_EQ(SIMPLEREGION, dc.SelectObject(&region)) << "selecting a region clips, too";
+    EXPECT_EQ(COMPLEXREGION, [&] {
+        CRgn other;
+        other.CreateRectRgn(50, 50, 60, 60);
+        return dc.SelectClipRgn(&other, RGN_OR);
+    }());
+}
+
+TEST(DC, MappingSettersReturnTheFormerValues) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    EXPECT_EQ(MM_TEXT, dc.SetMapMode(MM_ANISOTROPIC));
+    EXPECT_EQ(CSize(1, 1), dc.SetWindowExt(300, 200));
+    EXPECT_EQ(CSize(1, 1), dc.SetViewportExt(CSize(30, -20)));
+    EXPECT_EQ(CSize(300, 200), dc.ScaleWindowExt(2, 1, 1, 2));
+    EXPECT_EQ(CSize(600, 100), dc.GetWindowExt());
+    EXPECT_EQ(CSize(30, -20), dc.ScaleViewportExt(2, 1, 1, 1));
+    EXPECT_EQ(CSize(60, -20), dc.GetViewportExt());
+    EXPECT_EQ(CPoint(0, 0), dc.SetViewportOrg(CPoint(5, 50)));
+    EXPECT_EQ(CPoint(5, 50), dc.OffsetViewportOrg(1, -1));
+    EXPECT_EQ(CPoint(0, 0), dc.SetWindowOrg(10, 10));
+    EXPECT_EQ(CPoint(10, 10), dc.OffsetWindowOrg(-10, -10));
+    EXPECT_EQ(CPoint(6, 49), dc.GetViewportOrg());
+
+    // 10 units a pixel across, 5 units a pixel upwards, origin at (6, 49).
+    CRect rect(0, 0, 100, 100);
+    dc.LPtoDP(rect);
+    EXPECT_EQ(CRect(6, 49, 16, 29), rect);
+    dc.DPtoLP(rect);
+    EXPECT_EQ(CRect(0, 0, 100, 100), rect);
+    CSize size(100, 100);
+    dc.LPtoDP(&size);
+    EXPECT_EQ(CSize(10, 20), size) << "a size has no direction and no origin";
+    dc.DPtoLP(&size);
+    EXPECT_EQ(CSize(100, 100), size);
+}
+
+TEST(DC, HundredthsOfAMillimetre) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    const int dpi = dc.GetDeviceCaps(LOGPIXELSX);
+    CSize size(dpi, 2 * dc.GetDeviceCaps(LOGPIXELSY));
+    dc.DPtoHIMETRIC(&size);
+    EXPECT_EQ(CSize(2540, 5080), size);
+    dc.HIMETRICtoDP(&size);
+    EXPECT_EQ(dpi, size.cx);
+
+    dc.SetMapMode(MM_LOMETRIC); // logical units of 0.1 mm, as the device itself measures them
+    size = CSize(1000, 500);
+    dc.LPtoHIMETRIC(&size);
+    EXPECT_NEAR(10000, size.cx, 100);
+    EXPECT_NEAR(5000, size.cy, 100);
+    EXPECT_EQ(MM_LOMETRIC, dc.GetMapMode());
+    dc.HIMETRICtoLP(&size);
+    EXPECT_NEAR(1000, size.cx, 10);
+}
+
+TEST(DC, FillsCoverExactlyTheirRectangles) {
+    constexpr COLORREF kRed = RGB(255, 0, 0);
+    constexpr COLORREF kBlue = RGB(0, 0, 255);
+    testkit::DibSurface surface(40, 30);
+    PictureDC dc(surface);
+    dc.FillSolidRect(5, 6, 10, 4, kRed);
+    EXPECT_EQ(40, surface.Count(kRed));
+    EXPECT_EQ(CRect(5, 6, 15, 10), CRect(surface.Bounds(kRed)));
+    EXPECT_EQ(kRed, dc.GetBkColor());
+
+    dc.FillSolidRect(CRect(0, 0, 40, 30), RGB(255, 255, 255));
+    dc.Draw3dRect(CRect(2, 3, 12, 9), kRed, kBlue);
+    EXPECT_EQ(CRect(2, 3, 11, 8), CRect(surface.Bounds(kRed)));
+    EXPECT_EQ(CRect(2, 3, 12, 9), CRect(surface.Bounds(kBlue)));
+    EXPECT_EQ(9 + 5 - 1, surface.Count(kRed)) << "top without its last pixel, left without its last pixel";
+    EXPECT_EQ(10 + 6 - 1, surface.Count(kBlue));
+
+    CBrush green(RGB(0, 255, 0));
+    dc.FrameRect(CRect(20, 20, 26, 24), &green);
+    EXPECT_EQ(2 * 6 + 2 * 2, surface.Count(RGB(0, 255, 0)));
+
+    testkit::DibSurface copy(40, 30);
+    PictureDC target(copy);
+    EXPECT_TRUE(target.BitBlt(0, 0, 40, 30, &dc, 0, 0, SRCCOPY));
+    EXPECT_EQ("", testkit::Difference(surface, copy));
+    EXPECT_FALSE(target.BitBlt(0, 0, 40, 30, nullptr, 0, 0, SRCCOPY));
+    EXPECT_EQ(kBlue, target.GetPixel(11, 5));
+    EXPECT_EQ(CLR_INVALID, target.GetPixel(-1, 0));
+}
+
+TEST(DC, HalftoneBrushIsEverySecondPixel) {
+    testkit::DibSurface surface(16, 16);
+    PictureDC dc(surface);
+    dc.SetTextColor(RGB(0, 0, 0));
+    dc.SetBkColor(RGB(255, 255, 255));
+    CBrush* const brush = CDC::GetHalftoneBrush();
+    ASSERT_NE(nullptr, brush);
+    EXPECT_EQ(brush->m_hObject, CDC::GetHalftoneBrush()->m_hObject);
+    dc.FillRect(CRect(0, 0, 16, 16), brush);
+    EXPECT_EQ(128, surface.Count(RGB(0, 0, 0)));
+    EXPECT_NE(surface.At(0, 0), surface.At(1, 0));
+    EXPECT_NE(surface.At(0, 0), surface.At(0, 1));
+}
+
+TEST(DC, TextMembersAgreeWithOneAnother) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(120, "Arial", &dc));
+    CFont* const old = dc.SelectObject(&font);
+    const CString text("Kavlix");
+    const CSize extent = dc.GetTextExtent(text);
+    EXPECT_GT(extent.cx, 0);
+    EXPECT_EQ(extent, dc.GetTextExtent("Kavlix and more", 6));
+    EXPECT_EQ(extent, dc.GetOutputTextExtent(text));
+    EXPECT_EQ(CSize(0, extent.cy), CSize(0, dc.GetTextExtent("x", 1).cy));
+    CRect box(0, 0, 1000, 0);
+    EXPECT_EQ(extent.cy, dc.DrawText(text, box, DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX));
+    EXPECT_EQ(extent.cx, box.Width());
+    TEXTMETRIC metrics{};
+    ASSERT_TRUE(dc.GetTextMetrics(&metrics));
+    EXPECT_EQ(extent.cy, metrics.tmHeight);
+    CString face;
+    EXPECT_GT(dc.GetTextFace(face), 0);
+    EXPECT_FALSE(face.IsEmpty());
+    EXPECT_EQ(static_cast<UINT>(TA_LEFT | TA_TOP), dc.SetTextAlign(TA_RIGHT | TA_BOTTOM));
+    EXPECT_EQ(static_cast<UINT>(TA_RIGHT | TA_BOTTOM), dc.GetTextAlign());
+    EXPECT_EQ(0, dc.SetTextCharacterExtra(3));
+    EXPECT_EQ(extent.cx + 6 * 3, dc.GetTextExtent(text).cx);
+    dc.SelectObject(old);
+}
+
+} // namespace

@@ -1,0 +1,300 @@
+#include "tests/support/GdiCounter.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <thread>
+#include <vector>
+
+namespace {
+
+bool IsAlive(HGDIOBJ handle) {
+    return ::GetObjectType(handle) != 0;
+}
+
+struct MadeObject {
+    const char* name;
+    HGDIOBJ handle;
+    CRuntimeClass* realClass;
+};
+
+/// One handle of each kind, as Win32 makes them: nobody's CGdiObject owns them.
+class GdiHandles {
+public:
+    GdiHandles() {
+        LOGBRUSH solid{BS_SOLID, RGB(1, 2, 3), 0};
+        LOGFONT font{};
+        font.lfHeight = -12;
+        LOGPALETTE palette{0x300, 1, {{1, 2, 3, 0}}};
+        objects = {{"pen", ::CreatePen(PS_SOLID, 3, 0), RUNTIME_CLASS(CPen)},
+                   {"extended pen", ::ExtCreatePen(PS_GEOMETRIC, 5, &solid, 0, nullptr), RUNTIME_CLASS(CPen)},
+                   {"brush", ::CreateSolidBrush(0), RUNTIME_CLASS(CBrush)},
+                   {"font", ::CreateFontIndirect(&font), RUNTIME_CLASS(CFont)},
+                   {"bitmap", ::CreateBitmap(2, 2, 1, 1, nullptr), RUNTIME_CLASS(CBitmap)},
+                   {"palette", ::CreatePalette(&palette), RUNTIME_CLASS(CPalette)},
+                   {"region", ::CreateRectRgn(0, 0, 1, 1), RUNTIME_CLASS(CRgn)}};
+    }
+    ~GdiHandles() {
+        for (const MadeObject& object : objects)
+            ::DeleteObject(object.handle);
+    }
+    std::vector<MadeObject> objects;
+};
+
+TEST(GdiObject, DestructorDeletesWhatItOwnsAndOnlyThat) {
+    HGDIOBJ owned = nullptr;
+    HGDIOBJ detached = nullptr;
+    {
+        CBrush first;
+        ASSERT_TRUE(first.CreateSolidBrush(RGB(10, 20, 30)));
+        owned = first.m_hObject;
+        CBrush second(RGB(40, 50, 60));
+        detached = second.Detach();
+        EXPECT_EQ(nullptr, second.m_hObject);
+        EXPECT_EQ(nullptr, second.Detach());
+    }
+    EXPECT_FALSE(IsAlive(owned));
+    ASSERT_TRUE(IsAlive(detached));
+
+    CBrush third;
+    EXPECT_FALSE(third.Attach(nullptr));
+    EXPECT_TRUE(third.Attach(detached));
+    EXPECT_EQ(&third, CGdiObject::FromHandle(detached));
+    EXPECT_TRUE(third.DeleteObject());
+    EXPECT_FALSE(IsAlive(detached));
+    EXPECT_FALSE(third.DeleteObject()) << "there is nothing left to delete";
+}
+
+TEST(GdiObject, TemporariesAreOfTheHandlesRealClass) {
+    const GdiHandles handles;
+    for (const MadeObject& object : handles.objects) {
+        SCOPED_TRACE(object.name);
+        ASSERT_NE(nullptr, object.handle);
+        CGdiObject* const temporary = CGdiObject::FromHandle(object.handle);
+        ASSERT_NE(nullptr, temporary);
+        EXPECT_EQ(object.realClass, temporary->GetRuntimeClass());
+        EXPECT_EQ(object.handle, temporary->m_hObject);
+        EXPECT_EQ(temporary, CGdiObject::FromHandle(object.handle)) << "asked again within the same message";
+    }
+    const auto pen = static_cast<HPEN>(handles.objects[0].handle);
+    EXPECT_EQ(CPen::FromHandle(pen), CGdiObject::FromHandle(pen));
+    // Handles of another kind: a CBrush that is a pen would be worse than none.
+    EXPECT_EQ(nullptr, CBrush::FromHandle(reinterpret_cast<HBRUSH>(pen)));
+    EXPECT_EQ(nullptr, CFont::FromHandle(reinterpret_cast<HFONT>(pen)));
+    EXPECT_EQ(nullptr, CPen::FromHandle(nullptr));
+    EXPECT_EQ(nullptr, CGdiObject::FromHandle(nullptr));
+
+    AfxDeleteTempGdiMaps();
+    for (const MadeObject& object : handles.objects)
+        EXPECT_TRUE(IsAlive(object.handle)) << object.name << ": the end of a wrapper destroyed its handle";
+}
+
+TEST(GdiObject, HandleThatComesBackAsAnotherKindFindsItsNewClass) {
+    // GDI reuses handles; provoke it, and check the classes either way.
+    for (int round = 0; round < 200; ++round) {
+        HGDIOBJ const pen = ::CreatePen(PS_SOLID, 1, 0);
+        ASSERT_TRUE(CGdiObject::FromHandle(pen)->IsKindOf(RUNTIME_CLASS(CPen)));
+        ::DeleteObject(pen);
+        HGDIOBJ const font = ::CreateFont(9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+        ASSERT_TRUE(CGdiObject::FromHandle(font)->IsKindOf(RUNTIME_CLASS(CFont)));
+        ::DeleteObject(font);
+    }
+    AfxDeleteTempGdiMaps();
+}
+
+TEST(GdiObject, WrapperThatLetGoIsFilledAgain) {
+    HPEN const pen = ::CreatePen(PS_SOLID, 1, 0);
+    EXPECT_EQ(pen, CPen::FromHandle(pen)->Detach());
+    EXPECT_EQ(pen, CPen::FromHandle(pen)->m_hObject);
+    EXPECT_TRUE(CPen::FromHandle(pen)->DeleteObject());
+    EXPECT_FALSE(IsAlive(pen));
+    AfxDeleteTempGdiMaps();
+}
+
+TEST(GdiObject, PermanentObjectWinsUnlessItsClassIsTooGeneral) {
+    class CNamedPen : public CPen {};
+    CNamedPen named;
+    ASSERT_TRUE(named.CreatePen(PS_SOLID, 1, RGB(0, 0, 0)));
+    EXPECT_EQ(&named, CPen::FromHandle(named));
+
+    CGdiObject general;
+    ASSERT_TRUE(general.Attach(::CreatePen(PS_SOLID, 1, 0)));
+    const auto handle = static_cast<HPEN>(general.m_hObject);
+    EXPECT_EQ(&general, CGdiObject::FromHandle(handle));
+    CPen* const asPen = CPen::FromHandle(handle);
+    ASSERT_NE(nullptr, asPen);
+    EXPECT_EQ(RUNTIME_CLASS(CPen), asPen->GetRuntimeClass());
+    LOGPEN record{};
+    EXPECT_EQ(static_cast<int>(sizeof(record)), asPen->GetLogPen(&record));
+    AfxDeleteTempGdiMaps();
+    EXPECT_TRUE(IsAlive(handle));
+}
+
+TEST(GdiObject, EachThreadHasItsOwnObjects) {
+    CBrush brush(RGB(1, 1, 1));
+    CGdiObject* seen = nullptr;
+    bool kind = false;
+    std::thread([&] {
+        seen = CGdiObject::FromHandle(brush.m_hObject);
+        kind = seen != nullptr && seen->IsKindOf(RUNTIME_CLASS(CBrush));
+    }).join();
+    EXPECT_NE(&brush, seen);
+    EXPECT_TRUE(kind);
+    EXPECT_TRUE(IsAlive(brush)) << "the other thread's end destroyed a handle it did not own";
+
+    std::unique_ptr<CPen> wanderer;
+    std::thread([&] { wanderer = std::make_unique<CPen>(PS_SOLID, 1, RGB(0, 0, 0)); }).join();
+    HGDIOBJ const handle = wanderer->m_hObject;
+    wanderer.reset(); // its thread, and that thread's map, are gone
+    EXPECT_FALSE(IsAlive(handle));
+}
+
+TEST(GdiObject, ConstructorsThrowAResourceException) {
+    CResourceException* caught = nullptr;
+    try {
+        CBrush brush(static_cast<CBitmap*>(nullptr));
+    } catch (CResourceException* e) {
+        caught = e;
+    }
+    ASSERT_NE(nullptr, caught);
+    caught->Delete();
+
+    CBrush later;
+    EXPECT_FALSE(later.CreatePatternBrush(nullptr)) << "the two-step form answers and does not throw";
+    EXPECT_EQ(nullptr, later.m_hObject);
+}
+
+TEST(GdiObject, StockObjectsCanBeAttachedAndDeleted) {
+    HGDIOBJ const black = ::GetStockObject(BLACK_PEN);
+    {
+        CPen pen;
+        ASSERT_TRUE(pen.CreateStockObject(BLACK_PEN));
+        EXPECT_EQ(black, pen.m_hObject);
+        EXPECT_EQ(static_cast<UINT>(OBJ_PEN), pen.GetObjectType());
+    }
+    EXPECT_TRUE(IsAlive(black));
+}
+
+TEST(GdiObject, PointFontsAreMeasuredInTheUnitsOfTheirDC) {
+    constexpr int kTenthsOfPoint = 80;
+    constexpr int kUnitsPerPixel = 30;
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    const int pixels = ::MulDiv(dc.GetDeviceCaps(LOGPIXELSY), kTenthsOfPoint, 720);
+    LOGFONT record{};
+
+    CFont onScreen;
+    ASSERT_TRUE(onScreen.CreatePointFont(kTenthsOfPoint, "Arial"));
+    ASSERT_NE(0, onScreen.GetLogFont(&record));
+    EXPECT_EQ(-pixels, record.lfHeight);
+    EXPECT_STREQ("Arial", record.lfFaceName);
+
+    // Thirty logical units to a pixel, with y upwards and a moved origin: only the scale may count.
+    dc.SetMapMode(MM_ANISOTROPIC);
+    dc.SetWindowExt(kUnitsPerPixel, kUnitsPerPixel);
+    dc.SetViewportExt(1, -1);
+    dc.SetViewportOrg(17, 230);
+    dc.SetWindowOrg(-400, 900);
+    CFont scaled;
+    ASSERT_TRUE(scaled.CreatePointFont(kTenthsOfPoint, "Arial", &dc));
+    ASSERT_NE(0, scaled.GetLogFont(&record));
+    EXPECT_EQ(-pixels * kUnitsPerPixel, record.lfHeight);
+
+    record.lfHeight = kTenthsOfPoint;
+    record.lfWeight = FW_BOLD;
+    CFont indirect;
+    ASSERT_TRUE(indirect.CreatePointFontIndirect(&record, &dc));
+    ASSERT_NE(0, indirect.GetLogFont(&record));
+    EXPECT_EQ(-pixels * kUnitsPerPixel, record.lfHeight);
+    EXPECT_EQ(FW_BOLD, record.lfWeight);
+
+    const std::string longName(100, 'x');
+    CFont cut;
+    ASSERT_TRUE(cut.CreatePointFont(kTenthsOfPoint, longName.c_str()));
+    ASSERT_NE(0, cut.GetLogFont(&record));
+    EXPECT_EQ(std::string(LF_FACESIZE - 1, 'x'), record.lfFaceName);
+}
+
+TEST(GdiObject, BitmapsTellTheirSizeAndBits) {
+    CBitmap bitmap;
+    const BYTE bits[] = {0xA5, 0, 0x5A, 0};
+    ASSERT_TRUE(bitmap.CreateBitmap(8, 2, 1, 1, bits));
+    BITMAP record{};
+    ASSERT_NE(0, bitmap.GetBitmap(&record));
+    EXPECT_EQ(8, record.bmWidth);
+    EXPECT_EQ(2, record.bmHeight);
+    BYTE read[4] = {};
+    EXPECT_EQ(4u, bitmap.GetBitmapBits(sizeof(read), read));
+    EXPECT_EQ(0xA5, read[0]);
+    EXPECT_EQ(0x5A, read[2]);
+    EXPECT_EQ(CSize(0, 0), bitmap.SetBitmapDimension(70, 80));
+    EXPECT_EQ(CSize(70, 80), bitmap.GetBitmapDimension());
+    CBitmap missing;
+    EXPECT_FALSE(missing.LoadBitmap(54321u));
+}
+
+TEST(GdiObject, RegionsCombineAndCompare) {
+    CRgn left, right, both;
+    ASSERT_TRUE(left.CreateRectRgn(0, 0, 10, 10));
+    ASSERT_TRUE(right.CreateRectRgn(20, 0, 30, 10));
+    ASSERT_TRUE(both.CreateRectRgn(0, 0, 0, 0));
+    EXPECT_EQ(COMPLEXREGION, both.CombineRgn(&left, &right, RGN_OR));
+    CRect box;
+    EXPECT_EQ(COMPLEXREGION, both.GetRgnBox(box));
+    EXPECT_EQ(CRect(0, 0, 30, 10), box);
+    EXPECT_TRUE(both.PtInRegion(CPoint(29, 9)));
+    EXPECT_FALSE(both.PtInRegion(15, 5));
+    EXPECT_FALSE(both.RectInRegion(CRect(11, 0, 19, 10)));
+
+    EXPECT_EQ(NULLREGION, both.CombineRgn(&left, &right, RGN_AND));
+    EXPECT_EQ(SIMPLEREGION, both.CopyRgn(&right));
+    EXPECT_TRUE(both.EqualRgn(&right));
+    EXPECT_EQ(SIMPLEREGION, both.OffsetRgn(CPoint(-20, 0)));
+    EXPECT_TRUE(both.EqualRgn(&left));
+    EXPECT_EQ(ERROR, both.CombineRgn(nullptr, nullptr, RGN_OR));
+
+    const int bytes = left.GetRegionData(nullptr, 0);
+    ASSERT_GT(bytes, 0);
+    std::vector<BYTE> data(static_cast<std::size_t>(bytes));
+    ASSERT_EQ(bytes, left.GetRegionData(reinterpret_cast<RGNDATA*>(data.data()), bytes));
+    CRgn copy;
+    ASSERT_TRUE(copy.CreateFromData(nullptr, bytes, reinterpret_cast<RGNDATA*>(data.data())));
+    EXPECT_TRUE(copy.EqualRgn(&left));
+}
+
+TEST(GdiObject, NothingIsLeftBehind) {
+    if (!testkit::CanCountGdiObjects())
+        GTEST_SKIP() << "this system's GDI table cannot be read";
+    const auto work = [] {
+        CPen pen(PS_DOT, 1, RGB(9, 9, 9));
+        CBrush brush(HS_CROSS, RGB(8, 8, 8));
+        CFont font;
+        font.CreatePointFont(100, "Arial");
+        CBitmap bitmap;
+        bitmap.CreateBitmap(4, 4, 1, 32, nullptr);
+        CRgn region;
+        region.CreateEllipticRgn(0, 0, 9, 9);
+        CDC dc;
+        dc.CreateCompatibleDC(nullptr);
+        const int saved = dc.SaveDC();
+        dc.SelectObject(&bitmap);
+        dc.SelectObject(&pen);
+        dc.SelectObject(&brush);
+        dc.SelectObject(&font);
+        dc.SelectClipRgn(&region);
+        dc.RestoreDC(saved);
+        AfxDeleteTempGdiMaps();
+    };
+    work(); // what GDI and the library make once and keep
+    const testkit::ObjectCounts before = testkit::CountObjects();
+    HPEN const planted = ::CreatePen(PS_SOLID, 1, 0);
+    EXPECT_FALSE(before == testkit::CountObjects()) << "the counter does not see a leak";
+    ::DeleteObject(planted);
+    for (int i = 0; i < 20; ++i)
+        work();
+    EXPECT_EQ(before, testkit::CountObjects());
+}
+
+} // namespace

@@ -1,0 +1,97 @@
+#include "tests/support/DibSurface.h"
+#include "tests/support/GdiCounter.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace {
+
+int CALLBACK CountRecords(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM counts) {
+    ++(*reinterpret_cast<std::map<DWORD, int>*>(counts))[record->iType];
+    return 1;
+}
+
+std::map<DWORD, int> RecordCounts(HENHMETAFILE metafile) {
+    std::map<DWORD, int> counts;
+    ::EnumEnhMetaFile(nullptr, metafile, reinterpret_cast<ENHMFENUMPROC>(CountRecords), &counts, nullptr);
+    return counts;
+}
+
+TEST(MetaFileDC, RecordsWhatIsDrawnAndPlaysItBack) {
+    CMetaFileDC recorder;
+    ASSERT_TRUE(recorder.CreateEnhanced(nullptr, nullptr, nullptr, "Kavlix\0test\0"));
+    recorder.FillSolidRect(10, 10, 20, 5, RGB(255, 0, 0));
+    recorder.MoveTo(0, 0);
+    recorder.LineTo(39, 0);
+    const BYTE note[] = "note";
+    EXPECT_TRUE(recorder.AddMetaFileComment(sizeof(note), note));
+    HENHMETAFILE const metafile = recorder.CloseEnhanced();
+    ASSERT_NE(nullptr, metafile);
+    EXPECT_EQ(nullptr, recorder.m_hDC);
+
+    const auto counts = RecordCounts(metafile);
+    EXPECT_EQ(1u, counts.count(EMR_LINETO));
+    EXPECT_EQ(1u, counts.count(EMR_GDICOMMENT));
+    ENHMETAHEADER header{};
+    ::GetEnhMetaFileHeader(metafile, sizeof(header), &header);
+    testkit::DibSurface picture(40, 30);
+    CDC* const dc = CDC::FromHandle(picture.Dc());
+    const CRect drawn(header.rclBounds.left, header.rclBounds.top, header.rclBounds.right,
+                      header.rclBounds.bottom);
+    EXPECT_TRUE(dc->PlayMetaFile(metafile, drawn));
+    EXPECT_EQ(RGB(255, 0, 0), picture.At(20, 12));
+    EXPECT_EQ(RGB(255, 255, 255), picture.At(20, 5));
+    ::DeleteEnhMetaFile(metafile);
+}
+
+TEST(MetaFileDC, AnswersOnlyWithAnAttributeDC) {
+    CClientDC screen(nullptr);
+    CMetaFileDC recorder;
+    ASSERT_TRUE(recorder.CreateEnhanced(&screen, nullptr, nullptr, nullptr));
+    EXPECT_NE(nullptr, recorder.m_hDC);
+    EXPECT_EQ(nullptr, recorder.m_hAttribDC);
+    EXPECT_EQ(CSize(0, 0), recorder.GetTextExtent("text", 4));
+    recorder.SetTextColor(RGB(1, 2, 3)); // recorded, though nobody can answer
+
+    recorder.SetAttribDC(screen.m_hAttribDC);
+    EXPECT_EQ(screen.GetTextExtent("text", 4), recorder.GetTextExtent("text", 4));
+    EXPECT_EQ(screen.GetDeviceCaps(LOGPIXELSX), recorder.GetDeviceCaps(LOGPIXELSX));
+    recorder.SetMapMode(MM_ANISOTROPIC);
+    recorder.SetWindowExt(30, 30);
+    EXPECT_EQ(CSize(30, 30), screen.GetWindowExt())
+        << "the attribute DC follows, so that it measures as drawn";
+    recorder.ReleaseAttribDC();
+    HENHMETAFILE const metafile = recorder.CloseEnhanced();
+    const auto counts = RecordCounts(metafile);
+    EXPECT_EQ(1u, counts.count(EMR_SETTEXTCOLOR));
+    EXPECT_EQ(1u, counts.count(EMR_SETWINDOWEXTEX));
+    ::DeleteEnhMetaFile(metafile);
+}
+
+TEST(MetaFileDC, UnclosedRecordingsAreThrownAway) {
+    const auto record = [] {
+        CMetaFileDC enhanced;
+        ASSERT_TRUE(enhanced.CreateEnhanced(nullptr, nullptr, nullptr, nullptr));
+        enhanced.Rectangle(0, 0, 5, 5);
+        CMetaFileDC plain;
+        ASSERT_TRUE(plain.Create());
+        plain.Rectangle(0, 0, 5, 5);
+    };
+    record();
+    AfxDeleteTempGdiMaps();
+    const testkit::ObjectCounts before = testkit::CountObjects();
+    for (int i = 0; i < 10; ++i)
+        record();
+    EXPECT_EQ(before, testkit::CountObjects());
+
+    CMetaFileDC old;
+    ASSERT_TRUE(old.Create());
+    HMETAFILE const metafile = old.Close();
+    EXPECT_NE(nullptr, metafile);
+    ::DeleteMetaFile(metafile);
+}
+
+} // namespace

@@ -1,0 +1,142 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace {
+
+void SetName(LPCTSTR& name, const char* text) {
+    std::free(const_cast<char*>(name));
+    name = _strdup(text);
+}
+
+/// Both homes of profile data: the registry (TRUE) and an INI file.
+class ProfileTest : public testing::TestWithParam<bool> {
+protected:
+    void SetUp() override {
+        if (GetParam()) {
+            app.SetRegistryKey("Kavlix window tests");
+            EXPECT_STREQ(app.m_pszProfileName, "Scoped");
+        } else {
+            char path[MAX_PATH] = "";
+            ::GetTempPath(sizeof(path), path);
+            file = std::string(path) + "kavlix_profile_test.ini";
+            ::DeleteFile(file.c_str());
+            SetName(app.m_pszProfileName, file.c_str());
+        }
+    }
+    void TearDown() override {
+        if (GetParam()) {
+            app.WriteProfileString("Section", nullptr, nullptr);
+            ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\Kavlix window tests\\Scoped");
+            ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\Kavlix window tests");
+        } else {
+            ::DeleteFile(file.c_str());
+        }
+    }
+
+    windowkit::ScopedApp app;
+    std::string file;
+};
+
+INSTANTIATE_TEST_SUITE_P(Homes, ProfileTest, testing::Bool());
+
+} // namespace
+
+TEST_P(ProfileTest, ValuesComeBackAsTheyWereWritten) {
+    EXPECT_EQ(app.GetProfileInt("Section", "Number", 31), 31u);
+    EXPECT_TRUE(app.WriteProfileInt("Section", "Number", -5));
+    EXPECT_EQ(static_cast<int>(app.GetProfileInt("Section", "Number", 31)), -5);
+
+    EXPECT_STREQ(app.GetProfileString("Section", "Text", "fallback"), "fallback");
+    EXPECT_STREQ(app.GetProfileString("Section", "Text"), "");
+    const std::string longText(9000, 'x');
+    EXPECT_TRUE(app.WriteProfileString("Section", "Text", longText.c_str()));
+    EXPECT_EQ(std::string(app.GetProfileString("Section", "Text", "fallback")), longText);
+
+    BYTE bytes[] = {0, 1, 0x7F, 0x80, 0xFF};
+    EXPECT_TRUE(app.WriteProfileBinary("Section", "Bytes", bytes, sizeof(bytes)));
+    LPBYTE read = nullptr;
+    UINT count = 0;
+    ASSERT_TRUE(app.GetProfileBinary("Section", "Bytes", &read, &count));
+    EXPECT_EQ(std::vector<BYTE>(read, read + count), std::vector<BYTE>(bytes, bytes + sizeof(bytes)));
+    delete[] read;
+    EXPECT_FALSE(app.GetProfileBinary("Section", "Nothing", &read, &count));
+    EXPECT_EQ(read, nullptr);
+}
+
+TEST_P(ProfileTest, NothingInThePlaceOfAValueOrNameDeletes) {
+    app.WriteProfileString("Section", "One", "1");
+    app.WriteProfileString("Section", "Two", "2");
+    EXPECT_TRUE(app.WriteProfileString("Section", "One", nullptr));
+    EXPECT_STREQ(app.GetProfileString("Section", "One", "gone"), "gone");
+    EXPECT_STREQ(app.GetProfileString("Section", "Two", "gone"), "2");
+    EXPECT_TRUE(app.WriteProfileString("Section", nullptr, nullptr));
+    EXPECT_STREQ(app.GetProfileString("Section", "Two", "gone"), "gone");
+}
+
+TEST(CommandLineTest, FlagsAndNamesAreSorted) {
+    const auto parsed = [](std::initializer_list<std::pair<const char*, BOOL>> parameters) {
+        auto info = std::make_unique<CCommandLineInfo>();
+        std::size_t i = 0;
+        for (const auto& [text, isFlag] : parameters)
+            info->ParseParam(text, isFlag, ++i == parameters.size());
+        return info;
+    };
+    EXPECT_EQ(CCommandLineInfo().m_nShellCommand, CCommandLineInfo::FileNew);
+    const auto open = parsed({{"a file.txt", FALSE}});
+    EXPECT_EQ(open->m_nShellCommand, CCommandLineInfo::FileOpen);
+    EXPECT_STREQ(open->m_strFileName, "a file.txt");
+    const auto print =
+        parsed({{"pt", TRUE}, {"f", FALSE}, {"printer", FALSE}, {"driver", FALSE}, {"port", FALSE}});
+    EXPECT_EQ(print->m_nShellCommand, CCommandLineInfo::FilePrintTo);
+    EXPECT_STREQ(print->m_strFileName, "f");
+    EXPECT_STREQ(print->m_strPrinterName, "printer");
+    EXPECT_STREQ(print->m_strPortName, "port");
+    const auto embedded = parsed({{"embedding", TRUE}});
+    EXPECT_TRUE(embedded->m_bRunEmbedded);
+    EXPECT_FALSE(embedded->m_bShowSplash);
+}
+
+TEST(AppTest, TheProgramIsKnownByItsNames) {
+    CWinApp* const app = AfxGetApp();
+    ASSERT_NE(app, nullptr);
+    EXPECT_EQ(app->m_hInstance, ::GetModuleHandle(nullptr));
+    char path[MAX_PATH] = "";
+    ::GetModuleFileName(nullptr, path, sizeof(path));
+    const std::string file = std::string(path).substr(std::string(path).rfind('\\') + 1);
+    const std::string name = file.substr(0, file.rfind('.'));
+    EXPECT_EQ(std::string(app->m_pszExeName), name);
+    EXPECT_EQ(std::string(app->m_pszProfileName), name + ".INI");
+    EXPECT_EQ(std::string(app->m_pszHelpFilePath),
+              std::string(path).substr(0, std::string(path).rfind('.')) + ".HLP");
+    EXPECT_STREQ(AfxGetAppName(), app->m_pszAppName);
+    EXPECT_EQ(AfxGetThread(), app);
+}
+
+TEST(AppTest, MessageBoxesGoThroughTheApplication) {
+    windowkit::ScopedApp app;
+    EXPECT_EQ(AfxMessageBox("text"), IDOK);
+    EXPECT_EQ(AfxMessageBox(AFX_IDP_PARSE_INT), IDOK);
+    EXPECT_EQ(app.boxes, (std::vector<std::string>{"text", "Enter an integer."}));
+}
+
+TEST(AppTest, TheHourglassIsCounted) {
+    windowkit::ScopedApp app;
+    const HCURSOR wait = ::LoadCursor(nullptr, IDC_WAIT);
+    const HCURSOR before = ::LoadCursor(nullptr, IDC_CROSS);
+    ::SetCursor(before);
+    {
+        const CWaitCursor outer;
+        EXPECT_EQ(::GetCursor(), wait);
+        {
+            CWaitCursor inner;
+            ::SetCursor(before);
+            inner.Restore();
+            EXPECT_EQ(::GetCursor(), wait);
+        }
+        EXPECT_EQ(::GetCursor(), wait);
+    }
+    EXPECT_EQ(::GetCursor(), before);
+}

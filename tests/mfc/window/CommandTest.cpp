@@ -1,0 +1,244 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+using windowkit::CreateChild;
+using windowkit::CreateTop;
+
+namespace {
+
+constexpr UINT wideCode = 0xFFFF0000u - 321; // more than 16 bits count
+
+using Log = std::vector<std::string>;
+
+/// Sends notifications, and handles some of them itself.
+class ReflectingWnd : public CWnd {
+public:
+    explicit ReflectingWnd(Log& log) : m_log(log) {}
+
+    void Command(int code) {
+        GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code),
+                                 reinterpret_cast<LPARAM>(m_hWnd));
+    }
+    LRESULT Notify(UINT code) {
+        NMHDR header{m_hWnd, static_cast<UINT_PTR>(GetDlgCtrlID()), code};
+        return GetParent()->SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    }
+
+protected:
+    void OnClicked() { m_log.push_back("control clicked"); }
+    BOOL OnSecond() {
+        m_log.push_back("control second");
+        return FALSE;
+    }
+    void OnNotified(NMHDR*, LRESULT* result) {
+        m_log.push_back("control notified");
+        *result = 5;
+    }
+    BOOL OnShared(NMHDR*, LRESULT*) {
+        m_log.push_back("control shared");
+        return FALSE;
+    }
+    HBRUSH CtlColor(CDC* dc, UINT kind) {
+        m_log.push_back("control color " + std::to_string(kind));
+        return dc != nullptr && answerColor ? static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)) : nullptr;
+    }
+    void HScroll(UINT code, UINT position) {
+        m_log.push_back("control scroll " + std::to_string(code) + " " + std::to_string(position));
+    }
+    void DrawItem(LPDRAWITEMSTRUCT draw) { m_log.push_back("control draw " + std::to_string(draw->itemID)); }
+    DECLARE_MESSAGE_MAP()
+
+public:
+    bool answerColor = true;
+
+private:
+    Log& m_log;
+};
+
+BEGIN_MESSAGE_MAP(ReflectingWnd, CWnd)
+    ON_CONTROL_REFLECT(BN_CLICKED, &ReflectingWnd::OnClicked)
+    ON_CONTROL_REFLECT_EX(EN_CHANGE, &ReflectingWnd::OnSecond)
+    ON_NOTIFY_REFLECT(NM_CLICK, &ReflectingWnd::OnNotified)
+    ON_NOTIFY_REFLECT_EX(NM_DBLCLK, &ReflectingWnd::OnShared)
+    ON_WM_CTLCOLOR_REFLECT()
+    ON_WM_HSCROLL_REFLECT()
+    ON_WM_DRAWITEM_REFLECT()
+END_MESSAGE_MAP()
+
+class ParentWnd : public CWnd {
+public:
+    explicit ParentWnd(Log& log) : m_log(log) {}
+    bool handlesColor = false;
+
+protected:
+    void OnPlain() { m_log.push_back("plain"); }
+    void OnRange(UINT id) { m_log.push_back("range " + std::to_string(id)); }
+    BOOL OnEx(UINT id) {
+        m_log.push_back("ex " + std::to_string(id));
+        return id != 301;
+    }
+    void OnClicked() { m_log.push_back("parent clicked"); }
+    void OnChanged() { m_log.push_back("parent changed"); }
+    void OnControlRange(UINT id) { m_log.push_back("parent control " + std::to_string(id)); }
+    void OnNotified(NMHDR* header, LRESULT* result) {
+        m_log.push_back("parent notified " + std::to_string(static_cast<int>(header->code)));
+        *result = 9;
+    }
+    void OnNotifyRange(UINT id, NMHDR*, LRESULT* result) {
+        m_log.push_back("parent range " + std::to_string(id));
+        *result = 10;
+    }
+    BOOL OnNotifyEx(UINT id, NMHDR*, LRESULT* result) {
+        m_log.push_back("parent ex " + std::to_string(id));
+        *result = 11;
+        return TRUE;
+    }
+    HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
+        m_log.push_back("parent color");
+        return handlesColor ? static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH))
+                            : CWnd::OnCtlColor(dc, control, kind);
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    Log& m_log;
+};
+
+BEGIN_MESSAGE_MAP(ParentWnd, CWnd)
+    ON_COMMAND(100, &ParentWnd::OnPlain)
+    ON_COMMAND_RANGE(200, 202, &ParentWnd::OnRange)
+    ON_COMMAND_EX_RANGE(300, 301, &ParentWnd::OnEx)
+    ON_BN_CLICKED(1, &ParentWnd::OnClicked)
+    ON_EN_CHANGE(1, &ParentWnd::OnChanged)
+    ON_CONTROL_RANGE(BN_DOUBLECLICKED, 1, 3, &ParentWnd::OnControlRange)
+    ON_NOTIFY(NM_CLICK, 1, &ParentWnd::OnNotified)
+    ON_NOTIFY(NM_DBLCLK, 1, &ParentWnd::OnNotified)
+    ON_NOTIFY(NM_RCLICK, 1, &ParentWnd::OnNotified)
+    ON_NOTIFY(wideCode, 1, &ParentWnd::OnNotified)
+    ON_NOTIFY_RANGE(NM_RETURN, 1, 4, &ParentWnd::OnNotifyRange)
+    ON_NOTIFY_EX(NM_SETFOCUS, 1, &ParentWnd::OnNotifyEx)
+    ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+class CommandTest : public testing::Test {
+protected:
+    CommandTest() : parent(log), control(log) {}
+    void SetUp() override {
+        ASSERT_TRUE(CreateTop(parent));
+        ASSERT_TRUE(CreateChild(control, parent, 1));
+        log.clear();
+    }
+    Log Taken() {
+        Log taken;
+        taken.swap(log);
+        return taken;
+    }
+    LRESULT Command(UINT id) { return parent.SendMessage(WM_COMMAND, id); }
+
+    Log log;
+    ParentWnd parent;
+    ReflectingWnd control;
+};
+
+} // namespace
+
+TEST_F(CommandTest, CommandsAreMatchedByIdAndRange) {
+    EXPECT_NE(Command(100), 0);
+    EXPECT_EQ(Taken(), Log{"plain"});
+    for (const UINT outside : {0u, 99u, 101u, 199u, 203u})
+        EXPECT_EQ(Command(outside), 0) << outside;
+    EXPECT_EQ(Taken(), Log{});
+    Command(200);
+    Command(202);
+    EXPECT_EQ(Taken(), (Log{"range 200", "range 202"}));
+    EXPECT_NE(Command(300), 0);
+    EXPECT_EQ(Command(301), 0) << "the handler said no";
+    EXPECT_EQ(Taken(), (Log{"ex 300", "ex 301"}));
+}
+
+TEST_F(CommandTest, HandlersCanBeAskedForWithoutBeingCalled) {
+    AFX_CMDHANDLERINFO info{};
+    EXPECT_TRUE(parent.OnCmdMsg(100, CN_COMMAND, nullptr, &info));
+    EXPECT_EQ(info.pTarget, &parent);
+    EXPECT_NE(info.pmf, nullptr);
+    EXPECT_FALSE(parent.OnCmdMsg(101, CN_COMMAND, nullptr, &info));
+    EXPECT_EQ(Taken(), Log{});
+}
+
+TEST_F(CommandTest, ReflectedNotificationsReachTheControlFirst) {
+    control.Command(BN_CLICKED);
+    EXPECT_EQ(Taken(), Log{"control clicked"}) << "and not the parent";
+    control.Command(EN_CHANGE);
+    EXPECT_EQ(Taken(), (Log{"control second", "parent changed"}));
+    control.Command(BN_DOUBLECLICKED);
+    EXPECT_EQ(Taken(), Log{"parent control 1"});
+    control.Command(EN_KILLFOCUS);
+    EXPECT_EQ(Taken(), Log{});
+
+    EXPECT_EQ(control.Notify(NM_CLICK), 5);
+    EXPECT_EQ(Taken(), Log{"control notified"});
+    EXPECT_EQ(control.Notify(NM_DBLCLK), 9);
+    EXPECT_EQ(Taken(), (Log{"control shared", "parent notified -3"}));
+}
+
+TEST_F(CommandTest, NotificationsAreMatchedByTheWholeCodeAndById) {
+    EXPECT_EQ(control.Notify(NM_RCLICK), 9);
+    EXPECT_EQ(control.Notify(NM_RETURN), 10);
+    EXPECT_EQ(control.Notify(NM_SETFOCUS), 11);
+    EXPECT_EQ(Taken(), (Log{"parent notified -5", "parent range 1", "parent ex 1"}));
+    EXPECT_EQ(control.Notify(wideCode), 9);
+    EXPECT_EQ(Taken().size(), 1u);
+    EXPECT_EQ(control.Notify(wideCode & 0xFFFFu), 0) << "the same low word only";
+    EXPECT_EQ(Taken(), Log{});
+}
+
+TEST_F(CommandTest, ColorsGoToTheParentAndFromItsBaseToTheControl) {
+    CClientDC dc(&control);
+    const auto ask = [&] {
+        return reinterpret_cast<HGDIOBJ>(parent.SendMessage(
+            WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(control.m_hWnd)));
+    };
+    EXPECT_EQ(ask(), ::GetStockObject(BLACK_BRUSH));
+    EXPECT_EQ(Taken(), (Log{"parent color", "control color " + std::to_string(CTLCOLOR_STATIC)}));
+    control.answerColor = false;
+    EXPECT_NE(ask(), nullptr) << "the system's answer";
+    EXPECT_EQ(Taken().size(), 2u);
+    parent.handlesColor = true;
+    EXPECT_EQ(ask(), ::GetStockObject(GRAY_BRUSH));
+    EXPECT_EQ(Taken(), Log{"parent color"});
+}
+
+TEST_F(CommandTest, ScrollingAndDrawingAreHandedBackToTheControl) {
+    parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 30),
+                       reinterpret_cast<LPARAM>(control.m_hWnd));
+    EXPECT_EQ(Taken(), Log{"control scroll 4 30"});
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_BUTTON;
+    draw.CtlID = 1;
+    draw.itemID = 66;
+    draw.hwndItem = control.m_hWnd;
+    EXPECT_NE(parent.SendMessage(WM_DRAWITEM, 1, reinterpret_cast<LPARAM>(&draw)), 0);
+    EXPECT_EQ(Taken(), Log{"control draw 66"});
+    draw.CtlType = ODT_MENU; // a menu whose handle is this window's is nobody's
+    parent.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
+    EXPECT_EQ(Taken(), Log{});
+}
+
+TEST_F(CommandTest, AnOverrideThatKeepsTheBaseFromRunningKeepsTheMapFromRunning) {
+    class DeafWnd : public ParentWnd {
+    public:
+        using ParentWnd::ParentWnd;
+
+    protected:
+        BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+            return LOWORD(wParam) == 100 || ParentWnd::OnCommand(wParam, lParam);
+        }
+    };
+    DeafWnd deaf(log);
+    ASSERT_TRUE(CreateTop(deaf));
+    EXPECT_NE(deaf.SendMessage(WM_COMMAND, 100), 0);
+    EXPECT_EQ(Taken(), Log{});
+    deaf.SendMessage(WM_COMMAND, 200);
+    EXPECT_EQ(Taken(), Log{"range 200"});
+}

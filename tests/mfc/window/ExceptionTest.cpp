@@ -1,0 +1,172 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+#include <new>
+
+using windowkit::CreateTop;
+
+namespace {
+
+constexpr UINT throwMessage = WM_USER + 1;
+constexpr UINT outerMessage = WM_USER + 2;
+constexpr UINT throwCommand = 100;
+
+int g_livingExceptions = 0;
+
+class CountedException : public CException {
+public:
+    explicit CountedException(BOOL autoDelete = TRUE) : CException(autoDelete) { ++g_livingExceptions; }
+    ~CountedException() override { --g_livingExceptions; }
+    BOOL GetErrorMessage(LPTSTR text, UINT length, PUINT = nullptr) override {
+        ::lstrcpyn(text, "counted", static_cast<int>(length));
+        return TRUE;
+    }
+};
+
+/// Lets exceptions out of its handlers.
+class ThrowingWnd : public CWnd {
+public:
+    UINT throwOn = 0;
+    int paints = 0;
+    bool outOfMemory = false;
+    CWnd* inner = nullptr;
+    LRESULT innerAnswer = -1;
+    UINT messageAfterwards = 0;
+
+protected:
+    void Throw(UINT message) {
+        if (throwOn != message)
+            return;
+        if (outOfMemory)
+            throw std::bad_alloc();
+        throw new CountedException;
+    }
+    int OnCreate(LPCREATESTRUCT lpcs) {
+        Throw(WM_CREATE);
+        return CWnd::OnCreate(lpcs);
+    }
+    void OnPaint() {
+        ++paints;
+        Throw(WM_PAINT);
+        CPaintDC dc(this);
+    }
+    LRESULT OnThrow(WPARAM, LPARAM) {
+        Throw(throwMessage);
+        return 9;
+    }
+    LRESULT OnOuter(WPARAM, LPARAM) {
+        innerAnswer = inner->SendMessage(throwMessage);
+        messageAfterwards = GetCurrentMessage()->message;
+        return 3;
+    }
+    void OnThrowCommand() { AfxThrowUserException(); }
+    void OnThrowOther() { Throw(WM_COMMAND); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ThrowingWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_MESSAGE(throwMessage, &ThrowingWnd::OnThrow)
+    ON_MESSAGE(outerMessage, &ThrowingWnd::OnOuter)
+    ON_COMMAND(throwCommand, &ThrowingWnd::OnThrowCommand)
+    ON_COMMAND(throwCommand + 1, &ThrowingWnd::OnThrowOther)
+END_MESSAGE_MAP()
+
+class WindowExceptionTest : public testing::Test {
+protected:
+    void TearDown() override { EXPECT_EQ(g_livingExceptions, 0); }
+
+    windowkit::ScopedApp app;
+    ThrowingWnd window;
+};
+
+} // namespace
+
+TEST_F(WindowExceptionTest, AWindowWhoseCreationThrowsIsNotCreated) {
+    window.throwOn = WM_CREATE;
+    EXPECT_FALSE(CreateTop(window));
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(app.exceptionMessages, std::vector<UINT>{WM_CREATE});
+    EXPECT_TRUE(app.boxes.empty());
+    window.throwOn = 0;
+    EXPECT_TRUE(CreateTop(window));
+}
+
+TEST_F(WindowExceptionTest, AFailedPaintIsNotAskedForAgain) {
+    ASSERT_TRUE(CreateTop(window));
+    window.ShowWindow(SW_SHOWNA);
+    window.UpdateWindow();
+    window.throwOn = WM_PAINT;
+    window.paints = 0;
+    window.Invalidate();
+    window.UpdateWindow();
+    EXPECT_EQ(window.paints, 1);
+    EXPECT_FALSE(window.GetUpdateRect(nullptr));
+    window.UpdateWindow();
+    EXPECT_EQ(window.paints, 1);
+    EXPECT_TRUE(app.boxes.empty());
+}
+
+TEST_F(WindowExceptionTest, OtherMessagesAnswerZeroAndTellTheUser) {
+    ASSERT_TRUE(CreateTop(window));
+    window.throwOn = throwMessage;
+    EXPECT_EQ(window.SendMessage(throwMessage), 0);
+    EXPECT_EQ(app.boxes, std::vector<std::string>{"counted"});
+    window.throwOn = WM_COMMAND;
+    window.SendMessage(WM_COMMAND, throwCommand + 1);
+    EXPECT_EQ(app.boxes.size(), 2u);
+    window.SendMessage(WM_COMMAND, throwCommand);
+    EXPECT_EQ(app.boxes.size(), 2u) << "a user exception has been told already";
+    EXPECT_EQ(app.exceptionMessages.size(), 3u);
+}
+
+TEST_F(WindowExceptionTest, AnInnerFailureLeavesTheOuterHandlerRunning) {
+    ASSERT_TRUE(CreateTop(window));
+    ThrowingWnd outer;
+    ASSERT_TRUE(CreateTop(outer));
+    window.throwOn = throwMessage;
+    outer.inner = &window;
+    EXPECT_EQ(outer.SendMessage(outerMessage), 3);
+    EXPECT_EQ(outer.innerAnswer, 0);
+    EXPECT_EQ(outer.messageAfterwards, outerMessage) << "the current message is the outer one again";
+}
+
+TEST_F(WindowExceptionTest, AMissingBlockOfMemoryDoesNotUnwindTheSystem) {
+    ASSERT_TRUE(CreateTop(window));
+    window.throwOn = throwMessage;
+    window.outOfMemory = true;
+    EXPECT_EQ(window.SendMessage(throwMessage), 0);
+    EXPECT_EQ(app.exceptionMessages, std::vector<UINT>{throwMessage});
+    EXPECT_EQ(app.boxes.size(), 1u);
+}
+
+TEST_F(WindowExceptionTest, ExceptionsOfTheLibraryArriveInTheProgram) {
+    // The failure is thrown inside the library's DLL.
+    CWnd noWindow;
+    noWindow.m_hWnd = reinterpret_cast<HWND>(static_cast<UINT_PTR>(0xFFF1));
+    bool caught = false;
+    try {
+        const CClientDC dc(&noWindow);
+    } catch (CResourceException* exception) {
+        caught = true;
+        exception->Delete();
+    }
+    noWindow.m_hWnd = nullptr;
+    EXPECT_TRUE(caught);
+
+    // And one of the program's own passes through the library on its way back.
+    class Exchanging : public CWnd {
+    protected:
+        void DoDataExchange(CDataExchange* pDX) override {
+            if (pDX->m_bSaveAndValidate)
+                AfxThrowUserException();
+            throw new CountedException;
+        }
+    } exchanging;
+    EXPECT_FALSE(exchanging.UpdateData(TRUE));
+    EXPECT_TRUE(app.boxes.empty());
+    EXPECT_FALSE(exchanging.UpdateData(FALSE));
+    EXPECT_EQ(app.boxes, std::vector<std::string>{"counted"});
+}

@@ -1,0 +1,255 @@
+#include "tests/mfc/window/WindowKit.h"
+#include "tests/mfc/window/window_ids.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Log = std::vector<std::string>;
+
+class FrameApp : public windowkit::ScopedApp {
+public:
+    Log log;
+
+protected:
+    void OnOfApp() { log.push_back("app"); }
+    void OnPassedOn() { log.push_back("app passed on"); }
+    void OnUpdatePassedOn(CCmdUI* ui) { ui->SetText("answered by the application"); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(FrameApp, CWinApp)
+    ON_COMMAND(ID_OF_APP, &FrameApp::OnOfApp)
+    ON_COMMAND(ID_PASSED_ON, &FrameApp::OnPassedOn)
+    ON_UPDATE_COMMAND_UI(ID_PASSED_ON, &FrameApp::OnUpdatePassedOn)
+    ON_COMMAND(ID_INHERITED, &CWinApp::OnAppExit)
+END_MESSAGE_MAP()
+
+class TestFrame : public CFrameWnd {
+public:
+    explicit TestFrame(Log& log) : m_log(log) {}
+    CWnd pane;
+    bool withPane = false;
+    HMENU updatedParent = nullptr;
+    UINT updatedIndexMax = 0;
+
+protected:
+    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext*) override {
+        return !withPane || pane.Create(nullptr, nullptr, AFX_WS_DEFAULT_VIEW, CRect(0, 0, 0, 0), this,
+                                        AFX_IDW_PANE_FIRST);
+    }
+    void OnKnown() { m_log.push_back("known"); }
+    void OnUpdateKnown(CCmdUI* ui) {
+        updatedParent = ui->m_pParentMenu != nullptr ? ui->m_pParentMenu->m_hMenu : nullptr;
+        updatedIndexMax = ui->m_nIndexMax;
+    }
+    void OnBarred() { m_log.push_back("barred"); }
+    void OnUpdateBarred(CCmdUI* ui) { ui->Enable(FALSE); }
+    void OnTicked() {}
+    void OnUpdateTicked(CCmdUI* ui) { ui->SetCheck(1); }
+    void OnUpdateRadio(CCmdUI* ui) {
+        ui->SetRadio(TRUE);
+        ui->Enable();
+    }
+    void OnUpdateRenamed(CCmdUI* ui) { ui->SetText("renamed"); }
+    void OnUpdatePassedOn(CCmdUI* ui) { ui->ContinueRouting(); }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    Log& m_log;
+};
+
+BEGIN_MESSAGE_MAP(TestFrame, CFrameWnd)
+    ON_COMMAND(ID_KNOWN, &TestFrame::OnKnown)
+    ON_UPDATE_COMMAND_UI(ID_KNOWN, &TestFrame::OnUpdateKnown)
+    ON_COMMAND(ID_BARRED, &TestFrame::OnBarred)
+    ON_UPDATE_COMMAND_UI(ID_BARRED, &TestFrame::OnUpdateBarred)
+    ON_COMMAND(ID_TICKED, &TestFrame::OnTicked)
+    ON_UPDATE_COMMAND_UI(ID_TICKED, &TestFrame::OnUpdateTicked)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_RADIO, ID_RADIO, &TestFrame::OnUpdateRadio)
+    ON_UPDATE_COMMAND_UI(ID_RENAMED, &TestFrame::OnUpdateRenamed)
+    ON_UPDATE_COMMAND_UI(ID_PASSED_ON, &TestFrame::OnUpdatePassedOn)
+END_MESSAGE_MAP()
+
+class FrameTest : public testing::Test {
+protected:
+    void SetUp() override {
+        frame = new TestFrame(app.log);
+        ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
+        app.m_pMainWnd = frame;
+        popup = ::GetSubMenu(::GetMenu(frame->m_hWnd), 0);
+        ASSERT_NE(popup, nullptr);
+    }
+    void TearDown() override {
+        if (app.m_pMainWnd != nullptr)
+            app.m_pMainWnd->DestroyWindow();
+        windowkit::TakeQuit();
+    }
+    void OpenMenu() {
+        frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup), MAKELPARAM(0, FALSE));
+    }
+    UINT State(UINT id) const { return ::GetMenuState(popup, id, MF_BYCOMMAND); }
+    std::string Text(UINT id) const {
+        char text[64] = "";
+        ::GetMenuString(popup, id, text, sizeof(text), MF_BYCOMMAND);
+        return text;
+    }
+    /// Presses a key with Ctrl held, by way of the thread's look at messages.
+    bool PressControl(WPARAM key) {
+        BYTE held[256] = {};
+        BYTE before[256] = {};
+        ::GetKeyboardState(before);
+        held[VK_CONTROL] = 0x80;
+        ::SetKeyboardState(held);
+        MSG message{};
+        message.hwnd = frame->m_hWnd;
+        message.message = WM_KEYDOWN;
+        message.wParam = key;
+        const bool taken = app.PreTranslateMessage(&message) != FALSE;
+        ::SetKeyboardState(before);
+        return taken;
+    }
+
+    FrameApp app;
+    TestFrame* frame = nullptr;
+    HMENU popup = nullptr;
+};
+
+} // namespace
+
+TEST_F(FrameTest, TheFrameTakesTitleMenuAndAcceleratorsOfItsId) {
+    CString title;
+    frame->GetWindowText(title);
+    EXPECT_STREQ(title, "Frame title");
+    EXPECT_EQ(::GetMenuItemCount(::GetMenu(frame->m_hWnd)), 1);
+    EXPECT_NE(frame->GetDefaultAccelerator(), nullptr);
+    EXPECT_FALSE(frame->LoadAccelTable(MAKEINTRESOURCE(IDR_FRAME))) << "it has one";
+    EXPECT_TRUE(frame->IsFrameWnd());
+    EXPECT_EQ(frame->GetActiveFrame(), frame);
+}
+
+TEST_F(FrameTest, OpeningAMenuBringsItUpToDate) {
+    OpenMenu();
+    EXPECT_EQ(State(ID_KNOWN) & MF_GRAYED, 0u);
+    EXPECT_NE(State(ID_NOBODYS) & MF_GRAYED, 0u) << "nobody handles it";
+    EXPECT_NE(State(ID_BARRED) & MF_GRAYED, 0u);
+    EXPECT_NE(State(ID_TICKED) & MF_CHECKED, 0u);
+    EXPECT_EQ(State(ID_TICKED) & MF_GRAYED, 0u);
+    EXPECT_EQ(State(ID_RADIO) & MF_GRAYED, 0u) << "an update handler that enables is enough";
+    EXPECT_NE(State(ID_RADIO) & MF_CHECKED, 0u);
+    EXPECT_EQ(Text(ID_RENAMED), "renamed");
+    EXPECT_EQ(State(ID_OF_APP) & MF_GRAYED, 0u);
+    EXPECT_EQ(State(ID_APP_EXIT) & MF_GRAYED, 0u);
+    EXPECT_EQ(Text(ID_PASSED_ON), "answered by the application");
+    EXPECT_EQ(::GetMenuState(popup, 9, MF_BYPOSITION) & MF_GRAYED, 0u) << "a popup stays open to the user";
+    EXPECT_EQ(frame->updatedParent, ::GetMenu(frame->m_hWnd));
+    EXPECT_EQ(frame->updatedIndexMax, 11u);
+
+    MENUITEMINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = MIIM_FTYPE;
+    ASSERT_TRUE(::GetMenuItemInfo(popup, ID_RADIO, FALSE, &info));
+    EXPECT_NE(info.fType & MFT_RADIOCHECK, 0u);
+}
+
+TEST_F(FrameTest, WithoutAutomaticDisablingOnlyHandlersDecide) {
+    frame->m_bAutoMenuEnable = FALSE;
+    OpenMenu();
+    EXPECT_EQ(State(ID_NOBODYS) & MF_GRAYED, 0u);
+    EXPECT_NE(State(ID_BARRED) & MF_GRAYED, 0u);
+}
+
+TEST_F(FrameTest, CommandsGoToTheFrameAndThenToTheApplication) {
+    for (const UINT id : {ID_KNOWN, ID_OF_APP, ID_PASSED_ON, ID_NOBODYS})
+        frame->SendMessage(WM_COMMAND, id);
+    EXPECT_EQ(app.log, (Log{"known", "app", "app passed on"}));
+    app.log.clear();
+    frame->SendMessage(WM_COMMAND, ID_BARRED);
+    EXPECT_EQ(app.log, Log{}) << "a disabled command is not carried out";
+}
+
+TEST_F(FrameTest, AcceleratorsWorkFromTheFrameAndItsChildren) {
+    EXPECT_TRUE(PressControl('K'));
+    EXPECT_EQ(app.log, Log{"known"});
+    app.log.clear();
+    PressControl('B');
+    EXPECT_EQ(app.log, Log{}) << "disabled";
+    EXPECT_FALSE(PressControl('J'));
+}
+
+TEST_F(FrameTest, MessagesAreOfferedFromTheInnermostWindowOutwards) {
+    class Listener : public CWnd {
+    public:
+        Listener(Log& log, const char* name, bool eats) : m_log(log), m_name(name), m_eats(eats) {}
+        BOOL PreTranslateMessage(MSG*) override {
+            m_log.push_back(m_name);
+            return m_eats;
+        }
+
+    private:
+        Log& m_log;
+        const char* m_name;
+        bool m_eats;
+    };
+    Listener outer(app.log, "outer", true);
+    Listener inner(app.log, "inner", false);
+    ASSERT_TRUE(windowkit::CreateChild(outer, *frame, 1));
+    ASSERT_TRUE(windowkit::CreateChild(inner, outer, 1));
+    MSG message{};
+    message.hwnd = inner.m_hWnd;
+    message.message = WM_LBUTTONDOWN;
+    EXPECT_TRUE(app.PreTranslateMessage(&message));
+    EXPECT_EQ(app.log, (Log{"inner", "outer"}));
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(inner.m_hWnd, &message)) << "no further than the window named";
+}
+
+TEST_F(FrameTest, TheExitCommandEndsTheProgram) {
+    frame->SendMessage(WM_COMMAND, ID_APP_EXIT);
+    EXPECT_EQ(app.m_pMainWnd, nullptr);
+    EXPECT_TRUE(windowkit::TakeQuit());
+
+    frame = new TestFrame(app.log);
+    ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
+    app.m_pMainWnd = frame;
+    frame->SendMessage(WM_COMMAND, ID_INHERITED);
+    EXPECT_EQ(app.m_pMainWnd, nullptr) << "a handler of the library, named in the program's map";
+}
+
+TEST_F(FrameTest, ThePaneFillsTheClientArea) {
+    auto* const framed = new TestFrame(app.log);
+    framed->withPane = true;
+    ASSERT_TRUE(framed->Create(nullptr, "with a pane", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200)));
+    const auto fills = [&] {
+        CRect client;
+        CRect pane;
+        framed->GetClientRect(&client);
+        framed->pane.GetWindowRect(&pane);
+        framed->ScreenToClient(&pane);
+        return pane == client && !client.IsRectEmpty();
+    };
+    EXPECT_TRUE(fills());
+    framed->MoveWindow(0, 0, 400, 250);
+    EXPECT_TRUE(fills());
+    EXPECT_EQ(framed->pane.GetParentFrame(), framed);
+    EXPECT_EQ(framed->pane.GetTopLevelParent(), framed);
+    EXPECT_EQ(framed->GetDescendantWindow(AFX_IDW_PANE_FIRST), &framed->pane);
+    framed->DestroyWindow();
+}
+
+TEST_F(FrameTest, ButtonsFollowTheirCommandsToo) {
+    struct Button {
+        HWND window;
+        Button(CWnd& parent, int id, DWORD style)
+            : window(::CreateWindow("BUTTON", "b", WS_CHILD | style, 0, 0, 9, 9, parent.m_hWnd,
+                                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr)) {}
+    };
+    const Button known(*frame, ID_KNOWN, BS_PUSHBUTTON);
+    const Button nobodys(*frame, ID_NOBODYS, BS_PUSHBUTTON);
+    const Button ticked(*frame, ID_TICKED, BS_CHECKBOX);
+    const Button unknownBox(*frame, ID_NOBODYS + 100, BS_CHECKBOX);
+    frame->UpdateDialogControls(frame, TRUE);
+    EXPECT_TRUE(::IsWindowEnabled(known.window));
+    EXPECT_FALSE(::IsWindowEnabled(nobodys.window));
+    EXPECT_EQ(::SendMessage(ticked.window, BM_GETCHECK, 0, 0), BST_CHECKED);
+    EXPECT_TRUE(::IsWindowEnabled(unknownBox.window)) << "a check box is a value, not a command";
+}

@@ -1,0 +1,122 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+using windowkit::CreateChild;
+using windowkit::CreateTop;
+using windowkit::MapCounts;
+
+namespace {
+
+constexpr UINT loopMessage = WM_USER + 2;
+
+/// Looks at a window without an object inside its handlers.
+class AskingWnd : public CWnd {
+public:
+    HWND foreign = nullptr;
+    CWnd* answer = nullptr;
+    bool survivedLoop = false;
+
+protected:
+    LRESULT OnLoop(WPARAM, LPARAM) {
+        answer = CWnd::FromHandle(foreign);
+        const std::size_t held = MapCounts::Now().temporary;
+        // A handler that runs a loop of its own is still busy.
+        for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
+        }
+        survivedLoop = held != 0 && MapCounts::Now().temporary == held && answer->m_hWnd == foreign;
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(AskingWnd, CWnd)
+    ON_MESSAGE(loopMessage, &AskingWnd::OnLoop)
+END_MESSAGE_MAP()
+
+class HandleMapTest : public testing::Test {
+protected:
+    void SetUp() override {
+        CWnd::DeleteTempMap();
+        ASSERT_TRUE(CreateTop(window));
+        // A button that no object knows.
+        window.foreign = ::CreateWindow("BUTTON", "b", WS_CHILD, 0, 0, 10, 10, window.m_hWnd,
+                                        reinterpret_cast<HMENU>(5), nullptr, nullptr);
+    }
+    AskingWnd window;
+};
+
+} // namespace
+
+TEST_F(HandleMapTest, TemporaryObjectsAreSharedAndEndWhenIdle) {
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.foreign), nullptr);
+    EXPECT_EQ(MapCounts::Now().temporary, 0u);
+
+    CWnd* const temporary = window.GetDlgItem(5);
+    ASSERT_NE(temporary, nullptr);
+    EXPECT_EQ(temporary->m_hWnd, window.foreign);
+    EXPECT_EQ(CWnd::FromHandle(window.foreign), temporary);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.foreign), nullptr);
+    EXPECT_EQ(temporary->GetParent(), &window) << "an attached window is found as itself";
+    EXPECT_EQ(MapCounts::Now().temporary, 1u);
+
+    for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
+    }
+    EXPECT_EQ(MapCounts::Now().temporary, 0u);
+    EXPECT_TRUE(::IsWindow(window.foreign)) << "the window outlives its temporary object";
+}
+
+TEST_F(HandleMapTest, AnObjectAttachedLaterTakesTheTemporarysPlace) {
+    CWnd* const temporary = CWnd::FromHandle(window.foreign);
+    CWnd object;
+    object.Attach(window.foreign);
+    EXPECT_EQ(CWnd::FromHandle(window.foreign), &object);
+    EXPECT_EQ(temporary->m_hWnd, window.foreign) << "who holds the temporary one can go on";
+    object.Detach();
+    CWnd::FromHandle(window.foreign)->Detach();
+    EXPECT_EQ(CWnd::FromHandle(window.foreign)->m_hWnd, window.foreign);
+}
+
+TEST_F(HandleMapTest, TemporaryObjectsOutliveTheLoopsOfTheHandlerThatHoldsThem) {
+    window.SendMessage(loopMessage);
+    EXPECT_TRUE(window.survivedLoop);
+    AfxGetThread()->OnIdle(0);
+    EXPECT_EQ(MapCounts::Now().temporary, 0u);
+}
+
+TEST_F(HandleMapTest, EachThreadHasMapsOfItsOwn) {
+    struct Question {
+        HWND window;
+        CWnd* permanent;
+        bool differs;
+    } question{window.m_hWnd, &window, false};
+    CWinThread* const thread = AfxBeginThread(
+        [](LPVOID parameter) -> UINT {
+            auto& asked = *static_cast<Question*>(parameter);
+            asked.permanent = CWnd::FromHandlePermanent(asked.window);
+            asked.differs = CWnd::FromHandle(asked.window) != nullptr && MapCounts::Now().temporary == 1;
+            return 0;
+        },
+        &question, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    ASSERT_NE(thread, nullptr);
+    HANDLE handle = nullptr;
+    ::DuplicateHandle(::GetCurrentProcess(), thread->m_hThread, ::GetCurrentProcess(), &handle, 0, FALSE,
+                      DUPLICATE_SAME_ACCESS);
+    thread->ResumeThread();
+    ASSERT_EQ(::WaitForSingleObject(handle, 10000), WAIT_OBJECT_0);
+    ::CloseHandle(handle);
+    EXPECT_EQ(question.permanent, nullptr);
+    EXPECT_TRUE(question.differs);
+    EXPECT_EQ(MapCounts::Now().temporary, 0u);
+}
+
+TEST_F(HandleMapTest, PlacementConstantsAreNotWindows) {
+    EXPECT_EQ(CWnd::wndTop.m_hWnd, HWND_TOP);
+    EXPECT_EQ(CWnd::wndNoTopMost.m_hWnd, HWND_NOTOPMOST);
+    EXPECT_TRUE(window.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
+    EXPECT_NE(window.GetExStyle() & WS_EX_TOPMOST, 0u);
+    EXPECT_TRUE(
+        window.SetWindowPos(&CWnd::wndNoTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
+    EXPECT_EQ(window.GetExStyle() & WS_EX_TOPMOST, 0u);
+}

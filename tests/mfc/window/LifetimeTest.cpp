@@ -1,0 +1,307 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using windowkit::CreateChild;
+using windowkit::CreateTop;
+using windowkit::MapCounts;
+
+namespace {
+
+using Log = std::vector<std::string>;
+
+/// Notes every step of its life, and whether object and window know each other there.
+class LoggedWnd : public CWnd {
+public:
+    explicit LoggedWnd(Log& log, bool deletesItself = false) : m_log(log), m_deletesItself(deletesItself) {}
+    ~LoggedWnd() override { m_log.push_back("deleted"); }
+
+    bool refuseClass = false;
+    BOOL ncCreateAnswer = TRUE;
+    int createAnswer = 0;
+    CWnd* childOnCreate = nullptr;
+
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override { return !refuseClass && CWnd::PreCreateWindow(cs); }
+    void PreSubclassWindow() override { Note("subclass"); }
+
+protected:
+    BOOL OnNcCreate(LPCREATESTRUCT lpcs) {
+        Note("nccreate");
+        return ncCreateAnswer && CWnd::OnNcCreate(lpcs);
+    }
+    int OnCreate(LPCREATESTRUCT lpcs) {
+        Note("create");
+        CWnd::OnCreate(lpcs);
+        if (childOnCreate != nullptr) {
+            EXPECT_TRUE(CreateChild(*childOnCreate, *this, 7));
+        }
+        return createAnswer;
+    }
+    void OnDestroy() {
+        Note("destroy");
+        CWnd::OnDestroy();
+    }
+    void OnNcDestroy() {
+        Note("ncdestroy");
+        CWnd::OnNcDestroy();
+    }
+    void PostNcDestroy() override {
+        m_log.push_back(m_hWnd == nullptr ? "post" : "post with a window");
+        if (m_deletesItself)
+            delete this;
+    }
+    LRESULT OnDie(WPARAM, LPARAM) {
+        DestroyWindow();
+        return 42;
+    }
+    LRESULT OnDieAndGoOn(WPARAM, LPARAM) {
+        DestroyWindow();
+        return Default() + (m_hWnd == nullptr ? 1 : 0);
+    }
+    LRESULT OnDelete(WPARAM, LPARAM) {
+        delete this;
+        return 43;
+    }
+    void OnDieCommand() { DestroyWindow(); }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Note(const char* step) {
+        const bool tied =
+            m_hWnd != nullptr && ::IsWindow(m_hWnd) && CWnd::FromHandlePermanent(m_hWnd) == this;
+        m_log.push_back(tied ? step : std::string(step) + " untied");
+    }
+
+    Log& m_log;
+    bool m_deletesItself;
+};
+
+constexpr UINT dieMessage = WM_USER + 1;
+constexpr UINT dieAndGoOnMessage = WM_USER + 2;
+constexpr UINT deleteMessage = WM_USER + 3;
+constexpr UINT dieCommand = 100;
+
+BEGIN_MESSAGE_MAP(LoggedWnd, CWnd)
+    ON_WM_NCCREATE()
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_NCDESTROY()
+    ON_MESSAGE(dieMessage, &LoggedWnd::OnDie)
+    ON_MESSAGE(dieAndGoOnMessage, &LoggedWnd::OnDieAndGoOn)
+    ON_MESSAGE(deleteMessage, &LoggedWnd::OnDelete)
+    ON_COMMAND(dieCommand, &LoggedWnd::OnDieCommand)
+END_MESSAGE_MAP()
+
+const Log wholeLife = {"subclass", "nccreate", "create", "destroy", "ncdestroy", "post"};
+
+class LifetimeTest : public testing::Test {
+protected:
+    LifetimeTest() : m_before(MapCounts::Now()) {}
+    void TearDown() override { EXPECT_EQ(MapCounts::Now().permanent, m_before.permanent); }
+
+    Log log;
+
+private:
+    MapCounts m_before;
+};
+
+} // namespace
+
+TEST_F(LifetimeTest, EveryStepReachesTheObjectWithItsWindowTied) {
+    LoggedWnd window(log);
+    ASSERT_TRUE(CreateTop(window));
+    const HWND handle = window.m_hWnd;
+    EXPECT_TRUE(window.DestroyWindow());
+    EXPECT_EQ(log, wholeLife);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_FALSE(::IsWindow(handle));
+    EXPECT_FALSE(window.DestroyWindow());
+
+    log.clear();
+    ASSERT_TRUE(CreateTop(window)) << "an object can have one window after another";
+    window.DestroyWindow();
+    EXPECT_EQ(log, wholeLife);
+}
+
+TEST_F(LifetimeTest, TheParentTakesItsChildrenAlong) {
+    Log parentLog;
+    LoggedWnd parent(parentLog);
+    LoggedWnd child(log);
+    parent.childOnCreate = &child; // a window made while another one is being made
+    ASSERT_TRUE(CreateTop(parent));
+    ASSERT_NE(child.m_hWnd, nullptr);
+    EXPECT_EQ(child.GetParent(), &parent);
+    EXPECT_EQ(child.GetDlgCtrlID(), 7);
+    parent.DestroyWindow();
+    EXPECT_EQ(log, wholeLife);
+    EXPECT_EQ(child.m_hWnd, nullptr);
+}
+
+TEST_F(LifetimeTest, AHandlerMayDestroyItsOwnWindow) {
+    LoggedWnd window(log);
+    ASSERT_TRUE(CreateTop(window));
+    EXPECT_EQ(window.SendMessage(dieMessage), 42);
+    EXPECT_EQ(log, wholeLife);
+    ASSERT_TRUE(CreateTop(window));
+    EXPECT_EQ(window.SendMessage(dieAndGoOnMessage), 1) << "the default of a window that is gone is 0";
+}
+
+TEST_F(LifetimeTest, AnObjectOnTheHeapMayGoWithItsWindow) {
+    Log whole = wholeLife;
+    whole.push_back("deleted");
+    const auto create = [&] {
+        log.clear();
+        auto* const window = new LoggedWnd(log, true);
+        EXPECT_TRUE(CreateTop(*window));
+        return window->m_hWnd;
+    };
+    CWnd::FromHandlePermanent(create())->DestroyWindow();
+    EXPECT_EQ(log, whole);
+    ::DestroyWindow(create());
+    EXPECT_EQ(log, whole);
+    EXPECT_EQ(::SendMessage(create(), dieMessage, 0, 0), 42);
+    EXPECT_EQ(log, whole);
+    ::SendMessage(create(), WM_COMMAND, dieCommand, 0);
+    EXPECT_EQ(log, whole);
+    ::SendMessage(create(), WM_CLOSE, 0, 0); // by way of the default procedure
+    EXPECT_EQ(log, whole);
+}
+
+TEST_F(LifetimeTest, TheDestructorDestroysTheWindowWithoutTheDerivedHandlers) {
+    const Log created = {"subclass", "nccreate", "create", "deleted"};
+    HWND handle = nullptr;
+    {
+        LoggedWnd window(log);
+        ASSERT_TRUE(CreateTop(window));
+        handle = window.m_hWnd;
+    }
+    EXPECT_EQ(log, created);
+    EXPECT_FALSE(::IsWindow(handle));
+
+    log.clear();
+    auto* const window = new LoggedWnd(log);
+    ASSERT_TRUE(CreateTop(*window));
+    handle = window->m_hWnd;
+    EXPECT_EQ(::SendMessage(handle, deleteMessage, 0, 0), 43) << "deleted inside its own handler";
+    EXPECT_EQ(log, created);
+    EXPECT_FALSE(::IsWindow(handle));
+}
+
+TEST_F(LifetimeTest, AFailedCreationCleansUpOnceAndLeavesNothing) {
+    const auto failsWith = [&](auto prepare, const char* className) {
+        log.clear();
+        LoggedWnd window(log);
+        prepare(window);
+        EXPECT_FALSE(window.CreateEx(0, className, "", WS_OVERLAPPEDWINDOW, 0, 0, 10, 10, nullptr, nullptr));
+        EXPECT_EQ(window.m_hWnd, nullptr);
+        return log;
+    };
+    const std::string plain = AfxRegisterWndClass(0);
+    EXPECT_EQ(failsWith([](LoggedWnd& window) { window.refuseClass = true; }, plain.c_str()), Log{"post"});
+    EXPECT_EQ(failsWith([](LoggedWnd&) {}, "no such class at all"), Log{"post"});
+    // Systems differ in whether such a window gets a WM_DESTROY before the last message.
+    const auto withoutDestroy = [](Log steps) {
+        steps.erase(std::remove(steps.begin(), steps.end(), "destroy"), steps.end());
+        return steps;
+    };
+    EXPECT_EQ(withoutDestroy(failsWith([](LoggedWnd& window) { window.createAnswer = -1; }, plain.c_str())),
+              (Log{"subclass", "nccreate", "create", "ncdestroy", "post"}));
+    EXPECT_EQ(
+        withoutDestroy(failsWith([](LoggedWnd& window) { window.ncCreateAnswer = FALSE; }, plain.c_str())),
+        (Log{"subclass", "nccreate", "ncdestroy", "post"}));
+
+    // After all that, the next window of somebody else's is not taken for one of ours.
+    const HWND foreign =
+        ::CreateWindow("STATIC", "", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_NE(foreign, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
+    ::DestroyWindow(foreign);
+}
+
+TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
+    const auto foreign = [] {
+        return ::CreateWindow("STATIC", "", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    };
+    const HWND given = foreign();
+    {
+        CWnd window;
+        EXPECT_FALSE(window.Attach(nullptr));
+        ASSERT_TRUE(window.Attach(given));
+        EXPECT_EQ(CWnd::FromHandle(given), &window);
+        EXPECT_EQ(window.Detach(), given);
+        EXPECT_EQ(window.m_hWnd, nullptr);
+        EXPECT_EQ(window.Detach(), nullptr);
+    }
+    EXPECT_TRUE(::IsWindow(given));
+    {
+        CWnd window;
+        window.Attach(given);
+        EXPECT_TRUE(window.DestroyWindow());
+        EXPECT_EQ(window.m_hWnd, nullptr);
+    }
+    EXPECT_FALSE(::IsWindow(given));
+    const HWND kept = foreign();
+    {
+        CWnd window;
+        window.Attach(kept);
+    }
+    EXPECT_FALSE(::IsWindow(kept));
+    EXPECT_EQ(CWnd::FromHandlePermanent(kept), nullptr);
+}
+
+TEST_F(LifetimeTest, AttachingDoesNotRouteMessages) {
+    const HWND foreign =
+        ::CreateWindow("STATIC", "", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    LoggedWnd window(log);
+    window.Attach(foreign);
+    window.SendMessage(dieMessage);
+    EXPECT_TRUE(::IsWindow(foreign));
+    EXPECT_TRUE(log.empty());
+    window.DestroyWindow();
+}
+
+TEST_F(LifetimeTest, TheMainWindowEndsTheMessageLoop) {
+    windowkit::ScopedApp app;
+    LoggedWnd main(log);
+    ASSERT_TRUE(CreateTop(main));
+    app.m_pMainWnd = &main;
+    EXPECT_EQ(AfxGetMainWnd(), &main);
+    main.DestroyWindow();
+    EXPECT_EQ(app.m_pMainWnd, nullptr);
+    EXPECT_EQ(AfxGetMainWnd(), nullptr);
+    EXPECT_TRUE(windowkit::TakeQuit());
+
+    LoggedWnd other(log);
+    ASSERT_TRUE(CreateTop(other));
+    other.DestroyWindow();
+    EXPECT_FALSE(windowkit::TakeQuit());
+}
+
+TEST_F(LifetimeTest, AFrameDeletesItselfAlsoWhenItsCreationFails) {
+    class Frame : public CFrameWnd {
+    public:
+        Frame(Log& log, bool fails) : m_log(log), m_fails(fails) {}
+        ~Frame() override { m_log.push_back("deleted"); }
+        BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext*) override { return !m_fails; }
+
+    private:
+        Log& m_log;
+        bool m_fails;
+    };
+    auto* frame = new Frame(log, false);
+    ASSERT_TRUE(frame->Create(nullptr, "frame"));
+    EXPECT_TRUE(log.empty());
+    frame->SendMessage(WM_CLOSE);
+    EXPECT_EQ(log, Log{"deleted"});
+    log.clear();
+    frame = new Frame(log, true);
+    EXPECT_FALSE(frame->Create(nullptr, "frame"));
+    EXPECT_EQ(log, Log{"deleted"});
+    log.clear();
+    frame = new Frame(log, false);
+    EXPECT_FALSE(
+        frame->Create(nullptr, "frame", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
+    EXPECT_EQ(log, Log{"deleted"});
+}

@@ -1,0 +1,165 @@
+#include "tests/mfc/window/WindowKit.h"
+#include "tests/mfc/window/window_ids.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace {
+
+constexpr UINT kavlixString =
+    5504; // in the block of IDS_IN_KAVLIX_BLOCK, of which the program has another part
+constexpr UINT nobodysString = 5488;
+
+std::string Loaded(UINT id) {
+    char text[256] = "rubbish";
+    const int length = AfxLoadString(id, text);
+    EXPECT_EQ(length, static_cast<int>(std::strlen(text)));
+    return text;
+}
+
+/// Kavlix.dll as an extension DLL of this program.
+class ModuleTest : public testing::Test {
+protected:
+    void SetUp() override {
+        kavlix = AfxLoadLibrary("Kavlix.dll");
+        ASSERT_NE(kavlix, nullptr);
+    }
+    void TearDown() override {
+        AfxSetResourceHandle(program);
+        if (kavlix != nullptr)
+            AfxFreeLibrary(kavlix);
+    }
+
+    HINSTANCE program = ::GetModuleHandle(nullptr);
+    HINSTANCE kavlix = nullptr;
+};
+
+} // namespace
+
+TEST_F(ModuleTest, StringsAreFoundInTheModuleThatHoldsThem) {
+    EXPECT_EQ(AfxFindStringResourceHandle(IDS_TEMPLATE), program);
+    EXPECT_EQ(AfxFindStringResourceHandle(kavlixString), kavlix);
+    EXPECT_EQ(AfxFindStringResourceHandle(IDS_IN_KAVLIX_BLOCK), program);
+    EXPECT_EQ(AfxFindStringResourceHandle(nobodysString), nullptr);
+    EXPECT_NE(Loaded(kavlixString), "");
+    EXPECT_EQ(Loaded(IDS_IN_KAVLIX_BLOCK), "the program's own");
+    EXPECT_EQ(Loaded(nobodysString), "");
+
+    CString text;
+    EXPECT_TRUE(text.LoadString(kavlixString));
+    EXPECT_STREQ(text, Loaded(kavlixString).c_str());
+    EXPECT_FALSE(text.LoadString(nobodysString));
+}
+
+TEST_F(ModuleTest, TheResourceModuleComesFirst) {
+    const std::string ofKavlix = Loaded(kavlixString);
+    AfxSetResourceHandle(kavlix);
+    EXPECT_EQ(AfxGetResourceHandle(), kavlix);
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION), kavlix);
+    EXPECT_EQ(Loaded(kavlixString), ofKavlix);
+    EXPECT_EQ(Loaded(IDS_IN_KAVLIX_BLOCK), "the program's own") << "and the program second";
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDR_FRAME), RT_MENU), program);
+    EXPECT_EQ(AfxFindResourceHandle("nowhere", RT_MENU), kavlix) << "the resource module answers for nobody";
+}
+
+TEST_F(ModuleTest, LinksAreSearchedLastFirstAndSystemOnesAtTheEnd) {
+    // Any module will do as a link: these hold no string of their own here but tell them apart by a version
+    // resource.
+    const auto versionOwner = [] { return AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION); };
+    const HINSTANCE user = ::GetModuleHandle("user32.dll");
+    const HINSTANCE gdi = ::GetModuleHandle("gdi32.dll");
+    ASSERT_EQ(versionOwner(), kavlix) << "the test program has none of its own";
+    auto* const first = new CDynLinkLibrary(user, user);
+    EXPECT_EQ(versionOwner(), user);
+    auto* const second = new CDynLinkLibrary(gdi, gdi);
+    EXPECT_EQ(versionOwner(), gdi);
+    second->m_bSystem = TRUE;
+    EXPECT_EQ(versionOwner(), user);
+    delete first;
+    EXPECT_EQ(versionOwner(), kavlix);
+    delete second;
+}
+
+TEST_F(ModuleTest, AnExtensionModulesLinksAndClassesEndWithIt) {
+    AFX_EXTENSION_MODULE module{};
+    const HINSTANCE dll = ::GetModuleHandle("gdi32.dll");
+    ASSERT_TRUE(AfxInitExtensionModule(module, dll));
+    EXPECT_TRUE(module.bInitialized);
+    EXPECT_EQ(module.hModule, dll);
+    EXPECT_EQ(module.hResource, dll);
+    new CDynLinkLibrary(module);
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION), dll);
+
+    WNDCLASS ofDll{};
+    ofDll.lpfnWndProc = ::DefWindowProc;
+    ofDll.hInstance = dll;
+    ofDll.lpszClassName = "ModuleTestOfDll";
+    EXPECT_TRUE(AfxRegisterClass(&ofDll));
+    EXPECT_TRUE(AfxRegisterClass(&ofDll)) << "once more changes nothing";
+    WNDCLASS ofProgram = ofDll;
+    ofProgram.hInstance = program;
+    ofProgram.lpszClassName = "ModuleTestOfProgram";
+    EXPECT_TRUE(AfxRegisterClass(&ofProgram));
+
+    AfxTermExtensionModule(module);
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION), kavlix);
+    WNDCLASS found{};
+    EXPECT_FALSE(::GetClassInfo(dll, "ModuleTestOfDll", &found));
+    EXPECT_TRUE(::GetClassInfo(program, "ModuleTestOfProgram", &found));
+    AfxTermExtensionModule(module); // ending twice ends nothing
+    EXPECT_EQ(AfxFindStringResourceHandle(kavlixString), kavlix);
+    ::UnregisterClass("ModuleTestOfProgram", program);
+}
+
+TEST_F(ModuleTest, AManagedStateLendsItsResourcesForAScope) {
+    EXPECT_EQ(AfxGetStaticModuleState(), AfxGetModuleState());
+    {
+        AFX_MANAGE_STATE(AfxStateOfModule(kavlix));
+        EXPECT_EQ(AfxGetInstanceHandle(), kavlix);
+        EXPECT_EQ(AfxGetResourceHandle(), kavlix);
+        EXPECT_NE(AfxGetApp(), nullptr);
+        EXPECT_EQ(Loaded(IDS_IN_KAVLIX_BLOCK), "the program's own");
+    }
+    EXPECT_EQ(AfxGetInstanceHandle(), program);
+    EXPECT_EQ(AfxGetModuleState()->m_hCurrentInstanceHandle, program);
+}
+
+TEST_F(ModuleTest, WindowClassNamesTellTheirProperties) {
+    const auto hex = [](const void* handle) {
+        CString text;
+        text.Format("%I64x", static_cast<unsigned long long>(reinterpret_cast<UINT_PTR>(handle)));
+        return std::string(text);
+    };
+    const std::string instance = hex(program);
+    EXPECT_EQ(std::string(AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW)), "Afx:" + instance + ":3");
+    const HCURSOR cursor = ::LoadCursor(nullptr, IDC_CROSS);
+    const auto brush = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
+    const std::string name = AfxRegisterWndClass(CS_DBLCLKS, cursor, brush);
+    EXPECT_EQ(name, "Afx:" + instance + ":8:" + hex(cursor) + ":6:0");
+    EXPECT_EQ(std::string(AfxRegisterWndClass(CS_DBLCLKS, cursor, brush)), name);
+    WNDCLASS found{};
+    ASSERT_TRUE(::GetClassInfo(program, name.c_str(), &found));
+    EXPECT_EQ(found.hCursor, cursor);
+    EXPECT_EQ(found.hbrBackground, brush);
+    EXPECT_EQ(found.style, static_cast<UINT>(CS_DBLCLKS));
+}
+
+TEST_F(ModuleTest, TextsAreCutAndFilledIn) {
+    char small[5] = "";
+    EXPECT_EQ(AfxLoadString(IDS_IN_KAVLIX_BLOCK, small, sizeof(small)), 4);
+    EXPECT_STREQ(small, "the ");
+    char guard[2] = {'x', 'y'};
+    EXPECT_EQ(AfxLoadString(IDS_IN_KAVLIX_BLOCK, guard, 1), 0);
+    EXPECT_EQ(guard[0], '\0');
+    EXPECT_EQ(guard[1], 'y');
+
+    CString text;
+    AfxFormatString2(text, IDS_TEMPLATE, "first", "second");
+    EXPECT_STREQ(text, "first of second (first), %%");
+    AfxFormatString1(text, IDS_TEMPLATE, "%2");
+    EXPECT_STREQ(text, "%2 of  (%2), %%") << "inserted text is not looked through again";
+
+    EXPECT_EQ(Loaded(AFX_IDP_PARSE_INT), "Enter an integer.") << "the library's own";
+    EXPECT_EQ(Loaded(AFX_IDP_PARSE_BYTE), "the program's wording") << "goes first";
+}

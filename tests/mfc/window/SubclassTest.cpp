@@ -1,0 +1,181 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+using windowkit::CreateTop;
+using windowkit::MapCounts;
+
+namespace {
+
+constexpr UINT plainMessage = WM_USER + 10;
+
+struct Received {
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+};
+
+std::vector<Received> g_original; // what the window's own procedure got
+
+LRESULT CALLBACK OriginalProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == plainMessage || message == WM_SIZE || message == WM_NCDESTROY) {
+        g_original.push_back({message, wParam, lParam});
+        if (message == plainMessage)
+            return 11;
+    }
+    return ::DefWindowProc(window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK OuterProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+WNDPROC g_belowOuter = nullptr;
+
+LRESULT CALLBACK OuterProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return ::CallWindowProc(g_belowOuter, window, message, wParam, lParam);
+}
+
+class SubclassedWnd : public CWnd {
+public:
+    int handled = 0;
+    int presubclassed = 0;
+    MSG seen{};
+    WNDPROC Former() { return *GetSuperWndProcAddr(); }
+
+    void PreSubclassWindow() override {
+        ++presubclassed;
+        EXPECT_NE(m_hWnd, nullptr);
+        EXPECT_EQ(reinterpret_cast<WNDPROC>(::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC)), &OriginalProc);
+    }
+
+protected:
+    LRESULT OnPlain(WPARAM, LPARAM) {
+        ++handled;
+        seen = *GetCurrentMessage();
+        return Default() + 100;
+    }
+    void OnSize(UINT type, int, int) {
+        ++handled;
+        CWnd::OnSize(type + 1, -5, -6); // what is passed on here does not count
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(SubclassedWnd, CWnd)
+    ON_MESSAGE(plainMessage, &SubclassedWnd::OnPlain)
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+class SubclassTest : public testing::Test {
+protected:
+    void SetUp() override {
+        WNDCLASS windowClass{};
+        windowClass.lpfnWndProc = OriginalProc;
+        windowClass.hInstance = AfxGetInstanceHandle();
+        windowClass.lpszClassName = "SubclassTestWindow";
+        ASSERT_TRUE(AfxRegisterClass(&windowClass));
+        ASSERT_TRUE(CreateTop(parent));
+        target = ::CreateWindow("SubclassTestWindow", "", WS_CHILD, 0, 0, 10, 10, parent.m_hWnd,
+                                reinterpret_cast<HMENU>(9), windowClass.hInstance, nullptr);
+        ASSERT_NE(target, nullptr);
+        g_original.clear();
+    }
+    WNDPROC Procedure() const { return reinterpret_cast<WNDPROC>(::GetWindowLongPtr(target, GWLP_WNDPROC)); }
+
+    CWnd parent;
+    HWND target = nullptr;
+};
+
+} // namespace
+
+TEST_F(SubclassTest, HandlersComeFirstAndDefaultGoesToTheFormerProcedureWithTheOriginalParameters) {
+    SubclassedWnd window;
+    ASSERT_TRUE(window.SubclassDlgItem(9, &parent));
+    EXPECT_EQ(window.m_hWnd, target);
+    EXPECT_EQ(window.presubclassed, 1);
+    EXPECT_EQ(Procedure(), &AfxWndProc);
+    EXPECT_EQ(window.Former(), &OriginalProc);
+
+    EXPECT_EQ(::SendMessage(target, plainMessage, 3, 4), 111);
+    ASSERT_EQ(g_original.size(), 1u);
+    EXPECT_EQ(g_original[0].wParam, 3u);
+    EXPECT_EQ(g_original[0].lParam, 4);
+    EXPECT_EQ(window.seen.hwnd, target);
+    EXPECT_EQ(window.seen.message, plainMessage);
+    EXPECT_EQ(window.seen.wParam, 3u);
+    EXPECT_EQ(window.seen.lParam, 4);
+
+    g_original.clear();
+    ::SendMessage(target, WM_SIZE, SIZE_RESTORED, MAKELPARAM(70, 80));
+    ASSERT_EQ(g_original.size(), 1u);
+    EXPECT_EQ(g_original[0].wParam, static_cast<WPARAM>(SIZE_RESTORED));
+    EXPECT_EQ(g_original[0].lParam, MAKELPARAM(70, 80));
+}
+
+TEST_F(SubclassTest, UnsubclassingPutsEverythingBack) {
+    const MapCounts before = MapCounts::Now();
+    SubclassedWnd window;
+    ASSERT_TRUE(window.SubclassWindow(target));
+    EXPECT_EQ(window.UnsubclassWindow(), target);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(window.Former(), nullptr);
+    EXPECT_EQ(Procedure(), &OriginalProc);
+    EXPECT_EQ(MapCounts::Now().permanent, before.permanent);
+    EXPECT_EQ(::SendMessage(target, plainMessage, 0, 0), 11);
+    EXPECT_EQ(window.handled, 0);
+    ASSERT_TRUE(window.SubclassWindow(target)) << "and it can be done again";
+    EXPECT_EQ(::SendMessage(target, plainMessage, 0, 0), 111);
+    window.UnsubclassWindow();
+}
+
+TEST_F(SubclassTest, OneWindowHasOneObject) {
+    SubclassedWnd first;
+    SubclassedWnd second;
+    ASSERT_TRUE(first.SubclassWindow(target));
+    EXPECT_FALSE(second.SubclassWindow(target));
+    EXPECT_EQ(second.m_hWnd, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(target), &first);
+    EXPECT_FALSE(first.SubclassWindow(parent.m_hWnd)) << "nor can an object have two";
+    EXPECT_EQ(first.m_hWnd, target);
+}
+
+TEST_F(SubclassTest, SubclassingWhatIsNoWindowFails) {
+    const MapCounts before = MapCounts::Now();
+    class Plain : public CWnd {
+    } window;
+    EXPECT_FALSE(window.SubclassWindow(nullptr));
+    EXPECT_FALSE(window.SubclassDlgItem(12345, &parent));
+    const HWND gone = target;
+    ::DestroyWindow(target);
+    EXPECT_FALSE(window.SubclassWindow(gone));
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(MapCounts::Now().permanent, before.permanent);
+}
+
+TEST_F(SubclassTest, TheFormerProcedureSeesTheWindowGo) {
+    SubclassedWnd window;
+    ASSERT_TRUE(window.SubclassWindow(target));
+    ::DestroyWindow(target);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    ASSERT_FALSE(g_original.empty());
+    EXPECT_EQ(g_original.back().message, static_cast<UINT>(WM_NCDESTROY));
+    EXPECT_EQ(window.Former(), nullptr) << "the object is as new";
+}
+
+TEST_F(SubclassTest, ASubclasserOnTopKeepsItsPlaceUntilTheEnd) {
+    SubclassedWnd window;
+    ASSERT_TRUE(window.SubclassWindow(target));
+    g_belowOuter = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(target, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&OuterProc)));
+    EXPECT_EQ(g_belowOuter, &AfxWndProc);
+    EXPECT_EQ(::SendMessage(target, plainMessage, 0, 0), 111);
+    ::DestroyWindow(target);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(g_original.back().message, static_cast<UINT>(WM_NCDESTROY));
+}
+
+TEST_F(SubclassTest, DeletingTheObjectOfASubclassedWindowDestroysTheWindow) {
+    {
+        SubclassedWnd window;
+        ASSERT_TRUE(window.SubclassWindow(target));
+    }
+    EXPECT_FALSE(::IsWindow(target));
+}

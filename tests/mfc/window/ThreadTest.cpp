@@ -1,0 +1,224 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+
+#include <afxpriv.h>
+
+using windowkit::CreateTop;
+
+namespace {
+
+constexpr UINT workMessage = WM_APP + 1;
+constexpr UINT endMessage = WM_APP + 2;
+
+class LoopApp : public windowkit::ScopedApp {
+public:
+    std::vector<LONG> idle;
+    std::vector<WPARAM> threadMessages;
+    std::vector<UINT> postWhenIdle; ///< posted one at a time, each when idle work is done
+
+    BOOL OnIdle(LONG count) override {
+        idle.push_back(count);
+        const BOOL more = ScopedApp::OnIdle(count);
+        if (!more && !postWhenIdle.empty()) {
+            PostThreadMessage(postWhenIdle.front(), 23, 0);
+            postWhenIdle.erase(postWhenIdle.begin());
+        }
+        return more;
+    }
+
+protected:
+    void OnWork(WPARAM wParam, LPARAM) { threadMessages.push_back(wParam); }
+    void OnEnd(WPARAM wParam, LPARAM) { AfxPostQuitMessage(static_cast<int>(wParam)); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(LoopApp, CWinApp)
+    ON_THREAD_MESSAGE(workMessage, &LoopApp::OnWork)
+    ON_THREAD_MESSAGE(endMessage, &LoopApp::OnEnd)
+END_MESSAGE_MAP()
+
+/// Counts the idle requests that reach it, and ends modal loops when told.
+class LoopWnd : public CWnd {
+public:
+    int endsWhenIdleWith = 0; ///< not 0: ends the modal loop at the second idle moment in a row
+    std::vector<std::string> log;
+
+protected:
+    LRESULT OnIdleUpdate(WPARAM, LPARAM) {
+        log.push_back("update");
+        return 0;
+    }
+    LRESULT OnKickIdle(WPARAM, LPARAM count) {
+        log.push_back("kick " + std::to_string(count));
+        if (count >= 1 && endsWhenIdleWith != 0)
+            EndModalLoop(endsWhenIdleWith);
+        return count < 1;
+    }
+    void OnEnterIdle(UINT why, CWnd* who) {
+        log.push_back("enter idle " + std::to_string(why) + (who != nullptr ? "" : " nobody"));
+    }
+    LRESULT OnVanish(WPARAM, LPARAM) {
+        DestroyWindow();
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+constexpr UINT vanishMessage = WM_USER + 2;
+
+BEGIN_MESSAGE_MAP(LoopWnd, CWnd)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &LoopWnd::OnIdleUpdate)
+    ON_MESSAGE(WM_KICKIDLE, &LoopWnd::OnKickIdle)
+    ON_WM_ENTERIDLE()
+    ON_MESSAGE(vanishMessage, &LoopWnd::OnVanish)
+END_MESSAGE_MAP()
+
+class ThreadTest : public testing::Test {
+protected:
+    void SetUp() override { windowkit::TakeQuit(); }
+    LoopApp app;
+};
+
+} // namespace
+
+TEST_F(ThreadTest, TheLoopRunsUntilQuitAndAnswersItsStatus) {
+    LoopWnd main;
+    ASSERT_TRUE(CreateTop(main));
+    app.m_pMainWnd = &main;
+    // The last message is posted only if the loop finds idle time again after the messages before.
+    app.postWhenIdle = {workMessage, workMessage, endMessage};
+    struct Watchdog {
+        static void CALLBACK Bite(HWND, UINT, UINT_PTR, DWORD) { AfxPostQuitMessage(99); }
+        const UINT_PTR timer = ::SetTimer(nullptr, 0, 10000, Bite);
+        ~Watchdog() { ::KillTimer(nullptr, timer); }
+    } const watchdog;
+    EXPECT_EQ(app.Run(), 23);
+    EXPECT_EQ(app.threadMessages, (std::vector<WPARAM>{23, 23}));
+    EXPECT_GE(std::count(app.idle.begin(), app.idle.end(), 0), 3);
+    app.m_pMainWnd = nullptr;
+}
+
+TEST_F(ThreadTest, IdleTimeComesInCountsAndUpdatesVisibleWindows) {
+    LoopWnd main;
+    LoopWnd child;
+    ASSERT_TRUE(CreateTop(main));
+    ASSERT_TRUE(windowkit::CreateChild(child, main, 3));
+    app.m_pMainWnd = &main;
+    for (LONG count = 0; app.OnIdle(count); ++count) {
+    }
+    EXPECT_EQ(app.idle, (std::vector<LONG>{0, 1}));
+    EXPECT_TRUE(main.log.empty()) << "hidden";
+    main.ShowWindow(SW_SHOWNA);
+    app.OnIdle(0);
+    app.OnIdle(1);
+    EXPECT_EQ(main.log, std::vector<std::string>{"update"});
+    EXPECT_EQ(child.log, std::vector<std::string>{"update"});
+    app.m_pMainWnd = nullptr;
+}
+
+TEST_F(ThreadTest, SomeMessagesAreNoReasonForIdleWork) {
+    MSG message{};
+    message.message = WM_PAINT;
+    EXPECT_FALSE(app.IsIdleMessage(&message));
+    message.message = WM_KEYDOWN;
+    EXPECT_TRUE(app.IsIdleMessage(&message));
+    message.message = WM_MOUSEMOVE;
+    message.pt = {10, 20};
+    EXPECT_TRUE(app.IsIdleMessage(&message));
+    EXPECT_FALSE(app.IsIdleMessage(&message)) << "the mouse has not moved";
+    message.pt = {11, 20};
+    EXPECT_TRUE(app.IsIdleMessage(&message));
+}
+
+TEST_F(ThreadTest, AModalLoopEndsWithTheResultItIsGiven) {
+    LoopWnd owner;
+    LoopWnd modal;
+    ASSERT_TRUE(CreateTop(owner));
+    ASSERT_TRUE(modal.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, owner.m_hWnd, nullptr));
+    modal.endsWhenIdleWith = 77;
+    EXPECT_EQ(modal.RunModalLoop(MLF_SHOWONIDLE), 77);
+    EXPECT_TRUE(modal.IsWindowVisible());
+    ASSERT_GE(modal.log.size(), 2u);
+    EXPECT_EQ(modal.log.front(), "kick 0");
+    EXPECT_EQ(modal.log.back(), "kick 1");
+    ASSERT_FALSE(owner.log.empty());
+    EXPECT_EQ(owner.log[0], "enter idle " + std::to_string(MSGF_DIALOGBOX));
+    EXPECT_FALSE(modal.ContinueModal());
+}
+
+TEST_F(ThreadTest, AModalLoopDoesNotOutliveItsWindowOrTheProgram) {
+    LoopWnd modal;
+    ASSERT_TRUE(CreateTop(modal));
+    modal.PostMessage(vanishMessage);
+    EXPECT_EQ(modal.RunModalLoop(MLF_NOIDLEMSG | MLF_NOKICKIDLE), -1);
+    EXPECT_EQ(modal.m_hWnd, nullptr);
+    EXPECT_TRUE(modal.log.empty());
+
+    ASSERT_TRUE(CreateTop(modal));
+    AfxPostQuitMessage(9);
+    EXPECT_EQ(modal.RunModalLoop(), -1);
+    int status = 0;
+    EXPECT_TRUE(windowkit::TakeQuit(&status)) << "the loop around must end too";
+    EXPECT_EQ(status, 9);
+}
+
+namespace {
+
+/// A thread with a window and a message loop of its own.
+class UiThread : public CWinThread {
+    DECLARE_DYNCREATE(UiThread)
+
+public:
+    static std::atomic<int> s_steps;
+
+    BOOL InitInstance() override {
+        s_steps += AfxGetThread() == this ? 1 : 1000;
+        return windowkit::CreateTop(m_window);
+    }
+    int ExitInstance() override {
+        s_steps += 10;
+        m_window.DestroyWindow();
+        return 5;
+    }
+
+protected:
+    void OnWork(WPARAM wParam, LPARAM) { s_steps += static_cast<int>(wParam); }
+    void OnEnd(WPARAM, LPARAM) { AfxPostQuitMessage(0); }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CWnd m_window;
+};
+
+std::atomic<int> UiThread::s_steps{0};
+IMPLEMENT_DYNCREATE(UiThread, CWinThread)
+
+BEGIN_MESSAGE_MAP(UiThread, CWinThread)
+    ON_THREAD_MESSAGE(workMessage, &UiThread::OnWork)
+    ON_THREAD_MESSAGE(endMessage, &UiThread::OnEnd)
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST_F(ThreadTest, AThreadOfItsOwnRunsFromInitToExit) {
+    CWinThread* const thread =
+        AfxBeginThread(RUNTIME_CLASS(UiThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    ASSERT_NE(thread, nullptr);
+    thread->m_bAutoDelete = FALSE;
+    thread->ResumeThread();
+    const DWORD start = ::GetTickCount();
+    while (!thread->PostThreadMessage(workMessage, 100, 0) && ::GetTickCount() - start < 10000)
+        ::Sleep(1); // the thread has no queue yet
+    thread->PostThreadMessage(endMessage, 0, 0);
+    ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, 10000), WAIT_OBJECT_0);
+    DWORD status = 0;
+    ::GetExitCodeThread(thread->m_hThread, &status);
+    EXPECT_EQ(status, 5u);
+    EXPECT_EQ(UiThread::s_steps, 111);
+    delete thread;
+    EXPECT_EQ(AfxGetThread(), &app);
+}

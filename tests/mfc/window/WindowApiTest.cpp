@@ -1,0 +1,161 @@
+#include "tests/mfc/window/WindowKit.h"
+
+#include <gtest/gtest.h>
+
+using windowkit::CreateChild;
+using windowkit::CreateTop;
+
+namespace {
+
+class ApiWnd : public CWnd {
+public:
+    CScrollBar* bar = nullptr; ///< stands in the place of the window's own horizontal bar
+    int changes = 0;
+    CScrollBar* GetScrollBarCtrl(int which) const override { return which == SB_HORZ ? bar : nullptr; }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override {
+        CString text = "set by the exchange";
+        DDX_Text(pDX, 4, text);
+    }
+    void OnChange() { ++changes; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ApiWnd, CWnd)
+    ON_EN_CHANGE(4, &ApiWnd::OnChange)
+END_MESSAGE_MAP()
+
+class WindowApiTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(CreateTop(window)); }
+    static CRect RectOf(const CWnd& of) {
+        CRect rect;
+        of.GetWindowRect(&rect);
+        return rect;
+    }
+    ApiWnd window;
+};
+
+} // namespace
+
+TEST_F(WindowApiTest, CenteringKeepsTheWindowInsideItsArea) {
+    CWnd child;
+    ASSERT_TRUE(CreateChild(child, window, 1));
+    child.CenterWindow();
+    CRect rect = RectOf(child);
+    window.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(CPoint(75, 40), CSize(50, 20))) << "50 x 20 in 200 x 100";
+    child.SetWindowPos(nullptr, 0, 0, 300, 20, SWP_NOZORDER);
+    child.CenterWindow();
+    rect = RectOf(child);
+    window.ScreenToClient(&rect);
+    EXPECT_EQ(rect.left, 0) << "too wide: the left edge stays in sight";
+
+    window.CenterWindow();
+    CRect work;
+    ASSERT_TRUE(::SystemParametersInfo(SPI_GETWORKAREA, 0, &work, 0));
+    EXPECT_NEAR(RectOf(window).CenterPoint().x, work.CenterPoint().x, 1);
+    EXPECT_NEAR(RectOf(window).CenterPoint().y, work.CenterPoint().y, 1);
+}
+
+TEST_F(WindowApiTest, AScrollBarControlStandsInForTheWindowsBar) {
+    CScrollBar bar;
+    ASSERT_TRUE(bar.Create(WS_CHILD | SBS_HORZ, CRect(0, 0, 100, 16), &window, 3));
+    window.bar = &bar;
+    window.SetScrollRange(SB_HORZ, 10, 90, FALSE);
+    window.SetScrollPos(SB_HORZ, 40, FALSE);
+    EXPECT_EQ(::GetScrollPos(bar.m_hWnd, SB_CTL), 40);
+    EXPECT_EQ(window.GetScrollPos(SB_HORZ), 40);
+    SCROLLINFO info{};
+    info.fMask = SIF_PAGE;
+    info.nPage = 21;
+    EXPECT_TRUE(window.SetScrollInfo(SB_HORZ, &info, FALSE));
+    EXPECT_EQ(window.GetScrollLimit(SB_HORZ), 70);
+    SCROLLINFO read{};
+    EXPECT_TRUE(window.GetScrollInfo(SB_HORZ, &read));
+    EXPECT_EQ(read.nMin, 10);
+    EXPECT_EQ(read.nMax, 90);
+    EXPECT_EQ(read.nPage, 21u);
+}
+
+TEST_F(WindowApiTest, ScrollingAHiddenWindowMovesItsChildren) {
+    CWnd child;
+    ASSERT_TRUE(CreateChild(child, window, 1));
+    ASSERT_FALSE(window.IsWindowVisible());
+    const CPoint before = RectOf(child).TopLeft();
+    window.ScrollWindow(-5, 7);
+    EXPECT_EQ(RectOf(child).TopLeft(), before + CSize(-5, 7));
+}
+
+TEST_F(WindowApiTest, TextsOfAnyLengthComeBackWhole) {
+    const std::string longText(30000, 'q');
+    CWnd item;
+    ASSERT_TRUE(CreateChild(item, window, 5));
+    window.SetDlgItemText(5, longText.c_str());
+    CString text = "former";
+    EXPECT_EQ(window.GetDlgItemText(5, text), static_cast<int>(longText.size()));
+    EXPECT_EQ(std::string(text), longText);
+    window.GetDlgItem(5)->GetWindowText(text);
+    EXPECT_EQ(text.GetLength(), static_cast<int>(longText.size()));
+    EXPECT_EQ(window.GetDlgItemText(999, text), 0);
+    EXPECT_TRUE(text.IsEmpty()) << "no such item";
+}
+
+TEST_F(WindowApiTest, AnExchangeIsNotTakenForTheUsersInput) {
+    const HWND edit = ::CreateWindow("EDIT", "", WS_CHILD, 0, 0, 50, 20, window.m_hWnd,
+                                     reinterpret_cast<HMENU>(4), nullptr, nullptr);
+    ASSERT_NE(edit, nullptr);
+    ASSERT_TRUE(window.UpdateData(FALSE));
+    CString text;
+    window.GetDlgItemText(4, text);
+    EXPECT_STREQ(text, "set by the exchange");
+    EXPECT_EQ(window.changes, 0);
+    window.SetDlgItemText(4, "set by hand");
+    EXPECT_EQ(window.changes, 1);
+}
+
+TEST_F(WindowApiTest, StylesAreChangedAndChangesTold) {
+    EXPECT_FALSE(window.ModifyStyle(WS_CAPTION, 0)) << "nothing to do";
+    EXPECT_TRUE(window.ModifyStyle(0, WS_BORDER, SWP_FRAMECHANGED));
+    CRect client;
+    window.GetClientRect(&client);
+    EXPECT_EQ(client.Size(), CSize(198, 98)) << "the frame was worked out anew";
+    EXPECT_TRUE(window.ModifyStyleEx(0, WS_EX_TOOLWINDOW));
+    EXPECT_NE(window.GetExStyle() & WS_EX_TOOLWINDOW, 0u);
+}
+
+TEST_F(WindowApiTest, OwnerDrawnMenusAndCommandsFindTheirOwner) {
+    class DrawnMenu : public CMenu {
+    public:
+        std::string log;
+        void MeasureItem(LPMEASUREITEMSTRUCT item) override {
+            log += "measure " + std::to_string(item->itemID);
+        }
+        void DrawItem(LPDRAWITEMSTRUCT item) override { log += " draw " + std::to_string(item->itemID); }
+    } menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    menu.AppendMenu(MF_OWNERDRAW, 61, "x");
+    window.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
+    MEASUREITEMSTRUCT measure{};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = 61;
+    window.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    measure.itemID = 62;
+    window.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_MENU;
+    draw.itemID = 61;
+    draw.hwndItem = reinterpret_cast<HWND>(menu.m_hMenu);
+    window.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
+    EXPECT_EQ(menu.log, "measure 61 draw 61");
+
+    CWnd other;
+    ASSERT_TRUE(CreateTop(other));
+    CWnd child;
+    ASSERT_TRUE(CreateChild(child, window, 1));
+    EXPECT_EQ(child.GetOwner(), &window);
+    child.SetOwner(&other);
+    EXPECT_EQ(child.GetOwner(), &other);
+    EXPECT_EQ(child.GetParent(), &window);
+}

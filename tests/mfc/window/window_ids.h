@@ -1,0 +1,17 @@
+#pragma once
+
+// Resource and command IDs of the window tests.
+#define IDR_FRAME 150
+#define IDS_TEMPLATE 160
+// In the same block of sixteen strings as some of Kavlix.dll's.
+#define IDS_IN_KAVLIX_BLOCK 5510
+
+#define ID_KNOWN 32771
+#define ID_NOBODYS 32772
+#define ID_BARRED 32773
+#define ID_TICKED 32774
+#define ID_RADIO 32775
+#define ID_RENAMED 32776
+#define ID_OF_APP 32777
+#define ID_PASSED_ON 32778
+#define ID_INHERITED 32779

@@ -1,0 +1,295 @@
+#include "monitor/recording/CheckReport.h"
+#include "monitor/recording/RecordingLoader.h"
+#include "tests/monitor/TempFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <map>
+#include <random>
+
+namespace kavlix::recording {
+namespace {
+
+std::vector<std::string> Names(const Recording& recording) {
+    std::vector<std::string> names;
+    for (const Series& series : recording.series) {
+        names.push_back(series.name);
+    }
+    return names;
+}
+
+/// Rows as text: `time value value ...`, with `-` for a gap.
+std::string Rows(const Recording& recording) {
+    std::string text;
+    for (std::size_t i = 0; i < recording.times.size(); ++i) {
+        text += std::to_string(recording.times[i] / kMicrosPerSecond);
+        for (const Series& series : recording.series) {
+            const double value = series.values[i];
+            text += std::isnan(value) ? " -" : ' ' + std::to_string(static_cast<int>(value));
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+TEST(Recording, FilesJoinOnTime) {
+    const TempFile first("first.csv", "t,a,b\n10,1,2\n20,3,\n30,5,6\n");
+    const TempFile second("second.csv", "t,c\n5,7\n20,8\n40,9\n");
+    const Recording recording = RecordingLoader::Load({first.Path(), second.Path()});
+    EXPECT_EQ(Names(recording), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(Rows(recording), "5 - - 7\n"
+                               "10 1 2 -\n"
+                               "20 3 - 8\n"
+                               "30 5 6 -\n"
+                               "40 - - 9\n");
+    EXPECT_EQ(recording.series[2].file, 1u);
+    EXPECT_EQ(recording.GetStatus(), Status::Fine);
+
+    const TempFile later("later.csv", "t,d\n10.000001,1\n");
+    EXPECT_EQ(RecordingLoader::Load({first.Path(), later.Path()}).times.size(), 4u) << "a microsecond apart";
+}
+
+TEST(Recording, RepeatedTimesPairByOccurrence) {
+    const TempFile first("first.csv", "t,a\n10,1\n10,2\n10,3\n20,4\n");
+    const TempFile second("second.csv", "t,b\n10,5\n10,6\n20,7\n");
+    EXPECT_EQ(Rows(RecordingLoader::Load({first.Path(), second.Path()})), "10 1 5\n"
+                                                                          "10 2 6\n"
+                                                                          "10 3 -\n"
+                                                                          "20 4 7\n");
+}
+
+// Against a model: a map from time and occurrence to the values.
+TEST(Recording, JoinEqualsAModel) {
+    std::mt19937 random(5);
+    for (int round = 0; round < 40; ++round) {
+        std::map<std::pair<int, int>, std::map<std::size_t, int>> model;
+        std::vector<std::unique_ptr<TempFile>> files;
+        std::vector<std::string> paths;
+        const std::size_t fileCount = 1 + random() % 4;
+        for (std::size_t file = 0; file < fileCount; ++file) {
+            std::string text = "t,s" + std::to_string(file) + '\n';
+            std::map<int, int> occurrences;
+            for (unsigned row = 1 + random() % 30; row > 0; --row) {
+                const int time = static_cast<int>(random() % 20); // also backwards
+                const int value = static_cast<int>(random() % 100);
+                text += std::to_string(time) + ',' + std::to_string(value) + '\n';
+                model[{time, occurrences[time]++}][file] = value;
+            }
+            files.push_back(std::make_unique<TempFile>("f" + std::to_string(file) + ".csv", text));
+            paths.push_back(files.back()->Path());
+        }
+        std::string expected;
+        for (const auto& [key, values] : model) {
+            expected += std::to_string(key.first);
+            for (std::size_t file = 0; file < fileCount; ++file) {
+                expected += values.count(file) == 0 ? " -" : ' ' + std::to_string(values.at(file));
+            }
+            expected += '\n';
+        }
+        ASSERT_EQ(Rows(RecordingLoader::Load(paths)), expected);
+    }
+}
+
+TEST(Recording, NamesAreDistinct) {
+    const TempFile first("pump.csv", "t,value\n10,1\n");
+    const TempFile second("fan.1.csv", "t,value,rpm\n10,1,2\n");
+    const TempFile third("rpm", "t,speed,speed,fan.1: value\n10,1,2,3\n");
+    const TempFile again("pump.csv", "t,value\n10,1\n");
+    const Recording recording =
+        RecordingLoader::Load({first.Path(), second.Path(), third.Path(), again.Path(), first.Path()});
+    EXPECT_EQ(Names(recording), (std::vector<std::string>{"pump", "fan.1: value", "rpm", "speed", "speed (2)",
+                                                          "fan.1: value (2)", "pump (2)", "pump (3)"}));
+    EXPECT_EQ(recording.files[2].series[1].name, "speed (2)");
+}
+
+TEST(Recording, ThirteenSeriesInAll) {
+    std::string header = "t";
+    std::string row = "10";
+    for (int i = 0; i < 8; ++i) {
+        header += ",s" + std::to_string(i);
+        row += ',' + std::to_string(i);
+    }
+    const TempFile first("first.csv", header + '\n' + row + '\n');
+    const TempFile second("second.csv", header + '\n' + row + '\n');
+    const TempFile third("third.csv", "t,a\n20,1\n");
+    const Recording two = RecordingLoader::Load({first.Path(), second.Path()});
+    EXPECT_EQ(two.series.size(), kMaxSeries);
+    EXPECT_EQ(two.files[1].log.CountOf(Complaint::SeriesLimit), 3u);
+    EXPECT_EQ(two.GetStatus(), Status::Fine) << "every row is shown";
+    const Recording three = RecordingLoader::Load({first.Path(), second.Path(), third.Path()});
+    EXPECT_EQ(three.series.size(), kMaxSeries);
+    EXPECT_EQ(three.times.size(), 1u);
+    EXPECT_TRUE(three.files[2].leftOut);
+    EXPECT_EQ(three.GetStatus(), Status::LeftOut);
+}
+
+TEST(Recording, StatusTellsWhatWasLeftOut) {
+    const TempFile good("good.csv", "t,a\n10,1\n");
+    const TempFile bad("bad.csv", "t,b\n10,1\n20,x\n");
+    const TempFile empty("empty.csv", "");
+    const TempFile gaps("gaps.csv", "t,c\n10,\n20,NaN\n");
+    const std::string missing = good.Path() + ".missing";
+    const std::string folder = std::filesystem::path(good.Path()).parent_path().string();
+    const std::pair<std::vector<std::string>, Status> cases[] = {
+        {{good.Path()}, Status::Fine},
+        {{good.Path(), gaps.Path()}, Status::Fine},
+        {{bad.Path()}, Status::LeftOut},
+        {{good.Path(), missing}, Status::LeftOut},
+        {{empty.Path(), good.Path()}, Status::LeftOut},
+        {{folder, good.Path()}, Status::LeftOut},
+        {{gaps.Path()}, Status::Nothing},
+        {{empty.Path()}, Status::Nothing},
+        {{missing}, Status::Nothing},
+        {{folder}, Status::Nothing},
+        {{}, Status::Nothing},
+    };
+    for (const auto& [paths, status] : cases) {
+        const Recording recording = RecordingLoader::Load(paths);
+        EXPECT_EQ(recording.GetStatus(), status) << CheckReport(recording);
+        for (const FileSummary& file : recording.files) {
+            EXPECT_EQ(file.leftOut, file.log.Total() > 0 && file.rows == 0) << CheckReport(recording);
+        }
+    }
+}
+
+TEST(RecordingLoader, SlicesDoNotMatterAndProgressRises) {
+    std::string text = "t,a\n";
+    for (int i = 0; i < 2000; ++i) {
+        text += std::to_string(i) + ',' + std::to_string(i % 7) + (i % 50 == 0 ? "x\n" : "\n");
+    }
+    const TempFile first("first.csv", text);
+    const TempFile second("second.csv", "t,b\n1,2\n");
+    const std::vector<std::string> paths = {first.Path(), first.Path() + ".missing", second.Path()};
+    const std::string whole = Rows(RecordingLoader::Load(paths));
+    for (const std::size_t budget : {std::size_t{0}, std::size_t{1}, std::size_t{777}, SIZE_MAX}) {
+        RecordingLoader loader(paths);
+        Progress before = loader.GetProgress();
+        EXPECT_EQ(before.Percent(), 0);
+        int steps = 0;
+        for (Progress now = before; !now.finished; ++steps) {
+            now = loader.Step(budget);
+            EXPECT_GE(now.bytesDone, before.bytesDone);
+            EXPECT_LE(now.bytesDone, now.bytesTotal);
+            EXPECT_GE(now.Percent(), before.Percent());
+            EXPECT_EQ(now.Percent() == 100, now.finished);
+            before = now;
+        }
+        EXPECT_EQ(before.bytesDone, text.size() + 8);
+        EXPECT_EQ(before.rows, 1961u);
+        if (budget == 777) {
+            EXPECT_NEAR(steps, static_cast<double>(text.size()) / 777, 4) << "a step keeps to its budget";
+        }
+        const Recording recording = loader.Take();
+        EXPECT_EQ(Rows(recording), whole);
+        EXPECT_EQ(recording.files[0].bytes, text.size());
+    }
+}
+
+TEST(RecordingLoader, AFileRefusedAtItsBeginningCountsAsDone) {
+    const TempFile refused("refused.csv", "t,a\x01\n" + std::string(3'000'000, 'x'));
+    const TempFile good("good.csv", "t,a\n10,1\n");
+    RecordingLoader loader({refused.Path(), good.Path()});
+    Progress progress;
+    while (progress.file == 0) {
+        progress = loader.Step(1000);
+    }
+    EXPECT_GE(progress.bytesDone, 3'000'000u);
+    EXPECT_EQ(loader.Take().files[0].bytes, 1000u) << "the rest of it is not read";
+}
+
+TEST(RecordingLoader, CancelKeepsWhatWasRead) {
+    std::string text = "t,a\n";
+    for (int i = 0; i < 5000; ++i) {
+        text += std::to_string(i) + ",1\n";
+    }
+    const TempFile first("first.csv", text);
+    const TempFile second("second.csv", "t,b\n1,2\n");
+    RecordingLoader loader({first.Path(), second.Path()});
+    loader.Step(1000);
+    loader.Cancel();
+    EXPECT_TRUE(loader.Step(1000).finished);
+    const Recording recording = loader.Take();
+    EXPECT_TRUE(recording.cancelled);
+    EXPECT_GT(recording.times.size(), 50u);
+    EXPECT_LT(recording.times.size(), 500u);
+    EXPECT_EQ(recording.series.size(), 1u);
+    EXPECT_TRUE(recording.files[1].leftOut);
+    EXPECT_EQ(recording.GetStatus(), Status::LeftOut);
+
+    RecordingLoader unbegun({first.Path()});
+    EXPECT_EQ(unbegun.Take().GetStatus(), Status::Nothing);
+}
+
+TEST(CheckReport, TellsAll) {
+    const TempFile first("first.csv", "t,a,b\n0,1,\n10,,\n20,2.5,5\n60,3,x\n70,x,x\n");
+    const TempFile empty("empty.csv", "");
+    const Recording recording = RecordingLoader::Load({first.Path(), empty.Path()});
+    const std::string a = first.Path();
+    const std::string cell = ": expected a number or nothing in column ";
+    const std::string end = ", found \"x\"; the cell is left out\n";
+    EXPECT_EQ(CheckReport(recording), a +
+                                          "\n"
+                                          "  rows: 4\n"
+                                          "  series \"a\": 3 samples, 1 to 3, 1 gap (1 value absent)\n"
+                                          "  series \"b\": 1 sample, 5 to 5, 2 gaps (3 values absent)\n"
+                                          "  time: 1970-01-01 00:00:00 to 1970-01-01 00:01:00, every 10 s\n"
+                                          "  time gaps: 1, the longest 40 s\n"
+                                          "  rows left out: 1\n"
+                                          "  wrong:\n"
+                                          "    " +
+                                          a + ":5:6" + cell + "3 (\"b\")" + end + "    " + a + ":6:4" + cell +
+                                          "2 (\"a\")" + end + "    " + a + ":6:6" + cell + "3 (\"b\")" + end +
+                                          empty.Path() +
+                                          "\n"
+                                          "  nothing of it is kept\n"
+                                          "  rows left out: 0\n"
+                                          "  wrong:\n"
+                                          "    " +
+                                          empty.Path() +
+                                          ":1:1: expected a header row, found the end of the file\n"
+                                          "in all: 4 time stamps, 2 series, 1970-01-01 00:00:00 to "
+                                          "1970-01-01 00:01:00; rows left out: 1\n");
+    EXPECT_EQ(StatusLine(recording), "4 rows, 2 series; 1 row left out; 4 messages");
+    EXPECT_NE(MessageReport(recording).find(":6:4"), std::string::npos);
+    EXPECT_NE(MessageReport(recording).find("rows left out: 1\n"), std::string::npos);
+    const TempFile zoned("zoned.csv", "t,a\n2013-12-02T21:15:00Z,1\n");
+    EXPECT_NE(CheckReport(RecordingLoader::Load({zoned.Path()})).find("21:15:00 (UTC)\n"), std::string::npos);
+    const TempFile good("good.csv", "t,a\n10,1\n");
+    EXPECT_EQ(MessageReport(RecordingLoader::Load({good.Path()})), "");
+    EXPECT_NE(CheckReport(RecordingLoader::Load({empty.Path()})).find("nothing can be shown\n"),
+              std::string::npos);
+}
+
+#ifdef KAVLIX_DATA_DIR
+TEST(RealRecordings, AreReadWhole) {
+    const std::filesystem::path folder = KAVLIX_DATA_DIR;
+    const std::string temperature = (folder / "machine_temperature_system_failure.csv").string();
+    if (!std::filesystem::exists(temperature)) {
+        GTEST_SKIP() << "no recordings in " << folder;
+    }
+    const Recording recording = RecordingLoader::Load({temperature});
+    EXPECT_EQ(recording.times.size(), 22'695u);
+    EXPECT_EQ(recording.files[0].series[0].values, 22'695u);
+    EXPECT_EQ(recording.files[0].series[0].min, 2.0847212059999998);
+    EXPECT_EQ(recording.files[0].series[0].max, 108.51054280000001);
+    EXPECT_EQ(FormatExact(recording.times.front()), "2013-12-02 21:15:00");
+    EXPECT_EQ(FormatExact(recording.times.back()), "2014-02-19 15:25:00");
+    EXPECT_TRUE(std::is_sorted(recording.times.begin(), recording.times.end()));
+    // An hour of it was recorded twice, the clock having been set back. Nothing is lost of that.
+    EXPECT_EQ(recording.files[0].log.CountOf(Complaint::TimeBackwards), 1u);
+    EXPECT_EQ(recording.files[0].log.Kept()[0].line, 10'151u);
+    EXPECT_EQ(recording.GetStatus(), Status::Fine);
+
+    const Recording joined = RecordingLoader::Load({(folder / "ec2_network_in_257a54.csv").string(),
+                                                    (folder / "elb_request_count_8c0756.csv").string()});
+    EXPECT_EQ(Names(joined), (std::vector<std::string>{"ec2_network_in_257a54", "elb_request_count_8c0756"}));
+    EXPECT_EQ(joined.GetStatus(), Status::Fine);
+    EXPECT_EQ(joined.files[1].timeGaps, 8u);
+}
+#endif
+
+} // namespace
+} // namespace kavlix::recording

@@ -1,0 +1,194 @@
+#include "monitor/recording/TimeText.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <random>
+
+namespace kavlix::recording {
+namespace {
+
+struct Case {
+    const char* text;
+    Time seconds;
+    Time micros;
+    bool zoned;
+};
+
+TEST(ParseTime, ReadsWhatRecordersWrite) {
+    const Case cases[] = {
+        {"1970-01-01 00:00:00", 0, 0, false},
+        {"2013-12-02 21:15:00", 1386018900, 0, false},
+        {"2013-12-02T21:15:00", 1386018900, 0, false},
+        {"2013-12-02 21:15", 1386018900, 0, false},
+        {"2013-12-02", 1385942400, 0, false},
+        {"  2013-12-02 21:15:00\t", 1386018900, 0, false},
+        {"2013-12-02T21:15:00Z", 1386018900, 0, true},
+        {"2013-12-02t21:15:00z", 1386018900, 0, true},
+        {"2013-12-02 21:15:00 Z", 1386018900, 0, true},
+        {"2013-12-02T21:15:00+01:00", 1386015300, 0, true},
+        {"2013-12-02T21:15:00-0530", 1386038700, 0, true},
+        {"2013-12-02T21:15+05", 1386000900, 0, true},
+        {"2013-12-02 21:15:00.5", 1386018900, 500'000, false},
+        {"2013-12-02 21:15:00,25", 1386018900, 250'000, false},
+        {"2013-12-02T21:15:00.123456789Z", 1386018900, 123'456, true},
+        {"2016-12-31 23:59:60", 1483228800, 0, false},
+        {"2000-02-29 00:00:00", 951782400, 0, false},
+        {"1969-12-31 23:59:59.75", -1, 750'000, false},
+        {"0001-01-01 00:00:00", -62'135'596'800, 0, false},
+        {"9999-12-31 23:59:59.999999", 253'402'300'799, 999'999, false},
+        {"1386018900", 1386018900, 0, false},
+        {"0", 0, 0, false},
+        {"-1", -1, 0, false},
+        {"-0.25", -1, 750'000, false},
+        {"1386018900.000001", 1386018900, 1, false},
+        {"1386018900.", 1386018900, 0, false},
+        {"+5", 5, 0, false},
+        {"1.3860189e9", 1386018900, 0, false},
+        {"253402300799", 253'402'300'799, 0, false},
+    };
+    for (const Case& one : cases) {
+        ParsedTime read;
+        ASSERT_TRUE(ParseTime(one.text, read)) << one.text;
+        EXPECT_EQ(read.time, one.seconds * kMicrosPerSecond + one.micros) << one.text;
+        EXPECT_EQ(read.zoned, one.zoned) << one.text;
+    }
+}
+
+TEST(ParseTime, RefusesAllElseAndLeavesTheResult) {
+    const char* const cases[] = {
+        "",
+        " ",
+        "x",
+        "NaN",
+        "inf",
+        "2013",
+        "2013-",
+        "2013-12",
+        "2013-12-",
+        "2013-1-02",
+        "13-12-02 00:00:00",
+        "2013-00-01 00:00:00",
+        "2013-13-01 00:00:00",
+        "2013-12-00 00:00:00",
+        "2013-12-32 00:00:00",
+        "2013-02-29 00:00:00",
+        "1900-02-29 00:00:00",
+        "2013-04-31 00:00:00",
+        "0000-01-01 00:00:00",
+        "2013-12-02 24:00:00",
+        "2013-12-02 23:60:00",
+        "2013-12-02 23:59:61",
+        "2013-12-02 1:00:00",
+        "2013-12-02 21",
+        "2013-12-02 21:",
+        "2013-12-02 21:15:",
+        "2013-12-02 21:15:0",
+        "2013-12-02 21:15:00.",
+        "2013-12-02  21:15:00",
+        "2013-12-02 21:15:00x",
+        "2013-12-02 21:15:00Zx",
+        "2013-12-02 21:15:00+1",
+        "2013-12-02 21:15:00+01:",
+        "2013-12-02 21:15:00+01:60",
+        "2013-12-02 21:15:00+24",
+        "2013-12-02Z",
+        "2013/12/02 21:15:00",
+        "02.12.2013 21:15:00",
+        "0001-01-01 00:00:00+00:01",
+        "9999-12-31 23:59:60",
+        "1e300",
+        "-1e300",
+        "253402300800",
+        "-62135596801",
+        "1386018900000",
+        "99999999999999999999999",
+        "1.2.3",
+        "--1",
+        "12abc",
+        "0x10",
+    };
+    for (const char* text : cases) {
+        ParsedTime read{42, true};
+        if (std::string(text) == "2013") {
+            continue; // seconds since 1970, as it happens
+        }
+        EXPECT_FALSE(ParseTime(text, read)) << text;
+        EXPECT_EQ(read.time, 42) << text;
+    }
+    ParsedTime read;
+    EXPECT_FALSE(ParseTime(std::string_view("2013-12-02\0 21:15:00", 20), read));
+}
+
+TEST(CivilTime, EveryDayOfTenThousandYearsFollowsTheOneBefore) {
+    CivilTime civil;
+    civil.year = 1;
+    for (Time day = kFirstTime; day <= kLastTime; day += kMicrosPerDay) {
+        ASSERT_EQ(FromCivil(civil), day) << civil.year << ' ' << civil.month << ' ' << civil.day;
+        const CivilTime back = ToCivil(day);
+        ASSERT_TRUE(back.year == civil.year && back.month == civil.month && back.day == civil.day &&
+                    back.hour == 0)
+            << back.year << '-' << back.month << '-' << back.day;
+        if (++civil.day > DaysInMonth(civil.year, civil.month)) {
+            civil.day = 1;
+            if (++civil.month > 12) {
+                civil.month = 1;
+                ++civil.year;
+            }
+        }
+    }
+    EXPECT_EQ(civil.year, 10'000);
+}
+
+TEST(CivilTime, CutsWhatNoCalendarTextCanHold) {
+    EXPECT_EQ(FormatExact(INT64_MIN), "0001-01-01 00:00:00");
+    EXPECT_EQ(FormatExact(INT64_MAX), "9999-12-31 23:59:59.999999");
+}
+
+TEST(FormatTime, ReadsBackAsItWas) {
+    std::mt19937_64 random(1);
+    std::uniform_int_distribution<Time> anyTime(kFirstTime, kLastTime);
+    for (int i = 0; i < 20'000; ++i) {
+        // Whole seconds, milliseconds and microseconds take different forms.
+        const Time unit = i % 3 == 0 ? kMicrosPerSecond : i % 3 == 1 ? 1000 : 1;
+        const Time time = anyTime(random) / unit * unit;
+        ParsedTime read;
+        const std::string text = FormatExact(time);
+        ASSERT_TRUE(ParseTime(text, read)) << text;
+        ASSERT_EQ(read.time, time) << text;
+    }
+}
+
+TEST(FormatTime, ShowsWhatThePrecisionAsksFor) {
+    const Time time = 1386018909 * kMicrosPerSecond + 250'999;
+    EXPECT_EQ(FormatClock(time, TimePrecision::Minutes), "21:15");
+    EXPECT_EQ(FormatClock(time, TimePrecision::Seconds), "21:15:09");
+    EXPECT_EQ(FormatClock(time, TimePrecision::Millis), "21:15:09.250");
+    EXPECT_EQ(FormatClock(time, TimePrecision::Micros), "21:15:09.250999");
+    EXPECT_EQ(FormatDateTime(time, TimePrecision::Minutes), "2013-12-02 21:15");
+    EXPECT_EQ(FormatExact(time), "2013-12-02 21:15:09.250999");
+    EXPECT_EQ(FormatExact(time - 999), "2013-12-02 21:15:09.250");
+    EXPECT_EQ(FormatExact(-1), "1969-12-31 23:59:59.999999");
+}
+
+TEST(FormatDuration, TakesTheTwoLargestUnits) {
+    const std::pair<Time, const char*> cases[] = {
+        {0, "0 s"},
+        {1, "1 us"},
+        {1500, "1 ms 500 us"},
+        {kMicrosPerSecond, "1 s"},
+        {5 * kMicrosPerMinute, "5 min"},
+        {-55 * kMicrosPerMinute, "55 min"},
+        {90 * kMicrosPerMinute, "1 h 30 min"},
+        {51 * kMicrosPerHour + 59 * kMicrosPerMinute, "2 d 3 h"},
+        {2 * kMicrosPerDay + 5 * kMicrosPerMinute, "2 d"},
+    };
+    for (const auto& [duration, text] : cases) {
+        EXPECT_EQ(FormatDuration(duration), text);
+    }
+    EXPECT_EQ(FormatDuration(INT64_MIN), FormatDuration(INT64_MAX));
+}
+
+} // namespace
+} // namespace kavlix::recording

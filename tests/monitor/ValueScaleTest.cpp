@@ -1,0 +1,174 @@
+#include "monitor/recording/ValueScale.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <random>
+#include <set>
+
+namespace kavlix::recording {
+namespace {
+
+ValueSpan Span(double min, double max) {
+    ValueSpan span;
+    span.Take(min);
+    span.Take(max);
+    return span;
+}
+
+std::string Joined(const ValueScale& scale) {
+    std::string text;
+    for (const std::string& label : ValueLabels(scale)) {
+        text += label + ' ';
+    }
+    return text + '[' + scale.unit + ']';
+}
+
+TEST(ValueScale, ChoosesRoundLabels) {
+    const struct {
+        double min;
+        double max;
+        int ticks;
+        const char* labels;
+    } cases[] = {
+        {0, 100, 5, "0 25 50 75 100 []"},
+        {2.08, 108.5, 5, "0 30 60 90 120 []"},
+        {2.08, 108.5, 13, "0 10 20 30 40 50 60 70 80 90 100 110 120 []"},
+        {0.3, 0.7, 5, "0.3 0.4 0.5 0.6 0.7 []"},
+        {-1, 1, 5, "-1.0 -0.5 0.0 0.5 1.0 []"},
+        {-100, -10, 5, "-100 -75 -50 -25 0 []"},
+        {38516.6, 245126000, 6, "0 50 100 150 200 250 [M]"},
+        {0, 0.0004, 5, "0 100 200 300 400 [u]"},
+        {12, 9000, 4, "0 3000 6000 9000 []"},
+        {-3e27, 5e27, 3, "-5 0 5 [10^27]"},
+        {1e6, 1e6 + 4, 5, "1000000 1000001 1000002 1000003 1000004 []"}, // a unit would need more decimals
+        {50, 50, 3, "45 50 55 []"},
+        {0, 0, 3, "0.0 0.5 1.0 []"},
+        {-3, 7, 2, "-4 8 []"},
+    };
+    for (const auto& one : cases) {
+        EXPECT_EQ(Joined(ChooseValueScale(Span(one.min, one.max), one.ticks)), one.labels)
+            << one.min << ' ' << one.max << ' ' << one.ticks;
+    }
+    EXPECT_EQ(Joined(ChooseValueScale(ValueSpan(), 3)), "0.0 0.5 1.0 []");
+}
+
+/// What must hold for any values and any tick count.
+void ExpectSound(const ValueScale& scale, double min, double max) {
+    const std::string about = "values " + std::to_string(min) + " to " + std::to_string(max) + ", ticks " +
+                              std::to_string(scale.ticks) + ": " + Joined(scale);
+    ASSERT_TRUE(std::isfinite(scale.min) && std::isfinite(scale.max) && std::isfinite(scale.step)) << about;
+    ASSERT_LT(scale.min, scale.max) << about;
+    ASSERT_GT(scale.step, 0) << about;
+    ASSERT_LE(scale.min, min) << about;
+    ASSERT_GE(scale.max, max) << about;
+    ASSERT_EQ(scale.unitExponent % 3, 0) << about;
+    ASSERT_EQ(scale.unit.empty(), scale.unitExponent == 0) << about;
+
+    const std::vector<std::string> labels = ValueLabels(scale);
+    const double power = std::pow(10.0, scale.unitExponent);
+    std::set<std::string> distinct;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        distinct.insert(labels[i]);
+        ASSERT_FALSE(labels[i].front() == '-' && std::strtod(labels[i].c_str(), nullptr) == 0) << about;
+        // The label tells the tick's value, not a rounded one.
+        const double told = std::strtod(labels[i].c_str(), nullptr) * power;
+        const double value = scale.min + static_cast<double>(i) * scale.step;
+        const double slack = scale.step * 1e-6 + (std::abs(scale.min) + std::abs(scale.max)) * 1e-13;
+        ASSERT_NEAR(told, value, slack) << about;
+    }
+    ASSERT_EQ(distinct.size(), labels.size()) << about;
+}
+
+TEST(ValueScale, CoversEveryRangeWithRoundLabels) {
+    std::mt19937_64 random(6);
+    std::uniform_real_distribution<double> exponent(-12, 12);
+    std::uniform_real_distribution<double> unit(-1, 1);
+    for (int round = 0; round < 6000; ++round) {
+        const double size = std::pow(10.0, exponent(random));
+        double min = unit(random) * size;
+        double max = min + std::abs(unit(random)) * size * (round % 3 == 0 ? 1e-4 : 1.0);
+        if (round % 5 == 0) {
+            min = std::round(min);
+            max = std::round(max) + 1;
+        }
+        const int ticks = 2 + static_cast<int>(random() % 39);
+        ASSERT_NO_FATAL_FAILURE(ExpectSound(ChooseValueScale(Span(min, max), ticks), min, max));
+    }
+}
+
+TEST(ValueScale, AValueAHairBeyondARoundOneIsCoveredWithoutAnotherStep) {
+    for (const double hair : {1e-10, 1e-15}) {
+        const ValueScale scale = ChooseValueScale(Span(10 - hair, 20 + hair), 5);
+        ExpectSound(scale, 10 - hair, 20 + hair);
+        EXPECT_EQ(Joined(scale), "10.0 12.5 15.0 17.5 20.0 []");
+    }
+}
+
+TEST(ValueScale, UsesMostOfThePlot) {
+    std::mt19937_64 random(7);
+    std::uniform_real_distribution<double> unit(0, 1);
+    for (int round = 0; round < 3000; ++round) {
+        const double min = 100 * unit(random);
+        const double max = min + 0.01 + 100 * unit(random);
+        const int ticks = 5 + static_cast<int>(random() % 36);
+        const ValueScale scale = ChooseValueScale(Span(min, max), ticks);
+        EXPECT_GE(scale.min, 0) << min << ' ' << max << ' ' << ticks;
+        const double shown = max - (scale.min == 0 ? 0 : min);
+        // The next smaller step is at most 1.5 times smaller, and rounding both ends outwards costs up to two
+        // steps.
+        EXPECT_GT(shown, (scale.max - scale.min - 2 * scale.step) / 1.67)
+            << min << ' ' << max << ' ' << ticks;
+    }
+}
+
+TEST(ValueScale, ExtremeValuesDoNotOverflow) {
+    const double values[] = {0.0, -0.0, 5e-324, 1e-310, 1e-300, 2e-300, 1e-100,
+                             1,   3,    1e15,   1e100,  1e299,  1e300};
+    for (const double a : values) {
+        for (const double b : values) {
+            for (const double min : {-a, a}) {
+                for (const int ticks : {2, 3, 5, 13, 40}) {
+                    const double lower = std::min(min, b);
+                    const double upper = std::max(min, b);
+                    const ValueScale scale = ChooseValueScale(Span(lower, upper), ticks);
+                    EXPECT_LE(scale.min, std::max(lower, 0.0)) << lower << ' ' << upper;
+                    EXPECT_GE(scale.max, std::min(upper, 0.0)) << lower << ' ' << upper;
+                    EXPECT_LT(scale.min, scale.max);
+                    EXPECT_TRUE(std::isfinite(scale.max - scale.min));
+                    EXPECT_LE(LongestLabel(scale), 24) << Joined(scale);
+                }
+            }
+        }
+    }
+    for (const int ticks : {-5, 0, 1, 2, 1'000'000}) {
+        const ValueScale scale = ChooseValueScale(Span(-1.7e308, 1.7e308), ticks);
+        EXPECT_TRUE(std::isfinite(scale.max - scale.min));
+        EXPECT_EQ(ValueLabels(scale).size(), static_cast<std::size_t>(scale.ticks));
+    }
+    EXPECT_FALSE(SpanOf({NAN, INFINITY, -INFINITY}).any);
+}
+
+TEST(ValueScale, NearlyConstantValuesAreShownAsConstant) {
+    const double value = 1e9;
+    const ValueScale scale = ChooseValueScale(Span(value, value * (1 + 1e-12)), 5);
+    EXPECT_GT(scale.max - scale.min, 1e7);
+    ExpectSound(scale, value, value * (1 + 1e-12));
+}
+
+TEST(FollowValues, StaysWhileTheValuesFit) {
+    ValueScale scale = ChooseValueScale(Span(0, 95), 5);
+    EXPECT_FALSE(FollowValues(scale, Span(0, 100), 5));
+    EXPECT_FALSE(FollowValues(scale, Span(0, 60), 5));
+    EXPECT_EQ(scale.max, 100);
+    EXPECT_TRUE(FollowValues(scale, Span(0, 101), 5));
+    EXPECT_GE(scale.max, 101);
+    EXPECT_TRUE(FollowValues(scale, Span(0, 10), 5)) << "a tenth of the plot says nothing";
+    EXPECT_LE(scale.max, 12);
+    EXPECT_TRUE(FollowValues(scale, Span(0, 10), 6)) << "labels are round for one tick count only";
+    EXPECT_FALSE(FollowValues(scale, ValueSpan(), 6));
+}
+
+} // namespace
+} // namespace kavlix::recording

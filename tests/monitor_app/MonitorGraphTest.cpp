@@ -1,0 +1,250 @@
+// What the Monitor's graph chooses from data and window size.
+
+#include "monitor/MonitorGraph.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+namespace kavlix::test {
+namespace {
+
+using monitor::CMonitorGraph;
+using monitor::DefaultSettings;
+using monitor::GraphSettings;
+using monitor::GraphSource;
+
+/// The graph with a view of what it has set.
+class Graph : public CMonitorGraph {
+public:
+    void Paint() { DrawOnce(); }
+    CRect Plot() { return DrawOnce(), m_rectPlot; }
+    int ValueTicks() { return Plot().Height() / 500; }
+    double Min() const { return m_YVisibleMin; }
+    double Max() const { return m_YVisibleMax; }
+    double XMin() const { return m_XVisibleMin; }
+    double XMax() const { return m_XVisibleMax; }
+    std::string XLabel() const { return m_ShowXLabel ? static_cast<LPCTSTR>(m_XLabel) : ""; }
+    std::string Caption() const {
+        CString text;
+        GetWindowText(text);
+        return static_cast<LPCTSTR>(text);
+    }
+    std::string Legend(int i) const { return static_cast<LPCTSTR>(m_Datasets[i].m_Legend); }
+    int LegendRight() { return DrawOnce(), m_rectLegend.right; }
+    int LegendWidth() const { return m_LegendWidth; }
+    int TickLabels() const { return static_cast<int>(m_XTickLabelUp.GetSize()); }
+    std::string Title() const { return static_cast<LPCTSTR>(m_Title); }
+
+private:
+    void DrawOnce() {
+        CClientDC client(this);
+        CDC dc;
+        dc.CreateCompatibleDC(&client);
+        SetMapModeAnisotropic(dc);
+        DrawGraph(dc);
+    }
+};
+
+class MonitorGraph : public testing::Test {
+protected:
+    MonitorGraph() {
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, CRect(0, 0, 2000, 1500), nullptr, 0);
+        EXPECT_TRUE(m_graph.CreateChild(m_parent, 1));
+        Resize(900, 600);
+    }
+    ~MonitorGraph() override { m_parent.DestroyWindow(); }
+
+    void Resize(int width, int height) { m_graph.MoveWindow(0, 0, width, height); }
+
+    static GraphSource Source(std::size_t samples, std::vector<std::string> names,
+                              double (*value)(std::size_t sample, std::size_t series)) {
+        auto recording = std::make_shared<recording::Recording>();
+        for (std::size_t i = 0; i < samples; ++i)
+            recording->times.push_back(static_cast<recording::Time>(i) * recording::kMicrosPerMinute);
+        for (std::size_t s = 0; s < names.size(); ++s) {
+            recording->series.push_back({names[s], 0, {}});
+            for (std::size_t i = 0; i < samples; ++i)
+                recording->series[s].values.push_back(value(i, s));
+        }
+        GraphSource source;
+        source.recording = std::move(recording);
+        return source;
+    }
+    static GraphSettings Settings(const GraphSource& source,
+                                  CGraphCtrl::GraphStyle style = CGraphCtrl::GraphStyleLine) {
+        std::vector<std::string> names;
+        for (const auto& series : source.recording->series)
+            names.push_back(series.name);
+        return DefaultSettings("Title", names, source.recording->times.size(), style);
+    }
+    static double Ramp(std::size_t sample, std::size_t series) {
+        return static_cast<double>(sample % 1000) * 0.137 + static_cast<double>(series);
+    }
+
+    CWnd m_parent;
+    Graph m_graph;
+};
+
+TEST_F(MonitorGraph, RangeHasRoundTicksAtEveryHeight) {
+    const GraphSource source = Source(1000, {"a"}, Ramp);
+    m_graph.Show(source, Settings(source));
+    int different = 0;
+    double before = 0;
+    for (const int height : {200, 260, 350, 500, 640, 900}) {
+        Resize(900, height);
+        const int ticks = m_graph.ValueTicks();
+        ASSERT_GE(ticks, 2) << height;
+        const double step = (m_graph.Max() - m_graph.Min()) / (ticks - 1);
+        const double power = std::pow(10, std::floor(std::log10(step)));
+        const double lead = step / power;
+        bool isRound = false;
+        for (const double round : {1.0, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 7.5, 8.0, 10.0})
+            isRound |= std::abs(lead - round) < 1e-6;
+        EXPECT_TRUE(isRound) << "step " << step << " at height " << height;
+        EXPECT_LE(m_graph.Min(), 0);
+        EXPECT_GE(m_graph.Max(), 999 * 0.137);
+        different += step != before;
+        before = step;
+    }
+    EXPECT_GT(different, 2) << "the range follows the number of ticks";
+}
+
+TEST_F(MonitorGraph, HandsOverAllSamplesOfAnOrdinaryRecordingAndFewOfAHugeOne) {
+    GraphSource source = Source(22'695, {"a", "b"}, Ramp);
+    m_graph.Show(source, Settings(source));
+    EXPECT_EQ(m_graph.GetDatasetSize(0), 22'695);
+    EXPECT_EQ(m_graph.GetDatasetSize(1), 22'695);
+    EXPECT_EQ(m_graph.TickLabels(), 22'695);
+    EXPECT_EQ(m_graph.XMax(), 22'694);
+
+    source = Source(300'000, {"a"}, Ramp);
+    m_graph.Show(source, Settings(source));
+    EXPECT_GT(m_graph.SamplesEach(), 1u);
+    EXPECT_LT(m_graph.GetDatasetSize(0), 60'000);
+    EXPECT_EQ(m_graph.GetDatasetSize(1), 0) << "the second series went";
+
+    m_graph.SetVisible({1000, 1999});
+    EXPECT_EQ(m_graph.SamplesEach(), 1u);
+    EXPECT_EQ(m_graph.GetDatasetSize(0), 1000);
+    double value = 0;
+    EXPECT_TRUE(m_graph.GetYData(0, 5, value));
+    EXPECT_DOUBLE_EQ(value, Ramp(1005, 0));
+    m_graph.SetSelectionMarkPos(5);
+    EXPECT_EQ(m_graph.MarkedSample(), 1005u);
+}
+
+TEST_F(MonitorGraph, BarsHaveRoomAndSayWhatTheyStandFor) {
+    const GraphSource source = Source(5000, {"a", "b"}, Ramp);
+    m_graph.Show(source, Settings(source, CGraphCtrl::GraphStyleBar));
+    const int bars = m_graph.GetDatasetSize(0);
+    // Two series: each sample takes two bars and a gap of one, each at least a pixel of 30 units.
+    EXPECT_LE(bars * 3 * 30, m_graph.Plot().Width());
+    EXPECT_GT(bars, 50);
+    const std::string mean = "mean of " + std::to_string(m_graph.SamplesEach()) + " samples";
+    EXPECT_NE(m_graph.Caption().find(mean), std::string::npos) << m_graph.Caption();
+    Resize(500, 350);
+    EXPECT_LT(m_graph.GetDatasetSize(0), bars);
+    GraphSettings lines = m_graph.Settings();
+    lines.style = CGraphCtrl::GraphStyleLine;
+    m_graph.SetSettings(lines);
+    EXPECT_EQ(m_graph.GetDatasetSize(0), 5000);
+    EXPECT_EQ(m_graph.Caption().find("mean"), std::string::npos);
+}
+
+TEST_F(MonitorGraph, TimeRangeStandsInTheCaptionOrUnderATextTitle) {
+    const GraphSource source = Source(5000, {"heat"}, Ramp);
+    GraphSettings settings = Settings(source);
+    m_graph.Show(source, settings);
+    EXPECT_EQ(m_graph.Caption(), "Title: heat, 1970-01-01 00:00 to 1970-01-04 11:19");
+    EXPECT_EQ(m_graph.XLabel(), "");
+    Resize(150, 300);
+    EXPECT_EQ(m_graph.Caption(), "Title") << "no room for more";
+    Resize(900, 400);
+    settings.titleStyle = CGraphCtrl::TitleStyleText;
+    m_graph.SetSettings(settings);
+    EXPECT_EQ(m_graph.XLabel(), "1970-01-01 00:00 to 1970-01-04 11:19");
+}
+
+TEST_F(MonitorGraph, GrowingReadingsKeepTheMarkOnItsSample) {
+    GraphSource source = Source(10, {"a"}, Ramp);
+    m_graph.Show(source, Settings(source));
+    m_graph.SetSelectionMarkPos(6);
+    const auto grown = [&](std::size_t removed, std::size_t added) {
+        auto next = std::make_shared<recording::Recording>(*source.recording);
+        next->times.erase(next->times.begin(), next->times.begin() + static_cast<std::ptrdiff_t>(removed));
+        auto& values = next->series[0].values;
+        values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(removed));
+        for (std::size_t i = 0; i < added; ++i) {
+            next->times.push_back(next->times.back() + recording::kMicrosPerMinute);
+            values.push_back(100 + static_cast<double>(i));
+        }
+        source.recording = std::move(next);
+        m_graph.ShowGrown(source, removed);
+    };
+    grown(2, 3);
+    EXPECT_EQ(m_graph.GetDatasetSize(0), 11);
+    EXPECT_EQ(m_graph.TickLabels(), 11);
+    EXPECT_EQ(m_graph.SelectionMark().index, 4);
+    EXPECT_DOUBLE_EQ(m_graph.SelectionMark().values[0], Ramp(6, 0));
+    double value = 0;
+    EXPECT_TRUE(m_graph.GetYData(0, 10, value));
+    EXPECT_EQ(value, 102);
+    EXPECT_GE(m_graph.Max(), 102) << "the range follows";
+    grown(5, 1);
+    EXPECT_EQ(m_graph.GetDatasetSize(0), 7);
+    EXPECT_EQ(m_graph.SelectionMark().index, -1) << "its sample is gone";
+}
+
+TEST_F(MonitorGraph, LongNamesAreShortenedToTheRoomThereIs) {
+    const std::string longName(300, 'W');
+    const GraphSource source = Source(20, {longName, "b"}, Ramp);
+    GraphSettings settings = Settings(source);
+    settings.title = longName;
+    settings.titleStyle = CGraphCtrl::TitleStyleText;
+    m_graph.Show(source, settings);
+    EXPECT_LT(m_graph.Legend(0).size(), 60u);
+    EXPECT_EQ(m_graph.Legend(0).substr(m_graph.Legend(0).size() - 3), "...");
+    EXPECT_EQ(m_graph.Legend(1), "b");
+    EXPECT_LE(m_graph.LegendWidth(), 900 * 30 / 2);
+    EXPECT_GT(m_graph.Plot().Width(), 900 * 30 / 3);
+    EXPECT_LT(m_graph.Title().size(), 100u);
+    Resize(1800, 600);
+    EXPECT_GT(m_graph.Legend(0).size(), 30u) << "more room, more of the name";
+}
+
+TEST_F(MonitorGraph, MarkersOfTheFirstAndTheLastSampleStandWholeInThePlot) {
+    const GraphSource source = Source(5, {"a"}, Ramp);
+    GraphSettings settings = Settings(source);
+    m_graph.Show(source, settings);
+    ASSERT_NE(settings.series[0].marker, CDataset::MarkerNone) << "few samples have markers";
+    const double unitsPerSample = m_graph.Plot().Width() / (m_graph.XMax() - m_graph.XMin());
+    EXPECT_GT(-m_graph.XMin() * unitsPerSample, 90) << "half a marker's width";
+    EXPECT_GT((m_graph.XMax() - 4) * unitsPerSample, 90);
+    settings.series[0].marker = CDataset::MarkerNone;
+    m_graph.SetSettings(settings);
+    EXPECT_EQ(m_graph.XMin(), 0);
+    EXPECT_EQ(m_graph.XMax(), 4);
+}
+
+TEST_F(MonitorGraph, EmptyAndSingleSamplesAreShownWithoutFault) {
+    GraphSource source = Source(0, {"a"}, Ramp);
+    m_graph.Show(source, Settings(source));
+    m_graph.Paint();
+    EXPECT_EQ(m_graph.GetDatasetSize(0), 0);
+    source = Source(1, {"a"}, Ramp);
+    for (const auto style : {CGraphCtrl::GraphStyleLine, CGraphCtrl::GraphStyleBar}) {
+        m_graph.Show(source, Settings(source, style));
+        m_graph.Paint();
+        EXPECT_EQ(m_graph.GetDatasetSize(0), 1);
+    }
+    m_graph.Show(GraphSource(), GraphSettings());
+    m_graph.Paint();
+    EXPECT_EQ(m_graph.GetDatasetSize(0), 0);
+    Resize(1, 1);
+    m_graph.Paint();
+}
+
+} // namespace
+} // namespace kavlix::test

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace kavlix::test {
+
+/// A new folder for the files of one test, removed with all files in it at the end.
+class TempFolder {
+public:
+    TempFolder();
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    /// Path of a file in the folder.
+    std::string Path(const std::string& name) const { return m_path + "\\" + name; }
+
+    /// Writes a file; returns its path.
+    std::string Write(const std::string& name, const std::string& content) const;
+
+private:
+    std::string m_path;
+};
+
+/// What a run of KavlixMonitor.exe left behind.
+struct MonitorRun {
+    bool ended = false; ///< false: it could not be started, or did not end in time and was stopped
+    unsigned status = 0;
+    std::string output;
+    std::string error;
+};
+
+/// Runs the KavlixMonitor.exe that stands beside the test program, and waits for its end.
+MonitorRun RunMonitor(const std::vector<std::string>& arguments);
+
+/// A decoded picture.
+struct Picture {
+    int width = 0; ///< 0: there is no such picture
+    int height = 0;
+    std::vector<std::uint32_t> pixels; ///< 0xRRGGBB, rows from the top
+
+    std::uint32_t At(int x, int y) const { return pixels[static_cast<std::size_t>(y) * width + x]; }
+
+    /// Pixels of this very colour within the given columns (the end excluded); all columns by default.
+    int Count(std::uint32_t rgb, int fromX = 0, int toX = -1) const;
+
+    /// First and last row that holds the colour; -1 when none does.
+    int TopOf(std::uint32_t rgb) const;
+    int BottomOf(std::uint32_t rgb) const;
+
+    /// First and last column that holds the colour; -1 when none does.
+    int LeftOf(std::uint32_t rgb) const;
+    int RightOf(std::uint32_t rgb) const;
+};
+
+/// Reads a picture file.
+Picture ReadPicture(const std::string& path);
+
+} // namespace kavlix::test

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace testkit {
+
+/// A picture in memory: a 32-bit bitmap, selected into a memory DC, whose pixels can be read at once.
+class DibSurface {
+public:
+    /// `width` and `height` in pixels, at least 1 each. Every pixel starts as `fill`.
+    DibSurface(int width, int height, COLORREF fill = RGB(255, 255, 255));
+    DibSurface(const DibSurface&) = delete;
+    DibSurface& operator=(const DibSurface&) = delete;
+    ~DibSurface();
+
+    /// The DC that draws here. Owned by the surface; its mapping is the caller's to set.
+    HDC Dc() const { return m_dc; }
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+
+    /// The colour of a pixel; CLR_INVALID outside the picture.
+    COLORREF At(int x, int y) const;
+    /// How many pixels of `area` (device units, right and bottom not included) have exactly this colour.
+    int Count(COLORREF colour, const RECT& area) const;
+    int Count(COLORREF colour) const;
+    /// The smallest rectangle that holds every pixel of the colour; empty when there is none.
+    RECT Bounds(COLORREF colour) const;
+    /// How many of the pixel columns [left, right) hold the colour.
+    int Columns(COLORREF colour, int left, int right) const;
+
+    /// Copies what a window's DC shows into this picture, from (0, 0) on.
+    void Grab(HWND window);
+
+private:
+    int m_width;
+    int m_height;
+    HDC m_dc = nullptr;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_oldBitmap = nullptr;
+    DWORD* m_bits = nullptr;
+};
+
+/// Compares two pictures inside `area`. Empty when every pixel is alike; otherwise a sentence with the count
+/// of differing pixels, the rectangle they lie in and the first of them.
+std::string Difference(const DibSurface& a, const DibSurface& b, const RECT& area);
+std::string Difference(const DibSurface& a, const DibSurface& b);
+
+/// How many pixels inside `area` show a colour that the other picture shows nowhere within `distance` pixels
+/// of that place, counted both ways: 0 for pictures that differ only in how positions between two pixels were
+/// rounded.
+int Displaced(const DibSurface& a, const DibSurface& b, const RECT& area, int distance);
+
+} // namespace testkit

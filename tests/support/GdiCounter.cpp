@@ -1,0 +1,146 @@
+#include "tests/support/GdiCounter.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <ostream>
+
+namespace testkit {
+namespace {
+
+/// One entry of the table by which the system finds the GDI objects of a process.
+struct GdiEntry {
+    std::uint64_t object;
+    std::uint32_t owner;
+    std::uint16_t upper; ///< upper half of the handle; its low seven bits name the kind
+    std::uint8_t type;   ///< 0 when the entry is free
+    std::uint8_t flags;
+    std::uint64_t user;
+};
+static_assert(sizeof(GdiEntry) == 24, "the table's entries are 24 bytes");
+
+constexpr std::size_t kMaxGdiEntries = 0x10000;
+constexpr UINT_PTR kLastUserHandle = 0xFFFE;
+
+#if defined(_WIN64)
+constexpr std::size_t kPebOfThread = 0x60;
+constexpr std::size_t kGdiTableOfPeb = 0xF8;
+
+const GdiEntry* GdiTable() {
+    const auto* peb = reinterpret_cast<const unsigned char*>(__readgsqword(kPebOfThread));
+    return *reinterpret_cast<const GdiEntry* const*>(peb + kGdiTableOfPeb);
+}
+#else
+const GdiEntry* GdiTable() {
+    return nullptr;
+}
+#endif
+
+std::size_t ReadableEntries(const GdiEntry* table) {
+    MEMORY_BASIC_INFORMATION info;
+    if (table == nullptr || VirtualQuery(table, &info, sizeof info) == 0 || info.State != MEM_COMMIT)
+        return 0;
+    const auto* end = static_cast<const unsigned char*>(info.BaseAddress) + info.RegionSize;
+    const std::size_t bytes = static_cast<std::size_t>(end - reinterpret_cast<const unsigned char*>(table));
+    return std::min(bytes / sizeof(GdiEntry), kMaxGdiEntries);
+}
+
+void CountGdi(ObjectCounts& counts) {
+    constexpr unsigned kDc = 0x01, kMetafileDc = 0x21, kMemoryDc = 0x41;
+    constexpr unsigned kRegion = 0x04, kBitmap = 0x09, kFont = 0x0A, kBrush = 0x10, kPen = 0x30,
+                       kWidePen = 0x50;
+    const GdiEntry* table = GdiTable();
+    const std::size_t entries = ReadableEntries(table);
+    for (std::size_t i = 0; i < entries; ++i) {
+        if (table[i].type == 0)
+            continue;
+        switch (table[i].upper & 0x7F) {
+        case kDc:
+        case kMetafileDc:
+        case kMemoryDc:
+            ++counts.dcs;
+            break;
+        case kRegion:
+            ++counts.regions;
+            break;
+        case kBitmap:
+            ++counts.bitmaps;
+            break;
+        case kFont:
+            ++counts.fonts;
+            break;
+        case kBrush:
+            ++counts.brushes;
+            break;
+        case kPen:
+        case kWidePen:
+            ++counts.pens;
+            break;
+        default:
+            ++counts.otherGdi;
+            break;
+        }
+    }
+}
+
+bool IsOurs(HWND window) {
+    DWORD owner = 0;
+    return GetWindowThreadProcessId(window, &owner) != 0 && owner == GetCurrentProcessId();
+}
+
+BOOL CALLBACK CountChild(HWND, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK CountTopLevel(HWND window, LPARAM count) {
+    if (IsOurs(window)) {
+        CountChild(window, count);
+        EnumChildWindows(window, &CountChild, count);
+    }
+    return TRUE;
+}
+
+void CountUser(ObjectCounts& counts) {
+    EnumWindows(&CountTopLevel, reinterpret_cast<LPARAM>(&counts.windows));
+    HWND silent = nullptr;
+    while ((silent = FindWindowEx(HWND_MESSAGE, silent, nullptr, nullptr)) != nullptr)
+        CountTopLevel(silent, reinterpret_cast<LPARAM>(&counts.windows));
+    // Menus cannot be enumerated, but their handles lie in a range small enough to ask for each.
+    for (UINT_PTR value = 2; value <= kLastUserHandle; value += 2)
+        counts.menus += IsMenu(reinterpret_cast<HMENU>(value)) != FALSE;
+}
+
+} // namespace
+
+int ObjectCounts::Gdi() const {
+    return pens + brushes + fonts + bitmaps + regions + dcs + otherGdi;
+}
+
+bool ObjectCounts::operator==(const ObjectCounts& other) const {
+    return pens == other.pens && brushes == other.brushes && fonts == other.fonts &&
+           bitmaps == other.bitmaps && regions == other.regions && dcs == other.dcs &&
+           otherGdi == other.otherGdi && windows == other.windows && menus == other.menus;
+}
+
+std::ostream& operator<<(std::ostream& out, const ObjectCounts& counts) {
+    return out << "pens " << counts.pens << ", brushes " << counts.brushes << ", fonts " << counts.fonts
+               << ", bitmaps " << counts.bitmaps << ", regions " << counts.regions << ", dcs " << counts.dcs
+               << ", other " << counts.otherGdi << ", windows " << counts.windows << ", menus "
+               << counts.menus;
+}
+
+ObjectCounts CountObjects() {
+    GdiFlush();
+    ObjectCounts counts;
+    CountGdi(counts);
+    CountUser(counts);
+    return counts;
+}
+
+bool CanCountGdiObjects() {
+    return ReadableEntries(GdiTable()) > 0;
+}
+
+} // namespace testkit

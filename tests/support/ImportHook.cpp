@@ -1,0 +1,68 @@
+#include "tests/support/ImportHook.h"
+
+namespace testkit {
+namespace {
+
+template <class T> const T* At(HMODULE module, DWORD offset) {
+    return reinterpret_cast<const T*>(reinterpret_cast<const unsigned char*>(module) + offset);
+}
+
+const IMAGE_DATA_DIRECTORY& Directory(HMODULE module, int index) {
+    const auto* dos = At<IMAGE_DOS_HEADER>(module, 0);
+    return At<IMAGE_NT_HEADERS>(module, static_cast<DWORD>(dos->e_lfanew))
+        ->OptionalHeader.DataDirectory[index];
+}
+
+void Write(void** slot, void* value) {
+    DWORD old = 0;
+    if (VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &old)) {
+        *slot = value;
+        VirtualProtect(slot, sizeof *slot, old, &old);
+    }
+}
+
+} // namespace
+
+ImportHook::ImportHook(const std::string& module, const std::string& function, void* replacement) {
+    const HMODULE base = GetModuleHandleA(module.c_str());
+    if (base == nullptr)
+        return;
+    const IMAGE_DATA_DIRECTORY& directory = Directory(base, IMAGE_DIRECTORY_ENTRY_IMPORT);
+    if (directory.VirtualAddress == 0)
+        return;
+    const auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(base, directory.VirtualAddress);
+    for (; library->Name != 0; ++library) {
+        const auto* names = At<IMAGE_THUNK_DATA>(base, library->OriginalFirstThunk);
+        const auto* slots = At<IMAGE_THUNK_DATA>(base, library->FirstThunk);
+        for (; names->u1.AddressOfData != 0; ++names, ++slots) {
+            if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal))
+                continue;
+            const auto* entry = At<IMAGE_IMPORT_BY_NAME>(base, static_cast<DWORD>(names->u1.AddressOfData));
+            if (function != reinterpret_cast<const char*>(entry->Name))
+                continue;
+            auto** slot = reinterpret_cast<void**>(const_cast<IMAGE_THUNK_DATA*>(slots));
+            m_original = *slot;
+            m_slots.push_back(slot);
+            Write(slot, replacement);
+        }
+    }
+}
+
+ImportHook::~ImportHook() {
+    for (void** slot : m_slots)
+        Write(slot, m_original);
+}
+
+std::vector<std::string> ExportedNames(HMODULE module) {
+    std::vector<std::string> names;
+    const IMAGE_DATA_DIRECTORY& directory = Directory(module, IMAGE_DIRECTORY_ENTRY_EXPORT);
+    if (directory.VirtualAddress == 0)
+        return names;
+    const auto* exports = At<IMAGE_EXPORT_DIRECTORY>(module, directory.VirtualAddress);
+    const auto* offsets = At<DWORD>(module, exports->AddressOfNames);
+    for (DWORD i = 0; i < exports->NumberOfNames; ++i)
+        names.emplace_back(At<char>(module, offsets[i]));
+    return names;
+}
+
+} // namespace testkit

@@ -1,0 +1,84 @@
+#include "tests/support/MessageBoxWatcher.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace testkit {
+namespace {
+
+constexpr int kDialogClassAtom = 32770;
+constexpr int kLastStandardButton = IDCONTINUE;
+
+std::string TextOf(HWND window) {
+    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextA(window, &text[0], static_cast<int>(text.size()))));
+    return text;
+}
+
+bool IsDialog(HWND window) {
+    return GetClassLongPtr(window, GCW_ATOM) == kDialogClassAtom;
+}
+
+UINT IconOf(HWND picture) {
+    const auto shown = reinterpret_cast<HICON>(SendMessage(picture, STM_GETICON, 0, 0));
+    if (shown == nullptr)
+        return 0;
+    if (shown == LoadIcon(nullptr, IDI_HAND))
+        return MB_ICONHAND;
+    if (shown == LoadIcon(nullptr, IDI_QUESTION))
+        return MB_ICONQUESTION;
+    if (shown == LoadIcon(nullptr, IDI_EXCLAMATION))
+        return MB_ICONEXCLAMATION;
+    return shown == LoadIcon(nullptr, IDI_ASTERISK) ? MB_ICONASTERISK : 0;
+}
+
+} // namespace
+
+MessageBoxWatcher* MessageBoxWatcher::s_current = nullptr;
+
+MessageBoxWatcher::MessageBoxWatcher(int answer) : m_answer(answer) {
+    if (s_current != nullptr)
+        throw std::logic_error("another watcher is at work");
+    m_hook = SetWindowsHookEx(WH_CALLWNDPROCRET, &MessageBoxWatcher::Hook, nullptr, GetCurrentThreadId());
+    if (m_hook == nullptr)
+        throw std::runtime_error("the hook could not be set");
+    s_current = this;
+}
+
+MessageBoxWatcher::~MessageBoxWatcher() {
+    UnhookWindowsHookEx(m_hook);
+    s_current = nullptr;
+}
+
+LRESULT CALLBACK MessageBoxWatcher::Hook(int code, WPARAM wParam, LPARAM lParam) {
+    const auto* message = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+    if (code == HC_ACTION && message->message == WM_INITDIALOG && s_current != nullptr &&
+        IsDialog(message->hwnd))
+        s_current->Answer(message->hwnd);
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+void MessageBoxWatcher::Answer(HWND dialog) {
+    Box box;
+    box.caption = TextOf(dialog);
+    for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        const LONG style = GetWindowLong(child, GWL_STYLE);
+        if ((style & WS_VISIBLE) == 0)
+            continue;
+        const int id = GetDlgCtrlID(child);
+        if (id >= IDOK && id <= kLastStandardButton) {
+            box.buttons.push_back(id);
+            if ((style & BS_TYPEMASK) == BS_DEFPUSHBUTTON)
+                box.defaultButton = id;
+        } else {
+            box.icon |= IconOf(child);
+            box.text += TextOf(child);
+        }
+    }
+    std::sort(box.buttons.begin(), box.buttons.end());
+    m_boxes.push_back(box);
+    // Ended here, the box never comes to the screen.
+    EndDialog(dialog, m_answer);
+}
+
+} // namespace testkit

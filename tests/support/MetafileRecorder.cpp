@@ -1,0 +1,444 @@
+#include "tests/support/MetafileRecorder.h"
+
+#include <algorithm>
+#include <sstream>
+#include <stdexcept>
+
+namespace testkit {
+namespace {
+
+constexpr DWORD kStockObject = 0x80000000;
+constexpr DWORD kSmallTextOut = 108;
+
+template <class T> const T& As(const ENHMETARECORD& record) {
+    return reinterpret_cast<const T&>(record);
+}
+
+std::string PenText(UINT style, int width, COLORREF colour) {
+    static const char* const names[] = {"solid", "dash", "dot", "dashdot", "dashdotdot"};
+    const UINT kind = style & PS_STYLE_MASK;
+    if (kind == PS_NULL)
+        return "null";
+    std::ostringstream text;
+    text << (kind < 5 ? names[kind] : "other") << " " << width << " " << ColourText(colour);
+    return text.str();
+}
+
+std::string BrushText(UINT style, COLORREF colour) {
+    if (style == BS_NULL)
+        return "null";
+    return style == BS_SOLID ? ColourText(colour) : "pattern";
+}
+
+std::string FontText(const LOGFONTW& font) {
+    std::string face;
+    for (const WCHAR* letter = font.lfFaceName; *letter != 0; ++letter)
+        face += static_cast<char>(*letter);
+    std::ostringstream text;
+    text << face << " " << font.lfHeight;
+    if (font.lfWeight >= FW_BOLD)
+        text << " bold";
+    if (font.lfEscapement != 0)
+        text << " @" << font.lfEscapement;
+    return text.str();
+}
+
+std::string Narrow(const WCHAR* text, UINT length) {
+    if (length == 0)
+        return {};
+    const int wide = static_cast<int>(length);
+    const int size = WideCharToMultiByte(CP_ACP, 0, text, wide, nullptr, 0, nullptr, nullptr);
+    std::string narrow(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_ACP, 0, text, wide, &narrow[0], size, nullptr, nullptr);
+    return narrow;
+}
+
+RECT ToRect(const RECTL& box) {
+    return {box.left, box.top, box.right, box.bottom};
+}
+
+/// Boxes are recorded without their right and bottom edge, as the code under test's DC is in the compatible
+/// graphics mode.
+RECT FullBox(const RECTL& box) {
+    return {box.left, box.top, box.right + 1, box.bottom + 1};
+}
+
+RECT RegionBounds(const BYTE* data) {
+    return reinterpret_cast<const RGNDATA*>(data)->rdh.rcBound;
+}
+
+/// `first` is a pointer, as the record's array is declared with one element and holds more.
+template <class Point> std::vector<POINT> PointsOf(const Point* first, DWORD count) {
+    std::vector<POINT> points;
+    for (const Point* point = first; point != first + count; ++point)
+        points.push_back({point->x, point->y});
+    return points;
+}
+
+} // namespace
+
+MetafileRecorder::MetafileRecorder(const RECT* frame)
+    : m_dc(CreateEnhMetaFileA(nullptr, nullptr, frame, nullptr)) {
+    if (m_dc == nullptr)
+        throw std::runtime_error("no metafile could be made");
+}
+
+MetafileRecorder::~MetafileRecorder() {
+    if (m_dc != nullptr)
+        m_metafile = CloseEnhMetaFile(m_dc);
+    DeleteEnhMetaFile(m_metafile);
+}
+
+void MetafileRecorder::Close() {
+    m_metafile = CloseEnhMetaFile(m_dc);
+    m_dc = nullptr;
+    if (m_metafile == nullptr)
+        throw std::runtime_error("the metafile could not be closed");
+    EnumEnhMetaFile(nullptr, m_metafile, &MetafileRecorder::Enumerate, this, nullptr);
+    for (const auto& entry : m_selected)
+        if (entry.second != 0 && m_objects.count(entry.second) != 0)
+            m_faults += "still selected at the end: " + m_objects[entry.second].value + "; ";
+}
+
+std::vector<std::string> MetafileRecorder::Lines(unsigned kinds) const {
+    std::vector<std::string> lines;
+    for (const MetafileRecord& record : m_records)
+        if ((record.kind & kinds) != 0)
+            lines.push_back(record.Line());
+    return lines;
+}
+
+std::vector<std::string> MetafileRecorder::ClippedLines(unsigned kinds) const {
+    std::vector<std::string> lines;
+    for (const MetafileRecord& record : m_records)
+        if ((record.kind & kinds) != 0 && (record.kind != kText || !record.text.empty()))
+            lines.push_back(record.Line() + " in " + record.ClipText());
+    return lines;
+}
+
+std::vector<std::string> MetafileRecorder::LinesFrom(const std::string& start) const {
+    std::vector<std::string> lines;
+    for (const std::string& line : Lines(kAll))
+        if (line.compare(0, start.size(), start) == 0)
+            lines.push_back(line);
+    return lines;
+}
+
+std::vector<std::string> MetafileRecorder::Strokes(const std::string& pen) const {
+    std::vector<std::string> lines;
+    for (const MetafileRecord& record : m_records)
+        if (record.kind == kLine && record.state.pen == pen)
+            lines.push_back(record.Line());
+    return lines;
+}
+
+std::vector<std::string> MetafileRecorder::Texts() const {
+    std::vector<std::string> texts;
+    for (const MetafileRecord& record : m_records)
+        if (record.kind == kText && !record.text.empty())
+            texts.push_back(record.text);
+    return texts;
+}
+
+std::string MetafileRecorder::ObjectFaults(std::vector<std::string> lasting) const {
+    std::string faults = m_faults;
+    for (const auto& entry : m_objects) {
+        const auto excused = std::find(lasting.begin(), lasting.end(), entry.second.value);
+        if (excused == lasting.end())
+            faults += "never deleted: " + entry.second.value + "; ";
+        else
+            lasting.erase(excused);
+    }
+    return faults;
+}
+
+int CALLBACK MetafileRecorder::Enumerate(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM self) {
+    reinterpret_cast<MetafileRecorder*>(self)->Read(*record);
+    return 1;
+}
+
+void MetafileRecorder::Read(const Header& record) {
+    if (record.iType == EMR_HEADER || record.iType == EMR_EOF || record.iType == EMR_GDICOMMENT)
+        return;
+    if (ReadObject(record))
+        return;
+    if (!ReadState(record) && !ReadShape(record))
+        Add(kOther).text = std::to_string(record.iType);
+    m_lastMade = 0;
+}
+
+MetafileRecord& MetafileRecorder::Add(RecordKind kind) {
+    m_records.push_back({});
+    m_records.back().kind = kind;
+    m_records.back().state = m_state;
+    return m_records.back();
+}
+
+bool MetafileRecorder::ReadObject(const Header& record) {
+    switch (record.iType) {
+    case EMR_CREATEPEN: {
+        const auto& pen = As<EMRCREATEPEN>(record);
+        Make(pen.ihPen, 'p', PenText(pen.lopn.lopnStyle, pen.lopn.lopnWidth.x, pen.lopn.lopnColor));
+        return true;
+    }
+    case EMR_EXTCREATEPEN: {
+        const auto& pen = As<EMREXTCREATEPEN>(record);
+        Make(pen.ihPen, 'p',
+             PenText(pen.elp.elpPenStyle, static_cast<int>(pen.elp.elpWidth), pen.elp.elpColor));
+        return true;
+    }
+    case EMR_CREATEBRUSHINDIRECT: {
+        const auto& brush = As<EMRCREATEBRUSHINDIRECT>(record);
+        Make(brush.ihBrush, 'b', BrushText(brush.lb.lbStyle, brush.lb.lbColor));
+        return true;
+    }
+    case EMR_EXTCREATEFONTINDIRECTW: {
+        const auto& font = As<EMREXTCREATEFONTINDIRECTW>(record);
+        Make(font.ihFont, 'f', FontText(font.elfw.elfLogFont));
+        return true;
+    }
+    case EMR_SELECTOBJECT:
+        Select(As<EMRSELECTOBJECT>(record).ihObject);
+        m_lastMade = 0;
+        return true;
+    case EMR_DELETEOBJECT:
+        Delete(As<EMRDELETEOBJECT>(record).ihObject);
+        m_lastMade = 0;
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MetafileRecorder::Make(DWORD handle, char kind, const std::string& value) {
+    m_objects[handle] = {kind, value};
+    m_lastMade = handle;
+    ++m_objectsMade;
+}
+
+void MetafileRecorder::Delete(DWORD handle) {
+    const auto found = m_objects.find(handle);
+    if (found == m_objects.end())
+        return;
+    if (m_selected[found->second.kind] == handle)
+        m_faults += "deleted while selected: " + found->second.value + "; ";
+    m_objects.erase(found);
+}
+
+void MetafileRecorder::Select(DWORD handle) {
+    if ((handle & kStockObject) != 0) {
+        SelectStock(handle & ~kStockObject);
+        return;
+    }
+    const auto found = m_objects.find(handle);
+    if (found == m_objects.end()) {
+        m_faults += "selected without being made; ";
+        return;
+    }
+    const Object& object = found->second;
+    m_selected[object.kind] = handle;
+    (object.kind == 'p' ? m_state.pen : object.kind == 'b' ? m_state.brush : m_state.font) = object.value;
+}
+
+void MetafileRecorder::SelectStock(DWORD index) {
+    const HGDIOBJ object = GetStockObject(static_cast<int>(index));
+    switch (GetObjectType(object)) {
+    case OBJ_PEN: {
+        LOGPEN pen = {};
+        GetObject(object, sizeof pen, &pen);
+        m_selected['p'] = 0;
+        m_state.pen = PenText(pen.lopnStyle, 0, pen.lopnColor);
+        break;
+    }
+    case OBJ_BRUSH: {
+        LOGBRUSH brush = {};
+        GetObject(object, sizeof brush, &brush);
+        m_selected['b'] = 0;
+        m_state.brush = BrushText(brush.lbStyle, brush.lbColor);
+        break;
+    }
+    case OBJ_FONT:
+        m_selected['f'] = 0;
+        m_state.font = "stock";
+        break;
+    default:
+        break;
+    }
+}
+
+bool MetafileRecorder::ReadState(const Header& record) {
+    switch (record.iType) {
+    case EMR_SETTEXTCOLOR:
+        m_state.textColor = As<EMRSETTEXTCOLOR>(record).crColor;
+        return true;
+    case EMR_SETTEXTALIGN:
+        m_state.textAlign = As<EMRSETTEXTALIGN>(record).iMode;
+        return true;
+    case EMR_SETBKMODE:
+        m_state.bkMode = static_cast<int>(As<EMRSETBKMODE>(record).iMode);
+        return true;
+    case EMR_SETMAPMODE:
+        m_state.mapMode = static_cast<int>(As<EMRSETMAPMODE>(record).iMode);
+        return true;
+    case EMR_SETWINDOWEXTEX: {
+        const SIZEL& size = As<EMRSETWINDOWEXTEX>(record).szlExtent;
+        m_state.windowExt = {size.cx, size.cy};
+        return true;
+    }
+    case EMR_SETVIEWPORTEXTEX: {
+        const SIZEL& size = As<EMRSETVIEWPORTEXTEX>(record).szlExtent;
+        m_state.viewportExt = {size.cx, size.cy};
+        return true;
+    }
+    case EMR_SAVEDC:
+        m_saved.push_back(m_state);
+        return true;
+    case EMR_RESTOREDC: {
+        const LONG level = As<EMRRESTOREDC>(record).iRelative;
+        const auto depth = static_cast<LONG>(m_saved.size());
+        const LONG target = level < 0 ? depth + level : level - 1;
+        if (target >= 0 && target < depth) {
+            m_state = m_saved[static_cast<std::size_t>(target)];
+            m_saved.resize(static_cast<std::size_t>(target));
+            // What is selected again is a value here; the objects of the inner level are no longer in use.
+            m_selected.clear();
+        }
+        return true;
+    }
+    case EMR_SETBKCOLOR:
+    case EMR_SETROP2:
+    case EMR_SETPOLYFILLMODE:
+    case EMR_SETSTRETCHBLTMODE:
+    case EMR_SETWINDOWORGEX:
+    case EMR_SETVIEWPORTORGEX:
+    case EMR_SETBRUSHORGEX:
+    case EMR_SETMITERLIMIT:
+    case EMR_SETLAYOUT:
+        return true;
+    case EMR_EXTSELECTCLIPRGN:
+    case EMR_INTERSECTCLIPRECT:
+    case EMR_EXCLUDECLIPRECT:
+    case EMR_OFFSETCLIPRGN:
+        ReadClip(record);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MetafileRecorder::ReadClip(const Header& record) {
+    MetafileRecord& clip = Add(kClip);
+    if (record.iType == EMR_EXTSELECTCLIPRGN) {
+        const auto& select = As<EMREXTSELECTCLIPRGN>(record);
+        m_state.clipped = select.cbRgnData >= sizeof(RGNDATAHEADER);
+        if (m_state.clipped)
+            clip.box = m_state.clip = RegionBounds(select.RgnData);
+        else
+            clip.text = "none";
+        if (select.iMode != RGN_COPY)
+            clip.text = "mode " + std::to_string(select.iMode) + " " + BoxText(clip.box);
+    } else if (record.iType == EMR_INTERSECTCLIPRECT) {
+        clip.box = ToRect(As<EMRINTERSECTCLIPRECT>(record).rclClip);
+        clip.text = "with logical " + BoxText(clip.box);
+        m_state.clipped = true;
+    } else {
+        clip.text = "by record " + std::to_string(record.iType);
+    }
+}
+
+void MetafileRecorder::Stroke(const POINT& to) {
+    Add(kLine).points = {m_state.position, to};
+    m_state.position = to;
+}
+
+bool MetafileRecorder::ReadShape(const Header& record) {
+    switch (record.iType) {
+    case EMR_MOVETOEX: {
+        const POINTL& to = As<EMRMOVETOEX>(record).ptl;
+        m_state.position = {to.x, to.y};
+        return true;
+    }
+    case EMR_LINETO: {
+        const POINTL& to = As<EMRLINETO>(record).ptl;
+        Stroke({to.x, to.y});
+        return true;
+    }
+    case EMR_RECTANGLE:
+        Add(kRectangle).box = FullBox(As<EMRRECTANGLE>(record).rclBox);
+        return true;
+    case EMR_ELLIPSE:
+        Add(kEllipse).box = FullBox(As<EMRELLIPSE>(record).rclBox);
+        return true;
+    case EMR_POLYGON: {
+        const auto& poly = As<EMRPOLYGON>(record);
+        Add(kPolygon).points = PointsOf(poly.aptl, poly.cptl);
+        return true;
+    }
+    case EMR_POLYGON16: {
+        const auto& poly = As<EMRPOLYGON16>(record);
+        Add(kPolygon).points = PointsOf(poly.apts, poly.cpts);
+        return true;
+    }
+    case EMR_POLYLINE:
+    case EMR_POLYLINETO:
+    case EMR_POLYLINE16:
+    case EMR_POLYLINETO16: {
+        const bool small = record.iType == EMR_POLYLINE16 || record.iType == EMR_POLYLINETO16;
+        const auto points = small ? PointsOf(As<EMRPOLYLINE16>(record).apts, As<EMRPOLYLINE16>(record).cpts)
+                                  : PointsOf(As<EMRPOLYLINE>(record).aptl, As<EMRPOLYLINE>(record).cptl);
+        const bool from_here = record.iType == EMR_POLYLINETO || record.iType == EMR_POLYLINETO16;
+        const POINT before = m_state.position;
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            if (i > 0 || from_here)
+                Stroke(points[i]);
+            else
+                m_state.position = points[i];
+        }
+        if (!from_here)
+            m_state.position = before;
+        return true;
+    }
+    case EMR_FILLRGN: {
+        const auto& fill = As<EMRFILLRGN>(record);
+        MetafileRecord& region = Add(kRegion);
+        region.box = RegionBounds(fill.RgnData);
+        const auto brush = m_objects.find(fill.ihBrush);
+        region.brush = brush == m_objects.end() ? "unknown" : brush->second.value;
+        // The platform enters a brush of its own for each fill and does not take it out again.
+        if (brush != m_objects.end() && fill.ihBrush == m_lastMade) {
+            m_objects.erase(brush);
+            --m_objectsMade;
+        }
+        return true;
+    }
+    case EMR_PAINTRGN: {
+        MetafileRecord& region = Add(kRegion);
+        region.box = RegionBounds(As<EMRINVERTRGN>(record).RgnData);
+        region.brush = m_state.brush;
+        return true;
+    }
+    case EMR_EXTTEXTOUTA:
+    case EMR_EXTTEXTOUTW:
+    case kSmallTextOut:
+        ReadText(record);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MetafileRecorder::ReadText(const Header& record) {
+    MetafileRecord& text = Add(kText);
+    if (record.iType == kSmallTextOut) {
+        text.text = "(small text record)";
+        return;
+    }
+    const auto& out = As<EMREXTTEXTOUTW>(record);
+    const auto* letters = reinterpret_cast<const char*>(&record) + out.emrtext.offString;
+    text.points = {{out.emrtext.ptlReference.x, out.emrtext.ptlReference.y}};
+    text.text = record.iType == EMR_EXTTEXTOUTW
+                    ? Narrow(reinterpret_cast<const WCHAR*>(letters), out.emrtext.nChars)
+                    : std::string(letters, out.emrtext.nChars);
+}
+
+} // namespace testkit

@@ -1,0 +1,141 @@
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace testkit {
+
+/// Kinds of metafile records, as bits so that a test can pick several.
+enum RecordKind : unsigned {
+    kLine = 1, ///< one straight stroke, from the current position or inside a polyline
+    kRectangle = 2,
+    kEllipse = 4,
+    kPolygon = 8,
+    kRegion = 16, ///< a filled region
+    kText = 32,
+    kClip = 64,   ///< any change of the clip region
+    kOther = 128, ///< anything that draws and has no kind of its own; its text names the record's number
+    kDrawing = kLine | kRectangle | kEllipse | kPolygon | kRegion | kText | kOther,
+    kAll = kDrawing | kClip
+};
+
+/// What is selected in the recorded DC when a record is played. Pens, brushes and fonts are values, not
+/// handles.
+struct MetafileState {
+    std::string pen = "solid 0 000000"; ///< style, width in logical units, RRGGBB; or "null"
+    std::string brush = "FFFFFF";       ///< RRGGBB of a solid brush; or "null"
+    std::string font = "stock";         ///< face, height, "bold" from weight 700, "@" escapement when not 0
+    COLORREF textColor = RGB(0, 0, 0);
+    UINT textAlign = TA_LEFT | TA_TOP;
+    int bkMode = OPAQUE;
+    int mapMode = MM_TEXT;
+    SIZE windowExt = {1, 1};
+    SIZE viewportExt = {1, 1};
+    POINT position = {0, 0};
+    bool clipped = false;
+    RECT clip = {0, 0, 0, 0}; ///< bounds of the clip region in device units, when clipped
+};
+
+/// One record that draws or clips, in the order recorded. Coordinates are logical units as the code gave
+/// them, those of clip regions device units.
+struct MetafileRecord {
+    RecordKind kind;
+    RECT box = {0, 0, 0, 0};   ///< of a rectangle, ellipse, region or clip
+    std::vector<POINT> points; ///< of a line or polygon; the reference point of a text
+    std::string text;          ///< of a text, in the process code page
+    std::string brush;         ///< what fills a region
+    MetafileState state;       ///< what was selected at this moment
+
+    /// The record in one line, the form in which tests compare whole sequences:
+    ///   line 0,0 10,20 pen solid 0 FF0000
+    ///   rect 0,0,10,20 pen null brush FFFFFF        (ellipse alike)
+    ///   polygon 0,0 5,5 9,0 pen solid 0 FF0000 brush null
+    ///   region 0,0,10,20 brush FF0000
+    ///   text 10,20 right|top 3F7F4D Arial 350 "75"
+    ///   clip 0,0,299,199      and      clip none
+    std::string Line() const;
+    /// The clip region's bounds that hold for the record: "0,0,299,199", or "none".
+    std::string ClipText() const;
+};
+
+/// "RRGGBB" of a colour.
+std::string ColourText(COLORREF colour);
+/// "left,top,right,bottom".
+std::string BoxText(const RECT& box);
+
+/// An enhanced metafile into which code under test paints, read back as records.
+class MetafileRecorder {
+public:
+    /// `frame` is the picture's frame in 0.01 mm; without one, the bounds of what is drawn.
+    explicit MetafileRecorder(const RECT* frame = nullptr);
+    MetafileRecorder(const MetafileRecorder&) = delete;
+    MetafileRecorder& operator=(const MetafileRecorder&) = delete;
+    ~MetafileRecorder();
+
+    /// The DC to paint into; nullptr after Close().
+    HDC Dc() const { return m_dc; }
+    /// Ends the recording and reads it back. Call it once, before any of the following.
+    void Close();
+
+    const std::vector<MetafileRecord>& Records() const { return m_records; }
+    /// The lines of the records of these kinds, in order.
+    std::vector<std::string> Lines(unsigned kinds) const;
+    /// The same, each followed by " in " and the clip that holds for it. Texts without a character are left
+    /// out, since they draw nothing.
+    std::vector<std::string> ClippedLines(unsigned kinds) const;
+    /// The records whose line begins with `start`.
+    std::vector<std::string> LinesFrom(const std::string& start) const;
+    /// The strokes made with this pen value, in order.
+    std::vector<std::string> Strokes(const std::string& pen) const;
+    /// The texts alone, in order, without the empty ones.
+    std::vector<std::string> Texts() const;
+    /// The DC's state after the last record.
+    const MetafileState& FinalState() const { return m_state; }
+
+    /// Empty when every object made while recording was deleted, none was deleted while selected, and none is
+    /// selected at the end; otherwise one sentence for each fault. `lasting` holds the values of objects that
+    /// outlive the recording by right; each excuses one object.
+    std::string ObjectFaults(std::vector<std::string> lasting = {}) const;
+    /// How many pens, brushes and fonts entered the recording.
+    int ObjectsMade() const { return m_objectsMade; }
+
+    /// The closed metafile. Owned by the recorder.
+    HENHMETAFILE Handle() const { return m_metafile; }
+
+private:
+    struct Object {
+        char kind;
+        std::string value;
+    };
+    using Header = ENHMETARECORD;
+
+    static int CALLBACK Enumerate(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM self);
+    void Read(const Header& record);
+    bool ReadObject(const Header& record);
+    bool ReadState(const Header& record);
+    bool ReadShape(const Header& record);
+    void ReadClip(const Header& record);
+    void ReadText(const Header& record);
+    void Select(DWORD handle);
+    void SelectStock(DWORD handle);
+    void Make(DWORD handle, char kind, const std::string& value);
+    void Delete(DWORD handle);
+    void Stroke(const POINT& to);
+    MetafileRecord& Add(RecordKind kind);
+
+    HDC m_dc;
+    HENHMETAFILE m_metafile = nullptr;
+    std::vector<MetafileRecord> m_records;
+    MetafileState m_state;
+    std::vector<MetafileState> m_saved;
+    std::map<DWORD, Object> m_objects;
+    std::map<char, DWORD> m_selected;
+    std::string m_faults;
+    int m_objectsMade = 0;
+    DWORD m_lastMade = 0; ///< object that the record before this one made, 0 for none
+};
+
+} // namespace testkit

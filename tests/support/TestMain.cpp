@@ -1,0 +1,30 @@
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace {
+
+/// The application object that window code expects; it has no main window and no message loop of its own.
+class CTestApp : public CWinApp {
+public:
+    CTestApp() : CWinApp("Kavlix tests") {}
+};
+
+CTestApp theApp;
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!AfxWinInit(GetModuleHandle(nullptr), nullptr, GetCommandLine(), SW_HIDE)) {
+        std::fputs("AfxWinInit failed: the window library is not usable, no test was run\n", stderr);
+        return 3;
+    }
+    if (AfxGetApp() != &theApp || AfxGetInstanceHandle() != GetModuleHandle(nullptr)) {
+        std::fputs("AfxWinInit did not set up the application object, no test was run\n", stderr);
+        return 3;
+    }
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

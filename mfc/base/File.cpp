@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "mfc/base/FileTime.h"
+
 IMPLEMENT_DYNAMIC(CFile, CObject)
 
 const HANDLE CFile::hFileNull = INVALID_HANDLE_VALUE;
@@ -56,15 +58,18 @@ void CopyPath(TCHAR (&target)[MAX_PATH], const CString& path) {
     target[length] = '\0';
 }
 
-FILETIME ToFileTime(CTime time) {
-    constexpr ULONGLONG secondsTo1970 = 11644473600;
-    const ULONGLONG ticks = (static_cast<ULONGLONG>(time.GetTime()) + secondsTo1970) * 10000000;
-    return {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
-}
-
 constexpr DWORD kSettableAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
                                       FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_DIRECTORY |
                                       FILE_ATTRIBUTE_ARCHIVE;
+
+/// Times, size and attributes, from either of the records in which the system tells them.
+template <class Info> void TakeInfo(CFileStatus& status, const Info& info) {
+    status.m_ctime = CTime(info.ftCreationTime);
+    status.m_mtime = CTime(info.ftLastWriteTime);
+    status.m_atime = CTime(info.ftLastAccessTime);
+    status.m_size = static_cast<ULONGLONG>(info.nFileSizeHigh) << 32 | info.nFileSizeLow;
+    status.m_attribute = static_cast<BYTE>(info.dwFileAttributes & kSettableAttributes);
+}
 
 } // namespace
 
@@ -240,11 +245,7 @@ BOOL CFile::GetStatus(CFileStatus& status) const {
     BY_HANDLE_FILE_INFORMATION info;
     if (!::GetFileInformationByHandle(m_hFile, &info))
         return FALSE;
-    status.m_ctime = CTime(info.ftCreationTime);
-    status.m_mtime = CTime(info.ftLastWriteTime);
-    status.m_atime = CTime(info.ftLastAccessTime);
-    status.m_size = static_cast<ULONGLONG>(info.nFileSizeHigh) << 32 | info.nFileSizeLow;
-    status.m_attribute = static_cast<BYTE>(info.dwFileAttributes & kSettableAttributes);
+    TakeInfo(status, info);
     return TRUE;
 }
 
@@ -254,11 +255,7 @@ BOOL CFile::GetStatus(LPCTSTR fileName, CFileStatus& status) {
         return FALSE;
     status = CFileStatus{};
     CopyPath(status.m_szFullName, FullPath(fileName));
-    status.m_ctime = CTime(info.ftCreationTime);
-    status.m_mtime = CTime(info.ftLastWriteTime);
-    status.m_atime = CTime(info.ftLastAccessTime);
-    status.m_size = static_cast<ULONGLONG>(info.nFileSizeHigh) << 32 | info.nFileSizeLow;
-    status.m_attribute = static_cast<BYTE>(info.dwFileAttributes & kSettableAttributes);
+    TakeInfo(status, info);
     return TRUE;
 }
 
@@ -271,9 +268,9 @@ void CFile::SetStatus(LPCTSTR fileName, const CFileStatus& status) {
     // A read-only file takes no times: it becomes writable first, and read-only last.
     if ((old & FILE_ATTRIBUTE_READONLY) && !::SetFileAttributes(fileName, FILE_ATTRIBUTE_NORMAL))
         fail();
-    const FILETIME created = ToFileTime(status.m_ctime);
-    const FILETIME accessed = ToFileTime(status.m_atime);
-    const FILETIME modified = ToFileTime(status.m_mtime);
+    const FILETIME created = FileTimeOf(status.m_ctime.GetTime());
+    const FILETIME accessed = FileTimeOf(status.m_atime.GetTime());
+    const FILETIME modified = FileTimeOf(status.m_mtime.GetTime());
     const auto given = [](CTime time, const FILETIME& value) {
         return time.GetTime() != 0 ? &value : nullptr;
     };

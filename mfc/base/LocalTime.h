@@ -1,6 +1,6 @@
 #pragma once
 
-#include <windows.h>
+#include "mfc/base/FileTime.h"
 
 // Local time of the system's zone, with the daylight-saving rules of the year in question. The C library's
 // own zone is not asked: it reads the TZ variable in a form of its own and answers nothing before 1970.
@@ -33,10 +33,7 @@ inline bool IsDaylight(const SYSTEMTIME& utc, const SYSTEMTIME& local) {
     if (!ZoneOfYear(local.wYear, zone) || zone.StandardDate.wMonth == 0 ||
         !::SystemTimeToFileTime(&utc, &a) || !::SystemTimeToFileTime(&local, &b))
         return false;
-    const auto ticks = [](const FILETIME& t) {
-        return static_cast<LONGLONG>(static_cast<ULONGLONG>(t.dwHighDateTime) << 32 | t.dwLowDateTime);
-    };
-    constexpr LONGLONG ticksPerMinute = 600000000;
-    const LONGLONG west = (ticks(a) - ticks(b)) / ticksPerMinute;
+    constexpr LONGLONG ticksPerMinute = 60 * kFileTicksPerSecond;
+    const LONGLONG west = static_cast<LONGLONG>(TicksOf(a) - TicksOf(b)) / ticksPerMinute;
     return zone.DaylightBias != zone.StandardBias && west == zone.Bias + zone.DaylightBias;
 }

@@ -4,33 +4,26 @@
 #include <cstring>
 #include <string>
 
+#include "mfc/base/FileTime.h"
 #include "mfc/base/LocalTime.h"
 
 namespace {
 
-constexpr __time64_t kTicksPerSecond = 10000000;   // a FILETIME counts 100 ns
-constexpr __time64_t kSecondsTo1970 = 11644473600; // from 1601-01-01
-constexpr __time64_t kLastSecond = 910692730085;   // of the last FILETIME that has a date
+constexpr __time64_t kLastSecond = 910692730085; // of the last FILETIME that has a date
 constexpr __time64_t kNoTime = -1;
 
 bool UtcFromTime(__time64_t time, SYSTEMTIME& utc) {
-    if (time < -kSecondsTo1970 || time > kLastSecond)
+    if (time < -kFileTimeTo1970 || time > kLastSecond)
         return false;
-    const auto ticks = static_cast<ULONGLONG>(time + kSecondsTo1970) * kTicksPerSecond;
-    const FILETIME fileTime{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+    const FILETIME fileTime = FileTimeOf(time);
     return ::FileTimeToSystemTime(&fileTime, &utc) != 0;
-}
-
-__time64_t TimeFromFileTime(const FILETIME& fileTime) {
-    const ULONGLONG ticks = static_cast<ULONGLONG>(fileTime.dwHighDateTime) << 32 | fileTime.dwLowDateTime;
-    return static_cast<__time64_t>(ticks / kTicksPerSecond) - kSecondsTo1970;
 }
 
 bool TimeFromUtc(const SYSTEMTIME& utc, __time64_t& time) {
     FILETIME fileTime;
     if (!::SystemTimeToFileTime(&utc, &fileTime))
         return false;
-    time = TimeFromFileTime(fileTime);
+    time = SecondsOf(fileTime);
     // Not every system refuses the 30th of February; some make it a day in March.
     SYSTEMTIME back;
     return UtcFromTime(time, back) && back.wMonth == utc.wMonth && back.wDay == utc.wDay;
@@ -155,7 +148,7 @@ CString CTimeSpan::Format(UINT id) const {
 CTime CTime::GetCurrentTime() {
     FILETIME now;
     ::GetSystemTimeAsFileTime(&now);
-    return CTime(TimeFromFileTime(now));
+    return CTime(SecondsOf(now));
 }
 
 CTime::CTime(int year, int month, int day, int hour, int minute, int second, int isDst) : m_time(kNoTime) {
@@ -190,7 +183,7 @@ CTime::CTime(const SYSTEMTIME& local, int isDst) : m_time(kNoTime) {
     SetLocal(local, isDst);
 }
 
-CTime::CTime(const FILETIME& utc, int) : m_time(TimeFromFileTime(utc)) {
+CTime::CTime(const FILETIME& utc, int) : m_time(SecondsOf(utc)) {
 }
 
 void CTime::SetLocal(const SYSTEMTIME& local, int isDst) {
@@ -269,8 +262,6 @@ int CTime::GetDayOfWeek() const {
 CString CTime::Format(LPCTSTR format) const {
     struct tm local;
     GetLocalTm(&local);
-    struct tm gmt;
-    GetGmtTm(&gmt);
     TIME_ZONE_INFORMATION zone{};
     ZoneOfYear(static_cast<WORD>(std::clamp(local.tm_year + 1900, 1601, 30827)), zone);
     char name[64] = "";

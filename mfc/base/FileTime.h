@@ -1,0 +1,22 @@
+#pragma once
+
+#include <windows.h>
+
+/// The system's file times, which count 100 ns from 1601-01-01, as seconds since 1970-01-01.
+
+constexpr __time64_t kFileTicksPerSecond = 10000000;
+constexpr __time64_t kFileTimeTo1970 = 11644473600; // seconds from 1601 to 1970
+
+inline ULONGLONG TicksOf(const FILETIME& fileTime) {
+    return static_cast<ULONGLONG>(fileTime.dwHighDateTime) << 32 | fileTime.dwLowDateTime;
+}
+
+/// Whole seconds; what is left of a second is cut.
+inline __time64_t SecondsOf(const FILETIME& fileTime) {
+    return static_cast<__time64_t>(TicksOf(fileTime) / kFileTicksPerSecond) - kFileTimeTo1970;
+}
+
+inline FILETIME FileTimeOf(__time64_t seconds) {
+    const ULONGLONG ticks = (static_cast<ULONGLONG>(seconds) + kFileTimeTo1970) * kFileTicksPerSecond;
+    return {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+}

@@ -1,7 +1,6 @@
 #include <kavlix/Dataset.h>
 
-#include <new>
-
+#include "graphctrl/MemoryReport.h"
 #include "graphctrl/SampleStore.h"
 
 namespace {
@@ -27,18 +26,11 @@ BOOL CDataset::AddData(double y, double* pX) {
 }
 
 BOOL CDataset::AddYData(double y) {
-    try {
-        try {
-            m_Samples->Append(y);
-        } catch (const std::bad_alloc&) {
-            AfxThrowMemoryException();
-        }
-    } catch (CMemoryException* exception) {
-        exception->ReportError(MB_OK);
-        exception->Delete();
-        return FALSE;
-    }
-    return TRUE;
+    return kavlix::ReportingExhaustion([&] { m_Samples->Append(y); });
+}
+
+BOOL CDataset::KeepOne() {
+    return kavlix::ReportingExhaustion([&] { m_Samples->KeepOne(); });
 }
 
 BOOL CDataset::GetData(int i, double& x, double& y) const {

@@ -32,6 +32,16 @@ void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
 
 namespace kavlix {
 
+void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, CPen* gridPen, int plotTop) {
+    if (gridPen != nullptr)
+        Select(dc, axisPen);
+    DrawLine(dc, x, rectAxis.bottom, x, rectAxis.top);
+    if (gridPen != nullptr) {
+        Select(dc, *gridPen);
+        dc.LineTo(x, plotTop);
+    }
+}
+
 void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest) {
     const auto drawTwo = [&](const CString& first, const CString& second) {
         dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
@@ -125,13 +135,7 @@ void CGraphCtrl::DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rec
     StockAfterGuard penAfter(dc, NULL_PEN);
     const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, m_rectPlot.left, m_rectPlot.Width());
     LineTicks(xMap, m_XVisibleMin, m_XVisibleMax, m_Datasets[0].GetSize(), minGap, [&](int index, int x) {
-        if (m_GridX)
-            Select(dc, axisPen);
-        DrawLine(dc, x, rectAxis.bottom, x, rectAxis.top);
-        if (m_GridX) {
-            Select(dc, gridPen);
-            dc.LineTo(x, m_rectPlot.top);
-        }
+        DrawXTick(dc, x, rectAxis, axisPen, m_GridX ? &gridPen : nullptr, m_rectPlot.top);
         DrawTickLabel(dc, rectLabel, x, index);
     });
 }

@@ -3,8 +3,9 @@
 int CGraphCtrl::CopyToClipboard() {
     if (m_hWnd == nullptr)
         return 0;
-    // One text instead of the usual two; the second zero, after the literal's own, ends the list of texts.
-    static const char description[] = "Ruvex Trace\0";
+    // One text instead of the usual two: the second is empty, and the literal's own zero ends the list. A
+    // reader of two texts finds all the zeros that it looks for.
+    static const char description[] = "Ruvex Trace\0\0";
     const HDC metafileDc = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, description);
     if (metafileDc == nullptr)
         return 0;

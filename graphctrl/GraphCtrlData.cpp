@@ -43,8 +43,8 @@ BOOL CGraphCtrl::AddXTickLabel(CString up, CString down) {
 }
 
 void CGraphCtrl::ClearSamples(CDataset& dataset) {
-    m_SelectionMarkPos = -1;
     dataset.RemoveAll();
+    StoreMark(-1);
 }
 
 void CGraphCtrl::ResetData(int nDataset) {
@@ -74,7 +74,7 @@ void CGraphCtrl::RemoveHeadData(int nCount) {
         dataset.RemoveYData(0, count);
     RemoveLabels(m_XTickLabelUp, count);
     RemoveLabels(m_XTickLabelDown, count);
-    m_SelectionMarkPos = -1;
+    StoreMark(-1);
     if (m_AutoXVisible)
         m_XVisibleMax = m_Datasets[0].GetSize() - 1 + kBehindNewest;
     RedrawData();

@@ -1,5 +1,8 @@
 #include <kavlix/GraphCtrl.h>
 
+#include <algorithm>
+#include <optional>
+
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "graphctrl/GraphCtrlConvert.h"
@@ -10,8 +13,21 @@ using namespace kavlix;
 void CGraphCtrl::SetSelectionMarkPos(int nPos) {
     if (nPos < -1 || nPos >= m_Datasets[0].GetSize())
         return;
-    m_SelectionMarkPos = nPos;
+    StoreMark(nPos);
     RedrawData();
+}
+
+// Every change of the mark goes through here, so that screen readers and the like hear of it.
+void CGraphCtrl::StoreMark(int nPos) {
+    if (nPos == m_SelectionMarkPos)
+        return;
+    m_SelectionMarkPos = nPos;
+    if (m_hWnd == nullptr)
+        return;
+    if (nPos < 0)
+        ::NotifyWinEvent(EVENT_OBJECT_SELECTIONREMOVE, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+    else
+        ::NotifyWinEvent(EVENT_OBJECT_SELECTION, m_hWnd, OBJID_CLIENT, nPos + 1);
 }
 
 int CGraphCtrl::GetIndexFromPt(CPoint point) {
@@ -37,6 +53,44 @@ CPoint CGraphCtrl::ToLogicalPoint(CPoint point) {
     return point;
 }
 
+CPoint CGraphCtrl::ToClientPoint(CPoint logical) {
+    CClientDC dc(this);
+    SetMapModeAnisotropic(dc);
+    dc.LPtoDP(&logical);
+    return logical;
+}
+
+CPoint CGraphCtrl::GetPtFromIndex(int nIndex) {
+    const Rect plot = ToRect(m_rectPlot);
+    if (m_GraphStyle != GraphStyleBar)
+        return PtOfSample(nIndex,
+                          LinearMap(m_XVisibleMin, m_XVisibleMax, plot.left, plot.Width()).Position(nIndex));
+    int sizes[DatasetCount];
+    GetSizes(sizes);
+    return PtOfSample(nIndex,
+                      BarGroupMiddle(sizes, DatasetCount, m_XVisibleMin, m_XVisibleMax, plot, nIndex));
+}
+
+// The place of sample `nIndex`, which stands at `x`, if anywhere, and as high as the first dataset shown with
+// it.
+CPoint CGraphCtrl::PtOfSample(int nIndex, std::optional<int> x) {
+    const CRect& plot = m_rectPlot;
+    for (int i = 0; i < DatasetCount && x && nIndex >= 0; ++i) {
+        double value = 0;
+        if (!m_Datasets[i].m_Visible || !m_Datasets[i].GetYData(nIndex, value))
+            continue;
+        const bool onY2 = m_GraphStyle == GraphStyleTwoAxis && i == 1;
+        const std::optional<int> y =
+            LinearMap(onY2 ? m_Y2VisibleMin : m_YVisibleMin, onY2 ? m_Y2VisibleMax : m_YVisibleMax,
+                      static_cast<int>(plot.bottom), -plot.Height())
+                .Position(value);
+        if (y && !plot.IsRectEmpty())
+            return CPoint(std::clamp<int>(*x, plot.left, plot.right),
+                          std::clamp<int>(*y, plot.top, plot.bottom));
+    }
+    return plot.CenterPoint();
+}
+
 void CGraphCtrl::RepaintIcon() {
     CClientDC dc(this);
     SavedDcGuard saved(dc);
@@ -49,7 +103,7 @@ void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
         return;
     const CPoint logical = ToLogicalPoint(point);
     if (m_rectPlot.PtInRect(logical)) {
-        m_SelectionMarkPos = GetIndexFromPt(logical);
+        StoreMark(GetIndexFromPt(logical));
         RedrawData();
         if (!NotifyMarkMoved())
             return;
@@ -97,6 +151,16 @@ void CGraphCtrl::OnLButtonUp(UINT nFlags, CPoint point) {
     Default();
 }
 
+void CGraphCtrl::OnCaptureChanged(CWnd* pWnd) {
+    // Somebody else took the mouse in the middle of a press: no click comes of it. Capturing anew is told
+    // too.
+    if (!m_IconMaximizeTracking || pWnd == this)
+        return;
+    m_IconMaximizeTracking = FALSE;
+    m_IconMaximizePressed = FALSE;
+    RepaintIcon();
+}
+
 void CGraphCtrl::OnLButtonDblClk(UINT nFlags, CPoint point) {
     if (::GetParent(m_hWnd) == nullptr)
         return;
@@ -135,7 +199,7 @@ void CGraphCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
     else if (nChar == VK_RIGHT && mark + 1 < m_Datasets[0].GetSize())
         moved = mark + 1;
     if (moved != mark) {
-        m_SelectionMarkPos = moved;
+        StoreMark(moved);
         RedrawData();
         if (!NotifyMarkMoved())
             return;

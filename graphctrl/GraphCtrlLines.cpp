@@ -112,9 +112,15 @@ using namespace kavlix;
 void CGraphCtrl::DrawGraphData(CDC& dc) {
     switch (m_GraphStyle) {
     case GraphStyleLine:
-    case GraphStyleTwoAxis:
-        DrawLines(dc);
+    case GraphStyleTwoAxis: {
+        const CRect& plot = m_rectPlot;
+        const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, plot.left, plot.Width());
+        DrawLines(dc, IndexPositions(xMap), [&](const CDataset& dataset) {
+            const int reach = LineReach(dataset);
+            return IndicesToDraw(xMap, plot.left - reach, plot.right + reach, dataset.GetSize());
+        });
         break;
+    }
     case GraphStyleBar:
         DrawBars(dc);
         break;
@@ -123,7 +129,8 @@ void CGraphCtrl::DrawGraphData(CDC& dc) {
     }
 }
 
-void CGraphCtrl::DrawLines(CDC& dc) {
+void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
+                           const std::function<IndexRange(const CDataset&)>& rangeOf) {
     constexpr COLORREF kMarkColor = RGB(255, 0, 0);
     CBrush triangleBrush;
     triangleBrush.CreateSolidBrush(kMarkColor);
@@ -137,10 +144,8 @@ void CGraphCtrl::DrawLines(CDC& dc) {
     dc.SelectStockObject(NULL_BRUSH);
 
     const CRect& plot = m_rectPlot;
-    const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, plot.left, plot.Width());
     const LinearMap yMap(m_YVisibleMin, m_YVisibleMax, plot.bottom, -plot.Height());
     const LinearMap y2Map(m_Y2VisibleMin, m_Y2VisibleMax, plot.bottom, -plot.Height());
-    const IndexPositions xPositions(xMap);
     const LineMark mark{m_SelectionMarkPos, static_cast<int>(plot.top), static_cast<int>(plot.bottom),
                         cursorPen, triangleBrush};
 
@@ -150,9 +155,7 @@ void CGraphCtrl::DrawLines(CDC& dc) {
         const CDataset& dataset = m_Datasets[i];
         if (!dataset.m_Visible)
             continue;
-        const int reach = LineReach(dataset);
-        const IndexRange range =
-            IndicesToDraw(xMap, plot.left - reach, plot.right + reach, dataset.GetSize());
-        DrawSeriesLine(dc, dataset, pens[i], xPositions, twoAxis && i == 1 ? y2Map : yMap, range, mark);
+        DrawSeriesLine(dc, dataset, pens[i], xPositions, twoAxis && i == 1 ? y2Map : yMap, rangeOf(dataset),
+                       mark);
     }
 }

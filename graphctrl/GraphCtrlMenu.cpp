@@ -12,6 +12,15 @@ void CGraphCtrl::OnRButtonDown(UINT, CPoint point) {
         Default();
 }
 
+void CGraphCtrl::OnContextMenu(CWnd*, CPoint point) {
+    // The mouse's menu opens with the button's press already; what arrives here by mouse is passed on.
+    const CPoint byKeyboard(-1, -1);
+    if (point == byKeyboard)
+        OnContextGraphMenu(ToClientPoint(GetPtFromIndex(m_SelectionMarkPos)));
+    else
+        Default();
+}
+
 void CGraphCtrl::OnContextGraphMenu(CPoint point) {
     CMenu menu;
     if (!menu.CreatePopupMenu())
@@ -23,7 +32,7 @@ void CGraphCtrl::OnContextGraphMenu(CPoint point) {
 
 void CGraphCtrl::InsertGraphMenu(CMenu& menu) {
     // Each item goes on top of those inserted before.
-    const UINT markState = m_SelectionMarkPos < 0 ? MF_GRAYED | MF_DISABLED : MF_ENABLED;
+    const UINT markState = MarkItemState();
     const auto insert = [&](UINT command, UINT textId, UINT state) {
         if (IsMenuItem(menu, command))
             return;
@@ -38,6 +47,10 @@ void CGraphCtrl::InsertGraphMenu(CMenu& menu) {
     insert(ID_EDIT_COPY, IDS_MENU_COPY, MF_ENABLED);
 }
 
+UINT CGraphCtrl::MarkItemState() const {
+    return m_SelectionMarkPos < 0 ? MF_GRAYED | MF_DISABLED : MF_ENABLED;
+}
+
 bool CGraphCtrl::IsMenuItem(CMenu& menu, UINT nID) {
     MENUITEMINFO info = {};
     info.cbSize = sizeof(info);
@@ -48,7 +61,7 @@ bool CGraphCtrl::IsMenuItem(CMenu& menu, UINT nID) {
 void CGraphCtrl::OnHideSelectionMark() {
     if (m_SelectionMarkPos < 0)
         return;
-    m_SelectionMarkPos = -1;
+    StoreMark(-1);
     RedrawData();
     NotifyMarkMoved();
 }

@@ -1,7 +1,5 @@
 #include <kavlix/GraphCtrl.h>
 
-// Sends `record` with the header filled in, if there is a parent. False when the control no longer has its
-// window, or no longer exists, after the parent has handled it: the caller must then touch nothing of it.
 bool CGraphCtrl::Notify(NMGRAPHCTRL& record, UINT nCode) {
     const HWND window = m_hWnd;
     const HWND parent = window != nullptr ? ::GetParent(window) : nullptr;

@@ -62,6 +62,10 @@ struct BarMark {
 void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSlots& slots, int offset,
                     IndexRange range, const Rect& plot, const LinearMap& yMap, const BarMark* mark);
 
+/// Draws an X tick at `x` with the pen that is selected, which is `axisPen` at first. With a `gridPen` the
+/// grid line goes on from it up to `plotTop`, and that pen stays selected.
+void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, CPen* gridPen, int plotTop);
+
 /// Draws the upright texts of an X tick at `x`, `y` being the top of the label band's text: `up` and `down`
 /// side by side, or `up` alone, broken in two when it is longer than `longest`. Text colour and font are the
 /// caller's.

@@ -3,49 +3,35 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "graphctrl/Nearest.h"
+
 namespace kavlix {
 
 namespace {
 
 constexpr long long kTooFar = 1000000;
 
-// The first sample that is not before `x` on the way on which positions run, `count` if all are.
-int FirstNotBefore(const LinearMap& xMap, int count, std::int64_t x) {
-    const bool ascending = xMap.IsAscending();
-    int begin = 0;
-    int end = count;
-    while (begin < end) {
-        const int middle = begin + (end - begin) / 2;
-        const std::int64_t position = xMap.Position(middle).value_or(xMap.Edge());
-        if (ascending ? position < x : position > x)
-            begin = middle + 1;
-        else
-            end = middle;
-    }
-    return begin;
+/// The slots, and the samples in them by the first dataset that has samples; false when there is no bar.
+bool FindGroups(const int* sizes, int sizeCount, double min, double max, const Rect& plot, BarSlots& slots,
+                IndexRange& indices) {
+    if (!ComputeBarSlots(sizes, sizeCount, min, max, plot.Width(), slots) || slots.barWidth == 0)
+        return false;
+    int dataset = 0;
+    while (sizes[dataset] <= 0) // slots were found, so one has samples
+        ++dataset;
+    indices = IndicesInSlots(sizes[dataset], min, slots);
+    return true;
 }
 
 } // namespace
 
 int NearestIndex(const LinearMap& xMap, int count, int x, long long& distance) {
-    if (count <= 0 || !xMap.IsMonotonic())
+    if (count <= 0 || !xMap.Position(0)) // where one sample has a position, all have
         return -1;
-    const auto distanceOf = [&](int index) {
-        return std::llabs(static_cast<long long>(xMap.Position(index).value_or(xMap.Edge())) - x);
-    };
-    const int after = FirstNotBefore(xMap, count, x);
-    if (after == 0) {
-        distance = distanceOf(0);
-        return 0;
-    }
-    // Several samples may share the position before x; the first of them counts.
-    const int before = FirstNotBefore(xMap, count, xMap.Position(after - 1).value_or(xMap.Edge()));
-    if (after == count || distanceOf(before) <= distanceOf(after)) {
-        distance = distanceOf(before);
-        return before;
-    }
-    distance = distanceOf(after);
-    return after;
+    const auto at = [&](int index) { return xMap.Position(index).value_or(xMap.Edge()); };
+    const int nearest = NearestInOrder(0, count - 1, xMap.IsAscending(), x, at);
+    distance = std::llabs(static_cast<long long>(at(nearest)) - x);
+    return nearest;
 }
 
 int NearestIndex(const LinearMap& xMap, const int* sizes, int sizeCount, int x) {
@@ -60,13 +46,9 @@ int NearestIndex(const LinearMap& xMap, const int* sizes, int sizeCount, int x) 
 
 int BarGroupAt(const int* sizes, int sizeCount, double min, double max, const Rect& plot, Point point) {
     BarSlots slots;
-    if (!ComputeBarSlots(sizes, sizeCount, min, max, plot.Width(), slots) || slots.barWidth == 0)
+    IndexRange indices;
+    if (!FindGroups(sizes, sizeCount, min, max, plot, slots, indices))
         return -1;
-    int dataset = 0;
-    while (sizes[dataset] <= 0) // slots were found, so one has samples
-        ++dataset;
-    const IndexRange indices = IndicesInSlots(sizes[dataset], min, slots);
-
     const std::int64_t fromFirst = std::int64_t{point.x} - slots.Band(0, plot).left;
     if (fromFirst < 0)
         return -1;
@@ -74,6 +56,16 @@ int BarGroupAt(const int* sizes, int sizeCount, double min, double max, const Re
     if (slot >= indices.Count() || !slots.Band(static_cast<int>(slot), plot).Contains(point))
         return -1;
     return indices.first + static_cast<int>(slot);
+}
+
+std::optional<int> BarGroupMiddle(const int* sizes, int sizeCount, double min, double max, const Rect& plot,
+                                  int index) {
+    BarSlots slots;
+    IndexRange indices;
+    if (!FindGroups(sizes, sizeCount, min, max, plot, slots, indices) || index < indices.first ||
+        index > indices.last)
+        return std::nullopt;
+    return slots.SlotMiddle(index - indices.first, plot.left);
 }
 
 } // namespace kavlix

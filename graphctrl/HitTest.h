@@ -18,4 +18,8 @@ int NearestIndex(const LinearMap& xMap, const int* sizes, int sizeCount, int x);
 /// first dataset with samples decides.
 int BarGroupAt(const int* sizes, int sizeCount, double min, double max, const Rect& plot, Point point);
 
+/// The middle of the group of bars of sample `index`, in logical units; none when it has no visible group.
+std::optional<int> BarGroupMiddle(const int* sizes, int sizeCount, double min, double max, const Rect& plot,
+                                  int index);
+
 } // namespace kavlix

@@ -17,6 +17,11 @@ void SampleStore::Remove(int first, int count) {
     m_values.erase(begin, begin + std::clamp(count, 0, Size() - first));
 }
 
+void SampleStore::KeepOne() {
+    m_values.resize(1);
+    m_values.shrink_to_fit();
+}
+
 void SampleStore::Clear() {
     m_values.clear();
     m_values.shrink_to_fit();

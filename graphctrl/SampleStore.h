@@ -19,6 +19,8 @@ public:
     /// Removes `count` values from value `first` on, which must exist; a count beyond the end removes up to
     /// the end, one below 1 none.
     void Remove(int first, int count);
+    /// Keeps the first value alone, or a single 0 when there is none.
+    void KeepOne();
     /// Removes all values and gives their memory back.
     void Clear();
 

@@ -7,9 +7,14 @@
 #include <kavlix/Export.h>
 #include <kavlix/GraphNotify.h>
 
+#include <functional>
+#include <optional>
+
 namespace kavlix {
+class XPositions;
 struct GraphLayout;
-}
+struct IndexRange;
+} // namespace kavlix
 
 /// A graph of up to 13 datasets, drawn as lines with markers, as grouped bars, or as two lines against two
 /// value axes, with title or caption band, axis labels, legend, grid and a selection mark.
@@ -185,7 +190,8 @@ public:
     /// erasing.
     void RedrawData();
     /// Marks sample `nPos`, -1 for no mark, and calls RedrawData; ignored unless -1 <= nPos < samples of
-    /// dataset 0. Tells the parent nothing.
+    /// dataset 0. Tells the parent nothing. As every move of the mark, it is reported to assistive tools:
+    /// sample i is child i + 1 of the control's client object.
     void SetSelectionMarkPos(int nPos);
     /// Puts the picture on the clipboard as an enhanced metafile. Result 1; 0 when there is no window or the
     /// metafile could not be made. A clipboard held by somebody else is not detected.
@@ -219,6 +225,11 @@ protected:
     /// Sample under `point` (logical units), -1 for none. Lines: the nearest in X, wherever it is; bars: the
     /// group.
     virtual int GetIndexFromPt(CPoint point);
+    /// Where in the plot sample `nIndex` stands (logical units): on the line of the first visible dataset
+    /// that holds it, or in the middle of its group of bars; at the plot's edge when it lies outside. The
+    /// middle of the plot when there is no such sample or it has no position. The keyboard's context menu
+    /// opens there.
+    virtual CPoint GetPtFromIndex(int nIndex);
 
     // ---- Painting. Destination-independent: screen, printer, metafile and memory DC get the same calls.
     // ----
@@ -254,6 +265,23 @@ protected:
     void SendSelchangeNotifyMessage();
     /// Sends GCN_REMOVEDATA to the parent, if there is one.
     void SendRemoveDataNotifyMessage(int nIndex, int nCount);
+    /// Sends `record`, its header filled in here, to the parent, if there is one. False when the control has
+    /// lost its window, or is gone, by the time the parent has handled it: touch nothing of it then.
+    bool Notify(NMGRAPHCTRL& record, UINT nCode);
+
+    // ---- For derived controls ----
+
+    static bool IsDataset(int nDataset) { return nDataset >= 0 && nDataset < DatasetCount; }
+    /// Stores the mark and reports the change to assistive tools. No repaint, no notification.
+    void StoreMark(int nPos);
+    /// State flags of menu items that need a mark.
+    UINT MarkItemState() const;
+    /// Where in the plot sample `nIndex`, whose X position is `x`, stands; see GetPtFromIndex.
+    CPoint PtOfSample(int nIndex, std::optional<int> x);
+    /// Draws the datasets of the line styles with the mark: samples stand at `xPositions`, and of each
+    /// dataset those of `rangeOf` are looked at.
+    void DrawLines(CDC& dc, const kavlix::XPositions& xPositions,
+                   const std::function<kavlix::IndexRange(const CDataset&)>& rangeOf);
 
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
@@ -261,7 +289,9 @@ protected:
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnEditCopy();
@@ -354,7 +384,6 @@ protected:
     CFont m_LegendFont;     ///< legend rows
 
 private:
-    static bool IsDataset(int nDataset) { return nDataset >= 0 && nDataset < DatasetCount; }
     void ClearSamples(CDataset& dataset);
     void GetSizes(int (&sizes)[DatasetCount]) const;
 
@@ -364,13 +393,12 @@ private:
     void DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen, int minGap);
     void DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, int minGap);
     void DrawTickLabel(CDC& dc, const CRect& rectLabel, int x, int nIndex);
-    void DrawLines(CDC& dc);
     void DrawBars(CDC& dc);
 
     CPoint ToLogicalPoint(CPoint point);
+    CPoint ToClientPoint(CPoint logical);
     int LegendRowAt(CPoint point) const;
     void RepaintIcon();
-    bool Notify(NMGRAPHCTRL& record, UINT nCode);
     bool NotifyMarkMoved();
 };
 

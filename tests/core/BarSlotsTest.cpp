@@ -1,12 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <random>
 
 #include "graphctrl/BarSlots.h"
-#include "graphctrl/HitTest.h"
 
 namespace kavlix {
 namespace {
@@ -67,97 +64,6 @@ TEST(BarSlotsTest, NothingToDivide) {
     const BarSlots wide = Slots({2}, 0, 1.001, 1 << 28);
     EXPECT_GT(wide.barWidth, 0);
     EXPECT_LE(wide.SlotLeft(1, 0), 1 << 28);
-}
-
-int NearestByWalk(const LinearMap& map, const std::vector<int>& sizes, int x) {
-    int found = -1;
-    long long best = 1000000;
-    for (const int size : sizes) {
-        for (int i = 0; i < size; ++i)
-            if (const auto position = map.Position(i)) {
-                const long long distance = std::llabs(static_cast<long long>(*position) - x);
-                if (distance < best) {
-                    best = distance;
-                    found = i;
-                }
-            }
-        if (best < 1000000)
-            break;
-    }
-    return found;
-}
-
-TEST(HitTestTest, NearestEqualsTheWalkOverEverySample) {
-    std::mt19937 random(3);
-    std::uniform_real_distribution<double> uniform(-1, 1);
-    int found = 0;
-    for (int round = 0; round < 20000; ++round) {
-        const double min = uniform(random) * 60;
-        const double range =
-            uniform(random) * std::pow(10, uniform(random) * 4); // either direction, any crowding
-        const LinearMap map(min, min + range, 2230, 3370);
-        std::vector<int> sizes(1 + random() % 3);
-        for (int& size : sizes)
-            size = static_cast<int>(random() % 50);
-        const int x = static_cast<int>(uniform(random) * (round % 5 == 0 ? 3e6 : 9000));
-        const int expected = NearestByWalk(map, sizes, x);
-        ASSERT_EQ(NearestIndex(map, sizes.data(), static_cast<int>(sizes.size()), x), expected)
-            << "x " << x << " in " << min << " + " << range << ", " << sizes[0] << " samples";
-        found += expected >= 0;
-    }
-    EXPECT_GT(found, 10000);
-}
-
-TEST(HitTestTest, NearestCorners) {
-    const auto nearest = [](double min, double max, int size, int x) {
-        return NearestIndex(LinearMap(min, max, 0, 3000), &size, 1, x);
-    };
-    EXPECT_EQ(nearest(0, 10, 11, 450), 1);   // half way between 300 and 600: the lower index
-    EXPECT_EQ(nearest(10, 0, 11, 450), 8);   // turned round as well
-    EXPECT_EQ(nearest(0, 1e6, 5, 0), 0);     // all on one position
-    EXPECT_EQ(nearest(0, 10, 11, 9000), 10); // outside the visible range
-    EXPECT_EQ(nearest(0, 10, 0, 0), -1);
-    EXPECT_EQ(nearest(3, 3, 5, 0), -1);
-    EXPECT_EQ(nearest(std::nan(""), 3, 5, 0), -1);
-    EXPECT_EQ(nearest(0, 10, 11, std::numeric_limits<int>::min()), -1);
-    // A dataset too far away leaves the decision to the next.
-    const int sizes[] = {1, 5000};
-    EXPECT_EQ(NearestIndex(LinearMap(4000, 4010, 0, 3000), sizes, 2, 300), 4001);
-}
-
-TEST(HitTestTest, BarGroupEqualsTheWalkOverEverySlot) {
-    std::mt19937 random(5);
-    std::uniform_real_distribution<double> uniform(0, 1);
-    int hits = 0;
-    for (int round = 0; round < 20000; ++round) {
-        const Rect plot{2230, 1100, 2230 + static_cast<int>(random() % 6000), 3800};
-        const double min = uniform(random) * 20 - 5;
-        const double max = min + uniform(random) * 30;
-        int sizes[3];
-        for (int& size : sizes)
-            size = static_cast<int>(random() % 4 * (random() % 8));
-        const Point point{2000 + static_cast<int>(random() % 7000), 1000 + static_cast<int>(random() % 3000)};
-
-        int expected = -1;
-        BarSlots slots;
-        if (ComputeBarSlots(sizes, 3, min, max, plot.Width(), slots)) {
-            const int size = *std::find_if(sizes, sizes + 3, [](int n) { return n > 0; });
-            int slot = 0;
-            for (int i = 0; i < size && slot < slots.visible && expected < 0; ++i) {
-                if (i < min)
-                    continue;
-                const int left = plot.left + slot * (slots.barWidth + slots.barWidth * slots.datasets);
-                if (point.x >= left - slots.barWidth / 2 &&
-                    point.x < left + slots.barWidth * slots.datasets + slots.barWidth / 2 &&
-                    point.y >= plot.top && point.y < plot.bottom)
-                    expected = i;
-                ++slot;
-            }
-        }
-        ASSERT_EQ(BarGroupAt(sizes, 3, min, max, plot, point), expected);
-        hits += expected >= 0;
-    }
-    EXPECT_GT(hits, 1000);
 }
 
 } // namespace

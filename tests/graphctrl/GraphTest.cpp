@@ -1,12 +1,29 @@
 #include "tests/graphctrl/GraphTest.h"
 
+#include <cstring>
 #include <sstream>
+
+namespace {
+
+std::string Fields(const testkit::RecordingParent::Entry& entry) {
+    NMGRAPHCTRL record;
+    std::memcpy(&record, entry.record, sizeof record);
+    std::ostringstream text;
+    text << " flags " << record.nFlags << " at " << record.pt.x << "," << record.pt.y << " index "
+         << record.nIndex << " count " << record.nCount;
+    return text.str();
+}
+
+} // namespace
 
 void GraphTest::SetUp() {
     ASSERT_TRUE(parent.CreateVisible(800, 640)) << "no display";
     parent.SetRecordSize(sizeof(NMGRAPHCTRL));
     ASSERT_TRUE(graph.Create("MFCGraphCtrl", "window text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200),
                              &parent, kControlId));
+    parent.SetDescription([sender = graph.m_hWnd](const testkit::RecordingParent::Entry& entry) {
+        return (entry.from == sender ? "" : " of another window") + Fields(entry);
+    });
     Settle();
     parent.Forget();
     graph.calls.clear();

@@ -4,6 +4,7 @@
 
 #include <kavlix/GraphCtrl.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,8 +19,11 @@ public:
     using CGraphCtrl::DrawLegend;
     using CGraphCtrl::DrawTitle;
     using CGraphCtrl::DrawYAxis;
+    using CGraphCtrl::GetIndexFromPt;
     using CGraphCtrl::GetTitleTextHeight;
     using CGraphCtrl::RegisterWindowClass;
+    using CGraphCtrl::SendRemoveDataNotifyMessage;
+    using CGraphCtrl::SendSelchangeNotifyMessage;
     using CGraphCtrl::SetMapModeAnisotropic;
 
     using CGraphCtrl::m_AutoXVisible;
@@ -106,10 +110,16 @@ public:
     std::vector<std::string> calls;
     /// WM_ERASEBKGND messages received.
     int erased = 0;
+    /// Called when a message is handed on to the default procedure, before it gets there; empty at first.
+    std::function<void(UINT, WPARAM, LPARAM)> onDefault;
 
     void ResetXTickLabel() override {
         calls.push_back("reset labels");
         CGraphCtrl::ResetXTickLabel();
+    }
+    void InsertGraphMenu(CMenu& menu) override {
+        calls.push_back("menu");
+        CGraphCtrl::InsertGraphMenu(menu);
     }
 
 protected:
@@ -124,5 +134,10 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         erased += message == WM_ERASEBKGND;
         return CGraphCtrl::WindowProc(message, wParam, lParam);
+    }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (onDefault)
+            onDefault(message, wParam, lParam);
+        return CGraphCtrl::DefWindowProc(message, wParam, lParam);
     }
 };

@@ -1,0 +1,179 @@
+// The maximize icon: pressed, left, entered again, released, and the mouse lost in between.
+
+#include "tests/graphctrl/InputTest.h"
+
+namespace {
+
+constexpr COLORREF kUnpainted = RGB(255, 0, 255);
+
+class GraphIconTest : public GraphInputTest {
+protected:
+    void SetUp() override {
+        GraphInputTest::SetUp();
+        graph.SetTitleStyle(CGraphCtrl::TitleStyleCaption);
+        ShowIcon(TRUE);
+    }
+
+    void ShowIcon(BOOL shown) {
+        graph.ShowIconMaximize(shown, FALSE);
+        graph.Redraw();
+        Settle();
+        if (!shown)
+            return;
+        icon = ToDevice(graph.m_rectIconMaximize);
+        ASSERT_GE(icon.Width(), 6);
+        inside = icon.CenterPoint();
+    }
+
+    /// Plays steps: P press on the icon, i and o a move inside and outside, U and u release inside and
+    /// outside, D a double-click on the icon, s somebody else takes the mouse, c the same window takes it
+    /// again. The traffic of each, and how the icon was drawn after a step that drew it.
+    Strings Play(const std::string& steps) {
+        Strings all;
+        for (const char step : steps) {
+            Cover();
+            const Strings lines = Traffic([&] { Do(step); });
+            all.insert(all.end(), lines.begin(), lines.end());
+            if (const char* drawn = Drawn())
+                all.push_back(drawn);
+            EXPECT_EQ(::GetCapture() == graph.m_hWnd, graph.m_IconMaximizeTracking != FALSE) << step;
+        }
+        if (::GetCapture() == parent.m_hWnd)
+            ::ReleaseCapture();
+        return all;
+    }
+
+    CRect icon;
+    CPoint inside;
+    const CPoint outside{100, 100};
+
+private:
+    void Do(char step) {
+        const LPARAM in = MAKELPARAM(inside.x, inside.y), out = MAKELPARAM(outside.x, outside.y);
+        switch (step) {
+        case 'P':
+            graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, in);
+            break;
+        case 'i':
+        case 'o':
+            graph.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, step == 'i' ? in : out);
+            break;
+        case 'U':
+        case 'u':
+            graph.SendMessage(WM_LBUTTONUP, MK_SHIFT, step == 'U' ? in : out);
+            break;
+        case 'D':
+            graph.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, in);
+            break;
+        case 's':
+            parent.SetCapture();
+            break;
+        default:
+            graph.SetCapture();
+        }
+    }
+
+    void Cover() {
+        const HDC dc = ::GetDC(graph.m_hWnd);
+        const HBRUSH brush = ::CreateSolidBrush(kUnpainted);
+        ::FillRect(dc, &icon, brush);
+        ::DeleteObject(brush);
+        ::ReleaseDC(graph.m_hWnd, dc);
+    }
+
+    /// What stands in the window now; nullptr when nothing was drawn since Cover().
+    const char* Drawn() {
+        const HDC dc = ::GetDC(graph.m_hWnd);
+        // The bar of the icon begins one pixel in from its corner, two when pressed.
+        const COLORREF corner = ::GetPixel(dc, icon.left + 1, icon.top + 1);
+        const COLORREF next = ::GetPixel(dc, icon.left + 2, icon.top + 2);
+        ::ReleaseDC(graph.m_hWnd, dc);
+        if (corner == kUnpainted)
+            return nullptr;
+        if (corner == graph.m_CaptionColor)
+            return "icon up";
+        return next == graph.m_CaptionColor ? "icon down" : "icon in pieces";
+    }
+};
+
+} // namespace
+
+TEST_F(GraphIconTest, PressTrackAndRelease) {
+    const std::string in = ToldMouse(GCN_MOUSEMOVE, MK_LBUTTON, inside);
+    const std::string out = ToldMouse(GCN_MOUSEMOVE, MK_LBUTTON, outside);
+    const std::string maximize = ToldMouse(GCN_MAXIMIZE, MK_SHIFT, inside);
+    const struct {
+        const char* steps;
+        Strings traffic; // of the steps after the first, which presses the icon
+    } cases[] = {
+        {"PU", {maximize, "default up", "icon up"}},
+        {"Pou", {out, "icon up", "default up", "icon up"}},
+        {"PoiU", {out, "icon up", in, "icon down", maximize, "default up", "icon up"}},
+        {"Piiu", {in, in, ToldMouse(GCN_MAXIMIZE, MK_SHIFT, outside), "default up", "icon up"}},
+        {"Pooiiou", {out, "icon up", out, in, "icon down", in, out, "icon up", "default up", "icon up"}},
+        {"PUioU", {maximize, "default up", "icon up", in, out, "default up"}},
+        {"PsU", {"icon up", "default up"}},
+        {"PosioU", {out, "icon up", "icon up", in, out, "default up"}},
+        {"PcU", {maximize, "default up", "icon up"}},
+        {"PPU", {"icon down", maximize, "default up", "icon up"}},
+        {"PoPu",
+         {out, "icon up", "icon down", ToldMouse(GCN_MAXIMIZE, MK_SHIFT, outside), "default up", "icon up"}},
+        {"PUDU",
+         {maximize, "default up", "icon up", ToldMouse(GCN_DBLCLK_CAPTION, MK_LBUTTON, inside, -1),
+          "default up"}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.steps);
+        parent.SetFocus();
+        Strings expected = {"focus", "icon down"};
+        expected.insert(expected.end(), each.traffic.begin(), each.traffic.end());
+        EXPECT_EQ(Play(each.steps), expected);
+        EXPECT_FALSE(graph.m_IconMaximizeTracking);
+        EXPECT_FALSE(graph.m_IconMaximizePressed);
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
+    EXPECT_EQ(Play("sUio"), (Strings{"default up", in, out})) << "nothing was pressed";
+    EXPECT_FALSE(graph.m_IconMaximized) << "the picture of the icon is the parent's business";
+}
+
+TEST_F(GraphIconTest, EdgesOfTheIcon) {
+    // The rectangle in logical units decides; a pixel belongs to it when its corner does.
+    const CRect rect = graph.m_rectIconMaximize;
+    const auto up = [](LONG units) { return (units + 29) / 30; };
+    const CPoint first(up(rect.left), up(rect.top)), end(up(rect.right), up(rect.bottom));
+    const struct {
+        CPoint point;
+        bool hit;
+    } cases[] = {{first, true},
+                 {first - CSize(1, 0), false},
+                 {first - CSize(0, 1), false},
+                 {end - CSize(1, 1), true},
+                 {{end.x, first.y}, false},
+                 {{first.x, end.y}, false}};
+    for (const auto& each : cases) {
+        Click(each.point);
+        EXPECT_EQ(graph.m_IconMaximizeTracking != FALSE, each.hit) << each.point.x << "," << each.point.y;
+        Send(WM_LBUTTONUP, 0, 0);
+    }
+}
+
+TEST_F(GraphIconTest, NoIconNoPress) {
+    ShowIcon(FALSE);
+    parent.SetFocus();
+    EXPECT_EQ(Play("PoU"), (Strings{"focus", ToldMouse(GCN_MOUSEMOVE, MK_LBUTTON, outside), "default up"}));
+}
+
+TEST_F(GraphIconTest, TheMouseIsFreeWhenMaximizeIsTold) {
+    // The parent moves and resizes windows there.
+    bool told = false;
+    parent.onNoted = [&](const testkit::RecordingParent::Entry& entry) {
+        if (entry.message != WM_NOTIFY || entry.code != GCN_MAXIMIZE)
+            return;
+        told = true;
+        EXPECT_EQ(::GetCapture(), nullptr);
+        graph.ShowIconMaximize(TRUE, TRUE);
+    };
+    Play("PU");
+    EXPECT_TRUE(told);
+    EXPECT_TRUE(graph.m_IconMaximized);
+}

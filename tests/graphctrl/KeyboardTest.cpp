@@ -1,0 +1,169 @@
+// Keys, what a dialog is told about them, and a control that has no parent.
+
+#include "tests/graphctrl/InputTest.h"
+#include "tests/support/MessageBoxWatcher.h"
+
+namespace {
+
+class GraphKeyboardTest : public GraphInputTest {};
+
+} // namespace
+
+TEST_F(GraphKeyboardTest, KeysMoveTheMarkByOneAndTellWhatChanged) {
+    const struct {
+        const char* name;
+        int samples;
+        int mark;
+        UINT key;
+        LPARAM details; // repeat count and flags of the message
+        int moved;
+    } cases[] = {
+        {"Right without a mark", 3, -1, VK_RIGHT, 1, 0},
+        {"Right", 3, 0, VK_RIGHT, 1, 1},
+        {"Right to the last", 3, 1, VK_RIGHT, 1, 2},
+        {"Right at the last", 3, 2, VK_RIGHT, 1, 2},
+        {"Right, repeated", 3, 0, VK_RIGHT, 0x40000005, 1},
+        {"Right in an empty control", 0, -1, VK_RIGHT, 1, -1},
+        {"Left without a mark", 3, -1, VK_LEFT, 1, -1},
+        {"Left", 3, 2, VK_LEFT, 1, 1},
+        {"Left, repeated", 3, 2, VK_LEFT, 0x40000005, 1},
+        {"Left at the first", 3, 0, VK_LEFT, 1, 0},
+        {"Left in an empty control", 0, -1, VK_LEFT, 1, -1},
+        {"Escape", 3, 0, VK_ESCAPE, 1, -1},
+        {"Escape without a mark", 3, -1, VK_ESCAPE, 1, -1},
+        {"Up", 3, 1, VK_UP, 1, 1},
+        {"Down", 3, 1, VK_DOWN, 1, 1},
+        {"Home", 3, 1, VK_HOME, 1, 1},
+        {"End", 3, 1, VK_END, 1, 1},
+        {"Page Down", 3, 1, VK_NEXT, 1, 1},
+        {"Delete", 3, 1, VK_DELETE, 1, 1},
+        {"a letter", 3, 1, 'C', 1, 1},
+        {"no such key", 3, 1, 0xFFFF, 1, 1},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        graph.ResetData(0);
+        for (int i = 0; i < each.samples; ++i)
+            Add(0, {1.0});
+        Add(1, {1, 2, 3, 4, 5, 6}); // does not bound the mark
+        Mark(each.mark);
+        Strings expected = {"default key"};
+        if (each.moved != each.mark)
+            expected = {Event(each.moved), Told(GCN_SELCHANGE, each.moved), "default key",
+                        PostedMark(each.moved)};
+        EXPECT_EQ(Send(WM_KEYDOWN, each.key, each.details), expected);
+        EXPECT_EQ(graph.m_SelectionMarkPos, each.moved);
+        Mark(each.mark);
+        graph.SendMessage(WM_KEYDOWN, each.key, each.details);
+        EXPECT_EQ(Text(UpdateRect()), each.moved != each.mark ? "20,17,218,181" : "0,0,0,0");
+    }
+}
+
+TEST_F(GraphKeyboardTest, DialogsAreToldWhichKeysTheControlWants) {
+    Add(0, {1, 2});
+    const auto key = [](UINT message, WPARAM code) {
+        MSG asked = {};
+        asked.message = message;
+        asked.wParam = code;
+        return asked;
+    };
+    const MSG escape = key(WM_KEYDOWN, VK_ESCAPE), tab = key(WM_KEYDOWN, VK_TAB),
+              up = key(WM_KEYUP, VK_ESCAPE);
+    const struct {
+        const char* name;
+        int mark;
+        const MSG* asked;
+        LRESULT code;
+    } cases[] = {
+        {"in general", -1, nullptr, DLGC_WANTARROWS},
+        {"in general, marked", 1, nullptr, DLGC_WANTARROWS},
+        {"Escape without a mark", -1, &escape, DLGC_WANTARROWS},
+        {"Escape, marked", 0, &escape, DLGC_WANTARROWS | DLGC_WANTMESSAGE},
+        {"Tab, marked", 1, &tab, DLGC_WANTARROWS},
+        {"Escape let go, marked", 1, &up, DLGC_WANTARROWS},
+    };
+    for (const auto& each : cases) {
+        Mark(each.mark);
+        EXPECT_EQ(graph.SendMessage(WM_GETDLGCODE, each.asked != nullptr ? each.asked->wParam : 0,
+                                    reinterpret_cast<LPARAM>(each.asked)),
+                  each.code)
+            << each.name;
+    }
+}
+
+TEST_F(GraphKeyboardTest, WithoutAParentTheMouseDoesNothingAndKeysMoveTheMark) {
+    OpenGraph alone;
+    Strings handedOn;
+    alone.onDefault = [&](UINT message, WPARAM, LPARAM) {
+        if (message == WM_KEYDOWN || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST))
+            handedOn.push_back(std::to_string(message));
+    };
+    ASSERT_TRUE(
+        alone.CreateEx(0, "MFCGraphCtrl", "", WS_POPUP | WS_VISIBLE, 0, 210, 300, 200, nullptr, nullptr));
+    for (const double value : {1.0, 2.0, 3.0})
+        alone.AddData(0, value, nullptr);
+    alone.SetTitleStyle(CGraphCtrl::TitleStyleCaption);
+    alone.ShowIconMaximize(TRUE, FALSE);
+    alone.Redraw();
+    alone.UpdateWindow();
+    parent.SetFocus();
+    testkit::Pump();
+    ASSERT_EQ(::GetParent(alone.m_hWnd), nullptr);
+    handedOn.clear();
+    parent.Forget();
+
+    const CPoint icon = ToDevice(alone.m_rectIconMaximize).CenterPoint();
+    for (const CPoint point : {CPoint(131, 80), icon})
+        for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONDBLCLK}) {
+            alone.SendMessage(message, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+            EXPECT_EQ(alone.m_SelectionMarkPos, -1);
+            EXPECT_FALSE(alone.m_IconMaximizeTracking);
+            EXPECT_EQ(::GetFocus(), parent.m_hWnd) << "not even the focus";
+            EXPECT_EQ(::GetCapture(), nullptr);
+        }
+    EXPECT_EQ(handedOn, Strings());
+    alone.SendMessage(WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(handedOn, Strings{std::to_string(WM_LBUTTONUP)});
+    // A press from the time when there was a parent.
+    alone.m_IconMaximizeTracking = alone.m_IconMaximizePressed = TRUE;
+    alone.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(131, 80));
+    EXPECT_TRUE(alone.m_IconMaximizePressed);
+    alone.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(icon.x, icon.y));
+    EXPECT_FALSE(alone.m_IconMaximizeTracking || alone.m_IconMaximizePressed);
+    ::ValidateRect(alone.m_hWnd, nullptr);
+
+    handedOn.clear();
+    alone.SendMessage(WM_KEYDOWN, VK_RIGHT, 1);
+    EXPECT_EQ(alone.m_SelectionMarkPos, 0);
+    EXPECT_TRUE(::GetUpdateRect(alone.m_hWnd, nullptr, FALSE));
+    alone.SendMessage(WM_KEYDOWN, VK_RIGHT, 1);
+    EXPECT_EQ(alone.m_SelectionMarkPos, 1);
+    alone.SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+    EXPECT_EQ(alone.m_SelectionMarkPos, -1);
+    EXPECT_EQ(handedOn, Strings(3, std::to_string(WM_KEYDOWN)));
+
+    alone.SetSelectionMarkPos(2);
+    alone.SendMessage(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK);
+    EXPECT_EQ(alone.m_SelectionMarkPos, -1);
+    {
+        testkit::MessageBoxWatcher watcher(IDYES);
+        alone.SetSelectionMarkPos(2);
+        alone.SendMessage(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
+        EXPECT_EQ(alone.GetDatasetSize(0), 1);
+    }
+    alone.SendSelchangeNotifyMessage();
+    alone.SendRemoveDataNotifyMessage(0, 1);
+    testkit::Pump();
+    EXPECT_EQ(parent.Log(), Strings()) << "nobody is told";
+    alone.DestroyWindow();
+}
+
+TEST_F(GraphKeyboardTest, AnOwnerIsToldLikeAParent) {
+    OpenGraph owned;
+    ASSERT_TRUE(owned.CreateEx(0, "MFCGraphCtrl", "", WS_POPUP | WS_VISIBLE, 0, 210, 300, 200, parent.m_hWnd,
+                               nullptr));
+    owned.AddData(0, 1, nullptr);
+    EXPECT_EQ(Traffic([&] { owned.SendMessage(WM_KEYDOWN, VK_RIGHT, 1); }),
+              (Strings{"notify 1254 id 0 of another window flags 0 at 0,0 index 0 count 0", PostedMark(0)}));
+    owned.DestroyWindow();
+}

@@ -1,0 +1,340 @@
+// The context menu, by mouse and by keyboard, and the commands behind it.
+
+#include "tests/graphctrl/InputTest.h"
+#include "tests/support/GdiCounter.h"
+#include "tests/support/ImportHook.h"
+#include "tests/support/MessageBoxWatcher.h"
+
+#include <algorithm>
+
+namespace {
+
+const std::string kCopy = "57634 Copy";
+const std::string kClear = "1324 &Clear Selection Mark";
+const std::string kRemove = "1325 &Remove Data Before Selection Mark";
+const std::string kClearGray = "1324 gray &Clear Selection Mark";
+const std::string kRemoveGray = "1325 gray &Remove Data Before Selection Mark";
+
+UINT g_trackFlags = 0;
+HWND g_trackOwner = nullptr;
+decltype(&::TrackPopupMenu) g_track = nullptr;
+
+BOOL WINAPI NotingTrack(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner, const RECT* rect) {
+    g_trackFlags = flags;
+    g_trackOwner = owner;
+    return g_track(menu, flags, x, y, reserved, owner, rect);
+}
+
+/// A control whose menus are noted as they open, and answered with keys.
+class GraphMenuTest : public GraphInputTest {
+protected:
+    void SetUp() override {
+        GraphInputTest::SetUp();
+        Add(0, {10, 20, 30, 40, 50, 60, 70, 80, 90, 100});
+        FixX(0, 9);
+        graph.MoveWindow(200, 150, 300, 200);
+        Settle();
+        graph.onDefault = [this, notes = graph.onDefault](UINT message, WPARAM wParam, LPARAM lParam) {
+            if (message == WM_INITMENUPOPUP) {
+                opened = MenuItems(reinterpret_cast<HMENU>(wParam));
+            } else if (message == WM_ENTERIDLE && !answered) {
+                // The menu is on the screen and waits.
+                answered = true;
+                CRect rect;
+                ::GetWindowRect(reinterpret_cast<HWND>(lParam), &rect);
+                graph.ScreenToClient(&rect);
+                place = rect.TopLeft();
+                parent.Remark("menu open");
+                for (const WPARAM key : answer)
+                    graph.PostMessage(WM_KEYDOWN, key, 1);
+            }
+            notes(message, wParam, lParam);
+        };
+    }
+
+    /// The traffic of `action`, which opens a menu; it is answered with these keys.
+    Strings Open(std::initializer_list<WPARAM> keys, const std::function<void()>& action) {
+        answered = false;
+        answer = keys;
+        opened.clear();
+        place = CPoint(-1000, -1000);
+        return Traffic(action);
+    }
+    Strings OpenByMouse(std::initializer_list<WPARAM> keys, CPoint point) {
+        return Open(keys,
+                    [&] { graph.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(point.x, point.y)); });
+    }
+    Strings OpenByKeyboard(std::initializer_list<WPARAM> keys) {
+        return Open(keys, [this] {
+            graph.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(graph.m_hWnd), MAKELPARAM(-1, -1));
+        });
+    }
+    Strings Command(UINT command) { return Send(WM_COMMAND, command, 0); }
+
+    Strings opened; ///< the items of the menu
+    CPoint place;   ///< its corner, client pixels
+
+private:
+    std::vector<WPARAM> answer;
+    bool answered = false;
+};
+
+} // namespace
+
+TEST_F(GraphMenuTest, ItemsStandOnTopOfWhatTheMenuHolds) {
+    const struct {
+        const char* name;
+        int mark;
+        BOOL remove;
+        int times;
+        Strings before; // items that the menu holds already
+        Strings items;
+    } cases[] = {
+        {"no mark", -1, TRUE, 1, {}, {kCopy, "-", kClearGray, kRemoveGray}},
+        {"mark", 0, TRUE, 1, {}, {kCopy, "-", kClear, kRemove}},
+        {"without removal", 0, FALSE, 1, {}, {kCopy, "-", kClear}},
+        {"without removal or mark", -1, FALSE, 1, {}, {kCopy, "-", kClearGray}},
+        {"twice", 3, TRUE, 2, {}, {"-", kCopy, "-", kClear, kRemove}},
+        {"host's own items", 3, TRUE, 1, {"7 Own"}, {kCopy, "-", kClear, kRemove, "7 Own"}},
+        {"host's own copy", 3, TRUE, 1, {"57634 Own"}, {"-", kClear, kRemove, "57634 Own"}},
+        {"host's own removal", -1, TRUE, 1, {"1325 Own"}, {kCopy, "-", kClearGray, "1325 Own"}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        Mark(each.mark);
+        graph.ShowMenuRemoveDataBeforeSelectionMark(each.remove);
+        CMenu menu;
+        ASSERT_TRUE(menu.CreatePopupMenu());
+        for (const std::string& item : each.before)
+            menu.AppendMenu(MF_STRING, static_cast<UINT_PTR>(std::stoi(item)), "Own");
+        for (int i = 0; i < each.times; ++i)
+            graph.InsertGraphMenu(menu);
+        EXPECT_EQ(MenuItems(menu), each.items);
+        EXPECT_TRUE(graph.IsMenuItem(menu, ID_GRAPH_CLEAR_SELECTION_MARK));
+        EXPECT_EQ(graph.IsMenuItem(menu, 7), !each.before.empty() && each.before[0] == "7 Own");
+    }
+    CMenu none;
+    EXPECT_FALSE(graph.IsMenuItem(none, ID_EDIT_COPY));
+}
+
+TEST_F(GraphMenuTest, RightButtonOpensTheMenuThereAndIsHandedOnAfterwards) {
+    testkit::ImportHook hook("KavlixMfc.dll", "TrackPopupMenu", reinterpret_cast<void*>(&NotingTrack));
+    ASSERT_TRUE(hook.Installed());
+    g_track = reinterpret_cast<decltype(g_track)>(hook.Original());
+    graph.calls.clear();
+    EXPECT_EQ(OpenByMouse({VK_ESCAPE}, {40, 30}), (Strings{"menu open", "default right"}));
+    EXPECT_EQ(std::count(graph.calls.begin(), graph.calls.end(), "menu"), 1) << "derived classes add to it";
+    EXPECT_EQ(place, CPoint(40, 30));
+    EXPECT_EQ(opened, (Strings{kCopy, "-", kClearGray, kRemoveGray}));
+    EXPECT_EQ(g_trackFlags, UINT(TPM_RIGHTBUTTON));
+    EXPECT_EQ(g_trackOwner, graph.m_hWnd);
+
+    Mark(4);
+    EXPECT_EQ(OpenByMouse({VK_DOWN, VK_DOWN, VK_RETURN}, {0, 0}),
+              (Strings{"menu open", "default right", Event(-1), Told(GCN_SELCHANGE, -1), PostedMark(-1)}))
+        << "the command arrives after the menu has closed";
+    EXPECT_EQ(opened, (Strings{kCopy, "-", kClear, kRemove}));
+    EXPECT_EQ(graph.m_SelectionMarkPos, -1);
+
+    EXPECT_EQ(OpenByMouse({VK_DOWN, VK_DOWN, VK_RETURN, VK_ESCAPE}, {0, 0})[0], "menu open");
+    EXPECT_EQ(graph.m_SelectionMarkPos, -1) << "a gray item does nothing";
+}
+
+TEST_F(GraphMenuTest, MenusAreDestroyed) {
+    OpenByMouse({VK_ESCAPE}, {5, 5});
+    const testkit::ObjectCounts before = testkit::CountObjects();
+    for (int i = 0; i < 5; ++i)
+        OpenByMouse({VK_ESCAPE}, {5, 5});
+    EXPECT_EQ(testkit::CountObjects().menus, before.menus);
+    EXPECT_EQ(testkit::CountObjects().windows, before.windows);
+}
+
+TEST_F(GraphMenuTest, KeyboardOpensTheMenuAtTheMark) {
+    // The plot is 2230..5600 x 1100..3800 in units, 30 to a pixel; values 0..100 run upwards.
+    const struct {
+        const char* name;
+        CGraphCtrl::GraphStyle style;
+        double min, max;
+        int mark;
+        CPoint place;
+    } cases[] = {
+        {"no mark: the middle", CGraphCtrl::GraphStyleLine, 0, 9, -1, {130, 81}},
+        {"first sample", CGraphCtrl::GraphStyleLine, 0, 9, 0, {74, 117}},
+        {"sample 4 of value 50", CGraphCtrl::GraphStyleLine, 0, 9, 4, {124, 81}},
+        {"left of the plot: its edge", CGraphCtrl::GraphStyleLine, 5, 9, 1, {74, 108}},
+        {"right of the plot: its edge", CGraphCtrl::GraphStyleLine, 0, 3, 8, {186, 45}},
+        // Ten groups of one bar 168 wide in steps of 336.
+        {"bar", CGraphCtrl::GraphStyleBar, 0, 9, 4, {121, 81}},
+        {"bar before the range: the middle", CGraphCtrl::GraphStyleBar, 5, 9, 1, {130, 81}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        graph.SetGraphStyle(each.style);
+        FixX(each.min, each.max);
+        graph.Redraw();
+        Mark(each.mark);
+        EXPECT_EQ(OpenByKeyboard({VK_ESCAPE}), Strings{"menu open"});
+        EXPECT_EQ(opened.size(), 4u);
+        EXPECT_NEAR(place.x, each.place.x, 1);
+        EXPECT_NEAR(place.y, each.place.y, 1);
+    }
+    Mark(2);
+    EXPECT_EQ(OpenByKeyboard({VK_DOWN, VK_DOWN, VK_RETURN}),
+              (Strings{"menu open", Event(-1), Told(GCN_SELCHANGE, -1), PostedMark(-1)}));
+}
+
+TEST_F(GraphMenuTest, KeyboardOpensTheMenuAtTheFirstDatasetShown) {
+    Add(1, {0, 1, 2, 3, 40});
+    Mark(4);
+    graph.ShowDataset(0, FALSE);
+    EXPECT_EQ(OpenByKeyboard({VK_ESCAPE}), Strings{"menu open"});
+    EXPECT_NEAR(place.y, 90, 1) << "value 40 of 0 to 100";
+    graph.SetGraphStyle(CGraphCtrl::GraphStyleTwoAxis);
+    graph.SetY2VisibleMax(50);
+    graph.Redraw();
+    Settle();
+    EXPECT_EQ(OpenByKeyboard({VK_ESCAPE}), Strings{"menu open"});
+    EXPECT_NEAR(place.y, 54, 1) << "value 40 of 0 to 50, on the other axis";
+    Mark(7);
+    EXPECT_EQ(OpenByKeyboard({VK_ESCAPE}), Strings{"menu open"});
+    EXPECT_NEAR(place.y, 81, 1) << "beyond the end of the dataset shown: the middle";
+}
+
+TEST_F(GraphMenuTest, KeyboardOpensTheMenuWhereTheControlHasNoRoomForAPlot) {
+    // Moved away from the screen's corner, for the place may lie outside the control.
+    graph.MoveWindow(300, 300, 40, 40);
+    Settle();
+    Mark(9);
+    ASSERT_LT(graph.m_rectPlot.right, graph.m_rectPlot.left);
+    EXPECT_EQ(OpenByKeyboard({VK_ESCAPE}), Strings{"menu open"});
+    const CRect plot = ToDevice(graph.m_rectPlot);
+    EXPECT_NEAR(place.x, (plot.left + plot.right) / 2, 1);
+    EXPECT_NEAR(place.y, (plot.top + plot.bottom) / 2, 1);
+}
+
+TEST_F(GraphMenuTest, MenuKeyAndShiftF10OpenIt) {
+    // Through the system's input, which makes the message of these keys.
+    const auto press = [](std::initializer_list<WORD> keys) {
+        std::vector<INPUT> inputs;
+        for (const DWORD flags : {DWORD(0), DWORD(KEYEVENTF_KEYUP)})
+            for (const WORD key : keys) {
+                INPUT input = {};
+                input.type = INPUT_KEYBOARD;
+                input.ki.wVk = key;
+                input.ki.dwFlags = flags;
+                inputs.push_back(input);
+            }
+        ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    };
+    graph.SetFocus();
+    ::SetForegroundWindow(parent.m_hWnd);
+    testkit::Pump();
+    ASSERT_EQ(::GetForegroundWindow(), parent.m_hWnd);
+    ASSERT_EQ(::GetFocus(), graph.m_hWnd);
+    const Strings expected = {"default key", "menu open"}; // the key, or Shift
+    EXPECT_EQ(Open({VK_ESCAPE}, [&] { press({VK_APPS}); }), expected);
+    EXPECT_EQ(opened.size(), 4u);
+    EXPECT_EQ(Open({VK_ESCAPE}, [&] { press({VK_SHIFT, VK_F10}); }), expected);
+    EXPECT_EQ(opened.size(), 4u);
+}
+
+TEST_F(GraphMenuTest, TheMousesContextMenuMessageIsHandedOn) {
+    // One press, one menu: the release brings this message.
+    const auto own = reinterpret_cast<WPARAM>(graph.m_hWnd);
+    const LPARAM at = MAKELPARAM(40, 30);
+    EXPECT_EQ(
+        Open({VK_ESCAPE}, [&] { graph.SendMessage(WM_CONTEXTMENU, own, at); }),
+        (Strings{"default menu", "sent message 123 w=" + std::to_string(own) + " l=" + std::to_string(at)}));
+    EXPECT_EQ(opened, Strings());
+}
+
+TEST_F(GraphMenuTest, TheMenuIsWhatADerivedClassMakesOfIt) {
+    class Derived : public OpenGraph {
+    public:
+        std::vector<CPoint> points;
+        void OnContextGraphMenu(CPoint point) override { points.push_back(point); }
+    } derived;
+    ASSERT_TRUE(
+        derived.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(300, 0, 600, 200), &parent, 8));
+    derived.onDefault = [&](UINT message, WPARAM, LPARAM) {
+        if (message == WM_ENTERIDLE) // a menu after all
+            derived.PostMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+    };
+    derived.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(12, 34));
+    ASSERT_EQ(derived.points.size(), 1u);
+    EXPECT_EQ(derived.points[0], CPoint(12, 34)) << "client pixels";
+    derived.SendMessage(WM_CONTEXTMENU, 0, MAKELPARAM(-1, -1));
+    EXPECT_EQ(derived.points.size(), 2u);
+    derived.DestroyWindow();
+}
+
+TEST_F(GraphMenuTest, ClearTakesTheMarkAwayOnce) {
+    Mark(4);
+    EXPECT_EQ(Command(ID_GRAPH_CLEAR_SELECTION_MARK),
+              (Strings{Event(-1), Told(GCN_SELCHANGE, -1), PostedMark(-1)}));
+    EXPECT_EQ(graph.m_SelectionMarkPos, -1);
+    EXPECT_EQ(Command(ID_GRAPH_CLEAR_SELECTION_MARK), Strings());
+    Settle();
+    graph.SendMessage(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK);
+    EXPECT_EQ(Text(UpdateRect()), "0,0,0,0") << "nothing to redraw";
+}
+
+TEST_F(GraphMenuTest, RemovalAsksAndTellsHowMany) {
+    const struct {
+        const char* name;
+        int mark;
+        int answer;
+        int samples; // of ten, afterwards
+        Strings traffic;
+    } cases[] = {
+        {"Yes", 4, IDYES, 6, {Event(-1), Told(GCN_REMOVEDATA, 0, 4)}},
+        {"No", 4, IDNO, 10, {}},
+        {"Yes at the first", 0, IDYES, 10, {Event(-1), Told(GCN_REMOVEDATA, 0, 0)}},
+        {"Yes at the last", 9, IDYES, 1, {Event(-1), Told(GCN_REMOVEDATA, 0, 9)}},
+        {"Yes without a mark", -1, IDYES, 10, {Told(GCN_REMOVEDATA, 0, -1)}},
+        {"Yes with a mark past the end", 50, IDYES, 0, {Event(-1), Told(GCN_REMOVEDATA, 0, 10)}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        graph.ResetAll();
+        for (int i = 0; i < 10; ++i) {
+            Add(0, {10.0 * i});
+            graph.AddXTickLabel("label", std::to_string(i).c_str());
+        }
+        graph.m_SelectionMarkPos = each.mark;
+        testkit::MessageBoxWatcher watcher(each.answer);
+        EXPECT_EQ(Command(ID_GRAPH_REMOVE_DATA_BEFORE_MARK), each.traffic);
+        EXPECT_EQ(graph.GetDatasetSize(0), each.samples);
+        EXPECT_EQ(graph.m_XTickLabelUp.GetSize(), each.samples);
+        EXPECT_EQ(graph.m_SelectionMarkPos, each.answer == IDYES ? -1 : each.mark);
+        double first = -1;
+        if (each.samples > 0 && graph.GetYData(0, 0, first)) {
+            EXPECT_EQ(first, 10.0 * (10 - each.samples)) << "the oldest went";
+        }
+        ASSERT_EQ(watcher.Boxes().size(), 1u);
+        const auto& box = watcher.Boxes()[0];
+        EXPECT_EQ(box.text, "Remove data before selection mark?");
+        EXPECT_EQ(box.buttons, (std::vector<int>{IDYES, IDNO}));
+        EXPECT_EQ(box.defaultButton, IDNO);
+        EXPECT_EQ(box.icon, UINT(MB_ICONHAND));
+    }
+}
+
+TEST_F(GraphMenuTest, RemovalIsVirtual) {
+    class Derived : public OpenGraph {
+    public:
+        std::vector<int> counts;
+        void RemoveHeadData(int count) override { counts.push_back(count); }
+    } derived;
+    ASSERT_TRUE(
+        derived.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(300, 0, 600, 200), &parent, 8));
+    for (int i = 0; i < 10; ++i)
+        derived.AddData(0, 1, nullptr);
+    testkit::MessageBoxWatcher watcher(IDYES);
+    for (const int mark : {-1, 4, 20}) {
+        derived.m_SelectionMarkPos = mark;
+        derived.SendMessage(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
+    }
+    EXPECT_EQ(derived.counts, (std::vector<int>{-1, 4, 10}));
+    derived.DestroyWindow();
+}

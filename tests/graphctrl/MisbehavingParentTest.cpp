@@ -1,0 +1,330 @@
+#include "tests/graphctrl/GraphTest.h"
+#include "tests/support/GdiCounter.h"
+
+#include <algorithm>
+#include <functional>
+
+// What a parent may do while the control waits for it, in the handling of a notification or while its menu or
+// message box is open. Whatever that is, the control must find out what is left of it afterwards.
+
+namespace {
+
+/// Memory that nobody may touch any more; who does is let through and counted.
+class ForbiddenPages {
+public:
+    ForbiddenPages() {
+        s_touched = 0;
+        m_handler = ::AddVectoredExceptionHandler(1, &ForbiddenPages::OnException);
+    }
+    ForbiddenPages(const ForbiddenPages&) = delete;
+    ForbiddenPages& operator=(const ForbiddenPages&) = delete;
+    ~ForbiddenPages() {
+        ::RemoveVectoredExceptionHandler(m_handler);
+        for (const Block& block : s_blocks)
+            ::VirtualFree(block.begin, 0, MEM_RELEASE);
+        s_blocks.clear();
+    }
+    static int Touched() { return s_touched; }
+
+    static void* Take(std::size_t size) {
+        return ::VirtualAlloc(nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    }
+    /// Until the object ends, the pages are not given to anybody else.
+    static void Forbid(void* memory, std::size_t size) {
+        DWORD former = 0;
+        ::VirtualProtect(memory, size, PAGE_NOACCESS, &former);
+        s_blocks.push_back({static_cast<char*>(memory), size});
+    }
+
+private:
+    struct Block {
+        char* begin;
+        std::size_t size;
+    };
+
+    static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
+        const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+        if (record.ExceptionCode != EXCEPTION_ACCESS_VIOLATION)
+            return EXCEPTION_CONTINUE_SEARCH;
+        auto* const touched = reinterpret_cast<char*>(record.ExceptionInformation[1]);
+        for (const Block& block : s_blocks) {
+            if (touched < block.begin || touched >= block.begin + block.size)
+                continue;
+            ++s_touched;
+            DWORD former = 0;
+            ::VirtualProtect(block.begin, block.size, PAGE_READWRITE, &former);
+            return EXCEPTION_CONTINUE_EXECUTION;
+        }
+        return EXCEPTION_CONTINUE_SEARCH;
+    }
+
+    static int s_touched;
+    static std::vector<Block> s_blocks;
+    void* m_handler;
+};
+
+int ForbiddenPages::s_touched = 0;
+std::vector<ForbiddenPages::Block> ForbiddenPages::s_blocks;
+
+/// A control whose memory is forbidden once it is deleted.
+class PagedGraph : public OpenGraph {
+public:
+    static void* operator new(std::size_t size) { return ForbiddenPages::Take(size); }
+    static void operator delete(void* memory, std::size_t size) { ForbiddenPages::Forbid(memory, size); }
+};
+
+constexpr int kControlId = 77;
+
+/// A parent with a control, and what the parent does in the middle.
+class Scene {
+public:
+    Scene() {
+        s_current = this;
+        m_hook = ::SetWindowsHookEx(WH_CALLWNDPROCRET, &Scene::OnReturned, nullptr, ::GetCurrentThreadId());
+        parent.SetRecordSize(sizeof(NMGRAPHCTRL));
+        EXPECT_TRUE(parent.CreateVisible(400, 300));
+        EXPECT_TRUE(other.CreateVisible(400, 300));
+        graph = new PagedGraph;
+        EXPECT_TRUE(graph->Create("MFCGraphCtrl", "text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200),
+                                  &parent, kControlId));
+        window = graph->m_hWnd;
+        for (int i = 0; i < 20; ++i) {
+            graph->AddData(0, i * 5, nullptr);
+            graph->AddData(1, 50, nullptr);
+        }
+        graph->SetLegend(0, "zero");
+        graph->SetTitleStyle(CGraphCtrl::TitleStyleCaption);
+        graph->ShowIconMaximize(TRUE, FALSE);
+        graph->SetSelectionMarkPos(5);
+        graph->UpdateWindow();
+        testkit::Pump();
+        parent.Forget();
+    }
+    Scene(const Scene&) = delete;
+    Scene& operator=(const Scene&) = delete;
+    ~Scene() {
+        action = nullptr;
+        parent.onNoted = nullptr;
+        delete graph;
+        if (parent.m_hWnd != nullptr)
+            parent.DestroyWindow();
+        other.DestroyWindow();
+        testkit::Pump();
+        ::UnhookWindowsHookEx(m_hook);
+        s_current = nullptr;
+    }
+
+    /// The middle of a rectangle of the control's layout, as a mouse message has it.
+    static LPARAM Middle(const CRect& logical) {
+        const CPoint middle = logical.CenterPoint();
+        return MAKELPARAM(middle.x / 30, middle.y / 30);
+    }
+    void Send(UINT message, WPARAM wParam, LPARAM lParam) { ::SendMessage(window, message, wParam, lParam); }
+    void Post(UINT message, WPARAM wParam, LPARAM lParam) { ::PostMessage(window, message, wParam, lParam); }
+
+    int Notifications() const {
+        int count = 0;
+        for (const auto& entry : parent.Entries())
+            count += entry.message == WM_NOTIFY;
+        return count;
+    }
+    /// The action's turn, once.
+    void Act() {
+        if (!action)
+            return;
+        const auto now = action;
+        action = nullptr;
+        acted = true;
+        now(*this);
+        toldBefore = Notifications();
+    }
+
+    testkit::RecordingParent parent;
+    testkit::RecordingParent other;
+    PagedGraph* graph = nullptr;
+    HWND window = nullptr;
+    std::function<void(Scene&)> action;
+    std::function<void(Scene&)> trigger;
+    bool inDialog = false; ///< the action's turn is while the message box is open
+    bool acted = false;
+    int toldBefore = 0; ///< notifications up to the end of the action
+
+private:
+    static LRESULT CALLBACK OnReturned(int code, WPARAM wParam, LPARAM lParam) {
+        const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+        if (code == HC_ACTION && s_current != nullptr) {
+            constexpr int kDialogClassAtom = 32770;
+            if (message.message == WM_INITDIALOG &&
+                ::GetClassLongPtr(message.hwnd, GCW_ATOM) == kDialogClassAtom) {
+                if (s_current->inDialog)
+                    s_current->Act();
+                ::EndDialog(message.hwnd, IDYES);
+            } else if (message.message == WM_ENTERIDLE && message.wParam == MSGF_MENU) {
+                s_current->Act();
+                ::EndMenu();
+                // That finds no menu window to end when the owner was destroyed.
+                ::PostThreadMessage(::GetCurrentThreadId(), WM_KEYDOWN, VK_ESCAPE, 1);
+            }
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static Scene* s_current;
+    HHOOK m_hook;
+};
+
+Scene* Scene::s_current = nullptr;
+
+const struct Occasion {
+    const char* name;
+    UINT code;     ///< in the handling of this notification; 0 while menu or message box is open
+    bool tracking; ///< with the button down on the icon
+    std::function<void(Scene&)> trigger;
+} kOccasions[] = {
+    {"click", GCN_SELCHANGE, false,
+     [](Scene& s) { s.Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(100, 80)); }},
+    {"key", GCN_SELCHANGE, false, [](Scene& s) { s.Send(WM_KEYDOWN, VK_RIGHT, 1); }},
+    {"Escape", GCN_SELCHANGE, false, [](Scene& s) { s.Send(WM_KEYDOWN, VK_ESCAPE, 1); }},
+    {"clear by menu", GCN_SELCHANGE, false,
+     [](Scene& s) { s.Send(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK, 0); }},
+    {"remove by menu", GCN_REMOVEDATA, false,
+     [](Scene& s) { s.Send(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, 0); }},
+    {"move", GCN_MOUSEMOVE, false, [](Scene& s) { s.Send(WM_MOUSEMOVE, 0, MAKELPARAM(100, 80)); }},
+    {"move with the icon pressed", GCN_MOUSEMOVE, true,
+     [](Scene& s) { s.Send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(100, 80)); }},
+    {"icon", GCN_MAXIMIZE, true,
+     [](Scene& s) { s.Send(WM_LBUTTONUP, 0, Scene::Middle(s.graph->m_rectIconMaximize)); }},
+    {"double-click", GCN_DBLCLK, false,
+     [](Scene& s) { s.Send(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(100, 80)); }},
+    {"double-click on the caption", GCN_DBLCLK_CAPTION, false,
+     [](Scene& s) { s.Send(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(100, 8)); }},
+    {"double-click on the legend", GCN_DBLCLK_LEGEND, false,
+     [](Scene& s) { s.Send(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(205, 60)); }},
+    {"open message box", 0, false,
+     [](Scene& s) {
+         s.inDialog = true;
+         s.Send(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, 0);
+     }},
+    {"open menu", 0, false, [](Scene& s) { s.Send(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(100, 80)); }},
+    {"menu opened by key", 0, false,
+     [](Scene& s) { s.Send(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(s.window), -1); }},
+};
+
+const struct Misdeed {
+    const char* name;
+    bool destroys; ///< the control has no window after it
+    std::function<void(Scene&)> action;
+} kMisdeeds[] = {
+    {"destroys the control's window", true, [](Scene& s) { s.graph->DestroyWindow(); }},
+    {"deletes the control", true,
+     [](Scene& s) {
+         delete s.graph;
+         s.graph = nullptr;
+     }},
+    {"replaces the control", true,
+     [](Scene& s) {
+         delete s.graph;
+         s.graph = new PagedGraph;
+         ASSERT_TRUE(s.graph->Create("MFCGraphCtrl", "new", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200),
+                                     &s.parent, kControlId));
+         s.graph->AddData(0, 1, nullptr);
+     }},
+    {"destroys itself", true, [](Scene& s) { s.parent.DestroyWindow(); }},
+    {"resets all", false,
+     [](Scene& s) {
+         s.graph->ResetAll();
+         s.graph->ResetData(0);
+     }},
+    {"pumps messages", false,
+     [](Scene& s) {
+         s.Post(WM_KEYDOWN, VK_LEFT, 1);
+         s.Post(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(120, 80));
+         s.Post(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 5));
+         s.Post(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK, 0);
+         testkit::Pump();
+     }},
+    {"moves the mark", false,
+     [](Scene& s) {
+         s.graph->SetSelectionMarkPos(-1);
+         s.graph->SetSelectionMarkPos(19);
+     }},
+    {"removes samples", false, [](Scene& s) { s.graph->RemoveHeadData(19); }},
+    {"changes the icon", false,
+     [](Scene& s) {
+         s.graph->ShowIconMaximize(FALSE, FALSE);
+         s.graph->Redraw();
+         s.graph->UpdateWindow();
+         s.graph->ShowIconMaximize(TRUE, TRUE);
+     }},
+    {"changes size and style", false,
+     [](Scene& s) {
+         s.graph->MoveWindow(0, 0, 3, 2);
+         s.graph->SetTitleStyle(CGraphCtrl::TitleStyleText);
+         s.graph->SetGraphStyle(CGraphCtrl::GraphStyleBar);
+         s.graph->UpdateWindow();
+     }},
+    {"causes the same again", false, [](Scene& s) { s.trigger(s); }},
+    {"gives the control away", false, [](Scene& s) { s.graph->SetParent(&s.other); }},
+    {"sets the control free", false, [](Scene& s) { s.graph->SetParent(nullptr); }},
+};
+
+void Play(const Occasion& occasion, const Misdeed& misdeed) {
+    SCOPED_TRACE(std::string(occasion.name) + ": the parent " + misdeed.name);
+    Scene scene;
+    if (occasion.tracking)
+        scene.Send(WM_LBUTTONDOWN, MK_LBUTTON, Scene::Middle(scene.graph->m_rectIconMaximize));
+    EXPECT_EQ(::GetCapture() == scene.window, occasion.tracking);
+    scene.action = misdeed.action;
+    scene.trigger = occasion.trigger;
+    scene.parent.onNoted = [&](const testkit::RecordingParent::Entry& entry) {
+        if (entry.message == WM_NOTIFY && entry.code == occasion.code)
+            scene.Act();
+    };
+    scene.trigger(scene);
+    EXPECT_TRUE(scene.acted);
+    EXPECT_EQ(::IsWindow(scene.window) == FALSE, misdeed.destroys);
+    if (misdeed.destroys) {
+        EXPECT_EQ(scene.Notifications(), scene.toldBefore) << "told after its end";
+    } else {
+        // What is left of the control still works.
+        const int mark = scene.graph->m_SelectionMarkPos;
+        EXPECT_TRUE(mark >= -1 && mark < std::max(scene.graph->GetDatasetSize(0), 0)) << mark;
+        scene.Send(WM_LBUTTONUP, 0, MAKELPARAM(100, 80));
+        scene.Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(100, 80));
+        scene.graph->Redraw();
+        scene.graph->UpdateWindow();
+        EXPECT_FALSE(scene.graph->m_IconMaximizeTracking || scene.graph->m_IconMaximizePressed);
+    }
+    EXPECT_EQ(::GetCapture(), nullptr);
+    testkit::Pump();
+    EXPECT_EQ(ForbiddenPages::Touched(), 0) << "of a deleted control";
+}
+
+} // namespace
+
+TEST(GraphMisbehavingParentTest, TheGuardSeesATouch) {
+    const ForbiddenPages pages;
+    auto* const graph = new PagedGraph;
+    auto* const mark = &graph->m_SelectionMarkPos;
+    delete graph;
+    *static_cast<volatile int*>(mark) = 1;
+    EXPECT_EQ(ForbiddenPages::Touched(), 1);
+}
+
+TEST(GraphMisbehavingParentTest, NothingBreaksAndNothingIsSentAfterTheEnd) {
+    testkit::ObjectCounts before;
+    for (int round = 0; round < 2; ++round) { // the first makes what the platform keeps for itself
+        if (round == 1)
+            before = testkit::CountObjects();
+        for (const Occasion& occasion : kOccasions) {
+            for (const Misdeed& misdeed : kMisdeeds) {
+                const bool warms = &misdeed == kMisdeeds || &occasion == kOccasions || occasion.code == 0;
+                if (round == 0 && !warms)
+                    continue;
+                const ForbiddenPages pages;
+                Play(occasion, misdeed);
+            }
+        }
+    }
+    EXPECT_EQ(testkit::CountObjects(), before);
+}

@@ -1,0 +1,245 @@
+#include "tests/graphctrl/OpenGraph.h"
+#include "tests/support/GdiCounter.h"
+#include "tests/support/MessageBoxWatcher.h"
+#include "tests/support/RecordingParent.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <iterator>
+
+namespace {
+
+/// The same numbers on every machine and in every run.
+class Numbers {
+public:
+    explicit Numbers(std::uint32_t seed) : m_state(seed) {}
+    std::uint32_t Next() {
+        m_state ^= m_state << 13;
+        m_state ^= m_state >> 17;
+        m_state ^= m_state << 5;
+        return m_state;
+    }
+    int Below(int bound) { return static_cast<int>(Next() % static_cast<std::uint32_t>(bound)); }
+    bool OneIn(int count) { return Below(count) == 0; }
+
+private:
+    std::uint32_t m_state;
+};
+
+/// A control whose menu, one time in eight the real one, is over at once.
+class BriefMenuGraph : public OpenGraph {
+public:
+    int menus = 0;
+
+    void OnContextGraphMenu(CPoint point) override {
+        if (++menus % 8 == 0) {
+            CGraphCtrl::OnContextGraphMenu(point);
+            return;
+        }
+        CMenu menu;
+        ASSERT_TRUE(menu.CreatePopupMenu());
+        InsertGraphMenu(menu);
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_ENTERIDLE && wParam == MSGF_MENU)
+            ::EndMenu();
+        return OpenGraph::WindowProc(message, wParam, lParam);
+    }
+};
+
+class GraphRandomMessagesTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(parent.CreateVisible(800, 640)) << "no display";
+        ASSERT_TRUE(
+            graph.Create("MFCGraphCtrl", "text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 77));
+        graph.UpdateWindow();
+    }
+
+    int LongestSize() const {
+        int longest = 0;
+        for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
+            longest = std::max(longest, graph.GetDatasetSize(i));
+        return longest;
+    }
+
+    double Odd() {
+        const double odd[] = {0, 1, -1, 50, 100, 5e-324, 1e9, -1e15, 1e300, -1e308, NAN, INFINITY, -INFINITY};
+        return odd[numbers.Below(static_cast<int>(std::size(odd)))];
+    }
+    double End() { return numbers.OneIn(5) ? Odd() : numbers.Below(4000) / 10.0 - 50; }
+
+    /// One change of what the messages meet.
+    void ChangeData() {
+        const int kind = numbers.Below(100);
+        const int dataset = numbers.Below(numbers.OneIn(3) ? 13 : 3);
+        if (kind < 60) {
+            const int count = LongestSize() < 400 ? numbers.Below(20) : 0;
+            for (int i = 0; i < count; ++i)
+                graph.AddData(dataset, numbers.OneIn(8) ? Odd() : numbers.Below(120) - 10, nullptr);
+        } else if (kind < 70) {
+            graph.RemoveHeadData(numbers.OneIn(4) ? numbers.Below(1000) - 10 : numbers.Below(9));
+        } else if (kind < 74) {
+            graph.ResetData(dataset);
+        } else if (kind < 75) {
+            graph.ResetAll();
+        } else if (kind < 85) {
+            graph.SetSelectionMarkPos(numbers.Below(graph.GetDatasetSize(0) + 20) - 10);
+        } else if (kind < 90) {
+            graph.SetAutoXVisible(numbers.OneIn(2));
+            graph.SetXVisibleMin(End());
+            graph.SetXVisibleMax(numbers.OneIn(8) ? graph.m_XVisibleMin : End());
+            graph.SetYVisibleMin(End());
+            graph.SetYVisibleMax(End());
+        } else if (kind < 94) {
+            graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(numbers.Below(4)));
+            graph.SetTitleStyle(static_cast<CGraphCtrl::TitleStyle>(numbers.Below(2)));
+            graph.ShowIconMaximize(numbers.OneIn(2), numbers.OneIn(2));
+        } else if (kind < 97) {
+            graph.SetLegend(dataset, numbers.OneIn(2) ? "text" : "");
+            graph.ShowLegend(!numbers.OneIn(4));
+            graph.ShowDataset(dataset, !numbers.OneIn(4));
+            graph.AddXTickLabel("12:34:56", "");
+        } else if (kind < 98) {
+            graph.MoveWindow(0, 0, numbers.Below(numbers.OneIn(4) ? 12 : 600), numbers.Below(500));
+        } else {
+            graph.Redraw();
+            graph.UpdateWindow();
+        }
+    }
+
+    LPARAM Place() {
+        if (numbers.OneIn(6))
+            return static_cast<LPARAM>(static_cast<std::int32_t>(numbers.Next()));
+        const CRect icon = graph.m_rectIconMaximize;
+        if (numbers.OneIn(4))
+            return MAKELPARAM(icon.left / 30 + numbers.Below(8) - 2, icon.top / 30 + numbers.Below(8) - 2);
+        return MAKELPARAM(numbers.Below(320) - 10, numbers.Below(220) - 10);
+    }
+
+    /// Sends one message of the kinds that the control handles; the result is its number.
+    UINT SendOne() {
+        const UINT usual[] = {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_KEYDOWN};
+        UINT message = usual[numbers.Below(static_cast<int>(std::size(usual)))];
+        WPARAM wParam = numbers.Next() & 0xFFFF;
+        LPARAM lParam = Place();
+        MSG query = {graph.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}};
+        CDC dc;
+        if (message == WM_KEYDOWN) {
+            const WPARAM keys[] = {VK_LEFT, VK_RIGHT, VK_RIGHT, VK_ESCAPE, VK_APPS, VK_F10, VK_RETURN};
+            wParam = numbers.OneIn(5) ? static_cast<WPARAM>(numbers.Below(256))
+                                      : keys[numbers.Below(static_cast<int>(std::size(keys)))];
+            lParam = static_cast<LPARAM>(static_cast<std::int32_t>(numbers.Next()));
+        } else if (numbers.OneIn(8)) {
+            switch (numbers.Below(600) / 5) {
+            case 0:
+                message = WM_COMMAND;
+                wParam = ID_GRAPH_REMOVE_DATA_BEFORE_MARK;
+                lParam = 0;
+                break;
+            case 1:
+            case 2:
+                message = WM_COMMAND;
+                wParam = ID_EDIT_COPY;
+                lParam = 0;
+                break;
+            case 3:
+            case 4:
+            case 5:
+                message = WM_PRINTCLIENT;
+                dc.CreateCompatibleDC(nullptr);
+                wParam = reinterpret_cast<WPARAM>(dc.m_hDC);
+                lParam = PRF_CLIENT;
+                break;
+            case 6:
+            case 7:
+            case 8:
+                message = WM_PAINT;
+                graph.InvalidateRect(CRect(0, 0, numbers.Below(300), numbers.Below(200)), FALSE);
+                break;
+            case 9:
+            case 10:
+            case 11:
+            case 12:
+                message = WM_RBUTTONDOWN;
+                break;
+            case 13:
+            case 14:
+                message = WM_CONTEXTMENU;
+                wParam = reinterpret_cast<WPARAM>(graph.m_hWnd);
+                lParam = -1;
+                break;
+            default:
+                message = numbers.OneIn(3)   ? WM_COMMAND
+                          : numbers.OneIn(2) ? WM_GETDLGCODE
+                                             : WM_CAPTURECHANGED;
+                if (message == WM_COMMAND) {
+                    wParam = ID_GRAPH_CLEAR_SELECTION_MARK;
+                    lParam = 0;
+                } else if (message == WM_GETDLGCODE) {
+                    lParam = numbers.OneIn(2) ? reinterpret_cast<LPARAM>(&query) : 0;
+                } else {
+                    lParam = 0;
+                }
+            }
+        }
+        graph.SendMessage(message, wParam, lParam);
+        return message;
+    }
+
+    void SendMany(int count) {
+        testkit::MessageBoxWatcher boxes(IDYES);
+        for (int i = 0; i < count; ++i) {
+            if (numbers.OneIn(4))
+                ChangeData();
+            if (i % 500 == 0) {
+                testkit::Pump();
+                parent.Forget();
+                graph.calls.clear();
+                boxes.SetAnswer(i % 1000 == 0 ? IDYES : IDNO);
+            }
+            const int before = graph.m_SelectionMarkPos;
+            ASSERT_TRUE(before >= -1 && before < LongestSize()) << before << " after data changed, " << i;
+            const UINT message = SendOne();
+            const int mark = graph.m_SelectionMarkPos;
+            ASSERT_TRUE(mark >= -1 && mark < LongestSize())
+                << mark << " after message " << message << ", " << i;
+            // Where dataset 0 has no sample near the click, the next dataset decides. Nothing but a click
+            // takes the mark there, and from there it only goes back.
+            if (mark > before && message != WM_LBUTTONDOWN) {
+                ASSERT_LT(mark, graph.GetDatasetSize(0)) << "after message " << message << ", " << i;
+            }
+            marked += mark >= 0;
+            beyond += mark >= graph.GetDatasetSize(0);
+        }
+        asked += static_cast<int>(boxes.Boxes().size());
+        ::ReleaseCapture();
+        testkit::Pump();
+    }
+
+    Numbers numbers{20240607};
+    testkit::RecordingParent parent;
+    BriefMenuGraph graph;
+    int marked = 0; ///< messages after which there was a mark
+    int beyond = 0; ///< of those, messages after which dataset 0 did not hold the marked sample
+    int asked = 0;  ///< message boxes answered
+};
+
+} // namespace
+
+TEST_F(GraphRandomMessagesTest, AHundredThousandLeaveMarkAndObjectsInOrder) {
+    ASSERT_NO_FATAL_FAILURE(SendMany(20000)); // what the platform keeps for itself is made by then
+    const testkit::ObjectCounts before = testkit::CountObjects();
+    ASSERT_NO_FATAL_FAILURE(SendMany(100000));
+    EXPECT_EQ(testkit::CountObjects(), before);
+    // The numbers have led everywhere.
+    EXPECT_GT(marked, 30000);
+    EXPECT_GT(beyond, 100);
+    EXPECT_GT(asked, 20);
+    EXPECT_GT(graph.menus, 80);
+}

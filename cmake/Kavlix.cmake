@@ -22,11 +22,16 @@ function(kavlix_compile_options target)
     endif()
 endfunction()
 
-# Resource scripts are read by windres, which knows the include roots only when told.
+# Resource scripts are read by windres, which knows the include roots only when told, and does not tell what it has
+# included.
 function(kavlix_resources target script)
     target_sources(${target} PRIVATE ${script})
+    file(GLOB included CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/module/*.rc ${PROJECT_SOURCE_DIR}/module/resource.h
+         ${PROJECT_SOURCE_DIR}/monitor/*.rc ${PROJECT_SOURCE_DIR}/monitor/*.manifest
+         ${PROJECT_SOURCE_DIR}/monitor/resource.h ${PROJECT_SOURCE_DIR}/include/kavlix/GraphNotify.h)
     set_source_files_properties(
-        ${script} PROPERTIES INCLUDE_DIRECTORIES "${PROJECT_SOURCE_DIR};${PROJECT_SOURCE_DIR}/mfc/include")
+        ${script} PROPERTIES INCLUDE_DIRECTORIES "${PROJECT_SOURCE_DIR};${PROJECT_SOURCE_DIR}/mfc/include"
+                             OBJECT_DEPENDS "${included}")
 endfunction()
 
 # The DLLs of the compiler's own run time stand beside the programs: exceptions cross DLL borders here, so

@@ -110,7 +110,11 @@ void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
     } else if (m_rectIconMaximize.PtInRect(logical)) {
         m_IconMaximizeTracking = TRUE;
         m_IconMaximizePressed = TRUE;
+        // Whoever held the capture hears of it.
+        const HWND window = m_hWnd;
         SetCapture();
+        if (CWnd::FromHandlePermanent(window) != this)
+            return;
         RepaintIcon();
     }
     // Last, so that the notifications find the focus where it was.

@@ -72,7 +72,7 @@ void CGraphCtrl::OnRemoveDataBeforeSelectionMark() {
     const HWND window = m_hWnd;
     if (AfxMessageBox(question, MB_YESNO | MB_ICONHAND | MB_DEFBUTTON2) == IDNO)
         return;
-    if (CWnd::FromHandlePermanent(window) != this)
+    if (window != nullptr && CWnd::FromHandlePermanent(window) != this)
         return;
     const int count = std::min(m_Datasets[0].GetSize(), m_SelectionMarkPos);
     RemoveHeadData(count);

@@ -44,17 +44,23 @@ recording::ValueSpan LiveReadings::AxisSpan() {
 }
 
 LiveReadings::Change LiveReadings::Add(recording::Time now, const MachineRates& rates) {
-    Change change;
     // A clock that was set back would put the new reading before older ones.
     if (!m_times.empty() && now <= m_times.back())
         now = m_times.back() + 1;
     m_times.push_back(now);
     m_rates.push_back(rates);
-    if (m_times.size() > kHistory) {
-        change.removed = m_times.size() - kHistory;
-        m_times.erase(m_times.begin(), m_times.begin() + static_cast<std::ptrdiff_t>(change.removed));
-        m_rates.erase(m_rates.begin(), m_rates.begin() + static_cast<std::ptrdiff_t>(change.removed));
-    }
+    return Trim(m_times.size() - std::min(m_times.size(), kHistory));
+}
+
+LiveReadings::Change LiveReadings::RemoveHead(std::size_t count) {
+    return Trim(m_times.empty() ? 0 : std::min(count, m_times.size() - 1));
+}
+
+LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
+    Change change;
+    change.removed = removed;
+    m_times.erase(m_times.begin(), m_times.begin() + static_cast<std::ptrdiff_t>(removed));
+    m_rates.erase(m_rates.begin(), m_rates.begin() + static_cast<std::ptrdiff_t>(removed));
     double highest = 0;
     for (const MachineRates& reading : m_rates)
         highest =

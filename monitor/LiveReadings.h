@@ -25,7 +25,7 @@ public:
 
     LiveReadings();
 
-    /// What Add did to the recording.
+    /// What Add or RemoveHead did to the recording.
     struct Change {
         std::size_t removed = 0;  ///< samples that went at the head
         bool unitChanged = false; ///< values of the network series are in another unit now
@@ -34,7 +34,10 @@ public:
     /// Takes a reading that was made at `now` (local time). `rates` are those since the reading before it.
     Change Add(recording::Time now, const MachineRates& rates);
 
-    /// The history; a new object after every Add.
+    /// Takes away the oldest readings; the latest always stays.
+    Change RemoveHead(std::size_t count);
+
+    /// The history; a new object after every Add and RemoveHead.
     std::shared_ptr<const recording::Recording> History() const { return m_recording; }
 
     /// Names of the series, with the units they are drawn in, and `(not available)` behind those that were
@@ -48,6 +51,7 @@ public:
     std::string AxisText() const;
 
 private:
+    Change Trim(std::size_t removed);
     void Rebuild();
 
     std::vector<recording::Time> m_times;

@@ -14,8 +14,6 @@ namespace {
 
 constexpr int kDefaultWidth = 1000; // of the window's inside, in pixels
 constexpr int kDefaultHeight = 640;
-constexpr int kStatusTextMargin = 24; // pixels round the text of a status bar pane
-constexpr int kStatusTextShare = 2;   // the summary takes at most one part in so many of the status bar
 
 } // namespace
 
@@ -26,11 +24,27 @@ ON_WM_SETFOCUS()
 ON_WM_GETMINMAXINFO()
 ON_WM_ERASEBKGND()
 ON_WM_TIMER()
+ON_WM_DESTROY()
 ON_NOTIFY(GCN_SELCHANGE, IDC_GRAPH, &CMainFrame::OnSelectionChanged)
+ON_NOTIFY(GCN_MOUSEMOVE, IDC_GRAPH, &CMainFrame::OnPointerMoved)
+ON_NOTIFY(MGN_MOUSELEAVE, IDC_GRAPH, &CMainFrame::OnPointerLeft)
+ON_NOTIFY(GCN_DBLCLK_LEGEND, IDC_GRAPH, &CMainFrame::OnLegendDoubleClick)
+ON_NOTIFY(GCN_DBLCLK_CAPTION, IDC_GRAPH, &CMainFrame::OnCaptionDoubleClick)
+ON_NOTIFY(GCN_MAXIMIZE, IDC_GRAPH, &CMainFrame::OnMaximize)
+ON_NOTIFY(GCN_REMOVEDATA, IDC_GRAPH, &CMainFrame::OnDataRemoved)
+ON_NOTIFY(MGN_COPIED, IDC_GRAPH, &CMainFrame::OnCopied)
+ON_NOTIFY(MGN_NOTCOPIED, IDC_GRAPH, &CMainFrame::OnNotCopied)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
 ON_COMMAND(ID_FILE_LIVE, &CMainFrame::OnFileLive)
 ON_UPDATE_COMMAND_UI(ID_FILE_LIVE, &CMainFrame::OnUpdateFileLive)
 ON_COMMAND(ID_FILE_SAVE_PICTURE, &CMainFrame::OnFileSavePicture)
+ON_COMMAND(ID_EDIT_COPY, &CMainFrame::OnEditCopy)
+ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CMainFrame::OnUpdateEditCopy)
+ON_COMMAND_RANGE(ID_GRAPH_CLEAR_SELECTION_MARK, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CMainFrame::OnEditGraph)
+ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CMainFrame::OnUpdateClearMark)
+ON_UPDATE_COMMAND_UI(ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CMainFrame::OnUpdateRemoveData)
+ON_COMMAND(ID_VIEW_FILL, &CMainFrame::OnViewFill)
+ON_UPDATE_COMMAND_UI(ID_VIEW_FILL, &CMainFrame::OnUpdateViewFill)
 ON_COMMAND_RANGE(ID_VIEW_LINE, ID_VIEW_TWO_AXES, &CMainFrame::OnViewStyle)
 ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LINE, ID_VIEW_TWO_AXES, &CMainFrame::OnUpdateViewStyle)
 ON_COMMAND(ID_VIEW_LEGEND, &CMainFrame::OnViewLegend)
@@ -52,7 +66,6 @@ CMainFrame::CMainFrame(recording::Options options, int& exitStatus)
 bool CMainFrame::CreateMainWindow() {
     if (!LoadFrame(IDR_MAINFRAME, WS_OVERLAPPEDWINDOW))
         return false;
-    SetWindowText("Kavlix Monitor");
     CSize size(kDefaultWidth, kDefaultHeight);
     if (m_options.size)
         size = CSize(m_options.size->width, m_options.size->height);
@@ -70,10 +83,15 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     constexpr int failed = -1;
     if (CFrameWnd::OnCreate(lpCreateStruct) == failed)
         return failed;
-    if (!m_status.Create(WS_CHILD | WS_VISIBLE | CCS_BOTTOM | SBARS_SIZEGRIP, CRect(0, 0, 0, 0), this,
-                         IDC_STATUS))
+    if (!m_status.CreateBar(*this, IDC_STATUS))
         return failed;
     return m_graph.CreateChild(*this, IDC_GRAPH) ? 0 : failed;
+}
+
+void CMainFrame::OnDestroy() {
+    if (m_menuWhileFilled)
+        ::DestroyMenu(m_menuWhileFilled);
+    CFrameWnd::OnDestroy();
 }
 
 void CMainFrame::OnSize(UINT nType, int cx, int cy) {
@@ -98,9 +116,18 @@ BOOL CMainFrame::OnEraseBkgnd(CDC*) {
 }
 
 BOOL CMainFrame::PreTranslateMessage(MSG* pMsg) {
-    if (m_loader && pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE) {
-        CancelReading();
-        return TRUE;
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE) {
+        if (m_loader) {
+            CancelReading();
+            return TRUE;
+        }
+        // Escape first clears the mark. A key that is held for that does not go on to leave the filled
+        // window.
+        const bool held = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0;
+        if (m_filling && !held && m_filling->SelectionMark().index < 0) {
+            Fill(nullptr);
+            return TRUE;
+        }
     }
     return CFrameWnd::PreTranslateMessage(pMsg);
 }
@@ -108,36 +135,39 @@ BOOL CMainFrame::PreTranslateMessage(MSG* pMsg) {
 void CMainFrame::LayOut() {
     if (!m_graph.GetSafeHwnd() || !m_status.GetSafeHwnd())
         return;
-    m_status.SendMessage(WM_SIZE);
-    SetStatus(m_statusText, m_statusSummary);
     CRect client;
     GetClientRect(&client);
+    if (m_filling) {
+        m_filling->MoveWindow(client);
+        return;
+    }
+    m_status.SendMessage(WM_SIZE);
+    ShowStatus();
     CRect status;
     m_status.GetWindowRect(&status);
     m_graph.MoveWindow(0, 0, client.Width(), std::max(client.Height() - status.Height(), 0));
 }
 
-void CMainFrame::SetStatus(const std::string& text, const std::string& summary) {
-    m_statusText = text;
-    m_statusSummary = summary;
-    CRect client;
-    m_status.GetClientRect(&client);
-    CClientDC dc(&m_status);
-    CFont* const old = dc.SelectObject(m_status.GetFont());
-    const int wanted = static_cast<int>(dc.GetTextExtent(summary.c_str()).cx) + kStatusTextMargin;
-    if (old)
-        dc.SelectObject(old);
-    const int room = std::max(client.Width(), 1) / kStatusTextShare;
-    int edges[2] = {client.Width() - std::min(summary.empty() ? 0 : wanted, room), -1};
-    m_status.SetParts(2, edges);
-    m_status.SetText(text.c_str(), 0, 0);
-    m_status.SetText(summary.c_str(), 1, 0);
-    m_status.UpdateWindow();
-}
-
-void CMainFrame::OnSelectionChanged(NMHDR*, LRESULT* pResult) {
-    ShowSelection();
-    *pResult = 0;
+void CMainFrame::Fill(CMonitorGraph* graph) {
+    if (graph == m_filling)
+        return;
+    if (m_filling)
+        m_filling->ShowFilling(false);
+    if (graph)
+        graph->ShowFilling(true);
+    m_filling = graph;
+    m_pointer.reset();
+    m_status.ShowWindow(graph ? SW_HIDE : SW_SHOWNA);
+    // A change of the menu bar changes the inside's size, and with it the layout.
+    if (graph && !m_menuWhileFilled) {
+        m_menuWhileFilled = ::GetMenu(m_hWnd);
+        ::SetMenu(m_hWnd, nullptr);
+    } else if (!graph) {
+        ::SetMenu(m_hWnd, std::exchange(m_menuWhileFilled, nullptr));
+    }
+    LayOut();
+    m_graph.Redraw();
+    RefreshStatus();
 }
 
 void CMainFrame::OnUpdateSettings(CCmdUI* pCmdUI) {

@@ -78,6 +78,68 @@ void CMainFrame::OnFileSavePicture() {
         AfxMessageBox(("The picture was not saved: " + fault).c_str(), MB_OK | MB_ICONEXCLAMATION);
 }
 
+void CMainFrame::OnEditGraph(UINT nID) {
+    m_graph.SendMessage(WM_COMMAND, nID);
+}
+
+void CMainFrame::OnEditCopy() {
+    OnEditGraph(ID_EDIT_COPY);
+}
+
+void CMainFrame::OnUpdateEditCopy(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(!m_graph.Settings().series.empty());
+}
+
+void CMainFrame::OnUpdateClearMark(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(m_graph.SelectionMark().index >= 0);
+}
+
+void CMainFrame::OnUpdateRemoveData(CCmdUI* pCmdUI) {
+    const int mark = m_graph.SelectionMark().index;
+    pCmdUI->Enable(mark >= 0 && m_graph.FirstSampleOf(mark) > 0);
+}
+
+void CMainFrame::OnDataRemoved(NMHDR* pNMHDR, LRESULT* pResult) {
+    const int count = reinterpret_cast<const NMGRAPHCTRL*>(pNMHDR)->nCount;
+    *pResult = 0;
+    // Below zero: the mark went while the person was asked.
+    if (count >= 0)
+        RemoveBefore(count);
+    ShowSelection();
+}
+
+void CMainFrame::OnLegendDoubleClick(NMHDR* pNMHDR, LRESULT* pResult) {
+    *pResult = 0;
+    const int row = reinterpret_cast<const NMGRAPHCTRL*>(pNMHDR)->nIndex;
+    GraphSettings settings = m_graph.Settings();
+    if (row < 0 || static_cast<std::size_t>(row) >= settings.series.size())
+        return;
+    bool& visible = settings.series[static_cast<std::size_t>(row)].visible;
+    visible = !visible;
+    m_graph.SetSettings(std::move(settings));
+    ShowSelection();
+}
+
+void CMainFrame::OnViewFill() {
+    Fill(m_filling ? nullptr : &m_graph);
+}
+
+void CMainFrame::OnUpdateViewFill(CCmdUI* pCmdUI) {
+    pCmdUI->SetCheck(m_filling != nullptr);
+}
+
+void CMainFrame::OnMaximize(NMHDR*, LRESULT* pResult) {
+    OnViewFill();
+    *pResult = 0;
+}
+
+void CMainFrame::OnCaptionDoubleClick(NMHDR* pNMHDR, LRESULT* pResult) {
+    // A double-click on the icon: its first click has done what was wanted.
+    if (!m_graph.IsOnIcon(CPoint(reinterpret_cast<const NMGRAPHCTRL*>(pNMHDR)->pt)))
+        OnViewFill();
+    *pResult = 0;
+}
+
 void CMainFrame::OnViewStyle(UINT nID) {
     GraphSettings settings = m_graph.Settings();
     settings.style = static_cast<CGraphCtrl::GraphStyle>(nID - ID_VIEW_LINE);
@@ -96,6 +158,7 @@ void CMainFrame::OnViewLegend() {
     GraphSettings settings = m_graph.Settings();
     settings.legend = !settings.legend;
     m_graph.SetSettings(std::move(settings));
+    ShowSelection();
 }
 
 void CMainFrame::OnUpdateViewLegend(CCmdUI* pCmdUI) {
@@ -110,6 +173,7 @@ void CMainFrame::OnViewGrid(UINT nID) {
     bool& grid = nID == ID_VIEW_GRID_X ? settings.gridX : settings.gridY;
     grid = !grid;
     m_graph.SetSettings(std::move(settings));
+    ShowSelection();
 }
 
 void CMainFrame::OnUpdateViewGrid(CCmdUI* pCmdUI) {

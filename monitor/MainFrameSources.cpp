@@ -10,8 +10,6 @@
 #include "monitor/resource.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdio>
 #include <utility>
 
 namespace kavlix::monitor {
@@ -21,8 +19,6 @@ using recording::RecordingLoader;
 
 namespace {
 
-constexpr UINT_PTR kLiveTimer = 1;
-constexpr UINT_PTR kEndTimer = 2;
 constexpr UINT kLiveInterval = 1000;      // milliseconds
 constexpr double kLivePictureSeconds = 3; // live readings before a picture when no time is asked for
 constexpr double kMillisPerSecond = 1000;
@@ -78,7 +74,7 @@ void CMainFrame::BeginReading(std::vector<std::string> paths) {
     m_fromCommandLine = false;
     m_paths = std::move(paths);
     m_loader = std::make_unique<RecordingLoader>(m_paths);
-    SetWindowText(("Kavlix Monitor - " + SourceText()).c_str());
+    NameSource("Kavlix Monitor - " + SourceText());
     m_recording.reset();
     ShowNothing("Reading " + SourceText());
 }
@@ -100,7 +96,7 @@ void CMainFrame::ReadSlice() {
     }
     const std::string file =
         progress.file < m_paths.size() ? BaseName(m_paths[progress.file]) : std::string();
-    SetStatus("Reading " + file + "   " + std::to_string(progress.Percent()) + " %   (Escape stops)",
+    SetStatus({"Reading " + file + "   " + std::to_string(progress.Percent()) + " %   (Escape stops)"},
               recording::FormatCount(progress.rows) + " rows");
 }
 
@@ -139,13 +135,10 @@ void CMainFrame::BeginLive() {
     m_live = std::make_unique<LiveReadings>();
     m_counters = ReadMachineCounters();
     const auto style = m_options.style.value_or(recording::ViewStyle::Line);
-    GraphSettings settings = DefaultSettings("Live readings of this machine", m_live->SeriesNames(),
-                                             LiveReadings::kHistory, ToGraphStyle(style));
-    m_graph.Show(
-        {m_live->History(), LiveReadings::AxisSpan(), m_live->AxisText(), LiveReadings::kShownAtLeast},
-        std::move(settings));
-    SetWindowText("Kavlix Monitor - live readings");
-    SetStatus(m_live->LatestText(), "");
+    m_graph.Show(LiveSource(), DefaultSettings("Live readings of this machine", m_live->SeriesNames(),
+                                               LiveReadings::kHistory, ToGraphStyle(style)));
+    NameSource("Kavlix Monitor - live readings");
+    SetStatus({m_live->LatestText()}, "");
     SetTimer(kLiveTimer, kLiveInterval, nullptr);
 }
 
@@ -154,22 +147,46 @@ void CMainFrame::TakeLiveReading() {
     const LiveReadings::Change change = m_live->Add(LocalTimeNow(), RatesBetween(m_counters, now));
     m_counters = std::move(now);
 
-    GraphSource source{m_live->History(), LiveReadings::AxisSpan(), m_live->AxisText(),
-                       LiveReadings::kShownAtLeast};
+    GraphSettings settings = LiveSettings();
+    if (change.unitChanged || !(settings == m_graph.Settings()))
+        m_graph.ShowGrown(LiveSource(), change.removed, std::move(settings));
+    else
+        m_graph.ShowGrown(LiveSource(), change.removed);
+    RefreshStatus();
+}
+
+GraphSource CMainFrame::LiveSource() const {
+    return {m_live->History(), LiveReadings::AxisSpan(), m_live->AxisText(), LiveReadings::kShownAtLeast};
+}
+
+/// The settings now, with the units that the readings have now in the series' names.
+GraphSettings CMainFrame::LiveSettings() const {
     GraphSettings settings = m_graph.Settings();
     const std::vector<std::string> names = m_live->SeriesNames();
     for (std::size_t i = 0; i < names.size() && i < settings.series.size(); ++i)
         settings.series[i].name = names[i];
-    if (change.unitChanged || !(settings == m_graph.Settings()))
-        m_graph.Show(std::move(source), std::move(settings));
-    else
-        m_graph.ShowGrown(std::move(source), change.removed);
-    ShowSelection();
+    return settings;
+}
+
+/// Follows the graph, which has removed its samples before the given one. The files on the disk stay as they
+/// are.
+void CMainFrame::RemoveBefore(int shown) {
+    const std::size_t count = m_graph.FirstSampleOf(shown);
+    if (m_live) {
+        const LiveReadings::Change change = m_live->RemoveHead(count);
+        m_graph.ShowRest(LiveSource(), change.removed, LiveSettings());
+    } else if (m_recording) {
+        if (count > 0)
+            m_recording = std::make_shared<const Recording>(recording::WithoutHead(*m_recording, count));
+        m_graph.ShowRest({m_recording, {}, {}, 0}, count, m_graph.Settings());
+    }
 }
 
 void CMainFrame::OnTimer(UINT_PTR nIDEvent) {
     if (nIDEvent == kLiveTimer && m_live) {
         TakeLiveReading();
+    } else if (nIDEvent == kNoticeTimer) {
+        Say("");
     } else if (nIDEvent == kEndTimer) {
         KillTimer(kEndTimer);
         EndAsAsked();
@@ -203,50 +220,6 @@ std::string CMainFrame::SourceText() const {
     for (const std::string& path : m_paths)
         text += (text.empty() ? "" : ", ") + BaseName(path);
     return text;
-}
-
-std::string CMainFrame::MarkText(const CMonitorGraph::Mark& mark) const {
-    std::string text = recording::FormatDateTime(mark.time, recording::TimePrecision::Seconds);
-    for (std::size_t i = 0; i < mark.values.size() && i < m_graph.Settings().series.size(); ++i) {
-        if (std::isnan(mark.values[i]))
-            continue;
-        // A mean has more digits than its samples say.
-        char mean[32];
-        std::snprintf(mean, sizeof mean, "%.6g", mark.values[i]);
-        text += "   " + m_graph.Settings().series[i].name + ": " +
-                (m_graph.SamplesEach() > 1 ? std::string(mean) : recording::FormatNumber(mark.values[i]));
-    }
-    return text;
-}
-
-std::string CMainFrame::RangeText() const {
-    if (SampleCount() == 0)
-        return "Nothing to show";
-    const recording::VisibleRange range = m_graph.Visible();
-    std::string text =
-        recording::FormatDateTime(m_recording->times[range.first], recording::TimePrecision::Seconds) +
-        "  to  " +
-        recording::FormatDateTime(m_recording->times[range.last], recording::TimePrecision::Seconds) +
-        (m_recording->Zoned() ? "  UTC" : "");
-    if (m_graph.SamplesEach() > 1)
-        text += (m_graph.Settings().style == CGraphCtrl::GraphStyleBar ? "   each bar the mean of "
-                                                                       : "   lowest and highest of every ") +
-                recording::FormatCount(m_graph.SamplesEach()) + " samples";
-    if (m_recording->cancelled)
-        text += "   reading was stopped";
-    return text;
-}
-
-void CMainFrame::ShowSelection() {
-    const CMonitorGraph::Mark mark = m_graph.SelectionMark();
-    std::string text;
-    if (mark.index >= 0)
-        text = MarkText(mark);
-    else if (m_live)
-        text = m_live->LatestText();
-    else if (m_recording)
-        text = RangeText();
-    SetStatus(text, m_recording ? recording::StatusLine(*m_recording) : std::string());
 }
 
 } // namespace kavlix::monitor

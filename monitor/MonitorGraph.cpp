@@ -1,7 +1,9 @@
 #include "monitor/MonitorGraph.h"
 
+#include "monitor/recording/NearestPoint.h"
+
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <utility>
 
@@ -15,6 +17,9 @@ namespace {
 /// Samples handed to the control for lines: many times what the widest screen has pixels, and little enough
 /// that changing the view takes no time to speak of.
 constexpr std::size_t kLineSamples = 50'000;
+
+/// So many samples of other files stand between two of one file, at most, for them to count as neighbours.
+constexpr std::size_t kBesideSamples = 1000;
 
 /// The control labels at most one time in so many logical units.
 constexpr int kLineLabelDistance = 800;
@@ -33,11 +38,13 @@ CString ToText(const std::string& text) {
 
 BEGIN_MESSAGE_MAP(CMonitorGraph, CGraphCtrl)
 ON_WM_SIZE()
+ON_WM_MOUSEMOVE()
+ON_WM_MOUSELEAVE()
+ON_COMMAND(ID_EDIT_COPY, &CMonitorGraph::OnCopy)
 END_MESSAGE_MAP()
 
 bool CMonitorGraph::CreateChild(CWnd& parent, UINT id) {
-    // The samples are those of a recording: they are looked at, not removed.
-    ShowMenuRemoveDataBeforeSelectionMark(FALSE);
+    ShowFilling(false);
     return Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id) !=
            FALSE;
 }
@@ -47,15 +54,20 @@ void CMonitorGraph::Show(GraphSource source, GraphSettings settings) {
     m_settings = std::move(settings);
     m_visible = AllOf(m_source);
     m_fed = false;
+    m_markToKeep.reset();
     Fit();
 }
 
-void CMonitorGraph::ShowGrown(GraphSource source, std::size_t removed) {
-    const int marked = m_SelectionMarkPos;
-    const bool whole = m_fed && m_shown.samplesEach == 1 && ShowsAll();
+void CMonitorGraph::ShowGrown(GraphSource source, std::size_t removed, std::optional<GraphSettings> changed) {
+    std::optional<std::size_t> marked = MarkedSample();
+    if (marked)
+        marked = *marked >= removed ? std::optional(*marked - removed) : std::nullopt;
+    const bool whole = !changed && m_fed && m_shown.samplesEach == 1 && ShowsAll();
     const std::size_t held = m_shown.recording.times.size();
     m_source = std::move(source);
     m_visible = AllOf(m_source);
+    if (changed)
+        m_settings = std::move(*changed);
     if (whole && !m_fedBars && removed <= held && m_source.recording->times.size() <= kLineSamples) {
         m_shown = Reduce(kLineSamples);
         if (recording::ChooseTimeLabels(m_shown.recording.times, m_timeLabels) == m_labels) {
@@ -65,13 +77,26 @@ void CMonitorGraph::ShowGrown(GraphSource source, std::size_t removed) {
         } else {
             FeedAll();
         }
+        if (marked)
+            MarkSample(*marked);
     } else {
         m_fed = false;
+        m_markToKeep = marked;
     }
     Fit();
-    const int kept = marked < 0 ? -1 : marked - static_cast<int>(removed);
-    if (whole && m_shown.samplesEach == 1 && kept >= 0)
-        SetSelectionMarkPos(kept);
+}
+
+void CMonitorGraph::ShowRest(GraphSource source, std::size_t removed, GraphSettings settings) {
+    m_source = std::move(source);
+    m_settings = std::move(settings);
+    const VisibleRange all = AllOf(m_source);
+    const auto left = [&](std::size_t sample) {
+        return std::min(sample - std::min(sample, removed), all.last);
+    };
+    m_visible = {left(m_visible.first), left(m_visible.last)};
+    m_fed = false;
+    m_markToKeep.reset();
+    Fit();
 }
 
 void CMonitorGraph::SetSettings(GraphSettings settings) {
@@ -80,6 +105,7 @@ void CMonitorGraph::SetSettings(GraphSettings settings) {
 }
 
 void CMonitorGraph::SetVisible(VisibleRange range) {
+    m_markToKeep = MarkedSample();
     const VisibleRange all = AllOf(m_source);
     m_visible = {std::min(range.first, all.last), std::min(range.last, all.last)};
     if (m_visible.first > m_visible.last)
@@ -101,20 +127,52 @@ CMonitorGraph::Mark CMonitorGraph::SelectionMark() const {
     mark.index = m_SelectionMarkPos;
     const auto index = static_cast<std::size_t>(mark.index);
     mark.time = m_shown.recording.times[index];
-    // What a line goes through between two samples of a series is no sample.
-    const bool asRead = m_shown.samplesEach == 1;
-    for (const auto& series : asRead ? m_source.recording->series : m_shown.recording.series)
-        mark.values.push_back(series.values[asRead ? m_visible.first + index : index]);
+    for (std::size_t series = 0; series < m_shown.recording.series.size(); ++series) {
+        const std::size_t sample = SampleBeside(series, index);
+        mark.values.push_back(ValueOf(series, sample));
+        mark.times.push_back(m_shown.recording.times[sample]);
+    }
     return mark;
+}
+
+std::size_t CMonitorGraph::SampleBeside(std::size_t series, std::size_t index) const {
+    const Recording& all = *m_source.recording;
+    const std::size_t file = all.series[series].file;
+    if (m_shown.samplesEach > 1 || all.files.size() < 2 || file >= all.files.size())
+        return index;
+    const auto& times = m_shown.recording.times;
+    const double* const values = all.series[series].values.data() + m_visible.first;
+    const auto beside = recording::NearestValue(values, times.size(), index, kBesideSamples);
+    return beside && std::abs(times[*beside] - times[index]) < all.files[file].interval ? *beside : index;
+}
+
+double CMonitorGraph::ValueOf(std::size_t series, std::size_t index) const {
+    // What a line goes through between two samples of a series is no sample.
+    return m_shown.samplesEach == 1 ? m_source.recording->series[series].values[m_visible.first + index]
+                                    : m_shown.recording.series[series].values[index];
 }
 
 std::optional<std::size_t> CMonitorGraph::MarkedSample() const {
     if (m_SelectionMarkPos < 0 || m_shown.recording.times.empty())
         return std::nullopt;
-    // In a reduced picture of lines two samples of the picture stand for one run of the recording.
-    const std::size_t perRun = !m_fedBars && m_shown.samplesEach > 1 ? 2 : 1;
-    const std::size_t run = static_cast<std::size_t>(m_SelectionMarkPos) / perRun;
-    return std::min(m_visible.first + run * m_shown.samplesEach, m_visible.last);
+    if (m_heldMark.index == m_SelectionMarkPos)
+        return m_heldMark.sample;
+    const std::size_t sample =
+        m_visible.first + m_shown.SampleOf(static_cast<std::size_t>(m_SelectionMarkPos), VisibleCount());
+    return std::min(sample, m_visible.last);
+}
+
+void CMonitorGraph::MarkSample(std::size_t sample) {
+    if (sample < m_visible.first || sample > m_visible.last)
+        return;
+    const int index = static_cast<int>(m_shown.ShownFor(sample - m_visible.first, VisibleCount()));
+    SetSelectionMarkPos(index);
+    m_heldMark = {index, sample};
+}
+
+std::size_t CMonitorGraph::FirstSampleOf(int index) const {
+    const std::size_t run = m_shown.RunOf(static_cast<std::size_t>(std::max(index, 0)));
+    return std::min(m_visible.first + run, m_visible.last);
 }
 
 void CMonitorGraph::OnSize(UINT nType, int cx, int cy) {
@@ -140,19 +198,20 @@ void CMonitorGraph::FeedSamples(const Layout& layout) {
     if (m_fed && m_fedBars == bars && m_fedLimit == limit &&
         recording::ChooseTimeLabels(m_shown.recording.times, m_timeLabels) == m_labels)
         return;
-    const int marked = m_fed && m_fedBars == bars ? m_SelectionMarkPos : -1;
-    const std::size_t before = m_shown.recording.times.size();
+    if (m_fed)
+        m_markToKeep = MarkedSample();
     m_shown = Reduce(limit);
     FeedAll();
     m_fed = true;
     m_fedBars = bars;
     m_fedLimit = limit;
-    if (marked >= 0 && before == m_shown.recording.times.size())
-        SetSelectionMarkPos(marked);
+    if (const auto kept = std::exchange(m_markToKeep, std::nullopt))
+        MarkSample(*kept);
 }
 
 void CMonitorGraph::FeedAll() {
     SetAutoXVisible(FALSE);
+    m_heldMark = {};
     for (int i = 0; i < DatasetCount; ++i)
         ResetData(i);
     ResetXTickLabel();

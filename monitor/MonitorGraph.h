@@ -17,6 +17,11 @@ struct GraphSource {
     std::size_t samplesAtLeast = 0;  ///< the time axis has room for so many
 };
 
+// Codes of further WM_NOTIFY messages to the parent, sent with a plain NMHDR.
+constexpr UINT MGN_MOUSELEAVE = 1400; ///< the mouse pointer left the window
+constexpr UINT MGN_COPIED = 1401;     ///< the picture is on the clipboard
+constexpr UINT MGN_NOTCOPIED = 1402;  ///< somebody else holds the clipboard, or there was no memory
+
 /// The graph control with a recording in it. It chooses what follows from the data and from the window's
 /// size: which samples are handed over, ranges with round labels, the room for labels and legend.
 class CMonitorGraph : public CGraphCtrl {
@@ -26,6 +31,17 @@ public:
         int index = -1; ///< sample of the picture, -1: no mark
         recording::Time time = 0;
         std::vector<double> values; ///< one a series, NaN where there is none
+        /// When each value was read. Files that were joined have their samples at different times: what is
+        /// told of a series then is the sample beside the mark, if it is no farther than its file's rows are
+        /// apart.
+        std::vector<recording::Time> times;
+    };
+
+    /// A sample of one series that stands under the mouse pointer.
+    struct Pointed {
+        recording::Time time = 0;
+        std::size_t series = 0;
+        double value = 0;
     };
 
     CMonitorGraph() = default;
@@ -38,15 +54,22 @@ public:
 
     /// Goes on with a recording that has lost `removed` samples at its head and got others at its end, its
     /// series the same. The selection mark stays on its sample as long as it is there. Repaints.
-    void ShowGrown(GraphSource source, std::size_t removed);
+    /// @param changed settings that go with it; given them, the values of the samples that stay may differ,
+    /// too
+    void ShowGrown(GraphSource source, std::size_t removed, std::optional<GraphSettings> changed = {});
 
-    /// Changes the settings; the samples stay. Repaints.
+    /// Goes on with a recording that has lost `removed` samples at its head. What was visible and is left
+    /// stays visible. The selection mark goes. Repaints.
+    void ShowRest(GraphSource source, std::size_t removed, GraphSettings settings);
+
+    /// Changes the settings. The selection mark stays on its sample. Repaints.
     void SetSettings(GraphSettings settings);
     const GraphSettings& Settings() const { return m_settings; }
 
     const GraphSource& Source() const { return m_source; }
 
-    /// The part of the recording that is visible; all of it by default. Repaints. The selection mark goes.
+    /// The part of the recording that is visible; all of it by default. Repaints. The selection mark stays on
+    /// its sample as long as that is visible.
     void SetVisible(recording::VisibleRange range);
     recording::VisibleRange Visible() const { return m_visible; }
     bool ShowsAll() const;
@@ -60,11 +83,31 @@ public:
     /// Sample of the recording at the selection mark.
     std::optional<std::size_t> MarkedSample() const;
 
+    /// First sample of the recording that a sample of the picture stands for.
+    std::size_t FirstSampleOf(int index) const;
+
+    /// Of the sample nearest to the pointer the series that is nearest: in the line styles the one whose
+    /// point is at most as far above or below as any other's, in the bar style the one whose bar is. Hidden
+    /// series and those without a value thereabouts do not count. Costs the same however many samples there
+    /// are.
+    /// @param point client pixels
+    /// @return nothing outside the plot or when no sample is there
+    std::optional<Pointed> SampleUnder(CPoint point);
+
+    /// Whether a point (client pixels) is on the maximize icon.
+    bool IsOnIcon(CPoint point) const;
+
+    /// Shows the maximize icon in the form that goes with filling the window or not. Does not repaint.
+    void ShowFilling(bool filling) { ShowIconMaximize(TRUE, filling); }
+
 protected:
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
     void DrawGraphData(CDC& dc) override;
 
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg void OnCopy();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -80,7 +123,20 @@ private:
         std::string y2;
     };
 
+    /// The sample of the recording that was marked, for as long as the mark stands where it was put. In a
+    /// reduced picture the mark alone would not tell it any more.
+    struct HeldMark {
+        int index = -1;
+        std::size_t sample = 0;
+    };
+
     void Fit();
+    void MarkSample(std::size_t sample);
+    std::size_t VisibleCount() const { return m_visible.last - m_visible.first + 1; }
+    double ValueOf(std::size_t series, std::size_t index) const;
+    std::size_t SampleBeside(std::size_t series, std::size_t index) const;
+    std::vector<double> DistancesFrom(CPoint logical, std::size_t index, std::vector<std::size_t>& indices);
+    void Tell(UINT code);
     void ApplySettings();
     Layout MeasureLayout();
     void FeedSamples(const Layout& layout);
@@ -107,7 +163,10 @@ private:
     bool m_fed = false;         ///< the control holds m_shown
     bool m_fedBars = false;     ///< m_shown was reduced for bars
     std::size_t m_fedLimit = 0; ///< the limit m_shown was reduced to
-    bool m_measuring = false;   ///< a paint only finds the layout
+    HeldMark m_heldMark;
+    std::optional<std::size_t> m_markToKeep; ///< sample to mark when the control gets other samples
+    bool m_watchingLeave = false;            ///< the system tells when the pointer leaves
+    bool m_measuring = false;                ///< a paint only finds the layout
 };
 
 } // namespace kavlix::monitor

@@ -3,12 +3,14 @@
 #include "monitor/MonitorGraph.h"
 
 #include "monitor/recording/NumberText.h"
+#include "monitor/recording/TextCut.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace kavlix::monitor {
 
+using recording::CutToFit;
 using recording::ValueScale;
 using recording::ValueSpan;
 
@@ -38,30 +40,6 @@ CString ToText(const std::string& text) {
 
 ValueSpan SpanOfSeries(const recording::Recording& shown, std::size_t series) {
     return series < shown.series.size() ? recording::SpanOf(shown.series[series].values) : ValueSpan{};
-}
-
-/// Bytes to take from the front of UTF-8 text so that no character is cut.
-std::size_t WholeCharacters(const std::string& text, std::size_t bytes) {
-    bytes = std::min(bytes, text.size());
-    while (bytes > 0 && bytes < text.size() && (static_cast<unsigned char>(text[bytes]) & 0xC0) == 0x80)
-        --bytes;
-    return bytes;
-}
-
-/// The text, or as much of it as fits with dots behind it; empty when not even one character does.
-template <class Fits> std::string CutToFit(const std::string& text, Fits fits) {
-    if (fits(text))
-        return text;
-    std::size_t good = 0;
-    std::size_t bad = text.size();
-    const auto cut = [&text](std::size_t bytes) {
-        return text.substr(0, WholeCharacters(text, bytes)) + "...";
-    };
-    while (bad - good > 1) {
-        const std::size_t half = good + (bad - good) / 2;
-        (fits(cut(half)) ? good : bad) = half;
-    }
-    return good == 0 ? std::string() : cut(good);
 }
 
 } // namespace
@@ -253,7 +231,9 @@ std::string CMonitorGraph::FitCaption(const std::vector<std::string>& texts) {
     CFont* const old = dc.SelectObject(&font);
     CRect client;
     GetClientRect(&client);
-    const LONG room = client.Width() - 2 * kCaptionMargin;
+    // The text stands in the band's middle: the icon at its right end takes as much room on the left.
+    const LONG icon = m_ShowIconMaximize ? m_rectIconMaximize.Width() / kPixel : 0;
+    const LONG room = client.Width() - 2 * (kCaptionMargin + icon);
     const auto fits = [&](const std::string& text) { return dc.GetTextExtent(ToText(text)).cx <= room; };
     const auto found = std::find_if(texts.begin(), texts.end(), fits);
     const std::string caption = found != texts.end() ? *found : CutToFit(texts.back(), fits);

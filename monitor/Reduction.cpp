@@ -110,7 +110,25 @@ double Mean(const std::vector<double>& values, Span run) {
     return count == 0 ? kNoValue : mean;
 }
 
+/// Where the second sample shown of a run stands in it.
+std::size_t SecondOf(std::size_t runSize) {
+    return runSize / 2;
+}
+
 } // namespace
+
+std::size_t ShownSamples::SampleOf(std::size_t shown, std::size_t count) const {
+    const std::size_t run = RunOf(shown);
+    const std::size_t runSize = std::min(samplesEach, count - std::min(run, count));
+    return run + (shown % pointsEach == 0 ? 0 : SecondOf(runSize));
+}
+
+std::size_t ShownSamples::ShownFor(std::size_t sample, std::size_t count) const {
+    const std::size_t run = sample / samplesEach * samplesEach;
+    const std::size_t first = sample / samplesEach * pointsEach;
+    const std::size_t second = SecondOf(std::min(samplesEach, count - std::min(run, count)));
+    return pointsEach > 1 && second > 0 && sample - run >= second ? first + 1 : first;
+}
 
 ShownSamples ReduceForLines(const Recording& source, VisibleRange range, std::size_t limit) {
     if (source.times.empty())
@@ -127,10 +145,11 @@ ShownSamples ReduceForLines(const Recording& source, VisibleRange range, std::si
     const std::size_t runs = std::max<std::size_t>(limit / 2, 1);
     const std::size_t each = DivideUp(span.Size(), runs);
     ShownSamples shown = Begin(source, each);
+    shown.pointsEach = 2;
     for (std::size_t begin = span.begin; begin < span.end; begin += each) {
         const Span run{begin, std::min(begin + each, span.end)};
         shown.recording.times.push_back(source.times[run.begin]);
-        shown.recording.times.push_back(source.times[run.begin + run.Size() / 2]);
+        shown.recording.times.push_back(source.times[run.begin + SecondOf(run.Size())]);
     }
     for (std::size_t i = 0; i < source.series.size(); ++i) {
         const std::vector<double> values = Connected(source, source.series[i], span);

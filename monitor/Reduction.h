@@ -9,7 +9,20 @@ namespace kavlix::monitor {
 /// What of a recording is handed to the graph.
 struct ShownSamples {
     recording::Recording recording; ///< times and series; of the files only what the time axis needs
-    std::size_t samplesEach = 1;    ///< samples of the source behind each sample shown
+    std::size_t samplesEach = 1;    ///< samples of the source in each run that is shown together
+    std::size_t pointsEach = 1;     ///< samples shown for each run: 2 where lines were reduced
+
+    // Samples of the source are counted here from the first of the part that is shown.
+
+    /// First sample of the run that a shown sample stands for.
+    std::size_t RunOf(std::size_t shown) const { return shown / pointsEach * samplesEach; }
+
+    /// The sample whose time a shown sample has.
+    /// @param count samples of the part that is shown
+    std::size_t SampleOf(std::size_t shown, std::size_t count) const;
+
+    /// The shown sample that a sample of the source went into, the latest whose time is not after it.
+    std::size_t ShownFor(std::size_t sample, std::size_t count) const;
 };
 
 /// A part of a recording for lines: as it is when it has at most `limit` samples; otherwise each run of

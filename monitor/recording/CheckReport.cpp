@@ -115,6 +115,9 @@ std::string StatusLine(const Recording& recording) {
     std::string text = Rows(recording.times.size()) + ", " + FormatCount(recording.series.size()) + " series";
     const std::uint64_t leftOut = recording.RowsLeftOut();
     const std::uint64_t messages = MessageCount(recording);
+    if (recording.removed > 0) {
+        text += "; " + Rows(recording.removed) + " removed";
+    }
     if (leftOut > 0) {
         text += "; " + Rows(leftOut) + " left out";
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 
 namespace kavlix::recording {
 
@@ -32,6 +33,22 @@ Status Recording::GetStatus() const {
 
 bool Recording::Zoned() const {
     return std::any_of(files.begin(), files.end(), [](const FileSummary& file) { return file.zoned; });
+}
+
+Recording WithoutHead(const Recording& source, std::size_t count) {
+    count = std::min(count, source.times.empty() ? 0 : source.times.size() - 1);
+    const auto rest = [count](const auto& all) {
+        using Column = std::decay_t<decltype(all)>;
+        return Column(all.begin() + static_cast<std::ptrdiff_t>(std::min(count, all.size())), all.end());
+    };
+    Recording left;
+    left.times = rest(source.times);
+    for (const Series& series : source.series)
+        left.series.push_back({series.name, series.file, rest(series.values)});
+    left.files = source.files;
+    left.cancelled = source.cancelled;
+    left.removed = source.removed + count;
+    return left;
 }
 
 void ValueSpan::Take(double value) {

@@ -64,6 +64,7 @@ struct Recording {
     std::vector<Series> series;     ///< at most kMaxSeries, in the order of the files and their columns
     std::vector<FileSummary> files; ///< in the order they were given
     bool cancelled = false;         ///< reading was cancelled: this is what was read until then
+    std::uint64_t removed = 0;      ///< rows that were taken away at the head since reading
 
     /// Whether there is no value at all to show.
     bool Empty() const;
@@ -76,6 +77,10 @@ struct Recording {
     /// Whether any file's times name a zone.
     bool Zoned() const;
 };
+
+/// The recording from its row `count` on; at least the last row stays. What is told of the files stays as it
+/// was read.
+Recording WithoutHead(const Recording& source, std::size_t count);
 
 /// Lowest and highest finite value.
 struct ValueSpan {

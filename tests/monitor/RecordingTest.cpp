@@ -255,6 +255,11 @@ TEST(CheckReport, TellsAll) {
     EXPECT_EQ(StatusLine(recording), "4 rows, 2 series; 1 row left out; 4 messages");
     EXPECT_NE(MessageReport(recording).find(":6:4"), std::string::npos);
     EXPECT_NE(MessageReport(recording).find("rows left out: 1\n"), std::string::npos);
+    const Recording rest = WithoutHead(recording, 1);
+    EXPECT_EQ(StatusLine(rest), "3 rows, 2 series; 1 row removed; 1 row left out; 4 messages");
+    EXPECT_EQ(StatusLine(WithoutHead(rest, 99)),
+              "1 row, 2 series; 3 rows removed; 1 row left out; 4 messages");
+    EXPECT_EQ(WithoutHead(rest, 99).times.front(), recording.times.back());
     const TempFile zoned("zoned.csv", "t,a\n2013-12-02T21:15:00Z,1\n");
     EXPECT_NE(CheckReport(RecordingLoader::Load({zoned.Path()})).find("21:15:00 (UTC)\n"), std::string::npos);
     const TempFile good("good.csv", "t,a\n10,1\n");

@@ -125,6 +125,20 @@ TEST(LiveReadings, KeepTheLatestAndTellWhatWent) {
     EXPECT_EQ(history->series[0].values.back(), 77);
 }
 
+TEST(LiveReadings, LoseTheirHeadAndGoOn) {
+    LiveReadings live;
+    EXPECT_EQ(live.RemoveHead(5).removed, 0u);
+    live.Add(1, Rates(1, 4e6));
+    for (recording::Time time = 2; time <= 6; ++time)
+        live.Add(time, Rates(static_cast<double>(time), 0));
+    EXPECT_TRUE(live.RemoveHead(2).unitChanged) << "the peak went";
+    EXPECT_EQ(live.History()->times, (std::vector<recording::Time>{3, 4, 5, 6}));
+    EXPECT_EQ(live.History()->series[0].values.front(), 3);
+    live.Add(7, Rates(7, 0));
+    EXPECT_EQ(live.History()->times.size(), 5u);
+    EXPECT_EQ(live.RemoveHead(100).removed, 4u) << "the latest stays";
+}
+
 TEST(LiveReadings, TimesAscendAlsoWhenTheClockIsSetBack) {
     LiveReadings live;
     for (const recording::Time time : {1000, 2000, 500, 500, 3000})

@@ -197,6 +197,46 @@ TEST_F(MonitorGraph, GrowingReadingsKeepTheMarkOnItsSample) {
     EXPECT_EQ(m_graph.SelectionMark().index, -1) << "its sample is gone";
 }
 
+TEST_F(MonitorGraph, MarkStaysOnItsSampleWhateverIsShownOfTheRest) {
+    GraphSource source = Source(5000, {"a", "b"}, Ramp);
+    m_graph.Show(source, Settings(source));
+    m_graph.SetVisible({1000, 2999});
+    m_graph.SetSelectionMarkPos(234);
+    const auto expectMark = [&](const char* after) {
+        EXPECT_EQ(m_graph.MarkedSample(), 1234u) << after;
+        EXPECT_GE(m_graph.SelectionMark().index, 0) << after;
+    };
+    GraphSettings settings = m_graph.Settings();
+    settings.series[1].visible = false;
+    m_graph.SetSettings(settings);
+    expectMark("hiding a series");
+    m_graph.SetVisible({0, 4999});
+    expectMark("zooming out");
+    settings.style = CGraphCtrl::GraphStyleBar;
+    m_graph.SetSettings(settings);
+    EXPECT_GT(m_graph.SamplesEach(), 1u);
+    expectMark("bars");
+    Resize(700, 400);
+    expectMark("fewer bars");
+    settings.style = CGraphCtrl::GraphStyleLine;
+    m_graph.SetSettings(settings);
+    expectMark("lines again");
+    EXPECT_DOUBLE_EQ(m_graph.SelectionMark().values[0], Ramp(1234, 0));
+    m_graph.SetVisible({2000, 2999});
+    EXPECT_EQ(m_graph.SelectionMark().index, -1) << "its sample is not to be seen";
+
+    // Bars that stand for several readings each: what was marked moves through them with the time.
+    settings.style = CGraphCtrl::GraphStyleBar;
+    m_graph.Show(source, settings);
+    m_graph.SetSelectionMarkPos(3);
+    const std::size_t marked = *m_graph.MarkedSample();
+    for (std::size_t i = 0; i < marked; ++i)
+        m_graph.ShowGrown(source, 1);
+    EXPECT_EQ(m_graph.MarkedSample(), 0u);
+    m_graph.ShowGrown(source, 1, settings);
+    EXPECT_EQ(m_graph.SelectionMark().index, -1);
+}
+
 TEST_F(MonitorGraph, LongNamesAreShortenedToTheRoomThereIs) {
     const std::string longName(300, 'W');
     const GraphSource source = Source(20, {longName, "b"}, Ramp);

@@ -129,5 +129,31 @@ TEST(Reduction, RangesBeyondTheRecordingAreCut) {
     EXPECT_TRUE(ReduceForLines(Recording(), {0, 0}, 10).recording.times.empty());
 }
 
+TEST(Reduction, EveryShownSampleTellsWhereItComesFrom) {
+    const Recording source = Make({std::vector<double>(1003, 1)});
+    struct {
+        ShownSamples shown;
+        std::size_t first; ///< of the part that is shown
+        std::size_t count;
+    } const cases[] = {{ReduceForLines(source, {0, 1002}, 2000), 0, 1003},
+                       {ReduceForLines(source, {0, 1002}, 200), 0, 1003},
+                       {ReduceForLines(source, {7, 1001}, 100), 7, 995},
+                       {ReduceForBars(source, {0, 1002}, 90), 0, 1003}};
+    for (const auto& given : cases) {
+        const ShownSamples& shown = given.shown;
+        for (std::size_t i = 0; i < shown.recording.times.size(); ++i) {
+            const std::size_t sample = shown.SampleOf(i, given.count);
+            ASSERT_EQ(source.times[given.first + sample], shown.recording.times[i]) << i;
+            ASSERT_LE(shown.RunOf(i), sample);
+            ASSERT_EQ(shown.recording.times[shown.ShownFor(sample, given.count)], shown.recording.times[i])
+                << i;
+        }
+        for (std::size_t sample = 0; sample < given.count; ++sample) {
+            const std::size_t run = shown.RunOf(shown.ShownFor(sample, given.count));
+            ASSERT_TRUE(run <= sample && sample < run + shown.samplesEach) << sample;
+        }
+    }
+}
+
 } // namespace
 } // namespace kavlix::test

@@ -146,6 +146,23 @@ TEST_F(SettingsDlg, OnlyPossibleChoicesAreOffered) {
     EXPECT_TRUE(m_dialog->Preview().GetShowLegend()) << "the legend comes back with the lines";
 }
 
+TEST_F(SettingsDlg, TabReachesThePreviewAfterTheControls) {
+    Open(2);
+    CWnd* const title = m_dialog->GetDlgItem(IDC_TITLE);
+    CWnd* const preview = m_dialog->GetDlgItem(IDC_PREVIEW);
+    EXPECT_EQ(m_dialog->GetNextDlgTabItem(title, TRUE), preview);
+    EXPECT_EQ(m_dialog->GetNextDlgTabItem(preview, FALSE), title);
+    // Escape belongs to the preview only while there is a mark to clear.
+    MSG escape{preview->m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+    const auto wanted = [&] {
+        return (preview->SendMessage(WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&escape)) &
+                DLGC_WANTMESSAGE) != 0;
+    };
+    EXPECT_FALSE(wanted());
+    preview->SendMessage(WM_KEYDOWN, VK_RIGHT, 1);
+    EXPECT_TRUE(wanted());
+}
+
 TEST_F(SettingsDlg, NoControlOverlapsAnotherOrTheBorder) {
     Open(2);
     CRect inside;

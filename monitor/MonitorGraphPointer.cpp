@@ -1,0 +1,130 @@
+// What the graph makes of the mouse beyond the control: what is under the pointer, and what its parent is
+// told.
+
+#include "monitor/MonitorGraph.h"
+
+#include "monitor/recording/NearestPoint.h"
+
+#include <afxres.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace kavlix::monitor {
+
+using recording::AxisRange;
+
+namespace {
+
+constexpr int kPixel = 30;                  // logical units
+constexpr int kReach = 10 * kPixel;         // so far from the pointer a series' sample is looked for
+constexpr std::size_t kReachSamples = 1000; // and no farther than this, however densely they stand
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+
+CPoint ToLogical(CPoint pixels) {
+    return CPoint(pixels.x * kPixel, pixels.y * kPixel);
+}
+
+} // namespace
+
+std::optional<CMonitorGraph::Pointed> CMonitorGraph::SampleUnder(CPoint point) {
+    const CPoint logical = ToLogical(point);
+    if (!m_rectPlot.PtInRect(logical))
+        return std::nullopt;
+    const int hit = GetIndexFromPt(logical);
+    if (hit < 0 || static_cast<std::size_t>(hit) >= m_shown.recording.times.size())
+        return std::nullopt;
+    std::vector<std::size_t> indices;
+    const auto series = recording::Nearest(DistancesFrom(logical, static_cast<std::size_t>(hit), indices));
+    if (!series)
+        return std::nullopt;
+    return Pointed{m_shown.recording.times[indices[*series]], *series, ValueOf(*series, indices[*series])};
+}
+
+/// Of every series how far its sample at or near `index` is from the point, and which sample that is.
+std::vector<double> CMonitorGraph::DistancesFrom(CPoint logical, std::size_t index,
+                                                 std::vector<std::size_t>& indices) {
+    const std::size_t drawn = std::min(m_shown.recording.series.size(), m_settings.series.size());
+    indices.assign(drawn, index);
+    std::vector<double> distances(drawn, kNone);
+    int barWidth = 0;
+    int datasets = 0;
+    int places = 0;
+    const bool bars = m_GraphStyle == GraphStyleBar;
+    if (bars && (!CalcBarSize(barWidth, datasets, places) || barWidth <= 0))
+        return distances;
+
+    // Files that were joined have their samples at different times: a series' own may stand beside the
+    // nearest.
+    const double perUnit = (m_XVisibleMax - m_XVisibleMin) / std::max(m_rectPlot.Width(), 1);
+    const auto reach =
+        static_cast<std::size_t>(std::clamp(perUnit * kReach, 0.0, static_cast<double>(kReachSamples)));
+    const double height =
+        static_cast<double>(m_rectPlot.bottom - logical.y) / std::max(m_rectPlot.Height(), 1);
+    const std::size_t limit = m_GraphStyle == GraphStyleTwoAxis ? 2 : drawn;
+    for (std::size_t i = 0; i < std::min(drawn, limit); ++i) {
+        if (!m_settings.series[i].visible)
+            continue;
+        if (bars) {
+            const LONG left = m_rectPlot.left + static_cast<LONG>(index) * barWidth * (datasets + 1);
+            const double middle = left + barWidth * (static_cast<double>(i) + 0.5);
+            distances[i] = std::isnan(ValueOf(i, index)) ? kNone : std::abs(logical.x - middle);
+            continue;
+        }
+        const std::vector<double>& values =
+            (m_shown.samplesEach == 1 ? *m_source.recording : m_shown.recording).series[i].values;
+        const double* const first = values.data() + (m_shown.samplesEach == 1 ? m_visible.first : 0);
+        const auto found = recording::NearestValue(first, m_shown.recording.times.size(), index, reach);
+        if (!found)
+            continue;
+        const bool right = m_GraphStyle == GraphStyleTwoAxis && i == 1;
+        const AxisRange axis =
+            right ? AxisRange{m_Y2VisibleMin, m_Y2VisibleMax} : AxisRange{m_YVisibleMin, m_YVisibleMax};
+        indices[i] = *found;
+        distances[i] = recording::AxisDistance(first[*found], axis, height);
+    }
+    return distances;
+}
+
+bool CMonitorGraph::IsOnIcon(CPoint point) const {
+    return m_TitleStyle == TitleStyleCaption && m_rectIconMaximize.PtInRect(ToLogical(point));
+}
+
+void CMonitorGraph::OnMouseMove(UINT nFlags, CPoint point) {
+    if (!m_watchingLeave) {
+        TRACKMOUSEEVENT watch{};
+        watch.cbSize = sizeof watch;
+        watch.dwFlags = TME_LEAVE;
+        watch.hwndTrack = m_hWnd;
+        m_watchingLeave = ::TrackMouseEvent(&watch) != FALSE;
+    }
+    CGraphCtrl::OnMouseMove(nFlags, point);
+}
+
+void CMonitorGraph::OnMouseLeave() {
+    m_watchingLeave = false;
+    Tell(MGN_MOUSELEAVE);
+}
+
+void CMonitorGraph::OnCopy() {
+    // The control does not tell whether the clipboard was to be had. It was when this window owns it and what
+    // is on it has changed: the number tells that where the system gives one.
+    const DWORD before = ::GetClipboardSequenceNumber();
+    const bool made = CopyToClipboard() != 0;
+    const bool changed = before == 0 || ::GetClipboardSequenceNumber() != before;
+    Tell(made && changed && ::GetClipboardOwner() == m_hWnd ? MGN_COPIED : MGN_NOTCOPIED);
+}
+
+void CMonitorGraph::Tell(UINT code) {
+    const HWND parent = ::GetParent(m_hWnd);
+    if (parent == nullptr)
+        return;
+    NMHDR record{};
+    record.hwndFrom = m_hWnd;
+    record.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
+    record.code = code;
+    ::SendMessage(parent, WM_NOTIFY, record.idFrom, reinterpret_cast<LPARAM>(&record));
+}
+
+} // namespace kavlix::monitor

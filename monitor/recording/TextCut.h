@@ -1,0 +1,33 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+
+namespace kavlix::recording {
+
+/// Bytes to take from the front of UTF-8 text so that no character is cut; at most `bytes`.
+inline std::size_t WholeCharacters(const std::string& text, std::size_t bytes) {
+    bytes = std::min(bytes, text.size());
+    while (bytes > 0 && bytes < text.size() && (static_cast<unsigned char>(text[bytes]) & 0xC0) == 0x80)
+        --bytes;
+    return bytes;
+}
+
+/// The text, or as much of it as fits with dots behind it; empty when not even one character does.
+/// @param fits tells of a text whether there is room for it; shorter texts need no more room
+template <class Fits> std::string CutToFit(const std::string& text, Fits fits) {
+    if (fits(text))
+        return text;
+    std::size_t good = 0;
+    std::size_t bad = text.size();
+    const auto cut = [&text](std::size_t bytes) {
+        return text.substr(0, WholeCharacters(text, bytes)) + "...";
+    };
+    while (bad - good > 1) {
+        const std::size_t half = good + (bad - good) / 2;
+        (fits(cut(half)) ? good : bad) = half;
+    }
+    return good == 0 ? std::string() : cut(good);
+}
+
+} // namespace kavlix::recording

@@ -1,0 +1,93 @@
+// What the Monitor's status bar says, and how its panes share the room.
+
+#include "monitor/recording/NearestPoint.h"
+#include "monitor/recording/PaneWidths.h"
+#include "monitor/recording/SampleText.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace kavlix::recording {
+namespace {
+
+constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+TEST(SampleTexts, HaveTimeAndEverySeriesThatHasAValueInShorterAndShorterForms) {
+    const Time time = FromCivil({2013, 12, 2, 21, 15, 0, 0});
+    const auto longest = [](Time at, const std::vector<NamedValue>& values, ValueDigits digits) {
+        return SampleTexts(at, values, digits).front();
+    };
+    EXPECT_EQ(longest(time, {{"a", 73.96732207}, {"b", kGap}, {"c", -2}}, ValueDigits::AsRead),
+              "2013-12-02 21:15:00   a: 73.96732207   c: -2");
+    EXPECT_EQ(longest(time + 250'000, {{"a", 100.0 / 3}}, ValueDigits::Computed),
+              "2013-12-02 21:15:00.250   a: 33.3333")
+        << "neighbours within a second are told apart";
+    const NamedValue earlier{"a", 1, time - kMicrosPerMinute};
+    EXPECT_EQ(longest(time, {earlier, {"b", 2, time}}, ValueDigits::AsRead),
+              "2013-12-02 21:15:00   a: 1 (21:14:00)   b: 2");
+    EXPECT_EQ(longest(time, {{"a", 1, time - kMicrosPerDay}}, ValueDigits::AsRead),
+              "2013-12-02 21:15:00   a: 1 (2013-12-01 21:15:00)");
+
+    const std::string name = "\xC3\xA4" + std::string(300, 'n');
+    const std::vector<std::string> expected = {
+        "2013-12-02 21:15:00   " + name.substr(0, 29) + "...: 6.0360000000000005",
+        "2013-12-02 21:15:00   " + name.substr(0, 7) + "...: 6.0360000000000005",
+        "2013-12-02 21:15:00   6.036"};
+    EXPECT_EQ(SampleTexts(time, {{name, 6.0360000000000005}}, ValueDigits::AsRead), expected);
+}
+
+TEST(NearestPoint, TakesTheLeastDistanceOnEachAxis) {
+    EXPECT_DOUBLE_EQ(AxisDistance(25, {0, 100}, 0.5), 0.25);
+    EXPECT_DOUBLE_EQ(AxisDistance(25, {100, 0}, 0.5), 0.25) << "an axis that is upside down";
+    EXPECT_DOUBLE_EQ(AxisDistance(300, {0, 100}, 0), 3);
+    for (const double value : {kGap, kInfinity, -kInfinity})
+        EXPECT_TRUE(std::isnan(AxisDistance(value, {0, 100}, 0.5)));
+    EXPECT_TRUE(std::isnan(AxisDistance(1, {1, 1}, 0.5)));
+
+    EXPECT_EQ(Nearest({}), std::nullopt);
+    EXPECT_EQ(Nearest({kGap, kGap}), std::nullopt);
+    EXPECT_EQ(Nearest({kGap, 0.5, 0.2, 0.2}), 2u);
+}
+
+TEST(NearestPoint, FindsTheValueBesideAGap) {
+    const double values[] = {1, kGap, kGap, kGap, 5, 6};
+    struct {
+        std::size_t index;
+        std::size_t reach;
+        std::optional<std::size_t> expected;
+    } const cases[] = {{0, 0, 0}, {1, 0, {}}, {1, 1, 0}, {2, 1, {}},
+                       {2, 2, 0}, {3, 9, 4},  {5, 9, 5}, {6, 9, {}}};
+    for (const auto& given : cases)
+        EXPECT_EQ(NearestValue(values, 6, given.index, given.reach), given.expected)
+            << given.index << " within " << given.reach;
+    const double gaps[] = {kGap, kGap};
+    EXPECT_EQ(NearestValue(gaps, 2, 1, 1000), std::nullopt) << "and it ends at both ends";
+}
+
+TEST(PaneWidths, NobodyIsCutWithoutNeedAndTheSummaryGivesWayFirst) {
+    struct {
+        int width;
+        PaneWidths wanted;
+        PaneWidths given;
+    } const cases[] = {{1000, {300, 200, 150}, {650, 200, 150}},
+                       {600, {300, 200, 150}, {300, 200, 100}},
+                       {560, {300, 200, 150}, {360, 200, 0}},
+                       {400, {300, 200, 150}, {200, 200, 0}},
+                       {400, {350, 120, 150}, {280, 120, 0}},
+                       {400, {100, 390, 150}, {100, 300, 0}},
+                       {400, {900, 900, 900}, {200, 200, 0}},
+                       {400, {900, 0, 150}, {400, 0, 0}},
+                       {0, {10, 10, 10}, {0, 0, 0}}};
+    for (const auto& given : cases) {
+        const PaneWidths widths = SharePanes(given.width, given.wanted);
+        EXPECT_EQ(widths.text, given.given.text) << given.width << " for " << given.wanted.text;
+        EXPECT_EQ(widths.pointer, given.given.pointer) << given.width << " for " << given.wanted.text;
+        EXPECT_EQ(widths.summary, given.given.summary) << given.width << " for " << given.wanted.text;
+    }
+}
+
+} // namespace
+} // namespace kavlix::recording

@@ -272,6 +272,8 @@ protected:
     // ---- For derived controls ----
 
     static bool IsDataset(int nDataset) { return nDataset >= 0 && nDataset < DatasetCount; }
+    /// Number of samples of each dataset.
+    void GetSizes(int (&sizes)[DatasetCount]) const;
     /// Stores the mark and reports the change to assistive tools. No repaint, no notification.
     void StoreMark(int nPos);
     /// State flags of menu items that need a mark.
@@ -385,7 +387,6 @@ protected:
 
 private:
     void ClearSamples(CDataset& dataset);
-    void GetSizes(int (&sizes)[DatasetCount]) const;
 
     kavlix::GraphLayout LayOut(const CRect& client);
     void DrawLabels(CDC& dc, const kavlix::GraphLayout& layout);

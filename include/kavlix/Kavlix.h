@@ -5,3 +5,4 @@
 #include <kavlix/Export.h>
 #include <kavlix/GraphCtrl.h>
 #include <kavlix/GraphNotify.h>
+#include <kavlix/ScrollGraphCtrl.h>

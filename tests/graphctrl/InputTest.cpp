@@ -53,18 +53,6 @@ void CALLBACK GraphInputTest::OnEvent(HWINEVENTHOOK, DWORD event, HWND window, L
     s_current->parent.Remark(text.str());
 }
 
-Strings GraphInputTest::Traffic(const std::function<void()>& action) {
-    testkit::Pump();
-    parent.Forget();
-    action();
-    testkit::Pump();
-    return parent.Log();
-}
-
-Strings GraphInputTest::Send(UINT message, WPARAM wParam, LPARAM lParam) {
-    return Traffic([&] { graph.SendMessage(message, wParam, lParam); });
-}
-
 void GraphInputTest::Mark(int index) {
     graph.SetSelectionMarkPos(index);
     ASSERT_EQ(graph.m_SelectionMarkPos, index);
@@ -91,27 +79,4 @@ std::string GraphInputTest::PostedMark(int index) {
 
 std::string GraphInputTest::Event(int index) {
     return index < 0 ? "event selection gone" : "event selection " + std::to_string(index + 1);
-}
-
-Strings MenuItems(HMENU menu) {
-    Strings items;
-    for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
-        char text[100] = "";
-        MENUITEMINFO info = {};
-        info.cbSize = sizeof info;
-        info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING;
-        info.dwTypeData = text;
-        info.cch = sizeof text;
-        ::GetMenuItemInfo(menu, static_cast<UINT>(i), TRUE, &info);
-        std::ostringstream line;
-        if ((info.fType & MFT_SEPARATOR) != 0) {
-            line << "-";
-        } else {
-            line << info.wID << ((info.fState & MFS_GRAYED) != 0 ? " gray " : " ") << text;
-            if ((info.fState & ~static_cast<UINT>(MFS_GRAYED)) != 0)
-                line << " state " << info.fState;
-        }
-        items.push_back(line.str());
-    }
-    return items;
 }

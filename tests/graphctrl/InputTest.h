@@ -12,10 +12,6 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// The traffic of `action`, then of what it left in the queue.
-    Strings Traffic(const std::function<void()>& action);
-    /// The same of one message to the control.
-    Strings Send(UINT message, WPARAM wParam, LPARAM lParam);
     Strings Click(CPoint point) { return Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y)); }
     Strings Key(UINT key) { return Send(WM_KEYDOWN, key, 1); }
     /// The mark set silently, and the picture brought up to date.
@@ -37,6 +33,3 @@ private:
     static GraphInputTest* s_current;
     HWINEVENTHOOK m_events = nullptr;
 };
-
-/// The items of a menu from top to bottom: "1324 gray &Text", "-" for a separator.
-Strings MenuItems(HMENU menu);

@@ -1,4 +1,5 @@
 #include "tests/graphctrl/GraphTest.h"
+#include "tests/support/ForbiddenPages.h"
 #include "tests/support/GdiCounter.h"
 
 #include <algorithm>
@@ -9,69 +10,7 @@
 
 namespace {
 
-/// Memory that nobody may touch any more; who does is let through and counted.
-class ForbiddenPages {
-public:
-    ForbiddenPages() {
-        s_touched = 0;
-        m_handler = ::AddVectoredExceptionHandler(1, &ForbiddenPages::OnException);
-    }
-    ForbiddenPages(const ForbiddenPages&) = delete;
-    ForbiddenPages& operator=(const ForbiddenPages&) = delete;
-    ~ForbiddenPages() {
-        ::RemoveVectoredExceptionHandler(m_handler);
-        for (const Block& block : s_blocks)
-            ::VirtualFree(block.begin, 0, MEM_RELEASE);
-        s_blocks.clear();
-    }
-    static int Touched() { return s_touched; }
-
-    static void* Take(std::size_t size) {
-        return ::VirtualAlloc(nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
-    }
-    /// Until the object ends, the pages are not given to anybody else.
-    static void Forbid(void* memory, std::size_t size) {
-        DWORD former = 0;
-        ::VirtualProtect(memory, size, PAGE_NOACCESS, &former);
-        s_blocks.push_back({static_cast<char*>(memory), size});
-    }
-
-private:
-    struct Block {
-        char* begin;
-        std::size_t size;
-    };
-
-    static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
-        const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
-        if (record.ExceptionCode != EXCEPTION_ACCESS_VIOLATION)
-            return EXCEPTION_CONTINUE_SEARCH;
-        auto* const touched = reinterpret_cast<char*>(record.ExceptionInformation[1]);
-        for (const Block& block : s_blocks) {
-            if (touched < block.begin || touched >= block.begin + block.size)
-                continue;
-            ++s_touched;
-            DWORD former = 0;
-            ::VirtualProtect(block.begin, block.size, PAGE_READWRITE, &former);
-            return EXCEPTION_CONTINUE_EXECUTION;
-        }
-        return EXCEPTION_CONTINUE_SEARCH;
-    }
-
-    static int s_touched;
-    static std::vector<Block> s_blocks;
-    void* m_handler;
-};
-
-int ForbiddenPages::s_touched = 0;
-std::vector<ForbiddenPages::Block> ForbiddenPages::s_blocks;
-
-/// A control whose memory is forbidden once it is deleted.
-class PagedGraph : public OpenGraph {
-public:
-    static void* operator new(std::size_t size) { return ForbiddenPages::Take(size); }
-    static void operator delete(void* memory, std::size_t size) { ForbiddenPages::Forbid(memory, size); }
-};
+using PagedGraph = testkit::Paged<OpenGraph>;
 
 constexpr int kControlId = 77;
 
@@ -297,18 +236,18 @@ void Play(const Occasion& occasion, const Misdeed& misdeed) {
     }
     EXPECT_EQ(::GetCapture(), nullptr);
     testkit::Pump();
-    EXPECT_EQ(ForbiddenPages::Touched(), 0) << "of a deleted control";
+    EXPECT_EQ(testkit::ForbiddenPages::Touched(), 0) << "of a deleted control";
 }
 
 } // namespace
 
 TEST(GraphMisbehavingParentTest, TheGuardSeesATouch) {
-    const ForbiddenPages pages;
+    const testkit::ForbiddenPages pages;
     auto* const graph = new PagedGraph;
     auto* const mark = &graph->m_SelectionMarkPos;
     delete graph;
     *static_cast<volatile int*>(mark) = 1;
-    EXPECT_EQ(ForbiddenPages::Touched(), 1);
+    EXPECT_EQ(testkit::ForbiddenPages::Touched(), 1);
 }
 
 TEST(GraphMisbehavingParentTest, NothingBreaksAndNothingIsSentAfterTheEnd) {
@@ -321,7 +260,7 @@ TEST(GraphMisbehavingParentTest, NothingBreaksAndNothingIsSentAfterTheEnd) {
                 const bool warms = &misdeed == kMisdeeds || &occasion == kOccasions || occasion.code == 0;
                 if (round == 0 && !warms)
                     continue;
-                const ForbiddenPages pages;
+                const testkit::ForbiddenPages pages;
                 Play(occasion, misdeed);
             }
         }

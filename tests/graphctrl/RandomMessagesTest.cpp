@@ -1,6 +1,7 @@
-#include "tests/graphctrl/OpenGraph.h"
+#include "tests/graphctrl/GraphTest.h"
 #include "tests/support/GdiCounter.h"
 #include "tests/support/MessageBoxWatcher.h"
+#include "tests/support/Numbers.h"
 #include "tests/support/RecordingParent.h"
 
 #include <gtest/gtest.h>
@@ -11,23 +12,6 @@
 #include <iterator>
 
 namespace {
-
-/// The same numbers on every machine and in every run.
-class Numbers {
-public:
-    explicit Numbers(std::uint32_t seed) : m_state(seed) {}
-    std::uint32_t Next() {
-        m_state ^= m_state << 13;
-        m_state ^= m_state >> 17;
-        m_state ^= m_state << 5;
-        return m_state;
-    }
-    int Below(int bound) { return static_cast<int>(Next() % static_cast<std::uint32_t>(bound)); }
-    bool OneIn(int count) { return Below(count) == 0; }
-
-private:
-    std::uint32_t m_state;
-};
 
 /// A control whose menu, one time in eight the real one, is over at once.
 class BriefMenuGraph : public OpenGraph {
@@ -222,7 +206,7 @@ protected:
         testkit::Pump();
     }
 
-    Numbers numbers{20240607};
+    testkit::Numbers numbers{20240607};
     testkit::RecordingParent parent;
     BriefMenuGraph graph;
     int marked = 0; ///< messages after which there was a mark

@@ -110,6 +110,7 @@ TEST(ModuleTest, ClassesAreExportedWholeAndNothingElse) {
         const std::string name = Demangled(mangled);
         names.insert(name);
         EXPECT_TRUE(name.find("CGraphCtrl") != std::string::npos ||
+                    name.find("CScrollGraphCtrl") != std::string::npos ||
                     name.find("CDataset") != std::string::npos)
             << "not meant for hosts: " << mangled << " " << name;
     }
@@ -118,7 +119,9 @@ TEST(ModuleTest, ClassesAreExportedWholeAndNothingElse) {
           "CGraphCtrl::~CGraphCtrl()", "CDataset::CDataset()", "CGraphCtrl::AddData(int, double, double*)",
           "CGraphCtrl::DrawGraph(CDC&)", "CGraphCtrl::CalcBarSize(int&, int&, int&)",
           "CGraphCtrl::SendSelchangeNotifyMessage()", "CGraphCtrl::SendRemoveDataNotifyMessage(int, int)",
-          "CGraphCtrl::GetMessageMap() const", "CGraphCtrl::RegisterWindowClass()",
+          "CGraphCtrl::GetMessageMap() const", "vtable for CScrollGraphCtrl",
+          "CScrollGraphCtrl::CScrollGraphCtrl()", "CScrollGraphCtrl::SetHorzRange(double)",
+          "CScrollGraphCtrl::GetMessageMap() const", "CGraphCtrl::RegisterWindowClass()",
           "CGraphCtrl::IsMenuItem(CMenu&, unsigned int)",
           "DDX_GraphControl(CDataExchange*, int, CGraphCtrl&)"})
         EXPECT_EQ(names.count(expected), 1u) << expected;

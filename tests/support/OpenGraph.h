@@ -8,9 +8,11 @@
 #include <string>
 #include <vector>
 
-/// The control as a derived class sees it: everything protected is open, and the virtual operations note that
-/// they were called.
-class OpenGraph : public CGraphCtrl {
+namespace testkit {
+
+/// A graph control, `Base`, as a derived class sees it: everything protected is open, and the virtual
+/// operations note that they were called.
+template <class Base> class OpenGraphOf : public Base {
 public:
     using CGraphCtrl::CalcBarSize;
     using CGraphCtrl::DrawCaption;
@@ -20,6 +22,7 @@ public:
     using CGraphCtrl::DrawTitle;
     using CGraphCtrl::DrawYAxis;
     using CGraphCtrl::GetIndexFromPt;
+    using CGraphCtrl::GetPtFromIndex;
     using CGraphCtrl::GetTitleTextHeight;
     using CGraphCtrl::RegisterWindowClass;
     using CGraphCtrl::SendRemoveDataNotifyMessage;
@@ -115,29 +118,31 @@ public:
 
     void ResetXTickLabel() override {
         calls.push_back("reset labels");
-        CGraphCtrl::ResetXTickLabel();
+        Base::ResetXTickLabel();
     }
     void InsertGraphMenu(CMenu& menu) override {
         calls.push_back("menu");
-        CGraphCtrl::InsertGraphMenu(menu);
+        Base::InsertGraphMenu(menu);
     }
 
 protected:
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override {
         calls.push_back("xaxis " + std::to_string(nTicks));
-        CGraphCtrl::DrawXAxis(dc, rectLabel, rectAxis, nTicks);
+        Base::DrawXAxis(dc, rectLabel, rectAxis, nTicks);
     }
     void DrawGraphData(CDC& dc) override {
         calls.push_back("data");
-        CGraphCtrl::DrawGraphData(dc);
+        Base::DrawGraphData(dc);
     }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         erased += message == WM_ERASEBKGND;
-        return CGraphCtrl::WindowProc(message, wParam, lParam);
+        return Base::WindowProc(message, wParam, lParam);
     }
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (onDefault)
             onDefault(message, wParam, lParam);
-        return CGraphCtrl::DefWindowProc(message, wParam, lParam);
+        return Base::DefWindowProc(message, wParam, lParam);
     }
 };
+
+} // namespace testkit

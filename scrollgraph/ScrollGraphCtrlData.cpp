@@ -1,0 +1,93 @@
+#include <kavlix/ScrollGraphCtrl.h>
+
+#include <algorithm>
+
+#include "graphctrl/MemoryReport.h"
+#include "scrollgraph/ScrollGraphCtrlClock.h"
+#include "scrollgraph/TimeLine.h"
+#include "scrollgraph/ViewWindow.h"
+
+using namespace kavlix;
+
+void CScrollGraphCtrl::InitData() {
+    m_arrTime->Clear();
+}
+
+void CScrollGraphCtrl::ResetXTickLabel() {
+    InitData();
+}
+
+int CScrollGraphCtrl::GetCurDataIndex() const {
+    return m_arrTime->Size();
+}
+
+int CScrollGraphCtrl::AddXTickLabel(long time) {
+    return ReportingExhaustion([&] { m_arrTime->Append(static_cast<std::int32_t>(time)); });
+}
+
+int CScrollGraphCtrl::AddData(int nDataset, double y, double*) {
+    if (!IsDataset(nDataset))
+        return 0;
+    CDataset& dataset = m_Datasets[nDataset];
+    const int size = dataset.GetSize();
+    ViewWindow view = GetView();
+    const ViewWindow::Arrival arrival =
+        view.Arrive(size > 0, m_arrTime->X(size - 1), size > 0 ? m_arrTime->X(size) : 0);
+    SetView(view);
+    m_bFollowed = arrival.followed;
+    if (!dataset.AddYData(y))
+        return 0;
+    if (arrival.changed) {
+        Normalize();
+        UpdateScrollInfo();
+    }
+    return 1;
+}
+
+int CScrollGraphCtrl::AddDataForOffline(int nDataset, double y, double*) {
+    if (!IsDataset(nDataset))
+        return 0;
+    m_bFollowed = FALSE;
+    return m_Datasets[nDataset].AddYData(y);
+}
+
+void CScrollGraphCtrl::SetArraySize(int) {
+    for (CDataset& dataset : m_Datasets)
+        if (!dataset.KeepOne())
+            return;
+    ReportingExhaustion([&] { m_arrTime->KeepOne(); });
+}
+
+void CScrollGraphCtrl::RemoveHeadData(int nCount) {
+    const int count = std::max(nCount, 0);
+    for (CDataset& dataset : m_Datasets)
+        dataset.RemoveYData(0, count);
+    m_arrTime->RemoveHead(count);
+    StoreMark(-1);
+    UpdateScrollByRemove();
+    RedrawData();
+}
+
+BOOL CScrollGraphCtrl::GetXData(int nIndex, CString& date, CString& time) {
+    if (!m_arrTime->Has(nIndex))
+        return FALSE;
+    const CalendarTime local = SystemClock().ToLocal(m_arrTime->At(nIndex));
+    date.Format("%02d/%02d", local.month, local.day);
+    time.Format("%02d:%02d:%02d", local.hour, local.minute, local.second);
+    return TRUE;
+}
+
+int CScrollGraphCtrl::GetFullTime(int nIndex, CString& text) const {
+    if (!m_arrTime->Has(nIndex))
+        return 0;
+    text = FullTimeText(SystemClock().ToLocal(m_arrTime->At(nIndex))).c_str();
+    return 1;
+}
+
+long CScrollGraphCtrl::GetXOffset(int nIndex) const {
+    return m_arrTime->Offset(nIndex);
+}
+
+long CScrollGraphCtrl::GetTimeInfo(int nIndex) const {
+    return m_arrTime->At(nIndex);
+}

@@ -1,0 +1,31 @@
+#include <kavlix/ScrollGraphCtrl.h>
+
+#include "module/resource.h"
+#include "scrollgraph/TimeLine.h"
+
+void CScrollGraphCtrl::InsertGraphMenu(CMenu& menu) {
+    CGraphCtrl::InsertGraphMenu(menu);
+    if (!m_bTindroMode)
+        return;
+    menu.AppendMenu(MF_SEPARATOR);
+    if (IsMenuItem(menu, ID_GRAPH_SEND_SELECTION_MARK))
+        return;
+    CString text;
+    text.LoadString(IDS_MENU_SEND_MARK);
+    menu.AppendMenu(MarkItemState(), ID_GRAPH_SEND_SELECTION_MARK, text);
+}
+
+void CScrollGraphCtrl::OnSendSelectionMarkInfoToTindro() {
+    // With no mark on a sample the text exported last goes out again: hosts rely on an answer.
+    GetFullTime(m_SelectionMarkPos, m_strSelectionMarkTime);
+    SendSelectionMarkTime();
+}
+
+void CScrollGraphCtrl::SendSelectionMarkTime() {
+    const HWND parent = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
+    if (parent == nullptr)
+        return;
+    // A copy stays as it is whatever the parent does to the control meanwhile.
+    const CString text = m_strSelectionMarkTime;
+    ::SendMessage(parent, WM_GRAPH_SELMARKTIME, 0, reinterpret_cast<LPARAM>(static_cast<LPCTSTR>(text)));
+}

@@ -1,0 +1,84 @@
+#include "scrollgraph/TimeLine.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+#include "graphctrl/Numeric.h"
+
+namespace kavlix {
+
+namespace {
+
+constexpr double kSecondsPerXUnit = 1.0 / kXUnitsPerSecond;
+
+} // namespace
+
+std::int32_t TimeLine::Offset(int index) const {
+    if (!Has(index))
+        return 0;
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(Stamp(index)) -
+                                     static_cast<std::uint32_t>(Stamp(0)));
+}
+
+double TimeLine::X(int index) const {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(Offset(index)) * kXUnitsPerSecond);
+}
+
+void TimeLine::Append(std::int32_t time) {
+    if (m_times.size() >= static_cast<std::size_t>(std::numeric_limits<int>::max()))
+        throw std::bad_alloc();
+    const bool stepsBack = !m_times.empty() && time < m_times.back();
+    m_times.push_back(time);
+    if (stepsBack)
+        m_lastStepBack = Size() - 1;
+}
+
+void TimeLine::RemoveHead(int count) {
+    const int removed = std::clamp(count, 0, Size());
+    m_times.erase(m_times.begin(), m_times.begin() + removed);
+    m_lastStepBack = std::max(m_lastStepBack - removed, 0);
+}
+
+void TimeLine::Clear() {
+    m_times.clear();
+    m_times.shrink_to_fit();
+    m_lastStepBack = 0;
+}
+
+void TimeLine::KeepOne() {
+    m_times.resize(1);
+    m_times.shrink_to_fit();
+    m_lastStepBack = 0;
+}
+
+int TimeLine::LowerBound(double x) const {
+    int first = 0;
+    int length = Size() - 1;
+    while (length > 0) {
+        const int half = length / 2;
+        if (X(first + half) < x) {
+            first += half + 1;
+            length -= half + 1;
+        } else {
+            length = half;
+        }
+    }
+    return first;
+}
+
+int TimeLine::UpperBound(int first, double viewWidth) const {
+    const int seconds = TruncateToInt(viewWidth * kSecondsPerXUnit, std::numeric_limits<int>::min(),
+                                      std::numeric_limits<int>::max());
+    const std::int64_t last = std::int64_t{seconds} + first - 1;
+    return Size() >= last ? static_cast<int>(std::max<std::int64_t>(last, std::numeric_limits<int>::min()))
+                          : Size() - 1;
+}
+
+bool TimeLine::GrowsAlong(int first, int last) const {
+    constexpr std::int64_t farthest = std::numeric_limits<std::int32_t>::max() / kXUnitsPerSecond;
+    const auto fromOrigin = [this](int index) { return std::int64_t{Stamp(index)} - Stamp(0); };
+    return m_lastStepBack <= first && fromOrigin(first) >= -farthest && fromOrigin(last) <= farthest;
+}
+
+} // namespace kavlix

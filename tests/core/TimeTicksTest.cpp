@@ -1,0 +1,141 @@
+#include "scrollgraph/TimeTicks.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace kavlix {
+namespace {
+
+/// A zone with one change of the clock.
+class ZoneClock : public LocalClock {
+public:
+    ZoneClock(int east, std::int64_t changeAt = 0, int eastAfter = 0)
+        : m_east(east), m_changeAt(changeAt), m_eastAfter(changeAt == 0 ? east : eastAfter) {}
+    CalendarTime ToLocal(std::int64_t time) const override {
+        // Not gmtime: some C libraries know no time before 1970.
+        constexpr std::int64_t daySeconds = 86400;
+        const std::int64_t shown = time + (time < m_changeAt ? m_east : m_eastAfter);
+        const std::int64_t second = (shown % daySeconds + daySeconds) % daySeconds;
+        std::int64_t days = (shown - second) / daySeconds;
+        CalendarTime local{1970, 1, 1, 0, 0, 0};
+        const auto isLeap = [](int year) { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); };
+        for (; days < 0; days += isLeap(local.year) ? 366 : 365)
+            --local.year;
+        for (; days >= (isLeap(local.year) ? 366 : 365); ++local.year)
+            days -= isLeap(local.year) ? 366 : 365;
+        const int lengths[] = {31, isLeap(local.year) ? 29 : 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+        for (; days >= lengths[local.month - 1]; ++local.month)
+            days -= lengths[local.month - 1];
+        local.day = static_cast<int>(days) + 1;
+        local.hour = static_cast<int>(second / 3600);
+        local.minute = static_cast<int>(second / 60 % 60);
+        local.second = static_cast<int>(second % 60);
+        return local;
+    }
+
+private:
+    int m_east;
+    std::int64_t m_changeAt;
+    int m_eastAfter;
+};
+
+std::vector<std::string> Texts(const LocalClock& clock, std::int64_t start, int step, int count) {
+    std::vector<std::string> texts;
+    for (TimeTicks ticks(clock, start, step); count > 0; --count, ticks.Next())
+        texts.push_back((ticks.ShowsDate() ? ticks.Date() + " " : "") + ticks.Clock());
+    return texts;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(TimeTicksTest, TheStepLeavesRoomForTheTicks) {
+    struct Case {
+        int seconds, ticks, step;
+    };
+    const Case cases[] = {
+        {60, 11, 5},
+        {60, 5, 10},
+        {60, 10, 10},
+        {60, 2, 20},
+        {65, 11, 10},
+        {0, 2, 5},
+        {-60, 2, 5},
+        {300, 9, 30},
+        {3600, 9, 600},
+        {86400, 11, 7200},
+        {86400, 10, 10800},
+        {13 * 7200 - 1, 11, 7200},
+        {13 * 7200, 11, 10800},
+        {2147483647, 5, 10800},
+        {2147483647, 2147483647, 5},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(SelectTickStep(each.seconds, each.ticks), each.step) << each.seconds << " " << each.ticks;
+}
+
+TEST(TimeTicksTest, TheFirstTickIsARoundTime) {
+    struct Case {
+        int hour, minute, second, step, expected;
+    };
+    const Case cases[] = {
+        {12, 34, 56, 10, 4},    {12, 34, 56, 300, 4},    {12, 34, 56, 3600, 1504}, {12, 34, 50, 10, 0},
+        {12, 34, 0, 120, 0},    {12, 35, 0, 120, 60},    {12, 34, 1, 60, 59},      {12, 0, 0, 3600, 0},
+        {12, 0, 1, 3600, 3599}, {13, 0, 0, 7200, 3600},  {23, 59, 59, 10800, 1},   {0, 0, 59, 5, 1},
+        {9, 0, 0, 10800, 0},    {10, 0, 0, 10800, 7200},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(SecondsToRoundTime({2026, 11, 21, each.hour, each.minute, each.second}, each.step),
+                  each.expected)
+            << each.hour << ":" << each.minute << ":" << each.second << " step " << each.step;
+}
+
+TEST(TimeTicksTest, DatesStandAtTheFirstTickAndAfterMidnight) {
+    const ZoneClock utc(0);
+    EXPECT_EQ(Texts(utc, 951868793, 3600, 3), (Lines{"2000/03/01 00:00:00", "01:00:00", "02:00:00"}))
+        << "29 February 23:59:53";
+    EXPECT_EQ(Texts(utc, 951782400 - 5, 5, 3),
+              (Lines{"2000/02/28 23:59:55", "2000/02/29 00:00:00", "00:00:05"}));
+    EXPECT_EQ(Texts(utc, 946684799, 1800, 2), (Lines{"2000/01/01 00:00:00", "00:30:00"}));
+    EXPECT_EQ(Texts(utc, -86400 * 365LL, 7200, 2), (Lines{"1969/01/01 00:00:00", "02:00:00"}));
+    EXPECT_EQ(Texts(utc, 2147483647, 5, 2), (Lines{"2038/01/19 03:14:10", "03:14:15"})) << "past 32 bits";
+    const ZoneClock kathmandu(5 * 3600 + 45 * 60);
+    EXPECT_EQ(Texts(kathmandu, 1767204000, 900, 3),
+              (Lines{"2025/12/31 23:45:00", "2026/01/01 00:00:00", "00:15:00"}));
+}
+
+TEST(TimeTicksTest, AChangeOfTheClockRepeatsOrSkipsAnHourAndNothingStandsStill) {
+    constexpr int est = -5 * 3600;
+    constexpr int edt = -4 * 3600;
+    constexpr std::int64_t springForward = 1772953200; // 2026-03-08 07:00 UTC
+    constexpr std::int64_t fallBack = 1793512800;      // 2026-11-01 06:00 UTC
+    EXPECT_EQ(Texts(ZoneClock(est, springForward, edt), springForward - 3600, 1800, 4),
+              (Lines{"2026/03/08 01:00:00", "01:30:00", "03:00:00", "03:30:00"}));
+    EXPECT_EQ(Texts(ZoneClock(edt, fallBack, est), fallBack - 3600, 1800, 6),
+              (Lines{"2026/11/01 01:00:00", "01:30:00", "01:00:00", "01:30:00", "02:00:00", "02:30:00"}));
+    // Half an hour: the hours go on off the full hour.
+    constexpr std::int64_t lordHowe = 1775314800; // 2026-04-04 15:00 UTC, 02:00 local
+    EXPECT_EQ(Texts(ZoneClock(11 * 3600, lordHowe, 10 * 3600 + 1800), lordHowe - 3600, 3600, 4),
+              (Lines{"2026/04/05 01:00:00", "01:30:00", "02:30:00", "03:30:00"}));
+    // A change shortly after midnight leads back into the day before, and its date.
+    EXPECT_EQ(
+        Texts(ZoneClock(3600, 86400 - 1800, 0), 86400 - 5400, 1800, 4),
+        (Lines{"1970/01/01 23:30:00", "1970/01/02 00:00:00", "1970/01/01 23:30:00", "1970/01/02 00:00:00"}));
+}
+
+TEST(TimeTicksTest, ThinnedTicksAreSomeOfAllTicks) {
+    const ZoneClock utc(0);
+    TimeTicks ticks(utc, 1699978400, 10800, 4);
+    EXPECT_EQ(ticks.FirstOffset(), 6400) << "to the next 3 hours, not to the next 12";
+    EXPECT_EQ(ticks.Text(), "2023/11/14 18:00:00");
+    ticks.Next();
+    EXPECT_EQ(ticks.Text(), "2023/11/15 06:00:00");
+    EXPECT_TRUE(ticks.ShowsDate());
+    ticks.Next();
+    EXPECT_EQ(ticks.Text(), "2023/11/15 18:00:00");
+    EXPECT_FALSE(ticks.ShowsDate());
+}
+
+} // namespace
+} // namespace kavlix

@@ -1,0 +1,120 @@
+// The menu's export entry and what it sends.
+
+#include "tests/scrollgraph/FixedZone.h"
+#include "tests/scrollgraph/ScrollTest.h"
+#include "tests/support/MessageBoxWatcher.h"
+
+namespace {
+
+const std::string kCopy = "57634 Copy";
+const std::string kClear = "1324 &Clear Selection Mark";
+const std::string kRemove = "1325 &Remove Data Before Selection Mark";
+const std::string kSend = "1326 Send Selection Mark info to Tindro";
+const std::string kClearGray = "1324 gray &Clear Selection Mark";
+const std::string kRemoveGray = "1325 gray &Remove Data Before Selection Mark";
+const std::string kSendGray = "1326 gray Send Selection Mark info to Tindro";
+
+} // namespace
+
+class ScrollExportTest : public ScrollTest {
+protected:
+    void SetUp() override {
+        ScrollTest::SetUp();
+        ASSERT_TRUE(m_zone.Works());
+        Load(10);
+        parent.onNoted = [this](const testkit::RecordingParent::Entry& entry) {
+            if (entry.message == WM_GRAPH_SELMARKTIME)
+                texts.push_back(reinterpret_cast<const char*>(entry.lParam));
+        };
+    }
+    /// The traffic of the command, the exported text in place of its address.
+    Strings Export() {
+        texts.clear();
+        Strings log = Send(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK, 0);
+        for (std::size_t i = 0; i < log.size() && i < texts.size(); ++i)
+            log[i].replace(log[i].find("l="), std::string::npos, texts[i]);
+        return log;
+    }
+    static std::string Sent(const std::string& text) { return "sent message 1327 w=0 " + text; }
+
+    Strings texts;
+
+private:
+    FixedZone m_zone;
+};
+
+TEST_F(ScrollExportTest, TheEntryStandsAtTheEnd) {
+    const struct {
+        const char* name;
+        bool tindro;
+        int mark;
+        BOOL remove;
+        int times;
+        Strings before, items;
+    } cases[] = {
+        {"off", false, 3, TRUE, 1, {"7 Own"}, {kCopy, "-", kClear, kRemove, "7 Own"}},
+        {"off, twice", false, 3, TRUE, 2, {}, {"-", kCopy, "-", kClear, kRemove}},
+        {"on", true, 3, TRUE, 1, {"7 Own"}, {kCopy, "-", kClear, kRemove, "7 Own", "-", kSend}},
+        {"no mark", true, -1, TRUE, 1, {}, {kCopy, "-", kClearGray, kRemoveGray, "-", kSendGray}},
+        {"without removal", true, 0, FALSE, 1, {}, {kCopy, "-", kClear, "-", kSend}},
+        {"twice", true, 3, TRUE, 2, {}, {"-", kCopy, "-", kClear, kRemove, "-", kSend, "-"}},
+        {"host's own", true, 3, TRUE, 1, {"1326 Own"}, {kCopy, "-", kClear, kRemove, "1326 Own", "-"}},
+    };
+    for (const auto& each : cases) {
+        graph.SetTindroMode(each.tindro);
+        graph.SetSelectionMarkPos(each.mark);
+        graph.ShowMenuRemoveDataBeforeSelectionMark(each.remove);
+        CMenu menu;
+        ASSERT_TRUE(menu.CreatePopupMenu());
+        for (const std::string& item : each.before)
+            menu.AppendMenu(MF_STRING, static_cast<UINT_PTR>(std::stoi(item)),
+                            item.substr(item.find(' ') + 1).c_str());
+        for (int i = 0; i < each.times; ++i)
+            graph.InsertGraphMenu(menu);
+        EXPECT_EQ(testkit::MenuItems(menu.m_hMenu), each.items) << each.name;
+    }
+}
+
+TEST_F(ScrollExportTest, TheMarksTimeIsSent) {
+    EXPECT_EQ(Export(), Strings{Sent("")}) << "nothing was exported before";
+    EXPECT_STREQ(graph.GetTimeInfoFromSelectionMark(), "");
+    graph.SetSelectionMarkPos(5);
+    EXPECT_EQ(Export(), Strings{Sent("2023/11/14 22:13:25")}) << "whether the menu offers it or not";
+    graph.SetSelectionMarkPos(9);
+    EXPECT_EQ(Export(), Strings{Sent("2023/11/14 22:13:29")}) << "the last sample";
+    for (const int outside : {10, -1, 1000000}) {
+        graph.m_SelectionMarkPos = outside;
+        EXPECT_EQ(Export(), Strings{Sent("2023/11/14 22:13:29")})
+            << "the previous text again, for " << outside;
+    }
+    graph.m_SelectionMarkPos = 2;
+    texts.clear();
+    Traffic([&] { graph.SendSelectionMarkTime(); });
+    EXPECT_EQ(texts, Strings{"2023/11/14 22:13:29"}) << "as it was";
+    EXPECT_STREQ(graph.GetTimeInfoFromSelectionMark(), "2023/11/14 22:13:29");
+}
+
+TEST_F(ScrollExportTest, WithoutAParentTheTextIsKept) {
+    OpenScrollGraph top;
+    ASSERT_TRUE(top.CreateEx(0, "MFCGraphCtrl", "", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0));
+    top.AddXTickLabel(kSomeTime);
+    top.m_SelectionMarkPos = 0;
+    EXPECT_EQ(Traffic([&] { top.SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK); }), Strings());
+    EXPECT_STREQ(top.GetTimeInfoFromSelectionMark(), "2023/11/14 22:13:20");
+    top.SetScrollSync(TRUE);
+    EXPECT_EQ(Traffic([&] { top.SendMessage(WM_HSCROLL, SB_PAGERIGHT); }), Strings());
+    EXPECT_EQ(top.GetTopWindow(), &top.m_wndScrollBar);
+    top.DestroyWindow();
+}
+
+TEST_F(ScrollExportTest, RemovingByMenuMovesTheOriginToTheMark) {
+    graph.SetSelectionMarkPos(4);
+    testkit::MessageBoxWatcher yes(IDYES);
+    EXPECT_EQ(Send(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, 0),
+              Strings{"notify 1255 id 77 flags 0 at 0,0 index 0 count 4"});
+    CString text;
+    ASSERT_TRUE(graph.GetFullTime(0, text));
+    EXPECT_STREQ(text, "2023/11/14 22:13:24");
+    graph.ResetAll();
+    EXPECT_EQ(graph.GetCurDataIndex(), 0) << "time stamps are the tick labels";
+}

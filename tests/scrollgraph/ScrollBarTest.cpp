@@ -1,0 +1,146 @@
+// The scroll bar: where it lies and what it is told.
+
+#include "tests/scrollgraph/ScrollTest.h"
+#include "tests/support/ImportHook.h"
+
+namespace {
+
+SCROLLINFO g_told;
+int g_barKind = -1;
+BOOL g_redrawn = FALSE;
+decltype(&::SetScrollInfo) g_setScrollInfo = nullptr;
+
+int WINAPI NotingSetScrollInfo(HWND window, int bar, const SCROLLINFO* info, BOOL redraw) {
+    g_told = *info;
+    g_barKind = bar;
+    g_redrawn = redraw;
+    return g_setScrollInfo(window, bar, info, redraw);
+}
+
+} // namespace
+
+class ScrollBarTest : public ScrollTest {
+protected:
+    CRect BarRect() {
+        CRect rect;
+        graph.m_wndScrollBar.GetWindowRect(&rect);
+        graph.ScreenToClient(&rect);
+        return rect;
+    }
+};
+
+TEST_F(ScrollBarTest, ItLiesAlongTheBottomEdge) {
+    constexpr DWORD style = WS_CHILD | WS_VISIBLE | SBS_TOPALIGN;
+    EXPECT_EQ(graph.m_wndScrollBar.GetStyle() & (style | SBS_VERT | SBS_BOTTOMALIGN | WS_DISABLED), style);
+    EXPECT_EQ(graph.m_wndScrollBar.GetDlgCtrlID(), 100);
+    EXPECT_EQ(graph.m_wndScrollBar.GetParent(), &graph);
+    EXPECT_EQ(testkit::Text(BarRect()), "30,185,220,199");
+
+    // It comes to the front with every new size.
+    CWnd other;
+    ASSERT_TRUE(other.Create("STATIC", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &graph, 5));
+    other.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+    ASSERT_EQ(graph.GetTopWindow(), &other);
+    const struct {
+        int width, height;
+        const char* bar;
+    } sizes[] = {
+        {1000, 50, "30,35,920,49"}, {0, 300, "30,35,920,49"},
+        {700, 0, "30,35,920,49"},   {640, 480, "30,465,560,479"},
+        {110, 40, "30,25,30,39"},   {20, 10, "30,-5,30,9"}, // too narrow for any bar
+    };
+    for (const auto& size : sizes) {
+        Resize(size.width, size.height);
+        EXPECT_EQ(testkit::Text(BarRect()), size.bar) << size.width << " x " << size.height;
+    }
+    EXPECT_EQ(graph.GetTopWindow(), &graph.m_wndScrollBar);
+}
+
+TEST_F(ScrollBarTest, ItShowsPositionAndPageOfTheRange) {
+    EXPECT_EQ(Bar(), "0..1200 page 1197 pos 0") << "from the beginning";
+    const struct {
+        double pos, max, min, width;
+        const char* bar;
+    } views[] = {
+        {2700, 5200, 200, 1200, "0..1200 page 288 pos 600"},
+        {2708.3, 5200, 200, 1204.1, "0..1200 page 288 pos 601"}, // 601.99, 288.98
+        {0, 1000, 0, 5000, "0..1200 page 1197 pos 0"},           // wider than the range
+        {600, 1200.5, 0, 1200, "0..1200 page 1197 pos 4"},       // the bar ends where its page does
+        {0, 1203, 0, 1200, "0..1200 page 1197 pos 0"},
+        {100, 1e6, 0, 1200, "0..1200 page 1 pos 0"},
+    };
+    for (const auto& view : views) {
+        graph.m_dScrollPos = view.pos;
+        graph.m_dScrollMax = view.max;
+        graph.m_dScrollMin = view.min;
+        graph.m_dViewWidth = view.width;
+        graph.UpdateScrollInfo();
+        EXPECT_EQ(Bar(), view.bar) << View();
+    }
+    graph.m_wndScrollBar.SetScrollRange(5, 10, FALSE);
+    Resize(310, 200);
+    EXPECT_EQ(Bar(), views[5].bar) << "a new size sets all of it again";
+    EXPECT_TRUE(graph.m_wndScrollBar.IsWindowEnabled());
+}
+
+TEST_F(ScrollBarTest, EveryFieldIsTold) {
+    const testkit::ImportHook hook("KavlixMfc.dll", "SetScrollInfo",
+                                   reinterpret_cast<void*>(&NotingSetScrollInfo));
+    ASSERT_TRUE(hook.Installed());
+    g_setScrollInfo = reinterpret_cast<decltype(&::SetScrollInfo)>(hook.Original());
+    graph.m_dScrollMax = 4800;
+    graph.m_dScrollPos = 3600;
+    graph.UpdateScrollInfo();
+    EXPECT_EQ(g_told.cbSize, sizeof(SCROLLINFO));
+    EXPECT_EQ(g_told.fMask, static_cast<UINT>(SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL));
+    EXPECT_EQ(g_told.nMin, 0);
+    EXPECT_EQ(g_told.nMax, 1200);
+    EXPECT_EQ(g_told.nPage, 300u);
+    EXPECT_EQ(g_told.nPos, 900);
+    EXPECT_EQ(g_told.nTrackPos, 0);
+    EXPECT_EQ(g_barKind, SB_CTL);
+    EXPECT_TRUE(g_redrawn);
+}
+
+TEST_F(ScrollBarTest, PaintingLeavesItInFront) {
+    CWnd other;
+    ASSERT_TRUE(other.Create("STATIC", "", WS_CHILD, CRect(0, 0, 5, 5), &graph, 5));
+    other.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+    const CRect before = BarRect();
+    graph.InvalidateRect(CRect(100, 20, 120, 40), FALSE);
+    ::ValidateRect(graph.m_wndScrollBar.m_hWnd, nullptr);
+    graph.SendMessage(WM_PAINT);
+    EXPECT_EQ(testkit::Text(BarUpdateRect()), "0,0,190,14") << "painted over, and shown again";
+    EXPECT_EQ(graph.GetTopWindow(), &graph.m_wndScrollBar);
+    EXPECT_EQ(testkit::Text(BarRect()), testkit::Text(before));
+    testkit::Pump();
+    EXPECT_EQ(testkit::Text(UpdateRect()) + " " + testkit::Text(BarUpdateRect()), "0,0,0,0 0,0,0,0")
+        << "bar and picture do not repaint each other for ever";
+}
+
+TEST_F(ScrollBarTest, AWindowThatWasBoundHasNoBar) {
+    const HWND item =
+        ::CreateWindowEx(0, "MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, parent.m_hWnd,
+                         reinterpret_cast<HMENU>(5), ::GetModuleHandle(nullptr), nullptr);
+    ASSERT_NE(item, nullptr);
+    {
+        OpenScrollGraph bound;
+        ASSERT_TRUE(bound.SubclassWindow(item));
+        EXPECT_EQ(bound.m_wndScrollBar.m_hWnd, nullptr);
+        for (int i = 0; i < 100; ++i) {
+            bound.AddXTickLabel(kSomeTime + i);
+            bound.AddData(0, i, nullptr);
+        }
+        EXPECT_EQ(bound.m_dScrollPos, 900) << "follows as ever";
+        bound.SetHorzRange(0.5);
+        bound.SetWindowPos(nullptr, 0, 0, 320, 220, SWP_NOZORDER);
+        bound.UpdateWindow();
+        EXPECT_EQ(bound.m_nDrawLast, 99);
+        bound.SendMessage(WM_HSCROLL, SB_LINELEFT, 0);
+        bound.ProcessMouseWheel(120);
+        bound.RemoveHeadData(50);
+        testkit::Pump();
+        EXPECT_EQ(bound.m_dScrollPos, 49 * 20 - 540);
+    }
+    EXPECT_FALSE(::IsWindow(item));
+}

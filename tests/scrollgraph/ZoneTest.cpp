@@ -1,0 +1,210 @@
+// Labels in the zones of real places, written by hand from the places' own rules. In a process whose
+// environment names the place (TZ; CTest starts some) the system tells the zone's rules by itself, as it does
+// for users there; elsewhere they are asked of the system by the zone's name.
+
+#include "tests/scrollgraph/FixedZone.h"
+#include "tests/scrollgraph/ScrollTest.h"
+
+#include <cstdlib>
+
+namespace {
+
+struct Axis {
+    const char* name;
+    long start;     ///< UTC, where the axis begins
+    double minutes; ///< in view
+    Strings labels;
+};
+
+constexpr double kHours = 360; // six hours, an hour a step
+constexpr double kHalfHours = 180;
+constexpr double kSeconds = 1; // ten seconds a step
+constexpr int kTicks = 5;
+
+} // namespace
+
+class ScrollZoneTest : public ScrollTest {
+protected:
+    void LiveIn(const char* place, const wchar_t* zone) {
+        const char* own = std::getenv("TZ");
+        if (own == nullptr || std::string(own) != place) {
+            m_zone = std::make_unique<FixedZone>(zone);
+            ASSERT_TRUE(m_zone->Works());
+        }
+    }
+    void Check(std::initializer_list<Axis> axes) {
+        Record(); // lays out
+        for (const Axis& axis : axes)
+            EXPECT_EQ(LabelsFrom(axis.start, axis.minutes, kTicks), axis.labels) << axis.name;
+    }
+    std::string FullTime(long time) {
+        graph.InitData();
+        Stamp({time});
+        CString text, day, clock;
+        graph.GetFullTime(0, text);
+        graph.GetXData(0, day, clock);
+        EXPECT_EQ(text.Mid(5), day + " " + clock);
+        return std::string(text);
+    }
+    /// What GetNextTickTime makes of "YYYY/MM/DD hh:mm:ss".
+    std::string Next(const char* text, int step) {
+        CString date = CString(text).Left(10), time = CString(text).Mid(11);
+        return std::string(graph.GetNextTickTime(step, date, time));
+    }
+
+private:
+    std::unique_ptr<FixedZone> m_zone;
+};
+
+TEST_F(ScrollZoneTest, UTC) {
+    LiveIn("UTC", L"UTC");
+    Check({
+        {"29 February",
+         1709164800 - 3600,
+         kHours,
+         {"02/28 23:00:00", "02/29 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+        {"New Year",
+         1767225600 - 3600,
+         kHalfHours,
+         {"12/31 23:00:00", "23:30:00", "01/01 00:00:00", "00:30:00", "01:00:00", "01:30:00", "02:00:00"}},
+        {"a night when New York springs",
+         1772953200 - 5,
+         kSeconds,
+         {"03/08 07:00:00", "07:00:10", "07:00:20", "07:00:30", "07:00:40", "07:00:50"}},
+        {"before 1970",
+         -7200,
+         kHours,
+         {"12/31 22:00:00", "23:00:00", "01/01 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00"}},
+        {"the last second",
+         2147483647,
+         kSeconds,
+         {"01/19 03:14:10", "03:14:20", "03:14:30", "03:14:40", "03:14:50", "03:15:00"}},
+    });
+    EXPECT_EQ(FullTime(2147483647), "2038/01/19 03:14:07");
+    EXPECT_EQ(FullTime(-1), "1969/12/31 23:59:59");
+}
+
+TEST_F(ScrollZoneTest, NewYork) {
+    LiveIn("America/New_York", L"Eastern Standard Time");
+    Check({
+        {"spring, hours",
+         1772953200 - 9000,
+         kHours,
+         {"03/08 00:00:00", "01:00:00", "03:00:00", "04:00:00", "05:00:00", "06:00:00"}},
+        {"spring, half hours",
+         1772953200 - 3600,
+         kHalfHours,
+         {"03/08 01:00:00", "01:30:00", "03:00:00", "03:30:00", "04:00:00", "04:30:00", "05:00:00"}},
+        {"spring, seconds",
+         1772953200 - 25,
+         kSeconds,
+         {"03/08 01:59:40", "01:59:50", "03:00:00", "03:00:10", "03:00:20", "03:00:30"}},
+        {"autumn, hours",
+         1793512800 - 7200,
+         kHours,
+         {"11/01 00:00:00", "01:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+        {"autumn, half hours",
+         1793512800 - 3600,
+         kHalfHours,
+         {"11/01 01:00:00", "01:30:00", "01:00:00", "01:30:00", "02:00:00", "02:30:00", "03:00:00"}},
+        {"autumn, seconds",
+         1793512800 - 5,
+         kSeconds,
+         {"11/01 01:00:00", "01:00:10", "01:00:20", "01:00:30", "01:00:40", "01:00:50"}},
+        {"New Year",
+         1767225600 + 4 * 3600,
+         kHours,
+         {"12/31 23:00:00", "01/01 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+        {"29 February",
+         1709164800 + 4 * 3600,
+         kHours,
+         {"02/28 23:00:00", "02/29 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+        {"before 1970",
+         -10800,
+         kHours,
+         {"12/31 16:00:00", "17:00:00", "18:00:00", "19:00:00", "20:00:00", "21:00:00", "22:00:00"}},
+        {"the last second",
+         2147483647,
+         kSeconds,
+         {"01/18 22:14:10", "22:14:20", "22:14:30", "22:14:40", "22:14:50", "22:15:00"}},
+    });
+    EXPECT_EQ(FullTime(1772953199), "2026/03/08 01:59:59");
+    EXPECT_EQ(FullTime(1772953200), "2026/03/08 03:00:00");
+    EXPECT_EQ(FullTime(1793512799), "2026/11/01 01:59:59");
+    EXPECT_EQ(FullTime(1793512800), "2026/11/01 01:00:00");
+    EXPECT_EQ(FullTime(1162706400), "2006/11/05 01:00:00") << "the autumn change was a week earlier then";
+    EXPECT_EQ(FullTime(1162101600), "2006/10/29 01:00:00");
+    EXPECT_EQ(Next("2026/03/08 01:00:00", 3600), "2026/03/08 03:00:00");
+    EXPECT_EQ(Next("2026/11/01 00:30:00", 3600), "2026/11/01 01:30:00");
+}
+
+TEST_F(ScrollZoneTest, Kathmandu) {
+    LiveIn("Asia/Kathmandu", L"Nepal Standard Time");
+    Check({
+        {"New Year, hours",
+         1767225600 - 22500,
+         kHours, // 17:45 UTC is 23:30
+         {"01/01 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+        {"New Year, half hours",
+         1767225600 - 23400,
+         kHalfHours, // 23:15
+         {"12/31 23:30:00", "01/01 00:00:00", "00:30:00", "01:00:00", "01:30:00", "02:00:00"}},
+        {"New Year, seconds",
+         1767225600 - 20700 - 15,
+         kSeconds,
+         {"12/31 23:59:50", "01/01 00:00:00", "00:00:10", "00:00:20", "00:00:30", "00:00:40"}},
+        {"29 February",
+         1709164800 - 20700 - 3600,
+         kHours,
+         {"02/28 23:00:00", "02/29 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+        {"the last second",
+         2147483647,
+         kSeconds,
+         {"01/19 08:59:10", "08:59:20", "08:59:30", "08:59:40", "08:59:50", "09:00:00"}},
+    });
+    EXPECT_EQ(FullTime(1767204900), "2026/01/01 00:00:00");
+    EXPECT_EQ(Next("2025/12/31 23:59:55", 5), "2026/01/01 00:00:00");
+}
+
+TEST_F(ScrollZoneTest, LordHowe) {
+    // TZ would not do: there the system takes every summer time for a whole hour.
+    LiveIn("", L"Lord Howe Standard Time");
+    Check({
+        {"autumn, hours",
+         1775314800 - 7200,
+         kHours, // at two o'clock it is half past one
+         {"04/05 00:00:00", "01:00:00", "01:30:00", "02:30:00", "03:30:00", "04:30:00", "05:30:00"}},
+        {"autumn, half hours",
+         1775314800 - 3600,
+         kHalfHours,
+         {"04/05 01:00:00", "01:30:00", "01:30:00", "02:00:00", "02:30:00", "03:00:00", "03:30:00"}},
+        {"autumn, seconds",
+         1775314800 - 5,
+         kSeconds,
+         {"04/05 01:30:00", "01:30:10", "01:30:20", "01:30:30", "01:30:40", "01:30:50"}},
+        {"spring, hours",
+         1791041400 - 7200,
+         kHours,
+         {"10/04 00:00:00", "01:00:00", "02:30:00", "03:30:00", "04:30:00", "05:30:00", "06:30:00"}},
+        {"spring, half hours",
+         1791041400 - 3600,
+         kHalfHours,
+         {"10/04 01:00:00", "01:30:00", "02:30:00", "03:00:00", "03:30:00", "04:00:00", "04:30:00"}},
+        {"spring, seconds",
+         1791041400 - 25,
+         kSeconds,
+         {"10/04 01:59:40", "01:59:50", "02:30:00", "02:30:10", "02:30:20", "02:30:30"}},
+        {"New Year",
+         1767225600 - 11 * 3600 - 3600,
+         kHours,
+         {"12/31 23:00:00", "01/01 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+        {"29 February",
+         1709164800 - 11 * 3600 - 3600,
+         kHours,
+         {"02/28 23:00:00", "02/29 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}},
+    });
+    EXPECT_EQ(FullTime(1775314799), "2026/04/05 01:59:59");
+    EXPECT_EQ(FullTime(1775314800), "2026/04/05 01:30:00");
+    EXPECT_EQ(FullTime(1791041400), "2026/10/04 02:30:00");
+    EXPECT_EQ(Next("2026/10/04 01:30:00", 1800), "2026/10/04 02:30:00");
+}

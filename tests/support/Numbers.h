@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+namespace testkit {
+
+/// The same numbers on every machine and in every run.
+class Numbers {
+public:
+    explicit Numbers(std::uint32_t seed) : m_state(seed) {}
+    std::uint32_t Next() {
+        m_state ^= m_state << 13;
+        m_state ^= m_state >> 17;
+        m_state ^= m_state << 5;
+        return m_state;
+    }
+    int Below(int bound) { return static_cast<int>(Next() % static_cast<std::uint32_t>(bound)); }
+    bool OneIn(int count) { return Below(count) == 0; }
+
+private:
+    std::uint32_t m_state;
+};
+
+} // namespace testkit

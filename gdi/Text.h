@@ -16,4 +16,22 @@ inline void DrawTextAt(CDC& dc, int x, int y, const CString& text) {
     DrawTextAt(dc, x, y, text, text.GetLength());
 }
 
+/// As CDC::DrawText with its DT_ flags, for a text of the process code page.
+void DrawTextIn(CDC& dc, CRect rect, const CString& text, UINT format);
+
+/// Width and height of one line of a text with the DC's font, logical units.
+CSize MeasureText(CDC& dc, const CString& text);
+
+/// Width and height that DrawTextIn takes in `width` with the same flags; wider than that when a word is.
+CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format);
+
+/// Where a text is broken into two lines.
+struct TextBreak {
+    int width = 0; ///< of the wider line, logical units; 0 when the text holds no blank to break at
+    int at = 0;    ///< index of the blank, which belongs to neither line
+};
+
+/// The break that leaves the narrowest lines.
+TextBreak BreakInTwo(CDC& dc, const CString& text);
+
 } // namespace kavlix

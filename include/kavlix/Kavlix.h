@@ -5,4 +5,5 @@
 #include <kavlix/Export.h>
 #include <kavlix/GraphCtrl.h>
 #include <kavlix/GraphNotify.h>
+#include <kavlix/PieChartCtrl.h>
 #include <kavlix/ScrollGraphCtrl.h>

@@ -1,0 +1,119 @@
+#include <kavlix/PieChartCtrl.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "gdi/Guards.h"
+#include "gdi/Text.h"
+#include "graphctrl/GraphCtrlConvert.h"
+#include "piechart/PieLabels.h"
+
+using namespace kavlix;
+
+namespace {
+
+constexpr COLORREF kSelectedText = RGB(255, 255, 255);
+constexpr char kNarrowest[] = "Wi..."; // shorter abbreviations are not shown
+constexpr int kLeaderWidth = 1;
+
+CString PercentText(const CPieChartPiece& piece) {
+    constexpr double kPercent = 100.0;
+    // More than that would be a text of hundreds of digits.
+    constexpr double kHighest = 1e9;
+    const double percent = piece.m_dValue / piece.m_dTotal * kPercent;
+    if (!(std::fabs(percent) <= kHighest))
+        return CString();
+    char text[32];
+    std::snprintf(text, sizeof text, "%.1f%%", percent);
+    return text;
+}
+
+} // namespace
+
+void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<PieSector>& sectors,
+                               const CRect& band) {
+    SelectGuard font(dc, m_fontSmall);
+    PieLabelArea area;
+    area.client = ToRect(client);
+    area.pie = ToRect(m_rcPie);
+    area.startAngle = m_nStartAngle % 360;
+    const CSize narrowest = MeasureText(dc, kNarrowest);
+    area.lineHeight = std::max<int>(narrowest.cy, 1);
+    area.narrowest = narrowest.cx;
+
+    // Measuring texts is dear: only what can be shown is looked at.
+    const std::vector<int> shown = WidestSectors(sectors, LabelCapacity(area));
+    std::vector<PieLabelRequest> requests;
+    std::vector<int> breaks;
+    for (const int index : shown) {
+        const CPieChartPiece& piece = Piece(index);
+        PieLabelRequest request;
+        request.sector = sectors[static_cast<std::size_t>(index)];
+        request.text.label = MeasureText(dc, piece.m_strLabel).cx;
+        const TextBreak brk = BreakInTwo(dc, piece.m_strLabel);
+        request.text.broken = brk.width;
+        breaks.push_back(brk.at);
+        request.text.percent = MeasureText(dc, PercentText(piece)).cx;
+        requests.push_back(request);
+    }
+    const std::vector<PieLabel> labels = PlaceLabels(area, requests);
+
+    CPen pen;
+    pen.CreatePen(PS_SOLID, kLeaderWidth, LegibleOn(m_crBack, m_crOutline));
+    SelectGuard leaderPen(dc, pen);
+    for (const PieLabel& label : labels) {
+        std::vector<POINT> points;
+        for (const Point& point : label.leader)
+            points.push_back({point.x, point.y});
+        if (!points.empty())
+            dc.Polyline(points.data(), static_cast<int>(points.size()));
+    }
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        CPieChartPiece& piece = Piece(shown[i]);
+        piece.m_rcItem = ToCRect(labels[i].box);
+        // Half a text that shows beside the band would be a mere scrap.
+        CRect hidden;
+        PieLabel visible = labels[i];
+        if (hidden.IntersectRect(ToCRect(visible.label), band))
+            visible.label = {};
+        if (hidden.IntersectRect(ToCRect(visible.percent), band))
+            visible.percent = {};
+        DrawLabel(dc, piece, visible, breaks[i]);
+    }
+}
+
+void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLabel& label, int nBreak) {
+    const COLORREF inside = piece.m_bSelected ? kSelectedText : piece.m_crText;
+    COLORREF beside = inside;
+    if (label.outside && piece.m_bSelected) {
+        CBrush plate;
+        plate.CreateSolidBrush(m_crSelected);
+        const CRect box = ToCRect(label.box);
+        dc.FillRect(&box, &plate);
+    } else if (label.outside) {
+        beside = LegibleOn(m_crBack, piece.m_crText);
+    }
+
+    constexpr UINT kLine = DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP;
+    const UINT facing = !label.outside                                        ? DT_CENTER
+                        : label.box.left < m_rcPie.left + m_rcPie.Width() / 2 ? DT_RIGHT
+                                                                              : DT_LEFT;
+    CRect place = ToCRect(label.label);
+    dc.SetTextColor(label.outside ? beside : inside);
+    if (label.broken && !place.IsRectEmpty()) {
+        const int line = place.Height() / 2;
+        const CRect lower(place.left, place.top + line, place.right, place.bottom);
+        place.bottom = place.top + line;
+        DrawTextIn(dc, place, piece.m_strLabel.Left(nBreak), kLine | facing);
+        DrawTextIn(dc, lower, piece.m_strLabel.Mid(nBreak + 1), kLine | facing);
+    } else if (!place.IsRectEmpty()) {
+        DrawTextIn(dc, place, piece.m_strLabel, kLine | facing);
+    }
+    place = ToCRect(label.percent);
+    if (place.IsRectEmpty())
+        return;
+    const bool inBox = CRect().IntersectRect(ToCRect(label.box), place) != 0;
+    dc.SetTextColor(label.outside && inBox ? beside : inside);
+    DrawTextIn(dc, place, PercentText(piece), kLine | (inBox ? facing : DT_CENTER));
+}

@@ -1,0 +1,245 @@
+#include <kavlix/PieChartCtrl.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "gdi/Guards.h"
+#include "gdi/Mapping.h"
+#include "gdi/Offscreen.h"
+#include "gdi/Text.h"
+#include "graphctrl/GraphCtrlConvert.h"
+#include "piechart/PieGeometry.h"
+#include "piechart/PieLabels.h"
+
+using namespace kavlix;
+
+namespace {
+
+constexpr char kNoData[] = "No Data";
+
+constexpr int kOutlineWidth = 1;
+// Sectors are cut out of the circle by corners that far from the centre, in radii: so far that their rounding
+// to whole pixels turns no boundary visibly.
+constexpr double kCornerDistance = 8.0;
+constexpr double kWidestCorner = 90.0; // degrees between two corners, so that the circle stays within them
+// A boundary line is left out where it would come closer than that to another, in pixels along the rim.
+constexpr double kLeastLineDistance = 3.0;
+// Of a boundary line only the part is drawn where the wider of its sectors is as wide as that, if the rest is
+// long enough to blacken the centre. Pixels.
+constexpr double kLeastWidthBetweenLines = 2.0;
+constexpr double kShortestGapInLine = 4.0;
+// Round a message. Pixels.
+constexpr int kMessagePaddingX = 10;
+constexpr int kMessagePaddingY = 6;
+constexpr UINT kMessageFormat = DT_CENTER | DT_WORDBREAK | DT_NOPREFIX;
+
+CPoint ToCPoint(const Point& point) {
+    return CPoint(point.x, point.y);
+}
+
+} // namespace
+
+void CPieChartCtrl::OnPaint() {
+    CPaintDC paintDc(this);
+    CRect client;
+    GetClientRect(&client);
+    Offscreen offscreen(paintDc, client.Size());
+    if (!offscreen.IsReady()) {
+        DrawPie(paintDc);
+        return;
+    }
+    DrawPie(offscreen.Dc());
+    paintDc.BitBlt(0, 0, client.right, client.bottom, &offscreen.Dc(), 0, 0, SRCCOPY);
+}
+
+LRESULT CPieChartCtrl::OnPrintClient(WPARAM wParam, LPARAM) {
+    CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
+    if (dc == nullptr)
+        return Default();
+    DrawPie(*dc);
+    return 0;
+}
+
+BOOL CPieChartCtrl::OnEraseBkgnd(CDC*) {
+    // Every paint covers the whole window; erasing first would flicker.
+    return TRUE;
+}
+
+void CPieChartCtrl::OnSize(UINT, int, int) {
+    Default();
+    // Windows of a class without redraw styles too: the pie moves with every change of size.
+    InvalidateRect(nullptr, FALSE);
+}
+
+std::vector<PieSector> CPieChartCtrl::Sectors() const {
+    std::vector<PieSector> sectors;
+    sectors.reserve(static_cast<std::size_t>(m_arrPieces.GetSize()));
+    PieWalk walk;
+    for (INT_PTR i = 0; i < m_arrPieces.GetSize(); ++i)
+        sectors.push_back(walk.Add(Piece(i).m_dValue, Piece(i).m_dTotal));
+    return sectors;
+}
+
+void CPieChartCtrl::DrawPie(CDC& dc) {
+    if (m_hWnd == nullptr)
+        return;
+    RecalcRect();
+    CRect client;
+    GetClientRect(&client);
+    SavedDcGuard saved(dc);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextAlign(TA_LEFT | TA_TOP);
+    {
+        CBrush background;
+        background.CreateSolidBrush(m_crBack);
+        dc.FillRect(&client, &background);
+    }
+
+    for (INT_PTR i = 0; i < m_arrPieces.GetSize(); ++i)
+        Piece(i).m_rcItem.SetRectEmpty();
+    const std::vector<PieSector> sectors = Sectors();
+    const bool anyVisible =
+        std::any_of(sectors.begin(), sectors.end(), [](const PieSector& each) { return each.IsVisible(); });
+    const bool isShown = anyVisible && !m_rcPie.IsRectEmpty();
+    CString message;
+    if (m_nWaitMode != 0)
+        message = m_strWait;
+    else if (!anyVisible)
+        message = kNoData;
+    const CRect band = PlaceMessage(dc, client, message);
+    if (isShown) {
+        DrawSectors(dc, sectors);
+        DrawOutline(dc, sectors);
+        DrawLabels(dc, client, sectors, band);
+    }
+    DrawMessage(dc, client, message, band, isShown);
+}
+
+void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) {
+    // A region leaves out one more column and row than an ellipse does.
+    CRect device = ToDeviceWithEdges(dc, m_rcPie);
+    CRgn circle;
+    if (!circle.CreateEllipticRgnIndirect(&device))
+        return;
+    SavedDcGuard saved(dc);
+    dc.SelectClipRgn(&circle, RGN_AND);
+    dc.SelectStockObject(NULL_PEN);
+
+    const Rect pie = ToRect(m_rcPie);
+    const double distance = m_rcPie.Height() * kCornerDistance / 2;
+    std::vector<POINT> corners;
+    for (std::size_t i = 0; i < sectors.size(); ++i) {
+        const PieSector& sector = sectors[i];
+        if (!sector.IsVisible())
+            continue;
+        const CPieChartPiece& piece = Piece(static_cast<INT_PTR>(i));
+        CBrush fill;
+        fill.CreateSolidBrush(piece.m_bSelected ? m_crSelected : piece.m_crColor);
+        if (sector.Span() >= kFullCircle) {
+            dc.FillRect(&m_rcPie, &fill);
+            continue;
+        }
+        // Neighbours share the corner between them, so that every pixel belongs to just one.
+        corners.assign(1, ToCPoint(PieCentre(pie)));
+        const int steps = static_cast<int>(std::ceil(sector.Span() / kWidestCorner));
+        for (int step = 0; step <= steps; ++step) {
+            const double angle = step == steps ? sector.end : sector.begin + step * kWidestCorner;
+            corners.push_back(ToCPoint(PointAround(pie, m_nStartAngle % 360 + angle, distance)));
+        }
+        SelectGuard brush(dc, fill);
+        dc.Polygon(corners.data(), static_cast<int>(corners.size()));
+    }
+}
+
+void CPieChartCtrl::DrawOutline(CDC& dc, const std::vector<PieSector>& sectors) {
+    CPen pen;
+    pen.CreatePen(PS_SOLID, kOutlineWidth, m_crOutline);
+    SelectGuard penSelected(dc, pen);
+    SelectGuard brush(dc, ::GetStockObject(NULL_BRUSH));
+
+    const Rect pie = ToRect(m_rcPie);
+    const double radius = m_rcPie.Height() / 2.0;
+    const double corner = radius * kCornerDistance;
+    const double start = m_nStartAngle % 360;
+    const auto arcLength = [&](double span) { return PieRadians(span) * radius; };
+
+    std::vector<PieSector> visible;
+    std::copy_if(sectors.begin(), sectors.end(), std::back_inserter(visible),
+                 [](const PieSector& each) { return each.IsVisible(); });
+    const double covered = visible.back().end;
+    const bool whole = arcLength(kFullCircle - covered) < 1;
+    const CPoint from = ToCPoint(PointAround(pie, start + covered, corner));
+    const CPoint to = ToCPoint(PointAround(pie, start, corner));
+    if (whole)
+        dc.Ellipse(&m_rcPie);
+    else if (arcLength(covered) >= 1) {
+        dc.SetArcDirection(AD_COUNTERCLOCKWISE);
+        dc.Arc(&m_rcPie, from, to);
+    }
+
+    CRect device = ToDeviceWithEdges(dc, m_rcPie);
+    CRgn circle;
+    if ((whole && visible.size() == 1) || !circle.CreateEllipticRgnIndirect(&device))
+        return;
+    SavedDcGuard saved(dc);
+    dc.SelectClipRgn(&circle, RGN_AND);
+    const auto line = [&](double angle, double widerSpan) {
+        double inner = 0;
+        if (PieRadians(widerSpan) * kShortestGapInLine < kLeastWidthBetweenLines)
+            inner = kLeastWidthBetweenLines / PieRadians(widerSpan);
+        dc.MoveTo(ToCPoint(PointAround(pie, start + angle, inner)));
+        dc.LineTo(ToCPoint(PointAround(pie, start + angle, corner)));
+    };
+    // With a gap, its two edges count as the boundaries of a wide sector.
+    double last = 0;
+    line(0, std::max(visible.front().Span(), whole ? visible.back().Span() : kFullCircle - covered));
+    for (std::size_t i = 1; i < visible.size(); ++i) {
+        const double wider = std::max(visible[i - 1].Span(), visible[i].Span());
+        const double angle = visible[i].begin;
+        if (arcLength(wider) < kLeastLineDistance || arcLength(angle - last) < kLeastLineDistance ||
+            arcLength(kFullCircle - angle) < kLeastLineDistance)
+            continue;
+        line(angle, wider);
+        last = angle;
+    }
+    if (!whole)
+        line(covered, std::max(visible.back().Span(), kFullCircle - covered));
+}
+
+// The band in the middle of the window on which a message stands; empty when there is none.
+CRect CPieChartCtrl::PlaceMessage(CDC& dc, const CRect& client, const CString& text) {
+    SelectGuard font(dc, m_fontLarge);
+    CRect room = client;
+    room.DeflateRect(kMessagePaddingX, kMessagePaddingY);
+    if (text.IsEmpty() || room.Width() <= 0 || room.Height() <= 0)
+        return CRect(0, 0, 0, 0);
+    const CSize size = MeasureTextIn(dc, text, room.Width(), kMessageFormat);
+    // A message that does not fit says less than an empty window.
+    if (size.cx > room.Width() || size.cy > room.Height())
+        return CRect(0, 0, 0, 0);
+    CRect band(CPoint((client.Width() - size.cx) / 2, (client.Height() - size.cy) / 2), size);
+    band.InflateRect(kMessagePaddingX, kMessagePaddingY);
+    return band;
+}
+
+void CPieChartCtrl::DrawMessage(CDC& dc, const CRect& client, const CString& text, const CRect& band,
+                                bool bBand) {
+    if (band.IsRectEmpty())
+        return;
+    SelectGuard font(dc, m_fontLarge);
+    const COLORREF color = LegibleOn(m_crBack, m_crOutline);
+    if (bBand) {
+        CPen frame;
+        frame.CreatePen(PS_SOLID, kOutlineWidth, color);
+        CBrush back;
+        back.CreateSolidBrush(m_crBack);
+        SelectGuard framePen(dc, frame);
+        SelectGuard backBrush(dc, back);
+        dc.Rectangle(&band);
+    }
+    // As wide as when it was measured, so that the lines break where they did.
+    const CRect place(client.left + kMessagePaddingX, band.top + kMessagePaddingY,
+                      client.right - kMessagePaddingX, band.bottom - kMessagePaddingY);
+    dc.SetTextColor(color);
+    DrawTextIn(dc, place, text, kMessageFormat);
+}

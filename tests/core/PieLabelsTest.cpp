@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include "piechart/PieLabels.h"
+
+namespace kavlix {
+namespace {
+
+constexpr int kLine = 15;
+
+PieLabelArea Area(int width, int height, double startAngle = 0) {
+    PieLabelArea area;
+    area.client = {0, 0, width, height};
+    area.pie = PieSquare(area.client);
+    area.startAngle = startAngle;
+    area.lineHeight = kLine;
+    area.narrowest = 20;
+    return area;
+}
+
+/// Pieces of these parts of 1, all with the same texts.
+std::vector<PieLabelRequest> Pieces(const std::vector<double>& parts, PieText text) {
+    std::vector<PieLabelRequest> requests;
+    PieWalk walk;
+    for (const double part : parts)
+        requests.push_back({walk.Add(part, 1), text});
+    return requests;
+}
+
+bool IsEmpty(const Rect& rect) {
+    return rect.Width() <= 0 || rect.Height() <= 0;
+}
+
+bool Meet(const Rect& a, const Rect& b) {
+    return !IsEmpty(a) && !IsEmpty(b) && a.left < b.right && b.left < a.right && a.top < b.bottom &&
+           b.top < a.bottom;
+}
+
+bool Within(const Rect& inner, const Rect& outer) {
+    return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
+           inner.bottom <= outer.bottom;
+}
+
+/// What must hold of every layout; empty, or what does not.
+std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& requests,
+                  const std::vector<PieLabel>& labels) {
+    const Point centre = PieCentre(area.pie);
+    const double radius = (area.pie.bottom - area.pie.top) / 2.0;
+    const auto distance = [&](double x, double y) { return std::hypot(x - centre.x, y - centre.y); };
+    const auto inSector = [&](const Rect& rect, const PieSector& sector) {
+        for (int x = rect.left; x <= rect.right; ++x) {
+            for (int y = rect.top; y <= rect.bottom; ++y) {
+                const double angle =
+                    std::fmod(AngleOfPoint(area.pie, {x, y}) - area.startAngle - sector.begin + 7200, 360.0);
+                if (distance(x, y) > radius || (angle > sector.Span() && sector.Span() < 360))
+                    return false;
+            }
+        }
+        return true;
+    };
+    std::vector<Rect> taken;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const PieLabel& label = labels[i];
+        const PieText& text = requests[i].text;
+        const std::string which = " of " + std::to_string(i);
+        const bool inBox = Meet(label.percent, label.box);
+        if (IsEmpty(label.box) && !IsEmpty(label.label))
+            return "label without box" + which;
+        if (!IsEmpty(label.label) && !Within(label.label, label.box))
+            return "label leaves its box" + which;
+        if (inBox && !Within(label.percent, label.box))
+            return "percentage leaves its box" + which;
+        if (Meet(label.label, label.percent))
+            return "label on percentage" + which;
+        if (!IsEmpty(label.box) && !Within(label.box, area.client))
+            return "box leaves the window" + which;
+        if (!IsEmpty(label.percent) && label.percent.Width() < text.percent)
+            return "cut percentage" + which;
+        if (!IsEmpty(label.label) && label.label.Height() != (label.broken ? 2 : 1) * area.lineHeight)
+            return "label of odd height" + which;
+        if (!IsEmpty(label.label) &&
+            label.label.Width() < std::min(area.narrowest, label.broken ? text.broken : text.label))
+            return "label too narrow" + which;
+        if (!label.outside && !IsEmpty(label.box) && !inSector(label.box, requests[i].sector))
+            return "box leaves its sector" + which;
+        if (!inBox && !IsEmpty(label.percent) && !inSector(label.percent, requests[i].sector))
+            return "percentage leaves its sector" + which;
+        if (label.outside) {
+            const double nearest = distance(std::clamp(centre.x, label.box.left, label.box.right),
+                                            std::clamp(centre.y, label.box.top, label.box.bottom));
+            if (nearest < radius)
+                return "box on the pie" + which;
+            if (label.leader.size() < 3 || label.leader.size() > 4)
+                return "leader of " + std::to_string(label.leader.size()) + which;
+            const Point rim = PointOnPie(area.pie, requests[i].sector.Middle() + area.startAngle, false);
+            if (std::hypot(label.leader[0].x - rim.x, label.leader[0].y - rim.y) > 1.5)
+                return "leader begins elsewhere" + which;
+            const Point end = label.leader.back();
+            if (end.x < label.box.left || end.x > label.box.right || end.y < label.box.top ||
+                end.y > label.box.bottom)
+                return "leader ends elsewhere" + which;
+        }
+        for (const Rect& rect : {label.box, inBox ? Rect{} : label.percent}) {
+            for (const Rect& other : taken)
+                if (Meet(rect, other))
+                    return "text on text" + which;
+            if (!IsEmpty(rect))
+                taken.push_back(rect);
+        }
+    }
+    return {};
+}
+
+TEST(PieLabelsTest, EveryTextHasAPlaceOfItsOwn) {
+    const struct {
+        const char* name;
+        int width, height;
+        std::vector<double> parts;
+        PieText text;
+        int boxes;   ///< pieces with a label or percentage, at least
+        int outside; ///< of them beside the pie, exactly
+    } cases[] = {
+        {"whole", 400, 300, {1}, {65, 45, 40}, 1, 0},
+        {"halves", 400, 300, {0.5, 0.5}, {65, 45, 40}, 2, 0},
+        {"two large, three small", 400, 300, {0.6, 0.3, 0.03, 0.03, 0.04}, {65, 45, 40}, 5, 3},
+        {"twelve equal", 400, 300, std::vector<double>(12, 1 / 12.0), {65, 45, 28}, 12, 12},
+        {"twelve equal, no percentages", 396, 296, std::vector<double>(12, 1 / 12.0), {65, 45, 0}, 12, 12},
+        {"twelve equal, long texts", 400, 300, std::vector<double>(12, 1 / 12.0), {400, 0, 28}, 12, 12},
+        {"forty", 400, 300, std::vector<double>(40, 1 / 40.0), {65, 45, 28}, 20, -1},
+        {"nothing but nothing beside the whole", 400, 300, {1, 0}, {65, 45, 40}, 2, 1},
+        {"too small for texts", 60, 60, {0.5, 0.5}, {65, 45, 40}, 0, 0},
+        {"percentages alone", 300, 200, {0.5, 0.45, 0.05}, {0, 0, 40}, 3, 1},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        const PieLabelArea area = Area(each.width, each.height);
+        const std::vector<PieLabelRequest> requests = Pieces(each.parts, each.text);
+        const std::vector<PieLabel> labels = PlaceLabels(area, requests);
+        ASSERT_EQ(labels.size(), requests.size());
+        EXPECT_EQ(Fault(area, requests, labels), "");
+        const auto count = [&](const auto& holds) {
+            return static_cast<int>(std::count_if(labels.begin(), labels.end(), holds));
+        };
+        EXPECT_GE(count([](const PieLabel& label) { return !IsEmpty(label.box); }), each.boxes);
+        if (each.outside >= 0) {
+            EXPECT_EQ(count([](const PieLabel& label) { return label.outside; }), each.outside);
+        }
+    }
+}
+
+TEST(PieLabelsTest, RandomPiesKeepTextsApart) {
+    std::mt19937 random(11);
+    int outside = 0;
+    int inside = 0;
+    int alone = 0;
+    for (int run = 0; run < 3000; ++run) {
+        const PieLabelArea area =
+            Area(static_cast<int>(30 + random() % 500), static_cast<int>(30 + random() % 400),
+                 run % 3 == 0 ? static_cast<int>(random() % 720) - 360 : 0);
+        std::vector<PieLabelRequest> requests;
+        PieWalk walk;
+        for (unsigned n = 1 + random() % 25; n > 0; --n) {
+            PieText text;
+            text.label = static_cast<int>(random() % 4 == 0 ? random() % 300 : 20 + random() % 60);
+            text.broken = random() % 2 == 0 ? text.label / 2 + 3 : 0;
+            text.percent = random() % 9 == 0 ? 0 : 28;
+            requests.push_back({walk.Add(random() % 7 == 0 ? 0.0 : random() % 100, 600), text});
+            if (!requests.back().sector.hasPlace)
+                requests.pop_back();
+        }
+        const std::vector<PieLabel> labels = PlaceLabels(area, requests);
+        ASSERT_EQ(Fault(area, requests, labels), "")
+            << "run " << run << " " << area.client.right << "x" << area.client.bottom;
+        for (const PieLabel& label : labels) {
+            outside += label.outside;
+            inside += !label.outside && !IsEmpty(label.box);
+            alone += !IsEmpty(label.percent) && !Meet(label.percent, label.box);
+        }
+    }
+    EXPECT_GT(outside, 1000);
+    EXPECT_GT(inside, 100);
+    EXPECT_GT(alone, 500);
+}
+
+TEST(PieLabelsTest, WidestSectorsInListOrder) {
+    const auto sectors = [](const std::vector<double>& spans) {
+        std::vector<PieSector> result;
+        PieWalk walk;
+        for (const double span : spans)
+            result.push_back(walk.Add(span, 360));
+        return result;
+    };
+    const std::vector<PieSector> some = sectors({10, 30, -5, 35, 40, 10});
+    EXPECT_EQ(WidestSectors(some, 10), (std::vector<int>{0, 1, 3, 4, 5}));
+    EXPECT_EQ(WidestSectors(some, 4), (std::vector<int>{0, 1, 3, 4})) << "the first of equal ones";
+    EXPECT_EQ(WidestSectors(some, 2), (std::vector<int>{1, 4}));
+    EXPECT_TRUE(WidestSectors(some, 0).empty());
+    EXPECT_TRUE(WidestSectors(some, -1).empty());
+}
+
+TEST(PieLabelsTest, LegibleTextKeepsItsColour) {
+    constexpr std::uint32_t kWhite = 0xFFFFFF, kBlack = 0, kBlue = 0xC80000, kPale = 0xE0FFE0,
+                            kGrey = 0x808080;
+    EXPECT_EQ(LegibleOn(kWhite, kBlack), kBlack);
+    EXPECT_EQ(LegibleOn(kWhite, kBlue), kBlue);
+    EXPECT_EQ(LegibleOn(kWhite, kWhite), kBlack);
+    EXPECT_EQ(LegibleOn(kWhite, kPale), kBlack);
+    EXPECT_EQ(LegibleOn(kBlack, kBlue), kWhite);
+    EXPECT_EQ(LegibleOn(kBlack, kPale), kPale);
+    EXPECT_EQ(LegibleOn(kGrey, kGrey), kBlack);
+}
+
+} // namespace
+} // namespace kavlix

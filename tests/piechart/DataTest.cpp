@@ -1,0 +1,149 @@
+#include "tests/piechart/PieTest.h"
+#include "tests/support/ImportHook.h"
+
+class PieDataTest : public PieTest {};
+
+TEST_F(PieDataTest, StartsAsDescribed) {
+    OpenPie fresh;
+    EXPECT_EQ(fresh.m_nStartAngle, 0);
+    EXPECT_EQ(fresh.m_crBack, 0x00FFFFFFu);
+    EXPECT_EQ(fresh.m_crOutline, 0u);
+    EXPECT_EQ(fresh.m_crSelected, 0x000000FFu);
+    EXPECT_EQ(fresh.m_rcPie, CRect(0, 0, 0, 0));
+    const struct {
+        CFont& font;
+        int height;
+    } fonts[] = {{fresh.m_fontLarge, 15}, {fresh.m_fontSmall, 13}};
+    for (const auto& each : fonts) {
+        LOGFONT font = {};
+        ASSERT_NE(each.font.GetObject(sizeof font, &font), 0);
+        EXPECT_EQ(font.lfHeight, each.height);
+        EXPECT_EQ(font.lfWeight, 400);
+        EXPECT_EQ(font.lfCharSet, 1);
+        EXPECT_EQ(font.lfOutPrecision, 2);
+        EXPECT_EQ(font.lfClipPrecision, 1);
+        EXPECT_EQ(font.lfQuality, 0);
+        EXPECT_EQ(font.lfPitchAndFamily, 0);
+        EXPECT_STREQ(font.lfFaceName, "Arial");
+    }
+    WNDCLASS info = {};
+    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), "PIE_CHART_CTRL", &info));
+    EXPECT_EQ(info.style, UINT(CS_GLOBALCLASS));
+    EXPECT_EQ(info.hbrBackground, ::GetSysColorBrush(COLOR_BTNFACE));
+    EXPECT_EQ(info.hCursor, ::LoadCursor(nullptr, IDC_ARROW));
+    EXPECT_EQ(info.hIcon, nullptr);
+    EXPECT_FALSE(CPieChartCtrl::RegisterWndClass(AfxGetInstanceHandle())) << "it is there already";
+    pie.DestroyWindow();
+    ASSERT_TRUE(::UnregisterClass("PIE_CHART_CTRL", AfxGetInstanceHandle()));
+    EXPECT_TRUE(CPieChartCtrl::RegisterWndClass(AfxGetInstanceHandle()));
+    EXPECT_FALSE(CPieChartCtrl::RegisterWndClass(AfxGetInstanceHandle()));
+}
+
+TEST_F(PieDataTest, CreateMakesASunkenChild) {
+    ::SetCursor(nullptr);
+    OpenPie made;
+    ASSERT_TRUE(made.Create(WS_CHILD | WS_VISIBLE, CRect(10, 20, 110, 80), &parent, 5));
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW));
+    CRect place;
+    made.GetWindowRect(&place);
+    parent.ScreenToClient(&place);
+    EXPECT_EQ(place, CRect(10, 20, 110, 80));
+    EXPECT_EQ(made.GetDlgCtrlID(), 5);
+    EXPECT_NE(made.GetExStyle() & WS_EX_CLIENTEDGE, 0u);
+    EXPECT_EQ(::GetClassLong(made.m_hWnd, GCL_STYLE) & 3, 3);
+    EXPECT_EQ(::GetClassLongPtr(made.m_hWnd, GCLP_HCURSOR), 0u);
+    ::SetCursor(nullptr);
+    EXPECT_TRUE(made.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(made.m_hWnd),
+                                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW)) << "the class has none";
+    OpenPie popup;
+    EXPECT_TRUE(popup.Create(WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0)) << "without a parent";
+    popup.DestroyWindow();
+    made.DestroyWindow();
+}
+
+TEST_F(PieDataTest, PiecesAndTheirColours) {
+    DWORD colour = 99;
+    pie.GetItemColor(0, colour);
+    EXPECT_EQ(colour, 0u) << "no pieces";
+    EXPECT_EQ(pie.AddPiece(0x010203, 0x040506, 8, 2, "label"), 1);
+    EXPECT_EQ(UpdateRect(), Client());
+    pie.AddPiece(0x0A0B0C, 0, 8, 3, "second");
+    const CPieChartPiece& piece = pie.At(0);
+    EXPECT_EQ(piece.m_crColor, 0x010203u);
+    EXPECT_EQ(piece.m_crText, 0x040506u);
+    EXPECT_EQ(piece.m_dTotal, 8);
+    EXPECT_EQ(piece.m_dValue, 2);
+    EXPECT_STREQ(piece.m_strLabel, "label");
+    EXPECT_EQ(piece.m_bSelected, 0);
+    const struct {
+        int index;
+        DWORD colour;
+    } cases[] = {{0, 0x010203}, {1, 0x0A0B0C}, {2, 0x0A0B0C}, {INT_MAX, 0x0A0B0C}, {-1, 0}, {INT_MIN, 0}};
+    for (const auto& each : cases) {
+        pie.GetItemColor(each.index, colour = 99);
+        EXPECT_EQ(colour, each.colour) << each.index;
+    }
+    pie.m_nWaitMode = 3;
+    Settle();
+    pie.Reset();
+    EXPECT_EQ(pie.m_arrPieces.GetSize(), 0);
+    EXPECT_EQ(pie.m_nWaitMode, 0);
+    EXPECT_TRUE(UpdateRect().IsRectEmpty()) << "Reset does not repaint";
+    pie.Wait("busy", 2);
+    EXPECT_STREQ(pie.m_strWait, "busy");
+    EXPECT_EQ(pie.m_nWaitMode, 2);
+    EXPECT_EQ(UpdateRect(), Client());
+    Settle();
+    pie.Refresh();
+    EXPECT_EQ(UpdateRect(), Client());
+}
+
+TEST_F(PieDataTest, WorksWithoutAWindow) {
+    // A null window would mean every window on the screen.
+    Settle();
+    OpenPie loose;
+    loose.AddPiece(1, 2, 4, 1, "x");
+    loose.Refresh();
+    loose.Wait(nullptr, 1);
+    EXPECT_EQ(loose.GetPieceIndex(45), 0);
+    EXPECT_EQ(loose.GetPieceIndex(91), -1);
+    loose.RecalcRect();
+    testkit::DibSurface surface(10, 10, RGB(1, 2, 3));
+    loose.DrawPie(*CDC::FromHandle(surface.Dc()));
+    EXPECT_EQ(surface.Count(RGB(1, 2, 3)), 100);
+    EXPECT_TRUE(UpdateRect().IsRectEmpty());
+}
+
+namespace {
+
+int g_left = 0;
+void* g_allocate = nullptr;
+
+/// The allocation function of the library, which fails after so many calls.
+void* FailingNew(std::size_t size) {
+    if (g_left-- == 0)
+        throw std::bad_alloc();
+    return reinterpret_cast<void* (*)(std::size_t)>(g_allocate)(size);
+}
+
+} // namespace
+
+TEST_F(PieDataTest, MemoryRunsOutWhileAppending) {
+    int refused = 0;
+    for (const char* module : {"Kavlix.dll", "KavlixMfc.dll"}) {
+        const testkit::ImportHook hook(module, "_Znwy", reinterpret_cast<void*>(&FailingNew));
+        if (!hook.Installed())
+            continue;
+        g_allocate = hook.Original();
+        for (int nth = 0; nth < 5; ++nth) {
+            const INT_PTR before = pie.m_arrPieces.GetSize();
+            g_left = nth;
+            const int added = pie.AddPiece(1, 2, 4, 1, "x");
+            g_left = -1;
+            EXPECT_EQ(pie.m_arrPieces.GetSize(), before + added);
+            refused += added == 0;
+        }
+    }
+    EXPECT_GT(refused, 0) << "a failure must reach the control";
+}

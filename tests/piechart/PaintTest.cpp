@@ -1,0 +1,247 @@
+#include "tests/piechart/PieTest.h"
+
+#include <algorithm>
+#include <cmath>
+
+class PiePaintTest : public PieTest {
+protected:
+    /// The texts painted, each with its colour: "25.0% 000000".
+    Strings Texts() {
+        Strings texts;
+        const auto picture = Record();
+        EXPECT_EQ(picture->ObjectFaults({"Arial 13", "Arial 15"}), "");
+        for (const testkit::MetafileRecord& record : picture->Records())
+            if (record.kind == testkit::kText && !record.text.empty())
+                texts.push_back(record.text + " " + testkit::ColourText(record.state.textColor));
+        return texts;
+    }
+};
+
+TEST_F(PiePaintTest, EveryPixelBelongsToThePieceThatAClickFinds) {
+    for (const int pieces : {1, 2, 7, 40}) {
+        SCOPED_TRACE(pieces);
+        pie.Reset();
+        OpenPie search; // without a window, where nothing is invalidated a million times
+        for (int i = 0; i < pieces; ++i) {
+            pie.AddPiece(Colour(i), RGB(0, 0, 0), pieces, 1, "");
+            search.AddPiece(0, 0, pieces, 1, "");
+        }
+        Resize(600, 450);
+        search.m_rcPie = pie.m_rcPie;
+        const auto picture = Paint();
+        const double radius = pie.m_rcPie.Height() / 2.0;
+        for (int i = 0; i < pieces; ++i)
+            for (const double part : {0.35, 0.8, 0.96}) {
+                const CPoint point = At((i + 0.5) * 360 / pieces, part);
+                EXPECT_EQ(picture->At(point.x, point.y), Colour(i)) << "piece " << i << " at " << part;
+            }
+
+        // Whatever shows a piece's colour is that piece's for the click too, a boundary's pixel excepted.
+        int wrong = 0;
+        int coloured = 0;
+        for (int y = 0; y < 450; ++y)
+            for (int x = 0; x < 600; ++x) {
+                const COLORREF colour = picture->At(x, y);
+                int shown = 0;
+                while (shown < pieces && Colour(shown) != colour)
+                    ++shown;
+                const double angle = search.GetAngleFromPoint(CPoint(x, y));
+                if (shown == pieces || angle <= 0)
+                    continue;
+                ++coloured;
+                const double distance =
+                    std::hypot(x - pie.m_rcPie.CenterPoint().x, y - pie.m_rcPie.CenterPoint().y);
+                EXPECT_LE(distance, radius + 1);
+                const double inPiece = std::fmod(angle, 360.0 / pieces);
+                const double toBoundary =
+                    std::min(inPiece, 360.0 / pieces - inPiece) * 3.14159 / 180 * distance;
+                wrong += (pieces == 1 || toBoundary > 1) && search.GetPieceIndex(angle) != shown;
+            }
+        EXPECT_EQ(wrong, 0);
+        EXPECT_GT(coloured, 3.14 * radius * radius * 0.8);
+    }
+}
+
+TEST_F(PiePaintTest, SectorsOfEverySize) {
+    constexpr COLORREF kBack = RGB(255, 255, 255);
+    const struct {
+        const char* name;
+        std::vector<double> values;                 ///< of 100
+        std::vector<std::pair<double, int>> probes; ///< angle, piece; -1 for the background
+    } cases[] = {
+        {"less than the whole", {25, 50}, {{20, 0}, {70, 0}, {110, 1}, {255, 1}, {285, -1}, {340, -1}}},
+        {"more than the whole", {75, 50, 60}, {{20, 0}, {250, 0}, {290, 1}, {350, 1}}},
+        {"nothing between", {0, 50, 0, 50, 0}, {{20, 1}, {170, 1}, {190, 3}, {350, 3}}},
+        {"the whole and nothing", {100, 0}, {{0, 0}, {20, 0}, {180, 0}, {350, 0}}},
+        {"less than a pixel", {0.01, 49.99, 0.01, 49.99}, {{20, 1}, {170, 1}, {190, 3}, {350, 3}}},
+        {"only less than a pixel", {0.001}, {{20, -1}, {180, -1}, {350, -1}}},
+        {"negative", {50, -25, 50}, {{20, 0}, {170, 0}, {200, 2}, {260, 2}, {300, -1}}},
+        {"no number", {50, NAN, 50}, {{20, 0}, {170, 0}, {200, -1}, {350, -1}}},
+        {"infinite", {50, INFINITY, 50}, {{20, 0}, {170, 0}, {200, 1}, {350, 1}}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.name);
+        pie.Reset();
+        for (const double value : each.values)
+            Add({value});
+        const auto picture = Paint();
+        for (const auto& [angle, piece] : each.probes) {
+            const CPoint point = At(angle, 0.9);
+            EXPECT_EQ(picture->At(point.x, point.y), piece < 0 ? kBack : Colour(piece)) << angle;
+        }
+        EXPECT_EQ(picture->Count(RGB(1, 2, 3)), 0) << "all is painted";
+    }
+}
+
+TEST_F(PiePaintTest, OutlineColoursAndStartAngle) {
+    Add({50, 25});
+    pie.m_crBack = RGB(200, 210, 220);
+    pie.m_crOutline = RGB(0, 0, 254);
+    pie.m_crSelected = RGB(250, 120, 0);
+    pie.m_nStartAngle = 90 - 3 * 360;
+    pie.At(1).m_bSelected = TRUE;
+    const auto picture = Paint();
+    const auto at = [&](double angle, double part) {
+        const CPoint point = At(angle, part);
+        return picture->At(point.x, point.y);
+    };
+    EXPECT_EQ(at(100, 0.9), Colour(0));
+    EXPECT_EQ(at(260, 0.9), Colour(0));
+    EXPECT_EQ(at(280, 0.9), pie.m_crSelected);
+    EXPECT_EQ(at(45, 0.5), pie.m_crBack);
+    EXPECT_EQ(picture->At(0, 0), pie.m_crBack);
+    for (const double angle : {90, 270, 0})
+        EXPECT_EQ(at(angle, 0.8), pie.m_crOutline) << "boundary at " << angle;
+    EXPECT_EQ(picture->Bounds(Colour(0)).bottom, 179) << "inside the outline, whose lowest row is 179";
+    EXPECT_EQ(picture->At(135, 179), pie.m_crOutline);
+    const CRect all = picture->Bounds(pie.m_crOutline);
+    EXPECT_GE(all.left, pie.m_rcPie.left);
+    EXPECT_LE(all.bottom, pie.m_rcPie.bottom);
+}
+
+TEST_F(PiePaintTest, LabelsOfTwelvePiecesStandApart) {
+    const struct {
+        int width, height;
+        const char* label;
+    } cases[] = {
+        {400, 300, "Used 6.2 GB"}, {396, 296, "Buffers"}, {400, 300, "A text far too long for any window"}};
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.label);
+        pie.Reset();
+        for (int i = 0; i < 12; ++i)
+            pie.AddPiece(Colour(i), RGB(0, 0, 0), 12, 1, each.label);
+        Resize(each.width, each.height);
+        for (int i = 0; i < 12; ++i) {
+            const CRect item = pie.At(i).m_rcItem;
+            EXPECT_FALSE(item.IsRectEmpty()) << i;
+            EXPECT_EQ(CRect().IntersectRect(item, Client()), TRUE);
+            CRect joined;
+            joined.UnionRect(item, Client());
+            EXPECT_EQ(joined, Client()) << i;
+            for (int k = 0; k < i; ++k)
+                EXPECT_FALSE(CRect().IntersectRect(item, pie.At(k).m_rcItem)) << i << " and " << k;
+        }
+    }
+}
+
+TEST_F(PiePaintTest, LabelsThatFindNoRoomLeaveNoTrace) {
+    pie.AddPiece(Colour(0), 0, 1, 1, "label");
+    Settle();
+    EXPECT_FALSE(pie.At(0).m_rcItem.IsRectEmpty());
+    Resize(35, 35);
+    EXPECT_TRUE(pie.At(0).m_rcItem.IsRectEmpty());
+}
+
+TEST_F(PiePaintTest, SliversKeepTheirColour) {
+    Add({50, 0.3, 49.7});
+    EXPECT_GT(Paint()->Count(Colour(1)), 20) << "its two boundaries do not cover it";
+}
+
+TEST_F(PiePaintTest, TextsAndTheirColours) {
+    pie.AddPiece(RGB(0, 0, 90), RGB(255, 255, 0), 100, 60, "In");
+    pie.AddPiece(RGB(0, 90, 0), RGB(0, 0, 120), 100, 36, "Two");
+    pie.AddPiece(RGB(90, 0, 0), RGB(255, 255, 255), 100, 4, "White");
+    pie.AddPiece(RGB(90, 0, 0), RGB(120, 0, 0), 100, -4, "Negative");
+    pie.AddPiece(RGB(90, 0, 0), RGB(120, 0, 0), 0, 0, "No number");
+    EXPECT_EQ(Texts(), (Strings{"In FFFF00", "60.0% FFFF00", "Two 000078", "36.0% 000078", "White 000000",
+                                "4.0% 000000"}));
+    pie.At(1).m_bSelected = TRUE;
+    pie.At(2).m_bSelected = TRUE;
+    EXPECT_EQ(Texts(), (Strings{"In FFFF00", "60.0% FFFF00", "Two FFFFFF", "36.0% FFFFFF", "White FFFFFF",
+                                "4.0% FFFFFF"}));
+    // Beside the pie white stands on the selection's colour.
+    const auto picture = Paint();
+    const CRect plate = pie.At(2).m_rcItem;
+    EXPECT_EQ(picture->At(plate.left, plate.top), pie.m_crSelected);
+    EXPECT_TRUE(pie.At(3).m_rcItem.IsRectEmpty());
+
+    for (const double total : {1e-300, 0.0}) {
+        pie.Reset();
+        pie.AddPiece(RGB(0, 0, 90), RGB(255, 255, 0), total, 1e9, "Huge");
+        EXPECT_EQ(Texts(), Strings{"Huge FFFF00"}) << "no percentage of hundreds of digits";
+    }
+}
+
+TEST_F(PiePaintTest, Messages) {
+    EXPECT_EQ(Texts(), Strings{"No Data 000000"});
+    pie.Wait("Wait here", 1);
+    EXPECT_EQ(Texts(), Strings{"Wait here 000000"});
+    pie.m_crBack = RGB(0, 0, 0);
+    EXPECT_EQ(Texts(), Strings{"Wait here FFFFFF"}) << "legible on any background";
+    pie.m_crBack = RGB(255, 255, 255);
+    const auto waiting = Paint();
+    CRect text = waiting->Bounds(RGB(0, 0, 0));
+    EXPECT_NEAR(text.CenterPoint().x, 150, 3);
+    EXPECT_NEAR(text.CenterPoint().y, 100, 5);
+    Add({100});
+    EXPECT_EQ(Texts(), (Strings{"100.0% 000000", "Wait here 000000"})) << "the chart stays";
+    pie.Wait("Wait here", 0);
+    EXPECT_EQ(Texts(), Strings{"100.0% 000000"});
+    pie.Reset();
+    Add({50, 50});
+    pie.Wait("Wait here for a while", 1);
+    EXPECT_EQ(Texts(), Strings{"Wait here for a while 000000"}) << "no scraps beside the band";
+    pie.Reset();
+    EXPECT_EQ(Texts(), Strings{"No Data 000000"});
+    pie.AddPiece(1, 2, 0, 0, "no number");
+    EXPECT_EQ(Texts(), Strings{"No Data 000000"}) << "nothing that could be shown";
+    Resize(30, 12);
+    EXPECT_TRUE(Texts().empty()) << "no scraps";
+}
+
+TEST_F(PiePaintTest, OnePictureForEveryDestination) {
+    pie.AddPiece(Colour(0), RGB(0, 0, 0), 100, 60, "first");
+    pie.AddPiece(Colour(1), RGB(0, 0, 0), 100, 4, "second");
+    Settle();
+    const auto picture = Paint();
+    testkit::DibSurface shown(300, 200);
+    shown.Grab(pie.m_hWnd);
+    EXPECT_EQ(testkit::Difference(*picture, shown), "") << "the window";
+    testkit::DibSurface asked(300, 200, RGB(9, 9, 9));
+    pie.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(asked.Dc()), PRF_CLIENT);
+    EXPECT_EQ(testkit::Difference(*picture, asked), "") << "WM_PRINTCLIENT";
+
+    testkit::DibSurface moved(340, 250, RGB(9, 9, 9));
+    ::SetViewportOrgEx(moved.Dc(), 40, 50, nullptr);
+    ::IntersectClipRect(moved.Dc(), 0, 0, 100, 200);
+    ::SetTextColor(moved.Dc(), RGB(7, 7, 7));
+    const HGDIOBJ before[] = {::GetCurrentObject(moved.Dc(), OBJ_PEN),
+                              ::GetCurrentObject(moved.Dc(), OBJ_BRUSH),
+                              ::GetCurrentObject(moved.Dc(), OBJ_FONT)};
+    pie.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(moved.Dc()), PRF_CLIENT);
+    EXPECT_EQ(moved.Count(RGB(9, 9, 9)), 340 * 250 - 100 * 200) << "the clip holds";
+    EXPECT_EQ(moved.At(60 + 40, 100 + 50), picture->At(60, 100));
+    EXPECT_EQ(::GetTextColor(moved.Dc()), COLORREF(RGB(7, 7, 7)));
+    EXPECT_EQ(::GetCurrentObject(moved.Dc(), OBJ_PEN), before[0]);
+    EXPECT_EQ(::GetCurrentObject(moved.Dc(), OBJ_BRUSH), before[1]);
+    EXPECT_EQ(::GetCurrentObject(moved.Dc(), OBJ_FONT), before[2]);
+}
+
+TEST_F(PiePaintTest, ResizedWindowsRepaintWhole) {
+    Add({60, 40});
+    pie.SetWindowPos(nullptr, 0, 0, 260, 240, SWP_NOZORDER | SWP_NOMOVE);
+    pie.UpdateWindow();
+    testkit::DibSurface shown(260, 240);
+    shown.Grab(pie.m_hWnd);
+    EXPECT_EQ(testkit::Difference(*Paint(), shown), "");
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <kavlix/PieChartCtrl.h>
+
+#include "tests/support/DibSurface.h"
+#include "tests/support/MetafileRecorder.h"
+#include "tests/support/RecordingParent.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+using Strings = std::vector<std::string>;
+
+/// The control as a derived class sees it.
+class OpenPie : public CPieChartCtrl {
+public:
+    using CPieChartCtrl::DrawPie;
+    using CPieChartCtrl::m_arrPieces;
+    using CPieChartCtrl::m_crBack;
+    using CPieChartCtrl::m_crOutline;
+    using CPieChartCtrl::m_crSelected;
+    using CPieChartCtrl::m_fontLarge;
+    using CPieChartCtrl::m_fontSmall;
+    using CPieChartCtrl::m_nStartAngle;
+    using CPieChartCtrl::m_nWaitMode;
+    using CPieChartCtrl::m_rcPie;
+    using CPieChartCtrl::m_strWait;
+
+    CPieChartPiece& At(int index) { return *static_cast<CPieChartPiece*>(m_arrPieces.GetAt(index)); }
+    int Selected() const;
+    Strings defaulted; ///< messages handed on to the default procedure: "button"
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+/// A control in a visible parent; its window has no frame.
+class PieTest : public testing::Test {
+protected:
+    static constexpr int kControlId = 77;
+
+    void SetUp() override;
+    void TearDown() override;
+
+    void Resize(int width, int height);
+    /// Pieces with these values of 100, piece i in Colour(i), without label texts.
+    void Add(std::initializer_list<double> values);
+    static COLORREF Colour(int index);
+
+    std::unique_ptr<testkit::DibSurface> Paint();
+    std::unique_ptr<testkit::MetafileRecorder> Record();
+    void Settle();
+    CRect UpdateRect();
+    void Click(CPoint point, WPARAM flags = MK_LBUTTON);
+    CRect Client();
+    /// The point of the picture at an angle and a part of the radius.
+    CPoint At(double angle, double part);
+
+    testkit::RecordingParent parent;
+    OpenPie pie;
+};

@@ -41,10 +41,10 @@ void DrawTextIn(CDC& dc, CRect rect, const CString& text, UINT format) {
     ::DrawTextW(dc.GetSafeHdc(), wide.c_str(), static_cast<int>(wide.size()), &rect, format);
 }
 
-CSize MeasureText(CDC& dc, const CString& text) {
-    const std::wstring wide = Widen(text);
+CSize MeasureText(const CDC& dc, const char* text, int length) {
+    const std::wstring wide = Widen(text, length);
     CSize size(0, 0);
-    ::GetTextExtentPoint32W(dc.GetSafeHdc(), wide.c_str(), static_cast<int>(wide.size()), &size);
+    ::GetTextExtentPoint32W(dc.m_hAttribDC, wide.c_str(), static_cast<int>(wide.size()), &size);
     return size;
 }
 

@@ -19,8 +19,13 @@ inline void DrawTextAt(CDC& dc, int x, int y, const CString& text) {
 /// As CDC::DrawText with its DT_ flags, for a text of the process code page.
 void DrawTextIn(CDC& dc, CRect rect, const CString& text, UINT format);
 
-/// Width and height of one line of a text with the DC's font, logical units.
-CSize MeasureText(CDC& dc, const CString& text);
+/// Width and height of one line of a text of the process code page with the DC's font, logical units; cut as
+/// DrawTextAt cuts.
+CSize MeasureText(const CDC& dc, const char* text, int length);
+
+inline CSize MeasureText(const CDC& dc, const CString& text) {
+    return MeasureText(dc, text, text.GetLength());
+}
 
 /// Width and height that DrawTextIn takes in `width` with the same flags; wider than that when a word is.
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format);

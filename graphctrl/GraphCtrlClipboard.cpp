@@ -1,12 +1,14 @@
 #include <kavlix/GraphCtrl.h>
 
+#include "gdi/PictureClipboard.h"
+#include "gdi/PictureFile.h"
+
+using namespace kavlix;
+
 int CGraphCtrl::CopyToClipboard() {
     if (m_hWnd == nullptr)
         return 0;
-    // One text instead of the usual two: the second is empty, and the literal's own zero ends the list. A
-    // reader of two texts finds all the zeros that it looks for.
-    static const char description[] = "Ruvex Trace\0\0";
-    const HDC metafileDc = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, description);
+    const HDC metafileDc = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, kPictureDescription);
     if (metafileDc == nullptr)
         return 0;
     CDC dc;
@@ -16,16 +18,19 @@ int CGraphCtrl::CopyToClipboard() {
     const HENHMETAFILE picture = ::CloseEnhMetaFile(dc.Detach());
     if (picture == nullptr)
         return 0;
-
-    BOOL handedOver = FALSE;
-    if (OpenClipboard()) {
-        ::EmptyClipboard();
-        handedOver = ::SetClipboardData(CF_ENHMETAFILE, picture) != nullptr;
-        ::CloseClipboard();
-    }
-    if (!handedOver)
-        ::DeleteEnhMetaFile(picture);
+    PutOnClipboard(*this, picture);
     return 1;
+}
+
+bool CGraphCtrl::SaveImage(CString strFileName) {
+    if (m_hWnd == nullptr)
+        return false;
+    CRect client;
+    GetClientRect(&client);
+    return SavePicture(strFileName, client.Size(), [this](CDC& dc) {
+        SetMapModeAnisotropic(dc);
+        DrawGraph(dc);
+    });
 }
 
 void CGraphCtrl::OnEditCopy() {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "gdi/Guards.h"
+#include "gdi/Markers.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/GraphCtrlPainters.h"
 #include "graphctrl/SampleStore.h"
@@ -13,47 +14,11 @@ namespace {
 
 // Logical units.
 constexpr int kMarkerHalf = 90;
-constexpr int kMarkerTriangleBase = 60; // below the point
 constexpr int kMarkTriangleHeight = 180;
 constexpr int kMarkTriangleTip = 10; // the triangle stands right of the line by this much
 constexpr int kMarkTriangleRight = 90;
 constexpr int kMarkTriangleLeft = -70;
 constexpr int kRoundingReach = 60; // two pixels
-
-void DrawPath(CDC& dc, std::initializer_list<CPoint> points) {
-    auto point = points.begin();
-    dc.MoveTo(*point);
-    while (++point != points.end())
-        dc.LineTo(*point);
-}
-
-bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y) {
-    const int left = x - kMarkerHalf;
-    const int top = y - kMarkerHalf;
-    const int right = x + kMarkerHalf;
-    const int bottom = y + kMarkerHalf;
-    const int base = y + kMarkerTriangleBase;
-    switch (type) {
-    case CDataset::MarkerSquare:
-        dc.Rectangle(left, top, right, bottom);
-        return true;
-    case CDataset::MarkerDiamond:
-        DrawPath(dc, {{x, top}, {right, y}, {x, bottom}, {left, y}, {x, top}});
-        return true;
-    case CDataset::MarkerTriangle:
-        DrawPath(dc, {{x, top}, {left, base}, {right, base}, {x, top}});
-        return true;
-    case CDataset::MarkerCircle:
-        dc.Ellipse(left, top, right, bottom);
-        return true;
-    case CDataset::MarkerCross:
-        DrawPath(dc, {{x, top}, {x, bottom}});
-        DrawPath(dc, {{left, y}, {right, y}});
-        return true;
-    default:
-        return false;
-    }
-}
 
 void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x) {
     const CPoint position = dc.GetCurrentPosition();
@@ -100,7 +65,7 @@ void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPosition
             dc.LineTo(*x, *y);
         lastPixel = pixel;
         started = true;
-        if (DrawMarker(dc, dataset.GetMarkerType(), *x, *y))
+        if (DrawMarker(dc, dataset.GetMarkerType(), *x, *y, kMarkerHalf, 0))
             dc.MoveTo(*x, *y);
     }
 }

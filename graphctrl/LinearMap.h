@@ -19,12 +19,15 @@ public:
     /// Position of `value` in logical units, computed in doubles, truncated once, saturated. None for NaN, on
     /// a range of 0, and on an infinite range that leaves the position undefined.
     std::optional<int> Position(double value) const {
-        if (m_range == 0)
-            return std::nullopt;
-        const double position = (value - m_min) * m_extent / m_range + m_edge;
+        const double position = ExactPosition(value);
         if (std::isnan(position))
             return std::nullopt;
         return ToCoordinate(position);
+    }
+
+    /// The same, neither truncated nor saturated; not a number where there is none.
+    double ExactPosition(double value) const {
+        return m_range == 0 ? std::nan("") : (value - m_min) * m_extent / m_range + m_edge;
     }
 
     /// The value that lies at `position`; not a number where there is none.

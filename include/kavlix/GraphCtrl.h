@@ -196,6 +196,10 @@ public:
     /// Puts the picture on the clipboard as an enhanced metafile. Result 1; 0 when there is no window or the
     /// metafile could not be made. A clipboard held by somebody else is not detected.
     int CopyToClipboard();
+    /// Saves the picture as PNG, BMP or EMF, as the name's extension says. False for another extension,
+    /// without a window or an area, or when the file cannot be written; an existing file is as before then,
+    /// and nothing half-written is left.
+    bool SaveImage(CString strFileName);
     /// Whether `menu` already holds a command `nID`.
     bool IsMenuItem(CMenu& menu, UINT nID);
 

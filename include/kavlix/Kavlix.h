@@ -1,6 +1,7 @@
 #pragma once
 
 /// Everything a host needs of Kavlix.
+#include <kavlix/ChartDraw.h>
 #include <kavlix/Dataset.h>
 #include <kavlix/Export.h>
 #include <kavlix/GraphCtrl.h>

@@ -1,0 +1,111 @@
+#include <kavlix/ChartDraw.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/RoundScale.h"
+
+using namespace kavlix;
+
+namespace {
+
+constexpr char kDefaultFontFace[] = "Arial";
+constexpr int kDefaultFontSize = 90; // tenths of a point
+constexpr COLORREF kTextColor = RGB(64, 64, 64);
+constexpr COLORREF kCaptionColor = RGB(32, 32, 32);
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
+ON_WM_PAINT()
+ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
+END_MESSAGE_MAP()
+
+CChartDraw::CChartDraw()
+    : m_rectChart(0, 0, 0, 0), m_rectPlot(0, 0, 0, 0), m_XScale(std::make_unique<RoundScale>()),
+      m_YScale(std::make_unique<RoundScale>()), m_FontSize(kDefaultFontSize), m_FontFace(kDefaultFontFace),
+      m_BkColor(RGB(255, 255, 255)), m_TitleColor(kCaptionColor), m_XLabelColor(kCaptionColor),
+      m_YLabelColor(kCaptionColor), m_XTickLabelColor(kTextColor), m_YTickLabelColor(kTextColor),
+      m_AxisColor(RGB(96, 96, 96)), m_GridColor(RGB(228, 228, 228)), m_ZeroLineColor(RGB(176, 176, 176)),
+      m_CalcSize(0, 0) {
+}
+
+CChartDraw::~CChartDraw() = default;
+
+BOOL CChartDraw::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    const LPCTSTR windowClass =
+        AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
+    return CWnd::Create(windowClass, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CChartDraw::Redraw() {
+    if (m_hWnd != nullptr)
+        InvalidateRect(nullptr, FALSE);
+}
+
+void CChartDraw::SetAutoXScale() {
+    m_XFixed.fixed = false;
+    m_Changed = true;
+}
+
+void CChartDraw::SetAutoYScale() {
+    m_YFixed.fixed = false;
+    m_Changed = true;
+}
+
+BOOL CChartDraw::SetXScale(double dMin, double dMax, double dStep) {
+    return FixScale(m_XFixed, dMin, dMax, dStep);
+}
+
+BOOL CChartDraw::SetYScale(double dMin, double dMax, double dStep) {
+    return FixScale(m_YFixed, dMin, dMax, dStep);
+}
+
+BOOL CChartDraw::FixScale(FixedScale& scale, double dMin, double dMax, double dStep) {
+    if (!std::isfinite(dMin) || !std::isfinite(dMax) || !(dMin < dMax) || !std::isfinite(dStep) || dStep < 0)
+        return FALSE;
+    scale = {true, dMin, dMax, dStep};
+    m_Changed = true;
+    return TRUE;
+}
+
+void CChartDraw::GetXScale(double& dMin, double& dMax, double& dStep) const {
+    dMin = m_XScale->Min();
+    dMax = m_XScale->Max();
+    dStep = m_XScale->Step();
+}
+
+void CChartDraw::GetYScale(double& dMin, double& dMax, double& dStep) const {
+    dMin = m_YScale->Min();
+    dMax = m_YScale->Max();
+    dStep = m_YScale->Step();
+}
+
+void CChartDraw::SetTitle(CString text) {
+    m_Title = text;
+    m_Changed = true;
+}
+
+void CChartDraw::SetXLabel(CString text) {
+    m_XLabel = text;
+    m_Changed = true;
+}
+
+void CChartDraw::SetYLabel(CString text) {
+    m_YLabel = text;
+    m_Changed = true;
+}
+
+void CChartDraw::SetGrid(BOOL bGridX, BOOL bGridY) {
+    m_GridX = bGridX;
+    m_GridY = bGridY;
+}
+
+void CChartDraw::SetTextFont(int nSize, const char* pszFace) {
+    constexpr int kSmallestSize = 10;
+    constexpr int kLargestSize = 720;
+    m_FontSize = std::clamp(nSize, kSmallestSize, kLargestSize);
+    m_FontFace = pszFace;
+    m_Changed = true;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <kavlix/ChartDraw.h>
+
+#include "chartdraw/ChartSeries.h"
+
+/// One dataset of a chart: its points and how they are drawn.
+struct CChartDraw::Dataset {
+    kavlix::ChartSeries points;
+    COLORREF color = RGB(0, 0, 0);
+    int lineSize = 1; ///< pixels
+    CDataset::MarkerType markerType = CDataset::MarkerNone;
+    bool showLine = true;
+    bool visible = true;
+};

@@ -1,0 +1,98 @@
+#include <kavlix/ChartDraw.h>
+
+#include <afxdlgs.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/DibBlock.h"
+#include "chartdraw/RoundScale.h"
+#include "gdi/Guards.h"
+#include "gdi/PictureClipboard.h"
+#include "gdi/PictureFile.h"
+
+using namespace kavlix;
+
+namespace {
+
+/// The colours that the system shows now. 255 are asked for, not 256: so the files have always been made.
+void MakeSystemPalette(CDC& dc, CPalette& palette) {
+    constexpr WORD kVersion = 0x300;
+    constexpr UINT kEntriesAskedFor = 255;
+    constexpr std::size_t kBlockBytes = 1032; // header and 256 entries
+    std::vector<BYTE> block(kBlockBytes);
+    auto& record = *reinterpret_cast<LOGPALETTE*>(block.data());
+    const UINT count = ::GetSystemPaletteEntries(dc.GetSafeHdc(), 0, kEntriesAskedFor, record.palPalEntry);
+    record.palVersion = kVersion;
+    record.palNumEntries = static_cast<WORD>(std::min(count, kEntriesAskedFor));
+    palette.CreatePalette(&record);
+}
+
+} // namespace
+
+bool CChartDraw::PrepareExport() {
+    if (m_hWnd == nullptr)
+        return false;
+    CRect client;
+    GetClientRect(&client);
+    if (m_Changed || m_rectChart.IsRectEmpty() || client.Size() != m_CalcSize)
+        CalcDatas();
+    return true;
+}
+
+bool CChartDraw::CopyToClipboard() {
+    if (!PrepareExport())
+        return false;
+    CSize size = m_rectChart.Size();
+    {
+        CClientDC dc(this);
+        dc.DPtoHIMETRIC(&size);
+    }
+    const CRect frame(0, 0, size.cx, size.cy);
+    CDC dc;
+    if (!dc.Attach(::CreateEnhMetaFile(nullptr, nullptr, &frame, kPictureDescription)))
+        return false;
+    DrawChart(dc);
+    const HENHMETAFILE picture = ::CloseEnhMetaFile(dc.Detach());
+    if (picture == nullptr)
+        return false;
+    PutOnClipboard(*this, picture);
+    return true;
+}
+
+bool CChartDraw::CopyToFile() {
+    CFileDialog dialog(FALSE, "BMP", "Chart", OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                       "Bitmap |*.bmp|");
+    return dialog.DoModal() == IDOK && CopyToFile(dialog.GetPathName());
+}
+
+bool CChartDraw::CopyToFile(CString strFileName) {
+    if (!PrepareExport() || m_rectChart.IsRectEmpty())
+        return false;
+    CBitmap bitmap;
+    CPalette palette;
+    {
+        CWindowDC windowDc(this);
+        CDC memoryDc;
+        if (!memoryDc.CreateCompatibleDC(&windowDc) ||
+            !bitmap.CreateCompatibleBitmap(&windowDc, m_rectChart.Width(), m_rectChart.Height()))
+            return false;
+        SelectGuard selected(memoryDc, bitmap);
+        DrawChart(memoryDc);
+        if (memoryDc.GetDeviceCaps(RASTERCAPS) & RC_PALETTE)
+            MakeSystemPalette(memoryDc, palette);
+    }
+
+    const DibBlock block(DDBToDIB(bitmap, BI_RGB, &palette));
+    CFile file;
+    if (block.Get() == nullptr || !file.Open(strFileName, CFile::modeCreate | CFile::modeWrite))
+        return false;
+    SaveDIB(block.Get(), file);
+    return true;
+}
+
+bool CChartDraw::SaveImage(CString strFileName) {
+    return PrepareExport() &&
+           SavePicture(strFileName, m_rectChart.Size(), [this](CDC& dc) { DrawChart(dc); });
+}

@@ -1,0 +1,133 @@
+#include <kavlix/ChartDraw.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/ChartDrawText.h"
+#include "chartdraw/RoundScale.h"
+#include "gdi/Guards.h"
+
+using namespace kavlix;
+
+namespace {
+
+// Distances in heights of the text.
+constexpr double kMargin = 0.6;     // round the whole
+constexpr double kCaptionGap = 0.3; // between a caption and what it names
+constexpr double kYLabelRoom = 2.5; // from one Y label to the next
+constexpr double kXLabelGap = 1.2;  // between two X labels at least
+constexpr double kSmallestPlot = 4; // for which titles and scales still get their room
+
+constexpr int kTenthsOfPointPerInch = 720;
+constexpr int kMostTicks = 100;
+
+int WidestLabel(CDC& dc, const RoundScale& scale) {
+    int widest = 0;
+    for (int i = 0; i < std::min(scale.TickCount(), kMostTicks); ++i)
+        widest = std::max(widest, TextWidth(dc, scale.Label(i)));
+    return widest;
+}
+
+int StepsIn(int length, double room) {
+    return std::clamp(static_cast<int>(length / std::max(room, 1.0)), 2, kMostTicks);
+}
+
+} // namespace
+
+void CChartDraw::CalcDatas() {
+    if (m_hWnd == nullptr)
+        return;
+    GetClientRect(&m_rectChart);
+    m_CalcSize = m_rectChart.Size();
+    m_Changed = false;
+
+    CClientDC dc(this);
+    m_FontPixels = std::max(1, ::MulDiv(m_FontSize, dc.GetDeviceCaps(LOGPIXELSY), kTenthsOfPointPerInch));
+    {
+        CFont font;
+        MakeTextFont(font, 0, true);
+        SelectGuard selected(dc, font);
+        m_TitleHeight = TextHeight(dc);
+    }
+    CFont font;
+    MakeTextFont(font, 0, false);
+    SelectGuard selected(dc, font);
+    m_TextHeight = TextHeight(dc);
+
+    // In a small window the data come first: what has no room is left out.
+    const int smallest = static_cast<int>(kSmallestPlot * m_TextHeight);
+    m_ShowCaptions = m_ShowTitle = m_ShowScales = true;
+    LayOut(dc);
+    for (bool* part : {&m_ShowCaptions, &m_ShowTitle, &m_ShowScales}) {
+        if (m_rectPlot.Width() >= smallest && m_rectPlot.Height() >= smallest)
+            break;
+        *part = false;
+        LayOut(dc);
+    }
+}
+
+void CChartDraw::LayOut(CDC& dc) {
+    const auto heights = [&](double count) { return static_cast<int>(count * m_TextHeight); };
+    const int margin = heights(kMargin);
+    CRect plot = m_rectChart;
+    plot.DeflateRect(margin, margin);
+    if (m_ShowTitle && !m_Title.IsEmpty())
+        plot.top += m_TitleHeight + margin;
+    if (m_ShowCaptions && !m_XLabel.IsEmpty())
+        plot.bottom -= m_TextHeight + heights(kCaptionGap);
+    if (m_ShowCaptions && !m_YLabel.IsEmpty())
+        plot.left += m_TextHeight + heights(kCaptionGap);
+    if (m_ShowScales)
+        plot.bottom -= kTickLength + kTickLabelGap + m_TextHeight;
+
+    *m_YScale = FindScale(false, StepsIn(plot.Height(), kYLabelRoom * m_TextHeight));
+    if (m_ShowScales)
+        plot.left += WidestLabel(dc, *m_YScale) + kTickLabelGap + kTickLength;
+    FitXScale(dc, plot.Width());
+    // The last X label stands around its tick, with half a margin behind it.
+    if (m_ShowScales && m_XScale->TickCount() > 0) {
+        const int half = TextWidth(dc, m_XScale->Label(m_XScale->TickCount() - 1)) / 2;
+        plot.right -= std::max(0, half - margin / 2);
+    }
+    if (plot.right <= plot.left || plot.bottom <= plot.top)
+        plot.SetRectEmpty();
+    m_rectPlot = plot;
+}
+
+void CChartDraw::FitXScale(CDC& dc, int width) {
+    double refused = 0; // the step whose labels found no room
+    for (int steps = StepsIn(width, 2 * m_TextHeight); steps >= 2; --steps) {
+        *m_XScale = FindScale(true, steps);
+        if (m_XScale->Step() == refused)
+            continue;
+        refused = m_XScale->Step();
+        const double distance = refused / (m_XScale->Max() - m_XScale->Min()) * width;
+        if (WidestLabel(dc, *m_XScale) + kXLabelGap * m_TextHeight <= distance)
+            break;
+    }
+}
+
+RoundScale CChartDraw::FindScale(bool x, int mostSteps) const {
+    const FixedScale& fixed = x ? m_XFixed : m_YFixed;
+    if (fixed.fixed)
+        return RoundScale::Fixed(fixed.min, fixed.max, fixed.step, mostSteps);
+    ValueBounds bounds;
+    for (const auto& dataset : m_Datasets)
+        if (dataset->visible)
+            bounds.Add(x ? dataset->points.XBounds() : dataset->points.YBounds());
+    return RoundScale::Around(bounds, mostSteps);
+}
+
+void CChartDraw::MakeTextFont(CFont& font, int escapement, bool title) const {
+    constexpr int kTitleParts = 4; // thirds of the other texts' size
+    LOGFONT record = {};
+    record.lfHeight = -(title ? m_FontPixels * kTitleParts / 3 : m_FontPixels);
+    record.lfWeight = title ? FW_BOLD : FW_NORMAL;
+    record.lfEscapement = record.lfOrientation = escapement;
+    record.lfCharSet = DEFAULT_CHARSET;
+    record.lfOutPrecision = OUT_TT_PRECIS;
+    record.lfQuality = PROOF_QUALITY;
+    lstrcpyn(record.lfFaceName, m_FontFace, LF_FACESIZE);
+    font.CreateFontIndirect(&record);
+}

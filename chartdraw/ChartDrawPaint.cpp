@@ -1,0 +1,217 @@
+#include <kavlix/ChartDraw.h>
+
+#include <algorithm>
+
+#include "chartdraw/ChartDrawText.h"
+#include "chartdraw/RoundScale.h"
+#include "gdi/Guards.h"
+#include "gdi/Offscreen.h"
+#include "graphctrl/LinearMap.h"
+
+using namespace kavlix;
+
+namespace {
+
+constexpr int kUpwards = 900;   // tenths of a degree
+constexpr double kMargin = 0.6; // of a text's height, between title or caption and the chart's edge
+
+void DrawStroke(CDC& dc, int x1, int y1, int x2, int y2) {
+    dc.MoveTo(x1, y1);
+    dc.LineTo(x2, y2);
+}
+
+/// Calls `draw(tick, position)` for every tick of a scale that has a place.
+template <class Draw> void ForTicks(const RoundScale& scale, const LinearMap& map, Draw draw) {
+    for (int i = 0; i < scale.TickCount(); ++i)
+        if (const auto position = map.Position(scale.Tick(i)))
+            draw(i, *position);
+}
+
+bool GoesThroughZero(const RoundScale& scale, int tick) {
+    return scale.Tick(tick) == 0 && scale.Min() < 0 && scale.Max() > 0;
+}
+
+/// Draws a text in the middle of `inner`, in the middle of `outer` where it is too wide for that, and from
+/// its left edge on where it is too wide for both: its beginning can be read.
+void DrawWithin(CDC& dc, const CRect& inner, const CRect& outer, int top, const CString& text) {
+    const int width = MeasureText(dc, text, text.GetLength()).cx;
+    const CRect& room = width <= inner.Width() ? inner : outer;
+    const bool fits = width <= room.Width();
+    dc.SetTextAlign(fits ? TA_CENTER | TA_TOP : TA_LEFT | TA_TOP);
+    DrawTextAt(dc, fits ? room.CenterPoint().x : room.left, top, text);
+}
+
+} // namespace
+
+void CChartDraw::OnPaint() {
+    CPaintDC paintDc(this);
+    CalcDatas();
+    CRect client;
+    GetClientRect(&client);
+    if (client.IsRectEmpty())
+        return;
+    Offscreen offscreen(paintDc, client.Size());
+    if (!offscreen.IsReady()) {
+        DrawChart(paintDc);
+        return;
+    }
+    DrawChart(offscreen.Dc());
+    paintDc.BitBlt(0, 0, client.Width(), client.Height(), &offscreen.Dc(), 0, 0, SRCCOPY);
+}
+
+LRESULT CChartDraw::OnPrintClient(WPARAM wParam, LPARAM) {
+    CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
+    if (dc == nullptr)
+        return Default();
+    CalcDatas();
+    DrawChart(*dc);
+    return 0;
+}
+
+void CChartDraw::DrawChart(CDC& dc) {
+    PaintBkGnd(dc);
+    DrawTitle(dc);
+    DrawGrid(dc);
+    DrawDatasets(dc);
+    // Over the data, so that axes and numbers are always read.
+    DrawAxes(dc);
+    DrawYScale(dc);
+    DrawXScale(dc);
+}
+
+LinearMap CChartDraw::XMap() const {
+    return LinearMap(m_XScale->Min(), m_XScale->Max(), m_rectPlot.left, m_rectPlot.Width() - 1);
+}
+
+LinearMap CChartDraw::YMap() const {
+    return LinearMap(m_YScale->Min(), m_YScale->Max(), m_rectPlot.bottom - 1, -(m_rectPlot.Height() - 1));
+}
+
+void CChartDraw::PaintBkGnd(CDC& dc) {
+    CBrush brush;
+    if (brush.CreateSolidBrush(m_BkColor))
+        dc.FillRect(&m_rectChart, &brush);
+}
+
+void CChartDraw::DrawTitle(CDC& dc) {
+    if (!m_ShowTitle || m_Title.IsEmpty())
+        return;
+    CFont font;
+    MakeTextFont(font, 0, true);
+    SavedDcGuard saved(dc);
+    Select(dc, font);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(m_TitleColor);
+    const int margin = static_cast<int>(kMargin * m_TextHeight);
+    CRect room = m_rectChart;
+    room.DeflateRect(margin, margin);
+    DrawWithin(dc, room, room, room.top, m_Title);
+}
+
+void CChartDraw::DrawGrid(CDC& dc) {
+    if (m_rectPlot.IsRectEmpty())
+        return;
+    CPen gridPen;
+    gridPen.CreatePen(PS_SOLID, 0, m_GridColor);
+    CPen zeroPen;
+    zeroPen.CreatePen(PS_SOLID, 0, m_ZeroLineColor);
+    SavedDcGuard saved(dc);
+    // The lines at 0 come last, on top of the others.
+    for (const bool zero : {false, true}) {
+        Select(dc, zero ? zeroPen : gridPen);
+        if (m_GridX)
+            ForTicks(*m_XScale, XMap(), [&](int tick, int x) {
+                if (GoesThroughZero(*m_XScale, tick) == zero)
+                    DrawStroke(dc, x, m_rectPlot.top, x, m_rectPlot.bottom);
+            });
+        if (m_GridY)
+            ForTicks(*m_YScale, YMap(), [&](int tick, int y) {
+                if (GoesThroughZero(*m_YScale, tick) == zero)
+                    DrawStroke(dc, m_rectPlot.left, y, m_rectPlot.right, y);
+            });
+    }
+}
+
+void CChartDraw::DrawAxes(CDC& dc) {
+    if (m_rectPlot.IsRectEmpty())
+        return;
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 0, m_AxisColor);
+    CFont font;
+    MakeTextFont(font, 0, false);
+    CFont upFont;
+    MakeTextFont(upFont, kUpwards, false);
+    SavedDcGuard saved(dc);
+    Select(dc, pen);
+    DrawStroke(dc, m_rectPlot.left, m_rectPlot.top, m_rectPlot.left, m_rectPlot.bottom);
+    DrawStroke(dc, m_rectPlot.left, m_rectPlot.bottom - 1, m_rectPlot.right, m_rectPlot.bottom - 1);
+    if (!m_ShowCaptions)
+        return;
+    dc.SetBkMode(TRANSPARENT);
+    const int margin = static_cast<int>(kMargin * m_TextHeight);
+    CRect room = m_rectChart;
+    room.DeflateRect(margin, margin);
+    if (!m_XLabel.IsEmpty()) {
+        Select(dc, font);
+        dc.SetTextColor(m_XLabelColor);
+        DrawWithin(dc, m_rectPlot, room, room.bottom - m_TextHeight, m_XLabel);
+    }
+    if (!m_YLabel.IsEmpty()) {
+        Select(dc, upFont);
+        dc.SetTextColor(m_YLabelColor);
+        dc.SetTextAlign(TA_CENTER | TA_TOP);
+        DrawTextAt(dc, room.left, m_rectPlot.CenterPoint().y, m_YLabel);
+    }
+}
+
+void CChartDraw::DrawXScale(CDC& dc) {
+    if (!m_ShowScales || m_rectPlot.IsRectEmpty())
+        return;
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 0, m_AxisColor);
+    CFont font;
+    MakeTextFont(font, 0, false);
+    SavedDcGuard saved(dc);
+    Select(dc, pen);
+    Select(dc, font);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(m_XTickLabelColor);
+    dc.SetTextAlign(TA_CENTER | TA_TOP);
+    int free = m_rectChart.left; // where the next label may begin
+    ForTicks(*m_XScale, XMap(), [&](int tick, int x) {
+        DrawStroke(dc, x, m_rectPlot.bottom, x, m_rectPlot.bottom + kTickLength);
+        const std::string label = m_XScale->Label(tick);
+        const int half = TextWidth(dc, label) / 2;
+        if (x - half < free || x + half > m_rectChart.right)
+            return;
+        DrawTextAt(dc, x, m_rectPlot.bottom + kTickLength + kTickLabelGap, label.c_str(),
+                   static_cast<int>(label.size()));
+        free = x + half + m_TextHeight / 2;
+    });
+}
+
+void CChartDraw::DrawYScale(CDC& dc) {
+    if (!m_ShowScales || m_rectPlot.IsRectEmpty())
+        return;
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 0, m_AxisColor);
+    CFont font;
+    MakeTextFont(font, 0, false);
+    SavedDcGuard saved(dc);
+    Select(dc, pen);
+    Select(dc, font);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(m_YTickLabelColor);
+    dc.SetTextAlign(TA_RIGHT | TA_TOP);
+    const int right = m_rectPlot.left - kTickLength;
+    int free = m_rectChart.bottom + m_TextHeight; // where the next label may end
+    ForTicks(*m_YScale, YMap(), [&](int tick, int y) {
+        DrawStroke(dc, right, y, m_rectPlot.left, y);
+        const int top = y - m_TextHeight / 2;
+        if (top + m_TextHeight > free)
+            return;
+        const std::string label = m_YScale->Label(tick);
+        DrawTextAt(dc, right - kTickLabelGap, top, label.c_str(), static_cast<int>(label.size()));
+        free = top;
+    });
+}

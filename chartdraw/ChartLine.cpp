@@ -1,0 +1,91 @@
+#include "chartdraw/ChartLine.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "graphctrl/Numeric.h"
+
+namespace kavlix {
+
+namespace {
+
+/// What GDI draws exactly, with room to multiply such coordinates.
+constexpr double kNear = 1 << 22;
+/// Sums and products of two such positions stay finite.
+constexpr double kFarthest = 1e300;
+
+Point ToPixel(double x, double y) {
+    return {ToCoordinate(x), ToCoordinate(y)};
+}
+
+/// Narrows the part [from, to] of a stroke to where `start` + part * `step` lies within the near range.
+void Narrow(double start, double step, double& from, double& to) {
+    if (step == 0) {
+        if (std::abs(start) > kNear)
+            to = -1;
+        return;
+    }
+    const double a = (-kNear - start) / step;
+    const double b = (kNear - start) / step;
+    from = std::max(from, std::min(a, b));
+    to = std::min(to, std::max(a, b));
+}
+
+double Along(double start, double step, double part) {
+    return std::clamp(start + part * step, -kNear, kNear);
+}
+
+} // namespace
+
+bool ChartLine::IsNear(const Place& place) {
+    return std::abs(place.x) <= kNear && std::abs(place.y) <= kNear;
+}
+
+void ChartLine::Add(double x, double y) {
+    if (std::isnan(x) || std::isnan(y)) {
+        End();
+        return;
+    }
+    const Place place{std::clamp(x, -kFarthest, kFarthest), std::clamp(y, -kFarthest, kFarthest)};
+    if (m_started && !(IsNear(m_last) && IsNear(place)))
+        AddCut(place);
+    else if (IsNear(place))
+        m_reduction.Add(ToPixel(place.x, place.y));
+    m_last = place;
+    m_started = true;
+}
+
+void ChartLine::AddCut(const Place& to) {
+    // What is near has its own pixel, as in a line that is not cut, and the cut is reckoned from there: the
+    // far end may be so large that the near one is lost in it.
+    const bool backwards = IsNear(to);
+    const Place& start = backwards ? to : m_last;
+    const Place& other = backwards ? m_last : to;
+    const double dx = other.x - start.x;
+    const double dy = other.y - start.y;
+    double begin = 0;
+    double end = 1;
+    Narrow(start.x, dx, begin, end);
+    Narrow(start.y, dy, begin, end);
+    if (begin <= end) {
+        const Point cut = ToPixel(Along(start.x, dx, end), Along(start.y, dy, end));
+        if (backwards) {
+            m_reduction.Add(cut);
+            m_reduction.Add(ToPixel(to.x, to.y));
+        } else {
+            if (!IsNear(m_last))
+                m_reduction.Add(ToPixel(Along(start.x, dx, begin), Along(start.y, dy, begin)));
+            m_reduction.Add(cut);
+        }
+    }
+    // Out there the stroke ends; the next one begins where it comes back.
+    if (!IsNear(to))
+        m_reduction.Break();
+}
+
+void ChartLine::End() {
+    m_reduction.Break();
+    m_started = false;
+}
+
+} // namespace kavlix

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+namespace kavlix {
+
+/// The smallest and the largest of some numbers; empty (`min` above `max`) when there are none.
+struct ValueBounds {
+    double min = std::numeric_limits<double>::infinity();
+    double max = -std::numeric_limits<double>::infinity();
+
+    bool IsEmpty() const { return min > max; }
+    void Add(double value) {
+        if (value < min)
+            min = value;
+        if (value > max)
+            max = value;
+    }
+    void Add(const ValueBounds& other) {
+        if (!other.IsEmpty()) {
+            Add(other.min);
+            Add(other.max);
+        }
+    }
+};
+
+/// The points of a series in order of arrival, with the bounds that scales are found from.
+class ChartSeries {
+public:
+    struct Value {
+        double x;
+        double y;
+    };
+
+    /// Throws std::bad_alloc, changing nothing, when memory or the range of an int is exhausted.
+    void Append(double x, double y);
+    /// Replaces all points by `count` others; `pX` null: the indices 0, 1, 2, ... Throws as Append does.
+    void Assign(const double* pX, const double* pY, int count);
+    /// Removes all points and gives their memory back.
+    void Clear();
+
+    int Size() const { return static_cast<int>(m_values.size()); }
+    /// Point `i`, which must exist.
+    const Value& operator[](int i) const { return m_values[static_cast<std::size_t>(i)]; }
+    const std::vector<Value>& Values() const { return m_values; }
+
+    /// Bounds of the points that have a place: those whose x and y are both finite.
+    const ValueBounds& XBounds() const { return m_xBounds; }
+    const ValueBounds& YBounds() const { return m_yBounds; }
+
+private:
+    void Count(const Value& value);
+
+    std::vector<Value> m_values;
+    ValueBounds m_xBounds;
+    ValueBounds m_yBounds;
+};
+
+} // namespace kavlix

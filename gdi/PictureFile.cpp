@@ -1,0 +1,224 @@
+#include "gdi/PictureFile.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <new>
+#include <string>
+#include <vector>
+
+// GDI+ names min and max as if they were macros.
+#include <objidl.h>
+namespace Gdiplus {
+using std::max;
+using std::min;
+} // namespace Gdiplus
+#include <gdiplus.h>
+
+#include "gdi/Guards.h"
+#include "gdi/PictureClipboard.h"
+
+namespace kavlix {
+
+namespace {
+
+constexpr WORD kBitsPerPixel = 24;
+
+/// GDI+ for as long as it is needed.
+class GdiPlus {
+public:
+    GdiPlus() {
+        const Gdiplus::GdiplusStartupInput input;
+        m_started = Gdiplus::GdiplusStartup(&m_token, &input, nullptr) == Gdiplus::Ok;
+    }
+    ~GdiPlus() {
+        if (m_started)
+            Gdiplus::GdiplusShutdown(m_token);
+    }
+    GdiPlus(const GdiPlus&) = delete;
+    GdiPlus& operator=(const GdiPlus&) = delete;
+
+    bool Started() const { return m_started; }
+
+private:
+    ULONG_PTR m_token = 0;
+    bool m_started = false;
+};
+
+/// A stream of bytes in memory.
+class MemoryStream {
+public:
+    MemoryStream() {
+        if (::CreateStreamOnHGlobal(nullptr, TRUE, &m_stream) != S_OK)
+            m_stream = nullptr;
+    }
+    ~MemoryStream() {
+        if (m_stream != nullptr)
+            m_stream->Release();
+    }
+    MemoryStream(const MemoryStream&) = delete;
+    MemoryStream& operator=(const MemoryStream&) = delete;
+
+    IStream* Get() const { return m_stream; }
+    /// All bytes; none when they cannot be read.
+    std::vector<BYTE> Bytes() const {
+        STATSTG status = {};
+        if (m_stream->Stat(&status, STATFLAG_NONAME) != S_OK ||
+            m_stream->Seek(LARGE_INTEGER{}, STREAM_SEEK_SET, nullptr) != S_OK)
+            return {};
+        std::vector<BYTE> bytes(static_cast<std::size_t>(status.cbSize.QuadPart));
+        ULONG read = 0;
+        const HRESULT result = m_stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &read);
+        return SUCCEEDED(result) && read == bytes.size() ? bytes : std::vector<BYTE>();
+    }
+
+private:
+    IStream* m_stream = nullptr;
+};
+
+bool FindEncoder(const WCHAR* mimeType, CLSID& id) {
+    UINT count = 0;
+    UINT bytes = 0;
+    if (Gdiplus::GetImageEncodersSize(&count, &bytes) != Gdiplus::Ok || bytes == 0)
+        return false;
+    // The encoders' texts stand behind their records in the same block.
+    std::vector<Gdiplus::ImageCodecInfo> block(bytes / sizeof(Gdiplus::ImageCodecInfo) + 1);
+    if (Gdiplus::GetImageEncoders(count, bytes, block.data()) != Gdiplus::Ok)
+        return false;
+    for (UINT i = 0; i < count; ++i) {
+        if (std::wcscmp(block[i].MimeType, mimeType) == 0) {
+            id = block[i].Clsid;
+            return true;
+        }
+    }
+    return false;
+}
+
+std::vector<BYTE> EncodePixels(const WCHAR* mimeType, CSize size, const std::function<void(CDC&)>& draw) {
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy; // rows from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = kBitsPerPixel;
+    void* bits = nullptr;
+    CBitmap page;
+    if (!page.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)))
+        return {};
+    CDC dc;
+    if (!dc.CreateCompatibleDC(nullptr))
+        return {};
+    SelectGuard selected(dc, page);
+    dc.PatBlt(0, 0, size.cx, size.cy, WHITENESS);
+    draw(dc);
+    ::GdiFlush();
+
+    const GdiPlus gdiPlus;
+    const MemoryStream stream;
+    CLSID encoder;
+    if (!gdiPlus.Started() || stream.Get() == nullptr || !FindEncoder(mimeType, encoder))
+        return {};
+    constexpr int kRowBits = 32;
+    const int stride = static_cast<int>((size.cx * kBitsPerPixel + kRowBits - 1) / kRowBits * sizeof(DWORD));
+    Gdiplus::Bitmap bitmap(size.cx, size.cy, stride, PixelFormat24bppRGB, static_cast<BYTE*>(bits));
+    if (bitmap.Save(stream.Get(), &encoder, nullptr) != Gdiplus::Ok)
+        return {};
+    return stream.Bytes();
+}
+
+std::vector<BYTE> EncodeMetafile(CSize size, const std::function<void(CDC&)>& draw) {
+    constexpr int kHundredthsPerMillimetre = 100;
+    CDC screen;
+    if (!screen.Attach(::CreateDC("DISPLAY", nullptr, nullptr, nullptr)))
+        return {};
+    const auto length = [&](int pixels, int millimetres, int resolution) {
+        return ::MulDiv(pixels, screen.GetDeviceCaps(millimetres) * kHundredthsPerMillimetre,
+                        screen.GetDeviceCaps(resolution));
+    };
+    const CRect frame(0, 0, length(size.cx, HORZSIZE, HORZRES), length(size.cy, VERTSIZE, VERTRES));
+    CDC dc;
+    if (!dc.Attach(::CreateEnhMetaFile(screen.GetSafeHdc(), nullptr, &frame, kPictureDescription)))
+        return {};
+    struct Picture {
+        CDC& dc;
+        HENHMETAFILE handle = nullptr;
+        void Close() { handle = ::CloseEnhMetaFile(dc.Detach()); }
+        ~Picture() {
+            if (dc.GetSafeHdc() != nullptr)
+                Close();
+            if (handle != nullptr)
+                ::DeleteEnhMetaFile(handle);
+        }
+    } picture{dc};
+    draw(dc);
+    picture.Close();
+    std::vector<BYTE> bytes(::GetEnhMetaFileBits(picture.handle, 0, nullptr));
+    if (::GetEnhMetaFileBits(picture.handle, static_cast<UINT>(bytes.size()), bytes.data()) != bytes.size())
+        return {};
+    return bytes;
+}
+
+std::wstring ToWide(const char* text) {
+    const int length = ::MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0);
+    std::wstring wide(static_cast<std::size_t>(std::max(length, 1)), L'\0');
+    ::MultiByteToWideChar(CP_ACP, 0, text, -1, wide.data(), length);
+    wide.pop_back();
+    return wide;
+}
+
+/// A name in the same folder that no file has yet, and the file of that name.
+HANDLE MakeFileBeside(const std::wstring& path, std::wstring& name) {
+    constexpr unsigned kMostTries = 1000;
+    const std::size_t folderEnd = path.find_last_of(L"\\/:");
+    const std::wstring folder(path, 0, folderEnd == std::wstring::npos ? 0 : folderEnd + 1);
+    for (unsigned i = 0; i < kMostTries; ++i) {
+        WCHAR leaf[64];
+        ::wsprintfW(leaf, L"~kvx%lu_%u.tmp", ::GetCurrentProcessId(), i);
+        name = folder;
+        name += leaf;
+        const HANDLE file = ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                          FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (file != INVALID_HANDLE_VALUE || ::GetLastError() != ERROR_FILE_EXISTS)
+            return file;
+    }
+    return INVALID_HANDLE_VALUE;
+}
+
+bool PutInPlace(const std::wstring& path, const std::vector<BYTE>& bytes) {
+    std::wstring name;
+    const HANDLE file = MakeFileBeside(path, name);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    DWORD written = 0;
+    bool whole = ::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+                 written == bytes.size();
+    whole = ::CloseHandle(file) && whole;
+    if (whole && ::MoveFileExW(name.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING))
+        return true;
+    ::DeleteFileW(name.c_str());
+    return false;
+}
+
+} // namespace
+
+bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& draw) {
+    constexpr int kLongestSide = 32767; // what GDI makes bitmaps of, and what keeps their size in 32 bits
+    if (size.cx <= 0 || size.cy <= 0 || size.cx > kLongestSide || size.cy > kLongestSide)
+        return false;
+    const CString name(path);
+    const int dot = name.ReverseFind('.');
+    const CString extension = dot < 0 ? CString() : name.Mid(dot);
+    try {
+        std::vector<BYTE> bytes;
+        if (extension.CompareNoCase(".png") == 0)
+            bytes = EncodePixels(L"image/png", size, draw);
+        else if (extension.CompareNoCase(".bmp") == 0)
+            bytes = EncodePixels(L"image/bmp", size, draw);
+        else if (extension.CompareNoCase(".emf") == 0)
+            bytes = EncodeMetafile(size, draw);
+        return !bytes.empty() && PutInPlace(ToWide(path), bytes);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+} // namespace kavlix

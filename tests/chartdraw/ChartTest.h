@@ -1,0 +1,126 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <kavlix/ChartDraw.h>
+
+#include "tests/support/DibSurface.h"
+#include "tests/support/GdiCounter.h"
+#include "tests/support/ImportHook.h"
+#include "tests/support/MetafileRecorder.h"
+#include "tests/support/RecordingParent.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using Strings = std::vector<std::string>;
+
+/// The chart as a derived class sees it. It notes the drawing members' calls, and replaces the one that
+/// `replaced` names by a rectangle with a null pen and a brush of its own.
+class OpenChart : public CChartDraw {
+public:
+    using CChartDraw::CalcDatas;
+    using CChartDraw::m_rectChart;
+    using CChartDraw::m_rectPlot;
+
+    Strings calls;
+    std::string replaced;
+
+    void PaintBkGnd(CDC& dc) override { Step("bkgnd", dc, &OpenChart::BaseBkGnd); }
+    void DrawTitle(CDC& dc) override { Step("title", dc, &OpenChart::BaseTitle); }
+    void DrawGrid(CDC& dc) override { Step("grid", dc, &OpenChart::BaseGrid); }
+    void DrawDatasets(CDC& dc) override { Step("datasets", dc, &OpenChart::BaseDatasets); }
+    void DrawAxes(CDC& dc) override { Step("axes", dc, &OpenChart::BaseAxes); }
+    void DrawYScale(CDC& dc) override { Step("yscale", dc, &OpenChart::BaseYScale); }
+    void DrawXScale(CDC& dc) override { Step("xscale", dc, &OpenChart::BaseXScale); }
+
+private:
+    void BaseBkGnd(CDC& dc) { CChartDraw::PaintBkGnd(dc); }
+    void BaseTitle(CDC& dc) { CChartDraw::DrawTitle(dc); }
+    void BaseGrid(CDC& dc) { CChartDraw::DrawGrid(dc); }
+    void BaseDatasets(CDC& dc) { CChartDraw::DrawDatasets(dc); }
+    void BaseAxes(CDC& dc) { CChartDraw::DrawAxes(dc); }
+    void BaseYScale(CDC& dc) { CChartDraw::DrawYScale(dc); }
+    void BaseXScale(CDC& dc) { CChartDraw::DrawXScale(dc); }
+
+    void Step(const char* name, CDC& dc, void (OpenChart::*base)(CDC&)) {
+        calls.push_back(name);
+        if (replaced == name)
+            dc.FillSolidRect(1, 2, 3, 4, RGB(1, 2, 3));
+        else
+            (this->*base)(dc);
+    }
+};
+
+/// The order in which every picture is drawn.
+inline const Strings kSequence = {"bkgnd", "title", "grid", "datasets", "axes", "yscale", "xscale"};
+
+/// A chart of 300 x 200 pixels in a visible parent.
+class ChartTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(parent.CreateVisible(420, 320));
+        ASSERT_TRUE(chart.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 5));
+    }
+    void TearDown() override { parent.DestroyWindow(); }
+
+    /// A dataset with these points, X being the index.
+    int Add(const std::vector<double>& values) {
+        const int dataset = chart.AddDataset();
+        chart.SetData(dataset, nullptr, values.data(), static_cast<int>(values.size()));
+        return dataset;
+    }
+    void Resize(int width, int height) {
+        chart.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOMOVE);
+    }
+    /// Texts as white as the background.
+    void HideTexts() {
+        for (auto set : {&CChartDraw::SetTitleColor, &CChartDraw::SetXLabelColor, &CChartDraw::SetYLabelColor,
+                         &CChartDraw::SetXTickLabelColor, &CChartDraw::SetYTickLabelColor})
+            (chart.*set)(RGB(255, 255, 255));
+    }
+    /// The chart as pixels.
+    void PaintInto(testkit::DibSurface& surface) {
+        chart.CalcDatas();
+        CDC dc;
+        dc.Attach(surface.Dc());
+        chart.DrawChart(dc);
+        dc.Detach();
+    }
+    /// What one member draws, as records.
+    template <class Draw> void Record(testkit::MetafileRecorder& recorder, Draw draw) {
+        chart.CalcDatas();
+        CDC dc;
+        dc.Attach(recorder.Dc());
+        draw(dc);
+        dc.Detach();
+        recorder.Close();
+    }
+
+    testkit::RecordingParent parent;
+    OpenChart chart;
+};
+
+/// A folder of its own for the files of a test, gone with it.
+class TempFolder {
+public:
+    TempFolder();
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    /// Full path of a name in it.
+    std::string Path(const std::string& name) const { return m_path + "\\" + name; }
+    /// The names in it, sorted.
+    Strings Names() const;
+
+private:
+    std::string m_path;
+};
+
+/// All bytes of a file; none when it cannot be read.
+std::vector<unsigned char> FileBytes(const std::string& path);
+/// Handles that this process has open.
+DWORD OpenHandles();

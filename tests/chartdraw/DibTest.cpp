@@ -1,0 +1,229 @@
+#include "tests/chartdraw/ChartTest.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+using Bytes = std::vector<unsigned char>;
+
+unsigned Number(const Bytes& bytes, std::size_t at, std::size_t size) {
+    unsigned value = 0;
+    for (std::size_t i = size; i-- > 0;)
+        value = value << 8 | bytes.at(at + i);
+    return value;
+}
+
+Bytes BlockBytes(HANDLE block) {
+    const auto* bytes = static_cast<unsigned char*>(::GlobalLock(block));
+    Bytes copy(bytes, bytes + ::GlobalSize(block));
+    ::GlobalUnlock(block);
+    return copy;
+}
+
+/// A bitmap of this size and depth whose stored rows, top row first, are `Row()`.
+class Pattern {
+public:
+    Pattern(int width, int height, int bits) : m_width(width), m_bits(bits) {
+        struct {
+            BITMAPINFOHEADER header = {};
+            RGBQUAD colors[256] = {};
+        } info;
+        info.header.biSize = sizeof info.header;
+        info.header.biWidth = width;
+        info.header.biHeight = -height;
+        info.header.biPlanes = 1;
+        info.header.biBitCount = static_cast<WORD>(bits);
+        for (int i = 0; i < 256; ++i)
+            info.colors[i] = {static_cast<BYTE>(i), static_cast<BYTE>(255 - i), static_cast<BYTE>(i * 7), 0};
+        void* memory = nullptr;
+        bitmap.Attach(::CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS,
+                                         &memory, nullptr, 0));
+        const int stride = (width * bits + 31) / 32 * 4;
+        for (int y = 0; y < height; ++y)
+            std::memcpy(static_cast<BYTE*>(memory) + y * stride, Row(y).data(),
+                        static_cast<std::size_t>(UsedBytes()));
+        ::GdiFlush();
+    }
+    int UsedBytes() const { return (m_width * m_bits + 7) / 8; }
+    /// The bytes of a row that hold pixels; bits behind the last pixel are 0.
+    Bytes Row(int y) const {
+        Bytes row(static_cast<std::size_t>(UsedBytes()));
+        for (std::size_t i = 0; i < row.size(); ++i)
+            row[i] = static_cast<unsigned char>(i * 37 + static_cast<std::size_t>(y) * 101 + 13);
+        if (m_bits == 32)
+            for (std::size_t i = 3; i < row.size(); i += 4)
+                row[i] = 0;
+        if (m_bits == 16)
+            for (std::size_t i = 1; i < row.size(); i += 2)
+                row[i] &= 0x7F;
+        if (const int spare = UsedBytes() * 8 - m_width * m_bits)
+            row.back() = static_cast<unsigned char>(row.back() >> spare << spare);
+        return row;
+    }
+    CBitmap bitmap;
+
+private:
+    int m_width, m_bits;
+};
+
+void PutHeader(Bytes& block, DWORD size, LONG width, LONG height, WORD bits, DWORD compression = BI_RGB,
+               DWORD used = 0, DWORD imageSize = 0) {
+    BITMAPINFOHEADER header = {size, width, height, 1, bits, compression, imageSize, 0, 0, used, 0};
+    std::memcpy(block.data(), &header, sizeof header);
+}
+
+} // namespace
+
+TEST(DibTest, BlockAndFileByteByByte) {
+    CChartDraw chart;
+    const TempFolder folder;
+    constexpr int kHeight = 3;
+    for (const int bits : {1, 4, 8, 16, 24, 32}) {
+        for (const int width : {1, 2, 3, 4, 5, 257}) {
+            SCOPED_TRACE(testing::Message() << bits << " bits, width " << width);
+            Pattern pattern(width, kHeight, bits);
+            const HANDLE block = chart.DDBToDIB(pattern.bitmap, BI_RGB, nullptr);
+            ASSERT_NE(block, nullptr);
+            const unsigned room = bits <= 8 ? 4u << bits : bits == 32 ? 4 : 0;
+            const unsigned table = bits <= 8 ? 4u << bits : 0;
+            const unsigned row = static_cast<unsigned>(width * bits + 31) / 32 * 4, image = row * kHeight;
+            const Bytes bytes = BlockBytes(block);
+            ASSERT_GE(bytes.size(), 40 + room + image);
+            EXPECT_EQ(Number(bytes, 0, 4), 40u);
+            EXPECT_EQ(Number(bytes, 4, 4), static_cast<unsigned>(width));
+            EXPECT_EQ(Number(bytes, 8, 4), static_cast<unsigned>(kHeight));
+            EXPECT_EQ(Number(bytes, 12, 2), 1u);
+            EXPECT_EQ(Number(bytes, 14, 2), static_cast<unsigned>(bits));
+            EXPECT_EQ(Number(bytes, 16, 4), 0u);
+            EXPECT_EQ(Number(bytes, 20, 4), image);
+            for (int y = 0; y < kHeight; ++y) {
+                const Bytes expected = pattern.Row(y);
+                const std::size_t at = 40 + room + row * static_cast<std::size_t>(kHeight - 1 - y);
+                EXPECT_TRUE(
+                    std::equal(expected.begin(), expected.end(), bytes.begin() + static_cast<long>(at)))
+                    << "row " << y << " from the top";
+            }
+            if (bits == 8) {
+                EXPECT_EQ(Number(bytes, 40 + 4 * 100, 4), 0x00BC9B64u)
+                    << "blue 100, green 155, red 700 mod 256";
+            }
+
+            const std::string path = folder.Path("block.bmp");
+            {
+                CFile file(path.c_str(), CFile::modeCreate | CFile::modeWrite);
+                EXPECT_TRUE(chart.SaveDIB(block, file));
+            }
+            const Bytes saved = FileBytes(path);
+            ASSERT_EQ(saved.size(), 14 + 40 + table + image);
+            EXPECT_EQ(std::string(saved.begin(), saved.begin() + 2), "BM");
+            EXPECT_EQ(Number(saved, 2, 4), saved.size());
+            EXPECT_EQ(Number(saved, 6, 4), 0u);
+            EXPECT_EQ(Number(saved, 10, 4), 54 + table);
+            // At 32 bits the unused entry comes first and the last pixel is missing.
+            EXPECT_TRUE(std::equal(saved.begin() + 14, saved.end(), bytes.begin()));
+            ::GlobalFree(block);
+        }
+    }
+}
+
+TEST(DibTest, ABlockIsRefusedOrNotMade) {
+    CChartDraw chart;
+    Pattern pattern(5, 3, 24);
+    CBitmap none;
+    EXPECT_EQ(chart.DDBToDIB(pattern.bitmap, BI_BITFIELDS, nullptr), nullptr);
+    EXPECT_EQ(chart.DDBToDIB(none, BI_RGB, nullptr), nullptr);
+    CPalette empty, halftone;
+    ASSERT_TRUE(halftone.CreateHalftonePalette(CDC::FromHandle(testkit::DibSurface(1, 1).Dc())));
+    for (CPalette* palette : {&empty, &halftone}) {
+        const HANDLE block = chart.DDBToDIB(pattern.bitmap, BI_RGB, palette);
+        EXPECT_NE(block, nullptr);
+        ::GlobalFree(block);
+    }
+
+    const TempFolder folder;
+    CFile file(folder.Path("none.bmp").c_str(), CFile::modeCreate | CFile::modeWrite);
+    EXPECT_FALSE(chart.SaveDIB(nullptr, file));
+    const struct {
+        const char* name;
+        DWORD header;
+        LONG width, height;
+        WORD bits;
+        DWORD compression, used, image;
+        std::size_t bytes;
+        bool saved;
+    } cases[] = {
+        {"core header", 12, 1, 1, 24, 0, 0, 0, 200, false},
+        {"newer header", 108, 1, 1, 24, 0, 0, 0, 200, false},
+        {"whole", 40, 2, 2, 24, 0, 0, 0, 56, true},
+        {"rows from the top", 40, 2, -2, 24, 0, 0, 0, 56, true},
+        {"pixels missing", 40, 2, 2, 24, 0, 0, 0, 40, false},
+        {"sizes beyond all memory", 40, 0x7FFFFFFF, 0x7FFFFFFF, 65535, 0, 0, 0, 100, false},
+        {"table missing", 40, 1, 1, 8, 0, 0, 0, 44, false},
+        {"five colours", 40, 4, 1, 8, 0, 5, 0, 64, true},
+        {"run lengths have the size that is told", 40, 100, 100, 8, BI_RLE8, 2, 6, 54, true},
+        {"run lengths missing", 40, 100, 100, 8, BI_RLE8, 2, 6000, 54, false},
+    };
+    for (const auto& each : cases) {
+        Bytes bytes(each.bytes, 0xAB);
+        PutHeader(bytes, each.header, each.width, each.height, each.bits, each.compression, each.used,
+                  each.image);
+        const HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+        std::memcpy(::GlobalLock(block), bytes.data(), bytes.size());
+        ::GlobalUnlock(block);
+        const ULONGLONG before = file.GetLength();
+        EXPECT_EQ(chart.SaveDIB(block, file) != FALSE, each.saved) << each.name;
+        EXPECT_EQ(file.GetLength() - before, each.saved ? 14 + each.bytes : 0) << each.name;
+        EXPECT_EQ(::GlobalFlags(block) & GMEM_LOCKCOUNT, 0u) << each.name << ": unlocked";
+        ::GlobalFree(block);
+    }
+}
+
+TEST(DibTest, TableSizesOfBothHeaders) {
+    CChartDraw chart;
+    const struct {
+        DWORD header;
+        WORD bits;
+        DWORD used;
+        WORD colors, size;
+    } cases[] = {{40, 1, 0, 2, 8},  {40, 4, 0, 16, 64}, {40, 8, 0, 256, 1024}, {40, 16, 0, 0, 0},
+                 {40, 24, 0, 0, 0}, {40, 32, 0, 0, 0},  {40, 8, 10, 10, 40},   {40, 24, 7, 7, 28},
+                 {12, 1, 0, 2, 6},  {12, 4, 0, 16, 48}, {12, 8, 0, 256, 768},  {12, 24, 0, 0, 0}};
+    for (const auto& each : cases) {
+        Bytes bytes(40);
+        if (each.header == 40) {
+            PutHeader(bytes, 40, 1, 1, each.bits, BI_RGB, each.used);
+        } else {
+            const BITMAPCOREHEADER header = {12, 1, 1, 1, each.bits};
+            std::memcpy(bytes.data(), &header, sizeof header);
+        }
+        const auto header = reinterpret_cast<LPSTR>(bytes.data());
+        EXPECT_EQ(chart.DIBNumColors(header), each.colors) << each.header << " " << each.bits;
+        EXPECT_EQ(chart.PaletteSize(header), each.size) << each.header << " " << each.bits;
+    }
+}
+
+TEST(DibTest, OverridesAreHonoured) {
+    class Three : public CChartDraw {
+        WORD WINAPI DIBNumColors(LPSTR) override { return 3; }
+    } three;
+    class Twenty : public CChartDraw {
+        WORD WINAPI PaletteSize(LPSTR) override { return 20; }
+    } twenty;
+    Pattern pattern(4, 4, 8);
+    const TempFolder folder;
+    for (CChartDraw* chart : {static_cast<CChartDraw*>(&three), static_cast<CChartDraw*>(&twenty)}) {
+        const unsigned table = chart == &three ? 12 : 20;
+        const HANDLE block = chart->DDBToDIB(pattern.bitmap, BI_RGB, nullptr);
+        ASSERT_NE(block, nullptr);
+        const std::string path = folder.Path("table.bmp");
+        {
+            CFile file(path.c_str(), CFile::modeCreate | CFile::modeWrite);
+            EXPECT_TRUE(chart->SaveDIB(block, file));
+        }
+        ::GlobalFree(block);
+        const Bytes saved = FileBytes(path);
+        ASSERT_EQ(saved.size(), 54 + table + 16);
+        EXPECT_EQ(Number(saved, 10, 4), 54 + table);
+    }
+}

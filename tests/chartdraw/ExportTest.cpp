@@ -1,0 +1,367 @@
+#include "tests/chartdraw/ChartTest.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <functional>
+
+namespace {
+
+std::vector<unsigned> g_asked;
+
+int WINAPI PaletteDevice(HDC dc, int index) {
+    return ::GetDeviceCaps(dc, index) | (index == RASTERCAPS ? RC_PALETTE : 0);
+}
+UINT WINAPI SystemEntries(HDC, UINT start, UINT count, LPPALETTEENTRY entries) {
+    g_asked.push_back(start);
+    g_asked.push_back(count);
+    for (UINT i = 0; i < count; ++i)
+        entries[i] = {static_cast<BYTE>(i), 0, 0, 0};
+    return count;
+}
+BOOL WINAPI DiskFull(HANDLE, LPCVOID, DWORD, LPDWORD written, LPOVERLAPPED) {
+    *written = 0;
+    ::SetLastError(ERROR_DISK_FULL);
+    return FALSE;
+}
+BOOL WINAPI ShortWrite(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED overlapped) {
+    return ::WriteFile(file, bytes, count / 2, written, overlapped);
+}
+HDC WINAPI NoMetafile(HDC, LPCSTR, const RECT*, LPCSTR) {
+    return nullptr;
+}
+int WINAPI NoBits(HDC, HBITMAP, UINT, UINT, LPVOID, LPBITMAPINFO, UINT) {
+    return 0;
+}
+HANDLE WINAPI DeniedA(LPCSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE) {
+    ::SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
+}
+HANDLE WINAPI DeniedW(LPCWSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE) {
+    ::SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
+}
+int g_live_blocks = 0;
+bool g_no_memory = false;
+HGLOBAL WINAPI CountAlloc(UINT flags, SIZE_T bytes) {
+    const HGLOBAL block = ::GlobalAlloc(flags, bytes);
+    g_live_blocks += block != nullptr;
+    return block;
+}
+HGLOBAL WINAPI MaybeRealloc(HGLOBAL block, SIZE_T bytes, UINT flags) {
+    return g_no_memory ? nullptr : ::GlobalReAlloc(block, bytes, flags);
+}
+HGLOBAL WINAPI CountFree(HGLOBAL block) {
+    --g_live_blocks;
+    return ::GlobalFree(block);
+}
+template <class Function> void* Address(Function function) {
+    return reinterpret_cast<void*>(function);
+}
+
+class ChartExportTest : public ChartTest {
+protected:
+    void SetUp() override {
+        ChartTest::SetUp();
+        Add({1, 5, 2, 8});
+        chart.SetXLabel("East");
+        chart.SetTitle("Title");
+        const TempFolder folder;
+        for (const char* name : {"w.bmp", "w.png", "w.emf"}) // what the system loads once
+            chart.SaveImage(folder.Path(name).c_str());
+        chart.CopyToFile(folder.Path("w2.bmp").c_str());
+        chart.CopyToClipboard();
+    }
+
+    /// Runs `save` with every block counted: no block, handle or GDI object is left by it.
+    void ExpectNothingLeft(const std::function<void()>& save) {
+        const testkit::ImportHook alloc("Kavlix.dll", "GlobalAlloc", Address(&CountAlloc));
+        const testkit::ImportHook free("Kavlix.dll", "GlobalFree", Address(&CountFree));
+        ASSERT_TRUE(alloc.Installed() && free.Installed());
+        g_live_blocks = 0;
+        const testkit::ObjectCounts objects = testkit::CountObjects();
+        const DWORD handles = OpenHandles();
+        save();
+        EXPECT_EQ(g_live_blocks, 0) << "blocks of memory";
+        EXPECT_EQ(OpenHandles(), handles) << "handles";
+        EXPECT_EQ(testkit::CountObjects(), objects);
+    }
+};
+
+/// Answers the next file dialog: a name that is typed in and saved, or Cancel.
+class DialogUser {
+public:
+    explicit DialogUser(const char* name) : m_name(name != nullptr ? name : ""), m_saves(name != nullptr) {
+        s_current = this;
+        m_timer = ::SetTimer(nullptr, 0, 20, &DialogUser::Look);
+    }
+    ~DialogUser() { ::KillTimer(nullptr, m_timer); }
+    DialogUser(const DialogUser&) = delete;
+    DialogUser& operator=(const DialogUser&) = delete;
+
+    std::string proposed; ///< the name that the dialog showed first
+    std::string filter;   ///< the text of its filter
+
+private:
+    static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) {
+        HWND dialog = nullptr;
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND window, LPARAM found) -> BOOL {
+                char name[16] = "";
+                ::GetClassNameA(window, name, sizeof name);
+                if (std::string(name) != "#32770" || !::IsWindowVisible(window))
+                    return TRUE;
+                *reinterpret_cast<HWND*>(found) = window;
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&dialog));
+        if (dialog == nullptr)
+            return;
+        ::KillTimer(nullptr, s_current->m_timer);
+        constexpr int kNameEdit = 0x480, kNameCombo = 0x47C, kFilterCombo = 0x470;
+        HWND name = ::GetDlgItem(dialog, kNameCombo);
+        if (name == nullptr)
+            name = ::GetDlgItem(dialog, kNameEdit);
+        char text[MAX_PATH] = "";
+        ::GetWindowTextA(name, text, MAX_PATH);
+        s_current->proposed = text;
+        ::GetDlgItemTextA(dialog, kFilterCombo, text, MAX_PATH);
+        s_current->filter = text;
+        if (s_current->m_saves)
+            ::SetWindowTextA(name, s_current->m_name.c_str());
+        ::PostMessageA(dialog, WM_COMMAND, s_current->m_saves ? IDOK : IDCANCEL, 0);
+    }
+
+    static DialogUser* s_current;
+    std::string m_name;
+    bool m_saves;
+    UINT_PTR m_timer = 0;
+};
+DialogUser* DialogUser::s_current = nullptr;
+
+} // namespace
+
+TEST_F(ChartExportTest, TheFileHoldsThePictureOfTheScreen) {
+    const TempFolder folder;
+    const std::string path = folder.Path("chart.bmp");
+    chart.calls.clear();
+    ExpectNothingLeft([&] { EXPECT_TRUE(chart.CopyToFile(path.c_str())); });
+    EXPECT_EQ(chart.calls, kSequence);
+    const auto bytes = FileBytes(path);
+    const HDC screen = ::GetDC(nullptr);
+    const int depth = ::GetDeviceCaps(screen, BITSPIXEL);
+    ::ReleaseDC(nullptr, screen);
+    if (depth != 32)
+        GTEST_SKIP() << "written for a 32-bit screen";
+    ASSERT_EQ(bytes.size(), 54u + 300 * 200 * 4);
+    testkit::DibSurface painted(300, 200);
+    PaintInto(painted);
+    int wrong = 0;
+    for (int y = 0; y < 200; ++y)
+        for (int x = 0; x < 300; ++x) {
+            // Four bytes late, rows from the bottom; the last pixel is the one that is lost.
+            const std::size_t at =
+                54 + 4 + (static_cast<std::size_t>(199 - y) * 300 + static_cast<std::size_t>(x)) * 4;
+            if (at + 4 <= bytes.size())
+                wrong += RGB(bytes[at + 2], bytes[at + 1], bytes[at]) != painted.At(x, y);
+        }
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST_F(ChartExportTest, APaletteScreenIsAskedFor255Colours) {
+    const testkit::ImportHook caps("Kavlix.dll", "GetDeviceCaps", Address(&PaletteDevice));
+    const testkit::ImportHook entries("Kavlix.dll", "GetSystemPaletteEntries", Address(&SystemEntries));
+    ASSERT_TRUE(caps.Installed() && entries.Installed());
+    class Seen : public OpenChart {
+    public:
+        int colours = -1;
+        HANDLE DDBToDIB(CBitmap&, DWORD, CPalette* palette) override {
+            colours = palette->GetSafeHandle() != nullptr ? palette->GetEntryCount() : 0;
+            return nullptr;
+        }
+    } seen;
+    ASSERT_TRUE(seen.Create(WS_CHILD, CRect(0, 0, 20, 20), &parent, 6));
+    g_asked.clear();
+    const TempFolder folder;
+    EXPECT_FALSE(seen.CopyToFile(folder.Path("none.bmp").c_str())) << "no block";
+    EXPECT_EQ(g_asked, (std::vector<unsigned>{0, 255}));
+    EXPECT_EQ(seen.colours, 255);
+    EXPECT_EQ(folder.Names(), Strings());
+}
+
+TEST_F(ChartExportTest, EveryFailureHasItsResultAndLeavesNothing) {
+    const TempFolder folder;
+    const std::string umlaut = ::GetACP() == CP_UTF8 ? "\xC3\xA4\xC3\xB6.png" : "\xE4\xF6.png";
+    std::string longPath = folder.Path("");
+    longPath.append(300 - longPath.size() - 4, 'n');
+    const struct {
+        const char* name;
+        std::string path;
+        bool saved;
+    } cases[] = {{"umlauts", folder.Path(umlaut.substr(0, umlaut.size() - 4)), true},
+                 {"existing", folder.Path("existing"), true},
+                 {"a name of 300 characters", longPath, false},
+                 {"a name of 5000 characters", folder.Path(std::string(5000, 'n')), false},
+                 {"no such folder", folder.Path("none\\chart"), false}};
+    for (const char* extension : {".bmp", ".BMP", ".png", ".emf", ".gif", ""}) {
+        const std::string name = extension;
+        const bool known = name != ".gif" && !name.empty();
+        for (const auto& each : cases) {
+            SCOPED_TRACE(std::string(each.name) + name);
+            const std::string path = each.path + name;
+            const bool prepared = each.path == folder.Path("existing");
+            if (prepared) {
+                std::ofstream(path, std::ios::binary) << std::string(900000, 'x');
+            }
+            const Strings before = folder.Names();
+            ExpectNothingLeft([&] { EXPECT_EQ(chart.SaveImage(path.c_str()), each.saved && known); });
+            if (!(each.saved && known)) {
+                EXPECT_EQ(folder.Names(), before) << "nothing half-written";
+            }
+            if (prepared) {
+                EXPECT_EQ(FileBytes(path).size() == 900000, !(each.saved && known));
+            }
+            ExpectNothingLeft([&] { EXPECT_EQ(chart.CopyToFile(path.c_str()), each.saved); });
+            if (each.saved) {
+                EXPECT_EQ(FileBytes(path).size(), 54u + 300 * 200 * 4) << "an existing file is cut";
+            }
+        }
+    }
+}
+
+TEST_F(ChartExportTest, AFullDiskIsReported) {
+    const TempFolder folder;
+    std::ofstream(folder.Path("old.png")) << "old";
+    for (void* refusal : {Address(&DiskFull), Address(&ShortWrite)}) {
+        const testkit::ImportHook mfc("KavlixMfc.dll", "WriteFile", refusal);
+        const testkit::ImportHook own("Kavlix.dll", "WriteFile", refusal);
+        ASSERT_TRUE(mfc.Installed() && own.Installed());
+        ExpectNothingLeft([&] {
+            int cause = 0;
+            try {
+                chart.CopyToFile(folder.Path("full.bmp").c_str());
+            } catch (CFileException* exception) {
+                cause = exception->m_cause;
+                exception->Delete();
+            }
+            EXPECT_EQ(cause, CFileException::diskFull);
+        });
+        ::DeleteFileA(folder.Path("full.bmp").c_str());
+        for (const char* name : {"old.png", "new.bmp", "new.emf"})
+            ExpectNothingLeft([&] { EXPECT_FALSE(chart.SaveImage(folder.Path(name).c_str())) << name; });
+        EXPECT_EQ(folder.Names(), Strings{"old.png"});
+        EXPECT_EQ(FileBytes(folder.Path("old.png")).size(), 3u) << "as it was";
+    }
+}
+
+TEST_F(ChartExportTest, WhatCannotBeMadeWritesNothing) {
+    const TempFolder folder;
+    const auto refused = [&](const char* module, const char* function, void* replacement) {
+        const testkit::ImportHook hook(module, function, replacement);
+        ASSERT_TRUE(hook.Installed()) << function;
+        ExpectNothingLeft([&] { EXPECT_FALSE(chart.CopyToFile(folder.Path("x.bmp").c_str())) << function; });
+    };
+    refused("Kavlix.dll", "GetDIBits", Address(&NoBits));
+    g_no_memory = true;
+    refused("Kavlix.dll", "GlobalReAlloc", Address(&MaybeRealloc));
+    g_no_memory = false;
+    refused("KavlixMfc.dll", "CreateFileA", Address(&DeniedA)); // a folder that is read-only
+    {
+        const testkit::ImportHook hook("Kavlix.dll", "CreateFileW", Address(&DeniedW));
+        ASSERT_TRUE(hook.Installed());
+        ExpectNothingLeft([&] { EXPECT_FALSE(chart.SaveImage(folder.Path("x.png").c_str())); });
+    }
+    const DWORD sequence = ::GetClipboardSequenceNumber();
+    {
+        const testkit::ImportHook hook("Kavlix.dll", "CreateEnhMetaFileA", Address(&NoMetafile));
+        ASSERT_TRUE(hook.Installed());
+        ExpectNothingLeft([&] {
+            EXPECT_FALSE(chart.CopyToClipboard());
+            EXPECT_FALSE(chart.SaveImage(folder.Path("x.emf").c_str()));
+        });
+    }
+    EXPECT_EQ(::GetClipboardSequenceNumber(), sequence) << "untouched";
+    Resize(0, 0);
+    EXPECT_FALSE(chart.CopyToFile(folder.Path("x.bmp").c_str()));
+    EXPECT_FALSE(chart.SaveImage(folder.Path("x.png").c_str()));
+    EXPECT_EQ(folder.Names(), Strings());
+}
+
+TEST_F(ChartExportTest, TheDialogNamesTheFile) {
+    const TempFolder folder;
+    {
+        DialogUser user(nullptr);
+        EXPECT_FALSE(chart.CopyToFile()) << "cancelled";
+        EXPECT_EQ(user.proposed.substr(0, 5), "Chart");
+        EXPECT_EQ(user.filter, "Bitmap ");
+    }
+    EXPECT_EQ(folder.Names(), Strings());
+    DialogUser user(folder.Path("asked").c_str());
+    EXPECT_TRUE(chart.CopyToFile());
+    ASSERT_EQ(folder.Names().size(), 1u);
+    EXPECT_EQ(CString(folder.Names()[0].c_str()).CompareNoCase("asked.bmp"), 0) << "the extension is added";
+}
+
+TEST_F(ChartExportTest, ThePictureOnTheClipboard) {
+    for (const char* replaced : {"", "grid"}) {
+        chart.replaced = replaced;
+        chart.calls.clear();
+        EXPECT_TRUE(chart.CopyToClipboard());
+        EXPECT_EQ(chart.calls, kSequence);
+        testkit::MetafileRecorder expected;
+        Record(expected, [&](CDC& dc) { chart.DrawChart(dc); });
+
+        ASSERT_TRUE(chart.OpenClipboard());
+        const auto picture = static_cast<HENHMETAFILE>(::GetClipboardData(CF_ENHMETAFILE));
+        ASSERT_NE(picture, nullptr);
+        char text[40] = "";
+        EXPECT_GE(::GetEnhMetaFileDescriptionA(picture, sizeof text, text), 13u)
+            << "one text and the end of the list";
+        EXPECT_STREQ(text, "Ruvex Trace");
+        ENHMETAHEADER header = {}, other = {};
+        ::GetEnhMetaFileHeader(picture, sizeof header, &header);
+        ::GetEnhMetaFileHeader(expected.Handle(), sizeof other, &other);
+        CSize size(300, 200);
+        {
+            CClientDC dc(&chart);
+            dc.DPtoHIMETRIC(&size);
+        }
+        EXPECT_EQ(header.rclFrame.left, 0);
+        EXPECT_EQ(header.rclFrame.top, 0);
+        EXPECT_EQ(header.rclFrame.right, size.cx);
+        EXPECT_EQ(header.rclFrame.bottom, size.cy);
+        const auto kinds = [](HENHMETAFILE file) {
+            std::vector<DWORD> types;
+            ::EnumEnhMetaFile(
+                nullptr, file,
+                [](HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM list) {
+                    reinterpret_cast<std::vector<DWORD>*>(list)->push_back(record->iType);
+                    return 1;
+                },
+                &types, nullptr);
+            return types;
+        };
+        EXPECT_EQ(kinds(picture), kinds(expected.Handle())) << "the chart's own records and no mapping mode";
+        ::CloseClipboard();
+        // A step that is replaced is replaced in the picture too.
+        const CString grid = "E4E4E4";
+        int gridLines = 0;
+        for (const auto& record : expected.Records())
+            gridLines += record.state.pen.find(grid) != std::string::npos;
+        EXPECT_EQ(gridLines > 0, *replaced == '\0');
+    }
+}
+
+TEST_F(ChartExportTest, ExportsShowTheDataOfNow) {
+    chart.CalcDatas();
+    chart.AddData(0, 1000, 1000);
+    const TempFolder folder;
+    EXPECT_TRUE(chart.SaveImage(folder.Path("now.png").c_str()));
+    double min, max, step;
+    chart.GetXScale(min, max, step);
+    EXPECT_EQ(max, 1000);
+    Resize(200, 100);
+    EXPECT_TRUE(chart.CopyToFile(folder.Path("now.bmp").c_str()));
+    EXPECT_EQ(FileBytes(folder.Path("now.bmp")).size(), 54u + 200 * 100 * 4);
+}

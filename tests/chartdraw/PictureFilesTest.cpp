@@ -1,0 +1,85 @@
+#include "tests/chartdraw/ChartTest.h"
+
+#include <fstream>
+
+namespace {
+
+/// Writes the chart as a bitmap file of this depth, made by the chart's own members, and its pixels as plain
+/// red, green and blue bytes beside it.
+void WriteDepth(OpenChart& chart, int bits, const std::string& base) {
+    struct {
+        BITMAPINFOHEADER header = {};
+        RGBQUAD colors[256] = {};
+    } info;
+    const CSize size = chart.m_rectChart.Size();
+    info.header.biSize = sizeof info.header;
+    info.header.biWidth = size.cx;
+    info.header.biHeight = size.cy;
+    info.header.biPlanes = 1;
+    info.header.biBitCount = static_cast<WORD>(bits);
+    for (int i = 0; i < 256; ++i) // three bits of red and green, two of blue
+        info.colors[i] = {static_cast<BYTE>((i & 3) * 85), static_cast<BYTE>((i >> 2 & 7) * 36),
+                          static_cast<BYTE>((i >> 5) * 36), 0};
+    info.colors[255] = {255, 255, 255, 0};
+    void* memory = nullptr;
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.Attach(::CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info),
+                                                 DIB_RGB_COLORS, &memory, nullptr, 0)));
+    std::ofstream pixels(base + ".rgb", std::ios::binary);
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    CBitmap* const old = dc.SelectObject(&bitmap);
+    chart.DrawChart(dc);
+    for (int y = 0; y < size.cy; ++y)
+        for (int x = 0; x < size.cx; ++x) {
+            const COLORREF color = dc.GetPixel(x, y);
+            pixels << static_cast<char>(GetRValue(color)) << static_cast<char>(GetGValue(color))
+                   << static_cast<char>(GetBValue(color));
+        }
+    dc.SelectObject(old);
+    const HANDLE block = chart.DDBToDIB(bitmap, BI_RGB, nullptr);
+    ASSERT_NE(block, nullptr);
+    {
+        CFile file((base + ".bmp").c_str(), CFile::modeCreate | CFile::modeWrite);
+        EXPECT_TRUE(chart.SaveDIB(block, file));
+    }
+    ::GlobalFree(block);
+}
+
+} // namespace
+
+/// What stands in the files is compared by another program, which compare-pictures asks.
+TEST_F(ChartTest, PicturesForAnotherProgram) {
+    char program[MAX_PATH] = "";
+    ::GetModuleFileNameA(nullptr, program, MAX_PATH);
+    const std::string path = program, folder = path.substr(0, path.find_last_of('\\')) + "\\chart_pictures";
+    ::CreateDirectoryA(folder.c_str(), nullptr);
+    chart.SetTitle("Title");
+    chart.SetMarkerType(Add({1, 5, 2, 8, -3}), CDataset::MarkerSquare);
+    chart.SetLineSize(Add({8, 2, 5, 1, 0}), 4);
+    for (const int width : {1, 2, 3, 257}) {
+        Resize(width, 120);
+        chart.CalcDatas();
+        for (const int bits : {8, 24})
+            WriteDepth(chart, bits, folder + "\\" + std::to_string(bits) + "bit_" + std::to_string(width));
+    }
+    testkit::DibSurface painted(257, 120);
+    PaintInto(painted);
+    for (const char* extension : {"png", "bmp", "emf"})
+        EXPECT_TRUE(chart.SaveImage((folder + "\\image." + extension).c_str()));
+    std::ofstream pixels(folder + "\\image.rgb", std::ios::binary);
+    for (int y = 0; y < 120; ++y)
+        for (int x = 0; x < 257; ++x) {
+            const COLORREF color = painted.At(x, y);
+            pixels << static_cast<char>(GetRValue(color)) << static_cast<char>(GetGValue(color))
+                   << static_cast<char>(GetBValue(color));
+        }
+    const HENHMETAFILE picture = ::GetEnhMetaFileA((folder + "\\image.emf").c_str());
+    ASSERT_NE(picture, nullptr);
+    testkit::DibSurface played(257, 120);
+    const RECT all = {0, 0, 257, 120};
+    ::PlayEnhMetaFile(played.Dc(), picture, &all);
+    ::DeleteEnhMetaFile(picture);
+    EXPECT_LT(testkit::Displaced(painted, played, all, 2), 257 * 120 / 50)
+        << "but for letters the same picture";
+}

@@ -3,8 +3,8 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
-#include <iterator>
 #include <limits>
 
 namespace kavlix::monitor {
@@ -18,16 +18,16 @@ constexpr Reading kReadings[] = {&MachineRates::processorPercent, &MachineRates:
 constexpr const char* kNames[] = {"CPU", "Memory", "Network in", "Network out"};
 constexpr bool kIsRate[] = {false, false, true, true};
 
-std::string PercentText(const std::optional<double>& value) {
-    if (!value)
+std::string PercentText(double value) {
+    if (std::isnan(value))
         return "not available";
     char text[32];
-    std::snprintf(text, sizeof text, "%.1f %%", *value);
+    std::snprintf(text, sizeof text, "%.1f %%", value);
     return text;
 }
 
-std::string RateText(const std::optional<double>& value) {
-    return value ? FormatRate(*value) : "not available";
+std::string RateText(double value) {
+    return std::isnan(value) ? "not available" : FormatRate(value);
 }
 
 } // namespace
@@ -48,23 +48,40 @@ LiveReadings::Change LiveReadings::Add(recording::Time now, const MachineRates& 
     if (!m_times.empty() && now <= m_times.back())
         now = m_times.back() + 1;
     m_times.push_back(now);
-    m_rates.push_back(rates);
-    return Trim(m_times.size() - std::min(m_times.size(), kHistory));
+    Values values{};
+    for (std::size_t i = 0; i < kSeries; ++i) {
+        const std::optional<double>& reading = rates.*kReadings[i];
+        values[i] = reading.value_or(std::numeric_limits<double>::quiet_NaN());
+        m_had[i] = m_had[i] || reading.has_value();
+    }
+    m_values.push_back(values);
+    return Trim(m_times.size() - std::min(m_times.size(), m_most));
 }
 
 LiveReadings::Change LiveReadings::RemoveHead(std::size_t count) {
     return Trim(m_times.empty() ? 0 : std::min(count, m_times.size() - 1));
 }
 
+LiveReadings::Change LiveReadings::KeepAtMost(std::size_t count) {
+    m_most = std::max<std::size_t>(count, 1);
+    return Trim(m_times.size() - std::min(m_times.size(), m_most));
+}
+
 LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
-    Change change;
-    change.removed = removed;
     m_times.erase(m_times.begin(), m_times.begin() + static_cast<std::ptrdiff_t>(removed));
-    m_rates.erase(m_rates.begin(), m_rates.begin() + static_cast<std::ptrdiff_t>(removed));
+    m_values.erase(m_values.begin(), m_values.begin() + static_cast<std::ptrdiff_t>(removed));
+    m_first += removed;
+    Change change;
+    const std::uint64_t historyFirst = std::max(m_historyFirst, End() - std::min(m_times.size(), kHistory));
+    change.removed = static_cast<std::size_t>(historyFirst - m_historyFirst);
+    m_historyFirst = historyFirst;
     double highest = 0;
-    for (const MachineRates& reading : m_rates)
-        highest =
-            std::max({highest, reading.bytesInPerSecond.value_or(0), reading.bytesOutPerSecond.value_or(0)});
+    for (std::uint64_t reading = m_historyFirst; reading < End(); ++reading) {
+        for (std::size_t i = 0; i < kSeries; ++i) {
+            if (IsRate(i) && ValueOf(reading, i) > highest)
+                highest = ValueOf(reading, i);
+        }
+    }
     const RateUnit unit = ChooseRateUnit(highest);
     change.unitChanged = !(unit == m_unit);
     m_unit = unit;
@@ -74,28 +91,35 @@ LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
 
 void LiveReadings::Rebuild() {
     auto rebuilt = std::make_shared<recording::Recording>();
-    rebuilt->times = m_times;
+    rebuilt->times.assign(m_times.begin() + static_cast<std::ptrdiff_t>(Index(m_historyFirst)),
+                          m_times.end());
     const std::vector<std::string> names = SeriesNames();
-    for (std::size_t i = 0; i < std::size(kReadings); ++i) {
+    for (std::size_t i = 0; i < kSeries; ++i) {
         recording::Series series;
         series.name = names[i];
-        for (const MachineRates& rates : m_rates) {
-            const std::optional<double>& reading = rates.*kReadings[i];
-            series.values.push_back(reading ? *reading / (kIsRate[i] ? m_unit.bytesPerSecond : 1)
-                                            : std::numeric_limits<double>::quiet_NaN());
-        }
+        for (std::uint64_t reading = m_historyFirst; reading < End(); ++reading)
+            series.values.push_back(ValueOf(reading, i) / (IsRate(i) ? m_unit.bytesPerSecond : 1));
         rebuilt->series.push_back(std::move(series));
     }
     m_recording = std::move(rebuilt);
 }
 
+double LiveReadings::ValueOf(std::uint64_t reading, std::size_t series) const {
+    return m_values[Index(reading)][series];
+}
+
+const char* LiveReadings::NameOf(std::size_t series) {
+    return kNames[series];
+}
+
+bool LiveReadings::IsRate(std::size_t series) {
+    return kIsRate[series];
+}
+
 std::vector<std::string> LiveReadings::SeriesNames() const {
     std::vector<std::string> names;
-    for (std::size_t i = 0; i < std::size(kReadings); ++i) {
-        const bool had =
-            m_rates.empty() || std::any_of(m_rates.begin(), m_rates.end(), [i](const MachineRates& rates) {
-                return (rates.*kReadings[i]).has_value();
-            });
+    for (std::size_t i = 0; i < kSeries; ++i) {
+        const bool had = m_times.empty() || m_had[i];
         const std::string unit = kIsRate[i] ? m_unit.text : std::string("%");
         names.push_back(std::string(kNames[i]) + (had ? ", " + unit : std::string(" (not available)")));
     }
@@ -103,12 +127,14 @@ std::vector<std::string> LiveReadings::SeriesNames() const {
 }
 
 std::string LiveReadings::LatestText() const {
-    if (m_rates.empty())
+    if (m_values.empty())
         return "Waiting for the first reading";
-    const MachineRates& latest = m_rates.back();
-    return "CPU " + PercentText(latest.processorPercent) + "   Memory " + PercentText(latest.memoryPercent) +
-           "   Network in " + RateText(latest.bytesInPerSecond) + ", out " +
-           RateText(latest.bytesOutPerSecond);
+    return TextOf({m_values.back().begin(), m_values.back().end()});
+}
+
+std::string LiveReadings::TextOf(const std::vector<double>& values) {
+    return "CPU " + PercentText(values[0]) + "   Memory " + PercentText(values[1]) + "   Network in " +
+           RateText(values[2]) + ", out " + RateText(values[3]);
 }
 
 std::string LiveReadings::AxisText() const {

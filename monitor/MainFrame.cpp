@@ -1,9 +1,8 @@
 #include "monitor/MainFrame.h"
 
+#include "monitor/Pages.h"
 #include "monitor/WindowPicture.h"
 #include "monitor/resource.h"
-
-#include <kavlix/Kavlix.h>
 
 #include <algorithm>
 #include <utility>
@@ -25,34 +24,14 @@ ON_WM_GETMINMAXINFO()
 ON_WM_ERASEBKGND()
 ON_WM_TIMER()
 ON_WM_DESTROY()
-ON_NOTIFY(GCN_SELCHANGE, IDC_GRAPH, &CMainFrame::OnSelectionChanged)
-ON_NOTIFY(GCN_MOUSEMOVE, IDC_GRAPH, &CMainFrame::OnPointerMoved)
-ON_NOTIFY(MGN_MOUSELEAVE, IDC_GRAPH, &CMainFrame::OnPointerLeft)
-ON_NOTIFY(GCN_DBLCLK_LEGEND, IDC_GRAPH, &CMainFrame::OnLegendDoubleClick)
-ON_NOTIFY(GCN_DBLCLK_CAPTION, IDC_GRAPH, &CMainFrame::OnCaptionDoubleClick)
-ON_NOTIFY(GCN_MAXIMIZE, IDC_GRAPH, &CMainFrame::OnMaximize)
-ON_NOTIFY(GCN_REMOVEDATA, IDC_GRAPH, &CMainFrame::OnDataRemoved)
-ON_NOTIFY(MGN_COPIED, IDC_GRAPH, &CMainFrame::OnCopied)
-ON_NOTIFY(MGN_NOTCOPIED, IDC_GRAPH, &CMainFrame::OnNotCopied)
 ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
 ON_COMMAND(ID_FILE_LIVE, &CMainFrame::OnFileLive)
 ON_UPDATE_COMMAND_UI(ID_FILE_LIVE, &CMainFrame::OnUpdateFileLive)
 ON_COMMAND(ID_FILE_SAVE_PICTURE, &CMainFrame::OnFileSavePicture)
-ON_COMMAND(ID_EDIT_COPY, &CMainFrame::OnEditCopy)
-ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CMainFrame::OnUpdateEditCopy)
-ON_COMMAND_RANGE(ID_GRAPH_CLEAR_SELECTION_MARK, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CMainFrame::OnEditGraph)
-ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CMainFrame::OnUpdateClearMark)
-ON_UPDATE_COMMAND_UI(ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CMainFrame::OnUpdateRemoveData)
 ON_COMMAND(ID_VIEW_FILL, &CMainFrame::OnViewFill)
 ON_UPDATE_COMMAND_UI(ID_VIEW_FILL, &CMainFrame::OnUpdateViewFill)
-ON_COMMAND_RANGE(ID_VIEW_LINE, ID_VIEW_TWO_AXES, &CMainFrame::OnViewStyle)
-ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LINE, ID_VIEW_TWO_AXES, &CMainFrame::OnUpdateViewStyle)
-ON_COMMAND(ID_VIEW_LEGEND, &CMainFrame::OnViewLegend)
-ON_UPDATE_COMMAND_UI(ID_VIEW_LEGEND, &CMainFrame::OnUpdateViewLegend)
-ON_COMMAND_RANGE(ID_VIEW_GRID_X, ID_VIEW_GRID_Y, &CMainFrame::OnViewGrid)
-ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_GRID_X, ID_VIEW_GRID_Y, &CMainFrame::OnUpdateViewGrid)
-ON_COMMAND_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_FULL_RANGE, &CMainFrame::OnViewRange)
-ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_FULL_RANGE, &CMainFrame::OnUpdateViewRange)
+ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, &CMainFrame::OnViewPage)
+ON_UPDATE_COMMAND_UI_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, &CMainFrame::OnUpdateViewPage)
 ON_COMMAND(ID_VIEW_MESSAGES, &CMainFrame::OnViewMessages)
 ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &CMainFrame::OnUpdateViewMessages)
 ON_COMMAND(ID_SETTINGS, &CMainFrame::OnSettings)
@@ -60,7 +39,7 @@ ON_UPDATE_COMMAND_UI(ID_SETTINGS, &CMainFrame::OnUpdateSettings)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(recording::Options options, int& exitStatus)
-    : m_options(std::move(options)), m_exitStatus(exitStatus) {
+    : m_options(std::move(options)), m_exitStatus(exitStatus), m_pages(PageMakers().size()) {
 }
 
 bool CMainFrame::CreateMainWindow() {
@@ -74,7 +53,7 @@ bool CMainFrame::CreateMainWindow() {
 }
 
 BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    // Graph and status bar cover the window: painting under them would only flicker.
+    // Page and status bar cover the window: painting under them would only flicker.
     cs.style |= WS_CLIPCHILDREN;
     return CFrameWnd::PreCreateWindow(cs);
 }
@@ -85,7 +64,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return failed;
     if (!m_status.CreateBar(*this, IDC_STATUS))
         return failed;
-    return m_graph.CreateChild(*this, IDC_GRAPH) ? 0 : failed;
+    return ShowPage(DefaultPage()) ? 0 : failed;
 }
 
 void CMainFrame::OnDestroy() {
@@ -100,7 +79,8 @@ void CMainFrame::OnSize(UINT nType, int cx, int cy) {
 }
 
 void CMainFrame::OnSetFocus(CWnd*) {
-    m_graph.SetFocus();
+    if (m_page)
+        m_page->SetFocus();
 }
 
 void CMainFrame::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {
@@ -124,54 +104,87 @@ BOOL CMainFrame::PreTranslateMessage(MSG* pMsg) {
         // Escape first clears the mark. A key that is held for that does not go on to leave the filled
         // window.
         const bool held = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0;
-        if (m_filling && !held && m_filling->SelectionMark().index < 0) {
-            Fill(nullptr);
+        if (m_filled && !held && !m_page->HasMark()) {
+            Fill(false);
             return TRUE;
         }
     }
     return CFrameWnd::PreTranslateMessage(pMsg);
 }
 
+BOOL CMainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (m_page && m_page->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+/// The page that content is shown on as long as nobody has chosen another.
+std::size_t CMainFrame::DefaultPage() const {
+    return m_options.page.value_or(m_content.live ? recording::kScrollPage : recording::kGraphPage);
+}
+
+/// Brings a page to the front and up to date. False: its window could not be made, and nothing has changed.
+bool CMainFrame::ShowPage(std::size_t index) {
+    std::unique_ptr<CMonitorPage>& page = m_pages[index];
+    if (!page) {
+        auto made = PageMakers()[index](*this);
+        if (!made->CreatePage(*this, IDC_PAGE_FIRST + static_cast<UINT>(index)))
+            return false;
+        page = std::move(made);
+    }
+    CMonitorPage* const before = std::exchange(m_page, page.get());
+    if (before == m_page) {
+        m_page->Update();
+        return true;
+    }
+    LayOut();
+    m_page->Update();
+    m_page->ShowFilling(m_filled);
+    m_page->ShowWindow(SW_SHOWNA);
+    if (before) {
+        const bool focused = before->IsChild(GetFocus());
+        before->ShowWindow(SW_HIDE);
+        before->ShowFilling(false);
+        if (focused)
+            m_page->SetFocus();
+    }
+    m_status.ForgetPointerRoom();
+    if (!m_page->CanFill())
+        Fill(false);
+    return true;
+}
+
 void CMainFrame::LayOut() {
-    if (!m_graph.GetSafeHwnd() || !m_status.GetSafeHwnd())
+    if (!m_page || !m_status.GetSafeHwnd())
         return;
     CRect client;
     GetClientRect(&client);
-    if (m_filling) {
-        m_filling->MoveWindow(client);
+    if (m_filled) {
+        m_page->MoveWindow(client);
         return;
     }
     m_status.SendMessage(WM_SIZE);
     ShowStatus();
     CRect status;
     m_status.GetWindowRect(&status);
-    m_graph.MoveWindow(0, 0, client.Width(), std::max(client.Height() - status.Height(), 0));
+    m_page->MoveWindow(0, 0, client.Width(), std::max(client.Height() - status.Height(), 0));
 }
 
-void CMainFrame::Fill(CMonitorGraph* graph) {
-    if (graph == m_filling)
+void CMainFrame::Fill(bool fill) {
+    if (fill == m_filled || (fill && !m_page->CanFill()))
         return;
-    if (m_filling)
-        m_filling->ShowFilling(false);
-    if (graph)
-        graph->ShowFilling(true);
-    m_filling = graph;
-    m_pointer.reset();
-    m_status.ShowWindow(graph ? SW_HIDE : SW_SHOWNA);
+    m_filled = fill;
+    m_page->ShowFilling(fill);
+    m_status.ShowWindow(fill ? SW_HIDE : SW_SHOWNA);
     // A change of the menu bar changes the inside's size, and with it the layout.
-    if (graph && !m_menuWhileFilled) {
+    if (fill) {
         m_menuWhileFilled = ::GetMenu(m_hWnd);
         ::SetMenu(m_hWnd, nullptr);
-    } else if (!graph) {
+    } else {
         ::SetMenu(m_hWnd, std::exchange(m_menuWhileFilled, nullptr));
     }
     LayOut();
-    m_graph.Redraw();
     RefreshStatus();
-}
-
-void CMainFrame::OnUpdateSettings(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(!m_loader && !m_graph.Settings().series.empty());
 }
 
 } // namespace kavlix::monitor

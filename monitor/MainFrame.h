@@ -1,24 +1,21 @@
 #pragma once
 
-#include "monitor/LiveReadings.h"
-#include "monitor/MonitorGraph.h"
+#include "monitor/MonitorPage.h"
 #include "monitor/StatusPanes.h"
 #include "monitor/recording/Options.h"
 #include "monitor/recording/RecordingLoader.h"
-#include "monitor/recording/SampleText.h"
 
 #include <afxwin.h>
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace kavlix::monitor {
 
-/// The main window: a graph over a status bar. It shows recordings, which it reads in slices while the
-/// message loop is idle, or live readings of the machine.
-class CMainFrame : public CFrameWnd {
+/// The main window: one of several pages over a status bar. It owns what they show: recordings, which it
+/// reads in slices while the message loop is idle, or live readings of the machine.
+class CMainFrame : public CFrameWnd, private PageHost {
 public:
     /// @param exitStatus receives what the program ends with; it must outlive the window
     CMainFrame(recording::Options options, int& exitStatus);
@@ -33,12 +30,16 @@ public:
     /// @return whether there is more to do
     bool WorkInIdle();
 
-    /// The graph that fills the window's whole inside; null while menu bar and status bar are there.
-    const CMonitorGraph* Filling() const { return m_filling; }
+    /// The page that is shown.
+    CMonitorPage& Page() { return *m_page; }
+
+    const PageContent& Content() const override { return m_content; }
+    bool Filled() const override { return m_filled; }
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
@@ -47,34 +48,14 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnDestroy();
-    afx_msg void OnSelectionChanged(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnPointerMoved(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnPointerLeft(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnLegendDoubleClick(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnCaptionDoubleClick(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnMaximize(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnDataRemoved(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnCopied(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg void OnNotCopied(NMHDR* pNMHDR, LRESULT* pResult);
 
-    afx_msg void OnEditGraph(UINT nID);
-    afx_msg void OnEditCopy();
-    afx_msg void OnUpdateEditCopy(CCmdUI* pCmdUI);
-    afx_msg void OnUpdateClearMark(CCmdUI* pCmdUI);
-    afx_msg void OnUpdateRemoveData(CCmdUI* pCmdUI);
     afx_msg void OnViewFill();
     afx_msg void OnUpdateViewFill(CCmdUI* pCmdUI);
     afx_msg void OnFileOpen();
     afx_msg void OnFileLive();
     afx_msg void OnFileSavePicture();
-    afx_msg void OnViewStyle(UINT nID);
-    afx_msg void OnUpdateViewStyle(CCmdUI* pCmdUI);
-    afx_msg void OnViewLegend();
-    afx_msg void OnUpdateViewLegend(CCmdUI* pCmdUI);
-    afx_msg void OnViewGrid(UINT nID);
-    afx_msg void OnUpdateViewGrid(CCmdUI* pCmdUI);
-    afx_msg void OnViewRange(UINT nID);
-    afx_msg void OnUpdateViewRange(CCmdUI* pCmdUI);
+    afx_msg void OnViewPage(UINT nID);
+    afx_msg void OnUpdateViewPage(CCmdUI* pCmdUI);
     afx_msg void OnViewMessages();
     afx_msg void OnUpdateViewMessages(CCmdUI* pCmdUI);
     afx_msg void OnSettings();
@@ -89,6 +70,19 @@ private:
         kNoticeTimer    ///< the notice has been seen
     };
 
+    // What pages ask for.
+    void ChangeSettings(GraphSettings settings) override;
+    void RemoveHead(std::size_t count) override;
+    void KeepAtMost(std::size_t count) override;
+    void ShowSelection() override;
+    void ShowPointer() override;
+    void Say(const std::string& notice) override;
+    void Fill(bool fill) override;
+
+    bool ShowPage(std::size_t index);
+    void ShowOtherContent();
+    std::size_t DefaultPage() const;
+
     void BeginReading(std::vector<std::string> paths);
     void ReadSlice();
     void CancelReading();
@@ -96,25 +90,15 @@ private:
     void ShowNothing(const std::string& title);
     void BeginLive();
     void TakeLiveReading();
+    void LiveChanged(const LiveReadings::Change& change);
     void EndAsAsked();
     void TakePicture();
     void LayOut();
-    void Fill(CMonitorGraph* graph);
-    void RemoveBefore(int shown);
-    GraphSource LiveSource() const;
-    GraphSettings LiveSettings() const;
 
     void NameSource(const std::string& title);
     void SetStatus(std::vector<std::string> text, const std::string& summary);
-    void ShowSelection();
     void RefreshStatus();
     void ShowStatus();
-    void Say(const std::string& notice);
-    recording::ValueDigits Digits() const;
-    std::vector<std::string> MarkTexts(const CMonitorGraph::Mark& mark) const;
-    std::vector<std::string> PointerTexts();
-    std::string RangeText() const;
-    std::size_t SampleCount() const;
     std::string SourceText() const;
 
     recording::Options m_options;
@@ -122,21 +106,20 @@ private:
     bool m_fromCommandLine = false; ///< what is shown is what the command line asked for
     bool m_pictureDue = false;      ///< the picture is taken as soon as everything is painted
 
-    CMonitorGraph m_graph;
-    CMonitorGraph* m_filling = nullptr; ///< see Filling
-    HMENU m_menuWhileFilled = nullptr;  ///< the window's menu while a graph fills it
+    PageContent m_content;
+    std::vector<std::unique_ptr<CMonitorPage>> m_pages; ///< by recording::kPageNames; made when first shown
+    CMonitorPage* m_page = nullptr;                     ///< the one that is shown
+    bool m_pageChosen = false;                          ///< a person has chosen it
+
+    bool m_filled = false;             ///< see Filled
+    HMENU m_menuWhileFilled = nullptr; ///< the window's menu while a page fills it
     CStatusPanes m_status;
-    StatusTexts m_texts;             ///< what the status bar shows, but for the notice
-    std::string m_notice;            ///< stands for a short time in place of the first text
-    std::optional<CPoint> m_pointer; ///< where the mouse pointer is in the graph, client pixels
+    StatusTexts m_texts;  ///< what the status bar shows, but for the notice
+    std::string m_notice; ///< stands for a short time in place of the first text
     std::string m_title = "Kavlix Monitor";
 
     std::unique_ptr<recording::RecordingLoader> m_loader; ///< set while reading
     std::vector<std::string> m_paths;                     ///< the files that are shown or read
-    std::shared_ptr<const recording::Recording>
-        m_recording; ///< null while reading and while readings are live
-
-    std::unique_ptr<LiveReadings> m_live; ///< set while readings are live
     MachineCounters m_counters;
 };
 

@@ -51,7 +51,7 @@ void CMainFrame::Start() {
     m_fromCommandLine = true;
 
     double seconds = m_options.seconds.value_or(0);
-    if (!m_options.seconds && m_live && !m_options.shot.empty())
+    if (!m_options.seconds && m_content.live && !m_options.shot.empty())
         seconds = kLivePictureSeconds;
     if (seconds > 0)
         SetTimer(kEndTimer, static_cast<UINT>(std::clamp(seconds * kMillisPerSecond, 1.0, kLongestTimer)),
@@ -63,6 +63,8 @@ bool CMainFrame::WorkInIdle() {
         ReadSlice();
         return true;
     }
+    if (m_page->WorkInIdle())
+        return true;
     if (std::exchange(m_pictureDue, false))
         TakePicture();
     return false;
@@ -70,12 +72,10 @@ bool CMainFrame::WorkInIdle() {
 
 void CMainFrame::BeginReading(std::vector<std::string> paths) {
     KillTimer(kLiveTimer);
-    m_live.reset();
     m_fromCommandLine = false;
     m_paths = std::move(paths);
     m_loader = std::make_unique<RecordingLoader>(m_paths);
     NameSource("Kavlix Monitor - " + SourceText());
-    m_recording.reset();
     ShowNothing("Reading " + SourceText());
 }
 
@@ -84,7 +84,10 @@ void CMainFrame::ShowNothing(const std::string& title) {
     settings.title = title;
     settings.legend = false;
     settings.gridY = false;
-    m_graph.Show(GraphSource(), std::move(settings));
+    m_content.settings = std::move(settings);
+    m_content.live.reset();
+    m_content.recording.reset();
+    ShowOtherContent();
 }
 
 void CMainFrame::ReadSlice() {
@@ -106,84 +109,96 @@ void CMainFrame::CancelReading() {
     ShowRecording(loader->Take());
 }
 
+/// The content is another from now on.
+void CMainFrame::ShowOtherContent() {
+    ++m_content.generation;
+    m_content.lost = 0;
+    if (m_pageChosen || !ShowPage(DefaultPage()))
+        m_page->Update();
+}
+
 void CMainFrame::ShowRecording(Recording read) {
-    m_recording = std::make_shared<const Recording>(std::move(read));
     const auto style = m_options.style.value_or(recording::ViewStyle::Line);
-    if (m_recording->Empty())
+    if (read.Empty()) {
         ShowNothing("Nothing to show: " + SourceText());
-    else
-        m_graph.Show({m_recording, {}, {}, 0},
-                     DefaultSettings(SourceText(), NamesOf(*m_recording), m_recording->times.size(),
-                                     ToGraphStyle(style)));
+        m_content.recording = std::make_shared<const Recording>(std::move(read));
+    } else {
+        m_content.recording = std::make_shared<const Recording>(std::move(read));
+        m_content.settings = DefaultSettings(SourceText(), NamesOf(*m_content.recording),
+                                             m_content.recording->times.size(), ToGraphStyle(style));
+        ShowOtherContent();
+    }
     ShowSelection();
     if (!m_fromCommandLine)
         return;
-    m_exitStatus = static_cast<int>(m_recording->GetStatus());
+    m_exitStatus = static_cast<int>(m_content.recording->GetStatus());
     if (!m_options.shot.empty()) {
-        WriteError(recording::MessageReport(*m_recording));
+        WriteError(recording::MessageReport(*m_content.recording));
         m_pictureDue = !m_options.seconds;
-    } else if (m_recording->GetStatus() == recording::Status::Nothing) {
+    } else if (m_content.recording->GetStatus() == recording::Status::Nothing) {
         PostMessage(WM_COMMAND, ID_VIEW_MESSAGES);
     }
 }
 
 void CMainFrame::BeginLive() {
     m_loader.reset();
-    m_recording.reset();
     m_paths.clear();
     m_fromCommandLine = false;
-    m_live = std::make_unique<LiveReadings>();
+    m_content.recording.reset();
+    m_content.live = std::make_unique<LiveReadings>();
     m_counters = ReadMachineCounters();
     const auto style = m_options.style.value_or(recording::ViewStyle::Line);
-    m_graph.Show(LiveSource(), DefaultSettings("Live readings of this machine", m_live->SeriesNames(),
-                                               LiveReadings::kHistory, ToGraphStyle(style)));
+    m_content.settings = DefaultSettings("Live readings of this machine", m_content.live->SeriesNames(),
+                                         LiveReadings::kHistory, ToGraphStyle(style));
+    ShowOtherContent();
     NameSource("Kavlix Monitor - live readings");
-    SetStatus({m_live->LatestText()}, "");
+    RefreshStatus();
     SetTimer(kLiveTimer, kLiveInterval, nullptr);
 }
 
 void CMainFrame::TakeLiveReading() {
     MachineCounters now = ReadMachineCounters();
-    const LiveReadings::Change change = m_live->Add(LocalTimeNow(), RatesBetween(m_counters, now));
+    LiveChanged(m_content.live->Add(LocalTimeNow(), RatesBetween(m_counters, now)));
     m_counters = std::move(now);
-
-    GraphSettings settings = LiveSettings();
-    if (change.unitChanged || !(settings == m_graph.Settings()))
-        m_graph.ShowGrown(LiveSource(), change.removed, std::move(settings));
-    else
-        m_graph.ShowGrown(LiveSource(), change.removed);
     RefreshStatus();
 }
 
-GraphSource CMainFrame::LiveSource() const {
-    return {m_live->History(), LiveReadings::AxisSpan(), m_live->AxisText(), LiveReadings::kShownAtLeast};
+/// Shows the live readings, and the units that they have now in the series' names.
+void CMainFrame::LiveChanged(const LiveReadings::Change& change) {
+    m_content.lost += change.removed;
+    const std::vector<std::string> names = m_content.live->SeriesNames();
+    std::vector<SeriesSettings>& series = m_content.settings.series;
+    for (std::size_t i = 0; i < names.size() && i < series.size(); ++i)
+        series[i].name = names[i];
+    m_page->Update();
 }
 
-/// The settings now, with the units that the readings have now in the series' names.
-GraphSettings CMainFrame::LiveSettings() const {
-    GraphSettings settings = m_graph.Settings();
-    const std::vector<std::string> names = m_live->SeriesNames();
-    for (std::size_t i = 0; i < names.size() && i < settings.series.size(); ++i)
-        settings.series[i].name = names[i];
-    return settings;
-}
-
-/// Follows the graph, which has removed its samples before the given one. The files on the disk stay as they
-/// are.
-void CMainFrame::RemoveBefore(int shown) {
-    const std::size_t count = m_graph.FirstSampleOf(shown);
-    if (m_live) {
-        const LiveReadings::Change change = m_live->RemoveHead(count);
-        m_graph.ShowRest(LiveSource(), change.removed, LiveSettings());
-    } else if (m_recording) {
-        if (count > 0)
-            m_recording = std::make_shared<const Recording>(recording::WithoutHead(*m_recording, count));
-        m_graph.ShowRest({m_recording, {}, {}, 0}, count, m_graph.Settings());
+void CMainFrame::RemoveHead(std::size_t count) {
+    ++m_content.cuts;
+    if (m_content.live) {
+        LiveChanged(m_content.live->RemoveHead(count));
+        return;
     }
+    if (m_content.recording && count > 0)
+        m_content.recording =
+            std::make_shared<const Recording>(recording::WithoutHead(*m_content.recording, count));
+    m_content.lost += count;
+    m_page->Update();
+}
+
+void CMainFrame::KeepAtMost(std::size_t count) {
+    if (m_content.live)
+        LiveChanged(m_content.live->KeepAtMost(count));
+}
+
+void CMainFrame::ChangeSettings(GraphSettings settings) {
+    m_content.settings = std::move(settings);
+    m_page->Update();
+    ShowSelection();
 }
 
 void CMainFrame::OnTimer(UINT_PTR nIDEvent) {
-    if (nIDEvent == kLiveTimer && m_live) {
+    if (nIDEvent == kLiveTimer && m_content.live) {
         TakeLiveReading();
     } else if (nIDEvent == kNoticeTimer) {
         Say("");

@@ -1,11 +1,8 @@
-// What the main window says about what it shows: in the status bar, or in its title while a graph fills it.
+// What the main window says about what it shows: in the status bar, or in its title while a page fills it.
 
 #include "monitor/MainFrame.h"
 
 #include "monitor/recording/CheckReport.h"
-#include "monitor/recording/NumberText.h"
-
-#include <afxres.h>
 
 #include <algorithm>
 #include <utility>
@@ -55,7 +52,7 @@ void CMainFrame::ShowStatus() {
     if (!m_notice.empty())
         texts.text = {m_notice};
     std::string title = m_title;
-    if (m_filling) {
+    if (m_filled) {
         // Text and pointer get shorter together until the title bar has room for them.
         const std::size_t forms = std::max(texts.text.size(), texts.pointer.size());
         for (std::size_t form = 0; form < forms; ++form) {
@@ -84,51 +81,6 @@ void CMainFrame::Say(const std::string& notice) {
     ShowStatus();
 }
 
-/// How exactly the picture's values are told.
-recording::ValueDigits CMainFrame::Digits() const {
-    return m_live || m_graph.SamplesEach() > 1 ? recording::ValueDigits::Computed
-                                               : recording::ValueDigits::AsRead;
-}
-
-std::vector<std::string> CMainFrame::MarkTexts(const CMonitorGraph::Mark& mark) const {
-    // The series that are seen first: of a long text the end may be cut.
-    const std::vector<SeriesSettings>& series = m_graph.Settings().series;
-    std::vector<recording::NamedValue> values;
-    for (const bool visible : {true, false}) {
-        for (std::size_t i = 0; i < mark.values.size() && i < series.size(); ++i) {
-            if (series[i].visible == visible)
-                values.push_back({series[i].name, mark.values[i], mark.times[i]});
-        }
-    }
-    return recording::SampleTexts(mark.time, values, Digits());
-}
-
-std::vector<std::string> CMainFrame::PointerTexts() {
-    const auto pointed = m_pointer ? m_graph.SampleUnder(*m_pointer) : std::nullopt;
-    if (!pointed)
-        return {};
-    return recording::SampleTexts(
-        pointed->time, {{m_graph.Settings().series[pointed->series].name, pointed->value, {}}}, Digits());
-}
-
-std::string CMainFrame::RangeText() const {
-    if (SampleCount() == 0)
-        return "Nothing to show";
-    const recording::VisibleRange range = m_graph.Visible();
-    std::string text =
-        recording::FormatDateTime(m_recording->times[range.first], recording::TimePrecision::Seconds) +
-        "  to  " +
-        recording::FormatDateTime(m_recording->times[range.last], recording::TimePrecision::Seconds) +
-        (m_recording->Zoned() ? "  UTC" : "");
-    if (m_graph.SamplesEach() > 1)
-        text += (m_graph.Settings().style == CGraphCtrl::GraphStyleBar ? "   each bar the mean of "
-                                                                       : "   lowest and highest of every ") +
-                recording::FormatCount(m_graph.SamplesEach()) + " samples";
-    if (m_recording->cancelled)
-        text += "   reading was stopped";
-    return text;
-}
-
 /// After something that a person did to what is shown.
 void CMainFrame::ShowSelection() {
     m_notice.clear();
@@ -139,50 +91,20 @@ void CMainFrame::RefreshStatus() {
     // While files are read, the status bar tells how far.
     if (m_loader)
         return;
-    const CMonitorGraph::Mark mark = m_graph.SelectionMark();
-    std::vector<std::string> texts;
-    if (mark.index >= 0)
-        texts = MarkTexts(mark);
-    else if (m_live)
-        texts = {m_live->LatestText()};
-    else if (m_recording)
-        texts = {RangeText()};
-    m_texts.pointer = PointerTexts();
-    SetStatus(std::move(texts), m_recording ? recording::StatusLine(*m_recording) : std::string());
+    std::vector<std::string> texts = m_page->MarkTexts();
+    if (texts.empty())
+        texts = m_page->ViewTexts();
+    m_texts.pointer = m_page->PointerTexts();
+    SetStatus(std::move(texts),
+              m_content.recording ? recording::StatusLine(*m_content.recording) : std::string());
 }
 
-void CMainFrame::OnSelectionChanged(NMHDR*, LRESULT* pResult) {
-    ShowSelection();
-    *pResult = 0;
-}
-
-void CMainFrame::OnPointerMoved(NMHDR* pNMHDR, LRESULT* pResult) {
-    m_pointer = CPoint(reinterpret_cast<const NMGRAPHCTRL*>(pNMHDR)->pt);
-    *pResult = 0;
-    std::vector<std::string> texts = PointerTexts();
+void CMainFrame::ShowPointer() {
+    std::vector<std::string> texts = m_page->PointerTexts();
     if (texts == m_texts.pointer)
         return;
     m_texts.pointer = std::move(texts);
     ShowStatus();
-}
-
-void CMainFrame::OnPointerLeft(NMHDR*, LRESULT* pResult) {
-    m_pointer.reset();
-    *pResult = 0;
-    if (m_texts.pointer.empty())
-        return;
-    m_texts.pointer.clear();
-    ShowStatus();
-}
-
-void CMainFrame::OnCopied(NMHDR*, LRESULT* pResult) {
-    Say("Copied: the picture is on the clipboard");
-    *pResult = 0;
-}
-
-void CMainFrame::OnNotCopied(NMHDR*, LRESULT* pResult) {
-    Say("Not copied: another program holds the clipboard. Try again");
-    *pResult = 0;
 }
 
 } // namespace kavlix::monitor

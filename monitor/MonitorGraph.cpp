@@ -1,10 +1,6 @@
 #include "monitor/MonitorGraph.h"
 
-#include "monitor/recording/NearestPoint.h"
-
 #include <algorithm>
-#include <cstdlib>
-#include <limits>
 #include <utility>
 
 namespace kavlix::monitor {
@@ -17,9 +13,6 @@ namespace {
 /// Samples handed to the control for lines: many times what the widest screen has pixels, and little enough
 /// that changing the view takes no time to speak of.
 constexpr std::size_t kLineSamples = 50'000;
-
-/// So many samples of other files stand between two of one file, at most, for them to count as neighbours.
-constexpr std::size_t kBesideSamples = 1000;
 
 /// The control labels at most one time in so many logical units.
 constexpr int kLineLabelDistance = 800;
@@ -42,12 +35,6 @@ ON_WM_MOUSEMOVE()
 ON_WM_MOUSELEAVE()
 ON_COMMAND(ID_EDIT_COPY, &CMonitorGraph::OnCopy)
 END_MESSAGE_MAP()
-
-bool CMonitorGraph::CreateChild(CWnd& parent, UINT id) {
-    ShowFilling(false);
-    return Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id) !=
-           FALSE;
-}
 
 void CMonitorGraph::Show(GraphSource source, GraphSettings settings) {
     m_source = std::move(source);
@@ -136,14 +123,10 @@ CMonitorGraph::Mark CMonitorGraph::SelectionMark() const {
 }
 
 std::size_t CMonitorGraph::SampleBeside(std::size_t series, std::size_t index) const {
-    const Recording& all = *m_source.recording;
-    const std::size_t file = all.series[series].file;
-    if (m_shown.samplesEach > 1 || all.files.size() < 2 || file >= all.files.size())
+    if (m_shown.samplesEach > 1)
         return index;
-    const auto& times = m_shown.recording.times;
-    const double* const values = all.series[series].values.data() + m_visible.first;
-    const auto beside = recording::NearestValue(values, times.size(), index, kBesideSamples);
-    return beside && std::abs(times[*beside] - times[index]) < all.files[file].interval ? *beside : index;
+    return recording::SampleBeside(*m_source.recording, m_visible, series, m_visible.first + index) -
+           m_visible.first;
 }
 
 double CMonitorGraph::ValueOf(std::size_t series, std::size_t index) const {
@@ -179,16 +162,6 @@ void CMonitorGraph::OnSize(UINT nType, int cx, int cy) {
     CGraphCtrl::OnSize(nType, cx, cy);
     if (cx > 0 && cy > 0)
         Fit();
-}
-
-void CMonitorGraph::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) {
-    if (!m_measuring)
-        CGraphCtrl::DrawXAxis(dc, rectLabel, rectAxis, nTicks);
-}
-
-void CMonitorGraph::DrawGraphData(CDC& dc) {
-    if (!m_measuring)
-        CGraphCtrl::DrawGraphData(dc);
 }
 
 void CMonitorGraph::FeedSamples(const Layout& layout) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "monitor/FittedGraph.h"
 #include "monitor/GraphSettings.h"
 #include "monitor/Reduction.h"
 
@@ -17,14 +18,9 @@ struct GraphSource {
     std::size_t samplesAtLeast = 0;  ///< the time axis has room for so many
 };
 
-// Codes of further WM_NOTIFY messages to the parent, sent with a plain NMHDR.
-constexpr UINT MGN_MOUSELEAVE = 1400; ///< the mouse pointer left the window
-constexpr UINT MGN_COPIED = 1401;     ///< the picture is on the clipboard
-constexpr UINT MGN_NOTCOPIED = 1402;  ///< somebody else holds the clipboard, or there was no memory
-
 /// The graph control with a recording in it. It chooses what follows from the data and from the window's
 /// size: which samples are handed over, ranges with round labels, the room for labels and legend.
-class CMonitorGraph : public CGraphCtrl {
+class CMonitorGraph : public CFittedGraph<CGraphCtrl> {
 public:
     /// Where a sample of the picture comes from.
     struct Mark {
@@ -43,11 +39,6 @@ public:
         std::size_t series = 0;
         double value = 0;
     };
-
-    CMonitorGraph() = default;
-
-    /// Creates the control as a child window that takes part in the tab order.
-    bool CreateChild(CWnd& parent, UINT id);
 
     /// Shows all of another recording with other settings. Repaints.
     void Show(GraphSource source, GraphSettings settings);
@@ -94,16 +85,7 @@ public:
     /// @return nothing outside the plot or when no sample is there
     std::optional<Pointed> SampleUnder(CPoint point);
 
-    /// Whether a point (client pixels) is on the maximize icon.
-    bool IsOnIcon(CPoint point) const;
-
-    /// Shows the maximize icon in the form that goes with filling the window or not. Does not repaint.
-    void ShowFilling(bool filling) { ShowIconMaximize(TRUE, filling); }
-
 protected:
-    void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
-    void DrawGraphData(CDC& dc) override;
-
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnMouseLeave();
@@ -111,11 +93,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    struct Layout {
-        int valueTicks = 0; ///< ticks of the value axes
-        CSize plot;         ///< size of the plot in logical units
-    };
-
     /// Texts along the axes, before they are cut to the room there is.
     struct AxisTexts {
         std::vector<std::string> x; ///< the same at decreasing length
@@ -136,22 +113,15 @@ private:
     double ValueOf(std::size_t series, std::size_t index) const;
     std::size_t SampleBeside(std::size_t series, std::size_t index) const;
     std::vector<double> DistancesFrom(CPoint logical, std::size_t index, std::vector<std::size_t>& indices);
-    void Tell(UINT code);
-    void ApplySettings();
-    Layout MeasureLayout();
     void FeedSamples(const Layout& layout);
     void FeedAll();
     void FeedTail(std::size_t first);
     void FitRanges(const Layout& layout);
     void FitTimeRange();
-    void FitLegend();
     AxisTexts ChooseAxisTexts();
     void FitTexts(const AxisTexts& texts, const Layout& layout);
     std::size_t SampleLimit(const Layout& layout) const;
     ShownSamples Reduce(std::size_t limit) const;
-    CSize TextSize(const std::string& text, int height, int weight);
-    std::string FitText(const std::string& text, int room, int height, int weight);
-    std::string FitCaption(const std::vector<std::string>& texts);
 
     GraphSource m_source;
     GraphSettings m_settings;
@@ -165,8 +135,6 @@ private:
     std::size_t m_fedLimit = 0; ///< the limit m_shown was reduced to
     HeldMark m_heldMark;
     std::optional<std::size_t> m_markToKeep; ///< sample to mark when the control gets other samples
-    bool m_watchingLeave = false;            ///< the system tells when the pointer leaves
-    bool m_measuring = false;                ///< a paint only finds the layout
 };
 
 } // namespace kavlix::monitor

@@ -5,8 +5,6 @@
 
 #include "monitor/recording/NearestPoint.h"
 
-#include <afxres.h>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -87,44 +85,17 @@ std::vector<double> CMonitorGraph::DistancesFrom(CPoint logical, std::size_t ind
     return distances;
 }
 
-bool CMonitorGraph::IsOnIcon(CPoint point) const {
-    return m_TitleStyle == TitleStyleCaption && m_rectIconMaximize.PtInRect(ToLogical(point));
-}
-
 void CMonitorGraph::OnMouseMove(UINT nFlags, CPoint point) {
-    if (!m_watchingLeave) {
-        TRACKMOUSEEVENT watch{};
-        watch.cbSize = sizeof watch;
-        watch.dwFlags = TME_LEAVE;
-        watch.hwndTrack = m_hWnd;
-        m_watchingLeave = ::TrackMouseEvent(&watch) != FALSE;
-    }
+    WatchPointer();
     CGraphCtrl::OnMouseMove(nFlags, point);
 }
 
 void CMonitorGraph::OnMouseLeave() {
-    m_watchingLeave = false;
-    Tell(MGN_MOUSELEAVE);
+    PointerLeft();
 }
 
 void CMonitorGraph::OnCopy() {
-    // The control does not tell whether the clipboard was to be had. It was when this window owns it and what
-    // is on it has changed: the number tells that where the system gives one.
-    const DWORD before = ::GetClipboardSequenceNumber();
-    const bool made = CopyToClipboard() != 0;
-    const bool changed = before == 0 || ::GetClipboardSequenceNumber() != before;
-    Tell(made && changed && ::GetClipboardOwner() == m_hWnd ? MGN_COPIED : MGN_NOTCOPIED);
-}
-
-void CMonitorGraph::Tell(UINT code) {
-    const HWND parent = ::GetParent(m_hWnd);
-    if (parent == nullptr)
-        return;
-    NMHDR record{};
-    record.hwndFrom = m_hWnd;
-    record.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
-    record.code = code;
-    ::SendMessage(parent, WM_NOTIFY, record.idFrom, reinterpret_cast<LPARAM>(&record));
+    CopyAndTell();
 }
 
 } // namespace kavlix::monitor

@@ -6,9 +6,11 @@
 #define IDD_SETTINGS 110
 #define IDD_MESSAGES 111
 #define IDD_ABOUT 112
+#define IDD_KEEP 113
 
 #define IDC_GRAPH 1000
 #define IDC_STATUS 1001
+#define IDC_PAGE_FIRST 1002 // to 1009, the pages' windows
 #define IDC_PREVIEW 1010
 #define IDC_TITLE 1011
 #define IDC_STYLE 1012
@@ -22,6 +24,9 @@
 #define IDC_MARKER 1020
 #define IDC_SHOW_SERIES 1021
 #define IDC_MESSAGES 1030
+#define IDC_KEEP_COUNT 1031
+#define IDC_UPPER_GRAPH 1040
+#define IDC_LOWER_GRAPH 1041
 
 #define ID_FILE_LIVE 32771
 #define ID_FILE_SAVE_PICTURE 32772
@@ -39,3 +44,25 @@
 #define ID_VIEW_MESSAGES 32791
 #define ID_VIEW_FILL 32792
 #define ID_SETTINGS 32800
+
+// One a page, in the order of recording::kPageNames.
+#define ID_PAGE_FIRST 32810
+#define ID_PAGE_GRAPH 32810
+#define ID_PAGE_SCROLL 32811
+#define ID_PAGE_LAST 32811
+
+// The scrolling time graph. The ranges stand in the order of recording::kStripRanges.
+#define ID_SCROLL_RANGE_FIRST 32830
+#define ID_SCROLL_RANGE_1_MINUTE 32830
+#define ID_SCROLL_RANGE_5_MINUTES 32831
+#define ID_SCROLL_RANGE_15_MINUTES 32832
+#define ID_SCROLL_RANGE_1_HOUR 32833
+#define ID_SCROLL_RANGE_6_HOURS 32834
+#define ID_SCROLL_RANGE_24_HOURS 32835
+#define ID_SCROLL_RANGE_7_DAYS 32836
+#define ID_SCROLL_RANGE_LAST 32836
+#define ID_SCROLL_OLDEST 32837
+#define ID_SCROLL_NEWEST 32838
+#define ID_SCROLL_PAUSE 32839
+#define ID_SCROLL_KEEP 32840
+#define ID_SCROLL_TINDRO 32841

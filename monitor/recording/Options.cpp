@@ -2,14 +2,14 @@
 
 #include "monitor/recording/NumberText.h"
 
+#include <algorithm>
 #include <charconv>
-#include <string_view>
 #include <utility>
 
 namespace kavlix::recording {
 namespace {
 
-constexpr std::string_view kHelp =
+constexpr std::string_view kUsage =
     "KavlixMonitor shows recordings, or live readings of this machine, as a chart.\n"
     "\n"
     "  KavlixMonitor [options] [FILE.csv ...]\n"
@@ -21,7 +21,9 @@ constexpr std::string_view kHelp =
     "  --shot OUT.png    paint, save the window's picture and end\n"
     "  --seconds N       end after N seconds\n"
     "  --size WxH        size of the window's inside in pixels, such as 800x500\n"
-    "  --style STYLE     line, bar or twoaxis\n"
+    "  --style STYLE     line, bar or twoaxis\n";
+constexpr std::string_view kUsageOfPage = "  --page PAGE       ";
+constexpr std::string_view kUsageAfterPages =
     "  --check           print what the files hold and what is wrong with them, and end\n"
     "  --help            print this and end\n"
     "\n"
@@ -77,17 +79,37 @@ bool SetStyle(Options& options, std::string_view value) {
     return false;
 }
 
+/// The pages' names for people.
+std::string PageNames() {
+    std::string text;
+    for (std::size_t i = 0; i < kPageNames.size(); ++i) {
+        text += i == 0 ? "" : i + 1 < kPageNames.size() ? ", " : " or ";
+        text += kPageNames[i];
+    }
+    return text;
+}
+
+bool SetPage(Options& options, std::string_view value) {
+    const auto found = std::find(kPageNames.begin(), kPageNames.end(), value);
+    if (found == kPageNames.end()) {
+        return false;
+    }
+    options.page = static_cast<std::size_t>(found - kPageNames.begin());
+    return true;
+}
+
 struct ValueOption {
     std::string_view name;
     bool (*set)(Options&, std::string_view); ///< false when the value is not as expected
-    std::string_view expected;
+    std::string expected;
 };
 
-constexpr ValueOption kValueOptions[] = {
+const ValueOption kValueOptions[] = {
     {"--shot", SetShot, "a file name such as out.png"},
     {"--seconds", SetSeconds, "a number of seconds, more than 0 and at most 1,000,000"},
     {"--size", SetSize, "WIDTHxHEIGHT in pixels, each from 100 to 10,000, such as 800x500"},
     {"--style", SetStyle, "line, bar or twoaxis"},
+    {"--page", SetPage, PageNames()},
 };
 
 struct FlagOption {
@@ -123,13 +145,12 @@ void ReadOption(const std::vector<std::string>& arguments, std::size_t& at, Opti
         } else if (at + 1 < arguments.size()) {
             value = arguments[++at];
         } else {
-            options.error =
-                std::string(name) + ": expected " + std::string(option.expected) + ", found nothing";
+            options.error = std::string(name) + ": expected " + option.expected + ", found nothing";
             return;
         }
         if (!option.set(options, value)) {
-            options.error = std::string(name) + ": expected " + std::string(option.expected) + ", found " +
-                            QuoteForMessage(value);
+            options.error =
+                std::string(name) + ": expected " + option.expected + ", found " + QuoteForMessage(value);
         }
         return;
     }
@@ -166,8 +187,10 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
     return options;
 }
 
-const char* HelpText() {
-    return kHelp.data();
+std::string HelpText() {
+    std::string text(kUsage);
+    text += kUsageOfPage;
+    return text + PageNames() + "\n" + std::string(kUsageAfterPages);
 }
 
 } // namespace kavlix::recording

@@ -2,8 +2,11 @@
 
 #include "monitor/recording/ViewChoice.h"
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kavlix::recording {
@@ -18,6 +21,11 @@ inline constexpr int kMinWindowSide = 100;
 inline constexpr int kMaxWindowSide = 10'000;
 inline constexpr double kMaxSeconds = 1e6;
 
+/// What `--page` calls the pages, in the order in which the menu offers them.
+inline constexpr std::array<std::string_view, 2> kPageNames = {"graph", "scroll"};
+inline constexpr std::size_t kGraphPage = 0;  ///< recordings open on it
+inline constexpr std::size_t kScrollPage = 1; ///< and live readings on this one
+
 /// The command line of the Monitor.
 struct Options {
     std::vector<std::string> files; ///< recordings; none: live readings
@@ -25,8 +33,9 @@ struct Options {
     std::optional<double> seconds;  ///< end after this time
     std::optional<WindowSize> size;
     std::optional<ViewStyle> style;
-    bool check = false; ///< read, report, end
-    bool help = false;  ///< print HelpText and end with 0
+    std::optional<std::size_t> page; ///< index into kPageNames
+    bool check = false;              ///< read, report, end
+    bool help = false;               ///< print HelpText and end with 0
 
     /// What is wrong with the command line, for people; empty when nothing is. The exit status is 2 then.
     std::string error;
@@ -37,6 +46,6 @@ struct Options {
 Options ParseOptions(const std::vector<std::string>& arguments);
 
 /// What `--help` prints.
-const char* HelpText();
+std::string HelpText();
 
 } // namespace kavlix::recording

@@ -1,6 +1,9 @@
 #include "monitor/recording/ViewChoice.h"
 
+#include "monitor/recording/NearestPoint.h"
+
 #include <algorithm>
+#include <cstdlib>
 
 namespace kavlix::recording {
 namespace {
@@ -10,6 +13,9 @@ constexpr int kUnitsPerPixel = 30;
 // The control labels at most one time in so many logical units.
 constexpr int kLineLabelDistance = 800;
 constexpr int kBarLabelDistance = 1000;
+
+/// So many samples of other files stand between two of one file, at most, for them to count as neighbours.
+constexpr std::size_t kBesideSamples = 1000;
 
 ValueSpan VisibleSpan(const Series& series, const VisibleRange& visible) {
     return SpanOf(series.values, visible.first, visible.last - visible.first + 1);
@@ -54,6 +60,23 @@ ViewChoice ChooseView(const Recording& recording, const ViewRequest& request) {
     choice.labels = ChooseTimeLabels(recording.times, request.plotWidth / labelDistance);
     choice.timeTitle = TimeAxisTitle(recording.times, choice.labels, recording.Zoned());
     return choice;
+}
+
+std::size_t SampleBeside(const Recording& recording, const VisibleRange& visible, std::size_t series,
+                         std::size_t sample) {
+    const std::size_t file = recording.series[series].file;
+    if (recording.files.size() < 2 || file >= recording.files.size()) {
+        return sample;
+    }
+    const double* const values = recording.series[series].values.data() + visible.first;
+    const auto beside =
+        NearestValue(values, visible.last - visible.first + 1, sample - visible.first, kBesideSamples);
+    if (!beside) {
+        return sample;
+    }
+    const std::size_t found = visible.first + *beside;
+    const Time away = std::abs(recording.times[found] - recording.times[sample]);
+    return away < recording.files[file].interval ? found : sample;
 }
 
 } // namespace kavlix::recording

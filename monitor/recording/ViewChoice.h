@@ -37,6 +37,12 @@ struct ViewChoice {
 /// Chooses for a recording; data are never altered. An empty one gets ranges from 0 to 1.
 ViewChoice ChooseView(const Recording& recording, const ViewRequest& request);
 
+/// The sample whose value is told of a series at a sample of the recording. Files that were joined have their
+/// samples at different times: what is told then is the sample of the visible range beside that one, if it is
+/// no farther than its file's rows are apart; else the sample itself, whose value may be NaN.
+std::size_t SampleBeside(const Recording& recording, const VisibleRange& visible, std::size_t series,
+                         std::size_t sample);
+
 /// How many samples still get bars of a pixel (30 logical units) in a plot of this width: at least 1.
 std::size_t BarCapacity(int plotWidth, std::size_t seriesCount);
 

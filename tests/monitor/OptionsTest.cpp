@@ -8,8 +8,9 @@ namespace {
 TEST(Options, ReadsEveryOptionInBothForms) {
     for (const bool joined : {false, true}) {
         std::vector<std::string> arguments = {"a.csv"};
-        for (const auto& [name, value] : {std::pair("--shot", "out.png"), std::pair("--seconds", "2.5"),
-                                          std::pair("--size", "800x500"), std::pair("--style", "bar")}) {
+        for (const auto& [name, value] :
+             {std::pair("--shot", "out.png"), std::pair("--seconds", "2.5"), std::pair("--size", "800x500"),
+              std::pair("--style", "bar"), std::pair("--page", "graph")}) {
             if (joined) {
                 arguments.push_back(std::string(name) + '=' + value);
             } else {
@@ -26,6 +27,7 @@ TEST(Options, ReadsEveryOptionInBothForms) {
         EXPECT_EQ(options.size->width, 800);
         EXPECT_EQ(options.size->height, 500);
         EXPECT_EQ(options.style, ViewStyle::Bar);
+        EXPECT_EQ(options.page, 0u);
         EXPECT_FALSE(options.check || options.help);
     }
 }
@@ -34,7 +36,7 @@ TEST(Options, NothingMeansLiveReadings) {
     const Options options = ParseOptions({});
     EXPECT_EQ(options.error, "");
     EXPECT_TRUE(options.files.empty() && options.shot.empty());
-    EXPECT_FALSE(options.seconds || options.size || options.style);
+    EXPECT_FALSE(options.seconds || options.size || options.style || options.page);
 }
 
 TEST(Options, FilesLastValuesAndFlags) {
@@ -61,6 +63,7 @@ TEST(Options, SaysWhatIsWrong) {
         {{"--shot"}, "--shot: expected a file name such as out.png, found nothing"},
         {{"--shot="}, "--shot: expected a file name such as out.png, found \"\""},
         {{"--style", "pie"}, "--style: expected line, bar or twoaxis, found \"pie\""},
+        {{"--page", "Graph"}, "--page: expected graph or scroll, found \"Graph\""},
         {{"--help=yes"}, "--help: expected no value"},
         {{"--check"}, "--check: expected at least one file"},
         {{"--check", "a.csv", "--shot", "x.png"}, "--check and --shot: expected only one of them"},
@@ -79,7 +82,8 @@ TEST(Options, SaysWhatIsWrong) {
 
 TEST(Options, HelpNamesEveryOption) {
     const std::string help = HelpText();
-    for (const char* name : {"--shot", "--seconds", "--size", "--style", "--check", "--help", "twoaxis"}) {
+    for (const char* name :
+         {"--shot", "--seconds", "--size", "--style", "--page", "--check", "--help", "twoaxis"}) {
         EXPECT_NE(help.find(name), std::string::npos) << name;
     }
 }

@@ -75,13 +75,14 @@ protected:
     void Open(std::vector<std::string> files) {
         recording::Options options;
         options.files = std::move(files);
+        options.page = recording::kGraphPage;
         m_frame = new Frame(std::move(options), m_exitStatus);
         ASSERT_TRUE(m_frame->CreateMainWindow());
         m_frame->ShowWindow(SW_SHOWNOACTIVATE);
         m_frame->Start();
         while (m_frame->WorkInIdle())
             ;
-        m_graph = dynamic_cast<CMonitorGraph*>(m_frame->GetDlgItem(IDC_GRAPH));
+        m_graph = dynamic_cast<CMonitorGraph*>(m_frame->Page().GetDlgItem(IDC_GRAPH));
         ASSERT_NE(m_graph, nullptr);
     }
     /// A file of two series, up = its row and down = 100 - up, a row a minute.
@@ -226,7 +227,7 @@ TEST_F(MainFrame, LegendDoubleClickHidesAndShowsASeriesOnly) {
     const CRect legend = Inside::Legend(*m_graph);
     Mouse(WM_LBUTTONDBLCLK, CPoint(legend.CenterPoint().x / kPixel, legend.bottom / kPixel - 1));
     EXPECT_TRUE(m_graph->Settings().series[0].visible && m_graph->Settings().series[1].visible);
-    EXPECT_EQ(m_frame->Filling(), nullptr);
+    EXPECT_FALSE(m_frame->Filled());
 }
 
 TEST_F(MainFrame, GraphFillsTheWindowAndGoesBackEveryWay) {
@@ -234,7 +235,7 @@ TEST_F(MainFrame, GraphFillsTheWindowAndGoesBackEveryWay) {
     const HMENU menu = ::GetMenu(m_frame->m_hWnd);
     const std::string title = Title();
     const auto expectFilled = [&](bool filled, const char* after) {
-        EXPECT_EQ(m_frame->Filling(), filled ? m_graph : nullptr) << after;
+        EXPECT_EQ(m_frame->Filled(), filled) << after;
         EXPECT_EQ(Inside::Maximized(*m_graph), filled) << after;
         EXPECT_EQ(::GetMenu(m_frame->m_hWnd), filled ? nullptr : menu) << after;
         EXPECT_EQ(m_frame->GetDlgItem(IDC_STATUS)->IsWindowVisible() != FALSE, !filled) << after;

@@ -180,12 +180,19 @@ TEST(MonitorPicture, AFileThatCannotBeWrittenEndsWith2) {
 TEST(MonitorPicture, LiveReadingsRunAsLongAsAsked) {
     const TempFolder folder;
     const std::string shot = folder.Path("out.png");
-    const MonitorRun run = RunMonitor({"--seconds", "3.5", "--shot", shot});
+    const MonitorRun run = RunMonitor({"--seconds", "3.5", "--page", "graph", "--shot", shot});
     ASSERT_TRUE(run.ended);
     EXPECT_EQ(run.status, 0u) << run.error;
     const Picture picture = ReadPicture(shot);
     // The memory's line has three readings: it covers a good part of the axis, and cannot lie at 0.
     EXPECT_GT(picture.Count(ColorOf(1)), 100);
+
+    ASSERT_EQ(RunMonitor({"--seconds", "1.5", "--shot", shot}).status, 0u);
+    const Picture two = ReadPicture(shot);
+    // A graph for percents over one for rates: each has its legend.
+    EXPECT_GT(two.Count(ColorOf(0)), 0);
+    EXPECT_LT(two.TopOf(ColorOf(0)), two.height / 2);
+    EXPECT_GT(two.TopOf(ColorOf(2)), two.height / 2);
 }
 
 } // namespace

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "monitor/MonitorGraph.h"
+#include "monitor/MonitorPage.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kavlix::monitor {
+
+/// The page with one graph: lines, bars or two axes over the samples of the recording or of the last minutes.
+class CGraphPage : public CMonitorPage {
+public:
+    using CMonitorPage::CMonitorPage;
+
+    void Update() override;
+    std::vector<std::string> MarkTexts() override;
+    std::vector<std::string> PointerTexts() override;
+    std::vector<std::string> ViewTexts() override;
+    bool HasMark() override { return m_graph.SelectionMark().index >= 0; }
+    void ShowFilling(bool filling) override;
+    recording::VisibleRange VisibleSamples() override { return m_graph.Visible(); }
+
+protected:
+    void LayOut(CSize size) override { m_graph.MoveWindow(0, 0, size.cx, size.cy); }
+    CWnd& FocusWindow() override { return m_graph; }
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSelectionChanged(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnPointerMoved(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnPointerLeft(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnLegendDoubleClick(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnCaptionDoubleClick(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnMaximize(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnDataRemoved(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnCopied(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnNotCopied(NMHDR* pNMHDR, LRESULT* pResult);
+
+    afx_msg void OnEditGraph(UINT nID);
+    afx_msg void OnEditCopy();
+    afx_msg void OnUpdateEditCopy(CCmdUI* pCmdUI);
+    afx_msg void OnUpdateClearMark(CCmdUI* pCmdUI);
+    afx_msg void OnUpdateRemoveData(CCmdUI* pCmdUI);
+    afx_msg void OnViewStyle(UINT nID);
+    afx_msg void OnUpdateViewStyle(CCmdUI* pCmdUI);
+    afx_msg void OnViewLegend();
+    afx_msg void OnUpdateViewLegend(CCmdUI* pCmdUI);
+    afx_msg void OnViewGrid(UINT nID);
+    afx_msg void OnUpdateViewGrid(CCmdUI* pCmdUI);
+    afx_msg void OnViewRange(UINT nID);
+    afx_msg void OnUpdateViewRange(CCmdUI* pCmdUI);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    recording::ValueDigits Digits() const;
+    std::size_t SampleCount() const;
+
+    CMonitorGraph m_graph;
+    std::optional<CPoint> m_pointer; ///< where the mouse pointer is in the graph, client pixels
+
+    // What of the content is shown.
+    unsigned m_generation = 0;
+    unsigned m_cuts = 0;
+    std::uint64_t m_lost = 0;
+};
+
+} // namespace kavlix::monitor

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "monitor/resource.h"
+
+#include <afxwin.h>
+
+#include <cstddef>
+
+namespace kavlix::monitor {
+
+/// Asks how many live readings to keep.
+class CKeepDlg : public CDialog {
+public:
+    enum { IDD = IDD_KEEP };
+
+    explicit CKeepDlg(std::size_t count, CWnd* parent = nullptr);
+
+    std::size_t Count() const { return m_count; }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+
+private:
+    UINT m_count;
+};
+
+} // namespace kavlix::monitor

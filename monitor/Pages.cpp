@@ -1,0 +1,24 @@
+#include "monitor/Pages.h"
+
+#include "monitor/GraphPage.h"
+#include "monitor/ScrollPage.h"
+
+namespace kavlix::monitor {
+
+namespace {
+
+template <class Page> std::unique_ptr<CMonitorPage> Make(PageHost& host) {
+    return std::make_unique<Page>(host);
+}
+
+} // namespace
+
+const std::array<PageMaker, recording::kPageNames.size()>& PageMakers() {
+    static constexpr std::array<PageMaker, recording::kPageNames.size()> makers = {
+        Make<CGraphPage>,  // graph
+        Make<CScrollPage>, // scroll
+    };
+    return makers;
+}
+
+} // namespace kavlix::monitor

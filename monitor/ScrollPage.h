@@ -1,0 +1,136 @@
+#pragma once
+
+#include "monitor/MonitorPage.h"
+#include "monitor/MonitorScrollGraph.h"
+#include "monitor/StripClock.h"
+#include "monitor/recording/Strip.h"
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kavlix::monitor {
+
+/// The page with two graphs over time, one above the other, which scroll together and share their mark: of
+/// live readings percents above and rates below; of recordings the series divided by magnitude. With one
+/// series there is one graph.
+class CScrollPage : public CMonitorPage {
+public:
+    explicit CScrollPage(PageHost& host) : CMonitorPage(host) {}
+
+    void Update() override;
+    bool WorkInIdle() override;
+    std::vector<std::string> MarkTexts() override;
+    std::vector<std::string> PointerTexts() override;
+    std::vector<std::string> ViewTexts() override;
+    bool HasMark() override { return m_graphs[0].MarkedRow() >= 0; }
+    void ShowFilling(bool filling) override;
+
+protected:
+    void LayOut(CSize size) override;
+    CWnd& FocusWindow() override { return m_graphs[m_active]; }
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnScrolled(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnSelectionChanged(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnPointerMoved(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnPointerLeft(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnLegendDoubleClick(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnCaptionDoubleClick(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnMaximize(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnDataRemoved(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnCopied(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnNotCopied(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg LRESULT OnMarkTime(WPARAM wParam, LPARAM lParam);
+
+    afx_msg void OnEditGraph(UINT nID);
+    afx_msg void OnEditCopy();
+    afx_msg void OnUpdateEditCopy(CCmdUI* pCmdUI);
+    afx_msg void OnUpdateClearMark(CCmdUI* pCmdUI);
+    afx_msg void OnUpdateRemoveData(CCmdUI* pCmdUI);
+    afx_msg void OnViewLegend();
+    afx_msg void OnUpdateViewLegend(CCmdUI* pCmdUI);
+    afx_msg void OnViewGrid(UINT nID);
+    afx_msg void OnUpdateViewGrid(CCmdUI* pCmdUI);
+    afx_msg void OnViewMove(UINT nID);
+    afx_msg void OnUpdateViewMove(CCmdUI* pCmdUI);
+    afx_msg void OnRange(UINT nID);
+    afx_msg void OnUpdateRange(CCmdUI* pCmdUI);
+    afx_msg void OnPause();
+    afx_msg void OnUpdatePause(CCmdUI* pCmdUI);
+    afx_msg void OnKeepAtMost();
+    afx_msg void OnUpdateKeepAtMost(CCmdUI* pCmdUI);
+    afx_msg void OnTindro();
+    afx_msg void OnUpdateTindro(CCmdUI* pCmdUI);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static constexpr std::size_t kGraphs = 2;
+
+    /// Where a series of the content is drawn.
+    struct Place {
+        std::size_t graph = 0;
+        std::size_t dataset = 0;
+    };
+
+    /// A place of the mouse pointer.
+    struct Pointer {
+        std::size_t graph = 0;
+        CPoint point; ///< client pixels
+    };
+
+    void Begin();
+    void Divide(const std::vector<bool>& below);
+    std::vector<SeriesSettings> SeriesOf(std::size_t graph) const;
+    void SetLooks();
+    void FeedLive();
+    void FeedSlice();
+    void EndFeeding();
+    void AddRows(const std::vector<recording::StripRow>& rows, std::uint64_t base, bool offline);
+    std::vector<double> ValuesOf(const recording::StripRow& row);
+    void TrimTo(std::uint64_t sample);
+
+    std::size_t GraphOf(const NMHDR* notification) const;
+    bool Has(std::size_t graph) const { return m_inUse > graph; }
+    std::size_t FocusedGraph();
+    void SetRange(std::size_t range);
+    void FitGraphs();
+    void ViewMoved();
+    void ViewChanged();
+    recording::ValueDigits Digits() const;
+    std::size_t SampleOf(int row) const;
+    std::vector<double> ShownValues(int row) const;
+    std::string SeriesName(std::size_t series) const;
+
+    CMonitorScrollGraph m_graphs[kGraphs];
+    std::size_t m_inUse = 1;              ///< graphs that have series
+    std::size_t m_active = 0;             ///< the graph that gets the keys
+    std::optional<std::size_t> m_filling; ///< the graph that fills the window
+    std::optional<Pointer> m_pointer;
+    std::vector<Place> m_places; ///< one a series of the content
+    int m_wheel = 0;             ///< turns of the wheel that were too little for a step
+    std::size_t m_range = 1;     ///< index into recording::kStripRanges
+    bool m_tindro = false;
+    bool m_paused = false;
+
+    // Samples are counted from the first that the content ever had.
+    std::deque<recording::StripRow> m_rows; ///< what the graphs hold
+    StripClock m_clock;
+    std::uint64_t m_next = 0; ///< the next sample that has no row
+
+    // Of a recording, until all of it has been handed over.
+    std::shared_ptr<const recording::Recording> m_feeding; ///< null: nothing is left to do
+    std::uint64_t m_feedingFrom = 0;                       ///< its first sample
+    recording::StripPlan m_plan;
+    std::vector<double> m_before; ///< last value of each series
+
+    // What of the content is shown.
+    unsigned m_generation = 0;
+    unsigned m_cuts = 0;
+    GraphSettings m_settings;
+};
+
+} // namespace kavlix::monitor

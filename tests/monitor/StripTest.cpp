@@ -1,0 +1,144 @@
+// How recordings are laid out over whole seconds for the scrolling graph.
+
+#include "monitor/recording/Strip.h"
+#include "monitor/recording/SpanIndex.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace kavlix::recording {
+namespace {
+
+constexpr Time S = kMicrosPerSecond;
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+
+Recording At(std::vector<Time> times, Time interval) {
+    Recording recording;
+    recording.times = std::move(times);
+    recording.files.resize(1);
+    recording.files[0].interval = interval;
+    return recording;
+}
+
+std::vector<StripRow> RowsOf(const Recording& recording, const StripPlan& plan, std::size_t slice) {
+    std::vector<StripRow> rows;
+    for (std::size_t sample = plan.first; sample < recording.times.size();)
+        AppendRows(recording, plan, sample, slice, rows);
+    return rows;
+}
+
+TEST(Strip, RowsAreWholeSecondsAndGapsAreFilledWhateverTheSlice) {
+    // Before 1970 too; three in one second; a gap of five intervals; then regular ones.
+    std::vector<Time> times = {-1 * S - 1, S, S + 1, S + S / 2, 2 * S, 3 * S};
+    for (Time i = 8; i < 40; ++i)
+        times.push_back(i * S);
+    const Recording recording = At(times, S);
+    const StripPlan plan = PlanStrip(recording);
+    EXPECT_EQ(plan.interval, S);
+    EXPECT_FALSE(plan.wholeSeconds) << "one second of many";
+    for (const std::size_t slice : {1u, 2u, 1000u}) {
+        const std::vector<StripRow> rows = RowsOf(recording, plan, slice);
+        ASSERT_EQ(rows.size(), 1 + 2 + 3 + 4 + 32u) << slice;
+        EXPECT_EQ(rows[0].time, -2 * S);
+        EXPECT_EQ(rows[0].count, 1u);
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            EXPECT_EQ(rows[i].time, (static_cast<Time>(i) - 2) * S) << slice;
+        EXPECT_EQ(rows[3].sample, 1u);
+        EXPECT_EQ(rows[3].count, 3u);
+        EXPECT_EQ(rows[6].count, 0u) << "a gap";
+        EXPECT_EQ(rows[6].sample, 6u) << "goes with the sample behind it";
+    }
+}
+
+TEST(Strip, GapsThatAreUsualOrEndlessStayBounded) {
+    std::vector<Time> bursts;
+    for (Time i = 0; i < 100; ++i)
+        bursts.push_back((i / 2 * 60 + i % 2) * S);
+    EXPECT_EQ(PlanStrip(At(bursts, S)).interval, 0) << "gaps are usual here";
+    std::vector<StripRow> rows;
+    AppendGap(0, 100'000'000 * S, S, 7, rows);
+    EXPECT_LE(rows.size(), 1001u);
+    EXPECT_GE(rows.size(), 900u);
+    rows.clear();
+    AppendGap(0, 3 * S, 2 * S, 7, rows);
+    EXPECT_TRUE(rows.empty()) << "one and a half intervals are no gap";
+}
+
+TEST(Strip, TheTimeLineTakesTheLatestItHasRoomFor) {
+    const Time year = 31'536'000 * S;
+    EXPECT_EQ(PlanStrip(At({0, year, 2 * year, 3 * year, 4 * year}, year)).first, 1u);
+    EXPECT_EQ(PlanStrip(At({-100 * year, 0, year}, year)).first, 1u) << "not before 1901";
+    const Recording future = At({100 * year, 101 * year}, year);
+    EXPECT_EQ(PlanStrip(future).first, 2u);
+    EXPECT_TRUE(RowsOf(future, PlanStrip(future), 10).empty());
+    EXPECT_EQ(PlanStrip(At({}, 0)).first, 0u);
+}
+
+TEST(Strip, OfSeveralValuesThePeakIsShown) {
+    const std::vector<double> values = {1, kNone, 9, 2, -3};
+    EXPECT_EQ(StripValue(values, {0, 0, 4}, 2), 9);
+    EXPECT_EQ(StripValue(values, {0, 0, 5}, 8), -3);
+    EXPECT_EQ(StripValue(values, {0, 0, 5}, kNone), 1) << "nothing before";
+    EXPECT_TRUE(std::isnan(StripValue(values, {0, 1, 1}, 2)));
+    EXPECT_TRUE(std::isnan(StripValue(values, {0, 2, 0}, 2))) << "a gap";
+}
+
+TEST(Strip, SeriesAreSharedOutByMagnitude) {
+    const auto share = [](std::vector<double> magnitudes) {
+        std::vector<ValueSpan> spans;
+        for (const double magnitude : magnitudes)
+            spans.push_back({true, -magnitude / 2, magnitude});
+        std::string text;
+        for (const bool below : ShareOut(spans))
+            text += below ? 'v' : '^';
+        return text;
+    };
+    EXPECT_EQ(share({}), "");
+    EXPECT_EQ(share({5}), "^");
+    EXPECT_EQ(share({100, 90, 1e6, 30, 0.1}), "^^v^v");
+    EXPECT_EQ(share({100, 90, 80}), "^vv") << "none is of another magnitude";
+    EXPECT_EQ(share({0, 0, 1}), "^^v");
+}
+
+TEST(Strip, RangeFollowsFromTheLength) {
+    const std::pair<Time, std::size_t> cases[] = {{0, 0},       {60, 0},         {61, 0},     {150, 1},
+                                                  {900, 2},     {86'400, 5},     {90'000, 5}, {300'000, 6},
+                                                  {604'800, 6}, {100'000'000, 6}};
+    for (const auto& [seconds, range] : cases)
+        EXPECT_EQ(ChooseStripRange(seconds * S), range) << seconds;
+}
+
+TEST(SpanIndex, FindsWhatLookingAtEveryValueFinds) {
+    std::mt19937 random(7);
+    std::vector<double> values;
+    SpanIndex index;
+    for (int round = 0; round < 400; ++round) {
+        for (unsigned i = random() % 60; i > 0; --i) {
+            const double value = random() % 9 == 0 ? kNone : static_cast<double>(random() % 100'000);
+            values.push_back(value);
+            index.Append(value);
+        }
+        const std::size_t gone = std::min<std::size_t>(random() % 50, values.size());
+        values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(gone));
+        index.RemoveHead(gone);
+        ASSERT_EQ(index.Size(), values.size());
+        const std::size_t first = random() % (values.size() + 1);
+        const std::size_t count = random() % (values.size() + 2);
+        std::size_t asked = 0;
+        const ValueSpan found = index.Of(first, first + count, [&](std::size_t i) {
+            ++asked;
+            return values[i];
+        });
+        const ValueSpan plain = SpanOf(values, std::min(first, values.size()), count);
+        ASSERT_EQ(found.any, plain.any);
+        ASSERT_EQ(found.min, plain.min);
+        ASSERT_EQ(found.max, plain.max);
+        EXPECT_LE(asked, 512u);
+    }
+}
+
+} // namespace
+} // namespace kavlix::recording

@@ -4,7 +4,9 @@
 #include <kavlix/ChartDraw.h>
 #include <kavlix/Dataset.h>
 #include <kavlix/Export.h>
+#include <kavlix/Graph.h>
 #include <kavlix/GraphCtrl.h>
 #include <kavlix/GraphNotify.h>
+#include <kavlix/GraphSeries.h>
 #include <kavlix/PieChartCtrl.h>
 #include <kavlix/ScrollGraphCtrl.h>

@@ -1,5 +1,6 @@
 #pragma once
 
 #include "afx/CommonDialogs.h"
+#include "afx/PrintDialog.h"
 #include <afxwin.h>
 #include <commdlg.h>

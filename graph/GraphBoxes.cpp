@@ -1,0 +1,83 @@
+#include <kavlix/Graph.h>
+
+#include <algorithm>
+
+#include "graph/BoxStatistics.h"
+#include "graph/GraphPass.h"
+
+using kavlix::GraphPass;
+using kavlix::Span;
+
+namespace {
+
+constexpr double kBoxWidth = 0.5; // of a slot
+constexpr double kCapWidth = 0.25;
+constexpr double kMedianWidth = 2; // pixels
+constexpr double kOutlierRadius = 3;
+constexpr double kBoxLight =
+    1.55; // the box is paler than its outline, so that the median shows on any colour
+
+class BoxPainter {
+public:
+    BoxPainter(GraphPass& pass, int slot) : m_pass(pass), m_slot(slot) {}
+
+    void Draw(const kavlix::BoxStatistics& box, COLORREF colour) const {
+        kavlix::GraphCanvas& canvas = m_pass.canvas;
+        canvas.SetLine(kavlix::OutlineOf(colour));
+        Whisker(box.lowerQuartile, box.lowerWhisker);
+        Whisker(box.upperQuartile, box.upperWhisker);
+        canvas.SetFill(kavlix::Shade(colour, kBoxLight));
+        if (Shows(box.lowerQuartile, box.upperQuartile)) {
+            kavlix::PlaneRect area =
+                m_pass.Between(m_pass.slots.Single(m_slot, kBoxWidth),
+                               {Position(box.lowerQuartile), Position(box.upperQuartile)});
+            area.right += canvas.Pixel();
+            area.bottom += canvas.Pixel();
+            canvas.Rectangle(area);
+        }
+        canvas.SetLine(kavlix::OutlineOf(colour), kMedianWidth);
+        Across(box.median, kBoxWidth);
+        canvas.SetLine(kavlix::OutlineOf(colour));
+        canvas.NoFill();
+        for (const int value : box.outliers)
+            if (m_pass.values.Contains(value))
+                canvas.Circle(m_pass.At(m_pass.slots.Middle(m_slot), Position(value)),
+                              kOutlierRadius * canvas.Pixel());
+    }
+
+private:
+    double Position(double value) const { return m_pass.values.Position(m_pass.values.Clamp(value)); }
+    bool Shows(double low, double high) const {
+        return high >= m_pass.values.Low() && low <= m_pass.values.High();
+    }
+    /// A stroke across the slot, where the value lies on the scale.
+    void Across(double value, double width) const {
+        if (!m_pass.values.Contains(value))
+            return;
+        const Span along = m_pass.slots.Single(m_slot, width);
+        m_pass.canvas.Line(m_pass.At(along.from, Position(value)), m_pass.At(along.to, Position(value)));
+    }
+    void Whisker(double quartile, double end) const {
+        if (quartile == end || !Shows(std::min(quartile, end), std::max(quartile, end)))
+            return;
+        const double middle = m_pass.slots.Middle(m_slot);
+        m_pass.canvas.Line(m_pass.At(middle, Position(quartile)), m_pass.At(middle, Position(end)));
+        Across(end, kCapWidth);
+    }
+
+    GraphPass& m_pass;
+    int m_slot;
+};
+
+} // namespace
+
+void CGraph::DrawBoxWhiskerSeries(CDC*) {
+    for (int s = 0; s < pass->data.SeriesCount(); ++s) {
+        std::vector<int> values;
+        for (const kavlix::KeyedValue& item : pass->data.series[static_cast<std::size_t>(s)].values)
+            values.push_back(item.value);
+        kavlix::BoxStatistics box;
+        if (kavlix::ComputeBoxStatistics(std::move(values), box))
+            BoxPainter(*pass, s).Draw(box, pass->data.Colour(s));
+    }
+}

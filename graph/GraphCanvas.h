@@ -1,0 +1,97 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+#include "gdi/Guards.h"
+#include "graph/LabelPlacement.h"
+#include "graph/PlanePoint.h"
+
+namespace kavlix {
+
+/// Where a picture lies in a DC, in the DC's logical units.
+struct GraphFrame {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    int pixel = 1;   ///< logical units to a pixel of the screen
+    bool up = false; ///< whether the DC's y grows upwards
+};
+
+/// A DC into which a picture is painted, with one pen and one brush at a time.
+///
+/// Places are in logical units from the picture's upper left corner, x to the right and y downwards,
+/// whichever way the DC runs; they are rounded here, and held within what GDI can draw. While the canvas
+/// lives text stands on whatever is below it; the DC's state comes back at its end.
+class GraphCanvas {
+public:
+    GraphCanvas(CDC& dc, const GraphFrame& frame);
+    ~GraphCanvas();
+    GraphCanvas(const GraphCanvas&) = delete;
+    GraphCanvas& operator=(const GraphCanvas&) = delete;
+
+    CDC& Dc() { return m_dc; }
+    /// A pixel of the screen, in the picture's units.
+    double Pixel() const { return m_frame.pixel; }
+    double Width() const { return m_frame.width; }
+    double Height() const { return m_frame.height; }
+    /// Logical coordinates of the DC.
+    int X(double x) const;
+    int Y(double y) const;
+
+    /// Pens of `pixels` pixels' width.
+    void SetLine(COLORREF colour, double pixels = 1);
+    void NoLine();
+    void SetFill(COLORREF colour);
+    void NoFill();
+    /// The pen and brush that were selected when the canvas was made.
+    void HostTools();
+
+    void Line(PlanePoint from, PlanePoint to);
+    void Polyline(const std::vector<PlanePoint>& points);
+    void Polygon(const PlanePoint* points, std::size_t count);
+    template <class Points> void Polygon(const Points& points) { Polygon(points.data(), points.size()); }
+    /// Right and bottom edge lie outside.
+    void Rectangle(const PlaneRect& area);
+    void Circle(PlanePoint centre, double radius);
+
+    /// The place is the text's own upper left corner.
+    void Text(PlanePoint place, const CString& text);
+    LabelSize Measure(const CString& text) const;
+    /// `text` whole if it is not wider than `room`, else cut and ended with dots; empty when not even they
+    /// and one character fit.
+    CString Shorten(const CString& text, double room) const;
+    /// Average width of a character, and height, of the font selected.
+    LabelSize Character() const;
+
+private:
+    POINT At(PlanePoint place) const { return {X(place.x), Y(place.y)}; }
+    std::vector<POINT> At(const PlanePoint* points, std::size_t count) const;
+
+    SavedDcGuard m_saved;
+    CDC& m_dc;
+    GraphFrame m_frame;
+    HGDIOBJ m_hostPen;
+    HGDIOBJ m_hostBrush;
+    CPen m_pen;
+    CBrush m_brush;
+    COLORREF m_penColour = 0;
+    int m_penWidth = 0;
+    COLORREF m_brushColour = 0;
+};
+
+/// A font that is selected for as long as it lives.
+class GraphFont {
+public:
+    /// `pixels` is the height of the text's cell, held within 1 and 1000; `angle` degrees counter-clockwise.
+    GraphFont(GraphCanvas& canvas, int pixels, int angle = 0, int weight = FW_NORMAL);
+
+private:
+    static HGDIOBJ Make(CFont& font, int height, int angle, int weight);
+    CFont m_font;
+    SelectGuard m_selected;
+};
+
+} // namespace kavlix

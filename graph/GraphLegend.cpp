@@ -1,0 +1,73 @@
+#include <kavlix/Graph.h>
+
+#include <algorithm>
+#include <cstdint>
+
+#include "graph/GraphPass.h"
+#include "graphctrl/Numeric.h"
+
+using kavlix::GraphFont;
+using kavlix::ToCoordinate;
+
+int CGraph::LegendRows() const {
+    return HasSeriesColors() ? static_cast<int>(seriesList->GetCount()) : seriesSize;
+}
+
+int CGraph::DrawLegend(CDC*) {
+    constexpr int kRowHeight = 18; // all lengths in pixels
+    constexpr int kHeadingRoom = 26;
+    constexpr int kFirstRow = 25;
+    constexpr int kHeadingSize = 16;
+    constexpr int kHeadingTop = 3;
+    constexpr int kHalfHeading = 3; // characters of half the heading
+    constexpr int kMargin = 5;
+    constexpr int kSwatchRoom = 25;
+    constexpr int kSwatchGap = 10;
+    constexpr int kSwatchHeight = 12;
+    constexpr double kCharacterWidth = 0.66; // of the font's height
+
+    kavlix::GraphCanvas& canvas = pass->canvas;
+    const std::int64_t pixel = static_cast<std::int64_t>(canvas.Pixel());
+    const int rows = LegendRows();
+    const std::int64_t height = (std::int64_t{rows} * kRowHeight + kHeadingRoom) * pixel;
+    const std::int64_t right = maxWidth - kMargin * pixel;
+    const std::int64_t top = maxHeight / 2 - height / 2;
+    const std::int64_t characterWidth = kavlix::TruncateToInt(legendFontSize * kCharacterWidth);
+    const std::int64_t left =
+        ToCoordinate(right - (graphLegend.GetMaxLength() * characterWidth + kSwatchRoom) * pixel);
+    legendWidth = ToCoordinate(right - left);
+
+    const auto place = [](std::int64_t x, std::int64_t y) {
+        return kavlix::PlanePoint{static_cast<double>(x), static_cast<double>(y)};
+    };
+    const auto box = [&](std::int64_t l, std::int64_t t, std::int64_t r, std::int64_t b) {
+        canvas.Rectangle(
+            {static_cast<double>(l), static_cast<double>(t), static_cast<double>(r), static_cast<double>(b)});
+    };
+    canvas.HostTools();
+    box(left, top, right, top + height);
+    {
+        const GraphFont heading(canvas, kHeadingSize, 0, FW_BOLD);
+        const auto average = static_cast<std::int64_t>(canvas.Character().width);
+        canvas.Text(place(left + legendWidth / 2 - kHalfHeading * average, top + kHeadingTop * pixel),
+                    "Legend");
+    }
+
+    const GraphFont font(canvas, legendFontSize, 0, FW_BOLD);
+    const std::int64_t swatch =
+        left + (kSwatchGap + std::int64_t{legendFontSize} / 2 * legendMaxText) * pixel;
+    // Rows above and below the picture are left out, however many there are.
+    const std::int64_t rowHeight = kRowHeight * pixel;
+    const std::int64_t start = top + kFirstRow * pixel;
+    const int first = start >= 0 ? 0 : static_cast<int>(std::min<std::int64_t>(-start / rowHeight, rows));
+    for (int i = first; i < rows; ++i) {
+        const std::int64_t y = start + rowHeight * i;
+        if (y > canvas.Height())
+            break;
+        canvas.Text(place(left + kMargin * pixel, y), graphLegend.TextAt(i));
+        canvas.SetFill(pass->data.Colour(i));
+        box(ToCoordinate(swatch), y, right - kMargin * pixel, y + kSwatchHeight * pixel);
+    }
+    canvas.HostTools();
+    return static_cast<int>(left);
+}

@@ -1,0 +1,225 @@
+#include <kavlix/Graph.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "graph/GraphPass.h"
+#include "graph/PieShapes.h"
+
+using kavlix::GraphCanvas;
+using kavlix::GraphFont;
+using kavlix::LabelSize;
+using kavlix::PlanePoint;
+using kavlix::Sector;
+
+namespace {
+
+constexpr double kSmallestPie = 48; // all lengths in pixels
+constexpr double kSmallestLabelled = 28;
+constexpr double kNameGap = 6;
+constexpr double kPieMargin = 6;
+constexpr double kLeader = 10;
+constexpr double kLeaderEnd = 6;
+constexpr double kTextGap = 3;
+constexpr double kTilt = 0.5;     // height of a tilted pie, of its width
+constexpr double kMostRim = 0.25; // of the room's height
+constexpr double kRimLight = 0.65;
+constexpr double kInsideReach = 0.66; // where a share stands inside its sector, of the radius
+constexpr double kPi = 3.14159265358979323846;
+
+constexpr COLORREF kInk = RGB(0, 0, 0);
+constexpr COLORREF kPaper = RGB(255, 255, 255);
+constexpr COLORREF kLeaderColour = RGB(128, 128, 128);
+
+CString ShareText(double percent) {
+    constexpr double kShown = 0.05;
+    CString text;
+    if (percent < kShown)
+        text = "<0.1%";
+    else
+        text.Format(std::abs(percent - std::round(percent)) < kShown ? "%.0f%%" : "%.1f%%", percent);
+    return text;
+}
+
+COLORREF InkOn(COLORREF ground) {
+    constexpr int kMiddle = 140;
+    const int light = (GetRValue(ground) * 30 + GetGValue(ground) * 59 + GetBValue(ground) * 11) / 100;
+    return light < kMiddle ? kPaper : kInk;
+}
+
+/// One pie in its room: sectors, rim and shares.
+class PiePainter {
+public:
+    PiePainter(const kavlix::GraphPass& pass, GraphCanvas& canvas, const kavlix::PlaneRect& room, bool tilted,
+               double rim)
+        : m_pass(pass), m_canvas(canvas), m_room(room) {
+        const double pixel = canvas.Pixel();
+        const double tilt = tilted ? kTilt : 1;
+        m_rim = tilted ? std::min(rim, room.Height() * kMostRim) : 0;
+        m_share = canvas.Measure("88.8%");
+        const double aside = m_share.width + (kLeader + kLeaderEnd + kTextGap) * pixel;
+        const double above = m_share.height / 2 + kLeader * pixel;
+        double radius = Radius(aside, above, tilt);
+        m_labelled = radius >= kSmallestLabelled * pixel;
+        if (!m_labelled)
+            radius = Radius(kPieMargin * pixel / 2, kPieMargin * pixel / 2, tilt);
+        m_pie.centre = {(room.left + room.right) / 2, (room.top + room.bottom - m_rim) / 2};
+        m_pie.radiusX = std::max(radius, pixel);
+        m_pie.radiusY = std::max(radius * tilt, pixel);
+    }
+
+    void Draw(const std::vector<Sector>& sectors) {
+        m_canvas.SetLine(kPaper);
+        // The rims first: the tops stand before whatever of them lies behind.
+        for (const Sector& sector : sectors)
+            if (m_rim > 0)
+                for (const kavlix::RimArc& arc : kavlix::VisibleRim(sector.start, sector.sweep)) {
+                    m_canvas.SetFill(kavlix::Shade(Colour(sector), kRimLight));
+                    m_canvas.Polygon(kavlix::RimCorners(m_pie, arc, m_rim));
+                }
+        for (const Sector& sector : sectors) {
+            m_canvas.SetFill(Colour(sector));
+            m_canvas.Polygon(kavlix::SectorCorners(m_pie, sector.start, sector.sweep));
+        }
+        if (sectors.empty()) {
+            m_canvas.SetLine(kLeaderColour);
+            m_canvas.NoFill();
+            m_canvas.Polygon(kavlix::SectorCorners(m_pie, 0, 360));
+        }
+        DrawShares(sectors);
+    }
+
+private:
+    double Radius(double aside, double above, double tilt) const {
+        return std::min((m_room.Width() - 2 * aside) / 2, (m_room.Height() - 2 * above - m_rim) / (2 * tilt));
+    }
+    COLORREF Colour(const Sector& sector) const { return m_pass.data.Colour(sector.group); }
+
+    bool FitsInside(const Sector& sector, const LabelSize& size) const {
+        const double across = std::min(sector.sweep, 180.0) * kPi / 180 * kInsideReach * m_pie.radiusY;
+        return across > std::hypot(size.width, size.height) * 1.05 && m_pie.radiusY * 0.8 > size.width;
+    }
+
+    void DrawShares(const std::vector<Sector>& sectors) {
+        std::vector<const Sector*> outside[2]; // right, left
+        for (const Sector& sector : sectors) {
+            const CString text = ShareText(sector.percent);
+            const LabelSize size = m_canvas.Measure(text);
+            if (FitsInside(sector, size)) {
+                const bool whole = sectors.size() == 1;
+                const PlanePoint middle = whole ? m_pie.centre : m_pie.At(sector.Middle(), kInsideReach);
+                m_canvas.Dc().SetTextColor(InkOn(Colour(sector)));
+                m_canvas.Text({middle.x - size.width / 2, middle.y - size.height / 2}, text);
+            } else if (m_labelled) {
+                outside[sector.Middle() > 180].push_back(&sector);
+            }
+        }
+        m_canvas.Dc().SetTextColor(kInk);
+        std::reverse(outside[1].begin(), outside[1].end()); // from the top down, as the right side
+        DrawOutside(outside[0], 1);
+        DrawOutside(outside[1], -1);
+    }
+
+    PlanePoint RimPoint(const Sector& sector, double reach) const {
+        PlanePoint point = m_pie.At(sector.Middle(), 1);
+        if (sector.Middle() > 90 && sector.Middle() < 270)
+            point.y += m_rim;
+        const PlanePoint direction = m_pie.At(sector.Middle(), 2);
+        const double x = direction.x - m_pie.centre.x;
+        const double y = direction.y - m_pie.centre.y;
+        const double length = std::max(std::hypot(x, y), 1e-6);
+        return {point.x + x / length * reach, point.y + y / length * reach};
+    }
+
+    /// The shares beside the pie, from the top down, each with a line to its sector. The smallest are left
+    /// out when there is not room for all.
+    void DrawOutside(std::vector<const Sector*> sectors, double side) {
+        const double pixel = m_canvas.Pixel();
+        std::vector<double> middles;
+        for (;;) {
+            middles.clear();
+            for (const Sector* sector : sectors)
+                middles.push_back(RimPoint(*sector, kLeader * pixel).y);
+            if (kavlix::SpreadMiddles(middles, m_share.height, m_room.top, m_room.bottom) || sectors.empty())
+                break;
+            sectors.erase(
+                std::min_element(sectors.begin(), sectors.end(),
+                                 [](const Sector* a, const Sector* b) { return a->percent < b->percent; }));
+        }
+        m_canvas.SetLine(kLeaderColour);
+        for (std::size_t i = 0; i < sectors.size(); ++i) {
+            const CString text = ShareText(sectors[i]->percent);
+            const double bend = side * (RimPoint(*sectors[i], kLeader * pixel).x - m_pie.centre.x);
+            const double x = m_pie.centre.x + side * std::max(bend, Beside(middles[i]));
+            const double end = x + side * kLeaderEnd * pixel;
+            m_canvas.Polyline({RimPoint(*sectors[i], 0), {x, middles[i]}, {end, middles[i]}});
+            const double width = m_canvas.Measure(text).width;
+            m_canvas.Text({side > 0 ? end + kTextGap * pixel : end - kTextGap * pixel - width,
+                           middles[i] - m_share.height / 2},
+                          text);
+        }
+    }
+
+    /// How far from the centre a share whose middle is at `y` must stand to be clear of pie and rim.
+    double Beside(double y) const {
+        const double lowest = m_pie.centre.y + m_rim;
+        const double half = m_share.height / 2;
+        const double away = std::max({0.0, y - half - lowest, m_pie.centre.y - y - half}) / m_pie.radiusY;
+        return away < 1 ? m_pie.radiusX * std::sqrt(1 - away * away) + kLeader * m_canvas.Pixel() : 0;
+    }
+
+    const kavlix::GraphPass& m_pass;
+    GraphCanvas& m_canvas;
+    kavlix::PlaneRect m_room;
+    kavlix::PieOutline m_pie;
+    LabelSize m_share;
+    double m_rim = 0;
+    bool m_labelled = false;
+};
+
+void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
+    GraphCanvas& canvas = pass.canvas;
+    const int count = pass.data.SeriesCount();
+    if (count == 0)
+        return;
+    const double pixel = canvas.Pixel();
+    const kavlix::PlaneRect& plot = pass.plot;
+    const GraphFont font(canvas, fontSize);
+    const double nameHeight = count > 1 ? canvas.Character().height + kNameGap * pixel : 0;
+    kavlix::PieGrid grid =
+        kavlix::ArrangePies(count, plot.Width(), plot.Height(), kSmallestPie * pixel + nameHeight);
+    const int shown = std::min(count, grid.columns * grid.rows);
+    // The last room tells how many pies found none.
+    const int pies = shown < count ? std::max(shown - 1, 1) : shown;
+    const double width = plot.Width() / grid.columns;
+    const double height = plot.Height() / grid.rows;
+    for (int s = 0; s < shown; ++s) {
+        const double left = plot.left + s % grid.columns * width;
+        const double top = plot.top + s / grid.columns * height;
+        const kavlix::PlaneRect room{left, top, left + width, top + height - nameHeight};
+        CString name;
+        if (s < pies) {
+            const kavlix::SeriesPoints& series = pass.data.series[static_cast<std::size_t>(s)];
+            PiePainter(pass, canvas, room, tilted, rim)
+                .Draw(kavlix::MakeSectors(kavlix::GroupValues(series.values, pass.data.groups)));
+            name = series.label;
+        } else {
+            name.Format("+ %d more", count - pies);
+        }
+        if (count > 1) {
+            const CString text = canvas.Shorten(name, width - kPieMargin * pixel);
+            canvas.Text({left + (width - canvas.Measure(text).width) / 2, room.bottom + pixel}, text);
+        }
+    }
+}
+
+} // namespace
+
+void CGraph::DrawPieSeries(CDC*) {
+    DrawPies(*pass, xTickFontSize, false, 0);
+}
+
+void CGraph::Draw3DPieSeries(CDC*) {
+    const double rim = depthRatio > 0 ? std::min(depthRatio, 1.0) * pass->plot.Width() : 0;
+    DrawPies(*pass, xTickFontSize, true, rim);
+}

@@ -1,0 +1,161 @@
+#include <kavlix/Graph.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cstdlib>
+
+#include "graph/GraphPass.h"
+#include "graphctrl/Numeric.h"
+
+using kavlix::GraphFont;
+
+namespace {
+
+constexpr double kTickGap = 4;       // all lengths in pixels
+constexpr double kLabelGap = 6;      // between two labels
+constexpr double kLabelDistance = 6; // between plot and labels
+constexpr double kEdge = 2;          // free at the picture's edge
+constexpr double kYCaptionRoom = 7;  // beside the Y caption, with its margin of 5
+constexpr double kXCaptionRoom = 9;  // around the X caption, with its margin of 7
+constexpr double kWideLabel = 1.5;   // room for a level label, so that it may be moved off the picture's edge
+constexpr double kHighLabel = 1.25;  // room for an upright row of labels
+constexpr int kSmallestNumbers = 7;
+
+CString Number(std::int64_t value) {
+    CString text;
+    text.Format("%d", static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX)));
+    return text;
+}
+
+} // namespace
+
+void CGraph::PlanPlot() {
+    kavlix::GraphPass& p = *pass;
+    const double pixel = p.canvas.Pixel();
+    p.plot = {static_cast<double>(xApexPoint), static_cast<double>(yApexPoint) - yAxisHeight,
+              static_cast<double>(xApexPoint) + xAxisWidth, static_cast<double>(yApexPoint)};
+    p.horizontal = graphAlignment == 0 && graphType != GraphTypeScatter && graphType != GraphType3DLine;
+    p.scaledKeys = graphType == GraphTypeXYLine || graphType == GraphTypeScatter;
+    p.centred = graphType == GraphTypeBar && (graphQuadType == 3 || graphQuadType == 4);
+    p.mirrored = graphType == GraphTypeBar && (graphQuadType == 2 || graphQuadType == 4);
+
+    const double width = p.plot.Width();
+    const double height = p.plot.Height();
+    if (graphType == GraphType3DBar || graphType == GraphType3DStackedBar || graphType == GraphType3DLine)
+        p.depth = kavlix::DepthOfPlot(depthRatio, width, height);
+    if (graphType == GraphType3DLine) {
+        const int ribbons = std::max(seriesSize, 1);
+        if (line3DXBase > 0 || line3DYBase > 0)
+            p.depth = kavlix::LimitDepth({line3DXBase * pixel * ribbons, line3DYBase * pixel * ribbons},
+                                         width, height);
+        p.ribbon = {p.depth.x / ribbons, p.depth.y / ribbons};
+    }
+    p.front = {p.plot.left, p.plot.top + p.depth.y, p.plot.right - p.depth.x, p.plot.bottom};
+    if (!p.HasPlot() || ShowsPie())
+        return;
+
+    p.leftRoom = p.plot.left - kLabelDistance * pixel -
+                 (axisYLabel.IsEmpty() ? kEdge : p.captionFont + kYCaptionRoom) * pixel;
+    p.bottomRoom = p.canvas.Height() - p.plot.bottom - kLabelDistance * pixel -
+                   (axisXLabel.IsEmpty() ? kEdge : p.captionFont + kXCaptionRoom) * pixel;
+    PlanValues();
+    if (p.scaledKeys)
+        PlanKeys();
+    else
+        PlanSlots();
+}
+
+/// The height at which the wider of two numbers fits left of the plot; 0 when none does.
+int CGraph::FitNumbers(const CString& a, const CString& b) {
+    for (int size = std::clamp(yTickFontSize, 1, SHRT_MAX); size >= std::min(kSmallestNumbers, yTickFontSize);
+         size = std::min(size - 1, static_cast<int>(pass->canvas.Height()))) {
+        const GraphFont font(pass->canvas, size);
+        if (std::max(pass->canvas.Measure(a).width, pass->canvas.Measure(b).width) <= pass->leftRoom)
+            return size;
+        if (size <= 1)
+            break;
+    }
+    return 0;
+}
+
+/// The ticks of a scale of whole numbers, along the plot's left side or along its bottom.
+kavlix::ScaleTicks CGraph::PlanTicks(std::int64_t min, std::int64_t max, std::int64_t step, bool left,
+                                     bool fromZero) {
+    kavlix::GraphPass& p = *pass;
+    const double pixel = p.canvas.Pixel();
+    const CString low = Number(min);
+    const CString high = Number(max);
+    double gap = 0;
+    if (left) {
+        p.leftFont = FitNumbers(low, high);
+        const GraphFont font(p.canvas, p.leftFont > 0 ? p.leftFont : yTickFontSize);
+        gap = p.canvas.Character().height * kHighLabel;
+    } else {
+        const GraphFont font(p.canvas, yTickFontSize);
+        gap = std::max(p.canvas.Measure(low).width, p.canvas.Measure(high).width) * kWideLabel +
+              kLabelGap * pixel;
+    }
+    return kavlix::ChooseTicks(min, max, step, left ? p.front.Height() : p.front.Width(), kTickGap * pixel,
+                               gap, fromZero);
+}
+
+void CGraph::PlanValues() {
+    kavlix::GraphPass& p = *pass;
+    std::int64_t min = minTick;
+    std::int64_t max = maxTick;
+    if (p.centred) {
+        max = std::max<std::int64_t>({std::abs(min), std::abs(max), 1});
+        min = -max;
+    }
+    p.values = kavlix::PlotScale(static_cast<double>(min), static_cast<double>(max),
+                                 p.horizontal ? p.front.left : p.front.bottom,
+                                 p.horizontal ? p.front.right : p.front.top);
+    p.valueTicks = PlanTicks(min, max, tickSpace, !p.horizontal, p.centred);
+}
+
+void CGraph::PlanKeys() {
+    kavlix::GraphPass& p = *pass;
+    constexpr int kMostSteps = 10;
+    constexpr double kRoomOfStep = 60; // pixels
+    std::int64_t low = INT_MAX;
+    std::int64_t high = INT_MIN;
+    for (const kavlix::SeriesPoints& series : p.data.series) {
+        if (series.values.empty())
+            continue;
+        low = std::min<std::int64_t>(low, series.values.front().key);
+        high = std::max<std::int64_t>(high, series.values.back().key);
+    }
+    const double extent = p.horizontal ? p.front.Height() : p.front.Width();
+    const int steps =
+        std::clamp(kavlix::TruncateToInt(extent / (kRoomOfStep * p.canvas.Pixel())), 2, kMostSteps);
+    const kavlix::RoundLimits limits =
+        low <= high ? kavlix::ChooseLimits(low, high, steps) : kavlix::RoundLimits{};
+    p.keys = kavlix::PlotScale(static_cast<double>(limits.min), static_cast<double>(limits.max),
+                               p.horizontal ? p.front.bottom : p.front.left,
+                               p.horizontal ? p.front.top : p.front.right);
+    p.keyTicks = PlanTicks(limits.min, limits.max, limits.step, p.horizontal, false);
+}
+
+void CGraph::PlanSlots() {
+    kavlix::GraphPass& p = *pass;
+    const int count = p.data.SeriesCount();
+    const double first = p.horizontal ? p.front.top : p.front.left;
+    const double last = p.horizontal ? p.front.bottom : p.front.right;
+    p.slots = {first, last, count};
+    if (!p.mirrored)
+        return;
+    // A group has a key on either side, so there are fewer groups than values.
+    int groups = 1;
+    for (const kavlix::SeriesPoints& series : p.data.series)
+        for (const kavlix::KeyedValue& item : series.values) {
+            const std::int64_t group = item.key < 0 ? -(std::int64_t{item.key} + 1) : item.key;
+            if (group < p.data.groups)
+                groups = std::max(groups, static_cast<int>(group) + 1);
+        }
+    p.data.groups = std::min(p.data.groups, groups);
+    const double middle = (first + last) / 2;
+    // Keys grow to the right, and upwards when the series stand below each other.
+    p.slots = {middle, p.horizontal ? first : last, count};
+    p.mirroredSlots = {middle, p.horizontal ? last : first, count};
+}

@@ -1,0 +1,50 @@
+#include <kavlix/Graph.h>
+
+#include <afxext.h>
+
+#include <algorithm>
+#include <cstdint>
+
+#include "graph/GraphPass.h"
+#include "graphctrl/Numeric.h"
+
+using kavlix::ToCoordinate;
+
+namespace {
+
+constexpr int kTwipsPerPixel = 1440 / 96;
+
+/// The page's lower edge in MM_TWIPS, which the DC is in. `area` is the page in device units.
+int PageBottom(CDC& dc, CRect area) {
+    dc.DPtoLP(&area);
+    return std::min(area.top, area.bottom);
+}
+
+} // namespace
+
+void CGraph::PrintGraph(CDC* pDC, CPrintInfo* pInfo) {
+    if (pDC == nullptr || pDC->GetSafeHdc() == nullptr)
+        return;
+    const kavlix::SavedDcGuard saved(*pDC);
+    CRect page(0, 0, pDC->GetDeviceCaps(HORZRES), pDC->GetDeviceCaps(VERTRES));
+    if (pInfo != nullptr && pInfo->m_rectDraw.Width() != 0 && pInfo->m_rectDraw.Height() != 0) {
+        page = pInfo->m_rectDraw;
+        pDC->LPtoDP(&page);
+    }
+    pDC->SetMapMode(MM_TWIPS);
+    pDC->SetWindowOrg(0, 0);
+
+    printBottom = std::max(kavlix::PrintedBottom(printTop, bottomMargin), PageBottom(*pDC, page));
+    kavlix::GraphFrame frame;
+    frame.left = printLeft;
+    frame.top = printTop;
+    frame.width = ToCoordinate(std::int64_t{printRight} - printLeft);
+    frame.height = ToCoordinate(std::int64_t{printTop} - printBottom);
+    frame.pixel = kTwipsPerPixel;
+    frame.up = true;
+    if (frame.width <= 0 || frame.height <= 0)
+        return;
+    DrawPicture(*pDC, frame);
+    xApexPoint = ToCoordinate(std::int64_t{printLeft} + xApexPoint);
+    yApexPoint = ToCoordinate(std::int64_t{printTop} - yApexPoint);
+}

@@ -1,0 +1,78 @@
+#include <kavlix/Graph.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "graph/GraphPass.h"
+#include "graph/StackSegments.h"
+
+using kavlix::GraphPass;
+using kavlix::Span;
+
+namespace {
+
+constexpr double kStackWidth = 0.55; // of a slot
+constexpr double kMostDepth = 2.5;   // of a box, of its width: a deeper one would hide its neighbours
+
+void DrawFace(kavlix::GraphCanvas& canvas, const kavlix::Face& face, COLORREF colour, double light) {
+    canvas.SetFill(kavlix::Shade(colour, light));
+    canvas.Polygon(face);
+}
+
+kavlix::Depth DepthOf(const GraphPass& pass, Span along) {
+    const double most = std::abs(along.to - along.from) * kMostDepth;
+    const double longest = std::max(pass.depth.x, pass.depth.y);
+    const double factor = longest > most ? most / longest : 1;
+    return {pass.depth.x * factor, pass.depth.y * factor};
+}
+
+/// The box between two values.
+void DrawSolid(GraphPass& pass, Span along, double foot, double tip, COLORREF colour) {
+    foot = pass.values.Clamp(foot);
+    tip = pass.values.Clamp(tip);
+    if (foot == tip)
+        return;
+    const Span value{pass.values.Position(foot), pass.values.Position(tip)};
+    const kavlix::SolidFaces faces = kavlix::MakeSolid(pass.Between(along, value), DepthOf(pass, along));
+    pass.canvas.SetLine(kavlix::OutlineOf(colour));
+    DrawFace(pass.canvas, faces.top, colour, kavlix::kTopLight);
+    DrawFace(pass.canvas, faces.side, colour, kavlix::kSideLight);
+    DrawFace(pass.canvas, faces.front, colour, kavlix::kFrontLight);
+}
+
+/// Calls `draw(i)` for 0 to `count` - 1 in the order in which what is nearer to the viewer comes later: from
+/// left to right, or from the bottom up.
+template <class Draw> void BackToFront(const GraphPass& pass, int count, Draw draw) {
+    for (int i = 0; i < count; ++i)
+        draw(pass.horizontal ? count - 1 - i : i);
+}
+
+} // namespace
+
+void CGraph::Draw3DBarSeries(CDC*) {
+    GraphPass& p = *pass;
+    const double base = p.values.Base();
+    BackToFront(p, p.data.SeriesCount(), [&](int s) {
+        const auto values =
+            kavlix::GroupValues(p.data.series[static_cast<std::size_t>(s)].values, p.data.groups);
+        BackToFront(p, static_cast<int>(values.size()), [&](int i) {
+            const kavlix::KeyedValue& item = values[static_cast<std::size_t>(i)];
+            DrawSolid(p, p.slots.Bar(s, item.key, p.data.groups), base, item.value, p.data.Colour(item.key));
+        });
+    });
+}
+
+void CGraph::Draw3DStackedBarSeries(CDC*) {
+    GraphPass& p = *pass;
+    BackToFront(p, p.data.SeriesCount(), [&](int s) {
+        const auto values =
+            kavlix::GroupValues(p.data.series[static_cast<std::size_t>(s)].values, p.data.groups);
+        auto parts = kavlix::StackValues(values);
+        // Along the value axis too: what lies higher, or further right, covers what it stands on.
+        if ((p.values.Position(1) < p.values.Position(0)) == p.horizontal)
+            std::reverse(parts.begin(), parts.end());
+        for (const kavlix::StackSegment& part : parts)
+            DrawSolid(p, p.slots.Single(s, kStackWidth), static_cast<double>(part.low),
+                      static_cast<double>(part.high), p.data.Colour(part.group));
+    });
+}

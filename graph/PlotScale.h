@@ -1,0 +1,39 @@
+#pragma once
+
+#include <algorithm>
+
+namespace kavlix {
+
+/// Turns values into positions along one edge of a plot.
+///
+/// The first limit lies at position `from`, the second at `to`; the limits may be given in either order.
+/// Equal limits make a scale of one unit. Limits and values are finite.
+class PlotScale {
+public:
+    PlotScale() = default;
+    PlotScale(double first, double second, double from, double to)
+        : m_first(first), m_second(second != first ? second : first + 1), m_from(from), m_to(to) {}
+
+    /// May lie outside the plot, as the value may lie outside the limits.
+    double Position(double value) const {
+        return m_from + (value - m_first) / (m_second - m_first) * (m_to - m_from);
+    }
+    double Low() const { return std::min(m_first, m_second); }
+    double High() const { return std::max(m_first, m_second); }
+    double Clamp(double value) const { return std::clamp(value, Low(), High()); }
+    bool Contains(double value) const { return value >= Low() && value <= High(); }
+    /// Where bars stand: on 0, or on the limit next to it.
+    double Base() const { return Clamp(0); }
+    /// Whether 0 lies between the limits, and on neither.
+    bool CrossesZero() const { return Low() < 0 && High() > 0; }
+    double From() const { return m_from; }
+    double To() const { return m_to; }
+
+private:
+    double m_first = 0;
+    double m_second = 1;
+    double m_from = 0;
+    double m_to = 0;
+};
+
+} // namespace kavlix

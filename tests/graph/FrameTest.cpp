@@ -1,0 +1,193 @@
+#include "tests/graph/MultiGraphTest.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const testkit::MetafileRecord* Find(const testkit::MetafileRecorder& recorder, const std::string& text) {
+    for (const testkit::MetafileRecord& record : recorder.Records())
+        if (record.kind == testkit::kText && record.text == text)
+            return &record;
+    return nullptr;
+}
+
+int IndexOf(const testkit::MetafileRecorder& recorder, const std::string& start) {
+    const Strings lines = recorder.Lines(testkit::kAll);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (lines[i].find(start) != std::string::npos)
+            return static_cast<int>(i);
+    return -1;
+}
+
+} // namespace
+
+TEST_F(MultiGraphTest, FrameTitleAndLayoutOfAVerticalGraph) {
+    Resize(200, 300);
+    Make(0).SetGraphTitle("Twenty characters ok");
+    Fill({{50}});
+    const auto recorder = Record();
+    EXPECT_EQ(recorder->Lines(testkit::kDrawing).front(), "rect 0,0,200,300 pen solid 0 000000 brush FFFFFF");
+    const auto* const title = Find(*recorder, "Twenty characters ok");
+    ASSERT_NE(title, nullptr);
+    EXPECT_EQ(title->state.font, "Arial 18 bold");
+    EXPECT_EQ(title->points.front().y, 10);
+    EXPECT_EQ(graph->xApexPoint, 68);
+    EXPECT_EQ(graph->yApexPoint, 300 - 20 - 50);
+    EXPECT_EQ(graph->yAxisHeight, 230 - 40);
+    EXPECT_EQ(graph->xAxisWidth, 195 - 68 - 5);
+    EXPECT_EQ(recorder->ObjectFaults(), "");
+
+    graph->SetXAxisAlignment(45);
+    graph->SetXAxisLabel("caption");
+    Paint();
+    EXPECT_EQ(graph->yApexPoint, 280 - 6 * 7 - 15);
+    Make(32);
+    Fill({{1, 2}});
+    Paint();
+    EXPECT_EQ(graph->xApexPoint, 5);
+    EXPECT_EQ(graph->xAxisWidth, 185);
+    EXPECT_EQ(graph->yAxisHeight, 230);
+    EXPECT_EQ(graph->yApexPoint, 275);
+    EXPECT_EQ(Record()->Texts().size(), 2u) << "a pie has shares and no axes";
+}
+
+TEST_F(MultiGraphTest, HorizontalLayoutLeavesRoomForCaptionAndLabels) {
+    Make(0).SetGraphAlignment(0);
+    Fill({{50}});
+    Paint();
+    EXPECT_EQ(graph->xApexPoint, 5);
+    const int below = graph->yApexPoint;
+    graph->SetXAxisLabel("caption");
+    Paint();
+    TEXTMETRIC metrics{};
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CFont font;
+    font.CreateFont(16, 0, 900, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, 16, "Arial");
+    CFont* const before = dc.SelectObject(&font);
+    dc.GetTextMetrics(&metrics);
+    dc.SelectObject(before);
+    EXPECT_EQ(below, 380 - metrics.tmHeight - 15);
+    EXPECT_EQ(graph->xApexPoint, 7 * metrics.tmAveCharWidth + metrics.tmHeight + 10 + 5);
+    EXPECT_EQ(graph->yAxisHeight, graph->yApexPoint - 40);
+}
+
+TEST_F(MultiGraphTest, LegendBoxRowsAndSwatches) {
+    Make(0);
+    Fill({{1, 2, 3}, {4}});
+    graph->SetLegend(0, "first");
+    graph->SetLegend(1, "second");
+    const auto recorder = Record();
+    const int right = 495 - 5, height = 3 * 18 + 26, left = right - 6 * 7 - 25, top = 380 / 2 - height / 2;
+    const auto box = [](int l, int t, int r, int b) {
+        return "rect " + testkit::BoxText({l, t, r, b}) + " pen solid 0 000000 brush ";
+    };
+    EXPECT_GE(IndexOf(*recorder, box(left, top, right, top + height) + "FFFFFF"), 0);
+    EXPECT_EQ(graph->legendWidth, right - left);
+    EXPECT_EQ(graph->xAxisWidth, left - graph->xApexPoint - 10);
+    const int swatch = left + 10 + 6 * 6;
+    const char* const fills[] = {"C80000", "00C800", "0000C8"};
+    for (int i = 0; i < 3; ++i) {
+        const int y = top + 25 + 18 * i;
+        EXPECT_GE(IndexOf(*recorder, box(swatch, y, right - 5, y + 12) + fills[i]), 0) << i;
+    }
+    const auto* const second = Find(*recorder, "second");
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(second->points.front().x, left + 5);
+    EXPECT_EQ(second->points.front().y, top + 25 + 18);
+    EXPECT_EQ(second->state.font, "Arial 12 bold");
+    EXPECT_EQ(Find(*recorder, "Legend")->state.font, "Arial 16 bold");
+    EXPECT_LT(IndexOf(*recorder, "\"Legend\""), IndexOf(*recorder, "\"100\"")) << "legend before axes";
+}
+
+TEST_F(MultiGraphTest, QuadrantsFollowTheFirstValuesUnlessChosen) {
+    struct Case {
+        int key, value, type;
+    };
+    for (const Case& c : {Case{0, 5, 1}, {-2, 5, 2}, {0, -5, 3}, {-1, -5, 4}}) {
+        Make(0);
+        Add("plain", {{0, 1}});
+        Add("first", {{c.key, c.value}, {7, -9}});
+        Paint();
+        EXPECT_EQ(graph->graphQuadType, c.type);
+        const int right = c.type == 2 || c.type == 4 ? graph->xAxisWidth / 2 : 0;
+        const int up = c.type >= 3 ? graph->yAxisHeight / 2 : 0;
+        EXPECT_EQ(graph->xApexPoint, 68 + right);
+        EXPECT_EQ(graph->yApexPoint, 330 - up);
+        graph->SetGraphQuadType(1);
+        Paint();
+        EXPECT_EQ(graph->xApexPoint, 68);
+    }
+}
+
+TEST_F(MultiGraphTest, AxisTicksNumbersGridAndLabels) {
+    Make(1).SetTickLimits(-40, 80, 20);
+    graph->SetGridLines(TRUE);
+    graph->SetXAxisLabel("below");
+    graph->SetYAxisLabel("beside");
+    Fill({{1}, {2}, {3}});
+    const auto recorder = Record();
+    const Strings grid = recorder->Strokes("solid 1 808080");
+    EXPECT_EQ(grid.size(), 7u);
+    for (int value = -40; value <= 80; value += 20) {
+        const int y = Pixel(At(value));
+        const int left = graph->xApexPoint;
+        const std::string line = "line " + std::to_string(left) + "," + std::to_string(y) + " " +
+                                 std::to_string(left + graph->xAxisWidth) + "," + std::to_string(y) + " ";
+        EXPECT_TRUE(std::any_of(grid.begin(), grid.end(), [&](const std::string& g) {
+            return g.find(line) == 0;
+        })) << line;
+        EXPECT_NE(Find(*recorder, std::to_string(value)), nullptr) << value;
+    }
+    for (const char* text : {"s0", "s1", "s2"})
+        EXPECT_GT(Find(*recorder, text)->points.front().y, 330);
+    EXPECT_EQ(Find(*recorder, "beside")->state.font, "Arial 16 bold @900");
+    EXPECT_EQ(Find(*recorder, "below")->state.font, "Arial 16 bold");
+    const auto surface = Paint();
+    EXPECT_EQ(surface->At(graph->xApexPoint + 1, Pixel(At(0))), RGB(0, 0, 0)) << "zero line";
+    EXPECT_EQ(surface->At(graph->xApexPoint + 1, Pixel(At(20))), RGB(128, 128, 128));
+}
+
+TEST_F(MultiGraphTest, LabelsAreStaggeredShortenedThinnedOrTurned) {
+    struct Case {
+        int series, angle;
+        const char* label;
+        std::size_t drawn;
+        std::size_t rows;
+        bool cut;
+    };
+    const Case cases[] = {
+        {3, 0, "Monday", 3, 1, false},           {9, 0, "Wednesday", 9, 2, false},
+        {9, 0, "Wednesday evening", 9, 2, true}, {60, 0, "Wednesday", 0, 1, true},
+        {12, 90, "May", 12, 1, false},
+    };
+    for (const Case& c : cases) {
+        Make(0).SetXAxisAlignment(c.angle);
+        for (int s = 0; s < c.series; ++s)
+            Add(c.label, {{0, 5}});
+        std::vector<int> rows;
+        std::size_t drawn = 0;
+        std::vector<double> ends(2000, -1e9);
+        const auto recorder = Record();
+        for (const auto& record : recorder->Records()) {
+            if (record.kind != testkit::kText || record.text.empty() || record.text[0] != c.label[0])
+                continue;
+            ++drawn;
+            const POINT at = record.points.front();
+            if (std::find(rows.begin(), rows.end(), at.y) == rows.end())
+                rows.push_back(at.y);
+            if (c.angle == 0) {
+                EXPECT_GT(at.x, ends[static_cast<std::size_t>(at.y)]) << "labels of a row keep clear";
+                ends[static_cast<std::size_t>(at.y)] = at.x + 3.0 * static_cast<double>(record.text.size());
+            }
+        }
+        if (c.drawn != 0) {
+            EXPECT_EQ(drawn, c.drawn) << c.label;
+        } else {
+            EXPECT_TRUE(drawn > 2 && drawn < 20) << drawn;
+        }
+        EXPECT_EQ(rows.size(), c.rows) << c.label;
+        EXPECT_EQ(graph->axisLabelsCut != 0, c.cut) << c.label << c.series;
+    }
+}

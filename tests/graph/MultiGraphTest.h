@@ -1,0 +1,124 @@
+#pragma once
+
+#include <kavlix/Graph.h>
+
+#include "tests/support/DibSurface.h"
+#include "tests/support/MetafileRecorder.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+using Strings = std::vector<std::string>;
+
+/// A graph whose state can be read.
+class OpenMultiGraph : public CGraph {
+public:
+    using CGraph::axisLabelsCut;
+    using CGraph::CGraph;
+    using CGraph::colorList;
+    using CGraph::graphAlignment;
+    using CGraph::graphHasLegend;
+    using CGraph::graphLegend;
+    using CGraph::graphQuadType;
+    using CGraph::legendMaxText;
+    using CGraph::legendWidth;
+    using CGraph::maxTick;
+    using CGraph::minTick;
+    using CGraph::numTicks;
+    using CGraph::printBottom;
+    using CGraph::quadSetManually;
+    using CGraph::seriesList;
+    using CGraph::seriesSize;
+    using CGraph::tickSpace;
+    using CGraph::xApexPoint;
+    using CGraph::xAxisWidth;
+    using CGraph::yApexPoint;
+    using CGraph::yAxisHeight;
+};
+
+/// Every type of graph.
+inline constexpr int kAllTypes[] = {0, 1, 2, 3, 4, 20, 21, 30, 31, 32, 320};
+
+/// Group colours without equals in frame, text or shade.
+inline constexpr COLORREF kColours[] = {RGB(200, 0, 0), RGB(0, 200, 0), RGB(0, 0, 200), RGB(200, 200, 0)};
+
+/// A graph and the window whose size it fills.
+class MultiGraphTest : public testing::Test {
+protected:
+    void SetUp() override { Resize(500, 400); }
+    void TearDown() override { window.DestroyWindow(); }
+
+    void Resize(int width, int height) {
+        window.DestroyWindow();
+        window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, width, height, nullptr, nullptr);
+        size = CSize(width, height);
+    }
+    /// A new graph of a type, with the four colours.
+    OpenMultiGraph& Make(int type) {
+        graph = std::make_unique<OpenMultiGraph>(type);
+        graph->parentWindow = &window;
+        for (int i = 0; i < 4; ++i)
+            graph->SetColor(i, kColours[i]);
+        return *graph;
+    }
+    CGraphSeries* Add(const char* label, const std::vector<std::pair<int, int>>& values) {
+        auto* const series = new CGraphSeries;
+        series->SetLabel(label);
+        for (const auto& [key, value] : values)
+            series->SetData(key, value);
+        graph->AddSeries(series);
+        return series;
+    }
+    /// Series "s0", "s1" ... with the values of groups 0, 1 ...
+    void Fill(const std::vector<std::vector<int>>& series) {
+        for (std::size_t s = 0; s < series.size(); ++s) {
+            std::vector<std::pair<int, int>> values;
+            for (std::size_t j = 0; j < series[s].size(); ++j)
+                values.emplace_back(static_cast<int>(j), series[s][j]);
+            Add(("s" + std::to_string(s)).c_str(), values);
+        }
+    }
+    void DrawInto(HDC target) {
+        CDC dc;
+        dc.Attach(target);
+        graph->DrawGraph(&dc);
+        dc.Detach();
+    }
+    std::unique_ptr<testkit::DibSurface> Paint() {
+        auto surface = std::make_unique<testkit::DibSurface>(size.cx, size.cy, RGB(255, 0, 255));
+        DrawInto(surface->Dc());
+        return surface;
+    }
+    std::unique_ptr<testkit::MetafileRecorder> Record() {
+        auto recorder = std::make_unique<testkit::MetafileRecorder>();
+        DrawInto(recorder->Dc());
+        recorder->Close();
+        return recorder;
+    }
+    /// Where a value lies on the value axis after a drawing, in pixels.
+    double At(double value) const {
+        const double part = (value - graph->minTick) / (graph->maxTick - graph->minTick);
+        return graph->graphAlignment != 0 ? graph->yApexPoint - part * graph->yAxisHeight
+                                          : graph->xApexPoint + part * graph->xAxisWidth;
+    }
+    /// The middle of slot `slot` of `count` on the other axis.
+    double Slot(int slot, int count) const {
+        const double part = (slot + 0.5) / count;
+        return graph->graphAlignment != 0 ? graph->xApexPoint + part * graph->xAxisWidth
+                                          : graph->yApexPoint - graph->yAxisHeight * (1 - part);
+    }
+
+    CWnd window;
+    CSize size;
+    std::unique_ptr<OpenMultiGraph> graph;
+};
+
+/// A pixel row or column that a double position falls on.
+inline int Pixel(double position) {
+    return static_cast<int>(position + 0.5);
+}

@@ -1,0 +1,97 @@
+#include "tests/graph/MultiGraphTest.h"
+
+#include "tests/support/GdiCounter.h"
+
+#include <climits>
+#include <cmath>
+#include <limits>
+
+TEST_F(MultiGraphTest, ExtremeSettingsAreDrawnInEveryTypeAndSize) {
+    struct Limits {
+        int min, max, step;
+    };
+    const Limits limits[] = {{0, 100, 10},   {0, 0, 1},       {100, 0, 10},          {100, 0, -10},
+                             {0, 10, 1000},  {0, 1000000, 1}, {INT_MIN, INT_MAX, 1}, {INT_MAX, INT_MIN, -1},
+                             {5, 5, INT_MIN}};
+    const double ratios[] = {0.05, -1, 1e300, std::nan(""), HUGE_VAL};
+    const int sizes[] = {12, 0, -5, 1, INT_MAX, INT_MIN};
+    for (const CSize window : {CSize(320, 240), CSize(1, 1), CSize(90, 60)}) {
+        Resize(window.cx, window.cy);
+        for (const int type : kAllTypes)
+            for (std::size_t i = 0; i < std::size(limits); ++i) {
+                Make(type).SetTickLimits(limits[i].min, limits[i].max, limits[i].step);
+                graph->Set3DDepthRatio(ratios[i % std::size(ratios)]);
+                graph->SetYTickFontSize(sizes[i % std::size(sizes)]);
+                graph->SetXTickFontSize(sizes[(i + 1) % std::size(sizes)]);
+                graph->SetLegendFontSize(sizes[(i + 2) % std::size(sizes)]);
+                graph->SetXAxisAlignment(i % 3 == 0 ? INT_MIN : static_cast<int>(i) * 47);
+                graph->Set3DLineBase(i % 2 == 0 ? INT_MAX : -3, static_cast<int>(i));
+                graph->SetGraphAlignment(static_cast<int>(i) % 2);
+                graph->SetGridLines(TRUE);
+                graph->SetGraphTitle(CString('W', 200));
+                graph->SetXAxisLabel(i % 2 == 0 ? CString('x', 300) : CString());
+                graph->SetYAxisLabel(CString('y', 300));
+                if (i % 2 == 0)
+                    graph->SetLegend(0, CString('l', 50));
+                Add("", {});
+                Add("whole range", {{INT_MIN, INT_MAX}, {0, INT_MIN}, {1, INT_MAX}, {INT_MAX, 0}, {2, -1}});
+                Fill({{INT_MAX, INT_MAX, INT_MIN, 7}});
+                const auto surface = Paint();
+                if (window.cx > 1) {
+                    EXPECT_NE(surface->At(0, 0), RGB(255, 0, 255)) << "painted";
+                }
+            }
+    }
+}
+
+TEST_F(MultiGraphTest, EmptyAndLargeGraphsAreQuickAndKeepInside) {
+    for (const int type : kAllTypes) {
+        Make(type);
+        Paint(); // no series
+        Fill({{50}});
+        Paint();
+        graph->RemoveAllData();
+        Paint(); // groups, and no series
+        for (int s = 0; s < 300; ++s) {
+            std::vector<std::pair<int, int>> values;
+            for (int j = 0; j < 13; ++j)
+                values.emplace_back(j, (s * 31 + j * 17) % 400 - 100);
+            Add("series", values);
+        }
+        graph->SetColor(0, RGB(1, 200, 3));
+        graph->SetLegend(0, "all");
+        graph->SetGraphTitle("Title");
+        const DWORD start = ::GetTickCount();
+        const auto surface = Paint();
+        EXPECT_LT(::GetTickCount() - start, 5000u) << type;
+        const RECT title = {1, 1, 499, 36};
+        EXPECT_EQ(surface->Count(RGB(1, 200, 3), title), 0) << type;
+        EXPECT_EQ(surface->Count(RGB(1, 110, 2), title), 0) << type;
+    }
+}
+
+TEST_F(MultiGraphTest, ObjectsStayFlatAndTheDcIsAsBefore) {
+    testkit::DibSurface surface(500, 400);
+    CDC dc;
+    dc.Attach(surface.Dc());
+    dc.SetTextColor(RGB(9, 8, 7));
+    dc.SetTextAlign(TA_RIGHT);
+    for (const int type : kAllTypes) {
+        Make(type).SetGridLines(TRUE);
+        graph->SetLegend(0, "row");
+        Fill({{40, 30, -20}, {20, 60, 80}});
+        graph->DrawGraph(&dc);
+        const HGDIOBJ pen = ::GetCurrentObject(surface.Dc(), OBJ_PEN);
+        const HGDIOBJ font = ::GetCurrentObject(surface.Dc(), OBJ_FONT);
+        const testkit::ObjectCounts before = testkit::CountObjects();
+        for (int i = 0; i < 1000; ++i)
+            graph->DrawGraph(&dc);
+        EXPECT_EQ(testkit::CountObjects(), before) << type;
+        EXPECT_EQ(::GetCurrentObject(surface.Dc(), OBJ_PEN), pen);
+        EXPECT_EQ(::GetCurrentObject(surface.Dc(), OBJ_FONT), font);
+        EXPECT_EQ(dc.GetTextAlign(), static_cast<UINT>(TA_RIGHT));
+        EXPECT_EQ(dc.GetTextColor(), RGB(9, 8, 7));
+        EXPECT_EQ(Record()->ObjectFaults(), "") << type;
+    }
+    dc.Detach();
+}

@@ -1,0 +1,71 @@
+#include <afxdlgs.h>
+#include <afxext.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace {
+
+/// Settings of a printer as the system's dialog returns them.
+HGLOBAL MakeNames() {
+    const char text[] = "winspool\0Office printer\0LPT7:";
+    const HGLOBAL memory = GlobalAlloc(GHND, sizeof(DEVNAMES) + sizeof text);
+    auto* const names = static_cast<DEVNAMES*>(GlobalLock(memory));
+    names->wDriverOffset = sizeof(DEVNAMES);
+    names->wDeviceOffset = static_cast<WORD>(names->wDriverOffset + 9);
+    names->wOutputOffset = static_cast<WORD>(names->wDeviceOffset + 15);
+    std::memcpy(reinterpret_cast<char*>(names) + sizeof(DEVNAMES), text, sizeof text);
+    GlobalUnlock(memory);
+    return memory;
+}
+
+} // namespace
+
+TEST(PrintDialogTest, AnswersFromTheRecord) {
+    CPrintDialog dialog(FALSE);
+    EXPECT_NE(dialog.m_pd.Flags & PD_RETURNDC, 0u);
+    EXPECT_EQ(dialog.m_pd.Flags & PD_PRINTSETUP, 0u);
+    EXPECT_EQ(CPrintDialog(TRUE).m_pd.Flags & (PD_RETURNDC | PD_PRINTSETUP),
+              static_cast<DWORD>(PD_PRINTSETUP));
+    EXPECT_EQ(dialog.GetDeviceName(), "");
+    EXPECT_EQ(dialog.GetDevMode(), nullptr);
+    EXPECT_EQ(dialog.CreatePrinterDC(), nullptr);
+    EXPECT_EQ(dialog.GetCopies(), 1);
+    EXPECT_TRUE(dialog.PrintAll());
+    EXPECT_EQ(dialog.GetFromPage(), -1);
+
+    dialog.m_pd.hDevNames = MakeNames();
+    EXPECT_EQ(dialog.GetDriverName(), "winspool");
+    EXPECT_EQ(dialog.GetDeviceName(), "Office printer");
+    EXPECT_EQ(dialog.GetPortName(), "LPT7:");
+    dialog.m_pd.hDevMode = GlobalAlloc(GHND, sizeof(DEVMODE));
+    dialog.GetDevMode()->dmCopies = 3;
+    GlobalUnlock(dialog.m_pd.hDevMode);
+    EXPECT_EQ(dialog.GetCopies(), 3);
+    dialog.m_pd.Flags = PD_PAGENUMS | PD_COLLATE;
+    dialog.m_pd.nFromPage = 2;
+    dialog.m_pd.nToPage = 5;
+    dialog.m_pd.nCopies = 4;
+    EXPECT_EQ(dialog.GetCopies(), 4) << "without PD_USEDEVMODECOPIES";
+    EXPECT_EQ(dialog.GetFromPage(), 2);
+    EXPECT_EQ(dialog.GetToPage(), 5);
+    EXPECT_TRUE(dialog.PrintRange() && dialog.PrintCollate());
+    EXPECT_FALSE(dialog.PrintAll() || dialog.PrintSelection());
+    GlobalFree(dialog.m_pd.hDevMode);
+    GlobalFree(dialog.m_pd.hDevNames);
+}
+
+TEST(PrintInfoTest, PagesLiveInTheDialogsRecord) {
+    CPrintInfo info;
+    EXPECT_EQ(info.GetMinPage(), 1u);
+    EXPECT_EQ(info.GetMaxPage(), 0xFFFFu);
+    EXPECT_EQ(info.m_nCurPage, 1u);
+    EXPECT_TRUE(info.m_bContinuePrinting);
+    EXPECT_FALSE(info.m_bPreview);
+    info.SetMaxPage(7);
+    EXPECT_EQ(info.m_pPD->m_pd.nMaxPage, 7);
+    info.m_pPD->m_pd.nFromPage = 3;
+    EXPECT_EQ(info.GetFromPage(), 3u);
+    info.m_pPD->m_pd.hDevNames = MakeNames(); // freed with the object
+}

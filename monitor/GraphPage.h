@@ -19,6 +19,7 @@ public:
     std::vector<std::string> PointerTexts() override;
     std::vector<std::string> ViewTexts() override;
     bool HasMark() override { return m_graph.SelectionMark().index >= 0; }
+    std::optional<std::size_t> MarkedSample() override { return m_graph.MarkedSample(); }
     void ShowFilling(bool filling) override;
     recording::VisibleRange VisibleSamples() override { return m_graph.Visible(); }
 

@@ -6,6 +6,7 @@
 #include <ws2ipdef.h>
 
 #include <iphlpapi.h>
+#include <psapi.h>
 
 namespace kavlix::monitor {
 
@@ -41,6 +42,16 @@ std::optional<double> ReadMemoryPercent() {
     return 100 * (1 - static_cast<double>(status.ullAvailPhys) / static_cast<double>(status.ullTotalPhys));
 }
 
+BOOL CALLBACK AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCSTR) {
+    // Both counts are in pages.
+    SYSTEM_INFO system;
+    GetSystemInfo(&system);
+    auto& sum = *static_cast<recording::MachineMemory*>(memory);
+    sum.pageFile += std::uint64_t{file->TotalSize} * system.dwPageSize;
+    sum.pageFileUsed += std::uint64_t{file->TotalInUse} * system.dwPageSize;
+    return TRUE;
+}
+
 std::optional<std::vector<InterfaceCounters>> ReadInterfaces() {
     MIB_IF_TABLE2* table = nullptr;
     if (GetIfTable2(&table) != NO_ERROR)
@@ -66,6 +77,25 @@ MachineCounters ReadMachineCounters() {
     counters.memoryPercent = ReadMemoryPercent();
     counters.interfaces = ReadInterfaces();
     return counters;
+}
+
+std::optional<recording::MachineMemory> ReadMachineMemory() {
+    MEMORYSTATUSEX status;
+    status.dwLength = sizeof status;
+    if (!GlobalMemoryStatusEx(&status) || status.ullTotalPhys == 0)
+        return std::nullopt;
+    recording::MachineMemory memory;
+    memory.total = status.ullTotalPhys;
+    memory.available = status.ullAvailPhys;
+    PROCESS_MEMORY_COUNTERS own;
+    if (GetProcessMemoryInfo(GetCurrentProcess(), &own, sizeof own))
+        memory.own = own.WorkingSetSize;
+    // A system that does not count its kernel's memory says 0.
+    PERFORMANCE_INFORMATION system;
+    if (GetPerformanceInfo(&system, sizeof system) && system.KernelNonpaged > 0)
+        memory.kernel = std::uint64_t{system.KernelNonpaged} * system.PageSize;
+    EnumPageFilesA(AddPageFile, &memory);
+    return memory;
 }
 
 } // namespace kavlix::monitor

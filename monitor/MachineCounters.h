@@ -1,5 +1,7 @@
 #pragma once
 
+#include "monitor/recording/MemoryParts.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -38,6 +40,9 @@ struct MachineRates {
 
 /// Asks the operating system.
 MachineCounters ReadMachineCounters();
+
+/// Asks the operating system what its memory holds now; nothing when it does not tell.
+std::optional<recording::MachineMemory> ReadMachineMemory();
 
 /// The rates between two readings. Interfaces that came or went between them, and counters that went
 /// backwards (an interface was reset), count nothing.

@@ -68,6 +68,10 @@ void CMainFrame::OnUpdateViewFill(CCmdUI* pCmdUI) {
 
 void CMainFrame::OnViewPage(UINT nID) {
     m_pageChosen = true;
+    const auto marked = m_page->MarkedSample();
+    m_content.marked.reset();
+    if (marked)
+        m_content.marked = m_content.lost + *marked;
     ShowPage(nID - ID_PAGE_FIRST);
     ShowSelection();
 }

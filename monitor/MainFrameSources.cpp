@@ -113,6 +113,7 @@ void CMainFrame::CancelReading() {
 void CMainFrame::ShowOtherContent() {
     ++m_content.generation;
     m_content.lost = 0;
+    m_content.marked.reset();
     if (m_pageChosen || !ShowPage(DefaultPage()))
         m_page->Update();
 }

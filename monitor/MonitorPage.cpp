@@ -10,6 +10,13 @@ GraphSource PageContent::Source() const {
     return {};
 }
 
+std::optional<std::size_t> PageContent::MarkedSample() const {
+    const GraphSource source = Source();
+    if (!marked || *marked < lost || !source.recording || *marked - lost >= source.recording->times.size())
+        return std::nullopt;
+    return static_cast<std::size_t>(*marked - lost);
+}
+
 BEGIN_MESSAGE_MAP(CMonitorPage, CWnd)
 ON_WM_SIZE()
 ON_WM_SETFOCUS()

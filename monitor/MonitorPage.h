@@ -23,6 +23,10 @@ struct PageContent {
     std::shared_ptr<const recording::Recording> recording; ///< what was read; null while nothing is, or live
     std::unique_ptr<LiveReadings> live;                    ///< set while readings are live
     GraphSettings settings;                                ///< what a person chose; all pages share it
+    std::optional<std::uint64_t> marked; ///< the sample that was marked on a page, those that went counted
+
+    /// Index of the marked sample in Source().recording, if it is still there.
+    std::optional<std::size_t> MarkedSample() const;
 
     /// The recording, or the live readings of the last minutes as one.
     GraphSource Source() const;
@@ -92,6 +96,10 @@ public:
     virtual std::vector<std::string> ViewTexts();
 
     // ---- What the main window's own commands need ----
+
+    /// The sample that goes as PageContent::marked to the page that is shown next: by default what was marked
+    /// before this page was shown.
+    virtual std::optional<std::size_t> MarkedSample() { return Content().MarkedSample(); }
 
     /// Whether Escape has something to do on the page before it leaves the filled window.
     virtual bool HasMark() { return false; }

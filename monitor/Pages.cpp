@@ -1,6 +1,7 @@
 #include "monitor/Pages.h"
 
 #include "monitor/GraphPage.h"
+#include "monitor/PiePage.h"
 #include "monitor/ScrollPage.h"
 
 namespace kavlix::monitor {
@@ -17,6 +18,7 @@ const std::array<PageMaker, recording::kPageNames.size()>& PageMakers() {
     static constexpr std::array<PageMaker, recording::kPageNames.size()> makers = {
         Make<CGraphPage>,  // graph
         Make<CScrollPage>, // scroll
+        Make<CPiePage>,    // pie
     };
     return makers;
 }

@@ -27,6 +27,7 @@
 #define IDC_KEEP_COUNT 1031
 #define IDC_UPPER_GRAPH 1040
 #define IDC_LOWER_GRAPH 1041
+#define IDC_PIE 1050
 
 #define ID_FILE_LIVE 32771
 #define ID_FILE_SAVE_PICTURE 32772
@@ -49,7 +50,8 @@
 #define ID_PAGE_FIRST 32810
 #define ID_PAGE_GRAPH 32810
 #define ID_PAGE_SCROLL 32811
-#define ID_PAGE_LAST 32811
+#define ID_PAGE_PIE 32812
+#define ID_PAGE_LAST 32812
 
 // The scrolling time graph. The ranges stand in the order of recording::kStripRanges.
 #define ID_SCROLL_RANGE_FIRST 32830

@@ -1,0 +1,108 @@
+#include "monitor/recording/Division.h"
+#include "monitor/recording/MemoryParts.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace kavlix::recording {
+namespace {
+
+constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kHuge = std::numeric_limits<double>::max();
+constexpr double kTiny = std::numeric_limits<double>::denorm_min();
+
+TEST(Division, TakesPartsOfAWholeAndNamesTheRest) {
+    struct {
+        std::vector<double> values;
+        std::vector<std::size_t> parts;
+        std::vector<double> shares;
+        double total;
+        const char* leftOut;
+    } const cases[] = {
+        {{}, {}, {}, 0, ""},
+        {{3, 1}, {0, 1}, {0.75, 0.25}, 4, ""},
+        {{-1, 6, kGap, 2, -0.5}, {1, 3}, {0.75, 0.25}, 8, "Left out: a, e (negative), c (no value)"},
+        {{kInfinity, 5}, {1}, {1}, 5, "Left out: a (no value)"},
+        {{-kInfinity, -2}, {}, {}, 0, "Left out: b (negative), a (no value)"},
+        {{0, 0}, {0, 1}, {0, 0}, 0, ""},
+        {{0, 7, -0.0}, {0, 1, 2}, {0, 1, 0}, 7, ""},
+        {{kHuge, kHuge, 0}, {0, 1, 2}, {0.5, 0.5, 0}, kInfinity, ""},
+        {{kTiny, kTiny}, {0, 1}, {0.5, 0.5}, 2 * kTiny, ""},
+    };
+    for (const auto& given : cases) {
+        SCOPED_TRACE(testing::PrintToString(given.values));
+        const Division division = Divide(given.values);
+        ASSERT_EQ(division.parts.size(), given.parts.size());
+        for (std::size_t i = 0; i < given.parts.size(); ++i) {
+            EXPECT_EQ(division.parts[i].index, given.parts[i]);
+            EXPECT_EQ(division.parts[i].value, given.values[given.parts[i]]);
+            EXPECT_DOUBLE_EQ(division.parts[i].share, given.shares[i]);
+        }
+        EXPECT_EQ(division.total, given.total);
+        EXPECT_EQ(LeftOutText(division, {"a", "b", "c", "d", "e"}), given.leftOut);
+    }
+}
+
+TEST(Division, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval) {
+    Recording recording;
+    recording.times = {0, 20, 60, 80, 300, 320};
+    recording.series = {{"even", 0, {1, kGap, 2, kGap, 3, kGap}}, {"odd", 1, {kGap, 5, kGap, 6, kGap, 7}}};
+    recording.files.resize(2);
+    for (FileSummary& file : recording.files)
+        file.interval = 60;
+    EXPECT_EQ(ValuesAt(recording, 3), (std::vector<double>{2, 6}));
+    EXPECT_EQ(ValuesAt(recording, 0), (std::vector<double>{1, 5}));
+    recording.files[0].interval = 20;
+    EXPECT_TRUE(std::isnan(ValuesAt(recording, 3)[0])) << "a whole interval away is another row's";
+    recording.files.resize(1);
+    EXPECT_TRUE(std::isnan(ValuesAt(recording, 0)[1])) << "a gap within one file stays one";
+}
+
+TEST(MemoryParts, MakeUpTheWholeWhateverIsTold) {
+    constexpr std::uint64_t MB = 1024 * 1024;
+    using Parts = std::vector<std::pair<MemoryPart::Kind, std::uint64_t>>;
+    struct {
+        MachineMemory memory;
+        Parts parts;
+    } const cases[] = {
+        {{100, 60, {}, {}, 0, 0}, {{MemoryPart::Others, 40}, {MemoryPart::Available, 60}}},
+        {{100, 60, 5, 10, 50, 20},
+         {{MemoryPart::Own, 5},
+          {MemoryPart::Others, 25},
+          {MemoryPart::Kernel, 10},
+          {MemoryPart::Available, 60},
+          {MemoryPart::PageFileUsed, 20},
+          {MemoryPart::PageFileFree, 30}}},
+        {{100, 95, 7, 9, 10, 99},
+         {{MemoryPart::Own, 5},
+          {MemoryPart::Others, 0},
+          {MemoryPart::Kernel, 0},
+          {MemoryPart::Available, 95},
+          {MemoryPart::PageFileUsed, 10},
+          {MemoryPart::PageFileFree, 0}}},
+        {{100, 120, {}, {}, 0, 0}, {{MemoryPart::Others, 0}, {MemoryPart::Available, 100}}},
+    };
+    for (const auto& given : cases) {
+        Parts parts;
+        for (const MemoryPart& part : PartsOf(given.memory))
+            parts.emplace_back(part.kind, part.bytes);
+        EXPECT_EQ(parts, given.parts);
+    }
+    const std::pair<double, const char*> texts[] = {{0, "0 bytes"},
+                                                    {1023, "1023 bytes"},
+                                                    {1024, "1.0 KB"},
+                                                    {1023.4 * 1024, "1023 KB"},
+                                                    {1023.6 * 1024, "1.0 MB"},
+                                                    {99.94 * MB, "99.9 MB"},
+                                                    {99.96 * MB, "100 MB"},
+                                                    {23.54 * 1024 * MB, "23.5 GB"},
+                                                    {1.8e22, "15613 EB"}};
+    for (const auto& [bytes, text] : texts)
+        EXPECT_EQ(FormatBytes(bytes), text);
+}
+
+} // namespace
+} // namespace kavlix::recording

@@ -1,5 +1,6 @@
 #include "monitor/Pages.h"
 
+#include "monitor/ChartPage.h"
 #include "monitor/GraphPage.h"
 #include "monitor/PiePage.h"
 #include "monitor/ScrollPage.h"
@@ -19,6 +20,7 @@ const std::array<PageMaker, recording::kPageNames.size()>& PageMakers() {
         Make<CGraphPage>,  // graph
         Make<CScrollPage>, // scroll
         Make<CPiePage>,    // pie
+        Make<CChartPage>,  // chart
     };
     return makers;
 }

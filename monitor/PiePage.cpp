@@ -1,6 +1,7 @@
 #include "monitor/PiePage.h"
 
 #include "monitor/MachineCounters.h"
+#include "monitor/PictureCopy.h"
 #include "monitor/recording/MemoryParts.h"
 #include "monitor/recording/NumberText.h"
 #include "monitor/resource.h"
@@ -239,8 +240,7 @@ bool CPiePage::CopyPicture() {
 }
 
 void CPiePage::OnEditCopy() {
-    Host().Say(CopyPicture() ? "Copied: the picture is on the clipboard"
-                             : "Not copied: another program holds the clipboard. Try again");
+    Host().Say(CopyTextOf(CopyPicture()));
 }
 
 void CPiePage::OnUpdateEditCopy(CCmdUI* pCmdUI) {

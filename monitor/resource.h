@@ -7,6 +7,7 @@
 #define IDD_MESSAGES 111
 #define IDD_ABOUT 112
 #define IDD_KEEP 113
+#define IDD_CHART_SERIES 114
 
 #define IDC_GRAPH 1000
 #define IDC_STATUS 1001
@@ -28,6 +29,9 @@
 #define IDC_UPPER_GRAPH 1040
 #define IDC_LOWER_GRAPH 1041
 #define IDC_PIE 1050
+#define IDC_CHART 1051
+#define IDC_CHART_X 1052
+#define IDC_CHART_Y 1053
 
 #define ID_FILE_LIVE 32771
 #define ID_FILE_SAVE_PICTURE 32772
@@ -51,7 +55,8 @@
 #define ID_PAGE_GRAPH 32810
 #define ID_PAGE_SCROLL 32811
 #define ID_PAGE_PIE 32812
-#define ID_PAGE_LAST 32812
+#define ID_PAGE_CHART 32813
+#define ID_PAGE_LAST 32813
 
 // The scrolling time graph. The ranges stand in the order of recording::kStripRanges.
 #define ID_SCROLL_RANGE_FIRST 32830
@@ -68,3 +73,11 @@
 #define ID_SCROLL_PAUSE 32839
 #define ID_SCROLL_KEEP 32840
 #define ID_SCROLL_TINDRO 32841
+
+// The chart; the styles stand in the order of ChartStyle.
+#define ID_CHART_SERIES 32850
+#define ID_CHART_SWAP 32851
+#define ID_CHART_POINTS 32852
+#define ID_CHART_LINES 32853
+#define ID_CHART_BOTH 32854
+#define ID_CHART_SAVE_AS 32855

@@ -128,6 +128,21 @@ TEST_F(PiePage, LiveMemoryIsAWholeUnderItsHeadingAndKeepsTheSelection) {
     EXPECT_FALSE(Pie().GetUpdateRect(nullptr)) << "nothing new, nothing painted";
 }
 
+TEST_F(PiePage, SelectionStaysOnItsPieceWhileThereAreAsMany) {
+    OpenSales();
+    const auto show = [this](std::vector<double> shares) {
+        std::vector<monitor::PieceSettings> pieces;
+        for (const double share : shares)
+            pieces.push_back({"piece", RGB(0, 0, 200), share});
+        Pie().Show(pieces, "");
+        return Pie().Selected();
+    };
+    EXPECT_EQ(show({0.5, 0.2, 0.3}), -1);
+    Pie().Select(1);
+    EXPECT_EQ(show({0.4, 0.4, 0.2}), 1);
+    EXPECT_EQ(show({0.5, 0.5}), -1);
+}
+
 TEST_F(PiePage, CopyIsAPictureOfHeadingAndPie) {
     OpenSales();
     ASSERT_TRUE(::OpenClipboard(nullptr));

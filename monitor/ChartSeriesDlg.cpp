@@ -1,0 +1,44 @@
+#include "monitor/ChartSeriesDlg.h"
+
+#include <utility>
+
+namespace kavlix::monitor {
+
+using recording::PairChoice;
+using recording::PairKind;
+
+CChartSeriesDlg::CChartSeriesDlg(std::vector<std::string> names, PairChoice choice, CWnd* parent)
+    : CDialog(CChartSeriesDlg::IDD, parent), m_names(std::move(names)), m_y(static_cast<int>(choice.y)) {
+    const auto count = static_cast<int>(m_names.size());
+    m_x = choice.kind == PairKind::Series        ? static_cast<int>(choice.x)
+          : choice.kind == PairKind::Predecessor ? count
+                                                 : count + 1;
+}
+
+PairChoice CChartSeriesDlg::Choice() const {
+    const auto x = static_cast<std::size_t>(m_x);
+    const auto y = static_cast<std::size_t>(m_y);
+    if (x < m_names.size())
+        return {PairKind::Series, x, y};
+    return {x == m_names.size() ? PairKind::Predecessor : PairKind::Time, 0, y};
+}
+
+BOOL CChartSeriesDlg::OnInitDialog() {
+    for (const int id : {IDC_CHART_X, IDC_CHART_Y}) {
+        auto* const box = static_cast<CComboBox*>(GetDlgItem(id));
+        for (const std::string& name : m_names)
+            box->AddString(name.c_str());
+    }
+    auto* const x = static_cast<CComboBox*>(GetDlgItem(IDC_CHART_X));
+    x->AddString("(the same series, one sample before)");
+    x->AddString("(time)");
+    return CDialog::OnInitDialog();
+}
+
+void CChartSeriesDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_CBIndex(pDX, IDC_CHART_X, m_x);
+    DDX_CBIndex(pDX, IDC_CHART_Y, m_y);
+}
+
+} // namespace kavlix::monitor

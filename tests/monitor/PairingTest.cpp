@@ -1,0 +1,79 @@
+#include "monitor/recording/Pairing.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+namespace kavlix::recording {
+namespace {
+
+constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
+constexpr Time kMinute = kMicrosPerMinute;
+
+/// `row:x,y` of every point; `row:-` of a gap.
+std::string TextOf(const std::vector<PairedPoint>& points) {
+    std::string text;
+    for (const PairedPoint& point : points) {
+        char part[64];
+        if (std::isnan(point.x) || std::isnan(point.y))
+            std::snprintf(part, sizeof part, "%zu:- ", point.row);
+        else
+            std::snprintf(part, sizeof part, "%zu:%g,%g ", point.row, point.x, point.y);
+        text += part;
+    }
+    return text;
+}
+
+TEST(Pairing, OfOneFileMakesARowAPointAndAMissingValueAGap) {
+    Recording recording;
+    for (int row = 0; row < 5; ++row)
+        recording.times.push_back(row * kMinute);
+    recording.series = {{"a", 0, {1, 2, kGap, 4, 5}}, {"b", 0, {10, kGap, 30, 40, 50}}};
+    recording.files.resize(1);
+    const struct {
+        PairChoice choice;
+        const char* points;
+    } cases[] = {{{PairKind::Series, 0, 1}, "0:1,10 1:- 2:- 3:4,40 4:5,50 "},
+                 {{PairKind::Series, 1, 0}, "0:10,1 1:- 2:- 3:40,4 4:50,5 "},
+                 {{PairKind::Predecessor, 0, 0}, "0:- 1:1,2 2:- 3:- 4:4,5 "},
+                 {{PairKind::Time, 0, 1}, "0:0,10 1:- 2:2,30 3:3,40 4:4,50 "}};
+    for (const auto& given : cases)
+        EXPECT_EQ(TextOf(PairSeries(recording, given.choice)), given.points);
+    EXPECT_TRUE(PairSeries(Recording{{}, {{"a", 0, {}}}, {}, false, 0}, {PairKind::Time, 0, 0}).empty());
+}
+
+TEST(Pairing, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
+    Recording recording;
+    // a at 0, 10, 20, 90, 100 minutes, b at 4, 14, 93 minutes.
+    for (const int minute : {0, 4, 10, 14, 20, 90, 93, 100})
+        recording.times.push_back(minute * kMinute);
+    recording.series = {{"a", 0, {1, kGap, 2, kGap, 3, 9, kGap, 10}},
+                        {"b", 1, {kGap, 40, kGap, 50, kGap, kGap, 90, kGap}}};
+    recording.files.resize(2);
+    recording.files[0].interval = recording.files[1].interval = 10 * kMinute;
+    EXPECT_EQ(TextOf(PairSeries(recording, {PairKind::Series, 0, 1})),
+              "0:1,40 2:2,50 4:3,50 5:- 5:9,90 7:10,90 ")
+        << "as near before as behind: the earlier; a pause breaks the line";
+    EXPECT_EQ(TextOf(PairSeries(recording, {PairKind::Predecessor, 0, 0})),
+              "0:- 2:1,2 4:2,3 5:- 5:- 7:9,10 ");
+    recording.files[1].interval = 5 * kMinute;
+    EXPECT_EQ(TextOf(PairSeries(recording, {PairKind::Series, 0, 1})), "0:1,40 2:2,50 4:- 5:- 5:9,90 7:- ");
+}
+
+TEST(Pairing, ChoosesWhatThereIsAndUnitsOfPeoplesSize) {
+    EXPECT_EQ(DefaultPair({2, 5, 6}), (PairChoice{PairKind::Series, 2, 5}));
+    EXPECT_EQ(DefaultPair({3}), (PairChoice{PairKind::Predecessor, 0, 3}));
+    EXPECT_EQ(DefaultPair({}), (PairChoice{PairKind::Predecessor, 0, 0}));
+    const std::pair<Time, std::string> units[] = {{0, "seconds"},
+                                                  {2 * kMinute - 1, "seconds"},
+                                                  {2 * kMinute, "minutes"},
+                                                  {120 * kMinute, "hours"},
+                                                  {2 * kMicrosPerDay, "days"}};
+    for (const auto& [span, name] : units)
+        EXPECT_EQ(TimeUnitOf(span).name, name);
+}
+
+} // namespace
+} // namespace kavlix::recording

@@ -33,7 +33,6 @@ std::string RateText(double value) {
 } // namespace
 
 LiveReadings::LiveReadings() : m_unit(ChooseRateUnit(0)) {
-    Rebuild();
 }
 
 recording::ValueSpan LiveReadings::AxisSpan() {
@@ -85,11 +84,17 @@ LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
     const RateUnit unit = ChooseRateUnit(highest);
     change.unitChanged = !(unit == m_unit);
     m_unit = unit;
-    Rebuild();
+    m_recording.reset();
     return change;
 }
 
-void LiveReadings::Rebuild() {
+std::shared_ptr<const recording::Recording> LiveReadings::History() const {
+    if (!m_recording)
+        m_recording = MakeHistory();
+    return m_recording;
+}
+
+std::shared_ptr<const recording::Recording> LiveReadings::MakeHistory() const {
     auto rebuilt = std::make_shared<recording::Recording>();
     rebuilt->times.assign(m_times.begin() + static_cast<std::ptrdiff_t>(Index(m_historyFirst)),
                           m_times.end());
@@ -101,7 +106,7 @@ void LiveReadings::Rebuild() {
             series.values.push_back(ValueOf(reading, i) / (IsRate(i) ? m_unit.bytesPerSecond : 1));
         rebuilt->series.push_back(std::move(series));
     }
-    m_recording = std::move(rebuilt);
+    return rebuilt;
 }
 
 double LiveReadings::ValueOf(std::uint64_t reading, std::size_t series) const {

@@ -67,10 +67,10 @@ public:
     // ---- The last minutes ----
 
     /// Readings that are kept and stand before those of the history.
-    std::size_t CountBeforeHistory() const { return m_times.size() - m_recording->times.size(); }
+    std::size_t CountBeforeHistory() const { return Index(m_historyFirst); }
 
-    /// The history; a new object after every change.
-    std::shared_ptr<const recording::Recording> History() const { return m_recording; }
+    /// The history; a new object after every change, made when it is first asked for.
+    std::shared_ptr<const recording::Recording> History() const;
 
     /// Names of the series, with the units they are drawn in, and `(not available)` behind those that were
     /// never to be had.
@@ -86,7 +86,7 @@ private:
     using Values = std::array<double, kSeries>;
 
     Change Trim(std::size_t removed);
-    void Rebuild();
+    std::shared_ptr<const recording::Recording> MakeHistory() const;
     std::size_t Index(std::uint64_t reading) const { return static_cast<std::size_t>(reading - m_first); }
 
     std::deque<recording::Time> m_times;
@@ -96,7 +96,7 @@ private:
     std::size_t m_most = kKept;
     std::uint64_t m_historyFirst = 0; ///< the oldest reading of the history
     RateUnit m_unit;
-    std::shared_ptr<const recording::Recording> m_recording;
+    mutable std::shared_ptr<const recording::Recording> m_recording; ///< null: not asked for since the change
 };
 
 /// The machine's local time, as recordings tell theirs.

@@ -108,8 +108,10 @@ protected:
             monitor::DefaultSettings("live", m_content.live->SeriesNames(), 1000, CGraphCtrl::GraphStyleLine);
         m_page.Update();
     }
-    /// Readings once a second: the processor's is the number of the reading modulo 100.
+    /// Readings once a second: the processor's is the number of the reading modulo 100. The page is told of
+    /// every tenth and the last, as after a pause.
     void Live(int count) {
+        constexpr int together = 10;
         for (int i = 0; i < count; ++i, ++m_taken) {
             MachineRates rates;
             rates.processorPercent = m_taken % 100;
@@ -117,7 +119,8 @@ protected:
             rates.bytesInPerSecond = 1000 * m_taken;
             rates.bytesOutPerSecond = 5;
             m_content.live->Add(kStart + m_taken * S + S / 3, rates);
-            m_page.Update();
+            if (i % together == together - 1 || i + 1 == count)
+                m_page.Update();
         }
     }
     void Record(std::vector<Time> times, std::size_t series, Time interval) {

@@ -87,6 +87,10 @@ void CChartPage::Rebuild() {
         picture.style = m_choice.kind == PairKind::Time             ? ChartStyle::Lines
                         : picture.points.size() <= kPointsWithLines ? ChartStyle::Both
                                                                     : ChartStyle::Points;
+        // Live readings are never beyond it.
+        picture.yCovers = Content().Source().axisCovers;
+        if (m_choice.kind != PairKind::Time)
+            picture.xCovers = picture.yCovers;
         picture.style = m_style.value_or(picture.style);
     }
     m_chart.Show(std::move(picture));

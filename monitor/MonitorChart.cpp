@@ -51,6 +51,12 @@ void CMonitorChart::Show(ChartPicture picture) {
     SetColor(0, m_picture.color);
     ShowLine(0, m_picture.style != ChartStyle::Points);
     SetMarkerType(0, m_picture.style != ChartStyle::Lines ? CDataset::MarkerCircle : CDataset::MarkerNone);
+    SetAutoXScale();
+    SetAutoYScale();
+    if (m_picture.xCovers.any)
+        SetXScale(m_picture.xCovers.min, m_picture.xCovers.max);
+    if (m_picture.yCovers.any)
+        SetYScale(m_picture.yCovers.min, m_picture.yCovers.max);
     SetTitle(m_picture.title.c_str());
     SetXLabel(m_picture.xLabel.c_str());
     SetYLabel(m_picture.yLabel.c_str());

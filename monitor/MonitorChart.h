@@ -25,6 +25,8 @@ struct ChartPicture {
     std::string yLabel;
     COLORREF color = RGB(0, 0, 0);
     ChartStyle style = ChartStyle::Both;
+    recording::ValueSpan xCovers; ///< what the scale shows whatever the points are; none: as the points need
+    recording::ValueSpan yCovers;
 };
 
 /// The chart control with samples in it. One of them may be marked: by a click near it, with the arrow keys

@@ -2,6 +2,7 @@
 
 #include "monitor/ChartPage.h"
 #include "monitor/GraphPage.h"
+#include "monitor/MultiPage.h"
 #include "monitor/PiePage.h"
 #include "monitor/ScrollPage.h"
 
@@ -21,6 +22,7 @@ const std::array<PageMaker, recording::kPageNames.size()>& PageMakers() {
         Make<CScrollPage>, // scroll
         Make<CPiePage>,    // pie
         Make<CChartPage>,  // chart
+        Make<CMultiPage>,  // multi
     };
     return makers;
 }

@@ -25,7 +25,6 @@ constexpr COLORREF kNoteColor = RGB(90, 90, 90);
 constexpr int kTitleHeight = 18;
 constexpr int kNoteHeight = 14;
 constexpr int kMargin = 6;
-constexpr int kFrameUnits = 100; // of a metafile's frame, in a millimetre
 
 /// In the order of MemoryPart::Kind.
 constexpr COLORREF kMemoryColors[] = {RGB(20, 90, 180),   RGB(215, 85, 0),  RGB(115, 65, 175),
@@ -213,34 +212,10 @@ void CPiePage::OnSelection(NMHDR*, LRESULT* pResult) {
     *pResult = 0;
 }
 
-bool CPiePage::CopyPicture() {
-    CRect client;
-    GetClientRect(&client);
-    CClientDC screen(this);
-    const auto frame = [&screen](int pixels, int millimetres, int resolution) {
-        return ::MulDiv(pixels, kFrameUnits * screen.GetDeviceCaps(millimetres),
-                        screen.GetDeviceCaps(resolution));
-    };
-    // What the pie clips would count for the picture's bounds.
-    const CRect bounds(0, 0, frame(client.right, HORZSIZE, HORZRES), frame(client.bottom, VERTSIZE, VERTRES));
-    const HDC dc = ::CreateEnhMetaFile(screen.m_hDC, nullptr, &bounds, "Kavlix Monitor\0Pie\0");
-    if (dc == nullptr)
-        return false;
-    SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
-    const HENHMETAFILE picture = ::CloseEnhMetaFile(dc);
-    bool taken = false;
-    if (picture != nullptr && OpenClipboard()) {
-        ::EmptyClipboard();
-        taken = ::SetClipboardData(CF_ENHMETAFILE, picture) != nullptr;
-        ::CloseClipboard();
-    }
-    if (picture != nullptr && !taken)
-        ::DeleteEnhMetaFile(picture);
-    return taken;
-}
-
 void CPiePage::OnEditCopy() {
-    Host().Say(CopyTextOf(CopyPicture()));
+    Host().Say(CopyTextOf(CopyAsMetafile(*this, [this](CDC& dc) {
+        SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT);
+    })));
 }
 
 void CPiePage::OnUpdateEditCopy(CCmdUI* pCmdUI) {

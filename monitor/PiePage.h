@@ -49,7 +49,6 @@ private:
     Picture SamplePicture() const;
     int HeadingHeight() const;
     void DrawHeading(CDC& dc, int width) const;
-    bool CopyPicture();
 
     CMonitorPie m_pie;
     CFont m_titleFont;

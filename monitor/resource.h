@@ -8,6 +8,7 @@
 #define IDD_ABOUT 112
 #define IDD_KEEP 113
 #define IDD_CHART_SERIES 114
+#define IDD_MULTI_OPTIONS 115
 
 #define IDC_GRAPH 1000
 #define IDC_STATUS 1001
@@ -32,6 +33,13 @@
 #define IDC_CHART 1051
 #define IDC_CHART_X 1052
 #define IDC_CHART_Y 1053
+#define IDC_MULTI_VIEW 1060
+#define IDC_MULTI_TYPE 1061
+#define IDC_MULTI_DATA 1062
+#define IDC_MULTI_ANGLE 1063
+#define IDC_MULTI_DEPTH 1064
+#define IDC_MULTI_HORIZONTAL 1065
+#define IDC_MULTI_GRID 1066
 
 #define ID_FILE_LIVE 32771
 #define ID_FILE_SAVE_PICTURE 32772
@@ -56,7 +64,8 @@
 #define ID_PAGE_SCROLL 32811
 #define ID_PAGE_PIE 32812
 #define ID_PAGE_CHART 32813
-#define ID_PAGE_LAST 32813
+#define ID_PAGE_MULTI 32814
+#define ID_PAGE_LAST 32814
 
 // The scrolling time graph. The ranges stand in the order of recording::kStripRanges.
 #define ID_SCROLL_RANGE_FIRST 32830

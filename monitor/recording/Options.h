@@ -22,7 +22,7 @@ inline constexpr int kMaxWindowSide = 10'000;
 inline constexpr double kMaxSeconds = 1e6;
 
 /// What `--page` calls the pages, in the order in which the menu offers them.
-inline constexpr std::array<std::string_view, 4> kPageNames = {"graph", "scroll", "pie", "chart"};
+inline constexpr std::array<std::string_view, 5> kPageNames = {"graph", "scroll", "pie", "chart", "multi"};
 inline constexpr std::size_t kGraphPage = 0;  ///< recordings open on it
 inline constexpr std::size_t kScrollPage = 1; ///< and live readings on this one
 

@@ -63,7 +63,7 @@ TEST(Options, SaysWhatIsWrong) {
         {{"--shot"}, "--shot: expected a file name such as out.png, found nothing"},
         {{"--shot="}, "--shot: expected a file name such as out.png, found \"\""},
         {{"--style", "pie"}, "--style: expected line, bar or twoaxis, found \"pie\""},
-        {{"--page", "Graph"}, "--page: expected graph, scroll, pie or chart, found \"Graph\""},
+        {{"--page", "Graph"}, "--page: expected graph, scroll, pie, chart or multi, found \"Graph\""},
         {{"--help=yes"}, "--help: expected no value"},
         {{"--check"}, "--check: expected at least one file"},
         {{"--check", "a.csv", "--shot", "x.png"}, "--check and --shot: expected only one of them"},

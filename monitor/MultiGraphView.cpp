@@ -1,0 +1,262 @@
+#include "monitor/MultiGraphView.h"
+
+#include "monitor/recording/Periods.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kavlix::monitor {
+
+using recording::Periods;
+using recording::Recording;
+using recording::ValueSpan;
+
+namespace {
+
+constexpr COLORREF kLowestColor = RGB(80, 155, 230);
+constexpr COLORREF kMeanColor = RGB(25, 135, 60);
+constexpr COLORREF kHighestColor = RGB(215, 85, 0);
+constexpr int kPrintMargin = 720; // twips
+
+/// A line of the table behind the picture.
+struct Row {
+    std::string name;
+    COLORREF color;
+    std::vector<double> values; ///< one a period
+};
+
+std::vector<std::size_t> VisibleSeries(const Recording& recording, const GraphSettings& settings) {
+    std::vector<std::size_t> visible;
+    for (std::size_t i = 0; i < settings.series.size() && i < recording.series.size(); ++i)
+        if (settings.series[i].visible)
+            visible.push_back(i);
+    return visible;
+}
+
+std::vector<Row> RowsOf(const Recording& recording, const GraphSettings& settings,
+                        const MultiOptions& options, const Periods& periods) {
+    if (options.series) {
+        recording::PeriodStatistics found = StatisticsOf(recording, *options.series, periods);
+        return {{"lowest", kLowestColor, std::move(found.lowest)},
+                {"mean", kMeanColor, std::move(found.mean)},
+                {"highest", kHighestColor, std::move(found.highest)}};
+    }
+    std::vector<Row> rows;
+    for (const std::size_t series : VisibleSeries(recording, settings))
+        rows.push_back({settings.series[series].name, settings.series[series].color,
+                        StatisticsOf(recording, series, periods).mean});
+    return rows;
+}
+
+bool IsStacked(int type) {
+    return type == GraphTypeStackedBar || type == GraphType3DStackedBar;
+}
+
+bool IsXY(int type) {
+    return type == GraphTypeScatter || type == GraphTypeXYLine;
+}
+
+bool ShowsZero(int type) {
+    return type == GraphTypeBar || type == GraphType3DBar || IsStacked(type);
+}
+
+/// What the value axis must hold.
+ValueSpan SpanOfRows(const std::vector<Row>& rows, std::size_t periods, bool stacked) {
+    ValueSpan span;
+    for (std::size_t period = 0; period < periods; ++period) {
+        double up = 0;
+        double down = 0;
+        for (const Row& row : rows) {
+            const double value = row.values[period];
+            if (!stacked)
+                span.Take(value);
+            else if (std::isfinite(value))
+                (value > 0 ? up : down) += value;
+        }
+        if (stacked) {
+            span.Take(up);
+            span.Take(down);
+        }
+    }
+    return span;
+}
+
+void AddSeries(CGraph& graph, const std::string& label, const std::vector<double>& values,
+               const recording::WholeScale& scale) {
+    auto series = std::make_unique<CGraphSeries>();
+    series->SetLabel(label.c_str());
+    for (std::size_t key = 0; key < values.size(); ++key)
+        if (std::isfinite(values[key]))
+            series->SetData(static_cast<int>(key), scale.ToWhole(values[key]));
+    graph.AddSeries(series.release());
+}
+
+/// A box for each period of the series, or for each series.
+struct Boxes {
+    std::vector<std::string> labels;
+    std::vector<std::vector<double>> values;
+    std::vector<COLORREF> colors;
+};
+
+Boxes BoxesOf(const Recording& recording, const GraphSettings& settings, const MultiOptions& options,
+              const Periods& periods) {
+    Boxes boxes;
+    if (options.series) {
+        boxes.values = RankedValues(recording, *options.series, periods);
+        for (std::size_t i = 0; i < periods.Count(); ++i) {
+            boxes.labels.push_back(periods.Label(i));
+            boxes.colors.push_back(settings.series[*options.series].color);
+        }
+        return boxes;
+    }
+    for (const std::size_t series : VisibleSeries(recording, settings)) {
+        std::vector<double> all;
+        for (const double value : recording.series[series].values)
+            if (std::isfinite(value))
+                all.push_back(value);
+        boxes.values.push_back(recording::RankedOf(std::move(all)));
+        boxes.labels.push_back(settings.series[series].name);
+        boxes.colors.push_back(settings.series[series].color);
+    }
+    return boxes;
+}
+
+} // namespace
+
+const std::vector<GraphTypeChoice>& GraphTypeChoices() {
+    static const std::vector<GraphTypeChoice> choices = {{GraphTypeBar, "Bars"},
+                                                         {GraphTypeLine, "Lines"},
+                                                         {GraphTypePie, "Pies"},
+                                                         {GraphTypeScatter, "Scatter"},
+                                                         {GraphTypeBoxWhisker, "Boxes and whiskers"},
+                                                         {GraphTypeStackedBar, "Stacked bars"},
+                                                         {GraphTypeXYLine, "XY lines"},
+                                                         {GraphType3DBar, "3D bars"},
+                                                         {GraphType3DLine, "3D lines"},
+                                                         {GraphType3DPie, "3D pies"},
+                                                         {GraphType3DStackedBar, "3D stacked bars"}};
+    return choices;
+}
+
+BEGIN_MESSAGE_MAP(CMultiGraphView, CWnd)
+ON_WM_PAINT()
+ON_MESSAGE(WM_PRINTCLIENT, &CMultiGraphView::OnPrintClient)
+ON_WM_ERASEBKGND()
+ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+bool CMultiGraphView::CreateChild(CWnd& parent, UINT id) {
+    const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
+    return Create(windowClass, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &parent, id) != FALSE;
+}
+
+void CMultiGraphView::Show(const Recording* recording, const GraphSettings& settings,
+                           const MultiOptions& options) {
+    auto graph = std::make_unique<CGraph>();
+    graph->parentWindow = this;
+    graph->SetGraphTitle(settings.title.c_str());
+    if (recording && !recording->times.empty() && !settings.series.empty()) {
+        const Periods periods(recording->times);
+        const bool boxed = options.type == GraphTypeBoxWhisker;
+        const Boxes boxes = boxed ? BoxesOf(*recording, settings, options, periods) : Boxes();
+        std::vector<Row> rows;
+        ValueSpan span;
+        if (boxed) {
+            for (const std::vector<double>& values : boxes.values)
+                span.Take(recording::SpanOf(values));
+        } else {
+            rows = RowsOf(*recording, settings, options, periods);
+            span = SpanOfRows(rows, periods.Count(), IsStacked(options.type));
+        }
+        const recording::WholeScale scale = ChooseWholeScale(span, ShowsZero(options.type));
+        graph->SetTickLimits(scale.min, scale.max, scale.step);
+
+        // A scatter graph takes no legend texts, though it shows those that are there.
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            graph->SetColor(static_cast<int>(i), rows[i].color);
+            graph->SetLegend(static_cast<int>(i), rows[i].name.c_str());
+        }
+        for (std::size_t i = 0; i < boxes.colors.size(); ++i)
+            graph->SetColor(static_cast<int>(i), boxes.colors[i]);
+        graph->SetGraphType(options.type);
+        for (std::size_t i = 0; i < boxes.values.size(); ++i)
+            AddSeries(*graph, boxes.labels[i], boxes.values[i], scale);
+        if (IsXY(options.type))
+            for (const Row& row : rows)
+                AddSeries(*graph, row.name, row.values, scale);
+        else if (!boxed)
+            for (std::size_t period = 0; period < periods.Count(); ++period) {
+                std::vector<double> values;
+                for (const Row& row : rows)
+                    values.push_back(row.values[period]);
+                AddSeries(*graph, periods.Label(period), values, scale);
+            }
+
+        const std::string every = periods.LengthText();
+        const std::string of = options.series ? settings.series[*options.series].name
+                               : boxed        ? std::string("value")
+                                              : std::string("mean");
+        const std::string unit = scale.UnitText();
+        graph->SetYAxisLabel((of + unit).c_str());
+        const bool bySeries = boxed && !options.series;
+        graph->SetXAxisLabel((bySeries ? std::string("all values")
+                                       : (IsXY(options.type) ? "number of the " : "every ") + every +
+                                             (IsXY(options.type) ? ", from 0" : ""))
+                                 .c_str());
+        graph->SetGraphAlignment(options.horizontal ? 0 : 1);
+        graph->SetGridLines(options.grid);
+        graph->SetXAxisAlignment(options.labelAngle);
+        graph->Set3DDepthRatio(options.depth);
+    }
+    m_graph = std::move(graph);
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+void CMultiGraphView::Draw(CDC& dc) {
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(client, RGB(255, 255, 255));
+    m_graph->DrawGraph(&dc);
+}
+
+void CMultiGraphView::Print(CDC& dc, CSize page) {
+    m_graph->SetMargins(-kPrintMargin, kPrintMargin - page.cy, kPrintMargin, page.cx - kPrintMargin,
+                        -kPrintMargin);
+    m_graph->PrintGraph(&dc, nullptr);
+}
+
+void CMultiGraphView::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    // Composed unseen and copied at once; painted directly where there is no memory for that.
+    CDC memory;
+    CBitmap bitmap;
+    if (!memory.CreateCompatibleDC(&dc) ||
+        !bitmap.CreateCompatibleBitmap(&dc, std::max<int>(client.Width(), 1),
+                                       std::max<int>(client.Height(), 1))) {
+        Draw(dc);
+        return;
+    }
+    CBitmap* const before = memory.SelectObject(&bitmap);
+    Draw(memory);
+    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
+    memory.SelectObject(before);
+}
+
+LRESULT CMultiGraphView::OnPrintClient(WPARAM wParam, LPARAM) {
+    Draw(*CDC::FromHandle(reinterpret_cast<HDC>(wParam)));
+    return 0;
+}
+
+BOOL CMultiGraphView::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void CMultiGraphView::OnSize(UINT nType, int cx, int cy) {
+    CWnd::OnSize(nType, cx, cy);
+    Invalidate(FALSE);
+}
+
+} // namespace kavlix::monitor

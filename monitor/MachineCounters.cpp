@@ -42,7 +42,9 @@ std::optional<double> ReadMemoryPercent() {
     return 100 * (1 - static_cast<double>(status.ullAvailPhys) / static_cast<double>(status.ullTotalPhys));
 }
 
-BOOL CALLBACK AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCSTR) {
+#ifdef _WIN64
+// Headers do not agree on the calling convention of this function; 64-bit systems have only one.
+BOOL AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCSTR) {
     // Both counts are in pages.
     SYSTEM_INFO system;
     GetSystemInfo(&system);
@@ -51,6 +53,7 @@ BOOL CALLBACK AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCST
     sum.pageFileUsed += std::uint64_t{file->TotalInUse} * system.dwPageSize;
     return TRUE;
 }
+#endif
 
 std::optional<std::vector<InterfaceCounters>> ReadInterfaces() {
     MIB_IF_TABLE2* table = nullptr;
@@ -94,7 +97,9 @@ std::optional<recording::MachineMemory> ReadMachineMemory() {
     PERFORMANCE_INFORMATION system;
     if (GetPerformanceInfo(&system, sizeof system) && system.KernelNonpaged > 0)
         memory.kernel = std::uint64_t{system.KernelNonpaged} * system.PageSize;
+#ifdef _WIN64
     EnumPageFilesA(AddPageFile, &memory);
+#endif
     return memory;
 }
 

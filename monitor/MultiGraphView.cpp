@@ -56,6 +56,11 @@ bool IsXY(int type) {
     return type == GraphTypeScatter || type == GraphTypeXYLine;
 }
 
+/// Whether the type has its values along the level axis when the graph is to be horizontal.
+bool TurnsHorizontal(int type) {
+    return type != GraphTypeScatter && type != GraphType3DLine;
+}
+
 bool ShowsZero(int type) {
     return type == GraphTypeBar || type == GraphType3DBar || IsStacked(type);
 }
@@ -89,6 +94,17 @@ void AddSeries(CGraph& graph, const std::string& label, const std::vector<double
         if (std::isfinite(values[key]))
             series->SetData(static_cast<int>(key), scale.ToWhole(values[key]));
     graph.AddSeries(series.release());
+}
+
+/// The graph counts the groups by the fullest series that it was ever given; here a period may lack any of
+/// them.
+void CountGroups(CGraph& graph, std::size_t groups) {
+    const CString name;
+    auto fullest = std::make_unique<CGraphSeries>();
+    for (std::size_t key = 0; key < groups; ++key)
+        fullest->SetData(static_cast<int>(key), 0);
+    graph.AddSeries(fullest.release());
+    graph.RemoveSeries(name);
 }
 
 /// A box for each period of the series, or for each series.
@@ -181,6 +197,8 @@ void CMultiGraphView::Show(const Recording* recording, const GraphSettings& sett
         graph->SetGraphType(options.type);
         for (std::size_t i = 0; i < boxes.values.size(); ++i)
             AddSeries(*graph, boxes.labels[i], boxes.values[i], scale);
+        if (!boxed && !IsXY(options.type))
+            CountGroups(*graph, rows.size());
         if (IsXY(options.type))
             for (const Row& row : rows)
                 AddSeries(*graph, row.name, row.values, scale);
@@ -197,12 +215,14 @@ void CMultiGraphView::Show(const Recording* recording, const GraphSettings& sett
                                : boxed        ? std::string("value")
                                               : std::string("mean");
         const std::string unit = scale.UnitText();
-        graph->SetYAxisLabel((of + unit).c_str());
         const bool bySeries = boxed && !options.series;
-        graph->SetXAxisLabel((bySeries ? std::string("all values")
-                                       : (IsXY(options.type) ? "number of the " : "every ") + every +
-                                             (IsXY(options.type) ? ", from 0" : ""))
-                                 .c_str());
+        const std::string across = bySeries             ? "all values"
+                                   : IsXY(options.type) ? "number of the " + every + ", from 0"
+                                                        : "every " + every;
+        // Captions belong to the level and the upright axis, whichever of them has the values.
+        const bool level = options.horizontal && TurnsHorizontal(options.type);
+        graph->SetXAxisLabel((level ? of + unit : across).c_str());
+        graph->SetYAxisLabel((level ? across : of + unit).c_str());
         graph->SetGraphAlignment(options.horizontal ? 0 : 1);
         graph->SetGridLines(options.grid);
         graph->SetXAxisAlignment(options.labelAngle);

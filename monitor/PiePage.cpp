@@ -120,7 +120,7 @@ CPiePage::Picture CPiePage::SamplePicture() const {
     const recording::Recording& all = *content.recording;
     const std::vector<SeriesSettings>& series = content.settings.series;
     const auto marked = content.MarkedSample();
-    const std::size_t row = marked.value_or(all.times.size() - 1);
+    const std::size_t row = marked ? *marked : recording::LastRow(all);
 
     const std::vector<double> values = recording::ValuesAt(all, row);
     std::vector<std::size_t> shown;

@@ -11,6 +11,7 @@ namespace {
 
 /// A value of a joined series is looked for in so many rows on either side.
 constexpr std::size_t kBesideRows = 1000;
+constexpr std::size_t kLastRows = 100;
 
 std::string Listed(const std::vector<std::size_t>& indices, const std::vector<std::string>& names,
                    const char* reason) {
@@ -69,6 +70,24 @@ std::vector<double> ValuesAt(const Recording& recording, std::size_t row) {
         values.push_back(series.values[taken]);
     }
     return values;
+}
+
+std::size_t LastRow(const Recording& recording) {
+    const std::size_t count = recording.times.size();
+    std::size_t best = count == 0 ? 0 : count - 1;
+    std::size_t most = 0;
+    for (std::size_t i = 0; i < kLastRows && i < count && most < recording.series.size(); ++i) {
+        const std::vector<double> values = ValuesAt(recording, count - 1 - i);
+        const auto known = static_cast<std::size_t>(
+            std::count_if(values.begin(), values.end(), [](double value) { return std::isfinite(value); }));
+        if (known > most) {
+            most = known;
+            best = count - 1 - i;
+        }
+        if (recording.files.size() < 2)
+            break;
+    }
+    return best;
 }
 
 } // namespace kavlix::recording

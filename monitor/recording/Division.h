@@ -33,4 +33,8 @@ std::string LeftOutText(const Division& division, const std::vector<std::string>
 /// apart.
 std::vector<double> ValuesAt(const Recording& recording, std::size_t row);
 
+/// The row to show of a recording's end: the last one. Of files that were joined, and do not end together,
+/// the last one with as many values as any of the last ones.
+std::size_t LastRow(const Recording& recording);
+
 } // namespace kavlix::recording

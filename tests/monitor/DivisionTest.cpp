@@ -57,7 +57,13 @@ TEST(Division, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval) 
     EXPECT_EQ(ValuesAt(recording, 0), (std::vector<double>{1, 5}));
     recording.files[0].interval = 20;
     EXPECT_TRUE(std::isnan(ValuesAt(recording, 3)[0])) << "a whole interval away is another row's";
+    for (FileSummary& file : recording.files)
+        file.interval = 60;
+    EXPECT_EQ(LastRow(recording), 5u);
+    recording.times = {0, 20, 60, 80, 300, 400};
+    EXPECT_EQ(LastRow(recording), 3u) << "the last with both";
     recording.files.resize(1);
+    EXPECT_EQ(LastRow(recording), 5u);
     EXPECT_TRUE(std::isnan(ValuesAt(recording, 0)[1])) << "a gap within one file stays one";
 }
 

@@ -20,6 +20,8 @@ struct Inside : CGraph {
     static int High(const CGraph& graph) { return graph.*(&Inside::maxTick); }
     static int Type(const CGraph& graph) { return graph.*(&Inside::graphType); }
     static int Alignment(const CGraph& graph) { return graph.*(&Inside::graphAlignment); }
+    static CString Across(const CGraph& graph) { return graph.*(&Inside::axisXLabel); }
+    static int Groups(const CGraph& graph) { return graph.*(&Inside::seriesSize); }
     static const CObList& Series(const CGraph& graph) { return *(graph.*(&Inside::seriesList)); }
 };
 
@@ -114,7 +116,12 @@ TEST_F(MultiPage, EveryTypePaintsOnScreenAndPaper) {
             << "a page narrower than its margins";
     }
     Choose(IDC_MULTI_HORIZONTAL, BM_SETCHECK, BST_CHECKED, BN_CLICKED);
-    EXPECT_EQ(Inside::Alignment(View().Graph()), 0);
+    for (const auto& [type, caption] :
+         {std::pair(0, "mean"), std::pair(3, "number of the 6 hours, from 0")}) {
+        ChooseType(type);
+        EXPECT_EQ(Inside::Alignment(View().Graph()), 0);
+        EXPECT_STREQ(Inside::Across(View().Graph()), caption) << "the values have turned, or have not";
+    }
     Command(ID_VIEW_FILL);
     CRect view;
     CRect inside;
@@ -124,6 +131,15 @@ TEST_F(MultiPage, EveryTypePaintsOnScreenAndPaper) {
     Command(ID_VIEW_FILL);
     Command(ID_EDIT_COPY);
     EXPECT_EQ(Text().substr(0, 6), "Copied");
+}
+
+TEST_F(MultiPage, SeriesThatNeverMeetAreAllThere) {
+    std::string text = "time,early,late\n";
+    for (int hour = 0; hour < 2 * 24; ++hour)
+        text += std::to_string(hour * 3600) + (hour < 24 ? ",5,\n" : ",,7\n");
+    Open("multi", {m_folder.Write("apart.csv", text)});
+    ChooseData(0);
+    EXPECT_EQ(Inside::Groups(View().Graph()), 2) << Contents();
 }
 
 } // namespace

@@ -23,6 +23,7 @@ int CGraph::DrawLegend(CDC*) {
     constexpr int kMargin = 5;
     constexpr int kSwatchRoom = 25;
     constexpr int kSwatchGap = 10;
+    constexpr int kTextGap = 1; // at least free between text and swatch
     constexpr int kSwatchHeight = 12;
     constexpr double kCharacterWidth = 0.66; // of the font's height
 
@@ -59,12 +60,13 @@ int CGraph::DrawLegend(CDC*) {
     // Rows above and below the picture are left out, however many there are.
     const std::int64_t rowHeight = kRowHeight * pixel;
     const std::int64_t start = top + kFirstRow * pixel;
+    const auto room = static_cast<double>(swatch - left - (kMargin + kTextGap) * pixel);
     const int first = start >= 0 ? 0 : static_cast<int>(std::min<std::int64_t>(-start / rowHeight, rows));
     for (int i = first; i < rows; ++i) {
         const std::int64_t y = start + rowHeight * i;
         if (y > canvas.Height())
             break;
-        canvas.Text(place(left + kMargin * pixel, y), graphLegend.TextAt(i));
+        canvas.Text(place(left + kMargin * pixel, y), canvas.Shorten(graphLegend.TextAt(i), room));
         canvas.SetFill(pass->data.Colour(i));
         box(ToCoordinate(swatch), y, right - kMargin * pixel, y + kSwatchHeight * pixel);
     }

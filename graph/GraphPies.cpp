@@ -24,8 +24,8 @@ constexpr double kTextGap = 3;
 constexpr double kTilt = 0.5;     // height of a tilted pie, of its width
 constexpr double kMostRim = 0.25; // of the room's height
 constexpr double kRimLight = 0.65;
-constexpr double kInsideReach = 0.66; // where a share stands inside its sector, of the radius
-constexpr double kPi = 3.14159265358979323846;
+// Where a share may stand inside its sector, of the radius.
+constexpr double kInsideReaches[] = {0.66, 0.58, 0.74};
 
 constexpr COLORREF kInk = RGB(0, 0, 0);
 constexpr COLORREF kPaper = RGB(255, 255, 255);
@@ -47,26 +47,46 @@ COLORREF InkOn(COLORREF ground) {
     return light < kMiddle ? kPaper : kInk;
 }
 
+/// What all pies of a picture have in common.
+struct PieStyle {
+    double pixel = 1;
+    double tilt = 1;     ///< height of a pie, of its width
+    double rim = 0;      ///< at most
+    LabelSize share;     ///< of any share's text
+    bool beside = false; ///< whether shares may stand beside the pies
+
+    double Rim(double height) const { return std::min(rim, height * kMostRim); }
+    /// Of a pie in a room, with or without room for shares beside it.
+    double Radius(double width, double height) const {
+        const double aside =
+            beside ? share.width + (kLeader + kLeaderEnd + kTextGap) * pixel : kPieMargin * pixel / 2;
+        const double above = beside ? share.height / 2 + kLeader * pixel : kPieMargin * pixel / 2;
+        return std::min((width - 2 * aside) / 2, (height - 2 * above - Rim(height)) / (2 * tilt));
+    }
+};
+
 /// One pie in its room: sectors, rim and shares.
 class PiePainter {
 public:
-    PiePainter(const kavlix::GraphPass& pass, GraphCanvas& canvas, const kavlix::PlaneRect& room, bool tilted,
-               double rim)
-        : m_pass(pass), m_canvas(canvas), m_room(room) {
-        const double pixel = canvas.Pixel();
-        const double tilt = tilted ? kTilt : 1;
-        m_rim = tilted ? std::min(rim, room.Height() * kMostRim) : 0;
-        m_share = canvas.Measure("88.8%");
-        const double aside = m_share.width + (kLeader + kLeaderEnd + kTextGap) * pixel;
-        const double above = m_share.height / 2 + kLeader * pixel;
-        double radius = Radius(aside, above, tilt);
-        m_labelled = radius >= kSmallestLabelled * pixel;
-        if (!m_labelled)
-            radius = Radius(kPieMargin * pixel / 2, kPieMargin * pixel / 2, tilt);
+    PiePainter(const kavlix::GraphPass& pass, GraphCanvas& canvas, const kavlix::PlaneRect& room,
+               const PieStyle& style)
+        : m_pass(pass), m_canvas(canvas), m_room(room), m_style(style), m_rim(style.Rim(room.Height())) {
+        const double radius = style.Radius(room.Width(), room.Height());
         m_pie.centre = {(room.left + room.right) / 2, (room.top + room.bottom - m_rim) / 2};
-        m_pie.radiusX = std::max(radius, pixel);
-        m_pie.radiusY = std::max(radius * tilt, pixel);
+        m_pie.radiusX = std::max(radius, style.pixel);
+        m_pie.radiusY = std::max(radius * style.tilt, style.pixel);
+        m_lowest = m_pie.centre.y + m_pie.radiusY + m_rim;
     }
+
+    /// Whether every share finds room inside its sector.
+    bool HoldsShares(const std::vector<Sector>& sectors) const {
+        return std::all_of(sectors.begin(), sectors.end(), [&](const Sector& sector) {
+            PlanePoint place;
+            return FindInside(sector, m_canvas.Measure(ShareText(sector.percent)), place);
+        });
+    }
+    /// The lowest place that Draw has drawn on.
+    double Lowest() const { return m_lowest; }
 
     void Draw(const std::vector<Sector>& sectors) {
         m_canvas.SetLine(kPaper);
@@ -90,14 +110,21 @@ public:
     }
 
 private:
-    double Radius(double aside, double above, double tilt) const {
-        return std::min((m_room.Width() - 2 * aside) / 2, (m_room.Height() - 2 * above - m_rim) / (2 * tilt));
-    }
     COLORREF Colour(const Sector& sector) const { return m_pass.data.Colour(sector.group); }
 
-    bool FitsInside(const Sector& sector, const LabelSize& size) const {
-        const double across = std::min(sector.sweep, 180.0) * kPi / 180 * kInsideReach * m_pie.radiusY;
-        return across > std::hypot(size.width, size.height) * 1.05 && m_pie.radiusY * 0.8 > size.width;
+    /// Where a share's text, by its upper left corner, lies in its sector whole.
+    bool FindInside(const Sector& sector, const LabelSize& size, PlanePoint& place) const {
+        constexpr double kFullCircle = 360;
+        for (const double reach : kInsideReaches) {
+            const PlanePoint middle =
+                sector.sweep < kFullCircle ? m_pie.At(sector.Middle(), reach) : m_pie.centre;
+            place = {middle.x - size.width / 2, middle.y - size.height / 2};
+            const double gap = m_style.pixel;
+            if (m_pie.Holds(sector,
+                            {place.x - gap, place.y, place.x + size.width + gap, place.y + size.height}))
+                return true;
+        }
+        return false;
     }
 
     void DrawShares(const std::vector<Sector>& sectors) {
@@ -105,12 +132,11 @@ private:
         for (const Sector& sector : sectors) {
             const CString text = ShareText(sector.percent);
             const LabelSize size = m_canvas.Measure(text);
-            if (FitsInside(sector, size)) {
-                const bool whole = sectors.size() == 1;
-                const PlanePoint middle = whole ? m_pie.centre : m_pie.At(sector.Middle(), kInsideReach);
+            PlanePoint place;
+            if (FindInside(sector, size, place)) {
                 m_canvas.Dc().SetTextColor(InkOn(Colour(sector)));
-                m_canvas.Text({middle.x - size.width / 2, middle.y - size.height / 2}, text);
-            } else if (m_labelled) {
+                m_canvas.Text(place, text);
+            } else if (m_style.beside) {
                 outside[sector.Middle() > 180].push_back(&sector);
             }
         }
@@ -140,7 +166,8 @@ private:
             middles.clear();
             for (const Sector* sector : sectors)
                 middles.push_back(RimPoint(*sector, kLeader * pixel).y);
-            if (kavlix::SpreadMiddles(middles, m_share.height, m_room.top, m_room.bottom) || sectors.empty())
+            if (kavlix::SpreadMiddles(middles, m_style.share.height, m_room.top, m_room.bottom) ||
+                sectors.empty())
                 break;
             sectors.erase(
                 std::min_element(sectors.begin(), sectors.end(),
@@ -155,15 +182,16 @@ private:
             m_canvas.Polyline({RimPoint(*sectors[i], 0), {x, middles[i]}, {end, middles[i]}});
             const double width = m_canvas.Measure(text).width;
             m_canvas.Text({side > 0 ? end + kTextGap * pixel : end - kTextGap * pixel - width,
-                           middles[i] - m_share.height / 2},
+                           middles[i] - m_style.share.height / 2},
                           text);
+            m_lowest = std::max(m_lowest, middles[i] + m_style.share.height / 2);
         }
     }
 
     /// How far from the centre a share whose middle is at `y` must stand to be clear of pie and rim.
     double Beside(double y) const {
         const double lowest = m_pie.centre.y + m_rim;
-        const double half = m_share.height / 2;
+        const double half = m_style.share.height / 2;
         const double away = std::max({0.0, y - half - lowest, m_pie.centre.y - y - half}) / m_pie.radiusY;
         return away < 1 ? m_pie.radiusX * std::sqrt(1 - away * away) + kLeader * m_canvas.Pixel() : 0;
     }
@@ -171,10 +199,10 @@ private:
     const kavlix::GraphPass& m_pass;
     GraphCanvas& m_canvas;
     kavlix::PlaneRect m_room;
+    const PieStyle& m_style;
+    double m_rim;
     kavlix::PieOutline m_pie;
-    LabelSize m_share;
-    double m_rim = 0;
-    bool m_labelled = false;
+    double m_lowest;
 };
 
 void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
@@ -186,29 +214,55 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
     const kavlix::PlaneRect& plot = pass.plot;
     const GraphFont font(canvas, fontSize);
     const double nameHeight = count > 1 ? canvas.Character().height + kNameGap * pixel : 0;
-    kavlix::PieGrid grid =
-        kavlix::ArrangePies(count, plot.Width(), plot.Height(), kSmallestPie * pixel + nameHeight);
+    const auto sectorsOf = [&](int s) {
+        const kavlix::SeriesPoints& series = pass.data.series[static_cast<std::size_t>(s)];
+        return kavlix::MakeSectors(kavlix::GroupValues(series.values, pass.data.groups));
+    };
+    PieStyle style{pixel, tilted ? kTilt : 1, tilted ? rim : 0, canvas.Measure("88.8%"), false};
+    kavlix::PieGrid grid;
+    const auto arrange = [&](bool beside) {
+        style.beside = beside;
+        grid = kavlix::ArrangePies(count, plot.Width(), plot.Height(), kSmallestPie * pixel + nameHeight,
+                                   [&](double w, double h) { return style.Radius(w, h - nameHeight); });
+    };
+    const auto roomOf = [&](int s) {
+        const double width = plot.Width() / grid.columns;
+        const double height = plot.Height() / grid.rows;
+        const int row = s / grid.columns;
+        const int inRow = std::min(grid.columns, count - row * grid.columns);
+        const double left = (plot.left + plot.right - inRow * width) / 2 + s % grid.columns * width;
+        const double top = plot.top + row * height;
+        return kavlix::PlaneRect{left, top, left + width, top + height - nameHeight};
+    };
+    // Shares stand beside the pies only when some do not fit inside and the pies stay large enough.
+    arrange(false);
+    bool inside = true;
+    for (int s = 0; s < std::min(count, grid.columns * grid.rows) && inside; ++s)
+        inside = PiePainter(pass, canvas, roomOf(s), style).HoldsShares(sectorsOf(s));
+    if (!inside) {
+        arrange(true);
+        if (style.Radius(roomOf(0).Width(), roomOf(0).Height()) < kSmallestLabelled * pixel)
+            arrange(false);
+    }
+
     const int shown = std::min(count, grid.columns * grid.rows);
     // The last room tells how many pies found none.
     const int pies = shown < count ? std::max(shown - 1, 1) : shown;
-    const double width = plot.Width() / grid.columns;
-    const double height = plot.Height() / grid.rows;
     for (int s = 0; s < shown; ++s) {
-        const double left = plot.left + s % grid.columns * width;
-        const double top = plot.top + s / grid.columns * height;
-        const kavlix::PlaneRect room{left, top, left + width, top + height - nameHeight};
+        const kavlix::PlaneRect room = roomOf(s);
+        double bottom = room.bottom;
         CString name;
         if (s < pies) {
-            const kavlix::SeriesPoints& series = pass.data.series[static_cast<std::size_t>(s)];
-            PiePainter(pass, canvas, room, tilted, rim)
-                .Draw(kavlix::MakeSectors(kavlix::GroupValues(series.values, pass.data.groups)));
-            name = series.label;
+            PiePainter painter(pass, canvas, room, style);
+            painter.Draw(sectorsOf(s));
+            name = pass.data.series[static_cast<std::size_t>(s)].label;
+            bottom = std::min(bottom, painter.Lowest() + kNameGap * pixel);
         } else {
             name.Format("+ %d more", count - pies);
         }
         if (count > 1) {
-            const CString text = canvas.Shorten(name, width - kPieMargin * pixel);
-            canvas.Text({left + (width - canvas.Measure(text).width) / 2, room.bottom + pixel}, text);
+            const CString text = canvas.Shorten(name, room.Width() - kPieMargin * pixel);
+            canvas.Text({room.left + (room.Width() - canvas.Measure(text).width) / 2, bottom + pixel}, text);
         }
     }
 }

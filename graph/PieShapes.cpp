@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace kavlix {
 namespace {
@@ -41,9 +42,26 @@ std::vector<Sector> MakeSectors(const std::vector<KeyedValue>& values) {
     return sectors;
 }
 
+bool Sector::Holds(double angle) const {
+    const double turned = std::fmod(angle - start, kFullCircle);
+    return (turned < 0 ? turned + kFullCircle : turned) <= sweep;
+}
+
 PlanePoint PieOutline::At(double angle, double reach) const {
     const double radians = angle * kPi / 180;
     return {centre.x + reach * radiusX * std::sin(radians), centre.y - reach * radiusY * std::cos(radians)};
+}
+
+bool PieOutline::Holds(const Sector& sector, const PlaneRect& box) const {
+    constexpr double kClear = 0.97; // of the radius
+    for (const PlanePoint& corner : {PlanePoint{box.left, box.top}, PlanePoint{box.right, box.top},
+                                     PlanePoint{box.left, box.bottom}, PlanePoint{box.right, box.bottom}}) {
+        const double x = (corner.x - centre.x) / radiusX;
+        const double y = (centre.y - corner.y) / radiusY;
+        if (std::hypot(x, y) > kClear || !sector.Holds(std::atan2(x, y) * 180 / kPi))
+            return false;
+    }
+    return true;
 }
 
 std::vector<PlanePoint> SectorCorners(const PieOutline& pie, double start, double sweep) {
@@ -72,17 +90,18 @@ std::vector<PlanePoint> RimCorners(const PieOutline& pie, const RimArc& arc, dou
     return corners;
 }
 
-PieGrid ArrangePies(int count, double width, double height, double smallest) {
+PieGrid ArrangePies(int count, double width, double height, double smallest,
+                    const std::function<double(double, double)>& radius) {
     const auto fitting = [&](double extent) {
         return std::max(1, static_cast<int>(std::min(extent / smallest, static_cast<double>(count))));
     };
     const int mostColumns = fitting(width);
     const int mostRows = fitting(height);
     PieGrid best{mostColumns, mostRows};
-    double largest = -1;
+    double largest = -std::numeric_limits<double>::infinity();
     for (int columns = 1; columns <= mostColumns; ++columns) {
         const int rows = (count + columns - 1) / columns;
-        const double size = std::min(width / columns, height / std::max(rows, 1));
+        const double size = radius(width / columns, height / std::max(rows, 1));
         if (rows <= mostRows && size > largest) {
             largest = size;
             best = {columns, std::max(rows, 1)};

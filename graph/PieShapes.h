@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "graph/KeyedValue.h"
@@ -15,6 +16,8 @@ struct Sector {
     double percent = 0;
 
     double Middle() const { return start + sweep / 2; }
+    /// Whether the angle, whatever its round, lies within.
+    bool Holds(double angle) const;
 };
 
 /// Sectors in the order given, together 360 degrees. Values of 0 and below have none; the result is empty
@@ -29,6 +32,9 @@ struct PieOutline {
 
     /// The place at `angle`, `reach` outlines away from the centre.
     PlanePoint At(double angle, double reach = 1) const;
+    /// Whether the corners of `box` all lie in the sector, and clear of the outline. A box round
+    /// a point of the sector then lies in it whole.
+    bool Holds(const Sector& sector, const PlaneRect& box) const;
 };
 
 /// The corners of a sector: its arc, then the centre; of a whole circle the arc alone.
@@ -53,8 +59,10 @@ struct PieGrid {
     int rows = 1;
 };
 
-/// The grid in which `count` boxes hold the largest circles in a room of
-/// `width` x `height`. Fewer boxes than asked for when each would be smaller than `smallest` wide or high.
-PieGrid ArrangePies(int count, double width, double height, double smallest);
+/// The grid of `count` boxes in a room of `width` x `height` in which `radius`, the size of a pie in a box of
+/// a width and a height, is largest. Fewer boxes than asked for when each would be smaller than `smallest`
+/// wide or high.
+PieGrid ArrangePies(int count, double width, double height, double smallest,
+                    const std::function<double(double, double)>& radius);
 
 } // namespace kavlix

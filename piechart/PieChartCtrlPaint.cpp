@@ -6,6 +6,7 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Offscreen.h"
+#include "gdi/PictureFile.h"
 #include "gdi/Text.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "piechart/PieGeometry.h"
@@ -58,6 +59,14 @@ LRESULT CPieChartCtrl::OnPrintClient(WPARAM wParam, LPARAM) {
         return Default();
     DrawPie(*dc);
     return 0;
+}
+
+bool CPieChartCtrl::SaveImage(CString strFileName) {
+    if (m_hWnd == nullptr)
+        return false;
+    CRect client;
+    GetClientRect(&client);
+    return SavePicture(strFileName, client.Size(), [this](CDC& dc) { DrawPie(dc); });
 }
 
 BOOL CPieChartCtrl::OnEraseBkgnd(CDC*) {

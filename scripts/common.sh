@@ -75,16 +75,19 @@ start_xvfb() {
 # unmanaged for displays of our own, on which no window manager runs.
 use_wine() {
     export WINEPREFIX=$build/$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
-    [ ! -e "$WINEPREFIX/.made" ] || return 0
+    local mark=$WINEPREFIX/.made-2 # the number grows with what stands below, so that older prefixes are made anew
+    [ ! -e "$mark" ] || return 0
     say "Making the Wine prefix ..."
     rm -rf "$WINEPREFIX"
     mkdir -p "$build"
     wine wineboot --init >"$build/wineboot.log" 2>&1 || die "Wine could not make its prefix (log: $build/wineboot.log)"
+    # Arial is not there, and the closest by family would have serifs; these letters have its widths.
+    wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v Arial /d 'Liberation Sans' /f >>"$build/wineboot.log" 2>&1
     # Without a window manager to wait for, windows show at once and get the frame that Wine draws.
     [ "${2-}" != unmanaged ] ||
         wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >>"$build/wineboot.log" 2>&1
     wineserver -w
-    touch "$WINEPREFIX/.made"
+    touch "$mark"
 }
 
 # keep_wine: one server for the whole run, ended with it; it saves each program the 2.5 seconds of starting

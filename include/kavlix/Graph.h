@@ -144,7 +144,8 @@ public:
     void SetMargins(int top, int bottom, int left, int right, int graphTop);
     /// Appends a colour to the list. Colours go by position in the list, not by `group`.
     void SetColor(int group, COLORREF color);
-    /// Appends a legend text; ignored for a scatter graph. Texts go by position in the list.
+    /// Appends a legend text; ignored for a scatter graph. Texts go by position in the list. One that would
+    /// reach into the colour beside it is cut and ends in dots.
     void SetLegend(int group, CString text);
     /// @}
 

@@ -87,6 +87,11 @@ public:
     /// Invalidates the window with erase.
     void Refresh();
 
+    /// Saves the picture of the client area as PNG, BMP or EMF, as the extension of the name says (.png,
+    /// .bmp, .emf). False without a window, for any other extension, or when the file cannot be written; a
+    /// file of that name is then as it was before.
+    bool SaveImage(CString strFileName);
+
     // ---- Geometry ----
 
     /// Computes the pie's square from the client area, as every paint does. Without a window it stays as it

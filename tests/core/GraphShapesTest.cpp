@@ -111,8 +111,9 @@ TEST(PieGeometryTest, OnlyTheNearHalfOfTheRimShows) {
 }
 
 TEST(PieGeometryTest, PiesAreArrangedToBecomeLarge) {
-    const auto grid = [](int count, double width, double height) {
-        const PieGrid g = ArrangePies(count, width, height, 50);
+    std::function<double(double, double)> radius = [](double w, double h) { return std::min(w, h) / 2; };
+    const auto grid = [&](int count, double width, double height) {
+        const PieGrid g = ArrangePies(count, width, height, 50, radius);
         return std::to_string(g.columns) + "x" + std::to_string(g.rows);
     };
     EXPECT_EQ(grid(1, 600, 400), "1x1");
@@ -121,6 +122,27 @@ TEST(PieGeometryTest, PiesAreArrangedToBecomeLarge) {
     EXPECT_EQ(grid(12, 400, 300), "4x3");
     EXPECT_EQ(grid(300, 200, 100), "4x2") << "no smaller than told";
     EXPECT_EQ(grid(5, 1, 1), "1x1");
+    EXPECT_EQ(grid(3, 480, 300), "3x1");
+    radius = [](double w, double h) { return std::min(w - 100, h - 40) / 2; };
+    EXPECT_EQ(grid(3, 480, 300), "2x2") << "texts on both sides take more of narrow boxes";
+}
+
+TEST(PieGeometryTest, ABoxLiesInItsSectorWholeOrNot) {
+    const PieOutline pie{{100, 100}, 50, 25};
+    struct Case {
+        Sector sector;
+        PlaneRect box;
+        bool inside;
+    };
+    const Case cases[] = {
+        {{0, 0, 90, 0}, {105, 85, 125, 95}, true},   {{0, 0, 90, 0}, {95, 85, 125, 95}, false},
+        {{0, 0, 90, 0}, {105, 85, 145, 95}, false},  {{0, 0, 90, 0}, {105, 76, 125, 95}, false},
+        {{0, 300, 120, 0}, {90, 80, 110, 90}, true}, {{0, 300, 120, 0}, {70, 85, 100, 98}, false},
+        {{0, 0, 360, 0}, {80, 90, 120, 110}, true},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(pie.Holds(c.sector, c.box), c.inside)
+            << c.sector.start << " " << c.box.left << " " << c.box.top;
 }
 
 TEST(SolidTest, FacesDepthAndLight) {

@@ -101,6 +101,21 @@ TEST_F(MultiGraphTest, LegendBoxRowsAndSwatches) {
     EXPECT_LT(IndexOf(*recorder, "\"Legend\""), IndexOf(*recorder, "\"100\"")) << "legend before axes";
 }
 
+TEST_F(MultiGraphTest, LegendTextsEndBeforeTheSwatch) {
+    Make(0);
+    Fill({{1, 2}});
+    graph->SetLegend(0, "WWWWWWWWWWWWWWWW");
+    graph->SetLegend(1, "illicit ililliil");
+    const auto recorder = Record();
+    EXPECT_NE(Find(*recorder, "illicit ililliil"), nullptr);
+    EXPECT_EQ(Find(*recorder, "WWWWWWWWWWWWWWWW"), nullptr);
+    const Strings texts = recorder->Texts();
+    const auto cut =
+        std::find_if(texts.begin(), texts.end(), [](const std::string& t) { return t[0] == 'W'; });
+    ASSERT_NE(cut, texts.end());
+    EXPECT_EQ(cut->substr(cut->size() - 3), "...");
+}
+
 TEST_F(MultiGraphTest, QuadrantsFollowTheFirstValuesUnlessChosen) {
     struct Case {
         int key, value, type;

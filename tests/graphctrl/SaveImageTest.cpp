@@ -11,15 +11,9 @@ TEST_F(GraphTest, SavesThePictureOfTheWindow) {
     std::snprintf(path, MAX_PATH, "%skvx%lu.bmp", folder, ::GetCurrentProcessId());
     EXPECT_FALSE(OpenGraph().SaveImage(path)) << "without a window";
     ASSERT_TRUE(graph.SaveImage(path));
-    CBitmap bitmap;
-    EXPECT_TRUE(bitmap.Attach(::LoadImageA(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE)));
-    ::DeleteFileA(path);
     const auto painted = Paint();
     testkit::DibSurface saved(painted->Width(), painted->Height());
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
-    CBitmap* const old = dc.SelectObject(&bitmap);
-    ::BitBlt(saved.Dc(), 0, 0, saved.Width(), saved.Height(), dc.GetSafeHdc(), 0, 0, SRCCOPY);
-    dc.SelectObject(old);
+    EXPECT_TRUE(saved.Load(path));
+    ::DeleteFileA(path);
     EXPECT_EQ(testkit::Difference(*painted, saved, CRect(0, 0, 299, 199)), "");
 }

@@ -237,6 +237,23 @@ TEST_F(PiePaintTest, OnePictureForEveryDestination) {
     EXPECT_EQ(::GetCurrentObject(moved.Dc(), OBJ_FONT), before[2]);
 }
 
+TEST_F(PiePaintTest, SavesThePictureOfTheWindow) {
+    Resize(161, 120); // an odd width: rows of the file are padded
+    Add({30, 20, 50});
+    char folder[MAX_PATH] = "", path[MAX_PATH] = "";
+    ::GetTempPathA(MAX_PATH, folder);
+    ASSERT_NE(::GetTempFileNameA(folder, "kvx", 0, path), 0u);
+    EXPECT_FALSE(pie.SaveImage(path)) << "no extension of a picture";
+    const std::string picture = std::string(path) + ".bmp";
+    EXPECT_FALSE(OpenPie().SaveImage(picture.c_str())) << "without a window";
+    ASSERT_TRUE(pie.SaveImage(picture.c_str()));
+    testkit::DibSurface saved(161, 120);
+    EXPECT_TRUE(saved.Load(picture.c_str()));
+    EXPECT_EQ(testkit::Difference(*Paint(), saved), "");
+    ::DeleteFileA(path);
+    ::DeleteFileA(picture.c_str());
+}
+
 TEST_F(PiePaintTest, ResizedWindowsRepaintWhole) {
     Add({60, 40});
     pie.SetWindowPos(nullptr, 0, 0, 260, 240, SWP_NOZORDER | SWP_NOMOVE);

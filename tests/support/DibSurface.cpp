@@ -81,15 +81,32 @@ int DibSurface::Columns(COLORREF colour, int left, int right) const {
     return columns;
 }
 
-void DibSurface::Grab(HWND window) {
-    const HDC source = GetDC(window);
+void DibSurface::Copy(HDC source) {
     const int saved = SaveDC(m_dc);
     SetMapMode(m_dc, MM_TEXT);
     SetViewportOrgEx(m_dc, 0, 0, nullptr);
     SetWindowOrgEx(m_dc, 0, 0, nullptr);
     BitBlt(m_dc, 0, 0, m_width, m_height, source, 0, 0, SRCCOPY);
     RestoreDC(m_dc, saved);
+}
+
+void DibSurface::Grab(HWND window) {
+    const HDC source = GetDC(window);
+    Copy(source);
     ReleaseDC(window, source);
+}
+
+bool DibSurface::Load(const char* path) {
+    const HANDLE bitmap = LoadImageA(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE);
+    if (bitmap == nullptr)
+        return false;
+    const HDC source = CreateCompatibleDC(nullptr);
+    const HGDIOBJ old = SelectObject(source, bitmap);
+    Copy(source);
+    SelectObject(source, old);
+    DeleteDC(source);
+    DeleteObject(bitmap);
+    return true;
 }
 
 std::string Difference(const DibSurface& a, const DibSurface& b, const RECT& area) {

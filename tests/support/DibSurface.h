@@ -33,8 +33,12 @@ public:
 
     /// Copies what a window's DC shows into this picture, from (0, 0) on.
     void Grab(HWND window);
+    /// Copies the picture of a .bmp file into this one, from (0, 0) on. False when it cannot be read.
+    bool Load(const char* path);
 
 private:
+    void Copy(HDC source);
+
     int m_width;
     int m_height;
     HDC m_dc = nullptr;

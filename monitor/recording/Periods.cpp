@@ -165,8 +165,7 @@ WholeScale ChooseWholeScale(const ValueSpan& values, bool fromZero) {
     const double range = high > low ? high / 2 - low / 2 : largest / 2;
     const auto units = [](double value, int power) { return value * std::pow(10, power); };
     int power = 0;
-    while (power < kLargestPower && 2 * units(range, power) < kFewestUnits &&
-           units(largest, power + 1) <= kLargest)
+    while (power < kLargestPower && 2 * units(range, power) < kFewestUnits)
         ++power;
     while (power > -kLargestPower - 10 && units(largest, power) > kMostUnits &&
            (2 * units(range, power - 1) >= kFewestUnits || units(largest, power) > kLargest))

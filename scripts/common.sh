@@ -74,6 +74,8 @@ start_xvfb() {
 # use_wine NAME [unmanaged]: the Wine prefix of that name in the build folder, made when there is none yet;
 # unmanaged for displays of our own, on which no window manager runs.
 use_wine() {
+    # Wine names files in the characters of the locale: without UTF-8 it cannot make most names.
+    [ "$(locale charmap 2>/dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
     export WINEPREFIX=$build/$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
     local mark=$WINEPREFIX/.made-2 # the number grows with what stands below, so that older prefixes are made anew
     [ ! -e "$mark" ] || return 0

@@ -17,15 +17,18 @@ CDataset::CDataset()
 CDataset::~CDataset() = default;
 
 BOOL CDataset::AddData(double y, double* pX) {
-    const int index = GetSize();
     if (!AddYData(y))
         return FALSE;
     if (pX != nullptr)
-        *pX = index;
+        *pX = GetSize() - 1;
     return TRUE;
 }
 
 BOOL CDataset::AddYData(double y) {
+    return m_Samples->TryAppend(y) || AppendReporting(y);
+}
+
+BOOL CDataset::AppendReporting(double y) {
     return kavlix::ReportingExhaustion([&] { m_Samples->Append(y); });
 }
 

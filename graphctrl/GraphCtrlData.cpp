@@ -2,22 +2,14 @@
 
 #include <algorithm>
 
+using namespace kavlix;
+
 namespace {
 
 // The visible range ends this far behind the newest sample, so that the sample lies inside.
 constexpr double kBehindNewest = 0.001;
 
-void AppendLabel(CStringArray& labels, const CString& text) {
-    // Growing by the array's own size each time it has doubled keeps the cost of a label constant, however
-    // many there are; the collection's own rule stops at 1024 at a time.
-    constexpr INT_PTR kOwnRuleUpTo = 1024;
-    const INT_PTR size = labels.GetSize();
-    if (size >= kOwnRuleUpTo && (size & (size - 1)) == 0)
-        labels.SetSize(size, size);
-    labels.Add(text);
-}
-
-void RemoveLabels(CStringArray& labels, int count) {
+void RemoveLabels(LabelStore& labels, int count) {
     const INT_PTR removed = std::min<INT_PTR>(count, labels.GetSize());
     if (removed > 0)
         labels.RemoveAt(0, removed);
@@ -37,8 +29,8 @@ BOOL CGraphCtrl::AddData(int nDataset, double y, double* pX) {
 }
 
 BOOL CGraphCtrl::AddXTickLabel(CString up, CString down) {
-    AppendLabel(m_XTickLabelUp, up);
-    AppendLabel(m_XTickLabelDown, down);
+    m_XTickLabelUp.Add(up);
+    m_XTickLabelDown.Add(down);
     return TRUE;
 }
 
@@ -81,6 +73,6 @@ void CGraphCtrl::RemoveHeadData(int nCount) {
 }
 
 void CGraphCtrl::ResetXTickLabel() {
-    m_XTickLabelUp.SetSize(0);
-    m_XTickLabelDown.SetSize(0);
+    m_XTickLabelUp.RemoveAll();
+    m_XTickLabelDown.RemoveAll();
 }

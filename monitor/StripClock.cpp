@@ -30,16 +30,24 @@ Time OffsetAt(Time time) {
 
 } // namespace
 
-long StripClock::Stamp(Time time) {
-    const Time day = FloorTo(time, kMicrosPerDay);
-    if (!m_known || day != m_day) {
-        m_known = true;
-        m_day = day;
-        m_offset = OffsetAt(day);
-        m_steady = OffsetAt(day + kMicrosPerDay) == m_offset;
+void StripClock::FindSpan(Time time) {
+    // Zones change their offset at most once in a week, and seldom: asking costs more than all else. The last
+    // unit holds one offset in any case.
+    constexpr Time units[] = {7 * kMicrosPerDay, kMicrosPerDay, kMicrosPerDay / 24, 60 * kMicrosPerSecond,
+                              kMicrosPerSecond};
+    for (const Time unit : units) {
+        m_begin = FloorTo(time, unit);
+        m_end = m_begin + unit;
+        m_offset = OffsetAt(m_begin);
+        if (unit == kMicrosPerSecond || OffsetAt(m_end) == m_offset)
+            return;
     }
-    const Time seconds =
-        FloorTo(time, kMicrosPerSecond) / kMicrosPerSecond + (m_steady ? m_offset : OffsetAt(time));
+}
+
+long StripClock::Stamp(Time time) {
+    if (time < m_begin || time >= m_end)
+        FindSpan(time);
+    const Time seconds = FloorTo(time, kMicrosPerSecond) / kMicrosPerSecond + m_offset;
     constexpr Time limit = std::numeric_limits<std::int32_t>::max();
     const long stamp = static_cast<long>(std::clamp(seconds, -limit, limit));
     m_last = m_any ? std::max(m_last, stamp) : stamp;

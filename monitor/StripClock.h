@@ -17,10 +17,11 @@ public:
     void Reset() { *this = StripClock(); }
 
 private:
-    recording::Time m_day = 0; ///< begin of the day that m_offset belongs to
-    recording::Time m_offset = 0;
-    bool m_known = false;  ///< m_day and m_offset are set
-    bool m_steady = false; ///< the offset is the same all that day
+    void FindSpan(recording::Time time);
+
+    recording::Time m_begin = 0; ///< of the span of time in which m_offset holds
+    recording::Time m_end = 0;
+    recording::Time m_offset = 0; ///< seconds
     bool m_any = false;
     long m_last = 0;
 };

@@ -1,5 +1,6 @@
 #include <kavlix/ScrollGraphCtrl.h>
 
+#include "scrollgraph/ScrollGraphCtrlClock.h"
 #include "scrollgraph/TimeLine.h"
 #include "scrollgraph/ViewWindow.h"
 
@@ -31,9 +32,10 @@ ON_COMMAND(ID_GRAPH_SEND_SELECTION_MARK, &CScrollGraphCtrl::OnSendSelectionMarkI
 END_MESSAGE_MAP()
 
 CScrollGraphCtrl::CScrollGraphCtrl()
-    : m_arrTime(std::make_unique<TimeLine>()), m_dScrollPos(0), m_dScrollMax(ViewWindow::kInitialMax),
-      m_dScrollMin(0), m_dViewWidth(kInitialWidth), m_nUnitsPerSecond(kXUnitsPerSecond), m_bTindroMode(false),
-      m_bScrollSync(FALSE), m_bFollowed(FALSE), m_nDrawFirst(-1), m_nDrawLast(-1) {
+    : m_arrTime(std::make_unique<TimeLine>()), m_zoneRules(std::make_unique<ZoneRules>()), m_dScrollPos(0),
+      m_dScrollMax(ViewWindow::kInitialMax), m_dScrollMin(0), m_dViewWidth(kInitialWidth),
+      m_nUnitsPerSecond(kXUnitsPerSecond), m_bTindroMode(false), m_bScrollSync(FALSE), m_bFollowed(FALSE),
+      m_nDrawFirst(-1), m_nDrawLast(-1) {
 }
 
 CScrollGraphCtrl::~CScrollGraphCtrl() {

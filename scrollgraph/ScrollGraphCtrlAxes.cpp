@@ -36,7 +36,7 @@ int CScrollGraphCtrl::SelectTickUnit(int nTicks, double& spacing) const {
 int CScrollGraphCtrl::TickPos(int nIndex, int nStep, int (*secondsToRound)(const CalendarTime&, int),
                               CString& fullTime) const {
     const std::int64_t time = m_arrTime->At(nIndex);
-    const SystemClock clock;
+    const SystemClock clock(*m_zoneRules);
     const int delta = nStep > 0 ? secondsToRound(clock.ToLocal(time), nStep) : 0;
     fullTime = FullTimeText(clock.ToLocal(time + delta)).c_str();
     return ToCoordinate(UnitsPerSecond() * delta);
@@ -74,10 +74,11 @@ CString CScrollGraphCtrl::GetNextTickTime(int nUnit, CString& date, CString& tim
     if (!read || !within(year, firstYear, lastYear) || !within(month, 1, 12) || !within(day, 1, 31) ||
         !within(hour, 0, 23) || !within(minute, 0, 59) || !within(second, 0, 59))
         return date + " " + time;
-    const CTime start(year, month, day, hour, minute, second);
-    if (start.GetMonth() != month) // no such day in that month
+    const SystemClock clock(*m_zoneRules);
+    const auto start = clock.FromLocal({year, month, day, hour, minute, second});
+    if (!start) // no such day in that month
         return date + " " + time;
-    return FullTimeText(SystemClock().ToLocal(start.GetTime() + nUnit)).c_str();
+    return FullTimeText(clock.ToLocal(*start + nUnit)).c_str();
 }
 
 void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) {
@@ -103,7 +104,7 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     const int spacing = ToCoordinate(exactSpacing);
     // Of more ticks than there are pixels only some can be seen.
     const int every = spacing > 0 ? (kMinTickDistance + spacing - 1) / spacing : 1;
-    const SystemClock clock;
+    const SystemClock clock(*m_zoneRules);
     TimeTicks ticks(clock, m_arrTime->At(first), unit, every);
     const int y = rectLabel.top + kLabelGap;
     std::int64_t x = std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());

@@ -71,7 +71,7 @@ void CScrollGraphCtrl::RemoveHeadData(int nCount) {
 BOOL CScrollGraphCtrl::GetXData(int nIndex, CString& date, CString& time) {
     if (!m_arrTime->Has(nIndex))
         return FALSE;
-    const CalendarTime local = SystemClock().ToLocal(m_arrTime->At(nIndex));
+    const CalendarTime local = SystemClock(*m_zoneRules).ToLocal(m_arrTime->At(nIndex));
     date.Format("%02d/%02d", local.month, local.day);
     time.Format("%02d:%02d:%02d", local.hour, local.minute, local.second);
     return TRUE;
@@ -80,7 +80,7 @@ BOOL CScrollGraphCtrl::GetXData(int nIndex, CString& date, CString& time) {
 int CScrollGraphCtrl::GetFullTime(int nIndex, CString& text) const {
     if (!m_arrTime->Has(nIndex))
         return 0;
-    text = FullTimeText(SystemClock().ToLocal(m_arrTime->At(nIndex))).c_str();
+    text = FullTimeText(SystemClock(*m_zoneRules).ToLocal(m_arrTime->At(nIndex))).c_str();
     return 1;
 }
 

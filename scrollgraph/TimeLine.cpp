@@ -26,29 +26,29 @@ double TimeLine::X(int index) const {
 }
 
 void TimeLine::Append(std::int32_t time) {
-    if (m_times.size() >= static_cast<std::size_t>(std::numeric_limits<int>::max()))
+    if (m_times.Size() >= static_cast<std::size_t>(std::numeric_limits<int>::max()))
         throw std::bad_alloc();
-    const bool stepsBack = !m_times.empty() && time < m_times.back();
-    m_times.push_back(time);
+    const bool stepsBack = !m_times.IsEmpty() && time < m_times.Back();
+    m_times.Add(time);
     if (stepsBack)
         m_lastStepBack = Size() - 1;
 }
 
 void TimeLine::RemoveHead(int count) {
     const int removed = std::clamp(count, 0, Size());
-    m_times.erase(m_times.begin(), m_times.begin() + removed);
+    m_times.RemoveHead(static_cast<std::size_t>(removed));
     m_lastStepBack = std::max(m_lastStepBack - removed, 0);
 }
 
 void TimeLine::Clear() {
-    m_times.clear();
-    m_times.shrink_to_fit();
+    m_times.Clear();
     m_lastStepBack = 0;
 }
 
 void TimeLine::KeepOne() {
-    m_times.resize(1);
-    m_times.shrink_to_fit();
+    if (m_times.IsEmpty())
+        m_times.Add(0);
+    m_times.KeepOne();
     m_lastStepBack = 0;
 }
 

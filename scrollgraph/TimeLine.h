@@ -2,7 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
+
+#include "scrollgraph/StampStore.h"
 
 namespace kavlix {
 
@@ -17,7 +18,7 @@ inline constexpr int kXUnitsPerSecond = 20;
 class TimeLine {
 public:
     /// Number of stamps; never above what an int counts.
-    int Size() const { return static_cast<int>(m_times.size()); }
+    int Size() const { return static_cast<int>(m_times.Size()); }
     bool Has(int index) const { return index >= 0 && index < Size(); }
     /// Stamp `index`; 0 when there is none.
     std::int32_t At(int index) const { return Has(index) ? Stamp(index) : 0; }
@@ -50,7 +51,7 @@ public:
 private:
     std::int32_t Stamp(int index) const { return m_times[static_cast<std::size_t>(index)]; }
 
-    std::deque<std::int32_t> m_times;
+    StampStore m_times;
     int m_lastStepBack = 0; ///< the last index whose stamp is before its predecessor's; 0 for none
 };
 

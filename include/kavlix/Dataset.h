@@ -66,6 +66,8 @@ public:
     void SetLegend(CString text) { m_Legend = text; }
 
 private:
+    BOOL AppendReporting(double y);
+
     std::unique_ptr<kavlix::SampleStore> m_Samples;
 
 public:

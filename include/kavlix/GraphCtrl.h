@@ -1,11 +1,11 @@
 #pragma once
 
-#include <afxcoll.h>
 #include <afxwin.h>
 
 #include <kavlix/Dataset.h>
 #include <kavlix/Export.h>
 #include <kavlix/GraphNotify.h>
+#include <kavlix/LabelStore.h>
 
 #include <functional>
 #include <optional>
@@ -309,8 +309,8 @@ protected:
     GraphStyle m_GraphStyle;
     TitleStyle m_TitleStyle;
     CDataset m_Datasets[DatasetCount];
-    CStringArray m_XTickLabelUp;
-    CStringArray m_XTickLabelDown;
+    kavlix::LabelStore m_XTickLabelUp;
+    kavlix::LabelStore m_XTickLabelDown;
     BOOL m_ShowBorder;
 
     // Layout, in logical units unless said otherwise; written by every paint, empty before the first.

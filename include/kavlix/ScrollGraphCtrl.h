@@ -7,6 +7,7 @@
 namespace kavlix {
 class TimeLine;
 class TimeMap;
+class ZoneRules;
 struct CalendarTime;
 struct ViewWindow;
 } // namespace kavlix
@@ -147,6 +148,7 @@ protected:
 
 private:
     std::unique_ptr<kavlix::TimeLine> m_arrTime;
+    std::unique_ptr<kavlix::ZoneRules> m_zoneRules; ///< what the system told for the time labels
 
 protected:
     // In x units.

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cwchar>
 
 namespace kavlix::test {
 namespace {
@@ -34,13 +35,23 @@ constexpr int kPixel = 30;
 const Time kStart = recording::FromCivil({2021, 1, 12, 10, 0, 0, 0});
 
 /// The rules of New York, of every year.
+int g_asked = 0;
+
 BOOL WINAPI NewYork(USHORT, PDYNAMIC_TIME_ZONE_INFORMATION, LPTIME_ZONE_INFORMATION zone) {
+    ++g_asked;
     *zone = {};
     zone->Bias = 300;
     zone->DaylightBias = -60;
     zone->DaylightDate = {0, 3, 0, 2, 2, 0, 0, 0}; // the second Sunday in March
     zone->StandardDate = {0, 11, 0, 1, 2, 0, 0, 0};
     return TRUE;
+}
+
+/// The same for whoever keeps rules by the zone.
+DWORD WINAPI InNewYork(PDYNAMIC_TIME_ZONE_INFORMATION zone) {
+    *zone = {};
+    std::wcscpy(zone->TimeZoneKeyName, L"Eastern Standard Time");
+    return TIME_ZONE_ID_UNKNOWN;
 }
 
 struct Inside : CMonitorScrollGraph {
@@ -352,11 +363,22 @@ TEST(StripClock, StampsReadAsTheFileDoesAndNeverGoBack) {
                 << recording::FormatExact(time);
         }
     }
+    // Asking the system takes long, and a day has many samples.
+    g_asked = 0;
+    monitor::StripClock clock;
+    const Time day = recording::FromCivil({2021, 3, 14, 0, 0, 0, 0});
+    for (Time time = day; time < day + 24 * 3600 * S; time += S)
+        clock.Stamp(time);
+    EXPECT_LT(g_asked, 2000);
 }
 
 TEST_F(ScrollPage, LabelsAndTindroTellTheTimesOfTheFile) {
-    const testkit::ImportHook zone("KavlixMfc.dll", "GetTimeZoneInformationForYear",
-                                   reinterpret_cast<void*>(&NewYork));
+    const testkit::ImportHook stamps("KavlixMfc.dll", "GetTimeZoneInformationForYear",
+                                     reinterpret_cast<void*>(&NewYork));
+    const testkit::ImportHook rules("Kavlix.dll", "GetTimeZoneInformationForYear",
+                                    reinterpret_cast<void*>(&NewYork));
+    const testkit::ImportHook zone("Kavlix.dll", "GetDynamicTimeZoneInformation",
+                                   reinterpret_cast<void*>(&InNewYork));
     const recording::CivilTime days[] = {{2021, 1, 12, 23, 59, 58, 0}, {2021, 7, 1, 4, 5, 6, 0},
                                          {2024, 2, 29, 12, 0, 0, 0},   {1969, 12, 31, 23, 0, 0, 0},
                                          {1908, 5, 5, 5, 5, 5, 0},     {2037, 12, 31, 23, 59, 59, 0}};

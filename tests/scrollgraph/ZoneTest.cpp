@@ -208,3 +208,27 @@ TEST_F(ScrollZoneTest, LordHowe) {
     EXPECT_EQ(FullTime(1791041400), "2026/10/04 02:30:00");
     EXPECT_EQ(Next("2026/10/04 01:30:00", 1800), "2026/10/04 02:30:00");
 }
+
+TEST_F(ScrollZoneTest, AnotherZoneIsSeenAtOnceAndNoYearIsAskedForTwice) {
+    FixedZone zone(L"Eastern Standard Time");
+    ASSERT_TRUE(zone.Works());
+    const long newYear = 1767225600;
+    for (int i = 0; i < 3; ++i)
+        Check({{"New York",
+                newYear + 4 * 3600,
+                kHalfHours,
+                {"12/31 23:00:00", "23:30:00", "01/01 00:00:00", "00:30:00", "01:00:00", "01:30:00",
+                 "02:00:00"}}});
+    EXPECT_EQ(FullTime(newYear), "2025/12/31 19:00:00");
+    EXPECT_EQ(Next("2026/01/01 00:00:00", 3600), "2026/01/01 01:00:00");
+    EXPECT_EQ(zone.Asked(), 2) << "two years";
+    zone.Change(L"Nepal Standard Time");
+    EXPECT_EQ(Next("2026/01/01 00:00:00", 3600), "2026/01/01 01:00:00");
+    EXPECT_EQ(FullTime(newYear), "2026/01/01 05:45:00");
+    Check({{"Kathmandu",
+            newYear - 22500,
+            kHours,
+            {"01/01 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}}});
+    zone.Change(L"Eastern Standard Time");
+    EXPECT_EQ(FullTime(newYear), "2025/12/31 19:00:00");
+}

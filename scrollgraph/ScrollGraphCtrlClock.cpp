@@ -1,0 +1,105 @@
+#include "scrollgraph/ScrollGraphCtrlClock.h"
+
+#include <cstring>
+#include <cwchar>
+
+namespace kavlix {
+
+namespace {
+
+constexpr std::int64_t kTicksPerSecond = 10000000; // of a FILETIME
+constexpr std::int64_t kSecondsTo1970 = 11644473600;
+
+bool AreEqual(const SYSTEMTIME& a, const SYSTEMTIME& b) {
+    return std::memcmp(&a, &b, sizeof a) == 0; // eight numbers, nothing between them
+}
+
+/// Names of standard and daylight time do not count.
+bool AreEqual(const DYNAMIC_TIME_ZONE_INFORMATION& a, const DYNAMIC_TIME_ZONE_INFORMATION& b) {
+    return a.Bias == b.Bias && a.StandardBias == b.StandardBias && a.DaylightBias == b.DaylightBias &&
+           AreEqual(a.StandardDate, b.StandardDate) && AreEqual(a.DaylightDate, b.DaylightDate) &&
+           !a.DynamicDaylightTimeDisabled == !b.DynamicDaylightTimeDisabled &&
+           std::wcscmp(a.TimeZoneKeyName, b.TimeZoneKeyName) == 0;
+}
+
+/// None before 1601 and after what the system has a calendar for.
+std::optional<SYSTEMTIME> UtcOf(std::int64_t time) {
+    constexpr std::int64_t last = INT64_MAX / kTicksPerSecond - kSecondsTo1970;
+    if (time < -kSecondsTo1970 || time > last)
+        return std::nullopt;
+    const auto ticks = static_cast<std::uint64_t>((time + kSecondsTo1970) * kTicksPerSecond);
+    const FILETIME fileTime = {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+    SYSTEMTIME utc = {};
+    if (!::FileTimeToSystemTime(&fileTime, &utc))
+        return std::nullopt;
+    return utc;
+}
+
+std::optional<std::int64_t> TimeOf(const SYSTEMTIME& utc) {
+    FILETIME fileTime = {};
+    if (!::SystemTimeToFileTime(&utc, &fileTime))
+        return std::nullopt;
+    const std::uint64_t ticks = std::uint64_t{fileTime.dwHighDateTime} << 32 | fileTime.dwLowDateTime;
+    return static_cast<std::int64_t>(ticks) / kTicksPerSecond - kSecondsTo1970;
+}
+
+} // namespace
+
+void ZoneRules::Refresh() {
+    DYNAMIC_TIME_ZONE_INFORMATION zone = {};
+    if (::GetDynamicTimeZoneInformation(&zone) == TIME_ZONE_ID_INVALID)
+        zone = {};
+    if (AreEqual(zone, m_zone))
+        return;
+    m_years.clear();
+    m_zone = zone;
+}
+
+const TIME_ZONE_INFORMATION& ZoneRules::OfYear(WORD year) {
+    const auto known = m_years.find(year);
+    if (known != m_years.end())
+        return known->second;
+    TIME_ZONE_INFORMATION rules = {};
+    if (!::GetTimeZoneInformationForYear(year, &m_zone, &rules)) {
+        rules = {};
+        rules.Bias = m_zone.Bias;
+        rules.StandardBias = m_zone.StandardBias;
+        rules.DaylightBias = m_zone.DaylightBias;
+        rules.StandardDate = m_zone.StandardDate;
+        rules.DaylightDate = m_zone.DaylightDate;
+    }
+    return m_years.emplace(year, rules).first->second;
+}
+
+CalendarTime SystemClock::ToLocal(std::int64_t time) const {
+    CalendarTime result{1970, 1, 1, 0, 0, 0};
+    const std::optional<SYSTEMTIME> utc = UtcOf(time);
+    SYSTEMTIME local = {};
+    if (!utc || !::SystemTimeToTzSpecificLocalTime(&m_rules.OfYear(utc->wYear), &*utc, &local))
+        return result;
+    // Around New Year the local date may lie in another year, which may have other rules.
+    if (local.wYear != utc->wYear)
+        ::SystemTimeToTzSpecificLocalTime(&m_rules.OfYear(local.wYear), &*utc, &local);
+    result = {local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
+    return result;
+}
+
+std::optional<std::int64_t> SystemClock::FromLocal(const CalendarTime& local) const {
+    SYSTEMTIME wall = {};
+    wall.wYear = static_cast<WORD>(local.year);
+    wall.wMonth = static_cast<WORD>(local.month);
+    wall.wDay = static_cast<WORD>(local.day);
+    wall.wHour = static_cast<WORD>(local.hour);
+    wall.wMinute = static_cast<WORD>(local.minute);
+    wall.wSecond = static_cast<WORD>(local.second);
+    // Not every system refuses the 30th of February; some make it a day in March.
+    const std::optional<std::int64_t> asUtc = TimeOf(wall);
+    const std::optional<SYSTEMTIME> back = asUtc ? UtcOf(*asUtc) : std::nullopt;
+    SYSTEMTIME utc = {};
+    if (!back || back->wDay != wall.wDay ||
+        !::TzSpecificLocalTimeToSystemTime(&m_rules.OfYear(wall.wYear), &wall, &utc))
+        return std::nullopt;
+    return TimeOf(utc);
+}
+
+} // namespace kavlix

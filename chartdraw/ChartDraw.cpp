@@ -5,6 +5,7 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/RoundScale.h"
+#include "gdi/Offscreen.h"
 
 using namespace kavlix;
 

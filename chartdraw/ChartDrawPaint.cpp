@@ -1,6 +1,8 @@
 #include <kavlix/ChartDraw.h>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 #include "chartdraw/ChartDrawText.h"
 #include "chartdraw/RoundScale.h"
@@ -50,13 +52,17 @@ void CChartDraw::OnPaint() {
     GetClientRect(&client);
     if (client.IsRectEmpty())
         return;
-    Offscreen offscreen(paintDc, client.Size());
-    if (!offscreen.IsReady()) {
+    std::unique_ptr<Offscreen> picture = TakeOffscreen(m_Picture, paintDc, client.Size());
+    if (!picture) {
         DrawChart(paintDc);
         return;
     }
-    DrawChart(offscreen.Dc());
-    paintDc.BitBlt(0, 0, client.Width(), client.Height(), &offscreen.Dc(), 0, 0, SRCCOPY);
+    {
+        SavedDcGuard unchanged(picture->Dc());
+        DrawChart(picture->Dc());
+    }
+    paintDc.BitBlt(0, 0, client.Width(), client.Height(), &picture->Dc(), 0, 0, SRCCOPY);
+    m_Picture = std::move(picture);
 }
 
 LRESULT CChartDraw::OnPrintClient(WPARAM wParam, LPARAM) {

@@ -37,8 +37,12 @@ double Along(double start, double step, double part) {
 
 } // namespace
 
+bool ChartLine::IsNear(double position) {
+    return std::abs(position) <= kNear;
+}
+
 bool ChartLine::IsNear(const Place& place) {
-    return std::abs(place.x) <= kNear && std::abs(place.y) <= kNear;
+    return IsNear(place.x) && IsNear(place.y);
 }
 
 void ChartLine::Add(double x, double y) {

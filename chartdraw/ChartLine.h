@@ -21,6 +21,9 @@ public:
     /// Hands on all that is left; the next point begins another line.
     void End();
 
+    /// Whether GDI can reach so far: what lies there becomes the pixel it truncates to.
+    static bool IsNear(double position);
+
 private:
     struct Place {
         double x = 0;

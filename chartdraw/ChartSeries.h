@@ -4,6 +4,8 @@
 #include <limits>
 #include <vector>
 
+#include "chartdraw/PointBoxes.h"
+
 namespace kavlix {
 
 /// The smallest and the largest of some numbers; empty (`min` above `max`) when there are none.
@@ -29,10 +31,7 @@ struct ValueBounds {
 /// The points of a series in order of arrival, with the bounds that scales are found from.
 class ChartSeries {
 public:
-    struct Value {
-        double x;
-        double y;
-    };
+    using Value = ChartPoint;
 
     /// Throws std::bad_alloc, changing nothing, when memory or the range of an int is exhausted.
     void Append(double x, double y);
@@ -44,16 +43,17 @@ public:
     int Size() const { return static_cast<int>(m_values.size()); }
     /// Point `i`, which must exist.
     const Value& operator[](int i) const { return m_values[static_cast<std::size_t>(i)]; }
-    const std::vector<Value>& Values() const { return m_values; }
+    const PointBoxes& Boxes() const { return m_boxes; }
 
     /// Bounds of the points that have a place: those whose x and y are both finite.
     const ValueBounds& XBounds() const { return m_xBounds; }
     const ValueBounds& YBounds() const { return m_yBounds; }
 
 private:
-    void Count(const Value& value);
+    void Count(const ChartPoint& value);
 
     std::vector<Value> m_values;
+    PointBoxes m_boxes;
     ValueBounds m_xBounds;
     ValueBounds m_yBounds;
 };

@@ -2,13 +2,18 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
 namespace kavlix {
 
-/// A memory DC with a bitmap of its own, for a picture that is composed unseen and copied at once. The
-/// bitmap's contents are undefined at first.
+/// A memory DC with a bitmap, for a picture that is composed unseen and copied at once. What the bitmap holds
+/// at first is undefined. A control that paints often keeps one as long as its size stays: making the bitmap
+/// and having its fonts ready costs more than painting. On a screen whose colours have changed since, copying
+/// converts.
 class Offscreen {
 public:
-    /// `size` in pixels; the bitmap has the colours of `target`.
+    /// `size` in pixels; the bitmap has the colours of `target` and is a DIB section where these take 32
+    /// bits.
     Offscreen(CDC& target, CSize size);
     ~Offscreen();
     Offscreen(const Offscreen&) = delete;
@@ -16,12 +21,19 @@ public:
 
     /// False when the DC or a bitmap of that size cannot be made: paint into the target itself then.
     bool IsReady() const { return m_previous != nullptr; }
+    CSize Size() const { return m_size; }
     CDC& Dc() { return m_dc; }
 
 private:
+    CSize m_size;
     CBitmap m_bitmap;
     CDC m_dc;
     HGDIOBJ m_previous = nullptr;
 };
+
+/// Takes the surface that a control keeps from paint to paint, made anew where there is none of that size;
+/// null when it cannot be made. Give it back after the paint. While it is taken, a paint within the paint
+/// gets its own.
+std::unique_ptr<Offscreen> TakeOffscreen(std::unique_ptr<Offscreen>& kept, CDC& target, CSize size);
 
 } // namespace kavlix

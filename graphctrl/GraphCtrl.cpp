@@ -1,5 +1,6 @@
 #include <kavlix/GraphCtrl.h>
 
+#include "gdi/Offscreen.h"
 #include "gdi/Text.h"
 
 namespace {

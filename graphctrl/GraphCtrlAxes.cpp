@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "gdi/DottedPen.h"
 #include "gdi/Guards.h"
 #include "gdi/Text.h"
 #include "graphctrl/AxisTicks.h"
@@ -32,12 +33,12 @@ void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
 
 namespace kavlix {
 
-void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, CPen* gridPen, int plotTop) {
+void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop) {
     if (gridPen != nullptr)
         Select(dc, axisPen);
     DrawLine(dc, x, rectAxis.bottom, x, rectAxis.top);
-    if (gridPen != nullptr) {
-        Select(dc, *gridPen);
+    if (gridPen != nullptr && !gridPen->Draw(CPoint(x, rectAxis.top), CPoint(x, plotTop))) {
+        Select(dc, gridPen->Pen());
         dc.LineTo(x, plotTop);
     }
 }
@@ -73,7 +74,7 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
     const bool y2 = nAxis == 1;
     CPen axisPen;
     axisPen.CreatePen(PS_SOLID, 0, twoAxis ? m_Datasets[y2 ? 1 : 0].GetColor() : m_AxisColor);
-    CPen gridPen;
+    std::optional<DottedPen> gridPen;
     StockAfterGuard penAfter(dc, NULL_PEN);
     Select(dc, axisPen);
     const int axisX = y2 ? m_rectY2Axis.left : m_rectYAxis.right;
@@ -84,12 +85,14 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
     const int step = (rectLabel.bottom - rectLabel.top) / (nTicks - 1);
     for (int i = 0; i < nTicks; ++i)
         DrawLine(dc, rectAxis.left, rectAxis.bottom - i * step, rectAxis.right, rectAxis.bottom - i * step);
-    gridPen.CreatePen(PS_DOT, 0, m_GridColor);
     if (m_GridY && nAxis == 0) {
-        Select(dc, gridPen);
-        for (int i = 1; i < nTicks; ++i)
-            DrawLine(dc, m_rectPlot.left, rectAxis.bottom - i * step, m_rectPlot.right,
-                     rectAxis.bottom - i * step);
+        gridPen.emplace(dc, m_GridColor);
+        Select(dc, gridPen->Pen());
+        for (int i = 1; i < nTicks; ++i) {
+            const int y = rectAxis.bottom - i * step;
+            if (!gridPen->Draw(CPoint(m_rectPlot.left, y), CPoint(m_rectPlot.right, y)))
+                DrawLine(dc, m_rectPlot.left, y, m_rectPlot.right, y);
+        }
     }
 
     ValueTicks values = y2 ? ValueTicks(m_Y2VisibleMin, m_Y2VisibleMax, nTicks, m_Y2UnitExponent)
@@ -130,12 +133,13 @@ void CGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks)
 
 void CGraphCtrl::DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,
                                int minGap) {
-    CPen gridPen;
-    gridPen.CreatePen(PS_DOT, 0, m_GridColor);
+    std::optional<DottedPen> gridPen;
+    if (m_GridX)
+        gridPen.emplace(dc, m_GridColor);
     StockAfterGuard penAfter(dc, NULL_PEN);
     const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, m_rectPlot.left, m_rectPlot.Width());
     LineTicks(xMap, m_XVisibleMin, m_XVisibleMax, m_Datasets[0].GetSize(), minGap, [&](int index, int x) {
-        DrawXTick(dc, x, rectAxis, axisPen, m_GridX ? &gridPen : nullptr, m_rectPlot.top);
+        DrawXTick(dc, x, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);
         DrawTickLabel(dc, rectLabel, x, index);
     });
 }

@@ -1,7 +1,9 @@
 #include <kavlix/GraphCtrl.h>
 
 #include <cmath>
+#include <vector>
 
+#include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/GraphCtrlPainters.h"
@@ -13,20 +15,42 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
                     IndexRange range, const Rect& plot, const LinearMap& yMap, const BarMark* mark) {
     Select(dc, brush);
     const SampleStore& samples = dataset.Samples();
+    std::optional<PixelRaster> raster = DirectRaster(dc);
+    const std::optional<std::uint32_t> colour = DirectColour(dataset.GetColor());
+    const bool isDirect = raster && colour && brush.GetSafeHandle() != nullptr;
+    std::vector<POINT> corners;
+    const auto fillCorners = [&] {
+        if (corners.empty())
+            return;
+        dc.LPtoDP(corners.data(), static_cast<int>(corners.size()));
+        for (std::size_t i = 0; i < corners.size(); i += 2)
+            raster->Fill(FilledByRectangle(corners[i], corners[i + 1]), *colour);
+        corners.clear();
+    };
     for (int slot = 0; slot < range.Count(); ++slot) {
         const int index = range.first + slot;
         const double value = samples[index];
         if (mark != nullptr && index == mark->index && !std::isnan(value)) {
+            if (isDirect)
+                fillCorners();
             Select(dc, mark->brush);
             dc.Rectangle(ToCRect(slots.Band(slot, plot)));
             Select(dc, brush);
+            ::GdiFlush();
         }
         const std::optional<int> y = yMap.Position(value);
         if (!y || !dataset.m_Visible)
             continue;
         const int x = slots.SlotLeft(slot, plot.left) + offset;
-        dc.Rectangle(x, *y, x + slots.barWidth, plot.bottom);
+        if (isDirect) {
+            corners.push_back({x, *y});
+            corners.push_back({x + slots.barWidth, plot.bottom});
+        } else {
+            dc.Rectangle(x, *y, x + slots.barWidth, plot.bottom);
+        }
     }
+    if (isDirect)
+        fillCorners();
 }
 
 } // namespace kavlix

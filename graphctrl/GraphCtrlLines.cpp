@@ -1,11 +1,13 @@
 #include <kavlix/GraphCtrl.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "gdi/Guards.h"
 #include "gdi/Markers.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/GraphCtrlPainters.h"
+#include "graphctrl/GraphCtrlReducedLines.h"
 #include "graphctrl/SampleStore.h"
 
 namespace kavlix {
@@ -19,6 +21,13 @@ constexpr int kMarkTriangleTip = 10; // the triangle stands right of the line by
 constexpr int kMarkTriangleRight = 90;
 constexpr int kMarkTriangleLeft = -70;
 constexpr int kRoundingReach = 60; // two pixels
+
+} // namespace
+
+void DrawSampleMarker(CDC& dc, CDataset::MarkerType type, int x, int y) {
+    if (DrawMarker(dc, type, x, y, kMarkerHalf, 0))
+        dc.MoveTo(x, y);
+}
 
 void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x) {
     const CPoint position = dc.GetCurrentPosition();
@@ -34,8 +43,6 @@ void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x) {
     Select(dc, seriesPen);
     dc.MoveTo(position);
 }
-
-} // namespace
 
 int LineReach(const CDataset& dataset) {
     return kMarkerHalf + dataset.GetLineSize() + kRoundingReach;
@@ -65,8 +72,7 @@ void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPosition
             dc.LineTo(*x, *y);
         lastPixel = pixel;
         started = true;
-        if (DrawMarker(dc, dataset.GetMarkerType(), *x, *y, kMarkerHalf, 0))
-            dc.MoveTo(*x, *y);
+        DrawSampleMarker(dc, dataset.GetMarkerType(), *x, *y);
     }
 }
 
@@ -116,11 +122,22 @@ void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
 
     // Dataset 0 comes last and lies on top.
     const bool twoAxis = m_GraphStyle == GraphStyleTwoAxis;
-    for (int i = twoAxis ? 1 : DatasetCount - 1; i >= 0; --i) {
+    const int drawn = twoAxis ? 2 : DatasetCount;
+    IndexRange ranges[DatasetCount];
+    int reach = 0;
+    for (int i = 0; i < drawn; ++i) {
         const CDataset& dataset = m_Datasets[i];
         if (!dataset.m_Visible)
             continue;
-        DrawSeriesLine(dc, dataset, pens[i], xPositions, twoAxis && i == 1 ? y2Map : yMap, rangeOf(dataset),
-                       mark);
+        ranges[i] = rangeOf(dataset);
+        reach = std::max(reach, LineReach(dataset));
+    }
+    const ReducedLines reduced(dc, plot, reach, xPositions, ranges, drawn);
+    for (int i = drawn - 1; i >= 0; --i) {
+        if (!m_Datasets[i].m_Visible)
+            continue;
+        const LinearMap& map = twoAxis && i == 1 ? y2Map : yMap;
+        if (!reduced.Draw(m_Datasets[i], pens[i], map, ranges[i], mark))
+            DrawSeriesLine(dc, m_Datasets[i], pens[i], xPositions, map, ranges[i], mark);
     }
 }

@@ -1,5 +1,8 @@
 #include <kavlix/GraphCtrl.h>
 
+#include <memory>
+#include <utility>
+
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Offscreen.h"
@@ -36,15 +39,20 @@ void CGraphCtrl::OnPaint() {
 
     SavedDcGuard saved(paintDc);
     SetMapModeAnisotropic(paintDc);
-    Offscreen offscreen(paintDc, client.Size());
-    if (!offscreen.IsReady()) {
+    std::unique_ptr<Offscreen> picture = TakeOffscreen(m_Picture, paintDc, client.Size());
+    if (!picture) {
         DrawGraph(paintDc);
         return;
     }
-    SetMapModeAnisotropic(offscreen.Dc());
-    DrawGraph(offscreen.Dc());
+    CDC& dc = picture->Dc();
+    SetMapModeAnisotropic(dc);
+    {
+        SavedDcGuard unchanged(dc); // what derived classes leave selected does not stay
+        DrawGraph(dc);
+    }
     const CRect copied = ToLogical(paintDc, LessOnePixel(client));
-    paintDc.BitBlt(0, 0, copied.right, copied.bottom, &offscreen.Dc(), 0, 0, SRCCOPY);
+    paintDc.BitBlt(0, 0, copied.right, copied.bottom, &dc, 0, 0, SRCCOPY);
+    m_Picture = std::move(picture);
 }
 
 LRESULT CGraphCtrl::OnPrintClient(WPARAM wParam, LPARAM) {

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "gdi/DottedPen.h"
 #include "graphctrl/BarSlots.h"
 #include "graphctrl/IndexRange.h"
 #include "graphctrl/LinearMap.h"
@@ -20,6 +21,8 @@ public:
     virtual ~XPositions() = default;
     /// Position of sample `index` in logical units, none when it has none.
     virtual std::optional<int> At(int index) const = 0;
+    /// Whether all samples of `range` have positions, which run one way.
+    virtual bool IsMonotonic(IndexRange range) const = 0;
 };
 
 /// Samples that stand at their index.
@@ -27,6 +30,7 @@ class IndexPositions : public XPositions {
 public:
     explicit IndexPositions(const LinearMap& map) : m_map(map) {}
     std::optional<int> At(int index) const override { return m_map.Position(index); }
+    bool IsMonotonic(IndexRange) const override { return m_map.IsMonotonic(); }
 
 private:
     LinearMap m_map;
@@ -45,8 +49,16 @@ struct LineMark {
 /// units.
 int LineReach(const CDataset& dataset);
 
+/// Draws the marker `type` of a sample with the pen and brush that are selected, and moves the current
+/// position to the sample if there is such a marker.
+void DrawSampleMarker(CDC& dc, CDataset::MarkerType type, int x, int y);
+
+/// Draws the mark at `x`; leaves `seriesPen` selected and the current position as it was.
+void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x);
+
 /// Draws the samples `range` of a dataset as a line with markers and, at the marked sample, the mark. Samples
 /// without position leave a gap. Uses the NULL_BRUSH that the caller has selected; leaves `pen` selected.
+/// Every sample of the range is drawn: see ReducedLines.
 void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPositions& xPositions,
                     const LinearMap& yMap, IndexRange range, const LineMark& mark);
 
@@ -63,8 +75,8 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
                     IndexRange range, const Rect& plot, const LinearMap& yMap, const BarMark* mark);
 
 /// Draws an X tick at `x` with the pen that is selected, which is `axisPen` at first. With a `gridPen` the
-/// grid line goes on from it up to `plotTop`, and that pen stays selected.
-void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, CPen* gridPen, int plotTop);
+/// grid line goes on from it up to `plotTop`; either pen may stay selected.
+void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop);
 
 /// Draws the upright texts of an X tick at `x`, `y` being the top of the label band's text: `up` and `down`
 /// side by side, or `up` alone, broken in two when it is longer than `longest`. Text colour and font are the

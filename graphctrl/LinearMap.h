@@ -43,6 +43,10 @@ public:
     bool IsAscending() const { return (m_range > 0) == (m_extent > 0); }
 
     int Edge() const { return m_edge; }
+    double Min() const { return m_min; }
+    double Range() const { return m_range; }
+    /// Logical units for each unit of value.
+    double Slope() const { return m_extent / m_range; }
 
 private:
     double m_min;

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "gdi/DottedPen.h"
 #include "gdi/Guards.h"
 #include "gdi/Text.h"
 #include "graphctrl/AxisTicks.h"
@@ -84,14 +85,15 @@ CString CScrollGraphCtrl::GetNextTickTime(int nUnit, CString& date, CString& tim
 void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) {
     CPen axisPen;
     axisPen.CreatePen(PS_SOLID, 0, m_AxisColor);
-    CPen gridPen;
+    std::optional<DottedPen> gridPen;
     StockAfterGuard penAfter(dc, NULL_PEN);
     Select(dc, axisPen);
     dc.MoveTo(m_rectXAxis.left, m_rectXAxis.top);
     dc.LineTo(m_rectXAxis.right, m_rectXAxis.top);
     if (nTicks < 2 || m_Datasets[0].GetSize() == 0)
         return;
-    gridPen.CreatePen(PS_DOT, 0, m_GridColor);
+    if (m_GridX)
+        gridPen.emplace(dc, m_GridColor);
     SelectGuard font(dc, m_XTickLabelFont);
     dc.SetTextColor(m_XTickLabelColor);
     if (m_GraphStyle != GraphStyleLine && m_GraphStyle != GraphStyleTwoAxis)
@@ -110,7 +112,7 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     std::int64_t x = std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
     while (x <= m_rectPlot.right) {
         const int tickX = static_cast<int>(x);
-        DrawXTick(dc, tickX, rectAxis, axisPen, m_GridX ? &gridPen : nullptr, m_rectPlot.top);
+        DrawXTick(dc, tickX, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);
         const CString clockText = ticks.Clock().c_str();
         if (ticks.ShowsDate()) {
             dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);

@@ -17,6 +17,11 @@ std::optional<int> TimeMap::Position(int index) const {
     return ToCoordinate(position);
 }
 
+bool TimeMap::IsMonotonic(int first, int last) const {
+    return m_viewWidth != 0 && std::isfinite(m_viewPos) && std::isfinite(m_viewWidth) && m_times.Has(first) &&
+           m_times.Has(last) && m_times.GrowsAlong(first, last);
+}
+
 int TimeMap::Nearest(int first, int last, int x) const {
     if (first > last || m_viewWidth == 0 || !std::isfinite(m_viewPos) || !std::isfinite(m_viewWidth))
         return -1;

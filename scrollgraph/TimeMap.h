@@ -19,6 +19,10 @@ public:
     /// view without width.
     std::optional<int> Position(int index) const;
 
+    /// Whether the samples `first` to `last`, both with a time stamp, have positions that run one way. True
+    /// only when that is known without a walk.
+    bool IsMonotonic(int first, int last) const;
+
     /// The sample of `first` to `last`, both with a time stamp, whose position lies nearest to `x`; of
     /// equally near ones the first. -1 when samples have no position. A binary search where time grows along
     /// the range, else a walk over it.

@@ -12,6 +12,7 @@
 namespace kavlix {
 class ChartSeries;
 class LinearMap;
+class Offscreen;
 class RoundScale;
 } // namespace kavlix
 
@@ -204,6 +205,7 @@ private:
     void DrawLine(CDC& dc, const Dataset& dataset) const;
     void DrawMarkers(CDC& dc, const Dataset& dataset) const;
 
+    std::unique_ptr<kavlix::Offscreen> m_Picture; ///< what WM_PAINT composes in, kept from paint to paint
     std::vector<std::unique_ptr<Dataset>> m_Datasets;
     int m_DatasetsMade = 0; ///< picks the next colour
     FixedScale m_XFixed = {};

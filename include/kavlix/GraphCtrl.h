@@ -8,9 +8,11 @@
 #include <kavlix/LabelStore.h>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace kavlix {
+class Offscreen;
 class XPositions;
 struct GraphLayout;
 struct IndexRange;
@@ -390,6 +392,8 @@ protected:
     CFont m_LegendFont;     ///< legend rows
 
 private:
+    std::unique_ptr<kavlix::Offscreen> m_Picture; ///< what WM_PAINT composes in, kept from paint to paint
+
     void ClearSamples(CDataset& dataset);
 
     kavlix::GraphLayout LayOut(const CRect& client);

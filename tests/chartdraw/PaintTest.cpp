@@ -274,6 +274,38 @@ TEST_F(ChartPaintTest, MarkersOnOnePlaceAreDrawnOnce) {
     EXPECT_EQ(recorder.Lines(testkit::kRectangle).size(), 1u);
 }
 
+TEST_F(ChartPaintTest, MarkersOfManyPointsAreThoseOfEachPoint) {
+    HideTexts();
+    chart.replaced = "axes";
+    std::mt19937 random(29);
+    std::vector<double> xs, ys;
+    for (int i = 0; i < 4000; ++i) {
+        xs.push_back(i / 400 * 400); // markers of neighbours keep apart
+        ys.push_back(i % 997 == 996 ? kNaN : i < 2000 ? random() % 20 : 20 + i / 400);
+    }
+    // The same points in datasets so small that each of their points is looked at.
+    constexpr int kFew = 25;
+    testkit::DibSurface whole(300, 200), parts(300, 200);
+    chart.SetXScale(200, 4000);
+    chart.SetYScale(-5, 145); // a pixel each
+    const auto add = [&](int first, int count) {
+        const int dataset = chart.AddDataset();
+        chart.SetData(dataset, &xs[static_cast<std::size_t>(first)], &ys[static_cast<std::size_t>(first)],
+                      count);
+        chart.SetColor(dataset, kRed);
+        chart.ShowLine(dataset, FALSE);
+        chart.SetMarkerType(dataset, CDataset::MarkerCross);
+    };
+    add(0, 4000);
+    PaintInto(whole);
+    chart.RemoveAllDatasets();
+    for (int first = 0; first < 4000; first += kFew)
+        add(first, kFew);
+    PaintInto(parts);
+    EXPECT_GT(whole.Count(kRed), 500);
+    EXPECT_EQ(testkit::Difference(whole, parts), "");
+}
+
 TEST_F(ChartPaintTest, SmallWindowsLeaveOutWhatHasNoRoom) {
     chart.SetTitle("Title");
     chart.SetXLabel("East");

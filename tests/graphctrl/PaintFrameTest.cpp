@@ -189,6 +189,20 @@ BOOL WINAPI CountedBitBlt(HDC to, int x, int y, int width, int height, HDC from,
                                                            rop);
 }
 
+/// Paints itself once more in the middle of a paint.
+class RepaintingGraph : public CGraphCtrl {
+    void DrawGraphData(CDC& dc) override {
+        if (!m_isInside) {
+            m_isInside = true;
+            Invalidate(FALSE);
+            UpdateWindow();
+            m_isInside = false;
+        }
+        CGraphCtrl::DrawGraphData(dc);
+    }
+    bool m_isInside = false;
+};
+
 } // namespace
 
 TEST_F(GraphPaintFrameTest, ThePictureIsComposedElsewhereAndCopiedOnce) {
@@ -201,6 +215,13 @@ TEST_F(GraphPaintFrameTest, ThePictureIsComposedElsewhereAndCopiedOnce) {
         graph.UpdateWindow();
         EXPECT_EQ(g_copies, i);
     }
+    RepaintingGraph twice;
+    ASSERT_TRUE(twice.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 150), &parent, 9));
+    g_copies = 0;
+    twice.Redraw();
+    twice.UpdateWindow();
+    EXPECT_EQ(g_copies, 2);
+    twice.DestroyWindow();
 }
 
 TEST_F(GraphPaintFrameTest, PartialRepaintEqualsWholeRepaint) {
@@ -228,6 +249,17 @@ TEST_F(GraphPaintFrameTest, PartialRepaintEqualsWholeRepaint) {
     EXPECT_EQ(testkit::Difference(*Paint(), after, stripe), "");
     EXPECT_EQ(testkit::Difference(before, after, CRect(0, 0, 100, 199)), "");
     EXPECT_EQ(testkit::Difference(before, after, CRect(120, 0, 299, 199)), "");
+}
+
+TEST_F(GraphPaintFrameTest, ThePictureFollowsTheWindowsSize) {
+    HideTexts();
+    Fill();
+    for (const SIZE& size : {SIZE{500, 320}, SIZE{500, 321}, SIZE{200, 321}, SIZE{300, 200}}) {
+        Resize(size.cx, size.cy);
+        graph.Redraw();
+        graph.UpdateWindow();
+        EXPECT_EQ(DifferenceToWindow(*Paint()), "") << size.cx << " x " << size.cy;
+    }
 }
 
 TEST_F(GraphPaintFrameTest, PrintClientPaintsTheSamePictureIntoAnyDc) {

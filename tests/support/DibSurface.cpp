@@ -51,12 +51,20 @@ COLORREF DibSurface::At(int x, int y) const {
                             static_cast<std::size_t>(x)]);
 }
 
+bool DibSurface::IsSameAs(const DibSurface& other) const {
+    GdiFlush();
+    return m_width == other.m_width && m_height == other.m_height &&
+           std::equal(m_bits, m_bits + m_width * m_height, other.m_bits,
+                      [](DWORD a, DWORD b) { return FromPixel(a) == FromPixel(b); });
+}
+
 int DibSurface::Count(COLORREF colour, const RECT& area) const {
     const RECT cut = Cut(area, m_width, m_height);
+    GdiFlush();
     int count = 0;
     for (LONG y = cut.top; y < cut.bottom; ++y)
         for (LONG x = cut.left; x < cut.right; ++x)
-            count += At(x, y) == colour;
+            count += FromPixel(m_bits[y * m_width + x]) == colour;
     return count;
 }
 
@@ -149,6 +157,8 @@ int Displaced(const DibSurface& a, const DibSurface& b, const RECT& area, int di
 std::string Difference(const DibSurface& a, const DibSurface& b) {
     if (a.Width() != b.Width() || a.Height() != b.Height())
         return "the pictures have different sizes";
+    if (a.IsSameAs(b))
+        return {};
     return Difference(a, b, {0, 0, a.Width(), a.Height()});
 }
 

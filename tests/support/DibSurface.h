@@ -23,6 +23,8 @@ public:
 
     /// The colour of a pixel; CLR_INVALID outside the picture.
     COLORREF At(int x, int y) const;
+    /// Whether size and all pixels are alike.
+    bool IsSameAs(const DibSurface& other) const;
     /// How many pixels of `area` (device units, right and bottom not included) have exactly this colour.
     int Count(COLORREF colour, const RECT& area) const;
     int Count(COLORREF colour) const;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <optional>
+
+#include "graphctrl/PixelColumns.h"
+#include "graphctrl/PixelRaster.h"
+
+/// Painting pixels without a GDI call for each stroke.
+namespace kavlix {
+
+/// Whether strokes on `dc` become pixels at once and replace what is there, so that strokes which change no
+/// pixel may be left out. Metafiles and printers are not such.
+bool IsPixelDevice(const CDC& dc);
+
+/// The pixels that `dc` paints into, clipped as it is: where they lie in memory, have 32 bits each and the
+/// platform would paint the same ones. None where GDI must be asked.
+std::optional<PixelRaster> DirectRaster(const CDC& dc);
+
+/// `colour` as such a pixel holds it; none for a colour that is not plain red, green and blue.
+std::optional<std::uint32_t> DirectColour(COLORREF colour);
+
+/// Where the pixels of `device` begin in logical units, in both directions, as `dc` rounds. False when it has
+/// another mapping than the controls' own.
+bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, PixelEdges& rows);
+
+/// The pixels that a rectangle between two corners in device units fills under the null pen.
+Rect FilledByRectangle(const POINT& corner, const POINT& opposite);
+
+} // namespace kavlix

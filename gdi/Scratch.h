@@ -1,0 +1,49 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <cstdint>
+
+namespace kavlix {
+
+/// A square picture of 32-bit pixels in memory, black at first, on which the platform shows how it paints.
+class Scratch {
+public:
+    explicit Scratch(int side) : m_side(side) {
+        BITMAPINFO info = {};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = side;
+        info.bmiHeader.biHeight = -side; // row 0 on top
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        void* memory = nullptr;
+        if (!m_dc.CreateCompatibleDC(nullptr) ||
+            !m_bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0)))
+            return;
+        m_previous = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
+        m_pixels = static_cast<const std::uint32_t*>(memory);
+    }
+    ~Scratch() {
+        if (m_previous != nullptr)
+            ::SelectObject(m_dc.GetSafeHdc(), m_previous);
+    }
+    Scratch(const Scratch&) = delete;
+    Scratch& operator=(const Scratch&) = delete;
+
+    bool IsReady() const { return m_pixels != nullptr; }
+    CDC& Dc() { return m_dc; }
+    bool Has(int x, int y) const { return x >= 0 && x < m_side && y >= 0 && y < m_side; }
+    /// The pixels, row by row; call GdiFlush after painting.
+    const std::uint32_t* Pixels() const { return m_pixels; }
+    /// One of them, which must exist.
+    std::uint32_t Pixel(int x, int y) const { return m_pixels[y * m_side + x]; }
+
+private:
+    int m_side;
+    CBitmap m_bitmap;
+    CDC m_dc;
+    HGDIOBJ m_previous = nullptr;
+    const std::uint32_t* m_pixels = nullptr;
+};
+
+} // namespace kavlix

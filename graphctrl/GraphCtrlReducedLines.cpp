@@ -1,0 +1,266 @@
+#include "graphctrl/GraphCtrlReducedLines.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "gdi/Guards.h"
+#include "gdi/Mapping.h"
+#include "graphctrl/GraphCtrlConvert.h"
+#include "graphctrl/GraphCtrlStrokes.h"
+#include "graphctrl/SampleStore.h"
+
+namespace kavlix {
+
+namespace {
+
+constexpr int kPixelUnits = 30;
+/// So few samples of a column are drawn as they are.
+constexpr int kFewSamples = 4;
+/// Of so many samples with a gap among them, those without are looked for in either half.
+constexpr int kSamplesByHalves = 64;
+/// In columns of so many samples reading waits for memory, which is asked for some columns before.
+constexpr int kLongColumn = 256;
+constexpr std::ptrdiff_t kAhead = 6;
+
+/// Width of a pen in pixels, as the DC rounds; 1 for a cosmetic one.
+int PenPixels(const CDC& dc, int width) {
+    POINT ends[2] = {{0, 0}, {width, 0}};
+    dc.LPtoDP(ends, 2);
+    return std::max(1, std::abs(static_cast<int>(ends[1].x - ends[0].x)));
+}
+
+int CountOf(const CDataset& dataset) {
+    return dataset.Samples().Size();
+}
+
+bool IsInside(const Rect& rect, const CRect& outer) {
+    return rect.left >= outer.left && rect.top >= outer.top && rect.right <= outer.right &&
+           rect.bottom <= outer.bottom;
+}
+
+} // namespace
+
+/// One line while it is drawn.
+class ReducedLines::Line {
+public:
+    Line(const ReducedLines& lines, const CDataset& dataset, const LinearMap& yMap)
+        : m_lines(lines), m_dc(lines.m_dc), m_samples(dataset.Samples()), m_values(m_samples),
+          m_marker(dataset.GetMarkerType()), m_yMap(yMap),
+          m_penPixels(PenPixels(lines.m_dc, dataset.GetLineSize())),
+          m_colour(m_penPixels == 1 && lines.m_raster ? DirectColour(dataset.GetColor()) : std::nullopt) {}
+
+    bool HasMarkers() const {
+        return m_marker >= CDataset::MarkerSquare && m_marker <= CDataset::MarkerCross;
+    }
+
+    /// Draws the samples `first` to `last`, with their markers. With `joined` the line comes from the sample
+    /// before.
+    void Draw(int first, int last, bool joined) {
+        const LineGround ground{m_dc, m_lines.m_columnEdges, m_lines.m_rowEdges, m_yMap};
+        if (m_colour) {
+            ::GdiFlush(); // what was asked of GDI before comes first
+            DrawLine(DirectStrokes(ground, *m_lines.m_raster, *m_colour), first, last, joined);
+        } else {
+            DrawLine(GdiStrokes(ground, m_lines.m_plot, m_penPixels), first, last, joined);
+        }
+        if (HasMarkers())
+            for (auto column = ColumnOf(first); column != m_lines.m_columns.end() && column->first <= last;
+                 ++column)
+                DrawMarkers(Cut(*column, first, last));
+    }
+
+private:
+    using Columns = std::vector<PixelColumn>::const_iterator;
+
+    /// The first column with samples not before `first`.
+    Columns ColumnOf(int first) const {
+        return std::lower_bound(m_lines.m_columns.begin(), m_lines.m_columns.end(), first,
+                                [](const PixelColumn& column, int index) { return column.last < index; });
+    }
+    static PixelColumn Cut(PixelColumn column, int first, int last) {
+        column.first = std::max(column.first, first);
+        column.last = std::min(column.last, last);
+        return column;
+    }
+
+    template <class Strokes> void DrawLine(Strokes strokes, int first, int last, bool joined) {
+        if (joined) {
+            const Columns column = ColumnOf(first - 1);
+            if (column != m_lines.m_columns.end() && column->first < first)
+                AddSample(strokes, first - 1, *column);
+        }
+        const Columns end = m_lines.m_columns.end();
+        for (Columns column = ColumnOf(first); column != end && column->first <= last; ++column) {
+            if (end - column > kAhead && column[kAhead].first <= last &&
+                column->last - column->first >= kLongColumn)
+                m_samples.Prefetch(column[kAhead].first);
+            AddColumn(strokes, Cut(*column, first, last), last);
+        }
+        strokes.End();
+    }
+
+    template <class Strokes> void AddSample(Strokes& strokes, int index, const PixelColumn& column) {
+        const double value = m_values[index];
+        if (std::isnan(value))
+            strokes.End();
+        else
+            strokes.Add(value, column);
+    }
+
+    template <class Strokes> void AddColumn(Strokes& strokes, const PixelColumn& column, int end) {
+        if (column.last - column.first >= kFewSamples) {
+            AddFullColumn(strokes, column, end);
+            return;
+        }
+        for (int i = column.first; i <= column.last; ++i)
+            AddSample(strokes, i, column);
+    }
+
+    template <class Strokes> void AddFullColumn(Strokes& strokes, const PixelColumn& column, int end) {
+        const int first = column.first;
+        const int last = column.last;
+        Extremes extremes = m_samples.ExtremesOf(first, last);
+        if (extremes.HasGap() && last - first >= kSamplesByHalves) {
+            const int middle = first + (last - first) / 2;
+            AddFullColumn(strokes, Cut(column, first, middle), end);
+            AddFullColumn(strokes, Cut(column, middle + 1, last), end);
+            return;
+        }
+        if (extremes.HasGap()) {
+            for (int i = first; i <= last; ++i)
+                AddSample(strokes, i, column);
+            return;
+        }
+        AddSample(strokes, first, column);
+        int before = -1;
+        if (last == end || std::isnan(m_values[last + 1])) {
+            // The line ends here, and its last pixel is not painted: how it came there matters.
+            before = LastElsewhere(first, last);
+            if (before < first)
+                return;
+            extremes = m_samples.ExtremesOf(first, before);
+        }
+        strokes.Add(extremes.low, column);
+        strokes.Add(extremes.high, column);
+        if (before >= 0)
+            AddSample(strokes, before, column);
+        AddSample(strokes, last, column);
+    }
+
+    /// The last sample of `first` to `last` on another row than sample `last`; `first` - 1 when there is
+    /// none.
+    int LastElsewhere(int first, int last) const {
+        const int row = DeviceRow(m_samples[last]);
+        return m_samples.FindLast(
+            first, last,
+            [&](const Extremes& block) {
+                return !block.HasGap() && DeviceRow(block.low) == row && DeviceRow(block.high) == row;
+            },
+            [&](double value) { return DeviceRow(value) != row; });
+    }
+
+    int DeviceRow(double value) const {
+        const int y = m_yMap.Position(value).value_or(0);
+        if (m_lines.m_rowEdges.Holds(y))
+            return m_lines.m_rowEdges.PixelOf(y);
+        POINT point = {0, y};
+        m_dc.LPtoDP(&point);
+        return static_cast<int>(point.y);
+    }
+
+    /// Draws the markers of a column, one for each row that has a sample.
+    void DrawMarkers(const PixelColumn& column) {
+        const PixelEdges& rows = m_lines.m_rowEdges;
+        const int count = rows.Count();
+        m_rowDone.assign(static_cast<std::size_t>(count), false);
+        // Rows beyond the edges are done from the start: nothing of their markers can be seen.
+        const auto firstRow = [&](int y) {
+            return y < rows.Begin() ? 0 : y >= rows.End() ? count : rows.Find(y);
+        };
+        const auto lastRow = [&](int y) {
+            return y < rows.Begin() ? -1 : y >= rows.End() ? count - 1 : rows.Find(y);
+        };
+        m_samples.VisitUnless(
+            column.first, column.last,
+            [&](const Extremes& block) {
+                if (block.HasGap())
+                    return false;
+                const int a = m_yMap.Position(block.low).value_or(0);
+                const int b = m_yMap.Position(block.high).value_or(0);
+                const auto begin = m_rowDone.begin() + firstRow(std::min(a, b));
+                const auto end = m_rowDone.begin() + lastRow(std::max(a, b)) + 1;
+                return begin >= end || std::find(begin, end, false) == end;
+            },
+            [&](double value) {
+                const std::optional<int> y = m_yMap.Position(value);
+                if (!y || !rows.Holds(*y))
+                    return;
+                const auto row = static_cast<std::size_t>(rows.Find(*y));
+                if (m_rowDone[row])
+                    return;
+                m_rowDone[row] = true;
+                DrawSampleMarker(m_dc, m_marker, column.position, *y);
+            });
+    }
+
+    const ReducedLines& m_lines;
+    CDC& m_dc;
+    const SampleStore& m_samples;
+    SampleStore::Reader m_values;
+    CDataset::MarkerType m_marker;
+    LinearMap m_yMap;
+    int m_penPixels;
+    std::optional<std::uint32_t> m_colour; ///< where pixels are painted directly
+    std::vector<bool> m_rowDone;
+};
+
+ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositions& xPositions,
+                           const IndexRange* ranges, int count)
+    : m_dc(dc), m_xPositions(xPositions), m_plot(ToDeviceWithEdges(dc, plot)) {
+    IndexRange all;
+    for (int i = 0; i < count; ++i) {
+        if (ranges[i].IsEmpty())
+            continue;
+        all = all.IsEmpty()
+                  ? ranges[i]
+                  : IndexRange{std::min(all.first, ranges[i].first), std::max(all.last, ranges[i].last)};
+    }
+    CRect seen = m_plot;
+    seen.InflateRect(reach / kPixelUnits + 1, reach / kPixelUnits + 1);
+    if (all.IsEmpty() || !IsPixelDevice(dc) || !xPositions.IsMonotonic(all) ||
+        !FindPixelEdges(dc, seen, m_columnEdges, m_rowEdges))
+        return;
+    m_columns =
+        GroupByColumn(all, m_columnEdges, [&](int index) { return xPositions.At(index).value_or(0); });
+    m_raster = DirectRaster(dc);
+    if (m_raster && !IsInside(m_raster->Clip(), seen))
+        m_raster.reset();
+}
+
+bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMap, IndexRange range,
+                        const LineMark& mark) const {
+    if (m_columns.empty() || range.IsEmpty() || range.first < 0 || range.last >= CountOf(dataset) ||
+        pen.GetSafeHandle() == nullptr || !yMap.IsMonotonic())
+        return false;
+    Line line(*this, dataset, yMap);
+    // A marker moves with its sample by whole pixels only where all pixels are alike.
+    if (line.HasMarkers() && (!m_columnEdges.IsRegular() || !m_rowEdges.IsRegular()))
+        return false;
+    Select(m_dc, pen);
+
+    const int marked = mark.index;
+    const bool hasMark =
+        marked >= range.first && marked <= range.last && !std::isnan(dataset.Samples()[marked]);
+    if (!hasMark) {
+        line.Draw(range.first, range.last, false);
+        return true;
+    }
+    // What comes before the mark lies under it, what comes after lies over it.
+    line.Draw(range.first, marked - 1, false);
+    DrawMark(m_dc, mark, pen, m_xPositions.At(marked).value_or(0));
+    line.Draw(marked, range.last, marked > range.first);
+    return true;
+}
+
+} // namespace kavlix

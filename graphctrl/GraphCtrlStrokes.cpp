@@ -1,0 +1,109 @@
+#include "graphctrl/GraphCtrlStrokes.h"
+
+#include <algorithm>
+
+#include "graphctrl/GraphCtrlConvert.h"
+#include "graphctrl/SeriesReduction.h"
+
+namespace kavlix {
+
+namespace {
+
+constexpr std::size_t kMostPoints = 8192;
+
+} // namespace
+
+/// The line comes from where no pixel is known or goes there.
+void DirectStrokes::GoFar(double value, const PixelColumn& column, int row) {
+    const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
+        return from == to && !edges.HasPixel(from);
+    };
+    const bool isUnseen =
+        isBeyond(m_ground.rows, m_last.row, row) || isBeyond(m_ground.columns, m_last.pixel, column.pixel);
+    m_line.Jump(column.pixel, row);
+    if (isUnseen)
+        return;
+    if (m_far.size() >= kMostPoints)
+        PaintFar();
+    m_far.push_back({m_last.position, m_ground.yMap.Position(m_last.value).value_or(0)});
+    m_far.push_back({column.position, m_ground.yMap.Position(value).value_or(0)});
+}
+
+void DirectStrokes::PaintFar() {
+    if (m_far.empty())
+        return;
+    m_ground.dc.LPtoDP(m_far.data(), static_cast<int>(m_far.size()));
+    for (std::size_t i = 0; i < m_far.size(); i += 2)
+        m_raster.Stroke(ToPoint(m_far[i]), ToPoint(m_far[i + 1]), m_colour);
+    m_far.clear();
+}
+
+void DirectStrokes::End() {
+    m_line.End();
+    m_isOpen = false;
+    PaintFar();
+}
+
+void GdiStrokes::Add(double value, const PixelColumn& column) {
+    if (m_points.size() >= kMostPoints) {
+        const Point last = m_points.back();
+        DrawPart();
+        m_points.push_back(last);
+        m_pixels.push_back({});
+        m_far.push_back(0);
+    }
+    const int y = m_ground.yMap.Position(value).value_or(0);
+    // Pixels are looked up where they can be seen; of the others GDI is asked later, of all at once.
+    if (m_ground.columns.HasPixel(column.pixel) && m_ground.rows.Holds(y)) {
+        m_pixels.push_back({column.pixel, m_ground.rows.PixelOf(y)});
+    } else {
+        m_far.push_back(m_points.size());
+        m_pixels.push_back({});
+    }
+    m_points.push_back({column.position, y});
+}
+
+void GdiStrokes::End() {
+    if (!m_points.empty())
+        DrawPart();
+}
+
+void GdiStrokes::DrawPart() {
+    std::vector<POINT> distant;
+    for (const std::size_t i : m_far)
+        distant.push_back({m_points[i].x, m_points[i].y});
+    if (!distant.empty())
+        m_ground.dc.LPtoDP(distant.data(), static_cast<int>(distant.size()));
+    for (std::size_t i = 0; i < distant.size(); ++i)
+        m_pixels[m_far[i]] = ToPoint(distant[i]);
+
+    CRect view = m_plot;
+    view.InflateRect(SeriesReduction::Reach(m_penPixels), SeriesReduction::Reach(m_penPixels));
+    SeriesReduction reduction(ToRect(view),
+                              [this](const Point* points, int count) { Stroke(points, count); });
+    for (std::size_t i = 0; i < m_points.size(); ++i) {
+        // With some pens a stroke of no length is a dot: none is drawn.
+        if (i == 0 || !(m_pixels[i] == m_pixels[i - 1]))
+            reduction.Add(m_pixels[i], m_points[i]);
+    }
+    reduction.End();
+    m_points.clear();
+    m_pixels.clear();
+    m_far.clear();
+}
+
+void GdiStrokes::Stroke(const Point* points, int count) const {
+    if (m_penPixels > 1) { // the region of a whole wide polyline costs more than its strokes one by one
+        m_ground.dc.MoveTo(points[0].x, points[0].y);
+        for (int i = 1; i < count; ++i)
+            m_ground.dc.LineTo(points[i].x, points[i].y);
+        return;
+    }
+    std::vector<POINT> line(static_cast<std::size_t>(count));
+    std::transform(points, points + count, line.begin(), [](const Point& point) {
+        return POINT{point.x, point.y};
+    });
+    m_ground.dc.Polyline(line.data(), count);
+}
+
+} // namespace kavlix

@@ -1,0 +1,141 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "graphctrl/IndexRange.h"
+
+namespace kavlix {
+
+/// Where neighbouring pixels begin, in logical units: pixel `first` + k covers the positions from edge k to
+/// before edge k + 1.
+class PixelEdges {
+public:
+    PixelEdges() = default;
+    /// `edges` ascend.
+    PixelEdges(int first, std::vector<int> edges);
+
+    bool IsEmpty() const { return m_edges.size() < 2; }
+    /// Number of pixels.
+    int Count() const { return static_cast<int>(m_edges.size()) - 1; }
+    int Begin() const { return m_edges.front(); }
+    int End() const { return m_edges.back(); }
+    bool Holds(int position) const { return position >= Begin() && position < End(); }
+    /// Which of the pixels, counted from 0, holds `position`, which must be held.
+    int Find(int position) const {
+        auto k = static_cast<std::size_t>((position - Begin()) * m_pixelsPerUnit);
+        while (m_edges[k] > position)
+            --k;
+        while (m_edges[k + 1] <= position)
+            ++k;
+        return static_cast<int>(k);
+    }
+    int PixelOf(int position) const { return m_first + Find(position); }
+    /// The same for any position; those before and behind all pixels count as `Before` and `Behind`.
+    int PixelOrSide(int position) const {
+        return position < Begin() ? Before() : position >= End() ? Behind() : PixelOf(position);
+    }
+    int Before() const { return m_first - 1; }
+    int Behind() const { return m_first + Count(); }
+    bool HasPixel(int pixel) const { return pixel > Before() && pixel < Behind(); }
+    int Edge(int k) const { return m_edges[static_cast<std::size_t>(k)]; }
+    /// Whether all pixels are equally large, so that what moves by whole pixels keeps its shape.
+    bool IsRegular() const;
+
+private:
+    int m_first = 0;
+    double m_pixelsPerUnit = 0;
+    std::vector<int> m_edges;
+};
+
+/// Neighbouring samples that fall into one pixel column.
+struct PixelColumn {
+    int first;
+    int last;
+    int position; ///< of the first, logical units
+    int pixel;    ///< PixelEdges::Before or Behind for a sample beyond the edges
+};
+
+/// Groups the samples `range` by the pixel columns that `edges` tell. `at(i)` is the position of sample i in
+/// logical units; positions run one way, up or down. Of the samples beyond the edges only the neighbours of
+/// those inside are kept, as columns of their own. Visits a few samples a column.
+template <class Position>
+std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges, Position at) {
+    std::vector<PixelColumn> columns;
+    if (range.IsEmpty() || edges.IsEmpty())
+        return columns;
+    columns.reserve(static_cast<std::size_t>(edges.Count()) + 2);
+    const bool isAscending = at(range.first) <= at(range.last);
+    // The first sample that does not lie before the edges.
+    std::int64_t begin = range.first;
+    std::int64_t end = std::int64_t{range.last} + 1;
+    while (begin < end) {
+        const std::int64_t middle = begin + (end - begin) / 2;
+        const int position = at(static_cast<int>(middle));
+        if (isAscending ? position < edges.Begin() : position >= edges.End())
+            begin = middle + 1;
+        else
+            end = middle;
+    }
+    if (begin > range.first) {
+        const int outside = static_cast<int>(begin) - 1;
+        const int position = at(outside);
+        columns.push_back({outside, outside, position, edges.PixelOrSide(position)});
+    }
+
+    std::int64_t guess = 1;
+    std::int64_t next = begin;
+    while (next <= range.last) {
+        const int first = static_cast<int>(next);
+        const int position = at(first);
+        if (!edges.Holds(position)) {
+            columns.push_back({first, first, position, edges.PixelOrSide(position)});
+            break;
+        }
+        const int pixel = edges.Find(position);
+        const int low = edges.Edge(pixel);
+        const int high = edges.Edge(pixel + 1);
+        const auto isInside = [&](std::int64_t index) {
+            const int place = at(static_cast<int>(index));
+            return place >= low && place < high;
+        };
+        // From the guess on in growing steps until the end of the column lies between, then halving.
+        std::int64_t inside = next;
+        std::int64_t outside = std::int64_t{range.last} + 1;
+        std::int64_t probe = next + guess - 1;
+        std::int64_t step = 1;
+        bool isUp = true;
+        if (probe < outside && !isInside(probe)) {
+            isUp = false;
+            outside = probe;
+        }
+        while (isUp && probe < outside) {
+            if (!isInside(probe)) {
+                outside = probe;
+                break;
+            }
+            inside = probe;
+            probe += step;
+            step *= 2;
+        }
+        while (!isUp && outside - step > inside) {
+            if (isInside(outside - step)) {
+                inside = outside - step;
+                break;
+            }
+            outside -= step;
+            step *= 2;
+        }
+        while (outside - inside > 1) {
+            const std::int64_t middle = inside + (outside - inside) / 2;
+            (isInside(middle) ? inside : outside) = middle;
+        }
+        columns.push_back({first, static_cast<int>(inside), position, edges.Before() + 1 + pixel});
+        guess = inside - next + 1;
+        next = inside + 1;
+    }
+    return columns;
+}
+
+} // namespace kavlix

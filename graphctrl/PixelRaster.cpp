@@ -1,0 +1,145 @@
+#include "graphctrl/PixelRaster.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace kavlix {
+
+namespace {
+
+std::int64_t CeilDivide(std::int64_t value, std::int64_t divisor) {
+    return value > 0 ? (value + divisor - 1) / divisor : -(-value / divisor);
+}
+
+} // namespace
+
+PixelRaster::PixelRaster(std::uint32_t* origin, std::ptrdiff_t stride, const Rect& clip)
+    : m_origin(origin), m_stride(stride), m_clip(clip) {
+    m_clip.right = std::max(m_clip.right, m_clip.left);
+    m_clip.bottom = std::max(m_clip.bottom, m_clip.top);
+}
+
+void PixelRaster::Fill(const Rect& area, std::uint32_t colour) const {
+    const int left = std::max(area.left, m_clip.left);
+    const int right = std::min(area.right, m_clip.right);
+    if (right - left == 1) {
+        Run(left, area.top, area.bottom - 1, colour);
+        return;
+    }
+    const int bottom = std::min(area.bottom, m_clip.bottom);
+    for (int y = std::max(area.top, m_clip.top); y < bottom && left < right; ++y)
+        std::fill(At(left, y), At(right, y), colour);
+}
+
+void PixelRaster::Dots(const Point& from, const Point& to, const std::vector<bool>& pattern,
+                       std::uint32_t colour) const {
+    const bool isUpright = from.x == to.x;
+    const int across = isUpright ? from.x : from.y;
+    const bool isSeen = isUpright ? across >= m_clip.left && across < m_clip.right
+                                  : across >= m_clip.top && across < m_clip.bottom;
+    if (!isSeen)
+        return;
+    const int begin = isUpright ? from.y : from.x;
+    const int end = isUpright ? to.y : to.x;
+    const int low = isUpright ? m_clip.top : m_clip.left;
+    const int high = (isUpright ? m_clip.bottom : m_clip.right) - 1;
+    // Pixels of the line, counted from its first, that lie inside the clip.
+    const int direction = end < begin ? -1 : 1;
+    const int first = std::max(direction > 0 ? low - begin : begin - high, 0);
+    const int last = std::min(direction > 0 ? high - begin : begin - low, std::abs(end - begin) - 1);
+    const std::ptrdiff_t step = (isUpright ? m_stride : 1) * direction;
+    if (first > last)
+        return;
+    const int along = begin + direction * first;
+    std::uint32_t* pixel = isUpright ? At(across, along) : At(along, across);
+    auto dot = pattern.begin() + first % static_cast<int>(pattern.size());
+    for (int k = first; k <= last; ++k) {
+        if (*dot)
+            pixel[step * (k - first)] = colour;
+        if (++dot == pattern.end())
+            dot = pattern.begin();
+    }
+}
+
+void PixelRaster::Stroke(const Point& from, const Point& to, std::uint32_t colour) const {
+    if (from.x == to.x) {
+        if (from.y < to.y)
+            Run(from.x, from.y, to.y - 1, colour);
+        else if (from.y > to.y)
+            Run(from.x, to.y + 1, from.y, colour);
+        return;
+    }
+    // Along the longer direction there is one pixel for each step; across it, the line moves on where it is
+    // nearer to the next pixel. Halfway it goes to the smaller coordinate.
+    const std::int64_t dx = std::int64_t{to.x} - from.x;
+    const std::int64_t dy = std::int64_t{to.y} - from.y;
+    const bool isSteep = std::llabs(dy) > std::llabs(dx);
+    const std::int64_t along = isSteep ? std::llabs(dy) : std::llabs(dx);
+    const std::int64_t across = isSteep ? std::llabs(dx) : std::llabs(dy);
+    const bool alongDown = (isSteep ? dy : dx) < 0;
+    const bool acrossDown = (isSteep ? dx : dy) < 0;
+    const std::int64_t atHalf = acrossDown ? 0 : 1;
+
+    // Steps of the longer direction that lie inside the clip, then those whose cross position does.
+    const std::int64_t start = isSteep ? from.y : from.x;
+    const std::int64_t clipLow = isSteep ? m_clip.top : m_clip.left;
+    const std::int64_t clipHigh = isSteep ? m_clip.bottom : m_clip.right; // not included
+    std::int64_t first = std::max<std::int64_t>(alongDown ? start - clipHigh + 1 : clipLow - start, 0);
+    std::int64_t end = std::min(alongDown ? start - clipLow + 1 : clipHigh - start, along);
+
+    const std::int64_t crossStart = isSteep ? from.x : from.y;
+    const std::int64_t crossLow = isSteep ? m_clip.left : m_clip.top;
+    const std::int64_t crossHigh = isSteep ? m_clip.right : m_clip.bottom;
+    const std::int64_t firstMove = acrossDown ? crossStart - crossHigh + 1 : crossLow - crossStart;
+    const std::int64_t endMove = acrossDown ? crossStart - crossLow + 1 : crossHigh - crossStart;
+    if (endMove <= 0 || firstMove > across)
+        return;
+    // The first step at which the line has moved `moves` pixels across.
+    const auto stepOf = [&](std::int64_t moves) {
+        return CeilDivide((2 * moves - 1) * along + atHalf, 2 * across);
+    };
+    if (firstMove > 0)
+        first = std::max(first, stepOf(firstMove));
+    if (endMove <= across)
+        end = std::min(end, stepOf(endMove));
+    if (first >= end)
+        return;
+
+    const std::ptrdiff_t alongStep = (isSteep ? m_stride : 1) * (alongDown ? -1 : 1);
+    const std::ptrdiff_t acrossStep = (isSteep ? 1 : m_stride) * (acrossDown ? -1 : 1);
+    const auto place = [&](std::int64_t step, std::int64_t moves) {
+        const std::int64_t offset =
+            m_stride * std::int64_t{from.y} + from.x + alongStep * step + acrossStep * moves;
+        return m_origin + static_cast<std::ptrdiff_t>(offset);
+    };
+    if (across == 1) { // two runs
+        const std::int64_t change = std::clamp(stepOf(1), first, end);
+        const auto run = [&](std::int64_t step, std::int64_t runEnd, std::int64_t moves) {
+            if (step == runEnd)
+                return;
+            std::uint32_t* pixel = place(step, moves);
+            *pixel = colour;
+            while (++step < runEnd)
+                *(pixel += alongStep) = colour;
+        };
+        run(first, change, 0);
+        run(change, end, 1);
+        return;
+    }
+    std::int64_t error = 2 * first * across + along - atHalf;
+    const std::int64_t moves = error / (2 * along);
+    error -= moves * 2 * along;
+    std::uint32_t* pixel = place(first, moves);
+    *pixel = colour;
+    for (std::int64_t step = first + 1; step < end; ++step) {
+        pixel += alongStep;
+        error += 2 * across;
+        if (error >= 2 * along) {
+            error -= 2 * along;
+            pixel += acrossStep;
+        }
+        *pixel = colour;
+    }
+}
+
+} // namespace kavlix

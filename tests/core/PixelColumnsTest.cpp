@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <tuple>
+#include <vector>
+
+#include "graphctrl/PixelColumns.h"
+
+namespace kavlix {
+namespace {
+
+using Groups = std::vector<std::tuple<int, int, int>>;
+
+/// Sample by sample: runs on one pixel, and a neighbour on either side of the held ones.
+Groups PlainGroups(const std::vector<int>& positions, IndexRange range, const std::vector<int>& edges) {
+    const auto pixelOf = [&](int index) {
+        const int position = positions[static_cast<std::size_t>(index)];
+        return static_cast<int>(std::upper_bound(edges.begin(), edges.end(), position) - edges.begin());
+    };
+    const int outside = static_cast<int>(edges.size());
+    const auto isHeld = [&](int index) { return pixelOf(index) > 0 && pixelOf(index) < outside; };
+    const bool ascends =
+        positions[static_cast<std::size_t>(range.first)] <= positions[static_cast<std::size_t>(range.last)];
+    const int before = ascends ? 0 : outside;
+    Groups groups;
+    for (int i = range.first; i <= range.last; ++i) {
+        const int position = positions[static_cast<std::size_t>(i)];
+        if (isHeld(i)) {
+            if (!groups.empty() && std::get<1>(groups.back()) == i - 1 && isHeld(i - 1) &&
+                pixelOf(i - 1) == pixelOf(i))
+                std::get<1>(groups.back()) = i;
+            else
+                groups.emplace_back(i, i, position);
+        } else if (pixelOf(i) == before) {
+            if (i == range.last || pixelOf(i + 1) != before)
+                groups.emplace_back(i, i, position);
+        } else {
+            groups.emplace_back(i, i, position);
+            break;
+        }
+    }
+    return groups;
+}
+
+TEST(PixelColumnsTest, GroupsAreThoseOfAWalk) {
+    std::mt19937 random(3);
+    const auto upTo = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n + 1)); };
+    for (int round = 0; round < 4000; ++round) {
+        std::vector<int> edges{upTo(200) - 100};
+        for (int k = 1 + upTo(20); k > 0; --k)
+            edges.push_back(edges.back() + 29 + (round % 2 == 0 ? 1 : upTo(2)));
+        const PixelEdges pixels(5, edges);
+        ASSERT_EQ(pixels.IsRegular(),
+                  edges.size() < 3 || std::adjacent_find(edges.begin(), edges.end(), [&](int a, int b) {
+                                          return b - a != edges[1] - edges[0];
+                                      }) == edges.end());
+        const int step = round % 5 == 0 ? 900 : round % 3 == 0 ? 1 : 40;
+        std::vector<int> positions{upTo(900) - 600};
+        for (int k = upTo(round % 3 == 0 ? 900 : 60); k > 0; --k)
+            positions.push_back(positions.back() + upTo(step));
+        if (round % 4 == 1)
+            std::reverse(positions.begin(), positions.end());
+        IndexRange range{0, static_cast<int>(positions.size()) - 1};
+        if (round % 7 == 0)
+            range = {range.last / 3, range.last - range.last / 4};
+
+        int looks = 0;
+        Groups found;
+        for (const PixelColumn& column : GroupByColumn(range, pixels, [&](int index) {
+                 ++looks;
+                 EXPECT_TRUE(index >= range.first && index <= range.last) << index;
+                 return positions[static_cast<std::size_t>(index)];
+             }))
+            found.emplace_back(column.first, column.last, column.position);
+        ASSERT_EQ(found, PlainGroups(positions, range, edges)) << "round " << round;
+        ASSERT_LE(looks, 40 + static_cast<int>(found.size()) * 16) << "round " << round;
+        for (const auto& [first, last, position] : found)
+            ASSERT_TRUE(!pixels.Holds(position) || pixels.PixelOf(position) == 5 + pixels.Find(position));
+    }
+    EXPECT_TRUE(GroupByColumn({3, 2}, PixelEdges(0, {0, 30}), [](int) { return 0; }).empty());
+    EXPECT_TRUE(GroupByColumn({0, 2}, PixelEdges(), [](int) { return 0; }).empty());
+}
+
+} // namespace
+} // namespace kavlix

@@ -1,0 +1,127 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+#include <vector>
+
+#include "graphctrl/ThinLine.h"
+
+namespace kavlix {
+namespace {
+
+constexpr int kSide = 40;
+constexpr std::uint32_t kInk = 7;
+using Picture = std::vector<std::uint32_t>;
+
+/// Every pixel of a stroke one by one: along the longer direction, halves to the smaller coordinate.
+void PlainStroke(Picture& picture, const Rect& clip, Point from, Point to) {
+    const long long dx = std::llabs(static_cast<long long>(to.x) - from.x);
+    const long long dy = std::llabs(static_cast<long long>(to.y) - from.y);
+    const int sx = to.x < from.x ? -1 : 1, sy = to.y < from.y ? -1 : 1;
+    const bool steep = dy > dx;
+    const long long along = std::max(dx, dy), across = std::min(dx, dy);
+    const long long half = (steep ? sx : sy) < 0 ? 0 : 1;
+    for (long long k = 0; k < along; ++k) {
+        const long long moved = (2 * k * across + along - half) / (2 * along);
+        const long long x = from.x + sx * (steep ? moved : k), y = from.y + sy * (steep ? k : moved);
+        if (x >= clip.left && x < clip.right && y >= clip.top && y < clip.bottom)
+            picture[static_cast<std::size_t>(y * kSide + x)] = kInk;
+    }
+}
+
+TEST(PixelRasterTest, LinesAreThoseOfSinglePixels) {
+    std::mt19937 random(21);
+    const auto within = [&](int low, int high) {
+        return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
+    };
+    const Rect clips[] = {{0, 0, kSide, kSide}, {7, 11, 31, 29}, {20, 0, 21, kSide}, {5, 5, 5, 9}};
+    for (int round = 0; round < 40000; ++round) {
+        const Rect& clip = clips[round % 4];
+        const int far = round % 7 == 0 ? 3000 : round % 3 == 0 ? 100 : 3;
+        std::vector<Point> line(static_cast<std::size_t>(within(0, 6)));
+        Point at{within(-5, kSide + 5), within(-5, kSide + 5)};
+        for (Point& point : line) {
+            at.x += within(-far, far) * within(0, 1);
+            at.y += within(-2 * far, 2 * far);
+            point = at;
+        }
+        Picture own(kSide * kSide), plain(kSide * kSide);
+        // Rows upwards in memory are told by a stride below 0.
+        const bool upwards = round % 2 == 0;
+        PixelRaster raster(upwards ? own.data() + (kSide - 1) * kSide : own.data(), upwards ? -kSide : kSide,
+                           clip);
+        ThinLine strokes(raster, kInk);
+        for (const Point& point : line)
+            strokes.To(point.x, point.y);
+        strokes.End();
+        for (std::size_t i = 1; i < line.size(); ++i)
+            PlainStroke(plain, clip, line[i - 1], line[i]);
+        for (int y = 0; y < kSide; ++y)
+            for (int x = 0; x < kSide; ++x)
+                ASSERT_EQ(own[static_cast<std::size_t>((upwards ? kSide - 1 - y : y) * kSide + x)],
+                          plain[static_cast<std::size_t>(y * kSide + x)])
+                    << "round " << round << " at " << x << "," << y;
+    }
+}
+
+TEST(PixelRasterTest, LinesFromFarAwayKeepTheirPixels) {
+    // Ends as far away as coordinates go; the pixels follow from the slope alone.
+    constexpr int kFar = 1 << 27;
+    const struct {
+        Point from, to;
+        Point on, off;
+    } cases[] = {
+        {{-kFar, -kFar}, {kFar, kFar}, {17, 17}, {17, 18}},
+        {{kFar + 30, -kFar}, {-kFar + 30, kFar}, {20, 10}, {20, 11}},
+        {{-kFar, 5}, {kFar, 5}, {39, 5}, {39, 6}},
+        {{8, kFar}, {8, -kFar}, {8, 39}, {9, 39}},
+        {{-kFar, 0}, {kFar, 2 * 20}, {0, 20}, {0, 21}},
+        {{20 + 10, -kFar}, {20 - 10, kFar}, {20, 0}, {21, 1}},
+    };
+    for (const auto& each : cases) {
+        Picture picture(kSide * kSide);
+        PixelRaster raster(picture.data(), kSide, {0, 0, kSide, kSide});
+        raster.Stroke(each.from, each.to, kInk);
+        const auto at = [&](const Point& p) { return picture[static_cast<std::size_t>(p.y * kSide + p.x)]; };
+        EXPECT_EQ(at(each.on), kInk) << each.from.x << " on";
+        EXPECT_EQ(at(each.off), 0u) << each.from.x << " off";
+    }
+}
+
+TEST(PixelRasterTest, DotsCountFromTheLinesFirstPixelWhereverItLies) {
+    const Rect clip{3, 4, 30, 25};
+    const std::vector<bool> pattern{true, true, false, true, false};
+    for (int begin : {-23, 0, 7, 39, 70}) {
+        for (int end : {-9, 7, 22, 60}) {
+            for (bool isUpright : {false, true}) {
+                Picture picture(kSide * kSide), plain(kSide * kSide);
+                const auto at = [&](int along) { return isUpright ? Point{9, along} : Point{along, 9}; };
+                PixelRaster(picture.data(), kSide, clip).Dots(at(begin), at(end), pattern, kInk);
+                for (int k = 0; k < std::abs(end - begin); ++k) {
+                    const Point p = at(end < begin ? begin - k : begin + k);
+                    if (clip.Contains(p) && pattern[static_cast<std::size_t>(k) % pattern.size()])
+                        plain[static_cast<std::size_t>(p.y * kSide + p.x)] = kInk;
+                }
+                ASSERT_EQ(picture, plain) << begin << " to " << end << (isUpright ? " upright" : "");
+            }
+        }
+    }
+}
+
+TEST(PixelRasterTest, FillsStayInsideTheClip) {
+    const Rect clip{3, 4, 30, 25};
+    for (const Rect& area : {Rect{-9, -9, 99, 99}, Rect{5, 6, 9, 8}, Rect{5, 6, 6, 99}, Rect{5, 6, 5, 9},
+                             Rect{9, 9, 5, 20}, Rect{9, 20, 12, 9}, Rect{29, 0, 31, 9}, Rect{2, 0, 4, 50}}) {
+        Picture picture(kSide * kSide);
+        PixelRaster(picture.data(), kSide, clip).Fill(area, kInk);
+        for (int y = 0; y < kSide; ++y)
+            for (int x = 0; x < kSide; ++x)
+                ASSERT_EQ(picture[static_cast<std::size_t>(y * kSide + x)] == kInk,
+                          area.Contains({x, y}) && clip.Contains({x, y}))
+                    << x << "," << y;
+    }
+}
+
+} // namespace
+} // namespace kavlix

@@ -1,0 +1,383 @@
+// What the shortcuts draw against what a walk over every sample draws, in random views. KAVLIX_VIEWS sets the
+// number of views.
+
+#include "tests/speed/PlainWalk.h"
+#include "tests/support/DibSurface.h"
+#include "tests/support/RecordingParent.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <random>
+#include <sstream>
+#include <string>
+
+namespace {
+
+constexpr int kDefaultViews = 2000;
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+int Views() {
+    const char* wanted = std::getenv("KAVLIX_VIEWS");
+    return wanted != nullptr ? std::atoi(wanted) : kDefaultViews;
+}
+
+/// Random choices, the same on every machine.
+class Dice {
+public:
+    explicit Dice(unsigned seed) : m_engine(seed) {}
+    int UpTo(int most) { return static_cast<int>(m_engine() % (static_cast<unsigned>(most) + 1u)); }
+    bool OneIn(int n) { return UpTo(n - 1) == 0; }
+    double Share() { return m_engine() / 4294967296.0; }
+    double Within(double low, double high) { return low + (high - low) * Share(); }
+    /// 1 to `most`, small ones as likely as large ones.
+    int Size(int most) { return static_cast<int>(std::exp(Within(0, std::log(most + 0.999)))); }
+
+private:
+    std::mt19937 m_engine;
+};
+
+enum Shape { Walk, Noise, Steps, Spikes, Constant, Gaps, Infinities, Mixed, ShapeCount };
+
+double Sample(Shape shape, int index, double& state, Dice& dice) {
+    switch (shape) {
+    case Walk:
+        return state += dice.Within(-2, 2);
+    case Noise:
+        return dice.Within(0, 100);
+    case Steps:
+        return dice.OneIn(40) ? state = dice.UpTo(10) * 10.0 : state;
+    case Spikes:
+        return dice.OneIn(60) ? dice.Within(-1e4, 1e4) : 50 + dice.Within(-1, 1);
+    case Constant:
+        return 50;
+    case Gaps:
+        return index / 7 % 5 == 2 || dice.OneIn(50) ? std::nan("") : state += dice.Within(-3, 3);
+    case Infinities:
+        return dice.OneIn(30)   ? (dice.OneIn(2) ? kInfinity : -kInfinity)
+               : dice.OneIn(30) ? 1e300
+                                : dice.Within(0, 100);
+    default:
+        return Sample(static_cast<Shape>(index / 97 % Mixed), index, state, dice);
+    }
+}
+
+/// What makes a view dear for the plain walk.
+struct Cost {
+    bool isLong, isWide;
+
+    Cost(int view, Dice& dice) : isLong(view % 40 == 0), isWide(dice.OneIn(isLong ? 5 : 3)) {}
+    int Samples(Dice& dice) const {
+        return !isLong ? dice.Size(2000) : isWide ? 5000 + dice.UpTo(5000) : 20000 + dice.UpTo(80000);
+    }
+    /// A wide stroke from far away is slow to draw.
+    int Fewer(int samples, Shape shape) const {
+        return isWide && shape >= Infinities ? std::min(samples, 12) : samples;
+    }
+};
+
+/// Pictures of one size: what is compared, and the DC of a bitmap without pixels in reach.
+class Pictures {
+public:
+    Pictures(int width, int height)
+        : fast(width, height), slow(width, height), drawn(width, height), m_size(width, height) {
+        m_screen = ::GetDC(nullptr);
+        m_dc = ::CreateCompatibleDC(m_screen);
+        m_bitmap = ::CreateCompatibleBitmap(m_screen, width, height);
+        m_before = ::SelectObject(m_dc, m_bitmap);
+        ::PatBlt(m_dc, 0, 0, width, height, WHITENESS);
+    }
+    ~Pictures() {
+        ::SelectObject(m_dc, m_before);
+        ::DeleteObject(m_bitmap);
+        ::DeleteDC(m_dc);
+        ::ReleaseDC(nullptr, m_screen);
+    }
+
+    /// Empty when the shortcuts' pictures, by pixels and by GDI, are the plain one.
+    template <class Graph> std::string Compare(Graph& graph) {
+        graph.isPlain = true;
+        graph.Paint(slow.Dc());
+        graph.isPlain = false;
+        graph.Paint(fast.Dc());
+        graph.Paint(m_dc);
+        ::SetMapMode(m_dc, MM_TEXT);
+        ::SetMapMode(drawn.Dc(), MM_TEXT);
+        ::BitBlt(drawn.Dc(), 0, 0, m_size.cx, m_size.cy, m_dc, 0, 0, SRCCOPY);
+        const std::string pixels = testkit::Difference(fast, slow),
+                          strokes = testkit::Difference(drawn, slow);
+        return (pixels.empty() ? "" : "pixels: " + pixels) + (strokes.empty() ? "" : " strokes: " + strokes);
+    }
+
+    testkit::DibSurface fast, slow, drawn;
+
+private:
+    CSize m_size;
+    HDC m_screen, m_dc;
+    HBITMAP m_bitmap;
+    HGDIOBJ m_before;
+};
+
+/// Pen, marker, visibility, colours, ranges and mark at random, told in the result.
+template <class Graph> std::string Dress(Graph& graph, Dice& dice, int longest, Cost cost) {
+    std::ostringstream told;
+    static constexpr int kThinPens[] = {0, 15, 30, 44};
+    static constexpr int kWidePens[] = {45, 60, 75, 90, 120, 300, 1000};
+    const bool twoAxis = dice.OneIn(4);
+    graph.SetGraphStyle(twoAxis ? CGraphCtrl::GraphStyleTwoAxis : CGraphCtrl::GraphStyleLine);
+    for (int i = 0; i < CGraphCtrl::DatasetCount; ++i) {
+        const int pen = cost.isWide ? kWidePens[dice.UpTo(6)] : kThinPens[dice.UpTo(3)];
+        const int marker = cost.isLong || !dice.OneIn(3) ? 0 : dice.UpTo(6);
+        graph.SetLineSize(i, pen);
+        graph.SetMarkerType(i, static_cast<CDataset::MarkerType>(marker));
+        graph.ShowDataset(i, !dice.OneIn(8));
+        if (graph.GetDatasetSize(i) > 0)
+            told << " pen " << pen << " marker " << marker;
+    }
+    static constexpr double kEnds[][2] = {{0, 100},   {-20, 130},   {40, 60},    {100, 0},
+                                          {102, 300}, {49.9, 50.1}, {-1e6, 1e6}, {60, -3}};
+    const auto& y = kEnds[dice.UpTo(7)];
+    graph.SetYVisibleMin(y[0]);
+    graph.SetYVisibleMax(y[1]);
+    graph.SetY2VisibleMin(dice.Within(-50, 50));
+    graph.SetY2VisibleMax(dice.Within(50, 150));
+    graph.m_SelectionMarkPos = dice.OneIn(2) ? dice.UpTo(std::max(longest - 1, 0)) : -1;
+    told << " y " << y[0] << ".." << y[1] << " mark " << graph.m_SelectionMarkPos
+         << (twoAxis ? " two axes" : "");
+    return told.str();
+}
+
+class IdentityTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(parent.CreateVisible(700, 500)) << "no display"; }
+    void TearDown() override {
+        parent.DestroyWindow();
+        testkit::Pump();
+    }
+
+    template <class Graph> void Open(Graph& graph, CSize size) {
+        ASSERT_TRUE(
+            graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), size), &parent, 7));
+        graph.SetLegendWidth(300);
+    }
+
+    testkit::RecordingParent parent;
+};
+
+} // namespace
+
+TEST_F(IdentityTest, GraphsLookAsIfEverySampleWereDrawn) {
+    static constexpr SIZE kSizes[] = {{230, 190}, {420, 300}};
+    int shown = 0;
+    for (const SIZE& size : kSizes) {
+        plain::Graph<CGraphCtrl> graph;
+        ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+        Pictures pictures(size.cx, size.cy);
+        const int views = Views() * 3 / 8;
+        for (int view = 0; view < views; ++view) {
+            Dice dice(static_cast<unsigned>(view * 2 + (size.cx > 300)));
+            graph.ResetAll();
+            const Cost cost(view, dice);
+            const int count = cost.Samples(dice);
+            const int datasets = cost.isLong ? 1 : 1 + dice.UpTo(2);
+            std::ostringstream told;
+            told << "view " << view << " of " << size.cx << ": " << count << " samples";
+            int longest = 0;
+            for (int i = 0; i < datasets; ++i) {
+                const Shape shape = static_cast<Shape>(dice.UpTo(ShapeCount - 1));
+                const int most = cost.Fewer(count, shape);
+                const int samples = i == 0 || dice.OneIn(2) ? most : dice.UpTo(most);
+                double state = 50;
+                for (int k = 0; k < samples; ++k)
+                    graph.AddData(i, Sample(shape, k, state, dice), nullptr);
+                longest = std::max(longest, samples);
+                told << " shape " << shape;
+            }
+            if (dice.OneIn(3) && longest > 4) { // heads that end within blocks
+                const int head = dice.UpTo(longest / 2);
+                graph.RemoveHeadData(head);
+                longest -= head;
+            }
+            told << Dress(graph, dice, longest, cost);
+            const double a = dice.Within(-0.2, 1.2) * longest, b = dice.Within(-0.2, 1.2) * longest;
+            const double ends[][2] = {{0, longest - 1 + 0.001},
+                                      {std::min(a, b), std::max(a, b)},
+                                      {std::max(a, b), std::min(a, b)},
+                                      {a, a + 0.5},
+                                      {-a * 50, b * 50 + 1},
+                                      {a, a},
+                                      {-1e9, 1e9},
+                                      {longest + 5.0, longest + 50.0}};
+            const auto& x = ends[dice.OneIn(3) ? dice.UpTo(7) : dice.UpTo(1)];
+            graph.SetXVisibleMin(x[0]);
+            graph.SetXVisibleMax(x[1]);
+            told << " x " << x[0] << ".." << x[1];
+            ASSERT_EQ(pictures.Compare(graph), "") << told.str();
+            shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
+        }
+        graph.DestroyWindow();
+    }
+    EXPECT_GT(shown, Views() * 3 / 8) << "views must show something";
+}
+
+TEST_F(IdentityTest, ScrollingGraphsToo) {
+    plain::Graph<CScrollGraphCtrl> graph;
+    const CSize size(260, 200);
+    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+    Pictures pictures(size.cx, size.cy);
+    int shown = 0;
+    const int views = Views() / 4;
+    for (int view = 0; view < views; ++view) {
+        Dice dice(static_cast<unsigned>(view) + 5000000u);
+        graph.ResetAll();
+        const Cost cost(view, dice);
+        const int count = cost.Samples(dice);
+        // Equal steps, uneven ones with repetitions, and now and then a step back.
+        const int kind = dice.UpTo(5);
+        long time = 1700000000;
+        for (int k = 0; k < count; ++k) {
+            graph.AddXTickLabel(time);
+            time += kind < 3 ? kind + 1 : kind == 3 ? dice.UpTo(9) : dice.UpTo(1);
+            if (kind == 5 && dice.OneIn(100))
+                time -= dice.UpTo(30);
+        }
+        std::ostringstream told;
+        told << "view " << view << ": " << count << " samples, times " << kind;
+        for (int i = 0; i < 1 + view % 2; ++i) {
+            const Shape shape = static_cast<Shape>(dice.UpTo(cost.isWide ? Gaps : Mixed));
+            double state = 50;
+            for (int k = 0; k < count - i * dice.UpTo(5); ++k)
+                graph.AddDataForOffline(i, Sample(shape, k, state, dice), nullptr);
+            told << " shape " << shape;
+        }
+        graph.SetHorzRange(dice.OneIn(2) ? count / 60.0 : dice.Within(0.05, 30));
+        if (dice.OneIn(2))
+            graph.ViewPos() = dice.Within(-0.2, 1.1) * count * 20;
+        told << Dress(graph, dice, count, cost) << " from " << graph.ViewPos();
+        ASSERT_EQ(pictures.Compare(graph), "") << told.str();
+        shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
+    }
+    graph.DestroyWindow();
+    EXPECT_GT(shown, views / 3) << "views must show something";
+}
+
+TEST_F(IdentityTest, BarsTooHoweverTheyAreFilled) {
+    plain::Graph<CGraphCtrl> graph;
+    const CSize size(300, 220);
+    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+    Pictures pictures(size.cx, size.cy);
+    int shown = 0;
+    const int views = Views() / 10;
+    for (int view = 0; view < views; ++view) {
+        Dice dice(static_cast<unsigned>(view) + 7000000u);
+        graph.ResetAll();
+        const int count = dice.Size(300);
+        const Shape shape = static_cast<Shape>(dice.UpTo(ShapeCount - 1));
+        for (int i = 0; i < 1 + view % 4; ++i) {
+            double state = 50;
+            for (int k = 0; k < count; ++k)
+                graph.AddData(i, Sample(shape, k, state, dice), nullptr);
+        }
+        std::ostringstream told;
+        told << "view " << view << ": " << count << " samples, shape " << shape
+             << Dress(graph, dice, count, Cost(1, dice));
+        graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);
+        graph.SetXVisibleMin(dice.OneIn(2) ? 0 : dice.Within(-0.2, 1) * count);
+        graph.SetXVisibleMax(dice.Within(0, 1.3) * count);
+        ASSERT_EQ(pictures.Compare(graph), "") << told.str();
+        shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
+    }
+    graph.DestroyWindow();
+    EXPECT_GT(shown, views / 3) << "views must show something";
+}
+
+TEST_F(IdentityTest, LinesOfManyPoints) {
+    // So wide that a line is drawn in several parts, of points inside and far outside the view.
+    plain::Graph<CGraphCtrl> graph;
+    const CSize size(2600, 160);
+    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+    Pictures pictures(size.cx, size.cy);
+    graph.Paint(pictures.fast.Dc()); // lays out
+    // In dataset 0 each pixel column stands apart from the next, so that the strokes between them show; in
+    // dataset 1 many strokes of a column come from far away.
+    constexpr int kPerColumn = 8;
+    const int count = graph.m_rectPlot.Width() / 30 * kPerColumn;
+    Dice dice(1);
+    for (int k = 0; k < count; ++k) {
+        const int column = (graph.m_rectPlot.left + k * 30 / kPerColumn + 15) / 30;
+        graph.AddData(0, (column % 2 != 0 ? 80 : 20) + dice.Within(-9, 9), nullptr);
+        graph.AddData(1, dice.Within(0, 100), nullptr);
+    }
+    graph.SetXVisibleMin(0);
+    graph.SetXVisibleMax(count);
+    for (const int shown : {0, 1}) {
+        graph.ShowDataset(shown, TRUE);
+        graph.ShowDataset(1 - shown, FALSE);
+        for (const int pen : {0, 60}) {
+            for (const double half : {50.0, 5.0, 0.1}) {
+                graph.SetLineSize(shown, pen);
+                graph.SetYVisibleMin(50 - half);
+                graph.SetYVisibleMax(50 + half);
+                EXPECT_EQ(pictures.Compare(graph), "")
+                    << "dataset " << shown << " pen " << pen << " y 50 +- " << half;
+            }
+        }
+    }
+    graph.DestroyWindow();
+}
+
+TEST_F(IdentityTest, MarkersOfManySamples) {
+    plain::Graph<CGraphCtrl> graph;
+    const CSize size(230, 190);
+    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+    Pictures pictures(size.cx, size.cy);
+    constexpr int kSamples = 10000;
+    for (const Shape shape : {Walk, Steps, Spikes, Constant, Gaps}) {
+        for (int marker = CDataset::MarkerSquare; marker <= CDataset::MarkerCross; ++marker) {
+            graph.ResetAll();
+            Dice dice(static_cast<unsigned>(marker));
+            double state = 50;
+            for (int k = 0; k < kSamples; ++k)
+                graph.AddData(0, Sample(shape, k, state, dice), nullptr);
+            graph.SetMarkerType(0, static_cast<CDataset::MarkerType>(marker));
+            graph.SetXVisibleMin(0);
+            graph.SetXVisibleMax(kSamples);
+            EXPECT_EQ(pictures.Compare(graph), "") << "shape " << shape << " marker " << marker;
+        }
+    }
+    graph.DestroyWindow();
+}
+
+TEST_F(IdentityTest, LinesEndWhereTheyShouldBeforeGapsAndMarks) {
+    // The last sample before a gap or the mark stands alone on its row, and the gap begins with a pixel
+    // column.
+    plain::Graph<CGraphCtrl> graph;
+    const CSize size(230, 190);
+    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+    Pictures pictures(size.cx, size.cy);
+    graph.Paint(pictures.fast.Dc()); // lays out
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        Dice dice(seed);
+        graph.ResetAll();
+        const int perColumn = 5 + dice.UpTo(60);
+        const int plotColumns = graph.m_rectPlot.Width() / 30;
+        const int count = plotColumns * perColumn;
+        const int phase = dice.UpTo(perColumn - 1);
+        for (int i = 0; i < count; ++i) {
+            const bool isGap = (i + phase) % perColumn == 0, isBefore = (i + 1 + phase) % perColumn == 0;
+            graph.AddData(0,
+                          isGap && seed % 3 != 0 ? std::nan("")
+                          : isBefore             ? dice.Within(80, 99)
+                                                 : dice.Within(20, 70),
+                          nullptr);
+        }
+        graph.SetXVisibleMin(0);
+        graph.SetXVisibleMax(count);
+        graph.m_SelectionMarkPos = (1 + dice.UpTo(plotColumns - 2)) * perColumn - phase;
+        ASSERT_EQ(pictures.Compare(graph), "") << "seed " << seed << ", " << perColumn << " samples a column";
+    }
+    graph.DestroyWindow();
+}

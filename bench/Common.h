@@ -53,5 +53,15 @@ void Pump();
 
 /// The families.
 void ScrollReplay();
+void GraphPaint(int count);
+void GraphWindow();
+void GraphBars();
+void GraphAppend();
+void GraphSteady();
+void GraphGrowth();
+void GraphDay();
+void ScrollPaint(int count);
+void ScrollWindow();
+void ChartPaint(int count);
 
 } // namespace bench

@@ -20,6 +20,22 @@ constexpr struct {
     void (*run)();
 } kFamilies[] = {
     {"scroll_replay", &bench::ScrollReplay},
+    {"graph_paint_1000", [] { bench::GraphPaint(1000); }},
+    {"graph_paint_100000", [] { bench::GraphPaint(100000); }},
+    {"graph_paint_1000000", [] { bench::GraphPaint(1000000); }},
+    {"graph_window", &bench::GraphWindow},
+    {"graph_bars", &bench::GraphBars},
+    {"graph_append", &bench::GraphAppend},
+    {"graph_steady", &bench::GraphSteady},
+    {"scroll_paint_1000", [] { bench::ScrollPaint(1000); }},
+    {"scroll_paint_100000", [] { bench::ScrollPaint(100000); }},
+    {"scroll_paint_1000000", [] { bench::ScrollPaint(1000000); }},
+    {"scroll_window", &bench::ScrollWindow},
+    {"chart_paint_1000", [] { bench::ChartPaint(1000); }},
+    {"chart_paint_100000", [] { bench::ChartPaint(100000); }},
+    {"chart_paint_1000000", [] { bench::ChartPaint(1000000); }},
+    {"graph_growth", &bench::GraphGrowth},
+    {"graph_day", &bench::GraphDay},
 };
 
 } // namespace

@@ -170,7 +170,8 @@ void CChartDraw::DrawAxes(CDC& dc) {
     }
 }
 
-void CChartDraw::DrawXScale(CDC& dc) {
+void CChartDraw::DrawScale(CDC& dc, COLORREF textColor, UINT align,
+                           const std::function<void()>& drawTicks) const {
     if (!m_ShowScales || m_rectPlot.IsRectEmpty())
         return;
     CPen pen;
@@ -181,43 +182,39 @@ void CChartDraw::DrawXScale(CDC& dc) {
     Select(dc, pen);
     Select(dc, font);
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(m_XTickLabelColor);
-    dc.SetTextAlign(TA_CENTER | TA_TOP);
+    dc.SetTextColor(textColor);
+    dc.SetTextAlign(align);
+    drawTicks();
+}
+
+void CChartDraw::DrawXScale(CDC& dc) {
     int free = m_rectChart.left; // where the next label may begin
-    ForTicks(*m_XScale, XMap(), [&](int tick, int x) {
-        DrawStroke(dc, x, m_rectPlot.bottom, x, m_rectPlot.bottom + kTickLength);
-        const std::string label = m_XScale->Label(tick);
-        const int half = TextWidth(dc, label) / 2;
-        if (x - half < free || x + half > m_rectChart.right)
-            return;
-        DrawTextAt(dc, x, m_rectPlot.bottom + kTickLength + kTickLabelGap, label.c_str(),
-                   static_cast<int>(label.size()));
-        free = x + half + m_TextHeight / 2;
+    DrawScale(dc, m_XTickLabelColor, TA_CENTER | TA_TOP, [&] {
+        ForTicks(*m_XScale, XMap(), [&](int tick, int x) {
+            DrawStroke(dc, x, m_rectPlot.bottom, x, m_rectPlot.bottom + kTickLength);
+            const std::string label = m_XScale->Label(tick);
+            const int half = TextWidth(dc, label) / 2;
+            if (x - half < free || x + half > m_rectChart.right)
+                return;
+            DrawTextAt(dc, x, m_rectPlot.bottom + kTickLength + kTickLabelGap, label.c_str(),
+                       static_cast<int>(label.size()));
+            free = x + half + m_TextHeight / 2;
+        });
     });
 }
 
 void CChartDraw::DrawYScale(CDC& dc) {
-    if (!m_ShowScales || m_rectPlot.IsRectEmpty())
-        return;
-    CPen pen;
-    pen.CreatePen(PS_SOLID, 0, m_AxisColor);
-    CFont font;
-    MakeTextFont(font, 0, false);
-    SavedDcGuard saved(dc);
-    Select(dc, pen);
-    Select(dc, font);
-    dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(m_YTickLabelColor);
-    dc.SetTextAlign(TA_RIGHT | TA_TOP);
     const int right = m_rectPlot.left - kTickLength;
     int free = m_rectChart.bottom + m_TextHeight; // where the next label may end
-    ForTicks(*m_YScale, YMap(), [&](int tick, int y) {
-        DrawStroke(dc, right, y, m_rectPlot.left, y);
-        const int top = y - m_TextHeight / 2;
-        if (top + m_TextHeight > free)
-            return;
-        const std::string label = m_YScale->Label(tick);
-        DrawTextAt(dc, right - kTickLabelGap, top, label.c_str(), static_cast<int>(label.size()));
-        free = top;
+    DrawScale(dc, m_YTickLabelColor, TA_RIGHT | TA_TOP, [&] {
+        ForTicks(*m_YScale, YMap(), [&](int tick, int y) {
+            DrawStroke(dc, right, y, m_rectPlot.left, y);
+            const int top = y - m_TextHeight / 2;
+            if (top + m_TextHeight > free)
+                return;
+            const std::string label = m_YScale->Label(tick);
+            DrawTextAt(dc, right - kTickLabelGap, top, label.c_str(), static_cast<int>(label.size()));
+            free = top;
+        });
     });
 }

@@ -69,16 +69,25 @@ std::vector<bool> LearnDots() {
     return dots;
 }
 
-const std::vector<bool>& Dots() {
-    static const std::vector<bool> dots = LearnDots();
-    return dots;
+DotPattern ToPattern(const std::vector<bool>& dots) {
+    DotPattern pattern;
+    pattern.period = static_cast<int>(dots.size());
+    for (int k = 0; k < pattern.period; ++k)
+        if (dots[static_cast<std::size_t>(k)])
+            pattern.dots.push_back(k);
+    return pattern;
+}
+
+const DotPattern& Dots() {
+    static const DotPattern pattern = ToPattern(LearnDots());
+    return pattern;
 }
 
 } // namespace
 
 DottedPen::DottedPen(CDC& dc, COLORREF colour) : m_dc(dc), m_dots(Dots()), m_colour(DirectColour(colour)) {
     m_pen.CreatePen(PS_DOT, 0, colour);
-    if (m_pen.GetSafeHandle() != nullptr && !m_dots.empty() && m_colour && dc.GetBkMode() == TRANSPARENT)
+    if (m_pen.GetSafeHandle() != nullptr && m_dots.period > 0 && m_colour && dc.GetBkMode() == TRANSPARENT)
         m_raster = DirectRaster(dc);
 }
 

@@ -24,8 +24,7 @@ public:
 private:
     CDC& m_dc;
     CPen m_pen;
-    const std::vector<bool>&
-        m_dots; ///< which pixels of a line are painted, in turn; empty where GDI must be asked
+    const DotPattern& m_dots; ///< without period where GDI must be asked
     std::optional<PixelRaster> m_raster;
     std::optional<std::uint32_t> m_colour;
 };

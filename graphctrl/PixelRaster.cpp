@@ -31,7 +31,7 @@ void PixelRaster::Fill(const Rect& area, std::uint32_t colour) const {
         std::fill(At(left, y), At(right, y), colour);
 }
 
-void PixelRaster::Dots(const Point& from, const Point& to, const std::vector<bool>& pattern,
+void PixelRaster::Dots(const Point& from, const Point& to, const DotPattern& pattern,
                        std::uint32_t colour) const {
     const bool isUpright = from.x == to.x;
     const int across = isUpright ? from.x : from.y;
@@ -52,12 +52,12 @@ void PixelRaster::Dots(const Point& from, const Point& to, const std::vector<boo
         return;
     const int along = begin + direction * first;
     std::uint32_t* pixel = isUpright ? At(across, along) : At(along, across);
-    auto dot = pattern.begin() + first % static_cast<int>(pattern.size());
-    for (int k = first; k <= last; ++k) {
-        if (*dot)
-            pixel[step * (k - first)] = colour;
-        if (++dot == pattern.end())
-            dot = pattern.begin();
+    for (int base = first - first % pattern.period; base <= last; base += pattern.period) {
+        for (const int dot : pattern.dots) {
+            const int k = base + dot;
+            if (k >= first && k <= last)
+                pixel[step * (k - first)] = colour;
+        }
     }
 }
 

@@ -8,6 +8,13 @@
 
 namespace kavlix {
 
+/// Which pixels of a dotted line are painted: in every `period` of them, from the first one on, those whose
+/// places `dots` tells, counted from 0.
+struct DotPattern {
+    std::vector<int> dots;
+    int period = 0;
+};
+
 /// Paints into the 32-bit pixels of a picture what GDI would paint there with a solid pen one pixel wide or
 /// with a solid brush: the same pixels, for any coordinates of up to 28 bits. Nothing outside the clip is
 /// touched. Lines of many points go through ThinLine.
@@ -32,10 +39,8 @@ public:
             *pixel = colour;
         *pixel = colour;
     }
-    /// An upright or level line of which the pixels are painted that `pattern` tells in turn, from the first
-    /// one on. Its last pixel is left out.
-    void Dots(const Point& from, const Point& to, const std::vector<bool>& pattern,
-              std::uint32_t colour) const;
+    /// An upright or level line of dots. Its last pixel is left out.
+    void Dots(const Point& from, const Point& to, const DotPattern& pattern, std::uint32_t colour) const;
     /// The pixels of `area`.
     void Fill(const Rect& area, std::uint32_t colour) const;
 

@@ -202,6 +202,9 @@ private:
     void FitXScale(CDC& dc, int width);
     kavlix::LinearMap XMap() const;
     kavlix::LinearMap YMap() const;
+    /// Has the ticks and labels of a scale drawn with the axes' pen and the texts' font, where scales are
+    /// shown.
+    void DrawScale(CDC& dc, COLORREF textColor, UINT align, const std::function<void()>& drawTicks) const;
     void DrawLine(CDC& dc, const Dataset& dataset) const;
     void DrawMarkers(CDC& dc, const Dataset& dataset) const;
 

@@ -91,7 +91,8 @@ TEST(PixelRasterTest, LinesFromFarAwayKeepTheirPixels) {
 
 TEST(PixelRasterTest, DotsCountFromTheLinesFirstPixelWhereverItLies) {
     const Rect clip{3, 4, 30, 25};
-    const std::vector<bool> pattern{true, true, false, true, false};
+    const DotPattern pattern{{0, 1, 3}, 5};
+    const auto isDot = [](int k) { return k % 5 == 0 || k % 5 == 1 || k % 5 == 3; };
     for (int begin : {-23, 0, 7, 39, 70}) {
         for (int end : {-9, 7, 22, 60}) {
             for (bool isUpright : {false, true}) {
@@ -100,7 +101,7 @@ TEST(PixelRasterTest, DotsCountFromTheLinesFirstPixelWhereverItLies) {
                 PixelRaster(picture.data(), kSide, clip).Dots(at(begin), at(end), pattern, kInk);
                 for (int k = 0; k < std::abs(end - begin); ++k) {
                     const Point p = at(end < begin ? begin - k : begin + k);
-                    if (clip.Contains(p) && pattern[static_cast<std::size_t>(k) % pattern.size()])
+                    if (clip.Contains(p) && isDot(k))
                         plain[static_cast<std::size_t>(p.y * kSide + p.x)] = kInk;
                 }
                 ASSERT_EQ(picture, plain) << begin << " to " << end << (isUpright ? " upright" : "");

@@ -144,6 +144,7 @@ template <class Graph> std::string Dress(Graph& graph, Dice& dice, int longest, 
     graph.SetYVisibleMax(y[1]);
     graph.SetY2VisibleMin(dice.Within(-50, 50));
     graph.SetY2VisibleMax(dice.Within(50, 150));
+    graph.SetGrid(dice.OneIn(2), dice.OneIn(2));
     graph.m_SelectionMarkPos = dice.OneIn(2) ? dice.UpTo(std::max(longest - 1, 0)) : -1;
     told << " y " << y[0] << ".." << y[1] << " mark " << graph.m_SelectionMarkPos
          << (twoAxis ? " two axes" : "");
@@ -164,116 +165,106 @@ protected:
         graph.SetLegendWidth(300);
     }
 
+    /// Compares `views` pictures of a graph that `dress(graph, dice)` has filled at random; it tells with
+    /// what.
+    template <class Control, class DressGraph>
+    void CompareViews(CSize size, int views, unsigned seed, DressGraph dress) {
+        plain::Graph<Control> graph;
+        ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+        Pictures pictures(size.cx, size.cy);
+        int shown = 0;
+        for (int view = 0; view < views; ++view) {
+            Dice dice(seed + static_cast<unsigned>(view));
+            graph.ResetAll();
+            const std::string told = dress(graph, dice, view);
+            ASSERT_EQ(pictures.Compare(graph), "") << "view " << view << " of " << size.cx << ": " << told;
+            shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
+        }
+        graph.DestroyWindow();
+        EXPECT_GT(shown, views / 3) << "views must show something";
+    }
+
     testkit::RecordingParent parent;
 };
 
 } // namespace
 
 TEST_F(IdentityTest, GraphsLookAsIfEverySampleWereDrawn) {
-    static constexpr SIZE kSizes[] = {{230, 190}, {420, 300}};
-    int shown = 0;
-    for (const SIZE& size : kSizes) {
-        plain::Graph<CGraphCtrl> graph;
-        ASSERT_NO_FATAL_FAILURE(Open(graph, size));
-        Pictures pictures(size.cx, size.cy);
-        const int views = Views() * 3 / 8;
-        for (int view = 0; view < views; ++view) {
-            Dice dice(static_cast<unsigned>(view * 2 + (size.cx > 300)));
-            graph.ResetAll();
-            const Cost cost(view, dice);
-            const int count = cost.Samples(dice);
-            const int datasets = cost.isLong ? 1 : 1 + dice.UpTo(2);
-            std::ostringstream told;
-            told << "view " << view << " of " << size.cx << ": " << count << " samples";
-            int longest = 0;
-            for (int i = 0; i < datasets; ++i) {
-                const Shape shape = static_cast<Shape>(dice.UpTo(ShapeCount - 1));
-                const int most = cost.Fewer(count, shape);
-                const int samples = i == 0 || dice.OneIn(2) ? most : dice.UpTo(most);
-                double state = 50;
-                for (int k = 0; k < samples; ++k)
-                    graph.AddData(i, Sample(shape, k, state, dice), nullptr);
-                longest = std::max(longest, samples);
-                told << " shape " << shape;
-            }
-            if (dice.OneIn(3) && longest > 4) { // heads that end within blocks
-                const int head = dice.UpTo(longest / 2);
-                graph.RemoveHeadData(head);
-                longest -= head;
-            }
-            told << Dress(graph, dice, longest, cost);
-            const double a = dice.Within(-0.2, 1.2) * longest, b = dice.Within(-0.2, 1.2) * longest;
-            const double ends[][2] = {{0, longest - 1 + 0.001},
-                                      {std::min(a, b), std::max(a, b)},
-                                      {std::max(a, b), std::min(a, b)},
-                                      {a, a + 0.5},
-                                      {-a * 50, b * 50 + 1},
-                                      {a, a},
-                                      {-1e9, 1e9},
-                                      {longest + 5.0, longest + 50.0}};
-            const auto& x = ends[dice.OneIn(3) ? dice.UpTo(7) : dice.UpTo(1)];
-            graph.SetXVisibleMin(x[0]);
-            graph.SetXVisibleMax(x[1]);
-            told << " x " << x[0] << ".." << x[1];
-            ASSERT_EQ(pictures.Compare(graph), "") << told.str();
-            shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
+    const auto dress = [](auto& graph, Dice& dice, int view) {
+        const Cost cost(view, dice);
+        const int count = cost.Samples(dice);
+        const int datasets = cost.isLong ? 1 : 1 + dice.UpTo(2);
+        std::ostringstream told;
+        told << count << " samples";
+        int longest = 0;
+        for (int i = 0; i < datasets; ++i) {
+            const Shape shape = static_cast<Shape>(dice.UpTo(ShapeCount - 1));
+            const int most = cost.Fewer(count, shape);
+            const int samples = i == 0 || dice.OneIn(2) ? most : dice.UpTo(most);
+            double state = 50;
+            for (int k = 0; k < samples; ++k)
+                graph.AddData(i, Sample(shape, k, state, dice), nullptr);
+            longest = std::max(longest, samples);
+            told << " shape " << shape;
         }
-        graph.DestroyWindow();
-    }
-    EXPECT_GT(shown, Views() * 3 / 8) << "views must show something";
+        if (dice.OneIn(3) && longest > 4) { // heads that end within blocks
+            const int head = dice.UpTo(longest / 2);
+            graph.RemoveHeadData(head);
+            longest -= head;
+        }
+        told << Dress(graph, dice, longest, cost);
+        const double a = dice.Within(-0.2, 1.2) * longest, b = dice.Within(-0.2, 1.2) * longest;
+        const double ends[][2] = {{0, longest - 1 + 0.001},
+                                  {std::min(a, b), std::max(a, b)},
+                                  {std::max(a, b), std::min(a, b)},
+                                  {a, a + 0.5},
+                                  {-a * 50, b * 50 + 1},
+                                  {a, a},
+                                  {-1e9, 1e9},
+                                  {longest + 5.0, longest + 50.0}};
+        const auto& x = ends[dice.OneIn(3) ? dice.UpTo(7) : dice.UpTo(1)];
+        graph.SetXVisibleMin(x[0]);
+        graph.SetXVisibleMax(x[1]);
+        told << " x " << x[0] << ".." << x[1];
+        return told.str();
+    };
+    CompareViews<CGraphCtrl>(CSize(230, 190), Views() * 3 / 8, 0, dress);
+    CompareViews<CGraphCtrl>(CSize(420, 300), Views() * 3 / 8, 2000000, dress);
 }
 
 TEST_F(IdentityTest, ScrollingGraphsToo) {
-    plain::Graph<CScrollGraphCtrl> graph;
-    const CSize size(260, 200);
-    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
-    Pictures pictures(size.cx, size.cy);
-    int shown = 0;
-    const int views = Views() / 4;
-    for (int view = 0; view < views; ++view) {
-        Dice dice(static_cast<unsigned>(view) + 5000000u);
-        graph.ResetAll();
-        const Cost cost(view, dice);
-        const int count = cost.Samples(dice);
-        // Equal steps, uneven ones with repetitions, and now and then a step back.
-        const int kind = dice.UpTo(5);
-        long time = 1700000000;
-        for (int k = 0; k < count; ++k) {
-            graph.AddXTickLabel(time);
-            time += kind < 3 ? kind + 1 : kind == 3 ? dice.UpTo(9) : dice.UpTo(1);
-            if (kind == 5 && dice.OneIn(100))
-                time -= dice.UpTo(30);
-        }
-        std::ostringstream told;
-        told << "view " << view << ": " << count << " samples, times " << kind;
-        for (int i = 0; i < 1 + view % 2; ++i) {
-            const Shape shape = static_cast<Shape>(dice.UpTo(cost.isWide ? Gaps : Mixed));
-            double state = 50;
-            for (int k = 0; k < count - i * dice.UpTo(5); ++k)
-                graph.AddDataForOffline(i, Sample(shape, k, state, dice), nullptr);
-            told << " shape " << shape;
-        }
-        graph.SetHorzRange(dice.OneIn(2) ? count / 60.0 : dice.Within(0.05, 30));
-        if (dice.OneIn(2))
-            graph.ViewPos() = dice.Within(-0.2, 1.1) * count * 20;
-        told << Dress(graph, dice, count, cost) << " from " << graph.ViewPos();
-        ASSERT_EQ(pictures.Compare(graph), "") << told.str();
-        shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
-    }
-    graph.DestroyWindow();
-    EXPECT_GT(shown, views / 3) << "views must show something";
+    CompareViews<CScrollGraphCtrl>(
+        CSize(260, 200), Views() / 4, 5000000, [](auto& graph, Dice& dice, int view) {
+            const Cost cost(view, dice);
+            const int count = cost.Samples(dice);
+            // Equal steps, uneven ones with repetitions, and now and then a step back.
+            const int kind = dice.UpTo(5);
+            long time = 1700000000;
+            for (int k = 0; k < count; ++k) {
+                graph.AddXTickLabel(time);
+                time += kind < 3 ? kind + 1 : kind == 3 ? dice.UpTo(9) : dice.UpTo(1);
+                if (kind == 5 && dice.OneIn(100))
+                    time -= dice.UpTo(30);
+            }
+            std::ostringstream told;
+            told << count << " samples, times " << kind;
+            for (int i = 0; i < 1 + view % 2; ++i) {
+                const Shape shape = static_cast<Shape>(dice.UpTo(cost.isWide ? Gaps : Mixed));
+                double state = 50;
+                for (int k = 0; k < count - i * dice.UpTo(5); ++k)
+                    graph.AddDataForOffline(i, Sample(shape, k, state, dice), nullptr);
+                told << " shape " << shape;
+            }
+            graph.SetHorzRange(dice.OneIn(2) ? count / 60.0 : dice.Within(0.05, 30));
+            if (dice.OneIn(2))
+                graph.ViewPos() = dice.Within(-0.2, 1.1) * count * 20;
+            told << Dress(graph, dice, count, cost) << " from " << graph.ViewPos();
+            return told.str();
+        });
 }
 
 TEST_F(IdentityTest, BarsTooHoweverTheyAreFilled) {
-    plain::Graph<CGraphCtrl> graph;
-    const CSize size(300, 220);
-    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
-    Pictures pictures(size.cx, size.cy);
-    int shown = 0;
-    const int views = Views() / 10;
-    for (int view = 0; view < views; ++view) {
-        Dice dice(static_cast<unsigned>(view) + 7000000u);
-        graph.ResetAll();
+    CompareViews<CGraphCtrl>(CSize(300, 220), Views() / 10, 7000000, [](auto& graph, Dice& dice, int view) {
         const int count = dice.Size(300);
         const Shape shape = static_cast<Shape>(dice.UpTo(ShapeCount - 1));
         for (int i = 0; i < 1 + view % 4; ++i) {
@@ -282,16 +273,12 @@ TEST_F(IdentityTest, BarsTooHoweverTheyAreFilled) {
                 graph.AddData(i, Sample(shape, k, state, dice), nullptr);
         }
         std::ostringstream told;
-        told << "view " << view << ": " << count << " samples, shape " << shape
-             << Dress(graph, dice, count, Cost(1, dice));
+        told << count << " samples, shape " << shape << Dress(graph, dice, count, Cost(1, dice));
         graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);
         graph.SetXVisibleMin(dice.OneIn(2) ? 0 : dice.Within(-0.2, 1) * count);
         graph.SetXVisibleMax(dice.Within(0, 1.3) * count);
-        ASSERT_EQ(pictures.Compare(graph), "") << told.str();
-        shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
-    }
-    graph.DestroyWindow();
-    EXPECT_GT(shown, views / 3) << "views must show something";
+        return told.str();
+    });
 }
 
 TEST_F(IdentityTest, LinesOfManyPoints) {

@@ -7,21 +7,20 @@
 namespace kavlix {
 
 void ChartSeries::Append(double x, double y) {
-    if (m_values.size() >= static_cast<std::size_t>(std::numeric_limits<int>::max()))
+    if (m_values.Size() >= static_cast<std::size_t>(std::numeric_limits<int>::max()))
         throw std::bad_alloc();
-    m_values.push_back({x, y});
+    m_values.Add({x, y});
     try {
         m_boxes.Update(m_values);
     } catch (...) {
-        m_values.pop_back();
+        m_values.RemoveTail(1);
         throw;
     }
-    Count(m_values.back());
+    Count(m_values.Back());
 }
 
 void ChartSeries::Assign(const double* pX, const double* pY, int count) {
     ChartSeries other;
-    other.m_values.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         other.Append(pX != nullptr ? pX[i] : i, pY[i]);
     std::swap(*this, other);

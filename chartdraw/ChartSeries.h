@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <limits>
-#include <vector>
 
 #include "chartdraw/PointBoxes.h"
 
@@ -28,7 +27,8 @@ struct ValueBounds {
     }
 };
 
-/// The points of a series in order of arrival, with the bounds that scales are found from.
+/// The points of a series in order of arrival, which appending does not move, with the bounds that scales are
+/// found from.
 class ChartSeries {
 public:
     using Value = ChartPoint;
@@ -40,7 +40,7 @@ public:
     /// Removes all points and gives their memory back.
     void Clear();
 
-    int Size() const { return static_cast<int>(m_values.size()); }
+    int Size() const { return static_cast<int>(m_values.Size()); }
     /// Point `i`, which must exist.
     const Value& operator[](int i) const { return m_values[static_cast<std::size_t>(i)]; }
     const PointBoxes& Boxes() const { return m_boxes; }
@@ -52,7 +52,7 @@ public:
 private:
     void Count(const ChartPoint& value);
 
-    std::vector<Value> m_values;
+    Points m_values;
     PointBoxes m_boxes;
     ValueBounds m_xBounds;
     ValueBounds m_yBounds;

@@ -26,23 +26,21 @@ void PointBox::Add(const PointBox& box) {
     high = std::max(high, box.high);
 }
 
-void PointBoxes::Update(const std::vector<ChartPoint>& points) {
-    const std::size_t count = points.size();
+void PointBoxes::Update(const Points& points) {
+    // The box round the newest ones of `parts`.
+    const auto boxOf = [](const auto& parts) {
+        PointBox box;
+        for (std::size_t i = parts.Size() - kFan; i < parts.Size(); ++i)
+            box.Add(parts[i]);
+        return box;
+    };
     std::size_t level = 1;
     try {
-        for (; level <= kLevels && count % Size(level) == 0; ++level) {
-            PointBox box;
-            if (level == 1)
-                std::for_each(points.end() - kFan, points.end(),
-                              [&](const ChartPoint& each) { box.Add(each); });
-            else
-                std::for_each(m_levels[level - 2].end() - kFan, m_levels[level - 2].end(),
-                              [&](const PointBox& each) { box.Add(each); });
-            m_levels[level - 1].push_back(box);
-        }
+        for (; level <= kLevels && points.Size() % Size(level) == 0; ++level)
+            m_levels[level - 1].Add(level == 1 ? boxOf(points) : boxOf(m_levels[level - 2]));
     } catch (...) {
         while (--level > 0)
-            m_levels[level - 1].pop_back();
+            m_levels[level - 1].RemoveTail(1);
         throw;
     }
 }

@@ -4,7 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <limits>
-#include <vector>
+
+#include "include/kavlix/Pieces.h"
 
 namespace kavlix {
 
@@ -15,6 +16,8 @@ struct ChartPoint {
 
     bool IsGap() const { return x != x || y != y; }
 };
+
+using Points = Pieces<ChartPoint, 256>;
 
 /// What some points lie within; NaN when one of them is a gap.
 struct PointBox {
@@ -34,7 +37,7 @@ struct PointBox {
 class PointBoxes {
 public:
     /// `points` holds one point more than at the last call. Throws std::bad_alloc, changing nothing.
-    void Update(const std::vector<ChartPoint>& points);
+    void Update(const Points& points);
 
     /// Goes through the points `begin` to before `end` in order. `takeBox(box, first, last)` tells whether
     /// the whole block is dealt with; where it is not, the blocks in it are tried and in the end
@@ -47,9 +50,9 @@ public:
             const std::size_t start = next;
             for (std::size_t level = LevelAt(start); level > 0 && next == start; --level) {
                 const std::size_t behind = start + Size(level);
-                const std::vector<PointBox>& boxes = m_levels[level - 1];
+                const Boxes& boxes = m_levels[level - 1];
                 const std::size_t place = start / Size(level);
-                if (behind <= stop && place < boxes.size() &&
+                if (behind <= stop && place < boxes.Size() &&
                     takeBox(boxes[place], static_cast<int>(start), static_cast<int>(behind - 1)))
                     next = behind;
             }
@@ -70,9 +73,9 @@ public:
         while (behind > stop) {
             const std::size_t start = behind;
             for (std::size_t level = LevelAt(start); level > 0 && behind == start; --level) {
-                const std::vector<PointBox>& boxes = m_levels[level - 1];
+                const Boxes& boxes = m_levels[level - 1];
                 const std::size_t place = start / Size(level) - 1;
-                if (start - stop >= Size(level) && place < boxes.size() && isUnwanted(boxes[place]))
+                if (start - stop >= Size(level) && place < boxes.Size() && isUnwanted(boxes[place]))
                     behind = start - Size(level);
             }
             if (behind != start)
@@ -86,6 +89,8 @@ public:
     }
 
 private:
+    using Boxes = Pieces<PointBox, 64>;
+
     static constexpr std::size_t kFan = 32;
     static constexpr std::size_t kShift = 5;
     static constexpr std::size_t kLevels = 6; // more points than an int counts
@@ -100,7 +105,7 @@ private:
         return level;
     }
 
-    std::array<std::vector<PointBox>, kLevels> m_levels;
+    std::array<Boxes, kLevels> m_levels;
 };
 
 } // namespace kavlix

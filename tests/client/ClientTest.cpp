@@ -57,6 +57,12 @@ UINT ItemState(int menu, UINT command) {
     return popup->GetMenuState(command, MF_BYCOMMAND);
 }
 
+CString ItemText(CWnd& dialog, int item) {
+    CString text;
+    dialog.GetDlgItemText(item, text);
+    return text;
+}
+
 constexpr int kHeatingMenu = 1;
 constexpr int kViewMenu = 2;
 
@@ -134,15 +140,11 @@ TEST_F(Client, SettingsAreExchangedThroughTheDialog) {
         ASSERT_NE(nullptr, settings);
         EXPECT_TRUE(settings->IsWindowVisible());
         EXPECT_FALSE(Frame().IsWindowEnabled());
-        CString text;
-        settings->GetDlgItemText(IDC_NAME, text);
-        EXPECT_STREQ("Home", text);
+        EXPECT_STREQ("Home", ItemText(*settings, IDC_NAME));
         EXPECT_EQ(18u, settings->GetDlgItemInt(IDC_TARGET));
-        settings->GetDlgItemText(IDC_FACTOR, text);
-        EXPECT_STREQ("1.25", text);
+        EXPECT_STREQ("1.25", ItemText(*settings, IDC_FACTOR));
         EXPECT_EQ(IDC_MODE_NIGHT, settings->GetCheckedRadioButton(IDC_MODE_DAY, IDC_MODE_AWAY));
-        settings->GetDlgItemText(IDC_ROOM, text);
-        EXPECT_STREQ("Bath", text);
+        EXPECT_STREQ("Bath", ItemText(*settings, IDC_ROOM));
 
         settings->SetDlgItemText(IDC_NAME, "Cabin");
         settings->SetDlgItemText(IDC_TARGET, "25");
@@ -201,7 +203,7 @@ TEST_F(Client, WrongInputKeepsTheDialogOpen) {
                       },
                       [&](HWND window, CDialog* dialog) {
                           EXPECT_EQ(nullptr, dialog) << "the message box";
-                          CWnd::FromHandle(window)->GetDlgItemText(0xFFFF, prompt);
+                          prompt = ItemText(*CWnd::FromHandle(window), 0xFFFF);
                           ::PostMessage(window, WM_COMMAND, IDOK, 0);
                       },
                       [](HWND, CDialog* dialog) {
@@ -222,13 +224,10 @@ TEST_F(Client, ModelessDialogLivesBesideTheFrame) {
     ASSERT_NE(nullptr, Frame().m_pMonitor);
     EXPECT_TRUE(Frame().m_pMonitor->IsWindowVisible());
     EXPECT_TRUE(Frame().IsWindowEnabled());
-    CString text;
-    Frame().m_pMonitor->GetDlgItemText(IDC_READING, text);
-    EXPECT_STREQ("Home: 18 degrees", text);
+    EXPECT_STREQ("Home: 18 degrees", ItemText(*Frame().m_pMonitor, IDC_READING));
     Choose(ID_HEATING_ON);
     Choose(ID_HEATING_WARMER);
-    Frame().m_pMonitor->GetDlgItemText(IDC_READING, text);
-    EXPECT_STREQ("Home: 19 degrees", text);
+    EXPECT_STREQ("Home: 19 degrees", ItemText(*Frame().m_pMonitor, IDC_READING));
     Type(*Frame().m_pMonitor, VK_ESCAPE, false);
     EXPECT_EQ(nullptr, Frame().m_pMonitor) << "it destroyed its window and then itself";
     Choose(ID_VIEW_MONITOR);

@@ -1,17 +1,5 @@
-// GaugeCtrl.cpp : implementation file
-//
-
 #include "stdafx.h"
 #include "GaugeCtrl.h"
-
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#undef THIS_FILE
-static char THIS_FILE[] = __FILE__;
-#endif
-
-/////////////////////////////////////////////////////////////////////////////
-// CGaugeCtrl
 
 IMPLEMENT_DYNAMIC(CGaugeCtrl, CWnd)
 
@@ -69,9 +57,6 @@ BEGIN_MESSAGE_MAP(CGaugeCtrl, CWnd)
     ON_WM_KEYDOWN()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
-
-/////////////////////////////////////////////////////////////////////////////
-// CGaugeCtrl message handlers
 
 void CGaugeCtrl::OnPaint()
 {

@@ -1,6 +1,3 @@
-// GaugeCtrl.h : header file
-//
-
 #if !defined(AFX_GAUGECTRL_H__INCLUDED_)
 #define AFX_GAUGECTRL_H__INCLUDED_
 
@@ -10,26 +7,20 @@
 #define GN_CHANGED 1
 #define ON_GN_CHANGED(id, memberFxn) ON_CONTROL(GN_CHANGED, id, memberFxn)
 
-/////////////////////////////////////////////////////////////////////////////
-// CGaugeCtrl window
-
 class CGaugeCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CGaugeCtrl)
 
-// Construction
 public:
     CGaugeCtrl();
     static BOOL RegisterControlClass(HINSTANCE hInstance);
 
-// Attributes
 public:
     int GetPos() const { return m_nPos; }
     void SetPos(int nPos);
     int m_nPaints;
     static int m_nAlive;
 
-// Implementation
 public:
     virtual ~CGaugeCtrl();
 
@@ -50,7 +41,5 @@ protected:
 private:
     void Change(int nPos);
 };
-
-/////////////////////////////////////////////////////////////////////////////
 
 #endif // !defined(AFX_GAUGECTRL_H__INCLUDED_)

@@ -1,20 +1,8 @@
-// MainFrm.cpp : implementation of the CMainFrame class
-//
-
 #include "stdafx.h"
 #include "Thermostat.h"
 
 #include "MainFrm.h"
 #include "SettingsDlg.h"
-
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#undef THIS_FILE
-static char THIS_FILE[] = __FILE__;
-#endif
-
-/////////////////////////////////////////////////////////////////////////////
-// CMainFrame
 
 IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
 
@@ -32,9 +20,6 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND_RANGE(ID_UNITS_CELSIUS, ID_UNITS_FAHRENHEIT, OnUnits)
     ON_UPDATE_COMMAND_UI_RANGE(ID_UNITS_CELSIUS, ID_UNITS_FAHRENHEIT, OnUpdateUnits)
 END_MESSAGE_MAP()
-
-/////////////////////////////////////////////////////////////////////////////
-// CMainFrame construction/destruction
 
 int CMainFrame::m_nAlive = 0;
 
@@ -57,9 +42,6 @@ BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs)
     cs.cy = 300;
     return TRUE;
 }
-
-/////////////////////////////////////////////////////////////////////////////
-// CMainFrame message handlers
 
 int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {

@@ -1,6 +1,3 @@
-// MainFrm.h : interface of the CMainFrame class
-//
-
 #if !defined(AFX_MAINFRM_H__INCLUDED_)
 #define AFX_MAINFRM_H__INCLUDED_
 
@@ -13,7 +10,6 @@ public:
 protected:
     DECLARE_DYNAMIC(CMainFrame)
 
-// Attributes
 public:
     static int m_nAlive;
     BOOL m_bOn;
@@ -23,16 +19,13 @@ public:
     CMonitorDlg* m_pMonitor;
     int m_nPaints;
 
-// Overrides
     //{{AFX_VIRTUAL(CMainFrame)
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
     //}}AFX_VIRTUAL
 
-// Implementation
 public:
     virtual ~CMainFrame();
 
-// Generated message map functions
 protected:
     //{{AFX_MSG(CMainFrame)
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -51,7 +44,5 @@ protected:
     void Refresh();
     CFont m_font;
 };
-
-/////////////////////////////////////////////////////////////////////////////
 
 #endif // !defined(AFX_MAINFRM_H__INCLUDED_)

@@ -1,17 +1,5 @@
-// SettingsDlg.cpp : implementation file
-//
-
 #include "stdafx.h"
 #include "SettingsDlg.h"
-
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#undef THIS_FILE
-static char THIS_FILE[] = __FILE__;
-#endif
-
-/////////////////////////////////////////////////////////////////////////////
-// CSettingsDlg dialog
 
 CSettingsDlg::CSettingsDlg(CWnd* pParent /*=NULL*/)
     : CDialog(CSettingsDlg::IDD, pParent)
@@ -50,9 +38,6 @@ BEGIN_MESSAGE_MAP(CSettingsDlg, CDialog)
     ON_GN_CHANGED(IDC_GAUGE, OnGaugeChanged)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
-
-/////////////////////////////////////////////////////////////////////////////
-// CSettingsDlg message handlers
 
 BOOL CSettingsDlg::OnInitDialog()
 {
@@ -94,9 +79,6 @@ void CSettingsDlg::OnGaugeChanged()
 {
     SetDlgItemInt(IDC_TARGET, m_wndGauge.GetPos() / 2);
 }
-
-/////////////////////////////////////////////////////////////////////////////
-// CMonitorDlg
 
 CMonitorDlg::CMonitorDlg(CMonitorDlg** ppThis) : m_ppThis(ppThis)
 {

@@ -1,22 +1,14 @@
-// SettingsDlg.h : header file
-//
-
 #if !defined(AFX_SETTINGSDLG_H__INCLUDED_)
 #define AFX_SETTINGSDLG_H__INCLUDED_
 
 #include "GaugeCtrl.h"
 #include "resource.h"
 
-/////////////////////////////////////////////////////////////////////////////
-// CSettingsDlg dialog
-
 class CSettingsDlg : public CDialog
 {
-// Construction
 public:
     CSettingsDlg(CWnd* pParent = NULL);   // standard constructor
 
-// Dialog Data
     //{{AFX_DATA(CSettingsDlg)
     enum { IDD = IDD_SETTINGS };
     CGaugeCtrl  m_wndGauge;
@@ -29,17 +21,13 @@ public:
     CString     m_strRoom;
     //}}AFX_DATA
 
-// Overrides
-    // ClassWizard generated virtual function overrides
     //{{AFX_VIRTUAL(CSettingsDlg)
     protected:
     virtual void DoDataExchange(CDataExchange* pDX);    // DDX/DDV support
     //}}AFX_VIRTUAL
 
-// Implementation
 protected:
 
-    // Generated message map functions
     //{{AFX_MSG(CSettingsDlg)
     virtual BOOL OnInitDialog();
     afx_msg void OnChangeTarget();
@@ -49,7 +37,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/////////////////////////////////////////////////////////////////////////////
 // CMonitorDlg : modeless, deletes itself
 
 class CMonitorDlg : public CDialog

@@ -1,6 +1,3 @@
-// Thermostat.cpp : Defines the class behaviors for the application.
-//
-
 #include "stdafx.h"
 #include "Thermostat.h"
 #include "GaugeCtrl.h"
@@ -12,30 +9,18 @@
 static char THIS_FILE[] = __FILE__;
 #endif
 
-/////////////////////////////////////////////////////////////////////////////
-// CThermostatApp
-
 BEGIN_MESSAGE_MAP(CThermostatApp, CWinApp)
     //{{AFX_MSG_MAP(CThermostatApp)
     ON_COMMAND(ID_APP_ABOUT, OnAppAbout)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
-/////////////////////////////////////////////////////////////////////////////
-// CThermostatApp construction
-
 CThermostatApp::CThermostatApp()
 {
     m_nExits = 0;
 }
 
-/////////////////////////////////////////////////////////////////////////////
-// The one and only CThermostatApp object
-
 CThermostatApp theApp;
-
-/////////////////////////////////////////////////////////////////////////////
-// CThermostatApp initialization
 
 BOOL CThermostatApp::InitInstance()
 {
@@ -45,7 +30,6 @@ BOOL CThermostatApp::InitInstance()
     CMainFrame* pFrame = new CMainFrame;
     m_pMainWnd = pFrame;
 
-    // create and load the frame with its resources
     if (!pFrame->LoadFrame(IDR_MAINFRAME, WS_OVERLAPPEDWINDOW, NULL, NULL))
         return FALSE;
 
@@ -60,27 +44,14 @@ int CThermostatApp::ExitInstance()
     return CWinApp::ExitInstance();
 }
 
-/////////////////////////////////////////////////////////////////////////////
-// CAboutDlg dialog used for App About
-
 class CAboutDlg : public CDialog
 {
 public:
     CAboutDlg() : CDialog(IDD_ABOUTBOX)
     {
     }
-
-protected:
-    DECLARE_MESSAGE_MAP()
 };
 
-BEGIN_MESSAGE_MAP(CAboutDlg, CDialog)
-    //{{AFX_MSG_MAP(CAboutDlg)
-        // No message handlers
-    //}}AFX_MSG_MAP
-END_MESSAGE_MAP()
-
-// App command to run the dialog
 void CThermostatApp::OnAppAbout()
 {
     CAboutDlg aboutDlg;

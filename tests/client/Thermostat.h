@@ -1,6 +1,3 @@
-// Thermostat.h : main header file for the THERMOSTAT application
-//
-
 #if !defined(AFX_THERMOSTAT_H__INCLUDED_)
 #define AFX_THERMOSTAT_H__INCLUDED_
 
@@ -10,11 +7,6 @@
 
 #include "resource.h"       // main symbols
 
-/////////////////////////////////////////////////////////////////////////////
-// CThermostatApp:
-// See Thermostat.cpp for the implementation of this class
-//
-
 class CThermostatApp : public CWinApp
 {
 public:
@@ -22,15 +14,12 @@ public:
 
     int m_nExits;
 
-// Overrides
-    // ClassWizard generated virtual function overrides
     //{{AFX_VIRTUAL(CThermostatApp)
     public:
     virtual BOOL InitInstance();
     virtual int ExitInstance();
     //}}AFX_VIRTUAL
 
-// Implementation
     //{{AFX_MSG(CThermostatApp)
     afx_msg void OnAppAbout();
     //}}AFX_MSG

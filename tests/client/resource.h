@@ -1,6 +1,5 @@
 //{{NO_DEPENDENCIES}}
 // Used by Thermostat.rc
-//
 #define IDR_MAINFRAME                   128
 #define IDD_ABOUTBOX                    100
 #define IDD_SETTINGS                    129

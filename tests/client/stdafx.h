@@ -1,6 +1,3 @@
-// stdafx.h : include file for standard system include files
-//
-
 #if !defined(AFX_STDAFX_H__THERMOSTAT__INCLUDED_)
 #define AFX_STDAFX_H__THERMOSTAT__INCLUDED_
 

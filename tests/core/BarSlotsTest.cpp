@@ -1,14 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 #include "graphctrl/BarSlots.h"
 
 namespace kavlix {
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 BarSlots Slots(std::initializer_list<int> sizes, double min, double max, int width) {
     BarSlots slots{-7, -7, -7};
@@ -59,7 +56,7 @@ TEST(BarSlotsTest, NothingToDivide) {
     const BarSlots zero = Slots({5}, 2, 2, 3000);
     EXPECT_EQ(zero.visible, 1);
     EXPECT_EQ(zero.barWidth, 0);
-    EXPECT_EQ(Slots({5}, 0, kInfinity, 3000).barWidth, 0);
+    EXPECT_EQ(Slots({5}, 0, INFINITY, 3000).barWidth, 0);
     EXPECT_EQ(Slots({5}, -1e300, 1e300, 3000).visible, 5);
     const BarSlots wide = Slots({2}, 0, 1.001, 1 << 28);
     EXPECT_GT(wide.barWidth, 0);

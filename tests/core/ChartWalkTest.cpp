@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <random>
 #include <vector>
 
@@ -13,8 +12,6 @@ using namespace kavlix;
 
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr int kWidth = 60;
 constexpr int kHeight = 40;
 constexpr std::uint32_t kInk = 1;
@@ -79,7 +76,7 @@ TEST(ChartWalk, DrawsWhatTheWholeLineDraws) {
             x += backwards ? (unit() - 0.5) * 0.05 : xStep * 2 * unit();
             y += unit() < step ? (unit() - 0.5) * 0.5 : 0;
             series.Append(x,
-                          unit() < gaps ? (unit() < 0.5 ? kNaN : unit() - 0.5) : std::round(y * rows) / rows);
+                          unit() < gaps ? (unit() < 0.5 ? NAN : unit() - 0.5) : std::round(y * rows) / rows);
         }
         const double xRange = round % 2 == 0 ? 1 : std::pow(10, -3 * unit());
         const double yRange = round % 3 == 0 ? 2 : std::pow(10, 0.5 - 2 * unit());
@@ -114,10 +111,7 @@ TEST(ChartWalk, HandsOnWhatThePixelsTake) {
 TEST(ChartWalk, PointsFarAwayAndWithoutAPlaceBreakNothing) {
     ChartSeries series;
     for (int i = 0; i < 200; ++i)
-        series.Append(i % 50 == 49   ? kInfinity
-                      : i % 31 == 30 ? -1e308
-                                     : i,
-                      i % 40 == 39 ? -kInfinity : i % 7);
+        series.Append(i % 50 == 49 ? INFINITY : i % 31 == 30 ? -1e308 : i, i % 40 == 39 ? -INFINITY : i % 7);
     for (const LinearMap& xMap : {LinearMap(0, 200, 0, kWidth - 1), LinearMap(0, 200, 0, 0),
                                   LinearMap(-1e308, 1e308, 0, kWidth - 1), LinearMap(3, 3, 0, kWidth - 1)}) {
         Canvas reduced, straight;

@@ -61,31 +61,26 @@ TEST(GraphLayoutTest, TwoAxesWithoutLegend) {
     EXPECT_EQ(ComputeLayout(input).y2TickLabel, (Rect{7300, 1100, 8800, 3800}));
 }
 
-TEST(GraphLayoutTest, WithoutLegendTheXBandsReachTheTitlesEdge) {
+TEST(GraphLayoutTest, BandsTakeTheRoomOfWhatIsNotShown) {
     LayoutInput input = Defaults(300, 200);
     input.showLegend = false;
-    const GraphLayout layout = ComputeLayout(input);
+    GraphLayout layout = ComputeLayout(input);
     EXPECT_EQ(layout.plot.right, layout.title.right);
     EXPECT_EQ(layout.xTicks, (8800 - 2230) / 800);
     input.bars = true;
     EXPECT_EQ(ComputeLayout(input).xTicks, (8800 - 2230) / 1000);
-}
 
-TEST(GraphLayoutTest, HiddenLabelsGiveTheirRowsBack) {
-    LayoutInput input = Defaults(300, 200);
-    input.showXLabel = false;
-    input.showYLabel = false;
-    const GraphLayout layout = ComputeLayout(input);
+    input = Defaults(300, 200);
+    input.showXLabel = input.showYLabel = false;
+    layout = ComputeLayout(input);
     EXPECT_EQ(layout.yTickLabel, (Rect{200, 1100, 1700, 4200}));
     EXPECT_EQ(layout.xTickLabel, (Rect{1800, 4300, 5600, 5800}));
     EXPECT_EQ(layout.plot, (Rect{1830, 1100, 5600, 4200}));
-}
 
-TEST(GraphLayoutTest, CaptionReplacesTheTitleRow) {
-    LayoutInput input = Defaults(300, 200);
+    input = Defaults(300, 200);
     input.caption = true;
     input.captionBottom = 510;
-    const GraphLayout layout = ComputeLayout(input);
+    layout = ComputeLayout(input);
     EXPECT_EQ(layout.title, (Rect{200, 200, 8800, 910}));
     EXPECT_EQ(layout.plot.top, 910);
     EXPECT_EQ(layout.legend.top, 910);

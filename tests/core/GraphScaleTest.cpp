@@ -50,17 +50,13 @@ TEST(GraphScaleTest, TicksAreThinnedAndKeepZero) {
         {3, 40, 10, 100, 4, 30, "3 13 23 33 ", "3 23 "},
         {-30, 30, 10, 60, 4, 15, "-30 -20 -10 0 10 20 30 ", "-20 0 20 "},
         {-25, 30, 10, 55, 4, 10, "-25 -15 -5 5 15 25 ", "-25 -15 -5 5 15 25 "},
-        {40, 0, -10, 100, 4, 15, "40 30 20 10 0 ", "40 30 20 10 0 "},
+        {40, 0, -10, 100, 4, 15, "0 10 20 30 40 ", "0 10 20 30 40 "},
         {0, 10, 25, 100, 4, 15, "0 ", "0 "},
         {5, 5, 1, 100, 4, 15, "5 ", "5 "},
         {0, 100, 0, 100, 4, 15, "0 10 20 30 40 50 60 70 80 90 100 ", "0 20 40 60 80 100 "},
     };
     for (const Case& c : cases) {
         ScaleTicks ticks = ChooseTicks(c.min, c.max, c.step, c.extent, c.tickGap, c.labelGap);
-        if (c.min > c.max) { // counted from the first limit, values are the same
-            EXPECT_EQ(ticks.last - ticks.first, 4);
-            continue;
-        }
         EXPECT_EQ(Values(ticks, false), c.ticks) << c.min << " " << c.max;
         EXPECT_EQ(Values(ticks, true), c.labels) << c.min << " " << c.max;
     }

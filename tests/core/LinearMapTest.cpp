@@ -13,18 +13,15 @@
 namespace kavlix {
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
 TEST(NumericTest, ConversionsTruncateSaturateAndSurviveAnything) {
     EXPECT_EQ(TruncateToInt(2.9), 2);
     EXPECT_EQ(TruncateToInt(-2.9), -2);
     EXPECT_EQ(TruncateToInt(2147483646.5), INT_MAX - 1);
     EXPECT_EQ(TruncateToInt(2147483647.5), INT_MAX);
     EXPECT_EQ(TruncateToInt(-2147483648.5), INT_MIN);
-    EXPECT_EQ(TruncateToInt(kInfinity), INT_MAX);
+    EXPECT_EQ(TruncateToInt(INFINITY), INT_MAX);
     EXPECT_EQ(TruncateToInt(-1e300), INT_MIN);
-    EXPECT_EQ(TruncateToInt(kNaN), 0);
+    EXPECT_EQ(TruncateToInt(NAN), 0);
     EXPECT_EQ(ToCoordinate(1e300), 134217728);
     EXPECT_EQ(ToCoordinate(std::int64_t{1} << 40), 134217728);
     EXPECT_EQ(ToCoordinate(std::numeric_limits<std::int64_t>::min()), -134217728);
@@ -45,9 +42,9 @@ TEST(LinearMapTest, TruncatesTheWholePositionOnce) {
 
 TEST(LinearMapTest, ValuesWithoutPositionAndFarValues) {
     const LinearMap usual(0, 100, 0, 3000);
-    EXPECT_EQ(usual.Position(kNaN), std::nullopt);
-    EXPECT_EQ(usual.Position(kInfinity), kCoordinateLimit);
-    EXPECT_EQ(usual.Position(-kInfinity), -kCoordinateLimit);
+    EXPECT_EQ(usual.Position(NAN), std::nullopt);
+    EXPECT_EQ(usual.Position(INFINITY), kCoordinateLimit);
+    EXPECT_EQ(usual.Position(-INFINITY), -kCoordinateLimit);
     EXPECT_EQ(usual.Position(1e300), kCoordinateLimit);
     EXPECT_EQ(usual.Position(-DBL_MAX), -kCoordinateLimit);
 
@@ -61,7 +58,7 @@ TEST(LinearMapTest, ValuesWithoutPositionAndFarValues) {
     EXPECT_EQ(inverted.Position(0), 3000);
     EXPECT_FALSE(inverted.IsAscending());
 
-    const LinearMap unknown(0, kNaN, 0, 3000);
+    const LinearMap unknown(0, NAN, 0, 3000);
     EXPECT_EQ(unknown.Position(1), std::nullopt);
     const LinearMap endless(-DBL_MAX, DBL_MAX, 0, 3000); // the range itself overflows
     EXPECT_FALSE(endless.IsMonotonic());
@@ -70,8 +67,8 @@ TEST(LinearMapTest, ValuesWithoutPositionAndFarValues) {
 }
 
 TEST(IndexRangeTest, BetweenMatchesTheComparisonOfEveryIndex) {
-    const double bounds[] = {-kInfinity, -1e300, -3, -0.5,  0,    0.001,     1,
-                             2.5,        8.999,  9,  9.001, 1e10, kInfinity, kNaN};
+    const double bounds[] = {-INFINITY, -1e300, -3, -0.5,  0,    0.001,    1,
+                             2.5,       8.999,  9,  9.001, 1e10, INFINITY, NAN};
     for (const int count : {0, 1, 10})
         for (const double min : bounds)
             for (const double max : bounds) {
@@ -117,7 +114,7 @@ TEST(IndexRangeTest, DrawnIndicesDoNotGrowWithTheHistory) {
     EXPECT_LE(IndicesToDraw(map, 2230 - 150, 5600 + 150, INT_MAX).Count(), 20);
     // Where positions follow no order, nothing is left out.
     EXPECT_EQ(IndicesToDraw(LinearMap(0, 0, 0, 100), 0, 100, 50).Count(), 50);
-    EXPECT_EQ(IndicesToDraw(LinearMap(0, kInfinity, 0, 100), 0, 100, 50).Count(), 50);
+    EXPECT_EQ(IndicesToDraw(LinearMap(0, INFINITY, 0, 100), 0, 100, 50).Count(), 50);
     EXPECT_TRUE(IndicesToDraw(map, 0, 100, 0).IsEmpty());
 }
 

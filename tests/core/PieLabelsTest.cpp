@@ -66,48 +66,44 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const PieLabel& label = labels[i];
         const PieText& text = requests[i].text;
-        const std::string which = " of " + std::to_string(i);
         const bool inBox = Meet(label.percent, label.box);
-        if (IsEmpty(label.box) && !IsEmpty(label.label))
-            return "label without box" + which;
-        if (!IsEmpty(label.label) && !Within(label.label, label.box))
-            return "label leaves its box" + which;
-        if (inBox && !Within(label.percent, label.box))
-            return "percentage leaves its box" + which;
-        if (Meet(label.label, label.percent))
-            return "label on percentage" + which;
-        if (!IsEmpty(label.box) && !Within(label.box, area.client))
-            return "box leaves the window" + which;
-        if (!IsEmpty(label.percent) && label.percent.Width() < text.percent)
-            return "cut percentage" + which;
-        if (!IsEmpty(label.label) && label.label.Height() != (label.broken ? 2 : 1) * area.lineHeight)
-            return "label of odd height" + which;
-        if (!IsEmpty(label.label) &&
-            label.label.Width() < std::min(area.narrowest, label.broken ? text.broken : text.label))
-            return "label too narrow" + which;
-        if (!label.outside && !IsEmpty(label.box) && !inSector(label.box, requests[i].sector))
-            return "box leaves its sector" + which;
-        if (!inBox && !IsEmpty(label.percent) && !inSector(label.percent, requests[i].sector))
-            return "percentage leaves its sector" + which;
-        if (label.outside) {
-            const double nearest = distance(std::clamp(centre.x, label.box.left, label.box.right),
-                                            std::clamp(centre.y, label.box.top, label.box.bottom));
-            if (nearest < radius)
-                return "box on the pie" + which;
-            if (label.leader.size() < 3 || label.leader.size() > 4)
-                return "leader of " + std::to_string(label.leader.size()) + which;
-            const Point rim = PointOnPie(area.pie, requests[i].sector.Middle() + area.startAngle, false);
-            if (std::hypot(label.leader[0].x - rim.x, label.leader[0].y - rim.y) > 1.5)
-                return "leader begins elsewhere" + which;
-            const Point end = label.leader.back();
-            if (end.x < label.box.left || end.x > label.box.right || end.y < label.box.top ||
-                end.y > label.box.bottom)
-                return "leader ends elsewhere" + which;
-        }
+        const bool hasBox = !IsEmpty(label.box), hasLabel = !IsEmpty(label.label),
+                   hasPercent = !IsEmpty(label.percent);
+        const double nearest = distance(std::clamp(centre.x, label.box.left, label.box.right),
+                                        std::clamp(centre.y, label.box.top, label.box.bottom));
+        const Point rim = PointOnPie(area.pie, requests[i].sector.Middle() + area.startAngle, false);
+        const auto& leader = label.leader;
+        const bool hasLeader = leader.size() >= 3 && leader.size() <= 4;
+        const std::pair<bool, const char*> faults[] = {
+            {!hasBox && hasLabel, "label without box"},
+            {hasLabel && !Within(label.label, label.box), "label leaves its box"},
+            {inBox && !Within(label.percent, label.box), "percentage leaves its box"},
+            {Meet(label.label, label.percent), "label on percentage"},
+            {hasBox && !Within(label.box, area.client), "box leaves the window"},
+            {hasPercent && label.percent.Width() < text.percent, "cut percentage"},
+            {hasLabel && label.label.Height() != (label.broken ? 2 : 1) * area.lineHeight,
+             "odd label height"},
+            {hasLabel &&
+                 label.label.Width() < std::min(area.narrowest, label.broken ? text.broken : text.label),
+             "label too narrow"},
+            {!label.outside && hasBox && !inSector(label.box, requests[i].sector), "box leaves its sector"},
+            {!inBox && hasPercent && !inSector(label.percent, requests[i].sector),
+             "percentage leaves its sector"},
+            {label.outside && nearest < radius, "box on the pie"},
+            {label.outside && !hasLeader, "leader of too few or many points"},
+            {label.outside && hasLeader && std::hypot(leader[0].x - rim.x, leader[0].y - rim.y) > 1.5,
+             "leader begins elsewhere"},
+            {label.outside && hasLeader &&
+                 !Within({leader.back().x, leader.back().y, leader.back().x, leader.back().y}, label.box),
+             "leader ends elsewhere"},
+        };
+        for (const auto& [isFault, fault] : faults)
+            if (isFault)
+                return fault + (" of " + std::to_string(i));
         for (const Rect& rect : {label.box, inBox ? Rect{} : label.percent}) {
             for (const Rect& other : taken)
                 if (Meet(rect, other))
-                    return "text on text" + which;
+                    return "text on text of " + std::to_string(i);
             if (!IsEmpty(rect))
                 taken.push_back(rect);
         }
@@ -154,9 +150,7 @@ TEST(PieLabelsTest, EveryTextHasAPlaceOfItsOwn) {
 
 TEST(PieLabelsTest, RandomPiesKeepTextsApart) {
     std::mt19937 random(11);
-    int outside = 0;
-    int inside = 0;
-    int alone = 0;
+    int outside = 0, inside = 0, alone = 0;
     for (int run = 0; run < 3000; ++run) {
         const PieLabelArea area =
             Area(static_cast<int>(30 + random() % 500), static_cast<int>(30 + random() % 400),

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <random>
 #include <vector>
 
@@ -12,11 +11,10 @@ namespace kavlix {
 namespace {
 
 using Model = std::vector<double>;
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// What the store must say about a range, by a walk over it.
 Extremes PlainExtremes(const Model& model, int first, int last) {
-    Extremes extremes{kInfinity, -kInfinity};
+    Extremes extremes{INFINITY, -INFINITY};
     for (int i = first; i <= last; ++i) {
         const double value = model[static_cast<std::size_t>(i)];
         if (std::isnan(value))
@@ -85,7 +83,7 @@ double NextValue(std::mt19937& random, std::size_t index) {
     case 1:
         return number < 3 ? std::nan("") : number;
     case 2:
-        return number < 5 ? kInfinity : number < 10 ? -kInfinity : number;
+        return number < 5 ? INFINITY : number < 10 ? -INFINITY : number;
     default:
         return -5.5;
     }

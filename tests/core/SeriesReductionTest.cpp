@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
-#include <limits>
 #include <random>
 #include <set>
 #include <vector>
@@ -134,8 +134,6 @@ std::vector<double> Crossings(const std::vector<std::pair<double, double>>& posi
 }
 
 TEST(ChartLineTest, FarStrokesKeepTheirDirection) {
-    const double inf = std::numeric_limits<double>::infinity(),
-                 nan = std::numeric_limits<double>::quiet_NaN();
     const struct {
         const char* name;
         std::vector<std::pair<double, double>> positions;
@@ -151,9 +149,9 @@ TEST(ChartLineTest, FarStrokesKeepTheirDirection) {
         {"past it", {{-1e9, 1e8}, {1e9, 1e9}}, {}},
         {"out and back", {{0, 300}, {1e10, 300}, {0, 300}}, {300, 300}},
         {"out, round a corner far away, back", {{0, 300}, {1e10, 300}, {1e10, 1e11}, {-1e10, 1e11}}, {300}},
-        {"infinite", {{0, 250}, {inf, 250}}, {250}},
-        {"infinite both ways", {{-inf, inf}, {inf, inf}, {-inf, -inf}}, {}},
-        {"a gap", {{0, 10}, {nan, 10}, {800, 10}, {0, nan}, {0, 20}, {800, 20}}, {20}},
+        {"infinite", {{0, 250}, {INFINITY, 250}}, {250}},
+        {"infinite both ways", {{-INFINITY, INFINITY}, {INFINITY, INFINITY}, {-INFINITY, -INFINITY}}, {}},
+        {"a gap", {{0, 10}, {NAN, 10}, {800, 10}, {0, NAN}, {0, 20}, {800, 20}}, {20}},
     };
     for (const auto& each : cases) {
         const std::vector<double> found = Crossings(each.positions, 400);

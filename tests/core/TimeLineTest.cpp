@@ -5,15 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <limits>
 #include <random>
 #include <vector>
 
 namespace kavlix {
 namespace {
-
-constexpr std::int32_t kLatest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kEarliest = std::numeric_limits<std::int32_t>::min();
 
 TimeLine LineOf(std::initializer_list<std::int32_t> times) {
     TimeLine line;
@@ -30,13 +26,13 @@ TimeLine EverySecond(int count) {
 }
 
 TEST(TimeLineTest, XCountsTwentiethsFromTheFirstStampAndWrapsRound) {
-    const TimeLine line = LineOf({100, 101, 99, 100, 100 + 107374182, 100 + 107374183, kLatest, kEarliest});
+    const TimeLine line = LineOf({100, 101, 99, 100, 100 + 107374182, 100 + 107374183, INT32_MAX, INT32_MIN});
     const double expected[] = {0, 20, -20, 0, 2147483640, -2147483636, -2020, -2000};
     for (int i = 0; i < 8; ++i)
         EXPECT_EQ(line.X(i), expected[i]) << i;
     EXPECT_EQ(line.Offset(2), -1);
-    EXPECT_EQ(line.Offset(7), kEarliest - 100LL + (1LL << 32)) << "wraps round on 32 bits";
-    for (int outside : {-1, 8, kLatest, static_cast<int>(kEarliest)}) {
+    EXPECT_EQ(line.Offset(7), INT32_MIN - 100LL + (1LL << 32)) << "wraps round on 32 bits";
+    for (int outside : {-1, 8, INT32_MAX, INT32_MIN}) {
         EXPECT_EQ(line.X(outside), 0) << outside;
         EXPECT_EQ(line.Offset(outside), 0) << outside;
         EXPECT_EQ(line.At(outside), 0) << outside;
@@ -84,20 +80,11 @@ TEST(TimeLineTest, UpperBoundHasRoomForOneSampleASecond) {
         double width;
         int expected;
     };
-    const Case cases[] = {
-        {100, 0, 1200, 59},
-        {100, 30, 1200, 89},
-        {100, 41, 1200, 100}, // one past the last sample: the count
-                              // is not below it
-        {100, 42, 1200, 99},
-        {100, 99, 1200, 99},
-        {0, 0, 1200, -1},
-        {100, 0, 0, -1},
-        {100, 0, 39, 0},
-        {100, 5, 1e300, 99},
-        {100, 5, -1200, -56},
-        {100, kLatest, 1200, 99},
-    };
+    // From 41, one past the last sample: the count is not below it.
+    const Case cases[] = {{100, 0, 1200, 59},   {100, 30, 1200, 89},       {100, 41, 1200, 100},
+                          {100, 42, 1200, 99},  {100, 99, 1200, 99},       {0, 0, 1200, -1},
+                          {100, 0, 0, -1},      {100, 0, 39, 0},           {100, 5, 1e300, 99},
+                          {100, 5, -1200, -56}, {100, INT32_MAX, 1200, 99}};
     for (const Case& each : cases)
         EXPECT_EQ(EverySecond(each.count).UpperBound(each.first, each.width), each.expected)
             << each.count << " " << each.first << " " << each.width;
@@ -108,7 +95,7 @@ TEST(TimeLineTest, NearestAgreesWithAWalkOverAnyStamps) {
     const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
     for (int round = 0; round < 20000; ++round) {
         TimeLine line;
-        std::int32_t time = round % 5 == 0 ? kLatest - 40 : below(1000);
+        std::int32_t time = round % 5 == 0 ? INT32_MAX - 40 : below(1000);
         const int count = 1 + below(12);
         const int kind = below(4); // in order; equal; sometimes back; far apart
         for (int i = 0; i < count; ++i) {

@@ -1,5 +1,7 @@
 #include "scrollgraph/TimeTicks.h"
 
+#include "monitor/recording/TimeText.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -15,24 +17,9 @@ public:
         : m_east(east), m_changeAt(changeAt), m_eastAfter(changeAt == 0 ? east : eastAfter) {}
     CalendarTime ToLocal(std::int64_t time) const override {
         // Not gmtime: some C libraries know no time before 1970.
-        constexpr std::int64_t daySeconds = 86400;
         const std::int64_t shown = time + (time < m_changeAt ? m_east : m_eastAfter);
-        const std::int64_t second = (shown % daySeconds + daySeconds) % daySeconds;
-        std::int64_t days = (shown - second) / daySeconds;
-        CalendarTime local{1970, 1, 1, 0, 0, 0};
-        const auto isLeap = [](int year) { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); };
-        for (; days < 0; days += isLeap(local.year) ? 366 : 365)
-            --local.year;
-        for (; days >= (isLeap(local.year) ? 366 : 365); ++local.year)
-            days -= isLeap(local.year) ? 366 : 365;
-        const int lengths[] = {31, isLeap(local.year) ? 29 : 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-        for (; days >= lengths[local.month - 1]; ++local.month)
-            days -= lengths[local.month - 1];
-        local.day = static_cast<int>(days) + 1;
-        local.hour = static_cast<int>(second / 3600);
-        local.minute = static_cast<int>(second / 60 % 60);
-        local.second = static_cast<int>(second % 60);
-        return local;
+        const recording::CivilTime local = recording::ToCivil(shown * recording::kMicrosPerSecond);
+        return {local.year, local.month, local.day, local.hour, local.minute, local.second};
     }
 
 private:

@@ -41,12 +41,10 @@ TEST(ViewWindowTest, ScrolledBackItStaysAndOnlyTheRangeGrows) {
     EXPECT_FALSE(arrival.followed);
     EXPECT_EQ(view, (ViewWindow{100, 5121, 0, 1200}));
     // At the view's very edges the newest sample is still in sight.
-    view = {100, 5000, 0, 1200};
-    EXPECT_TRUE(view.Arrive(true, 1300, 1320).followed);
-    view = {100, 5000, 0, 1200};
-    EXPECT_FALSE(view.Arrive(true, 1300.5, 1320).followed);
-    view = {100, 5000, 0, 1200};
-    EXPECT_FALSE(view.Arrive(true, 99.5, 1320).followed);
+    for (const auto& [last, followed] : {std::pair(1300.0, true), {1300.5, false}, {99.5, false}}) {
+        view = {100, 5000, 0, 1200};
+        EXPECT_EQ(view.Arrive(true, last, 1320).followed, followed) << last;
+    }
 }
 
 TEST(ViewWindowTest, TheFirstSampleAndTimesThatStepBackMoveOnlyTheMinimum) {

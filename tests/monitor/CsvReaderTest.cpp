@@ -44,6 +44,19 @@ Recorder ReadWhole(std::string_view text) {
     return recorder;
 }
 
+/// The log of reading the text in pieces of at most so many bytes.
+std::string LogOfPieces(std::string_view text, std::size_t most, std::mt19937& random) {
+    Recorder recorder;
+    CsvReader reader(recorder);
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t size = std::min<std::size_t>(text.size() - at, 1 + random() % most);
+        reader.Feed(text.data() + at, size);
+        at += size;
+    }
+    reader.Finish();
+    return recorder.log;
+}
+
 using Rows = std::vector<std::vector<std::string>>;
 
 TEST(CsvReader, ReadsCellsRowsAndQuotes) {
@@ -171,17 +184,8 @@ TEST(CsvReader, ThePiecesDoNotMatter) {
         for (unsigned i = random() % 40; i > 0; --i) {
             text += parts[random() % std::size(parts)];
         }
-        const std::string whole = ReadWhole(text).log;
-        Recorder recorder;
-        CsvReader reader(recorder);
         const std::size_t most = round % 3 == 0 ? 1 : 1 + random() % 7;
-        for (std::size_t at = 0; at < text.size();) {
-            const std::size_t size = std::min(text.size() - at, round % 3 == 0 ? 1 : 1 + random() % most);
-            reader.Feed(text.data() + at, size);
-            at += size;
-        }
-        reader.Finish();
-        ASSERT_EQ(recorder.log, whole) << text;
+        ASSERT_EQ(LogOfPieces(text, most, random), ReadWhole(text).log) << text;
     }
 }
 
@@ -197,16 +201,7 @@ TEST(CsvReader, ThePiecesDoNotMatterAroundTheLimit) {
         for (int i = 0; i < 60; ++i) {
             text += "x,\"\n\r\""[random() % 6];
         }
-        const std::string whole = ReadWhole(text).log;
-        Recorder recorder;
-        CsvReader reader(recorder);
-        for (std::size_t at = 0; at < text.size();) {
-            const std::size_t size = std::min<std::size_t>(text.size() - at, 1 + random() % 5000);
-            reader.Feed(text.data() + at, size);
-            at += size;
-        }
-        reader.Finish();
-        ASSERT_TRUE(recorder.log == whole) << "round " << round;
+        ASSERT_TRUE(LogOfPieces(text, 5000, random) == ReadWhole(text).log) << "round " << round;
     }
 }
 

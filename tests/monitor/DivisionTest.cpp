@@ -3,16 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cfloat>
 #include <cmath>
-#include <limits>
 
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kHuge = std::numeric_limits<double>::max();
-constexpr double kTiny = std::numeric_limits<double>::denorm_min();
+constexpr double kGap = NAN;
+constexpr double kHuge = DBL_MAX;
+constexpr double kTiny = DBL_TRUE_MIN;
 
 TEST(Division, TakesPartsOfAWholeAndNamesTheRest) {
     struct {
@@ -25,11 +24,11 @@ TEST(Division, TakesPartsOfAWholeAndNamesTheRest) {
         {{}, {}, {}, 0, ""},
         {{3, 1}, {0, 1}, {0.75, 0.25}, 4, ""},
         {{-1, 6, kGap, 2, -0.5}, {1, 3}, {0.75, 0.25}, 8, "Left out: a, e (negative), c (no value)"},
-        {{kInfinity, 5}, {1}, {1}, 5, "Left out: a (no value)"},
-        {{-kInfinity, -2}, {}, {}, 0, "Left out: b (negative), a (no value)"},
+        {{INFINITY, 5}, {1}, {1}, 5, "Left out: a (no value)"},
+        {{-INFINITY, -2}, {}, {}, 0, "Left out: b (negative), a (no value)"},
         {{0, 0}, {0, 1}, {0, 0}, 0, ""},
         {{0, 7, -0.0}, {0, 1, 2}, {0, 1, 0}, 7, ""},
-        {{kHuge, kHuge, 0}, {0, 1, 2}, {0.5, 0.5, 0}, kInfinity, ""},
+        {{kHuge, kHuge, 0}, {0, 1, 2}, {0.5, 0.5, 0}, INFINITY, ""},
         {{kTiny, kTiny}, {0, 1}, {0.5, 0.5}, 2 * kTiny, ""},
     };
     for (const auto& given : cases) {

@@ -4,12 +4,11 @@
 
 #include <cmath>
 #include <cstdio>
-#include <limits>
 
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
+constexpr double kGap = NAN;
 constexpr Time kMinute = kMicrosPerMinute;
 
 /// `row:x,y` of every point; `row:-` of a gap.

@@ -2,15 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cfloat>
 #include <cmath>
-#include <limits>
 
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
-constexpr double kHuge = std::numeric_limits<double>::max();
-constexpr double kTiny = std::numeric_limits<double>::denorm_min();
+constexpr double kGap = NAN;
+constexpr double kHuge = DBL_MAX;
+constexpr double kTiny = DBL_TRUE_MIN;
 
 TEST(Periods, BeginAtRoundTimesAndAreFew) {
     const struct {

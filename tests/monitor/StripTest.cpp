@@ -6,14 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <random>
 
 namespace kavlix::recording {
 namespace {
 
 constexpr Time S = kMicrosPerSecond;
-constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+constexpr double kNone = NAN;
 
 Recording At(std::vector<Time> times, Time interval) {
     Recording recording;

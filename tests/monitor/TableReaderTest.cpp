@@ -81,13 +81,11 @@ TEST(TableReader, TellsWhatIsWrongAndKeepsTheRest) {
         {"separators at the end hold nothing", "t,a,\n10,1,\n20,2,,,\n30,3\n", "", "10 20 30", "1 2 3", 0},
         {"a time that cannot be read", "t,a\nx,1\n20,2\n",
          "f.csv:2:1: expected a time (YYYY-MM-DD HH:MM:SS, ISO 8601 or seconds since 1970), found \"x\"; the "
-         "row is left "
-         "out\n",
+         "row is left out\n",
          "20", "2", 1},
         {"a time that goes backwards", "t,a\n100,1\n40,2\n110,3\n",
          "f.csv:3:1: expected a time not before 1970-01-01 00:01:40, found 1970-01-01 00:00:40, 1 min back; "
-         "the row is "
-         "kept, in its place by time\n",
+         "the row is kept, in its place by time\n",
          "40 100 110", "2 1 3", 0},
         {"the same time again is a row of its own", "t,a\n10,1\n10,2\n10,3\n", "", "10 10 10", "1 2 3", 0},
         {"no header", "10,1\n20,2\n",
@@ -96,16 +94,14 @@ TEST(TableReader, TellsWhatIsWrongAndKeepsTheRest) {
          "10 20", "1 2", 0},
         {"an open quote", "t,a\n10,\"1\n20,2\n",
          "f.csv:2:4: expected a closing quote in this line or a later one, found none; it is taken as closed "
-         "at the end "
-         "of the line\n",
+         "at the end of the line\n",
          "10 20", "1 2", 0},
         {"text behind a quote", "t,a\n10,\"1\"2\n",
          "f.csv:2:7: expected a separator or the end of the line behind the closing quote, found more text\n",
          "10", "12", 0},
         {"binary rows", std::string_view("t,a\n\0\x01\xFF\n20,2\n", 13),
          "f.csv:2:1: expected a time (YYYY-MM-DD HH:MM:SS, ISO 8601 or seconds since 1970), found "
-         "\"\\x00\\x01\\xFF\"; "
-         "the row is left out\n",
+         "\"\\x00\\x01\\xFF\"; the row is left out\n",
          "20", "2", 1},
         {"blank lines are nothing", "\n \nt,a\n\n10,1\n\n\n20,2\n\n", "", "10 20", "1 2", 0},
         {"decimal commas between semicolons", "t;a\n10;1,5\n20;-2,5\n", "", "10 20", "1.5 -2.5", 0},

@@ -26,10 +26,7 @@ protected:
     }
     void Mouse(UINT message, CPoint point) { Chart().SendMessage(message, 0, MAKELPARAM(point.x, point.y)); }
     void Press(UINT key) { Chart().SendMessage(WM_KEYDOWN, key, 1); }
-    std::string Pointer() {
-        auto* const status = static_cast<CStatusBarCtrl*>(m_frame->GetDlgItem(IDC_STATUS));
-        return static_cast<LPCTSTR>(status->GetText(1));
-    }
+    std::string Pointer() { return Pane(1); }
     std::string Walk() {
         return m_folder.Write("walk.csv", "time,a,b,c\n0,1,10,3\n60,2,40,3\n120,,20,3\n180,4,30,3\n");
     }
@@ -117,11 +114,10 @@ TEST_F(ChartPage, SeriesAreChosenInTheDialog) {
 }
 
 TEST_F(ChartPage, LiveReadingsGoOnUnderTheMark) {
-    constexpr WPARAM liveTimer = 1;
     Open("chart", {});
     // Readings that come faster than the system counts have no value for the processor.
     for (int i = 0; i < 250 && !m_frame->Page().HasMark(); ++i) {
-        m_frame->SendMessage(WM_TIMER, liveTimer);
+        Tick();
         Chart().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
         Press(VK_LEFT);
     }
@@ -129,7 +125,7 @@ TEST_F(ChartPage, LiveReadingsGoOnUnderTheMark) {
     const std::size_t before = Chart().Picture().points.size();
     ASSERT_LT(before, monitor::LiveReadings::kHistory) << "the page lets none go yet";
     const std::string marked = Text();
-    m_frame->SendMessage(WM_TIMER, liveTimer);
+    Tick();
     EXPECT_EQ(Chart().Picture().points.size(), before + 1);
     EXPECT_EQ(Text(), marked);
 }

@@ -16,16 +16,22 @@ namespace kavlix::test {
 /// The main window on one of its pages.
 class FrameWithPage : public testing::Test {
 protected:
+    struct Frame : monitor::CMainFrame {
+        using CMainFrame::CMainFrame;
+        using CMainFrame::PreTranslateMessage;
+    };
+
     ~FrameWithPage() override { Close(); }
 
-    /// Opens the window on the page with these files, or with live readings.
+    /// Opens the window on the page, its own choice without a name, with these files or with live readings.
     void Open(std::string_view page, std::vector<std::string> files) {
         Close();
         recording::Options options;
         options.files = std::move(files);
         const auto found = std::find(recording::kPageNames.begin(), recording::kPageNames.end(), page);
-        options.page = static_cast<std::size_t>(found - recording::kPageNames.begin());
-        m_frame = new monitor::CMainFrame(std::move(options), m_exitStatus);
+        if (!page.empty())
+            options.page = static_cast<std::size_t>(found - recording::kPageNames.begin());
+        m_frame = new Frame(std::move(options), m_exitStatus);
         ASSERT_TRUE(m_frame->CreateMainWindow());
         m_frame->ShowWindow(SW_SHOWNOACTIVATE);
         m_frame->Start();
@@ -41,10 +47,26 @@ protected:
             ;
     }
     void Command(UINT id) { m_frame->SendMessage(WM_COMMAND, id); }
-    /// What the status bar says first.
-    std::string Text() {
+    /// The next live reading.
+    void Tick() {
+        constexpr WPARAM liveTimer = 1;
+        m_frame->SendMessage(WM_TIMER, liveTimer);
+    }
+    /// What a pane of the status bar says.
+    std::string Pane(int pane) {
         auto* const status = static_cast<CStatusBarCtrl*>(m_frame->GetDlgItem(IDC_STATUS));
-        return static_cast<LPCTSTR>(status->GetText(0));
+        return static_cast<LPCTSTR>(status->GetText(pane));
+    }
+    std::string Text() { return Pane(0); }
+    static std::string TitleOf(const CWnd& window) {
+        CString text;
+        window.GetWindowText(text);
+        return static_cast<LPCTSTR>(text);
+    }
+    static void ClearClipboard() {
+        ASSERT_TRUE(::OpenClipboard(nullptr));
+        ::EmptyClipboard();
+        ::CloseClipboard();
     }
     template <class Control> Control& ControlOf(UINT id) {
         return dynamic_cast<Control&>(*m_frame->Page().GetDlgItem(static_cast<int>(id)));
@@ -52,7 +74,7 @@ protected:
 
     TempFolder m_folder;
     int m_exitStatus = 0;
-    monitor::CMainFrame* m_frame = nullptr; ///< deletes itself
+    Frame* m_frame = nullptr; ///< deletes itself
 };
 
 } // namespace kavlix::test

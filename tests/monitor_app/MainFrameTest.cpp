@@ -1,13 +1,10 @@
 // What a person does with mouse and keyboard in the main window, and what it shows then.
 
-#include "monitor/MainFrame.h"
-#include "monitor/resource.h"
-#include "tests/monitor_app/MonitorProcess.h"
+#include "monitor/MonitorGraph.h"
+#include "tests/monitor_app/FrameWithPage.h"
 #include "tests/support/MessageBoxWatcher.h"
 
 #include <afxres.h>
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <future>
@@ -16,7 +13,6 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::CMainFrame;
 using monitor::CMonitorGraph;
 
 constexpr int kPixel = 30; // logical units
@@ -39,12 +35,6 @@ struct Inside : CMonitorGraph {
     }
 };
 
-class Frame : public CMainFrame {
-public:
-    using CMainFrame::CMainFrame;
-    bool Translates(MSG message) { return PreTranslateMessage(&message) != FALSE; }
-};
-
 /// Counts what is written to the status bar of this thread's window.
 class StatusWrites {
 public:
@@ -64,26 +54,12 @@ private:
     HHOOK m_hook;
 };
 
-class MainFrame : public testing::Test {
+class MainFrame : public FrameWithPage {
 protected:
-    ~MainFrame() override {
-        if (m_frame)
-            m_frame->DestroyWindow();
-    }
-
     /// Opens the window with these files, or with live readings.
     void Open(std::vector<std::string> files) {
-        recording::Options options;
-        options.files = std::move(files);
-        options.page = recording::kGraphPage;
-        m_frame = new Frame(std::move(options), m_exitStatus);
-        ASSERT_TRUE(m_frame->CreateMainWindow());
-        m_frame->ShowWindow(SW_SHOWNOACTIVATE);
-        m_frame->Start();
-        while (m_frame->WorkInIdle())
-            ;
-        m_graph = dynamic_cast<CMonitorGraph*>(m_frame->Page().GetDlgItem(IDC_GRAPH));
-        ASSERT_NE(m_graph, nullptr);
+        FrameWithPage::Open("graph", std::move(files));
+        m_graph = &ControlOf<CMonitorGraph>(IDC_GRAPH);
     }
     /// A file of two series, up = its row and down = 100 - up, a row a minute.
     std::string Ramps(int rows) {
@@ -93,27 +69,13 @@ protected:
         return m_folder.Write("ramps.csv", text);
     }
 
-    std::string Pane(int pane) {
-        auto* const status = static_cast<CStatusBarCtrl*>(m_frame->GetDlgItem(IDC_STATUS));
-        return static_cast<LPCTSTR>(status->GetText(pane));
-    }
-    std::string Title() {
-        CString text;
-        m_frame->GetWindowText(text);
-        return static_cast<LPCTSTR>(text);
-    }
-    std::string Caption() {
-        CString text;
-        m_graph->GetWindowText(text);
-        return static_cast<LPCTSTR>(text);
-    }
-    void Command(UINT id) { m_frame->SendMessage(WM_COMMAND, id); }
     void Mouse(UINT message, CPoint point) { m_graph->SendMessage(message, 0, MAKELPARAM(point.x, point.y)); }
     void Point(double x, double share) { Mouse(WM_MOUSEMOVE, PlotPoint(x, share)); }
     void Press(UINT key) { m_graph->SendMessage(WM_KEYDOWN, key, 1); }
     /// As the message loop does: the frame first, then the graph.
     void PressEscape(LPARAM flags = 1) {
-        if (!m_frame->Translates({m_graph->m_hWnd, WM_KEYDOWN, VK_ESCAPE, flags, 0, {}}))
+        MSG message{m_graph->m_hWnd, WM_KEYDOWN, VK_ESCAPE, flags, 0, {}};
+        if (!m_frame->PreTranslateMessage(&message))
             Press(VK_ESCAPE);
     }
 
@@ -138,9 +100,6 @@ protected:
         Mouse(WM_LBUTTONUP, icon);
     }
 
-    TempFolder m_folder;
-    int m_exitStatus = 0;
-    Frame* m_frame = nullptr; ///< deletes itself
     CMonitorGraph* m_graph = nullptr;
 };
 
@@ -187,7 +146,6 @@ TEST_F(MainFrame, PointerFindsTheBarAndTheSeriesWhoseSamplesStandBetween) {
         EXPECT_EQ(Pane(kPointerPane),
                   series == 0 ? "1970-01-01 00:04:00   up: 4" : "1970-01-01 00:04:00   down: 96");
     }
-    m_frame->DestroyWindow();
 
     std::string even = "time,even\n";
     std::string odd = "time,odd\n";
@@ -233,7 +191,7 @@ TEST_F(MainFrame, LegendDoubleClickHidesAndShowsASeriesOnly) {
 TEST_F(MainFrame, GraphFillsTheWindowAndGoesBackEveryWay) {
     Open({Ramps(101)});
     const HMENU menu = ::GetMenu(m_frame->m_hWnd);
-    const std::string title = Title();
+    const std::string title = TitleOf(*m_frame);
     const auto expectFilled = [&](bool filled, const char* after) {
         EXPECT_EQ(m_frame->Filled(), filled) << after;
         EXPECT_EQ(Inside::Maximized(*m_graph), filled) << after;
@@ -245,6 +203,14 @@ TEST_F(MainFrame, GraphFillsTheWindowAndGoesBackEveryWay) {
         m_graph->GetWindowRect(&graph);
         EXPECT_EQ(graph.Size() == inside.Size(), filled) << after;
     };
+    const auto doubleClickIcon = [this](bool follows) {
+        CPoint point = Middle(Inside::Icon(*m_graph));
+        m_graph->ClientToScreen(&point);
+        ClickIcon();
+        m_graph->ScreenToClient(&point);
+        Mouse(WM_LBUTTONDBLCLK, follows ? Middle(Inside::Icon(*m_graph)) : point);
+        Mouse(WM_LBUTTONUP, follows ? Middle(Inside::Icon(*m_graph)) : point);
+    };
     const struct {
         const char* name;
         std::function<void()> act;
@@ -253,23 +219,8 @@ TEST_F(MainFrame, GraphFillsTheWindowAndGoesBackEveryWay) {
                 {"a click on the icon", [this] { ClickIcon(); }, true},
                 {"a double-click on the caption",
                  [this] { Mouse(WM_LBUTTONDBLCLK, Middle(Inside::Caption(*m_graph))); }, true},
-                {"a double-click on the icon",
-                 [this] {
-                     ClickIcon();
-                     Mouse(WM_LBUTTONDBLCLK, Middle(Inside::Icon(*m_graph)));
-                     Mouse(WM_LBUTTONUP, Middle(Inside::Icon(*m_graph)));
-                 },
-                 true},
-                {"a double-click on the icon that moves from under the pointer",
-                 [this] {
-                     CPoint point = Middle(Inside::Icon(*m_graph));
-                     m_graph->ClientToScreen(&point);
-                     ClickIcon();
-                     m_graph->ScreenToClient(&point);
-                     Mouse(WM_LBUTTONDBLCLK, point);
-                     Mouse(WM_LBUTTONUP, point);
-                 },
-                 true},
+                {"a double-click on the icon", [&] { doubleClickIcon(true); }, true},
+                {"one on the icon that moves from under the pointer", [&] { doubleClickIcon(false); }, true},
                 {"a press on the icon released elsewhere",
                  [this] {
                      Mouse(WM_LBUTTONDOWN, Middle(Inside::Icon(*m_graph)));
@@ -285,12 +236,13 @@ TEST_F(MainFrame, GraphFillsTheWindowAndGoesBackEveryWay) {
     }
 
     Command(ID_VIEW_FILL);
-    EXPECT_EQ(Title(), "1970-01-01 00:00:00  to  1970-01-01 01:40:00");
+    EXPECT_EQ(TitleOf(*m_frame), "1970-01-01 00:00:00  to  1970-01-01 01:40:00");
     m_graph->SetSelectionMarkPos(29);
     Press(VK_RIGHT);
-    EXPECT_EQ(Title(), "1970-01-01 00:30:00   up: 30   down: 70");
+    EXPECT_EQ(TitleOf(*m_frame), "1970-01-01 00:30:00   up: 30   down: 70");
     Point(20, 0.2);
-    EXPECT_EQ(Title(), "1970-01-01 00:30:00   up: 30   down: 70   |   1970-01-01 00:20:00   up: 20");
+    EXPECT_EQ(TitleOf(*m_frame),
+              "1970-01-01 00:30:00   up: 30   down: 70   |   1970-01-01 00:20:00   up: 20");
     PressEscape();
     EXPECT_EQ(m_graph->SelectionMark().index, -1);
     expectFilled(true, "Escape that clears the mark");
@@ -298,7 +250,7 @@ TEST_F(MainFrame, GraphFillsTheWindowAndGoesBackEveryWay) {
     expectFilled(true, "the same Escape, held");
     PressEscape();
     expectFilled(false, "the next Escape");
-    EXPECT_EQ(Title(), title);
+    EXPECT_EQ(TitleOf(*m_frame), title);
     EXPECT_EQ(Pane(kTextPane), "1970-01-01 00:00:00  to  1970-01-01 01:40:00") << "not what it said before";
 
     monitor::GraphSettings plain = m_graph->Settings();
@@ -365,18 +317,15 @@ TEST_F(MainFrame, RemovingDataBeforeTheMarkReachesEverythingThatShowsThem) {
         const std::string first =
             recording::FormatDateTime(now.times.front(), recording::TimePrecision::Seconds);
         EXPECT_EQ(Pane(kTextPane).substr(0, first.size()), first);
-        EXPECT_NE(Caption().find(first.substr(0, 10)), std::string::npos) << Caption();
+        EXPECT_NE(TitleOf(*m_graph).find(first.substr(0, 10)), std::string::npos) << TitleOf(*m_graph);
         EXPECT_EQ(Pane(kSummaryPane).find("removed") != std::string::npos, removed > 0) << Pane(kSummaryPane);
-        m_frame->DestroyWindow();
     }
-    m_frame = nullptr;
 }
 
 TEST_F(MainFrame, LiveReadingsGoOnAfterTheirHeadWasRemoved) {
-    constexpr WPARAM liveTimer = 1;
     Open({});
     for (int i = 0; i < 6; ++i)
-        m_frame->SendMessage(WM_TIMER, liveTimer);
+        Tick();
     const auto times = m_graph->Source().recording->times;
     const std::size_t count = times.size();
     ASSERT_GE(count, 6u);
@@ -387,7 +336,7 @@ TEST_F(MainFrame, LiveReadingsGoOnAfterTheirHeadWasRemoved) {
     EXPECT_EQ(m_graph->Source().recording->times.front(), times[4]);
     EXPECT_EQ(m_graph->GetDatasetSize(0), static_cast<int>(count - 4));
     m_graph->SetSelectionMarkPos(0);
-    m_frame->SendMessage(WM_TIMER, liveTimer);
+    Tick();
     EXPECT_EQ(m_graph->Source().recording->times.front(), times[4]) << "what was removed does not come back";
     EXPECT_EQ(m_graph->GetDatasetSize(0), static_cast<int>(count - 3));
     EXPECT_EQ(m_graph->SelectionMark().time, times[4]);
@@ -401,9 +350,7 @@ TEST_F(MainFrame, LiveReadingsGoOnAfterTheirHeadWasRemoved) {
 TEST_F(MainFrame, CopyReachesTheClipboardAndSaysWhenItDoesNot) {
     Open({Ramps(101)});
     for (CWnd* const receiver : {static_cast<CWnd*>(m_frame), static_cast<CWnd*>(m_graph)}) {
-        ASSERT_TRUE(::OpenClipboard(nullptr));
-        ::EmptyClipboard();
-        ::CloseClipboard();
+        ClearClipboard();
         receiver->SendMessage(WM_COMMAND, ID_EDIT_COPY);
         EXPECT_TRUE(::IsClipboardFormatAvailable(CF_ENHMETAFILE));
         EXPECT_EQ(Pane(kTextPane).substr(0, 6), "Copied");

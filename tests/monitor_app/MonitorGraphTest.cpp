@@ -1,30 +1,25 @@
 // What the Monitor's graph chooses from data and window size.
 
-#include "monitor/MonitorGraph.h"
+#include "tests/monitor_app/MadeRecordings.h"
+#include "tests/support/OpenGraph.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
 
 namespace kavlix::test {
 namespace {
 
 using monitor::CMonitorGraph;
-using monitor::DefaultSettings;
 using monitor::GraphSettings;
 using monitor::GraphSource;
 
 /// The graph with a view of what it has set.
-class Graph : public CMonitorGraph {
+class Graph : public testkit::OpenGraphOf<CMonitorGraph> {
 public:
     void Paint() { DrawOnce(); }
     CRect Plot() { return DrawOnce(), m_rectPlot; }
     int ValueTicks() { return Plot().Height() / 500; }
-    double Min() const { return m_YVisibleMin; }
-    double Max() const { return m_YVisibleMax; }
-    double XMin() const { return m_XVisibleMin; }
-    double XMax() const { return m_XVisibleMax; }
     std::string XLabel() const { return m_ShowXLabel ? static_cast<LPCTSTR>(m_XLabel) : ""; }
     std::string Caption() const {
         CString text;
@@ -32,10 +27,6 @@ public:
         return static_cast<LPCTSTR>(text);
     }
     std::string Legend(int i) const { return static_cast<LPCTSTR>(m_Datasets[i].m_Legend); }
-    int LegendRight() { return DrawOnce(), m_rectLegend.right; }
-    int LegendWidth() const { return m_LegendWidth; }
-    int TickLabels() const { return static_cast<int>(m_XTickLabelUp.GetSize()); }
-    std::string Title() const { return static_cast<LPCTSTR>(m_Title); }
 
 private:
     void DrawOnce() {
@@ -58,29 +49,16 @@ protected:
 
     void Resize(int width, int height) { m_graph.MoveWindow(0, 0, width, height); }
 
-    static GraphSource Source(std::size_t samples, std::vector<std::string> names,
-                              double (*value)(std::size_t sample, std::size_t series)) {
-        auto recording = std::make_shared<recording::Recording>();
-        for (std::size_t i = 0; i < samples; ++i)
-            recording->times.push_back(static_cast<recording::Time>(i) * recording::kMicrosPerMinute);
-        for (std::size_t s = 0; s < names.size(); ++s) {
-            recording->series.push_back({names[s], 0, {}});
-            for (std::size_t i = 0; i < samples; ++i)
-                recording->series[s].values.push_back(value(i, s));
-        }
-        GraphSource source;
-        source.recording = std::move(recording);
-        return source;
-    }
-    static GraphSettings Settings(const GraphSource& source,
-                                  CGraphCtrl::GraphStyle style = CGraphCtrl::GraphStyleLine) {
-        std::vector<std::string> names;
-        for (const auto& series : source.recording->series)
-            names.push_back(series.name);
-        return DefaultSettings("Title", names, source.recording->times.size(), style);
-    }
     static double Ramp(std::size_t sample, std::size_t series) {
         return static_cast<double>(sample % 1000) * 0.137 + static_cast<double>(series);
+    }
+
+    /// Shows a recording of ramps as it comes.
+    GraphSource Show(std::size_t samples, const std::vector<std::string>& names,
+                     CGraphCtrl::GraphStyle style = CGraphCtrl::GraphStyleLine) {
+        const GraphSource source = MakeSource(samples, names, Ramp);
+        m_graph.Show(source, SettingsOf(source, style));
+        return source;
     }
 
     CWnd m_parent;
@@ -88,23 +66,22 @@ protected:
 };
 
 TEST_F(MonitorGraph, RangeHasRoundTicksAtEveryHeight) {
-    const GraphSource source = Source(1000, {"a"}, Ramp);
-    m_graph.Show(source, Settings(source));
+    Show(1000, {"a"});
     int different = 0;
     double before = 0;
     for (const int height : {200, 260, 350, 500, 640, 900}) {
         Resize(900, height);
         const int ticks = m_graph.ValueTicks();
         ASSERT_GE(ticks, 2) << height;
-        const double step = (m_graph.Max() - m_graph.Min()) / (ticks - 1);
+        const double step = (m_graph.m_YVisibleMax - m_graph.m_YVisibleMin) / (ticks - 1);
         const double power = std::pow(10, std::floor(std::log10(step)));
         const double lead = step / power;
         bool isRound = false;
         for (const double round : {1.0, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 7.5, 8.0, 10.0})
             isRound |= std::abs(lead - round) < 1e-6;
         EXPECT_TRUE(isRound) << "step " << step << " at height " << height;
-        EXPECT_LE(m_graph.Min(), 0);
-        EXPECT_GE(m_graph.Max(), 999 * 0.137);
+        EXPECT_LE(m_graph.m_YVisibleMin, 0);
+        EXPECT_GE(m_graph.m_YVisibleMax, 999 * 0.137);
         different += step != before;
         before = step;
     }
@@ -112,15 +89,13 @@ TEST_F(MonitorGraph, RangeHasRoundTicksAtEveryHeight) {
 }
 
 TEST_F(MonitorGraph, HandsOverAllSamplesOfAnOrdinaryRecordingAndFewOfAHugeOne) {
-    GraphSource source = Source(22'695, {"a", "b"}, Ramp);
-    m_graph.Show(source, Settings(source));
+    Show(22'695, {"a", "b"});
     EXPECT_EQ(m_graph.GetDatasetSize(0), 22'695);
     EXPECT_EQ(m_graph.GetDatasetSize(1), 22'695);
-    EXPECT_EQ(m_graph.TickLabels(), 22'695);
-    EXPECT_EQ(m_graph.XMax(), 22'694);
+    EXPECT_EQ(m_graph.m_XTickLabelUp.GetSize(), 22'695);
+    EXPECT_EQ(m_graph.m_XVisibleMax, 22'694);
 
-    source = Source(300'000, {"a"}, Ramp);
-    m_graph.Show(source, Settings(source));
+    Show(300'000, {"a"});
     EXPECT_GT(m_graph.SamplesEach(), 1u);
     EXPECT_LT(m_graph.GetDatasetSize(0), 60'000);
     EXPECT_EQ(m_graph.GetDatasetSize(1), 0) << "the second series went";
@@ -136,8 +111,7 @@ TEST_F(MonitorGraph, HandsOverAllSamplesOfAnOrdinaryRecordingAndFewOfAHugeOne) {
 }
 
 TEST_F(MonitorGraph, BarsHaveRoomAndSayWhatTheyStandFor) {
-    const GraphSource source = Source(5000, {"a", "b"}, Ramp);
-    m_graph.Show(source, Settings(source, CGraphCtrl::GraphStyleBar));
+    Show(5000, {"a", "b"}, CGraphCtrl::GraphStyleBar);
     const int bars = m_graph.GetDatasetSize(0);
     // Two series: each sample takes two bars and a gap of one, each at least a pixel of 30 units.
     EXPECT_LE(bars * 3 * 30, m_graph.Plot().Width());
@@ -154,8 +128,8 @@ TEST_F(MonitorGraph, BarsHaveRoomAndSayWhatTheyStandFor) {
 }
 
 TEST_F(MonitorGraph, TimeRangeStandsInTheCaptionOrUnderATextTitle) {
-    const GraphSource source = Source(5000, {"heat"}, Ramp);
-    GraphSettings settings = Settings(source);
+    const GraphSource source = MakeSource(5000, {"heat"}, Ramp);
+    GraphSettings settings = SettingsOf(source);
     m_graph.Show(source, settings);
     EXPECT_EQ(m_graph.Caption(), "Title: heat, 1970-01-01 00:00 to 1970-01-04 11:19");
     EXPECT_EQ(m_graph.XLabel(), "");
@@ -168,8 +142,7 @@ TEST_F(MonitorGraph, TimeRangeStandsInTheCaptionOrUnderATextTitle) {
 }
 
 TEST_F(MonitorGraph, GrowingReadingsKeepTheMarkOnItsSample) {
-    GraphSource source = Source(10, {"a"}, Ramp);
-    m_graph.Show(source, Settings(source));
+    GraphSource source = Show(10, {"a"});
     m_graph.SetSelectionMarkPos(6);
     const auto grown = [&](std::size_t removed, std::size_t added) {
         auto next = std::make_shared<recording::Recording>(*source.recording);
@@ -185,21 +158,20 @@ TEST_F(MonitorGraph, GrowingReadingsKeepTheMarkOnItsSample) {
     };
     grown(2, 3);
     EXPECT_EQ(m_graph.GetDatasetSize(0), 11);
-    EXPECT_EQ(m_graph.TickLabels(), 11);
+    EXPECT_EQ(m_graph.m_XTickLabelUp.GetSize(), 11);
     EXPECT_EQ(m_graph.SelectionMark().index, 4);
     EXPECT_DOUBLE_EQ(m_graph.SelectionMark().values[0], Ramp(6, 0));
     double value = 0;
     EXPECT_TRUE(m_graph.GetYData(0, 10, value));
     EXPECT_EQ(value, 102);
-    EXPECT_GE(m_graph.Max(), 102) << "the range follows";
+    EXPECT_GE(m_graph.m_YVisibleMax, 102) << "the range follows";
     grown(5, 1);
     EXPECT_EQ(m_graph.GetDatasetSize(0), 7);
     EXPECT_EQ(m_graph.SelectionMark().index, -1) << "its sample is gone";
 }
 
 TEST_F(MonitorGraph, MarkStaysOnItsSampleWhateverIsShownOfTheRest) {
-    GraphSource source = Source(5000, {"a", "b"}, Ramp);
-    m_graph.Show(source, Settings(source));
+    GraphSource source = Show(5000, {"a", "b"});
     m_graph.SetVisible({1000, 2999});
     m_graph.SetSelectionMarkPos(234);
     const auto expectMark = [&](const char* after) {
@@ -239,43 +211,41 @@ TEST_F(MonitorGraph, MarkStaysOnItsSampleWhateverIsShownOfTheRest) {
 
 TEST_F(MonitorGraph, LongNamesAreShortenedToTheRoomThereIs) {
     const std::string longName(300, 'W');
-    const GraphSource source = Source(20, {longName, "b"}, Ramp);
-    GraphSettings settings = Settings(source);
+    const GraphSource source = MakeSource(20, {longName, "b"}, Ramp);
+    GraphSettings settings = SettingsOf(source);
     settings.title = longName;
     settings.titleStyle = CGraphCtrl::TitleStyleText;
     m_graph.Show(source, settings);
     EXPECT_LT(m_graph.Legend(0).size(), 60u);
     EXPECT_EQ(m_graph.Legend(0).substr(m_graph.Legend(0).size() - 3), "...");
     EXPECT_EQ(m_graph.Legend(1), "b");
-    EXPECT_LE(m_graph.LegendWidth(), 900 * 30 / 2);
+    EXPECT_LE(m_graph.m_LegendWidth, 900 * 30 / 2);
     EXPECT_GT(m_graph.Plot().Width(), 900 * 30 / 3);
-    EXPECT_LT(m_graph.Title().size(), 100u);
+    EXPECT_LT(m_graph.m_Title.GetLength(), 100);
     Resize(1800, 600);
     EXPECT_GT(m_graph.Legend(0).size(), 30u) << "more room, more of the name";
 }
 
 TEST_F(MonitorGraph, MarkersOfTheFirstAndTheLastSampleStandWholeInThePlot) {
-    const GraphSource source = Source(5, {"a"}, Ramp);
-    GraphSettings settings = Settings(source);
+    const GraphSource source = MakeSource(5, {"a"}, Ramp);
+    GraphSettings settings = SettingsOf(source);
     m_graph.Show(source, settings);
     ASSERT_NE(settings.series[0].marker, CDataset::MarkerNone) << "few samples have markers";
-    const double unitsPerSample = m_graph.Plot().Width() / (m_graph.XMax() - m_graph.XMin());
-    EXPECT_GT(-m_graph.XMin() * unitsPerSample, 90) << "half a marker's width";
-    EXPECT_GT((m_graph.XMax() - 4) * unitsPerSample, 90);
+    const double unitsPerSample = m_graph.Plot().Width() / (m_graph.m_XVisibleMax - m_graph.m_XVisibleMin);
+    EXPECT_GT(-m_graph.m_XVisibleMin * unitsPerSample, 90) << "half a marker's width";
+    EXPECT_GT((m_graph.m_XVisibleMax - 4) * unitsPerSample, 90);
     settings.series[0].marker = CDataset::MarkerNone;
     m_graph.SetSettings(settings);
-    EXPECT_EQ(m_graph.XMin(), 0);
-    EXPECT_EQ(m_graph.XMax(), 4);
+    EXPECT_EQ(m_graph.m_XVisibleMin, 0);
+    EXPECT_EQ(m_graph.m_XVisibleMax, 4);
 }
 
 TEST_F(MonitorGraph, EmptyAndSingleSamplesAreShownWithoutFault) {
-    GraphSource source = Source(0, {"a"}, Ramp);
-    m_graph.Show(source, Settings(source));
+    Show(0, {"a"});
     m_graph.Paint();
     EXPECT_EQ(m_graph.GetDatasetSize(0), 0);
-    source = Source(1, {"a"}, Ramp);
     for (const auto style : {CGraphCtrl::GraphStyleLine, CGraphCtrl::GraphStyleBar}) {
-        m_graph.Show(source, Settings(source, style));
+        Show(1, {"a"}, style);
         m_graph.Paint();
         EXPECT_EQ(m_graph.GetDatasetSize(0), 1);
     }

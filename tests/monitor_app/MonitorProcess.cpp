@@ -3,9 +3,9 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <stdexcept>
-#include <thread>
 
 #include <objidl.h>
 namespace Gdiplus {
@@ -18,46 +18,18 @@ namespace kavlix::test {
 
 namespace {
 
-constexpr DWORD kPatience =
-    90'000; // milliseconds: a loaded machine may take long, a hanging program for ever
+constexpr DWORD kPatience = 90'000; // milliseconds; a loaded machine may take long
 
-/// One end of a pipe that a started program writes to, read by a thread so that the program never waits.
-class OutputPipe {
-public:
-    OutputPipe() {
-        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-        if (!CreatePipe(&m_read, &m_write, &inherited, 0))
-            throw std::runtime_error("no pipe");
-        SetHandleInformation(m_read, HANDLE_FLAG_INHERIT, 0);
-        m_reader = std::thread([this] {
-            char block[4096];
-            DWORD count = 0;
-            while (ReadFile(m_read, block, sizeof block, &count, nullptr) && count > 0)
-                m_text.append(block, count);
-        });
-    }
-    ~OutputPipe() { Finish(); }
-    OutputPipe(const OutputPipe&) = delete;
-    OutputPipe& operator=(const OutputPipe&) = delete;
+/// A new file that a started program can write to.
+HANDLE OpenForProgram(const std::string& path) {
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    return CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+}
 
-    HANDLE WriteEnd() const { return m_write; }
-
-    /// Everything written, once no program holds the other end any more.
-    std::string Finish() {
-        if (m_reader.joinable()) {
-            CloseHandle(m_write);
-            m_reader.join();
-            CloseHandle(m_read);
-        }
-        return m_text;
-    }
-
-private:
-    HANDLE m_read = nullptr;
-    HANDLE m_write = nullptr;
-    std::thread m_reader;
-    std::string m_text;
-};
+std::string Content(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 std::string FolderOfProgram() {
     char path[MAX_PATH];
@@ -76,62 +48,49 @@ std::string CommandLine(const std::vector<std::string>& arguments) {
 } // namespace
 
 TempFolder::TempFolder() {
-    char root[MAX_PATH];
-    GetTempPathA(sizeof root, root);
     static int count = 0;
-    m_path =
-        std::string(root) + "kavlix-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
-    if (!CreateDirectoryA(m_path.c_str(), nullptr))
+    m_path = (std::filesystem::temp_directory_path() /
+              ("kavlix-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count)))
+                 .string();
+    if (!std::filesystem::create_directory(m_path))
         throw std::runtime_error("no folder " + m_path);
 }
 
 TempFolder::~TempFolder() {
-    WIN32_FIND_DATAA entry;
-    const HANDLE search = FindFirstFileA((m_path + "\\*").c_str(), &entry);
-    if (search != INVALID_HANDLE_VALUE) {
-        do {
-            if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
-                DeleteFileA(Path(entry.cFileName).c_str());
-        } while (FindNextFileA(search, &entry));
-        FindClose(search);
-    }
-    RemoveDirectoryA(m_path.c_str());
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
 }
 
 std::string TempFolder::Write(const std::string& name, const std::string& content) const {
-    const std::string path = Path(name);
-    std::FILE* const file = std::fopen(path.c_str(), "wb");
-    if (!file)
-        throw std::runtime_error("cannot write " + path);
-    std::fwrite(content.data(), 1, content.size(), file);
-    std::fclose(file);
-    return path;
+    std::ofstream(Path(name), std::ios::binary) << content;
+    return Path(name);
 }
 
 MonitorRun RunMonitor(const std::vector<std::string>& arguments) {
     MonitorRun run;
-    OutputPipe output;
-    OutputPipe error;
+    const TempFolder folder;
+    const std::string output = folder.Path("output"), error = folder.Path("error");
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = output.WriteEnd();
-    startup.hStdError = error.WriteEnd();
+    startup.hStdOutput = OpenForProgram(output);
+    startup.hStdError = OpenForProgram(error);
     PROCESS_INFORMATION process{};
     std::string line = CommandLine(arguments);
     if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
                         &process))
         return run;
-    run.ended = WaitForSingleObject(process.hProcess, kPatience) == WAIT_OBJECT_0;
-    if (!run.ended)
-        TerminateProcess(process.hProcess, 255);
     DWORD status = 0;
-    GetExitCodeProcess(process.hProcess, &status);
-    run.status = status;
+    if (WaitForSingleObject(process.hProcess, kPatience) != WAIT_OBJECT_0)
+        TerminateProcess(process.hProcess, 255);
+    else if (GetExitCodeProcess(process.hProcess, &status))
+        run.status = status;
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
-    run.output = output.Finish();
-    run.error = error.Finish();
+    CloseHandle(startup.hStdOutput);
+    CloseHandle(startup.hStdError);
+    run.output = Content(output);
+    run.error = Content(error);
     return run;
 }
 
@@ -145,30 +104,14 @@ int Picture::Count(std::uint32_t rgb, int fromX, int toX) const {
     return count;
 }
 
-int Picture::TopOf(std::uint32_t rgb) const {
-    const auto found = std::find(pixels.begin(), pixels.end(), rgb);
-    return found == pixels.end() ? -1 : static_cast<int>((found - pixels.begin()) / width);
-}
-
-int Picture::BottomOf(std::uint32_t rgb) const {
-    const auto found = std::find(pixels.rbegin(), pixels.rend(), rgb);
-    return found == pixels.rend() ? -1 : height - 1 - static_cast<int>((found - pixels.rbegin()) / width);
-}
-
-int Picture::LeftOf(std::uint32_t rgb) const {
-    for (int x = 0; x < width; ++x) {
-        if (Count(rgb, x, x + 1) > 0)
-            return x;
+Picture::Place Picture::Where(std::uint32_t rgb) const {
+    Place place{width, height, -1, -1};
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            if (At(x, y) == rgb)
+                place = {std::min(place.left, x), std::min(place.top, y), std::max(place.right, x), y};
     }
-    return -1;
-}
-
-int Picture::RightOf(std::uint32_t rgb) const {
-    for (int x = width - 1; x >= 0; --x) {
-        if (Count(rgb, x, x + 1) > 0)
-            return x;
-    }
-    return -1;
+    return place;
 }
 
 Picture ReadPicture(const std::string& path) {

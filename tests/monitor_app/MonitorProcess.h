@@ -26,8 +26,7 @@ private:
 
 /// What a run of KavlixMonitor.exe left behind.
 struct MonitorRun {
-    bool ended = false; ///< false: it could not be started, or did not end in time and was stopped
-    unsigned status = 0;
+    unsigned status = 999; ///< 999: it could not be started, or did not end in time and was stopped
     std::string output;
     std::string error;
 };
@@ -46,13 +45,12 @@ struct Picture {
     /// Pixels of this very colour within the given columns (the end excluded); all columns by default.
     int Count(std::uint32_t rgb, int fromX = 0, int toX = -1) const;
 
-    /// First and last row that holds the colour; -1 when none does.
-    int TopOf(std::uint32_t rgb) const;
-    int BottomOf(std::uint32_t rgb) const;
-
-    /// First and last column that holds the colour; -1 when none does.
-    int LeftOf(std::uint32_t rgb) const;
-    int RightOf(std::uint32_t rgb) const;
+    struct Place {
+        int left, top, right, bottom;
+    };
+    /// First and last column and row that hold the colour; its last ones come before its first where none
+    /// does.
+    Place Where(std::uint32_t rgb) const;
 };
 
 /// Reads a picture file.

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
 
 namespace kavlix::test {
 namespace {
@@ -24,76 +23,71 @@ template <class Value> std::string Csv(int rows, int series, Value value) {
         text += ",series " + std::to_string(s);
     text += "\n";
     for (int row = 0; row < rows; ++row) {
-        char cell[64];
-        std::snprintf(cell, sizeof cell, "2021-03-%02d %02d:%02d:00", 1 + row / 1440, row / 60 % 24,
-                      row % 60);
-        text += cell;
-        for (int s = 0; s < series; ++s) {
-            std::snprintf(cell, sizeof cell, ",%.3f", value(row, s));
-            text += cell;
-        }
+        text += std::to_string(row * 60);
+        for (int s = 0; s < series; ++s)
+            text += "," + std::to_string(value(row, s));
         text += "\n";
     }
     return text;
 }
 
-TEST(MonitorPicture, HasTheSizeAskedForAndTheLineFromEndToEnd) {
-    const TempFolder folder;
+class MonitorPicture : public testing::Test {
+protected:
+    /// The picture that the Monitor saves with these arguments, which must end it with this status.
+    Picture Shot(std::vector<std::string> arguments, unsigned status = 0) {
+        const std::string shot = m_folder.Path("out.png");
+        arguments.insert(arguments.end(), {"--shot", shot});
+        m_run = RunMonitor(arguments);
+        EXPECT_EQ(m_run.status, status) << m_run.error;
+        return ReadPicture(shot);
+    }
+
+    TempFolder m_folder;
+    MonitorRun m_run; ///< the last
+};
+
+TEST_F(MonitorPicture, HasTheSizeAskedForAndTheLineFromEndToEnd) {
     const std::string recording =
-        folder.Write("wave.csv", Csv(500, 1, [](int row, int) { return 50 + 40 * std::sin(row / 20.0); }));
-    const std::string shot = folder.Path("out.png");
+        m_folder.Write("wave.csv", Csv(500, 1, [](int row, int) { return 50 + 40 * std::sin(row / 20.0); }));
     struct {
         const char* text;
         int width;
         int height;
     } const sizes[] = {{"500x350", 500, 350}, {"1000x640", 1000, 640}};
     for (const auto& size : sizes) {
-        const MonitorRun run = RunMonitor({recording, "--shot", shot, "--size", size.text});
-        ASSERT_TRUE(run.ended);
-        EXPECT_EQ(run.status, 0u) << run.error;
-        const Picture picture = ReadPicture(shot);
+        const Picture picture = Shot({recording, "--size", size.text});
         ASSERT_EQ(picture.width, size.width);
         ASSERT_EQ(picture.height, size.height);
         EXPECT_GT(picture.Count(ColorOf(0)), size.width) << "a line through the plot";
-        EXPECT_LT(picture.LeftOf(ColorOf(0)), size.width / 4);
-        EXPECT_GT(picture.RightOf(ColorOf(0)), size.width - size.width / 10)
+        EXPECT_LT(picture.Where(ColorOf(0)).left, size.width / 4);
+        EXPECT_GT(picture.Where(ColorOf(0)).right, size.width - size.width / 10)
             << "one series: no legend beside it";
-        const int swing = picture.BottomOf(ColorOf(0)) - picture.TopOf(ColorOf(0));
+        const int swing = picture.Where(ColorOf(0)).bottom - picture.Where(ColorOf(0)).top;
         EXPECT_GT(swing, size.height / 3) << "the range is chosen from the values";
     }
 }
 
-TEST(MonitorPicture, LargerThanTheScreenIsWhole) {
-    const TempFolder folder;
+TEST_F(MonitorPicture, LargerThanTheScreenIsWhole) {
     const std::string recording =
-        folder.Write("ramp.csv", Csv(100, 1, [](int row, int) { return static_cast<double>(row); }));
-    const std::string shot = folder.Path("out.png");
-    const MonitorRun run = RunMonitor({recording, "--shot", shot, "--size", "2000x1500"});
-    ASSERT_TRUE(run.ended);
-    EXPECT_EQ(run.status, 0u) << run.error;
-    const Picture picture = ReadPicture(shot);
+        m_folder.Write("ramp.csv", Csv(100, 1, [](int row, int) { return static_cast<double>(row); }));
+    const Picture picture = Shot({recording, "--size", "2000x1500"});
     ASSERT_EQ(picture.width, 2000);
     ASSERT_EQ(picture.height, 1500);
     // A ramp goes from the lower left to the upper right corner of the plot.
-    EXPECT_GT(picture.RightOf(ColorOf(0)), 1850);
-    EXPECT_LT(picture.LeftOf(ColorOf(0)), 200);
-    EXPECT_LT(picture.TopOf(ColorOf(0)), 450);
-    EXPECT_GT(picture.BottomOf(ColorOf(0)), 1100);
+    EXPECT_GT(picture.Where(ColorOf(0)).right, 1850);
+    EXPECT_LT(picture.Where(ColorOf(0)).left, 200);
+    EXPECT_LT(picture.Where(ColorOf(0)).top, 450);
+    EXPECT_GT(picture.Where(ColorOf(0)).bottom, 1100);
 }
 
-TEST(MonitorPicture, BarsStandWhereLinesWouldAndCoverTheWholeRecording) {
-    const TempFolder folder;
+TEST_F(MonitorPicture, BarsStandWhereLinesWouldAndCoverTheWholeRecording) {
     // Far more samples than there is room for bars; the values rise in the middle of the recording.
-    const std::string recording = folder.Write(
+    const std::string recording = m_folder.Write(
         "many.csv", Csv(20'000, 1, [](int row, int) { return row > 8'000 && row < 12'000 ? 90.0 : 10.0; }));
-    const std::string shot = folder.Path("out.png");
-    const MonitorRun run = RunMonitor({recording, "--shot", shot, "--size", "800x500", "--style", "bar"});
-    ASSERT_TRUE(run.ended);
-    EXPECT_EQ(run.status, 0u) << run.error;
-    const Picture picture = ReadPicture(shot);
+    const Picture picture = Shot({recording, "--size", "800x500", "--style", "bar"});
     ASSERT_EQ(picture.width, 800);
-    const int left = picture.LeftOf(ColorOf(0));
-    const int right = picture.RightOf(ColorOf(0));
+    const int left = picture.Where(ColorOf(0)).left;
+    const int right = picture.Where(ColorOf(0)).right;
     EXPECT_GT(right - left, 600);
     const auto filled = [&](double from, double to) {
         return picture.Count(ColorOf(0), left + static_cast<int>((right - left) * from),
@@ -103,18 +97,13 @@ TEST(MonitorPicture, BarsStandWhereLinesWouldAndCoverTheWholeRecording) {
     EXPECT_GT(filled(0.85, 0.95), 0) << "low bars to the end";
 }
 
-TEST(MonitorPicture, SeveralFilesGiveSeveralColours) {
-    const TempFolder folder;
+TEST_F(MonitorPicture, SeveralFilesGiveSeveralColours) {
     const std::string first =
-        folder.Write("first.csv", Csv(200, 1, [](int row, int) { return 20 + 5 * std::sin(row / 9.0); }));
-    const std::string second = folder.Write(
+        m_folder.Write("first.csv", Csv(200, 1, [](int row, int) { return 20 + 5 * std::sin(row / 9.0); }));
+    const std::string second = m_folder.Write(
         "second.csv", Csv(200, 2, [](int row, int s) { return 40 + 20 * s + 5 * std::cos(row / 7.0); }));
-    const std::string shot = folder.Path("out.png");
     for (const char* style : {"line", "twoaxis"}) {
-        const MonitorRun run = RunMonitor({first, second, "--shot", shot, "--style", style});
-        ASSERT_TRUE(run.ended);
-        EXPECT_EQ(run.status, 0u) << run.error;
-        const Picture picture = ReadPicture(shot);
+        const Picture picture = Shot({first, second, "--style", style});
         EXPECT_GT(picture.Count(ColorOf(0)), 200) << style;
         EXPECT_GT(picture.Count(ColorOf(1)), 200) << style;
         if (std::string(style) == "line")
@@ -124,75 +113,45 @@ TEST(MonitorPicture, SeveralFilesGiveSeveralColours) {
     }
 }
 
-TEST(MonitorPicture, FilesSampledAtDifferentTimesAreLinesAndNotDots) {
-    const TempFolder folder;
+TEST_F(MonitorPicture, FilesSampledAtDifferentTimesAreLinesAndNotDots) {
     std::string even = "time,even\n";
     std::string odd = "time,odd\n";
     for (int i = 0; i < 400; ++i) {
-        char row[64];
-        std::snprintf(row, sizeof row, "2021-03-01 %02d:%02d:%02d,%d\n", i / 60 % 24, i % 60, 0, 20 + i % 3);
-        even += row;
-        std::snprintf(row, sizeof row, "2021-03-01 %02d:%02d:%02d,%d\n", i / 60 % 24, i % 60, 30, 60 + i % 3);
-        odd += row;
+        const std::string value = std::to_string(i % 3) + "\n";
+        even += std::to_string(i * 60) + ",2" + value;
+        odd += std::to_string(i * 60 + 30) + ",6" + value;
     }
-    const std::string shot = folder.Path("out.png");
-    const MonitorRun run =
-        RunMonitor({folder.Write("even.csv", even), folder.Write("odd.csv", odd), "--shot", shot});
-    ASSERT_TRUE(run.ended);
-    EXPECT_EQ(run.status, 0u) << run.error;
-    const Picture picture = ReadPicture(shot);
+    const Picture picture = Shot({m_folder.Write("even.csv", even), m_folder.Write("odd.csv", odd)});
     EXPECT_GT(picture.Count(ColorOf(0)), 600);
     EXPECT_GT(picture.Count(ColorOf(1)), 600);
 }
 
-TEST(MonitorPicture, WrongRowsAreToldAndTheRestIsShown) {
-    const TempFolder folder;
+TEST_F(MonitorPicture, WrongRowsAreToldAndTheRestIsShown) {
     const std::string recording =
-        folder.Write("bad.csv", Csv(50, 1, [](int row, int) { return row * 1.5; }) + "no time,1\n");
-    const std::string shot = folder.Path("out.png");
-    const MonitorRun run = RunMonitor({recording, "--shot", shot});
-    ASSERT_TRUE(run.ended);
-    EXPECT_EQ(run.status, 1u);
-    EXPECT_NE(run.error.find(recording + ":52:1: "), std::string::npos) << run.error;
-    EXPECT_GT(ReadPicture(shot).Count(ColorOf(0)), 50);
+        m_folder.Write("bad.csv", Csv(50, 1, [](int row, int) { return row * 1.5; }) + "no time,1\n");
+    EXPECT_GT(Shot({recording}, 1).Count(ColorOf(0)), 50);
+    EXPECT_NE(m_run.error.find(recording + ":52:1: "), std::string::npos) << m_run.error;
 }
 
-TEST(MonitorPicture, NothingToShowEndsWith2) {
-    const TempFolder folder;
-    const std::string shot = folder.Path("out.png");
-    const MonitorRun run = RunMonitor({folder.Path("none.csv"), "--shot", shot});
-    ASSERT_TRUE(run.ended);
-    EXPECT_EQ(run.status, 2u);
-    EXPECT_NE(run.error.find("none.csv"), std::string::npos) << run.error;
-    EXPECT_GT(ReadPicture(shot).width, 0) << "the window told it, so there is a picture of it";
+TEST_F(MonitorPicture, WhatCannotBeShownOrWrittenEndsWith2) {
+    EXPECT_GT(Shot({m_folder.Path("none.csv")}, 2).width, 0) << "the window told it: a picture of that";
+    EXPECT_NE(m_run.error.find("none.csv"), std::string::npos) << m_run.error;
+    const std::string recording = m_folder.Write("a.csv", "time,a\n0,1\n60,2\n");
+    m_run = RunMonitor({recording, "--shot", m_folder.Path("no such folder\\out.png")});
+    EXPECT_EQ(m_run.status, 2u);
+    EXPECT_NE(m_run.error.find("no such folder"), std::string::npos) << m_run.error;
 }
 
-TEST(MonitorPicture, AFileThatCannotBeWrittenEndsWith2) {
-    const TempFolder folder;
-    const std::string recording =
-        folder.Write("a.csv", "time,a\n2020-01-01 00:00:00,1\n2020-01-01 00:01:00,2\n");
-    const MonitorRun run = RunMonitor({recording, "--shot", folder.Path("no such folder\\out.png")});
-    ASSERT_TRUE(run.ended);
-    EXPECT_EQ(run.status, 2u);
-    EXPECT_NE(run.error.find("no such folder"), std::string::npos) << run.error;
-}
-
-TEST(MonitorPicture, LiveReadingsRunAsLongAsAsked) {
-    const TempFolder folder;
-    const std::string shot = folder.Path("out.png");
-    const MonitorRun run = RunMonitor({"--seconds", "3.5", "--page", "graph", "--shot", shot});
-    ASSERT_TRUE(run.ended);
-    EXPECT_EQ(run.status, 0u) << run.error;
-    const Picture picture = ReadPicture(shot);
+TEST_F(MonitorPicture, LiveReadingsRunAsLongAsAsked) {
+    const Picture picture = Shot({"--seconds", "3.5", "--page", "graph"});
     // The memory's line has three readings: it covers a good part of the axis, and cannot lie at 0.
     EXPECT_GT(picture.Count(ColorOf(1)), 100);
 
-    ASSERT_EQ(RunMonitor({"--seconds", "1.5", "--shot", shot}).status, 0u);
-    const Picture two = ReadPicture(shot);
+    const Picture two = Shot({"--seconds", "1.5"});
     // A graph for percents over one for rates: each has its legend.
     EXPECT_GT(two.Count(ColorOf(0)), 0);
-    EXPECT_LT(two.TopOf(ColorOf(0)), two.height / 2);
-    EXPECT_GT(two.TopOf(ColorOf(2)), two.height / 2);
+    EXPECT_LT(two.Where(ColorOf(0)).top, two.height / 2);
+    EXPECT_GT(two.Where(ColorOf(2)).top, two.height / 2);
 }
 
 } // namespace

@@ -112,9 +112,8 @@ TEST_F(PiePage, LiveMemoryIsAWholeUnderItsHeadingAndKeepsTheSelection) {
     EXPECT_FALSE(square.IsRectEmpty());
     Press(VK_RIGHT);
     EXPECT_EQ(Text().substr(0, 16), "Kavlix Monitor: ");
-    constexpr WPARAM liveTimer = 1;
     for (int i = 0; i < 3; ++i) {
-        m_frame->SendMessage(WM_TIMER, liveTimer);
+        Tick();
         double whole = 0;
         for (int k = 0; k < Inside::Pieces(Pie()).GetSize(); ++k)
             whole += static_cast<CPieChartPiece*>(Inside::Pieces(Pie())[k])->m_dValue;
@@ -145,9 +144,7 @@ TEST_F(PiePage, SelectionStaysOnItsPieceWhileThereAreAsMany) {
 
 TEST_F(PiePage, CopyIsAPictureOfHeadingAndPie) {
     OpenSales();
-    ASSERT_TRUE(::OpenClipboard(nullptr));
-    ::EmptyClipboard();
-    ::CloseClipboard();
+    ClearClipboard();
     Command(ID_EDIT_COPY);
     EXPECT_EQ(Text().substr(0, 6), "Copied");
     ASSERT_TRUE(::OpenClipboard(nullptr));

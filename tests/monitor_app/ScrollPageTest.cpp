@@ -1,17 +1,13 @@
 // The page with two graphs over time: what moves together, what stays, and what is said.
 
 #include "monitor/ScrollPage.h"
-#include "monitor/MainFrame.h"
-#include "monitor/resource.h"
-#include "tests/monitor_app/MonitorProcess.h"
+#include "tests/monitor_app/FrameWithPage.h"
 #include "tests/support/ImportHook.h"
 #include "tests/support/MessageBoxWatcher.h"
 
 #include <kavlix/Kavlix.h>
 
 #include <afxres.h>
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <cwchar>
@@ -457,47 +453,27 @@ TEST_F(ScrollPage, RemovingBeforeTheMarkReachesBothGraphsAndTheHost) {
     EXPECT_EQ(m_graph[1]->ValueOf(0, 380), 500'000);
 }
 
-class Frame : public monitor::CMainFrame {
-public:
-    using CMainFrame::CMainFrame;
-};
+class Pages : public FrameWithPage {};
 
-TEST(Pages, OpenOnTheirDefaultAndOnWhatIsAskedFor) {
-    const TempFolder folder;
-    const std::string file = folder.Write("a.csv", "time,a,b\n1000,1,2\n1060,3,4\n1120,5,6\n");
+TEST_F(Pages, OpenOnTheirDefaultAndOnWhatIsAskedFor) {
+    const std::string file = m_folder.Write("a.csv", "time,a,b\n1000,1,2\n1060,3,4\n1120,5,6\n");
+    const auto onScroll = [this] { return dynamic_cast<CScrollPage*>(&m_frame->Page()) != nullptr; };
     for (const bool live : {true, false}) {
-        for (const int asked : {-1, 0, 1}) {
-            recording::Options options;
-            if (!live)
-                options.files = {file};
-            if (asked >= 0)
-                options.page = static_cast<std::size_t>(asked);
-            int status = 0;
-            auto* const frame = new Frame(options, status);
-            ASSERT_TRUE(frame->CreateMainWindow());
-            frame->ShowWindow(SW_SHOWNOACTIVATE);
-            frame->Start();
-            while (frame->WorkInIdle())
-                ;
-            const auto onScroll = [frame] { return dynamic_cast<CScrollPage*>(&frame->Page()) != nullptr; };
-            EXPECT_EQ(onScroll(), asked == 1 || (asked < 0 && live)) << live << asked;
-            frame->SendMessage(WM_COMMAND, ID_PAGE_SCROLL);
-            while (frame->WorkInIdle())
-                ;
-            EXPECT_TRUE(onScroll());
-            auto* const graph = dynamic_cast<CMonitorScrollGraph*>(frame->Page().GetDlgItem(IDC_UPPER_GRAPH));
-            ASSERT_NE(graph, nullptr);
-            if (!live) {
-                EXPECT_EQ(graph->Rows(), 3);
-            }
-            frame->SendMessage(WM_COMMAND, ID_SCROLL_RANGE_1_HOUR);
-            EXPECT_EQ(Inside::Width(*graph), 3600 * kX);
-            frame->SendMessage(WM_COMMAND, ID_PAGE_GRAPH);
+        for (const std::string asked : {"", "graph", "scroll"}) {
+            Open(asked, live ? std::vector<std::string>() : std::vector{file});
+            EXPECT_EQ(onScroll(), asked == "scroll" || (asked.empty() && live)) << live << asked;
+            Command(ID_PAGE_SCROLL);
+            WorkOff();
+            ASSERT_TRUE(onScroll());
+            auto& graph = ControlOf<CMonitorScrollGraph>(IDC_UPPER_GRAPH);
+            EXPECT_TRUE(live || graph.Rows() == 3) << graph.Rows();
+            Command(ID_SCROLL_RANGE_1_HOUR);
+            EXPECT_EQ(Inside::Width(graph), 3600 * kX);
+            Command(ID_PAGE_GRAPH);
             EXPECT_FALSE(onScroll());
-            EXPECT_FALSE(graph->IsWindowVisible());
-            frame->SendMessage(WM_COMMAND, ID_SCROLL_RANGE_1_MINUTE);
-            EXPECT_EQ(Inside::Width(*graph), 3600 * kX) << "a hidden page gets no commands";
-            frame->DestroyWindow();
+            EXPECT_FALSE(graph.IsWindowVisible());
+            Command(ID_SCROLL_RANGE_1_MINUTE);
+            EXPECT_EQ(Inside::Width(graph), 3600 * kX) << "a hidden page gets no commands";
         }
     }
 }

@@ -1,6 +1,7 @@
 // The Settings dialog: every control changes the preview at once, and what the caller takes.
 
 #include "monitor/SettingsDlg.h"
+#include "tests/monitor_app/MadeRecordings.h"
 
 #include <gtest/gtest.h>
 
@@ -11,31 +12,16 @@ namespace kavlix::test {
 namespace {
 
 using monitor::CSettingsDlg;
-using monitor::DefaultSettings;
 using monitor::GraphSettings;
 using monitor::GraphSource;
 
-GraphSource Waves(std::size_t series, std::size_t samples = 100) {
-    auto recording = std::make_shared<recording::Recording>();
-    for (std::size_t i = 0; i < samples; ++i)
-        recording->times.push_back(static_cast<recording::Time>(i) * recording::kMicrosPerMinute);
-    for (std::size_t s = 0; s < series; ++s) {
-        recording->series.push_back({"series " + std::to_string(s), 0, {}});
-        for (std::size_t i = 0; i < samples; ++i)
-            recording->series[s].values.push_back(std::sin(static_cast<double>(i) / 10) *
-                                                  static_cast<double>(s + 1));
-    }
-    GraphSource source;
-    source.recording = std::move(recording);
-    return source;
-}
-
-GraphSettings SettingsOf(const GraphSource& source,
-                         CGraphCtrl::GraphStyle style = CGraphCtrl::GraphStyleLine) {
+GraphSource Waves(std::size_t series) {
     std::vector<std::string> names;
-    for (const auto& series : source.recording->series)
-        names.push_back(series.name);
-    return DefaultSettings("Waves", names, source.recording->times.size(), style);
+    for (std::size_t i = 0; i < series; ++i)
+        names.push_back("series " + std::to_string(i));
+    return MakeSource(100, names, [](std::size_t sample, std::size_t of) {
+        return std::sin(static_cast<double>(sample) / 10) * static_cast<double>(of + 1);
+    });
 }
 
 /// The dialog, open without a modal loop.
@@ -74,7 +60,7 @@ TEST_F(SettingsDlg, OpensWithTheSettingsItWasGivenAndChangesNothing) {
     EXPECT_TRUE(Now() == SettingsOf(Waves(3), CGraphCtrl::GraphStyleTwoAxis));
     CString title;
     m_dialog->GetDlgItemText(IDC_TITLE, title);
-    EXPECT_STREQ(title, "Waves");
+    EXPECT_STREQ(title, "Title");
     EXPECT_EQ(Chosen(IDC_STYLE), 2);
     EXPECT_EQ(Chosen(IDC_SERIES), 0);
     EXPECT_EQ(m_dialog->Preview().GetDatasetSize(2), 100) << "the preview shows the recording";

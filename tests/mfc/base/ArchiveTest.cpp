@@ -6,9 +6,11 @@
 #include <climits>
 #include <memory>
 #include <string>
+#include <tuple>
+#include <type_traits>
 #include <vector>
 
-#include "tests/mfc/base/Refusal.h"
+#include "tests/mfc/Refusal.h"
 
 // What is stored through CArchive and loaded again.
 
@@ -85,52 +87,24 @@ private:
 };
 
 TEST(Archive, BasicTypesComeBackAtTheirLimits) {
-    for (const int bufferSize : {0, 128, 131, 4096}) {
+    const auto values = std::make_tuple(
+        true, 'c', BYTE{255}, SHRT_MIN, WORD{65535}, INT_MIN, UINT_MAX, LONG_MIN, DWORD{ULONG_MAX}, LLONG_MIN,
+        ULLONG_MAX, FLT_MIN, DBL_MAX, L'\x20AC', static_cast<short>(SHRT_MIN), CPoint(-1, 2),
+        CSize(3, INT_MIN), CRect(1, 2, 3, 4), CTime(9999999999LL), CTimeSpan(-5), CString("text"));
+    for (const int bufferSize : {0, 128, 131, 4096})
         RoundTrip(
-            [](CArchive& ar) {
+            [&](CArchive& ar) {
                 for (int i = 0; i < 20; ++i)
-                    ar << true << 'c' << BYTE{255} << SHRT_MIN << WORD{65535} << INT_MIN << UINT_MAX
-                       << LONG_MIN << DWORD{ULONG_MAX} << LLONG_MIN << ULLONG_MAX << FLT_MIN << DBL_MAX
-                       << L'\x20AC' << static_cast<short>(SHRT_MIN) << CPoint(-1, 2) << CSize(3, INT_MIN)
-                       << CRect(1, 2, 3, 4) << CTime(9999999999LL) << CTimeSpan(-5) << CString("text");
+                    std::apply([&](const auto&... value) { (ar << ... << value); }, values);
             },
-            [](CArchive& ar) {
+            [&](CArchive& ar) {
                 for (int i = 0; i < 20; ++i) {
-                    bool b = false;
-                    char c = 0;
-                    BYTE byte = 0;
-                    int promoted = 0;
-                    WORD w = 0;
-                    int n = 0;
-                    unsigned u = 0;
-                    LONG l = 0;
-                    DWORD d = 0;
-                    LONGLONG ll = 0;
-                    ULONGLONG ull = 0;
-                    float f = 0;
-                    double g = 0;
-                    wchar_t wide = 0;
-                    short s = 0;
-                    CPoint point;
-                    CSize size;
-                    CRect rect;
-                    CTime time;
-                    CTimeSpan span;
-                    CString text;
-                    ar >> b >> c >> byte >> promoted >> w >> n >> u >> l >> d >> ll >> ull >> f >> g >>
-                        wide >> s >> point >> size >> rect >> time >> span >> text;
-                    EXPECT_TRUE(b && c == 'c' && byte == 255 && promoted == SHRT_MIN && w == 65535 &&
-                                n == INT_MIN);
-                    EXPECT_TRUE(u == UINT_MAX && l == LONG_MIN && d == ULONG_MAX && ll == LLONG_MIN);
-                    EXPECT_TRUE(ull == ULLONG_MAX && f == FLT_MIN && g == DBL_MAX && wide == L'\x20AC');
-                    EXPECT_TRUE(s == SHRT_MIN && point == CPoint(-1, 2) && size == CSize(3, INT_MIN));
-                    EXPECT_TRUE(rect == CRect(1, 2, 3, 4) && time == CTime(9999999999LL) &&
-                                span == CTimeSpan(-5));
-                    EXPECT_TRUE(text == "text");
+                    std::remove_const_t<decltype(values)> loaded;
+                    std::apply([&](auto&... value) { (ar >> ... >> value); }, loaded);
+                    EXPECT_EQ(values, loaded);
                 }
             },
             bufferSize);
-    }
 }
 
 TEST(Archive, TextsOfEveryLengthClassComeBack) {
@@ -199,33 +173,25 @@ TEST(Archive, CollectionsComeBackWhole) {
     objects.Add(&shared);
     objects.Add(nullptr);
     objects.Add(&shared);
-    RoundTrip(
-        [&](CArchive& ar) {
-            numbers.Serialize(ar);
-            list.Serialize(ar);
-            map.Serialize(ar);
-            objects.Serialize(ar);
-        },
-        [&](CArchive& ar) {
-            CArray<double, double> loadedNumbers;
-            CList<CString, const CString&> loadedList;
-            CMap<int, int, CString, LPCTSTR> loadedMap;
-            CObArray loadedObjects;
-            loadedNumbers.Serialize(ar);
-            loadedList.Serialize(ar);
-            loadedMap.Serialize(ar);
-            loadedObjects.Serialize(ar);
-            ASSERT_EQ(70000, loadedNumbers.GetSize());
-            EXPECT_EQ(numbers[69999], loadedNumbers[69999]);
-            EXPECT_STREQ("one", loadedList.GetHead());
-            EXPECT_STREQ("two", loadedList.GetTail());
-            EXPECT_EQ(2, loadedMap.GetCount());
-            EXPECT_STREQ("two", loadedMap[-2]);
-            ASSERT_EQ(3, loadedObjects.GetSize());
-            EXPECT_EQ(loadedObjects[0], loadedObjects[2]);
-            EXPECT_EQ(nullptr, loadedObjects[1]);
-            delete loadedObjects[0];
-        });
+    const auto serialize = [](CArchive& ar, auto&... collections) { (collections.Serialize(ar), ...); };
+    RoundTrip([&](CArchive& ar) { serialize(ar, numbers, list, map, objects); },
+              [&](CArchive& ar) {
+                  CArray<double, double> loadedNumbers;
+                  CList<CString, const CString&> loadedList;
+                  CMap<int, int, CString, LPCTSTR> loadedMap;
+                  CObArray loadedObjects;
+                  serialize(ar, loadedNumbers, loadedList, loadedMap, loadedObjects);
+                  ASSERT_EQ(70000, loadedNumbers.GetSize());
+                  EXPECT_EQ(numbers[69999], loadedNumbers[69999]);
+                  EXPECT_STREQ("one", loadedList.GetHead());
+                  EXPECT_STREQ("two", loadedList.GetTail());
+                  EXPECT_EQ(2, loadedMap.GetCount());
+                  EXPECT_STREQ("two", loadedMap[-2]);
+                  ASSERT_EQ(3, loadedObjects.GetSize());
+                  EXPECT_EQ(loadedObjects[0], loadedObjects[2]);
+                  EXPECT_EQ(nullptr, loadedObjects[1]);
+                  delete loadedObjects[0];
+              });
     CMemFile file;
     CArchive out(&file, CArchive::store);
     EXPECT_TRUE(Throws<CNotSupportedException>([&] { CPtrArray().Serialize(out); }));
@@ -251,8 +217,7 @@ TEST(Archive, ManyObjectsNeedLongTags) {
             Node* last = nullptr;
             UINT schema = 0;
             ar >> first >> last >> schema;
-            EXPECT_EQ(loaded.front().get(), first);
-            EXPECT_EQ(loaded.back().get(), last);
+            EXPECT_EQ(std::tuple(loaded.front().get(), loaded.back().get()), std::tuple(first, last));
         });
 }
 
@@ -362,12 +327,10 @@ TEST(Archive, LinesEndWhereTheyEnd) {
     EXPECT_EQ((std::vector<std::string>{"one", "", "two words", "last"}), lines);
     Bytes more("abcdef\ng\n"s);
     char text[5] = "####";
-    EXPECT_EQ(text, more.Archive().ReadString(text, 4));
-    EXPECT_STREQ("abcd", text);
-    EXPECT_EQ(text, more.Archive().ReadString(text, 4));
-    EXPECT_STREQ("ef", text);
-    EXPECT_EQ(text, more.Archive().ReadString(text, 4));
-    EXPECT_STREQ("g", text);
+    for (const char* const expected : {"abcd", "ef", "g"}) {
+        EXPECT_EQ(text, more.Archive().ReadString(text, 4));
+        EXPECT_STREQ(expected, text);
+    }
     EXPECT_EQ(nullptr, more.Archive().ReadString(text, 4));
 }
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/mfc/base/Refusal.h"
+#include "tests/mfc/Refusal.h"
 #include "tests/support/AllocationGuard.h"
 
 // CArray and the arrays made of it.
@@ -70,25 +70,21 @@ public:
 };
 
 TEST(Array, GrowsByAnEighthBetweenFourAnd1024OrAsTold) {
-    const auto growthAt = [](INT_PTR size, INT_PTR growBy) {
+    const struct {
+        INT_PTR size, growBy, growth;
+    } cases[] = {{1, -1, 4},       {39, 0, 4},         {40, -1, 5},  {1000, -1, 125},
+                 {8192, -1, 1024}, {100000, -1, 1024}, {1000, 7, 7}, {1000, 1, 1}};
+    for (const auto& c : cases) {
         CArray<double, double> array;
-        array.SetSize(size, growBy);
+        array.SetSize(c.size, c.growBy);
         array.FreeExtra();
         array.Add(1.0);
         const double* const block = array.GetData();
         INT_PTR added = 1;
         while (array.Add(1.0), array.GetData() == block)
             ++added;
-        return added;
-    };
-    EXPECT_EQ(4, growthAt(1, -1));
-    EXPECT_EQ(4, growthAt(39, 0));
-    EXPECT_EQ(5, growthAt(40, -1));
-    EXPECT_EQ(125, growthAt(1000, -1));
-    EXPECT_EQ(1024, growthAt(8192, -1));
-    EXPECT_EQ(1024, growthAt(100000, -1));
-    EXPECT_EQ(7, growthAt(1000, 7));
-    EXPECT_EQ(1, growthAt(1000, 1));
+        EXPECT_EQ(c.growth, added) << c.size << " growing by " << c.growBy;
+    }
 }
 
 TEST(Array, NewElementsAreZeroAlsoInMemoryUsedBefore) {
@@ -101,10 +97,8 @@ TEST(Array, NewElementsAreZeroAlsoInMemoryUsedBefore) {
     for (INT_PTR i = 10; i < 60; ++i)
         ASSERT_EQ(0u, array[i]);
     array.SetAtGrow(80, 9);
-    EXPECT_EQ(81, array.GetSize());
-    EXPECT_EQ(0u, array[79]);
-    EXPECT_EQ(9u, array[80]);
     EXPECT_EQ(80, array.GetUpperBound());
+    EXPECT_EQ(std::pair(0u, 9u), std::pair(array[79], array[80]));
 }
 
 TEST(Array, SizeZeroFreesAndRemoveAtDoesNot) {
@@ -133,8 +127,12 @@ TEST(Array, ActsLikeAVectorUnderRandomCalls) {
     {
         CArray<Tracked> array;
         std::vector<int> model;
+        const auto reach = [&](INT_PTR size) { model.resize(std::max<std::size_t>(model.size(), size)); };
         for (int step = 0; step < 3000; ++step) {
             const INT_PTR size = array.GetSize();
+            const INT_PTR in = size > 0 ? upTo(size - 1) : 0; // an element, where there is one
+            const INT_PTR at = upTo(size + 3);
+            const INT_PTR count = upTo(5);
             const int value = step + 1;
             switch (random() % 9) {
             case 0:
@@ -142,46 +140,35 @@ TEST(Array, ActsLikeAVectorUnderRandomCalls) {
                 EXPECT_EQ(size, array.Add(value));
                 model.push_back(value);
                 break;
-            case 2: {
-                const INT_PTR at = upTo(size + 3);
-                const INT_PTR count = 1 + upTo(4);
-                array.InsertAt(at, value, count);
-                if (at > size)
-                    model.resize(static_cast<std::size_t>(at));
-                model.insert(model.begin() + at, static_cast<std::size_t>(count), value);
+            case 2:
+                array.InsertAt(at, value, count + 1);
+                reach(at);
+                model.insert(model.begin() + at, static_cast<std::size_t>(count + 1), value);
                 break;
-            }
             case 3:
                 if (size > 0) {
-                    const INT_PTR at = upTo(size - 1);
-                    const INT_PTR count = upTo(std::min<INT_PTR>(size - at, 6));
-                    array.RemoveAt(at, count);
-                    model.erase(model.begin() + at, model.begin() + at + count);
+                    const INT_PTR removed = std::min(count, size - in);
+                    array.RemoveAt(in, removed);
+                    model.erase(model.begin() + in, model.begin() + in + removed);
                 }
                 break;
-            case 4: {
-                const INT_PTR newSize = upTo(size + 5);
-                array.SetSize(newSize, upTo(3) - 1);
-                model.resize(static_cast<std::size_t>(newSize));
+            case 4:
+                array.SetSize(at, count - 1);
+                model.resize(static_cast<std::size_t>(at));
                 break;
-            }
-            case 5: {
-                const INT_PTR at = upTo(size + 2);
+            case 5:
                 array.SetAtGrow(at, value);
-                if (at >= size)
-                    model.resize(static_cast<std::size_t>(at + 1));
-                model[static_cast<std::size_t>(at)] = value;
+                reach(at + 1);
+                *(model.begin() + at) = value;
                 break;
-            }
             case 6:
                 if (size > 0) { // an element of the array itself as the argument
-                    const INT_PTR from = upTo(size - 1);
-                    const INT_PTR at = upTo(size);
-                    const int copy = model[static_cast<std::size_t>(from)];
-                    array.InsertAt(at, array[from], 2);
+                    const int copy = *(model.begin() + in);
+                    array.InsertAt(at, array[in], 2);
+                    reach(at);
                     model.insert(model.begin() + at, 2, copy);
-                    array.Add(array[from]);
-                    model.push_back(model[static_cast<std::size_t>(from)]);
+                    array.Add(array[in]);
+                    model.push_back(*(model.begin() + in));
                 }
                 break;
             case 7:
@@ -219,47 +206,36 @@ TEST(Array, StaysAsItWasWhenMemoryRunsOut) {
         {"InsertAt array", [&](CArray<Tracked>& array) { array.InsertAt(1, &source); }},
         {"Append", [&](CArray<Tracked>& array) { array.Append(source); }},
     };
-    for (const Change& change : changes) {
-        SCOPED_TRACE(change.name);
-        CArray<Tracked> array;
-        for (int i = 1; i <= 10; ++i)
-            array.Add(i);
-        array.FreeExtra();
-        const std::vector<int> before = Values(array);
-        const int alive = Tracked::alive;
-        int failures = 0;
-        for (int n = 1;; ++n) {
-            testkit::AllocationGuard guard;
-            guard.FailAt(n);
-            const bool thrown = Throws<CMemoryException>([&] { change.apply(array); });
-            ASSERT_EQ(guard.Failed(), thrown);
-            if (!thrown)
-                break;
-            ++failures;
-            ASSERT_EQ(before, Values(array));
-            ASSERT_EQ(alive, Tracked::alive);
-        }
-        EXPECT_GT(failures, 0);
-        EXPECT_NE(before, Values(array));
-
-        // The same with an element that fails to be copied.
-        CArray<Tracked> copied;
-        copied.Copy(array);
-        copied.FreeExtra();
-        const std::vector<int> unharmed = Values(copied);
-        const int stillAlive = Tracked::alive;
-        for (int n = 1;; ++n) {
-            Tracked::throwAt = n;
-            try {
-                change.apply(copied);
-                break;
-            } catch (const std::string&) {
-                ASSERT_EQ(unharmed, Values(copied)) << "copy " << n;
-                ASSERT_EQ(stillAlive, Tracked::alive);
+    for (const Change& change : changes)
+        for (const bool copying : {false, true}) { // no memory, or an element that fails to be copied
+            SCOPED_TRACE(std::string(change.name) + (copying ? ", copying" : ""));
+            CArray<Tracked> array;
+            for (int i = 1; i <= 10; ++i)
+                array.Add(i);
+            array.FreeExtra();
+            const std::vector<int> before = Values(array);
+            const int alive = Tracked::alive;
+            int failures = 0;
+            for (bool failed = true; failed; failures += failed) {
+                testkit::AllocationGuard guard;
+                guard.FailAt(copying ? 0 : failures + 1);
+                Tracked::throwAt = copying ? failures + 1 : 0;
+                failed = false;
+                try {
+                    failed = Throws<CMemoryException>([&] { change.apply(array); });
+                    ASSERT_EQ(guard.Failed(), failed);
+                } catch (const std::string&) {
+                    failed = true;
+                }
+                if (failed) {
+                    ASSERT_EQ(before, Values(array)) << failures;
+                    ASSERT_EQ(alive, Tracked::alive) << failures;
+                }
             }
+            Tracked::throwAt = 0;
+            EXPECT_GT(failures, 0);
+            EXPECT_NE(before, Values(array));
         }
-        Tracked::throwAt = 0;
-    }
 }
 
 TEST(Array, SizesWithoutARepresentationAreOutOfMemory) {
@@ -294,10 +270,9 @@ TEST(Array, HoldsClassesThatCanOnlyBeAssigned) {
     record.number = 99;
     array.InsertAt(10, record, 2);
     array.RemoveAt(0, 5);
-    EXPECT_EQ(47, array.GetSize());
-    EXPECT_EQ(5, array[0].number);
-    EXPECT_EQ(99, array[6].number);
-    EXPECT_EQ(49, array[46].number);
+    ASSERT_EQ(47, array.GetSize());
+    EXPECT_EQ((std::vector<int>{5, 99, 49}),
+              (std::vector<int>{array[0].number, array[6].number, array[46].number}));
 }
 
 TEST(Array, ReadyMadeArraysKeepTheirTypes) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/mfc/base/Refusal.h"
+#include "tests/mfc/Refusal.h"
 #include "tests/support/AllocationGuard.h"
 
 // Lists and maps.
@@ -20,17 +20,15 @@ struct Key {
     bool operator==(const Key& other) const { return number == other.number; }
 };
 
+/// The texts one behind the other; both ways through the list must meet the same.
 std::string Join(CStringList& list) {
     std::string joined;
     for (POSITION position = list.GetHeadPosition(); position != nullptr;)
         joined += list.GetNext(position).GetString();
-    return joined;
-}
-
-std::string JoinBackwards(const CStringList& list) {
-    std::string joined;
+    std::string backwards;
     for (POSITION position = list.GetTailPosition(); position != nullptr;)
-        joined += list.GetPrev(position).GetString();
+        backwards = list.GetPrev(position).GetString() + backwards;
+    EXPECT_EQ(joined, backwards);
     return joined;
 }
 
@@ -52,7 +50,6 @@ TEST(List, PositionsSurviveChangesElsewhere) {
     list.InsertAfter(nullptr, "e");
     list.InsertBefore(nullptr, "0");
     EXPECT_EQ("0abcde", Join(list));
-    EXPECT_EQ("edcba0", JoinBackwards(list));
     list.RemoveAt(list.FindIndex(3));
     EXPECT_STREQ("b", list.GetAt(b));
     list.SetAt(d, "D");
@@ -61,7 +58,6 @@ TEST(List, PositionsSurviveChangesElsewhere) {
     EXPECT_STREQ("0", list.RemoveHead());
     EXPECT_STREQ("e", list.RemoveTail());
     EXPECT_EQ("aD", Join(list));
-    EXPECT_EQ("Da", JoinBackwards(list));
     EXPECT_EQ(2, list.GetCount());
 
     CStringList more;
@@ -74,7 +70,6 @@ TEST(List, PositionsSurviveChangesElsewhere) {
     EXPECT_TRUE(list.IsEmpty());
     list.AddHead(&more);
     EXPECT_EQ("12", Join(list)) << "into an empty list";
-    EXPECT_EQ("21", JoinBackwards(list));
 }
 
 TEST(List, FindsBehindAPosition) {

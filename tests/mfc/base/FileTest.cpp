@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "tests/mfc/base/Refusal.h"
+#include "tests/mfc/Refusal.h"
 
 // CFile, CStdioFile and CMemFile.
 
@@ -63,9 +63,8 @@ TEST_F(File, ReadsWritesAndMovesItsPosition) {
     file.SetLength(4);
     EXPECT_EQ(4u, file.GetLength());
     EXPECT_EQ(4u, file.GetPosition());
-    EXPECT_STREQ("data.bin", file.GetFileName());
-    EXPECT_STREQ("data", file.GetFileTitle());
-    EXPECT_TRUE(file.GetFilePath() == Path("data.bin"));
+    EXPECT_STREQ("data.bin|data|" + Path("data.bin"),
+                 file.GetFileName() + "|" + file.GetFileTitle() + "|" + file.GetFilePath());
     const std::unique_ptr<CFile> second(file.Duplicate());
     file.Close();
     EXPECT_EQ(CFile::hFileNull, file.m_hFile);
@@ -96,9 +95,7 @@ TEST_F(File, FailuresTellCauseNumberAndName) {
     EXPECT_TRUE(error.m_strFileName == missing);
     EXPECT_EQ(CFile::hFileNull, file.m_hFile);
     EXPECT_FALSE(file.Open(missing, CFile::modeRead)) << "nobody to tell";
-    EXPECT_EQ(CFileException::badPath, CauseOf<CFileException>([&] {
-                  CFile inside(Path("no folder\\x"), CFile::modeCreate | CFile::modeWrite);
-              }));
+    EXPECT_EQ(CFileException::badPath, CauseOf<CFileException>([&] { Make("no folder\\x", ""); }));
     EXPECT_EQ(CFileException::fileNotFound, CauseOf<CFileException>([&] { CFile::Remove(missing); }));
     EXPECT_EQ(CFileException::fileNotFound,
               CauseOf<CFileException>([&] { CFile::Rename(missing, Path("x")); }));
@@ -161,12 +158,10 @@ TEST_F(File, TextFilesHaveOneLineEndInMemory) {
     EXPECT_EQ("first\r\n\r\n" + std::string(2000, 'x') + "\r\nno end", Content("t.txt"));
     CStdioFile file(Path("t.txt"), CFile::modeRead);
     CString line;
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_STREQ("first", line);
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_STREQ("", line);
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(2000, line.GetLength());
+    for (const CString& expected : {CString("first"), CString(), CString('x', 2000)}) {
+        EXPECT_TRUE(file.ReadString(line));
+        EXPECT_TRUE(line == expected) << line;
+    }
     char piece[5];
     EXPECT_EQ(piece, file.ReadString(piece, 5));
     EXPECT_STREQ("no e", piece);

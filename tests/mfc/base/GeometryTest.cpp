@@ -39,9 +39,7 @@ TEST(Rect, ChangesThroughItsCornersAreSeen) {
     EXPECT_TRUE(rect == CRect(5, 2, 31, 41));
     rect.left = 6;
     EXPECT_EQ(6, rect.TopLeft().x);
-    EXPECT_EQ(25, rect.Width());
-    EXPECT_EQ(39, rect.Height());
-    EXPECT_TRUE(rect.Size() == CSize(25, 39));
+    EXPECT_TRUE(rect.Size() == CSize(25, 39) && CSize(rect.Width(), rect.Height()) == CSize(25, 39));
 }
 
 TEST(Rect, CenterNeitherOverflowsNorRoundsAway) {
@@ -64,11 +62,10 @@ TEST(Rect, CoordinatesAtTheEndOfTheirRangeWrap) {
 
 TEST(Rect, ContainsItsLeftAndTopSideOnly) {
     const CRect rect(10, 10, 20, 20);
-    EXPECT_TRUE(rect.PtInRect(CPoint(10, 10)));
-    EXPECT_TRUE(rect.PtInRect(CPoint(19, 19)));
-    EXPECT_FALSE(rect.PtInRect(CPoint(20, 15)));
-    EXPECT_FALSE(rect.PtInRect(CPoint(15, 20)));
-    EXPECT_FALSE(rect.PtInRect(CPoint(9, 15)));
+    for (const CPoint inside : {CPoint(10, 10), CPoint(19, 19)})
+        EXPECT_TRUE(rect.PtInRect(inside)) << inside.x;
+    for (const CPoint outside : {CPoint(20, 15), CPoint(15, 20), CPoint(9, 15)})
+        EXPECT_FALSE(rect.PtInRect(outside)) << outside.x;
     EXPECT_TRUE(CRect(5, 5, 5, 9).IsRectEmpty());
     EXPECT_TRUE(CRect(9, 5, 5, 9).IsRectEmpty());
     EXPECT_FALSE(CRect(5, 5, 5, 9).IsRectNull());

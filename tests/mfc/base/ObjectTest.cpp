@@ -5,8 +5,6 @@
 #include <memory>
 #include <string>
 
-#include "tests/mfc/base/Refusal.h"
-
 // Run-time class information and diagnostics.
 
 namespace {

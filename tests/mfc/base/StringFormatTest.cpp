@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "tests/mfc/Refusal.h"
 #include "tests/mfc/base/BaseTestIds.h"
-#include "tests/mfc/base/Refusal.h"
 
 // CString's formats and resources.
 

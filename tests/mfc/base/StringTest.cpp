@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "tests/mfc/base/Refusal.h"
+#include "tests/mfc/Refusal.h"
 
 // CString but for its formats.
 
@@ -128,12 +128,14 @@ TEST(String, PartsAreCutToTheString) {
         EXPECT_TEXT(c.expected, text.Mid(c.first, c.count)) << c.first << ", " << c.count;
     EXPECT_TEXT("def", text.Mid(3));
     EXPECT_TEXT("", text.Mid(INT_MAX));
-    EXPECT_TEXT("ab", text.Left(2));
-    EXPECT_TEXT("abcdef", text.Left(100));
-    EXPECT_TEXT("", text.Left(-1));
-    EXPECT_TEXT("ef", text.Right(2));
-    EXPECT_TEXT("abcdef", text.Right(100));
-    EXPECT_TEXT("", text.Right(-1));
+    const struct {
+        int count;
+        const char *left, *right;
+    } ends[] = {{2, "ab", "ef"}, {100, "abcdef", "abcdef"}, {-1, "", ""}};
+    for (const auto& end : ends) {
+        EXPECT_TEXT(end.left, text.Left(end.count));
+        EXPECT_TEXT(end.right, text.Right(end.count));
+    }
     EXPECT_TEXT("ab", text.SpanIncluding("ba"));
     EXPECT_TEXT("", text.SpanIncluding("c"));
     EXPECT_TEXT("abcdef", text.SpanIncluding("fedcba"));
@@ -259,14 +261,11 @@ TEST(String, TooLongForAnIntIsOutOfMemory) {
 
 TEST(String, ExtractsNumberedPieces) {
     CString part;
-    EXPECT_TRUE(AfxExtractSubString(part, "a;;c", 0, ';'));
-    EXPECT_TEXT("a", part);
-    EXPECT_TRUE(AfxExtractSubString(part, "a;;c", 1, ';'));
-    EXPECT_TEXT("", part);
-    EXPECT_TRUE(AfxExtractSubString(part, "a;;c", 2, ';'));
-    EXPECT_TEXT("c", part);
-    EXPECT_FALSE(AfxExtractSubString(part, "a;;c", 3, ';'));
-    EXPECT_TEXT("", part);
+    const char* const pieces[] = {"a", "", "c", ""};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(i < 3, AfxExtractSubString(part, "a;;c", i, ';') != FALSE) << i;
+        EXPECT_TEXT(pieces[i], part) << i;
+    }
     EXPECT_TRUE(AfxExtractSubString(part, "first\nsecond", 1));
     EXPECT_TEXT("second", part);
     part = "x\ny";
@@ -278,9 +277,8 @@ TEST(String, ExtractsNumberedPieces) {
 TEST(String, TokenizeSkipsEmptyPieces) {
     const CString text(",one,,two;three");
     int position = 0;
-    EXPECT_TEXT("one", text.Tokenize(",;", position));
-    EXPECT_TEXT("two", text.Tokenize(",;", position));
-    EXPECT_TEXT("three", text.Tokenize(",;", position));
+    for (const char* const piece : {"one", "two", "three"})
+        EXPECT_TEXT(piece, text.Tokenize(",;", position));
     EXPECT_NE(-1, position);
     EXPECT_TEXT("", text.Tokenize(",;", position));
     EXPECT_EQ(-1, position);

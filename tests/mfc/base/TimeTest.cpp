@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/mfc/Refusal.h"
+#include "tests/support/ImportHook.h"
 #include <cstring>
 #include <string>
-
-#include "tests/mfc/base/Refusal.h"
-#include "tests/support/ImportHook.h"
+#include <tuple>
 
 // CTime and CTimeSpan.
 
@@ -23,39 +23,25 @@ std::string Gmt(CTime time) {
     return time.FormatGmt("%Y-%m-%d %H:%M:%S").GetString();
 }
 
-/// The rules of some zones as the system would tell them: `day` is the how many-th Sunday of the month, 5 the
-/// last.
-struct Change {
-    WORD month;
-    WORD day;
-    WORD hour;
-};
+/// The rules of some zones as the system tells them: wDay is the how many-th Sunday of the month, 5 the last.
 struct Zone {
     const char* name;
     LONG bias; // minutes, west positive
     WORD firstYear;
-    Change toStandard;
-    Change toDaylight;
+    SYSTEMTIME toStandard;
+    SYSTEMTIME toDaylight;
 };
 
 const Zone zones[] = {
-    {"America/New_York", 300, 2007, {11, 1, 2}, {3, 2, 2}},
-    {"America/New_York", 300, 0, {10, 5, 2}, {4, 1, 2}},
+    {"America/New_York", 300, 2007, {0, 11, 0, 1, 2, 0, 0, 0}, {0, 3, 0, 2, 2, 0, 0, 0}},
+    {"America/New_York", 300, 0, {0, 10, 0, 5, 2, 0, 0, 0}, {0, 4, 0, 1, 2, 0, 0, 0}},
     {"Asia/Tokyo", -540, 0, {}, {}},
     {"Asia/Kolkata", -330, 0, {}, {}},
-    {"Australia/Sydney", -600, 0, {4, 1, 3}, {10, 1, 2}},
+    {"Australia/Sydney", -600, 0, {0, 4, 0, 1, 3, 0, 0, 0}, {0, 10, 0, 1, 2, 0, 0, 0}},
     {"UTC", 0, 0, {}, {}},
 };
 
 const char* currentZone = nullptr;
-
-SYSTEMTIME AsRule(const Change& change) {
-    SYSTEMTIME rule{};
-    rule.wMonth = change.month;
-    rule.wDay = change.day;
-    rule.wHour = change.hour;
-    return rule;
-}
 
 BOOL WINAPI RulesOfCurrentZone(USHORT year, PDYNAMIC_TIME_ZONE_INFORMATION, LPTIME_ZONE_INFORMATION rules) {
     for (const Zone& zone : zones) {
@@ -64,8 +50,8 @@ BOOL WINAPI RulesOfCurrentZone(USHORT year, PDYNAMIC_TIME_ZONE_INFORMATION, LPTI
         *rules = {};
         rules->Bias = zone.bias;
         rules->DaylightBias = -60;
-        rules->StandardDate = AsRule(zone.toStandard);
-        rules->DaylightDate = AsRule(zone.toDaylight);
+        rules->StandardDate = zone.toStandard;
+        rules->DaylightDate = zone.toDaylight;
         return TRUE;
     }
     return FALSE;
@@ -151,14 +137,13 @@ TEST(Time, FollowsTheZoneOfTheSystem) {
 }
 
 TEST(Time, TellsGmtOfAnyYear) {
-    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime()));
     EXPECT_EQ("1969-12-31 23:59:59", Gmt(CTime(-1)));
     EXPECT_EQ("2000-02-29 00:00:00", Gmt(CTime(951782400)));
     EXPECT_EQ("2038-01-19 03:14:08", Gmt(CTime(2147483648LL)));
     EXPECT_EQ("1601-01-01 00:00:00", Gmt(CTime(-11644473600)));
-    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime(-11644473601))) << "before all dates";
-    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime(INT64_MAX)));
-    EXPECT_EQ("1970-01-01 00:00:00", Gmt(CTime(INT64_MIN)));
+    // The last but one lies before all dates.
+    for (const CTime time : {CTime(), CTime(INT64_MAX), CTime(-11644473601), CTime(INT64_MIN)})
+        EXPECT_EQ("1970-01-01 00:00:00", Gmt(time)) << time.GetTime();
     struct tm record {};
     EXPECT_EQ(&record, CTime(951782400).GetGmtTm(&record));
     EXPECT_EQ(2, record.tm_wday);
@@ -202,16 +187,12 @@ TEST(Time, OtherFormsOfDateAreTakenAndCutToSeconds) {
 TEST(Time, SpansAddAndCompare) {
     const CTimeSpan span(2, 3, 4, 5);
     EXPECT_EQ(2 * day + 3 * hour + 4 * 60 + 5, span.GetTotalSeconds());
-    EXPECT_EQ(2, span.GetDays());
-    EXPECT_EQ(3, span.GetHours());
-    EXPECT_EQ(4, span.GetMinutes());
-    EXPECT_EQ(5, span.GetSeconds());
     EXPECT_EQ(51, span.GetTotalHours());
+    EXPECT_EQ(std::tuple(2, 3, 4, 5),
+              std::tuple(span.GetDays(), span.GetHours(), span.GetMinutes(), span.GetSeconds()));
     EXPECT_STREQ("2 days 03:04:05 100%", span.Format("%D days %H:%M:%S 100%%"));
     const CTimeSpan back = CTimeSpan(0) - span;
-    EXPECT_EQ(-2, back.GetDays());
-    EXPECT_EQ(-3, back.GetHours());
-    EXPECT_EQ(-5, back.GetSeconds());
+    EXPECT_EQ(std::tuple(-2, -3, -5), std::tuple(back.GetDays(), back.GetHours(), back.GetSeconds()));
     const CTime start(1000);
     CTime time = start + span;
     EXPECT_TRUE(time > start && time - start == span && time - span == start && !(time <= start));

@@ -9,6 +9,21 @@
 
 namespace {
 
+/// A dialog of the system's whose user presses `button` as soon as it is there.
+template <class DIALOG> class Quick : public DIALOG {
+public:
+    template <class... ARGUMENTS> explicit Quick(WPARAM button, ARGUMENTS... arguments)
+        : DIALOG(arguments...), m_button(button) {}
+    BOOL OnInitDialog() override {
+        DIALOG::OnInitDialog();
+        this->PostMessage(WM_COMMAND, m_button);
+        return TRUE;
+    }
+
+private:
+    WPARAM m_button;
+};
+
 /// A file dialog whose user presses Save as soon as it is there.
 class CQuickSave : public CFileDialog {
 public:
@@ -44,9 +59,8 @@ TEST(FileDialog, TellsThePartsOfTheNameChosen) {
     EXPECT_EQ(1, dialog.initDone);
     EXPECT_EQ(1, dialog.asked);
     EXPECT_EQ(nullptr, dialog.m_hWnd);
-    EXPECT_STREQ("some.notes.txt", dialog.GetFileName());
-    EXPECT_STREQ("txt", dialog.GetFileExt());
-    EXPECT_STREQ("some.notes", dialog.GetFileTitle());
+    EXPECT_STREQ("some.notes.txt|txt|some.notes",
+                 dialog.GetFileName() + "|" + dialog.GetFileExt() + "|" + dialog.GetFileTitle());
     EXPECT_EQ(0, dialog.GetPathName().CompareNoCase(name.c_str()));
     EXPECT_EQ(0, dialog.pathWhileOpen.CompareNoCase(name.c_str()));
     EXPECT_FALSE(dialog.GetReadOnlyPref());
@@ -75,62 +89,38 @@ TEST(FileDialog, FilterAndNamesAreKept) {
 }
 
 TEST(FileDialog, SeveralFilesAreListedOneByOne) {
-    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT);
-    char chosen[] = "C:\\data\0one.csv\0two.csv\0";
-    dialog.m_ofn.lpstrFile = chosen;
-    dialog.m_ofn.nFileOffset = 8;
-    std::vector<std::string> paths;
-    for (POSITION position = dialog.GetStartPosition(); position != nullptr;)
-        paths.push_back(static_cast<LPCTSTR>(dialog.GetNextPathName(position)));
-    EXPECT_EQ((std::vector<std::string>{"C:\\data\\one.csv", "C:\\data\\two.csv"}), paths);
-
-    char root[] = "C:\\\0one.csv\0";
-    dialog.m_ofn.lpstrFile = root;
-    dialog.m_ofn.nFileOffset = 4;
-    POSITION position = dialog.GetStartPosition();
-    EXPECT_STREQ("C:\\one.csv", dialog.GetNextPathName(position));
-    EXPECT_EQ(nullptr, position);
-
-    char single[] = "C:\\data\\only.csv";
-    dialog.m_ofn.lpstrFile = single;
-    dialog.m_ofn.nFileOffset = 8;
-    position = dialog.GetStartPosition();
-    EXPECT_STREQ("C:\\data\\only.csv", dialog.GetNextPathName(position));
-    EXPECT_EQ(nullptr, position);
+    using namespace std::string_literals;
+    struct {
+        std::string file;
+        WORD offset;
+        std::vector<std::string> paths;
+    } cases[] = {
+        {"C:\\data\0one.csv\0two.csv\0"s, 8, {"C:\\data\\one.csv", "C:\\data\\two.csv"}},
+        {"C:\\\0one.csv\0"s, 4, {"C:\\one.csv"}},
+        {"C:\\data\\only.csv"s, 8, {"C:\\data\\only.csv"}},
+    };
+    for (auto& c : cases) {
+        CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT);
+        dialog.m_ofn.lpstrFile = c.file.data();
+        dialog.m_ofn.nFileOffset = c.offset;
+        std::vector<std::string> paths;
+        for (POSITION position = dialog.GetStartPosition(); position != nullptr;)
+            paths.push_back(dialog.GetNextPathName(position).GetString());
+        EXPECT_EQ(c.paths, paths);
+    }
 }
 
 TEST(ColorDialog, StartsWithItsColourAndReturnsTheUsersAnswer) {
     // OnColorOK() and SetCurrentColor() cannot be shown here: Wine's dialog knows neither message.
-    class CQuickColour : public CColorDialog {
-    public:
-        explicit CQuickColour(WPARAM button) : CColorDialog(RGB(10, 20, 30), CC_FULLOPEN), m_button(button) {}
-        BOOL OnInitDialog() override {
-            CColorDialog::OnInitDialog();
-            PostMessage(WM_COMMAND, m_button);
-            return TRUE;
-        }
-
-    private:
-        WPARAM m_button;
-    };
-    CQuickColour accepted(IDOK);
+    Quick<CColorDialog> accepted(IDOK, RGB(10, 20, 30), CC_FULLOPEN);
     EXPECT_EQ(IDOK, accepted.DoModal());
     EXPECT_EQ(RGB(10, 20, 30), accepted.GetColor());
     EXPECT_EQ(nullptr, accepted.m_hWnd);
-    CQuickColour cancelled(IDCANCEL);
+    Quick<CColorDialog> cancelled(IDCANCEL);
     EXPECT_EQ(IDCANCEL, cancelled.DoModal());
 }
 
 TEST(FontDialog, StartsWithTheFontGivenAndReturnsIt) {
-    class CQuickFont : public CFontDialog {
-    public:
-        explicit CQuickFont(LPLOGFONT initial) : CFontDialog(initial) {}
-        BOOL OnInitDialog() override {
-            CFontDialog::OnInitDialog();
-            PostMessage(WM_COMMAND, IDOK);
-            return TRUE;
-        }
-    };
     LOGFONT initial{};
     initial.lfHeight = -16;
     initial.lfWeight = FW_BOLD;
@@ -139,7 +129,7 @@ TEST(FontDialog, StartsWithTheFontGivenAndReturnsIt) {
     ::GetTextFace(screen, LF_FACESIZE, initial.lfFaceName);
     const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
     ::ReleaseDC(nullptr, screen);
-    CQuickFont dialog(&initial);
+    Quick<CFontDialog> dialog(IDOK, &initial);
     ASSERT_EQ(IDOK, dialog.DoModal());
     LOGFONT chosen{};
     dialog.GetCurrentFont(&chosen);

@@ -3,7 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
+
+using std::tuple;
+
+CString TextOf(const CWnd& window) {
+    CString text;
+    window.GetWindowText(text);
+    return text;
+}
 
 /// Each test makes its controls as children of a window that is never shown.
 class Controls : public testing::Test {
@@ -23,38 +33,29 @@ TEST_F(Controls, EditTextSelectionAndLines) {
     ASSERT_TRUE(edit.Create(kStyle | ES_MULTILINE, m_rect, &m_parent, 5));
     EXPECT_EQ(5, edit.GetDlgCtrlID());
     edit.SetWindowText("first\r\nsecond line\r\n\r\nlast");
-    EXPECT_EQ(4, edit.GetLineCount());
-    EXPECT_EQ(7, edit.LineIndex(1));
-    EXPECT_EQ(11, edit.LineLength(7));
-    EXPECT_EQ(1, edit.LineFromChar(8));
+    EXPECT_EQ(tuple(4, 7, 11, 1),
+              tuple(edit.GetLineCount(), edit.LineIndex(1), edit.LineLength(7), edit.LineFromChar(8)));
     char line[32];
     EXPECT_EQ(11, edit.GetLine(1, line, sizeof(line)));
     EXPECT_EQ("second line", std::string(line, 11));
     char one[2] = {'-', '-'};
     EXPECT_EQ(1, edit.GetLine(1, one, 1))
         << "room for one character, less than the message needs for its size";
-    EXPECT_EQ('s', one[0]);
-    EXPECT_EQ('-', one[1]);
+    EXPECT_EQ("s-", std::string(one, 2));
     EXPECT_EQ(0, edit.GetLine(9, line, sizeof(line)));
 
     edit.SetSel(7, 13);
     int start = 0, end = 0;
     edit.GetSel(start, end);
-    EXPECT_EQ(7, start);
-    EXPECT_EQ(13, end);
+    EXPECT_EQ(tuple(7, 13), tuple(start, end));
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(7, 13)), edit.GetSel());
     edit.ReplaceSel("2nd", TRUE);
     EXPECT_TRUE(edit.CanUndo());
-    CString text;
-    edit.GetWindowText(text);
-    EXPECT_STREQ("first\r\n2nd line\r\n\r\nlast", text);
+    EXPECT_STREQ("first\r\n2nd line\r\n\r\nlast", TextOf(edit));
     EXPECT_TRUE(edit.Undo());
     edit.SetSel(0, -1);
     edit.GetSel(start, end);
-    EXPECT_EQ(0, start);
-    edit.GetWindowText(text);
-    EXPECT_EQ(text.GetLength(), end);
-
+    EXPECT_EQ(tuple(0, TextOf(edit).GetLength()), tuple(start, end));
     edit.SetModify();
     EXPECT_TRUE(edit.GetModify());
     edit.SetLimitText(10);
@@ -125,8 +126,7 @@ TEST_F(Controls, ListBoxItems) {
     EXPECT_EQ(3, several.GetSelCount());
     int chosen[4] = {-1, -1, -1, -1};
     EXPECT_EQ(3, several.GetSelItems(4, chosen));
-    EXPECT_EQ(3, chosen[2]);
-    EXPECT_EQ(-1, chosen[3]);
+    EXPECT_EQ(tuple(3, -1), tuple(chosen[2], chosen[3]));
     EXPECT_FALSE(several.GetSel(2));
 }
 
@@ -144,13 +144,11 @@ TEST_F(Controls, ComboBoxItemsAndEditField) {
     combo.GetLBText(7, text);
     EXPECT_STREQ("", text);
     EXPECT_EQ(1, combo.SetCurSel(1));
-    combo.GetWindowText(text);
-    EXPECT_STREQ("two", text);
+    EXPECT_STREQ("two", TextOf(combo));
     EXPECT_TRUE(combo.SetEditSel(1, 3));
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(1, 3)), combo.GetEditSel());
     EXPECT_EQ(CB_ERR, combo.SetCurSel(-1));
-    combo.GetWindowText(text);
-    EXPECT_STREQ("", text);
+    EXPECT_STREQ("", TextOf(combo));
     combo.SetItemData(0, 1234);
     EXPECT_EQ(1234u, combo.GetItemData(0));
     EXPECT_FALSE(combo.GetDroppedState());
@@ -170,8 +168,7 @@ TEST_F(Controls, ScrollBarsAndTheirLimit) {
     EXPECT_EQ(70, bar.GetScrollLimit());
     SCROLLINFO read{};
     ASSERT_TRUE(bar.GetScrollInfo(&read));
-    EXPECT_EQ(-10, read.nMin);
-    EXPECT_EQ(21u, read.nPage);
+    EXPECT_EQ(tuple(-10, 21u), tuple(read.nMin, read.nPage));
 }
 
 TEST_F(Controls, OwnerDrawReachesTheControl) {
@@ -191,8 +188,7 @@ TEST_F(Controls, OwnerDrawReachesTheControl) {
     ASSERT_TRUE(list.Create(kStyle | LBS_OWNERDRAWVARIABLE | LBS_SORT, m_rect, &m_parent, 11));
     for (UINT_PTR value : {30, 10, 20})
         list.AddString(reinterpret_cast<LPCTSTR>(value));
-    EXPECT_EQ(10u, list.GetItemData(0));
-    EXPECT_EQ(30u, list.GetItemData(2));
+    EXPECT_EQ(tuple(10u, 30u), tuple(list.GetItemData(0), list.GetItemData(2)));
     EXPECT_GT(list.compared, 0);
     EXPECT_EQ(33, list.GetItemHeight(1));
     list.UpdateWindow();
@@ -229,8 +225,7 @@ TEST_F(Controls, CommonControls) {
     EXPECT_EQ(70000, slider.GetPos());
     slider.SetSelection(-5, 5);
     slider.GetSelection(low, high);
-    EXPECT_EQ(-5, low);
-    EXPECT_EQ(5, high);
+    EXPECT_EQ(tuple(-5, 5), tuple(low, high));
 
     CEdit buddy;
     ASSERT_TRUE(buddy.Create(kStyle, m_rect, &m_parent, 22));
@@ -240,12 +235,9 @@ TEST_F(Controls, CommonControls) {
     EXPECT_EQ(&buddy, spin.GetBuddy());
     spin.SetRange(-50, 50);
     spin.GetRange(low, high);
-    EXPECT_EQ(-50, low);
-    EXPECT_EQ(50, high);
+    EXPECT_EQ(tuple(-50, 50), tuple(low, high));
     spin.SetPos(-12);
-    CString text;
-    buddy.GetWindowText(text);
-    EXPECT_STREQ("-12", text);
+    EXPECT_STREQ("-12", TextOf(buddy));
     EXPECT_EQ(-12, spin.SetPos(3)) << "the former position, with its sign";
 
     CStatusBarCtrl status;
@@ -265,6 +257,7 @@ TEST_F(Controls, CommonControls) {
     EXPECT_TRUE(tips.AddTool(&slider, "drag me"));
     EXPECT_TRUE(tips.AddTool(&m_parent, "corner", CRect(0, 0, 10, 10), 77));
     EXPECT_EQ(2, tips.GetToolCount());
+    CString text;
     tips.GetText(text, &m_parent, 77);
     EXPECT_STREQ("corner", text);
     tips.UpdateTipText("other", &slider);

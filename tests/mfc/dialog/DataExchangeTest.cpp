@@ -1,5 +1,6 @@
+#include "tests/mfc/Refusal.h"
 #include "tests/mfc/dialog/DialogIds.h"
-#include "tests/mfc/dialog/PromptAnswerer.h"
+#include "tests/support/MessageBoxWatcher.h"
 
 #include <afxcmn.h>
 #include <afxwin.h>
@@ -12,10 +13,13 @@
 
 namespace {
 
+using testkit::MessageBoxWatcher;
+using Exchange = std::function<void(CDataExchange*)>;
+
 /// A dialog whose exchange is whatever the test says.
 class CExchangeDialog : public CDialog {
 public:
-    std::function<void(CDataExchange*)> exchange;
+    Exchange exchange;
 
     void SetText(LPCTSTR text) { SetDlgItemText(IDC_TEXT, text); }
     CString Text() const {
@@ -38,14 +42,18 @@ protected:
     void TearDown() override { m_dialog.DestroyWindow(); }
 
     HWND Item(int id) const { return ::GetDlgItem(m_dialog, id); }
-    BOOL Load(std::function<void(CDataExchange*)> exchange) {
-        m_dialog.exchange = std::move(exchange);
-        return m_dialog.UpdateData(FALSE);
+    BOOL Load(Exchange exchange) { return Run(exchange, FALSE); }
+    BOOL Save(Exchange exchange) { return Run(exchange, TRUE); }
+    /// Shows `value` by way of `ddx`, reads the control, and returns what came back.
+    template <class Value> Value ThereAndBack(void (*ddx)(CDataExchange*, int, Value&), int id, Value value) {
+        EXPECT_TRUE(Load([&](CDataExchange* pDX) { ddx(pDX, id, value); }));
+        Value read = value;
+        Change(read);
+        EXPECT_TRUE(Save([&](CDataExchange* pDX) { ddx(pDX, id, read); }));
+        return read;
     }
-    BOOL Save(std::function<void(CDataExchange*)> exchange) {
-        m_dialog.exchange = std::move(exchange);
-        return m_dialog.UpdateData(TRUE);
-    }
+    static void Change(int& value) { value += 5; }
+    static void Change(CString& value) { value += "changed"; }
     /// Shows `value` and returns the text that appeared.
     template <class Value> CString Shown(Value value) {
         EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, value); }));
@@ -53,38 +61,42 @@ protected:
     }
     /// What `text` reads as; `refused` if the exchange failed, and the user was told once.
     template <class Value> Value Read(LPCTSTR text, Value refused) {
-        PromptAnswerer prompts;
+        MessageBoxWatcher prompts;
         m_dialog.SetText(text);
         Value value = 77;
         const BOOL read = Save([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, value); });
-        EXPECT_EQ(read ? 0u : 1u, prompts.texts.size()) << text;
-        if (!prompts.texts.empty())
-            m_prompt = prompts.texts[0];
+        EXPECT_EQ(read ? 0u : 1u, prompts.Boxes().size()) << text;
+        if (!prompts.Boxes().empty())
+            m_prompt = prompts.Boxes()[0].text;
         if (read)
             return value;
         EXPECT_EQ(Value(77), value) << "the member changed though the input was refused";
         return refused;
     }
+    template <class Value> void ExpectShownAndRead(LPCTSTR text, Value value) {
+        EXPECT_STREQ(text, Shown(value));
+        EXPECT_EQ(value, Read<Value>(text, 0)) << text;
+    }
 
     CExchangeDialog m_dialog;
     std::string m_prompt;
+
+private:
+    BOOL Run(Exchange& exchange, BOOL save) {
+        m_dialog.exchange = std::move(exchange);
+        return m_dialog.UpdateData(save);
+    }
 };
 
 TEST_F(DataExchange, IntegersOfEveryTypeAreShownAndRead) {
-    EXPECT_STREQ("-2147483648", Shown<int>(INT_MIN));
-    EXPECT_STREQ("4294967295", Shown<UINT>(UINT_MAX));
-    EXPECT_STREQ("-32768", Shown<short>(SHRT_MIN));
-    EXPECT_STREQ("255", Shown<BYTE>(255));
-    EXPECT_STREQ("-5", Shown<long>(-5));
-    EXPECT_STREQ("4294967295", Shown<DWORD>(UINT_MAX));
-
-    EXPECT_EQ(INT_MIN, Read<int>("-2147483648", 0));
+    ExpectShownAndRead<int>("-2147483648", INT_MIN);
+    ExpectShownAndRead<UINT>("4294967295", UINT_MAX);
+    ExpectShownAndRead<short>("-32768", SHRT_MIN);
+    ExpectShownAndRead<BYTE>("255", 255);
+    ExpectShownAndRead<long>("-5", -5);
+    ExpectShownAndRead<long>("2147483647", LONG_MAX);
+    ExpectShownAndRead<DWORD>("4294967295", UINT_MAX);
     EXPECT_EQ(INT_MAX, Read<int>(" \t+2147483647 ", 0));
-    EXPECT_EQ(UINT_MAX, Read<UINT>("4294967295", 0));
-    EXPECT_EQ(SHRT_MIN, Read<short>("-32768", 0));
-    EXPECT_EQ(255, Read<BYTE>("255", 0));
-    EXPECT_EQ(LONG_MAX, Read<long>("2147483647", 0));
-    EXPECT_EQ(UINT_MAX, Read<DWORD>("4294967295", 0));
     EXPECT_EQ(10, Read<int>("010", 0)) << "decimal, whatever it begins with";
 }
 
@@ -104,11 +116,10 @@ TEST_F(DataExchange, InputThatIsNoIntegerIsRefused) {
 }
 
 TEST_F(DataExchange, RealNumbersKeepTheDigitsTheyHave) {
-    EXPECT_STREQ("0.1", Shown<double>(0.1));
-    EXPECT_STREQ("0.1", Shown<float>(0.1f));
-    EXPECT_STREQ("123456789012345", Shown<double>(123456789012345.0));
-    EXPECT_STREQ("1e+300", Shown<double>(1e300));
-
+    ExpectShownAndRead("0.1", 0.1);
+    ExpectShownAndRead("0.1", 0.1f);
+    ExpectShownAndRead("123456789012345", 123456789012345.0);
+    ExpectShownAndRead("1e+300", 1e300);
     EXPECT_EQ(-1.5e-7, Read<double>("-1.5e-7", 0));
     EXPECT_EQ(2.5f, Read<float>("  2.5  ", 0));
     for (LPCTSTR text : {"", "1,5", "nan", "inf", "0x10", "1e", "1e999", ".", "--1"})
@@ -138,7 +149,7 @@ TEST_F(DataExchange, TextIsCopiedWholeAndOnlyWhenItDiffers) {
 TEST_F(DataExchange, FailureBringsTheUserBackToTheControl) {
     m_dialog.ShowWindow(SW_SHOW);
     ::SetFocus(Item(IDOK));
-    PromptAnswerer prompts;
+    const MessageBoxWatcher prompts;
     m_dialog.SetText("12 apples");
     int number = 3;
     int later = 4;
@@ -153,27 +164,18 @@ TEST_F(DataExchange, FailureBringsTheUserBackToTheControl) {
 }
 
 TEST_F(DataExchange, ChecksAndRadioGroups) {
-    for (int value : {0, 1, 2}) {
-        EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Check(pDX, IDC_CHECK, value); }));
-        EXPECT_EQ(value, ::SendMessage(Item(IDC_CHECK), BM_GETCHECK, 0, 0));
-        int read = -5;
-        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_Check(pDX, IDC_CHECK, read); }));
-        EXPECT_EQ(value, read);
+    for (const int value : {0, 1, 2, 9}) {
+        const int known = value < 3 ? value : 0;
+        EXPECT_EQ(known, ThereAndBack(DDX_Check, IDC_CHECK, value));
+        EXPECT_EQ(known, ::SendMessage(Item(IDC_CHECK), BM_GETCHECK, 0, 0));
     }
-    int wrong = 9;
-    EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Check(pDX, IDC_CHECK, wrong); }));
-    EXPECT_EQ(0, ::SendMessage(Item(IDC_CHECK), BM_GETCHECK, 0, 0));
-
     // The label between the buttons does not count, and the group ends where the next begins.
     ::SendMessage(Item(IDC_OTHER_RADIO), BM_SETCHECK, 1, 0);
     const int ids[] = {IDC_RADIO_FIRST, IDC_RADIO_SECOND, IDC_RADIO_THIRD};
     for (int value = -1; value < 3; ++value) {
-        EXPECT_TRUE(Load([&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_FIRST, value); }));
+        EXPECT_EQ(value, ThereAndBack(DDX_Radio, IDC_RADIO_FIRST, value));
         for (int button = 0; button < 3; ++button)
             EXPECT_EQ(button == value ? 1 : 0, ::SendMessage(Item(ids[button]), BM_GETCHECK, 0, 0));
-        int read = -5;
-        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_Radio(pDX, IDC_RADIO_FIRST, read); }));
-        EXPECT_EQ(value, read);
     }
     EXPECT_EQ(1, ::SendMessage(Item(IDC_OTHER_RADIO), BM_GETCHECK, 0, 0));
 }
@@ -183,31 +185,22 @@ TEST_F(DataExchange, ListsByIndexByTextAndByExactText) {
         for (LPCTSTR text : {"Green tea", "Green", "Red"})
             ::SendMessage(Item(id), id == IDC_LIST ? LB_ADDSTRING : CB_ADDSTRING, 0,
                           reinterpret_cast<LPARAM>(text));
-    const auto list = [&](void (*ddx)(CDataExchange*, int, CString&), int id, LPCTSTR text) {
-        CString value(text);
-        EXPECT_TRUE(Load([&](CDataExchange* pDX) { ddx(pDX, id, value); }));
-        value = "unchanged";
-        EXPECT_TRUE(Save([&](CDataExchange* pDX) { ddx(pDX, id, value); }));
-        return value;
+    const struct {
+        void (*ddx)(CDataExchange*, int, CString&);
+        int id;
+        LPCTSTR text, read;
+    } cases[] = {
+        {DDX_LBString, IDC_LIST, "gre", "Green tea"},     {DDX_LBStringExact, IDC_LIST, "green", "Green"},
+        {DDX_LBStringExact, IDC_LIST, "gre", "Green"}, // no exact match: the selection stays
+        {DDX_CBString, IDC_DROPLIST, "gre", "Green tea"}, {DDX_CBStringExact, IDC_DROPLIST, "Green", "Green"},
+        {DDX_CBString, IDC_COMBO, "Purple", "Purple"}, // goes into the edit field
+        {DDX_CBStringExact, IDC_COMBO, "Gre", "Gre"},
     };
-    EXPECT_STREQ("Green tea", list(DDX_LBString, IDC_LIST, "gre"));
-    EXPECT_STREQ("Green", list(DDX_LBStringExact, IDC_LIST, "green"));
-    EXPECT_STREQ("Green", list(DDX_LBStringExact, IDC_LIST, "gre")) << "no exact match: the selection stays";
-    EXPECT_STREQ("Green tea", list(DDX_CBString, IDC_DROPLIST, "gre"));
-    EXPECT_STREQ("Green", list(DDX_CBStringExact, IDC_DROPLIST, "Green"));
-    EXPECT_STREQ("Purple", list(DDX_CBString, IDC_COMBO, "Purple")) << "goes into the edit field";
-    EXPECT_STREQ("Gre", list(DDX_CBStringExact, IDC_COMBO, "Gre"));
-
-    for (int index : {2, 0, -1}) {
-        int read = 5;
-        EXPECT_TRUE(Load([&](CDataExchange* pDX) {
-            DDX_LBIndex(pDX, IDC_LIST, index);
-            DDX_CBIndex(pDX, IDC_COMBO, index);
-        }));
-        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_LBIndex(pDX, IDC_LIST, read); }));
-        EXPECT_EQ(index, read);
-        EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_CBIndex(pDX, IDC_COMBO, read); }));
-        EXPECT_EQ(index, read);
+    for (const auto& c : cases)
+        EXPECT_STREQ(c.read, ThereAndBack<CString>(c.ddx, c.id, c.text)) << c.id << " " << c.text;
+    for (const int index : {2, 0, -1}) {
+        EXPECT_EQ(index, ThereAndBack(DDX_LBIndex, IDC_LIST, index));
+        EXPECT_EQ(index, ThereAndBack(DDX_CBIndex, IDC_COMBO, index));
     }
     CString none("unchanged");
     EXPECT_TRUE(Save([&](CDataExchange* pDX) { DDX_LBString(pDX, IDC_LIST, none); }));
@@ -216,25 +209,20 @@ TEST_F(DataExchange, ListsByIndexByTextAndByExactText) {
 
 TEST_F(DataExchange, PositionsOfScrollBarAndSlider) {
     ::SetScrollRange(Item(IDC_SCROLL), SB_CTL, 0, 50, FALSE);
-    int scroll = 31;
-    int slider = 17;
-    EXPECT_TRUE(Load([&](CDataExchange* pDX) {
-        DDX_Scroll(pDX, IDC_SCROLL, scroll);
-        DDX_Slider(pDX, IDC_SLIDER, slider);
-    }));
+    EXPECT_EQ(31, ThereAndBack(DDX_Scroll, IDC_SCROLL, 31));
     EXPECT_EQ(31, ::GetScrollPos(Item(IDC_SCROLL), SB_CTL));
+    EXPECT_EQ(17, ThereAndBack(DDX_Slider, IDC_SLIDER, 17));
+    int slider = 0;
     ::SendMessage(Item(IDC_SLIDER), TBM_SETPOS, TRUE, 44);
     EXPECT_TRUE(Save([&](CDataExchange* pDX) {
-        DDX_Scroll(pDX, IDC_SCROLL, scroll);
         DDX_Slider(pDX, IDC_SLIDER, slider);
         DDV_MinMaxSlider(pDX, static_cast<DWORD>(slider), 0, 44);
     }));
-    EXPECT_EQ(31, scroll);
     EXPECT_EQ(44, slider);
 }
 
 TEST_F(DataExchange, RangesAreCheckedWhenSavingOnly) {
-    PromptAnswerer prompts;
+    MessageBoxWatcher prompts;
     int value = 50;
     const auto range = [&](CDataExchange* pDX) {
         DDX_Text(pDX, IDC_TEXT, value);
@@ -242,36 +230,37 @@ TEST_F(DataExchange, RangesAreCheckedWhenSavingOnly) {
     };
     EXPECT_TRUE(Load(range)) << "a member out of range is shown all the same";
     EXPECT_STREQ("50", m_dialog.Text());
-    EXPECT_FALSE(Save(range));
-    for (LPCTSTR text : {"-5", "10", "0"}) {
+    for (LPCTSTR text : {"50", "-5", "10", "0", "-6"}) {
         m_dialog.SetText(text);
-        EXPECT_TRUE(Save(range)) << text;
+        EXPECT_EQ(atoi(text) >= -5 && atoi(text) <= 10, Save(range) != FALSE) << text;
     }
-    m_dialog.SetText("-6");
-    EXPECT_FALSE(Save(range));
-    ASSERT_EQ(2u, prompts.texts.size());
-    EXPECT_EQ("Enter an integer between -5 and 10.", prompts.texts[1]);
+    ASSERT_EQ(2u, prompts.Boxes().size());
+    EXPECT_EQ("Enter an integer between -5 and 10.", prompts.Boxes()[1].text);
 
-    const auto tell = [&](std::function<void(CDataExchange*)> check) {
+    const struct {
+        Exchange check;
+        const char* told;
+    } cases[] = {
+        {[](CDataExchange* pDX) { DDV_MinMaxDWord(pDX, 0, 1, UINT_MAX); },
+         "Enter an integer between 1 and 4294967295."},
+        {[](CDataExchange* pDX) { DDV_MinMaxDouble(pDX, 0.25, 0.5, 1e30); },
+         "Enter a number between 0.5 and 1e+30."},
+        {[](CDataExchange* pDX) { DDV_MinMaxFloat(pDX, 0.3f, 0.1f, 0.2f); },
+         "Enter a number between 0.1 and 0.2."},
+        {[](CDataExchange* pDX) { DDV_MinMaxDouble(pDX, std::numeric_limits<double>::quiet_NaN(), 0, 1); },
+         "Enter a number between 0 and 1."},
+    };
+    for (const auto& c : cases) {
         EXPECT_FALSE(Save([&](CDataExchange* pDX) {
             pDX->PrepareEditCtrl(IDC_TEXT);
-            check(pDX);
+            c.check(pDX);
         }));
-        return prompts.texts.back();
-    };
-    EXPECT_EQ("Enter an integer between 1 and 4294967295.",
-              tell([](CDataExchange* pDX) { DDV_MinMaxDWord(pDX, 0, 1, UINT_MAX); }));
-    EXPECT_EQ("Enter a number between 0.5 and 1e+30.",
-              tell([](CDataExchange* pDX) { DDV_MinMaxDouble(pDX, 0.25, 0.5, 1e30); }));
-    EXPECT_EQ("Enter a number between 0.1 and 0.2.",
-              tell([](CDataExchange* pDX) { DDV_MinMaxFloat(pDX, 0.3f, 0.1f, 0.2f); }));
-    EXPECT_EQ("Enter a number between 0 and 1.", tell([](CDataExchange* pDX) {
-                  DDV_MinMaxDouble(pDX, std::numeric_limits<double>::quiet_NaN(), 0, 1);
-              }));
+        EXPECT_EQ(c.told, prompts.Boxes().back().text);
+    }
 }
 
 TEST_F(DataExchange, LengthLimitHoldsForTypingAndForSaving) {
-    PromptAnswerer prompts;
+    MessageBoxWatcher prompts;
     CString value("abcdef");
     const auto limited = [&](CDataExchange* pDX) {
         DDX_Text(pDX, IDC_TEXT, value);
@@ -280,8 +269,8 @@ TEST_F(DataExchange, LengthLimitHoldsForTypingAndForSaving) {
     EXPECT_TRUE(Load(limited));
     EXPECT_EQ(4, ::SendMessage(Item(IDC_TEXT), EM_GETLIMITTEXT, 0, 0));
     EXPECT_FALSE(Save(limited));
-    ASSERT_EQ(1u, prompts.texts.size());
-    EXPECT_EQ("Enter no more than 4 characters.", prompts.texts[0]);
+    ASSERT_EQ(1u, prompts.Boxes().size());
+    EXPECT_EQ("Enter no more than 4 characters.", prompts.Boxes()[0].text);
     m_dialog.SetText("abcd");
     EXPECT_TRUE(Save(limited));
 
@@ -332,14 +321,7 @@ TEST_F(DataExchange, ControlsAreBoundOnce) {
 
 TEST_F(DataExchange, MissingControlsAreAnError) {
     CDataExchange exchange(&m_dialog, TRUE);
-    CException* caught = nullptr;
-    try {
-        exchange.PrepareCtrl(4444);
-    } catch (CNotSupportedException* e) {
-        caught = e;
-    }
-    ASSERT_NE(nullptr, caught);
-    caught->Delete();
+    EXPECT_TRUE(Throws<CNotSupportedException>([&] { exchange.PrepareCtrl(4444); }));
     EXPECT_EQ(Item(IDC_CHECK), exchange.PrepareCtrl(IDC_CHECK));
     EXPECT_FALSE(exchange.m_bEditLastControl);
     EXPECT_EQ(Item(IDC_TEXT), exchange.PrepareEditCtrl(IDC_TEXT));

@@ -13,11 +13,10 @@ TEST(Menu, OwnsItsHandleUntilDetached) {
     HMENU kept = nullptr;
     {
         CMenu menu;
-        ASSERT_TRUE(menu.CreateMenu());
+        CMenu popup;
+        ASSERT_TRUE(menu.CreateMenu() && popup.CreatePopupMenu());
         destroyed = menu.m_hMenu;
         EXPECT_EQ(&menu, CMenu::FromHandle(destroyed));
-        CMenu popup;
-        ASSERT_TRUE(popup.CreatePopupMenu());
         kept = popup.Detach();
         EXPECT_EQ(nullptr, CMenu::FromHandlePermanent(kept));
     }
@@ -87,11 +86,8 @@ TEST_F(MenuItems, StatesAreSetAndTold) {
 }
 
 TEST_F(MenuItems, RemovedSubmenusSurviveDeletedOnesDoNot) {
-    CMenu first, second;
-    ASSERT_TRUE(first.CreatePopupMenu());
-    ASSERT_TRUE(second.CreatePopupMenu());
-    HMENU const removed = first.Detach();
-    HMENU const deleted = second.Detach();
+    HMENU const removed = ::CreatePopupMenu();
+    HMENU const deleted = ::CreatePopupMenu();
     m_menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(removed), "First");
     m_menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(deleted), "Second");
     EXPECT_EQ(removed, m_menu.GetSubMenu(4)->m_hMenu);

@@ -77,26 +77,23 @@ TEST_P(ProfileTest, NothingInThePlaceOfAValueOrNameDeletes) {
 }
 
 TEST(CommandLineTest, FlagsAndNamesAreSorted) {
-    const auto parsed = [](std::initializer_list<std::pair<const char*, BOOL>> parameters) {
-        auto info = std::make_unique<CCommandLineInfo>();
-        std::size_t i = 0;
-        for (const auto& [text, isFlag] : parameters)
-            info->ParseParam(text, isFlag, ++i == parameters.size());
-        return info;
+    const auto parsed = [](CCommandLineInfo& info, std::vector<std::pair<const char*, BOOL>> parameters) {
+        for (std::size_t i = 0; i < parameters.size(); ++i)
+            info.ParseParam(parameters[i].first, parameters[i].second, i + 1 == parameters.size());
+        return info.m_nShellCommand;
     };
-    EXPECT_EQ(CCommandLineInfo().m_nShellCommand, CCommandLineInfo::FileNew);
-    const auto open = parsed({{"a file.txt", FALSE}});
-    EXPECT_EQ(open->m_nShellCommand, CCommandLineInfo::FileOpen);
-    EXPECT_STREQ(open->m_strFileName, "a file.txt");
-    const auto print =
-        parsed({{"pt", TRUE}, {"f", FALSE}, {"printer", FALSE}, {"driver", FALSE}, {"port", FALSE}});
-    EXPECT_EQ(print->m_nShellCommand, CCommandLineInfo::FilePrintTo);
-    EXPECT_STREQ(print->m_strFileName, "f");
-    EXPECT_STREQ(print->m_strPrinterName, "printer");
-    EXPECT_STREQ(print->m_strPortName, "port");
-    const auto embedded = parsed({{"embedding", TRUE}});
-    EXPECT_TRUE(embedded->m_bRunEmbedded);
-    EXPECT_FALSE(embedded->m_bShowSplash);
+    CCommandLineInfo empty, open, print, embedded;
+    EXPECT_EQ(empty.m_nShellCommand, CCommandLineInfo::FileNew);
+    EXPECT_EQ(parsed(open, {{"a file.txt", FALSE}}), CCommandLineInfo::FileOpen);
+    EXPECT_STREQ(open.m_strFileName, "a file.txt");
+    EXPECT_EQ(
+        parsed(print, {{"pt", TRUE}, {"f", FALSE}, {"printer", FALSE}, {"driver", FALSE}, {"port", FALSE}}),
+        CCommandLineInfo::FilePrintTo);
+    EXPECT_STREQ(print.m_strFileName + "|" + print.m_strPrinterName + "|" + print.m_strPortName,
+                 "f|printer|port");
+    parsed(embedded, {{"embedding", TRUE}});
+    EXPECT_TRUE(embedded.m_bRunEmbedded);
+    EXPECT_FALSE(embedded.m_bShowSplash);
 }
 
 TEST(AppTest, TheProgramIsKnownByItsNames) {
@@ -105,12 +102,11 @@ TEST(AppTest, TheProgramIsKnownByItsNames) {
     EXPECT_EQ(app->m_hInstance, ::GetModuleHandle(nullptr));
     char path[MAX_PATH] = "";
     ::GetModuleFileName(nullptr, path, sizeof(path));
-    const std::string file = std::string(path).substr(std::string(path).rfind('\\') + 1);
-    const std::string name = file.substr(0, file.rfind('.'));
+    const std::string stem = std::string(path).substr(0, std::string(path).rfind('.'));
+    const std::string name = stem.substr(stem.rfind('\\') + 1);
     EXPECT_EQ(std::string(app->m_pszExeName), name);
     EXPECT_EQ(std::string(app->m_pszProfileName), name + ".INI");
-    EXPECT_EQ(std::string(app->m_pszHelpFilePath),
-              std::string(path).substr(0, std::string(path).rfind('.')) + ".HLP");
+    EXPECT_EQ(std::string(app->m_pszHelpFilePath), stem + ".HLP");
     EXPECT_STREQ(AfxGetAppName(), app->m_pszAppName);
     EXPECT_EQ(AfxGetThread(), app);
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
 using windowkit::CreateChild;
 using windowkit::CreateTop;
 using windowkit::MapCounts;
@@ -21,9 +22,7 @@ protected:
     LRESULT OnLoop(WPARAM, LPARAM) {
         answer = CWnd::FromHandle(foreign);
         const std::size_t held = MapCounts::Now().temporary;
-        // A handler that runs a loop of its own is still busy.
-        for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
-        }
+        windowkit::RunIdle(); // a handler that runs a loop of its own is still busy
         survivedLoop = held != 0 && MapCounts::Now().temporary == held && answer->m_hWnd == foreign;
         return 0;
     }
@@ -39,9 +38,7 @@ protected:
     void SetUp() override {
         CWnd::DeleteTempMap();
         ASSERT_TRUE(CreateTop(window));
-        // A button that no object knows.
-        window.foreign = ::CreateWindow("BUTTON", "b", WS_CHILD, 0, 0, 10, 10, window.m_hWnd,
-                                        reinterpret_cast<HMENU>(5), nullptr, nullptr);
+        window.foreign = windowkit::CreateForeign("BUTTON", &window, 5);
     }
     AskingWnd window;
 };
@@ -61,8 +58,7 @@ TEST_F(HandleMapTest, TemporaryObjectsAreSharedAndEndWhenIdle) {
     EXPECT_EQ(temporary->GetParent(), &window) << "an attached window is found as itself";
     EXPECT_EQ(MapCounts::Now().temporary, 1u);
 
-    for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
-    }
+    windowkit::RunIdle();
     EXPECT_EQ(MapCounts::Now().temporary, 0u);
     EXPECT_TRUE(::IsWindow(window.foreign)) << "the window outlives its temporary object";
 }
@@ -86,37 +82,19 @@ TEST_F(HandleMapTest, TemporaryObjectsOutliveTheLoopsOfTheHandlerThatHoldsThem) 
 }
 
 TEST_F(HandleMapTest, EachThreadHasMapsOfItsOwn) {
-    struct Question {
-        HWND window;
-        CWnd* permanent;
-        bool differs;
-    } question{window.m_hWnd, &window, false};
-    CWinThread* const thread = AfxBeginThread(
-        [](LPVOID parameter) -> UINT {
-            auto& asked = *static_cast<Question*>(parameter);
-            asked.permanent = CWnd::FromHandlePermanent(asked.window);
-            asked.differs = CWnd::FromHandle(asked.window) != nullptr && MapCounts::Now().temporary == 1;
-            return 0;
-        },
-        &question, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
-    ASSERT_NE(thread, nullptr);
-    HANDLE handle = nullptr;
-    ::DuplicateHandle(::GetCurrentProcess(), thread->m_hThread, ::GetCurrentProcess(), &handle, 0, FALSE,
-                      DUPLICATE_SAME_ACCESS);
-    thread->ResumeThread();
-    ASSERT_EQ(::WaitForSingleObject(handle, 10000), WAIT_OBJECT_0);
-    ::CloseHandle(handle);
-    EXPECT_EQ(question.permanent, nullptr);
-    EXPECT_TRUE(question.differs);
+    std::thread([&] {
+        EXPECT_EQ(CWnd::FromHandlePermanent(window.m_hWnd), nullptr);
+        EXPECT_NE(CWnd::FromHandle(window.m_hWnd), nullptr);
+        EXPECT_EQ(MapCounts::Now().temporary, 1u);
+    }).join();
     EXPECT_EQ(MapCounts::Now().temporary, 0u);
 }
 
 TEST_F(HandleMapTest, PlacementConstantsAreNotWindows) {
     EXPECT_EQ(CWnd::wndTop.m_hWnd, HWND_TOP);
-    EXPECT_EQ(CWnd::wndNoTopMost.m_hWnd, HWND_NOTOPMOST);
-    EXPECT_TRUE(window.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
-    EXPECT_NE(window.GetExStyle() & WS_EX_TOPMOST, 0u);
-    EXPECT_TRUE(
-        window.SetWindowPos(&CWnd::wndNoTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
-    EXPECT_EQ(window.GetExStyle() & WS_EX_TOPMOST, 0u);
+    const CWnd* const places[] = {&CWnd::wndNoTopMost, &CWnd::wndTopMost, &CWnd::wndNoTopMost};
+    for (const CWnd* const place : places) {
+        EXPECT_TRUE(window.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
+        EXPECT_EQ((window.GetExStyle() & WS_EX_TOPMOST) != 0, place == &CWnd::wndTopMost);
+    }
 }

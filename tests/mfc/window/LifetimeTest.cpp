@@ -5,12 +5,13 @@
 #include <algorithm>
 
 using windowkit::CreateChild;
+using windowkit::CreateForeign;
 using windowkit::CreateTop;
+using windowkit::Log;
 using windowkit::MapCounts;
+using windowkit::Taken;
 
 namespace {
-
-using Log = std::vector<std::string>;
 
 /// Notes every step of its life, and whether object and window know each other there.
 class LoggedWnd : public CWnd {
@@ -114,12 +115,10 @@ TEST_F(LifetimeTest, EveryStepReachesTheObjectWithItsWindowTied) {
     ASSERT_TRUE(CreateTop(window));
     const HWND handle = window.m_hWnd;
     EXPECT_TRUE(window.DestroyWindow());
-    EXPECT_EQ(log, wholeLife);
+    EXPECT_EQ(Taken(log), wholeLife);
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_FALSE(::IsWindow(handle));
     EXPECT_FALSE(window.DestroyWindow());
-
-    log.clear();
     ASSERT_TRUE(CreateTop(window)) << "an object can have one window after another";
     window.DestroyWindow();
     EXPECT_EQ(log, wholeLife);
@@ -151,22 +150,19 @@ TEST_F(LifetimeTest, AHandlerMayDestroyItsOwnWindow) {
 TEST_F(LifetimeTest, AnObjectOnTheHeapMayGoWithItsWindow) {
     Log whole = wholeLife;
     whole.push_back("deleted");
-    const auto create = [&] {
-        log.clear();
-        auto* const window = new LoggedWnd(log, true);
-        EXPECT_TRUE(CreateTop(*window));
-        return window->m_hWnd;
+    void (*const ways[])(HWND) = {
+        [](HWND window) { EXPECT_TRUE(CWnd::FromHandlePermanent(window)->DestroyWindow()); },
+        [](HWND window) { ::DestroyWindow(window); },
+        [](HWND window) { EXPECT_EQ(::SendMessage(window, dieMessage, 0, 0), 42); },
+        [](HWND window) { ::SendMessage(window, WM_COMMAND, dieCommand, 0); },
+        [](HWND window) { ::SendMessage(window, WM_CLOSE, 0, 0); }, // by way of the default procedure
     };
-    CWnd::FromHandlePermanent(create())->DestroyWindow();
-    EXPECT_EQ(log, whole);
-    ::DestroyWindow(create());
-    EXPECT_EQ(log, whole);
-    EXPECT_EQ(::SendMessage(create(), dieMessage, 0, 0), 42);
-    EXPECT_EQ(log, whole);
-    ::SendMessage(create(), WM_COMMAND, dieCommand, 0);
-    EXPECT_EQ(log, whole);
-    ::SendMessage(create(), WM_CLOSE, 0, 0); // by way of the default procedure
-    EXPECT_EQ(log, whole);
+    for (const auto& way : ways) {
+        auto* const window = new LoggedWnd(log, true);
+        ASSERT_TRUE(CreateTop(*window));
+        way(window->m_hWnd);
+        EXPECT_EQ(Taken(log), whole) << "way " << &way - ways;
+    }
 }
 
 TEST_F(LifetimeTest, TheDestructorDestroysTheWindowWithoutTheDerivedHandlers) {
@@ -177,10 +173,9 @@ TEST_F(LifetimeTest, TheDestructorDestroysTheWindowWithoutTheDerivedHandlers) {
         ASSERT_TRUE(CreateTop(window));
         handle = window.m_hWnd;
     }
-    EXPECT_EQ(log, created);
+    EXPECT_EQ(Taken(log), created);
     EXPECT_FALSE(::IsWindow(handle));
 
-    log.clear();
     auto* const window = new LoggedWnd(log);
     ASSERT_TRUE(CreateTop(*window));
     handle = window->m_hWnd;
@@ -196,35 +191,27 @@ TEST_F(LifetimeTest, AFailedCreationCleansUpOnceAndLeavesNothing) {
         prepare(window);
         EXPECT_FALSE(window.CreateEx(0, className, "", WS_OVERLAPPEDWINDOW, 0, 0, 10, 10, nullptr, nullptr));
         EXPECT_EQ(window.m_hWnd, nullptr);
+        // Systems differ in whether such a window gets a WM_DESTROY before the last message.
+        log.erase(std::remove(log.begin(), log.end(), "destroy"), log.end());
         return log;
     };
     const std::string plain = AfxRegisterWndClass(0);
     EXPECT_EQ(failsWith([](LoggedWnd& window) { window.refuseClass = true; }, plain.c_str()), Log{"post"});
     EXPECT_EQ(failsWith([](LoggedWnd&) {}, "no such class at all"), Log{"post"});
-    // Systems differ in whether such a window gets a WM_DESTROY before the last message.
-    const auto withoutDestroy = [](Log steps) {
-        steps.erase(std::remove(steps.begin(), steps.end(), "destroy"), steps.end());
-        return steps;
-    };
-    EXPECT_EQ(withoutDestroy(failsWith([](LoggedWnd& window) { window.createAnswer = -1; }, plain.c_str())),
+    EXPECT_EQ(failsWith([](LoggedWnd& window) { window.createAnswer = -1; }, plain.c_str()),
               (Log{"subclass", "nccreate", "create", "ncdestroy", "post"}));
-    EXPECT_EQ(
-        withoutDestroy(failsWith([](LoggedWnd& window) { window.ncCreateAnswer = FALSE; }, plain.c_str())),
-        (Log{"subclass", "nccreate", "ncdestroy", "post"}));
+    EXPECT_EQ(failsWith([](LoggedWnd& window) { window.ncCreateAnswer = FALSE; }, plain.c_str()),
+              (Log{"subclass", "nccreate", "ncdestroy", "post"}));
 
     // After all that, the next window of somebody else's is not taken for one of ours.
-    const HWND foreign =
-        ::CreateWindow("STATIC", "", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    const HWND foreign = CreateForeign("STATIC");
     ASSERT_NE(foreign, nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
     ::DestroyWindow(foreign);
 }
 
 TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
-    const auto foreign = [] {
-        return ::CreateWindow("STATIC", "", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
-    };
-    const HWND given = foreign();
+    const HWND given = CreateForeign("STATIC");
     {
         CWnd window;
         EXPECT_FALSE(window.Attach(nullptr));
@@ -242,7 +229,7 @@ TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
         EXPECT_EQ(window.m_hWnd, nullptr);
     }
     EXPECT_FALSE(::IsWindow(given));
-    const HWND kept = foreign();
+    const HWND kept = CreateForeign("STATIC");
     {
         CWnd window;
         window.Attach(kept);
@@ -252,8 +239,7 @@ TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
 }
 
 TEST_F(LifetimeTest, AttachingDoesNotRouteMessages) {
-    const HWND foreign =
-        ::CreateWindow("STATIC", "", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    const HWND foreign = CreateForeign("STATIC");
     LoggedWnd window(log);
     window.Attach(foreign);
     window.SendMessage(dieMessage);
@@ -290,18 +276,15 @@ TEST_F(LifetimeTest, AFrameDeletesItselfAlsoWhenItsCreationFails) {
         Log& m_log;
         bool m_fails;
     };
-    auto* frame = new Frame(log, false);
+    auto* const frame = new Frame(log, false);
     ASSERT_TRUE(frame->Create(nullptr, "frame"));
     EXPECT_TRUE(log.empty());
     frame->SendMessage(WM_CLOSE);
-    EXPECT_EQ(log, Log{"deleted"});
-    log.clear();
-    frame = new Frame(log, true);
-    EXPECT_FALSE(frame->Create(nullptr, "frame"));
-    EXPECT_EQ(log, Log{"deleted"});
-    log.clear();
-    frame = new Frame(log, false);
+    EXPECT_EQ(Taken(log), Log{"deleted"});
+    EXPECT_FALSE((new Frame(log, true))->Create(nullptr, "frame"));
+    EXPECT_EQ(Taken(log), Log{"deleted"});
     EXPECT_FALSE(
-        frame->Create(nullptr, "frame", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
+        (new Frame(log, false))
+            ->Create(nullptr, "frame", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr, "NoSuchMenu"));
     EXPECT_EQ(log, Log{"deleted"});
 }

@@ -21,6 +21,8 @@ std::string Loaded(UINT id) {
 /// Kavlix.dll as an extension DLL of this program.
 class ModuleTest : public testing::Test {
 protected:
+    /// Any module will do as a link: they are told apart by their version resources.
+    static HINSTANCE VersionOwner() { return AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION); }
     void SetUp() override {
         kavlix = AfxLoadLibrary("Kavlix.dll");
         ASSERT_NE(kavlix, nullptr);
@@ -56,7 +58,7 @@ TEST_F(ModuleTest, TheResourceModuleComesFirst) {
     const std::string ofKavlix = Loaded(kavlixString);
     AfxSetResourceHandle(kavlix);
     EXPECT_EQ(AfxGetResourceHandle(), kavlix);
-    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION), kavlix);
+    EXPECT_EQ(VersionOwner(), kavlix);
     EXPECT_EQ(Loaded(kavlixString), ofKavlix);
     EXPECT_EQ(Loaded(IDS_IN_KAVLIX_BLOCK), "the program's own") << "and the program second";
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDR_FRAME), RT_MENU), program);
@@ -64,20 +66,17 @@ TEST_F(ModuleTest, TheResourceModuleComesFirst) {
 }
 
 TEST_F(ModuleTest, LinksAreSearchedLastFirstAndSystemOnesAtTheEnd) {
-    // Any module will do as a link: these hold no string of their own here but tell them apart by a version
-    // resource.
-    const auto versionOwner = [] { return AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION); };
     const HINSTANCE user = ::GetModuleHandle("user32.dll");
     const HINSTANCE gdi = ::GetModuleHandle("gdi32.dll");
-    ASSERT_EQ(versionOwner(), kavlix) << "the test program has none of its own";
+    ASSERT_EQ(VersionOwner(), kavlix) << "the test program has none of its own";
     auto* const first = new CDynLinkLibrary(user, user);
-    EXPECT_EQ(versionOwner(), user);
+    EXPECT_EQ(VersionOwner(), user);
     auto* const second = new CDynLinkLibrary(gdi, gdi);
-    EXPECT_EQ(versionOwner(), gdi);
+    EXPECT_EQ(VersionOwner(), gdi);
     second->m_bSystem = TRUE;
-    EXPECT_EQ(versionOwner(), user);
+    EXPECT_EQ(VersionOwner(), user);
     delete first;
-    EXPECT_EQ(versionOwner(), kavlix);
+    EXPECT_EQ(VersionOwner(), kavlix);
     delete second;
 }
 
@@ -89,7 +88,7 @@ TEST_F(ModuleTest, AnExtensionModulesLinksAndClassesEndWithIt) {
     EXPECT_EQ(module.hModule, dll);
     EXPECT_EQ(module.hResource, dll);
     new CDynLinkLibrary(module);
-    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION), dll);
+    EXPECT_EQ(VersionOwner(), dll);
 
     WNDCLASS ofDll{};
     ofDll.lpfnWndProc = ::DefWindowProc;
@@ -103,7 +102,7 @@ TEST_F(ModuleTest, AnExtensionModulesLinksAndClassesEndWithIt) {
     EXPECT_TRUE(AfxRegisterClass(&ofProgram));
 
     AfxTermExtensionModule(module);
-    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION), kavlix);
+    EXPECT_EQ(VersionOwner(), kavlix);
     WNDCLASS found{};
     EXPECT_FALSE(::GetClassInfo(dll, "ModuleTestOfDll", &found));
     EXPECT_TRUE(::GetClassInfo(program, "ModuleTestOfProgram", &found));

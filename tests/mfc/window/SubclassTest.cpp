@@ -2,18 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using windowkit::CreateTop;
 using windowkit::MapCounts;
+using Received = std::tuple<UINT, WPARAM, LPARAM>; // a message
 
 namespace {
 
 constexpr UINT plainMessage = WM_USER + 10;
-
-struct Received {
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
-};
 
 std::vector<Received> g_original; // what the window's own procedure got
 
@@ -26,7 +23,6 @@ LRESULT CALLBACK OriginalProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     return ::DefWindowProc(window, message, wParam, lParam);
 }
 
-LRESULT CALLBACK OuterProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 WNDPROC g_belowOuter = nullptr;
 
 LRESULT CALLBACK OuterProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -37,7 +33,7 @@ class SubclassedWnd : public CWnd {
 public:
     int handled = 0;
     int presubclassed = 0;
-    MSG seen{};
+    Received seen;
     WNDPROC Former() { return *GetSuperWndProcAddr(); }
 
     void PreSubclassWindow() override {
@@ -49,7 +45,9 @@ public:
 protected:
     LRESULT OnPlain(WPARAM, LPARAM) {
         ++handled;
-        seen = *GetCurrentMessage();
+        const MSG* const current = GetCurrentMessage();
+        EXPECT_EQ(current->hwnd, m_hWnd);
+        seen = {current->message, current->wParam, current->lParam};
         return Default() + 100;
     }
     void OnSize(UINT type, int, int) {
@@ -73,8 +71,7 @@ protected:
         windowClass.lpszClassName = "SubclassTestWindow";
         ASSERT_TRUE(AfxRegisterClass(&windowClass));
         ASSERT_TRUE(CreateTop(parent));
-        target = ::CreateWindow("SubclassTestWindow", "", WS_CHILD, 0, 0, 10, 10, parent.m_hWnd,
-                                reinterpret_cast<HMENU>(9), windowClass.hInstance, nullptr);
+        target = windowkit::CreateForeign("SubclassTestWindow", &parent, 9);
         ASSERT_NE(target, nullptr);
         g_original.clear();
     }
@@ -95,19 +92,10 @@ TEST_F(SubclassTest, HandlersComeFirstAndDefaultGoesToTheFormerProcedureWithTheO
     EXPECT_EQ(window.Former(), &OriginalProc);
 
     EXPECT_EQ(::SendMessage(target, plainMessage, 3, 4), 111);
-    ASSERT_EQ(g_original.size(), 1u);
-    EXPECT_EQ(g_original[0].wParam, 3u);
-    EXPECT_EQ(g_original[0].lParam, 4);
-    EXPECT_EQ(window.seen.hwnd, target);
-    EXPECT_EQ(window.seen.message, plainMessage);
-    EXPECT_EQ(window.seen.wParam, 3u);
-    EXPECT_EQ(window.seen.lParam, 4);
-
-    g_original.clear();
+    const Received plain{plainMessage, 3, 4};
+    EXPECT_EQ(window.seen, plain);
     ::SendMessage(target, WM_SIZE, SIZE_RESTORED, MAKELPARAM(70, 80));
-    ASSERT_EQ(g_original.size(), 1u);
-    EXPECT_EQ(g_original[0].wParam, static_cast<WPARAM>(SIZE_RESTORED));
-    EXPECT_EQ(g_original[0].lParam, MAKELPARAM(70, 80));
+    EXPECT_EQ(g_original, (std::vector<Received>{plain, {WM_SIZE, SIZE_RESTORED, MAKELPARAM(70, 80)}}));
 }
 
 TEST_F(SubclassTest, UnsubclassingPutsEverythingBack) {
@@ -155,9 +143,13 @@ TEST_F(SubclassTest, TheFormerProcedureSeesTheWindowGo) {
     ASSERT_TRUE(window.SubclassWindow(target));
     ::DestroyWindow(target);
     EXPECT_EQ(window.m_hWnd, nullptr);
-    ASSERT_FALSE(g_original.empty());
-    EXPECT_EQ(g_original.back().message, static_cast<UINT>(WM_NCDESTROY));
+    EXPECT_EQ(g_original, (std::vector<Received>{{WM_NCDESTROY, 0, 0}}));
     EXPECT_EQ(window.Former(), nullptr) << "the object is as new";
+}
+
+TEST_F(SubclassTest, DeletingTheObjectOfASubclassedWindowDestroysTheWindow) {
+    ASSERT_TRUE(SubclassedWnd().SubclassWindow(target));
+    EXPECT_FALSE(::IsWindow(target));
 }
 
 TEST_F(SubclassTest, ASubclasserOnTopKeepsItsPlaceUntilTheEnd) {
@@ -169,13 +161,5 @@ TEST_F(SubclassTest, ASubclasserOnTopKeepsItsPlaceUntilTheEnd) {
     EXPECT_EQ(::SendMessage(target, plainMessage, 0, 0), 111);
     ::DestroyWindow(target);
     EXPECT_EQ(window.m_hWnd, nullptr);
-    EXPECT_EQ(g_original.back().message, static_cast<UINT>(WM_NCDESTROY));
-}
-
-TEST_F(SubclassTest, DeletingTheObjectOfASubclassedWindowDestroysTheWindow) {
-    {
-        SubclassedWnd window;
-        ASSERT_TRUE(window.SubclassWindow(target));
-    }
-    EXPECT_FALSE(::IsWindow(target));
+    EXPECT_EQ(g_original.back(), Received(WM_NCDESTROY, 0, 0));
 }

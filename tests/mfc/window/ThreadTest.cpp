@@ -8,6 +8,7 @@
 #include <afxpriv.h>
 
 using windowkit::CreateTop;
+using windowkit::Log;
 
 namespace {
 
@@ -45,7 +46,7 @@ END_MESSAGE_MAP()
 class LoopWnd : public CWnd {
 public:
     int endsWhenIdleWith = 0; ///< not 0: ends the modal loop at the second idle moment in a row
-    std::vector<std::string> log;
+    Log log;
 
 protected:
     LRESULT OnIdleUpdate(WPARAM, LPARAM) {
@@ -53,28 +54,21 @@ protected:
         return 0;
     }
     LRESULT OnKickIdle(WPARAM, LPARAM count) {
-        log.push_back("kick " + std::to_string(count));
+        log.push_back(windowkit::Note("kick", count));
         if (count >= 1 && endsWhenIdleWith != 0)
             EndModalLoop(endsWhenIdleWith);
         return count < 1;
     }
     void OnEnterIdle(UINT why, CWnd* who) {
-        log.push_back("enter idle " + std::to_string(why) + (who != nullptr ? "" : " nobody"));
-    }
-    LRESULT OnVanish(WPARAM, LPARAM) {
-        DestroyWindow();
-        return 0;
+        log.push_back(windowkit::Note("enter idle", why, who != nullptr));
     }
     DECLARE_MESSAGE_MAP()
 };
-
-constexpr UINT vanishMessage = WM_USER + 2;
 
 BEGIN_MESSAGE_MAP(LoopWnd, CWnd)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &LoopWnd::OnIdleUpdate)
     ON_MESSAGE(WM_KICKIDLE, &LoopWnd::OnKickIdle)
     ON_WM_ENTERIDLE()
-    ON_MESSAGE(vanishMessage, &LoopWnd::OnVanish)
 END_MESSAGE_MAP()
 
 class ThreadTest : public testing::Test {
@@ -108,30 +102,29 @@ TEST_F(ThreadTest, IdleTimeComesInCountsAndUpdatesVisibleWindows) {
     ASSERT_TRUE(CreateTop(main));
     ASSERT_TRUE(windowkit::CreateChild(child, main, 3));
     app.m_pMainWnd = &main;
-    for (LONG count = 0; app.OnIdle(count); ++count) {
-    }
+    windowkit::RunIdle();
     EXPECT_EQ(app.idle, (std::vector<LONG>{0, 1}));
     EXPECT_TRUE(main.log.empty()) << "hidden";
     main.ShowWindow(SW_SHOWNA);
     app.OnIdle(0);
     app.OnIdle(1);
-    EXPECT_EQ(main.log, std::vector<std::string>{"update"});
-    EXPECT_EQ(child.log, std::vector<std::string>{"update"});
+    EXPECT_EQ(main.log, Log{"update"});
+    EXPECT_EQ(child.log, Log{"update"});
     app.m_pMainWnd = nullptr;
 }
 
 TEST_F(ThreadTest, SomeMessagesAreNoReasonForIdleWork) {
-    MSG message{};
-    message.message = WM_PAINT;
-    EXPECT_FALSE(app.IsIdleMessage(&message));
-    message.message = WM_KEYDOWN;
-    EXPECT_TRUE(app.IsIdleMessage(&message));
-    message.message = WM_MOUSEMOVE;
-    message.pt = {10, 20};
-    EXPECT_TRUE(app.IsIdleMessage(&message));
-    EXPECT_FALSE(app.IsIdleMessage(&message)) << "the mouse has not moved";
-    message.pt = {11, 20};
-    EXPECT_TRUE(app.IsIdleMessage(&message));
+    const auto isReason = [&](UINT message, POINT at) {
+        MSG asked{};
+        asked.message = message;
+        asked.pt = at;
+        return app.IsIdleMessage(&asked) != FALSE;
+    };
+    EXPECT_FALSE(isReason(WM_PAINT, {0, 0}));
+    EXPECT_TRUE(isReason(WM_KEYDOWN, {0, 0}));
+    EXPECT_TRUE(isReason(WM_MOUSEMOVE, {10, 20}));
+    EXPECT_FALSE(isReason(WM_MOUSEMOVE, {10, 20})) << "the mouse has not moved";
+    EXPECT_TRUE(isReason(WM_MOUSEMOVE, {11, 20}));
 }
 
 TEST_F(ThreadTest, AModalLoopEndsWithTheResultItIsGiven) {
@@ -146,14 +139,14 @@ TEST_F(ThreadTest, AModalLoopEndsWithTheResultItIsGiven) {
     EXPECT_EQ(modal.log.front(), "kick 0");
     EXPECT_EQ(modal.log.back(), "kick 1");
     ASSERT_FALSE(owner.log.empty());
-    EXPECT_EQ(owner.log[0], "enter idle " + std::to_string(MSGF_DIALOGBOX));
+    EXPECT_EQ(owner.log[0], windowkit::Note("enter idle", MSGF_DIALOGBOX, true));
     EXPECT_FALSE(modal.ContinueModal());
 }
 
 TEST_F(ThreadTest, AModalLoopDoesNotOutliveItsWindowOrTheProgram) {
     LoopWnd modal;
     ASSERT_TRUE(CreateTop(modal));
-    modal.PostMessage(vanishMessage);
+    modal.PostMessage(WM_CLOSE); // whose default is to destroy the window
     EXPECT_EQ(modal.RunModalLoop(MLF_NOIDLEMSG | MLF_NOKICKIDLE), -1);
     EXPECT_EQ(modal.m_hWnd, nullptr);
     EXPECT_TRUE(modal.log.empty());

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using windowkit::CreateChild;
 using windowkit::CreateTop;
 
@@ -42,15 +44,15 @@ protected:
 TEST_F(WindowApiTest, CenteringKeepsTheWindowInsideItsArea) {
     CWnd child;
     ASSERT_TRUE(CreateChild(child, window, 1));
-    child.CenterWindow();
-    CRect rect = RectOf(child);
-    window.ScreenToClient(&rect);
-    EXPECT_EQ(rect, CRect(CPoint(75, 40), CSize(50, 20))) << "50 x 20 in 200 x 100";
+    const auto centred = [&] {
+        child.CenterWindow();
+        CRect rect = RectOf(child);
+        window.ScreenToClient(&rect);
+        return rect;
+    };
+    EXPECT_EQ(centred(), CRect(CPoint(75, 40), CSize(50, 20))) << "50 x 20 in 200 x 100";
     child.SetWindowPos(nullptr, 0, 0, 300, 20, SWP_NOZORDER);
-    child.CenterWindow();
-    rect = RectOf(child);
-    window.ScreenToClient(&rect);
-    EXPECT_EQ(rect.left, 0) << "too wide: the left edge stays in sight";
+    EXPECT_EQ(centred().left, 0) << "too wide: the left edge stays in sight";
 
     window.CenterWindow();
     CRect work;
@@ -74,9 +76,7 @@ TEST_F(WindowApiTest, AScrollBarControlStandsInForTheWindowsBar) {
     EXPECT_EQ(window.GetScrollLimit(SB_HORZ), 70);
     SCROLLINFO read{};
     EXPECT_TRUE(window.GetScrollInfo(SB_HORZ, &read));
-    EXPECT_EQ(read.nMin, 10);
-    EXPECT_EQ(read.nMax, 90);
-    EXPECT_EQ(read.nPage, 21u);
+    EXPECT_EQ(std::tuple(read.nMin, read.nMax, read.nPage), std::tuple(10, 90, 21u));
 }
 
 TEST_F(WindowApiTest, ScrollingAHiddenWindowMovesItsChildren) {
@@ -103,9 +103,7 @@ TEST_F(WindowApiTest, TextsOfAnyLengthComeBackWhole) {
 }
 
 TEST_F(WindowApiTest, AnExchangeIsNotTakenForTheUsersInput) {
-    const HWND edit = ::CreateWindow("EDIT", "", WS_CHILD, 0, 0, 50, 20, window.m_hWnd,
-                                     reinterpret_cast<HMENU>(4), nullptr, nullptr);
-    ASSERT_NE(edit, nullptr);
+    ASSERT_NE(windowkit::CreateForeign("EDIT", &window, 4), nullptr);
     ASSERT_TRUE(window.UpdateData(FALSE));
     CString text;
     window.GetDlgItemText(4, text);

@@ -2,11 +2,28 @@
 
 #include <afxwin.h>
 
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace windowkit {
 
+/// What happened, in order.
+using Log = std::vector<std::string>;
+
+/// The parts with blanks between them.
+template <class FIRST, class... PARTS> std::string Note(const FIRST& first, const PARTS&... parts) {
+    std::ostringstream text;
+    text << first;
+    ((text << ' ' << parts), ...);
+    return text.str();
+}
+
+/// What is in the log, which is empty afterwards.
+inline Log Taken(Log& log) {
+    return std::exchange(log, {});
+}
 /// Makes a hidden top-level window of a plain class for `window`. A popup: showing it needs no window
 /// manager.
 inline BOOL CreateTop(CWnd& window) {
@@ -17,6 +34,20 @@ inline BOOL CreateTop(CWnd& window) {
 /// Makes a child with the command ID `id`.
 inline BOOL CreateChild(CWnd& window, CWnd& parent, UINT id) {
     return window.Create(nullptr, "child", WS_CHILD, CRect(0, 0, 50, 20), &parent, id);
+}
+
+/// Makes a hidden window of a class of the system's, which no object knows: with `parent`, a child of the ID
+/// `id`.
+inline HWND CreateForeign(LPCTSTR className, CWnd* parent = nullptr, int id = 0, DWORD style = 0) {
+    return ::CreateWindow(className, "", style | (parent != nullptr ? WS_CHILD : 0), 0, 0, 10, 10,
+                          parent != nullptr ? parent->m_hWnd : nullptr,
+                          reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), AfxGetInstanceHandle(), nullptr);
+}
+
+/// All the idle work of this thread.
+inline void RunIdle() {
+    for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
+    }
 }
 
 struct MapCounts {
@@ -43,8 +74,6 @@ public:
 
     std::vector<std::string> boxes;      ///< texts of message boxes
     std::vector<UINT> exceptionMessages; ///< messages whose handlers let an exception out
-    int idleCalls = 0;
-
     int DoMessageBox(LPCTSTR prompt, UINT, UINT) override {
         boxes.emplace_back(prompt);
         return IDOK;
@@ -52,10 +81,6 @@ public:
     LRESULT ProcessWndProcException(CException* e, const MSG* message) override {
         exceptionMessages.push_back(message->message);
         return CWinApp::ProcessWndProcException(e, message);
-    }
-    BOOL OnIdle(LONG count) override {
-        ++idleCalls;
-        return CWinApp::OnIdle(count);
     }
 };
 

@@ -55,21 +55,18 @@ BOOL CChartDraw::ChangeDataset(int nDataset, const std::function<void(Dataset&)>
 }
 
 BOOL CChartDraw::AddData(int nDataset, double x, double y) {
-    BOOL added = FALSE;
-    ChangeDataset(nDataset, [&](Dataset& dataset) {
-        added = ReportingExhaustion([&] { dataset.points.Append(x, y); });
-    });
-    return added;
+    if (!IsDataset(nDataset))
+        return FALSE;
+    m_Changed = true;
+    return ReportingExhaustion([&] { m_Datasets[static_cast<std::size_t>(nDataset)]->points.Append(x, y); });
 }
 
 BOOL CChartDraw::SetData(int nDataset, const double* pX, const double* pY, int nCount) {
-    if (nCount < 0 || (nCount > 0 && pY == nullptr))
+    if (nCount < 0 || (nCount > 0 && pY == nullptr) || !IsDataset(nDataset))
         return FALSE;
-    BOOL stored = FALSE;
-    ChangeDataset(nDataset, [&](Dataset& dataset) {
-        stored = ReportingExhaustion([&] { dataset.points.Assign(pX, pY, nCount); });
-    });
-    return stored;
+    m_Changed = true;
+    return ReportingExhaustion(
+        [&] { m_Datasets[static_cast<std::size_t>(nDataset)]->points.Assign(pX, pY, nCount); });
 }
 
 BOOL CChartDraw::ResetData(int nDataset) {

@@ -1,5 +1,5 @@
 #include "tests/graphctrl/GraphTest.h"
-#include "tests/support/ImportHook.h"
+#include "tests/support/FailingAllocations.h"
 #include "tests/support/MessageBoxWatcher.h"
 
 #include <cmath>
@@ -296,38 +296,21 @@ TEST(GraphDataTest, RandomCallsAgainstAModel) {
     }
 }
 
-namespace {
-
-/// How many more allocations inside Kavlix.dll succeed; negative for all of them.
-int g_allocationsLeft = -1;
-int g_allocationsRefused = 0;
-
-void* FailingNew(std::size_t size) {
-    if (g_allocationsLeft >= 0 && g_allocationsLeft-- == 0) {
-        ++g_allocationsRefused;
-        throw std::bad_alloc();
-    }
-    return ::operator new(size);
-}
-
-} // namespace
-
 TEST(GraphDataTest, MemoryExhaustionIsToldAndChangesNothing) {
     OpenGraph graph;
     graph.AddData(0, 1, nullptr);
     testkit::MessageBoxWatcher watcher;
-    const char* const operator_new = sizeof(void*) == 8 ? "_Znwy" : "_Znwj";
-    const testkit::ImportHook hook("Kavlix.dll", operator_new, reinterpret_cast<void*>(&FailingNew));
-    ASSERT_TRUE(hook.Installed());
+    testkit::FailingAllocations memory;
+    ASSERT_TRUE(memory.Installed());
     int refused = 0;
     for (int i = 1; i < 5000 && refused < 3; ++i) {
         const double max = graph.m_XVisibleMax;
         double x = -7;
-        g_allocationsLeft = refused % 2; // a sample may ask for two pieces of memory
+        memory.FailAfter(refused % 2); // a sample may ask for two pieces of memory
         const BOOL added = graph.AddData(0, i, &x);
-        g_allocationsLeft = -1;
+        memory.FailAfter(-1);
         refused += !added;
-        ASSERT_EQ(refused, g_allocationsRefused) << "a refused allocation is a refused sample";
+        ASSERT_EQ(refused, memory.Refused()) << "a refused allocation is a refused sample";
         if (added)
             continue;
         EXPECT_EQ(x, -7);

@@ -17,8 +17,6 @@ namespace {
 constexpr int kPixelUnits = 30;
 /// So few samples of a column are drawn as they are.
 constexpr int kFewSamples = 4;
-/// Of so many samples with a gap among them, those without are looked for in either half.
-constexpr int kSamplesByHalves = 64;
 /// In columns of so many samples reading waits for memory, which is asked for some columns before.
 constexpr int kLongColumn = 256;
 constexpr std::ptrdiff_t kAhead = 6;
@@ -109,29 +107,43 @@ private:
     }
 
     template <class Strokes> void AddColumn(Strokes& strokes, const PixelColumn& column, int end) {
-        if (column.last - column.first >= kFewSamples) {
-            AddFullColumn(strokes, column, end);
-            return;
-        }
-        for (int i = column.first; i <= column.last; ++i)
-            AddSample(strokes, i, column);
-    }
-
-    template <class Strokes> void AddFullColumn(Strokes& strokes, const PixelColumn& column, int end) {
-        const int first = column.first;
-        const int last = column.last;
-        Extremes extremes = m_samples.ExtremesOf(first, last);
-        if (extremes.HasGap() && last - first >= kSamplesByHalves) {
-            const int middle = first + (last - first) / 2;
-            AddFullColumn(strokes, Cut(column, first, middle), end);
-            AddFullColumn(strokes, Cut(column, middle + 1, last), end);
-            return;
-        }
-        if (extremes.HasGap()) {
-            for (int i = first; i <= last; ++i)
+        if (column.last - column.first < kFewSamples) {
+            for (int i = column.first; i <= column.last; ++i)
                 AddSample(strokes, i, column);
             return;
         }
+        const Extremes extremes = m_samples.ExtremesOf(column.first, column.last);
+        if (extremes.HasGap())
+            AddBetweenGaps(strokes, column, end);
+        else
+            AddWithoutGap(strokes, column, end, extremes);
+    }
+
+    /// Draws the parts of a column that its gaps leave.
+    template <class Strokes> void AddBetweenGaps(Strokes& strokes, const PixelColumn& column, int end) {
+        std::vector<int> gaps; // from the last one on
+        for (int last = column.last; last >= column.first; --last) {
+            last = m_samples.FindLast(
+                column.first, last, [](const Extremes& block) { return !block.HasGap(); },
+                [](double value) { return std::isnan(value); });
+            if (last >= column.first)
+                gaps.push_back(last);
+        }
+        int first = column.first;
+        for (auto gap = gaps.rbegin(); gap != gaps.rend(); ++gap) {
+            if (first < *gap)
+                AddColumn(strokes, Cut(column, first, *gap - 1), end);
+            strokes.End();
+            first = *gap + 1;
+        }
+        if (first <= column.last)
+            AddColumn(strokes, Cut(column, first, column.last), end);
+    }
+
+    template <class Strokes>
+    void AddWithoutGap(Strokes& strokes, const PixelColumn& column, int end, Extremes extremes) {
+        const int first = column.first;
+        const int last = column.last;
         AddSample(strokes, first, column);
         int before = -1;
         if (last == end || std::isnan(m_values[last + 1])) {

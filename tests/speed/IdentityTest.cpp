@@ -339,8 +339,8 @@ TEST_F(IdentityTest, MarkersOfManySamples) {
 }
 
 TEST_F(IdentityTest, LinesEndWhereTheyShouldBeforeGapsAndMarks) {
-    // The last sample before a gap or the mark stands alone on its row, and the gap begins with a pixel
-    // column.
+    // The last samples before a gap or the mark, one or many, stand alone on their row, and the gap begins
+    // with a pixel column.
     plain::Graph<CGraphCtrl> graph;
     const CSize size(230, 190);
     ASSERT_NO_FATAL_FAILURE(Open(graph, size));
@@ -349,15 +349,16 @@ TEST_F(IdentityTest, LinesEndWhereTheyShouldBeforeGapsAndMarks) {
     for (unsigned seed = 0; seed < 60; ++seed) {
         Dice dice(seed);
         graph.ResetAll();
-        const int perColumn = 5 + dice.UpTo(60);
+        const int perColumn = 5 + dice.UpTo(seed % 4 == 3 ? 200 : 60);
+        const int flat = seed % 2 == 0 ? 1 : 1 + perColumn * 2 / 3;
         const int plotColumns = graph.m_rectPlot.Width() / 30;
         const int count = plotColumns * perColumn;
         const int phase = dice.UpTo(perColumn - 1);
         for (int i = 0; i < count; ++i) {
-            const bool isGap = (i + phase) % perColumn == 0, isBefore = (i + 1 + phase) % perColumn == 0;
+            const bool isGap = (i + phase) % perColumn == 0, isBefore = (i + flat + phase) % perColumn < flat;
             graph.AddData(0,
                           isGap && seed % 3 != 0 ? std::nan("")
-                          : isBefore             ? dice.Within(80, 99)
+                          : isBefore             ? (flat > 1 ? 10 : dice.Within(80, 99))
                                                  : dice.Within(20, 70),
                           nullptr);
         }

@@ -76,7 +76,7 @@ public:
         CPen pens[kPens];
         CBrush brush;
         for (int i = 0; i < kPens; ++i)
-            if (!pens[i].CreatePen(PS_SOLID, i * kUnits * 2 / 3, kColour))
+            if (!pens[i].CreatePen(PS_SOLID, i * kUnitsPerPixel * 2 / 3, kColour))
                 return false;
         if (!scratch.IsReady() || !brush.CreateSolidBrush(kColour))
             return false;
@@ -88,7 +88,6 @@ public:
 
 private:
     static constexpr int kSide = 48;
-    static constexpr int kUnits = 30;
     static constexpr int kPens = 3;
     static constexpr COLORREF kColour = RGB(1, 2, 3);
 
@@ -98,19 +97,18 @@ private:
         const std::uint32_t colour = *DirectColour(kColour);
         // Ends inside and outside the picture, on pixels and between them, in all directions.
         for (int i = 0; i < 96; ++i) {
-            POINT ends[2] = {{kUnits * 24 + i % 5 * 4, kUnits * 24 - i % 7 * 3},
-                             {kUnits * (24 + (i * 37 + 5) % 61 - 30) + i % 3 * 7,
-                              kUnits * (24 + (i * 23 + 11) % 59 - 29) - i % 4 * 6}};
+            POINT ends[2] = {{kUnitsPerPixel * 24 + i % 5 * 4, kUnitsPerPixel * 24 - i % 7 * 3},
+                             {kUnitsPerPixel * (24 + (i * 37 + 5) % 61 - 30) + i % 3 * 7,
+                              kUnitsPerPixel * (24 + (i * 23 + 11) % 59 - 29) - i % 4 * 6}};
             ::SelectObject(dc.GetSafeHdc(), pens[i % kPens].GetSafeHandle());
             dc.MoveTo(ends[0]);
             dc.LineTo(ends[1]);
             dc.LPtoDP(ends, 2);
-            const Point line[2] = {{ends[0].x, ends[0].y}, {ends[1].x, ends[1].y}};
             ThinLine strokes(raster, colour);
-            strokes.To(line[0].x, line[0].y);
-            strokes.To(line[1].x, line[1].y);
+            for (const POINT& end : ends)
+                strokes.To(static_cast<int>(end.x), static_cast<int>(end.y));
             strokes.End();
-            if (!Agree(platform, own, i % 8 == 7))
+            if (i % 8 == 7 && !Agree(platform, own))
                 return false;
         }
         dc.SelectStockObject(NULL_PEN);
@@ -120,11 +118,9 @@ private:
             dc.LPtoDP(corners, 2);
             raster.Fill(FilledByRectangle(corners[0], corners[1]), colour);
         }
-        return Agree(platform, own, true);
+        return Agree(platform, own);
     }
-    static bool Agree(const std::uint32_t* platform, const std::vector<std::uint32_t>& own, bool isDue) {
-        if (!isDue)
-            return true;
+    static bool Agree(const std::uint32_t* platform, const std::vector<std::uint32_t>& own) {
         ::GdiFlush();
         return std::memcmp(platform, own.data(), own.size() * sizeof own[0]) == 0;
     }
@@ -167,7 +163,6 @@ std::optional<std::uint32_t> DirectColour(COLORREF colour) {
 
 bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, PixelEdges& rows) {
     // A pixel begins half a pixel before its own place, give or take the rounding of that half.
-    constexpr int kUnits = 30;
     constexpr int kCandidates = 3;
     const CPoint origin = dc.GetViewportOrg();
     const int count = std::max(device.Width(), device.Height()) + 1;
@@ -176,8 +171,8 @@ bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, Pix
     std::vector<POINT> candidates;
     candidates.reserve(static_cast<std::size_t>(count) * kCandidates);
     for (int k = 0; k < count; ++k) {
-        const int x = kUnits * (device.left + k - origin.x) - kUnits / 2;
-        const int y = kUnits * (device.top + k - origin.y) - kUnits / 2;
+        const int x = kUnitsPerPixel * (device.left + k - origin.x) - kUnitsPerPixel / 2;
+        const int y = kUnitsPerPixel * (device.top + k - origin.y) - kUnitsPerPixel / 2;
         for (int c = -1; c < kCandidates - 1; ++c)
             candidates.push_back({x + c, y + c});
     }

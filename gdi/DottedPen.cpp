@@ -1,8 +1,7 @@
 #include "gdi/DottedPen.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <utility>
+#include <vector>
 
 #include "gdi/Guards.h"
 #include "gdi/Scratch.h"

@@ -3,7 +3,6 @@
 #include <afxwin.h>
 
 #include <optional>
-#include <vector>
 
 #include "gdi/DirectPaint.h"
 

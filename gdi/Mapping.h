@@ -4,10 +4,12 @@
 
 namespace kavlix {
 
+inline constexpr int kUnitsPerPixel = 30;
+
 /// The controls' own mapping: 30 logical units per pixel, y downwards, all origins 0.
 inline void SetControlMapping(CDC& dc) {
-    constexpr int kWindowExtent = 15000;
     constexpr int kViewportExtent = 500;
+    constexpr int kWindowExtent = kViewportExtent * kUnitsPerPixel;
     dc.SetMapMode(MM_ANISOTROPIC);
     dc.SetWindowExt(kWindowExtent, kWindowExtent);
     dc.SetWindowOrg(0, 0);

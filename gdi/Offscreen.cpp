@@ -8,7 +8,9 @@ namespace {
 
 constexpr int kDirectBits = 32;
 
-HBITMAP MakeDibSection(HDC dc, CSize size) {
+} // namespace
+
+HBITMAP MakeDirectBitmap(HDC dc, CSize size, void** pixels) {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = size.cx;
@@ -16,17 +18,18 @@ HBITMAP MakeDibSection(HDC dc, CSize size) {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = kDirectBits;
     info.bmiHeader.biCompression = BI_RGB;
-    void* pixels = nullptr;
-    return ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    void* memory = nullptr;
+    const HBITMAP made = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &memory, nullptr, 0);
+    if (pixels != nullptr)
+        *pixels = memory;
+    return made;
 }
-
-} // namespace
 
 Offscreen::Offscreen(CDC& target, CSize size) : m_size(size) {
     if (size.cx <= 0 || size.cy <= 0 || !m_dc.CreateCompatibleDC(&target))
         return;
     const int bits = target.GetDeviceCaps(BITSPIXEL) * target.GetDeviceCaps(PLANES);
-    HBITMAP made = bits == kDirectBits ? MakeDibSection(target.GetSafeHdc(), size) : nullptr;
+    HBITMAP made = bits == kDirectBits ? MakeDirectBitmap(target.GetSafeHdc(), size) : nullptr;
     if (made == nullptr)
         made = ::CreateCompatibleBitmap(target.GetSafeHdc(), size.cx, size.cy);
     if (made != nullptr && m_bitmap.Attach(made))

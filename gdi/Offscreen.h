@@ -6,6 +6,10 @@
 
 namespace kavlix {
 
+/// Makes a picture of 32-bit pixels in memory, rows from the top; null when it cannot be made. `pixels`
+/// receives where they lie, if it is not null. The bitmap is the caller's.
+HBITMAP MakeDirectBitmap(HDC dc, CSize size, void** pixels = nullptr);
+
 /// A memory DC with a bitmap, for a picture that is composed unseen and copied at once. What the bitmap holds
 /// at first is undefined. A control that paints often keeps one as long as its size stays: making the bitmap
 /// and having its fonts ready costs more than painting. On a screen whose colours have changed since, copying

@@ -4,21 +4,17 @@
 
 #include <cstdint>
 
+#include "gdi/Offscreen.h"
+
 namespace kavlix {
 
 /// A square picture of 32-bit pixels in memory, black at first, on which the platform shows how it paints.
 class Scratch {
 public:
     explicit Scratch(int side) : m_side(side) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = side;
-        info.bmiHeader.biHeight = -side; // row 0 on top
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
         void* memory = nullptr;
         if (!m_dc.CreateCompatibleDC(nullptr) ||
-            !m_bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0)))
+            !m_bitmap.Attach(MakeDirectBitmap(nullptr, CSize(side, side), &memory)))
             return;
         m_previous = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
         m_pixels = static_cast<const std::uint32_t*>(memory);

@@ -14,7 +14,6 @@ namespace kavlix {
 
 namespace {
 
-constexpr int kPixelUnits = 30;
 /// So few samples of a column are drawn as they are.
 constexpr int kFewSamples = 4;
 /// In columns of so many samples reading waits for memory, which is asked for some columns before.
@@ -239,7 +238,7 @@ ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositio
                   : IndexRange{std::min(all.first, ranges[i].first), std::max(all.last, ranges[i].last)};
     }
     CRect seen = m_plot;
-    seen.InflateRect(reach / kPixelUnits + 1, reach / kPixelUnits + 1);
+    seen.InflateRect(reach / kUnitsPerPixel + 1, reach / kUnitsPerPixel + 1);
     if (all.IsEmpty() || !IsPixelDevice(dc) || !xPositions.IsMonotonic(all) ||
         !FindPixelEdges(dc, seen, m_columnEdges, m_rowEdges))
         return;

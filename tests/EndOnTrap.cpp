@@ -1,0 +1,58 @@
+// Ends a test program at its first fault. Wine drops faults in code that the system has called (WM_PAINT,
+// WM_CREATE, hooks) and goes on as if the call had returned: a trapped paint would be repeated for ever.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const char* FaultName(DWORD code) {
+    switch (code) {
+    case EXCEPTION_ILLEGAL_INSTRUCTION:
+        return "illegal instruction: undefined behaviour or __builtin_trap";
+    case EXCEPTION_ACCESS_VIOLATION:
+        return "access violation";
+    case EXCEPTION_STACK_OVERFLOW:
+        return "stack overflow";
+    case EXCEPTION_INT_DIVIDE_BY_ZERO:
+    case EXCEPTION_INT_OVERFLOW:
+        return "integer division";
+    default:
+        return nullptr;
+    }
+}
+
+// System libraries probe foreign pointers and handle the fault themselves; the C runtime does not.
+bool IsHandledBySystem(HMODULE module) {
+    char system[MAX_PATH] = "", path[MAX_PATH] = "";
+    const UINT length = ::GetSystemDirectoryA(system, MAX_PATH);
+    ::GetModuleFileNameA(module, path, MAX_PATH);
+    return module != nullptr && ::_strnicmp(path, system, length) == 0 &&
+           module != ::GetModuleHandleA("msvcrt") && module != ::GetModuleHandleA("ucrtbase");
+}
+
+LONG CALLBACK EndOnFault(EXCEPTION_POINTERS* pointers) {
+    const EXCEPTION_RECORD& record = *pointers->ExceptionRecord;
+    const char* const fault = FaultName(record.ExceptionCode);
+    HMODULE module = nullptr;
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                             GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         static_cast<LPCSTR>(record.ExceptionAddress), &module);
+    if (fault == nullptr || IsHandledBySystem(module))
+        return EXCEPTION_CONTINUE_SEARCH;
+    const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
+    char line[512];
+    const int length = ::wsprintfA(
+        line, "\nFAULT %08lX (%s) at %p, module at %p, in test %.150s.%.150s\n", record.ExceptionCode, fault,
+        record.ExceptionAddress, module, test != nullptr ? test->test_suite_name() : "(none)",
+        test != nullptr ? test->name() : "");
+    DWORD written = 0;
+    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), line, static_cast<DWORD>(length), &written, nullptr);
+    ::TerminateProcess(::GetCurrentProcess(), record.ExceptionCode);
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+const PVOID installed = ::AddVectoredExceptionHandler(1, &EndOnFault);
+
+} // namespace

@@ -62,6 +62,7 @@ void GraphGrowth();
 void GraphDay();
 void ScrollPaint(int count);
 void ScrollWindow();
+void ScrollBack();
 void ChartPaint(int count);
 
 } // namespace bench

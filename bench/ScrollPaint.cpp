@@ -16,7 +16,8 @@ constexpr int kDay = 86400;
 
 class ScrollStage {
 public:
-    explicit ScrollStage(int count) : m_stage(kWidth, kHeight) {
+    /// Of the time stamps `stepsBack`, evenly spread, lie a second before their predecessors.
+    explicit ScrollStage(int count, int stepsBack = 0) : m_stage(kWidth, kHeight) {
         m_graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &m_stage, 1);
         m_graph.InitData();
         for (int i = 0; i < kSeries; ++i)
@@ -25,8 +26,11 @@ public:
         m_graph.SetYVisibleMin(-3);
         m_graph.SetYVisibleMax(3);
         m_graph.SetYTickLabelScale(1);
-        for (int i = 0; i < count; ++i)
-            m_graph.AddXTickLabel(kStart + i);
+        long time = kStart;
+        for (int i = 0; i < count; ++i) {
+            const bool isBack = stepsBack > 0 && i % (count / stepsBack) == count / stepsBack / 2;
+            m_graph.AddXTickLabel(time += isBack ? -1 : 1);
+        }
         for (int i = 0; i < kSeries; ++i)
             WalkSeries(i, count, [&](int, double value) { m_graph.AddDataForOffline(i, value, nullptr); });
         Pump();
@@ -64,6 +68,28 @@ void ScrollWindow() {
     Measure(stage, kDay, kDay);
     ScrollStage few(kHour);
     Measure(few, kHour, kHour);
+}
+
+void ScrollBack() {
+    constexpr int kStepsBack = 100;
+    ScrollStage even(kDay);
+    ScrollStage uneven(kDay, kStepsBack);
+    even.Show(kDay);
+    uneven.Show(kDay);
+    Picture picture(kWidth, kHeight);
+    std::vector<double> ratios;
+    std::vector<double> times;
+    for (int round = 0; round < 30; ++round) {
+        const auto paint = [&](ScrollStage& stage) {
+            return Time(1, 1, [&] { picture.Take(stage.Graph()); }).front();
+        };
+        const double time = paint(uneven);
+        times.push_back(time / kMicrosecondsPerMillisecond);
+        ratios.push_back(time / paint(even));
+    }
+    Row row("scroll_back");
+    row.Add("stored", kDay).Add("steps_back", kStepsBack);
+    AddSpread(row, "ms", times).Add("ratio", Quantile(ratios, kMedian)).Print();
 }
 
 } // namespace bench

@@ -239,11 +239,12 @@ ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositio
     }
     CRect seen = m_plot;
     seen.InflateRect(reach / kUnitsPerPixel + 1, reach / kUnitsPerPixel + 1);
-    if (all.IsEmpty() || !IsPixelDevice(dc) || !xPositions.IsMonotonic(all) ||
+    if (all.IsEmpty() || !IsPixelDevice(dc) || !xPositions.RunEnd(all) ||
         !FindPixelEdges(dc, seen, m_columnEdges, m_rowEdges))
         return;
-    m_columns =
-        GroupByColumn(all, m_columnEdges, [&](int index) { return xPositions.At(index).value_or(0); });
+    m_columns = GroupRunsByColumn(
+        all, m_columnEdges, [&](IndexRange rest) { return xPositions.RunEnd(rest); },
+        [&](int index) { return xPositions.At(index).value_or(0); });
     m_raster = DirectRaster(dc);
     if (m_raster && !IsInside(m_raster->Clip(), seen))
         m_raster.reset();

@@ -36,7 +36,7 @@ private:
     std::optional<PixelRaster> m_raster;
     PixelEdges m_columnEdges;
     PixelEdges m_rowEdges;
-    std::vector<PixelColumn> m_columns; ///< empty when positions follow no order
+    std::vector<PixelColumn> m_columns; ///< empty when positions must be walked
 };
 
 } // namespace kavlix

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "graphctrl/IndexRange.h"
@@ -65,7 +67,7 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
     std::vector<PixelColumn> columns;
     if (range.IsEmpty() || edges.IsEmpty())
         return columns;
-    columns.reserve(static_cast<std::size_t>(edges.Count()) + 2);
+    columns.reserve(static_cast<std::size_t>(std::min(edges.Count(), range.last - range.first)) + 2);
     const bool isAscending = at(range.first) <= at(range.last);
     // The first sample that does not lie before the edges.
     std::int64_t begin = range.first;
@@ -134,6 +136,40 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
         columns.push_back({first, static_cast<int>(inside), position, edges.Before() + 1 + pixel});
         guess = inside - next + 1;
         next = inside + 1;
+    }
+    return columns;
+}
+
+/// The same for positions that turn round now and then. `runEnd(rest)` is the last sample of the range `rest` up
+/// to which positions run one way; none where that is unknown, and then the result is empty. Around a turn the
+/// samples beyond the edges are kept too, since the line from one to the other may cross what is seen.
+template <class RunEnd, class Position>
+std::vector<PixelColumn> GroupRunsByColumn(IndexRange range, const PixelEdges& edges, RunEnd runEnd,
+                                           Position at) {
+    std::vector<PixelColumn> columns;
+    if (edges.IsEmpty())
+        return columns;
+    const auto keep = [&](int index) {
+        const int position = at(index);
+        columns.push_back({index, index, position, edges.PixelOrSide(position)});
+    };
+    for (std::int64_t next = range.first; next <= range.last;) {
+        const IndexRange rest{static_cast<int>(next), range.last};
+        const std::optional<int> end = runEnd(rest);
+        if (!end)
+            return {};
+        const std::vector<PixelColumn> run = GroupByColumn({rest.first, *end}, edges, at);
+        auto begin = run.begin();
+        if (rest.first > range.first) {
+            if (begin->first > rest.first)
+                keep(rest.first);
+            else if (edges.HasPixel(begin->pixel) && columns.back().pixel == begin->pixel)
+                columns.back().last = begin++->last;
+        }
+        columns.insert(columns.end(), begin, run.end());
+        if (*end < range.last && columns.back().last < *end)
+            keep(*end);
+        next = std::int64_t{*end} + 1;
     }
     return columns;
 }

@@ -16,7 +16,9 @@ class TimePositions : public XPositions {
 public:
     explicit TimePositions(const TimeMap& map) : m_map(map) {}
     std::optional<int> At(int index) const override { return m_map.Position(index); }
-    bool IsMonotonic(IndexRange range) const override { return m_map.IsMonotonic(range.first, range.last); }
+    std::optional<int> RunEnd(IndexRange range) const override {
+        return m_map.RunEnd(range.first, range.last);
+    }
 
 private:
     const TimeMap& m_map;

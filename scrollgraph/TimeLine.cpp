@@ -29,27 +29,35 @@ void TimeLine::Append(std::int32_t time) {
     if (m_times.Size() >= static_cast<std::size_t>(std::numeric_limits<int>::max()))
         throw std::bad_alloc();
     const bool stepsBack = !m_times.IsEmpty() && time < m_times.Back();
-    m_times.Add(time);
     if (stepsBack)
-        m_lastStepBack = Size() - 1;
+        m_stepsBack.push_back(m_removed + Size());
+    try {
+        m_times.Add(time);
+    } catch (...) {
+        if (stepsBack)
+            m_stepsBack.pop_back();
+        throw;
+    }
 }
 
 void TimeLine::RemoveHead(int count) {
     const int removed = std::clamp(count, 0, Size());
     m_times.RemoveHead(static_cast<std::size_t>(removed));
-    m_lastStepBack = std::max(m_lastStepBack - removed, 0);
+    m_removed += removed;
+    while (!m_stepsBack.empty() && m_stepsBack.front() <= m_removed)
+        m_stepsBack.pop_front();
 }
 
 void TimeLine::Clear() {
     m_times.Clear();
-    m_lastStepBack = 0;
+    m_stepsBack.clear();
 }
 
 void TimeLine::KeepOne() {
     if (m_times.IsEmpty())
         m_times.Add(0);
     m_times.KeepOne();
-    m_lastStepBack = 0;
+    m_stepsBack.clear();
 }
 
 int TimeLine::LowerBound(double x) const {
@@ -75,10 +83,16 @@ int TimeLine::UpperBound(int first, double viewWidth) const {
                           : Size() - 1;
 }
 
-bool TimeLine::GrowsAlong(int first, int last) const {
+std::optional<int> TimeLine::RunEnd(int first, int last) const {
     constexpr std::int64_t farthest = std::numeric_limits<std::int32_t>::max() / kXUnitsPerSecond;
     const auto fromOrigin = [this](int index) { return std::int64_t{Stamp(index)} - Stamp(0); };
-    return m_lastStepBack <= first && fromOrigin(first) >= -farthest && fromOrigin(last) <= farthest;
+    const auto next = std::upper_bound(m_stepsBack.begin(), m_stepsBack.end(), m_removed + first);
+    const int end = next == m_stepsBack.end()
+                        ? last
+                        : static_cast<int>(std::min<std::int64_t>(last, *next - m_removed - 1));
+    if (fromOrigin(first) < -farthest || fromOrigin(end) > farthest)
+        return std::nullopt;
+    return end;
 }
 
 } // namespace kavlix

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
+#include <optional>
 
 #include "scrollgraph/StampStore.h"
 
@@ -44,15 +46,18 @@ public:
     /// there is one sample a second. Hosts rely on the odd end: Size() itself, not Size() - 1, comes out when
     /// the room ends exactly there.
     int UpperBound(int first, double viewWidth) const;
-    /// Whether x never decreases from sample `first` to `last`, both existing: no stamp steps back, and none
-    /// is so far from the origin that its x wraps round. True only when that is known without a walk.
-    bool GrowsAlong(int first, int last) const;
+    /// The last sample, at most `last`, up to which x never decreases from sample `first` on: the stamp behind
+    /// it steps back. None where a stamp between is so far from the origin that its x wraps round. Both samples
+    /// exist, `first` not behind `last`. A search among the stamps that step back, no walk.
+    std::optional<int> RunEnd(int first, int last) const;
 
 private:
     std::int32_t Stamp(int index) const { return m_times[static_cast<std::size_t>(index)]; }
 
     StampStore m_times;
-    int m_lastStepBack = 0; ///< the last index whose stamp is before its predecessor's; 0 for none
+    std::int64_t m_removed = 0; ///< stamps dropped from the head so far
+    /// The stamps that are before their predecessors, ascending, each by its index when nothing was dropped.
+    std::deque<std::int64_t> m_stepsBack;
 };
 
 } // namespace kavlix

@@ -17,21 +17,30 @@ std::optional<int> TimeMap::Position(int index) const {
     return ToCoordinate(position);
 }
 
-bool TimeMap::IsMonotonic(int first, int last) const {
-    return m_viewWidth != 0 && std::isfinite(m_viewPos) && std::isfinite(m_viewWidth) && m_times.Has(first) &&
-           m_times.Has(last) && m_times.GrowsAlong(first, last);
+std::optional<int> TimeMap::RunEnd(int first, int last) const {
+    if (m_viewWidth == 0 || !std::isfinite(m_viewPos) || !std::isfinite(m_viewWidth) || !m_times.Has(first) ||
+        !m_times.Has(last))
+        return std::nullopt;
+    return m_times.RunEnd(first, last);
 }
 
 int TimeMap::Nearest(int first, int last, int x) const {
     if (first > last || m_viewWidth == 0 || !std::isfinite(m_viewPos) || !std::isfinite(m_viewWidth))
         return -1;
     const auto at = [this](int index) { return Position(index).value_or(m_left); };
-    if (m_times.GrowsAlong(first, last))
-        return NearestInOrder(first, last, (m_viewWidth > 0) == (m_width > 0), x, at);
     int best = first;
-    for (int i = first + 1; i <= last; ++i)
-        if (std::abs(at(i) - x) < std::abs(at(best) - x))
-            best = i;
+    const auto take = [&](int index) {
+        if (std::abs(at(index) - x) < std::abs(at(best) - x))
+            best = index;
+    };
+    for (int next = first; next <= last;) {
+        const std::optional<int> end = m_times.RunEnd(next, last);
+        if (end)
+            take(NearestInOrder(next, *end, (m_viewWidth > 0) == (m_width > 0), x, at));
+        else
+            take(next);
+        next = end.value_or(next) + 1;
+    }
     return best;
 }
 

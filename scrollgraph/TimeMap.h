@@ -19,13 +19,13 @@ public:
     /// view without width.
     std::optional<int> Position(int index) const;
 
-    /// Whether the samples `first` to `last`, both with a time stamp, have positions that run one way. True
-    /// only when that is known without a walk.
-    bool IsMonotonic(int first, int last) const;
+    /// The last sample of `first` to `last`, both with a time stamp, up to which positions run one way from
+    /// `first` on; none where that is not known without a walk.
+    std::optional<int> RunEnd(int first, int last) const;
 
     /// The sample of `first` to `last`, both with a time stamp, whose position lies nearest to `x`; of
-    /// equally near ones the first. -1 when samples have no position. A binary search where time grows along
-    /// the range, else a walk over it.
+    /// equally near ones the first. -1 when samples have no position. A binary search in each part of the
+    /// range along which time grows; a walk where x wraps round.
     int Nearest(int first, int last, int x) const;
 
 private:

@@ -12,33 +12,32 @@ namespace {
 
 using Groups = std::vector<std::tuple<int, int, int>>;
 
-/// Sample by sample: runs on one pixel, and a neighbour on either side of the held ones.
-Groups PlainGroups(const std::vector<int>& positions, IndexRange range, const std::vector<int>& edges) {
+/// Sample by sample, run by run: what lies on one pixel, and beyond the edges the neighbours of what is held and
+/// the samples around a turn. `ends` are the last samples of the runs.
+Groups PlainGroups(const std::vector<int>& positions, IndexRange range, const std::vector<int>& edges,
+                   const std::vector<int>& ends) {
     const auto pixelOf = [&](int index) {
         const int position = positions[static_cast<std::size_t>(index)];
         return static_cast<int>(std::upper_bound(edges.begin(), edges.end(), position) - edges.begin());
     };
     const int outside = static_cast<int>(edges.size());
     const auto isHeld = [&](int index) { return pixelOf(index) > 0 && pixelOf(index) < outside; };
-    const bool ascends =
-        positions[static_cast<std::size_t>(range.first)] <= positions[static_cast<std::size_t>(range.last)];
-    const int before = ascends ? 0 : outside;
     Groups groups;
-    for (int i = range.first; i <= range.last; ++i) {
-        const int position = positions[static_cast<std::size_t>(i)];
-        if (isHeld(i)) {
-            if (!groups.empty() && std::get<1>(groups.back()) == i - 1 && isHeld(i - 1) &&
-                pixelOf(i - 1) == pixelOf(i))
+    int first = range.first;
+    for (const int last : ends) {
+        const int before = positions[static_cast<std::size_t>(first)] <= positions[static_cast<std::size_t>(last)]
+                               ? 0
+                               : outside;
+        for (int i = first; i <= last; ++i) {
+            const bool isTurn = (i == first && i != range.first) || (i == last && i != range.last);
+            const bool isNext = pixelOf(i) == before ? i == last || pixelOf(i + 1) != before
+                                                     : i == first || pixelOf(i - 1) != pixelOf(i);
+            if (isHeld(i) && !groups.empty() && std::get<1>(groups.back()) == i - 1 && pixelOf(i - 1) == pixelOf(i))
                 std::get<1>(groups.back()) = i;
-            else
-                groups.emplace_back(i, i, position);
-        } else if (pixelOf(i) == before) {
-            if (i == range.last || pixelOf(i + 1) != before)
-                groups.emplace_back(i, i, position);
-        } else {
-            groups.emplace_back(i, i, position);
-            break;
+            else if (isHeld(i) || isTurn || isNext)
+                groups.emplace_back(i, i, positions[static_cast<std::size_t>(i)]);
         }
+        first = last + 1;
     }
     return groups;
 }
@@ -57,24 +56,35 @@ TEST(PixelColumnsTest, GroupsAreThoseOfAWalk) {
                                       }) == edges.end());
         const int step = round % 5 == 0 ? 900 : round % 3 == 0 ? 1 : 40;
         std::vector<int> positions{upTo(900) - 600};
+        const int turns = upTo(2) * upTo(3);
         for (int k = upTo(round % 3 == 0 ? 900 : 60); k > 0; --k)
-            positions.push_back(positions.back() + upTo(step));
+            positions.push_back(positions.back() + upTo(step) - (upTo(60) < turns ? upTo(700) : 0));
         if (round % 4 == 1)
             std::reverse(positions.begin(), positions.end());
         IndexRange range{0, static_cast<int>(positions.size()) - 1};
         if (round % 7 == 0)
             range = {range.last / 3, range.last - range.last / 4};
 
+        std::vector<int> ends;
+        for (int i = range.first; i <= range.last; ++i) {
+            const auto at = positions.begin() + i;
+            if (i == range.last || (round % 4 == 1 ? at[1] > at[0] : at[1] < at[0]))
+                ends.push_back(i);
+        }
         int looks = 0;
+        const auto at = [&](int index) {
+            ++looks;
+            EXPECT_TRUE(index >= range.first && index <= range.last) << index;
+            return positions[static_cast<std::size_t>(index)];
+        };
+        const auto runEnd = [&](IndexRange rest) -> std::optional<int> {
+            return *std::lower_bound(ends.begin(), ends.end(), rest.first);
+        };
         Groups found;
-        for (const PixelColumn& column : GroupByColumn(range, pixels, [&](int index) {
-                 ++looks;
-                 EXPECT_TRUE(index >= range.first && index <= range.last) << index;
-                 return positions[static_cast<std::size_t>(index)];
-             }))
+        for (const PixelColumn& column : GroupRunsByColumn(range, pixels, runEnd, at))
             found.emplace_back(column.first, column.last, column.position);
-        ASSERT_EQ(found, PlainGroups(positions, range, edges)) << "round " << round;
-        ASSERT_LE(looks, 40 + static_cast<int>(found.size()) * 16) << "round " << round;
+        ASSERT_EQ(found, PlainGroups(positions, range, edges, ends)) << "round " << round;
+        ASSERT_LE(looks, static_cast<int>(40 * ends.size() + found.size() * 16)) << "round " << round;
         for (const auto& [first, last, position] : found)
             ASSERT_TRUE(!pixels.Holds(position) || pixels.PixelOf(position) == 5 + pixels.Find(position));
     }

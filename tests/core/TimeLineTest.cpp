@@ -120,17 +120,28 @@ TEST(TimeLineTest, NearestAgreesWithAWalkOverAnyStamps) {
     }
 }
 
-TEST(TimeLineTest, OrderIsKnownWithoutAWalk) {
+TEST(TimeLineTest, RunsEndWhereAStampStepsBack) {
     TimeLine line = EverySecond(10);
-    EXPECT_TRUE(line.GrowsAlong(0, 9));
-    line.Append(500);
+    EXPECT_EQ(line.RunEnd(0, 9), 9);
+    for (const std::int32_t stamp : {500, 501, 501, 400})
+        line.Append(stamp);
+    const auto ends = [&](int first, int last) {
+        std::vector<int> found;
+        for (; first <= last; first = found.back() + 1)
+            found.push_back(line.RunEnd(first, last).value_or(100));
+        return found;
+    };
+    EXPECT_EQ(ends(5, 13), (std::vector<int>{9, 12, 13}));
+    EXPECT_EQ(ends(6, 9), std::vector<int>{9}) << "before any step back";
+    line.RemoveHead(9);
+    EXPECT_EQ(ends(0, 4), (std::vector<int>{0, 3, 4}));
+    line.RemoveHead(1);
+    EXPECT_EQ(ends(0, 3), (std::vector<int>{2, 3}));
+    line.Append(500 + 107374183);
+    EXPECT_EQ(ends(0, 4), (std::vector<int>{2, 100})) << "x wraps round";
+    line.KeepOne();
     line.Append(501);
-    EXPECT_FALSE(line.GrowsAlong(5, 10));
-    EXPECT_TRUE(line.GrowsAlong(10, 11));
-    line.RemoveHead(10);
-    EXPECT_TRUE(line.GrowsAlong(0, 1));
-    line.Append(501 + 107374183);
-    EXPECT_FALSE(line.GrowsAlong(0, 2)) << "x wraps round";
+    EXPECT_EQ(ends(0, 1), std::vector<int>{1});
 }
 
 TEST(TimeMapTest, PositionsAreComputedInDoublesAndTruncatedOnce) {

@@ -100,7 +100,7 @@ private:
             POINT ends[2] = {{kUnitsPerPixel * 24 + i % 5 * 4, kUnitsPerPixel * 24 - i % 7 * 3},
                              {kUnitsPerPixel * (24 + (i * 37 + 5) % 61 - 30) + i % 3 * 7,
                               kUnitsPerPixel * (24 + (i * 23 + 11) % 59 - 29) - i % 4 * 6}};
-            ::SelectObject(dc.GetSafeHdc(), pens[i % kPens].GetSafeHandle());
+            Select(dc, pens[i % kPens]);
             dc.MoveTo(ends[0]);
             dc.LineTo(ends[1]);
             dc.LPtoDP(ends, 2);
@@ -130,7 +130,7 @@ private:
 
 bool IsPixelDevice(const CDC& dc) {
     const DWORD type = ::GetObjectType(dc.GetSafeHdc());
-    return (type == OBJ_DC || type == OBJ_MEMDC) && dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY &&
+    return dc.m_hAttribDC == dc.m_hDC && (type == OBJ_DC || type == OBJ_MEMDC) && dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY &&
            ::GetROP2(dc.GetSafeHdc()) == R2_COPYPEN && ::GetGraphicsMode(dc.GetSafeHdc()) == GM_COMPATIBLE;
 }
 

@@ -11,7 +11,7 @@
 namespace kavlix {
 
 /// Whether strokes on `dc` become pixels at once and replace what is there, so that strokes which change no
-/// pixel may be left out. Metafiles and printers are not such.
+/// pixel may be left out. Metafiles and printers are not such, nor is a DC for which another one answers.
 bool IsPixelDevice(const CDC& dc);
 
 /// The pixels that `dc` paints into, clipped as it is: where they lie in memory, have 32 bits each and the

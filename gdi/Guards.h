@@ -6,35 +6,83 @@
 /// throws. Declare a guard after the objects it selects, so that nothing is deleted while it is selected.
 namespace kavlix {
 
+/// Selects an object into `dc`; a null object is passed over. A CDC is two DCs where its host has set an
+/// attribute DC (a print preview, a metafile): one is drawn on, the other answers questions. Both get the
+/// object, as CDC::SelectObject does, so that texts are measured with the font that they are drawn with.
+inline void Select(CDC& dc, HGDIOBJ object) {
+    if (object == nullptr)
+        return;
+    ::SelectObject(dc.m_hDC, object);
+    if (dc.m_hAttribDC != dc.m_hDC)
+        ::SelectObject(dc.m_hAttribDC, object);
+}
+
+inline void Select(CDC& dc, const CGdiObject& object) {
+    Select(dc, object.GetSafeHandle());
+}
+
 /// Selects an object; the one selected before comes back at the end. A null object leaves the DC as it is, so
 /// that painting goes on with what is there when GDI runs out of objects.
 class SelectGuard {
 public:
     SelectGuard(CDC& dc, HGDIOBJ object)
-        : m_dc(dc.GetSafeHdc()), m_previous(object != nullptr ? ::SelectObject(m_dc, object) : nullptr) {}
-    ~SelectGuard() {
-        if (m_previous != nullptr)
-            ::SelectObject(m_dc, m_previous);
+        : m_output(dc.m_hDC, object), m_attributes(dc.m_hAttribDC != dc.m_hDC ? dc.m_hAttribDC : nullptr, object) {
     }
     SelectGuard(const SelectGuard&) = delete;
     SelectGuard& operator=(const SelectGuard&) = delete;
 
 private:
-    HDC m_dc;
-    HGDIOBJ m_previous;
+    /// The selection in one of a CDC's two DCs.
+    class Selected {
+    public:
+        Selected(HDC dc, HGDIOBJ object)
+            : m_dc(dc), m_previous(dc != nullptr && object != nullptr ? ::SelectObject(dc, object) : nullptr) {}
+        ~Selected() {
+            if (m_previous != nullptr)
+                ::SelectObject(m_dc, m_previous);
+        }
+        Selected(const Selected&) = delete;
+        Selected& operator=(const Selected&) = delete;
+
+    private:
+        HDC m_dc;
+        HGDIOBJ m_previous;
+    };
+
+    Selected m_output;
+    Selected m_attributes;
 };
 
 /// Selects a stock object at the end of the scope, in place of whatever was selected meanwhile.
 class StockAfterGuard {
 public:
-    StockAfterGuard(CDC& dc, int stockObject) : m_dc(dc.GetSafeHdc()), m_stockObject(stockObject) {}
-    ~StockAfterGuard() { ::SelectObject(m_dc, ::GetStockObject(m_stockObject)); }
+    StockAfterGuard(CDC& dc, int stockObject) : m_dc(dc), m_stockObject(stockObject) {}
+    ~StockAfterGuard() { Select(m_dc, ::GetStockObject(m_stockObject)); }
     StockAfterGuard(const StockAfterGuard&) = delete;
     StockAfterGuard& operator=(const StockAfterGuard&) = delete;
 
 private:
-    HDC m_dc;
+    CDC& m_dc;
     int m_stockObject;
+};
+
+/// Lets a DC without attribute DC, such as CMetaFileDC makes, answer questions through its output DC.
+class AttribDcGuard {
+public:
+    explicit AttribDcGuard(CDC& dc) : m_dc(dc), m_isAdded(dc.m_hAttribDC == nullptr) {
+        if (m_isAdded)
+            m_dc.SetAttribDC(m_dc.m_hDC);
+    }
+    ~AttribDcGuard() {
+        if (m_isAdded)
+            m_dc.ReleaseAttribDC();
+    }
+    AttribDcGuard(const AttribDcGuard&) = delete;
+    AttribDcGuard& operator=(const AttribDcGuard&) = delete;
+
+private:
+    CDC& m_dc;
+    bool m_isAdded;
 };
 
 /// Saves the whole state of a DC and restores it.
@@ -89,11 +137,5 @@ private:
     CDC& m_dc;
     CRgn& m_outer;
 };
-
-/// Selects an object for as long as nothing else is; a null object is passed over.
-inline void Select(CDC& dc, const CGdiObject& object) {
-    if (HGDIOBJ handle = object.GetSafeHandle())
-        ::SelectObject(dc.GetSafeHdc(), handle);
-}
 
 } // namespace kavlix

@@ -12,16 +12,63 @@ BOOL MakeFont(CFont& font, int height, int escapement, int weight) {
 
 namespace {
 
-constexpr int kLongestText = 8192;
+constexpr int kLongestText = 8192; // UTF-16 units
+constexpr int kMostBytesPerCharacter = 4;
+
+/// Whether a unit is a combining mark. Of a letter that has its mark in itself the platform says C3_NONSPACING
+/// too.
+bool IsMark(wchar_t unit) {
+    WORD type = 0;
+    return unit >= 0x80 && ::GetStringTypeW(CT_CTYPE3, &unit, 1, &type) &&
+           (type & (C3_NONSPACING | C3_ALPHA)) == C3_NONSPACING;
+}
+
+struct CodePoint {
+    int bytes;
+    wchar_t unit; ///< the first of its UTF-16 units
+};
+
+/// The code point that `text` begins with; the code page alone knows how many bytes it takes.
+CodePoint FirstCodePoint(const char* text, int length) {
+    if (static_cast<unsigned char>(*text) < 0x80)
+        return {1, static_cast<wchar_t>(*text)};
+    wchar_t units[2] = {};
+    for (int bytes = 1; bytes <= std::min(length, kMostBytesPerCharacter); ++bytes)
+        if (::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text, bytes, units, 2) > 0)
+            return {bytes, units[0]};
+    return {1, 0};
+}
+
+/// Bytes that the character at the beginning of `text` takes.
+int FirstCharacter(const char* text, int length) {
+    int bytes = FirstCodePoint(text, length).bytes;
+    while (bytes < length) {
+        const CodePoint next = FirstCodePoint(text + bytes, length - bytes);
+        if (!IsMark(next.unit))
+            break;
+        bytes += next.bytes;
+    }
+    return bytes;
+}
+
+/// As much of a text as GDI takes, its last character whole.
+std::size_t DrawnUnits(const std::wstring& text) {
+    if (text.size() <= kLongestText)
+        return text.size();
+    std::size_t end = kLongestText;
+    while (end > 0 && (IS_LOW_SURROGATE(text[end]) || IsMark(text[end])))
+        --end;
+    return end > 0 ? end : kLongestText;
+}
 
 // The single-byte calls would read a text in the font's character set; the text is in the process code page,
 // which may be UTF-8.
 std::wstring Widen(const char* text, int length) {
-    constexpr int kMostBytesPerCharacter = 4;
-    const int bytes = std::min(length, kLongestText * kMostBytesPerCharacter);
+    const int bytes = std::min(length, (kLongestText + 1) * kMostBytesPerCharacter);
     std::wstring wide(static_cast<std::size_t>(std::max(bytes, 0)), L'\0');
-    const int characters = bytes > 0 ? ::MultiByteToWideChar(CP_ACP, 0, text, bytes, wide.data(), bytes) : 0;
-    wide.resize(static_cast<std::size_t>(std::min(characters, kLongestText)));
+    const int units = bytes > 0 ? ::MultiByteToWideChar(CP_ACP, 0, text, bytes, wide.data(), bytes) : 0;
+    wide.resize(static_cast<std::size_t>(units));
+    wide.resize(DrawnUnits(wide));
     return wide;
 }
 
@@ -30,6 +77,23 @@ std::wstring Widen(const CString& text) {
 }
 
 } // namespace
+
+int BytesOfCharacters(const char* text, int length, int characters) {
+    int bytes = 0;
+    for (; characters > 0 && bytes < length; --characters)
+        bytes += FirstCharacter(text + bytes, length - bytes);
+    return bytes;
+}
+
+int WholeCharacters(const char* text, int length, int bytes) {
+    int whole = 0;
+    for (int next = 0; next <= std::min(bytes, length); next += FirstCharacter(text + next, length - next)) {
+        whole = next;
+        if (next == length)
+            break;
+    }
+    return whole;
+}
 
 void DrawTextAt(CDC& dc, int x, int y, const char* text, int length) {
     const std::wstring wide = Widen(text, length);
@@ -51,7 +115,7 @@ CSize MeasureText(const CDC& dc, const char* text, int length) {
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format) {
     const std::wstring wide = Widen(text);
     CRect rect(0, 0, width, 0);
-    ::DrawTextW(dc.GetSafeHdc(), wide.c_str(), static_cast<int>(wide.size()), &rect, format | DT_CALCRECT);
+    ::DrawTextW(dc.m_hAttribDC, wide.c_str(), static_cast<int>(wide.size()), &rect, format | DT_CALCRECT);
     return rect.Size();
 }
 

@@ -8,8 +8,17 @@ namespace kavlix {
 /// Result 0, `font` empty, when GDI cannot.
 BOOL MakeFont(CFont& font, int height, int escapement, int weight);
 
+/// Characters of a text in the process code page: in double-byte code pages and in UTF-8 one takes several
+/// bytes, and a combining mark belongs to the character before it. Bytes that are no character count one by
+/// one.
+///
+/// Bytes that the first `characters` characters take; `length` when there are no more.
+int BytesOfCharacters(const char* text, int length, int characters);
+/// The most bytes, up to `bytes`, after which no character is cut.
+int WholeCharacters(const char* text, int length, int bytes);
+
 /// Draws a text of the process code page at a reference point, as the DC's alignment says. At most the first
-/// 8192 characters are drawn, the longest text that GDI promises to take.
+/// 8192 UTF-16 units are drawn, the longest text that GDI promises to take; no character is cut.
 void DrawTextAt(CDC& dc, int x, int y, const char* text, int length);
 
 inline void DrawTextAt(CDC& dc, int x, int y, const CString& text) {

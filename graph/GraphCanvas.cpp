@@ -10,8 +10,8 @@
 namespace kavlix {
 
 GraphCanvas::GraphCanvas(CDC& dc, const GraphFrame& frame)
-    : m_saved(dc), m_dc(dc), m_frame(frame), m_hostPen(::GetCurrentObject(dc.GetSafeHdc(), OBJ_PEN)),
-      m_hostBrush(::GetCurrentObject(dc.GetSafeHdc(), OBJ_BRUSH)) {
+    : m_attributes(dc), m_saved(dc), m_dc(dc), m_frame(frame),
+      m_hostPen(::GetCurrentObject(dc.m_hDC, OBJ_PEN)), m_hostBrush(::GetCurrentObject(dc.m_hDC, OBJ_BRUSH)) {
     m_dc.SetBkMode(TRANSPARENT);
     m_dc.SetTextColor(RGB(0, 0, 0));
     m_dc.SetTextAlign(TA_LEFT | TA_TOP);
@@ -32,7 +32,7 @@ int GraphCanvas::Y(double y) const {
 void GraphCanvas::SetLine(COLORREF colour, double pixels) {
     const int width = std::max(1, TruncateToInt(pixels * Pixel() + 0.5));
     if (m_pen.GetSafeHandle() == nullptr || m_penColour != colour || m_penWidth != width) {
-        ::SelectObject(m_dc.GetSafeHdc(), m_hostPen);
+        Select(m_dc, m_hostPen);
         m_pen.DeleteObject();
         m_pen.CreatePen(PS_SOLID, width, colour);
         m_penColour = colour;
@@ -47,7 +47,7 @@ void GraphCanvas::NoLine() {
 
 void GraphCanvas::SetFill(COLORREF colour) {
     if (m_brush.GetSafeHandle() == nullptr || m_brushColour != colour) {
-        ::SelectObject(m_dc.GetSafeHdc(), m_hostBrush);
+        Select(m_dc, m_hostBrush);
         m_brush.DeleteObject();
         m_brush.CreateSolidBrush(colour);
         m_brushColour = colour;
@@ -60,8 +60,8 @@ void GraphCanvas::NoFill() {
 }
 
 void GraphCanvas::HostTools() {
-    ::SelectObject(m_dc.GetSafeHdc(), m_hostPen);
-    ::SelectObject(m_dc.GetSafeHdc(), m_hostBrush);
+    Select(m_dc, m_hostPen);
+    Select(m_dc, m_hostBrush);
 }
 
 void GraphCanvas::Line(PlanePoint from, PlanePoint to) {
@@ -98,7 +98,7 @@ void GraphCanvas::Circle(PlanePoint centre, double radius) {
 
 void GraphCanvas::Text(PlanePoint place, const CString& text) {
     LOGFONT font{};
-    ::GetObject(::GetCurrentObject(m_dc.GetSafeHdc(), OBJ_FONT), sizeof font, &font);
+    ::GetObject(::GetCurrentObject(m_dc.m_hAttribDC, OBJ_FONT), sizeof font, &font);
     if (!m_frame.up || font.lfEscapement == 0) {
         DrawTextAt(m_dc, X(place.x), Y(place.y), text);
         return;
@@ -125,15 +125,8 @@ LabelSize GraphCanvas::Measure(const CString& text) const {
 CString GraphCanvas::Shorten(const CString& text, double room) const {
     if (Measure(text).width <= room)
         return text;
-    // Code pages of more than one byte to a character are cut between characters only.
-    const bool utf8 = ::GetACP() == CP_UTF8;
-    const auto within = [&](int length) {
-        return utf8 ? (text[length] & 0xC0) == 0x80
-                    : ::CharNextA(::CharPrevA(text, LPCTSTR(text) + length)) != LPCTSTR(text) + length;
-    };
     const auto cut = [&](int length) {
-        while (length > 0 && within(length))
-            --length;
+        length = WholeCharacters(text, text.GetLength(), length);
         return length > 0 ? text.Left(length) + "..." : CString();
     };
     int fits = 0;

@@ -70,6 +70,7 @@ private:
     POINT At(PlanePoint place) const { return {X(place.x), Y(place.y)}; }
     std::vector<POINT> At(const PlanePoint* points, std::size_t count) const;
 
+    AttribDcGuard m_attributes;
     SavedDcGuard m_saved;
     CDC& m_dc;
     GraphFrame m_frame;

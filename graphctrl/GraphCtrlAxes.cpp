@@ -52,8 +52,7 @@ void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& dow
     };
     if (!down.IsEmpty()) {
         drawTwo(up, down);
-    } else if (up.GetLength() > longest) {
-        const int cut = std::max(longest, 0);
+    } else if (const int cut = BytesOfCharacters(up, up.GetLength(), longest); cut < up.GetLength()) {
         CString first = up.Left(cut);
         CString second = up.Mid(cut);
         first.TrimRight();

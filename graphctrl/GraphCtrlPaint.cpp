@@ -102,6 +102,7 @@ int CGraphCtrl::GetTitleTextHeight() {
 void CGraphCtrl::DrawGraph(CDC& dc) {
     if (m_hWnd == nullptr)
         return;
+    AttribDcGuard attributes(dc);
     TextSettingsGuard textSettings(dc);
     dc.SetBkMode(TRANSPARENT);
     CBrush background;

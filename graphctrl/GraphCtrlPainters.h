@@ -82,7 +82,7 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
 void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop);
 
 /// Draws the upright texts of an X tick at `x`, `y` being the top of the label band's text: `up` and `down`
-/// side by side, or `up` alone, broken in two when it is longer than `longest`. Text colour and font are the
+/// side by side, or `up` alone, broken in two when it is longer than `longest` characters. Text colour and font are the
 /// caller's.
 void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest);
 

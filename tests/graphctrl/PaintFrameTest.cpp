@@ -129,6 +129,30 @@ TEST_F(GraphPaintFrameTest, EveryObjectIsDeletedAndTheDcIsLeftAsItWas) {
     }
 }
 
+TEST_F(GraphPaintFrameTest, AnAttributeDcAnswersWhatTheOutputDraws) {
+    Fill();
+    graph.SetTitleStyle(CGraphCtrl::TitleStyleCaption);
+    graph.ShowIconMaximize(TRUE, FALSE);
+    const Strings expected = Record()->ClippedLines(testkit::kDrawing);
+    for (const bool paired : {true, false}) {
+        SCOPED_TRACE(paired ? "another DC answers" : "no DC is named");
+        testkit::MetafileRecorder output;
+        testkit::DibSurface answers(1, 1);
+        const HGDIOBJ font = ::GetCurrentObject(answers.Dc(), OBJ_FONT);
+        CDC dc;
+        dc.Attach(output.Dc());
+        dc.SetAttribDC(paired ? answers.Dc() : nullptr);
+        graph.SetMapModeAnisotropic(dc);
+        graph.DrawGraph(dc);
+        EXPECT_EQ(dc.m_hAttribDC, paired ? answers.Dc() : nullptr);
+        dc.Detach();
+        output.Close();
+        EXPECT_EQ(output.ClippedLines(testkit::kDrawing), expected);
+        EXPECT_EQ(output.ObjectFaults(kControlFonts), "");
+        EXPECT_EQ(::GetCurrentObject(answers.Dc(), OBJ_FONT), font);
+    }
+}
+
 TEST_F(GraphPaintFrameTest, RedrawInvalidatesTheClientAndRedrawDataTheDataRegion) {
     EXPECT_EQ(Text(UpdateRect()), "0,0,0,0");
     graph.Redraw();

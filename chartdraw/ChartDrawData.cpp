@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "chartdraw/ChartDrawDataset.h"
-#include "graphctrl/MemoryReport.h"
+#include "gdi/MemoryReport.h"
 
 using namespace kavlix;
 

@@ -17,6 +17,38 @@ inline void SetControlMapping(CDC& dc) {
     dc.SetViewportOrg(0, 0);
 }
 
+/// A window's DC in that mapping, to convert coordinates with. It asks for no memory, so that what only
+/// repaints cannot fail.
+class WindowUnits {
+public:
+    explicit WindowUnits(HWND window) : m_window(window), m_dc(::GetDC(window)) {
+        ::SetMapMode(m_dc, MM_ANISOTROPIC);
+        ::SetWindowExtEx(m_dc, kUnitsPerPixel, kUnitsPerPixel, nullptr);
+        ::SetViewportExtEx(m_dc, 1, 1, nullptr);
+    }
+    ~WindowUnits() {
+        if (m_dc != nullptr)
+            ::ReleaseDC(m_window, m_dc);
+    }
+    WindowUnits(const WindowUnits&) = delete;
+    WindowUnits& operator=(const WindowUnits&) = delete;
+
+    /// Without a DC nothing is converted.
+    bool IsReady() const { return m_dc != nullptr; }
+    CPoint ToLogical(CPoint device) const {
+        ::DPtoLP(m_dc, &device, 1);
+        return device;
+    }
+    CPoint ToDevice(CPoint logical) const {
+        ::LPtoDP(m_dc, &logical, 1);
+        return logical;
+    }
+
+private:
+    HWND m_window;
+    HDC m_dc;
+};
+
 inline CRect ToLogical(const CDC& dc, CRect device) {
     dc.DPtoLP(&device);
     return device;

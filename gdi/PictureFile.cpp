@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cwchar>
-#include <new>
 #include <string>
 #include <vector>
 
@@ -15,6 +14,7 @@ using std::min;
 #include <gdiplus.h>
 
 #include "gdi/Guards.h"
+#include "gdi/MemoryReport.h"
 #include "gdi/PictureClipboard.h"
 
 namespace kavlix {
@@ -135,24 +135,11 @@ std::vector<BYTE> EncodeMetafile(CSize size, const std::function<void(CDC&)>& dr
                         screen.GetDeviceCaps(resolution));
     };
     const CRect frame(0, 0, length(size.cx, HORZSIZE, HORZRES), length(size.cy, VERTSIZE, VERTRES));
-    CDC dc;
-    if (!dc.Attach(::CreateEnhMetaFile(screen.GetSafeHdc(), nullptr, &frame, kPictureDescription)))
+    MetafilePicture picture(screen.GetSafeHdc(), &frame);
+    if (!picture.Draw(draw))
         return {};
-    struct Picture {
-        CDC& dc;
-        HENHMETAFILE handle = nullptr;
-        void Close() { handle = ::CloseEnhMetaFile(dc.Detach()); }
-        ~Picture() {
-            if (dc.GetSafeHdc() != nullptr)
-                Close();
-            if (handle != nullptr)
-                ::DeleteEnhMetaFile(handle);
-        }
-    } picture{dc};
-    draw(dc);
-    picture.Close();
-    std::vector<BYTE> bytes(::GetEnhMetaFileBits(picture.handle, 0, nullptr));
-    if (::GetEnhMetaFileBits(picture.handle, static_cast<UINT>(bytes.size()), bytes.data()) != bytes.size())
+    std::vector<BYTE> bytes(::GetEnhMetaFileBits(picture.Get(), 0, nullptr));
+    if (::GetEnhMetaFileBits(picture.Get(), static_cast<UINT>(bytes.size()), bytes.data()) != bytes.size())
         return {};
     return bytes;
 }
@@ -204,10 +191,11 @@ bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& 
     constexpr int kLongestSide = 32767; // what GDI makes bitmaps of, and what keeps their size in 32 bits
     if (size.cx <= 0 || size.cy <= 0 || size.cx > kLongestSide || size.cy > kLongestSide)
         return false;
-    const CString name(path);
-    const int dot = name.ReverseFind('.');
-    const CString extension = dot < 0 ? CString() : name.Mid(dot);
-    try {
+    bool saved = false;
+    const bool finished = WithinResources([&] {
+        const CString name(path);
+        const int dot = name.ReverseFind('.');
+        const CString extension = dot < 0 ? CString() : name.Mid(dot);
         std::vector<BYTE> bytes;
         if (extension.CompareNoCase(".png") == 0)
             bytes = EncodePixels(L"image/png", size, draw);
@@ -215,10 +203,9 @@ bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& 
             bytes = EncodePixels(L"image/bmp", size, draw);
         else if (extension.CompareNoCase(".emf") == 0)
             bytes = EncodeMetafile(size, draw);
-        return !bytes.empty() && PutInPlace(ToWide(path), bytes);
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
+        saved = !bytes.empty() && PutInPlace(ToWide(path), bytes);
+    });
+    return finished && saved;
 }
 
 } // namespace kavlix

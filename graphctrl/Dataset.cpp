@@ -1,6 +1,6 @@
 #include <kavlix/Dataset.h>
 
-#include "graphctrl/MemoryReport.h"
+#include "gdi/MemoryReport.h"
 #include "graphctrl/SampleStore.h"
 
 namespace {

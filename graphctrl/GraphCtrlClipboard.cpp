@@ -6,20 +6,11 @@
 using namespace kavlix;
 
 int CGraphCtrl::CopyToClipboard() {
-    if (m_hWnd == nullptr)
-        return 0;
-    const HDC metafileDc = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, kPictureDescription);
-    if (metafileDc == nullptr)
-        return 0;
-    CDC dc;
-    dc.Attach(metafileDc);
-    SetMapModeAnisotropic(dc);
-    DrawGraph(dc);
-    const HENHMETAFILE picture = ::CloseEnhMetaFile(dc.Detach());
-    if (picture == nullptr)
-        return 0;
-    PutOnClipboard(*this, picture);
-    return 1;
+    const auto draw = [this](CDC& dc) {
+        SetMapModeAnisotropic(dc);
+        DrawGraph(dc);
+    };
+    return m_hWnd != nullptr && CopyPicture(*this, nullptr, draw);
 }
 
 bool CGraphCtrl::SaveImage(CString strFileName) {

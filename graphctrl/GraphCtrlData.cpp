@@ -1,6 +1,9 @@
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
+#include <utility>
+
+#include "gdi/MemoryReport.h"
 
 using namespace kavlix;
 
@@ -29,9 +32,15 @@ BOOL CGraphCtrl::AddData(int nDataset, double y, double* pX) {
 }
 
 BOOL CGraphCtrl::AddXTickLabel(CString up, CString down) {
-    m_XTickLabelUp.Add(up);
-    m_XTickLabelDown.Add(down);
-    return TRUE;
+    return ReportingExhaustion([&] {
+        m_XTickLabelUp.Add(std::move(up));
+        try {
+            m_XTickLabelDown.Add(std::move(down));
+        } catch (...) {
+            m_XTickLabelUp.RemoveAt(m_XTickLabelUp.GetUpperBound());
+            throw;
+        }
+    });
 }
 
 void CGraphCtrl::ClearSamples(CDataset& dataset) {

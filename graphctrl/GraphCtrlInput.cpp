@@ -5,6 +5,7 @@
 
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
+#include "gdi/MemoryReport.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/HitTest.h"
 
@@ -47,17 +48,11 @@ int CGraphCtrl::GetIndexFromPt(CPoint point) {
 }
 
 CPoint CGraphCtrl::ToLogicalPoint(CPoint point) {
-    CClientDC dc(this);
-    SetMapModeAnisotropic(dc);
-    dc.DPtoLP(&point);
-    return point;
+    return WindowUnits(m_hWnd).ToLogical(point);
 }
 
 CPoint CGraphCtrl::ToClientPoint(CPoint logical) {
-    CClientDC dc(this);
-    SetMapModeAnisotropic(dc);
-    dc.LPtoDP(&logical);
-    return logical;
+    return WindowUnits(m_hWnd).ToDevice(logical);
 }
 
 CPoint CGraphCtrl::GetPtFromIndex(int nIndex) {
@@ -92,10 +87,14 @@ CPoint CGraphCtrl::PtOfSample(int nIndex, std::optional<int> x) {
 }
 
 void CGraphCtrl::RepaintIcon() {
-    CClientDC dc(this);
-    SavedDcGuard saved(dc);
-    SetMapModeAnisotropic(dc);
-    DrawIconMaximize(dc);
+    const bool painted = WithinResources([this] {
+        CClientDC dc(this);
+        SavedDcGuard saved(dc);
+        SetMapModeAnisotropic(dc);
+        DrawIconMaximize(dc);
+    });
+    if (!painted)
+        Redraw();
 }
 
 void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
@@ -112,13 +111,13 @@ void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
         m_IconMaximizePressed = TRUE;
         // Whoever held the capture hears of it.
         const HWND window = m_hWnd;
-        SetCapture();
+        ::SetCapture(window);
         if (CWnd::FromHandlePermanent(window) != this)
             return;
         RepaintIcon();
     }
     // Last, so that the notifications find the focus where it was.
-    SetFocus();
+    ::SetFocus(m_hWnd);
 }
 
 void CGraphCtrl::OnMouseMove(UINT nFlags, CPoint point) {

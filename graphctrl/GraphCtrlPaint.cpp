@@ -77,12 +77,11 @@ void CGraphCtrl::Redraw() {
 void CGraphCtrl::RedrawData() {
     if (m_hWnd == nullptr)
         return;
-    CClientDC dc(this);
-    SetMapModeAnisotropic(dc);
+    const WindowUnits units(m_hWnd);
     const CRect region(m_rectYTickLabel.left, m_rectYTickLabel.top - kDataRegionAbove,
                        m_rectXTickLabel.right + kDataRegionBeside, m_rectXTickLabel.bottom);
-    const CRect device = ToDeviceWithEdges(dc, region);
-    InvalidateRect(&device, FALSE);
+    const CRect device(units.ToDevice(region.TopLeft()), units.ToDevice(region.BottomRight()) + CSize(1, 1));
+    InvalidateRect(units.IsReady() ? &device : nullptr, FALSE);
 }
 
 void CGraphCtrl::SetMapModeAnisotropic(CDC& dc) {

@@ -1,6 +1,7 @@
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
+#include <utility>
 
 BOOL CGraphCtrl::SetColor(int nDataset, COLORREF color) {
     if (!IsDataset(nDataset))
@@ -41,7 +42,7 @@ BOOL CGraphCtrl::ShowDataset(int nDataset, BOOL bShow) {
 BOOL CGraphCtrl::SetLegend(int nDataset, CString text) {
     if (!IsDataset(nDataset))
         return FALSE;
-    m_Datasets[nDataset].SetLegend(text);
+    m_Datasets[nDataset].SetLegend(std::move(text));
     return TRUE;
 }
 
@@ -69,13 +70,13 @@ void CGraphCtrl::SetGrid(BOOL bGridX, BOOL bGridY) {
 }
 
 void CGraphCtrl::SetYUnit(CString unit, int nExponent, int nDecimals) {
-    m_YUnit = unit;
+    m_YUnit = std::move(unit);
     m_YUnitExponent = nExponent;
     m_YTickLabelScale = nDecimals;
 }
 
 void CGraphCtrl::SetY2Unit(CString unit, int nExponent, int nDecimals) {
-    m_Y2Unit = unit;
+    m_Y2Unit = std::move(unit);
     m_Y2UnitExponent = nExponent;
     m_Y2TickLabelScale = nDecimals;
 }
@@ -86,6 +87,6 @@ void CGraphCtrl::ShowIconMaximize(BOOL bShow, BOOL bMaximized) {
 }
 
 void CGraphCtrl::SetCaptionFont(int nSize, const char* pszFace) {
-    m_CaptionFontSize = nSize;
     m_CaptionFontFace = pszFace;
+    m_CaptionFontSize = nSize;
 }

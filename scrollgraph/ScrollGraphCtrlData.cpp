@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "graphctrl/MemoryReport.h"
+#include "gdi/MemoryReport.h"
 #include "scrollgraph/ScrollGraphCtrlClock.h"
 #include "scrollgraph/TimeLine.h"
 #include "scrollgraph/ViewWindow.h"

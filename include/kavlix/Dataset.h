@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <memory>
+#include <utility>
 
 #include <kavlix/Export.h>
 
@@ -63,7 +64,7 @@ public:
     int GetLineSize() const { return m_LineSize; }
     COLORREF GetColor() const { return m_Color; }
     /// Sets the text of the legend row; an empty text takes no row.
-    void SetLegend(CString text) { m_Legend = text; }
+    void SetLegend(CString text) { m_Legend = std::move(text); }
 
 private:
     BOOL AppendReporting(double y);

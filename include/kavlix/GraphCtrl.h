@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace kavlix {
 class Offscreen;
@@ -69,7 +70,8 @@ public:
     /// `nDataset` is outside 0..12 or, after a message box, when memory ran out; nothing has changed then.
     BOOL AddData(int nDataset, double y, double* pX);
     /// Appends the next X tick label: label i belongs to sample index i. With `down` empty, a long `up` is
-    /// broken into two lines (SetXTickLabelUpStringMaxLength). Always 1.
+    /// broken into two lines (SetXTickLabelUpStringMaxLength). Result 1; 0, after a message box, when memory ran
+    /// out: neither text is stored then.
     BOOL AddXTickLabel(CString up, CString down);
     /// Removes all samples of a dataset and the selection mark; colour, marker, line size, legend text and
     /// visibility stay. Ignored outside 0..12.
@@ -126,10 +128,10 @@ public:
     void SetY2VisibleMax(double y) { m_Y2VisibleMax = y; }
 
     /// Texts. Of every text at most the first 8192 characters are drawn, the longest that GDI takes at once.
-    void SetTitle(CString text) { m_Title = text; }
-    void SetXLabel(CString text) { m_XLabel = text; }
-    void SetYLabel(CString text) { m_YLabel = text; }
-    void SetY2Label(CString text) { m_Y2Label = text; }
+    void SetTitle(CString text) { m_Title = std::move(text); }
+    void SetXLabel(CString text) { m_XLabel = std::move(text); }
+    void SetYLabel(CString text) { m_YLabel = std::move(text); }
+    void SetY2Label(CString text) { m_Y2Label = std::move(text); }
     /// Whether the axis labels are shown; default on. Y2 only appears in the two-axis style.
     void ShowXLabel(BOOL bShow) { m_ShowXLabel = bShow; }
     void ShowYLabel(BOOL bShow) { m_ShowYLabel = bShow; }
@@ -196,11 +198,11 @@ public:
     /// sample i is child i + 1 of the control's client object.
     void SetSelectionMarkPos(int nPos);
     /// Puts the picture on the clipboard as an enhanced metafile. Result 1; 0 when there is no window or the
-    /// metafile could not be made. A clipboard held by somebody else is not detected.
+    /// metafile could not be made, for want of memory too. A clipboard held by somebody else is not detected.
     int CopyToClipboard();
     /// Saves the picture as PNG, BMP or EMF, as the name's extension says. False for another extension,
-    /// without a window or an area, or when the file cannot be written; an existing file is as before then,
-    /// and nothing half-written is left.
+    /// without a window or an area, when memory runs out or when the file cannot be written; an existing file
+    /// is as before then, and nothing half-written is left.
     bool SaveImage(CString strFileName);
     /// Whether `menu` already holds a command `nID`.
     bool IsMenuItem(CMenu& menu, UINT nID);

@@ -3,7 +3,7 @@
 #include <afxcoll.h>
 
 #include <cstddef>
-#include <new>
+#include <utility>
 
 #include <kavlix/Pieces.h>
 
@@ -12,7 +12,8 @@ namespace kavlix {
 /// Texts in order of arrival, with the members of CStringArray but GetData and Serialize: they do not lie one
 /// behind the other. Adding never moves what is stored, and removing from the head costs what is removed.
 ///
-/// An index outside the array throws CInvalidArgException*. When memory runs out CMemoryException* is thrown.
+/// An index outside the array throws CInvalidArgException*. When memory runs out CMemoryException* is thrown and
+/// the array is as before.
 class LabelStore {
 public:
     INT_PTR GetSize() const { return static_cast<INT_PTR>(m_texts.Size()); }
@@ -41,44 +42,45 @@ public:
         if (count < m_texts.Size())
             m_texts.RemoveTail(m_texts.Size() - count);
         else
-            AddCopies(CString(), count - m_texts.Size());
+            AddOrNone(count - m_texts.Size(), [](std::size_t) { return CString(); });
     }
     void FreeExtra() {} // there is none
     /// Removes all texts and gives their memory back.
     void RemoveAll() { m_texts.Clear(); }
 
     /// Appends a text; returns its index.
-    INT_PTR Add(const CString& text) {
-        OrThrow([&] { m_texts.Add(text); });
+    INT_PTR Add(CString text) {
+        m_texts.Add(std::move(text));
         return GetSize() - 1;
     }
     /// Appends copies of all texts of `source`, a LabelStore or CStringArray; returns the index of the first.
     template <class Texts> INT_PTR Append(const Texts& source) {
         const INT_PTR first = GetSize();
         const INT_PTR count = source.GetSize(); // of itself only those there were
-        for (INT_PTR i = 0; i < count; ++i)
-            Add(CString(source.GetAt(i)));
+        AddOrNone(static_cast<std::size_t>(count), [&](std::size_t i) {
+            return CString(source.GetAt(static_cast<INT_PTR>(i)));
+        });
         return first;
     }
     /// Makes this a copy of `source`, a LabelStore or CStringArray.
     template <class Texts> void Copy(const Texts& source) {
         if (static_cast<const void*>(this) == static_cast<const void*>(&source))
             return;
-        m_texts.Clear();
-        Append(source);
+        LabelStore copy;
+        copy.Append(source);
+        m_texts.Swap(copy.m_texts);
     }
     /// Inserts `count` copies before the text at `index`. Behind the end, empty texts fill the gap.
     void InsertAt(INT_PTR index, const CString& text, INT_PTR count = 1) {
         const std::size_t at = Checked(index);
         const std::size_t copies = Checked(count);
         const CString copy(text); // it may be one of those that move
-        if (at > m_texts.Size())
-            SetSize(index);
-        AddCopies(copy, copies);
-        for (std::size_t i = m_texts.Size(); i-- > at + copies;)
-            m_texts[i] = m_texts[i - copies];
-        for (std::size_t i = at; i < at + copies; ++i)
-            m_texts[i] = copy;
+        const std::size_t before = m_texts.Size();
+        const std::size_t gap = at > before ? at - before : 0;
+        AddOrNone(gap + copies, [&](std::size_t i) { return i < gap ? CString() : copy; });
+        // Each text behind the place changes places with the copy that stands where the text belongs.
+        for (std::size_t i = before; i-- > at;)
+            std::swap(m_texts[i], m_texts[i + copies]);
     }
     /// Removes `count` texts from `index` on.
     void RemoveAt(INT_PTR index, INT_PTR count = 1) {
@@ -91,7 +93,7 @@ public:
             return;
         }
         for (std::size_t i = at; i + removed < m_texts.Size(); ++i)
-            m_texts[i] = m_texts[i + removed];
+            m_texts[i] = std::move(m_texts[i + removed]);
         m_texts.RemoveTail(removed);
     }
 
@@ -101,22 +103,15 @@ private:
             AfxThrowInvalidArgException();
         return static_cast<std::size_t>(value);
     }
-    /// Appends `count` copies, or none when memory runs out.
-    void AddCopies(const CString& text, std::size_t count) {
+    /// Appends `textOf(0)` up to `textOf(count - 1)`, or nothing when memory runs out.
+    template <class TextOf> void AddOrNone(std::size_t count, TextOf textOf) {
         const std::size_t before = m_texts.Size();
         try {
-            while (m_texts.Size() < before + count)
-                m_texts.Add(text);
-        } catch (const std::bad_alloc&) {
+            for (std::size_t i = 0; i < count; ++i)
+                m_texts.Add(textOf(i));
+        } catch (...) {
             m_texts.RemoveTail(m_texts.Size() - before);
-            AfxThrowMemoryException();
-        }
-    }
-    template <class Action> static void OrThrow(Action action) {
-        try {
-            action();
-        } catch (const std::bad_alloc&) {
-            AfxThrowMemoryException();
+            throw;
         }
     }
 

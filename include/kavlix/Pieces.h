@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <deque>
 #include <memory>
+#include <utility>
 
 namespace kavlix {
 
@@ -23,12 +24,12 @@ public:
     /// The newest element, which must exist.
     const T& Back() const { return (*this)[m_size - 1]; }
 
-    /// Throws std::bad_alloc, changing nothing, when memory runs out.
-    void Add(const T& value) {
+    /// Changes nothing when memory runs out and `new` throws.
+    void Add(T value) {
         const std::size_t place = m_head + m_size;
         if (place / PieceSize == m_pieces.size())
             m_pieces.push_back(std::make_unique<Piece>());
-        m_pieces[place / PieceSize]->elements[place % PieceSize] = value;
+        m_pieces[place / PieceSize]->elements[place % PieceSize] = std::move(value);
         ++m_size;
     }
     /// Removes the `count` oldest elements, which must exist.
@@ -55,6 +56,12 @@ public:
         m_pieces.clear();
         m_pieces.shrink_to_fit();
         m_head = m_size = 0;
+    }
+    /// Asks for no memory, as moving a deque may.
+    void Swap(Pieces& other) noexcept {
+        m_pieces.swap(other.m_pieces);
+        std::swap(m_head, other.m_head);
+        std::swap(m_size, other.m_size);
     }
 
 private:

@@ -1,20 +1,166 @@
-// The arithmetic behind the control, linked into this program, so that guard bytes stand behind every block
-// it asks for and any allocation can be made to fail.
+// The control and the arithmetic behind it when memory runs out. The arithmetic is linked into this program too:
+// guard bytes stand behind every block it asks for there.
 
+#include "tests/graphctrl/GraphTest.h"
 #include "tests/support/AllocationGuard.h"
+#include "tests/support/MemoryRule.h"
 
 #include "graphctrl/AxisTicks.h"
 #include "graphctrl/SampleStore.h"
 
-#include <gtest/gtest.h>
-
 #include <climits>
 #include <cmath>
+#include <cstdio>
 #include <memory>
-#include <new>
 #include <random>
+#include <sstream>
 
 using namespace kavlix;
+using testkit::OnFailure;
+
+namespace {
+
+constexpr const char* kLong = "a text that does not fit into a string itself";
+constexpr const char* kExtensions[] = {".png", ".bmp", ".emf"};
+
+CString TempPath(int extension) {
+    char folder[MAX_PATH] = "", path[MAX_PATH] = "";
+    ::GetTempPathA(MAX_PATH, folder);
+    std::snprintf(path, MAX_PATH, "%skvx_memory%lu%s", folder, ::GetCurrentProcessId(), kExtensions[extension]);
+    return path;
+}
+
+/// A control with samples, labels and texts, as a host reads it.
+struct FedGraph {
+    FedGraph() {
+        for (int i = 0; i < 32; ++i) { // with the next sample or label a new piece of memory is asked for
+            graph.AddData(0, i, nullptr);
+            graph.AddData(1, i * 2, nullptr);
+        }
+        for (int i = 0; i < 256; ++i)
+            graph.AddXTickLabel("upper", "lower");
+        graph.SetLegend(0, kLong);
+        graph.SetYUnit("unit", 1, 1);
+    }
+    std::string State() {
+        std::ostringstream out;
+        for (int i = 0; i < CGraphCtrl::DatasetCount; ++i) {
+            out << graph.GetDatasetSize(i) << " " << graph.m_Datasets[i].m_Legend.GetString() << ":";
+            double y = 0;
+            for (int k = 0; graph.GetYData(i, k, y); ++k)
+                out << y << ",";
+        }
+        for (const LabelStore* labels : {&graph.m_XTickLabelUp, &graph.m_XTickLabelDown}) {
+            out << "\nlabels " << labels->GetSize();
+            if (!labels->IsEmpty())
+                out << labels->GetAt(0).GetString() << labels->GetAt(labels->GetUpperBound()).GetString();
+        }
+        out << "\n" << graph.m_SelectionMarkPos << " " << graph.m_XVisibleMax;
+        for (const CString* text : {&graph.m_Title, &graph.m_XLabel, &graph.m_YLabel, &graph.m_Y2Label,
+                                    &graph.m_CaptionFontFace, &graph.m_YUnit, &graph.m_Y2Unit})
+            out << "|" << text->GetString();
+        out << "|" << graph.m_YUnitExponent << graph.m_YTickLabelScale << graph.m_Y2UnitExponent
+            << graph.m_CaptionFontSize;
+        return out.str();
+    }
+    /// A long text that was made while there was memory.
+    CString Text() { return std::move(m_texts[--m_textsLeft]); }
+
+    OpenGraph graph;
+
+private:
+    CString m_texts[4] = {kLong, kLong, kLong, kLong};
+    int m_textsLeft = 4;
+};
+
+/// The same with a window in a parent that stays, the clipboard empty and no picture saved.
+struct ShownGraph : FedGraph {
+    ShownGraph() {
+        graph.Create("MFCGraphCtrl", kLong, WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), parent, 77);
+        graph.SetTitleStyle(CGraphCtrl::TitleStyleCaption);
+        graph.ShowIconMaximize(TRUE, FALSE);
+        graph.SetSelectionMarkPos(5);
+        graph.UpdateWindow();
+        if (::IsClipboardFormatAvailable(CF_ENHMETAFILE) && ::OpenClipboard(graph.m_hWnd)) {
+            ::EmptyClipboard();
+            ::CloseClipboard();
+        }
+    }
+    ~ShownGraph() {
+        for (int i = 0; i < 3; ++i)
+            ::DeleteFileA(TempPath(i));
+    }
+    std::string State() {
+        std::string state = FedGraph::State();
+        for (int i = 0; i < 3; ++i)
+            if (::GetFileAttributesA(TempPath(i)) != INVALID_FILE_ATTRIBUTES)
+                state += std::string("\nsaved as ") + kExtensions[i];
+        return state + (::IsClipboardFormatAvailable(CF_ENHMETAFILE) ? "\ncopied" : "");
+    }
+    bool Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+        ::SendMessage(graph.m_hWnd, message, wParam, lParam);
+        return true;
+    }
+    bool Save(int extension) { return graph.SaveImage(std::move(m_paths[m_left--][extension])); }
+
+    static inline CWnd* parent = nullptr;
+
+private:
+    CString m_paths[2][3] = {{TempPath(0), TempPath(1), TempPath(2)}, {TempPath(0), TempPath(1), TempPath(2)}};
+    int m_left = 1;
+};
+
+} // namespace
+
+TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
+    using F = FedGraph;
+    const int failures = testkit::ExpectMemoryRule<F>({
+        {"constructor", OnFailure::Throws, [](F&) { return OpenGraph().m_hWnd == nullptr; }},
+        {"AddData", OnFailure::Reports, [](F& s) { return s.graph.AddData(0, 7, nullptr) != 0; }},
+        {"AddXTickLabel", OnFailure::Reports,
+         [](F& s) { return s.graph.AddXTickLabel(s.Text(), s.Text()) != 0; }},
+        {"GetXData", OnFailure::Throws,
+         [](F& s) {
+             CString up, down;
+             return s.graph.GetXData(3, up, down) != 0;
+         }},
+        {"SetLegend", OnFailure::Never, [](F& s) { return s.graph.SetLegend(1, s.Text()) != 0; }},
+        {"SetTitle", OnFailure::Never, [](F& s) { return s.graph.SetTitle(s.Text()), true; }},
+        {"SetYUnit", OnFailure::Never, [](F& s) { return s.graph.SetYUnit(s.Text(), 2, 3), true; }},
+        {"SetCaptionFont", OnFailure::Throws, [](F& s) { return s.graph.SetCaptionFont(99, kLong), true; }},
+        {"ResetData", OnFailure::Never, [](F& s) { return s.graph.ResetData(0), true; }},
+        {"ResetXTickLabel", OnFailure::Never, [](F& s) { return s.graph.ResetXTickLabel(), true; }},
+        {"ResetLegend", OnFailure::Never, [](F& s) { return s.graph.ResetLegend(), true; }},
+        {"ResetAll", OnFailure::Never, [](F& s) { return s.graph.ResetAll(), true; }},
+        {"RemoveHeadData", OnFailure::Never, [](F& s) { return s.graph.RemoveHeadData(3), true; }},
+    });
+    testkit::RecordingParent parent;
+    ASSERT_TRUE(parent.CreateVisible(320, 240));
+    ShownGraph::parent = &parent;
+    using S = ShownGraph;
+    const int shownFailures = testkit::ExpectMemoryRule<S>({
+        {"RemoveHeadData", OnFailure::Never, [](S& s) { return s.graph.RemoveHeadData(3), true; }},
+        {"SetSelectionMarkPos", OnFailure::Never, [](S& s) { return s.graph.SetSelectionMarkPos(8), true; }},
+        {"ResetAll", OnFailure::Never, [](S& s) { return s.graph.ResetAll(), true; }},
+        {"SaveImage .png", OnFailure::False, [](S& s) { return s.Save(0); }},
+        {"SaveImage .bmp", OnFailure::False, [](S& s) { return s.Save(1); }},
+        {"SaveImage .emf", OnFailure::False, [](S& s) { return s.Save(2); }},
+        {"CopyToClipboard", OnFailure::False, [](S& s) { return s.graph.CopyToClipboard() != 0; }},
+        {"copy", OnFailure::Message, [](S& s) { return s.Send(WM_COMMAND, ID_EDIT_COPY); }},
+        {"paint", OnFailure::Message, [](S& s) { return s.graph.Redraw(), s.graph.UpdateWindow(), true; }},
+        {"click", OnFailure::Message,
+         [](S& s) { return s.Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(150, 80)); }},
+        {"key", OnFailure::Message, [](S& s) { return s.Send(WM_KEYDOWN, VK_RIGHT); }},
+        {"clear mark", OnFailure::Message,
+         [](S& s) { return s.Send(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK); }},
+        {"remove data", OnFailure::Message,
+         [](S& s) { return s.Send(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK); }},
+        {"move", OnFailure::Message, [](S& s) { return s.Send(WM_MOUSEMOVE, 0, MAKELPARAM(150, 80)); }},
+    });
+    EXPECT_GT(failures, 30);
+    EXPECT_GT(shownFailures, 200);
+    RecordProperty("failures", failures + shownFailures);
+}
 
 TEST(GraphMemoryTest, SamplesStayInsideTheirBlocks) {
     testkit::AllocationGuard guard;
@@ -49,7 +195,8 @@ TEST(GraphMemoryTest, ARefusedSampleChangesNothing) {
             try {
                 store->Append(i);
                 ++stored;
-            } catch (const std::bad_alloc&) {
+            } catch (CMemoryException* exception) {
+                exception->Delete();
                 ++refused;
                 EXPECT_EQ(store->Size(), stored);
                 for (int k = 0; k < stored; ++k)

@@ -177,7 +177,7 @@ TEST(SupportTest, GuardSeesOverrunsLeaksAndLetsAllocationsFail) {
 
     guard.FailAt(2);
     int* volatile first = new int(1);
-    EXPECT_THROW(delete new int(2), std::bad_alloc);
+    EXPECT_THROW(delete new int(2), CMemoryException*);
     EXPECT_TRUE(guard.Failed());
     int* volatile third = new int(3);
     delete first;

@@ -100,10 +100,14 @@ void Free(void* address) noexcept {
 }
 
 void* AllocateOrThrow(std::size_t size) {
-    void* block = Allocate(size);
-    if (block == nullptr)
-        throw std::bad_alloc();
-    return block;
+    for (;;) {
+        if (void* block = Allocate(size))
+            return block;
+        const std::new_handler handler = std::get_new_handler();
+        if (handler == nullptr)
+            throw std::bad_alloc();
+        handler();
+    }
 }
 
 } // namespace

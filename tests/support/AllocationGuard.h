@@ -7,7 +7,7 @@ namespace testkit {
 /// The test program replaces `operator new`. While a guard lives, every block asked for by code that is
 /// linked into the program itself gets guard bytes behind it, which are checked when the block is given back
 /// and when the guard ends. Code inside a DLL has an `operator new` of its own and is not reached: link its
-/// objects statically, or use ImportHook.
+/// objects statically, or use FailingAllocations.
 ///
 /// One guard at a time, on one thread.
 class AllocationGuard {
@@ -17,7 +17,8 @@ public:
     AllocationGuard& operator=(const AllocationGuard&) = delete;
     ~AllocationGuard();
 
-    /// Lets the n-th allocation from now on (1 = the next) throw std::bad_alloc, once. 0 calls it off.
+    /// Lets the n-th allocation from now on (1 = the next) fail, once: the new-handler throws, as in any host,
+    /// CMemoryException*. 0 calls it off.
     void FailAt(int n);
     /// Whether the allocation that FailAt() named was reached.
     bool Failed() const;

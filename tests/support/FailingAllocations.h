@@ -1,41 +1,41 @@
+// Memory that runs out inside the DLLs under test, in the way that hosts meet it.
 #pragma once
 
 #include "tests/support/ImportHook.h"
 
 #include <cstddef>
-#include <new>
+#include <list>
 
 namespace testkit {
 
-/// While it lives, allocations inside one loaded module can be made to fail. One at a time.
+/// While it lives, the C runtime's `malloc` can be made to answer null for the C++ run-time library and the
+/// DLLs under test. Their `new` then asks the new-handler, which throws CMemoryException*, as in any host. The
+/// test program's own `new` is not reached; its long std::strings are, since the run-time library allocates
+/// their text: make none while a failure is called for.
+///
+/// One at a time, on one thread. MemoryRule.h tries whole operations at every allocation.
 class FailingAllocations {
 public:
-    explicit FailingAllocations(const std::string& module = "Kavlix.dll")
-        : m_hook(module, sizeof(void*) == 8 ? "_Znwy" : "_Znwj", reinterpret_cast<void*>(&Allocate)) {
-        s_original = reinterpret_cast<decltype(s_original)>(m_hook.Original());
-        s_left = -1;
-        s_refused = 0;
-    }
-    /// Whether the module allocates through an import that could be replaced.
-    bool Installed() const { return m_hook.Installed(); }
-    /// Lets the allocation behind the next `successes` fail, once. Negative calls it off.
-    void FailAfter(int successes) { s_left = successes; }
+    FailingAllocations();
+    FailingAllocations(const FailingAllocations&) = delete;
+    FailingAllocations& operator=(const FailingAllocations&) = delete;
+    ~FailingAllocations();
+
+    /// Whether the allocations of the C++ run-time library pass through here.
+    bool Installed() const { return m_installed; }
+    /// Lets the allocation behind the next `successes` fail, alone or, `forGood`, with all that follow.
+    /// Negative calls it off.
+    void FailAfter(int successes, bool forGood = false);
     /// Allocations that have failed so far.
-    int Refused() const { return s_refused; }
+    int Refused() const;
+    /// Blocks that exist beyond those at the beginning, the test program's own among them.
+    int Live() const;
 
 private:
-    static void* Allocate(std::size_t size) {
-        if (s_left >= 0 && s_left-- == 0) {
-            ++s_refused;
-            throw std::bad_alloc();
-        }
-        return s_original(size);
-    }
+    void Hook(const std::string& module, bool fails);
 
-    static inline void* (*s_original)(std::size_t) = nullptr;
-    static inline int s_left = -1;
-    static inline int s_refused = 0;
-    ImportHook m_hook;
+    std::list<ImportHook> m_hooks;
+    bool m_installed = false;
 };
 
 } // namespace testkit

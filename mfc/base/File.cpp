@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 
 #include "mfc/base/FileTime.h"
 
@@ -138,14 +139,15 @@ void CFile::Abort() {
 
 CFile* CFile::Duplicate() const {
     ASSERT(m_hFile != hFileNull);
+    auto file = std::make_unique<CFile>(); // before the handle, which could get lost
+    file->m_strFileName = m_strFileName;
     HANDLE copy = nullptr;
     if (!::DuplicateHandle(::GetCurrentProcess(), m_hFile, ::GetCurrentProcess(), &copy, 0, FALSE,
                            DUPLICATE_SAME_ACCESS))
         CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), m_strFileName);
-    CFile* file = new CFile(copy);
+    file->m_hFile = copy;
     file->m_bCloseOnDelete = m_bCloseOnDelete;
-    file->m_strFileName = m_strFileName;
-    return file;
+    return file.release();
 }
 
 UINT CFile::Read(void* buffer, UINT count) {

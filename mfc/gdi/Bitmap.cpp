@@ -13,15 +13,15 @@ CBitmap* PASCAL CBitmap::FromHandle(HBITMAP hBitmap) {
 }
 
 BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName) {
-    return Attach(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
+    return AttachNew(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
-    return Attach(::CreateCompatibleBitmap(SafeHandle(pDC), nWidth, nHeight));
+    return AttachNew(::CreateCompatibleBitmap(SafeHandle(pDC), nWidth, nHeight));
 }
 
 BOOL CBitmap::CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight) {
-    return Attach(::CreateDiscardableBitmap(SafeHandle(pDC), nWidth, nHeight));
+    return AttachNew(::CreateDiscardableBitmap(SafeHandle(pDC), nWidth, nHeight));
 }
 
 DWORD CBitmap::SetBitmapBits(DWORD dwCount, const void* lpBits) {

@@ -33,7 +33,7 @@ CDC* PASCAL CDC::FromHandle(HDC hDC) {
 }
 
 void PASCAL CDC::DeleteTempMap() {
-    if (ThreadGdiMaps* const maps = GdiMaps())
+    if (ThreadGdiMaps* const maps = MadeGdiMaps())
         maps->dcs.DeleteTemporaries();
 }
 
@@ -59,7 +59,7 @@ BOOL CDC::Attach(HDC hDC) {
 
 HDC CDC::Detach() {
     const HDC handle = m_hDC;
-    ThreadGdiMaps* const maps = GdiMaps();
+    ThreadGdiMaps* const maps = MadeGdiMaps();
     if (handle != nullptr && maps != nullptr && maps->dcs.Permanent(handle) == this)
         maps->dcs.Remove(handle);
     ReleaseAttribDC();
@@ -89,18 +89,20 @@ BOOL CDC::IsPrinting() const {
 
 BOOL CDC::CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
                    const void* lpInitData) {
-    return Attach(
-        ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+    return AttachNew(
+        *this, ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)),
+        ::DeleteDC);
 }
 
 BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
                    const void* lpInitData) {
-    return Attach(
-        ::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+    return AttachNew(
+        *this, ::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)),
+        ::DeleteDC);
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC) {
-    return Attach(::CreateCompatibleDC(SafeHandle(pDC)));
+    return AttachNew(*this, ::CreateCompatibleDC(SafeHandle(pDC)), ::DeleteDC);
 }
 
 BOOL CDC::DeleteDC() {

@@ -1,12 +1,36 @@
 #include "afx/DC.h"
 #include "mfc/gdi/Handles.h"
 
+#include <initializer_list>
+
 namespace {
 
-/// Selects into both DCs; the handle that was selected before, NULL on failure.
-HGDIOBJ SelectBoth(const CDC& dc, const CGdiObject* object) {
-    const HGDIOBJ handle = SafeHandle(object);
-    return ForBoth(dc, [handle](HDC target) { return ::SelectObject(target, handle); });
+/// `select`s a handle into each DC that is not NULL. The result is `wrap` of the handle that the last one had
+/// before; when there is no memory for it, the DCs get back what they had, and the result is NULL.
+template <class Select, class Wrap>
+auto SelectInto(std::initializer_list<HDC> dcs, HGDIOBJ handle, Select select, Wrap wrap)
+    -> decltype(wrap(handle)) {
+    HGDIOBJ formers[2] = {};
+    HGDIOBJ* former = formers;
+    for (HDC const dc : dcs)
+        *former++ = dc != nullptr ? select(dc, handle) : nullptr;
+    decltype(wrap(handle)) result = nullptr;
+    if (HasMemoryFor([&] { result = wrap(former[-1] != nullptr ? former[-1] : formers[0]); }))
+        return result;
+    former = formers;
+    for (HDC const dc : dcs)
+        if (HGDIOBJ const one = *former++)
+            select(dc, one);
+    return nullptr;
+}
+
+template <class Wrap> auto SelectBoth(const CDC& dc, HGDIOBJ handle, Wrap wrap) -> decltype(wrap(handle)) {
+    HDC const output = dc.m_hDC != dc.m_hAttribDC ? dc.m_hDC : nullptr;
+    return SelectInto({output, dc.m_hAttribDC}, handle, ::SelectObject, wrap);
+}
+
+template <class Object, class Handle> Object* ObjectOf(HGDIOBJ handle) {
+    return Object::FromHandle(static_cast<Handle>(handle));
 }
 
 /// Every second pixel of an 8 x 8 pattern; rows are WORD aligned.
@@ -15,25 +39,23 @@ constexpr WORD kHalftoneRows[8] = {0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xA
 } // namespace
 
 CGdiObject* CDC::SelectStockObject(int nIndex) {
-    const HGDIOBJ stock = ::GetStockObject(nIndex);
-    return CGdiObject::FromHandle(
-        ForBoth(*this, [stock](HDC target) { return ::SelectObject(target, stock); }));
+    return SelectBoth(*this, ::GetStockObject(nIndex), CGdiObject::FromHandle);
 }
 
 CPen* CDC::SelectObject(CPen* pPen) {
-    return CPen::FromHandle(static_cast<HPEN>(SelectBoth(*this, pPen)));
+    return SelectBoth(*this, SafeHandle(pPen), ObjectOf<CPen, HPEN>);
 }
 
 CBrush* CDC::SelectObject(CBrush* pBrush) {
-    return CBrush::FromHandle(static_cast<HBRUSH>(SelectBoth(*this, pBrush)));
+    return SelectBoth(*this, SafeHandle(pBrush), ObjectOf<CBrush, HBRUSH>);
 }
 
 CFont* CDC::SelectObject(CFont* pFont) {
-    return CFont::FromHandle(static_cast<HFONT>(SelectBoth(*this, pFont)));
+    return SelectBoth(*this, SafeHandle(pFont), ObjectOf<CFont, HFONT>);
 }
 
 CBitmap* CDC::SelectObject(CBitmap* pBitmap) {
-    return CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, SafeHandle(pBitmap))));
+    return SelectInto({m_hDC}, SafeHandle(pBitmap), ::SelectObject, ObjectOf<CBitmap, HBITMAP>);
 }
 
 int CDC::SelectObject(CRgn* pRgn) {
@@ -48,9 +70,9 @@ CGdiObject* CDC::SelectObject(CGdiObject* pObject) {
         });
         return nullptr;
     case OBJ_BITMAP:
-        return CGdiObject::FromHandle(::SelectObject(m_hDC, pObject->m_hObject));
+        return SelectInto({m_hDC}, pObject->m_hObject, ::SelectObject, CGdiObject::FromHandle);
     default:
-        return CGdiObject::FromHandle(SelectBoth(*this, pObject));
+        return SelectBoth(*this, SafeHandle(pObject), CGdiObject::FromHandle);
     }
 }
 
@@ -75,8 +97,10 @@ CBitmap* CDC::GetCurrentBitmap() const {
 }
 
 CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground) {
-    return CPalette::FromHandle(
-        ::SelectPalette(m_hDC, static_cast<HPALETTE>(SafeHandle(pPalette)), bForceBackground));
+    const auto select = [bForceBackground](HDC dc, HGDIOBJ handle) {
+        return ::SelectPalette(dc, static_cast<HPALETTE>(handle), bForceBackground);
+    };
+    return SelectInto({m_hDC}, SafeHandle(pPalette), select, ObjectOf<CPalette, HPALETTE>);
 }
 
 CPoint CDC::GetBrushOrg() const {

@@ -1,5 +1,6 @@
 #include "afx/GdiObject.h"
 
+#include "mfc/gdi/Handles.h"
 #include "mfc/gdi/ThreadMaps.h"
 
 IMPLEMENT_DYNCREATE(CGdiObject, CObject)
@@ -35,7 +36,7 @@ CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
 }
 
 void PASCAL CGdiObject::DeleteTempMap() {
-    if (ThreadGdiMaps* const maps = GdiMaps())
+    if (ThreadGdiMaps* const maps = MadeGdiMaps())
         maps->objects.DeleteTemporaries();
 }
 
@@ -55,11 +56,15 @@ BOOL CGdiObject::Attach(HGDIOBJ hObject) {
     return TRUE;
 }
 
+BOOL CGdiObject::AttachNew(HGDIOBJ hObject) {
+    return ::AttachNew(*this, hObject, ::DeleteObject);
+}
+
 HGDIOBJ CGdiObject::Detach() {
     const HGDIOBJ handle = m_hObject;
     m_hObject = nullptr;
     if (handle != nullptr)
-        if (ThreadGdiMaps* const maps = GdiMaps())
+        if (ThreadGdiMaps* const maps = MadeGdiMaps())
             maps->objects.Remove(handle, this);
     return handle;
 }

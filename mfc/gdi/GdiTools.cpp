@@ -40,8 +40,8 @@ CPen* PASCAL CPen::FromHandle(HPEN hPen) {
 
 BOOL CPen::CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount,
                      const DWORD* lpStyle) {
-    return Attach(::ExtCreatePen(static_cast<DWORD>(nPenStyle), static_cast<DWORD>(nWidth), pLogBrush,
-                                 static_cast<DWORD>(nStyleCount), lpStyle));
+    return AttachNew(::ExtCreatePen(static_cast<DWORD>(nPenStyle), static_cast<DWORD>(nWidth), pLogBrush,
+                                    static_cast<DWORD>(nStyleCount), lpStyle));
 }
 
 CBrush::CBrush(COLORREF crColor) {
@@ -64,7 +64,7 @@ CBrush* PASCAL CBrush::FromHandle(HBRUSH hBrush) {
 }
 
 BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {
-    return Attach(::CreatePatternBrush(static_cast<HBITMAP>(SafeHandle(pBitmap))));
+    return AttachNew(::CreatePatternBrush(static_cast<HBITMAP>(SafeHandle(pBitmap))));
 }
 
 BOOL CBrush::CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage) {
@@ -83,9 +83,9 @@ CFont* PASCAL CFont::FromHandle(HFONT hFont) {
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                        BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision,
                        BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename) {
-    return Attach(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline,
-                               cStrikeOut, nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily,
-                               lpszFacename));
+    return AttachNew(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline,
+                                  cStrikeOut, nCharSet, nOutPrecision, nClipPrecision, nQuality,
+                                  nPitchAndFamily, lpszFacename));
 }
 
 BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC) {
@@ -115,7 +115,7 @@ CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette) {
 }
 
 BOOL CPalette::CreateHalftonePalette(CDC* pDC) {
-    return Attach(::CreateHalftonePalette(SafeHandle(pDC)));
+    return AttachNew(::CreateHalftonePalette(SafeHandle(pDC)));
 }
 
 int CPalette::GetEntryCount() const {

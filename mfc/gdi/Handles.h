@@ -4,6 +4,8 @@
 #include "afx/GdiObject.h"
 #include "afx/Wnd.h"
 
+#include <new>
+
 /// Handles of objects that may be NULL, without a member call on them.
 inline HDC SafeHandle(const CDC* dc) {
     return dc == nullptr ? nullptr : dc->m_hDC;
@@ -19,6 +21,28 @@ inline HBRUSH BrushHandle(const CBrush* brush) {
 }
 inline HRGN RegionHandle(const CRgn* region) {
     return static_cast<HRGN>(SafeHandle(region));
+}
+
+/// Runs `work`; false when memory runs out meanwhile.
+template <class Work> bool HasMemoryFor(Work work) {
+    try {
+        work();
+        return true;
+    } catch (CMemoryException* exception) {
+        exception->Delete();
+    } catch (const std::bad_alloc&) {
+    }
+    return false;
+}
+
+/// Attaches a handle that was just made for `owner`. When memory runs out, `destroy` ends the handle, and the
+/// result is FALSE.
+template <class Owner, class Handle, class Destroy>
+BOOL AttachNew(Owner& owner, Handle handle, Destroy destroy) {
+    BOOL attached = FALSE;
+    if (!HasMemoryFor([&] { attached = owner.Attach(handle); }))
+        destroy(handle);
+    return attached;
 }
 
 /// Applies a setting to the output DC and the attribute DC; the attribute DC's answer counts if there is one.

@@ -41,12 +41,12 @@ CMenu* PASCAL CMenu::FromHandle(HMENU hMenu) {
 }
 
 CMenu* PASCAL CMenu::FromHandlePermanent(HMENU hMenu) {
-    ThreadGdiMaps* const maps = GdiMaps();
+    ThreadGdiMaps* const maps = MadeGdiMaps();
     return maps == nullptr ? nullptr : maps->menus.Permanent(hMenu);
 }
 
 void PASCAL CMenu::DeleteTempMap() {
-    if (ThreadGdiMaps* const maps = GdiMaps())
+    if (ThreadGdiMaps* const maps = MadeGdiMaps())
         maps->menus.DeleteTemporaries();
 }
 
@@ -68,7 +68,7 @@ BOOL CMenu::Attach(HMENU hMenu) {
 HMENU CMenu::Detach() {
     const HMENU handle = m_hMenu;
     m_hMenu = nullptr;
-    ThreadGdiMaps* const maps = GdiMaps();
+    ThreadGdiMaps* const maps = MadeGdiMaps();
     if (handle != nullptr && maps != nullptr && maps->menus.Permanent(handle) == this)
         maps->menus.Remove(handle);
     return handle;
@@ -79,8 +79,21 @@ BOOL CMenu::DestroyMenu() {
     return handle != nullptr && ::DestroyMenu(handle);
 }
 
+BOOL CMenu::CreateMenu() {
+    return AttachNew(*this, ::CreateMenu(), ::DestroyMenu);
+}
+
+BOOL CMenu::CreatePopupMenu() {
+    return AttachNew(*this, ::CreatePopupMenu(), ::DestroyMenu);
+}
+
 BOOL CMenu::LoadMenu(LPCTSTR lpszResourceName) {
-    return Attach(::LoadMenu(AfxFindResourceHandle(lpszResourceName, RT_MENU), lpszResourceName));
+    HINSTANCE const module = AfxFindResourceHandle(lpszResourceName, RT_MENU);
+    return AttachNew(*this, ::LoadMenu(module, lpszResourceName), ::DestroyMenu);
+}
+
+BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate) {
+    return AttachNew(*this, ::LoadMenuIndirect(lpMenuTemplate), ::DestroyMenu);
 }
 
 BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp) {

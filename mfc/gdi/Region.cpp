@@ -11,7 +11,7 @@ CRgn* PASCAL CRgn::FromHandle(HRGN hRgn) {
 }
 
 BOOL CRgn::CreateFromPath(CDC* pDC) {
-    return Attach(::PathToRegion(SafeHandle(pDC)));
+    return AttachNew(::PathToRegion(SafeHandle(pDC)));
 }
 
 int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) {

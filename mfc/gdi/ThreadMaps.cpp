@@ -27,6 +27,10 @@ ThreadGdiMaps* GdiMaps() {
     return t_maps;
 }
 
+ThreadGdiMaps* MadeGdiMaps() {
+    return t_maps;
+}
+
 void GdiObjectMap::Remove(HGDIOBJ handle, const CGdiObject* object) {
     if (Permanent(handle) == object)
         m_permanent.Remove(handle);

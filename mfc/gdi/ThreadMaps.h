@@ -85,3 +85,5 @@ struct ThreadGdiMaps {
 /// The calling thread's maps, made at first use. NULL once the thread has begun to end: global objects that
 /// own handles may be destroyed after the maps.
 ThreadGdiMaps* GdiMaps();
+/// The same, and NULL where none have been made: what only takes an entry out must not ask for memory.
+ThreadGdiMaps* MadeGdiMaps();

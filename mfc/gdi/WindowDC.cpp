@@ -8,7 +8,7 @@ IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 IMPLEMENT_DYNAMIC(CMetaFileDC, CDC)
 
 CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(SafeHandle(pWnd)) {
-    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
+    if (!AttachNew(*this, ::BeginPaint(m_hWnd, &m_ps), [this](HDC) { ::EndPaint(m_hWnd, &m_ps); }))
         AfxThrowResourceException();
 }
 
@@ -18,7 +18,7 @@ CPaintDC::~CPaintDC() {
 }
 
 CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(SafeHandle(pWnd)) {
-    if (!Attach(::GetDC(m_hWnd)))
+    if (!AttachNew(*this, ::GetDC(m_hWnd), [this](HDC dc) { ::ReleaseDC(m_hWnd, dc); }))
         AfxThrowResourceException();
 }
 
@@ -27,7 +27,7 @@ CClientDC::~CClientDC() {
 }
 
 CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(SafeHandle(pWnd)) {
-    if (!Attach(::GetWindowDC(m_hWnd)))
+    if (!AttachNew(*this, ::GetWindowDC(m_hWnd), [this](HDC dc) { ::ReleaseDC(m_hWnd, dc); }))
         AfxThrowResourceException();
 }
 
@@ -45,7 +45,8 @@ CMetaFileDC::~CMetaFileDC() {
 }
 
 BOOL CMetaFileDC::Create(LPCTSTR lpszFilename) {
-    if (!Attach(::CreateMetaFile(lpszFilename)))
+    const auto discard = [](HDC dc) { ::DeleteMetaFile(::CloseMetaFile(dc)); };
+    if (!AttachNew(*this, ::CreateMetaFile(lpszFilename), discard))
         return FALSE;
     ReleaseAttribDC(); // a recording cannot answer for a device
     return TRUE;
@@ -54,7 +55,8 @@ BOOL CMetaFileDC::Create(LPCTSTR lpszFilename) {
 BOOL CMetaFileDC::CreateEnhanced(CDC* pDCRef, LPCTSTR lpszFileName, LPCRECT lpBounds,
                                  LPCTSTR lpszDescription) {
     HDC const reference = pDCRef == nullptr ? nullptr : pDCRef->m_hAttribDC;
-    if (!Attach(::CreateEnhMetaFile(reference, lpszFileName, lpBounds, lpszDescription)))
+    const auto discard = [](HDC dc) { ::DeleteEnhMetaFile(::CloseEnhMetaFile(dc)); };
+    if (!AttachNew(*this, ::CreateEnhMetaFile(reference, lpszFileName, lpBounds, lpszDescription), discard))
         return FALSE;
     ReleaseAttribDC();
     return TRUE;

@@ -2,6 +2,7 @@
 
 #include "afx/DC.h"
 #include "afx/GdiObject.h"
+#include "mfc/gdi/Handles.h"
 
 #include <algorithm>
 
@@ -120,8 +121,24 @@ void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType) {
     ::AdjustWindowRectEx(lpClientRect, GetStyle(), hasMenu, exStyle);
 }
 
+namespace {
+
+/// The object of a DC that was just taken. When memory runs out, `giveBack` ends the DC, and the result is NULL.
+template <class GiveBack> CDC* WrapNew(HDC dc, GiveBack giveBack) {
+    CDC* object = nullptr;
+    if (!HasMemoryFor([&] { object = CDC::FromHandle(dc); }))
+        giveBack(dc);
+    return object;
+}
+
+CDC* WrapTaken(HWND window, HDC dc) {
+    return WrapNew(dc, [window](HDC taken) { ::ReleaseDC(window, taken); });
+}
+
+} // namespace
+
 CDC* CWnd::BeginPaint(LPPAINTSTRUCT lpPaint) {
-    return CDC::FromHandle(::BeginPaint(m_hWnd, lpPaint));
+    return WrapNew(::BeginPaint(m_hWnd, lpPaint), [&](HDC) { ::EndPaint(m_hWnd, lpPaint); });
 }
 
 void CWnd::EndPaint(LPPAINTSTRUCT lpPaint) {
@@ -129,23 +146,15 @@ void CWnd::EndPaint(LPPAINTSTRUCT lpPaint) {
 }
 
 CDC* CWnd::GetDC() {
-    return CDC::FromHandle(::GetDC(m_hWnd));
+    return WrapTaken(m_hWnd, ::GetDC(m_hWnd));
 }
 
 CDC* CWnd::GetWindowDC() {
-    return CDC::FromHandle(::GetWindowDC(m_hWnd));
+    return WrapTaken(m_hWnd, ::GetWindowDC(m_hWnd));
 }
-
-namespace {
-
-HRGN RegionOf(const CRgn* region) {
-    return region != nullptr ? static_cast<HRGN>(region->m_hObject) : nullptr;
-}
-
-} // namespace
 
 CDC* CWnd::GetDCEx(CRgn* prgnClip, DWORD flags) {
-    return CDC::FromHandle(::GetDCEx(m_hWnd, RegionOf(prgnClip), flags));
+    return WrapTaken(m_hWnd, ::GetDCEx(m_hWnd, RegionHandle(prgnClip), flags));
 }
 
 int CWnd::ReleaseDC(CDC* pDC) {
@@ -173,7 +182,7 @@ BOOL CWnd::GetUpdateRect(LPRECT lpRect, BOOL bErase) {
 }
 
 int CWnd::GetUpdateRgn(CRgn* pRgn, BOOL bErase) {
-    return ::GetUpdateRgn(m_hWnd, RegionOf(pRgn), bErase);
+    return ::GetUpdateRgn(m_hWnd, RegionHandle(pRgn), bErase);
 }
 
 void CWnd::Invalidate(BOOL bErase) {
@@ -185,7 +194,7 @@ void CWnd::InvalidateRect(LPCRECT lpRect, BOOL bErase) {
 }
 
 void CWnd::InvalidateRgn(CRgn* pRgn, BOOL bErase) {
-    ::InvalidateRgn(m_hWnd, RegionOf(pRgn), bErase);
+    ::InvalidateRgn(m_hWnd, RegionHandle(pRgn), bErase);
 }
 
 void CWnd::ValidateRect(LPCRECT lpRect) {
@@ -193,7 +202,7 @@ void CWnd::ValidateRect(LPCRECT lpRect) {
 }
 
 void CWnd::ValidateRgn(CRgn* pRgn) {
-    ::ValidateRgn(m_hWnd, RegionOf(pRgn));
+    ::ValidateRgn(m_hWnd, RegionHandle(pRgn));
 }
 
 BOOL CWnd::LockWindowUpdate() {
@@ -205,7 +214,7 @@ void CWnd::UnlockWindowUpdate() {
 }
 
 BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags) {
-    return ::RedrawWindow(m_hWnd, lpRectUpdate, RegionOf(prgnUpdate), flags);
+    return ::RedrawWindow(m_hWnd, lpRectUpdate, RegionHandle(prgnUpdate), flags);
 }
 
 void CWnd::ShowOwnedPopups(BOOL bShow) {

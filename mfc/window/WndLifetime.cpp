@@ -1,6 +1,7 @@
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
+#include "mfc/gdi/Handles.h"
 
 #include <cstring>
 
@@ -52,8 +53,8 @@ BOOL CWnd::Attach(HWND hWndNew) {
     if (hWndNew == nullptr)
         return FALSE;
     ASSERT(FromHandlePermanent(hWndNew) == nullptr);
-    m_hWnd = hWndNew;
     CurrentThreadState().windows.SetPermanent(hWndNew, this);
+    m_hWnd = hWndNew;
     return TRUE;
 }
 
@@ -66,9 +67,15 @@ HWND CWnd::Detach() {
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
-    if (m_hWnd != nullptr || FromHandlePermanent(hWnd) != nullptr || !Attach(hWnd))
+    const auto leave = [](HWND) {}; // it is not the object's to destroy
+    if (m_hWnd != nullptr || FromHandlePermanent(hWnd) != nullptr || !AttachNew(*this, hWnd, leave))
         return FALSE;
-    PreSubclassWindow();
+    try {
+        PreSubclassWindow();
+    } catch (...) {
+        Detach(); // or the destructor would destroy a window that is not the object's
+        throw;
+    }
     ::SetLastError(0);
     const auto former = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
@@ -98,6 +105,22 @@ HWND CWnd::UnsubclassWindow() {
 
 // ---- Creation: a hook ties the window to its object before the window's first message. ----
 
+/// Ties a window to its object. False, and nothing tied, when memory runs out or the object refuses by throwing:
+/// exceptions must not cross the system's stack frames.
+static bool Tie(CWnd& object, HWND window) {
+    try {
+        if (HasMemoryFor([&] {
+                object.Attach(window);
+                object.PreSubclassWindow();
+            }))
+            return true;
+    } catch (CException* exception) {
+        exception->Delete();
+    }
+    object.Detach();
+    return false;
+}
+
 /// Runs while this thread creates a window.
 LRESULT CALLBACK AfxCbtHook(int nCode, WPARAM wParam, LPARAM lParam) {
     ThreadState& state = CurrentThreadState();
@@ -110,8 +133,10 @@ LRESULT CALLBACK AfxCbtHook(int nCode, WPARAM wParam, LPARAM lParam) {
         ::GetClassNameA(window, className, static_cast<int>(sizeof(className)));
         if (_stricmp(className, "ime") != 0) {
             state.windowInCreation = nullptr;
-            object->Attach(window);
-            object->PreSubclassWindow();
+            if (!Tie(*object, window)) {
+                state.windowInCreation = object; // nobody else tells the object that its creation failed
+                return 1;                        // ends the creation
+            }
             const auto former = reinterpret_cast<WNDPROC>(
                 ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
             if (former != AfxWndProc)

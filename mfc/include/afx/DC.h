@@ -37,7 +37,8 @@ public:
     HDC GetSafeHdc() const;
     /// The window the DC belongs to, or NULL (memory, printer, metafile).
     CWnd* GetWindow() const;
-    /// Takes `hDC` for both handles, and owns it. FALSE for NULL.
+    /// Takes `hDC` for both handles, and owns it. FALSE for NULL. Throws CMemoryException* when memory runs
+    /// out; the DC stays the caller's.
     BOOL Attach(HDC hDC);
     /// Gives both handles up; the caller deletes or releases the result.
     HDC Detach();
@@ -49,7 +50,7 @@ public:
     BOOL IsPrinting() const;
     /// @}
 
-    /// @name Creation
+    /// @name Creation: FALSE on failure
     /// @{
     BOOL CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput, const void* lpInitData);
     BOOL CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput, const void* lpInitData);

@@ -32,7 +32,8 @@ public:
     /// The handle; NULL also for a NULL object.
     HGDIOBJ GetSafeHandle() const;
 
-    /// Takes ownership of `hObject`. FALSE for NULL. The object must not own a handle yet.
+    /// Takes ownership of `hObject`. FALSE for NULL. The object must not own a handle yet. Throws
+    /// CMemoryException* when memory runs out; the handle stays the caller's.
     BOOL Attach(HGDIOBJ hObject);
     /// Gives the handle away: the caller deletes it from now on.
     HGDIOBJ Detach();
@@ -46,13 +47,17 @@ public:
     /// OBJ_PEN, OBJ_BRUSH, ...; 0 if the handle is not valid.
     UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
     /// Attaches a stock object (WHITE_PEN, SYSTEM_FONT ...). Deleting it later does no harm.
-    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
+    BOOL CreateStockObject(int nIndex) { return AttachNew(::GetStockObject(nIndex)); }
     /// Resets a brush's origin, or makes a palette be realized anew.
     BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
 
     /// Objects are equal when their handles are.
     BOOL operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
     BOOL operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
+
+protected:
+    /// Attach() for a handle that was just made: when memory runs out, deletes the handle and answers FALSE.
+    BOOL AttachNew(HGDIOBJ hObject);
 };
 
 /// A pen. Widths are in logical units.
@@ -71,11 +76,11 @@ public:
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
 
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
-        return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+        return AttachNew(::CreatePen(nPenStyle, nWidth, crColor));
     }
     BOOL CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
                    const DWORD* lpStyle = nullptr);
-    BOOL CreatePenIndirect(LPLOGPEN lpLogPen) { return Attach(::CreatePenIndirect(lpLogPen)); }
+    BOOL CreatePenIndirect(LPLOGPEN lpLogPen) { return AttachNew(::CreatePenIndirect(lpLogPen)); }
     /// Fails for pens made with a LOGBRUSH; ask those with GetExtLogPen().
     int GetLogPen(LOGPEN* pLogPen) const { return GetObject(sizeof(LOGPEN), pLogPen); }
     int GetExtLogPen(EXTLOGPEN* pLogPen) const { return GetObject(sizeof(EXTLOGPEN), pLogPen); }
@@ -96,18 +101,18 @@ public:
     static CBrush* PASCAL FromHandle(HBRUSH hBrush);
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 
-    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
+    BOOL CreateSolidBrush(COLORREF crColor) { return AttachNew(::CreateSolidBrush(crColor)); }
     BOOL CreateHatchBrush(int nIndex, COLORREF crColor) {
-        return Attach(::CreateHatchBrush(nIndex, crColor));
+        return AttachNew(::CreateHatchBrush(nIndex, crColor));
     }
-    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return Attach(::CreateBrushIndirect(lpLogBrush)); }
+    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return AttachNew(::CreateBrushIndirect(lpLogBrush)); }
     BOOL CreatePatternBrush(CBitmap* pBitmap);
     BOOL CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage);
     BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
-        return Attach(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
+        return AttachNew(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
     }
     /// The brush of a system colour (COLOR_WINDOW ...); the system keeps it.
-    BOOL CreateSysColorBrush(int nIndex) { return Attach(::GetSysColorBrush(nIndex)); }
+    BOOL CreateSysColorBrush(int nIndex) { return AttachNew(::GetSysColorBrush(nIndex)); }
     int GetLogBrush(LOGBRUSH* pLogBrush) const { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
 };
 
@@ -122,7 +127,7 @@ public:
     static CFont* PASCAL FromHandle(HFONT hFont);
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
 
-    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return Attach(::CreateFontIndirect(lpLogFont)); }
+    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return AttachNew(::CreateFontIndirect(lpLogFont)); }
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                     BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                     BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
@@ -149,12 +154,12 @@ public:
     BOOL LoadBitmap(LPCTSTR lpszResourceName);
     BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
     /// One of the system's own (OBM_CLOSE ...).
-    BOOL LoadOEMBitmap(UINT nIDBitmap) { return Attach(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap))); }
+    BOOL LoadOEMBitmap(UINT nIDBitmap) { return AttachNew(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap))); }
 
     BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits) {
-        return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
+        return AttachNew(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
     }
-    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap) { return Attach(::CreateBitmapIndirect(lpBitmap)); }
+    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap) { return AttachNew(::CreateBitmapIndirect(lpBitmap)); }
     /// Compatible with the output DC of `pDC`.
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     BOOL CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight);
@@ -180,7 +185,7 @@ public:
     static CPalette* PASCAL FromHandle(HPALETTE hPalette);
     operator HPALETTE() const { return static_cast<HPALETTE>(m_hObject); }
 
-    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return Attach(::CreatePalette(lpLogPalette)); }
+    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return AttachNew(::CreatePalette(lpLogPalette)); }
     BOOL CreateHalftonePalette(CDC* pDC);
 
     int GetEntryCount() const;
@@ -211,25 +216,25 @@ public:
     operator HRGN() const { return static_cast<HRGN>(m_hObject); }
 
     /// All creators answer FALSE on failure. Right and bottom edges do not belong to the region.
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
-    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
+    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return AttachNew(::CreateRectRgn(x1, y1, x2, y2)); }
+    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return AttachNew(::CreateRectRgnIndirect(lpRect)); }
     BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2) {
-        return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
+        return AttachNew(::CreateEllipticRgn(x1, y1, x2, y2));
     }
-    BOOL CreateEllipticRgnIndirect(LPCRECT lpRect) { return Attach(::CreateEllipticRgnIndirect(lpRect)); }
+    BOOL CreateEllipticRgnIndirect(LPCRECT lpRect) { return AttachNew(::CreateEllipticRgnIndirect(lpRect)); }
     BOOL CreatePolygonRgn(LPPOINT lpPoints, int nCount, int nMode) {
-        return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
+        return AttachNew(::CreatePolygonRgn(lpPoints, nCount, nMode));
     }
     BOOL CreatePolyPolygonRgn(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount, int nPolyFillMode) {
-        return Attach(::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nPolyFillMode));
+        return AttachNew(::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nPolyFillMode));
     }
     BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3) {
-        return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
+        return AttachNew(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
     }
     /// From the closed path of `pDC`, which is used up.
     BOOL CreateFromPath(CDC* pDC);
     BOOL CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData) {
-        return Attach(::ExtCreateRegion(lpXForm, static_cast<DWORD>(nCount), pRgnData));
+        return AttachNew(::ExtCreateRegion(lpXForm, static_cast<DWORD>(nCount), pRgnData));
     }
 
     void SetRectRgn(int x1, int y1, int x2, int y2) { ::SetRectRgn(*this, x1, y1, x2, y2); }

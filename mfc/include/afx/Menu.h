@@ -32,18 +32,20 @@ public:
     /// The handle; NULL also for a NULL object.
     HMENU GetSafeHmenu() const;
 
-    /// Takes ownership of `hMenu`. FALSE for NULL.
+    /// Takes ownership of `hMenu`. FALSE for NULL. Throws CMemoryException* when memory runs out; the menu
+    /// stays the caller's.
     BOOL Attach(HMENU hMenu);
     /// Gives the handle away.
     HMENU Detach();
     BOOL DestroyMenu();
 
-    BOOL CreateMenu() { return Attach(::CreateMenu()); }
-    BOOL CreatePopupMenu() { return Attach(::CreatePopupMenu()); }
+    /// FALSE on failure, as the other creators.
+    BOOL CreateMenu();
+    BOOL CreatePopupMenu();
     /// Loads from the first module of the resource chain that holds the menu.
     BOOL LoadMenu(LPCTSTR lpszResourceName);
     BOOL LoadMenu(UINT nIDResource) { return LoadMenu(MAKEINTRESOURCE(nIDResource)); }
-    BOOL LoadMenuIndirect(const void* lpMenuTemplate) { return Attach(::LoadMenuIndirect(lpMenuTemplate)); }
+    BOOL LoadMenuIndirect(const void* lpMenuTemplate);
 
     /// Items are named by command (MF_BYCOMMAND) or by position from 0 (MF_BYPOSITION). With MF_POPUP the new
     /// item's "ID" is the submenu's handle, which this menu then owns.

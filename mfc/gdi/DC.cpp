@@ -89,16 +89,14 @@ BOOL CDC::IsPrinting() const {
 
 BOOL CDC::CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
                    const void* lpInitData) {
-    return AttachNew(
-        *this, ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)),
-        ::DeleteDC);
+    const auto* const mode = static_cast<const DEVMODE*>(lpInitData);
+    return AttachNew(*this, ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, mode), ::DeleteDC);
 }
 
 BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
                    const void* lpInitData) {
-    return AttachNew(
-        *this, ::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)),
-        ::DeleteDC);
+    const auto* const mode = static_cast<const DEVMODE*>(lpInitData);
+    return AttachNew(*this, ::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, mode), ::DeleteDC);
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC) {

@@ -123,7 +123,8 @@ void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType) {
 
 namespace {
 
-/// The object of a DC that was just taken. When memory runs out, `giveBack` ends the DC, and the result is NULL.
+/// The object of a DC that was just taken. When memory runs out, `giveBack` ends the DC, and the result is
+/// NULL.
 template <class GiveBack> CDC* WrapNew(HDC dc, GiveBack giveBack) {
     CDC* object = nullptr;
     if (!HasMemoryFor([&] { object = CDC::FromHandle(dc); }))

@@ -105,8 +105,8 @@ HWND CWnd::UnsubclassWindow() {
 
 // ---- Creation: a hook ties the window to its object before the window's first message. ----
 
-/// Ties a window to its object. False, and nothing tied, when memory runs out or the object refuses by throwing:
-/// exceptions must not cross the system's stack frames.
+/// Ties a window to its object. False, and nothing tied, when memory runs out or the object refuses by
+/// throwing: exceptions must not cross the system's stack frames.
 static bool Tie(CWnd& object, HWND window) {
     try {
         if (HasMemoryFor([&] {

@@ -105,7 +105,9 @@ public:
     BOOL CreateHatchBrush(int nIndex, COLORREF crColor) {
         return AttachNew(::CreateHatchBrush(nIndex, crColor));
     }
-    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return AttachNew(::CreateBrushIndirect(lpLogBrush)); }
+    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) {
+        return AttachNew(::CreateBrushIndirect(lpLogBrush));
+    }
     BOOL CreatePatternBrush(CBitmap* pBitmap);
     BOOL CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage);
     BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
@@ -154,7 +156,9 @@ public:
     BOOL LoadBitmap(LPCTSTR lpszResourceName);
     BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
     /// One of the system's own (OBM_CLOSE ...).
-    BOOL LoadOEMBitmap(UINT nIDBitmap) { return AttachNew(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap))); }
+    BOOL LoadOEMBitmap(UINT nIDBitmap) {
+        return AttachNew(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap)));
+    }
 
     BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits) {
         return AttachNew(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));

@@ -69,8 +69,8 @@ public:
     /// Deletes the temporary objects; their windows stay.
     static void PASCAL DeleteTempMap();
     /// Ties the object to a window without changing how the window behaves: no message reaches the message
-    /// map. FALSE for NULL. The object then owns the window (see the destructor). Throws CMemoryException* when
-    /// memory runs out; nothing is tied then.
+    /// map. FALSE for NULL. The object then owns the window (see the destructor). Throws CMemoryException*
+    /// when memory runs out; nothing is tied then.
     BOOL Attach(HWND hWndNew);
     /// Parts the object from its window, which lives on.
     HWND Detach();

@@ -53,6 +53,7 @@ void Pump();
 
 /// The families.
 void ScrollReplay();
+void ScrollLive();
 void GraphPaint(int count);
 void GraphWindow();
 void GraphBars();

@@ -20,6 +20,7 @@ constexpr struct {
     void (*run)();
 } kFamilies[] = {
     {"scroll_replay", &bench::ScrollReplay},
+    {"scroll_live", &bench::ScrollLive},
     {"graph_paint_1000", [] { bench::GraphPaint(1000); }},
     {"graph_paint_100000", [] { bench::GraphPaint(100000); }},
     {"graph_paint_1000000", [] { bench::GraphPaint(1000000); }},

@@ -35,7 +35,7 @@ CScrollGraphCtrl::CScrollGraphCtrl()
     : m_arrTime(std::make_unique<TimeLine>()), m_zoneRules(std::make_unique<ZoneRules>()), m_dScrollPos(0),
       m_dScrollMax(ViewWindow::kInitialMax), m_dScrollMin(0), m_dViewWidth(kInitialWidth),
       m_nUnitsPerSecond(kXUnitsPerSecond), m_bTindroMode(false), m_bScrollSync(FALSE), m_bFollowed(FALSE),
-      m_nDrawFirst(-1), m_nDrawLast(-1) {
+      m_nDrawFirst(-1), m_nDrawLast(-1), m_nToldPos(-1), m_nToldPage(-1) {
 }
 
 CScrollGraphCtrl::~CScrollGraphCtrl() {
@@ -61,7 +61,6 @@ void CScrollGraphCtrl::OnSize(UINT nType, int cx, int cy) {
     const int left = client.left + kBarLeft;
     m_wndScrollBar.SetWindowPos(&CWnd::wndTop, left, client.bottom - kBarTop, client.right - kBarRight - left,
                                 kBarHeight, 0);
-    m_wndScrollBar.SetScrollRange(0, ViewWindow::kBarRange, TRUE);
     UpdateScrollInfo();
 }
 

@@ -38,8 +38,11 @@ int CScrollGraphCtrl::AddData(int nDataset, double y, double*) {
     if (!dataset.AddYData(y))
         return 0;
     if (arrival.changed) {
-        Normalize();
-        UpdateScrollInfo();
+        view.Normalize();
+        SetView(view);
+        // Asking the bar takes longer than storing the samples of an instant.
+        if (view.BarPosition() != m_nToldPos || view.BarPage() != m_nToldPage)
+            UpdateScrollInfo();
     }
     return 1;
 }

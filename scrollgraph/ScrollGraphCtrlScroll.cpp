@@ -1,5 +1,6 @@
 #include <kavlix/ScrollGraphCtrl.h>
 
+#include <algorithm>
 #include <optional>
 
 #include "graphctrl/Numeric.h"
@@ -27,6 +28,21 @@ std::optional<ScrollStep> StepOf(UINT code) {
     default: // the end of a drag has been tracked already
         return std::nullopt;
     }
+}
+
+/// Whether the bar holds what `wanted` makes of it. Setting the same again redraws the bar, which takes
+/// milliseconds on some systems.
+bool Holds(const CScrollBar& bar, const SCROLLINFO& wanted) {
+    SCROLLINFO held = {};
+    held.cbSize = sizeof(held);
+    held.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    if (!::GetScrollInfo(bar.m_hWnd, SB_CTL, &held))
+        return false;
+    // As the system cuts them.
+    const UINT page = std::min(wanted.nPage, static_cast<UINT>(wanted.nMax - wanted.nMin + 1));
+    const int lastPos = wanted.nMax - std::max(static_cast<int>(page) - 1, 0);
+    return held.nMin == wanted.nMin && held.nMax == wanted.nMax && held.nPage == page &&
+           held.nPos == std::clamp(wanted.nPos, wanted.nMin, lastPos);
 }
 
 } // namespace
@@ -64,7 +80,10 @@ void CScrollGraphCtrl::UpdateScrollInfo() {
     info.nMax = ViewWindow::kBarRange;
     info.nPage = static_cast<UINT>(view.BarPage());
     info.nPos = view.BarPosition();
-    m_wndScrollBar.SetScrollInfo(&info, TRUE);
+    if (!Holds(m_wndScrollBar, info))
+        m_wndScrollBar.SetScrollInfo(&info, TRUE);
+    m_nToldPage = view.BarPage();
+    m_nToldPos = info.nPos;
 }
 
 void CScrollGraphCtrl::Normalize() {

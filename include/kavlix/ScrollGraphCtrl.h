@@ -76,7 +76,8 @@ public:
     void SetHorzRange(double minutes);
     /// Rewinds view and range to the beginning.
     void InitScrollInfo();
-    /// Shows position, page and range in the scroll bar.
+    /// Shows position, page and range in the scroll bar, which redraws itself if one of them is another than
+    /// it holds.
     void UpdateScrollInfo();
     /// Moves the view into the range at the left and the range's end out to the view's. No repaint.
     void Normalize();
@@ -166,6 +167,9 @@ protected:
     int m_nDrawLast;
 
 private:
+    int m_nToldPos; ///< of the scroll bar, when UpdateScrollInfo looked last
+    int m_nToldPage;
+
     kavlix::ViewWindow GetView() const;
     void SetView(const kavlix::ViewWindow& view);
     kavlix::TimeMap GetTimeMap() const;

@@ -7,11 +7,13 @@ namespace {
 
 SCROLLINFO g_told;
 int g_barKind = -1;
+int g_calls = 0;
 BOOL g_redrawn = FALSE;
 decltype(&::SetScrollInfo) g_setScrollInfo = nullptr;
 
 int WINAPI NotingSetScrollInfo(HWND window, int bar, const SCROLLINFO* info, BOOL redraw) {
     g_told = *info;
+    ++g_calls;
     g_barKind = bar;
     g_redrawn = redraw;
     return g_setScrollInfo(window, bar, info, redraw);
@@ -83,7 +85,7 @@ TEST_F(ScrollBarTest, ItShowsPositionAndPageOfTheRange) {
     EXPECT_TRUE(graph.m_wndScrollBar.IsWindowEnabled());
 }
 
-TEST_F(ScrollBarTest, EveryFieldIsTold) {
+TEST_F(ScrollBarTest, EveryFieldIsToldWhenOneDiffers) {
     const testkit::ImportHook hook("KavlixMfc.dll", "SetScrollInfo",
                                    reinterpret_cast<void*>(&NotingSetScrollInfo));
     ASSERT_TRUE(hook.Installed());
@@ -100,6 +102,50 @@ TEST_F(ScrollBarTest, EveryFieldIsTold) {
     EXPECT_EQ(g_told.nTrackPos, 0);
     EXPECT_EQ(g_barKind, SB_CTL);
     EXPECT_TRUE(g_redrawn);
+
+    // The bar is redrawn at every call: none is made for what it holds already.
+    Load(2000);
+    const struct {
+        const char* name;
+        int calls;
+        std::function<void(OpenScrollGraph&)> act;
+    } acts[] = {
+        {"the same again", 0, [](OpenScrollGraph& g) { g.UpdateScrollInfo(); }},
+        {"another width", 1, [](OpenScrollGraph& g) { g.SetHorzRange(0.5); }},
+        {"a new size", 0, [](OpenScrollGraph& g) { g.SetWindowPos(nullptr, 0, 0, 310, 210, SWP_NOMOVE); }},
+        {"a view less than a unit away", 0,
+         [](OpenScrollGraph& g) {
+             g.m_dScrollPos += 1;
+             g.UpdateScrollInfo();
+         }},
+        {"a page to the left", 1, [](OpenScrollGraph& g) { g.SendMessage(WM_HSCROLL, SB_PAGELEFT, 0); }},
+        {"a view beyond the bar's end", 1,
+         [](OpenScrollGraph& g) {
+             g.m_dScrollPos = 1e9;
+             g.UpdateScrollInfo();
+             g.UpdateScrollInfo();
+         }},
+        {"the newest samples", 1, [](OpenScrollGraph& g) { g.UpdateScrollByRemove(); }},
+        {"an instant", 0,
+         [](OpenScrollGraph& g) {
+             g.AddXTickLabel(kSomeTime + 2000);
+             for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
+                 g.AddData(i, 1, nullptr);
+         }},
+        {"an hour later", 1,
+         [](OpenScrollGraph& g) {
+             g.AddXTickLabel(kSomeTime + 5601);
+             for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
+                 g.AddData(i, 1, nullptr);
+         }},
+        {"a head of nothing", 0, [](OpenScrollGraph& g) { g.RemoveHeadData(0); }},
+        {"half of the samples", 1, [](OpenScrollGraph& g) { g.RemoveHeadData(1000); }},
+    };
+    for (const auto& each : acts) {
+        g_calls = 0;
+        each.act(graph);
+        EXPECT_EQ(g_calls, each.calls) << each.name << ": " << View() << " " << Bar();
+    }
 }
 
 TEST_F(ScrollBarTest, PaintingLeavesItInFront) {

@@ -68,4 +68,31 @@ inline CRect ToDeviceWithEdges(const CDC& dc, const CRect& logical) {
     return device;
 }
 
+/// The first position right of `x` that lies in another column of pixels; at the latest the one behind a
+/// pixel of the controls' own mapping.
+inline int NextColumn(const CDC& dc, int x) {
+    POINT places[kUnitsPerPixel + 2];
+    int count = 0;
+    for (POINT& place : places)
+        place = {x + count++, 0};
+    dc.LPtoDP(places, count);
+    int next = 1;
+    while (next < count - 1 && places[next].x == places[0].x)
+        ++next;
+    return x + next;
+}
+
+/// The bounds of the clip region that is selected, in logical units; everything where there is none.
+inline CRect ClipBounds(const CDC& dc) {
+    constexpr int kFar = 1 << 29;
+    CRgn region;
+    CRect device;
+    if (!region.CreateRectRgn(0, 0, 0, 0) || ::GetClipRgn(dc.m_hAttribDC, region) != 1)
+        return CRect(-kFar, -kFar, kFar, kFar);
+    region.GetRgnBox(&device);
+    CRect logical = ToLogical(dc, device);
+    logical.NormalizeRect();
+    return logical;
+}
+
 } // namespace kavlix

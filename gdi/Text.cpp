@@ -1,7 +1,10 @@
 #include "gdi/Text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
+
+#include "graphctrl/Numeric.h"
 
 namespace kavlix {
 
@@ -12,7 +15,6 @@ BOOL MakeFont(CFont& font, int height, int escapement, int weight) {
 
 namespace {
 
-constexpr int kLongestText = 8192; // UTF-16 units
 constexpr int kMostBytesPerCharacter = 4;
 
 /// Whether a unit is a combining mark. Of a letter that has its mark in itself the platform says C3_NONSPACING
@@ -110,6 +112,24 @@ CSize MeasureText(const CDC& dc, const char* text, int length) {
     CSize size(0, 0);
     ::GetTextExtentPoint32W(dc.m_hAttribDC, wide.c_str(), static_cast<int>(wide.size()), &size);
     return size;
+}
+
+CSize TextReach(const CDC& dc, int length) {
+    constexpr double kFarthest = 1 << 29;
+    constexpr double kRadiansPerTenth = 3.14159265358979323846 / 1800;
+    TEXTMETRIC metrics = {};
+    LOGFONT font = {};
+    dc.GetTextMetrics(&metrics);
+    ::GetObject(::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT), sizeof font, &font);
+    // Twice the height has room for marks and for glyphs of the fonts that stand in for missing ones.
+    const double height = 2.0 * metrics.tmHeight;
+    const double width = height + std::max<double>(metrics.tmMaxCharWidth, height) * length;
+    const double cosine = std::fabs(std::cos(font.lfEscapement * kRadiansPerTenth));
+    const double sine = std::fabs(std::sin(font.lfEscapement * kRadiansPerTenth));
+    const auto reach = [&](double along, double across) {
+        return TruncateToInt(std::min(width * along + height * across + 1, kFarthest));
+    };
+    return CSize(reach(cosine, sine), reach(sine, cosine));
 }
 
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format) {

@@ -17,8 +17,11 @@ int BytesOfCharacters(const char* text, int length, int characters);
 /// The most bytes, up to `bytes`, after which no character is cut.
 int WholeCharacters(const char* text, int length, int bytes);
 
+/// UTF-16 units that GDI promises to take of a text.
+constexpr int kLongestText = 8192;
+
 /// Draws a text of the process code page at a reference point, as the DC's alignment says. At most the first
-/// 8192 UTF-16 units are drawn, the longest text that GDI promises to take; no character is cut.
+/// kLongestText units are drawn; no character is cut.
 void DrawTextAt(CDC& dc, int x, int y, const char* text, int length);
 
 inline void DrawTextAt(CDC& dc, int x, int y, const CString& text) {
@@ -35,6 +38,10 @@ CSize MeasureText(const CDC& dc, const char* text, int length);
 inline CSize MeasureText(const CDC& dc, const CString& text) {
     return MeasureText(dc, text, text.GetLength());
 }
+
+/// How far a text of `length` bytes may reach from its reference point with the DC's font, whatever its
+/// alignment, logical units: found without measuring it.
+CSize TextReach(const CDC& dc, int length);
 
 /// Width and height that DrawTextIn takes in `width` with the same flags; wider than that when a word is.
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format);

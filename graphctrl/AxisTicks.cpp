@@ -14,17 +14,35 @@ ValueTicks::ValueTicks(double min, double max, int ticks, int exponent)
     }
 }
 
+namespace {
+
+/// GDI draws at most 8192 characters of a text; what would stand behind them is not made.
+constexpr int kMostDecimals = 8192;
+
+int Precision(int decimals) {
+    return std::clamp(decimals, 0, kMostDecimals);
+}
+
+} // namespace
+
 std::string FormatTick(double value, int decimals) {
-    // GDI draws at most 8192 characters of a text; what would stand behind them is not made.
-    constexpr int kMostDecimals = 8192;
-    const int precision = std::clamp(decimals, 0, kMostDecimals);
+    // Behind these no decimal place of a double is other than 0.
+    constexpr int kRealDecimals = 1074;
+    const int precision = std::min(Precision(decimals), kRealDecimals);
     const int length = std::snprintf(nullptr, 0, "%.*f", precision, value);
     if (length <= 0)
         return {};
     std::string text(static_cast<std::size_t>(length) + 1, '\0');
     std::snprintf(text.data(), text.size(), "%.*f", precision, value);
     text.pop_back();
+    if (std::isfinite(value))
+        text.append(static_cast<std::size_t>(Precision(decimals) - precision), '0');
     return text;
+}
+
+int LongestTick(int decimals) {
+    constexpr int kBeforeDecimals = 311; // sign, 309 digits, point
+    return kBeforeDecimals + Precision(decimals);
 }
 
 } // namespace kavlix

@@ -29,16 +29,27 @@ private:
 /// cut.
 std::string FormatTick(double value, int decimals);
 
+/// The most characters that FormatTick makes with that many decimal places.
+int LongestTick(int decimals);
+
+/// Where labelled ticks may stand along the X axis, in logical units.
+struct TickRoom {
+    int left = 0;   ///< where the axis begins
+    int minGap = 0; ///< between the first two ticks
+    int from = 0;   ///< ticks left of here show nothing
+    int to = 0;     ///< nor do ticks right of here
+};
+
 /// Chooses which of many points along the X axis get a labelled tick.
 ///
 /// The first point does; the second is the first one at least `minGap` right of `left`; the number of points
-/// between these two is kept as the interval of all others. Points are skipped by arithmetic, not visited,
-/// and of ticks that would fall on one pixel only the first is made.
+/// between these two is kept as the interval of all others. Of ticks in one device column only the first is
+/// made. Points are skipped by arithmetic, not visited.
 ///
-/// `count` points have positions `xOf(0)`, `xOf(1)`, ... that never decrease; `emit(k, x)` is called for each
-/// tick.
-template <class Position, class Emit>
-void ThinTicks(int count, int left, int minGap, Position xOf, Emit emit) {
+/// `count` points have positions `xOf(0)`, `xOf(1)`, ... that never decrease; `nextColumn(x)` is the first
+/// position right of `x` in another device column; `emit(k, x)` is called for each tick that shows.
+template <class Position, class NextColumn, class Emit>
+void ThinTicks(int count, const TickRoom& room, Position xOf, NextColumn nextColumn, Emit emit) {
     const auto firstFrom = [&](std::int64_t begin, std::int64_t x) {
         std::int64_t end = count;
         while (begin < end) {
@@ -51,35 +62,44 @@ void ThinTicks(int count, int left, int minGap, Position xOf, Emit emit) {
         return begin;
     };
 
-    std::int64_t nextX = left;
+    std::int64_t nextX = room.left;
+    std::int64_t free = nextX;  // right of the column of the last tick made
     std::int64_t interval = 0; // not known yet
     std::int64_t k = firstFrom(0, nextX);
     while (k < count) {
-        const std::int64_t x = xOf(static_cast<int>(k));
-        if (interval == 0 && nextX != left)
+        const int x = xOf(static_cast<int>(k));
+        if (x > room.to)
+            return;
+        if (interval == 0 && nextX != room.left)
             interval = std::max<std::int64_t>(k, 1);
-        emit(static_cast<int>(k), static_cast<int>(x));
+        if (x >= free) {
+            free = nextColumn(x);
+            if (x >= room.from)
+                emit(static_cast<int>(k), x);
+        }
         if (interval != 0) {
-            const std::int64_t steps = (firstFrom(k + 1, x + kPixel) - k + interval - 1) / interval;
-            k += std::max<std::int64_t>(steps, 1) * interval;
+            const std::int64_t next = firstFrom(k + 1, std::max<std::int64_t>(free, room.from));
+            k += std::max<std::int64_t>((next - k + interval - 1) / interval, 1) * interval;
         } else {
-            nextX += minGap;
-            k = firstFrom(k + 1, minGap > 0 ? nextX : x + kPixel);
+            nextX += room.minGap;
+            // Without a gap the interval stays unknown: every point gets a tick, if its column is free.
+            k = firstFrom(k + 1, room.minGap == 0 ? std::max<std::int64_t>(free, room.from) : nextX);
         }
     }
 }
 
 /// Calls `emit(index, x)` for each labelled tick of an axis whose points are the samples 0 to `count` - 1
-/// within min <= X <= max. None on a range that is 0, turned round or infinite.
-template <class Emit>
-void LineTicks(const LinearMap& xMap, double min, double max, int count, int minGap, Emit emit) {
-    if (!xMap.IsMonotonic() || !xMap.IsAscending())
-        return;
+/// within min <= X <= max. None where samples have no position.
+template <class NextColumn, class Emit>
+void LineTicks(const LinearMap& xMap, double min, double max, int count, const TickRoom& room,
+               NextColumn nextColumn, Emit emit) {
     const IndexRange visible = IndicesBetween(min, max, count);
+    if (!xMap.IsAscending() || !xMap.Position(visible.first))
+        return;
     ThinTicks(
-        visible.Count(), xMap.Edge(), minGap,
-        [&](int k) { return xMap.Position(static_cast<double>(visible.first) + k).value_or(xMap.Edge()); },
-        [&](int k, int x) { emit(visible.first + k, x); });
+        visible.Count(), room,
+        [&](int k) { return xMap.Position(static_cast<double>(visible.first) + k).value_or(room.left); },
+        nextColumn, [&](int k, int x) { emit(visible.first + k, x); });
 }
 
 } // namespace kavlix

@@ -5,6 +5,7 @@
 
 #include "gdi/DottedPen.h"
 #include "gdi/Guards.h"
+#include "gdi/Mapping.h"
 #include "gdi/Text.h"
 #include "graphctrl/AxisTicks.h"
 #include "graphctrl/BarSlots.h"
@@ -81,15 +82,19 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
     if (nTicks < 2)
         return;
 
+    // An axis may be far longer than the picture is high: what lies outside the clip is not drawn.
     const int step = (rectLabel.bottom - rectLabel.top) / (nTicks - 1);
-    for (int i = 0; i < nTicks; ++i)
-        DrawLine(dc, rectAxis.left, rectAxis.bottom - i * step, rectAxis.right, rectAxis.bottom - i * step);
+    CRect shown = ClipBounds(dc);
+    shown.InflateRect(0, kUnitsPerPixel);
+    const auto isShown = [&](int y) { return y >= shown.top && y <= shown.bottom; };
+    for (int i = 0, y = rectAxis.bottom; i < nTicks; ++i, y -= step)
+        if (isShown(y))
+            DrawLine(dc, rectAxis.left, y, rectAxis.right, y);
     if (m_GridY && nAxis == 0) {
         gridPen.emplace(dc, m_GridColor);
         Select(dc, gridPen->Pen());
-        for (int i = 1; i < nTicks; ++i) {
-            const int y = rectAxis.bottom - i * step;
-            if (!gridPen->Draw(CPoint(m_rectPlot.left, y), CPoint(m_rectPlot.right, y)))
+        for (int i = 1, y = rectAxis.bottom - step; i < nTicks; ++i, y -= step) {
+            if (isShown(y) && !gridPen->Draw(CPoint(m_rectPlot.left, y), CPoint(m_rectPlot.right, y)))
                 DrawLine(dc, m_rectPlot.left, y, m_rectPlot.right, y);
         }
     }
@@ -99,11 +104,14 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
     SelectGuard font(dc, m_YTickLabelFont);
     dc.SetTextColor(y2 ? m_Y2TickLabelColor : m_YTickLabelColor);
     dc.SetTextAlign(y2 ? TA_LEFT | TA_TOP : TA_RIGHT | TA_TOP);
+    const int decimals = y2 ? m_Y2TickLabelScale : m_YTickLabelScale;
     const int labelX = y2 ? rectAxis.right + kTickLabelGap : rectAxis.right - kTickLabelGap;
-    for (int i = 0; i < nTicks; ++i, values.Next()) {
-        const std::string text = FormatTick(values.Value(), y2 ? m_Y2TickLabelScale : m_YTickLabelScale);
-        DrawTextAt(dc, labelX, rectAxis.bottom - kTickLabelRaise - i * step, text.c_str(),
-                   static_cast<int>(text.size()));
+    shown.InflateRect(TextReach(dc, LongestTick(decimals)));
+    for (int i = 0, y = rectAxis.bottom - kTickLabelRaise; i < nTicks; ++i, y -= step, values.Next()) {
+        if (!shown.PtInRect(CPoint(labelX, y)))
+            continue;
+        const std::string text = FormatTick(values.Value(), decimals);
+        DrawTextAt(dc, labelX, y, text.c_str(), static_cast<int>(text.size()));
     }
 
     Select(dc, m_UnitFont);
@@ -121,29 +129,38 @@ void CGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks)
     if (nTicks < 2)
         return;
 
-    const int minGap = (rectLabel.right - rectLabel.left) / (nTicks - 1);
     SelectGuard font(dc, m_XTickLabelFont);
     dc.SetTextColor(m_XTickLabelColor);
+    CRect shown = ClipBounds(dc);
+    shown.InflateRect(TextReach(dc, kLongestText) + CSize(kSingleTextShift, 0));
+    TickRoom room;
+    room.left = m_rectPlot.left;
+    room.minGap = (rectLabel.right - rectLabel.left) / (nTicks - 1);
+    room.from = shown.left;
+    room.to = shown.right;
     if (m_GraphStyle == GraphStyleBar)
-        DrawBarTicks(dc, rectLabel, rectAxis, minGap);
+        DrawBarTicks(dc, rectLabel, rectAxis, room);
     else if (m_GraphStyle == GraphStyleLine || m_GraphStyle == GraphStyleTwoAxis)
-        DrawLineTicks(dc, rectLabel, rectAxis, axisPen, minGap);
+        DrawLineTicks(dc, rectLabel, rectAxis, axisPen, room);
 }
 
 void CGraphCtrl::DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,
-                               int minGap) {
+                               const TickRoom& room) {
     std::optional<DottedPen> gridPen;
     if (m_GridX)
         gridPen.emplace(dc, m_GridColor);
     StockAfterGuard penAfter(dc, NULL_PEN);
     const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, m_rectPlot.left, m_rectPlot.Width());
-    LineTicks(xMap, m_XVisibleMin, m_XVisibleMax, m_Datasets[0].GetSize(), minGap, [&](int index, int x) {
-        DrawXTick(dc, x, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);
-        DrawTickLabel(dc, rectLabel, x, index);
-    });
+    LineTicks(
+        xMap, m_XVisibleMin, m_XVisibleMax, m_Datasets[0].GetSize(), room,
+        [&](int x) { return NextColumn(dc, x); },
+        [&](int index, int x) {
+            DrawXTick(dc, x, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);
+            DrawTickLabel(dc, rectLabel, x, index);
+        });
 }
 
-void CGraphCtrl::DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, int minGap) {
+void CGraphCtrl::DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, const TickRoom& room) {
     BarSlots slots;
     if (!CalcBarSize(slots.barWidth, slots.datasets, slots.visible))
         return;
@@ -154,8 +171,8 @@ void CGraphCtrl::DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rect
         if (range.IsEmpty())
             continue;
         ThinTicks(
-            range.Count(), m_rectPlot.left, minGap,
-            [&](int slot) { return slots.SlotMiddle(slot, m_rectPlot.left); },
+            range.Count(), room, [&](int slot) { return slots.SlotMiddle(slot, m_rectPlot.left); },
+            [&](int x) { return NextColumn(dc, x); },
             [&](int slot, int x) {
                 DrawLine(dc, x, rectAxis.bottom, x, rectAxis.top);
                 DrawTickLabel(dc, rectLabel, x, range.first + slot);

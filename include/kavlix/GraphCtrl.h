@@ -17,6 +17,7 @@ class Offscreen;
 class XPositions;
 struct GraphLayout;
 struct IndexRange;
+struct TickRoom;
 } // namespace kavlix
 
 /// A graph of up to 13 datasets, drawn as lines with markers, as grouped bars, or as two lines against two
@@ -401,8 +402,9 @@ private:
     kavlix::GraphLayout LayOut(const CRect& client);
     void DrawLabels(CDC& dc, const kavlix::GraphLayout& layout);
     void DrawLegendArea(CDC& dc, int right, CRgn& clientClip);
-    void DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen, int minGap);
-    void DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, int minGap);
+    void DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,
+                       const kavlix::TickRoom& room);
+    void DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, const kavlix::TickRoom& room);
     void DrawTickLabel(CDC& dc, const CRect& rectLabel, int x, int nIndex);
     void DrawBars(CDC& dc);
 

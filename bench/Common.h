@@ -65,5 +65,6 @@ void ScrollPaint(int count);
 void ScrollWindow();
 void ScrollBack();
 void ChartPaint(int count);
+void MultiPaint();
 
 } // namespace bench

@@ -14,14 +14,13 @@ constexpr double kYMin = -3;
 constexpr double kYMax = 3;
 constexpr int kStored = 1000000;
 constexpr int kInView = 1000;
-constexpr int kGroups = 50;
+
+} // namespace
 
 double BarValue(int series, int group) {
     Randoms randoms(99u + 131u * static_cast<unsigned>(series) + 7u * static_cast<unsigned>(group));
     return 0.1 + 0.9 * std::fabs(randoms.Next());
 }
-
-} // namespace
 
 GraphStage::GraphStage() : m_stage(kWidth, kHeight), m_picture(kWidth, kHeight) {
     m_graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &m_stage, 1);
@@ -71,19 +70,22 @@ void GraphWindow() {
     row.Print();
 }
 
+void GraphStage::FillBars(int groups) {
+    m_graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);
+    CString text;
+    for (int group = 0; group < groups; ++group) {
+        for (int i = 0; i < kSeries; ++i)
+            m_graph.AddData(i, BarValue(i, group), nullptr);
+        text.Format("%d", group);
+        m_graph.AddXTickLabel(text, "");
+    }
+    m_graph.SetYVisibleMin(0);
+    m_graph.SetYVisibleMax(1.2);
+}
+
 void GraphBars() {
     GraphStage stage;
-    CGraphCtrl& graph = stage.Graph();
-    graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);
-    CString text;
-    for (int group = 0; group < kGroups; ++group) {
-        for (int i = 0; i < kSeries; ++i)
-            graph.AddData(i, BarValue(i, group), nullptr);
-        text.Format("%d", group);
-        graph.AddXTickLabel(text, "");
-    }
-    graph.SetYVisibleMin(0);
-    graph.SetYVisibleMax(1.2);
+    stage.FillBars(kGroups);
     Row row("graph_bars");
     row.Add("groups", kGroups);
     AddPaints(row, stage.Graph()).Print();

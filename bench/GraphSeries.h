@@ -18,6 +18,7 @@ namespace bench {
 constexpr int kSeries = CGraphCtrl::DatasetCount;
 constexpr int kWidth = 1000;
 constexpr int kHeight = 600;
+constexpr int kGroups = 50;
 constexpr double kMicrosecondsPerMillisecond = 1e3;
 constexpr double kMicrosecondsPerSecond = 1e6;
 
@@ -91,12 +92,17 @@ public:
     void PaintIntoMemory() { m_picture.Take(m_graph); }
     /// Fills all series with `count` samples and gives each index a tick label.
     void Fill(int count);
+    /// Turns it into a bar graph of `groups` groups.
+    void FillBars(int groups);
 
 private:
     Stage m_stage;
     CGraphCtrl m_graph;
     Picture m_picture;
 };
+
+/// The height of a bar, 0.1 to 1.
+double BarValue(int series, int group);
 
 /// Bytes of memory that this process has in use.
 double UsedBytes();

@@ -36,6 +36,7 @@ constexpr struct {
     {"chart_paint_1000", [] { bench::ChartPaint(1000); }},
     {"chart_paint_100000", [] { bench::ChartPaint(100000); }},
     {"chart_paint_1000000", [] { bench::ChartPaint(1000000); }},
+    {"multi_paint", &bench::MultiPaint},
     {"graph_growth", &bench::GraphGrowth},
     {"graph_day", &bench::GraphDay},
 };

@@ -14,6 +14,7 @@ public:
 
     /// The whole control paints: what its picture costs without the traffic with the window system.
     void Take(CWnd& control);
+    HDC Dc() const { return m_dc; }
 
 private:
     HDC m_dc;

@@ -30,8 +30,6 @@ bool ComputeBoxStatistics(std::vector<int> values, BoxStatistics& statistics) {
     const auto last = std::upper_bound(values.begin(), values.end(), statistics.upperQuartile + reach);
     statistics.lowerWhisker = *first;
     statistics.upperWhisker = *(last - 1);
-    statistics.outliers.assign(values.begin(), first);
-    statistics.outliers.insert(statistics.outliers.end(), last, values.end());
     return true;
 }
 

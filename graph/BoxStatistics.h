@@ -9,9 +9,11 @@ struct BoxStatistics {
     double lowerQuartile = 0;
     double median = 0;
     double upperQuartile = 0;
-    int lowerWhisker = 0;      ///< the lowest value within 1.5 interquartile ranges below the lower quartile
-    int upperWhisker = 0;      ///< the highest value within 1.5 interquartile ranges above the upper quartile
-    std::vector<int> outliers; ///< values beyond the whiskers, ascending
+    int lowerWhisker = 0; ///< the lowest value within 1.5 interquartile ranges below the lower quartile
+    int upperWhisker = 0; ///< the highest value within 1.5 interquartile ranges above the upper quartile
+
+    /// Whether a value of the sample lies beyond the whiskers.
+    bool IsOutlier(int value) const { return value < lowerWhisker || value > upperWhisker; }
 };
 
 /// Quartiles by linear interpolation between the neighbours in rank: with the n values in order and counted

@@ -11,12 +11,15 @@ using kavlix::kListBlock;
 BEGIN_MESSAGE_MAP(CGraph, CStatic)
 END_MESSAGE_MAP()
 
-CGraph::CGraph() : seriesList(new CObList(kListBlock)) {
+// The lists are made last, when nothing else can throw: a constructor that throws runs no destructor.
+CGraph::CGraph() : seriesList(nullptr) {
+    seriesList = new CObList(kListBlock);
 }
 
-CGraph::CGraph(int type)
-    : seriesList(new CObList(kListBlock)), graphType(type), colorList(new CObList(kListBlock)),
-      quadSetManually(type != GraphTypeBar) {
+CGraph::CGraph(int type) : seriesList(nullptr), graphType(type), quadSetManually(type != GraphTypeBar) {
+    auto series = std::make_unique<CObList>(kListBlock);
+    colorList = new CObList(kListBlock);
+    seriesList = series.release();
 }
 
 CGraph::~CGraph() {
@@ -76,9 +79,10 @@ void CGraph::SetMargins(int top, int bottom, int left, int right, int graphTop) 
 }
 
 void CGraph::SetColor(int group, COLORREF color) {
+    auto record = std::make_unique<CGraphValue>(group, static_cast<int>(color));
     if (colorList == nullptr)
         colorList = new CObList(kListBlock);
-    kavlix::Append(*colorList, std::make_unique<CGraphValue>(group, static_cast<int>(color)));
+    kavlix::Append(*colorList, std::move(record));
 }
 
 void CGraph::SetLegend(int group, CString text) {
@@ -100,7 +104,7 @@ void CGraph::RemoveSeries(CString label) {
     for (POSITION next = seriesList->GetHeadPosition(); next != nullptr;) {
         const POSITION position = next;
         auto* const series = static_cast<CGraphSeries*>(seriesList->GetNext(next));
-        if (series->GetLabel() == label) {
+        if (series->seriesLabel == label) {
             seriesList->RemoveAt(position);
             delete series;
             return;

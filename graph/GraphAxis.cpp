@@ -26,9 +26,9 @@ constexpr COLORREF kFloor = RGB(226, 226, 226);
 } // namespace
 
 void CGraph::DrawAxis(CDC*) {
-    kavlix::GraphPass& p = *pass;
-    if (!p.HasPlot())
+    if (pass == nullptr || !pass->HasPlot())
         return;
+    kavlix::GraphPass& p = *pass;
     Draw3DFrame();
     if (p.scaledKeys)
         DrawScale(p.keys, p.keyTicks, p.horizontal);
@@ -125,7 +125,8 @@ void CGraph::DrawNumber(const CString& text, double position, bool left) {
         p.canvas.Text({p.plot.left - kNumberGap * pixel - size.width, position - size.height / 2}, text);
     } else {
         const double y = std::min(position - size.height / 2, p.plot.bottom - size.height - pixel);
-        p.lateLabels.push_back({{p.plot.left + kTickLength * pixel, y}, text, yTickFontSize});
+        p.lateLabels.push_back(
+            {{std::max(p.plot.left + kTickLength * pixel, p.leftEdge), y}, text, yTickFontSize});
     }
 }
 

@@ -66,7 +66,7 @@ void CGraph::DrawLabelsBelow(const kavlix::SeriesSlots& slots) {
         const bool toTheLeft = (angle < 180) == (std::cos(angle * 3.141592653589793 / 180) > 0);
         const auto room = [&](int slot) {
             const double x = slots.Middle(slot);
-            const double aside = toTheLeft ? x : canvas.Width() - x;
+            const double aside = toTheLeft ? x - p.leftEdge : canvas.Width() - x;
             return kavlix::LongestText(rowHeight, angle, level ? p.plot.Width() : aside + rowHeight / 2,
                                        p.bottomRoom);
         };
@@ -86,7 +86,8 @@ void CGraph::DrawLabelsBelow(const kavlix::SeriesSlots& slots) {
                 PlaceBelow(size, angle, slots.Middle(i), p.plot.bottom + kLabelDistance * pixel + row);
             const double rightmost = graphHasLegend ? p.plot.right + gap : canvas.Width() - kEdge * pixel;
             if (level)
-                place.origin.x -= std::max(0.0, place.box.right - rightmost);
+                place.origin.x +=
+                    std::max(std::min(rightmost - place.box.right, 0.0), p.leftEdge - place.box.left);
             places.push_back(place);
         }
     }
@@ -111,13 +112,16 @@ void CGraph::DrawLabelsLeft(const kavlix::SeriesSlots& slots) {
     const bool inside = p.leftRoom < character.width * kFewCharacters;
     if (inside)
         angle = 0;
+    const double firstInside = std::max(p.plot.left + kLabelDistance * pixel, p.leftEdge);
     const double across = inside ? p.plot.Width() / 2 : p.leftRoom;
     const FittedLabels labels = FitLabels(p, slots.count, [&](int) {
         return kavlix::LongestText(character.height, angle, across, p.plot.Height());
     });
     const kavlix::LabelSpread spread = kavlix::SpreadLeft(labels.largest, angle, distance, pixel);
     const GraphFont turned(canvas, xTickFontSize, angle);
-    for (std::int64_t i = 0; i < slots.count; i += spread.every) {
+    // Where turned labels are thinned, the first and the last one drawn stay beside the plot whole.
+    const std::int64_t first = angle != 0 ? std::min<std::int64_t>(spread.every, slots.count - 1) / 2 : 0;
+    for (std::int64_t i = first; i + first < slots.count; i += spread.every) {
         const int slot = static_cast<int>(i);
         const CString& text = labels.texts[static_cast<std::size_t>(i)];
         if (!inside) {
@@ -130,7 +134,7 @@ void CGraph::DrawLabelsLeft(const kavlix::SeriesSlots& slots) {
         const kavlix::Span bar = slots.Bar(slot, 0, std::max(p.data.groups, 1));
         const bool above = std::abs(bar.to - bar.from) / 2 >= character.height;
         const double y = above ? bar.from - character.height : slots.Middle(slot) - character.height / 2;
-        p.lateLabels.push_back({{p.plot.left + kLabelDistance * pixel, y}, text, xTickFontSize});
+        p.lateLabels.push_back({{firstInside, y}, text, xTickFontSize});
     }
     if (labels.cut || spread.every > 1)
         axisLabelsCut = 1;
@@ -150,22 +154,29 @@ void CGraph::DrawCaptions() {
         canvas.Text({x, canvas.Height() - (p.captionFont + kCaptionBottom) * pixel}, text);
     }
     if (!axisYLabel.IsEmpty()) {
+        // Without room beside the plot the caption stands in it, where the series would cover it.
+        const bool inside = p.plot.left < p.leftEdge;
         CString text;
         double y = 0;
         {
             const GraphFont font(canvas, p.captionFont, 0, FW_BOLD);
-            text = canvas.Shorten(axisYLabel, canvas.Height() - 2 * kEdge * pixel);
+            text = canvas.Shorten(axisYLabel, inside ? p.plot.Height() : canvas.Height() - 2 * kEdge * pixel);
             const double length = canvas.Measure(text).width;
             y = start(p.plot.top, p.plot.bottom, length, canvas.Height()) + length;
         }
-        const GraphFont font(canvas, p.captionFont, kUpwards, FW_BOLD);
-        canvas.Text({kCaptionLeft * pixel, y}, text);
+        const PlanePoint place{kCaptionLeft * pixel, y};
+        if (inside) {
+            p.lateLabels.push_back({place, text, p.captionFont, kUpwards, FW_BOLD});
+        } else {
+            const GraphFont font(canvas, p.captionFont, kUpwards, FW_BOLD);
+            canvas.Text(place, text);
+        }
     }
 }
 
 void CGraph::DrawLateLabels() {
     for (const kavlix::LateLabel& label : pass->lateLabels) {
-        const GraphFont font(pass->canvas, label.fontSize);
+        const GraphFont font(pass->canvas, label.fontSize, label.angle, label.weight);
         pass->canvas.Dc().SetBkMode(OPAQUE);
         pass->canvas.Dc().SetBkColor(RGB(255, 255, 255));
         pass->canvas.Text(label.place, label.text);

@@ -32,18 +32,23 @@ void DrawBar(GraphPass& pass, Span along, double foot, double tip, COLORREF colo
         std::swap(along.from, along.to);
     const bool outlined = along.to - along.from >= kOutlined * pixel;
     along.to = outlined ? along.to + pixel : std::max(along.to, along.from + pixel);
-    canvas.SetFill(colour);
-    canvas.SetLine(outlined ? kavlix::OutlineOf(colour) : colour);
-    canvas.Rectangle(pass.Between(along, value));
+    canvas.Box(pass.Between(along, value), colour, outlined ? kavlix::OutlineOf(colour) : colour);
 }
 
 } // namespace
 
 void CGraph::DrawBarSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     const double base = p.values.Base();
     for (int s = 0; s < p.data.SeriesCount(); ++s) {
+        const kavlix::KeyedValue* before = nullptr;
         for (const kavlix::KeyedValue& item : p.data.series[static_cast<std::size_t>(s)].values) {
+            const bool repeated = before != nullptr && before->key == item.key;
+            before = &item;
+            if (repeated)
+                continue;
             const bool negative = item.key < 0;
             const int group = negative ? -(item.key + 1) : item.key;
             if (group >= p.data.groups || (negative && !p.mirrored))
@@ -55,6 +60,8 @@ void CGraph::DrawBarSeries(CDC*) {
 }
 
 void CGraph::DrawStackedBarSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     for (int s = 0; s < p.data.SeriesCount(); ++s) {
         const auto values =

@@ -14,6 +14,7 @@ constexpr double kBoxWidth = 0.5; // of a slot
 constexpr double kCapWidth = 0.25;
 constexpr double kMedianWidth = 2; // pixels
 constexpr double kOutlierRadius = 3;
+constexpr COLORREF kNeutral = RGB(128, 128, 128); // of a box, which stands for no group
 constexpr double kBoxLight =
     1.55; // the box is paler than its outline, so that the median shows on any colour
 
@@ -26,23 +27,25 @@ public:
         canvas.SetLine(kavlix::OutlineOf(colour));
         Whisker(box.lowerQuartile, box.lowerWhisker);
         Whisker(box.upperQuartile, box.upperWhisker);
-        canvas.SetFill(kavlix::Shade(colour, kBoxLight));
         if (Shows(box.lowerQuartile, box.upperQuartile)) {
             kavlix::PlaneRect area =
                 m_pass.Between(m_pass.slots.Single(m_slot, kBoxWidth),
                                {Position(box.lowerQuartile), Position(box.upperQuartile)});
             area.right += canvas.Pixel();
             area.bottom += canvas.Pixel();
-            canvas.Rectangle(area);
+            canvas.Box(area, kavlix::Shade(colour, kBoxLight), kavlix::OutlineOf(colour));
         }
         canvas.SetLine(kavlix::OutlineOf(colour), kMedianWidth);
         Across(box.median, kBoxWidth);
-        canvas.SetLine(kavlix::OutlineOf(colour));
-        canvas.NoFill();
-        for (const int value : box.outliers)
-            if (m_pass.values.Contains(value))
-                canvas.Circle(m_pass.At(m_pass.slots.Middle(m_slot), Position(value)),
-                              kOutlierRadius * canvas.Pixel());
+    }
+
+    void DrawOutlier(int value, COLORREF colour) const {
+        if (!m_pass.values.Contains(value))
+            return;
+        m_pass.canvas.SetLine(kavlix::OutlineOf(colour));
+        m_pass.canvas.SetFill(colour);
+        m_pass.canvas.Circle(m_pass.At(m_pass.slots.Middle(m_slot), Position(value)),
+                             kOutlierRadius * m_pass.canvas.Pixel());
     }
 
 private:
@@ -72,12 +75,20 @@ private:
 } // namespace
 
 void CGraph::DrawBoxWhiskerSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     for (int s = 0; s < pass->data.SeriesCount(); ++s) {
+        const std::vector<kavlix::KeyedValue>& items = pass->data.series[static_cast<std::size_t>(s)].values;
         std::vector<int> values;
-        for (const kavlix::KeyedValue& item : pass->data.series[static_cast<std::size_t>(s)].values)
+        for (const kavlix::KeyedValue& item : items)
             values.push_back(item.value);
         kavlix::BoxStatistics box;
-        if (kavlix::ComputeBoxStatistics(std::move(values), box))
-            BoxPainter(*pass, s).Draw(box, pass->data.Colour(s));
+        if (!kavlix::ComputeBoxStatistics(std::move(values), box))
+            continue;
+        const BoxPainter painter(*pass, s);
+        painter.Draw(box, pass->bySeries ? pass->data.Colour(s) : kNeutral);
+        for (const kavlix::KeyedValue& item : items)
+            if (box.IsOutlier(item.value))
+                painter.DrawOutlier(item.value, pass->PointColour(s, item.key));
     }
 }

@@ -10,7 +10,7 @@ using kavlix::GraphFont;
 using kavlix::ToCoordinate;
 
 int CGraph::LegendRows() const {
-    return HasSeriesColors() ? static_cast<int>(seriesList->GetCount()) : seriesSize;
+    return ShowsBySeries() ? static_cast<int>(seriesList->GetCount()) : seriesSize;
 }
 
 int CGraph::DrawLegend(CDC*) {
@@ -23,17 +23,19 @@ int CGraph::DrawLegend(CDC*) {
     constexpr int kMargin = 5;
     constexpr int kSwatchRoom = 25;
     constexpr int kSwatchGap = 10;
-    constexpr int kTextGap = 1; // at least free between text and swatch
     constexpr int kSwatchHeight = 12;
     constexpr double kCharacterWidth = 0.66; // of the font's height
 
+    if (pass == nullptr)
+        return 0;
     kavlix::GraphCanvas& canvas = pass->canvas;
+    const int size = kavlix::FontSize(legendFontSize);
     const std::int64_t pixel = static_cast<std::int64_t>(canvas.Pixel());
     const int rows = LegendRows();
     const std::int64_t height = (std::int64_t{rows} * kRowHeight + kHeadingRoom) * pixel;
     const std::int64_t right = maxWidth - kMargin * pixel;
     const std::int64_t top = maxHeight / 2 - height / 2;
-    const std::int64_t characterWidth = kavlix::TruncateToInt(legendFontSize * kCharacterWidth);
+    const std::int64_t characterWidth = kavlix::TruncateToInt(size * kCharacterWidth);
     const std::int64_t left =
         ToCoordinate(right - (graphLegend.GetMaxLength() * characterWidth + kSwatchRoom) * pixel);
     legendWidth = ToCoordinate(right - left);
@@ -54,19 +56,18 @@ int CGraph::DrawLegend(CDC*) {
                     "Legend");
     }
 
-    const GraphFont font(canvas, legendFontSize, 0, FW_BOLD);
-    const std::int64_t swatch =
-        left + (kSwatchGap + std::int64_t{legendFontSize} / 2 * legendMaxText) * pixel;
+    const GraphFont font(canvas, size, 0, FW_BOLD);
+    const std::int64_t swatch = left + (kSwatchGap + std::int64_t{size} / 2 * legendMaxText) * pixel;
     // Rows above and below the picture are left out, however many there are.
     const std::int64_t rowHeight = kRowHeight * pixel;
     const std::int64_t start = top + kFirstRow * pixel;
-    const auto room = static_cast<double>(swatch - left - (kMargin + kTextGap) * pixel);
-    const int first = start >= 0 ? 0 : static_cast<int>(std::min<std::int64_t>(-start / rowHeight, rows));
+    const std::int64_t above = std::max<std::int64_t>(-start - size * pixel, 0);
+    const int first = static_cast<int>(std::min<std::int64_t>(above / rowHeight, rows));
     for (int i = first; i < rows; ++i) {
         const std::int64_t y = start + rowHeight * i;
         if (y > canvas.Height())
             break;
-        canvas.Text(place(left + kMargin * pixel, y), canvas.Shorten(graphLegend.TextAt(i), room));
+        canvas.Text(place(left + kMargin * pixel, y), graphLegend.TextAt(i)); // whole
         canvas.SetFill(pass->data.Colour(i));
         box(ToCoordinate(swatch), y, right - kMargin * pixel, y + kSwatchHeight * pixel);
     }

@@ -48,6 +48,8 @@ void DrawClipped(GraphPass& pass, const std::vector<PlanePoint>& points, COLORRE
 } // namespace
 
 void CGraph::DrawLineSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     const auto place = [&](const kavlix::KeyedValue& item) {
         return p.At(p.slots.Middle(item.key), p.values.Position(item.value));
@@ -77,6 +79,8 @@ void CGraph::DrawLineSeries(CDC*) {
 }
 
 void CGraph::DrawXYLineSeries(CDC* pDC) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     for (int s = 0; s < p.data.SeriesCount(); ++s) {
         std::vector<PlanePoint> points;
@@ -88,17 +92,22 @@ void CGraph::DrawXYLineSeries(CDC* pDC) {
 }
 
 void CGraph::DrawScatterSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     for (int s = 0; s < p.data.SeriesCount(); ++s)
         for (const kavlix::KeyedValue& item : p.data.series[static_cast<std::size_t>(s)].values)
             if (p.values.Contains(item.value))
                 kavlix::DrawMarker(p.canvas, p.At(p.keys.Position(item.key), p.values.Position(item.value)),
-                                   s, p.data.Colour(s));
+                                   s, p.PointColour(s, item.key));
 }
 
 void CGraph::Draw3DLineSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     constexpr double kLoneRibbon = 0.2; // half its length, of a slot
+    constexpr double kThinnest = 4;     // pixels that a ribbon seen from its edge is wide
     const auto lines = GroupLines(p.data);
     for (auto entry = lines.rbegin(); entry != lines.rend(); ++entry) {
         const int group = entry->first;
@@ -113,7 +122,8 @@ void CGraph::Draw3DLineSeries(CDC*) {
             };
             p.canvas.SetLine(kavlix::OutlineOf(colour));
             p.canvas.SetFill(kavlix::Shade(colour, light));
-            p.canvas.Polygon(kavlix::MakeRibbon(behind(from), behind(to), p.ribbon));
+            p.canvas.Polygon(
+                kavlix::MakeRibbon(behind(from), behind(to), p.ribbon, kThinnest * p.canvas.Pixel()));
         };
         const auto place = [&](const kavlix::KeyedValue& item) {
             return PlanePoint{p.slots.Middle(item.key), p.values.Position(item.value)};

@@ -128,11 +128,11 @@ void CGraph::ComputeLayout(CDC&) {
         constexpr int kBelowTurnedLabels = 15;
         CString highest;
         highest.Format("%d", maxTick);
-        xApexPoint =
-            ToCoordinate((std::int64_t{yTickFontSize} / 2 * highest.GetLength() + kLeftOfPlot) * pixel);
+        const std::int64_t halfNumber = kavlix::FontSize(yTickFontSize) / 2;
+        const std::int64_t halfLabel = kavlix::FontSize(xTickFontSize) / 2;
+        xApexPoint = ToCoordinate((halfNumber * highest.GetLength() + kLeftOfPlot) * pixel);
         const std::int64_t below =
-            xAxisAlign == 0 ? std::int64_t{kBelowPlot}
-                            : std::int64_t{xTickFontSize} / 2 * xAxisLabelLength + kBelowTurnedLabels;
+            xAxisAlign == 0 ? std::int64_t{kBelowPlot} : halfLabel * xAxisLabelLength + kBelowTurnedLabels;
         yApexPoint = ToCoordinate(maxHeight - below * pixel);
     } else {
         constexpr int kCaptionGap = 10;
@@ -184,7 +184,7 @@ void CGraph::DrawSeries(CDC* pDC) {
         {GraphType3DPie, &CGraph::Draw3DPieSeries},
         {GraphType3DStackedBar, &CGraph::Draw3DStackedBarSeries},
     };
-    if (!pass->HasPlot())
+    if (pass == nullptr || !pass->HasPlot())
         return;
     for (const Painter& painter : kPainters)
         if (painter.type == graphType)
@@ -195,6 +195,8 @@ BOOL CGraph::ShowsPie() const {
     return graphType == GraphTypePie || graphType == GraphType3DPie;
 }
 
-BOOL CGraph::HasSeriesColors() const {
-    return graphType == GraphTypeXYLine || graphType == GraphTypeScatter || graphType == GraphTypeBoxWhisker;
+BOOL CGraph::ShowsBySeries() const {
+    const bool points =
+        graphType == GraphTypeXYLine || graphType == GraphTypeScatter || graphType == GraphTypeBoxWhisker;
+    return legendBySeries && points;
 }

@@ -17,8 +17,9 @@ GraphSnapshot::GraphSnapshot(const CObList& seriesList, const CObList* colorList
             const auto* const record = static_cast<const CGraphValue*>(records.GetNext(at));
             points.values.push_back({record->key, record->value});
         }
-        std::sort(points.values.begin(), points.values.end(),
-                  [](const KeyedValue& a, const KeyedValue& b) { return a.key < b.key; });
+        const auto byKey = [](const KeyedValue& a, const KeyedValue& b) { return a.key < b.key; };
+        if (!std::is_sorted(points.values.begin(), points.values.end(), byKey))
+            std::stable_sort(points.values.begin(), points.values.end(), byKey);
         series.push_back(std::move(points));
     }
     if (colorList == nullptr)

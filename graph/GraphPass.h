@@ -2,6 +2,7 @@
 
 #include <kavlix/Graph.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "graph/GraphCanvas.h"
@@ -16,7 +17,7 @@ namespace kavlix {
 /// A series as the painters read it.
 struct SeriesPoints {
     CString label;
-    std::vector<KeyedValue> values; ///< ascending by key
+    std::vector<KeyedValue> values; ///< ascending by key; equal keys in the order of arrival
 };
 
 /// The series and colours of a graph at the time of a drawing.
@@ -38,7 +39,14 @@ struct LateLabel {
     PlanePoint place;
     CString text;
     int fontSize = 0;
+    int angle = 0;
+    int weight = FW_NORMAL;
 };
+
+/// What a font size that a host has set counts as, in pixels.
+inline int FontSize(int size) {
+    return std::max(size, 1);
+}
 
 /// What the steps of one drawing share: canvas, contents and plot.
 struct GraphPass {
@@ -55,9 +63,11 @@ struct GraphPass {
     bool mirrored = false;   ///< negative keys are shown as well
     bool centred = false;    ///< the zero line lies in the middle
     bool scaledKeys = false; ///< keys are X values
+    bool bySeries = false;   ///< a point has the colour of its series, not of its group
     PlotScale values;        ///< values to positions: y, or x when horizontal
     ScaleTicks valueTicks;
     int captionFont = 0;   ///< height of the axis captions in pixels
+    double leftEdge = 0;   ///< where labels may begin: right of the Y caption's strip
     double leftRoom = 0;   ///< for labels between the Y caption and the plot
     double bottomRoom = 0; ///< for labels between the plot and the X caption
     int leftFont = 0;      ///< height of numbers left of the plot, made to fit; 0: they go inside the plot
@@ -67,6 +77,8 @@ struct GraphPass {
     SeriesSlots mirroredSlots; ///< the same on the side of negative keys
     std::vector<LateLabel> lateLabels;
 
+    /// Of a value of series number `s`.
+    COLORREF PointColour(int s, int key) const { return data.Colour(bySeries ? s : key); }
     bool HasPlot() const { return front.Width() >= 1 && front.Height() >= 1; }
     /// The place at `along` on the series' axis and `value` on the value axis, both as positions.
     PlanePoint At(double along, double value) const {

@@ -24,10 +24,11 @@ constexpr double kTextGap = 3;
 constexpr double kTilt = 0.5;     // height of a tilted pie, of its width
 constexpr double kMostRim = 0.25; // of the room's height
 constexpr double kRimLight = 0.65;
+constexpr double kThinSector = 3; // along the rim; a thinner one has no outline, which would be all of it
 // Where a share may stand inside its sector, of the radius.
 constexpr double kInsideReaches[] = {0.66, 0.58, 0.74};
 
-constexpr COLORREF kInk = RGB(0, 0, 0);
+constexpr COLORREF kInk = RGB(0, 0, 0); // on a light sector
 constexpr COLORREF kPaper = RGB(255, 255, 255);
 constexpr COLORREF kLeaderColour = RGB(128, 128, 128);
 
@@ -89,18 +90,21 @@ public:
     double Lowest() const { return m_lowest; }
 
     void Draw(const std::vector<Sector>& sectors) {
-        m_canvas.SetLine(kPaper);
-        // The rims first: the tops stand before whatever of them lies behind.
-        for (const Sector& sector : sectors)
-            if (m_rim > 0)
-                for (const kavlix::RimArc& arc : kavlix::VisibleRim(sector.start, sector.sweep)) {
-                    m_canvas.SetFill(kavlix::Shade(Colour(sector), kRimLight));
-                    m_canvas.Polygon(kavlix::RimCorners(m_pie, arc, m_rim));
+        // The rims first: the tops stand before whatever of them lies behind. Thin sectors last: the outlines
+        // of their neighbours lie on their edges.
+        for (const bool thin : {false, true})
+            for (const Sector& sector : sectors)
+                if (m_rim > 0 && IsThin(sector) == thin)
+                    for (const kavlix::RimArc& arc : kavlix::VisibleRim(sector.start, sector.sweep)) {
+                        Fill(kavlix::Shade(Colour(sector), kRimLight), thin);
+                        m_canvas.Polygon(kavlix::RimCorners(m_pie, arc, m_rim));
+                    }
+        for (const bool thin : {false, true})
+            for (const Sector& sector : sectors)
+                if (IsThin(sector) == thin) {
+                    Fill(Colour(sector), thin);
+                    m_canvas.Polygon(kavlix::SectorCorners(m_pie, sector.start, sector.sweep));
                 }
-        for (const Sector& sector : sectors) {
-            m_canvas.SetFill(Colour(sector));
-            m_canvas.Polygon(kavlix::SectorCorners(m_pie, sector.start, sector.sweep));
-        }
         if (sectors.empty()) {
             m_canvas.SetLine(kLeaderColour);
             m_canvas.NoFill();
@@ -111,6 +115,11 @@ public:
 
 private:
     COLORREF Colour(const Sector& sector) const { return m_pass.data.Colour(sector.group); }
+    bool IsThin(const Sector& sector) const { return m_pie.ArcLength(sector) < kThinSector * m_style.pixel; }
+    void Fill(COLORREF colour, bool thin) {
+        m_canvas.SetFill(colour);
+        m_canvas.SetLine(thin ? colour : kPaper);
+    }
 
     /// Where a share's text, by its upper left corner, lies in its sector whole.
     bool FindInside(const Sector& sector, const LabelSize& size, PlanePoint& place) const {
@@ -130,17 +139,23 @@ private:
     void DrawShares(const std::vector<Sector>& sectors) {
         std::vector<const Sector*> outside[2]; // right, left
         for (const Sector& sector : sectors) {
-            const CString text = ShareText(sector.percent);
-            const LabelSize size = m_canvas.Measure(text);
+            CString text;
             PlanePoint place;
-            if (FindInside(sector, size, place)) {
+            // Most of many sectors are narrower than any text is high, which costs less to see than to
+            // measure.
+            bool inside = m_pie.ArcLength(sector) >= m_style.share.height / 2;
+            if (inside) {
+                text = ShareText(sector.percent);
+                inside = FindInside(sector, m_canvas.Measure(text), place);
+            }
+            if (inside) {
                 m_canvas.Dc().SetTextColor(InkOn(Colour(sector)));
                 m_canvas.Text(place, text);
             } else if (m_style.beside) {
                 outside[sector.Middle() > 180].push_back(&sector);
             }
         }
-        m_canvas.Dc().SetTextColor(kInk);
+        m_canvas.Dc().SetTextColor(m_canvas.HostInk());
         std::reverse(outside[1].begin(), outside[1].end()); // from the top down, as the right side
         DrawOutside(outside[0], 1);
         DrawOutside(outside[1], -1);
@@ -246,22 +261,27 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
     }
 
     const int shown = std::min(count, grid.columns * grid.rows);
-    // The last room tells how many pies found none.
+    // The last room tells how many pies found none; an only room tells it beside the pie's name.
     const int pies = shown < count ? std::max(shown - 1, 1) : shown;
+    CString more;
+    if (pies < count)
+        more.Format("+ %d more", count - pies);
     for (int s = 0; s < shown; ++s) {
         const kavlix::PlaneRect room = roomOf(s);
         double bottom = room.bottom;
-        CString name;
+        CString text;
+        const double nameRoom = room.Width() - kPieMargin * pixel;
         if (s < pies) {
             PiePainter painter(pass, canvas, room, style);
             painter.Draw(sectorsOf(s));
-            name = pass.data.series[static_cast<std::size_t>(s)].label;
             bottom = std::min(bottom, painter.Lowest() + kNameGap * pixel);
+            const CString beside = s + 1 == shown && pies < count ? "  " + more : CString();
+            const CString& name = pass.data.series[static_cast<std::size_t>(s)].label;
+            text = canvas.Shorten(name, nameRoom - canvas.Measure(beside).width) + beside;
         } else {
-            name.Format("+ %d more", count - pies);
+            text = more;
         }
         if (count > 1) {
-            const CString text = canvas.Shorten(name, room.Width() - kPieMargin * pixel);
             canvas.Text({room.left + (room.Width() - canvas.Measure(text).width) / 2, bottom + pixel}, text);
         }
     }
@@ -270,10 +290,14 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
 } // namespace
 
 void CGraph::DrawPieSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     DrawPies(*pass, xTickFontSize, false, 0);
 }
 
 void CGraph::Draw3DPieSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     const double rim = depthRatio > 0 ? std::min(depthRatio, 1.0) * pass->plot.Width() : 0;
     DrawPies(*pass, xTickFontSize, true, rim);
 }

@@ -16,11 +16,12 @@ constexpr double kTickGap = 4;       // all lengths in pixels
 constexpr double kLabelGap = 6;      // between two labels
 constexpr double kLabelDistance = 6; // between plot and labels
 constexpr double kEdge = 2;          // free at the picture's edge
-constexpr double kYCaptionRoom = 7;  // beside the Y caption, with its margin of 5
+constexpr double kYCaptionRoom =
+    7; // beside the Y caption, with its margin of 5: the strip that nothing else uses
 constexpr double kXCaptionRoom = 9;  // around the X caption, with its margin of 7
 constexpr double kWideLabel = 1.5;   // room for a level label, so that it may be moved off the picture's edge
 constexpr double kHighLabel = 1.25;  // room for an upright row of labels
-constexpr int kSmallestNumbers = 7;
+constexpr int kSmallestNumbers = 10; // smaller ones go inside the plot instead, unless the host asks for them
 
 CString Number(std::int64_t value) {
     CString text;
@@ -38,6 +39,7 @@ void CGraph::PlanPlot() {
     p.horizontal = graphAlignment == 0 && graphType != GraphTypeScatter && graphType != GraphType3DLine;
     p.scaledKeys = graphType == GraphTypeXYLine || graphType == GraphTypeScatter;
     p.centred = graphType == GraphTypeBar && (graphQuadType == 3 || graphQuadType == 4);
+    p.bySeries = ShowsBySeries();
     p.mirrored = graphType == GraphTypeBar && (graphQuadType == 2 || graphQuadType == 4);
 
     const double width = p.plot.Width();
@@ -55,8 +57,8 @@ void CGraph::PlanPlot() {
     if (!p.HasPlot() || ShowsPie())
         return;
 
-    p.leftRoom = p.plot.left - kLabelDistance * pixel -
-                 (axisYLabel.IsEmpty() ? kEdge : p.captionFont + kYCaptionRoom) * pixel;
+    p.leftEdge = (axisYLabel.IsEmpty() ? kEdge : p.captionFont + kYCaptionRoom) * pixel;
+    p.leftRoom = p.plot.left - kLabelDistance * pixel - p.leftEdge;
     p.bottomRoom = p.canvas.Height() - p.plot.bottom - kLabelDistance * pixel -
                    (axisXLabel.IsEmpty() ? kEdge : p.captionFont + kXCaptionRoom) * pixel;
     PlanValues();
@@ -66,17 +68,24 @@ void CGraph::PlanPlot() {
         PlanSlots();
 }
 
-/// The height at which the wider of two numbers fits left of the plot; 0 when none does.
+/// The greatest height up to the host's at which the wider of two numbers fits left of the plot; 0 when none
+/// does.
 int CGraph::FitNumbers(const CString& a, const CString& b) {
-    for (int size = std::clamp(yTickFontSize, 1, SHRT_MAX); size >= std::min(kSmallestNumbers, yTickFontSize);
-         size = std::min(size - 1, static_cast<int>(pass->canvas.Height()))) {
+    const auto fits = [&](int size) {
         const GraphFont font(pass->canvas, size);
-        if (std::max(pass->canvas.Measure(a).width, pass->canvas.Measure(b).width) <= pass->leftRoom)
-            return size;
-        if (size <= 1)
-            break;
+        return std::max(pass->canvas.Measure(a).width, pass->canvas.Measure(b).width) <= pass->leftRoom;
+    };
+    const int wanted = std::min(kavlix::FontSize(yTickFontSize), GraphFont::kLargest);
+    if (fits(wanted))
+        return wanted;
+    int fitting = std::min(kSmallestNumbers, wanted);
+    if (!fits(fitting))
+        return 0;
+    for (int tooLarge = wanted; tooLarge - fitting > 1;) {
+        const int size = (fitting + tooLarge) / 2;
+        (fits(size) ? fitting : tooLarge) = size;
     }
-    return 0;
+    return fitting;
 }
 
 /// The ticks of a scale of whole numbers, along the plot's left side or along its bottom.

@@ -1,14 +1,10 @@
 #include <kavlix/GraphSeries.h>
 
-#include <algorithm>
-#include <limits>
-
 #include "graph/GraphLists.h"
 
 CGraphValue::~CGraphValue() = default;
 
-CGraphSeries::CGraphSeries()
-    : dataValues(new CObList(kavlix::kListBlock)), highestKey(std::numeric_limits<int>::min()) {
+CGraphSeries::CGraphSeries() : dataValues(new CObList(kavlix::kListBlock)) {
 }
 
 CGraphSeries::~CGraphSeries() {
@@ -16,29 +12,29 @@ CGraphSeries::~CGraphSeries() {
     delete dataValues;
 }
 
-CGraphValue* CGraphSeries::Find(int group) const {
-    if (dataValues->IsEmpty() || group > highestKey)
-        return nullptr;
-    for (POSITION position = dataValues->GetHeadPosition(); position != nullptr;) {
-        auto* const record = static_cast<CGraphValue*>(dataValues->GetNext(position));
-        if (record->key == group)
-            return record;
-    }
-    return nullptr;
+void CGraphSeries::SetData(int group, int value) {
+    const auto found = firstRecords.find(group);
+    if (found != firstRecords.end())
+        found->second->value = value;
+    else
+        AddPoint(group, value);
 }
 
-void CGraphSeries::SetData(int group, int value) {
-    if (CGraphValue* const record = Find(group)) {
-        record->value = value;
-        return;
+void CGraphSeries::AddPoint(int x, int y) {
+    auto record = std::make_unique<CGraphValue>(x, y);
+    const auto [entry, isFirst] = firstRecords.try_emplace(x, record.get());
+    try {
+        kavlix::Append(*dataValues, std::move(record));
+    } catch (...) {
+        if (isFirst)
+            firstRecords.erase(entry);
+        throw;
     }
-    kavlix::Append(*dataValues, std::make_unique<CGraphValue>(group, value));
-    highestKey = std::max(highestKey, group);
 }
 
 int CGraphSeries::GetData(int group) const {
-    const CGraphValue* const record = Find(group);
-    return record != nullptr ? record->value : 0;
+    const auto found = firstRecords.find(group);
+    return found != firstRecords.end() ? found->second->value : 0;
 }
 
 int CGraphSeries::GetDataCount() const {

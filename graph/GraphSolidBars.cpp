@@ -13,10 +13,27 @@ namespace {
 
 constexpr double kStackWidth = 0.55; // of a slot
 constexpr double kMostDepth = 2.5;   // of a box, of its width: a deeper one would hide its neighbours
+constexpr double kSlanted = 3;       // pixels; the faces of a thinner box are not slanted
 
 void DrawFace(kavlix::GraphCanvas& canvas, const kavlix::Face& face, COLORREF colour, double light) {
     canvas.SetFill(kavlix::Shade(colour, light));
     canvas.Polygon(face);
+}
+
+/// A solid of a few pixels: upright rectangles without outlines, since its slants are a pixel or two long and
+/// GDI takes several times as long for them.
+void DrawThinSolid(kavlix::GraphCanvas& canvas, const kavlix::PlaneRect& front, kavlix::Depth depth,
+                   COLORREF colour) {
+    const double pixel = canvas.Pixel();
+    const double right = std::max(front.right, front.left + pixel);
+    const double bottom = std::max(front.bottom, front.top + pixel);
+    const auto fill = [&](const kavlix::PlaneRect& face, double light) {
+        const COLORREF shade = kavlix::Shade(colour, light);
+        canvas.Box(face, shade, shade);
+    };
+    fill({front.left, front.top - depth.y, right + depth.x, front.top}, kavlix::kTopLight);
+    fill({right, front.top, right + depth.x, bottom}, kavlix::kSideLight);
+    fill({front.left, front.top, right, bottom}, kavlix::kFrontLight);
 }
 
 kavlix::Depth DepthOf(const GraphPass& pass, Span along) {
@@ -33,7 +50,13 @@ void DrawSolid(GraphPass& pass, Span along, double foot, double tip, COLORREF co
     if (foot == tip)
         return;
     const Span value{pass.values.Position(foot), pass.values.Position(tip)};
-    const kavlix::SolidFaces faces = kavlix::MakeSolid(pass.Between(along, value), DepthOf(pass, along));
+    const kavlix::PlaneRect front = pass.Between(along, value);
+    const kavlix::Depth depth = DepthOf(pass, along);
+    if (std::abs(along.to - along.from) < kSlanted * pass.canvas.Pixel()) {
+        DrawThinSolid(pass.canvas, front, depth, colour);
+        return;
+    }
+    const kavlix::SolidFaces faces = kavlix::MakeSolid(front, depth);
     pass.canvas.SetLine(kavlix::OutlineOf(colour));
     DrawFace(pass.canvas, faces.top, colour, kavlix::kTopLight);
     DrawFace(pass.canvas, faces.side, colour, kavlix::kSideLight);
@@ -50,6 +73,8 @@ template <class Draw> void BackToFront(const GraphPass& pass, int count, Draw dr
 } // namespace
 
 void CGraph::Draw3DBarSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     const double base = p.values.Base();
     BackToFront(p, p.data.SeriesCount(), [&](int s) {
@@ -63,6 +88,8 @@ void CGraph::Draw3DBarSeries(CDC*) {
 }
 
 void CGraph::Draw3DStackedBarSeries(CDC*) {
+    if (pass == nullptr)
+        return;
     GraphPass& p = *pass;
     BackToFront(p, p.data.SeriesCount(), [&](int s) {
         const auto values =

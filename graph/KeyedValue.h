@@ -19,11 +19,11 @@ inline std::optional<int> ValueAt(const std::vector<KeyedValue>& values, int key
     return found != values.end() && found->key == key ? std::optional<int>(found->value) : std::nullopt;
 }
 
-/// The values of the groups 0 to `groups` - 1 among them, in order.
+/// The values of the groups 0 to `groups` - 1 in a list that ascends by key; of equal keys the first.
 inline std::vector<KeyedValue> GroupValues(const std::vector<KeyedValue>& values, int groups) {
     std::vector<KeyedValue> result;
     for (const KeyedValue& item : values)
-        if (item.key >= 0 && item.key < groups)
+        if (item.key >= 0 && item.key < groups && (result.empty() || result.back().key != item.key))
             result.push_back(item);
     return result;
 }

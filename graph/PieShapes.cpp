@@ -15,8 +15,10 @@ constexpr double kPi = 3.14159265358979323846;
 
 /// Points of the arc from `start` on, close enough together to look round at any resolution.
 std::vector<PlanePoint> ArcPoints(const PieOutline& pie, double start, double sweep) {
-    constexpr double kDegreesPerStep = 1.5;
-    const int steps = std::max(1, static_cast<int>(std::ceil(sweep / kDegreesPerStep)));
+    constexpr double kMostOff = 0.1; // units between the arc and the line from one point to the next
+    constexpr double kLongestStep = 15;
+    const double step = 2 * std::acos(1 - kMostOff / std::max(pie.radiusX, 1.0)) * 180 / kPi;
+    const int steps = std::max(1, static_cast<int>(std::ceil(sweep / std::min(step, kLongestStep))));
     std::vector<PlanePoint> points;
     for (int i = 0; i <= steps; ++i)
         points.push_back(pie.At(start + sweep * i / steps));
@@ -50,6 +52,10 @@ bool Sector::Holds(double angle) const {
 PlanePoint PieOutline::At(double angle, double reach) const {
     const double radians = angle * kPi / 180;
     return {centre.x + reach * radiusX * std::sin(radians), centre.y - reach * radiusY * std::cos(radians)};
+}
+
+double PieOutline::ArcLength(const Sector& sector) const {
+    return sector.sweep * kPi / 180 * radiusX;
 }
 
 bool PieOutline::Holds(const Sector& sector, const PlaneRect& box) const {

@@ -50,8 +50,25 @@ std::uint32_t Shade(std::uint32_t colour, double light) {
     return shaded;
 }
 
-Face MakeRibbon(PlanePoint a, PlanePoint b, Depth depth) {
-    return {{a, b, {b.x + depth.x, b.y - depth.y}, {a.x + depth.x, a.y - depth.y}}};
+Face MakeRibbon(PlanePoint a, PlanePoint b, Depth depth, double thinnest) {
+    const PlanePoint along{b.x - a.x, b.y - a.y};
+    const double length = std::hypot(along.x, along.y);
+    Face face = {{a, b, {b.x + depth.x, b.y - depth.y}, {a.x + depth.x, a.y - depth.y}}};
+    if (!(length > 0))
+        return face;
+    // How far the depth leads away from the line, to its right when positive.
+    const double width = (-depth.y * along.x - depth.x * along.y) / length;
+    const double missing = thinnest - std::abs(width);
+    if (missing > 0) {
+        const double side = (width < 0 ? missing : -missing) / 2 / length;
+        const PlanePoint shift{-along.y * side, along.x * side};
+        for (std::size_t i = 0; i < face.size(); ++i) {
+            const double sign = i < 2 ? 1 : -1;
+            face[i].x += sign * shift.x;
+            face[i].y += sign * shift.y;
+        }
+    }
+    return face;
 }
 
 double RibbonLight(PlanePoint a, PlanePoint b) {

@@ -41,8 +41,9 @@ constexpr double kSideLight = 0.7;
 /// `colour` (0x00BBGGRR) under light: darker below 1; above 1 it moves towards white by the excess.
 std::uint32_t Shade(std::uint32_t colour, double light);
 
-/// The strip between two points of a line, drawn out into the depth.
-Face MakeRibbon(PlanePoint a, PlanePoint b, Depth depth);
+/// The strip between two points of a line, drawn out into the depth. Where the line runs nearly along the
+/// depth, the strip is thickened to be `thinnest` wide.
+Face MakeRibbon(PlanePoint a, PlanePoint b, Depth depth, double thinnest = 0);
 
 /// The light on a ribbon: the steeper it falls away from the light at the upper left, the less.
 double RibbonLight(PlanePoint a, PlanePoint b);

@@ -171,6 +171,7 @@ void CMultiGraphView::Show(const Recording* recording, const GraphSettings& sett
     auto graph = std::make_unique<CGraph>();
     graph->parentWindow = this;
     graph->SetGraphTitle(settings.title.c_str());
+    graph->SetLegendBySeries(TRUE);
     if (recording && !recording->times.empty() && !settings.series.empty()) {
         const Periods periods(recording->times);
         const bool boxed = options.type == GraphTypeBoxWhisker;

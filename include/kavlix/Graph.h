@@ -71,21 +71,23 @@ private:
 /// DrawGraph or PrintGraph. The host fills it with series (CGraphSeries), group colours and legend texts.
 ///
 /// What the types show. A group is a key of the series; group j has the colour of entry j of the colour list
-/// and legend row j.
+/// and legend row j. Texts have the text colour of the DC; a share inside a pie has black or white.
 /// - Bar, 3D bar: for each series a slot with a bar for each group, from the zero line to the value.
 /// - Stacked bar, 3D stacked bar: the groups of a series on top of each other; negative values downwards.
 /// - Line, 3D line: a line (a ribbon) for each group over the series; a missing value is a gap.
 /// - Pie, 3D pie: a pie for each series, with a sector for each group and its share in percent; values of 0
 /// and
 ///   below have none. When there is no room for all pies the first ones are shown, and how many are not.
-/// - XY line, scatter: each series is a set of points, X its keys and Y its values, with the colour, marker
-/// and
-///   legend row of the series' position. XY line joins them in ascending order of X.
+/// - XY line, scatter: each series is a set of points, X its keys and Y its values, with a marker shape of
+/// its
+///   own. XY line joins them in ascending order of X. A point has the colour of its group, a line that of the
+///   series' position; with SetLegendBySeries points too.
 /// - Box-whisker: for each series a box from the lower to the upper quartile of its values, the median as a
 /// line
 ///   in it, whiskers to the last value within 1.5 interquartile ranges of the box, and circles for the values
 ///   beyond. The quartile p of n values in order, counted from 0, lies at rank p * (n - 1), interpolated
-///   between the two values on either side. The box has the colour of the series' position, mixed with white.
+///   between the two values on either side. A box stands for no group and is grey, and a circle has the
+///   colour of its value's group; with SetLegendBySeries both have the colour of the series' position.
 ///
 /// The value axis runs from the lower to the upper tick limit; what lies outside is cut at the plot's edge.
 /// Labels that would overlap stand in two rows or are thinned out; labels too long for their room end in
@@ -119,6 +121,10 @@ public:
     void SetYTickFontSize(int size) { yTickFontSize = size; }
     /// Height of the legend texts in pixels (default 12). Sizes below 1 count as 1.
     void SetLegendFontSize(int size) { legendFontSize = size; }
+    /// TRUE: in XY line, scatter and box-whisker graphs the legend has a row for each series instead of each
+    /// group, and everything of a series has the colour of that row. FALSE (the default): rows and colours go
+    /// by group, as in all other types. The rows' texts are those of SetLegend in either case.
+    void SetLegendBySeries(BOOL bySeries) { legendBySeries = bySeries; }
     void SetGridLines(BOOL show) { graphHasGridLines = show; }
     /// 1: values grow upwards; 0: to the right. A 3D line graph keeps 1; pies and scatter graphs do not
     /// differ.
@@ -142,10 +148,12 @@ public:
     /// printed graph reaches from `left` to `right` and from `graphTop` down four inches, or to `bottom` if
     /// that is higher.
     void SetMargins(int top, int bottom, int left, int right, int graphTop);
-    /// Appends a colour to the list. Colours go by position in the list, not by `group`.
+    /// Appends a colour to the list. Colours go by position in the list, not by `group`. Changes nothing when
+    /// memory runs out.
     void SetColor(int group, COLORREF color);
-    /// Appends a legend text; ignored for a scatter graph. Texts go by position in the list. One that would
-    /// reach into the colour beside it is cut and ends in dots.
+    /// Appends a legend text; ignored for a scatter graph. Texts go by position in the list. The legend's box
+    /// is sized by the number of characters; where a text is wider than that, the colour beside it covers its
+    /// end. The heading may be wider than a box of short texts. Changes nothing when memory runs out.
     void SetLegend(int group, CString text);
     /// @}
 
@@ -153,6 +161,7 @@ public:
     /// @{
     /// Takes the series over. The number of groups becomes the largest number of values of any series so far;
     /// values that a series gets later do not change it. NULL, and a series that is in already, is ignored.
+    /// When memory runs out, the series is deleted, and the exception passes on.
     void AddSeries(CGraphSeries* series);
     /// Deletes the first series of that name (case counts); none changes nothing. The number of groups stays.
     void RemoveSeries(CString label);
@@ -172,12 +181,13 @@ public:
     /// Paints the graph from (0, 0) on, as large as the client area of `parentWindow`, in the DC's
     /// coordinates (made for MM_TEXT: a unit is a pixel). Frames have the pen, and the legend box pen and
     /// brush, that are selected. The DC's state is as before afterwards. Does nothing without a DC or a
-    /// window.
+    /// window. When memory runs out, the picture is unfinished, and the exception passes on.
     void DrawGraph(CDC* pDC);
     /// Paints the same picture in MM_TWIPS into the rectangle of SetMargins, at the DC's own resolution;
     /// fonts and line widths are those of a screen with 96 dots to the inch. The rectangle also ends where
     /// the page does: the page is `pInfo`'s drawing area or, without one, what the DC tells. The DC's state
-    /// is as before afterwards. Does nothing without a DC or on an empty rectangle.
+    /// is as before afterwards. Does nothing without a DC or on an empty rectangle. When memory runs out, the
+    /// picture is unfinished, and the exception passes on.
     void PrintGraph(CDC* pDC, CPrintInfo* pInfo);
     /// @}
 
@@ -185,7 +195,7 @@ private:
     int GetXAxisAlignment() const { return xAxisAlign; }
     COLORREF GetColor(int index) const;
     BOOL ShowsPie() const;
-    BOOL HasSeriesColors() const;
+    BOOL ShowsBySeries() const;
     int LegendRows() const;
 
     void DrawPicture(CDC& dc, const kavlix::GraphFrame& frame);
@@ -199,6 +209,8 @@ private:
     int FitNumbers(const CString& a, const CString& b);
     kavlix::ScaleTicks PlanTicks(std::int64_t min, std::int64_t max, std::int64_t step, bool left,
                                  bool fromZero);
+    /// The steps that a drawing consists of, here and in the painters below. Outside DrawGraph and PrintGraph
+    /// they do nothing, and DrawLegend's result is 0.
     void DrawSeries(CDC* pDC);
     int DrawLegend(CDC* pDC);
     void DrawAxis(CDC* pDC);
@@ -270,6 +282,7 @@ protected:
     int printTop = 0;
     int printBottom = 0;
     int printRight = 0;
+    BOOL legendBySeries = FALSE;
     /// @}
 
 public:

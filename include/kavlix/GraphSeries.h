@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include <unordered_map>
+
 #include <kavlix/Export.h>
 
 /// One keyed number: a series' value for a group, or a group's colour.
@@ -36,9 +38,13 @@ public:
     CString GetLabel() const { return seriesLabel; }
 
     /// Stores the value of a group; one that is already there is replaced and keeps its place in the order.
-    /// Filling in ascending order of keys costs the same for every value.
+    /// Costs the same for any order of keys and any number of values. Changes nothing when memory runs out.
     void SetData(int group, int value);
-    /// The value stored for `group`; 0 when there is none.
+    /// Appends a point, also when there is one with the same X: XY line and scatter graphs and the statistics
+    /// of a box use every point. Everything else (GetData, SetData, the other types) takes the first record
+    /// of a key. Changes nothing when memory runs out.
+    void AddPoint(int x, int y);
+    /// The value first stored for `group`; 0 when there is none.
     int GetData(int group) const;
     /// Number of values stored.
     int GetDataCount() const;
@@ -46,9 +52,9 @@ public:
     const CObList& GetDataList() const { return *dataValues; }
 
 private:
-    CGraphValue* Find(int group) const;
+    friend class CGraph;
 
     CString seriesLabel;
     CObList* dataValues;
-    int highestKey; ///< of all values, when there are any
+    std::unordered_map<int, CGraphValue*> firstRecords; ///< of each key; owned by dataValues
 };

@@ -73,47 +73,46 @@ TEST_F(MultiGraphTest, HorizontalLayoutLeavesRoomForCaptionAndLabels) {
     EXPECT_EQ(graph->yAxisHeight, graph->yApexPoint - 40);
 }
 
-TEST_F(MultiGraphTest, LegendBoxRowsAndSwatches) {
-    Make(0);
-    Fill({{1, 2, 3}, {4}});
-    graph->SetLegend(0, "first");
-    graph->SetLegend(1, "second");
-    const auto recorder = Record();
-    const int right = 495 - 5, height = 3 * 18 + 26, left = right - 6 * 7 - 25, top = 380 / 2 - height / 2;
-    const auto box = [](int l, int t, int r, int b) {
-        return "rect " + testkit::BoxText({l, t, r, b}) + " pen solid 0 000000 brush ";
-    };
-    EXPECT_GE(IndexOf(*recorder, box(left, top, right, top + height) + "FFFFFF"), 0);
-    EXPECT_EQ(graph->legendWidth, right - left);
-    EXPECT_EQ(graph->xAxisWidth, left - graph->xApexPoint - 10);
-    const int swatch = left + 10 + 6 * 6;
+TEST_F(MultiGraphTest, LegendRowsStandForGroupsAndHoldWholeTexts) {
+    const char* const texts[] = {"CPU", "WWWWWW",
+                                 "MM"}; // wider than the room by the number of characters, and not
     const char* const fills[] = {"C80000", "00C800", "0000C8"};
-    for (int i = 0; i < 3; ++i) {
-        const int y = top + 25 + 18 * i;
-        EXPECT_GE(IndexOf(*recorder, box(swatch, y, right - 5, y + 12) + fills[i]), 0) << i;
-    }
-    const auto* const second = Find(*recorder, "second");
-    ASSERT_NE(second, nullptr);
-    EXPECT_EQ(second->points.front().x, left + 5);
-    EXPECT_EQ(second->points.front().y, top + 25 + 18);
-    EXPECT_EQ(second->state.font, "Arial 12 bold");
-    EXPECT_EQ(Find(*recorder, "Legend")->state.font, "Arial 16 bold");
-    EXPECT_LT(IndexOf(*recorder, "\"Legend\""), IndexOf(*recorder, "\"100\"")) << "legend before axes";
-}
-
-TEST_F(MultiGraphTest, LegendTextsEndBeforeTheSwatch) {
-    Make(0);
-    Fill({{1, 2}});
-    graph->SetLegend(0, "WWWWWWWWWWWWWWWW");
-    graph->SetLegend(1, "illicit ililliil");
-    const auto recorder = Record();
-    EXPECT_NE(Find(*recorder, "illicit ililliil"), nullptr);
-    EXPECT_EQ(Find(*recorder, "WWWWWWWWWWWWWWWW"), nullptr);
-    const Strings texts = recorder->Texts();
-    const auto cut =
-        std::find_if(texts.begin(), texts.end(), [](const std::string& t) { return t[0] == 'W'; });
-    ASSERT_NE(cut, texts.end());
-    EXPECT_EQ(cut->substr(cut->size() - 3), "...");
+    for (const bool bySeries : {false, true})
+        for (const int type : kAllTypes) {
+            Make(0).SetLegendBySeries(bySeries);
+            for (const char* text : texts)
+                graph->SetLegend(0, text);
+            graph->SetGraphType(type);
+            Fill({{1, 2, 3}, {4}});
+            const auto recorder = Record();
+            const int rows = bySeries && (type == 3 || type == 4 || type == 21) ? 2 : 3;
+            const int right = 495 - 5, height = rows * 18 + 26, left = right - 6 * 7 - 25;
+            const int top = 380 / 2 - height / 2, swatch = left + 10 + 6 * 6;
+            const auto box = [](int l, int t, int r, int b) {
+                return "rect " + testkit::BoxText({l, t, r, b}) + " pen solid 0 000000 brush ";
+            };
+            EXPECT_GE(IndexOf(*recorder, box(left, top, right, top + height) + "FFFFFF"), 0) << type;
+            EXPECT_EQ(graph->legendWidth, right - left);
+            EXPECT_EQ(graph->xAxisWidth, left - graph->xApexPoint - 10) << type;
+            for (int i = 0; i < rows; ++i) {
+                const int y = top + 25 + 18 * i;
+                EXPECT_GE(IndexOf(*recorder, box(swatch, y, right - 5, y + 12) + fills[i]), 0) << type << i;
+                const auto* const text = Find(*recorder, texts[i]);
+                ASSERT_NE(text, nullptr) << type << texts[i];
+                EXPECT_EQ(text->points.front().x, left + 5);
+                EXPECT_EQ(text->points.front().y, y);
+                EXPECT_EQ(text->state.font, "Arial 12 bold");
+            }
+            EXPECT_EQ(Find(*recorder, texts[2]) != nullptr, rows == 3) << type;
+            EXPECT_EQ(Find(*recorder, "Legend")->state.font, "Arial 16 bold");
+            const int axes = IndexOf(*recorder, "\"100\"");
+            EXPECT_TRUE(axes < 0 || IndexOf(*recorder, "\"Legend\"") < axes) << "legend before axes";
+            for (const auto& record : recorder->Records()) {
+                const bool share = record.text.find('%') != std::string::npos;
+                EXPECT_TRUE(share || record.kind != testkit::kText || record.state.textColor == kInk)
+                    << type << record.text << ": the DC's own colour";
+            }
+        }
 }
 
 TEST_F(MultiGraphTest, QuadrantsFollowTheFirstValuesUnlessChosen) {
@@ -162,6 +161,42 @@ TEST_F(MultiGraphTest, AxisTicksNumbersGridAndLabels) {
     const auto surface = Paint();
     EXPECT_EQ(surface->At(graph->xApexPoint + 1, Pixel(At(0))), RGB(0, 0, 0)) << "zero line";
     EXPECT_EQ(surface->At(graph->xApexPoint + 1, Pixel(At(20))), RGB(128, 128, 128));
+}
+
+TEST_F(MultiGraphTest, LabelsStayBesideThePlotAndOffTheYCaption) {
+    for (const int type : {0, 3, 21, 30})
+        for (const int alignment : {1, 0})
+            for (const int angle : {0, 45, 90}) {
+                Make(type).SetTickLimits(-2000000, 100, 500000);
+                graph->SetGraphAlignment(alignment);
+                graph->SetXAxisAlignment(angle);
+                graph->SetYAxisLabel("beside");
+                for (int s = 0; s < 5; ++s)
+                    Add("label of a series", {{0, 60}, {1, 40}});
+                const auto recorder = Record();
+                for (const auto& record : recorder->Records())
+                    if (record.kind == testkit::kText && !record.text.empty() && record.text != "beside") {
+                        const POINT at = record.points.front();
+                        const bool below = alignment == 0 && at.y > graph->yApexPoint;
+                        EXPECT_TRUE(at.x >= 16 + 7 || below) << type << record.Line();
+                        EXPECT_GE(std::stoi(record.state.font.substr(6)), 10) << type << record.Line();
+                    }
+                if (graph->xApexPoint < 16) {
+                    EXPECT_GT(IndexOf(*recorder, "\"beside\""), IndexOf(*recorder, "brush C80000"))
+                        << "series do not cover it";
+                }
+            }
+    Make(0).SetYTickFontSize(8);
+    EXPECT_EQ(Find(*Record(), "100")->state.font, "Arial 8") << "the host's own choice";
+
+    Make(0).SetGraphAlignment(0);
+    graph->SetXAxisAlignment(90);
+    graph->SetXAxisLabel("caption");
+    for (int s = 0; s < 60; ++s)
+        Add("a label that is long", {{0, 5}});
+    const auto surface = Paint();
+    const RECT above = {2, 2, graph->xApexPoint, 38};
+    EXPECT_EQ(surface->Count(RGB(255, 255, 255), above), (above.right - 2) * 36) << "none reaches the title";
 }
 
 TEST_F(MultiGraphTest, LabelsAreStaggeredShortenedThinnedOrTurned) {

@@ -1,7 +1,8 @@
 #include "tests/graph/MultiGraphTest.h"
 
-#include "graph/GraphLists.h"
+#include "tests/support/MemoryRule.h"
 
+#include <chrono>
 #include <climits>
 
 namespace {
@@ -142,22 +143,71 @@ TEST(GraphModelTest, SeriesAreOwnedCountedAndFoundByName) {
     EXPECT_EQ(alive, 0);
 }
 
-TEST(GraphModelTest, ListsDeleteWhatTheyOwn) {
-    int alive = 0;
-    struct Counted : CObject {
-        explicit Counted(int& count) : m_count(count) { ++m_count; }
-        ~Counted() override { --m_count; }
-        int& m_count;
+namespace {
+
+const CString kLongText('x', 40); // too long for a text without a block of its own
+
+/// A graph that is drawn into a DC.
+struct FedGraph {
+    FedGraph() {
+        window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr);
+        graph.parentWindow = &window;
+        graph.SetLegend(0, "first");
+        for (const char* label : {"a label that is long", "short"}) {
+            auto* const series = new CGraphSeries;
+            series->SetLabel(label);
+            series->SetData(0, 40);
+            graph.AddSeries(series);
+        }
+        dc.Attach(surface.Dc());
+    }
+    ~FedGraph() {
+        dc.Detach();
+        window.DestroyWindow();
+    }
+    CGraphSeries& First() { return *static_cast<CGraphSeries*>(graph.seriesList->GetHead()); }
+    std::string State() {
+        std::string text = Legends(graph.graphLegend) + std::to_string(graph.legendMaxText);
+        text += graph.colorList != nullptr ? Colours(graph.colorList) : "";
+        text += std::to_string(graph.seriesList->GetCount()) + "of" + std::to_string(graph.seriesSize);
+        text += graph.seriesList->IsEmpty()
+                    ? ""
+                    : Colours(&First().GetDataList()) + std::to_string(First().GetData(7));
+        return text + std::to_string(dc.GetBkMode()) +
+               (dc.GetCurrentPen()->m_hObject == hostPen ? "" : "pen");
+    }
+    CWnd window;
+    OpenMultiGraph graph;
+    testkit::DibSurface surface{300, 200};
+    HGDIOBJ hostPen = ::GetCurrentObject(surface.Dc(), OBJ_PEN);
+    CDC dc;
+};
+
+} // namespace
+
+TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
+    using F = FedGraph;
+    using testkit::OnFailure;
+    const auto add = [](F& f) {
+        auto series = std::make_unique<CGraphSeries>();
+        series->AddPoint(1, 2);
+        series->AddPoint(1, 3);
+        f.graph.AddSeries(series.release());
+        return true;
     };
-    CObList list;
-    for (int i = 0; i < 3; ++i)
-        kavlix::Append(list, std::make_unique<Counted>(alive));
-    kavlix::DeleteAt(list, 3);
-    EXPECT_EQ(alive, 3);
-    kavlix::DeleteAt(list, 1);
-    EXPECT_EQ(alive, 2);
-    kavlix::DeleteAll(list);
-    EXPECT_EQ(alive, 0);
+    EXPECT_GT(
+        testkit::ExpectMemoryRule<F>({
+            {"construct", OnFailure::Throws, [](F&) { return OpenMultiGraph(20).parentWindow == nullptr; }},
+            {"SetColor", OnFailure::Throws, [](F& f) { return f.graph.SetColor(0, 5), true; }},
+            {"SetLegend", OnFailure::Throws, [](F& f) { return f.graph.SetLegend(1, kLongText), true; }},
+            {"AddSeries", OnFailure::Throws, add},
+            {"SetData", OnFailure::Throws, [](F& f) { return f.First().SetData(7, 70), true; }},
+            {"RemoveSeries", OnFailure::Never, [](F& f) { return f.graph.RemoveSeries("short"), true; }},
+            {"RemoveLegend", OnFailure::Never, [](F& f) { return f.graph.RemoveLegend(0), true; }},
+            {"RemoveAllData", OnFailure::Never, [](F& f) { return f.graph.RemoveAllData(), true; }},
+            {"DrawGraph", OnFailure::Throws, [](F& f) { return f.graph.DrawGraph(&f.dc), true; }},
+        }),
+        50);
 }
 
 TEST(GraphModelTest, ASeriesKeepsOneValueForAGroup) {
@@ -173,4 +223,18 @@ TEST(GraphModelTest, ASeriesKeepsOneValueForAGroup) {
     EXPECT_EQ(series.GetData(INT_MAX), 2);
     EXPECT_EQ(series.GetData(3), 0);
     EXPECT_EQ(static_cast<CGraphValue*>(series.GetDataList().GetHead())->value, 44) << "its place stays";
+    series.AddPoint(4, 45);
+    series.SetData(4, 46);
+    EXPECT_EQ(series.GetData(4), 46) << "the first record";
+    EXPECT_EQ(Colours(&series.GetDataList()), "46 22 1 2 45 ");
+
+    const auto fill = [](int step) {
+        const auto start = std::chrono::steady_clock::now();
+        CGraphSeries many;
+        for (int i = 0; i < 20000; ++i)
+            many.SetData(i * step, i);
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    };
+    fill(1); // the heap grows
+    EXPECT_LT(fill(-1), fill(1) * 10) << "the order of the keys does not matter";
 }

@@ -47,6 +47,9 @@ inline constexpr int kAllTypes[] = {0, 1, 2, 3, 4, 20, 21, 30, 31, 32, 320};
 /// Group colours without equals in frame, text or shade.
 inline constexpr COLORREF kColours[] = {RGB(200, 0, 0), RGB(0, 200, 0), RGB(0, 0, 200), RGB(200, 200, 0)};
 
+/// The text colour of the recorded DC.
+inline constexpr COLORREF kInk = RGB(9, 8, 7);
+
 /// A graph and the window whose size it fills.
 class MultiGraphTest : public testing::Test {
 protected:
@@ -96,6 +99,7 @@ protected:
     }
     std::unique_ptr<testkit::MetafileRecorder> Record() {
         auto recorder = std::make_unique<testkit::MetafileRecorder>();
+        ::SetTextColor(recorder->Dc(), kInk);
         DrawInto(recorder->Dc());
         recorder->Close();
         return recorder;

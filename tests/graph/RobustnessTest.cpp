@@ -6,6 +6,55 @@
 #include <cmath>
 #include <limits>
 
+namespace {
+
+/// Calls members that hosts cannot.
+template <auto... Steps> struct OpenSteps {
+    friend void RunSteps(CGraph& graph, CDC* dc) { ((graph.*Steps)(dc), ...); }
+};
+void RunSteps(CGraph& graph, CDC* dc);
+template struct OpenSteps<&CGraph::DrawAxis, &CGraph::DrawLegend, &CGraph::DrawSeries, &CGraph::DrawBarSeries,
+                          &CGraph::DrawLineSeries, &CGraph::DrawPieSeries, &CGraph::DrawScatterSeries,
+                          &CGraph::DrawBoxWhiskerSeries, &CGraph::DrawStackedBarSeries,
+                          &CGraph::DrawXYLineSeries, &CGraph::Draw3DBarSeries, &CGraph::Draw3DLineSeries,
+                          &CGraph::Draw3DPieSeries, &CGraph::Draw3DStackedBarSeries>;
+
+} // namespace
+
+TEST_F(MultiGraphTest, StepsOutsideADrawingDoNothing) {
+    Make(0);
+    Fill({{50, 20}});
+    testkit::MetafileRecorder recorder;
+    CDC dc;
+    dc.Attach(recorder.Dc());
+    RunSteps(*graph, &dc);
+    dc.Detach();
+    recorder.Close();
+    EXPECT_TRUE(recorder.Lines(testkit::kAll).empty());
+}
+
+TEST_F(MultiGraphTest, AnAttributeDcChangesNoPixel) {
+    // Such a DC gets every shape and text by plain calls, measured where the host says.
+    for (const int type : kAllTypes)
+        for (const int groups : {3, 40}) {
+            Make(type).SetTickLimits(-50, 100, 10);
+            graph->SetXAxisLabel("across");
+            graph->SetLegend(0, "row");
+            std::vector<std::vector<int>> values(6);
+            for (int i = 0; i < 6 * groups; ++i)
+                values[static_cast<std::size_t>(i % 6)].push_back(i * 37 % 140 - 40);
+            Fill(values);
+            testkit::DibSurface surface(500, 400, RGB(255, 0, 255)), asked(500, 400);
+            CDC dc;
+            dc.Attach(surface.Dc());
+            dc.SetAttribDC(asked.Dc());
+            graph->DrawGraph(&dc);
+            dc.ReleaseAttribDC();
+            dc.Detach();
+            EXPECT_TRUE(surface.IsSameAs(*Paint())) << type << " " << groups;
+        }
+}
+
 TEST_F(MultiGraphTest, ExtremeSettingsAreDrawnInEveryTypeAndSize) {
     struct Limits {
         int min, max, step;
@@ -21,17 +70,17 @@ TEST_F(MultiGraphTest, ExtremeSettingsAreDrawnInEveryTypeAndSize) {
             for (std::size_t i = 0; i < std::size(limits); ++i) {
                 Make(type).SetTickLimits(limits[i].min, limits[i].max, limits[i].step);
                 graph->Set3DDepthRatio(ratios[i % std::size(ratios)]);
-                graph->SetYTickFontSize(sizes[i % std::size(sizes)]);
+                graph->SetYTickFontSize(sizes[(i + 2) % std::size(sizes)]);
                 graph->SetXTickFontSize(sizes[(i + 1) % std::size(sizes)]);
-                graph->SetLegendFontSize(sizes[(i + 2) % std::size(sizes)]);
+                graph->SetLegendFontSize(sizes[i % std::size(sizes)]);
                 graph->SetXAxisAlignment(i % 3 == 0 ? INT_MIN : static_cast<int>(i) * 47);
                 graph->Set3DLineBase(i % 2 == 0 ? INT_MAX : -3, static_cast<int>(i));
-                graph->SetGraphAlignment(static_cast<int>(i) % 2);
+                graph->SetGraphAlignment(static_cast<int>(i + 1) % 2);
                 graph->SetGridLines(TRUE);
                 graph->SetGraphTitle(CString('W', 200));
                 graph->SetXAxisLabel(i % 2 == 0 ? CString('x', 300) : CString());
                 graph->SetYAxisLabel(CString('y', 300));
-                if (i % 2 == 0)
+                if (i % 4 != 0)
                     graph->SetLegend(0, CString('l', 50));
                 Add("", {});
                 Add("whole range", {{INT_MIN, INT_MAX}, {0, INT_MIN}, {1, INT_MAX}, {INT_MAX, 0}, {2, -1}});
@@ -40,6 +89,9 @@ TEST_F(MultiGraphTest, ExtremeSettingsAreDrawnInEveryTypeAndSize) {
                 if (window.cx > 1) {
                     EXPECT_NE(surface->At(0, 0), RGB(255, 0, 255)) << "painted";
                 }
+                EXPECT_LE(Record()->Lines(testkit::kLine | testkit::kText).size(),
+                          static_cast<std::size_t>(window.cx + window.cy) + 60)
+                    << type << " " << i;
             }
     }
 }

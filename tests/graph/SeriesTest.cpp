@@ -55,8 +55,8 @@ TEST_F(GraphSeriesTest, BarsReachTheirValuesOnBothSidesOfZero) {
 }
 
 TEST_F(GraphSeriesTest, QuadrantsShowNegativeValuesAndKeys) {
-    Make(0).SetTickLimits(0, 50, 10); // the scale reaches as far down as up
-    Add("a", {{0, -50}, {1, 25}});
+    Make(0).SetTickLimits(0, 50, 10);               // the scale reaches as far down as up
+    Add("a", {{0, -50}, {1, 25}})->AddPoint(0, 40); // the first record of a group counts
     const auto surface = Paint();
     const int middle = graph->yApexPoint, half = graph->yAxisHeight / 2;
     const int x = graph->xApexPoint + graph->xAxisWidth / 3;
@@ -78,7 +78,7 @@ TEST_F(GraphSeriesTest, StacksAddUp) {
         Make(20).SetTickLimits(-50, 100, 10);
         graph->SetGraphAlignment(alignment);
         graph->SetXAxisLabel("caption");
-        Add("a", {{0, 30}, {1, -20}, {2, 45}, {3, -10}});
+        Add("a", {{0, 30}, {1, -20}, {2, 45}, {3, -10}})->AddPoint(0, 9);
         Add("b", {{1, 80}, {3, 90}});
         const auto surface = Paint();
         ExpectBar(*surface, kColours[0], Slot(0, 2), 0, 30);
@@ -117,21 +117,27 @@ TEST_F(GraphSeriesTest, KeysAreXValues) {
     for (const int type : {21, 3}) {
         Make(type);
         graph->SetXAxisLabel("caption");
-        Add("a", {{40, 20}, {0, 10}, {100, 90}, {60, 400}});
+        Add("a", {{40, 20}, {0, 10}, {100, 90}, {60, 400}})->AddPoint(40, 30);
         Add("b", {{20, 50}});
         const auto recorder = Record();
         const auto x = [&](int key) { return Pixel(graph->xApexPoint + key / 100.0 * graph->xAxisWidth); };
         const Strings circles = recorder->LinesFrom("ellipse");
-        ASSERT_EQ(circles.size(), 3u) << "the value above the limit has none";
+        ASSERT_EQ(circles.size(), 4u) << "the value above the limit has none";
         const auto circle = [&](int key, int value) {
             const int y = Pixel(At(value));
             return "ellipse " + testkit::BoxText({x(key) - 4, y - 4, x(key) + 5, y + 5});
         };
         EXPECT_EQ(circles[0].find(circle(0, 10)), 0u) << circles[0] << " " << circle(0, 10);
         EXPECT_EQ(circles[1].find(circle(40, 20)), 0u) << circles[1];
-        EXPECT_EQ(circles[2].find(circle(100, 90)), 0u) << circles[2];
+        EXPECT_EQ(circles[2].find(circle(40, 30)), 0u) << circles[2];
+        EXPECT_EQ(circles[3].find(circle(100, 90)), 0u) << circles[3];
+        EXPECT_NE(circles[0].find("brush C80000"), std::string::npos) << "of its group";
+        EXPECT_NE(circles[1].find("brush 000000"), std::string::npos) << "a group without a colour";
         const Strings strokes = recorder->Strokes("solid 2 C80000");
-        EXPECT_EQ(strokes.size(), type == 21 ? 3u : 0u);
+        EXPECT_EQ(strokes.size(), type == 21 ? 4u : 0u);
+        graph->SetLegendBySeries(TRUE);
+        EXPECT_NE(Record()->LinesFrom("ellipse")[1].find("brush C80000"), std::string::npos)
+            << "of its series";
         if (type == 21) {
             EXPECT_EQ(strokes[0].find("line " + std::to_string(x(0)) + "," + std::to_string(Pixel(At(10)))),
                       0u);
@@ -141,21 +147,25 @@ TEST_F(GraphSeriesTest, KeysAreXValues) {
 
 TEST_F(GraphSeriesTest, BoxesStandAtTheQuartiles) {
     Make(4);
-    Fill({{10, 20, 30, 40, 95}, {50}});
+    Fill({{10, 95, 30, 40, 20}, {50}});
     const auto recorder = Record();
     const double slot = graph->xAxisWidth / 2.0;
     const int left = Pixel(Slot(0, 2) - slot / 4), right = Pixel(Slot(0, 2) + slot / 4 + 1);
     EXPECT_EQ(recorder->LinesFrom("rect " + testkit::BoxText({left, Pixel(At(40)), right, Pixel(At(20) + 1)}))
                   .size(),
               1u);
-    const Strings medians = recorder->Strokes("solid 2 6E0000");
-    ASSERT_EQ(medians.size(), 1u);
+    const Strings medians = recorder->Strokes("solid 2 464646");
+    ASSERT_EQ(medians.size(), 2u) << "one value is its own median";
     EXPECT_NE(medians[0].find("," + std::to_string(Pixel(At(30))) + " "), std::string::npos);
-    EXPECT_EQ(recorder->LinesFrom("ellipse").size(), 1u) << "the outlier";
-    const Strings whiskers = recorder->Strokes("solid 1 6E0000");
+    const Strings outliers = recorder->LinesFrom("ellipse");
+    ASSERT_EQ(outliers.size(), 1u);
+    EXPECT_NE(outliers[0].find("brush 00C800"), std::string::npos) << "of its group";
+    const Strings whiskers = recorder->Strokes("solid 1 464646");
     ASSERT_EQ(whiskers.size(), 2u) << "below with its cap; the upper one has no length";
     EXPECT_NE(whiskers[0].find("," + std::to_string(Pixel(At(10))) + " pen"), std::string::npos);
-    EXPECT_EQ(recorder->Strokes("solid 2 006E00").size(), 1u) << "one value is its own median";
+    graph->SetLegendBySeries(TRUE);
+    EXPECT_EQ(Record()->Strokes("solid 2 006E00").size(), 1u) << "of its series";
+    EXPECT_NE(Record()->LinesFrom("ellipse")[0].find("brush C80000"), std::string::npos);
 }
 
 TEST_F(GraphSeriesTest, PiesShareTheCircle) {
@@ -181,11 +191,18 @@ TEST_F(GraphSeriesTest, PiesShareTheCircle) {
             << "one rim faces the viewer";
         EXPECT_EQ(rx > ry + 50, type == 32);
         EXPECT_EQ(Record()->Texts(), (Strings{"25%", "50%", "25%"}));
+        Make(type);
+        Fill({{500, 1, 500}});
+        EXPECT_GT(Paint()->Count(kColours[1]), 20) << "a sector of a thousandth";
     }
     Make(2);
     for (int s = 0; s < 300; ++s)
         Add("pie", {{0, 1}});
     EXPECT_EQ(Record()->Texts().back().substr(0, 2), "+ ") << "tells how many pies found no room";
+    Resize(110, 150);
+    Make(2);
+    Fill({{1}, {1}, {1}, {1}});
+    EXPECT_EQ(Record()->Texts().back(), "s0  + 3 more") << "in the only room";
     Make(2);
     Fill({{0, -5}});
     EXPECT_EQ(Record()->LinesFrom("polygon").size(), 1u) << "an empty outline";
@@ -241,7 +258,7 @@ TEST_F(GraphSeriesTest, SolidBarsAreDrawnBackToFront) {
 
 TEST_F(GraphSeriesTest, RibbonsStandBehindEachOther) {
     Make(31).Set3DLineBase(20, 10);
-    Fill({{10, 50}, {30, 70}, {20, 60}});
+    Fill({{30, 60}, {10, 50}, {20, 70}});
     const auto recorder = Record();
     std::vector<std::vector<POINT>> ribbons;
     Strings pens;
@@ -256,8 +273,8 @@ TEST_F(GraphSeriesTest, RibbonsStandBehindEachOther) {
     EXPECT_EQ(ribbons[0][0].y - ribbons[0][3].y, 10);
     EXPECT_EQ(ribbons[0][0].x - ribbons[2][0].x, 20) << "the second one begins where the first ends";
     const double extent = graph->yAxisHeight - 2 * 10;
-    EXPECT_NEAR(ribbons[2][0].y, graph->yApexPoint - 0.1 * extent, 1);
-    EXPECT_NEAR(ribbons[2][1].y, graph->yApexPoint - 0.3 * extent, 1);
+    EXPECT_NEAR(ribbons[2][0].y, graph->yApexPoint - 0.3 * extent, 1);
+    EXPECT_NEAR(ribbons[2][1].y, graph->yApexPoint - 0.1 * extent, 1);
 }
 
 TEST_F(GraphSeriesTest, WithoutColoursEverythingIsBlackAndUnknownTypesShowAxesOnly) {

@@ -24,7 +24,8 @@ struct TickRoom;
 /// value axes, with title or caption band, axis labels, legend, grid and a selection mark.
 ///
 /// Create it with `CWnd::Create("MFCGraphCtrl", ...)` or bind a dialog item with DDX_GraphControl. Use it on
-/// the thread that owns its window.
+/// the thread that owns its window. In a window of another class (a STATIC or BUTTON item, say) nothing but
+/// creation and destruction reaches that class's procedure: the control alone paints and takes input.
 ///
 /// Units: "logical units" are 1/30 pixel in both directions whatever the window's size, y growing downwards.
 /// Colours are COLORREF. Values are doubles; every conversion to a position truncates toward zero and
@@ -293,6 +294,10 @@ protected:
     /// dataset those of `rangeOf` are looked at.
     void DrawLines(CDC& dc, const kavlix::XPositions& xPositions,
                    const std::function<kavlix::IndexRange(const CDataset&)>& rangeOf);
+
+    void PreSubclassWindow() override;
+    /// What the control does not handle: the system's default procedure, whatever class the window has.
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);

@@ -1,5 +1,7 @@
 #include "tests/module/DialogTemplate.h"
+#include "tests/support/DibSurface.h"
 #include "tests/support/GdiCounter.h"
+#include "tests/support/Pointer.h"
 #include "tests/support/RecordingParent.h"
 
 #include <afxwin.h>
@@ -7,6 +9,9 @@
 #include <kavlix/Kavlix.h>
 
 #include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -26,18 +31,30 @@ protected:
     }
 };
 
-class GraphDialog : public CDialog {
+template <class Graph = PaintedGraph> class GraphDialog : public CDialog {
 public:
     explicit GraphDialog(int item) : m_item(item) {}
 
-    PaintedGraph graph;
+    Graph graph;
     int exchanges = 0;
+    int commands = 0;
+    int selected = -1; ///< the mark that was told last
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
         CDialog::DoDataExchange(pDX);
         ++exchanges;
         DDX_GraphControl(pDX, m_item, graph);
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        ++commands;
+        return CDialog::OnCommand(wParam, lParam);
+    }
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
+        const auto* record = reinterpret_cast<const NMGRAPHCTRL*>(lParam);
+        if (record->hdr.code == GCN_SELCHANGE)
+            selected = record->nIndex;
+        return CDialog::OnNotify(wParam, lParam, result);
     }
 
 private:
@@ -54,7 +71,7 @@ DialogTemplate TwoItems() {
 } // namespace
 
 TEST(GraphBindingTest, ItemBecomesTheControlOnce) {
-    GraphDialog dialog(kGraphItem);
+    GraphDialog<> dialog(kGraphItem);
     const DialogTemplate resource = TwoItems();
     ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
     ASSERT_GE(dialog.exchanges, 1) << "the dialog's initialisation exchanges its data";
@@ -79,19 +96,115 @@ TEST(GraphBindingTest, ItemBecomesTheControlOnce) {
     EXPECT_EQ(dialog.graph.GetDatasetSize(0), 1);
 }
 
-TEST(GraphBindingTest, AnItemOfAnotherClassPaintsAsAGraphToo) {
-    GraphDialog dialog(kStaticItem);
-    dialog.graph.SetBkColor(RGB(1, 200, 3));
-    dialog.graph.ShowLegend(FALSE);
-    const DialogTemplate resource = TwoItems();
-    ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
+namespace {
+
+// A class of a host's own, which notes what still reaches it.
+constexpr const char* kNotingClass = "KavlixNotingItem";
+std::vector<UINT> noted;
+
+LRESULT CALLBACK NotingProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    noted.push_back(message);
+    return ::DefWindowProc(window, message, wParam, lParam);
+}
+
+/// What an item's window shows, its whole client area.
+std::unique_ptr<testkit::DibSurface> Shown(HWND window) {
     testkit::Pump();
-    dialog.graph.Redraw();
-    dialog.graph.UpdateWindow();
-    const HDC dc = ::GetDC(dialog.graph.m_hWnd);
-    EXPECT_EQ(::GetPixel(dc, 1, 1), RGB(1, 200, 3));
-    ::ReleaseDC(dialog.graph.m_hWnd, dc);
+    CRect client;
+    ::GetClientRect(window, &client);
+    auto surface = std::make_unique<testkit::DibSurface>(client.Width(), client.Height());
+    surface->Grab(window);
+    return surface;
+}
+
+void Feed(CGraphCtrl& graph) {
+    for (const double value : {10.0, 80.0, 35.0})
+        graph.AddData(0, value, nullptr);
+}
+
+void Feed(CScrollGraphCtrl& graph) {
+    for (const long second : {0, 20, 40}) {
+        graph.AddXTickLabel(1700000000 + second);
+        graph.AddData(0, second, nullptr);
+    }
+}
+
+template <class Graph> void PlayAnItemOf(const char* windowClass, DWORD style) {
+    SCOPED_TRACE(windowClass);
+    DialogTemplate resource(200, 140);
+    resource.AddItem(windowClass, kGraphItem, 5, 5, 150, 80, WS_CHILD | WS_VISIBLE | style, "item");
+    GraphDialog<Graph> dialog(kGraphItem);
+    ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
+    Graph& graph = dialog.graph;
+    const HWND item = graph.m_hWnd;
+    ::MoveWindow(item, 5, 5, 240, 150, TRUE); // a combo box makes itself as high as a line
+    Feed(graph);
+    graph.Redraw();
+    noted.clear();
+
+    const auto isIntact = [&] {
+        const auto shown = Shown(item);
+        ::RedrawWindow(item, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        return testkit::Difference(*shown, *Shown(item));
+    };
+    EXPECT_EQ(Shown(item)->At(2, 2), RGB(255, 255, 255));
+    EXPECT_EQ(isIntact(), "");
+    ::MoveWindow(item, 5, 5, 270, 180, TRUE);
+    EXPECT_EQ(isIntact(), "") << "grown";
+    ::MoveWindow(item, 5, 5, 260, 140, TRUE);
+    EXPECT_EQ(isIntact(), "") << "shrunk";
+    for (const BOOL enabled : {FALSE, TRUE}) {
+        ::EnableWindow(item, enabled);
+        EXPECT_EQ(isIntact(), "") << "enabled: " << enabled;
+    }
+    ::SetWindowText(item, "another text");
+    EXPECT_EQ(isIntact(), "") << "another text";
+    ::SendMessage(item, WM_CHAR, 'x', 1);
+    EXPECT_EQ(isIntact(), "") << "a character";
+    CString text;
+    graph.GetWindowText(text);
+    EXPECT_EQ(text, "another text");
+
+    const POINT middle = {140, 60};
+    testkit::ClickWithPointer(item, middle);
+    EXPECT_GE(dialog.selected, 0) << "the mark that the click places";
+    EXPECT_EQ(::GetFocus(), item);
+    EXPECT_EQ(isIntact(), "") << "clicked";
+    EXPECT_EQ(dialog.commands, 0) << "the item's own notifications";
     dialog.DestroyWindow();
+    EXPECT_FALSE(::IsWindow(item));
+    if (windowClass == kNotingClass) {
+        EXPECT_EQ(noted, (std::vector<UINT>{WM_DESTROY, WM_NCDESTROY}));
+    }
+}
+
+} // namespace
+
+TEST(GraphBindingTest, AnItemOfAnyClassIsTheControlAlone) {
+    WNDCLASS noting = {};
+    noting.lpfnWndProc = &NotingProc;
+    noting.hInstance = AfxGetInstanceHandle();
+    noting.lpszClassName = kNotingClass;
+    ASSERT_TRUE(AfxRegisterClass(&noting));
+    const struct {
+        const char* windowClass;
+        DWORD style;
+    } items[] = {{"MFCGraphCtrl", 0},       {"STATIC", 0},
+                 {"STATIC", SS_OWNERDRAW},  {"BUTTON", BS_PUSHBUTTON},
+                 {"BUTTON", BS_GROUPBOX},   {"EDIT", ES_MULTILINE | WS_TABSTOP},
+                 {"LISTBOX", LBS_NOTIFY},   {"COMBOBOX", CBS_DROPDOWN},
+                 {"COMBOBOX", CBS_SIMPLE},  {"SCROLLBAR", 0},
+                 {kNotingClass, 0}};
+    const auto play = [&] {
+        for (const auto& item : items) {
+            PlayAnItemOf<CGraphCtrl>(item.windowClass, item.style);
+            PlayAnItemOf<CScrollGraphCtrl>(item.windowClass, item.style);
+        }
+    };
+    play();
+    const testkit::ObjectCounts before = testkit::CountObjects();
+    play();
+    EXPECT_EQ(testkit::CountObjects(), before) << "what the items' own classes made is gone";
 }
 
 TEST(GraphBindingTest, AnItemThatCannotBeSubclassedThrows) {
@@ -127,7 +240,7 @@ TEST(GraphBindingTest, AnItemThatCannotBeSubclassedThrows) {
 TEST(GraphBindingTest, TwentyDialogsLeakNothing) {
     const DialogTemplate resource = TwoItems();
     const auto open_and_close = [&resource] {
-        GraphDialog dialog(kGraphItem);
+        GraphDialog<> dialog(kGraphItem);
         ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
         dialog.graph.UpdateWindow();
         dialog.DestroyWindow();

@@ -1,5 +1,7 @@
 #include "tests/support/RecordingParent.h"
 
+#include "tests/support/Pointer.h"
+
 #include <algorithm>
 #include <cstring>
 #include <sstream>
@@ -20,6 +22,7 @@ BOOL RecordingParent::CreateVisible(int width, int height) {
                                              reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), nullptr);
     if (!CreateEx(0, name, "parent", WS_POPUP | WS_CLIPCHILDREN, 0, 0, width, height, nullptr, nullptr))
         return FALSE;
+    ParkPointer();
     ShowWindow(SW_SHOW);
     UpdateWindow();
     Pump();

@@ -1,5 +1,5 @@
 #include "tests/piechart/PieTest.h"
-#include "tests/support/ImportHook.h"
+#include "tests/support/MemoryRule.h"
 
 class PieDataTest : public PieTest {};
 
@@ -117,33 +117,51 @@ TEST_F(PieDataTest, WorksWithoutAWindow) {
 
 namespace {
 
-int g_left = 0;
-void* g_allocate = nullptr;
+CWnd* g_parent = nullptr;
+const CString kLong("a label of more than fifteen characters");
 
-/// The allocation function of the library, which fails after so many calls.
-void* FailingNew(std::size_t size) {
-    if (g_left-- == 0)
-        throw std::bad_alloc();
-    return reinterpret_cast<void* (*)(std::size_t)>(g_allocate)(size);
-}
+struct FedPie {
+    FedPie() {
+        pie.CPieChartCtrl::Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), g_parent, 1);
+        for (int i = 0; i < 2; ++i)
+            pie.AddPiece(RGB(40 * i, 90, 90), 0, 3, i + 1, "a bit longer");
+        pie.At(1).m_bSelected = TRUE;
+        pie.UpdateWindow();
+    }
+    std::string State() {
+        std::string text = pie.m_strWait.GetString() + std::to_string(pie.m_nWaitMode);
+        for (int i = 0; i < pie.m_arrPieces.GetSize(); ++i)
+            text += pie.At(i).m_strLabel + (pie.At(i).m_bSelected ? "*" : " ");
+        return text;
+    }
+    bool Saves(const char* shortName) { // the call's own argument needs no memory
+        const bool saved = pie.SaveImage(shortName);
+        ::DeleteFile(shortName);
+        return saved;
+    }
+    OpenPie pie, other;
+};
 
 } // namespace
 
-TEST_F(PieDataTest, MemoryRunsOutWhileAppending) {
-    int refused = 0;
-    for (const char* module : {"Kavlix.dll", "KavlixMfc.dll"}) {
-        const testkit::ImportHook hook(module, "_Znwy", reinterpret_cast<void*>(&FailingNew));
-        if (!hook.Installed())
-            continue;
-        g_allocate = hook.Original();
-        for (int nth = 0; nth < 5; ++nth) {
-            const INT_PTR before = pie.m_arrPieces.GetSize();
-            g_left = nth;
-            const int added = pie.AddPiece(1, 2, 4, 1, "x");
-            g_left = -1;
-            EXPECT_EQ(pie.m_arrPieces.GetSize(), before + added);
-            refused += added == 0;
-        }
-    }
-    EXPECT_GT(refused, 0) << "a failure must reach the control";
+TEST_F(PieDataTest, MemoryRunsOut) {
+    g_parent = &parent;
+    using testkit::OnFailure;
+    const int failures = testkit::ExpectMemoryRule<FedPie>({
+        {"append", OnFailure::False, [](FedPie& s) { return s.pie.AddPiece(1, 2, 4, 1, kLong) != 0; }},
+        {"wait", OnFailure::Throws, [](FedPie& s) { return s.pie.Wait(kLong, 1), true; }},
+        {"construct", OnFailure::Never, [](FedPie&) { return OpenPie().m_nStartAngle == 0; }},
+        {"create", OnFailure::False,
+         [](FedPie& s) { return s.other.CPieChartCtrl::Create(WS_CHILD, CRect(0, 0, 9, 9), g_parent, 2) != 0; }},
+        {"reset", OnFailure::Never, [](FedPie& s) { return s.pie.Reset(), true; }},
+        {"search", OnFailure::Never, [](FedPie& s) { return s.pie.GetPieceIndex(200) >= 0; }},
+        {"refresh", OnFailure::Never, [](FedPie& s) { return s.pie.Refresh(), s.pie.RecalcRect(), true; }},
+        {"save pixels", OnFailure::False, [](FedPie& s) { return s.Saves("~kvxpie.bmp"); }},
+        {"save strokes", OnFailure::False, [](FedPie& s) { return s.Saves("~kvxpie.emf"); }},
+        {"paint", OnFailure::Message, [](FedPie& s) { return s.pie.Refresh(), s.pie.UpdateWindow(), true; }},
+        {"click", OnFailure::Message,
+         [](FedPie& s) { return s.pie.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(160, 80)), true; }},
+        {"size", OnFailure::Message, [](FedPie& s) { return s.pie.MoveWindow(0, 0, 250, 220), true; }},
+    });
+    EXPECT_GT(failures, 1000000);
 }

@@ -1,0 +1,94 @@
+// Handles when memory runs out: none is lost, none stays selected or taken.
+
+#include "tests/mfc/Refusal.h"
+#include "tests/support/FailingAllocations.h"
+#include "tests/support/MemoryRule.h"
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <thread>
+
+namespace {
+
+using testkit::OnFailure;
+
+struct Handles {
+    Handles() {
+        dc.CreateCompatibleDC(nullptr);
+        brush.CreateSolidBrush(RGB(1, 2, 3));
+        window.CreateEx(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr);
+    }
+    /// What exists, and whether the brush and the bitmap are selected.
+    std::string State() {
+        const bool facts[] = {pen.m_hObject != nullptr,
+                              font.m_hObject != nullptr,
+                              made.m_hDC != nullptr,
+                              recorder.m_hDC != nullptr,
+                              menu.m_hMenu != nullptr,
+                              child.m_hWnd != nullptr,
+                              ::GetCurrentObject(dc, OBJ_BRUSH) == brush.m_hObject};
+        std::string text;
+        for (const bool fact : facts)
+            text += fact ? '1' : '0';
+        return text;
+    }
+    template <class WindowDC> bool Takes() {
+        return !Throws<CResourceException>([&] { WindowDC taken(&window); });
+    }
+    bool Releases(CDC* taken) { return taken != nullptr && window.ReleaseDC(taken) != 0; }
+    CDC dc, made;
+    CBrush brush;
+    CPen pen;
+    CFont font;
+    CMetaFileDC recorder;
+    CMenu menu;
+    CWnd window, child;
+};
+
+TEST(HandleMemory, NoHandleIsLost) {
+    const int failures = testkit::ExpectMemoryRule<Handles>({
+        {"pen", OnFailure::False, [](Handles& s) { return s.pen.CreatePen(PS_SOLID, 1, RGB(7, 7, 7)) != 0; }},
+        {"font", OnFailure::False, [](Handles& s) { return s.font.CreatePointFont(90, "Arial") != 0; }},
+        {"brush in its constructor", OnFailure::False,
+         [](Handles&) { return !Throws<CResourceException>([] { CBrush made(RGB(4, 5, 6)); }); }},
+        {"DC", OnFailure::False, [](Handles& s) { return s.made.CreateCompatibleDC(nullptr) != 0; }},
+        {"recording", OnFailure::False,
+         [](Handles& s) { return s.recorder.CreateEnhanced(nullptr, nullptr, nullptr, nullptr) != 0; }},
+        {"old recording", OnFailure::False, [](Handles& s) { return s.recorder.Create() != 0; }},
+        {"menu", OnFailure::False, [](Handles& s) { return s.menu.CreatePopupMenu() != 0; }},
+        {"window's DC", OnFailure::False, [](Handles& s) { return s.Takes<CClientDC>(); }},
+        {"whole window's DC", OnFailure::False, [](Handles& s) { return s.Takes<CWindowDC>(); }},
+        {"paint's DC", OnFailure::False, [](Handles& s) { return s.Takes<CPaintDC>(); }},
+        {"wrapped DC", OnFailure::False, [](Handles& s) { return s.Releases(s.window.GetDC()); }},
+        {"select", OnFailure::False, [](Handles& s) { return s.dc.SelectObject(&s.brush) != nullptr; }},
+        {"attach", OnFailure::Throws,
+         [](Handles& s) {
+             s.pen.Attach(::GetStockObject(BLACK_PEN));
+             return true;
+         }},
+        {"create a window", OnFailure::False,
+         [](Handles& s) {
+             return s.child.Create("STATIC", "", WS_CHILD, CRect(0, 0, 5, 5), &s.window, 1) != 0;
+         }},
+        {"attach a window", OnFailure::Throws,
+         [](Handles& s) {
+             s.child.Attach(::GetDesktopWindow());
+             return s.child.Detach() != nullptr;
+         }},
+    });
+    EXPECT_GE(failures, 30);
+}
+
+TEST(HandleMemory, LettingGoNeedsNone) {
+    auto pen = std::make_unique<CPen>(PS_SOLID, 1, RGB(0, 0, 0));
+    std::thread([&] { // which has no maps of its own
+        testkit::FailingAllocations memory;
+        memory.FailAfter(0, true);
+        pen.reset();
+    }).join();
+}
+
+} // namespace

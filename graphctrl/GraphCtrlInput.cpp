@@ -87,6 +87,8 @@ CPoint CGraphCtrl::PtOfSample(int nIndex, std::optional<int> x) {
 }
 
 void CGraphCtrl::RepaintIcon() {
+    if (m_rectIconMaximize.IsRectEmpty())
+        return;
     const bool painted = WithinResources([this] {
         CClientDC dc(this);
         SavedDcGuard saved(dc);
@@ -109,6 +111,7 @@ void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
     } else if (m_rectIconMaximize.PtInRect(logical)) {
         m_IconMaximizeTracking = TRUE;
         m_IconMaximizePressed = TRUE;
+        m_MaximizeTold = false;
         // Whoever held the capture hears of it.
         const HWND window = m_hWnd;
         ::SetCapture(window);
@@ -136,22 +139,38 @@ void CGraphCtrl::OnMouseMove(UINT nFlags, CPoint point) {
 }
 
 void CGraphCtrl::OnLButtonUp(UINT nFlags, CPoint point) {
-    if (m_IconMaximizeTracking) {
-        // All state is back at rest before anything leaves the control.
-        const BOOL pressed = m_IconMaximizePressed;
+    // While the parent handles GCN_MAXIMIZE, it may wait for clicks elsewhere: their release ends no press.
+    if (m_IconMaximizeTracking && !m_MaximizeTold) {
+        const HWND window = m_hWnd;
+        // ReleaseCapture() re-enters OnCaptureChanged(), for which there must be no press to cancel.
         m_IconMaximizeTracking = FALSE;
-        m_IconMaximizePressed = FALSE;
-        ReleaseCapture();
-        if (pressed) {
+        ::ReleaseCapture();
+        if (CWnd::FromHandlePermanent(window) != this)
+            return;
+        m_IconMaximizeTracking = TRUE;
+        bool pressedAnew = false;
+        if (m_IconMaximizePressed) {
+            m_MaximizeTold = true;
             NMGRAPHCTRL record = {};
             record.nFlags = nFlags;
             record.pt = point;
+            // The icon is still down: the parent may repaint it.
             if (!Notify(record, GCN_MAXIMIZE))
                 return;
+            pressedAnew = !m_MaximizeTold;
         }
-        RepaintIcon();
+        if (!pressedAnew) {
+            EndPress();
+            RepaintIcon();
+        }
     }
     Default();
+}
+
+void CGraphCtrl::EndPress() {
+    m_IconMaximizeTracking = FALSE;
+    m_IconMaximizePressed = FALSE;
+    m_MaximizeTold = false;
 }
 
 void CGraphCtrl::OnCaptureChanged(CWnd* pWnd) {
@@ -159,8 +178,7 @@ void CGraphCtrl::OnCaptureChanged(CWnd* pWnd) {
     // too.
     if (!m_IconMaximizeTracking || pWnd == this)
         return;
-    m_IconMaximizeTracking = FALSE;
-    m_IconMaximizePressed = FALSE;
+    EndPress();
     RepaintIcon();
 }
 

@@ -21,10 +21,12 @@ void CGraphCtrl::PreSubclassWindow() {
 LRESULT CGraphCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND window = m_hWnd;
     switch (message) {
+    case WM_NCDESTROY:
+        EndPress(); // the object may get another window
+        [[fallthrough]];
     case WM_NCCREATE:
     case WM_CREATE:
     case WM_DESTROY:
-    case WM_NCDESTROY:
         // The class's own procedure keeps memory and windows from here to there.
         return CWnd::DefWindowProc(message, wParam, lParam);
     case WM_ERASEBKGND:

@@ -346,7 +346,7 @@ protected:
     double m_Y2VisibleMin;
     double m_Y2VisibleMax;
     double m_ReservedValue;      ///< kept for derived classes; the control does not read it
-    BOOL m_IconMaximizeTracking; ///< the button went down on the icon and the mouse is captured
+    BOOL m_IconMaximizeTracking; ///< the button went down on the icon; until GCN_MAXIMIZE was handled
     BOOL m_IconMaximizePressed;  ///< the icon is drawn pressed
     BOOL m_GridY;
     BOOL m_GridX;
@@ -401,6 +401,7 @@ protected:
 
 private:
     std::unique_ptr<kavlix::Offscreen> m_Picture; ///< what WM_PAINT composes in, kept from paint to paint
+    bool m_MaximizeTold = false; ///< the parent handles GCN_MAXIMIZE of the press that is tracked
 
     void ClearSamples(CDataset& dataset);
 
@@ -417,6 +418,7 @@ private:
     CPoint ToClientPoint(CPoint logical);
     int LegendRowAt(CPoint point) const;
     void RepaintIcon();
+    void EndPress();
     bool NotifyMarkMoved();
 };
 

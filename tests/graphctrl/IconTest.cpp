@@ -47,7 +47,6 @@ protected:
     CPoint inside;
     const CPoint outside{100, 100};
 
-private:
     void Do(char step) {
         const LPARAM in = MAKELPARAM(inside.x, inside.y), out = MAKELPARAM(outside.x, outside.y);
         switch (step) {
@@ -81,7 +80,7 @@ private:
         ::ReleaseDC(graph.m_hWnd, dc);
     }
 
-    /// What stands in the window now; nullptr when nothing was drawn since Cover().
+    /// How the icon is drawn in the window now; nullptr when nothing was drawn since Cover().
     const char* Drawn() {
         const HDC dc = ::GetDC(graph.m_hWnd);
         // The bar of the icon begins one pixel in from its corner, two when pressed.
@@ -163,17 +162,43 @@ TEST_F(GraphIconTest, NoIconNoPress) {
     EXPECT_EQ(Play("PoU"), (Strings{"focus", ToldMouse(GCN_MOUSEMOVE, MK_LBUTTON, outside), "default up"}));
 }
 
-TEST_F(GraphIconTest, TheMouseIsFreeWhenMaximizeIsTold) {
-    // The parent moves and resizes windows there.
-    bool told = false;
+TEST_F(GraphIconTest, TheIconIsDownAndTheMouseFreeWhenMaximizeIsTold) {
+    // The parent moves, resizes and repaints windows there, or waits for a dialog and its clicks.
+    int told = 0;
     parent.onNoted = [&](const testkit::RecordingParent::Entry& entry) {
         if (entry.message != WM_NOTIFY || entry.code != GCN_MAXIMIZE)
             return;
-        told = true;
         EXPECT_EQ(::GetCapture(), nullptr);
-        graph.ShowIconMaximize(TRUE, TRUE);
+        ++told;
+        graph.Redraw();
+        graph.UpdateWindow();
+        EXPECT_STREQ(Drawn(), "icon down");
+        if (told == 1) {
+            EXPECT_EQ(Send(WM_LBUTTONUP, 0, MAKELPARAM(100, 100)), Strings{"default up"});
+            graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(inside.x, inside.y));
+            graph.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(inside.x, inside.y));
+        }
     };
     Play("PU");
-    EXPECT_TRUE(told);
-    EXPECT_TRUE(graph.m_IconMaximized);
+    EXPECT_EQ(told, 2) << "one for each click";
+    EXPECT_STREQ(Drawn(), "icon up");
+    EXPECT_FALSE(graph.m_IconMaximizeTracking || graph.m_IconMaximizePressed);
+}
+
+TEST_F(GraphIconTest, AnIconThatHasGoneIsNotRepainted) {
+    Play("P");
+    graph.SetTitleStyle(CGraphCtrl::TitleStyleText);
+    ShowIcon(FALSE);
+    testkit::DibSurface before(300, 200), after(300, 200);
+    before.Grab(graph.m_hWnd);
+    graph.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(100, 100));
+    after.Grab(graph.m_hWnd);
+    EXPECT_EQ(testkit::Difference(before, after), "");
+}
+
+TEST_F(GraphIconTest, APressEndsWithItsWindow) {
+    Play("P");
+    graph.DestroyWindow();
+    ASSERT_TRUE(graph.Create("MFCGraphCtrl", "", WS_CHILD, CRect(0, 0, 300, 200), &parent, kControlId));
+    EXPECT_EQ(Send(WM_LBUTTONUP, 0, MAKELPARAM(inside.x, inside.y)), Strings{"default up"});
 }

@@ -64,6 +64,7 @@ void GraphDay();
 void ScrollPaint(int count);
 void ScrollWindow();
 void ScrollBack();
+void ScrollAxis();
 void ChartPaint(int count);
 void MultiPaint();
 

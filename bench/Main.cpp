@@ -33,6 +33,7 @@ constexpr struct {
     {"scroll_paint_1000000", [] { bench::ScrollPaint(1000000); }},
     {"scroll_window", &bench::ScrollWindow},
     {"scroll_back", &bench::ScrollBack},
+    {"scroll_axis", &bench::ScrollAxis},
     {"chart_paint_1000", [] { bench::ChartPaint(1000); }},
     {"chart_paint_100000", [] { bench::ChartPaint(100000); }},
     {"chart_paint_1000000", [] { bench::ChartPaint(1000000); }},

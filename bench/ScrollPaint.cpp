@@ -5,6 +5,9 @@
 
 #include <kavlix/ScrollGraphCtrl.h>
 
+#include <iterator>
+#include <string>
+
 namespace bench {
 
 namespace {
@@ -90,6 +93,41 @@ void ScrollBack() {
     Row row("scroll_back");
     row.Add("stored", kDay).Add("steps_back", kStepsBack);
     AddSpread(row, "ms", times).Add("ratio", Quantile(ratios, kMedian)).Print();
+}
+
+void ScrollAxis() {
+    struct Graph : CScrollGraphCtrl {
+        using CScrollGraphCtrl::SetMapModeAnisotropic;
+        void DrawAxis(CDC& dc) {
+            constexpr int unitsATick = 800;
+            DrawXAxis(dc, m_rectXTickLabel, m_rectXAxis, m_rectPlot.Width() / unitsATick);
+        }
+    };
+    Stage stage(kWidth, kHeight);
+    Graph graph;
+    graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 800, 400), &stage, 1);
+    graph.AddXTickLabel(kStart);
+    graph.AddData(0, 1, nullptr);
+    Picture picture(kWidth, kHeight);
+    picture.Take(graph); // lays out
+    CDC dc;
+    dc.Attach(picture.Dc());
+    graph.SetMapModeAnisotropic(dc);
+    const int days[] = {1, 7, 30, 365, 3650};
+    std::vector<double> times[std::size(days)];
+    for (int round = 0; round < 200; ++round) {
+        for (std::size_t i = 0; i < std::size(days); ++i) {
+            graph.SetHorzRange(days[i] * (kDay / kMinute));
+            times[i].push_back(Time(1, 1, [&] { graph.DrawAxis(dc); }).front());
+        }
+    }
+    dc.Detach();
+    Row row("scroll_axis");
+    double medians[std::size(days)];
+    for (std::size_t i = 0; i < std::size(days); ++i)
+        row.Add("days_" + std::to_string(days[i]) + "_us", medians[i] = Quantile(times[i], kMedian));
+    row.Add("year_to_day", medians[3] / medians[0]).Add("decade_to_year", medians[4] / medians[3]).Print();
+    graph.DestroyWindow();
 }
 
 } // namespace bench

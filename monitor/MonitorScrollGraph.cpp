@@ -25,6 +25,7 @@ constexpr int kTimeFontHeight = 300;  // of the time labels
 constexpr int kTimeLabelMargin = 200; // above and below the time labels
 constexpr int kScrollBarRoom = 280;   // of the scroll bar, above what the control leaves free
 constexpr int kMinLegendPlot = 3000;  // a legend leaves so much of the window's width
+constexpr int kDateShift = 10;        // right of its tick: a date keeps clear of the clock time in every font
 
 } // namespace
 
@@ -271,6 +272,17 @@ std::optional<CMonitorScrollGraph::Pointed> CMonitorScrollGraph::SampleUnder(CPo
     }
     const auto series = recording::Nearest(distances);
     return series ? std::optional<Pointed>({rows[*series], *series}) : std::nullopt;
+}
+
+void CMonitorScrollGraph::DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time) {
+    if (date.IsEmpty()) {
+        CFittedGraph::DrawTimeLabel(dc, x, y, date, time);
+        return;
+    }
+    dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
+    dc.TextOut(x + kDateShift, y, date);
+    dc.SetTextAlign(TA_RIGHT | TA_TOP);
+    dc.TextOut(x, y, time);
 }
 
 ValueSpan CMonitorScrollGraph::SpanInView() const {

@@ -11,8 +11,7 @@ namespace kavlix::monitor {
 
 /// One of the graphs of the scroll page. Its view always begins at a sample, which is where the control takes
 /// the first sample in view to stand, so that its time labels are true. It chooses a value axis with round
-/// labels for what is in view. Where the control's longest tick step leaves no room for labels, it takes
-/// longer ones.
+/// labels for what is in view.
 class CMonitorScrollGraph : public CFittedGraph<CScrollGraphCtrl> {
 public:
     /// What the value axis is, beyond the samples.
@@ -87,7 +86,7 @@ public:
     void TakeRoom(const Room& room);
 
 protected:
-    void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
+    void DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time) override;
 
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
@@ -96,7 +95,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void DrawTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, int seconds);
     void AddToIndex(const std::vector<double>& values);
     double XOf(int row) const;
     void Clamp();

@@ -1,6 +1,8 @@
 #include <kavlix/ScrollGraphCtrl.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <vector>
 
 #include "gdi/DottedPen.h"
 #include "gdi/Guards.h"
@@ -16,10 +18,13 @@ using namespace kavlix;
 namespace {
 
 // Logical units.
-constexpr int kLabelGap = 100;   // between axis strip and tick labels
-constexpr int kClockShift = 110; // a clock time alone stands that much left of its tick
-constexpr int kDateShift = 70;   // a date stands that much right of its tick, the clock time beside it
-constexpr int kMinTickDistance = kPixel;
+constexpr int kLabelGap = 100; // between axis strip and tick labels
+
+/// Height of an upright text in the DC's font.
+int TextHeight(const CDC& dc) {
+    TEXTMETRIC metrics = {};
+    return dc.GetTextMetrics(&metrics) ? static_cast<int>(metrics.tmHeight) : 0;
+}
 
 } // namespace
 
@@ -104,27 +109,46 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     double exactSpacing = 0;
     const int unit = SelectTickUnit(nTicks, exactSpacing);
     const int spacing = ToCoordinate(exactSpacing);
-    // Of more ticks than there are pixels only some can be seen.
-    const int every = spacing > 0 ? (kMinTickDistance + spacing - 1) / spacing : 1;
+    const int height = TextHeight(dc);
     const SystemClock clock(*m_zoneRules);
-    TimeTicks ticks(clock, m_arrTime->At(first), unit, every);
-    const int y = rectLabel.top + kLabelGap;
-    std::int64_t x = std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
-    while (x <= m_rectPlot.right) {
-        const int tickX = static_cast<int>(x);
-        DrawXTick(dc, tickX, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);
-        const CString clockText = ticks.Clock().c_str();
-        if (ticks.ShowsDate()) {
-            dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
-            DrawTextAt(dc, tickX + kDateShift, y, ticks.Date().c_str() + kMonthAt);
-            dc.SetTextAlign(TA_RIGHT);
-            DrawTextAt(dc, tickX, y, clockText);
-        } else {
-            DrawTextAt(dc, tickX - kClockShift, y, clockText);
-        }
-        if (spacing <= 0)
-            break; // no view, no next tick
-        x += std::int64_t{spacing} * every;
+    TimeTicks ticks(clock, m_arrTime->At(first), unit, spacing, height);
+    const std::int64_t begin = std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
+    const auto place = [&](std::int64_t tick) { return begin + tick * spacing; };
+    // Without a view there is no next tick. Of a plot that is wider than the window the rest cannot be seen.
+    const std::int64_t reach = 2 * std::int64_t{height};
+    const auto ticksBefore = [&](std::int64_t x) {
+        return x <= begin ? 0 : spacing > 0 ? (x - begin + spacing - 1) / spacing : 1;
+    };
+    const std::int64_t firstSeen = ticksBefore(std::int64_t{m_rectClient.left} * kPixel - reach);
+    const std::int64_t endSeen = ticksBefore(
+        std::min(std::int64_t{m_rectPlot.right}, std::int64_t{m_rectClient.right} * kPixel + reach) + 1);
+
+    std::vector<POINT> pixels;
+    for (std::int64_t tick = firstSeen; tick < endSeen; ++tick)
+        pixels.push_back({static_cast<LONG>(place(tick)), rectAxis.top});
+    dc.LPtoDP(pixels.data(), static_cast<int>(pixels.size()));
+    ticks.GoTo(firstSeen);
+    for (std::int64_t tick = firstSeen; tick < endSeen; ++tick) {
+        const int x = static_cast<int>(place(tick));
+        // Ticks in one device column are one tick.
+        const auto pixel = pixels.begin() + (tick - firstSeen);
+        if (pixel == pixels.begin() || pixel->x != pixel[-1].x)
+            DrawXTick(dc, x, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);
+        if (tick != ticks.Tick())
+            continue;
+        DrawTimeLabel(dc, x, rectLabel.top + kLabelGap, ticks.ShowsDate() ? ticks.Date().c_str() + kMonthAt : "",
+                      ticks.Clock().c_str());
         ticks.Next();
     }
+}
+
+void CScrollGraphCtrl::DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time) {
+    if (date.IsEmpty()) {
+        DrawTextAt(dc, x - kClockShift, y, time);
+        return;
+    }
+    dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
+    DrawTextAt(dc, x + kDateShift, y, date);
+    dc.SetTextAlign(TA_RIGHT);
+    DrawTextAt(dc, x, y, time);
 }

@@ -43,32 +43,53 @@ int SecondsToRoundSecond(const CalendarTime& time, int seconds);
 int SecondsToRoundMinute(const CalendarTime& time, int minutes);
 int SecondsToRoundHour(const CalendarTime& time, int hours);
 
-/// The ticks of a time axis, left to right. Time goes on by the step whatever the local clock does: across
-/// the end of daylight saving the labels tell the repeated hour twice, and none stands still.
+/// Where the upright texts of a time label stand, in logical units: a clock time alone that much left of its
+/// tick, beside a date at the tick, and the date with its lower edge that much right of it.
+inline constexpr int kClockShift = 110;
+inline constexpr int kDateShift = 70;
+
+/// The ticks of a time axis, counted from 0, and their labels, left to right. Time goes on by the step whatever
+/// the local clock does: across the end of daylight saving the labels tell the repeated hour twice, and none
+/// stands still.
+///
+/// Every tick has a label where there is room for it. Where labels would touch, only the first tick from each
+/// multiple of a longer round duration on has one (twice the step and more, whole days, weeks), in local time.
 class TimeTicks {
 public:
     /// @param clock must outlive the ticks
     /// @param start seconds since 1970 from which the first tick is looked for
     /// @param step of SelectTickStep
-    /// @param every of so many steps one gets a tick; the first tick stands where it would with every step
-    TimeTicks(const LocalClock& clock, std::int64_t start, int step, int every = 1);
+    /// @param spacing of two ticks, logical units
+    /// @param textHeight of a label, logical units
+    TimeTicks(const LocalClock& clock, std::int64_t start, int step, int spacing, int textHeight);
 
-    /// Seconds from the start to the first tick.
+    /// Seconds from the start to tick 0.
     int FirstOffset() const { return m_firstOffset; }
-    /// Full time text of the tick.
+
+    /// The tick that the label belongs to.
+    std::int64_t Tick() const { return m_tick; }
+    /// Full time text of the label.
     const std::string& Text() const { return m_text; }
     std::string Date() const { return m_text.substr(0, kDateLength); }
     std::string Clock() const { return m_text.substr(m_text.size() - kClockLength); }
-    /// Whether the tick is the first, or its date another than that of the tick before.
+    /// Whether the label is the first, or its date another than that of the label before.
     bool ShowsDate() const { return m_showsDate; }
 
+    /// Goes on to the next label.
     void Next();
+    /// Goes on to the first label not before `tick`.
+    void GoTo(std::int64_t tick);
 
 private:
+    void Show(std::int64_t tick);
+
     const LocalClock& m_clock;
-    std::int64_t m_distance;
+    std::int64_t m_step;
+    int m_round = 1; ///< seconds of local time, whose multiples labels stand at, where not every tick has one
     int m_firstOffset;
-    std::int64_t m_time;
+    std::int64_t m_time;      ///< of tick 0
+    std::int64_t m_every = 1; ///< of so many ticks one has a label
+    std::int64_t m_tick = 0;
     std::string m_text;
     bool m_showsDate = true;
 };

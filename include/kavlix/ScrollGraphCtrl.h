@@ -124,11 +124,19 @@ public:
     int MinuteTickPos(int nIndex, int nMinutes, CString& fullTime) const;
     int HourTickPos(int nIndex, int nHours, CString& fullTime) const;
     /// Full time text of the local time `date` ("YYYY/MM/DD") `time` ("hh:mm:ss") and `nUnit` seconds more.
-    /// What cannot be read comes back as it is.
+    /// What cannot be read comes back as it is. A local time text does not tell which of the two it is in the
+    /// hour that comes twice when clocks go back: steps of up to an hour from such a text lead back into that
+    /// hour for ever. To walk along time, add to a time stamp instead.
     CString GetNextTickTime(int nUnit, CString& date, CString& time) const;
 
 protected:
+    /// Draws the time axis. Ticks stand apart by the truncated distance of two, so that they drift to the left of
+    /// their times in long views; of ticks in one device column the first is drawn. Where labels would touch,
+    /// only ticks at longer round times have one.
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
+    /// Draws the upright label of the tick at `x`, its end at `y`: the clock time `time` alone, or `date` ("MM/DD")
+    /// and `time` side by side. Font and colour are selected; the text alignment is that of the label before.
+    virtual void DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time);
     void DrawGraphData(CDC& dc) override;
     /// Lines: of the samples painted last the one nearest in x, -1 outside the plot. Bars: as CGraphCtrl.
     int GetIndexFromPt(CPoint point) override;

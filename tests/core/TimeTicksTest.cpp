@@ -28,9 +28,12 @@ private:
     int m_eastAfter;
 };
 
-std::vector<std::string> Texts(const LocalClock& clock, std::int64_t start, int step, int count) {
+constexpr int kHeight = 300;
+
+std::vector<std::string> Texts(const LocalClock& clock, std::int64_t start, int step, int count,
+                               int spacing = kHeight * 2) {
     std::vector<std::string> texts;
-    for (TimeTicks ticks(clock, start, step); count > 0; --count, ticks.Next())
+    for (TimeTicks ticks(clock, start, step, spacing, kHeight); count > 0; --count, ticks.Next())
         texts.push_back((ticks.ShowsDate() ? ticks.Date() + " " : "") + ticks.Clock());
     return texts;
 }
@@ -111,17 +114,51 @@ TEST(TimeTicksTest, AChangeOfTheClockRepeatsOrSkipsAnHourAndNothingStandsStill) 
         (Lines{"1970/01/01 23:30:00", "1970/01/02 00:00:00", "1970/01/01 23:30:00", "1970/01/02 00:00:00"}));
 }
 
-TEST(TimeTicksTest, ThinnedTicksAreSomeOfAllTicks) {
+TEST(TimeTicksTest, LabelsThatWouldTouchStandAtLongerRoundTimes) {
     const ZoneClock utc(0);
-    TimeTicks ticks(utc, 1699978400, 10800, 4);
-    EXPECT_EQ(ticks.FirstOffset(), 6400) << "to the next 3 hours, not to the next 12";
-    EXPECT_EQ(ticks.Text(), "2023/11/14 18:00:00");
-    ticks.Next();
-    EXPECT_EQ(ticks.Text(), "2023/11/15 06:00:00");
-    EXPECT_TRUE(ticks.ShowsDate());
-    ticks.Next();
-    EXPECT_EQ(ticks.Text(), "2023/11/15 18:00:00");
-    EXPECT_FALSE(ticks.ShowsDate());
+    constexpr std::int64_t start = 1699978400; // 2023-11-14 16:13:20
+    const ZoneClock autumn(7200, start + 200000, 3600);
+    const ZoneClock spring(3600, start + 200000, 7200);
+    const struct {
+        int step, spacing;
+        std::int64_t firstTick;
+        Lines labels;
+    } cases[] = {
+        {10800, 420, 0, {"2023/11/14 18:00:00", "21:00:00", "2023/11/15 00:00:00"}},
+        {10800, 419, 0, {"2023/11/14 18:00:00", "2023/11/15 00:00:00", "06:00:00", "12:00:00"}},
+        {10800, 209, 2, {"2023/11/15 00:00:00", "12:00:00", "2023/11/16 00:00:00"}},
+        {10800, 76, 2, {"2023/11/15 00:00:00", "2023/11/16 00:00:00"}},
+        {10800, 66, 2, {"2023/11/15 00:00:00", "2023/11/17 00:00:00"}},
+        {10800, 30, 2, {"2023/11/15 00:00:00", "2023/11/22 00:00:00"}},
+        {10800, 6, 2, {"2023/11/15 00:00:00", "2023/11/29 00:00:00", "2023/12/13 00:00:00"}},
+        {10800, 1, 2, {"2023/11/15 00:00:00", "2024/03/06 00:00:00"}},
+        {10800, 0, 0, {"2023/11/14 18:00:00"}},
+        {7200, 300, 0, {"2023/11/14 18:00:00", "20:00:00", "22:00:00", "2023/11/15 00:00:00"}},
+        {20, 299, 2, {"2023/11/14 16:14:00", "16:15:00"}},
+        {1200, 150, 2, {"2023/11/14 17:00:00", "18:00:00"}},
+    };
+    for (const auto& each : cases) {
+        EXPECT_EQ(Texts(utc, start, each.step, static_cast<int>(each.labels.size()), each.spacing), each.labels)
+            << each.step << " s in " << each.spacing;
+        EXPECT_EQ(TimeTicks(utc, start, each.step, each.spacing, kHeight).Tick(), each.firstTick) << each.step;
+        for (const ZoneClock* clock : {&utc, &autumn, &spring}) {
+            TimeTicks ticks(*clock, start, each.step, each.spacing, kHeight);
+            for (std::int64_t tick = 0; tick < 600 && each.spacing > 0; ++tick) {
+                while (ticks.Tick() < tick)
+                    ticks.Next();
+                TimeTicks there(*clock, start, each.step, each.spacing, kHeight);
+                there.GoTo(tick);
+                ASSERT_EQ(there.Tick(), ticks.Tick()) << each.step << " s in " << each.spacing;
+                ASSERT_EQ(there.Text(), ticks.Text());
+                ASSERT_EQ(there.ShowsDate(), ticks.ShowsDate());
+            }
+        }
+    }
+    // Each day has its label, at the first of its ticks.
+    EXPECT_EQ(Texts(autumn, start, 10800, 4, 76), (Lines{"2023/11/15 00:00:00", "2023/11/16 00:00:00",
+                                                         "2023/11/17 00:00:00", "2023/11/18 02:00:00"}));
+    EXPECT_EQ(Texts(spring, start, 10800, 4, 76), (Lines{"2023/11/15 00:00:00", "2023/11/16 00:00:00",
+                                                         "2023/11/17 00:00:00", "2023/11/18 01:00:00"}));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "tests/monitor_app/FrameWithPage.h"
 #include "tests/support/ImportHook.h"
 #include "tests/support/MessageBoxWatcher.h"
+#include "tests/support/MetafileRecorder.h"
 
 #include <kavlix/Kavlix.h>
 
@@ -393,6 +394,19 @@ TEST_F(ScrollPage, LabelsAndTindroTellTheTimesOfTheFile) {
         text[4] = text[7] = '/';
         EXPECT_EQ(m_said, "For Tindro: the mark is at " + text);
     }
+    // The night when clocks go back: the hour that comes twice is told twice, and the labels go on.
+    std::vector<Time> night;
+    for (int i = 0; i < 360; ++i)
+        night.push_back(recording::FromCivil({2026, 10, 31, 23, 0, 0, 0}) + i * 60 * S);
+    Record(night, 1, 60 * S);
+    testkit::MetafileRecorder picture;
+    m_graph[0]->SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.Dc()), PRF_CLIENT);
+    picture.Close();
+    std::string hours;
+    for (const std::string& text : picture.Texts())
+        if (text.find(":00:00") == 2)
+            hours += text.substr(0, 2) + " ";
+    EXPECT_EQ(hours, "23 00 01 01 02 03 04 ");
     CMenu menu;
     for (const bool on : {true, false}) {
         Command(ID_SCROLL_TINDRO);

@@ -4,6 +4,7 @@
 #include "tests/scrollgraph/ScrollTest.h"
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 
 namespace {
@@ -213,25 +214,52 @@ TEST_F(ScrollTimeAxisTest, TextsOfSamples) {
     }
 }
 
-TEST_F(ScrollTimeAxisTest, MoreTicksThanPixelsAreThinned) {
+TEST_F(ScrollTimeAxisTest, TicksInOneDeviceColumnAreOneAndLabelsDoNotTouch) {
     Load(1, 1699978400); // 16:13:20
-    // 50 days: a step of 3 hours takes 8 units, less than a pixel; every fourth is drawn, from the first one
-    // on.
-    graph.SetHorzRange(50 * 1440);
-    const auto picture = RecordXAxis(4);
-    std::vector<int> ticks;
-    for (const testkit::MetafileRecord& record : picture->Records())
-        if (record.kind == testkit::kLine && record.points[0].y == 3900)
-            ticks.push_back(record.points[0].x);
-    ASSERT_GT(ticks.size(), 3u);
-    EXPECT_EQ(ticks[0], 2230 + static_cast<int>((3600 + 46 * 60 + 40) * (kPlotWidth / (50 * 86400.0))));
-    for (std::size_t i = 1; i < ticks.size(); ++i)
-        ASSERT_EQ(ticks[i] - ticks[i - 1], 8 * 4);
-    EXPECT_LE(5600 - ticks.back(), 8 * 4);
-    const Strings labels = Labels(4);
-    EXPECT_EQ((Strings{labels[0], labels[1], labels[2]}),
-              (Strings{"11/14 18:00:00", "11/15 06:00:00", "18:00:00"}));
-
+    CDC pixels;
+    pixels.CreateCompatibleDC(nullptr);
+    graph.SetMapModeAnisotropic(pixels);
+    const auto columnOf = [&](int x) {
+        CPoint point(x, 0);
+        pixels.LPtoDP(&point);
+        return static_cast<int>(point.x);
+    };
+    // A step of 3 hours, from 18:00 on, takes 8 units in 50 days, 29 in 2 weeks, 407 in a day.
+    const struct {
+        double days;
+        Strings labels;
+    } views[] = {
+        {50, {"11/15 00:00:00", "11/29 00:00:00", "12/13 00:00:00", "12/27 00:00:00"}},
+        {14.2, {"11/15 00:00:00", "11/22 00:00:00"}},
+        {1.03, {"11/14 18:00:00", "11/15 00:00:00", "06:00:00"}},
+        {0.9, {"11/14 18:00:00", "21:00:00", "11/15 00:00:00", "03:00:00", "06:00:00", "09:00:00"}},
+    };
+    for (const auto& view : views) {
+        graph.SetHorzRange(view.days * 1440);
+        const double width = view.days * 86400;
+        const int spacing = static_cast<int>(10800 * kPlotWidth / width);
+        std::vector<int> expected, found;
+        for (int x = 2230 + static_cast<int>((3600 + 46 * 60 + 40) * (kPlotWidth / width)); x <= kPlotRight;
+             x += spacing)
+            if (expected.empty() || columnOf(x) != columnOf(expected.back()))
+                expected.push_back(x);
+        const auto picture = RecordXAxis(4);
+        for (const testkit::MetafileRecord& record : picture->Records())
+            if (record.kind == testkit::kLine && record.points[0].y == 3900)
+                found.push_back(record.points[0].x);
+        EXPECT_EQ(found, expected) << view.days;
+        Strings labels = Labels(4);
+        labels.resize(std::min(labels.size(), view.labels.size()));
+        EXPECT_EQ(labels, view.labels) << view.days;
+    }
     graph.SetHorzRange(5e9); // a step has no width at all
     EXPECT_EQ(Labels(4).size(), 1u);
+
+    // What lies beside the window is not drawn.
+    Resize(300, 200);
+    graph.SetHorzRange(1440);
+    graph.SetLegendWidth(INT_MIN);
+    graph.SetYTickLabelWidth(-1000000000);
+    Record();
+    EXPECT_LT(RecordXAxis(INT_MAX)->Records().size(), 400u);
 }

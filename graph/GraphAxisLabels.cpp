@@ -175,10 +175,15 @@ void CGraph::DrawCaptions() {
 }
 
 void CGraph::DrawLateLabels() {
+    kavlix::GraphCanvas& canvas = pass->canvas;
     for (const kavlix::LateLabel& label : pass->lateLabels) {
-        const GraphFont font(pass->canvas, label.fontSize, label.angle, label.weight);
-        pass->canvas.Dc().SetBkMode(OPAQUE);
-        pass->canvas.Dc().SetBkColor(RGB(255, 255, 255));
-        pass->canvas.Text(label.place, label.text);
+        // GDI puts no ground behind a turned text.
+        constexpr COLORREF kPaper = RGB(255, 255, 255);
+        {
+            const GraphFont level(canvas, label.fontSize, 0, label.weight);
+            canvas.Box(kavlix::BoxOf(canvas.Measure(label.text), label.angle, label.place), kPaper, kPaper);
+        }
+        const GraphFont font(canvas, label.fontSize, label.angle, label.weight);
+        canvas.Text(label.place, label.text);
     }
 }

@@ -49,6 +49,10 @@ std::int64_t Every(double needed, double distance) {
 
 } // namespace
 
+PlaneRect BoxOf(LabelSize size, int angle, PlanePoint origin) {
+    return BoxAt(Turn(angle), size, origin);
+}
+
 int NormalAngle(int angle) {
     return (angle % kFullTurn + kFullTurn) % kFullTurn;
 }

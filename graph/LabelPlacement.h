@@ -19,6 +19,10 @@ struct LabelPlace {
     PlaneRect box;
 };
 
+/// The upright box around a text that is turned by `angle` degrees counter-clockwise; its own upper left
+/// corner is at `origin`.
+PlaneRect BoxOf(LabelSize size, int angle, PlanePoint origin);
+
 /// `angle` in whole degrees brought to 0..359.
 int NormalAngle(int angle);
 

@@ -10,30 +10,38 @@ constexpr int kDirectBits = 32;
 
 } // namespace
 
-HBITMAP MakeDirectBitmap(HDC dc, CSize size, void** pixels) {
+bool Own(CGdiObject& object, HGDIOBJ made) {
+    try {
+        return object.Attach(made) != FALSE;
+    } catch (...) {
+        ::DeleteObject(made);
+        throw;
+    }
+}
+
+bool MakeDirectBitmap(CBitmap& bitmap, HDC dc, CSize size, void** pixels, WORD bits) {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = size.cx;
     info.bmiHeader.biHeight = -size.cy; // row 0 on top
     info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = kDirectBits;
+    info.bmiHeader.biBitCount = bits;
     info.bmiHeader.biCompression = BI_RGB;
     void* memory = nullptr;
-    const HBITMAP made = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &memory, nullptr, 0);
+    if (!Own(bitmap, ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &memory, nullptr, 0)))
+        return false;
     if (pixels != nullptr)
         *pixels = memory;
-    return made;
+    return true;
 }
 
 Offscreen::Offscreen(CDC& target, CSize size) : m_size(size) {
     if (size.cx <= 0 || size.cy <= 0 || !m_dc.CreateCompatibleDC(&target))
         return;
     const int bits = target.GetDeviceCaps(BITSPIXEL) * target.GetDeviceCaps(PLANES);
-    HBITMAP made = bits == kDirectBits ? MakeDirectBitmap(target.GetSafeHdc(), size) : nullptr;
-    if (made == nullptr)
-        made = ::CreateCompatibleBitmap(target.GetSafeHdc(), size.cx, size.cy);
-    if (made != nullptr && m_bitmap.Attach(made))
-        m_previous = ::SelectObject(m_dc.GetSafeHdc(), made);
+    if ((bits == kDirectBits && MakeDirectBitmap(m_bitmap, target.GetSafeHdc(), size)) ||
+        Own(m_bitmap, ::CreateCompatibleBitmap(target.GetSafeHdc(), size.cx, size.cy)))
+        m_previous = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
 }
 
 Offscreen::~Offscreen() {

@@ -6,9 +6,12 @@
 
 namespace kavlix {
 
-/// Makes a picture of 32-bit pixels in memory, rows from the top; null when it cannot be made. `pixels`
-/// receives where they lie, if it is not null. The bitmap is the caller's.
-HBITMAP MakeDirectBitmap(HDC dc, CSize size, void** pixels = nullptr);
+/// Makes a picture of `bits` (24 or 32) a pixel in memory, rows from the top. False when it cannot be made. `pixels`
+/// receives where they lie, if it is not null.
+bool MakeDirectBitmap(CBitmap& bitmap, HDC dc, CSize size, void** pixels = nullptr, WORD bits = 32);
+/// Gives `object` a handle that was just made; null is refused. When that takes memory and there is none, the
+/// handle is deleted.
+bool Own(CGdiObject& object, HGDIOBJ made);
 
 /// A memory DC with a bitmap, for a picture that is composed unseen and copied at once. What the bitmap holds
 /// at first is undefined. A control that paints often keeps one as long as its size stays: making the bitmap

@@ -15,6 +15,7 @@ using std::min;
 
 #include "gdi/Guards.h"
 #include "gdi/MemoryReport.h"
+#include "gdi/Offscreen.h"
 #include "gdi/PictureClipboard.h"
 
 namespace kavlix {
@@ -94,15 +95,9 @@ bool FindEncoder(const WCHAR* mimeType, CLSID& id) {
 }
 
 std::vector<BYTE> EncodePixels(const WCHAR* mimeType, CSize size, const std::function<void(CDC&)>& draw) {
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy; // rows from the top
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = kBitsPerPixel;
     void* bits = nullptr;
     CBitmap page;
-    if (!page.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)))
+    if (!MakeDirectBitmap(page, nullptr, size, &bits, kBitsPerPixel))
         return {};
     CDC dc;
     if (!dc.CreateCompatibleDC(nullptr))
@@ -128,7 +123,7 @@ std::vector<BYTE> EncodePixels(const WCHAR* mimeType, CSize size, const std::fun
 std::vector<BYTE> EncodeMetafile(CSize size, const std::function<void(CDC&)>& draw) {
     constexpr int kHundredthsPerMillimetre = 100;
     CDC screen;
-    if (!screen.Attach(::CreateDC("DISPLAY", nullptr, nullptr, nullptr)))
+    if (!screen.CreateDC("DISPLAY", nullptr, nullptr, nullptr))
         return {};
     const auto length = [&](int pixels, int millimetres, int resolution) {
         return ::MulDiv(pixels, screen.GetDeviceCaps(millimetres) * kHundredthsPerMillimetre,

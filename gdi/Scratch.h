@@ -14,7 +14,7 @@ public:
     explicit Scratch(int side) : m_side(side) {
         void* memory = nullptr;
         if (!m_dc.CreateCompatibleDC(nullptr) ||
-            !m_bitmap.Attach(MakeDirectBitmap(nullptr, CSize(side, side), &memory)))
+            !MakeDirectBitmap(m_bitmap, nullptr, CSize(side, side), &memory))
             return;
         m_previous = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
         m_pixels = static_cast<const std::uint32_t*>(memory);

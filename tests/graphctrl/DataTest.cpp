@@ -1,9 +1,6 @@
 #include "tests/graphctrl/GraphTest.h"
-#include "tests/support/FailingAllocations.h"
-#include "tests/support/MessageBoxWatcher.h"
 
 #include <cmath>
-#include <new>
 #include <random>
 
 namespace {
@@ -294,36 +291,4 @@ TEST(GraphDataTest, RandomCallsAgainstAModel) {
             ASSERT_EQ(All(graph.m_XTickLabelDown), down);
         }
     }
-}
-
-TEST(GraphDataTest, MemoryExhaustionIsToldAndChangesNothing) {
-    OpenGraph graph;
-    graph.AddData(0, 1, nullptr);
-    testkit::MessageBoxWatcher watcher;
-    testkit::FailingAllocations memory;
-    ASSERT_TRUE(memory.Installed());
-    int refused = 0;
-    for (int i = 1; i < 5000 && refused < 3; ++i) {
-        const double max = graph.m_XVisibleMax;
-        double x = -7;
-        memory.FailAfter(refused % 2); // a sample may ask for two pieces of memory
-        const BOOL added = graph.AddData(0, i, &x);
-        memory.FailAfter(-1);
-        refused += !added;
-        ASSERT_EQ(refused, memory.Refused()) << "a refused allocation is a refused sample";
-        if (added)
-            continue;
-        EXPECT_EQ(x, -7);
-        EXPECT_EQ(graph.m_XVisibleMax, max);
-        const int size = i;
-        EXPECT_EQ(graph.GetDatasetSize(0), size);
-        double y = 0;
-        EXPECT_TRUE(graph.GetYData(0, size - 1, y));
-        EXPECT_TRUE(graph.AddData(0, i, &x)) << "memory is back";
-        EXPECT_EQ(x, static_cast<double>(size)) << "the refused sample left nothing behind";
-    }
-    EXPECT_EQ(refused, 3) << "growing must ask for memory now and then";
-    ASSERT_EQ(watcher.Boxes().size(), 3u) << "one message box for each";
-    EXPECT_EQ(watcher.Boxes()[0].buttons, std::vector<int>{IDOK});
-    EXPECT_NE(watcher.Boxes()[0].text, "");
 }

@@ -3,6 +3,8 @@
 
 #include "tests/graphctrl/GraphTest.h"
 #include "tests/support/AllocationGuard.h"
+#include "tests/support/FailingCalls.h"
+#include "tests/support/GdiCounter.h"
 #include "tests/support/MemoryRule.h"
 
 #include "graphctrl/AxisTicks.h"
@@ -11,8 +13,10 @@
 #include <climits>
 #include <cmath>
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <random>
+#include <set>
 #include <sstream>
 
 using namespace kavlix;
@@ -59,7 +63,7 @@ struct FedGraph {
         for (const CString* text : {&graph.m_Title, &graph.m_XLabel, &graph.m_YLabel, &graph.m_Y2Label,
                                     &graph.m_CaptionFontFace, &graph.m_YUnit, &graph.m_Y2Unit})
             out << "|" << text->GetString();
-        out << "|" << graph.m_YUnitExponent << graph.m_YTickLabelScale << graph.m_Y2UnitExponent
+        out << "|" << x << graph.m_YUnitExponent << graph.m_YTickLabelScale << graph.m_Y2UnitExponent
             << graph.m_CaptionFontSize;
         return out.str();
     }
@@ -67,6 +71,7 @@ struct FedGraph {
     CString Text() { return std::move(m_texts[--m_textsLeft]); }
 
     OpenGraph graph;
+    double x = -7; ///< what AddData hands back
 
 private:
     CString m_texts[4] = {kLong, kLong, kLong, kLong};
@@ -81,10 +86,7 @@ struct ShownGraph : FedGraph {
         graph.ShowIconMaximize(TRUE, FALSE);
         graph.SetSelectionMarkPos(5);
         graph.UpdateWindow();
-        if (::IsClipboardFormatAvailable(CF_ENHMETAFILE) && ::OpenClipboard(graph.m_hWnd)) {
-            ::EmptyClipboard();
-            ::CloseClipboard();
-        }
+        EmptyClipboard();
     }
     ~ShownGraph() {
         for (int i = 0; i < 3; ++i)
@@ -96,6 +98,12 @@ struct ShownGraph : FedGraph {
             if (::GetFileAttributesA(TempPath(i)) != INVALID_FILE_ATTRIBUTES)
                 state += std::string("\nsaved as ") + kExtensions[i];
         return state + (::IsClipboardFormatAvailable(CF_ENHMETAFILE) ? "\ncopied" : "");
+    }
+    void EmptyClipboard() {
+        if (::IsClipboardFormatAvailable(CF_ENHMETAFILE) && ::OpenClipboard(graph.m_hWnd)) {
+            ::EmptyClipboard();
+            ::CloseClipboard();
+        }
     }
     bool Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         ::SendMessage(graph.m_hWnd, message, wParam, lParam);
@@ -116,7 +124,7 @@ TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
     using F = FedGraph;
     const int failures = testkit::ExpectMemoryRule<F>({
         {"constructor", OnFailure::Throws, [](F&) { return OpenGraph().m_hWnd == nullptr; }},
-        {"AddData", OnFailure::Reports, [](F& s) { return s.graph.AddData(0, 7, nullptr) != 0; }},
+        {"AddData", OnFailure::Reports, [](F& s) { return s.graph.AddData(0, 7, &s.x) != 0; }},
         {"AddXTickLabel", OnFailure::Reports,
          [](F& s) { return s.graph.AddXTickLabel(s.Text(), s.Text()) != 0; }},
         {"GetXData", OnFailure::Throws,
@@ -160,6 +168,104 @@ TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
     EXPECT_GT(failures, 30);
     EXPECT_GT(shownFailures, 200);
     RecordProperty("failures", failures + shownFailures);
+}
+
+TEST(GraphFailureTest, EveryPlatformCallMayFail) {
+    testkit::RecordingParent parent;
+    ASSERT_TRUE(parent.CreateVisible(320, 240));
+    ShownGraph::parent = &parent;
+    using S = ShownGraph;
+    enum Kind { Paints, Saves, Copies };
+    const struct {
+        const char* name;
+        Kind kind;
+        std::function<bool(S&)> run;
+        int step = 1;
+    } operations[] = {
+        {"paint", Paints, [](S& s) { return s.graph.Redraw(), s.graph.UpdateWindow(), true; }},
+        {"paint of another size", Paints,
+         [](S& s) {
+             ::MoveWindow(s.graph.m_hWnd, 0, 0, 290, 190, TRUE);
+             ::MoveWindow(s.graph.m_hWnd, 0, 0, 300, 200, TRUE);
+             return s.graph.UpdateWindow(), true;
+         }},
+        {"bars", Paints,
+         [](S& s) {
+             s.graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);
+             s.graph.Redraw();
+             s.graph.UpdateWindow();
+             return s.graph.SetGraphStyle(CGraphCtrl::GraphStyleLine), true;
+         }},
+        {"click", Paints,
+         [](S& s) {
+             s.Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(150, 80));
+             return s.graph.SetSelectionMarkPos(5), s.graph.UpdateWindow(), true;
+         }},
+        {"icon", Paints,
+         [](S& s) {
+             s.Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(292, 7));
+             s.Send(WM_LBUTTONUP, 0, MAKELPARAM(292, 7));
+             return s.graph.UpdateWindow(), true;
+         }},
+        // GDI+ takes 40 ms to start.
+        {"SaveImage .png", Saves, [](S& s) { return s.graph.SaveImage(TempPath(0)); }, 11},
+        {"SaveImage .emf", Saves, [](S& s) { return s.graph.SaveImage(TempPath(2)); }},
+        {"CopyToClipboard", Copies, [](S& s) { return s.graph.CopyToClipboard() != 0; }},
+    };
+    testkit::FailingCalls calls;
+    int failures = 0;
+    for (const auto& operation : operations) {
+        S scene;
+        testkit::DibSurface expected(300, 200);
+        const auto repaint = [&](testkit::DibSurface& picture) {
+            scene.graph.Redraw();
+            scene.graph.UpdateWindow();
+            picture.Grab(scene.graph.m_hWnd);
+        };
+        operation.run(scene);
+        repaint(expected);
+        scene.EmptyClipboard();
+        const testkit::ObjectCounts before = testkit::CountObjects();
+        const auto play = [&] {
+            const int failed = calls.Failed();
+            for (int i = 0; i < 3; ++i)
+                ::DeleteFileA(TempPath(i));
+            scene.EmptyClipboard();
+            bool result = false;
+            try {
+                result = operation.run(scene);
+            } catch (CResourceException* exception) {
+                ADD_FAILURE() << "an exception left";
+                exception->Delete();
+            }
+            calls.FailAt(0);
+            calls.FailAlways(-1);
+            if (calls.Failed() == failed)
+                return false;
+            SCOPED_TRACE(operation.name + (" without " + calls.Name(calls.LastFailed())));
+            const std::string state = scene.State();
+            EXPECT_EQ(operation.kind == Saves && result, state.find("saved") != std::string::npos);
+            EXPECT_TRUE(result || state.find("copied") == std::string::npos);
+            EXPECT_FALSE(::GetUpdateRect(scene.graph.m_hWnd, nullptr, FALSE));
+            EXPECT_EQ(scene.graph.m_SelectionMarkPos, 5);
+            EXPECT_NE(::GetCapture(), scene.graph.m_hWnd);
+            testkit::DibSurface picture(300, 200);
+            repaint(picture);
+            EXPECT_EQ(testkit::Difference(expected, picture), "");
+            ++failures;
+            return true;
+        };
+        std::set<int> reached;
+        for (int n = 1; calls.FailAt(n), play(); n += operation.step)
+            reached.insert(calls.LastFailed());
+        for (const int function : reached) {
+            calls.FailAlways(function);
+            EXPECT_TRUE(play());
+        }
+        scene.EmptyClipboard();
+        EXPECT_EQ(testkit::CountObjects(), before) << operation.name;
+    }
+    EXPECT_GT(failures, 1000);
 }
 
 TEST(GraphMemoryTest, SamplesStayInsideTheirBlocks) {

@@ -1,6 +1,5 @@
 #include "tests/graphctrl/GraphTest.h"
 #include "tests/support/GdiCounter.h"
-#include "tests/support/ImportHook.h"
 
 #include <algorithm>
 #include <cmath>
@@ -240,103 +239,6 @@ TEST_F(GraphRobustnessTest, AThousandControlsComeAndGo) {
     const testkit::ObjectCounts before = testkit::CountObjects();
     live(1000);
     EXPECT_EQ(testkit::CountObjects(), before);
-}
-
-namespace {
-
-int g_refused = 0;
-
-HBITMAP WINAPI NoBitmap(HDC, int, int) {
-    ++g_refused;
-    return nullptr;
-}
-HBITMAP WINAPI NoSection(HDC, const BITMAPINFO*, UINT, void**, HANDLE, DWORD) {
-    return nullptr;
-}
-HDC WINAPI NoMemoryDc(HDC) {
-    ++g_refused;
-    return nullptr;
-}
-HFONT WINAPI NoFont(const LOGFONTA*) {
-    ++g_refused;
-    return nullptr;
-}
-HFONT WINAPI NoFontByParts(int, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
-                           LPCSTR) {
-    ++g_refused;
-    return nullptr;
-}
-HPEN WINAPI NoPen(int, int, COLORREF) {
-    ++g_refused;
-    return nullptr;
-}
-HBRUSH WINAPI NoBrush(COLORREF) {
-    ++g_refused;
-    return nullptr;
-}
-HRGN WINAPI NoRegion(int, int, int, int) {
-    ++g_refused;
-    return nullptr;
-}
-HRGN WINAPI NoPolygon(const POINT*, int, int) {
-    ++g_refused;
-    return nullptr;
-}
-
-} // namespace
-
-TEST_F(GraphRobustnessTest, PaintingLivesWithoutTheObjectsItAsksFor) {
-    Add(0, {1, 50, 99});
-    graph.SetLegend(0, "zero");
-    graph.SetSelectionMarkPos(1);
-    graph.ShowIconMaximize(TRUE, FALSE);
-    const auto paint_all = [this] {
-        for (int style = 0; style < 3; ++style) {
-            for (int title = 0; title < 2; ++title) {
-                graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(style));
-                graph.SetTitleStyle(static_cast<CGraphCtrl::TitleStyle>(title));
-                graph.Redraw();
-                graph.UpdateWindow();
-                EXPECT_EQ(Text(UpdateRect()), "0,0,0,0") << "a paint that fails still validates";
-            }
-        }
-    };
-    paint_all(); // what the platform keeps for itself is made by then
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    const struct {
-        const char* name;
-        void* replacement;
-    } failures[] = {{"CreateCompatibleBitmap", reinterpret_cast<void*>(&NoBitmap)},
-                    {"CreateCompatibleDC", reinterpret_cast<void*>(&NoMemoryDc)},
-                    {"CreateFontIndirectA", reinterpret_cast<void*>(&NoFont)},
-                    {"CreateFontA", reinterpret_cast<void*>(&NoFontByParts)},
-                    {"CreatePen", reinterpret_cast<void*>(&NoPen)},
-                    {"CreateSolidBrush", reinterpret_cast<void*>(&NoBrush)},
-                    {"CreateRectRgn", reinterpret_cast<void*>(&NoRegion)},
-                    {"CreatePolygonRgn", reinterpret_cast<void*>(&NoPolygon)}};
-    int reached = 0;
-    int width = 300;
-    for (const auto& failure : failures) {
-        SCOPED_TRACE(failure.name);
-        const testkit::ImportHook in_control("Kavlix.dll", failure.name, failure.replacement);
-        const testkit::ImportHook in_library("KavlixMfc.dll", failure.name, failure.replacement);
-        // A bitmap is asked for when the size is new, and a DIB section is tried first.
-        const bool is_bitmap = failure.replacement == reinterpret_cast<void*>(&NoBitmap);
-        const testkit::ImportHook section("Kavlix.dll", is_bitmap ? "CreateDIBSection" : "nothing",
-                                          reinterpret_cast<void*>(&NoSection));
-        Resize(++width, 200);
-        g_refused = 0;
-        paint_all();
-        reached += g_refused > 0;
-    }
-    Resize(300, 200);
-    EXPECT_EQ(reached, static_cast<int>(std::size(failures))) << "the failures must reach the painting";
-    graph.SetGraphStyle(CGraphCtrl::GraphStyleLine);
-    graph.SetTitleStyle(CGraphCtrl::TitleStyleText);
-    graph.Redraw();
-    graph.UpdateWindow();
-    EXPECT_EQ(testkit::CountObjects(), before);
-    EXPECT_FALSE(Record()->Texts().empty()) << "and the control paints again";
 }
 
 TEST_F(GraphRobustnessTest, APictureTooWideForABitmap) {

@@ -21,9 +21,8 @@ void Write(void** slot, void* value) {
     }
 }
 
-} // namespace
-
-ImportHook::ImportHook(const std::string& module, const std::string& function, void* replacement) {
+/// Calls `visit(library, function, slot)` for everything that a loaded module imports by name.
+template <class Visit> void VisitImports(const std::string& module, Visit visit) {
     const HMODULE base = GetModuleHandleA(module.c_str());
     if (base == nullptr)
         return;
@@ -38,19 +37,36 @@ ImportHook::ImportHook(const std::string& module, const std::string& function, v
             if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal))
                 continue;
             const auto* entry = At<IMAGE_IMPORT_BY_NAME>(base, static_cast<DWORD>(names->u1.AddressOfData));
-            if (function != reinterpret_cast<const char*>(entry->Name))
-                continue;
-            auto** slot = reinterpret_cast<void**>(const_cast<IMAGE_THUNK_DATA*>(slots));
-            m_original = *slot;
-            m_slots.push_back(slot);
-            Write(slot, replacement);
+            visit(At<char>(base, library->Name), reinterpret_cast<const char*>(entry->Name),
+                  reinterpret_cast<void**>(const_cast<IMAGE_THUNK_DATA*>(slots)));
         }
     }
+}
+
+} // namespace
+
+ImportHook::ImportHook(const std::string& module, const std::string& function, void* replacement) {
+    VisitImports(module, [&](const char*, const char* name, void** slot) {
+        if (function != name)
+            return;
+        m_original = *slot;
+        m_slots.push_back(slot);
+        Write(slot, replacement);
+    });
 }
 
 ImportHook::~ImportHook() {
     for (void** slot : m_slots)
         Write(slot, m_original);
+}
+
+std::vector<std::string> ImportedNames(const std::string& module, const std::string& library) {
+    std::vector<std::string> names;
+    VisitImports(module, [&](const char* from, const char* name, void**) {
+        if (_stricmp(from, library.c_str()) == 0)
+            names.emplace_back(name);
+    });
+    return names;
 }
 
 std::vector<std::string> ExportedNames(HMODULE module) {

@@ -7,6 +7,8 @@
 #include "gdi/Guards.h"
 #include "gdi/Text.h"
 #include "graphctrl/GraphCtrlConvert.h"
+#include "piechart/PieChartCtrlTexts.h"
+#include "piechart/PieColors.h"
 #include "piechart/PieLabels.h"
 
 using namespace kavlix;
@@ -14,7 +16,6 @@ using namespace kavlix;
 namespace {
 
 constexpr COLORREF kSelectedText = RGB(255, 255, 255);
-constexpr char kNarrowest[] = "Wi..."; // shorter abbreviations are not shown
 constexpr int kLeaderWidth = 1;
 
 CString PercentText(const CPieChartPiece& piece) {
@@ -38,18 +39,21 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
     area.client = ToRect(client);
     area.pie = ToRect(m_rcPie);
     area.startAngle = m_nStartAngle % 360;
-    const CSize narrowest = MeasureText(dc, kNarrowest);
-    area.lineHeight = std::max<int>(narrowest.cy, 1);
-    area.narrowest = narrowest.cx;
+    area.lineHeight = std::max<int>(MeasureText(dc, "W").cy, 1);
 
     // Measuring texts is dear: only what can be shown is looked at.
     const std::vector<int> shown = WidestSectors(sectors, LabelCapacity(area));
+    std::vector<CString> texts;
+    for (const int index : shown)
+        texts.push_back(Piece(index).m_strLabel);
+    const std::vector<LabelEnds> ends = FindLabelEnds(texts);
     std::vector<PieLabelRequest> requests;
     std::vector<int> breaks;
-    for (const int index : shown) {
-        const CPieChartPiece& piece = Piece(index);
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const CPieChartPiece& piece = Piece(shown[i]);
         PieLabelRequest request;
-        request.sector = sectors[static_cast<std::size_t>(index)];
+        request.sector = sectors[static_cast<std::size_t>(shown[i])];
+        request.text.narrowest = NarrowestLabel(dc, piece.m_strLabel, ends[i]);
         request.text.label = MeasureText(dc, piece.m_strLabel).cx;
         const TextBreak brk = BreakInTwo(dc, piece.m_strLabel);
         request.text.broken = brk.width;
@@ -79,11 +83,15 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
             visible.label = {};
         if (hidden.IntersectRect(ToCRect(visible.percent), band))
             visible.percent = {};
-        DrawLabel(dc, piece, visible, breaks[i]);
+        CString text = piece.m_strLabel;
+        if (!visible.broken)
+            text = AbbreviateLabel(dc, text, ends[i], visible.label.Width());
+        DrawLabel(dc, piece, visible, text, breaks[i]);
     }
 }
 
-void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLabel& label, int nBreak) {
+void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLabel& label, const CString& strText,
+                              int nBreak) {
     const COLORREF inside = piece.m_bSelected ? kSelectedText : piece.m_crText;
     COLORREF beside = inside;
     if (label.outside && piece.m_bSelected) {
@@ -95,7 +103,7 @@ void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLab
         beside = LegibleOn(m_crBack, piece.m_crText);
     }
 
-    constexpr UINT kLine = DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP;
+    constexpr UINT kLine = DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP;
     const UINT facing = !label.outside                                        ? DT_CENTER
                         : label.box.left < m_rcPie.left + m_rcPie.Width() / 2 ? DT_RIGHT
                                                                               : DT_LEFT;
@@ -105,10 +113,10 @@ void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLab
         const int line = place.Height() / 2;
         const CRect lower(place.left, place.top + line, place.right, place.bottom);
         place.bottom = place.top + line;
-        DrawTextIn(dc, place, piece.m_strLabel.Left(nBreak), kLine | facing);
-        DrawTextIn(dc, lower, piece.m_strLabel.Mid(nBreak + 1), kLine | facing);
+        DrawTextIn(dc, place, strText.Left(nBreak), kLine | facing);
+        DrawTextIn(dc, lower, strText.Mid(nBreak + 1), kLine | facing);
     } else if (!place.IsRectEmpty()) {
-        DrawTextIn(dc, place, piece.m_strLabel, kLine | facing);
+        DrawTextIn(dc, place, strText, kLine | facing);
     }
     place = ToCRect(label.percent);
     if (place.IsRectEmpty())

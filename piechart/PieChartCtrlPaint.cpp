@@ -9,8 +9,8 @@
 #include "gdi/PictureFile.h"
 #include "gdi/Text.h"
 #include "graphctrl/GraphCtrlConvert.h"
+#include "piechart/PieColors.h"
 #include "piechart/PieGeometry.h"
-#include "piechart/PieLabels.h"
 
 using namespace kavlix;
 
@@ -19,6 +19,9 @@ namespace {
 constexpr char kNoData[] = "No Data";
 
 constexpr int kOutlineWidth = 1;
+// The line within a selected sector. Pixels.
+constexpr int kSelectionWidth = 2;
+constexpr double kSelectionInset = 4;
 // Sectors are cut out of the circle by corners that far from the centre, in radii: so far that their rounding
 // to whole pixels turns no boundary visibly.
 constexpr double kCornerDistance = 8.0;
@@ -95,6 +98,7 @@ void CPieChartCtrl::DrawPie(CDC& dc) {
     RecalcRect();
     CRect client;
     GetClientRect(&client);
+    AttribDcGuard attributes(dc);
     SavedDcGuard saved(dc);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextAlign(TA_LEFT | TA_TOP);
@@ -157,6 +161,31 @@ void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) 
         }
         SelectGuard brush(dc, fill);
         dc.Polygon(corners.data(), static_cast<int>(corners.size()));
+    }
+    DrawSelection(dc, sectors);
+}
+
+// Where a piece has the selection's own colour, the fill alone would not tell what is selected.
+void CPieChartCtrl::DrawSelection(CDC& dc, const std::vector<PieSector>& sectors) {
+    bool isAmbiguous = false;
+    for (std::size_t i = 0; i < sectors.size(); ++i)
+        isAmbiguous = isAmbiguous || (sectors[i].IsVisible() &&
+                                      LookAlike(Piece(static_cast<INT_PTR>(i)).m_crColor, m_crSelected));
+    if (!isAmbiguous)
+        return;
+    CPen pen;
+    pen.CreatePen(PS_SOLID, kSelectionWidth, LegibleOn(m_crSelected, RGB(255, 255, 255)));
+    SelectGuard penSelected(dc, pen);
+    const double start = m_nStartAngle % 360;
+    for (std::size_t i = 0; i < sectors.size(); ++i) {
+        if (!Piece(static_cast<INT_PTR>(i)).m_bSelected || !sectors[i].IsVisible())
+            continue;
+        std::vector<POINT> points;
+        for (const Point& point : LineInSector(ToRect(m_rcPie), start + sectors[i].begin,
+                                               start + sectors[i].end, kSelectionInset))
+            points.push_back({point.x, point.y});
+        if (!points.empty())
+            dc.Polyline(points.data(), static_cast<int>(points.size()));
     }
 }
 

@@ -72,6 +72,33 @@ Point PointAround(const Rect& pie, double angle, double distance) {
             ToCoordinate(std::round(centre.y - std::cos(radians) * distance))};
 }
 
+std::vector<Point> LineInSector(const Rect& pie, double begin, double end, double inset) {
+    constexpr double kLeastRoom = 4;     // insets between the line's tip and its arc
+    constexpr double kDegreesAStep = 2;  // along the arc
+    constexpr double kLongestMiter = 2;  // insets, where the sector is nearly the circle
+    const double radius = (static_cast<double>(pie.bottom) - pie.top) / 2 - inset;
+    const double half = (end - begin) / 2;
+    const bool whole = end - begin >= kFullCircle;
+    double tip = 0;
+    double beside = 0; // degrees between the boundary and the line, at the arc
+    if (!whole) {
+        tip = inset / std::sin(PieRadians(half));
+        if (half > kRightwards)
+            tip = std::min(tip, inset * kLongestMiter);
+        beside = PieDegrees(std::asin(std::min(inset / std::max(radius, inset), 1.0)));
+    }
+    if (tip + kLeastRoom * inset > radius)
+        return {};
+    std::vector<Point> points;
+    if (!whole)
+        points.push_back(PointAround(pie, begin + half, tip));
+    for (double angle = begin + beside; angle < end - beside; angle += kDegreesAStep)
+        points.push_back(PointAround(pie, angle, radius));
+    points.push_back(PointAround(pie, end - beside, radius));
+    points.push_back(points.front());
+    return points;
+}
+
 double AngleOfPoint(const Rect& pie, Point point) {
     const Point centre = PieCentre(pie);
     const double dx = static_cast<double>(point.x) - centre.x;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "graphctrl/Shapes.h"
 
 /// Where the pieces of a pie are. Angles are degrees, 0 at twelve o'clock, growing clockwise; y grows
@@ -48,6 +50,10 @@ Point PointOnPie(const Rect& pie, double angle, bool inner);
 
 /// A point at any distance from the centre, rounded to the nearest pixel.
 Point PointAround(const Rect& pie, double angle, double distance);
+
+/// A line within the sector from `begin` to `end`, `inset` pixels from its boundary, closed. Empty where the
+/// sector is too narrow to hold it and more.
+std::vector<Point> LineInSector(const Rect& pie, double begin, double end, double inset);
 
 /// The angle at which a point is seen from the centre; -1 for the centre.
 double AngleOfPoint(const Rect& pie, Point point);

@@ -191,7 +191,7 @@ private:
             result.labelWidth = text.broken;
             result.width = std::max(text.broken, result.percent ? text.percent : 0);
             result.lines = 2 + result.percent;
-        } else if (width >= m_area.narrowest) {
+        } else if (width >= text.narrowest) {
             // An abbreviated label goes with the percentage as far as both say something.
             const int beside = width - kWordGap - text.percent;
             result.labelWidth = std::min(text.label, width);
@@ -200,7 +200,7 @@ private:
             if (result.percent && maxLines >= 2) {
                 result.lines = 2;
                 result.width = std::max(result.width, text.percent);
-            } else if (result.percent && beside >= m_area.narrowest) {
+            } else if (result.percent && beside >= text.narrowest) {
                 result.sameLine = true;
                 result.labelWidth = beside;
                 result.width = width;
@@ -429,22 +429,6 @@ private:
     std::vector<PieLabel> m_labels;
 };
 
-// Relative luminance, 0 to 1.
-double Luminance(std::uint32_t color) {
-    const auto linear = [&](int shift) {
-        const double part = ((color >> shift) & 0xFF) / 255.0;
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(0) + 0.7152 * linear(8) + 0.0722 * linear(16);
-}
-
-double Contrast(std::uint32_t a, std::uint32_t b) {
-    constexpr double kGlare = 0.05;
-    const double first = Luminance(a) + kGlare;
-    const double second = Luminance(b) + kGlare;
-    return std::max(first, second) / std::min(first, second);
-}
-
 } // namespace
 
 std::vector<int> WidestSectors(const std::vector<PieSector>& sectors, int count) {
@@ -474,15 +458,6 @@ int LabelCapacity(const PieLabelArea& area) {
 
 std::vector<PieLabel> PlaceLabels(const PieLabelArea& area, const std::vector<PieLabelRequest>& requests) {
     return Placer(area, requests).Place();
-}
-
-std::uint32_t LegibleOn(std::uint32_t back, std::uint32_t text) {
-    constexpr double kLegible = 3.0;
-    constexpr std::uint32_t kBlack = 0x000000;
-    constexpr std::uint32_t kWhite = 0xFFFFFF;
-    if (Contrast(back, text) >= kLegible)
-        return text & kWhite;
-    return Contrast(back, kBlack) >= Contrast(back, kWhite) ? kBlack : kWhite;
 }
 
 } // namespace kavlix

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <vector>
 
 #include "piechart/PieGeometry.h"
@@ -14,6 +13,7 @@ struct PieText {
     int label = 0;
     int broken = 0; ///< of the label broken into two lines; 0 when it cannot be
     int percent = 0;
+    int narrowest = 0; ///< an abbreviation of the label narrower than that says nothing
 };
 
 /// A piece whose texts are to be placed.
@@ -38,7 +38,6 @@ struct PieLabelArea {
     Rect pie;
     double startAngle = 0;
     int lineHeight = 1; ///< pixels
-    int narrowest = 0;  ///< an abbreviation narrower than that says nothing
 };
 
 /// The sectors that have a place, at most `count` of them: the widest, the first of equally wide ones; in
@@ -50,8 +49,5 @@ int LabelCapacity(const PieLabelArea& area);
 
 /// Places the texts of `requests`, which are in list order. The result has one entry for each.
 std::vector<PieLabel> PlaceLabels(const PieLabelArea& area, const std::vector<PieLabelRequest>& requests);
-
-/// `text` (0x00BBGGRR) where it is legible on `back`, else black or white.
-std::uint32_t LegibleOn(std::uint32_t back, std::uint32_t text);
 
 } // namespace kavlix

@@ -86,6 +86,26 @@ TEST(PieGeometryTest, PointsOnRimAndLabelCircleAreTruncated) {
     EXPECT_EQ(PointOnPie(pie, NAN, false), (Point{0, 0}));
 }
 
+TEST(PieGeometryTest, LineInASectorKeepsItsDistance) {
+    const Rect pie{55, 20, 215, 180};
+    for (const double begin : {0.0, 70.0, 200.0}) {
+        for (const double span : {20.0, 60.0, 179.0, 181.0, 300.0, 355.0, 360.0}) {
+            const std::vector<Point> line = LineInSector(pie, begin, begin + span, 4);
+            ASSERT_GE(line.size(), 4u) << span;
+            EXPECT_EQ(line.front(), line.back());
+            for (const Point& point : line) {
+                const double distance = std::hypot(point.x - 135, point.y - 100);
+                const double from = PieRadians(std::fmod(AngleOfPoint(pie, point) - begin + 720, 360));
+                const double away = std::min(from, PieRadians(span) - from);
+                EXPECT_LE(distance, 77);
+                EXPECT_TRUE(span == 360 || away > 1.57 || distance * std::sin(away) > 2.5) << begin << " " << span;
+            }
+        }
+    }
+    EXPECT_TRUE(LineInSector(pie, 10, 12, 4).empty()) << "no room";
+    EXPECT_TRUE(LineInSector({0, 0, 20, 20}, 0, 360, 4).empty());
+}
+
 TEST(PieGeometryTest, SectorsOfOddPieces) {
     const struct {
         const char* name;

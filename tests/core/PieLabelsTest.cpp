@@ -5,12 +5,14 @@
 #include <random>
 #include <vector>
 
+#include "piechart/PieColors.h"
 #include "piechart/PieLabels.h"
 
 namespace kavlix {
 namespace {
 
 constexpr int kLine = 15;
+constexpr int kNarrowest = 20;
 
 PieLabelArea Area(int width, int height, double startAngle = 0) {
     PieLabelArea area;
@@ -18,12 +20,12 @@ PieLabelArea Area(int width, int height, double startAngle = 0) {
     area.pie = PieSquare(area.client);
     area.startAngle = startAngle;
     area.lineHeight = kLine;
-    area.narrowest = 20;
     return area;
 }
 
 /// Pieces of these parts of 1, all with the same texts.
 std::vector<PieLabelRequest> Pieces(const std::vector<double>& parts, PieText text) {
+    text.narrowest = kNarrowest;
     std::vector<PieLabelRequest> requests;
     PieWalk walk;
     for (const double part : parts)
@@ -84,7 +86,7 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
             {hasLabel && label.label.Height() != (label.broken ? 2 : 1) * area.lineHeight,
              "odd label height"},
             {hasLabel &&
-                 label.label.Width() < std::min(area.narrowest, label.broken ? text.broken : text.label),
+                 label.label.Width() < std::min(text.narrowest, label.broken ? text.broken : text.label),
              "label too narrow"},
             {!label.outside && hasBox && !inSector(label.box, requests[i].sector), "box leaves its sector"},
             {!inBox && hasPercent && !inSector(label.percent, requests[i].sector),
@@ -162,6 +164,7 @@ TEST(PieLabelsTest, RandomPiesKeepTextsApart) {
             text.label = static_cast<int>(random() % 4 == 0 ? random() % 300 : 20 + random() % 60);
             text.broken = random() % 2 == 0 ? text.label / 2 + 3 : 0;
             text.percent = random() % 9 == 0 ? 0 : 28;
+            text.narrowest = kNarrowest;
             requests.push_back({walk.Add(random() % 7 == 0 ? 0.0 : random() % 100, 600), text});
             if (!requests.back().sector.hasPlace)
                 requests.pop_back();
@@ -206,6 +209,8 @@ TEST(PieLabelsTest, LegibleTextKeepsItsColour) {
     EXPECT_EQ(LegibleOn(kBlack, kBlue), kWhite);
     EXPECT_EQ(LegibleOn(kBlack, kPale), kPale);
     EXPECT_EQ(LegibleOn(kGrey, kGrey), kBlack);
+    EXPECT_TRUE(LookAlike(0x0000FF, 0x3C14DC)) << "two reds";
+    EXPECT_FALSE(LookAlike(0x0000FF, 0x0080FF)) << "red and orange";
 }
 
 } // namespace

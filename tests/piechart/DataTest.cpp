@@ -163,5 +163,5 @@ TEST_F(PieDataTest, MemoryRunsOut) {
          [](FedPie& s) { return s.pie.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(160, 80)), true; }},
         {"size", OnFailure::Message, [](FedPie& s) { return s.pie.MoveWindow(0, 0, 250, 220), true; }},
     });
-    EXPECT_GT(failures, 1000000);
+    EXPECT_GT(failures, 100);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 class PiePaintTest : public PieTest {
 protected:
@@ -180,6 +181,33 @@ TEST_F(PiePaintTest, TextsAndTheirColours) {
         pie.AddPiece(RGB(0, 0, 90), RGB(255, 255, 0), total, 1e9, "Huge");
         EXPECT_EQ(Texts(), Strings{"Huge FFFF00"}) << "no percentage of hundreds of digits";
     }
+}
+
+TEST_F(PiePaintTest, ASelectionShowsBesidePiecesOfItsColour) {
+    Add({30, 30, 40});
+    pie.At(1).m_bSelected = TRUE;
+    const auto light = [&] { return Paint()->Count(RGB(255, 255, 255), pie.m_rcPie); };
+    const int plain = light();
+    for (const auto& [colour, isTold] : {std::pair(RGB(255, 0, 0), true), std::pair(RGB(230, 40, 30), true),
+                                         std::pair(RGB(200, 90, 90), false)}) {
+        pie.At(0).m_crColor = colour;
+        EXPECT_EQ(light() > plain + 150, isTold);
+        EXPECT_EQ(Paint()->At(At(160, 0.3).x, At(160, 0.3).y), pie.m_crSelected);
+    }
+}
+
+TEST_F(PiePaintTest, LabelsThatBeginAlikeKeepTheirEnds) {
+    Resize(400, 300);
+    for (int i = 1; i <= 30; ++i)
+        pie.AddPiece(Colour(i), 0, 30, 1, i == 30 ? "Elsewhere and anywhere else" : "Department " + CString(std::to_string(i).c_str()));
+    std::set<std::string> ends;
+    for (const std::string& text : Texts()) {
+        const std::size_t dots = text.find("...");
+        EXPECT_EQ(text.find("Departm... "), std::string::npos);
+        ends.insert(text.substr(dots == std::string::npos ? 0 : dots));
+    }
+    EXPECT_GE(ends.size(), 20u) << "of those beside the pie every one is another";
+    EXPECT_EQ(ends.count("...20 000000"), 1u);
 }
 
 TEST_F(PiePaintTest, Messages) {

@@ -8,6 +8,8 @@
 /// another.
 namespace kavlix {
 
+constexpr int kPieTextPadding = 2; ///< of a box, pixels left and right of its texts
+
 /// Widths of a piece's texts in pixels, 0 for none.
 struct PieText {
     int label = 0;

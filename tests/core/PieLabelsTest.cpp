@@ -47,6 +47,26 @@ bool Within(const Rect& inner, const Rect& outer) {
            inner.bottom <= outer.bottom;
 }
 
+std::vector<Point> Pixels(const std::vector<Point>& line) {
+    std::vector<Point> pixels;
+    for (std::size_t i = 1; i < line.size(); ++i) {
+        const int dx = line[i].x - line[i - 1].x, dy = line[i].y - line[i - 1].y;
+        const int steps = std::max(std::abs(dx), std::abs(dy));
+        for (int step = 0; step < steps; ++step)
+            pixels.push_back({line[i - 1].x + dx * step / steps, line[i - 1].y + dy * step / steps});
+    }
+    return pixels;
+}
+
+/// Pixels of a line that touch another.
+std::ptrdiff_t Together(const std::vector<Point>& line, const std::vector<Point>& other) {
+    const std::vector<Point> ones = Pixels(line), others = Pixels(other);
+    return std::count_if(ones.begin(), ones.end(), [&](Point a) {
+        return std::any_of(others.begin(), others.end(),
+                           [a](Point b) { return std::abs(a.x - b.x) < 2 && std::abs(a.y - b.y) < 2; });
+    });
+}
+
 /// What must hold of every layout; empty, or what does not.
 std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& requests,
                   const std::vector<PieLabel>& labels) {
@@ -65,6 +85,7 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
         return true;
     };
     std::vector<Rect> taken;
+    const std::vector<Point>* lastLeader[2] = {}; // of the left side, of the right one
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const PieLabel& label = labels[i];
         const PieText& text = requests[i].text;
@@ -75,7 +96,8 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
                                         std::clamp(centre.y, label.box.top, label.box.bottom));
         const Point rim = PointOnPie(area.pie, requests[i].sector.Middle() + area.startAngle, false);
         const auto& leader = label.leader;
-        const bool hasLeader = leader.size() >= 3 && leader.size() <= 4;
+        const bool hasLeader = leader.size() >= 3 && leader.size() <= 12;
+        const std::vector<Point>*& last = lastLeader[hasLeader && leader.back().x >= centre.x];
         const std::pair<bool, const char*> faults[] = {
             {!hasBox && hasLabel, "label without box"},
             {hasLabel && !Within(label.label, label.box), "label leaves its box"},
@@ -98,10 +120,13 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
             {label.outside && hasLeader &&
                  !Within({leader.back().x, leader.back().y, leader.back().x, leader.back().y}, label.box),
              "leader ends elsewhere"},
+            {hasLeader && last != nullptr && Together(leader, *last) > 16, "leaders in a bundle"},
         };
         for (const auto& [isFault, fault] : faults)
             if (isFault)
                 return fault + (" of " + std::to_string(i));
+        if (hasLeader)
+            last = &leader;
         for (const Rect& rect : {label.box, inBox ? Rect{} : label.percent}) {
             for (const Rect& other : taken)
                 if (Meet(rect, other))

@@ -55,6 +55,7 @@ void Pump();
 void ScrollReplay();
 void ScrollLive();
 void GraphPaint(int count);
+void GraphCopy(int count);
 void GraphWindow();
 void GraphBars();
 void GraphAppend();

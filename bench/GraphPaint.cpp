@@ -1,4 +1,5 @@
-// Whole repaints of the graph control: background, grid, axes, labels, legend and 13 series.
+// Whole repaints of the graph control, and copies to the clipboard: background, grid, axes, labels, legend
+// and 13 series.
 
 #include "bench/GraphSeries.h"
 
@@ -14,6 +15,7 @@ constexpr double kYMin = -3;
 constexpr double kYMax = 3;
 constexpr int kStored = 1000000;
 constexpr int kInView = 1000;
+constexpr int kCopies = 5;
 
 } // namespace
 
@@ -53,6 +55,21 @@ void GraphPaint(int count) {
     Row row("graph_paint");
     row.Add("samples", count);
     AddPaints(row, stage.Graph()).Print();
+}
+
+void GraphCopy(int count) {
+    GraphStage stage;
+    stage.Fill(count);
+    CGraphCtrl& graph = stage.Graph();
+    Row row("graph_copy");
+    row.Add("samples", count);
+    AddSpread(row, "us", Time(kCopies, 1, [&] { graph.CopyToClipboard(); }));
+    if (graph.OpenClipboard()) {
+        const auto picture = static_cast<HENHMETAFILE>(::GetClipboardData(CF_ENHMETAFILE));
+        row.Add("bytes", static_cast<int>(::GetEnhMetaFileBits(picture, 0, nullptr)));
+        ::CloseClipboard();
+    }
+    row.Print();
 }
 
 void GraphWindow() {

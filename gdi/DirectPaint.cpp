@@ -128,16 +128,20 @@ private:
 
 } // namespace
 
-bool IsPixelDevice(const CDC& dc) {
+StrokeKind KindOfStrokes(const CDC& dc) {
+    if (::GetROP2(dc.GetSafeHdc()) != R2_COPYPEN || ::GetGraphicsMode(dc.GetSafeHdc()) != GM_COMPATIBLE)
+        return StrokeKind::Mixed;
     const DWORD type = ::GetObjectType(dc.GetSafeHdc());
-    return dc.m_hAttribDC == dc.m_hDC && (type == OBJ_DC || type == OBJ_MEMDC) && dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY &&
-           ::GetROP2(dc.GetSafeHdc()) == R2_COPYPEN && ::GetGraphicsMode(dc.GetSafeHdc()) == GM_COMPATIBLE;
+    const bool isPixels = dc.m_hAttribDC == dc.m_hDC && (type == OBJ_DC || type == OBJ_MEMDC) &&
+                          dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY;
+    return isPixels ? StrokeKind::Pixels : StrokeKind::Recorded;
 }
 
 std::optional<PixelRaster> DirectRaster(const CDC& dc) {
     static const bool isTrusted = Comparison().PaintsAlike();
     const HDC handle = dc.GetSafeHdc();
-    if (!isTrusted || ::GetObjectType(handle) != OBJ_MEMDC || ::GetLayout(handle) != 0 || !IsPixelDevice(dc))
+    if (!isTrusted || ::GetObjectType(handle) != OBJ_MEMDC || ::GetLayout(handle) != 0 ||
+        KindOfStrokes(dc) != StrokeKind::Pixels)
         return std::nullopt;
     std::optional<Pixels> pixels = PixelsOf(static_cast<HBITMAP>(::GetCurrentObject(handle, OBJ_BITMAP)));
     if (!pixels)

@@ -10,9 +10,14 @@
 /// Painting pixels without a GDI call for each stroke.
 namespace kavlix {
 
-/// Whether strokes on `dc` become pixels at once and replace what is there, so that strokes which change no
-/// pixel may be left out. Metafiles and printers are not such, nor is a DC for which another one answers.
-bool IsPixelDevice(const CDC& dc);
+/// What becomes of strokes on a DC.
+enum class StrokeKind {
+    Pixels,   ///< pixels at once, which replace what is there: strokes that change no pixel may be left out
+    Recorded, ///< a metafile or printer keeps them, in units finer than its pixels; they replace what is
+              ///< there
+    Mixed     ///< they are mixed with what is there, or drawn by other rules: each stroke counts
+};
+StrokeKind KindOfStrokes(const CDC& dc);
 
 /// The pixels that `dc` paints into, clipped as it is: where they lie in memory, have 32 bits each and the
 /// platform would paint the same ones. None where GDI must be asked.

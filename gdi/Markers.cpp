@@ -38,9 +38,11 @@ bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y, int half, int 
         DrawPath(dc, {{x, top}, {x, bottom + beyond}});
         DrawPath(dc, {{left, y}, {right + beyond, y}});
         return true;
-    default:
-        return false;
+    case CDataset::MarkerNone:
+    case CDataset::MarkerTypeCount:
+        break; // no default: the compiler asks for the shape of a new type
     }
+    return false;
 }
 
 } // namespace kavlix

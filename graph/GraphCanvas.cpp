@@ -17,7 +17,8 @@ constexpr std::size_t kMostTools = 256; // pens or brushes held at a time
 
 GraphCanvas::GraphCanvas(CDC& dc, const GraphFrame& frame)
     : m_attributes(dc), m_saved(dc), m_dc(dc), m_frame(frame),
-      m_pixels(frame.pixel == 1 && !frame.up && dc.GetMapMode() == MM_TEXT && IsPixelDevice(dc)),
+      m_pixels(frame.pixel == 1 && !frame.up && dc.GetMapMode() == MM_TEXT &&
+               KindOfStrokes(dc) == StrokeKind::Pixels),
       m_hostPen(::GetCurrentObject(dc.m_hDC, OBJ_PEN)), m_hostBrush(::GetCurrentObject(dc.m_hDC, OBJ_BRUSH)),
       m_hostInk(dc.GetTextColor()) {
     m_dc.SetBkMode(TRANSPARENT);

@@ -1,5 +1,6 @@
 #include <kavlix/GraphCtrl.h>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -10,6 +11,13 @@
 #include "graphctrl/SampleStore.h"
 
 namespace kavlix {
+
+namespace {
+
+constexpr int kBeyondPlot =
+    90; // bars are cut this far beyond the plot, where none of it is seen: three pixels
+
+} // namespace
 
 void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSlots& slots, int offset,
                     IndexRange range, const Rect& plot, const LinearMap& yMap, const BarMark* mark) {
@@ -27,6 +35,10 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
             raster->Fill(FilledByRectangle(corners[i], corners[i + 1]), *colour);
         corners.clear();
     };
+    // A metafile's frame holds all that is drawn, seen or not.
+    const auto nearPlot = [&plot](int y) {
+        return std::clamp(y, plot.top - kBeyondPlot, plot.bottom + kBeyondPlot);
+    };
     for (int slot = 0; slot < range.Count(); ++slot) {
         const int index = range.first + slot;
         const double value = samples[index];
@@ -43,10 +55,10 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
             continue;
         const int x = slots.SlotLeft(slot, plot.left) + offset;
         if (isDirect) {
-            corners.push_back({x, *y});
+            corners.push_back({x, nearPlot(*y)});
             corners.push_back({x + slots.barWidth, plot.bottom});
         } else {
-            dc.Rectangle(x, *y, x + slots.barWidth, plot.bottom);
+            dc.Rectangle(x, nearPlot(*y), x + slots.barWidth, plot.bottom);
         }
     }
     if (isDirect)

@@ -30,22 +30,29 @@ void DrawSampleMarker(CDC& dc, CDataset::MarkerType type, int x, int y) {
 }
 
 void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x) {
+    if (x < mark.plot.left - kMarkTriangleRight - kRoundingReach ||
+        x > mark.plot.right - kMarkTriangleLeft + kRoundingReach)
+        return;
     const CPoint position = dc.GetCurrentPosition();
-    POINT triangle[] = {{x + kMarkTriangleTip, mark.top + kMarkTriangleHeight},
-                        {x + kMarkTriangleRight, mark.top},
-                        {x + kMarkTriangleLeft, mark.top}};
+    POINT triangle[] = {{x + kMarkTriangleTip, mark.plot.top + kMarkTriangleHeight},
+                        {x + kMarkTriangleRight, mark.plot.top},
+                        {x + kMarkTriangleLeft, mark.plot.top}};
     CRgn region;
     if (region.CreatePolygonRgn(triangle, 3, ALTERNATE))
         dc.FillRgn(&region, &mark.triangleBrush);
     Select(dc, mark.cursorPen);
-    dc.MoveTo(x, mark.bottom);
-    dc.LineTo(x, mark.top);
+    dc.MoveTo(x, mark.plot.bottom);
+    dc.LineTo(x, mark.plot.top);
     Select(dc, seriesPen);
     dc.MoveTo(position);
 }
 
+int PenWidth(const CDataset& dataset) {
+    return std::clamp(dataset.GetLineSize(), 0, kWidestLine);
+}
+
 int LineReach(const CDataset& dataset) {
-    return kMarkerHalf + dataset.GetLineSize() + kRoundingReach;
+    return kMarkerHalf + PenWidth(dataset) + kRoundingReach;
 }
 
 void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPositions& xPositions,
@@ -109,7 +116,7 @@ void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
     cursorPen.CreatePen(PS_DOT, 0, m_LineCursorColor);
     CPen pens[DatasetCount];
     for (int i = 0; i < DatasetCount; ++i)
-        pens[i].CreatePen(PS_SOLID, m_Datasets[i].GetLineSize(), m_Datasets[i].GetColor());
+        pens[i].CreatePen(PS_SOLID, PenWidth(m_Datasets[i]), m_Datasets[i].GetColor());
     StockAfterGuard brushAfter(dc, NULL_BRUSH);
     StockAfterGuard penAfter(dc, NULL_PEN);
     dc.SelectStockObject(NULL_BRUSH);
@@ -117,8 +124,7 @@ void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
     const CRect& plot = m_rectPlot;
     const LinearMap yMap(m_YVisibleMin, m_YVisibleMax, plot.bottom, -plot.Height());
     const LinearMap y2Map(m_Y2VisibleMin, m_Y2VisibleMax, plot.bottom, -plot.Height());
-    const LineMark mark{m_SelectionMarkPos, static_cast<int>(plot.top), static_cast<int>(plot.bottom),
-                        cursorPen, triangleBrush};
+    const LineMark mark{m_SelectionMarkPos, plot, cursorPen, triangleBrush};
 
     // Dataset 0 comes last and lies on top.
     const bool twoAxis = m_GraphStyle == GraphStyleTwoAxis;

@@ -15,14 +15,17 @@
 /// never ask the window.
 namespace kavlix {
 
+/// Line sizes go from 0 to this, logical units.
+constexpr int kWidestLine = 1000;
+
 /// Where samples stand along the X axis.
 class XPositions {
 public:
     virtual ~XPositions() = default;
     /// Position of sample `index` in logical units, none when it has none.
     virtual std::optional<int> At(int index) const = 0;
-    /// The last sample of `range` up to which all have positions that run one way; none where a sample may have
-    /// no position, or where only a walk could tell.
+    /// The last sample of `range` up to which all have positions that run one way; none where a sample may
+    /// have no position, or where only a walk could tell.
     virtual std::optional<int> RunEnd(IndexRange range) const = 0;
 };
 
@@ -42,11 +45,14 @@ private:
 /// The selection mark of the line styles: a dotted line across the plot with a triangle on top.
 struct LineMark {
     int index = -1; ///< marked sample, -1 for none
-    int top = 0;    ///< of the plot
-    int bottom = 0;
+    const CRect& plot;
     CPen& cursorPen;
     CBrush& triangleBrush;
 };
+
+/// Width of the pen that draws a dataset's line, in logical units: its line size, within what SetLineSize
+/// takes.
+int PenWidth(const CDataset& dataset);
 
 /// How far a line with its markers and the mark reaches beyond the positions of its samples, in logical
 /// units.
@@ -56,7 +62,8 @@ int LineReach(const CDataset& dataset);
 /// position to the sample if there is such a marker.
 void DrawSampleMarker(CDC& dc, CDataset::MarkerType type, int x, int y);
 
-/// Draws the mark at `x`; leaves `seriesPen` selected and the current position as it was.
+/// Draws the mark at `x`, where it can be seen in the plot; leaves `seriesPen` selected and the current
+/// position as it was.
 void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x);
 
 /// Draws the samples `range` of a dataset as a line with markers and, at the marked sample, the mark. Samples
@@ -82,8 +89,8 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
 void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop);
 
 /// Draws the upright texts of an X tick at `x`, `y` being the top of the label band's text: `up` and `down`
-/// side by side, or `up` alone, broken in two when it is longer than `longest` characters. Text colour and font are the
-/// caller's.
+/// side by side, or `up` alone, broken in two when it is longer than `longest` characters. Text colour and
+/// font are the caller's.
 void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest);
 
 } // namespace kavlix

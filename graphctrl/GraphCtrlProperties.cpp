@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "graphctrl/GraphCtrlPainters.h"
+
 BOOL CGraphCtrl::SetColor(int nDataset, COLORREF color) {
     if (!IsDataset(nDataset))
         return FALSE;
@@ -18,10 +20,9 @@ BOOL CGraphCtrl::SetColor(int nDataset, COLORREF color) {
 }
 
 BOOL CGraphCtrl::SetLineSize(int nDataset, int nSize) {
-    constexpr int kWidestLine = 1000;
     if (!IsDataset(nDataset))
         return FALSE;
-    m_Datasets[nDataset].m_LineSize = std::clamp(nSize, 0, kWidestLine);
+    m_Datasets[nDataset].m_LineSize = std::clamp(nSize, 0, kavlix::kWidestLine);
     return TRUE;
 }
 

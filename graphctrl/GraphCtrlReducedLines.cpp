@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <numeric>
+#include <utility>
 
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
+#include "gdi/Markers.h"
 #include "graphctrl/GraphCtrlConvert.h"
-#include "graphctrl/GraphCtrlStrokes.h"
+#include "graphctrl/GraphCtrlRecordedStrokes.h"
 #include "graphctrl/SampleStore.h"
 
 namespace kavlix {
@@ -36,6 +39,13 @@ bool IsInside(const Rect& rect, const CRect& outer) {
            rect.bottom <= outer.bottom;
 }
 
+/// The units from where pixel `first` of `pixels` begins to where pixel `end` begins, counted from 0.
+PixelEdges UnitsOf(const PixelEdges& pixels, int first, int end) {
+    std::vector<int> edges(static_cast<std::size_t>(pixels.Edge(end) - pixels.Edge(first)) + 1);
+    std::iota(edges.begin(), edges.end(), pixels.Edge(first));
+    return PixelEdges(pixels.Edge(first), std::move(edges));
+}
+
 } // namespace
 
 /// One line while it is drawn.
@@ -44,31 +54,61 @@ public:
     Line(const ReducedLines& lines, const CDataset& dataset, const LinearMap& yMap)
         : m_lines(lines), m_dc(lines.m_dc), m_samples(dataset.Samples()), m_values(m_samples),
           m_marker(dataset.GetMarkerType()), m_yMap(yMap),
-          m_penPixels(PenPixels(lines.m_dc, dataset.GetLineSize())),
-          m_colour(m_penPixels == 1 && lines.m_raster ? DirectColour(dataset.GetColor()) : std::nullopt) {}
-
-    bool HasMarkers() const {
-        return m_marker >= CDataset::MarkerSquare && m_marker <= CDataset::MarkerCross;
+          m_penPixels(PenPixels(lines.m_dc, PenWidth(dataset))),
+          m_colour(m_penPixels == 1 && lines.m_raster ? DirectColour(dataset.GetColor()) : std::nullopt) {
+        if (lines.m_kind == StrokeKind::Recorded)
+            m_recorded.emplace(Ground(), ToRect(lines.m_seen), m_penPixels);
     }
 
     /// Draws the samples `first` to `last`, with their markers. With `joined` the line comes from the sample
     /// before.
     void Draw(int first, int last, bool joined) {
-        const LineGround ground{m_dc, m_lines.m_columnEdges, m_lines.m_rowEdges, m_yMap};
-        if (m_colour) {
+        if (m_recorded) {
+            ForColumns(first, last, [this](const PixelColumn& column) {
+                m_recorded->AddColumn(m_samples, m_values, column);
+            });
+            m_recorded->Pause();
+        } else if (m_colour) {
             ::GdiFlush(); // what was asked of GDI before comes first
-            DrawLine(DirectStrokes(ground, *m_lines.m_raster, *m_colour), first, last, joined);
+            DrawLine(DirectStrokes(Ground(), *m_lines.m_raster, *m_colour), first, last, joined);
         } else {
-            DrawLine(GdiStrokes(ground, m_lines.m_plot, m_penPixels), first, last, joined);
+            DrawLine(GdiStrokes(Ground(), m_lines.m_plot, m_penPixels), first, last, joined);
         }
-        if (HasMarkers())
-            for (auto column = ColumnOf(first); column != m_lines.m_columns.end() && column->first <= last;
-                 ++column)
-                DrawMarkers(Cut(*column, first, last));
+        if (HasShape(m_marker))
+            ForColumns(first, last, [this](const PixelColumn& column) { DrawMarkers(column); });
+    }
+
+    /// Draws samples whose positions follow no order, where strokes are recorded.
+    void RecordInAnyOrder(int first, int last) {
+        const auto isSeen = [&](int x, int y) {
+            return m_lines.m_placeColumns.Holds(x) && m_lines.m_placeRows.Holds(y);
+        };
+        for (int i = first; i <= last; ++i) {
+            const double value = m_values[i];
+            const std::optional<int> x = m_lines.m_xPositions.At(i);
+            const std::optional<int> y = m_yMap.Position(value);
+            if (!x || !y) {
+                m_recorded->End();
+                continue;
+            }
+            m_recorded->Add(value, *x);
+            if (HasShape(m_marker) && isSeen(*x, *y))
+                DrawSampleMarker(m_dc, m_marker, *x, *y);
+        }
+        m_recorded->Pause();
     }
 
 private:
     using Columns = std::vector<PixelColumn>::const_iterator;
+
+    LineGround Ground() const { return {m_dc, m_lines.m_columnEdges, m_lines.m_rowEdges, m_yMap}; }
+
+    /// Calls `visit(column)` for the columns that the samples `first` to `last` have, cut to these.
+    template <class Visit> void ForColumns(int first, int last, Visit visit) const {
+        const Columns end = m_lines.m_columns.end();
+        for (Columns column = ColumnOf(first); column != end && column->first <= last; ++column)
+            visit(Cut(*column, first, last));
+    }
 
     /// The first column with samples not before `first`.
     Columns ColumnOf(int first) const {
@@ -182,7 +222,9 @@ private:
 
     /// Draws the markers of a column, one for each row that has a sample.
     void DrawMarkers(const PixelColumn& column) {
-        const PixelEdges& rows = m_lines.m_rowEdges;
+        if (!m_lines.m_placeColumns.Holds(column.position))
+            return;
+        const PixelEdges& rows = m_lines.m_placeRows;
         const int count = rows.Count();
         m_rowDone.assign(static_cast<std::size_t>(count), false);
         // Rows beyond the edges are done from the start: nothing of their markers can be seen.
@@ -223,12 +265,14 @@ private:
     LinearMap m_yMap;
     int m_penPixels;
     std::optional<std::uint32_t> m_colour; ///< where pixels are painted directly
+    std::optional<RecordedStrokes> m_recorded;
     std::vector<bool> m_rowDone;
 };
 
 ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositions& xPositions,
                            const IndexRange* ranges, int count)
-    : m_dc(dc), m_xPositions(xPositions), m_plot(ToDeviceWithEdges(dc, plot)) {
+    : m_dc(dc), m_xPositions(xPositions), m_plot(ToDeviceWithEdges(dc, plot)), m_seen(m_plot),
+      m_kind(KindOfStrokes(dc)) {
     IndexRange all;
     for (int i = 0; i < count; ++i) {
         if (ranges[i].IsEmpty())
@@ -237,41 +281,62 @@ ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositio
                   ? ranges[i]
                   : IndexRange{std::min(all.first, ranges[i].first), std::max(all.last, ranges[i].last)};
     }
-    CRect seen = m_plot;
-    seen.InflateRect(reach / kUnitsPerPixel + 1, reach / kUnitsPerPixel + 1);
-    if (all.IsEmpty() || !IsPixelDevice(dc) || !xPositions.RunEnd(all) ||
-        !FindPixelEdges(dc, seen, m_columnEdges, m_rowEdges))
+    m_seen.InflateRect(reach / kUnitsPerPixel + 1, reach / kUnitsPerPixel + 1);
+    const int margin = m_kind == StrokeKind::Recorded ? RecordedStrokes::kMargin : 0;
+    CRect known = m_seen;
+    known.InflateRect(margin, margin);
+    if (all.IsEmpty() || m_kind == StrokeKind::Mixed ||
+        !FindPixelEdges(dc, known, m_columnEdges, m_rowEdges)) {
+        m_kind = StrokeKind::Mixed;
         return;
+    }
+    if (m_kind == StrokeKind::Recorded) {
+        m_placeColumns = UnitsOf(m_columnEdges, margin, m_columnEdges.Count() - margin);
+        m_placeRows = UnitsOf(m_rowEdges, margin, m_rowEdges.Count() - margin);
+    } else {
+        m_placeColumns = m_columnEdges;
+        m_placeRows = m_rowEdges;
+    }
     m_columns = GroupRunsByColumn(
-        all, m_columnEdges, [&](IndexRange rest) { return xPositions.RunEnd(rest); },
+        all, m_placeColumns, [&](IndexRange rest) { return xPositions.RunEnd(rest); },
         [&](int index) { return xPositions.At(index).value_or(0); });
     m_raster = DirectRaster(dc);
-    if (m_raster && !IsInside(m_raster->Clip(), seen))
+    if (m_raster && !IsInside(m_raster->Clip(), m_seen))
         m_raster.reset();
 }
 
 bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMap, IndexRange range,
                         const LineMark& mark) const {
-    if (m_columns.empty() || range.IsEmpty() || range.first < 0 || range.last >= CountOf(dataset) ||
-        pen.GetSafeHandle() == nullptr || !yMap.IsMonotonic())
+    const bool isRecorded = m_kind == StrokeKind::Recorded;
+    const bool isInOrder = !m_columns.empty() && yMap.IsMonotonic();
+    if (m_kind == StrokeKind::Mixed || !(isInOrder || isRecorded) || range.IsEmpty() || range.first < 0 ||
+        range.last >= CountOf(dataset) || pen.GetSafeHandle() == nullptr)
         return false;
-    Line line(*this, dataset, yMap);
     // A marker moves with its sample by whole pixels only where all pixels are alike.
-    if (line.HasMarkers() && (!m_columnEdges.IsRegular() || !m_rowEdges.IsRegular()))
+    if (!isRecorded && HasShape(dataset.GetMarkerType()) &&
+        (!m_columnEdges.IsRegular() || !m_rowEdges.IsRegular()))
         return false;
     Select(m_dc, pen);
 
+    Line line(*this, dataset, yMap);
+    const auto draw = [&](int first, int last, bool joined) {
+        if (isInOrder)
+            line.Draw(first, last, joined);
+        else
+            line.RecordInAnyOrder(first, last);
+    };
     const int marked = mark.index;
     const bool hasMark =
         marked >= range.first && marked <= range.last && !std::isnan(dataset.Samples()[marked]);
-    if (!hasMark) {
-        line.Draw(range.first, range.last, false);
+    const std::optional<int> markX = hasMark ? m_xPositions.At(marked) : std::nullopt;
+    if (!markX) {
+        draw(range.first, range.last, false);
         return true;
     }
     // What comes before the mark lies under it, what comes after lies over it.
-    line.Draw(range.first, marked - 1, false);
-    DrawMark(m_dc, mark, pen, m_xPositions.At(marked).value_or(0));
-    line.Draw(marked, range.last, marked > range.first);
+    draw(range.first, marked - 1, false);
+    DrawMark(m_dc, mark, pen, *markX);
+    draw(marked, range.last, marked > range.first);
     return true;
 }
 

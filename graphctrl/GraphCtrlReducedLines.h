@@ -12,8 +12,8 @@ namespace kavlix {
 
 /// Draws the lines of a paint at the cost of the pixels, not of the samples. On screen and in pictures in
 /// memory the result is that of DrawSeriesLine, pixel for pixel: of the samples in one pixel column only the
-/// first, lowest, highest and last can change a pixel. Where that does not hold, Draw leaves the line to the
-/// caller.
+/// first, lowest, highest and last can change a pixel. A metafile or printer gets the same strokes as from
+/// DrawSeriesLine by way of RecordedStrokes. Where that does not hold, Draw leaves the line to the caller.
 class ReducedLines {
 public:
     /// @param plot in logical units; the DC is clipped to it
@@ -33,10 +33,15 @@ private:
     CDC& m_dc;
     const XPositions& m_xPositions;
     CRect m_plot; ///< device units, edges included
+    CRect m_seen; ///< device units: the plot, and as far beyond it as lines and markers reach
+    StrokeKind m_kind;
     std::optional<PixelRaster> m_raster;
     PixelEdges m_columnEdges;
     PixelEdges m_rowEdges;
-    std::vector<PixelColumn> m_columns; ///< empty when positions must be walked
+    // What is told apart: pixels, or logical units where strokes are recorded.
+    PixelEdges m_placeColumns;
+    PixelEdges m_placeRows;
+    std::vector<PixelColumn> m_columns; ///< of places; empty when positions must be walked
 };
 
 } // namespace kavlix

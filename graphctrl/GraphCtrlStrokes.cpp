@@ -1,19 +1,22 @@
 #include "graphctrl/GraphCtrlStrokes.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/SeriesReduction.h"
+#include "graphctrl/StrokeCut.h"
 
 namespace kavlix {
 
 namespace {
 
 constexpr std::size_t kMostPoints = 8192;
+constexpr int kFar = 1 << 18; // logical units
 
 } // namespace
 
-/// The line comes from where no pixel is known or goes there.
+/// The previous or next point lies outside the pixel tables, so its pixel is unknown.
 void DirectStrokes::GoFar(double value, const PixelColumn& column, int row) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return from == to && !edges.HasPixel(from);
@@ -79,8 +82,18 @@ void GdiStrokes::DrawPart() {
 
     CRect view = m_plot;
     view.InflateRect(SeriesReduction::Reach(m_penPixels), SeriesReduction::Reach(m_penPixels));
-    SeriesReduction reduction(ToRect(view),
-                              [this](const Point* points, int count) { Stroke(points, count); });
+    std::vector<POINT> line;
+    SeriesReduction reduction(ToRect(view), [&](const Point* points, int count) {
+        if (m_penPixels > 1) {
+            DrawWide(ToRect(view), points, count);
+            return;
+        }
+        line.resize(static_cast<std::size_t>(count));
+        std::transform(points, points + count, line.begin(), [](const Point& point) {
+            return POINT{point.x, point.y};
+        });
+        m_ground.dc.Polyline(line.data(), count);
+    });
     for (std::size_t i = 0; i < m_points.size(); ++i) {
         // With some pens a stroke of no length is a dot: none is drawn.
         if (i == 0 || !(m_pixels[i] == m_pixels[i - 1]))
@@ -92,18 +105,33 @@ void GdiStrokes::DrawPart() {
     m_far.clear();
 }
 
-void GdiStrokes::Stroke(const Point* points, int count) const {
-    if (m_penPixels > 1) { // the region of a whole wide polyline costs more than its strokes one by one
-        m_ground.dc.MoveTo(points[0].x, points[0].y);
-        for (int i = 1; i < count; ++i)
-            m_ground.dc.LineTo(points[i].x, points[i].y);
-        return;
+/// The region of a whole wide polyline costs more than its strokes one by one, and that of a stroke what its
+/// length costs, seen or not.
+void GdiStrokes::DrawWide(const Rect& view, const Point* points, int count) const {
+    CDC& dc = m_ground.dc;
+    const auto isFar = [](const POINT& point) {
+        return std::max(std::abs(point.x), std::abs(point.y)) > kFar;
+    };
+    const auto bringNearer = [&](const POINT& from, POINT& farEnd) {
+        POINT ends[2] = {from, farEnd};
+        dc.LPtoDP(ends, 2);
+        const Point begin = ToPoint(ends[0]);
+        const Point end = NearerEnd(begin, ToPoint(ends[1]), 2 * StepsAcross(view, begin));
+        if (end == ToPoint(ends[1]))
+            return;
+        farEnd = {end.x, end.y};
+        dc.DPtoLP(&farEnd);
+    };
+    for (int i = 1; i < count; ++i) {
+        POINT from = {points[i - 1].x, points[i - 1].y};
+        POINT to = {points[i].x, points[i].y};
+        if (isFar(from) && !isFar(to))
+            bringNearer(to, from);
+        else if (isFar(to) && !isFar(from))
+            bringNearer(from, to);
+        dc.MoveTo(from);
+        dc.LineTo(to);
     }
-    std::vector<POINT> line(static_cast<std::size_t>(count));
-    std::transform(points, points + count, line.begin(), [](const Point& point) {
-        return POINT{point.x, point.y};
-    });
-    m_ground.dc.Polyline(line.data(), count);
 }
 
 } // namespace kavlix

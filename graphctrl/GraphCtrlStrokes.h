@@ -77,7 +77,7 @@ public:
 
 private:
     void DrawPart();
-    void Stroke(const Point* points, int count) const;
+    void DrawWide(const Rect& view, const Point* points, int count) const;
 
     LineGround m_ground;
     CRect m_plot;

@@ -3,15 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "graphctrl/PixelLine.h"
+
 namespace kavlix {
-
-namespace {
-
-std::int64_t CeilDivide(std::int64_t value, std::int64_t divisor) {
-    return value > 0 ? (value + divisor - 1) / divisor : -(-value / divisor);
-}
-
-} // namespace
 
 PixelRaster::PixelRaster(std::uint32_t* origin, std::ptrdiff_t stride, const Rect& clip)
     : m_origin(origin), m_stride(stride), m_clip(clip) {
@@ -69,51 +63,23 @@ void PixelRaster::Stroke(const Point& from, const Point& to, std::uint32_t colou
             Run(from.x, to.y + 1, from.y, colour);
         return;
     }
-    // Along the longer direction there is one pixel for each step; across it, the line moves on where it is
-    // nearer to the next pixel. Halfway it goes to the smaller coordinate.
-    const std::int64_t dx = std::int64_t{to.x} - from.x;
-    const std::int64_t dy = std::int64_t{to.y} - from.y;
-    const bool isSteep = std::llabs(dy) > std::llabs(dx);
-    const std::int64_t along = isSteep ? std::llabs(dy) : std::llabs(dx);
-    const std::int64_t across = isSteep ? std::llabs(dx) : std::llabs(dy);
-    const bool alongDown = (isSteep ? dy : dx) < 0;
-    const bool acrossDown = (isSteep ? dx : dy) < 0;
-    const std::int64_t atHalf = acrossDown ? 0 : 1;
-
-    // Steps of the longer direction that lie inside the clip, then those whose cross position does.
-    const std::int64_t start = isSteep ? from.y : from.x;
-    const std::int64_t clipLow = isSteep ? m_clip.top : m_clip.left;
-    const std::int64_t clipHigh = isSteep ? m_clip.bottom : m_clip.right; // not included
-    std::int64_t first = std::max<std::int64_t>(alongDown ? start - clipHigh + 1 : clipLow - start, 0);
-    std::int64_t end = std::min(alongDown ? start - clipLow + 1 : clipHigh - start, along);
-
-    const std::int64_t crossStart = isSteep ? from.x : from.y;
-    const std::int64_t crossLow = isSteep ? m_clip.left : m_clip.top;
-    const std::int64_t crossHigh = isSteep ? m_clip.right : m_clip.bottom;
-    const std::int64_t firstMove = acrossDown ? crossStart - crossHigh + 1 : crossLow - crossStart;
-    const std::int64_t endMove = acrossDown ? crossStart - crossLow + 1 : crossHigh - crossStart;
-    if (endMove <= 0 || firstMove > across)
+    const PixelLine line(from, to);
+    std::int64_t first = 0;
+    std::int64_t end = 0;
+    if (!line.FindInside(m_clip, first, end))
         return;
-    // The first step at which the line has moved `moves` pixels across.
-    const auto stepOf = [&](std::int64_t moves) {
-        return CeilDivide((2 * moves - 1) * along + atHalf, 2 * across);
-    };
-    if (firstMove > 0)
-        first = std::max(first, stepOf(firstMove));
-    if (endMove <= across)
-        end = std::min(end, stepOf(endMove));
-    if (first >= end)
-        return;
+    const std::int64_t along = line.Steps();
+    const std::int64_t across = line.Moves();
 
-    const std::ptrdiff_t alongStep = (isSteep ? m_stride : 1) * (alongDown ? -1 : 1);
-    const std::ptrdiff_t acrossStep = (isSteep ? 1 : m_stride) * (acrossDown ? -1 : 1);
+    const std::ptrdiff_t alongStep = (line.IsSteep() ? m_stride : 1) * (line.StepsDown() ? -1 : 1);
+    const std::ptrdiff_t acrossStep = (line.IsSteep() ? 1 : m_stride) * (line.MovesDown() ? -1 : 1);
     const auto place = [&](std::int64_t step, std::int64_t moves) {
         const std::int64_t offset =
             m_stride * std::int64_t{from.y} + from.x + alongStep * step + acrossStep * moves;
         return m_origin + static_cast<std::ptrdiff_t>(offset);
     };
     if (across == 1) { // two runs
-        const std::int64_t change = std::clamp(stepOf(1), first, end);
+        const std::int64_t change = std::clamp(line.StepOf(1), first, end);
         const auto run = [&](std::int64_t step, std::int64_t runEnd, std::int64_t moves) {
             if (step == runEnd)
                 return;
@@ -126,7 +92,7 @@ void PixelRaster::Stroke(const Point& from, const Point& to, std::uint32_t colou
         run(change, end, 1);
         return;
     }
-    std::int64_t error = 2 * first * across + along - atHalf;
+    std::int64_t error = 2 * first * across + along - line.AtHalf();
     const std::int64_t moves = error / (2 * along);
     error -= moves * 2 * along;
     std::uint32_t* pixel = place(first, moves);

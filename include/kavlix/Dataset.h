@@ -24,7 +24,8 @@ public:
         MarkerDiamond = 2,  ///< outline of a square standing on its corner
         MarkerTriangle = 3, ///< outline of a triangle pointing up
         MarkerCircle = 4,   ///< outline of a circle
-        MarkerCross = 5     ///< upright cross
+        MarkerCross = 5,    ///< upright cross
+        MarkerTypeCount     ///< how many types there are; draws nothing
     };
 
     /// An empty, visible series: colour RGB(204,58,183), no marker, line size 0, no legend text.
@@ -74,7 +75,7 @@ private:
 public:
     COLORREF m_Color;        ///< line, bar and marker colour
     MarkerType m_MarkerType; ///< marker at each point; stored as given
-    int m_LineSize;          ///< pen width in logical units, 0 for one pixel
+    int m_LineSize;          ///< pen width in logical units, 0 for one pixel; drawn as 0 to 1000
     CString m_Legend;        ///< text of the legend row, empty for none
     BOOL m_Visible;          ///< whether the series is drawn
 };

@@ -5,6 +5,7 @@
 #include <random>
 #include <vector>
 
+#include "graphctrl/StrokeCut.h"
 #include "graphctrl/ThinLine.h"
 
 namespace kavlix {
@@ -87,6 +88,43 @@ TEST(PixelRasterTest, LinesFromFarAwayKeepTheirPixels) {
         EXPECT_EQ(at(each.on), kInk) << each.from.x << " on";
         EXPECT_EQ(at(each.off), 0u) << each.from.x << " off";
     }
+}
+
+TEST(StrokeCutTest, NearStrokesPaintWhatTheFarOnePaints) {
+    std::mt19937 random(8);
+    const auto within = [&](int low, int high) {
+        return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
+    };
+    const Rect windows[] = {{0, 0, kSide, kSide}, {3, 17, 38, 22}, {20, 2, 21, 39}};
+    std::vector<Point> cut;
+    std::size_t strokes = 0, pieces = 0;
+    for (int round = 0; round < 60000; ++round) {
+        // From inside to far away, and from far to far through a place inside; now and then nearly level.
+        const Rect& window = windows[round % 3];
+        const int far = 1 << within(3, 27), margin = within(1, 30);
+        const Point at{within(-2, kSide + 2), within(-2, kSide + 2)};
+        const Point way{within(-far, far), round % 7 == 0 ? within(-3, 3) : within(-far, far)};
+        const Point from =
+            round % 4 == 0 ? at : Point{at.x - way.x + within(-9, 9), at.y - way.y + within(-9, 9)};
+        const Point to = round % 4 == 1 ? at : Point{at.x + way.x, at.y + way.y};
+        Picture whole(kSide * kSide), parts(kSide * kSide);
+        PixelRaster(whole.data(), kSide, window).Stroke(from, to, kInk);
+        CutStroke(PixelLine(from, to), window, margin, cut);
+        for (std::size_t i = 0; i < cut.size(); ++i) {
+            ASSERT_TRUE(cut[i] == from || cut[i] == to ||
+                        (cut[i].x >= window.left - margin && cut[i].x < window.right + margin &&
+                         cut[i].y >= window.top - margin && cut[i].y < window.bottom + margin))
+                << "round " << round;
+            if (i > 0)
+                PixelRaster(parts.data(), kSide, window).Stroke(cut[i - 1], cut[i], kInk);
+        }
+        ASSERT_EQ(parts, whole) << "round " << round;
+        ASSERT_EQ(cut.empty(), std::find(whole.begin(), whole.end(), kInk) == whole.end())
+            << "round " << round;
+        strokes += !cut.empty();
+        pieces += cut.empty() ? 0 : cut.size() - 1;
+    }
+    EXPECT_LT(pieces, strokes * 3) << "pixel by pixel would serve nobody who enlarges the picture";
 }
 
 TEST(PixelRasterTest, DotsCountFromTheLinesFirstPixelWhereverItLies) {

@@ -79,6 +79,34 @@ struct Cost {
     }
 };
 
+/// Plays a metafile's records in the mapping that `dc` has, in which GDI computes as for the screen.
+void Replay(HENHMETAFILE picture, HDC dc) {
+    const auto play = [](HDC, HANDLETABLE* table, const ENHMETARECORD* record, int handles, LPARAM to) {
+        const HDC target = reinterpret_cast<HDC>(to);
+        if (record->iType == EMR_EXTSELECTCLIPRGN) {
+            const auto* clip = reinterpret_cast<const EMREXTSELECTCLIPRGN*>(record);
+            const HRGN region = clip->cbRgnData == 0
+                                    ? nullptr
+                                    : ::ExtCreateRegion(nullptr, clip->cbRgnData,
+                                                        reinterpret_cast<const RGNDATA*>(clip->RgnData));
+            ::ExtSelectClipRgn(target, region, static_cast<int>(clip->iMode));
+            ::DeleteObject(region);
+        } else if (record->iType == EMR_RECTANGLE ||
+                   record->iType == EMR_ELLIPSE) { // without right and bottom edge
+            const RECTL& box = reinterpret_cast<const EMRRECTANGLE*>(record)->rclBox;
+            (record->iType == EMR_ELLIPSE ? ::Ellipse : ::Rectangle)(target, box.left, box.top, box.right + 1,
+                                                                     box.bottom + 1);
+        } else if (record->iType < EMR_SETWINDOWEXTEX || record->iType > EMR_SETVIEWPORTORGEX) {
+            if (record->iType != EMR_SETMAPMODE && record->iType != EMR_HEADER)
+                ::PlayEnhMetaFileRecord(target, table, record, static_cast<UINT>(handles));
+        }
+        return 1;
+    };
+    const int state = ::SaveDC(dc);
+    ::EnumEnhMetaFile(nullptr, picture, play, reinterpret_cast<void*>(dc), nullptr);
+    ::RestoreDC(dc, state);
+}
+
 /// Pictures of one size: what is compared, and the DC of a bitmap without pixels in reach.
 class Pictures {
 public:
@@ -97,7 +125,7 @@ public:
         ::ReleaseDC(nullptr, m_screen);
     }
 
-    /// Empty when the shortcuts' pictures, by pixels and by GDI, are the plain one.
+    /// Empty when the shortcuts' pictures, by pixels, by GDI and from a metafile, are the plain one.
     template <class Graph> std::string Compare(Graph& graph) {
         graph.isPlain = true;
         graph.Paint(slow.Dc());
@@ -109,12 +137,38 @@ public:
         ::BitBlt(drawn.Dc(), 0, 0, m_size.cx, m_size.cy, m_dc, 0, 0, SRCCOPY);
         const std::string pixels = testkit::Difference(fast, slow),
                           strokes = testkit::Difference(drawn, slow);
-        return (pixels.empty() ? "" : "pixels: " + pixels) + (strokes.empty() ? "" : " strokes: " + strokes);
+        const HDC recording = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, nullptr);
+        graph.Paint(recording);
+        const HENHMETAFILE metafile = ::CloseEnhMetaFile(recording);
+        Replay(metafile, fast.Dc());
+        CRect plot = graph.m_rectPlot; // texts have pixels of their own
+        ::LPtoDP(fast.Dc(), reinterpret_cast<POINT*>(&plot), 2);
+        // Where a wide stroke from far away is cut, its edges may be rounded otherwise.
+        const std::string records =
+            (graph.ReachesFarWithAWidePen() ? "" : testkit::Difference(fast, slow, plot)) +
+            FrameFaults(metafile);
+        ::DeleteEnhMetaFile(metafile);
+        return (pixels.empty() ? "" : "pixels: " + pixels) + (strokes.empty() ? "" : " strokes: " + strokes) +
+               (records.empty() ? "" : " records: " + records);
     }
 
     testkit::DibSurface fast, slow, drawn;
 
 private:
+    /// Empty when the picture's frame is about the size of the window.
+    std::string FrameFaults(HENHMETAFILE picture) const {
+        constexpr int kBeyond = 100; // texts may reach beyond the window
+        ENHMETAHEADER header = {};
+        ::GetEnhMetaFileHeader(picture, sizeof header, &header);
+        const RECTL& bounds = header.rclBounds;
+        if (bounds.left >= -kBeyond && bounds.top >= -kBeyond && bounds.right < m_size.cx + kBeyond &&
+            bounds.bottom < m_size.cy + kBeyond)
+            return "";
+        std::ostringstream told;
+        told << " frame " << bounds.left << "," << bounds.top << "," << bounds.right << "," << bounds.bottom;
+        return told.str();
+    }
+
     CSize m_size;
     HDC m_screen, m_dc;
     HBITMAP m_bitmap;

@@ -126,6 +126,27 @@ template <class Control> void Graph<Control>::Walk(CDC& dc) {
     ::SelectObject(dc.GetSafeHdc(), brush);
 }
 
+template <class Control> bool Graph<Control>::ReachesFarWithAWidePen() const {
+    CRect close = m_rectPlot;
+    close.InflateRect(900, 900);
+    for (int i = 0; i < CGraphCtrl::DatasetCount; ++i) {
+        const CDataset& dataset = m_Datasets[i];
+        const bool isY2 = m_GraphStyle == CGraphCtrl::GraphStyleTwoAxis && i == 1;
+        const Scale y{isY2 ? m_Y2VisibleMin : m_YVisibleMin, isY2 ? m_Y2VisibleMax : m_YVisibleMax,
+                      m_rectPlot.bottom, -m_rectPlot.Height()};
+        int first = 0, last = -1;
+        if (dataset.m_Visible && dataset.GetLineSize() >= 45)
+            Range(dataset.GetSize(), first, last);
+        for (int k = first; k <= last; ++k) {
+            double value = 0;
+            dataset.GetYData(k, value);
+            if (!close.PtInRect(CPoint(PlaceOf(k).value_or(close.left), y.Place(value).value_or(close.top))))
+                return true;
+        }
+    }
+    return false;
+}
+
 template <> void Graph<CGraphCtrl>::Range(int size, int& first, int& last) const {
     first = 0;
     last = size - 1;

@@ -58,6 +58,9 @@ public:
         this->DrawGraph(*dc);
     }
 
+    /// Whether a sample that is drawn with a wide pen lies more than 30 pixels beyond the plot.
+    bool ReachesFarWithAWidePen() const;
+
     /// Where the scrolling graph's view begins, x units.
     double& ViewPos();
 

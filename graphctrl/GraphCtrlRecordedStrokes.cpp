@@ -1,0 +1,240 @@
+#include "graphctrl/GraphCtrlRecordedStrokes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "gdi/Mapping.h"
+#include "graphctrl/GraphCtrlConvert.h"
+#include "graphctrl/StrokeCut.h"
+
+namespace kavlix {
+
+namespace {
+
+constexpr std::size_t kMostPoints = 8192;
+/// Players of metafiles compute positions in another arithmetic: points that are chosen here keep so many
+/// units from the edges of their pixel.
+constexpr int kEdgeInset = 2;
+
+Point ToPixel(const CDC& dc, const Point& point) {
+    POINT pixel = {point.x, point.y};
+    dc.LPtoDP(&pixel);
+    return ToPoint(pixel);
+}
+
+/// `position` moved into the pixel that begins at edge `k`.
+int Into(const PixelEdges& edges, int pixel, double position) {
+    const int k = pixel - edges.Before() - 1;
+    return TruncateToInt(std::round(position), edges.Edge(k) + kEdgeInset,
+                         edges.Edge(k + 1) - 1 - kEdgeInset);
+}
+
+int Middle(const PixelEdges& edges, int pixel) {
+    const int k = pixel - edges.Before() - 1;
+    return (edges.Edge(k) + edges.Edge(k + 1)) / 2;
+}
+
+} // namespace
+
+/// Whether two samples beyond the same edges, whose pixels are not known, fall on one pixel.
+bool RecordedStrokes::IsSameFarPixel(const Sample& a, const Sample& b) const {
+    const Point from = Place(a.x, a.value);
+    const Point to = Place(b.x, b.value);
+    if (std::abs(from.x - to.x) > kUnitsPerPixel || std::abs(from.y - to.y) > kUnitsPerPixel)
+        return false;
+    return ToPixel(m_ground.dc, from) == ToPixel(m_ground.dc, to);
+}
+
+/// The first of the samples up to `last`, not before `first`, that all fall on the pixel of the last one.
+int RecordedStrokes::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first,
+                                  int last) const {
+    const double value = values[last];
+    if (last == first || !IsSamePixel(values[last - 1], value))
+        return last;
+    const int row = m_rows.Of(value);
+    return samples.FindLast(
+               first, last,
+               [&](const Extremes& block) {
+                   return HasPixel(m_pixel, row) && m_rows.Of(block.low) == row &&
+                          m_rows.Of(block.high) == row;
+               },
+               [&](double other) { return !IsSamePixel(value, other); }) +
+           1;
+}
+
+/// Adds a column without a look at each of its samples: the first and the last two that the pixel rule keeps,
+/// and the lowest and highest. False, nothing added, where that does not do: at gaps, and where the rule
+/// leaves an extreme out.
+bool RecordedStrokes::AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first,
+                                  int last) {
+    const Extremes extremes = samples.ExtremesOf(first, last);
+    if (extremes.HasGap())
+        return false;
+    if (m_isOpen && m_pixel == m_keptPixel && HasPixel(m_pixel, m_keptRow) &&
+        m_rows.Of(extremes.low) == m_keptRow && m_rows.Of(extremes.high) == m_keptRow)
+        return true;
+    const int end = BeginOfPixel(samples, values, first, last);
+    if (end == first)
+        return false;
+    const int before = BeginOfPixel(samples, values, first, end - 1);
+    // From the end on, since that is where the last two were looked for.
+    int highest = first - 1;
+    int lowest = first - 1;
+    for (int i = before; i >= first && (highest < first || lowest < first); --i) {
+        const double value = values[i];
+        if (value == extremes.high && highest < first)
+            highest = i;
+        if (value == extremes.low && lowest < first)
+            lowest = i;
+    }
+    const auto isKept = [&](int i) { return i > first && !IsSamePixel(values[i - 1], values[i]); };
+    if (!isKept(highest) || !isKept(lowest))
+        return false;
+    int taken = first;
+    while (!TakeUnlessOnKeptPixel(values[taken]))
+        ++taken;
+    for (const int i : {std::min(lowest, highest), std::max(lowest, highest), before, end}) {
+        if (i > taken) {
+            Keep(values[i], m_rows.Of(values[i]));
+            taken = i;
+        }
+    }
+    return true;
+}
+
+void RecordedStrokes::Keep(double value, int row) {
+    if (!m_isOpen || m_x != m_keptX)
+        DrawColumn(false);
+    if (m_count == 0) {
+        m_first = value;
+        m_low = m_high = {value, 0};
+    } else {
+        if (m_last < m_low.value)
+            m_low = {m_last, m_count - 1};
+        if (m_last > m_high.value)
+            m_high = {m_last, m_count - 1};
+        m_before = m_last;
+    }
+    ++m_count;
+    m_last = value;
+    m_keptX = m_x;
+    m_keptPixel = m_pixel;
+    m_keptRow = row;
+    m_isOpen = true;
+}
+
+/// Draws what the column has. The last stroke of a line is drawn as it is, since it leaves its last pixel
+/// out, at whatever size the picture is shown.
+void RecordedStrokes::DrawColumn(bool isEnd) {
+    if (m_count == 0)
+        return;
+    To(Place(m_keptX, m_first));
+    const bool isLowFirst = m_low.order < m_high.order;
+    for (const Kept& kept : {isLowFirst ? m_low : m_high, isLowFirst ? m_high : m_low})
+        if (kept.order > 0)
+            To(Place(m_keptX, kept.value));
+    if (isEnd && m_count > 2)
+        To(Place(m_keptX, m_before));
+    if (m_count > 1)
+        To(Place(m_keptX, m_last));
+    m_count = 0;
+}
+
+void RecordedStrokes::Pause() {
+    DrawColumn(true);
+    DrawPart();
+    if (m_hasEnd && IsNear(m_end))
+        m_points.push_back({m_end.x, m_end.y});
+}
+
+void RecordedStrokes::End() {
+    DrawColumn(true);
+    DrawPart();
+    m_hasEnd = false;
+    m_isOpen = false;
+}
+
+void RecordedStrokes::To(const Point& point) {
+    const bool isNear = IsNear(point);
+    if (m_hasEnd && point == m_end)
+        return;
+    if (m_hasEnd && !(isNear && IsNear(m_end)))
+        ToFar(point);
+    if (isNear && (m_points.empty() || m_points.back().x != point.x || m_points.back().y != point.y))
+        m_points.push_back({point.x, point.y});
+    m_end = point;
+    m_hasEnd = true;
+    if (m_points.size() >= kMostPoints) {
+        DrawPart();
+        m_points.push_back({point.x, point.y});
+    }
+}
+
+/// The line comes from far away or goes there.
+void RecordedStrokes::ToFar(const Point& point) {
+    const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
+        return (from < edges.Begin() && to < edges.Begin()) || (from >= edges.End() && to >= edges.End());
+    };
+    m_cut.clear();
+    const Point from = m_end;
+    if (!isBeyond(m_ground.columns, from.x, point.x) && !isBeyond(m_ground.rows, from.y, point.y)) {
+        const Point begin = ToPixel(m_ground.dc, from);
+        const Point end = ToPixel(m_ground.dc, point);
+        Cut(begin, end);
+        for (std::size_t i = 0; i < m_cut.size(); ++i) {
+            const bool isEnd = m_cut[i] == (i == 0 ? begin : end);
+            m_cut[i] = !isEnd ? OnLine(from, point, m_cut[i]) : i == 0 ? from : point;
+        }
+    }
+    if (m_cut.empty() || !(m_cut.front() == from))
+        DrawPart();
+    else
+        m_points.resize(m_points.empty() ? 0 : m_points.size() - 1);
+    for (const Point& cut : m_cut)
+        m_points.push_back({cut.x, cut.y});
+    if (m_cut.empty() || !(m_cut.back() == point))
+        DrawPart();
+}
+
+/// A point of `pixel` that lies on the line, or as near to it as that pixel has one.
+Point RecordedStrokes::OnLine(const Point& from, const Point& to, const Point& pixel) const {
+    const double dx = static_cast<double>(to.x) - from.x;
+    const double dy = static_cast<double>(to.y) - from.y;
+    const int x = Middle(m_ground.columns, pixel.x);
+    const int y = Middle(m_ground.rows, pixel.y);
+    if (std::fabs(dy) > std::fabs(dx))
+        return {Into(m_ground.columns, pixel.x, from.x + (y - from.y) * dx / dy), y};
+    return {x, Into(m_ground.rows, pixel.y, from.y + (x - from.x) * dy / dx)};
+}
+
+/// Cuts a stroke, given in pixels. The edges of a wide one keep their pixels where a single stroke that is
+/// cut within the margin has the same; otherwise they may be rounded otherwise.
+void RecordedStrokes::Cut(const Point& begin, const Point& end) {
+    const bool comesFromFar = !HasPixel(begin.x, begin.y);
+    if (!m_isThin && comesFromFar != !HasPixel(end.x, end.y)) {
+        const Point& nearEnd = comesFromFar ? end : begin;
+        const Point nearer = NearerEnd(nearEnd, comesFromFar ? begin : end, StepsAcross(m_window, nearEnd));
+        if (HasPixel(nearer.x, nearer.y)) {
+            m_cut = comesFromFar ? std::vector<Point>{nearer, end} : std::vector<Point>{begin, nearer};
+            return;
+        }
+    }
+    CutStroke(PixelLine(begin, end), m_window, kMargin, m_cut);
+}
+
+void RecordedStrokes::DrawPart() {
+    const int count = static_cast<int>(m_points.size());
+    if (m_isThin && count > 1)
+        m_ground.dc.Polyline(m_points.data(), count);
+    // Where wide strokes are played, a whole polyline costs more than its strokes one by one.
+    if (!m_isThin && count > 1) {
+        m_ground.dc.MoveTo(m_points.front());
+        for (const POINT& point : m_points)
+            if (&point != &m_points.front())
+                m_ground.dc.LineTo(point);
+    }
+    m_points.clear();
+}
+
+} // namespace kavlix

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <cstdint>
+#include <vector>
+
+#include "graphctrl/GraphCtrlStrokes.h"
+#include "graphctrl/SampleStore.h"
+
+namespace kavlix {
+
+/// Has a DC that keeps strokes instead of pixels, as a metafile or a printer does, draw a line with the pen
+/// that is selected. Of the points that the pixel rule keeps (one that falls on the pixel of the point before
+/// is left out) the first, lowest, highest and last of each column of one logical unit are drawn: the same
+/// painted strokes at a bounded size, however the picture is enlarged. Strokes are cut near the plot, since a
+/// metafile's frame holds all that is drawn, seen or not.
+class RecordedStrokes {
+public:
+    /// Strokes go on for so many pixels beyond what can be seen.
+    static constexpr int kMargin = 32;
+
+    /// `window` in pixels: what can be seen, and as far beyond it as the pen reaches. The ground's pixels are
+    /// those of the window and the margin round it.
+    RecordedStrokes(const LineGround& ground, const Rect& window, int penPixels)
+        : m_ground(ground), m_rows(ground.yMap, ground.rows), m_window(window), m_isThin(penPixels == 1) {}
+
+    /// The next sample, at `x`; a NaN is a gap.
+    void Add(double value, int x) {
+        GoTo(x);
+        if (value != value)
+            End();
+        else
+            TakeUnlessOnKeptPixel(value);
+    }
+    /// The next samples, all of a column of one unit.
+    void AddColumn(const SampleStore& samples, SampleStore::Reader& values, const PixelColumn& column) {
+        GoTo(column.position);
+        const bool isLong = column.last - column.first >= kLongColumn;
+        if (isLong && AddExtremes(samples, values, column.first, column.last))
+            return;
+        for (int i = column.first; i <= column.last; ++i)
+            Add(values[i], column.position);
+    }
+    /// Draws all that came. The line may go on.
+    void Pause();
+    /// The line ends.
+    void End();
+
+private:
+    /// From so many samples on, a column's extremes are looked up.
+    static constexpr int kLongColumn = 12;
+
+    struct Kept {
+        double value;
+        int order; ///< among those of the column
+    };
+
+    bool HasPixel(int column, int row) const {
+        return m_ground.columns.HasPixel(column) && m_ground.rows.HasPixel(row);
+    }
+    bool IsNear(const Point& point) const {
+        return m_ground.columns.Holds(point.x) && m_ground.rows.Holds(point.y);
+    }
+    void GoTo(int x) {
+        if (x == m_x)
+            return;
+        m_x = x;
+        m_pixel = m_ground.columns.PixelOrSide(x);
+    }
+    bool TakeUnlessOnKeptPixel(double value) {
+        const int row = m_rows.Of(value);
+        const bool isSame = m_isOpen && m_pixel == m_keptPixel && row == m_keptRow &&
+                            (HasPixel(m_pixel, row) || IsSameFarPixel({m_keptX, m_last}, {m_x, value}));
+        if (!isSame)
+            Keep(value, row);
+        return !isSame;
+    }
+    bool AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first, int last);
+    int BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first, int last) const;
+    struct Sample {
+        int x;
+        double value;
+    };
+    bool IsSameFarPixel(const Sample& a, const Sample& b) const;
+    /// The same for two samples of the column that is being added.
+    bool IsSamePixel(double a, double b) const {
+        const int row = m_rows.Of(a);
+        return row == m_rows.Of(b) && (HasPixel(m_pixel, row) || IsSameFarPixel({m_x, a}, {m_x, b}));
+    }
+    Point Place(int x, double value) const { return {x, m_ground.yMap.Position(value).value_or(0)}; }
+    void Keep(double value, int row);
+    void DrawColumn(bool isEnd);
+    void To(const Point& point);
+    void ToFar(const Point& point);
+    void Cut(const Point& begin, const Point& end);
+    Point OnLine(const Point& from, const Point& to, const Point& pixel) const;
+    void DrawPart();
+
+    LineGround m_ground;
+    PixelRows m_rows;
+    Rect m_window;
+    bool m_isThin;
+
+    int m_x = kCoordinateLimit + 1; ///< of the last sample
+    int m_pixel = 0;                ///< its column
+    bool m_isOpen = false;
+    // The points kept of a column of one unit; the lowest and highest of all but the last.
+    int m_count = 0;
+    int m_keptX = 0;
+    double m_first = 0;
+    Kept m_low = {};
+    Kept m_high = {};
+    double m_before = 0;
+    double m_last = 0;
+    int m_keptPixel = 0; ///< of the last one
+    int m_keptRow = 0;
+
+    bool m_hasEnd = false;
+    Point m_end;                 ///< where the last stroke ended, logical units
+    std::vector<POINT> m_points; ///< of strokes to draw, logical units
+    std::vector<Point> m_cut;
+};
+
+} // namespace kavlix

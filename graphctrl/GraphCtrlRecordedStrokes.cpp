@@ -104,8 +104,12 @@ bool RecordedStrokes::AddExtremes(const SampleStore& samples, SampleStore::Reade
 }
 
 void RecordedStrokes::Keep(double value, int row) {
-    if (!m_isOpen || m_x != m_keptX)
+    if (m_isOpen && m_hasMarkers) {
         DrawColumn(false);
+        From(Place(m_sample.x, m_sample.value));
+    } else if (!m_isOpen || m_x != m_keptX) {
+        DrawColumn(false);
+    }
     if (m_count == 0) {
         m_first = value;
         m_low = m_high = {value, 0};
@@ -153,6 +157,15 @@ void RecordedStrokes::End() {
     DrawPart();
     m_hasEnd = false;
     m_isOpen = false;
+}
+
+/// The next stroke begins at `point`.
+void RecordedStrokes::From(const Point& point) {
+    if (m_hasEnd && point == m_end)
+        return;
+    DrawPart();
+    m_hasEnd = false;
+    To(point);
 }
 
 void RecordedStrokes::To(const Point& point) {

@@ -10,20 +10,23 @@
 
 namespace kavlix {
 
-/// Has a DC that keeps strokes instead of pixels, as a metafile or a printer does, draw a line with the pen
-/// that is selected. Of the points that the pixel rule keeps (one that falls on the pixel of the point before
-/// is left out) the first, lowest, highest and last of each column of one logical unit are drawn: the same
-/// painted strokes at a bounded size, however the picture is enlarged. Strokes are cut near the plot, since a
-/// metafile's frame holds all that is drawn, seen or not.
+/// Has a DC that keeps strokes instead of pixels, as a metafile or a printer does, draw a line with the pen that is
+/// selected. Of the points that the pixel rule keeps (one that falls on the pixel of the point before is left out)
+/// the first, lowest, highest and last of each column of one logical unit are drawn: the same painted strokes at a
+/// bounded size, however the picture is enlarged. Strokes are cut near the plot, since a metafile's frame holds all
+/// that is drawn, seen or not.
 class RecordedStrokes {
 public:
     /// Strokes go on for so many pixels beyond what can be seen.
     static constexpr int kMargin = 32;
 
-    /// `window` in pixels: what can be seen, and as far beyond it as the pen reaches. The ground's pixels are
-    /// those of the window and the margin round it.
-    RecordedStrokes(const LineGround& ground, const Rect& window, int penPixels)
-        : m_ground(ground), m_rows(ground.yMap, ground.rows), m_window(window), m_isThin(penPixels == 1) {}
+    /// `window` in pixels: what can be seen, and as far beyond it as the pen reaches. The ground's pixels are those of
+    /// the window and the margin round it. A line with markers goes on from each sample, since drawing the marker
+    /// moves there, and not from the last point that the pixel rule kept: its strokes are drawn one by one, as its
+    /// markers are.
+    RecordedStrokes(const LineGround& ground, const Rect& window, int penPixels, bool hasMarkers)
+        : m_ground(ground), m_rows(ground.yMap, ground.rows), m_window(window), m_isThin(penPixels == 1),
+          m_hasMarkers(hasMarkers) {}
 
     /// The next sample, at `x`; a NaN is a gap.
     void Add(double value, int x) {
@@ -36,7 +39,7 @@ public:
     /// The next samples, all of a column of one unit.
     void AddColumn(const SampleStore& samples, SampleStore::Reader& values, const PixelColumn& column) {
         GoTo(column.position);
-        const bool isLong = column.last - column.first >= kLongColumn;
+        const bool isLong = !m_hasMarkers && column.last - column.first >= kLongColumn;
         if (isLong && AddExtremes(samples, values, column.first, column.last))
             return;
         for (int i = column.first; i <= column.last; ++i)
@@ -51,6 +54,10 @@ private:
     /// From so many samples on, a column's extremes are looked up.
     static constexpr int kLongColumn = 12;
 
+    struct Sample {
+        int x;
+        double value;
+    };
     struct Kept {
         double value;
         int order; ///< among those of the column
@@ -74,14 +81,11 @@ private:
                             (HasPixel(m_pixel, row) || IsSameFarPixel({m_keptX, m_last}, {m_x, value}));
         if (!isSame)
             Keep(value, row);
+        m_sample = {m_x, value};
         return !isSame;
     }
     bool AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first, int last);
     int BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first, int last) const;
-    struct Sample {
-        int x;
-        double value;
-    };
     bool IsSameFarPixel(const Sample& a, const Sample& b) const;
     /// The same for two samples of the column that is being added.
     bool IsSamePixel(double a, double b) const {
@@ -91,6 +95,7 @@ private:
     Point Place(int x, double value) const { return {x, m_ground.yMap.Position(value).value_or(0)}; }
     void Keep(double value, int row);
     void DrawColumn(bool isEnd);
+    void From(const Point& point);
     void To(const Point& point);
     void ToFar(const Point& point);
     void Cut(const Point& begin, const Point& end);
@@ -101,9 +106,11 @@ private:
     PixelRows m_rows;
     Rect m_window;
     bool m_isThin;
+    bool m_hasMarkers;
 
     int m_x = kCoordinateLimit + 1; ///< of the last sample
     int m_pixel = 0;                ///< its column
+    Sample m_sample = {};           ///< the last one, also when it was not kept; of a line with markers
     bool m_isOpen = false;
     // The points kept of a column of one unit; the lowest and highest of all but the last.
     int m_count = 0;

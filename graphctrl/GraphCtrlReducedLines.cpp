@@ -57,7 +57,7 @@ public:
           m_penPixels(PenPixels(lines.m_dc, PenWidth(dataset))),
           m_colour(m_penPixels == 1 && lines.m_raster ? DirectColour(dataset.GetColor()) : std::nullopt) {
         if (lines.m_kind == StrokeKind::Recorded)
-            m_recorded.emplace(Ground(), ToRect(lines.m_seen), m_penPixels);
+            m_recorded.emplace(Ground(), ToRect(lines.m_seen), m_penPixels, HasShape(m_marker));
     }
 
     /// Draws the samples `first` to `last`, with their markers. With `joined` the line comes from the sample

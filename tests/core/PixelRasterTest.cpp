@@ -66,30 +66,6 @@ TEST(PixelRasterTest, LinesAreThoseOfSinglePixels) {
     }
 }
 
-TEST(PixelRasterTest, LinesFromFarAwayKeepTheirPixels) {
-    // Ends as far away as coordinates go; the pixels follow from the slope alone.
-    constexpr int kFar = 1 << 27;
-    const struct {
-        Point from, to;
-        Point on, off;
-    } cases[] = {
-        {{-kFar, -kFar}, {kFar, kFar}, {17, 17}, {17, 18}},
-        {{kFar + 30, -kFar}, {-kFar + 30, kFar}, {20, 10}, {20, 11}},
-        {{-kFar, 5}, {kFar, 5}, {39, 5}, {39, 6}},
-        {{8, kFar}, {8, -kFar}, {8, 39}, {9, 39}},
-        {{-kFar, 0}, {kFar, 2 * 20}, {0, 20}, {0, 21}},
-        {{20 + 10, -kFar}, {20 - 10, kFar}, {20, 0}, {21, 1}},
-    };
-    for (const auto& each : cases) {
-        Picture picture(kSide * kSide);
-        PixelRaster raster(picture.data(), kSide, {0, 0, kSide, kSide});
-        raster.Stroke(each.from, each.to, kInk);
-        const auto at = [&](const Point& p) { return picture[static_cast<std::size_t>(p.y * kSide + p.x)]; };
-        EXPECT_EQ(at(each.on), kInk) << each.from.x << " on";
-        EXPECT_EQ(at(each.off), 0u) << each.from.x << " off";
-    }
-}
-
 TEST(StrokeCutTest, NearStrokesPaintWhatTheFarOnePaints) {
     std::mt19937 random(8);
     const auto within = [&](int low, int high) {

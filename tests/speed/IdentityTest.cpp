@@ -3,6 +3,7 @@
 
 #include "tests/speed/PlainWalk.h"
 #include "tests/support/DibSurface.h"
+#include "tests/support/MetafileRecorder.h"
 #include "tests/support/RecordingParent.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +18,7 @@
 
 namespace {
 
-constexpr int kDefaultViews = 2000;
+constexpr int kDefaultViews = 1600;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 int Views() {
@@ -83,16 +84,18 @@ struct Cost {
 void Replay(HENHMETAFILE picture, HDC dc) {
     const auto play = [](HDC, HANDLETABLE* table, const ENHMETARECORD* record, int handles, LPARAM to) {
         const HDC target = reinterpret_cast<HDC>(to);
+        if (record->iType == EMR_EXTSELECTCLIPRGN && ::GetMapMode(target) == MM_TEXT)
+            return 1; // the picture is enlarged, its clip regions are not
         if (record->iType == EMR_EXTSELECTCLIPRGN) {
             const auto* clip = reinterpret_cast<const EMREXTSELECTCLIPRGN*>(record);
-            const HRGN region = clip->cbRgnData == 0
-                                    ? nullptr
-                                    : ::ExtCreateRegion(nullptr, clip->cbRgnData,
-                                                        reinterpret_cast<const RGNDATA*>(clip->RgnData));
+            const HRGN region =
+                clip->cbRgnData == 0
+                    ? nullptr
+                    : ::ExtCreateRegion(nullptr, clip->cbRgnData,
+                                        reinterpret_cast<const RGNDATA*>(clip->RgnData));
             ::ExtSelectClipRgn(target, region, static_cast<int>(clip->iMode));
             ::DeleteObject(region);
-        } else if (record->iType == EMR_RECTANGLE ||
-                   record->iType == EMR_ELLIPSE) { // without right and bottom edge
+        } else if (record->iType == EMR_RECTANGLE || record->iType == EMR_ELLIPSE) { // without right and bottom edge
             const RECTL& box = reinterpret_cast<const EMRRECTANGLE*>(record)->rclBox;
             (record->iType == EMR_ELLIPSE ? ::Ellipse : ::Rectangle)(target, box.left, box.top, box.right + 1,
                                                                      box.bottom + 1);
@@ -105,6 +108,12 @@ void Replay(HENHMETAFILE picture, HDC dc) {
     const int state = ::SaveDC(dc);
     ::EnumEnhMetaFile(nullptr, picture, play, reinterpret_cast<void*>(dc), nullptr);
     ::RestoreDC(dc, state);
+}
+
+template <class Graph> HENHMETAFILE Record(Graph& graph) {
+    const HDC recording = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, nullptr);
+    graph.Paint(recording);
+    return ::CloseEnhMetaFile(recording);
 }
 
 /// Pictures of one size: what is compared, and the DC of a bitmap without pixels in reach.
@@ -135,40 +144,34 @@ public:
         ::SetMapMode(m_dc, MM_TEXT);
         ::SetMapMode(drawn.Dc(), MM_TEXT);
         ::BitBlt(drawn.Dc(), 0, 0, m_size.cx, m_size.cy, m_dc, 0, 0, SRCCOPY);
-        const std::string pixels = testkit::Difference(fast, slow),
-                          strokes = testkit::Difference(drawn, slow);
-        const HDC recording = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, nullptr);
-        graph.Paint(recording);
-        const HENHMETAFILE metafile = ::CloseEnhMetaFile(recording);
-        Replay(metafile, fast.Dc());
-        CRect plot = graph.m_rectPlot; // texts have pixels of their own
-        ::LPtoDP(fast.Dc(), reinterpret_cast<POINT*>(&plot), 2);
-        // Where a wide stroke from far away is cut, its edges may be rounded otherwise.
-        const std::string records =
-            (graph.ReachesFarWithAWidePen() ? "" : testkit::Difference(fast, slow, plot)) +
-            FrameFaults(metafile);
-        ::DeleteEnhMetaFile(metafile);
-        return (pixels.empty() ? "" : "pixels: " + pixels) + (strokes.empty() ? "" : " strokes: " + strokes) +
-               (records.empty() ? "" : " records: " + records);
+        std::string faults = testkit::Difference(fast, slow);
+        if (const std::string strokes = testkit::Difference(drawn, slow); !strokes.empty())
+            faults += " strokes: " + strokes;
+        if (m_compared++ % 3 == 0)
+            faults += MetafileFaults(graph);
+        return faults;
     }
 
     testkit::DibSurface fast, slow, drawn;
 
 private:
-    /// Empty when the picture's frame is about the size of the window.
-    std::string FrameFaults(HENHMETAFILE picture) const {
-        constexpr int kBeyond = 100; // texts may reach beyond the window
+    template <class Graph> std::string MetafileFaults(Graph& graph) {
+        const HENHMETAFILE metafile = Record(graph);
+        Replay(metafile, fast.Dc());
+        CRect plot = graph.m_rectPlot; // texts have pixels of their own
+        ::LPtoDP(fast.Dc(), reinterpret_cast<POINT*>(&plot), 2);
         ENHMETAHEADER header = {};
-        ::GetEnhMetaFileHeader(picture, sizeof header, &header);
-        const RECTL& bounds = header.rclBounds;
-        if (bounds.left >= -kBeyond && bounds.top >= -kBeyond && bounds.right < m_size.cx + kBeyond &&
-            bounds.bottom < m_size.cy + kBeyond)
-            return "";
-        std::ostringstream told;
-        told << " frame " << bounds.left << "," << bounds.top << "," << bounds.right << "," << bounds.bottom;
-        return told.str();
+        ::GetEnhMetaFileHeader(metafile, sizeof header, &header);
+        ::DeleteEnhMetaFile(metafile);
+        // Where a wide stroke from far away is cut, its edges may be rounded otherwise.
+        const std::string records = graph.ReachesFarWithAWidePen() ? "" : testkit::Difference(fast, slow, plot);
+        CRect most(CPoint(0, 0), m_size), frame(reinterpret_cast<const RECT&>(header.rclBounds));
+        most.InflateRect(100, 100); // texts may reach beyond the window
+        return (records.empty() ? "" : " records: " + records) +
+               (CRect(most | frame) == most ? "" : " frame: " + testkit::BoxText(frame));
     }
 
+    int m_compared = 0;
     CSize m_size;
     HDC m_screen, m_dc;
     HBITMAP m_bitmap;
@@ -184,7 +187,7 @@ template <class Graph> std::string Dress(Graph& graph, Dice& dice, int longest, 
     graph.SetGraphStyle(twoAxis ? CGraphCtrl::GraphStyleTwoAxis : CGraphCtrl::GraphStyleLine);
     for (int i = 0; i < CGraphCtrl::DatasetCount; ++i) {
         const int pen = cost.isWide ? kWidePens[dice.UpTo(6)] : kThinPens[dice.UpTo(3)];
-        const int marker = cost.isLong || !dice.OneIn(3) ? 0 : dice.UpTo(6);
+        const int marker = cost.isLong || !dice.OneIn(3) ? 0 : dice.UpTo(CDataset::MarkerTypeCount);
         graph.SetLineSize(i, pen);
         graph.SetMarkerType(i, static_cast<CDataset::MarkerType>(marker));
         graph.ShowDataset(i, !dice.OneIn(8));
@@ -377,7 +380,7 @@ TEST_F(IdentityTest, MarkersOfManySamples) {
     Pictures pictures(size.cx, size.cy);
     constexpr int kSamples = 10000;
     for (const Shape shape : {Walk, Steps, Spikes, Constant, Gaps}) {
-        for (int marker = CDataset::MarkerSquare; marker <= CDataset::MarkerCross; ++marker) {
+        for (int marker = CDataset::MarkerSquare; marker < CDataset::MarkerTypeCount; ++marker) {
             graph.ResetAll();
             Dice dice(static_cast<unsigned>(marker));
             double state = 50;
@@ -388,6 +391,51 @@ TEST_F(IdentityTest, MarkersOfManySamples) {
             graph.SetXVisibleMax(kSamples);
             EXPECT_EQ(pictures.Compare(graph), "") << "shape " << shape << " marker " << marker;
         }
+    }
+    graph.DestroyWindow();
+}
+
+TEST_F(IdentityTest, EnlargedMetafilesToo) {
+    // A pixel for each logical unit.
+    plain::Graph<CGraphCtrl> graph;
+    const CSize size(110, 90);
+    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
+    graph.ShowLegend(FALSE);
+    graph.SetYTickLabelWidth(300);
+    graph.SetXTickLabelHeight(300);
+    testkit::DibSurface fast(size.cx * 30, size.cy * 30), slow(size.cx * 30, size.cy * 30);
+    for (unsigned view = 0; view < 12; ++view) {
+        Dice dice(view);
+        const Shape shape = static_cast<Shape>(view % Infinities);
+        const int count = 3000 + dice.Size(100000);
+        graph.ResetAll();
+        double state = 50, low = 50, high = 51;
+        for (int k = 0; k < count; ++k) {
+            const bool isCalm = shape <= Noise && k / 700 % 2 == 0;
+            const double value = isCalm ? state + k % 9 * 0.3 * (k % 31 == 0) : Sample(shape, k, state, dice);
+            graph.AddData(0, value, nullptr);
+            low = std::fmin(low, value);
+            high = std::fmax(high, value);
+        }
+        graph.SetYVisibleMin(low);
+        graph.SetYVisibleMax(high);
+        graph.SetMarkerType(0, static_cast<CDataset::MarkerType>(count < 9000 ? dice.UpTo(5) : 0));
+        graph.SetXVisibleMin(0);
+        graph.SetXVisibleMax(count);
+        graph.m_SelectionMarkPos = dice.UpTo(count);
+        graph.isPlain = false;
+        const HENHMETAFILE shortened = Record(graph);
+        graph.isPlain = true;
+        const HENHMETAFILE whole = Record(graph);
+        Replay(shortened, fast.Dc());
+        Replay(whole, slow.Dc());
+        EXPECT_EQ(testkit::Difference(fast, slow, graph.m_rectPlot), "") << "view " << view << ", " << count << " samples";
+        constexpr UINT kBytesAUnit = 20;
+        EXPECT_TRUE(graph.m_Datasets[0].GetMarkerType() != CDataset::MarkerNone ||
+                    ::GetEnhMetaFileBits(shortened, 0, nullptr) <
+                        static_cast<UINT>(graph.m_rectPlot.Width()) * kBytesAUnit);
+        ::DeleteEnhMetaFile(shortened);
+        ::DeleteEnhMetaFile(whole);
     }
     graph.DestroyWindow();
 }

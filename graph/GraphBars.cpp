@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "graph/GraphPass.h"
-#include "graph/StackSegments.h"
 
 using kavlix::GraphPass;
 using kavlix::Span;
@@ -66,7 +65,11 @@ void CGraph::DrawStackedBarSeries(CDC*) {
     for (int s = 0; s < p.data.SeriesCount(); ++s) {
         const auto values =
             kavlix::GroupValues(p.data.series[static_cast<std::size_t>(s)].values, p.data.groups);
-        for (const kavlix::StackSegment& part : kavlix::StackValues(values)) {
+        const auto parts = kavlix::StackValues(values);
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            const kavlix::StackSegment& part = parts[i];
+            if (i + 1 < parts.size() && p.Covers(parts[i + 1], part))
+                continue;
             const bool below = part.high <= 0;
             DrawBar(p, p.slots.Single(s, kStackWidth), static_cast<double>(below ? part.high : part.low),
                     static_cast<double>(below ? part.low : part.high), p.data.Colour(part.group));

@@ -29,6 +29,17 @@ GraphSnapshot::GraphSnapshot(const CObList& seriesList, const CObList* colorList
             static_cast<COLORREF>(static_cast<const CGraphValue*>(colorList->GetNext(position))->value));
 }
 
+bool GraphPass::Covers(const StackSegment& later, const StackSegment& earlier) const {
+    const auto pixel = [this](std::int64_t value) {
+        const double position = values.Position(values.Clamp(static_cast<double>(value)));
+        return horizontal ? canvas.X(position) : canvas.Y(position);
+    };
+    const bool isDrawn =
+        values.Clamp(static_cast<double>(later.low)) != values.Clamp(static_cast<double>(later.high));
+    const int at = pixel(later.low);
+    return isDrawn && at == pixel(later.high) && at == pixel(earlier.low) && at == pixel(earlier.high);
+}
+
 PlaneRect GraphPass::Between(Span along, Span value) const {
     const PlanePoint a = At(along.from, value.from);
     const PlanePoint b = At(along.to, value.to);

@@ -11,6 +11,7 @@
 #include "graph/ScaleTicks.h"
 #include "graph/SeriesSlots.h"
 #include "graph/Solid.h"
+#include "graph/StackSegments.h"
 
 namespace kavlix {
 
@@ -84,6 +85,8 @@ struct GraphPass {
     PlanePoint At(double along, double value) const {
         return horizontal ? PlanePoint{value, along} : PlanePoint{along, value};
     }
+    /// Whether both parts of a stack lie in one pixel and `later` is drawn, so that it covers `earlier`.
+    bool Covers(const StackSegment& later, const StackSegment& earlier) const;
     /// The upright rectangle between two places.
     PlaneRect Between(Span along, Span value) const;
 };

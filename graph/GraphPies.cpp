@@ -161,6 +161,11 @@ private:
         DrawOutside(outside[1], -1);
     }
 
+    /// An order without equals: of two of the same size the later one counts as larger.
+    static bool IsLarger(const Sector* a, const Sector* b) {
+        return a->percent != b->percent ? a->percent > b->percent : a->start > b->start;
+    }
+
     PlanePoint RimPoint(const Sector& sector, double reach) const {
         PlanePoint point = m_pie.At(sector.Middle(), 1);
         if (sector.Middle() > 90 && sector.Middle() < 270)
@@ -176,18 +181,21 @@ private:
     /// out when there is not room for all.
     void DrawOutside(std::vector<const Sector*> sectors, double side) {
         const double pixel = m_canvas.Pixel();
-        std::vector<double> middles;
-        for (;;) {
-            middles.clear();
-            for (const Sector* sector : sectors)
-                middles.push_back(RimPoint(*sector, kLeader * pixel).y);
-            if (kavlix::SpreadMiddles(middles, m_style.share.height, m_room.top, m_room.bottom) ||
-                sectors.empty())
-                break;
+        const double most = std::max(std::floor(m_room.Height() / m_style.share.height), 0.0);
+        if (static_cast<double>(sectors.size()) > most) {
+            std::vector<const Sector*> bySize = sectors;
+            const auto kept = bySize.begin() + static_cast<std::ptrdiff_t>(most);
+            std::nth_element(bySize.begin(), kept, bySize.end(), IsLarger);
+            const Sector* const largestLeftOut = *kept;
             sectors.erase(
-                std::min_element(sectors.begin(), sectors.end(),
-                                 [](const Sector* a, const Sector* b) { return a->percent < b->percent; }));
+                std::remove_if(sectors.begin(), sectors.end(),
+                               [&](const Sector* sector) { return !IsLarger(sector, largestLeftOut); }),
+                sectors.end());
         }
+        std::vector<double> middles;
+        for (const Sector* sector : sectors)
+            middles.push_back(RimPoint(*sector, kLeader * pixel).y);
+        kavlix::SpreadMiddles(middles, m_style.share.height, m_room.top, m_room.bottom);
         m_canvas.SetLine(kLeaderColour);
         for (std::size_t i = 0; i < sectors.size(); ++i) {
             const CString text = ShareText(sectors[i]->percent);

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "graph/GraphPass.h"
-#include "graph/StackSegments.h"
 
 using kavlix::GraphPass;
 using kavlix::Span;
@@ -98,8 +97,9 @@ void CGraph::Draw3DStackedBarSeries(CDC*) {
         // Along the value axis too: what lies higher, or further right, covers what it stands on.
         if ((p.values.Position(1) < p.values.Position(0)) == p.horizontal)
             std::reverse(parts.begin(), parts.end());
-        for (const kavlix::StackSegment& part : parts)
-            DrawSolid(p, p.slots.Single(s, kStackWidth), static_cast<double>(part.low),
-                      static_cast<double>(part.high), p.data.Colour(part.group));
+        for (std::size_t i = 0; i < parts.size(); ++i)
+            if (i + 1 == parts.size() || !p.Covers(parts[i + 1], parts[i]))
+                DrawSolid(p, p.slots.Single(s, kStackWidth), static_cast<double>(parts[i].low),
+                          static_cast<double>(parts[i].high), p.data.Colour(parts[i].group));
     });
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <optional>
 #include <vector>
 
 namespace kavlix {
@@ -11,13 +9,6 @@ struct KeyedValue {
     int key = 0;
     int value = 0;
 };
-
-/// The value under `key` in a list that ascends by key; none when there is no such key.
-inline std::optional<int> ValueAt(const std::vector<KeyedValue>& values, int key) {
-    const auto found = std::lower_bound(values.begin(), values.end(), key,
-                                        [](const KeyedValue& item, int wanted) { return item.key < wanted; });
-    return found != values.end() && found->key == key ? std::optional<int>(found->value) : std::nullopt;
-}
 
 /// The values of the groups 0 to `groups` - 1 in a list that ascends by key; of equal keys the first.
 inline std::vector<KeyedValue> GroupValues(const std::vector<KeyedValue>& values, int groups) {

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "graph/LabelPlacement.h"
-#include "graph/PlotScale.h"
 #include "graph/ScaleTicks.h"
 
 namespace kavlix {
@@ -18,23 +17,6 @@ std::string Values(const ScaleTicks& ticks, bool labelled) {
         if (!labelled || ticks.HasLabel(i))
             text += std::to_string(ticks.Value(i)) + " ";
     return text;
-}
-
-TEST(GraphScaleTest, PositionsRunBetweenTheLimitsInEitherOrder) {
-    const PlotScale up(-50, 150, 400, 200);
-    EXPECT_DOUBLE_EQ(up.Position(-50), 400);
-    EXPECT_DOUBLE_EQ(up.Position(0), 350);
-    EXPECT_DOUBLE_EQ(up.Position(250), 100) << "outside the plot";
-    EXPECT_EQ(up.Base(), 0);
-    EXPECT_TRUE(up.CrossesZero());
-    const PlotScale down(100, 20, 0, 80);
-    EXPECT_DOUBLE_EQ(down.Position(90), 10);
-    EXPECT_EQ(down.Base(), 20) << "the limit next to 0";
-    EXPECT_EQ(PlotScale(-9, -3, 0, 1).Base(), -3);
-    EXPECT_FALSE(PlotScale(0, 5, 0, 1).CrossesZero());
-    const PlotScale equal(7, 7, 0, 10);
-    EXPECT_DOUBLE_EQ(equal.Position(7), 0);
-    EXPECT_DOUBLE_EQ(equal.Position(8), 10);
 }
 
 TEST(GraphScaleTest, TicksAreThinnedAndKeepZero) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 
 namespace {
 
@@ -22,60 +23,84 @@ int IndexOf(const testkit::MetafileRecorder& recorder, const std::string& start)
 
 } // namespace
 
-TEST_F(MultiGraphTest, FrameTitleAndLayoutOfAVerticalGraph) {
-    Resize(200, 300);
-    Make(0).SetGraphTitle("Twenty characters ok");
-    Fill({{50}});
-    const auto recorder = Record();
-    EXPECT_EQ(recorder->Lines(testkit::kDrawing).front(), "rect 0,0,200,300 pen solid 0 000000 brush FFFFFF");
-    const auto* const title = Find(*recorder, "Twenty characters ok");
-    ASSERT_NE(title, nullptr);
-    EXPECT_EQ(title->state.font, "Arial 18 bold");
-    EXPECT_EQ(title->points.front().y, 10);
-    EXPECT_EQ(graph->xApexPoint, 68);
-    EXPECT_EQ(graph->yApexPoint, 300 - 20 - 50);
-    EXPECT_EQ(graph->yAxisHeight, 230 - 40);
-    EXPECT_EQ(graph->xAxisWidth, 195 - 68 - 5);
-    EXPECT_EQ(recorder->ObjectFaults(), "");
-
-    graph->SetXAxisAlignment(45);
-    graph->SetXAxisLabel("caption");
-    Paint();
-    EXPECT_EQ(graph->yApexPoint, 280 - 6 * 7 - 15);
-    Make(32);
-    Fill({{1, 2}});
-    Paint();
-    EXPECT_EQ(graph->xApexPoint, 5);
-    EXPECT_EQ(graph->xAxisWidth, 185);
-    EXPECT_EQ(graph->yAxisHeight, 230);
-    EXPECT_EQ(graph->yApexPoint, 275);
-    EXPECT_EQ(Record()->Texts().size(), 2u) << "a pie has shares and no axes";
-}
-
-TEST_F(MultiGraphTest, HorizontalLayoutLeavesRoomForCaptionAndLabels) {
-    Make(0).SetGraphAlignment(0);
-    Fill({{50}});
-    Paint();
-    EXPECT_EQ(graph->xApexPoint, 5);
-    const int below = graph->yApexPoint;
-    graph->SetXAxisLabel("caption");
-    Paint();
-    TEXTMETRIC metrics{};
+TEST_F(MultiGraphTest, TitleAndPlotStandWhereHostsExpectThem) {
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
-    CFont font;
-    font.CreateFont(16, 0, 900, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, 16, "Arial");
-    CFont* const before = dc.SelectObject(&font);
-    dc.GetTextMetrics(&metrics);
-    dc.SelectObject(before);
-    EXPECT_EQ(below, 380 - metrics.tmHeight - 15);
-    EXPECT_EQ(graph->xApexPoint, 7 * metrics.tmAveCharWidth + metrics.tmHeight + 10 + 5);
-    EXPECT_EQ(graph->yAxisHeight, graph->yApexPoint - 40);
+    const auto metricsOf = [&](int height, int escapement) {
+        CFont font;
+        font.CreateFont(height, 0, escapement, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, 16, "Arial");
+        CFont* const before = dc.SelectObject(&font);
+        TEXTMETRIC metrics{};
+        dc.GetTextMetrics(&metrics);
+        dc.SelectObject(before);
+        return metrics;
+    };
+    const auto fit = [](int height, int length, int room) {
+        while (height > 1 && height / 2 * length > room)
+            height -= 2;
+        return std::max(height, 1);
+    };
+    std::mt19937 random(5);
+    for (int round = 0; round < 150; ++round) {
+        const auto pick = [&](int low, int high) {
+            return low + static_cast<int>(random() % (high - low + 1u));
+        };
+        const int type = kAllTypes[pick(0, 10)], w = pick(100, 900), h = pick(100, 700),
+                  angle = pick(0, 1) * 45;
+        const int title = pick(0, 60), x = pick(0, 12), y = pick(0, 80), max = pick(1, 20000),
+                  chosen = pick(0, 6);
+        const int yFont = pick(-3, 20), xFont = pick(-3, 20), key = pick(-1, 0), value = pick(-1, 0);
+        Resize(w, h);
+        Make(type).SetGraphAlignment(pick(0, 1));
+        graph->SetGraphTitle(CString('t', title));
+        graph->SetXAxisLabel(CString('x', x));
+        graph->SetYAxisLabel(CString('y', y));
+        graph->SetXTickFontSize(xFont);
+        graph->SetYTickFontSize(yFont);
+        graph->SetXAxisAlignment(angle);
+        graph->SetTickLimits(0, max, 10);
+        graph->SetGraphQuadType(chosen);
+        Add("plain", {{0, 1}});
+        Add("first", {{key, value}, {7, -9}});
+        const auto recorder = Record();
+
+        const int width = w - 5, height = h - 20, size = fit(24, title, width);
+        EXPECT_EQ(recorder->Lines(testkit::kDrawing)[0], "rect 0,0," + std::to_string(w) + "," +
+                                                             std::to_string(h) +
+                                                             " pen solid 0 000000 brush FFFFFF");
+        EXPECT_EQ(recorder->Lines(testkit::kDrawing)[1],
+                  "text " + std::to_string(w / 2 - title / 2 * metricsOf(size, 0).tmAveCharWidth) +
+                      ",10 left|top 090807 Arial " + std::to_string(size) + " bold \"" +
+                      std::string(title, 't') + "\"");
+        int left = 5, bottom = height - 5, plotWidth = width - 10, plotHeight = height - 50;
+        if (type != 2 && type != 32) {
+            const bool wide = height < width, values = graph->graphAlignment != 0;
+            const TEXTMETRIC caption = metricsOf(fit(16, wide ? y : x, wide ? height : width), 900);
+            left = x * caption.tmAveCharWidth + ((values ? y : x) > 0 ? caption.tmHeight + 10 : 0) + 5;
+            bottom = height - caption.tmHeight - 15;
+            if (values && type != 3) {
+                left = std::max(yFont, 1) / 2 * static_cast<int>(std::to_string(max).size()) + 50;
+                bottom = height - (angle == 0 ? 50 : std::max(xFont, 1) / 2 * x + 15);
+            }
+            plotHeight = bottom - 40;
+            plotWidth = width - left - 5;
+        }
+        if (type == 0) {
+            const int automatic = key < 0 ? (value < 0 ? 4 : 2) : value < 0 ? 3 : 1;
+            const int shown = chosen >= 1 && chosen <= 4 ? chosen : automatic;
+            EXPECT_EQ(graph->graphQuadType, shown);
+            left += shown % 2 == 0 ? plotWidth / 2 : 0;
+            bottom -= shown > 2 ? plotHeight / 2 : 0;
+        }
+        EXPECT_EQ(graph->xApexPoint, left) << round;
+        EXPECT_EQ(graph->yApexPoint, bottom) << round;
+        EXPECT_EQ(graph->xAxisWidth, plotWidth) << round;
+        EXPECT_EQ(graph->yAxisHeight, plotHeight) << round;
+    }
 }
 
 TEST_F(MultiGraphTest, LegendRowsStandForGroupsAndHoldWholeTexts) {
-    const char* const texts[] = {"CPU", "WWWWWW",
-                                 "MM"}; // wider than the room by the number of characters, and not
+    const char* const texts[] = {"CPU", "WWWWWW", "MM"}; // some wider than their number of characters tells
     const char* const fills[] = {"C80000", "00C800", "0000C8"};
     for (const bool bySeries : {false, true})
         for (const int type : kAllTypes) {
@@ -113,26 +138,6 @@ TEST_F(MultiGraphTest, LegendRowsStandForGroupsAndHoldWholeTexts) {
                     << type << record.text << ": the DC's own colour";
             }
         }
-}
-
-TEST_F(MultiGraphTest, QuadrantsFollowTheFirstValuesUnlessChosen) {
-    struct Case {
-        int key, value, type;
-    };
-    for (const Case& c : {Case{0, 5, 1}, {-2, 5, 2}, {0, -5, 3}, {-1, -5, 4}}) {
-        Make(0);
-        Add("plain", {{0, 1}});
-        Add("first", {{c.key, c.value}, {7, -9}});
-        Paint();
-        EXPECT_EQ(graph->graphQuadType, c.type);
-        const int right = c.type == 2 || c.type == 4 ? graph->xAxisWidth / 2 : 0;
-        const int up = c.type >= 3 ? graph->yAxisHeight / 2 : 0;
-        EXPECT_EQ(graph->xApexPoint, 68 + right);
-        EXPECT_EQ(graph->yApexPoint, 330 - up);
-        graph->SetGraphQuadType(1);
-        Paint();
-        EXPECT_EQ(graph->xApexPoint, 68);
-    }
 }
 
 TEST_F(MultiGraphTest, AxisTicksNumbersGridAndLabels) {

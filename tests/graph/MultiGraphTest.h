@@ -18,27 +18,11 @@ using Strings = std::vector<std::string>;
 /// A graph whose state can be read.
 class OpenMultiGraph : public CGraph {
 public:
-    using CGraph::axisLabelsCut;
-    using CGraph::CGraph;
-    using CGraph::colorList;
-    using CGraph::graphAlignment;
-    using CGraph::graphHasLegend;
-    using CGraph::graphLegend;
-    using CGraph::graphQuadType;
-    using CGraph::legendMaxText;
-    using CGraph::legendWidth;
-    using CGraph::maxTick;
-    using CGraph::minTick;
-    using CGraph::numTicks;
-    using CGraph::printBottom;
-    using CGraph::quadSetManually;
-    using CGraph::seriesList;
-    using CGraph::seriesSize;
-    using CGraph::tickSpace;
-    using CGraph::xApexPoint;
-    using CGraph::xAxisWidth;
-    using CGraph::yApexPoint;
-    using CGraph::yAxisHeight;
+    using CGraph::axisLabelsCut, CGraph::CGraph, CGraph::colorList, CGraph::graphAlignment,
+        CGraph::graphHasLegend, CGraph::graphLegend, CGraph::graphQuadType, CGraph::legendMaxText,
+        CGraph::legendWidth, CGraph::maxTick, CGraph::minTick, CGraph::numTicks, CGraph::printBottom,
+        CGraph::quadSetManually, CGraph::seriesList, CGraph::seriesSize, CGraph::tickSpace,
+        CGraph::xApexPoint, CGraph::xAxisWidth, CGraph::yApexPoint, CGraph::yAxisHeight;
 };
 
 /// Every type of graph.

@@ -21,6 +21,11 @@ GraphCanvas::GraphCanvas(CDC& dc, const GraphFrame& frame)
                KindOfStrokes(dc) == StrokeKind::Pixels),
       m_hostPen(::GetCurrentObject(dc.m_hDC, OBJ_PEN)), m_hostBrush(::GetCurrentObject(dc.m_hDC, OBJ_BRUSH)),
       m_hostInk(dc.GetTextColor()) {
+    m_visible = {0, 0, Width(), Height()};
+    CRect clip;
+    if (m_pixels && m_dc.GetClipBox(&clip) != ERROR)
+        m_visible = {std::max<double>(clip.left, 0), std::max<double>(clip.top, 0),
+                     std::min<double>(clip.right, Width()), std::min<double>(clip.bottom, Height())};
     m_dc.SetBkMode(TRANSPARENT);
     m_dc.SetTextAlign(TA_LEFT | TA_TOP);
 }
@@ -74,6 +79,10 @@ void GraphCanvas::HostTools() {
 }
 
 void GraphCanvas::Line(PlanePoint from, PlanePoint to) {
+    const double aside = m_penWidth; // the pen's other half and the pixel of rounding
+    if (std::max(from.x, to.x) < m_visible.left - aside || std::min(from.x, to.x) > m_visible.right + aside ||
+        std::max(from.y, to.y) < m_visible.top - aside || std::min(from.y, to.y) > m_visible.bottom + aside)
+        return;
     m_dc.MoveTo(At(from));
     m_dc.LineTo(At(to));
 }
@@ -139,7 +148,8 @@ void GraphCanvas::Text(PlanePoint place, const CString& text) {
     // No character is wider than twice the height of its cell.
     const double reach = m_font.height * (2.0 * text.GetLength() + 1);
     const double back = m_font.angle != 0 ? reach : 0;
-    if (place.x > Width() + back || place.y > Height() + back || place.x + reach < 0 || place.y + reach < 0)
+    if (place.x - back > m_visible.right || place.y - back > m_visible.bottom ||
+        place.x + reach < m_visible.left || place.y + reach < m_visible.top)
         return;
     if (!m_frame.up || m_font.angle == 0) {
         DrawTextAt(m_dc, X(place.x), Y(place.y), text);

@@ -64,7 +64,8 @@ public:
 
     /// The COLORREF that texts have without a colour of their own: the DC's when the canvas was made.
     COLORREF HostInk() const { return m_hostInk; }
-    /// The place is the text's own upper left corner. A text that cannot reach the picture is not drawn.
+    /// The place is the text's own upper left corner. A text that cannot reach the picture, or on the screen
+    /// what is to be painted of it, is not drawn.
     void Text(PlanePoint place, const CString& text);
     LabelSize Measure(const CString& text) const;
     /// `text` whole if it is not wider than `room`, else cut and ended with dots; empty when not even they
@@ -89,7 +90,8 @@ private:
     SavedDcGuard m_saved;
     CDC& m_dc;
     GraphFrame m_frame;
-    bool m_pixels; ///< a logical unit is a pixel, and what is drawn replaces what is there
+    PlaneRect m_visible; ///< of the picture, as far as it is known
+    bool m_pixels;       ///< a logical unit is a pixel, and what is drawn replaces what is there
     HGDIOBJ m_hostPen;
     HGDIOBJ m_hostBrush;
     COLORREF m_hostInk;

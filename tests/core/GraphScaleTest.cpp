@@ -78,8 +78,7 @@ TEST(GraphLabelTest, NoAngleBringsALabelIntoThePlot) {
     for (int angle = -720; angle < 720; ++angle) {
         const LabelPlace below = PlaceBelow(kSize, angle, 100, 50);
         EXPECT_NEAR(below.box.top, 50, 1e-9) << angle;
-        const int turn = NormalAngle(angle);
-        ASSERT_TRUE(turn >= 0 && turn < 360);
+        ASSERT_EQ(NormalAngle(angle), (angle + 720) % 360);
         EXPECT_LE(below.box.left, 100 + 1e-9) << "the label is at its tick, " << angle;
         EXPECT_GE(below.box.right, 100 - 1e-9) << angle;
         const LabelPlace left = PlaceLeft(kSize, angle, 30, 80);

@@ -4,7 +4,6 @@
 
 #include <climits>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -47,6 +46,9 @@ TEST_F(MultiGraphTest, AnAttributeDcChangesNoPixel) {
             dc.ReleaseAttribDC();
             dc.Detach();
             EXPECT_TRUE(surface.IsSameAs(*Paint())) << type << " " << groups;
+            ::IntersectClipRect(surface.Dc(), 30, 60, 200, 90);
+            DrawInto(surface.Dc());
+            EXPECT_TRUE(surface.IsSameAs(*Paint())) << type << " a part of it anew";
         }
 }
 

@@ -1,5 +1,7 @@
 // The labels' array against the class library's own.
 
+#include "tests/support/AllocationGuard.h"
+
 #include <afxcoll.h>
 
 #include <kavlix/LabelStore.h>
@@ -77,6 +79,29 @@ TEST(LabelStoreTest, BehavesLikeTheClassLibrarysArray) {
         ASSERT_EQ(Told(store), Told(array)) << "step " << step << ", action " << action % 11;
         ASSERT_EQ(store.IsEmpty(), array.IsEmpty());
     }
+}
+
+TEST(LabelStoreTest, ARefusedChangeChangesNothing) {
+    int refused = 0;
+    for (unsigned action = 0; action < 11; ++action)
+        for (int nth = 1;; ++nth) {
+            testkit::AllocationGuard guard;
+            kavlix::LabelStore store;
+            for (int i = 0; i < 90; ++i)
+                store.Add(std::to_string(i).c_str());
+            const std::string before = Told(store);
+            guard.FailAt(nth);
+            try {
+                Change(store, action, 700, 600);
+            } catch (CMemoryException* exception) {
+                exception->Delete();
+                ++refused;
+                EXPECT_EQ(Told(store), before) << "action " << action << ", allocation " << nth;
+            }
+            if (!guard.Failed())
+                break;
+        }
+    EXPECT_GT(refused, 10);
 }
 
 TEST(LabelStoreTest, IndicesOutsideThrow) {

@@ -140,15 +140,6 @@ TEST_F(GraphMenuTest, RightButtonOpensTheMenuThereAndIsHandedOnAfterwards) {
     EXPECT_EQ(graph.m_SelectionMarkPos, -1) << "a gray item does nothing";
 }
 
-TEST_F(GraphMenuTest, MenusAreDestroyed) {
-    OpenByMouse({VK_ESCAPE}, {5, 5});
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    for (int i = 0; i < 5; ++i)
-        OpenByMouse({VK_ESCAPE}, {5, 5});
-    EXPECT_EQ(testkit::CountObjects().menus, before.menus);
-    EXPECT_EQ(testkit::CountObjects().windows, before.windows);
-}
-
 TEST_F(GraphMenuTest, KeyboardOpensTheMenuAtTheMark) {
     // The plot is 2230..5600 x 1100..3800 in units, 30 to a pixel; values 0..100 run upwards.
     const struct {

@@ -197,50 +197,6 @@ TEST_F(GraphRobustnessTest, TextsOfAMillionCharacters) {
     EXPECT_STREQ(graph.m_Title, text) << "kept whole, whatever is drawn";
 }
 
-TEST_F(GraphRobustnessTest, AThousandRepaintsLeaveTheObjectsWhereTheyWere) {
-    if (!testkit::CanCountGdiObjects())
-        GTEST_SKIP() << "the process's GDI table cannot be read here";
-    Add(0, {1, 50, 99});
-    Add(1, {9, 5, 2});
-    graph.SetLegend(0, "zero");
-    graph.ShowIconMaximize(TRUE, TRUE);
-    const auto repaint = [this](int times) {
-        for (int i = 0; i < times; ++i) {
-            graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(i % 4));
-            graph.SetTitleStyle(static_cast<CGraphCtrl::TitleStyle>(i % 2));
-            graph.SetSelectionMarkPos(i % 3);
-            graph.ShowBorder(i % 5 == 0);
-            graph.Redraw();
-            graph.UpdateWindow();
-        }
-    };
-    repaint(40); // what the platform keeps for itself is made by then
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    repaint(1000);
-    EXPECT_EQ(testkit::CountObjects(), before);
-}
-
-TEST_F(GraphRobustnessTest, AThousandControlsComeAndGo) {
-    if (!testkit::CanCountGdiObjects())
-        GTEST_SKIP() << "the process's GDI table cannot be read here";
-    const auto live = [this](int times) {
-        for (int i = 0; i < times; ++i) {
-            CGraphCtrl passing;
-            ASSERT_TRUE(passing.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 200, 100, 300),
-                                       &parent, 9));
-            passing.AddData(0, 1, nullptr);
-            if (i % 3 == 0)
-                passing.UpdateWindow();
-            if (i % 2 == 0)
-                passing.DestroyWindow();
-        }
-    };
-    live(10);
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    live(1000);
-    EXPECT_EQ(testkit::CountObjects(), before);
-}
-
 TEST_F(GraphRobustnessTest, APictureTooWideForABitmap) {
     Add(0, {1, 50, 99});
     Resize(32767, 400);

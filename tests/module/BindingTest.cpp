@@ -236,19 +236,3 @@ TEST(GraphBindingTest, AnItemThatCannotBeSubclassedThrows) {
     EXPECT_EQ(CWnd::FromHandlePermanent(first.m_hWnd), &first);
     dialog.DestroyWindow();
 }
-
-TEST(GraphBindingTest, TwentyDialogsLeakNothing) {
-    const DialogTemplate resource = TwoItems();
-    const auto open_and_close = [&resource] {
-        GraphDialog<> dialog(kGraphItem);
-        ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
-        dialog.graph.UpdateWindow();
-        dialog.DestroyWindow();
-    };
-    for (int i = 0; i < 2; ++i)
-        open_and_close();
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    for (int i = 0; i < 20; ++i)
-        open_and_close();
-    EXPECT_EQ(testkit::CountObjects(), before);
-}

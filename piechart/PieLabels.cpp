@@ -42,8 +42,8 @@ public:
             block.text = rest;
             (block.angle < 2 * kQuarterCircle ? right : left).push_back(block);
         }
-        PlaceBeside(m_area, std::move(left), false, m_labels);
-        PlaceBeside(m_area, std::move(right), true, m_labels);
+        PlaceBeside(m_area, left, false, m_labels);
+        PlaceBeside(m_area, right, true, m_labels);
         return std::move(m_labels);
     }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "graphctrl/Numeric.h"
 
@@ -18,7 +19,8 @@ constexpr int kLaneWidth = 3;      // between leaders that run round the pie one
 constexpr double kBendEvery = 6.0; // degrees along the rim, where a straight leader would cross the pie
 
 constexpr int kMostLines = 3; // of a box
-constexpr int kMostLanes = 4; // side by side
+constexpr int kMostLanes = 6; // side by side, beside the one next to the pie
+constexpr int kLanesAStep = 2;
 constexpr int kMostBends = 6; // a longer way round the pie is hard to follow
 // Of two leaders, so many pixels may lie closer than that: at tiny sectors they begin together.
 constexpr int kMostTogether = 10;
@@ -281,7 +283,7 @@ private:
         double angle = block.angle;
         const double towards = AngleOfPoint(m_area.pie, to) > angle ? kBendEvery : -kBendEvery;
         const double away = m_radius + 1 + lane * kLaneWidth;
-        for (int bends = 0; IsCloser(points.back(), to, away); ++bends) {
+        for (int bends = 0; IsCloser(points.back(), to, m_centre.x, m_centre.y, away); ++bends) {
             if (bends == kMostBends)
                 return {};
             angle += towards;
@@ -291,22 +293,16 @@ private:
         return points;
     }
 
-    // The part of the way between two points that comes nearest to a third, 0 to 1.
-    static double NearestPart(Point from, Point to, double x, double y) {
-        const double dx = to.x - from.x;
-        const double dy = to.y - from.y;
+    // Whether the straight line between two points comes closer to a third than `away`.
+    static bool IsCloser(Point from, Point to, double x, double y, double away) {
+        const double dx = double{1} * to.x - from.x;
+        const double dy = double{1} * to.y - from.y;
         const double length = dx * dx + dy * dy;
-        return length > 0 ? std::clamp(((x - from.x) * dx + (y - from.y) * dy) / length, 0.0, 1.0) : 0;
-    }
-
-    static double Distance(Point from, Point to, double x, double y) {
-        const double part = NearestPart(from, to, x, y);
-        return std::hypot(from.x + part * (to.x - from.x) - x, from.y + part * (to.y - from.y) - y);
-    }
-
-    // Whether the straight line between two points comes closer to the centre than that.
-    bool IsCloser(Point from, Point to, double away) const {
-        return Distance(from, to, m_centre.x, m_centre.y) < away;
+        const double part =
+            length > 0 ? std::clamp(((x - from.x) * dx + (y - from.y) * dy) / length, 0.0, 1.0) : 0;
+        const double besideX = from.x + part * dx - x;
+        const double besideY = from.y + part * dy - y;
+        return besideX * besideX + besideY * besideY < away * away;
     }
 
     // Whether two straight lines cross; touching is none.
@@ -335,14 +331,16 @@ private:
                 const double x = line[i - 1].x + dx * part;
                 const double y = line[i - 1].y + dy * part;
                 for (std::size_t k = 1; k < other.size(); ++k) {
-                    if (Distance(other[k - 1], other[k], x, y) >= kTogether)
+                    if (!IsCloser(other[k - 1], other[k], x, y, kTogether))
                         continue;
                     together += kStep;
                     break;
                 }
+                if (together > kMostTogether)
+                    return true;
             }
         }
-        return together > kMostTogether;
+        return false;
     }
 
     // Takes out the smallest of the blocks that stand close together round `crowded`.
@@ -400,18 +398,19 @@ private:
 
 } // namespace
 
-void PlaceBeside(const PieLabelArea& area, std::vector<PieBlock> blocks, bool right,
+void PlaceBeside(const PieLabelArea& area, const std::vector<PieBlock>& blocks, bool right,
                  std::vector<PieLabel>& labels) {
     // Lanes take room from the texts: more of them only where more labels find a place then.
-    Column narrow(area, blocks, right, 0);
-    narrow.Place();
-    if (narrow.Count() < blocks.size()) {
-        Column wide(area, std::move(blocks), right, kMostLanes);
-        wide.Place();
-        if (wide.Count() > narrow.Count())
-            return wide.Put(labels);
+    std::optional<Column> best;
+    for (int lanes = 0; lanes <= kMostLanes; lanes += kLanesAStep) {
+        Column column(area, blocks, right, lanes);
+        column.Place();
+        if (!best || column.Count() > best->Count())
+            best.emplace(std::move(column));
+        if (best->Count() == blocks.size())
+            break;
     }
-    narrow.Put(labels);
+    best->Put(labels);
 }
 
 } // namespace kavlix

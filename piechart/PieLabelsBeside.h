@@ -18,7 +18,7 @@ struct PieBlock {
 };
 
 /// Places `blocks` on one side and enters in `labels` those for which there is room.
-void PlaceBeside(const PieLabelArea& area, std::vector<PieBlock> blocks, bool right,
+void PlaceBeside(const PieLabelArea& area, const std::vector<PieBlock>& blocks, bool right,
                  std::vector<PieLabel>& labels);
 
 } // namespace kavlix

@@ -155,6 +155,7 @@ TEST(PieLabelsTest, EveryTextHasAPlaceOfItsOwn) {
         {"twelve equal, long texts", 400, 300, std::vector<double>(12, 1 / 12.0), {400, 0, 28}, 12, 12},
         {"forty", 400, 300, std::vector<double>(40, 1 / 40.0), {65, 45, 28}, 20, -1},
         {"nothing but nothing beside the whole", 400, 300, {1, 0}, {65, 45, 40}, 2, 1},
+        {"tiny ones with room below", 300, 200, {0.98, 0.005, 0.005, 0.005, 0.005}, {30, 0, 28}, 5, 4},
         {"too small for texts", 60, 60, {0.5, 0.5}, {65, 45, 40}, 0, 0},
         {"percentages alone", 300, 200, {0.5, 0.45, 0.05}, {0, 0, 40}, 3, 1},
     };

@@ -5,23 +5,19 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
-const char* FaultName(DWORD code) {
-    switch (code) {
-    case EXCEPTION_ILLEGAL_INSTRUCTION:
-        return "illegal instruction: undefined behaviour or __builtin_trap";
-    case EXCEPTION_ACCESS_VIOLATION:
-        return "access violation";
-    case EXCEPTION_STACK_OVERFLOW:
-        return "stack overflow";
-    case EXCEPTION_INT_DIVIDE_BY_ZERO:
-    case EXCEPTION_INT_OVERFLOW:
-        return "integer division";
-    default:
-        return nullptr;
-    }
-}
+constexpr struct {
+    DWORD code;
+    const char* name;
+} kFaults[] = {{EXCEPTION_ILLEGAL_INSTRUCTION, "illegal instruction: undefined behaviour or __builtin_trap"},
+               {EXCEPTION_ACCESS_VIOLATION, "access violation"},
+               {EXCEPTION_STACK_OVERFLOW, "stack overflow"},
+               {EXCEPTION_INT_DIVIDE_BY_ZERO, "division by zero"},
+               {EXCEPTION_INT_OVERFLOW, "division overflow"}};
 
 // System libraries probe foreign pointers and handle the fault themselves; the C runtime does not.
 bool IsHandledBySystem(HMODULE module) {
@@ -34,17 +30,19 @@ bool IsHandledBySystem(HMODULE module) {
 
 LONG CALLBACK EndOnFault(EXCEPTION_POINTERS* pointers) {
     const EXCEPTION_RECORD& record = *pointers->ExceptionRecord;
-    const char* const fault = FaultName(record.ExceptionCode);
+    const auto* const fault = std::find_if(std::begin(kFaults), std::end(kFaults), [&](const auto& each) {
+        return each.code == record.ExceptionCode;
+    });
     HMODULE module = nullptr;
     ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
                              GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                          static_cast<LPCSTR>(record.ExceptionAddress), &module);
-    if (fault == nullptr || IsHandledBySystem(module))
+    if (fault == std::end(kFaults) || IsHandledBySystem(module))
         return EXCEPTION_CONTINUE_SEARCH;
     const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
     char line[512];
     const int length = ::wsprintfA(
-        line, "\nFAULT %08lX (%s) at %p, module at %p, in test %.150s.%.150s\n", record.ExceptionCode, fault,
+        line, "\nFAULT %08lX (%s) at %p, module at %p, in test %.150s.%.150s\n", record.ExceptionCode, fault->name,
         record.ExceptionAddress, module, test != nullptr ? test->test_suite_name() : "(none)",
         test != nullptr ? test->name() : "");
     DWORD written = 0;

@@ -1,6 +1,8 @@
 #include "tests/piechart/PieTest.h"
 #include "tests/support/MemoryRule.h"
 
+#include <cstring>
+
 class PieDataTest : public PieTest {};
 
 TEST_F(PieDataTest, StartsAsDescribed) {
@@ -10,21 +12,11 @@ TEST_F(PieDataTest, StartsAsDescribed) {
     EXPECT_EQ(fresh.m_crOutline, 0u);
     EXPECT_EQ(fresh.m_crSelected, 0x000000FFu);
     EXPECT_EQ(fresh.m_rcPie, CRect(0, 0, 0, 0));
-    const struct {
-        CFont& font;
-        int height;
-    } fonts[] = {{fresh.m_fontLarge, 15}, {fresh.m_fontSmall, 13}};
-    for (const auto& each : fonts) {
-        LOGFONT font = {};
-        ASSERT_NE(each.font.GetObject(sizeof font, &font), 0);
-        EXPECT_EQ(font.lfHeight, each.height);
-        EXPECT_EQ(font.lfWeight, 400);
-        EXPECT_EQ(font.lfCharSet, 1);
-        EXPECT_EQ(font.lfOutPrecision, 2);
-        EXPECT_EQ(font.lfClipPrecision, 1);
-        EXPECT_EQ(font.lfQuality, 0);
-        EXPECT_EQ(font.lfPitchAndFamily, 0);
-        EXPECT_STREQ(font.lfFaceName, "Arial");
+    for (const auto& [font, height] : {std::pair(&fresh.m_fontLarge, 15), std::pair(&fresh.m_fontSmall, 13)}) {
+        const LOGFONT expected = {height, 0, 0, 0, 400, 0, 0, 0, 1, 2, 1, 0, 0, "Arial"};
+        LOGFONT told = {};
+        ASSERT_NE(font->GetObject(sizeof told, &told), 0);
+        EXPECT_EQ(std::memcmp(&told, &expected, sizeof told), 0) << height;
     }
     WNDCLASS info = {};
     ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), "PIE_CHART_CTRL", &info));

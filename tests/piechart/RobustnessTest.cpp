@@ -1,5 +1,4 @@
 #include "tests/piechart/PieTest.h"
-#include "tests/support/GdiCounter.h"
 #include "tests/support/ImportHook.h"
 
 #include <cmath>
@@ -62,31 +61,6 @@ TEST_F(PieRobustnessTest, TenThousandPieces) {
     DWORD colour = 0;
     pie.GetItemColor(9999, colour);
     EXPECT_EQ(colour, Colour(9999 % 7));
-}
-
-TEST_F(PieRobustnessTest, ObjectsAreFlatOverAThousandPaints) {
-    if (!testkit::CanCountGdiObjects())
-        GTEST_SKIP() << "GDI objects cannot be counted here";
-    {
-        const testkit::ObjectCounts clean = testkit::CountObjects();
-        CBrush planted;
-        planted.CreateSolidBrush(RGB(1, 2, 3));
-        EXPECT_EQ(testkit::CountObjects().brushes, clean.brushes + 1) << "a leak would be seen";
-    }
-    for (int i = 0; i < 7; ++i)
-        pie.AddPiece(Colour(i), 0, 8, 1, "some label");
-    pie.Wait("waiting", 1);
-    const auto paint = [&](int i) {
-        pie.Refresh();
-        pie.UpdateWindow();
-        Click(CPoint(100 + i % 60, 80 + i % 30));
-    };
-    for (int i = 0; i < 20; ++i)
-        paint(i);
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    for (int i = 0; i < 1000; ++i)
-        paint(i);
-    EXPECT_EQ(testkit::CountObjects(), before);
 }
 
 TEST_F(PieRobustnessTest, PaintsWithoutBitmapAndWithoutRegions) {

@@ -1,4 +1,3 @@
-#include "tests/mfc/gdi/NothingLeft.h"
 #include "tests/support/DibSurface.h"
 
 #include <afxwin.h>
@@ -153,19 +152,6 @@ TEST(DC, HandlesAndMaps) {
     }
     EXPECT_EQ(0u, ::GetObjectType(raw)) << "the destructor deletes the DC";
     EXPECT_EQ(nullptr, CDC::FromHandle(nullptr));
-}
-
-TEST(DC, WindowDCsAreGivenBack) {
-    CWnd window;
-    ASSERT_TRUE(window.CreateEx(0, "STATIC", "", WS_POPUP, 0, 0, 50, 40, nullptr, nullptr));
-    ExpectNothingLeft([&] {
-        CClientDC client(&window);
-        EXPECT_EQ(window.m_hWnd, client.GetWindow()->m_hWnd);
-        CWindowDC whole(&window);
-        CClientDC screen(nullptr);
-        EXPECT_FALSE(client.IsPrinting());
-    });
-    window.DestroyWindow();
 }
 
 TEST(DC, ClipResults) {

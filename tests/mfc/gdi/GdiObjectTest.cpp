@@ -1,5 +1,4 @@
 #include "tests/mfc/Refusal.h"
-#include "tests/mfc/gdi/NothingLeft.h"
 
 #include <afxwin.h>
 
@@ -250,34 +249,6 @@ TEST(GdiObject, RegionsCombineAndCompare) {
     CRgn copy;
     ASSERT_TRUE(copy.CreateFromData(nullptr, bytes, reinterpret_cast<RGNDATA*>(data.data())));
     EXPECT_TRUE(copy.EqualRgn(&left));
-}
-
-TEST(GdiObject, NothingIsLeftBehind) {
-    if (!testkit::CanCountGdiObjects())
-        GTEST_SKIP() << "this system's GDI table cannot be read";
-    ExpectNothingLeft([] {
-        CPen pen(PS_DOT, 1, RGB(9, 9, 9));
-        CBrush brush(HS_CROSS, RGB(8, 8, 8));
-        CFont font;
-        font.CreatePointFont(100, "Arial");
-        CBitmap bitmap;
-        bitmap.CreateBitmap(4, 4, 1, 32, nullptr);
-        CRgn region;
-        region.CreateEllipticRgn(0, 0, 9, 9);
-        CDC dc;
-        dc.CreateCompatibleDC(nullptr);
-        const int saved = dc.SaveDC();
-        dc.SelectObject(&bitmap);
-        dc.SelectObject(&pen);
-        dc.SelectObject(&brush);
-        dc.SelectObject(&font);
-        dc.SelectClipRgn(&region);
-        dc.RestoreDC(saved);
-    });
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    HPEN const planted = ::CreatePen(PS_SOLID, 1, 0);
-    EXPECT_FALSE(before == testkit::CountObjects()) << "the counter does not see a leak";
-    ::DeleteObject(planted);
 }
 
 } // namespace

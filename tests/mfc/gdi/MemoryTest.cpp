@@ -21,28 +21,24 @@ struct Handles {
         brush.CreateSolidBrush(RGB(1, 2, 3));
         window.CreateEx(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr);
     }
-    /// What exists, and whether the brush and the bitmap are selected.
+    /// What exists, and whether the brush is selected.
     std::string State() {
-        const bool facts[] = {pen.m_hObject != nullptr,
-                              font.m_hObject != nullptr,
-                              made.m_hDC != nullptr,
-                              recorder.m_hDC != nullptr,
-                              menu.m_hMenu != nullptr,
-                              child.m_hWnd != nullptr,
-                              ::GetCurrentObject(dc, OBJ_BRUSH) == brush.m_hObject};
         std::string text;
-        for (const bool fact : facts)
-            text += fact ? '1' : '0';
-        return text;
+        for (const void* handle : {static_cast<void*>(pen), static_cast<void*>(font), static_cast<void*>(made),
+                                   static_cast<void*>(recorder), static_cast<void*>(menu),
+                                   static_cast<void*>(region), static_cast<void*>(child.m_hWnd)})
+            text += handle != nullptr ? '1' : '0';
+        return text + (::GetCurrentObject(dc, OBJ_BRUSH) == brush.m_hObject ? "*" : "");
     }
     template <class WindowDC> bool Takes() {
-        return !Throws<CResourceException>([&] { WindowDC taken(&window); });
+        return !Throws<CResourceException>([&] { EXPECT_EQ(WindowDC(&window).GetWindow(), &window); });
     }
     bool Releases(CDC* taken) { return taken != nullptr && window.ReleaseDC(taken) != 0; }
     CDC dc, made;
     CBrush brush;
     CPen pen;
     CFont font;
+    CRgn region;
     CMetaFileDC recorder;
     CMenu menu;
     CWnd window, child;
@@ -54,6 +50,7 @@ TEST(HandleMemory, NoHandleIsLost) {
         {"font", OnFailure::False, [](Handles& s) { return s.font.CreatePointFont(90, "Arial") != 0; }},
         {"brush in its constructor", OnFailure::False,
          [](Handles&) { return !Throws<CResourceException>([] { CBrush made(RGB(4, 5, 6)); }); }},
+        {"region", OnFailure::False, [](Handles& s) { return s.region.CreateEllipticRgn(0, 0, 9, 9) != 0; }},
         {"DC", OnFailure::False, [](Handles& s) { return s.made.CreateCompatibleDC(nullptr) != 0; }},
         {"recording", OnFailure::False,
          [](Handles& s) { return s.recorder.CreateEnhanced(nullptr, nullptr, nullptr, nullptr) != 0; }},
@@ -65,19 +62,11 @@ TEST(HandleMemory, NoHandleIsLost) {
         {"wrapped DC", OnFailure::False, [](Handles& s) { return s.Releases(s.window.GetDC()); }},
         {"select", OnFailure::False, [](Handles& s) { return s.dc.SelectObject(&s.brush) != nullptr; }},
         {"attach", OnFailure::Throws,
-         [](Handles& s) {
-             s.pen.Attach(::GetStockObject(BLACK_PEN));
-             return true;
-         }},
+         [](Handles& s) { return s.pen.Attach(::GetStockObject(BLACK_PEN)) != 0; }},
         {"create a window", OnFailure::False,
-         [](Handles& s) {
-             return s.child.Create("STATIC", "", WS_CHILD, CRect(0, 0, 5, 5), &s.window, 1) != 0;
-         }},
+         [](Handles& s) { return s.child.Create("STATIC", "", WS_CHILD, CRect(0, 0, 5, 5), &s.window, 1) != 0; }},
         {"attach a window", OnFailure::Throws,
-         [](Handles& s) {
-             s.child.Attach(::GetDesktopWindow());
-             return s.child.Detach() != nullptr;
-         }},
+         [](Handles& s) { return s.child.Attach(::GetDesktopWindow()) && s.child.Detach() != nullptr; }},
     });
     EXPECT_GE(failures, 30);
 }

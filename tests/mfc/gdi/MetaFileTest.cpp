@@ -1,4 +1,3 @@
-#include "tests/mfc/gdi/NothingLeft.h"
 #include "tests/support/DibSurface.h"
 
 #include <afxwin.h>
@@ -69,23 +68,6 @@ TEST(MetaFileDC, AnswersOnlyWithAnAttributeDC) {
     EXPECT_EQ(1u, counts.count(EMR_SETTEXTCOLOR));
     EXPECT_EQ(1u, counts.count(EMR_SETWINDOWEXTEX));
     ::DeleteEnhMetaFile(metafile);
-}
-
-TEST(MetaFileDC, UnclosedRecordingsAreThrownAway) {
-    ExpectNothingLeft([] {
-        CMetaFileDC enhanced;
-        ASSERT_TRUE(enhanced.CreateEnhanced(nullptr, nullptr, nullptr, nullptr));
-        enhanced.Rectangle(0, 0, 5, 5);
-        CMetaFileDC plain;
-        ASSERT_TRUE(plain.Create());
-        plain.Rectangle(0, 0, 5, 5);
-    });
-
-    CMetaFileDC old;
-    ASSERT_TRUE(old.Create());
-    HMETAFILE const metafile = old.Close();
-    EXPECT_NE(nullptr, metafile);
-    ::DeleteMetaFile(metafile);
 }
 
 } // namespace

@@ -90,8 +90,8 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
     }
 }
 
-void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLabel& label, const CString& strText,
-                              int nBreak) {
+void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLabel& label,
+                              const CString& strText, int nBreak) {
     const COLORREF inside = piece.m_bSelected ? kSelectedText : piece.m_crText;
     COLORREF beside = inside;
     if (label.outside && piece.m_bSelected) {

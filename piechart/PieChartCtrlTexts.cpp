@@ -23,7 +23,7 @@ CString Cut(const CString& label, int bytes, const CString& tail) {
     return cut + kDots + tail;
 }
 
-/// As many whole characters of the beginning as go with the dots and `tail` into `width`; 0 when not one does.
+/// Bytes of as many whole characters as go with the dots and `tail` into `width`; 0 when not one does.
 int FittingBytes(const CDC& dc, const CString& label, const CString& tail, int width) {
     const int length = label.GetLength();
     int fits = 0;

@@ -220,8 +220,8 @@ private:
         return grown;
     }
 
-    // Gives every block its leader, each in the nearest lane in which it can be told from its neighbours'. The
-    // result is a block whose leader finds no way, or the end.
+    // Gives every block its leader, each in the nearest lane in which it can be told from its neighbours'.
+    // The result is a block whose leader finds no way, or the end.
     Iterator Connect() {
         for (PieBlock& block : m_blocks)
             block.leader.clear();
@@ -260,8 +260,8 @@ private:
         return {left, top, left + width, top + shape.lines * m_area.lineHeight};
     }
 
-    // Where a leader ends: at the edge that faces the pie; over or under the pie that may be the lower or upper
-    // one.
+    // Where a leader ends: at the edge that faces the pie; over or under the pie that may be the lower or
+    // upper one.
     Point LeaderEnd(const PieBlock& block) const {
         const Rect box = Box(block, Arrange(block.text, Room(block).Width(), block.lines));
         const Point start = LeaderStart(block, 0);

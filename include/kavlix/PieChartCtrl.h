@@ -46,9 +46,9 @@ public:
 /// pie with a line to the sector, in that colour or, where it would not be legible on the background, in
 /// black or white. Beside the pie a text may be broken in two, abbreviated or, if there is no room, left out,
 /// the smallest pieces first; a pie hardly higher than a line has no texts. Labels that begin alike are
-/// abbreviated in the middle. The texts of a selected piece are white on the selection's colour. Where a piece
-/// has nearly that colour itself, a light line within the selected sector tells the selection too, unless the
-/// sector is too narrow for one.
+/// abbreviated in the middle. The texts of a selected piece are white on the selection's colour. Where a
+/// piece has nearly that colour itself, a light line within the selected sector tells the selection too,
+/// unless the sector is too narrow for one.
 class KAVLIX_API CPieChartCtrl : public CWnd {
 public:
     /// Sets all defaults, makes the fonts and tries to register the window class "PIE_CHART_CTRL"; creates no
@@ -147,8 +147,8 @@ private:
     void DrawOutline(CDC& dc, const std::vector<kavlix::PieSector>& sectors);
     void DrawLabels(CDC& dc, const CRect& client, const std::vector<kavlix::PieSector>& sectors,
                     const CRect& band);
-    void DrawLabel(CDC& dc, const CPieChartPiece& piece, const kavlix::PieLabel& label, const CString& strText,
-                   int nBreak);
+    void DrawLabel(CDC& dc, const CPieChartPiece& piece, const kavlix::PieLabel& label,
+                   const CString& strText, int nBreak);
     CRect PlaceMessage(CDC& dc, const CRect& client, const CString& text);
     void DrawMessage(CDC& dc, const CRect& client, const CString& text, const CRect& band, bool bBand);
 };

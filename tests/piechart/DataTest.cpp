@@ -12,7 +12,7 @@ TEST_F(PieDataTest, StartsAsDescribed) {
     EXPECT_EQ(fresh.m_crOutline, 0u);
     EXPECT_EQ(fresh.m_crSelected, 0x000000FFu);
     EXPECT_EQ(fresh.m_rcPie, CRect(0, 0, 0, 0));
-    for (const auto& [font, height] : {std::pair(&fresh.m_fontLarge, 15), std::pair(&fresh.m_fontSmall, 13)}) {
+    for (const auto& [font, height] : {std::pair(&fresh.m_fontLarge, 15), {&fresh.m_fontSmall, 13}}) {
         const LOGFONT expected = {height, 0, 0, 0, 400, 0, 0, 0, 1, 2, 1, 0, 0, "Arial"};
         LOGFONT told = {};
         ASSERT_NE(font->GetObject(sizeof told, &told), 0);
@@ -144,7 +144,7 @@ TEST_F(PieDataTest, MemoryRunsOut) {
         {"wait", OnFailure::Throws, [](FedPie& s) { return s.pie.Wait(kLong, 1), true; }},
         {"construct", OnFailure::Never, [](FedPie&) { return OpenPie().m_nStartAngle == 0; }},
         {"create", OnFailure::False,
-         [](FedPie& s) { return s.other.CPieChartCtrl::Create(WS_CHILD, CRect(0, 0, 9, 9), g_parent, 2) != 0; }},
+         [](FedPie& s) { return !!s.other.CPieChartCtrl::Create(WS_CHILD, CRect(0, 0, 9, 9), g_parent, 2); }},
         {"reset", OnFailure::Never, [](FedPie& s) { return s.pie.Reset(), true; }},
         {"search", OnFailure::Never, [](FedPie& s) { return s.pie.GetPieceIndex(200) >= 0; }},
         {"refresh", OnFailure::Never, [](FedPie& s) { return s.pie.Refresh(), s.pie.RecalcRect(), true; }},

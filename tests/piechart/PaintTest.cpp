@@ -47,7 +47,8 @@ TEST_F(PiePaintTest, EveryPixelBelongsToThePieceThatAClickFinds) {
                 const double pixel = 80 / std::max(distance, 1.0); // degrees, and some more
                 const int piece = search.GetPieceIndex(angle);
                 if (distance > pie.m_rcPie.Height() / 2.0 - 2 || angle <= pixel || angle + pixel >= 360 ||
-                    search.GetPieceIndex(angle - pixel) != piece || search.GetPieceIndex(angle + pixel) != piece)
+                    search.GetPieceIndex(angle - pixel) != piece ||
+                    search.GetPieceIndex(angle + pixel) != piece)
                     continue; // outside, or on a boundary
                 const COLORREF colour = picture->At(x, y);
                 bool isKnown = colour == kBack; // no text, which has many colours
@@ -202,7 +203,7 @@ TEST_F(PiePaintTest, OnePictureForEveryDestination) {
         pie.DrawPie(dc);
         dc.ReleaseOutputDC();
         output.Close();
-        EXPECT_EQ(output.ClippedLines(testkit::kDrawing), Record()->ClippedLines(testkit::kDrawing)) << paired;
+        EXPECT_EQ(output.ClippedLines(testkit::kDrawing), Record()->ClippedLines(testkit::kDrawing));
     }
 
     testkit::DibSurface moved(340, 250, RGB(9, 9, 9));

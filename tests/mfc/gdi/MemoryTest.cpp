@@ -24,9 +24,8 @@ struct Handles {
     /// What exists, and whether the brush is selected.
     std::string State() {
         std::string text;
-        for (const void* handle : {static_cast<void*>(pen), static_cast<void*>(font), static_cast<void*>(made),
-                                   static_cast<void*>(recorder), static_cast<void*>(menu),
-                                   static_cast<void*>(region), static_cast<void*>(child.m_hWnd)})
+        for (const HANDLE handle : {pen.m_hObject, font.m_hObject, region.m_hObject, HANDLE(made),
+                                    HANDLE(recorder), HANDLE(menu), HANDLE(child.m_hWnd)})
             text += handle != nullptr ? '1' : '0';
         return text + (::GetCurrentObject(dc, OBJ_BRUSH) == brush.m_hObject ? "*" : "");
     }
@@ -64,7 +63,7 @@ TEST(HandleMemory, NoHandleIsLost) {
         {"attach", OnFailure::Throws,
          [](Handles& s) { return s.pen.Attach(::GetStockObject(BLACK_PEN)) != 0; }},
         {"create a window", OnFailure::False,
-         [](Handles& s) { return s.child.Create("STATIC", "", WS_CHILD, CRect(0, 0, 5, 5), &s.window, 1) != 0; }},
+         [](Handles& s) { return !!s.child.Create("STATIC", "", WS_CHILD, CRect(), &s.window, 1); }},
         {"attach a window", OnFailure::Throws,
          [](Handles& s) { return s.child.Attach(::GetDesktopWindow()) && s.child.Detach() != nullptr; }},
     });

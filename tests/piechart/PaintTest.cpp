@@ -24,7 +24,7 @@ TEST_F(PiePaintTest, EveryPixelBelongsToThePieceThatAClickFinds) {
     const double odd[] = {0, -20, NAN, INFINITY, -INFINITY, 70, 0.8};
     const unsigned equal[] = {1, 2, 7, 40};
     std::mt19937 random(7);
-    for (unsigned run = 0; run < 60; ++run) {
+    for (unsigned run = 0; run < 30; ++run) {
         SCOPED_TRACE(run);
         pie.Reset();
         OpenPie search; // without a window, where nothing is invalidated a million times

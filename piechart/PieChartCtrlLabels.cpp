@@ -41,7 +41,7 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
     area.startAngle = m_nStartAngle % 360;
     area.lineHeight = std::max<int>(MeasureText(dc, "W").cy, 1);
 
-    // Measuring texts is dear: only what can be shown is looked at.
+    // Measuring text is slow: only pieces that can have a label are looked at.
     const std::vector<int> shown = WidestSectors(sectors, LabelCapacity(area));
     std::vector<CString> texts;
     for (const int index : shown)

@@ -150,7 +150,6 @@ TEST(PieLabelsTest, EveryTextHasAPlaceOfItsOwn) {
         {"whole", 400, 300, {1}, {65, 45, 40}, 1, 0},
         {"two large, three small", 400, 300, {0.6, 0.3, 0.03, 0.03, 0.04}, {65, 45, 40}, 5, 3},
         {"twelve equal", 400, 300, std::vector<double>(12, 1 / 12.0), {65, 45, 28}, 12, 12},
-        {"twelve equal, no percentages", 396, 296, std::vector<double>(12, 1 / 12.0), {65, 45, 0}, 12, 12},
         {"twelve equal, long texts", 400, 300, std::vector<double>(12, 1 / 12.0), {400, 0, 28}, 12, 12},
         {"forty", 400, 300, std::vector<double>(40, 1 / 40.0), {65, 45, 28}, 20, -1},
         {"nothing but nothing beside the whole", 400, 300, {1, 0}, {65, 45, 40}, 2, 1},

@@ -68,5 +68,7 @@ void ScrollBack();
 void ScrollAxis();
 void ChartPaint(int count);
 void MultiPaint();
+void ChartLines(int count);
+void ChartRandom(bool markers);
 
 } // namespace bench

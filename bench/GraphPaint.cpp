@@ -11,8 +11,6 @@ constexpr COLORREF kColors[kSeries] = {
     RGB(200, 0, 0),    RGB(0, 120, 0),   RGB(0, 0, 200),   RGB(180, 120, 0), RGB(150, 0, 150),
     RGB(0, 140, 140),  RGB(80, 80, 80),  RGB(220, 90, 20), RGB(60, 150, 30), RGB(30, 110, 220),
     RGB(230, 30, 120), RGB(110, 60, 20), RGB(0, 0, 0)};
-constexpr double kYMin = -3;
-constexpr double kYMax = 3;
 constexpr int kStored = 1000000;
 constexpr int kInView = 1000;
 constexpr int kCopies = 5;

@@ -19,6 +19,8 @@ constexpr int kSeries = CGraphCtrl::DatasetCount;
 constexpr int kWidth = 1000;
 constexpr int kHeight = 600;
 constexpr int kGroups = 50;
+constexpr double kYMin = -3;
+constexpr double kYMax = 3;
 constexpr double kMicrosecondsPerMillisecond = 1e3;
 constexpr double kMicrosecondsPerSecond = 1e6;
 
@@ -26,12 +28,12 @@ constexpr double kMicrosecondsPerSecond = 1e6;
 class Randoms {
 public:
     explicit Randoms(std::uint64_t seed) : m_state(seed) {}
-    double Next() {
+    double Next() { return static_cast<double>(NextBits() >> 11) * (1.0 / 9007199254740992.0) * 2.0 - 1.0; }
+    std::uint64_t NextBits() {
         std::uint64_t z = (m_state += 0x9E3779B97F4A7C15u);
         z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
         z = (z ^ (z >> 27)) * 0x94D049BB133111EBu;
-        z ^= z >> 31;
-        return static_cast<double>(z >> 11) * (1.0 / 9007199254740992.0) * 2.0 - 1.0;
+        return z ^ (z >> 31);
     }
 
 private:

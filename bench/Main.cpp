@@ -41,6 +41,10 @@ constexpr struct {
     {"chart_paint_100000", [] { bench::ChartPaint(100000); }},
     {"chart_paint_1000000", [] { bench::ChartPaint(1000000); }},
     {"multi_paint", &bench::MultiPaint},
+    {"chart_lines_100000", [] { bench::ChartLines(100000); }},
+    {"chart_lines_1000000", [] { bench::ChartLines(1000000); }},
+    {"chart_random", [] { bench::ChartRandom(false); }},
+    {"chart_random_points", [] { bench::ChartRandom(true); }},
     {"graph_growth", &bench::GraphGrowth},
     {"graph_day", &bench::GraphDay},
 };

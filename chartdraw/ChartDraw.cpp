@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/RoundScale.h"
@@ -84,17 +85,17 @@ void CChartDraw::GetYScale(double& dMin, double& dMax, double& dStep) const {
 }
 
 void CChartDraw::SetTitle(CString text) {
-    m_Title = text;
+    m_Title = std::move(text);
     m_Changed = true;
 }
 
 void CChartDraw::SetXLabel(CString text) {
-    m_XLabel = text;
+    m_XLabel = std::move(text);
     m_Changed = true;
 }
 
 void CChartDraw::SetYLabel(CString text) {
-    m_YLabel = text;
+    m_YLabel = std::move(text);
     m_Changed = true;
 }
 
@@ -106,7 +107,7 @@ void CChartDraw::SetGrid(BOOL bGridX, BOOL bGridY) {
 void CChartDraw::SetTextFont(int nSize, const char* pszFace) {
     constexpr int kSmallestSize = 10;
     constexpr int kLargestSize = 720;
+    m_FontFace = pszFace; // the one step that can fail
     m_FontSize = std::clamp(nSize, kSmallestSize, kLargestSize);
-    m_FontFace = pszFace;
     m_Changed = true;
 }

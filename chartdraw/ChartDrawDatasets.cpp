@@ -5,14 +5,15 @@
 #include <vector>
 
 #include "chartdraw/ChartDrawDataset.h"
-#include "chartdraw/ChartLine.h"
+#include "chartdraw/ChartDrawStamps.h"
+#include "chartdraw/ChartDrawWideLine.h"
 #include "chartdraw/ChartWalk.h"
+#include "chartdraw/PaintedPath.h"
 #include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
 #include "gdi/Markers.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/LinearMap.h"
-#include "graphctrl/ThinLine.h"
 
 using namespace kavlix;
 
@@ -20,6 +21,43 @@ namespace {
 
 constexpr int kMarkerHalf = 3;
 constexpr int kPixelSize = 1;
+
+/// Paints a line in logical units that are pixels, the device's `origin` at (0, 0).
+class MovedPath : public PixelPath {
+public:
+    MovedPath(const PixelRaster& raster, std::uint32_t colour, const POINT& origin)
+        : m_path(raster, colour), m_origin(ToPoint(origin)) {}
+
+    void Add(const Point& pixel) override { m_path.Add({pixel.x + m_origin.x, pixel.y + m_origin.y}); }
+    void Break() override { m_path.Break(); }
+
+private:
+    PaintedPath m_path;
+    Point m_origin;
+};
+
+/// Has GDI draw a thin line with the pen that is selected.
+void DrawThin(CDC& dc, const Point* points, int count) {
+    std::vector<POINT> stroke;
+    stroke.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        stroke.push_back({points[i].x, points[i].y});
+    dc.Polyline(stroke.data(), count);
+}
+
+/// A dot as wide as the line, with corners where a round one would hardly be seen.
+StampShape DotOf(int lineSize) {
+    constexpr int kSmallest = 3;
+    constexpr int kSmallestRound = 5;
+    const int size = std::max(lineSize, kSmallest);
+    return {size / 2 + 1, true, [size](CDC& dc, int x, int y) {
+                const CRect box(CPoint(x - size / 2, y - size / 2), CSize(size, size));
+                if (size < kSmallestRound)
+                    dc.Rectangle(box);
+                else
+                    dc.Ellipse(box);
+            }};
+}
 
 } // namespace
 
@@ -46,46 +84,39 @@ void CChartDraw::DrawLine(CDC& dc, const Dataset& dataset) const {
     CRect view = m_rectPlot;
     const int reach = SeriesReduction::Reach(dataset.lineSize);
     view.InflateRect(reach, reach);
-    const std::optional<std::uint32_t> colour = DirectColour(dataset.color);
-    std::optional<PixelRaster> raster;
-    if (dataset.lineSize <= kPixelSize && colour && dc.GetMapMode() == MM_TEXT)
-        raster = DirectRaster(dc);
-    CPoint origin(0, 0);
-    dc.LPtoDP(&origin);
-    std::vector<POINT> stroke;
-    SeriesReduction reduction(ToRect(view), [&](const Point* points, int count) {
-        if (raster) {
-            ThinLine direct(*raster, *colour);
-            for (int i = 0; i < count; ++i)
-                direct.To(points[i].x + static_cast<int>(origin.x), points[i].y + static_cast<int>(origin.y));
-            direct.End();
-            return;
-        }
-        stroke.clear();
-        for (int i = 0; i < count; ++i)
-            stroke.push_back({points[i].x, points[i].y});
-        dc.Polyline(stroke.data(), count);
-    });
-    ChartLine line(reduction);
+    PixelSet lonePixels(ToRect(m_rectPlot));
     const LinearMap xMap = XMap();
     const LinearMap yMap = YMap();
-    ChartWalk(dataset.points, xMap, yMap, ToRect(view), line).Run();
+    const auto walk = [&](PixelPath& path) {
+        ChartLine line(path, lonePixels);
+        ChartWalk(dataset.points, xMap, yMap, ToRect(view), line).Run();
+    };
+    const std::optional<std::uint32_t> colour = DirectColour(dataset.color);
+    std::optional<PixelRaster> raster;
+    if (colour && ::GetMapMode(dc.GetSafeHdc()) == MM_TEXT)
+        raster = DirectRaster(dc);
+    POINT origin = {0, 0};
+    ::LPtoDP(dc.GetSafeHdc(), &origin, 1);
+    if (dataset.lineSize > kPixelSize) {
+        WideStrokes strokes(dc, dataset.lineSize, raster, colour.value_or(0), origin);
+        ReducedPath path(ToRect(view), [&](const Point* points, int count) { strokes.Draw(points, count); });
+        walk(path);
+    } else if (raster) {
+        MovedPath path(*raster, *colour, origin);
+        walk(path);
+    } else {
+        ReducedPath path(ToRect(view), [&](const Point* points, int count) { DrawThin(dc, points, count); });
+        walk(path);
+    }
+    // A point without neighbours has no stroke; a dot shows it.
+    if (dataset.markerType == CDataset::MarkerNone)
+        DrawStamps(dc, lonePixels, dataset.color, DotOf(dataset.lineSize));
 }
 
 void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
-    CPen pen;
-    pen.CreatePen(PS_SOLID, 0, dataset.color);
-    SavedDcGuard saved(dc);
-    Select(dc, pen);
-    dc.SelectStockObject(NULL_BRUSH);
-
-    // A marker on a place that has one changes nothing. Places go column by column.
-    const auto height = static_cast<std::size_t>(m_rectPlot.Height());
-    std::vector<bool> marked(static_cast<std::size_t>(m_rectPlot.Width()) * height);
-    const auto placeOf = [&](int x, int y) {
-        return static_cast<std::size_t>(x - m_rectPlot.left) * height +
-               static_cast<std::size_t>(y - m_rectPlot.top);
-    };
+    // A marker on a place that has one changes nothing.
+    const Rect plot = ToRect(m_rectPlot);
+    PixelSet places(plot);
     const LinearMap xMap = XMap();
     const LinearMap yMap = YMap();
     const auto isDone = [&](const PointBox& box, int first, int last) {
@@ -95,22 +126,28 @@ void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
         const auto bottom = yMap.Position(box.low);
         if (!left || !right || !top || !bottom)
             return false;
-        if (*right < m_rectPlot.left || *left >= m_rectPlot.right || *bottom < m_rectPlot.top ||
-            *top >= m_rectPlot.bottom)
+        if (*right < plot.left || *left >= plot.right || *bottom < plot.top || *top >= plot.bottom)
             return true;
-        if (*left != *right || *top < m_rectPlot.top || *bottom >= m_rectPlot.bottom ||
-            *bottom - *top > last - first)
+        if (*left != *right || *top < plot.top || *bottom >= plot.bottom || *bottom - *top > last - first)
             return false;
-        const auto begin = marked.begin() + static_cast<std::ptrdiff_t>(placeOf(*left, *top));
-        const auto end = begin + (*bottom - *top + 1);
-        return std::find(begin, end, false) == end;
+        for (int y = *top; y <= *bottom; ++y)
+            if (!places.Has({*left, y}))
+                return false;
+        return true;
     };
-    dataset.points.Boxes().Visit(0, dataset.points.Size(), isDone, [&](int i) {
-        const auto x = xMap.Position(dataset.points[i].x);
-        const auto y = yMap.Position(dataset.points[i].y);
-        if (!x || !y || !m_rectPlot.PtInRect(CPoint(*x, *y)) || marked[placeOf(*x, *y)])
-            return;
-        marked[placeOf(*x, *y)] = true;
-        DrawMarker(dc, dataset.markerType, *x, *y, kMarkerHalf, kPixelSize);
+    dataset.points.Boxes().Visit(0, dataset.points.Size(), isDone, [&](int first, int behind) {
+        const ChartPoint* points = &dataset.points[first];
+        for (int i = 0; i < behind - first; ++i) {
+            // Beyond these the point is outside, or has no place.
+            const double x = xMap.ExactPosition(points[i].x);
+            const double y = yMap.ExactPosition(points[i].y);
+            if (x > plot.left - 1 && x < plot.right && y > plot.top - 1 && y < plot.bottom)
+                places.Add({static_cast<int>(x), static_cast<int>(y)});
+        }
     });
+    const CDataset::MarkerType type = dataset.markerType;
+    DrawStamps(dc, places, dataset.color,
+               {kMarkerHalf + kPixelSize, false, [type](CDC& target, int x, int y) {
+                    DrawMarker(target, type, x, y, kMarkerHalf, kPixelSize);
+                }});
 }

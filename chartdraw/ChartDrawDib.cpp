@@ -76,6 +76,8 @@ HANDLE CChartDraw::DDBToDIB(CBitmap& bitmap, DWORD dwCompression, CPalette* pPal
         return nullptr;
     {
         const DibLock lock(block.Get());
+        if (lock.Bytes() == nullptr)
+            return nullptr;
         lock.Header() = header;
         ::GetDIBits(dc.Get(), handle, 0, rows, nullptr, lock.Info(), DIB_RGB_COLORS);
         header = lock.Header();

@@ -9,6 +9,7 @@
 #include "chartdraw/DibBlock.h"
 #include "chartdraw/RoundScale.h"
 #include "gdi/Guards.h"
+#include "gdi/MemoryReport.h"
 #include "gdi/PictureClipboard.h"
 #include "gdi/PictureFile.h"
 
@@ -16,7 +17,7 @@ using namespace kavlix;
 
 namespace {
 
-/// The colours that the system shows now. 255 are asked for, not 256: so the files have always been made.
+/// The colours that the system shows now. 255 are asked for, not 256: hosts rely on it.
 void MakeSystemPalette(CDC& dc, CPalette& palette) {
     constexpr WORD kVersion = 0x300;
     constexpr UINT kEntriesAskedFor = 255;
@@ -27,6 +28,12 @@ void MakeSystemPalette(CDC& dc, CPalette& palette) {
     record.palVersion = kVersion;
     record.palNumEntries = static_cast<WORD>(std::min(count, kEntriesAskedFor));
     palette.CreatePalette(&record);
+}
+
+/// Runs `save`, whose result it returns; false when memory or GDI's objects run out.
+template <class Save> bool UnlessRefused(Save save) {
+    bool saved = false;
+    return WithinResources([&] { saved = save(); }) && saved;
 }
 
 } // namespace
@@ -42,32 +49,29 @@ bool CChartDraw::PrepareExport() {
 }
 
 bool CChartDraw::CopyToClipboard() {
-    if (!PrepareExport())
-        return false;
-    CSize size = m_rectChart.Size();
-    {
-        CClientDC dc(this);
-        dc.DPtoHIMETRIC(&size);
-    }
-    const CRect frame(0, 0, size.cx, size.cy);
-    CDC dc;
-    if (!dc.Attach(::CreateEnhMetaFile(nullptr, nullptr, &frame, kPictureDescription)))
-        return false;
-    DrawChart(dc);
-    const HENHMETAFILE picture = ::CloseEnhMetaFile(dc.Detach());
-    if (picture == nullptr)
-        return false;
-    PutOnClipboard(*this, picture);
-    return true;
+    return UnlessRefused([&] {
+        if (!PrepareExport())
+            return false;
+        CSize size = m_rectChart.Size();
+        CClientDC(this).DPtoHIMETRIC(&size);
+        const CRect frame(CPoint(0, 0), size);
+        return CopyPicture(*this, &frame, [this](CDC& dc) { DrawChart(dc); });
+    });
 }
 
 bool CChartDraw::CopyToFile() {
-    CFileDialog dialog(FALSE, "BMP", "Chart", OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                       "Bitmap |*.bmp|");
-    return dialog.DoModal() == IDOK && CopyToFile(dialog.GetPathName());
+    return UnlessRefused([&] {
+        CFileDialog dialog(FALSE, "BMP", "Chart", OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                           "Bitmap |*.bmp|");
+        return dialog.DoModal() == IDOK && CopyToFile(dialog.GetPathName());
+    });
 }
 
 bool CChartDraw::CopyToFile(CString strFileName) {
+    return UnlessRefused([&] { return WriteBitmapFile(strFileName); });
+}
+
+bool CChartDraw::WriteBitmapFile(const CString& name) {
     if (!PrepareExport() || m_rectChart.IsRectEmpty())
         return false;
     CBitmap bitmap;
@@ -86,13 +90,15 @@ bool CChartDraw::CopyToFile(CString strFileName) {
 
     const DibBlock block(DDBToDIB(bitmap, BI_RGB, &palette));
     CFile file;
-    if (block.Get() == nullptr || !file.Open(strFileName, CFile::modeCreate | CFile::modeWrite))
+    if (block.Get() == nullptr || !file.Open(name, CFile::modeCreate | CFile::modeWrite))
         return false;
     SaveDIB(block.Get(), file);
     return true;
 }
 
 bool CChartDraw::SaveImage(CString strFileName) {
-    return PrepareExport() &&
-           SavePicture(strFileName, m_rectChart.Size(), [this](CDC& dc) { DrawChart(dc); });
+    return UnlessRefused([&] {
+        return PrepareExport() &&
+               SavePicture(strFileName, m_rectChart.Size(), [this](CDC& dc) { DrawChart(dc); });
+    });
 }

@@ -38,10 +38,26 @@ int StepsIn(int length, double room) {
 void CChartDraw::CalcDatas() {
     if (m_hWnd == nullptr)
         return;
-    GetClientRect(&m_rectChart);
+    m_Changed = true;
+    const CRect chart = m_rectChart;
+    const CRect plot = m_rectPlot;
+    const RoundScale xScale = *m_XScale;
+    const RoundScale yScale = *m_YScale;
+    try {
+        Calculate();
+    } catch (...) {
+        m_rectChart = chart;
+        m_rectPlot = plot;
+        *m_XScale = xScale;
+        *m_YScale = yScale;
+        throw;
+    }
     m_CalcSize = m_rectChart.Size();
     m_Changed = false;
+}
 
+void CChartDraw::Calculate() {
+    GetClientRect(&m_rectChart);
     CClientDC dc(this);
     m_FontPixels = std::max(1, ::MulDiv(m_FontSize, dc.GetDeviceCaps(LOGPIXELSY), kTenthsOfPointPerInch));
     {
@@ -128,6 +144,8 @@ void CChartDraw::MakeTextFont(CFont& font, int escapement, bool title) const {
     record.lfCharSet = DEFAULT_CHARSET;
     record.lfOutPrecision = OUT_TT_PRECIS;
     record.lfQuality = PROOF_QUALITY;
-    lstrcpyn(record.lfFaceName, m_FontFace, LF_FACESIZE);
+    const CString face =
+        m_FontFace.Left(WholeCharacters(m_FontFace, m_FontFace.GetLength(), LF_FACESIZE - 1));
+    lstrcpyn(record.lfFaceName, face, LF_FACESIZE);
     font.CreateFontIndirect(&record);
 }

@@ -33,14 +33,16 @@ bool GoesThroughZero(const RoundScale& scale, int tick) {
     return scale.Tick(tick) == 0 && scale.Min() < 0 && scale.Max() > 0;
 }
 
-/// Draws a text in the middle of `inner`, in the middle of `outer` where it is too wide for that, and from
-/// its left edge on where it is too wide for both: its beginning can be read.
-void DrawWithin(CDC& dc, const CRect& inner, const CRect& outer, int top, const CString& text) {
-    const int width = MeasureText(dc, text, text.GetLength()).cx;
-    const CRect& room = width <= inner.Width() ? inner : outer;
-    const bool fits = width <= room.Width();
-    dc.SetTextAlign(fits ? TA_CENTER | TA_TOP : TA_LEFT | TA_TOP);
-    DrawTextAt(dc, fits ? room.CenterPoint().x : room.left, top, text);
+/// Draws a text in the middle of `inner`, in the middle of `outer` where it is too wide for that. One that is
+/// too wide for both is shortened: its beginning can be read. With `isUpwards` widths are heights, and
+/// `edge`, the text's upper edge, lies left of it.
+void DrawWithin(CDC& dc, const CRect& inner, const CRect& outer, int edge, const CString& text,
+                bool isUpwards = false) {
+    const auto length = [&](const CRect& room) { return isUpwards ? room.Height() : room.Width(); };
+    const CString shown = Shortened(dc, text, length(outer));
+    const CPoint middle = (MeasureText(dc, shown).cx <= length(inner) ? inner : outer).CenterPoint();
+    dc.SetTextAlign(TA_CENTER | TA_TOP);
+    DrawTextAt(dc, isUpwards ? edge : middle.x, isUpwards ? middle.y : edge, shown);
 }
 
 } // namespace
@@ -57,12 +59,13 @@ void CChartDraw::OnPaint() {
         DrawChart(paintDc);
         return;
     }
-    {
-        SavedDcGuard unchanged(picture->Dc());
-        DrawChart(picture->Dc());
-    }
+    const int state = picture->Dc().SaveDC();
+    DrawChart(picture->Dc());
+    // A picture whose clip or objects could not be put back would spoil the next paint.
+    const bool isUnchanged = state != 0 && picture->Dc().RestoreDC(state);
     paintDc.BitBlt(0, 0, client.Width(), client.Height(), &picture->Dc(), 0, 0, SRCCOPY);
-    m_Picture = std::move(picture);
+    if (isUnchanged)
+        m_Picture = std::move(picture);
 }
 
 LRESULT CChartDraw::OnPrintClient(WPARAM wParam, LPARAM) {
@@ -75,6 +78,7 @@ LRESULT CChartDraw::OnPrintClient(WPARAM wParam, LPARAM) {
 }
 
 void CChartDraw::DrawChart(CDC& dc) {
+    const AttribDcGuard asked(dc);
     PaintBkGnd(dc);
     DrawTitle(dc);
     DrawGrid(dc);
@@ -165,8 +169,11 @@ void CChartDraw::DrawAxes(CDC& dc) {
     if (!m_YLabel.IsEmpty()) {
         Select(dc, upFont);
         dc.SetTextColor(m_YLabelColor);
-        dc.SetTextAlign(TA_CENTER | TA_TOP);
-        DrawTextAt(dc, room.left, m_rectPlot.CenterPoint().y, m_YLabel);
+        if (m_ShowTitle && !m_Title.IsEmpty())
+            room.top += m_TitleHeight + margin;
+        if (!m_XLabel.IsEmpty())
+            room.bottom -= m_TextHeight + margin;
+        DrawWithin(dc, m_rectPlot, room, room.left, m_YLabel, true);
     }
 }
 

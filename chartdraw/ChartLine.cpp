@@ -9,8 +9,6 @@ namespace kavlix {
 
 namespace {
 
-/// What GDI draws exactly, with room to multiply such coordinates.
-constexpr double kNear = 1 << 22;
 /// Sums and products of two such positions stay finite.
 constexpr double kFarthest = 1e300;
 
@@ -18,8 +16,10 @@ Point ToPixel(double x, double y) {
     return {ToCoordinate(x), ToCoordinate(y)};
 }
 
+} // namespace
+
 /// Narrows the part [from, to] of a stroke to where `start` + part * `step` lies within the near range.
-void Narrow(double start, double step, double& from, double& to) {
+void ChartLine::Narrow(double start, double step, double& from, double& to) {
     if (step == 0) {
         if (std::abs(start) > kNear)
             to = -1;
@@ -31,18 +31,8 @@ void Narrow(double start, double step, double& from, double& to) {
     to = std::min(to, std::max(a, b));
 }
 
-double Along(double start, double step, double part) {
+double ChartLine::Along(double start, double step, double part) {
     return std::clamp(start + part * step, -kNear, kNear);
-}
-
-} // namespace
-
-bool ChartLine::IsNear(double position) {
-    return std::abs(position) <= kNear;
-}
-
-bool ChartLine::IsNear(const Place& place) {
-    return IsNear(place.x) && IsNear(place.y);
 }
 
 void ChartLine::Add(double x, double y) {
@@ -51,10 +41,16 @@ void ChartLine::Add(double x, double y) {
         return;
     }
     const Place place{std::clamp(x, -kFarthest, kFarthest), std::clamp(y, -kFarthest, kFarthest)};
-    if (m_started && !(IsNear(m_last) && IsNear(place)))
+    if (m_started && !(IsNear(m_last) && IsNear(place))) {
+        m_isLone = false;
         AddCut(place);
-    else if (IsNear(place))
-        m_reduction.Add(ToPixel(place.x, place.y));
+    } else if (IsNear(place)) {
+        const Point pixel = ToPixel(place.x, place.y);
+        if (!m_started)
+            m_first = pixel;
+        m_isLone = (m_isLone || !m_started) && pixel == m_first;
+        m_path.Add(pixel);
+    }
     m_last = place;
     m_started = true;
 }
@@ -74,22 +70,24 @@ void ChartLine::AddCut(const Place& to) {
     if (begin <= end) {
         const Point cut = ToPixel(Along(start.x, dx, end), Along(start.y, dy, end));
         if (backwards) {
-            m_reduction.Add(cut);
-            m_reduction.Add(ToPixel(to.x, to.y));
+            m_path.Add(cut);
+            m_path.Add(ToPixel(to.x, to.y));
         } else {
             if (!IsNear(m_last))
-                m_reduction.Add(ToPixel(Along(start.x, dx, begin), Along(start.y, dy, begin)));
-            m_reduction.Add(cut);
+                m_path.Add(ToPixel(Along(start.x, dx, begin), Along(start.y, dy, begin)));
+            m_path.Add(cut);
         }
     }
     // Out there the stroke ends; the next one begins where it comes back.
     if (!IsNear(to))
-        m_reduction.Break();
+        m_path.Break();
 }
 
 void ChartLine::End() {
-    m_reduction.Break();
-    m_started = false;
+    m_path.Break();
+    if (m_isLone)
+        m_lonePixels.Add(m_first);
+    m_isLone = m_started = false;
 }
 
 } // namespace kavlix

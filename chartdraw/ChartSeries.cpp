@@ -23,11 +23,11 @@ void ChartSeries::Assign(const double* pX, const double* pY, int count) {
     ChartSeries other;
     for (int i = 0; i < count; ++i)
         other.Append(pX != nullptr ? pX[i] : i, pY[i]);
-    std::swap(*this, other);
+    *this = std::move(other);
 }
 
 void ChartSeries::Clear() {
-    *this = {};
+    *this = ChartSeries();
 }
 
 void ChartSeries::Count(const ChartPoint& value) {

@@ -33,16 +33,18 @@ class ChartSeries {
 public:
     using Value = ChartPoint;
 
-    /// Throws std::bad_alloc, changing nothing, when memory or the range of an int is exhausted.
+    /// Throws what `new` throws, changing nothing, when memory is exhausted; std::bad_alloc where the range
+    /// of an int is.
     void Append(double x, double y);
     /// Replaces all points by `count` others; `pX` null: the indices 0, 1, 2, ... Throws as Append does.
     void Assign(const double* pX, const double* pY, int count);
-    /// Removes all points and gives their memory back.
+    /// Removes all points and gives their memory back. Cannot fail.
     void Clear();
 
     int Size() const { return static_cast<int>(m_values.Size()); }
     /// Point `i`, which must exist.
     const Value& operator[](int i) const { return m_values[static_cast<std::size_t>(i)]; }
+    const Points& Values() const { return m_values; }
     const PointBoxes& Boxes() const { return m_boxes; }
 
     /// Bounds of the points that have a place: those whose x and y are both finite.

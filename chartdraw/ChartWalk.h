@@ -24,11 +24,13 @@ public:
 
 private:
     bool TakeBox(const PointBox& box, int first, int last);
-    void TakePoint(int i);
+    void TakePoints(int first, int behind);
+    void TakePoint(int i, const ChartPoint& point);
+    bool IsInColumn(double x) const { return x > m_columnBegin && x < m_columnEnd; }
     bool IsBeyond(double left, double right, const PointBox& box) const;
     void Extend(int column, int first, int last, double low, double high);
     void FlushColumn();
-    void AddColumn();
+    void AddColumn(int bottom, int top);
     void Add(int i);
     int Row(double y) const { return ToCoordinate(m_yMap.ExactPosition(y)); }
     int LastElsewhere(int row) const;
@@ -45,6 +47,9 @@ private:
     int m_last = -1;
     double m_low = 0;
     double m_high = 0;
+    // X values between these lie in m_column for certain; none where the one is not below the other.
+    double m_columnBegin = 0;
+    double m_columnEnd = 0;
 };
 
 } // namespace kavlix

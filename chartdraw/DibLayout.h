@@ -30,7 +30,7 @@ std::uint64_t ImageRoom(std::int64_t width, std::int64_t height, std::uint32_t b
 
 /// Table entries that a block of this depth has room for: 2, 16 and 256 up to 8 bits, none for 16 and 24. A
 /// depth of 32 bits has room for one, because the shift that counts colours takes its count modulo 32: hosts
-/// know the block in that form.
+/// rely on the pixels' place in such a block.
 std::uint32_t RoomForColors(std::uint32_t bitCount);
 
 /// Table entries that a depth has by itself: 2, 16 or 256, and 0 for all but 1, 4 and 8 bits.

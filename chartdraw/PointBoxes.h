@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 
 #include "include/kavlix/Pieces.h"
@@ -17,7 +18,8 @@ struct ChartPoint {
     bool IsGap() const { return x != x || y != y; }
 };
 
-using Points = Pieces<ChartPoint, 256>;
+constexpr std::size_t kPointPiece = 256;
+using Points = Pieces<ChartPoint, kPointPiece>;
 
 /// What some points lie within; NaN when one of them is a gap.
 struct PointBox {
@@ -36,14 +38,30 @@ struct PointBox {
 /// no box yet.
 class PointBoxes {
 public:
-    /// `points` holds one point more than at the last call. Throws std::bad_alloc, changing nothing.
+    /// `points` holds one point more than at the last call. Throws what `new` throws, changing
+    /// nothing.
     void Update(const Points& points);
+
+    /// Has the lowest block round point `i` of `points` brought into the cache, where there is one.
+    static void Prefetch(const Points& points, std::int64_t i) {
+#if defined(__GNUC__)
+        constexpr std::size_t kLine = 64; // bytes
+        if (i < 0 || static_cast<std::size_t>(i) >= points.Size())
+            return;
+        const auto* block = reinterpret_cast<const char*>(&points[static_cast<std::size_t>(i) / kFan * kFan]);
+        for (std::size_t at = 0; at < kFan * sizeof(ChartPoint); at += kLine)
+            __builtin_prefetch(block + at);
+#else
+        (void)points;
+        (void)i;
+#endif
+    }
 
     /// Goes through the points `begin` to before `end` in order. `takeBox(box, first, last)` tells whether
     /// the whole block is dealt with; where it is not, the blocks in it are tried and in the end
-    /// `takePoint(i)` called for single points.
-    template <class TakeBox, class TakePoint>
-    void Visit(int begin, int end, TakeBox takeBox, TakePoint takePoint) const {
+    /// `takePoints(first, behind)` called for the points of a lowest block, which lie one behind another.
+    template <class TakeBox, class TakePoints>
+    void Visit(int begin, int end, TakeBox takeBox, TakePoints takePoints) const {
         std::size_t next = static_cast<std::size_t>(begin);
         const auto stop = static_cast<std::size_t>(end);
         while (next < stop) {
@@ -58,9 +76,8 @@ public:
             }
             if (next != start)
                 continue;
-            const std::size_t behind = std::min(start - start % kFan + kFan, stop);
-            for (; next < behind; ++next)
-                takePoint(static_cast<int>(next));
+            next = std::min(start - start % kFan + kFan, stop);
+            takePoints(static_cast<int>(start), static_cast<int>(next));
         }
     }
 
@@ -92,6 +109,7 @@ private:
     using Boxes = Pieces<PointBox, 64>;
 
     static constexpr std::size_t kFan = 32;
+    static_assert(kPointPiece % kFan == 0, "the points of a lowest block lie in one piece");
     static constexpr std::size_t kShift = 5;
     static constexpr std::size_t kLevels = 6; // more points than an int counts
 

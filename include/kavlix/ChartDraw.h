@@ -57,6 +57,7 @@ public:
     /// points or, after a message box, when memory ran out.
     BOOL SetData(int nDataset, const double* pX, const double* pY, int nCount);
     /// Removes all points of a dataset; its colours and switches stay. FALSE when there is no such dataset.
+    /// As all that only removes it needs no memory.
     BOOL ResetData(int nDataset);
     /// Number of points; -1 when there is no such dataset.
     int GetDatasetSize(int nDataset) const;
@@ -68,7 +69,9 @@ public:
     BOOL SetColor(int nDataset, COLORREF color);
     /// Width of the line in pixels, clamped to 0..100; 0 and 1 are one pixel.
     BOOL SetLineSize(int nDataset, int nSize);
-    /// Whether the points are joined by a line; default on.
+    /// Whether the points are joined by a line; default on. Where there are no markers,
+    /// points without neighbours to be joined to, and lines that fall on one pixel, are shown as dots of the
+    /// line's width, at least 3 pixels.
     BOOL ShowLine(int nDataset, BOOL bShow);
     /// Marker at each point within the scales, 3 pixels to every side; default none.
     BOOL SetMarkerType(int nDataset, CDataset::MarkerType type);
@@ -92,8 +95,8 @@ public:
 
     // ---- Properties. They store what is given. No repaint. ----
 
-    /// Texts; empty ones take no room. At first all are empty. What is too long for its place is cut off at
-    /// the window's edges.
+    /// Texts; empty ones take no room. At first all are empty. What is too long for the window is shortened,
+    /// with dots at its end.
     void SetTitle(CString text);
     void SetXLabel(CString text);
     void SetYLabel(CString text);
@@ -124,10 +127,10 @@ public:
     // ---- Image export. Where data, properties or the window's size changed after CalcDatas, it runs first.
 
     /// Puts the chart on the clipboard as an enhanced metafile with the description "Ruvex Trace", framed by
-    /// the chart's size. False without a window or when the metafile cannot be made; the clipboard is
-    /// untouched then. Whether the clipboard took it is not told.
+    /// the chart's size. False without a window, when memory runs out or when the metafile cannot be made;
+    /// the clipboard is untouched then. Whether the clipboard took it is not told.
     virtual bool CopyToClipboard();
-    /// Asks for a name and calls CopyToFile(CString) with it. False when the user cancels.
+    /// Asks for a name and calls CopyToFile(CString) with it. False when the user cancels or memory runs out.
     virtual bool CopyToFile();
     /// Saves the chart as a bitmap file in the colours of the screen, over an existing file. False without a
     /// window or an area, when memory runs out or when the file cannot be made. Throws CFileException when it
@@ -149,13 +152,14 @@ public:
     virtual BOOL WINAPI SaveDIB(HDIB hDib, CFile& file);
 
     /// Saves the chart as PNG, BMP or EMF, as the name's extension says. False for another extension, without
-    /// a window or an area, or when the file cannot be written; an existing file is as before then, and
-    /// nothing half-written is left.
+    /// a window or an area, when memory runs out or when the file cannot be written; an existing file is as
+    /// before then, and nothing half-written is left.
     bool SaveImage(CString strFileName);
 
 protected:
     /// Stores the chart rectangle, lays the chart out in it and computes the scales. OnPaint calls it each
-    /// time. Without a window nothing changes.
+    /// time. Without a window nothing changes. Rectangles and scales stay as they are where it throws because
+    /// memory or a DC cannot be had.
     virtual void CalcDatas();
 
     // ---- Drawing: each draws its own element, and leaves the DC as it was. ----
@@ -195,9 +199,11 @@ private:
     BOOL ChangeDataset(int nDataset, const std::function<void(Dataset&)>& change);
     BOOL FixScale(FixedScale& scale, double dMin, double dMax, double dStep);
     bool PrepareExport();
+    bool WriteBitmapFile(const CString& name);
     /// Makes the font of the texts, or the title's; `escapement` in tenths of a degree.
     void MakeTextFont(CFont& font, int escapement, bool title) const;
     kavlix::RoundScale FindScale(bool x, int mostSteps) const;
+    void Calculate();
     void LayOut(CDC& dc);
     void FitXScale(CDC& dc, int width);
     kavlix::LinearMap XMap() const;

@@ -9,17 +9,26 @@ namespace kavlix {
 
 /// Elements in order of arrival, in pieces of `PieceSize`. Adding never moves what is stored, and removing
 /// from the head costs what is removed. Of a deque the same is true but for the table of its small pieces,
-/// which it copies as it grows: milliseconds with ten million elements.
+/// which it copies as it grows: milliseconds with ten million elements. Only adding asks for memory: an empty
+/// object holds none, and removing, clearing, moving and swapping cannot fail.
 template <class T, std::size_t PieceSize> class Pieces {
 public:
+    Pieces() = default;
+    Pieces(Pieces&& other) noexcept { Swap(other); }
+    Pieces& operator=(Pieces&& other) noexcept {
+        Pieces moved(std::move(other));
+        Swap(moved);
+        return *this;
+    }
+
     std::size_t Size() const { return m_size; }
     bool IsEmpty() const { return m_size == 0; }
     /// Element `i`, which must exist.
     T& operator[](std::size_t i) {
-        return m_pieces[(m_head + i) / PieceSize]->elements[(m_head + i) % PieceSize];
+        return (*m_pieces)[(m_head + i) / PieceSize]->elements[(m_head + i) % PieceSize];
     }
     const T& operator[](std::size_t i) const {
-        return m_pieces[(m_head + i) / PieceSize]->elements[(m_head + i) % PieceSize];
+        return (*m_pieces)[(m_head + i) / PieceSize]->elements[(m_head + i) % PieceSize];
     }
     /// The newest element, which must exist.
     const T& Back() const { return (*this)[m_size - 1]; }
@@ -27,18 +36,20 @@ public:
     /// Changes nothing when memory runs out and `new` throws.
     void Add(T value) {
         const std::size_t place = m_head + m_size;
-        if (place / PieceSize == m_pieces.size())
-            m_pieces.push_back(std::make_unique<Piece>());
-        m_pieces[place / PieceSize]->elements[place % PieceSize] = std::move(value);
+        if (!m_pieces)
+            m_pieces = std::make_unique<Table>();
+        if (place / PieceSize == m_pieces->size())
+            m_pieces->push_back(std::make_unique<Piece>());
+        (*m_pieces)[place / PieceSize]->elements[place % PieceSize] = std::move(value);
         ++m_size;
     }
     /// Removes the `count` oldest elements, which must exist.
     void RemoveHead(std::size_t count) {
         for (std::size_t i = 0; i < count; ++i) {
-            m_pieces.front()->elements[m_head] = T();
+            m_pieces->front()->elements[m_head] = T();
             --m_size;
             if (++m_head == PieceSize) {
-                m_pieces.pop_front();
+                m_pieces->pop_front();
                 m_head = 0;
             }
         }
@@ -49,15 +60,14 @@ public:
             --m_size;
             (*this)[m_size] = T();
         }
-        m_pieces.resize((m_head + m_size + PieceSize - 1) / PieceSize);
+        if (m_pieces)
+            m_pieces->resize((m_head + m_size + PieceSize - 1) / PieceSize);
     }
     /// Removes all elements and gives their memory back.
     void Clear() {
-        m_pieces.clear();
-        m_pieces.shrink_to_fit();
+        m_pieces.reset();
         m_head = m_size = 0;
     }
-    /// Asks for no memory, as moving a deque may.
     void Swap(Pieces& other) noexcept {
         m_pieces.swap(other.m_pieces);
         std::swap(m_head, other.m_head);
@@ -69,7 +79,9 @@ private:
         T elements[PieceSize];
     };
 
-    std::deque<std::unique_ptr<Piece>> m_pieces;
+    using Table = std::deque<std::unique_ptr<Piece>>;
+
+    std::unique_ptr<Table> m_pieces; ///< none before the first element: an empty deque has blocks of its own
     std::size_t m_head = 0; ///< elements of the first piece that were removed
     std::size_t m_size = 0;
 };

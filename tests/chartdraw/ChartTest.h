@@ -28,29 +28,35 @@ public:
     Strings calls;
     std::string replaced;
 
-    void PaintBkGnd(CDC& dc) override { Step("bkgnd", dc, &OpenChart::BaseBkGnd); }
-    void DrawTitle(CDC& dc) override { Step("title", dc, &OpenChart::BaseTitle); }
-    void DrawGrid(CDC& dc) override { Step("grid", dc, &OpenChart::BaseGrid); }
-    void DrawDatasets(CDC& dc) override { Step("datasets", dc, &OpenChart::BaseDatasets); }
-    void DrawAxes(CDC& dc) override { Step("axes", dc, &OpenChart::BaseAxes); }
-    void DrawYScale(CDC& dc) override { Step("yscale", dc, &OpenChart::BaseYScale); }
-    void DrawXScale(CDC& dc) override { Step("xscale", dc, &OpenChart::BaseXScale); }
+    void PaintBkGnd(CDC& dc) override {
+        Step("bkgnd", dc, [&] { CChartDraw::PaintBkGnd(dc); });
+    }
+    void DrawTitle(CDC& dc) override {
+        Step("title", dc, [&] { CChartDraw::DrawTitle(dc); });
+    }
+    void DrawGrid(CDC& dc) override {
+        Step("grid", dc, [&] { CChartDraw::DrawGrid(dc); });
+    }
+    void DrawDatasets(CDC& dc) override {
+        Step("datasets", dc, [&] { CChartDraw::DrawDatasets(dc); });
+    }
+    void DrawAxes(CDC& dc) override {
+        Step("axes", dc, [&] { CChartDraw::DrawAxes(dc); });
+    }
+    void DrawYScale(CDC& dc) override {
+        Step("yscale", dc, [&] { CChartDraw::DrawYScale(dc); });
+    }
+    void DrawXScale(CDC& dc) override {
+        Step("xscale", dc, [&] { CChartDraw::DrawXScale(dc); });
+    }
 
 private:
-    void BaseBkGnd(CDC& dc) { CChartDraw::PaintBkGnd(dc); }
-    void BaseTitle(CDC& dc) { CChartDraw::DrawTitle(dc); }
-    void BaseGrid(CDC& dc) { CChartDraw::DrawGrid(dc); }
-    void BaseDatasets(CDC& dc) { CChartDraw::DrawDatasets(dc); }
-    void BaseAxes(CDC& dc) { CChartDraw::DrawAxes(dc); }
-    void BaseYScale(CDC& dc) { CChartDraw::DrawYScale(dc); }
-    void BaseXScale(CDC& dc) { CChartDraw::DrawXScale(dc); }
-
-    void Step(const char* name, CDC& dc, void (OpenChart::*base)(CDC&)) {
+    template <class Base> void Step(const char* name, CDC& dc, Base base) {
         calls.push_back(name);
         if (replaced == name)
             dc.FillSolidRect(1, 2, 3, 4, RGB(1, 2, 3));
         else
-            (this->*base)(dc);
+            base();
     }
 };
 

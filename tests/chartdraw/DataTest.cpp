@@ -1,6 +1,4 @@
 #include "tests/chartdraw/ChartTest.h"
-#include "tests/support/FailingAllocations.h"
-#include "tests/support/MessageBoxWatcher.h"
 
 #include <cmath>
 #include <limits>
@@ -93,30 +91,4 @@ TEST_F(ChartTest, NothingButRedrawRepaints) {
     CRect update;
     EXPECT_TRUE(chart.GetUpdateRect(&update));
     EXPECT_EQ(testkit::BoxText(update), "0,0,300,200");
-}
-
-TEST(ChartDataTest, APointRefusedForWantOfMemoryLeavesNothingBehind) {
-    CChartDraw chart;
-    chart.AddDataset();
-    testkit::MessageBoxWatcher watcher;
-    testkit::FailingAllocations memory;
-    ASSERT_TRUE(memory.Installed());
-    // Points ask for memory, and so do the boxes round them, of several sizes.
-    int refused = 0;
-    for (int i = 0; i < 3000; ++i) {
-        memory.FailAfter(0);
-        const BOOL added = chart.AddData(0, i, 2 * i);
-        memory.FailAfter(-1);
-        if (!added) {
-            ++refused;
-            ASSERT_EQ(chart.GetDatasetSize(0), i);
-            ASSERT_TRUE(chart.AddData(0, i, 2 * i)) << "memory is back";
-        }
-        double x = 0;
-        double y = 0;
-        ASSERT_TRUE(chart.GetData(0, i, x, y));
-        ASSERT_EQ(y, 2 * i) << "point " << i;
-    }
-    EXPECT_GT(refused, 10);
-    EXPECT_EQ(watcher.Boxes().size(), static_cast<std::size_t>(refused)) << "one message box for each";
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "chartdraw/DibLayout.h"
+
 namespace {
 
 using Bytes = std::vector<unsigned char>;
@@ -90,13 +92,10 @@ TEST(DibTest, BlockAndFileByteByByte) {
             const unsigned row = static_cast<unsigned>(width * bits + 31) / 32 * 4, image = row * kHeight;
             const Bytes bytes = BlockBytes(block);
             ASSERT_GE(bytes.size(), 40 + room + image);
-            EXPECT_EQ(Number(bytes, 0, 4), 40u);
-            EXPECT_EQ(Number(bytes, 4, 4), static_cast<unsigned>(width));
-            EXPECT_EQ(Number(bytes, 8, 4), static_cast<unsigned>(kHeight));
-            EXPECT_EQ(Number(bytes, 12, 2), 1u);
-            EXPECT_EQ(Number(bytes, 14, 2), static_cast<unsigned>(bits));
-            EXPECT_EQ(Number(bytes, 16, 4), 0u);
-            EXPECT_EQ(Number(bytes, 20, 4), image);
+            const unsigned header[] = {
+                40, static_cast<unsigned>(width), kHeight, 1u | unsigned(bits) << 16, 0, image};
+            for (std::size_t i = 0; i < std::size(header); ++i)
+                EXPECT_EQ(Number(bytes, 4 * i, 4), header[i]) << "number " << i;
             for (int y = 0; y < kHeight; ++y) {
                 const Bytes expected = pattern.Row(y);
                 const std::size_t at = 40 + room + row * static_cast<std::size_t>(kHeight - 1 - y);
@@ -180,6 +179,8 @@ TEST(DibTest, ABlockIsRefusedOrNotMade) {
 }
 
 TEST(DibTest, TableSizesOfBothHeaders) {
+    EXPECT_EQ(kavlix::ImageRoom(5, -3, 8, true), 36u) << "half as much again for a compressed image";
+    EXPECT_EQ(kavlix::ImageBytes(INT32_MAX, 3, 65535), kavlix::kTooManyBytes);
     CChartDraw chart;
     const struct {
         DWORD header;

@@ -33,6 +33,9 @@ HDC WINAPI NoMetafile(HDC, LPCSTR, const RECT*, LPCSTR) {
 int WINAPI NoBits(HDC, HBITMAP, UINT, UINT, LPVOID, LPBITMAPINFO, UINT) {
     return 0;
 }
+LPVOID WINAPI NoLock(HGLOBAL) {
+    return nullptr;
+}
 HANDLE WINAPI DeniedA(LPCSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE) {
     ::SetLastError(ERROR_ACCESS_DENIED);
     return INVALID_HANDLE_VALUE;
@@ -263,6 +266,7 @@ TEST_F(ChartExportTest, WhatCannotBeMadeWritesNothing) {
         ExpectNothingLeft([&] { EXPECT_FALSE(chart.CopyToFile(folder.Path("x.bmp").c_str())) << function; });
     };
     refused("Kavlix.dll", "GetDIBits", Address(&NoBits));
+    refused("Kavlix.dll", "GlobalLock", Address(&NoLock));
     g_no_memory = true;
     refused("Kavlix.dll", "GlobalReAlloc", Address(&MaybeRealloc));
     g_no_memory = false;

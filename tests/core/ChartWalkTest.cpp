@@ -1,9 +1,9 @@
 #include "chartdraw/ChartWalk.h"
-
-#include "graphctrl/PixelRaster.h"
+#include "chartdraw/PaintedPath.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -22,6 +22,7 @@ const Rect kView{-2, -2, kWidth + 2, kHeight + 2}; // what a thin pen reaches
 struct Canvas {
     std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(kWidth * kHeight);
     PixelRaster raster{pixels.data(), kWidth, kFrame};
+    PixelSet lone{kFrame};
     int handedOn = 0;
 
     void Draw(const Point* points, int count) {
@@ -36,6 +37,8 @@ void WalkAll(const ChartSeries& series, const LinearMap& xMap, const LinearMap& 
     const auto flush = [&] {
         if (part.size() > 1)
             canvas.Draw(part.data(), static_cast<int>(part.size()));
+        if (!part.empty() && std::all_of(part.begin(), part.end(), [&](Point at) { return at == part[0]; }))
+            canvas.lone.Add(part[0]);
         part.clear();
     };
     for (int i = 0; i < series.Size(); ++i) {
@@ -50,9 +53,21 @@ void WalkAll(const ChartSeries& series, const LinearMap& xMap, const LinearMap& 
 }
 
 void WalkReduced(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, Canvas& canvas) {
-    SeriesReduction reduction(kView, [&](const Point* points, int count) { canvas.Draw(points, count); });
-    ChartLine line(reduction);
+    ReducedPath path(kView, [&](const Point* points, int count) { canvas.Draw(points, count); });
+    ChartLine line(path, canvas.lone);
     ChartWalk(series, xMap, yMap, kView, line).Run();
+}
+
+void WalkPainted(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, Canvas& canvas) {
+    PaintedPath path(canvas.raster, kInk);
+    ChartLine line(path, canvas.lone);
+    ChartWalk(series, xMap, yMap, kView, line).Run();
+}
+
+std::vector<Point> Lone(const Canvas& canvas) {
+    std::vector<Point> pixels;
+    canvas.lone.Visit([&](const Point& pixel) { pixels.push_back(pixel); });
+    return pixels;
 }
 
 const LinearMap kWholeY(0, kHeight - 1, kHeight - 1, 1 - kHeight);
@@ -67,13 +82,14 @@ TEST(ChartWalk, DrawsWhatTheWholeLineDraws) {
         // From steep noise to steps that stay on a row for long; in order, or back and forth.
         const double rows = std::pow(10, unit() * 2.5);
         const double step = std::pow(10, unit() * 4 - 3);
-        const double gaps = round % 4 == 0 ? 0.003 : 0;
+        const double gaps = round % 12 == 0 ? 0.4 : round % 4 == 0 ? 0.003 : 0;
         const bool backwards = round % 7 == 0;
+        const bool isRandom = round % 5 == 0;
         const double xStep = 1.0 / count;
         ChartSeries series;
         double x = 0, y = unit();
         for (int i = 0; i < count; ++i) {
-            x += backwards ? (unit() - 0.5) * 0.05 : xStep * 2 * unit();
+            x = isRandom ? unit() : x + (backwards ? (unit() - 0.5) * 0.05 : xStep * 2 * unit());
             y += unit() < step ? (unit() - 0.5) * 0.5 : 0;
             series.Append(x,
                           unit() < gaps ? (unit() < 0.5 ? NAN : unit() - 0.5) : std::round(y * rows) / rows);
@@ -83,10 +99,14 @@ TEST(ChartWalk, DrawsWhatTheWholeLineDraws) {
         const double xMin = (1 - xRange) * unit(), yMin = y - yRange * unit();
         const LinearMap xMap(xMin, xMin + xRange, 0, kWidth - 1);
         const LinearMap yMap(yMin, yMin + yRange, kHeight - 1, 1 - kHeight);
-        Canvas reduced, whole;
+        Canvas reduced, painted, whole;
         WalkReduced(series, xMap, yMap, reduced);
+        WalkPainted(series, xMap, yMap, painted);
         WalkAll(series, xMap, yMap, whole);
-        ASSERT_EQ(reduced.pixels, whole.pixels) << "round " << round << ", " << count << " points";
+        for (const Canvas* canvas : {&reduced, &painted}) {
+            ASSERT_EQ(canvas->pixels, whole.pixels) << "round " << round << ", " << count << " points";
+            ASSERT_EQ(Lone(*canvas), Lone(whole)) << "round " << round;
+        }
     }
 }
 
@@ -117,9 +137,8 @@ TEST(ChartWalk, PointsFarAwayAndWithoutAPlaceBreakNothing) {
         Canvas reduced, straight;
         WalkReduced(series, xMap, kWholeY, reduced);
         // The same line point by point.
-        SeriesReduction reduction(kView,
-                                  [&](const Point* points, int count) { straight.Draw(points, count); });
-        ChartLine line(reduction);
+        ReducedPath path(kView, [&](const Point* points, int count) { straight.Draw(points, count); });
+        ChartLine line(path, straight.lone);
         for (int i = 0; i < series.Size(); ++i)
             line.Add(xMap.ExactPosition(series[i].x), kWholeY.ExactPosition(series[i].y));
         line.End();

@@ -117,7 +117,8 @@ TEST(SeriesReductionTest, PositionsGoWithTheirPixels) {
 /// Where the strokes of a ChartLine cross the view's column `x`: their y there.
 std::vector<double> Crossings(const std::vector<std::pair<double, double>>& positions, double x) {
     std::vector<double> crossings;
-    SeriesReduction reduction({-10, -10, 810, 610}, [&](const Point* points, int count) {
+    PixelSet lone({0, 0, 0, 0});
+    ReducedPath path({-10, -10, 810, 610}, [&](const Point* points, int count) {
         for (int i = 1; i < count; ++i) {
             const Point &a = points[i - 1], &b = points[i];
             constexpr int kFar = (1 << 22) + 1;
@@ -126,7 +127,7 @@ std::vector<double> Crossings(const std::vector<std::pair<double, double>>& posi
                 crossings.push_back(a.y + (x - a.x) * (static_cast<double>(b.y) - a.y) / (b.x - a.x));
         }
     });
-    ChartLine line(reduction);
+    ChartLine line(path, lone);
     for (const auto& [px, py] : positions)
         line.Add(px, py);
     line.End();

@@ -1,0 +1,74 @@
+// Shapes on many pixels: learned from GDI once and painted together, or drawn one by one.
+#include "chartdraw/ChartDrawStamps.h"
+
+#include <vector>
+
+#include "gdi/DirectPaint.h"
+#include "gdi/Guards.h"
+#include "gdi/Scratch.h"
+
+namespace kavlix {
+
+namespace {
+
+/// Pen and brush that draw a shape, selected as long as it lives.
+class Ink {
+public:
+    Ink(CDC& dc, COLORREF colour, bool isFilled) : m_saved(dc) {
+        m_pen.CreatePen(PS_SOLID, 0, colour);
+        if (isFilled)
+            m_brush.CreateSolidBrush(colour);
+        else
+            m_brush.CreateStockObject(NULL_BRUSH);
+        Select(dc, m_pen);
+        Select(dc, m_brush);
+    }
+
+private:
+    CPen m_pen;
+    CBrush m_brush;
+    SavedDcGuard m_saved; // ends before the objects
+};
+
+/// The pixels of a shape, round its place; none when they cannot be found.
+std::vector<Point> PixelsOf(const StampShape& shape) {
+    std::vector<Point> pixels;
+    const int side = 2 * shape.reach + 1;
+    Scratch scratch(side);
+    if (!scratch.IsReady())
+        return pixels;
+    const Ink ink(scratch.Dc(), RGB(255, 255, 255), shape.isFilled);
+    shape.draw(scratch.Dc(), shape.reach, shape.reach);
+    ::GdiFlush();
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x)
+            if (scratch.Pixel(x, y) != 0)
+                pixels.push_back({x - shape.reach, y - shape.reach});
+    return pixels;
+}
+
+} // namespace
+
+void DrawStamps(CDC& dc, const PixelSet& places, COLORREF colour, const StampShape& shape) {
+    if (places.IsEmpty())
+        return;
+    if (::GetMapMode(dc.GetSafeHdc()) == MM_TEXT) {
+        const std::optional<std::uint32_t> ink = DirectColour(colour);
+        const std::optional<PixelRaster> raster = ink ? DirectRaster(dc) : std::nullopt;
+        const std::vector<Point> pixels = raster ? PixelsOf(shape) : std::vector<Point>();
+        if (!pixels.empty()) {
+            POINT origin = {0, 0};
+            ::LPtoDP(dc.GetSafeHdc(), &origin, 1);
+            places.Stamped(pixels, shape.reach).VisitRuns([&](const Rect& run) {
+                raster->Fill(
+                    {run.left + origin.x, run.top + origin.y, run.right + origin.x, run.bottom + origin.y},
+                    *ink);
+            });
+            return;
+        }
+    }
+    const Ink ink(dc, colour, shape.isFilled);
+    places.Visit([&](const Point& place) { shape.draw(dc, place.x, place.y); });
+}
+
+} // namespace kavlix

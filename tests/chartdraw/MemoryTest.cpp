@@ -1,0 +1,81 @@
+// The chart when memory runs out: every operation, at each of its allocations.
+
+#include "tests/chartdraw/ChartTest.h"
+#include "tests/support/MemoryRule.h"
+
+namespace {
+
+using testkit::OnFailure;
+
+std::string g_path;
+constexpr char kLongText[] = "A text that needs memory of its own, wherever it is kept";
+
+/// A chart that has been calculated. The next point of its first dataset makes pieces and boxes of all sizes.
+struct FedChart {
+    FedChart() {
+        parent.CreateVisible(120, 100);
+        chart.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 80), &parent, 5);
+        chart.AddDataset();
+        chart.AddDataset();
+        for (int i = 0; i < 1023; ++i)
+            chart.AddData(0, i, 1e7 + i);
+        chart.SetTitle(kLongText);
+        chart.CalcDatas();
+    }
+    ~FedChart() { parent.DestroyWindow(); }
+
+    std::string State() {
+        std::string state;
+        for (int dataset = 0; dataset < chart.GetDatasetCount(); ++dataset) {
+            state += " | " + std::to_string(chart.GetDatasetSize(dataset));
+            double x = 0, y = 0;
+            for (int i = 0; chart.GetData(dataset, i, x, y); ++i)
+                state += " " + std::to_string(x) + "," + std::to_string(y);
+        }
+        double min = 0, max = 0, step = 0;
+        chart.GetXScale(min, max, step);
+        return state + " | " + std::to_string(max) + " | " + testkit::BoxText(chart.m_rectPlot);
+    }
+
+    /// A name that asks for no memory.
+    CString NextPath() { return std::move(m_paths[--m_left]); }
+
+    testkit::RecordingParent parent;
+    struct : CChartDraw {
+        using CChartDraw::CalcDatas;
+        using CChartDraw::m_rectPlot;
+    } chart;
+
+private:
+    CString m_paths[2] = {g_path.c_str(), g_path.c_str()};
+    int m_left = 2;
+};
+
+} // namespace
+
+TEST(ChartMemoryTest, EveryOperationHappensWholeOrNotAtAll) {
+    static const std::vector<double> values(1500, 2.5);
+    const TempFolder folder;
+    g_path = folder.Path("picture.png");
+    const int failures = testkit::ExpectMemoryRule<FedChart>({
+        {"AddDataset", OnFailure::Reports, [](FedChart& s) { return s.chart.AddDataset() >= 0; }},
+        {"AddData", OnFailure::Reports, [](FedChart& s) { return s.chart.AddData(0, 1, 2) != 0; }},
+        {"AddData to none", OnFailure::Reports, [](FedChart& s) { return s.chart.AddData(1, 1, 2) != 0; }},
+        {"SetData", OnFailure::Reports,
+         [](FedChart& s) { return s.chart.SetData(0, nullptr, values.data(), 1500) != 0; }},
+        {"ResetData", OnFailure::Never, [](FedChart& s) { return s.chart.ResetData(0) != 0; }},
+        {"RemoveDataset", OnFailure::Never, [](FedChart& s) { return s.chart.RemoveDataset(0) != 0; }},
+        {"RemoveAllDatasets", OnFailure::Never,
+         [](FedChart& s) { return s.chart.RemoveAllDatasets(), true; }},
+        {"SetTextFont", OnFailure::Throws,
+         [](FedChart& s) { return s.chart.SetTextFont(200, kLongText), true; }},
+        {"CalcDatas", OnFailure::Throws,
+         [](FedChart& s) { return s.chart.SetXScale(0, 1e9 + 1), s.chart.CalcDatas(), true; }},
+        {"WM_PAINT", OnFailure::Message,
+         [](FedChart& s) { return s.chart.Redraw(), s.chart.UpdateWindow(), true; }},
+        {"CopyToClipboard", OnFailure::False, [](FedChart& s) { return s.chart.CopyToClipboard(); }},
+        {"CopyToFile", OnFailure::False, [](FedChart& s) { return s.chart.CopyToFile(s.NextPath()); }},
+        {"SaveImage", OnFailure::False, [](FedChart& s) { return s.chart.SaveImage(s.NextPath()); }},
+    });
+    EXPECT_GT(failures, 100);
+}

@@ -13,6 +13,8 @@ CASES = [
     ("bars", "bars, 13 x 50 groups"),
     ("append", "append, one call a sample"),
     ("steady", "append 1, drop 1 of 1,000,000"),
+    ("random", "chart, 13 x 100,000 in random order of x, lines"),
+    ("random_points", "the same, squares of 7 pixels"),
 ]
 
 
@@ -64,7 +66,7 @@ def main():
         elif case == "steady":
             first, second = None, figure("graph_steady", "median_steps_per_s")
         else:
-            row = "graph_" + case.split("_")[0]
+            row = "chart_" + case if case.startswith("random") else "graph_" + case.split("_")[0]
             first, second = figure(row, "window_median_ms"), figure(row, "memory_median_ms")
 
         def ratios(value):
@@ -88,7 +90,7 @@ def main():
               f"| {ratios(first)} | {ratios(second)} |")
     print()
     print("Of the peers the repaint of their widget is shown, in brackets their fastest way to a whole picture; the")
-    print("ratios are those to the faster peer. In the last two rows Kavlix's columns are the control and the datasets.")
+    print("ratios are those to the faster peer. For append and steady Kavlix's columns are the control and the datasets.")
     print("Further figures, medians over the rounds:")
     for case, values in own.items():
         for (row, key), numbers in values.items():

@@ -25,16 +25,13 @@ struct FedChart {
     ~FedChart() { parent.DestroyWindow(); }
 
     std::string State() {
-        std::string state;
-        for (int dataset = 0; dataset < chart.GetDatasetCount(); ++dataset) {
-            state += " | " + std::to_string(chart.GetDatasetSize(dataset));
-            double x = 0, y = 0;
+        double x = 0, y = 0, step = 0;
+        chart.GetXScale(x, y, step);
+        std::string state = testkit::BoxText(chart.m_rectPlot) + " to " + std::to_string(y);
+        for (int dataset = 0; dataset < chart.GetDatasetCount(); ++dataset, state += " |")
             for (int i = 0; chart.GetData(dataset, i, x, y); ++i)
                 state += " " + std::to_string(x) + "," + std::to_string(y);
-        }
-        double min = 0, max = 0, step = 0;
-        chart.GetXScale(min, max, step);
-        return state + " | " + std::to_string(max) + " | " + testkit::BoxText(chart.m_rectPlot);
+        return state;
     }
 
     /// A name that asks for no memory.

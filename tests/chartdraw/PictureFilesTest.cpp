@@ -4,6 +4,14 @@
 
 namespace {
 
+template <class At> void WritePixels(const std::string& base, CSize size, At at) {
+    std::ofstream pixels(base + ".rgb", std::ios::binary);
+    for (int y = 0; y < size.cy; ++y)
+        for (int x = 0; x < size.cx; ++x)
+            for (const int shift : {0, 8, 16})
+                pixels << static_cast<char>(at(x, y) >> shift);
+}
+
 /// Writes the chart as a bitmap file of this depth, made by the chart's own members, and its pixels as plain
 /// red, green and blue bytes beside it.
 void WriteDepth(OpenChart& chart, int bits, const std::string& base) {
@@ -25,17 +33,11 @@ void WriteDepth(OpenChart& chart, int bits, const std::string& base) {
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.Attach(::CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info),
                                                  DIB_RGB_COLORS, &memory, nullptr, 0)));
-    std::ofstream pixels(base + ".rgb", std::ios::binary);
     CDC dc;
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
     CBitmap* const old = dc.SelectObject(&bitmap);
     chart.DrawChart(dc);
-    for (int y = 0; y < size.cy; ++y)
-        for (int x = 0; x < size.cx; ++x) {
-            const COLORREF color = dc.GetPixel(x, y);
-            pixels << static_cast<char>(GetRValue(color)) << static_cast<char>(GetGValue(color))
-                   << static_cast<char>(GetBValue(color));
-        }
+    WritePixels(base, size, [&](int x, int y) { return dc.GetPixel(x, y); });
     dc.SelectObject(old);
     const HANDLE block = chart.DDBToDIB(bitmap, BI_RGB, nullptr);
     ASSERT_NE(block, nullptr);
@@ -67,13 +69,7 @@ TEST_F(ChartTest, PicturesForAnotherProgram) {
     PaintInto(painted);
     for (const char* extension : {"png", "bmp", "emf"})
         EXPECT_TRUE(chart.SaveImage((folder + "\\image." + extension).c_str()));
-    std::ofstream pixels(folder + "\\image.rgb", std::ios::binary);
-    for (int y = 0; y < 120; ++y)
-        for (int x = 0; x < 257; ++x) {
-            const COLORREF color = painted.At(x, y);
-            pixels << static_cast<char>(GetRValue(color)) << static_cast<char>(GetGValue(color))
-                   << static_cast<char>(GetBValue(color));
-        }
+    WritePixels(folder + "\\image", CSize(257, 120), [&](int x, int y) { return painted.At(x, y); });
     const HENHMETAFILE picture = ::GetEnhMetaFileA((folder + "\\image.emf").c_str());
     ASSERT_NE(picture, nullptr);
     testkit::DibSurface played(257, 120);

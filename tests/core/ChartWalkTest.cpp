@@ -64,12 +64,6 @@ void WalkPainted(const ChartSeries& series, const LinearMap& xMap, const LinearM
     ChartWalk(series, xMap, yMap, kView, line).Run();
 }
 
-std::vector<Point> Lone(const Canvas& canvas) {
-    std::vector<Point> pixels;
-    canvas.lone.Visit([&](const Point& pixel) { pixels.push_back(pixel); });
-    return pixels;
-}
-
 const LinearMap kWholeY(0, kHeight - 1, kHeight - 1, 1 - kHeight);
 
 } // namespace
@@ -103,9 +97,9 @@ TEST(ChartWalk, DrawsWhatTheWholeLineDraws) {
         WalkReduced(series, xMap, yMap, reduced);
         WalkPainted(series, xMap, yMap, painted);
         WalkAll(series, xMap, yMap, whole);
-        for (const Canvas* canvas : {&reduced, &painted}) {
+        for (Canvas* canvas : {&whole, &reduced, &painted}) {
+            canvas->lone.Visit([&](Point at) { canvas->raster.Run(at.x, at.y, at.y, 2 * kInk); });
             ASSERT_EQ(canvas->pixels, whole.pixels) << "round " << round << ", " << count << " points";
-            ASSERT_EQ(Lone(*canvas), Lone(whole)) << "round " << round;
         }
     }
 }

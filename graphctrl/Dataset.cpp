@@ -33,7 +33,10 @@ BOOL CDataset::AppendReporting(double y) {
 }
 
 BOOL CDataset::KeepOne() {
-    return kavlix::ReportingExhaustion([&] { m_Samples->KeepOne(); });
+    if (GetSize() == 0)
+        return AddYData(0);
+    m_Samples->Remove(1, GetSize());
+    return TRUE;
 }
 
 BOOL CDataset::GetData(int i, double& x, double& y) const {

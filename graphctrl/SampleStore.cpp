@@ -224,22 +224,6 @@ void SampleStore::RemoveInside(int first, int count) {
         SummarizeBlock(start);
 }
 
-void SampleStore::KeepOne() {
-    const double value = Size() > 0 ? (*this)[0] : 0;
-    SampleStore one;
-    one.Append(value);
-    m_pieces.swap(one.m_pieces);
-    m_summaries.clear();
-    m_begin = 0;
-    m_next = one.m_next;
-    m_blockEnd = one.m_blockEnd;
-    m_blockEndNumber = one.m_blockEndNumber;
-    m_summarized = 0;
-    m_firstPiece = one.m_firstPiece;
-    m_firstPieceEnd = one.m_firstPieceEnd;
-    m_lastPieceStart = one.m_lastPieceStart;
-}
-
 void SampleStore::Clear() {
     m_pieces.clear();
     m_pieces.shrink_to_fit();

@@ -92,8 +92,6 @@ public:
         else
             RemoveInside(first, count);
     }
-    /// Keeps the first value alone, or a single 0 when there is none. Throws as Append does.
-    void KeepOne();
     /// Removes all values and gives their memory back.
     void Clear();
 

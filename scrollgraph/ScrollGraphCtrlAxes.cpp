@@ -61,8 +61,9 @@ int CScrollGraphCtrl::HourTickPos(int nIndex, int nHours, CString& fullTime) con
 }
 
 int CScrollGraphCtrl::ComputeFirstTickPos(int nIndex, int nUnit, int& spacing, CString& fullTime) const {
+    const int offset = TickPos(nIndex, nUnit, SecondsToRoundTime, fullTime);
     spacing = ToCoordinate(nUnit * UnitsPerSecond());
-    return TickPos(nIndex, nUnit, SecondsToRoundTime, fullTime);
+    return offset;
 }
 
 CString CScrollGraphCtrl::GetNextTickTime(int nUnit, CString& date, CString& time) const {

@@ -1,6 +1,7 @@
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "gdi/MemoryReport.h"
 #include "scrollgraph/ScrollGraphCtrlClock.h"
@@ -55,10 +56,23 @@ int CScrollGraphCtrl::AddDataForOffline(int nDataset, double y, double*) {
 }
 
 void CScrollGraphCtrl::SetArraySize(int) {
-    for (CDataset& dataset : m_Datasets)
-        if (!dataset.KeepOne())
-            return;
-    ReportingExhaustion([&] { m_arrTime->KeepOne(); });
+    // What is empty needs memory for its 0. That comes first: nothing is cut if it fails.
+    const bool hadTime = m_arrTime->Size() > 0;
+    int sizes[DatasetCount];
+    GetSizes(sizes);
+    bool isComplete = hadTime || AddXTickLabel(0);
+    for (int i = 0; i < DatasetCount && isComplete; ++i)
+        isComplete = sizes[i] > 0 || m_Datasets[i].AddYData(0);
+    if (isComplete) {
+        for (CDataset& dataset : m_Datasets)
+            dataset.KeepOne();
+        m_arrTime->KeepOne();
+        return;
+    }
+    for (int i = 0; i < DatasetCount; ++i)
+        m_Datasets[i].RemoveYData(sizes[i], m_Datasets[i].GetSize());
+    if (!hadTime)
+        m_arrTime->Clear();
 }
 
 void CScrollGraphCtrl::RemoveHeadData(int nCount) {
@@ -74,17 +88,24 @@ void CScrollGraphCtrl::RemoveHeadData(int nCount) {
 BOOL CScrollGraphCtrl::GetXData(int nIndex, CString& date, CString& time) {
     if (!m_arrTime->Has(nIndex))
         return FALSE;
-    const CalendarTime local = SystemClock(*m_zoneRules).ToLocal(m_arrTime->At(nIndex));
-    date.Format("%02d/%02d", local.month, local.day);
-    time.Format("%02d:%02d:%02d", local.hour, local.minute, local.second);
-    return TRUE;
+    return WithinResources([&] {
+        const CalendarTime local = SystemClock(*m_zoneRules).ToLocal(m_arrTime->At(nIndex));
+        CString day;
+        CString clock;
+        day.Format("%02d/%02d", local.month, local.day);
+        clock.Format("%02d:%02d:%02d", local.hour, local.minute, local.second);
+        date = std::move(day);
+        time = std::move(clock);
+    });
 }
 
 int CScrollGraphCtrl::GetFullTime(int nIndex, CString& text) const {
     if (!m_arrTime->Has(nIndex))
         return 0;
-    text = FullTimeText(SystemClock(*m_zoneRules).ToLocal(m_arrTime->At(nIndex))).c_str();
-    return 1;
+    return WithinResources([&] {
+        CString full = FullTimeText(SystemClock(*m_zoneRules).ToLocal(m_arrTime->At(nIndex))).c_str();
+        text = std::move(full);
+    });
 }
 
 long CScrollGraphCtrl::GetXOffset(int nIndex) const {

@@ -51,8 +51,7 @@ void StampStore::KeepOne() {
 }
 
 void StampStore::Clear() {
-    m_pieces.clear();
-    m_pieces.shrink_to_fit();
+    m_pieces.clear(); // and no shrink_to_fit, which asks for memory
     m_head = m_size = 0;
 }
 

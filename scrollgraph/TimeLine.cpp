@@ -54,8 +54,6 @@ void TimeLine::Clear() {
 }
 
 void TimeLine::KeepOne() {
-    if (m_times.IsEmpty())
-        m_times.Add(0);
     m_times.KeepOne();
     m_stepsBack.clear();
 }

@@ -36,7 +36,7 @@ public:
     void RemoveHead(int count);
     /// Drops all stamps and gives their memory back.
     void Clear();
-    /// Keeps the first stamp, or one of 0 if there is none.
+    /// Keeps the first stamp, which must exist, alone.
     void KeepOne();
 
     /// The first sample whose x is not below `x`. The last stamp is never looked at, so that the result is at

@@ -50,7 +50,7 @@ public:
     /// below 1 removes none. Result 0 when `i` is not a sample. Removing from the head costs what is removed,
     /// not what remains.
     BOOL RemoveYData(int i, int count);
-    /// Keeps the first sample alone, or a single 0 when there is none. Fails as AddData does.
+    /// Keeps the first sample alone, or a single 0 when there is none, which fails as AddData does.
     BOOL KeepOne();
     /// Removes every sample and frees the storage; colour, marker, line size, legend and visibility stay.
     void RemoveAll();

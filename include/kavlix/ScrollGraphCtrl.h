@@ -50,14 +50,15 @@ public:
     /// Appends a sample and leaves the view alone, to load recorded data. Results as AddData's.
     int AddDataForOffline(int nDataset, double y, double* pReserved);
     /// Cuts the time stamps and every dataset to their first element; an empty one gets a single 0. The
-    /// storage grows in steps of its own, whatever `nGrowBy` asks for.
+    /// storage grows in steps of its own, whatever `nGrowBy` asks for. When memory runs out, a message box tells
+    /// it, and nothing is cut.
     void SetArraySize(int nGrowBy);
 
     /// Texts of sample `nIndex` in local time: "MM/DD" and "hh:mm:ss". Result 0, outputs unchanged, when
-    /// there is no such time stamp.
+    /// there is no such time stamp or no memory.
     BOOL GetXData(int nIndex, CString& date, CString& time) override;
     /// "YYYY/MM/DD hh:mm:ss" of sample `nIndex` in local time. Result 0, output unchanged, when there is no
-    /// such time stamp.
+    /// such time stamp or no memory.
     int GetFullTime(int nIndex, CString& text) const;
     /// Seconds from the first time stamp to that of `nIndex`; 0 when there is none.
     long GetXOffset(int nIndex) const;

@@ -112,8 +112,8 @@ TEST(SampleStoreTest, BehavesLikeAVector) {
                 const auto begin = model.begin() + first;
                 model.erase(begin, begin + std::clamp(count, 0, size - first));
             } else if (action == 98 && random() % 8 == 0) {
-                store.KeepOne();
-                model.resize(1);
+                store.Remove(1, store.Size());
+                model.resize(std::min<std::size_t>(model.size(), 1));
             } else if (action == 99) {
                 store.Clear();
                 model.clear();

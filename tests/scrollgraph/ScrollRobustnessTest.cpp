@@ -3,69 +3,105 @@
 #include "tests/scrollgraph/ScrollTest.h"
 #include "tests/support/ForbiddenPages.h"
 #include "tests/support/GdiCounter.h"
-#include "tests/support/ImportHook.h"
+#include "tests/support/MemoryRule.h"
 #include "tests/support/MessageBoxWatcher.h"
 #include "tests/support/Numbers.h"
 
 #include <climits>
 #include <cmath>
 #include <iterator>
-#include <new>
+#include <sstream>
 
 namespace {
-
-int g_allocationsLeft = -1; // until one fails; negative for none
-int g_allocationsRefused = 0;
-
-void* FailingNew(std::size_t size) {
-    if (g_allocationsLeft == 0) {
-        ++g_allocationsRefused;
-        throw std::bad_alloc();
-    }
-    return ::operator new(size);
-}
 
 constexpr UINT kCodes[] = {SB_LINELEFT, SB_LINERIGHT, SB_PAGELEFT, SB_PAGERIGHT, SB_THUMBTRACK, SB_ENDSCROLL};
 
 } // namespace
 
-TEST(ScrollRobustnessTest, ARefusedTimeStampIsToldAndNotStored) {
-    OpenScrollGraph graph;
-    testkit::MessageBoxWatcher watcher;
-    const testkit::ImportHook hook("Kavlix.dll", sizeof(void*) == 8 ? "_Znwy" : "_Znwj",
-                                   reinterpret_cast<void*>(&FailingNew));
-    ASSERT_TRUE(hook.Installed());
-    int refused = 0;
-    g_allocationsRefused = 0;
-    for (int i = 0; i < 5000 && refused < 3; ++i) {
-        const int before = graph.GetCurDataIndex();
-        g_allocationsLeft = 0;
-        const int added = graph.AddXTickLabel(kSomeTime + i);
-        g_allocationsLeft = -1;
-        ASSERT_EQ(graph.GetCurDataIndex(), before + added);
-        refused += added == 0;
-        ASSERT_EQ(refused, g_allocationsRefused);
-        if (added == 0) {
-            ASSERT_EQ(graph.AddXTickLabel(kSomeTime + i), 1) << "memory is back";
-        }
-        ASSERT_EQ(graph.GetTimeInfo(before), kSomeTime + i);
-    }
-    EXPECT_EQ(refused, 3);
-    EXPECT_EQ(watcher.Boxes().size(), 3u);
+namespace {
 
-    // A refused sample has moved the view all the same.
-    for (int i = 0; i < 300 && watcher.Boxes().size() < 5;) {
-        g_allocationsLeft = 0;
-        const int added = graph.AddData(0, i, nullptr);
-        g_allocationsLeft = -1;
-        ASSERT_EQ(graph.m_dScrollPos, i < 55 ? 0 : i * 20 - 1080);
-        ASSERT_EQ(graph.GetDatasetSize(0), i + added);
-        if (added == 0) {
-            ASSERT_EQ(graph.AddDataForOffline(0, i, nullptr), 1);
+/// A control whose next time stamp and sample ask for new memory, as a host reads it.
+struct FedScroll {
+    explicit FedScroll(bool feeds = true) {
+        EXPECT_TRUE(parent.CreateVisible(400, 300));
+        graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 77);
+        for (int i = 0; i < 1024 && feeds; ++i) {
+            graph.AddXTickLabel(kSomeTime + i);
+            graph.AddDataForOffline(0, i, nullptr);
+            graph.AddDataForOffline(12, i, nullptr);
         }
-        ++i;
+        graph.UpdateScrollByRemove();
+        graph.SetSelectionMarkPos(5);
+        graph.UpdateWindow();
+        testkit::Pump();
     }
-    EXPECT_EQ(watcher.Boxes().size(), 5u);
+    ~FedScroll() { parent.DestroyWindow(); }
+    std::string State() {
+        std::ostringstream out;
+        const int stamps = graph.GetCurDataIndex();
+        out << stamps << " " << graph.GetTimeInfo(0) << " " << graph.GetTimeInfo(stamps - 1) << " "
+            << graph.LowerBound(1e9) << " mark " << graph.m_SelectionMarkPos << " view " << graph.m_dScrollPos << " "
+            << graph.m_dScrollMax << " " << graph.m_dViewWidth << " " << graph.m_strSelectionMarkTime.GetString();
+        for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
+            out << " " << graph.GetDatasetSize(i);
+        for (const CString& text : texts)
+            out << "|" << text.GetString();
+        return out.str();
+    }
+    testkit::RecordingParent parent;
+    OpenScrollGraph graph;
+    CString texts[2];
+};
+struct EmptyScroll : FedScroll {
+    EmptyScroll() : FedScroll(false) {}
+};
+
+} // namespace
+
+TEST(ScrollMemoryTest, EveryOperationHappensWholeOrNotAtAll) {
+    using S = FedScroll;
+    using testkit::OnFailure;
+    const int failures = testkit::ExpectMemoryRule<S>({
+        {"AddXTickLabel", OnFailure::Reports, [](S& s) { return s.graph.AddXTickLabel(kSomeTime + 1024) != 0; }},
+        {"AddXTickLabel, back", OnFailure::Reports, [](S& s) { return s.graph.AddXTickLabel(kSomeTime - 5) != 0; }},
+        {"AddXTickLabel, out of pace", OnFailure::Reports,
+         [](S& s) {
+             s.graph.RemoveHeadData(1024);
+             return s.graph.AddXTickLabel(0) != 0 && s.graph.AddXTickLabel(1) != 0 &&
+                    s.graph.AddXTickLabel(100000) != 0;
+         },
+         true},
+        {"AddData", OnFailure::Reports, [](S& s) { return s.graph.AddData(0, 1, nullptr) != 0; }, true},
+        {"AddDataForOffline", OnFailure::Reports, [](S& s) { return s.graph.AddDataForOffline(0, 1, nullptr) != 0; }},
+        {"SetArraySize", OnFailure::Reports,
+         [](S& s) {
+             s.graph.SetArraySize(9);
+             return s.graph.GetCurDataIndex() == 1 && s.graph.GetDatasetSize(7) == 1;
+         }},
+        {"InitData", OnFailure::Never, [](S& s) { return s.graph.InitData(), true; }},
+        {"ResetXTickLabel", OnFailure::Never, [](S& s) { return s.graph.ResetXTickLabel(), true; }},
+        {"RemoveHeadData", OnFailure::Never, [](S& s) { return s.graph.RemoveHeadData(1000), true; }},
+        {"RemoveHeadData, all", OnFailure::Never, [](S& s) { return s.graph.RemoveHeadData(5000), true; }},
+        {"SetHorzRange", OnFailure::Never, [](S& s) { return s.graph.SetHorzRange(3), true; }},
+        {"InitScrollInfo", OnFailure::Never, [](S& s) { return s.graph.InitScrollInfo(), true; }},
+        {"ProcessMouseWheel", OnFailure::Never, [](S& s) { return s.graph.ProcessMouseWheel(120), true; }},
+        {"SetSelectionMarkPos", OnFailure::Never, [](S& s) { return s.graph.SetSelectionMarkPos(7), true; }},
+        {"SendScrollInfo", OnFailure::Never, [](S& s) { return s.graph.SendScrollInfo(7), true; }},
+        {"GetXData", OnFailure::False, [](S& s) { return s.graph.GetXData(3, s.texts[0], s.texts[1]) != 0; }},
+        {"GetFullTime", OnFailure::False, [](S& s) { return s.graph.GetFullTime(3, s.texts[0]) != 0; }},
+        {"WM_HSCROLL", OnFailure::Message,
+         [](S& s) { return s.graph.SendMessage(WM_HSCROLL, SB_PAGELEFT, 0), true; }},
+        {"the mark's time", OnFailure::Message,
+         [](S& s) { return s.graph.SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK), true; }},
+    });
+    EXPECT_GT(failures, 10) << "the failures must reach the operations";
+    testkit::ExpectMemoryRule<EmptyScroll>({
+        {"SetArraySize of an empty graph", OnFailure::Reports,
+         [](EmptyScroll& s) {
+             s.graph.SetArraySize(9);
+             return s.graph.GetCurDataIndex() == 1 && s.graph.GetDatasetSize(7) == 1;
+         }},
+    });
 }
 
 class ScrollOddViewTest : public ScrollTest {};

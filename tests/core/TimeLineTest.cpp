@@ -39,19 +39,6 @@ TEST(TimeLineTest, XCountsTwentiethsFromTheFirstStampAndWrapsRound) {
     }
 }
 
-TEST(TimeLineTest, RemovingTheHeadMovesTheOrigin) {
-    TimeLine line = LineOf({100, 110, 130, 160});
-    line.RemoveHead(-3);
-    EXPECT_EQ(line.Size(), 4);
-    line.RemoveHead(2);
-    ASSERT_EQ(line.Size(), 2);
-    EXPECT_EQ(line.X(1), 600);
-    line.RemoveHead(100);
-    EXPECT_EQ(line.Size(), 0);
-    line.Append(7);
-    EXPECT_EQ(line.X(0), 0);
-}
-
 TEST(TimeLineTest, LowerBoundNeverLooksAtTheLastStamp) {
     EXPECT_EQ(TimeLine().LowerBound(5), 0);
     EXPECT_EQ(LineOf({1}).LowerBound(1e9), 0);

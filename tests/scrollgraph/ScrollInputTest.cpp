@@ -61,6 +61,7 @@ TEST_F(ScrollInputTest, CodesOfTheScrollBar) {
         {"page left", 1000, 6000, 0, SB_PAGELEFT, 0, true, 400},
         {"page left to the left end", 599, 6000, 0, SB_PAGELEFT, 0, true, 0},
         {"page left from the left end", 0, 6000, 0, SB_PAGELEFT, 0, true, 0},
+        {"page left over a lower minimum", 500, 6000, -900, SB_PAGELEFT, 0, true, 0},
         {"page right", 500, 6000, 0, SB_PAGERIGHT, 0, true, 1100},
         {"end of a drag", 500, 6000, 0, SB_THUMBPOSITION, 900, false, 500},
         {"drag", 500, 6000, 0, SB_THUMBTRACK, 300, true, 1500},

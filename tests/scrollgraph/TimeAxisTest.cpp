@@ -117,8 +117,7 @@ TEST_F(ScrollTimeAxisTest, StepsAndTheirSpacing) {
         double minutes;
         int ticks, step;
     } cases[] = {
-        {1, 11, 5},     {1, 5, 10},      {5, 9, 30},       {15, 9, 120},     {60, 9, 600},
-        {360, 9, 3600}, {360, 11, 1800}, {1440, 9, 10800}, {1440, 11, 7200}, {10080, 9, 10800},
+        {1, 11, 5}, {15, 9, 120}, {360, 11, 1800}, {10080, 9, 10800},
     };
     for (const auto& each : cases) {
         graph.SetHorzRange(each.minutes);

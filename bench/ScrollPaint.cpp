@@ -106,6 +106,7 @@ void ScrollAxis() {
     Stage stage(kWidth, kHeight);
     Graph graph;
     graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 800, 400), &stage, 1);
+    graph.SetGrid(TRUE, TRUE);
     graph.AddXTickLabel(kStart);
     graph.AddData(0, 1, nullptr);
     Picture picture(kWidth, kHeight);
@@ -113,6 +114,7 @@ void ScrollAxis() {
     CDC dc;
     dc.Attach(picture.Dc());
     graph.SetMapModeAnisotropic(dc);
+    dc.SetBkMode(TRANSPARENT); // as every paint of the control does
     const int days[] = {1, 7, 30, 365, 3650};
     std::vector<double> times[std::size(days)];
     for (int round = 0; round < 200; ++round) {

@@ -102,4 +102,11 @@ bool DottedPen::Draw(const CPoint& from, const CPoint& to) const {
     return true;
 }
 
+void DottedPen::DrawColumns(const std::vector<int>& columns, int from, int to) const {
+    POINT ends[2] = {{0, from}, {0, to}};
+    m_dc.LPtoDP(ends, 2);
+    ::GdiFlush();
+    m_raster->DotColumns(columns, static_cast<int>(ends[0].y), static_cast<int>(ends[1].y), m_dots, *m_colour);
+}
+
 } // namespace kavlix

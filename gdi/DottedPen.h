@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <optional>
+#include <vector>
 
 #include "gdi/DirectPaint.h"
 
@@ -18,6 +19,11 @@ public:
 
     /// Draws a line directly and tells whether it could. Where not, select Pen and draw it by GDI.
     bool Draw(const CPoint& from, const CPoint& to) const;
+    /// Whether Draw draws upright lines.
+    bool IsDirect() const { return m_raster.has_value(); }
+    /// Draws upright lines from `from` to `to`, in logical units, in each of some device columns; only where
+    /// IsDirect. Takes far less time than the lines one by one.
+    void DrawColumns(const std::vector<int>& columns, int from, int to) const;
     CPen& Pen() { return m_pen; }
 
 private:

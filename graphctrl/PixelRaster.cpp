@@ -55,6 +55,28 @@ void PixelRaster::Dots(const Point& from, const Point& to, const DotPattern& pat
     }
 }
 
+void PixelRaster::DotColumns(const std::vector<int>& columns, int from, int to, const DotPattern& pattern,
+                             std::uint32_t colour) const {
+    std::vector<int> seen;
+    for (const int column : columns)
+        if (column >= m_clip.left && column < m_clip.right)
+            seen.push_back(column);
+    const int direction = to < from ? -1 : 1;
+    const int first = std::max(direction > 0 ? m_clip.top - from : from - (m_clip.bottom - 1), 0);
+    const int last =
+        std::min(direction > 0 ? m_clip.bottom - 1 - from : from - m_clip.top, std::abs(to - from) - 1);
+    for (int base = first - first % pattern.period; base <= last; base += pattern.period) {
+        for (const int dot : pattern.dots) {
+            const int k = base + dot;
+            if (k < first || k > last)
+                continue;
+            std::uint32_t* row = At(0, from + direction * k);
+            for (const int column : seen)
+                row[column] = colour;
+        }
+    }
+}
+
 void PixelRaster::Stroke(const Point& from, const Point& to, std::uint32_t colour) const {
     if (from.x == to.x) {
         if (from.y < to.y)

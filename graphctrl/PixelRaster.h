@@ -41,6 +41,10 @@ public:
     }
     /// An upright or level line of dots. Its last pixel is left out.
     void Dots(const Point& from, const Point& to, const DotPattern& pattern, std::uint32_t colour) const;
+    /// The same as upright lines from row `from` to row `to` in each of the `columns`, painted row by row: in
+    /// memory the pixels of a row are neighbours.
+    void DotColumns(const std::vector<int>& columns, int from, int to, const DotPattern& pattern,
+                    std::uint32_t colour) const;
     /// The pixels of `area`.
     void Fill(const Rect& area, std::uint32_t colour) const;
 

@@ -129,18 +129,25 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
         pixels.push_back({static_cast<LONG>(place(tick)), rectAxis.top});
     dc.LPtoDP(pixels.data(), static_cast<int>(pixels.size()));
     ticks.GoTo(firstSeen);
+    DottedPen* const grid = gridPen ? &*gridPen : nullptr;
+    const bool isGridLast = grid != nullptr && grid->IsDirect();
+    std::vector<int> gridColumns;
     for (std::int64_t tick = firstSeen; tick < endSeen; ++tick) {
         const int x = static_cast<int>(place(tick));
         // Ticks in one device column are one tick.
         const auto pixel = pixels.begin() + (tick - firstSeen);
         if (pixel == pixels.begin() || pixel->x != pixel[-1].x)
-            DrawXTick(dc, x, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);
+            DrawXTick(dc, x, rectAxis, axisPen, isGridLast ? nullptr : grid, m_rectPlot.top);
+        if (isGridLast && (gridColumns.empty() || gridColumns.back() != pixel->x))
+            gridColumns.push_back(static_cast<int>(pixel->x));
         if (tick != ticks.Tick())
             continue;
         DrawTimeLabel(dc, x, rectLabel.top + kLabelGap, ticks.ShowsDate() ? ticks.Date().c_str() + kMonthAt : "",
                       ticks.Clock().c_str());
         ticks.Next();
     }
+    if (isGridLast)
+        grid->DrawColumns(gridColumns, static_cast<int>(rectAxis.top), static_cast<int>(m_rectPlot.top));
 }
 
 void CScrollGraphCtrl::DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time) {

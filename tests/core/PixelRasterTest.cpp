@@ -119,6 +119,9 @@ TEST(PixelRasterTest, DotsCountFromTheLinesFirstPixelWhereverItLies) {
                         plain[static_cast<std::size_t>(p.y * kSide + p.x)] = kInk;
                 }
                 ASSERT_EQ(picture, plain) << begin << " to " << end << (isUpright ? " upright" : "");
+                Picture columns(kSide * kSide);
+                PixelRaster(columns.data(), kSide, clip).DotColumns({-5, 9, 70}, begin, end, pattern, kInk);
+                ASSERT_TRUE(!isUpright || columns == plain) << begin << " to " << end;
             }
         }
     }

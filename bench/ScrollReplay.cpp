@@ -63,8 +63,8 @@ void ScrollLive() {
     CScrollGraphCtrl shown;
     shown.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 800, 400), &stage, 1);
     CScrollGraphCtrl bound; // a bound window has no bar
-    bound.SubclassWindow(::CreateWindowEx(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, 800, 400, stage.m_hWnd,
-                                          nullptr, nullptr, nullptr));
+    bound.SubclassWindow(::CreateWindowEx(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, 800, 400,
+                                          stage.m_hWnd, nullptr, nullptr, nullptr));
     LiveSteps with(shown);
     LiveSteps without(bound);
     std::vector<double> withBar;

@@ -106,7 +106,8 @@ void DottedPen::DrawColumns(const std::vector<int>& columns, int from, int to) c
     POINT ends[2] = {{0, from}, {0, to}};
     m_dc.LPtoDP(ends, 2);
     ::GdiFlush();
-    m_raster->DotColumns(columns, static_cast<int>(ends[0].y), static_cast<int>(ends[1].y), m_dots, *m_colour);
+    m_raster->DotColumns(columns, static_cast<int>(ends[0].y), static_cast<int>(ends[1].y), m_dots,
+                         *m_colour);
 }
 
 } // namespace kavlix

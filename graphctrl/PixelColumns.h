@@ -140,12 +140,11 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
     return columns;
 }
 
-/// The same for positions that turn round now and then. `runEnd(rest)` is the last sample of the range `rest` up
-/// to which positions run one way; none where that is unknown, and then the result is empty. Around a turn the
-/// samples beyond the edges are kept too, since the line from one to the other may cross what is seen.
-template <class RunEnd, class Position>
-std::vector<PixelColumn> GroupRunsByColumn(IndexRange range, const PixelEdges& edges, RunEnd runEnd,
-                                           Position at) {
+/// The same for positions that turn round now and then. `runEnd(rest)` is the last sample of the range `rest`
+/// up to which positions run one way; none where that is unknown, and then the result is empty. Around a turn
+/// the samples beyond the edges are kept too, since the line from one to the other may cross what is seen.
+template <class RunEnd, class Position> std::vector<PixelColumn>
+GroupRunsByColumn(IndexRange range, const PixelEdges& edges, RunEnd runEnd, Position at) {
     std::vector<PixelColumn> columns;
     if (edges.IsEmpty())
         return columns;

@@ -113,7 +113,8 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     const int height = TextHeight(dc);
     const SystemClock clock(*m_zoneRules);
     TimeTicks ticks(clock, m_arrTime->At(first), unit, spacing, height);
-    const std::int64_t begin = std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
+    const std::int64_t begin =
+        std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
     const auto place = [&](std::int64_t tick) { return begin + tick * spacing; };
     // Without a view there is no next tick. Of a plot that is wider than the window the rest cannot be seen.
     const std::int64_t reach = 2 * std::int64_t{height};
@@ -142,8 +143,8 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
             gridColumns.push_back(static_cast<int>(pixel->x));
         if (tick != ticks.Tick())
             continue;
-        DrawTimeLabel(dc, x, rectLabel.top + kLabelGap, ticks.ShowsDate() ? ticks.Date().c_str() + kMonthAt : "",
-                      ticks.Clock().c_str());
+        DrawTimeLabel(dc, x, rectLabel.top + kLabelGap,
+                      ticks.ShowsDate() ? ticks.Date().c_str() + kMonthAt : "", ticks.Clock().c_str());
         ticks.Next();
     }
     if (isGridLast)

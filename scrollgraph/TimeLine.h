@@ -46,9 +46,9 @@ public:
     /// there is one sample a second. Hosts rely on the odd end: Size() itself, not Size() - 1, comes out when
     /// the room ends exactly there.
     int UpperBound(int first, double viewWidth) const;
-    /// The last sample, at most `last`, up to which x never decreases from sample `first` on: the stamp behind
-    /// it steps back. None where a stamp between is so far from the origin that its x wraps round. Both samples
-    /// exist, `first` not behind `last`. A search among the stamps that step back, no walk.
+    /// The last sample, at most `last`, up to which x never decreases from sample `first` on: the stamp
+    /// behind it steps back. None where a stamp between is so far from the origin that its x wraps round.
+    /// Both samples exist, `first` not behind `last`. A search among the stamps that step back, no walk.
     std::optional<int> RunEnd(int first, int last) const;
 
 private:

@@ -31,14 +31,14 @@ std::int64_t LongerRoundTime(std::int64_t seconds) {
 
 /// The distance at which neighbouring labels do not touch, whether they have dates or not.
 int LabelDistance(bool allDated, int textHeight) {
-    const int left = kDateShift - textHeight; // of a date; its clock time reaches `textHeight` right of the tick
-    return allDated ? textHeight - left
-                    : std::max(textHeight - kClockShift - left, textHeight + kClockShift);
+    const int left = kDateShift - textHeight; // of a date, whose clock time reaches `textHeight` to the right
+    return allDated ? textHeight - left : std::max(textHeight - kClockShift - left, textHeight + kClockShift);
 }
 
 /// Seconds between two labels.
 std::int64_t LabelStep(int step, int spacing, int textHeight) {
-    // Steps of the table leave room beside all but a few dates; with the longest a date comes with every eighth.
+    // Steps of the table leave room beside all but a few dates. With the longest every eighth tick has a
+    // date.
     if (spacing <= 0 || (step < kLongestStep && spacing >= textHeight))
         return step;
     const auto fits = [=](std::int64_t seconds) {

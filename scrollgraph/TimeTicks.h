@@ -48,12 +48,13 @@ int SecondsToRoundHour(const CalendarTime& time, int hours);
 inline constexpr int kClockShift = 110;
 inline constexpr int kDateShift = 70;
 
-/// The ticks of a time axis, counted from 0, and their labels, left to right. Time goes on by the step whatever
-/// the local clock does: across the end of daylight saving the labels tell the repeated hour twice, and none
-/// stands still.
+/// The ticks of a time axis, counted from 0, and their labels, left to right. Time goes on by the step
+/// whatever the local clock does: across the end of daylight saving the labels tell the repeated hour twice,
+/// and none stands still.
 ///
 /// Every tick has a label where there is room for it. Where labels would touch, only the first tick from each
-/// multiple of a longer round duration on has one (twice the step and more, whole days, weeks), in local time.
+/// multiple of a longer round duration on has one (twice the step and more, whole days, weeks), in local
+/// time.
 class TimeTicks {
 public:
     /// @param clock must outlive the ticks

@@ -50,8 +50,8 @@ public:
     /// Appends a sample and leaves the view alone, to load recorded data. Results as AddData's.
     int AddDataForOffline(int nDataset, double y, double* pReserved);
     /// Cuts the time stamps and every dataset to their first element; an empty one gets a single 0. The
-    /// storage grows in steps of its own, whatever `nGrowBy` asks for. When memory runs out, a message box tells
-    /// it, and nothing is cut.
+    /// storage grows in steps of its own, whatever `nGrowBy` asks for. When memory runs out, a message box
+    /// tells it, and nothing is cut.
     void SetArraySize(int nGrowBy);
 
     /// Texts of sample `nIndex` in local time: "MM/DD" and "hh:mm:ss". Result 0, outputs unchanged, when
@@ -131,12 +131,13 @@ public:
     CString GetNextTickTime(int nUnit, CString& date, CString& time) const;
 
 protected:
-    /// Draws the time axis. Ticks stand apart by the truncated distance of two, so that they drift to the left of
-    /// their times in long views; of ticks in one device column the first is drawn. Where labels would touch,
-    /// only ticks at longer round times have one.
+    /// Draws the time axis. Ticks stand apart by the truncated distance of two, so that they drift to the
+    /// left of their times in long views; of ticks in one device column the first is drawn. Where labels
+    /// would touch, only ticks at longer round times have one.
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
-    /// Draws the upright label of the tick at `x`, its end at `y`: the clock time `time` alone, or `date` ("MM/DD")
-    /// and `time` side by side. Font and colour are selected; the text alignment is that of the label before.
+    /// Draws the upright label of the tick at `x`, its end at `y`: the clock time `time` alone where `date`
+    /// is empty, else `date` ("MM/DD") and `time` side by side. Font and colour are selected; the text
+    /// alignment is that of the label before.
     virtual void DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time);
     void DrawGraphData(CDC& dc) override;
     /// Lines: of the samples painted last the one nearest in x, -1 outside the plot. Bars: as CGraphCtrl.

@@ -12,8 +12,8 @@ namespace {
 
 using Groups = std::vector<std::tuple<int, int, int>>;
 
-/// Sample by sample, run by run: what lies on one pixel, and beyond the edges the neighbours of what is held and
-/// the samples around a turn. `ends` are the last samples of the runs.
+/// Sample by sample, run by run: what lies on one pixel, and beyond the edges the neighbours of what is held
+/// and the samples around a turn. `ends` are the last samples of the runs.
 Groups PlainGroups(const std::vector<int>& positions, IndexRange range, const std::vector<int>& edges,
                    const std::vector<int>& ends) {
     const auto pixelOf = [&](int index) {
@@ -25,14 +25,13 @@ Groups PlainGroups(const std::vector<int>& positions, IndexRange range, const st
     Groups groups;
     int first = range.first;
     for (const int last : ends) {
-        const int before = positions[static_cast<std::size_t>(first)] <= positions[static_cast<std::size_t>(last)]
-                               ? 0
-                               : outside;
+        const int before = *(positions.begin() + first) <= *(positions.begin() + last) ? 0 : outside;
         for (int i = first; i <= last; ++i) {
             const bool isTurn = (i == first && i != range.first) || (i == last && i != range.last);
             const bool isNext = pixelOf(i) == before ? i == last || pixelOf(i + 1) != before
                                                      : i == first || pixelOf(i - 1) != pixelOf(i);
-            if (isHeld(i) && !groups.empty() && std::get<1>(groups.back()) == i - 1 && pixelOf(i - 1) == pixelOf(i))
+            if (isHeld(i) && !groups.empty() && std::get<1>(groups.back()) == i - 1 &&
+                pixelOf(i - 1) == pixelOf(i))
                 std::get<1>(groups.back()) = i;
             else if (isHeld(i) || isTurn || isNext)
                 groups.emplace_back(i, i, positions[static_cast<std::size_t>(i)]);

@@ -44,11 +44,21 @@ TEST(TimeTicksTest, TheStepLeavesRoomForTheTicks) {
     struct Case {
         int seconds, ticks, step;
     };
-    const Case cases[] = {{60, 11, 5},        {60, 5, 10},          {60, 10, 10},
-                          {60, 2, 20},        {65, 11, 10},         {0, 2, 5},
-                          {-60, 2, 5},        {300, 9, 30},         {3600, 9, 600},
-                          {86400, 11, 7200},  {86400, 10, 10800},   {13 * 7200 - 1, 11, 7200},
-                          {2147483647, 5, 10800}, {13 * 7200, 11, 10800}, {2147483647, 2147483647, 5}};
+    const Case cases[] = {{60, 11, 5},
+                          {60, 5, 10},
+                          {60, 10, 10},
+                          {60, 2, 20},
+                          {65, 11, 10},
+                          {0, 2, 5},
+                          {-60, 2, 5},
+                          {300, 9, 30},
+                          {3600, 9, 600},
+                          {86400, 11, 7200},
+                          {86400, 10, 10800},
+                          {13 * 7200 - 1, 11, 7200},
+                          {2147483647, 5, 10800},
+                          {13 * 7200, 11, 10800},
+                          {2147483647, 2147483647, 5}};
     for (const Case& each : cases)
         EXPECT_EQ(SelectTickStep(each.seconds, each.ticks), each.step) << each.seconds << " " << each.ticks;
 }
@@ -126,9 +136,9 @@ TEST(TimeTicksTest, LabelsThatWouldTouchStandAtLongerRoundTimes) {
         {1200, 150, 2, {"2023/11/14 17:00:00", "18:00:00"}},
     };
     for (const auto& each : cases) {
-        EXPECT_EQ(Texts(utc, start, each.step, static_cast<int>(each.labels.size()), each.spacing), each.labels)
-            << each.step << " s in " << each.spacing;
-        EXPECT_EQ(TimeTicks(utc, start, each.step, each.spacing, kHeight).Tick(), each.firstTick) << each.step;
+        const int count = static_cast<int>(each.labels.size());
+        EXPECT_EQ(Texts(utc, start, each.step, count, each.spacing), each.labels) << each.spacing;
+        EXPECT_EQ(TimeTicks(utc, start, each.step, each.spacing, kHeight).Tick(), each.firstTick);
         for (const ZoneClock* clock : {&utc, &autumn, &spring}) {
             TimeTicks ticks(*clock, start, each.step, each.spacing, kHeight);
             for (std::int64_t tick = 0; tick < 600 && each.spacing > 0; ++tick) {

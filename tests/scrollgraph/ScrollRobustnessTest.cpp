@@ -40,8 +40,8 @@ struct FedScroll {
         std::ostringstream out;
         const int stamps = graph.GetCurDataIndex();
         out << stamps << " " << graph.GetTimeInfo(0) << " " << graph.GetTimeInfo(stamps - 1) << " "
-            << graph.LowerBound(1e9) << " mark " << graph.m_SelectionMarkPos << " view " << graph.m_dScrollPos << " "
-            << graph.m_dScrollMax << " " << graph.m_dViewWidth << " " << graph.m_strSelectionMarkTime.GetString();
+            << graph.LowerBound(1e9) << " mark " << graph.m_SelectionMarkPos << " view " << graph.m_dScrollPos
+            << " " << graph.m_dScrollMax << " " << graph.m_strSelectionMarkTime.GetString();
         for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
             out << " " << graph.GetDatasetSize(i);
         for (const CString& text : texts)
@@ -62,8 +62,10 @@ TEST(ScrollMemoryTest, EveryOperationHappensWholeOrNotAtAll) {
     using S = FedScroll;
     using testkit::OnFailure;
     const int failures = testkit::ExpectMemoryRule<S>({
-        {"AddXTickLabel", OnFailure::Reports, [](S& s) { return s.graph.AddXTickLabel(kSomeTime + 1024) != 0; }},
-        {"AddXTickLabel, back", OnFailure::Reports, [](S& s) { return s.graph.AddXTickLabel(kSomeTime - 5) != 0; }},
+        {"AddXTickLabel", OnFailure::Reports,
+         [](S& s) { return s.graph.AddXTickLabel(kSomeTime + 1024) != 0; }},
+        {"AddXTickLabel, back", OnFailure::Reports,
+         [](S& s) { return s.graph.AddXTickLabel(kSomeTime - 5) != 0; }},
         {"AddXTickLabel, out of pace", OnFailure::Reports,
          [](S& s) {
              s.graph.RemoveHeadData(1024);
@@ -72,7 +74,8 @@ TEST(ScrollMemoryTest, EveryOperationHappensWholeOrNotAtAll) {
          },
          true},
         {"AddData", OnFailure::Reports, [](S& s) { return s.graph.AddData(0, 1, nullptr) != 0; }, true},
-        {"AddDataForOffline", OnFailure::Reports, [](S& s) { return s.graph.AddDataForOffline(0, 1, nullptr) != 0; }},
+        {"AddDataForOffline", OnFailure::Reports,
+         [](S& s) { return s.graph.AddDataForOffline(0, 1, nullptr) != 0; }},
         {"SetArraySize", OnFailure::Reports,
          [](S& s) {
              s.graph.SetArraySize(9);

@@ -117,7 +117,10 @@ TEST_F(ScrollTimeAxisTest, StepsAndTheirSpacing) {
         double minutes;
         int ticks, step;
     } cases[] = {
-        {1, 11, 5}, {15, 9, 120}, {360, 11, 1800}, {10080, 9, 10800},
+        {1, 11, 5},
+        {15, 9, 120},
+        {360, 11, 1800},
+        {10080, 9, 10800},
     };
     for (const auto& each : cases) {
         graph.SetHorzRange(each.minutes);

@@ -13,6 +13,11 @@ namespace {
 
 constexpr std::size_t kMostPoints = 8192;
 constexpr int kFar = 1 << 18; // logical units
+constexpr int kVeryFar = 1 << 22;
+/// So many wide strokes of a line go whole from very far away to very far away. Each takes GDI up to a quarter of a second; of more,
+/// the part near the view is drawn, whose edges may be rounded otherwise.
+constexpr int kMostWholeStrokes = 4;
+constexpr int kMargin = 32; // pixels
 
 } // namespace
 
@@ -89,9 +94,8 @@ void GdiStrokes::DrawPart() {
             return;
         }
         line.resize(static_cast<std::size_t>(count));
-        std::transform(points, points + count, line.begin(), [](const Point& point) {
-            return POINT{point.x, point.y};
-        });
+        std::transform(points, points + count, line.begin(),
+                       [](const Point& point) { return POINT{point.x, point.y}; });
         m_ground.dc.Polyline(line.data(), count);
     });
     for (std::size_t i = 0; i < m_points.size(); ++i) {
@@ -105,13 +109,14 @@ void GdiStrokes::DrawPart() {
     m_far.clear();
 }
 
-/// The region of a whole wide polyline costs more than its strokes one by one, and that of a stroke what its
-/// length costs, seen or not.
-void GdiStrokes::DrawWide(const Rect& view, const Point* points, int count) const {
+/// The region of a whole wide polyline costs more than its strokes one by one, and that of a stroke what its length
+/// costs, seen or not.
+void GdiStrokes::DrawWide(const Rect& view, const Point* points, int count) {
     CDC& dc = m_ground.dc;
-    const auto isFar = [](const POINT& point) {
-        return std::max(std::abs(point.x), std::abs(point.y)) > kFar;
+    const auto isBeyond = [](const POINT& point, int limit) {
+        return std::max(std::abs(point.x), std::abs(point.y)) > limit;
     };
+    const auto isFar = [&](const POINT& point) { return isBeyond(point, kFar); };
     const auto bringNearer = [&](const POINT& from, POINT& farEnd) {
         POINT ends[2] = {from, farEnd};
         dc.LPtoDP(ends, 2);
@@ -122,6 +127,20 @@ void GdiStrokes::DrawWide(const Rect& view, const Point* points, int count) cons
         farEnd = {end.x, end.y};
         dc.DPtoLP(&farEnd);
     };
+    const auto drawCut = [&](const POINT& from, const POINT& to) {
+        POINT ends[2] = {from, to};
+        dc.LPtoDP(ends, 2);
+        std::vector<Point> cut;
+        CutStroke(PixelLine(ToPoint(ends[0]), ToPoint(ends[1])), view, kMargin, cut);
+        for (std::size_t k = 0; k < cut.size(); ++k) {
+            POINT point = {cut[k].x, cut[k].y};
+            dc.DPtoLP(&point);
+            if (k == 0)
+                dc.MoveTo(point);
+            else
+                dc.LineTo(point);
+        }
+    };
     for (int i = 1; i < count; ++i) {
         POINT from = {points[i - 1].x, points[i - 1].y};
         POINT to = {points[i].x, points[i].y};
@@ -129,6 +148,11 @@ void GdiStrokes::DrawWide(const Rect& view, const Point* points, int count) cons
             bringNearer(to, from);
         else if (isFar(to) && !isFar(from))
             bringNearer(from, to);
+        else if (isBeyond(from, kVeryFar) && isBeyond(to, kVeryFar) && from.x != to.x &&
+                 ++m_wholeStrokes > kMostWholeStrokes) {
+            drawCut(from, to);
+            continue;
+        }
         dc.MoveTo(from);
         dc.LineTo(to);
     }

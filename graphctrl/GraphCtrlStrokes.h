@@ -77,11 +77,12 @@ public:
 
 private:
     void DrawPart();
-    void DrawWide(const Rect& view, const Point* points, int count) const;
+    void DrawWide(const Rect& view, const Point* points, int count);
 
     LineGround m_ground;
     CRect m_plot;
     int m_penPixels;
+    int m_wholeStrokes = 0;      ///< of those with both ends very far away
     std::vector<Point> m_points; ///< logical units
     std::vector<Point> m_pixels;
     std::vector<std::size_t> m_far; ///< the points whose pixels are not known yet

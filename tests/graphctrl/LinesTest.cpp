@@ -21,34 +21,6 @@ protected:
         GraphTest::SetUp();
         graph.SetGrid(FALSE, FALSE);
     }
-
-    /// The place of a value on the axes set here, by the plain formula.
-    POINT Place(double x, double y) const {
-        return {static_cast<LONG>((x - graph.m_XVisibleMin) * kPlotWidth /
-                                      (graph.m_XVisibleMax - graph.m_XVisibleMin) +
-                                  kPlotLeft),
-                static_cast<LONG>(kPlotBottom - (y - graph.m_YVisibleMin) * kPlotHeight /
-                                                    (graph.m_YVisibleMax - graph.m_YVisibleMin))};
-    }
-    /// The strokes of dataset 0, as a walk over every sample draws them.
-    Strings PlainStrokes() {
-        Strings strokes;
-        POINT at = {0, 0}, last_pixel = {0, 0};
-        for (int i = 0; i < graph.GetDatasetSize(0); ++i) {
-            double y = 0;
-            graph.GetYData(0, i, y);
-            const POINT place = Place(i, y);
-            const POINT pixel = ToDevice(CRect(place, place)).TopLeft();
-            if (i == 0) {
-                at = place;
-            } else if (pixel.x != last_pixel.x || pixel.y != last_pixel.y) {
-                strokes.push_back(Stroke(at.x, at.y, place.x, place.y, kPen0));
-                at = place;
-            }
-            last_pixel = pixel;
-        }
-        return strokes;
-    }
 };
 
 TEST_F(GraphLinesTest, PositionsTruncateTowardZero) {
@@ -110,7 +82,6 @@ TEST_F(GraphLinesTest, EveryVisibleDatasetDrawsTheMark) {
     }
     EXPECT_EQ(triangles, 3);
     // The mark interrupts no line.
-    EXPECT_EQ(picture->Strokes(kPen0), PlainStrokes());
     EXPECT_EQ(picture->Strokes(kPen0).size(), 4u);
 
     const auto pixels = Paint();
@@ -138,15 +109,6 @@ TEST_F(GraphLinesTest, SetSelectionMarkPosKeepsToTheSamples) {
     }
     testkit::Pump();
     EXPECT_EQ(parent.Log(), Strings()) << "silent";
-}
-
-TEST_F(GraphLinesTest, SamplesOnTheSamePixelAreNotStrokedAgain) {
-    FixX(0, 1000);
-    for (int i = 0; i <= 1000; ++i)
-        Add(0, {50.0});
-    const Strings strokes = Record()->Strokes(kPen0);
-    EXPECT_LE(strokes.size(), static_cast<std::size_t>(ToDevice(graph.m_rectPlot).Width() + 1));
-    EXPECT_EQ(strokes, PlainStrokes());
 }
 
 TEST_F(GraphLinesTest, AnUnknownStyleDrawsTheFrameAlone) {

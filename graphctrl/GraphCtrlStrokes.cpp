@@ -14,9 +14,9 @@ namespace {
 constexpr std::size_t kMostPoints = 8192;
 constexpr int kFar = 1 << 18; // logical units
 constexpr int kVeryFar = 1 << 22;
-/// So many wide strokes of a line go whole from very far away to very far away. Each takes GDI up to a quarter of a second; of more,
-/// the part near the view is drawn, whose edges may be rounded otherwise.
-constexpr int kMostWholeStrokes = 4;
+/// So many wide strokes of a line go whole from very far away to very far away. Each takes GDI up to a quarter of a
+/// second; of more, the part near the view is drawn, whose edges may be rounded otherwise.
+constexpr int kMostWholeStrokes = 1;
 constexpr int kMargin = 32; // pixels
 
 } // namespace

@@ -121,12 +121,13 @@ private:
     UINT m_align;
 };
 
-/// Clips to a rectangle in device units; at the end to `outer` again.
+/// Clips to what `outer` holds of a rectangle in device units; at the end to `outer` again.
 class ClipGuard {
 public:
     ClipGuard(CDC& dc, const CRect& device, CRgn& outer) : m_dc(dc), m_outer(outer) {
         CRgn region;
-        if (region.CreateRectRgnIndirect(&device))
+        if (region.CreateRectRgnIndirect(&device) &&
+            (outer.GetSafeHandle() == nullptr || region.CombineRgn(&region, &outer, RGN_AND) != ERROR))
             m_dc.SelectClipRgn(&region);
     }
     ~ClipGuard() { m_dc.SelectClipRgn(&m_outer); }

@@ -95,4 +95,11 @@ inline CRect ClipBounds(const CDC& dc) {
     return logical;
 }
 
+/// The part of a rectangle in logical units that lies within the clip.
+inline CRect ClippedPart(const CDC& dc, const CRect& logical) {
+    CRect part;
+    part.IntersectRect(logical, ClipBounds(dc));
+    return part;
+}
+
 } // namespace kavlix

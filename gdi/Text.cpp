@@ -114,8 +114,7 @@ CSize MeasureText(const CDC& dc, const char* text, int length) {
     return size;
 }
 
-CSize TextReach(const CDC& dc, int length) {
-    constexpr double kFarthest = 1 << 29;
+CRect TextBox(const CDC& dc, int length) {
     constexpr double kRadiansPerTenth = 3.14159265358979323846 / 1800;
     TEXTMETRIC metrics = {};
     LOGFONT font = {};
@@ -123,13 +122,17 @@ CSize TextReach(const CDC& dc, int length) {
     ::GetObject(::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT), sizeof font, &font);
     // Twice the height has room for marks and for glyphs of the fonts that stand in for missing ones.
     const double height = 2.0 * metrics.tmHeight;
-    const double width = height + std::max<double>(metrics.tmMaxCharWidth, height) * length;
-    const double cosine = std::fabs(std::cos(font.lfEscapement * kRadiansPerTenth));
+    const double width = std::max<double>(metrics.tmMaxCharWidth, height) * length;
+    const UINT align = dc.GetTextAlign() & TA_CENTER; // which has the bits of TA_RIGHT
+    const double before = height + (align == TA_LEFT ? 0 : width);
+    const double behind = height + (align == TA_RIGHT ? 0 : width);
+    const double cosine = std::cos(font.lfEscapement * kRadiansPerTenth);
     const double sine = std::fabs(std::sin(font.lfEscapement * kRadiansPerTenth));
-    const auto reach = [&](double along, double across) {
-        return TruncateToInt(std::min(width * along + height * across + 1, kFarthest));
-    };
-    return CSize(reach(cosine, sine), reach(sine, cosine));
+    // Which way y grows is the mapping's own matter: a turned text may reach as far up as down.
+    const double left = (cosine < 0 ? behind : before) * std::fabs(cosine) + height * sine + 1;
+    const double right = (cosine < 0 ? before : behind) * std::fabs(cosine) + height * sine + 1;
+    const double upright = std::max(before, behind) * sine + height * std::fabs(cosine) + 1;
+    return CRect(ToCoordinate(-left), ToCoordinate(-upright), ToCoordinate(right), ToCoordinate(upright));
 }
 
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format) {

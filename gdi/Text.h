@@ -39,9 +39,9 @@ inline CSize MeasureText(const CDC& dc, const CString& text) {
     return MeasureText(dc, text, text.GetLength());
 }
 
-/// How far a text of `length` bytes may reach from its reference point with the DC's font, whatever its
-/// alignment, logical units: found without measuring it.
-CSize TextReach(const CDC& dc, int length);
+/// A box that a text of `length` bytes does not leave, whose reference point is 0, 0, with the DC's font and
+/// alignment, logical units: found without measuring the text.
+CRect TextBox(const CDC& dc, int length);
 
 /// Width and height that DrawTextIn takes in `width` with the same flags; wider than that when a word is.
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format);

@@ -1,6 +1,8 @@
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <string>
 
 #include "gdi/DottedPen.h"
@@ -28,6 +30,19 @@ constexpr UINT kUnitAlignY2 = TA_RIGHT | TA_BOTTOM;
 void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.MoveTo(x1, y1);
     dc.LineTo(x2, y2);
+}
+
+/// Of a number of thousands of digits the part that may lie in `clip`: its end where the reference point `at` is
+/// on the right of the text, else its beginning. GDI takes long for such texts.
+std::string SeenPart(const CDC& dc, const std::string& text, bool isRightAligned, const CPoint& at,
+                     const CRect& clip) {
+    constexpr std::size_t kLongNumber = 1024;
+    if (text.size() <= kLongNumber)
+        return text;
+    const std::string part = text.substr(isRightAligned ? text.size() - kLongNumber : 0, kLongNumber);
+    const double farthest = std::hypot(std::max(std::abs(clip.left - at.x), std::abs(clip.right - at.x)),
+                                       std::max(std::abs(clip.top - at.y), std::abs(clip.bottom - at.y)));
+    return MeasureText(dc, part.c_str(), static_cast<int>(part.size())).cx >= farthest ? part : text;
 }
 
 } // namespace
@@ -84,9 +99,10 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
 
     // An axis may be far longer than the picture is high: what lies outside the clip is not drawn.
     const int step = (rectLabel.bottom - rectLabel.top) / (nTicks - 1);
-    CRect shown = ClipBounds(dc);
-    shown.InflateRect(0, kUnitsPerPixel);
-    const auto isShown = [&](int y) { return y >= shown.top && y <= shown.bottom; };
+    const CRect clip = ClipBounds(dc);
+    const auto isShown = [&](int y) {
+        return y >= clip.top - kUnitsPerPixel && y <= clip.bottom + kUnitsPerPixel;
+    };
     for (int i = 0, y = rectAxis.bottom; i < nTicks; ++i, y -= step)
         if (isShown(y))
             DrawLine(dc, rectAxis.left, y, rectAxis.right, y);
@@ -106,11 +122,13 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
     dc.SetTextAlign(y2 ? TA_LEFT | TA_TOP : TA_RIGHT | TA_TOP);
     const int decimals = y2 ? m_Y2TickLabelScale : m_YTickLabelScale;
     const int labelX = y2 ? rectAxis.right + kTickLabelGap : rectAxis.right - kTickLabelGap;
-    shown.InflateRect(TextReach(dc, LongestTick(decimals)));
+    const CRect box = TextBox(dc, LongestTick(decimals));
+    const bool isBeside = labelX + box.right >= clip.left && labelX + box.left <= clip.right;
     for (int i = 0, y = rectAxis.bottom - kTickLabelRaise; i < nTicks; ++i, y -= step, values.Next()) {
-        if (!shown.PtInRect(CPoint(labelX, y)))
+        if (!isBeside || y + box.bottom < clip.top || y + box.top > clip.bottom)
             continue;
-        const std::string text = FormatTick(values.Value(), decimals);
+        const std::string text =
+            SeenPart(dc, FormatTick(values.Value(), decimals), !y2, CPoint(labelX, y), clip);
         DrawTextAt(dc, labelX, y, text.c_str(), static_cast<int>(text.size()));
     }
 
@@ -131,13 +149,14 @@ void CGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks)
 
     SelectGuard font(dc, m_XTickLabelFont);
     dc.SetTextColor(m_XTickLabelColor);
-    CRect shown = ClipBounds(dc);
-    shown.InflateRect(TextReach(dc, kLongestText) + CSize(kSingleTextShift, 0));
+    dc.SetTextAlign(TA_RIGHT);
+    const CRect clip = ClipBounds(dc);
+    const CRect box = TextBox(dc, kLongestText);
     TickRoom room;
     room.left = m_rectPlot.left;
     room.minGap = (rectLabel.right - rectLabel.left) / (nTicks - 1);
-    room.from = shown.left;
-    room.to = shown.right;
+    room.from = clip.left - box.right - kSingleTextShift;
+    room.to = clip.right - box.left;
     if (m_GraphStyle == GraphStyleBar)
         DrawBarTicks(dc, rectLabel, rectAxis, room);
     else if (m_GraphStyle == GraphStyleLine || m_GraphStyle == GraphStyleTwoAxis)

@@ -17,6 +17,7 @@ constexpr int kIconTop = 50;
 constexpr int kIconBottom = 70;
 constexpr int kIconRight = 50;
 constexpr int kIconExtraWidth = 50; // the icon is that much wider than high
+constexpr int kHugeFont = 30000;    // a thousand pixels
 
 // A font size that still fits an int when it is scaled to logical units.
 constexpr int kLargestFontSize = 1 << 22;
@@ -66,11 +67,15 @@ void CGraphCtrl::DrawCaption(CDC& dc) {
     Select(dc, band);
     dc.Rectangle(&m_rectCaption);
 
-    CString text;
-    GetWindowText(text);
-    dc.SetTextColor(m_CaptionTextColor);
-    dc.SetTextAlign(TA_CENTER | TA_TOP);
-    DrawTextAt(dc, (m_rectCaption.left + m_rectCaption.right) / 2, m_rectCaption.top, text);
+    // GDI makes a picture of each letter first: of letters far larger than the control that takes seconds, for
+    // nothing that could be read.
+    if (height < kHugeFont || height < 2 * ToLogical(dc, client).Height()) {
+        CString text;
+        GetWindowText(text);
+        dc.SetTextColor(m_CaptionTextColor);
+        dc.SetTextAlign(TA_CENTER | TA_TOP);
+        DrawTextAt(dc, (m_rectCaption.left + m_rectCaption.right) / 2, m_rectCaption.top, text);
+    }
 
     if (m_ShowIconMaximize) {
         m_rectIconMaximize.top = m_rectCaption.top + kIconTop;
@@ -82,6 +87,8 @@ void CGraphCtrl::DrawCaption(CDC& dc) {
 }
 
 void CGraphCtrl::DrawIconMaximize(CDC& dc) {
+    if (m_rectIconMaximize.IsRectNull()) // no icon is shown
+        return;
     CPen pen;
     pen.CreatePen(PS_SOLID, 0, m_CaptionColor);
     CBrush bar;

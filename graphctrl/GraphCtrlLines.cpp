@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "gdi/Guards.h"
+#include "gdi/Mapping.h"
 #include "gdi/Markers.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/GraphCtrlPainters.h"
@@ -138,7 +139,7 @@ void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
         ranges[i] = rangeOf(dataset);
         reach = std::max(reach, LineReach(dataset));
     }
-    const ReducedLines reduced(dc, plot, reach, xPositions, ranges, drawn);
+    const ReducedLines reduced(dc, ClippedPart(dc, plot), reach, xPositions, ranges, drawn);
     for (int i = drawn - 1; i >= 0; --i) {
         if (!m_Datasets[i].m_Visible)
             continue;

@@ -220,6 +220,16 @@ TEST_F(GraphLayoutTest, CaptionFontAndMaximizeIcon) {
                               {CRect(l + 90, t + 60, r - 60, b - 150), "FFFFFF"},
                               {CRect(l + 30, t + 120, r - 120, t + 150), "010203"},
                               {CRect(l + 30, t + 150, r - 120, b - 60), "FFFFFF"}}));
+    // A repaint of an icon that is not shown any more, as a move of the mouse asks for.
+    graph.ShowIconMaximize(FALSE, TRUE);
+    Record();
+    testkit::MetafileRecorder none;
+    CDC dc;
+    dc.Attach(none.Dc());
+    graph.DrawIconMaximize(dc);
+    dc.Detach();
+    none.Close();
+    EXPECT_EQ(none.Lines(testkit::kDrawing), Strings());
 }
 
 TEST_F(GraphLayoutTest, SmallestPlotAndLegend) {

@@ -248,6 +248,52 @@ TEST_F(GraphPaintFrameTest, ThePictureIsComposedElsewhereAndCopiedOnce) {
     twice.DestroyWindow();
 }
 
+namespace {
+
+HBITMAP WINAPI NoBitmap(HDC, int, int) {
+    return nullptr;
+}
+HBITMAP WINAPI NoSection(HDC, const BITMAPINFO*, UINT, void**, HANDLE, DWORD) {
+    return nullptr;
+}
+
+} // namespace
+
+TEST_F(GraphPaintFrameTest, APaintWithoutABitmapLeavesTheSamePixels) {
+    constexpr COLORREF kOldInk = RGB(255, 0, 255);
+    HideTexts();
+    Fill();
+    for (const bool beyond : {false, true}) {
+        // Plot and legend that reach beyond the control.
+        graph.SetLegendWidth(beyond ? -5000 : 3000);
+        graph.SetXTickLabelHeight(beyond ? -5000 : 1500);
+        graph.ShowLegend(TRUE);
+        std::unique_ptr<testkit::DibSurface> shown[2];
+        for (const bool direct : {false, true}) {
+            const testkit::ImportHook bitmap("Kavlix.dll", direct ? "CreateCompatibleBitmap" : "nothing",
+                                             reinterpret_cast<void*>(&NoBitmap));
+            const testkit::ImportHook section("Kavlix.dll", direct ? "CreateDIBSection" : "nothing",
+                                              reinterpret_cast<void*>(&NoSection));
+            Resize(301, 200);
+            graph.Redraw();
+            graph.UpdateWindow();
+            Resize(300, 200); // so that a bitmap is asked for
+            const HDC dc = ::GetDC(graph.m_hWnd);
+            const HBRUSH ink = ::CreateSolidBrush(kOldInk);
+            const RECT all = {0, 0, 300, 200};
+            ::FillRect(dc, &all, ink);
+            ::DeleteObject(ink);
+            ::ReleaseDC(graph.m_hWnd, dc);
+            graph.Redraw();
+            graph.UpdateWindow();
+            shown[direct] = std::make_unique<testkit::DibSurface>(300, 200);
+            shown[direct]->Grab(graph.m_hWnd);
+            EXPECT_EQ(shown[direct]->Count(kOldInk), 300 + 199) << "the last row and column are not painted";
+        }
+        EXPECT_EQ(testkit::Difference(*shown[0], *shown[1]), "");
+    }
+}
+
 TEST_F(GraphPaintFrameTest, PartialRepaintEqualsWholeRepaint) {
     HideTexts();
     Fill();

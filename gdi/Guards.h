@@ -26,8 +26,8 @@ inline void Select(CDC& dc, const CGdiObject& object) {
 class SelectGuard {
 public:
     SelectGuard(CDC& dc, HGDIOBJ object)
-        : m_output(dc.m_hDC, object), m_attributes(dc.m_hAttribDC != dc.m_hDC ? dc.m_hAttribDC : nullptr, object) {
-    }
+        : m_output(dc.m_hDC, object),
+          m_attributes(dc.m_hAttribDC != dc.m_hDC ? dc.m_hAttribDC : nullptr, object) {}
     SelectGuard(const SelectGuard&) = delete;
     SelectGuard& operator=(const SelectGuard&) = delete;
 
@@ -36,7 +36,8 @@ private:
     class Selected {
     public:
         Selected(HDC dc, HGDIOBJ object)
-            : m_dc(dc), m_previous(dc != nullptr && object != nullptr ? ::SelectObject(dc, object) : nullptr) {}
+            : m_dc(dc),
+              m_previous(dc != nullptr && object != nullptr ? ::SelectObject(dc, object) : nullptr) {}
         ~Selected() {
             if (m_previous != nullptr)
                 ::SelectObject(m_dc, m_previous);

@@ -17,8 +17,8 @@ namespace {
 
 constexpr int kMostBytesPerCharacter = 4;
 
-/// Whether a unit is a combining mark. Of a letter that has its mark in itself the platform says C3_NONSPACING
-/// too.
+/// Whether a unit is a combining mark. Of a letter that has its mark in itself the platform says
+/// C3_NONSPACING too.
 bool IsMark(wchar_t unit) {
     WORD type = 0;
     return unit >= 0x80 && ::GetStringTypeW(CT_CTYPE3, &unit, 1, &type) &&

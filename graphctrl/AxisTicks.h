@@ -63,7 +63,7 @@ void ThinTicks(int count, const TickRoom& room, Position xOf, NextColumn nextCol
     };
 
     std::int64_t nextX = room.left;
-    std::int64_t free = nextX;  // right of the column of the last tick made
+    std::int64_t free = nextX; // right of the column of the last tick made
     std::int64_t interval = 0; // not known yet
     std::int64_t k = firstFrom(0, nextX);
     while (k < count) {
@@ -90,9 +90,9 @@ void ThinTicks(int count, const TickRoom& room, Position xOf, NextColumn nextCol
 
 /// Calls `emit(index, x)` for each labelled tick of an axis whose points are the samples 0 to `count` - 1
 /// within min <= X <= max. None where samples have no position.
-template <class NextColumn, class Emit>
-void LineTicks(const LinearMap& xMap, double min, double max, int count, const TickRoom& room,
-               NextColumn nextColumn, Emit emit) {
+template <class NextColumn, class Emit> void LineTicks(const LinearMap& xMap, double min, double max,
+                                                       int count, const TickRoom& room, NextColumn nextColumn,
+                                                       Emit emit) {
     const IndexRange visible = IndicesBetween(min, max, count);
     if (!xMap.IsAscending() || !xMap.Position(visible.first))
         return;

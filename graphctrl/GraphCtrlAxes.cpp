@@ -32,8 +32,8 @@ void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.LineTo(x2, y2);
 }
 
-/// Of a number of thousands of digits the part that may lie in `clip`: its end where the reference point `at` is
-/// on the right of the text, else its beginning. GDI takes long for such texts.
+/// Of a number of thousands of digits the part that may lie in `clip`: its end where the reference point `at`
+/// is on the right of the text, else its beginning. GDI takes long for such texts.
 std::string SeenPart(const CDC& dc, const std::string& text, bool isRightAligned, const CPoint& at,
                      const CRect& clip) {
     constexpr std::size_t kLongNumber = 1024;

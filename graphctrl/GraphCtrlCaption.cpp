@@ -67,8 +67,8 @@ void CGraphCtrl::DrawCaption(CDC& dc) {
     Select(dc, band);
     dc.Rectangle(&m_rectCaption);
 
-    // GDI makes a picture of each letter first: of letters far larger than the control that takes seconds, for
-    // nothing that could be read.
+    // GDI makes a picture of each letter first: of letters far larger than the control that takes seconds,
+    // for nothing that could be read.
     if (height < kHugeFont || height < 2 * ToLogical(dc, client).Height()) {
         CString text;
         GetWindowText(text);

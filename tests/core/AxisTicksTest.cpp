@@ -122,8 +122,8 @@ TEST(TickThinningTest, EqualsTheWalkOverEveryPoint) {
                        return Column(tick.second) > Column(room.from);
                    }));
         ASSERT_EQ(made, WalkedTicks(count, room, xOf))
-            << count << " points from " << start << " every " << spacing << ", gap " << room.minGap << " from "
-            << room.left << ", seen from " << room.from << " to " << room.to;
+            << count << " points from " << start << " every " << spacing << ", gap " << room.minGap
+            << " from " << room.left << ", seen from " << room.from << " to " << room.to;
         for (std::size_t i = 1; i < made.size(); ++i)
             crowded += made[i].second - made[i - 1].second < kPixel;
     }

@@ -45,47 +45,6 @@ TEST(GraphLayoutTest, DefaultsAt300x200) {
     EXPECT_TRUE(layout.HasLegend());
 }
 
-TEST(GraphLayoutTest, TwoAxesWithoutLegend) {
-    LayoutInput input = Defaults(300, 200);
-    input.twoAxis = true;
-    input.showLegend = false;
-    const GraphLayout layout = ComputeLayout(input);
-    EXPECT_EQ(layout.y2TickLabel, (Rect{6900, 1100, 8400, 3800}));
-    EXPECT_EQ(layout.y2Axis, (Rect{6800, 1100, 6900, 3800}));
-    EXPECT_EQ(layout.y2Label, (Point{8800, 2450}));
-    EXPECT_EQ(layout.plot, (Rect{2230, 1100, 6800, 3800}));
-    EXPECT_EQ(layout.xTickLabel.right, 6800);
-    EXPECT_EQ(layout.xTicks, 5);
-    // The reference point of a label does not depend on whether it is shown; the bands beside it do.
-    input.showY2Label = false;
-    EXPECT_EQ(ComputeLayout(input).y2TickLabel, (Rect{7300, 1100, 8800, 3800}));
-}
-
-TEST(GraphLayoutTest, BandsTakeTheRoomOfWhatIsNotShown) {
-    LayoutInput input = Defaults(300, 200);
-    input.showLegend = false;
-    GraphLayout layout = ComputeLayout(input);
-    EXPECT_EQ(layout.plot.right, layout.title.right);
-    EXPECT_EQ(layout.xTicks, (8800 - 2230) / 800);
-    input.bars = true;
-    EXPECT_EQ(ComputeLayout(input).xTicks, (8800 - 2230) / 1000);
-
-    input = Defaults(300, 200);
-    input.showXLabel = input.showYLabel = false;
-    layout = ComputeLayout(input);
-    EXPECT_EQ(layout.yTickLabel, (Rect{200, 1100, 1700, 4200}));
-    EXPECT_EQ(layout.xTickLabel, (Rect{1800, 4300, 5600, 5800}));
-    EXPECT_EQ(layout.plot, (Rect{1830, 1100, 5600, 4200}));
-
-    input = Defaults(300, 200);
-    input.caption = true;
-    input.captionBottom = 510;
-    layout = ComputeLayout(input);
-    EXPECT_EQ(layout.title, (Rect{200, 200, 8800, 910}));
-    EXPECT_EQ(layout.plot.top, 910);
-    EXPECT_EQ(layout.legend.top, 910);
-}
-
 TEST(GraphLayoutTest, PlotAndLegendNeed51UnitsEachWay) {
     LayoutInput input = Defaults(300, 200);
     for (const bool enough : {false, true}) {

@@ -29,60 +29,6 @@ protected:
     }
 };
 
-TEST_F(GraphPaintFrameTest, WholeRecordOrder) {
-    Add(0, {0, 50});
-    graph.AddXTickLabel("t0", "");
-    graph.SetLegend(0, "a");
-    graph.SetYUnit("u", 0, 0);
-    const auto picture = Record();
-    const std::string client = " in 0,0,299,199", plot = " in 74,37,188,128", legend = " in 193,37,290,180";
-    const std::string axis = " pen solid 0 B9DDC1" + client, grid = " pen dot 0 B9DDC1" + client;
-    const std::string tick_text = " right|top 3F7F4D Arial 350 ";
-    const Strings expected = {
-        "rect 0,0,9000,6000 pen null brush FFFFFF in none",
-        "text 4500,200 center|top 60608C Arial 400 bold \"Graph Title\"" + client,
-        "text 200,2450 center|top 7EA2E2 Arial 350 @900 \"Y Label\"" + client,
-        "text 3900,5400 center|top 7EA2E2 Arial 350 \"X Label\"" + client,
-        "line 2200,1100 2200,3800" + axis,
-        "line 2100,3800 2200,3800" + axis,
-        "line 2100,3125 2200,3125" + axis,
-        "line 2100,2450 2200,2450" + axis,
-        "line 2100,1775 2200,1775" + axis,
-        "line 2100,1100 2200,1100" + axis,
-        "line 2230,3125 5600,3125" + grid,
-        "line 2230,2450 5600,2450" + grid,
-        "line 2230,1775 5600,1775" + grid,
-        "line 2230,1100 5600,1100" + grid,
-        "text 2100,3650" + tick_text + "\"0\"" + client,
-        "text 2100,2975" + tick_text + "\"25\"" + client,
-        "text 2100,2300" + tick_text + "\"50\"" + client,
-        "text 2100,1625" + tick_text + "\"75\"" + client,
-        "text 2100,950" + tick_text + "\"100\"" + client,
-        "text 2150,1100 left|bottom 3F7F4D Arial 450 \"u\"" + client,
-        "line 2200,3800 5600,3800" + axis,
-        "line 2230,3900 2230,3800" + axis,
-        "text 2330,4000 right|baseline 3F7F4D Arial 300 @900 \"t0\"" + client,
-        "line 5596,3900 5596,3800" + axis,
-        "line 2230,3800 5596,2450 pen solid 0 F000B1" + plot,
-        "rect 5900,1200,8900,5500 pen null brush C0C0C0" + client,
-        "rect 5800,1100,8800,5400 pen null brush D7E8F1" + client,
-        "rect 5900,1200,6200,1500 pen null brush F000B1" + legend,
-        "text 6300,1150 left|top 3F5171 Arial 350 \"a\"" + legend,
-    };
-    EXPECT_EQ(picture->ClippedLines(testkit::kDrawing), expected);
-    EXPECT_FALSE(picture->FinalState().clipped);
-    for (const testkit::MetafileRecord& record : picture->Records()) {
-        EXPECT_EQ(record.state.mapMode, MM_ANISOTROPIC);
-        EXPECT_EQ(record.state.windowExt.cx, 15000);
-        EXPECT_EQ(record.state.windowExt.cy, 15000);
-        EXPECT_EQ(record.state.viewportExt.cx, 500);
-        EXPECT_EQ(record.state.viewportExt.cy, 500);
-        if (record.kind == testkit::kText) {
-            EXPECT_EQ(record.state.bkMode, TRANSPARENT) << record.Line();
-        }
-    }
-}
-
 TEST_F(GraphPaintFrameTest, BackgroundAndBorder) {
     graph.SetBkColor(RGB(1, 2, 3));
     EXPECT_EQ(Record()->Lines(testkit::kRectangle)[0], "rect 0,0,9000,6000 pen null brush 010203");

@@ -151,13 +151,14 @@ public:
 
     /// Room for the X tick labels, which run upwards, in logical units; default 1500.
     void SetXTickLabelHeight(int nHeight) { m_XTickLabelHeight = nHeight; }
-    /// Number of characters from which an X tick label without lower text is broken into two lines;
-    /// default 10.
+    /// The most characters in one line of an X tick label without lower text; a longer one is broken into two
+    /// lines; default 10. Characters of the process code page, whatever bytes they take; a combining mark
+    /// counts with its letter.
     void SetXTickLabelUpStringMaxLength(int nLength) { m_XTickLabelUpStringMaxLength = nLength; }
     /// Room for the Y and Y2 tick labels in logical units; default 1500.
     void SetYTickLabelWidth(int nWidth) { m_YTickLabelWidth = nWidth; }
     void SetY2TickLabelWidth(int nWidth) { m_Y2TickLabelWidth = nWidth; }
-    /// Decimal places of the Y and Y2 tick labels; below 1 none; default 0.
+    /// Decimal places of the Y and Y2 tick labels; below 1 none, at most 8192; default 0.
     void SetYTickLabelScale(int nDecimals) { m_YTickLabelScale = nDecimals; }
     void SetY2TickLabelScale(int nDecimals) { m_Y2TickLabelScale = nDecimals; }
     /// Unit text above the axis, the power of ten that tick values are divided by before they are printed,
@@ -168,7 +169,8 @@ public:
     /// The maximize icon of the caption band, and whether it shows the "restore" form; default off, off.
     /// The control maximizes nothing itself: see GCN_MAXIMIZE.
     void ShowIconMaximize(BOOL bShow, BOOL bMaximized);
-    /// Font of the caption band: size in tenths of a point on the screen, face; default 80, "Tahoma".
+    /// Font of the caption band: size in tenths of a point on the screen, face; default 80, "Tahoma". The band
+    /// is as high as the font; in a font of a thousand pixels and twice the control's height it has no text.
     void SetCaptionFont(int nSize, const char* pszFace);
 
     void SetBkColor(COLORREF color) { m_BkColor = color; }                   ///< default 0x00FFFFFF

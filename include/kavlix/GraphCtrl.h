@@ -169,8 +169,9 @@ public:
     /// The maximize icon of the caption band, and whether it shows the "restore" form; default off, off.
     /// The control maximizes nothing itself: see GCN_MAXIMIZE.
     void ShowIconMaximize(BOOL bShow, BOOL bMaximized);
-    /// Font of the caption band: size in tenths of a point on the screen, face; default 80, "Tahoma". The band
-    /// is as high as the font; in a font of a thousand pixels and twice the control's height it has no text.
+    /// Font of the caption band: size in tenths of a point on the screen, face; default 80, "Tahoma". The
+    /// band is as high as the font; in a font of a thousand pixels and twice the control's height it has no
+    /// text.
     void SetCaptionFont(int nSize, const char* pszFace);
 
     void SetBkColor(COLORREF color) { m_BkColor = color; }                   ///< default 0x00FFFFFF

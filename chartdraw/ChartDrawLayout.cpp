@@ -59,15 +59,19 @@ void CChartDraw::CalcDatas() {
 void CChartDraw::Calculate() {
     GetClientRect(&m_rectChart);
     CClientDC dc(this);
+    const auto makeFont = [this](CFont& font, bool title) {
+        if (!MakeTextFont(font, 0, title))
+            AfxThrowResourceException(); // heights of another font would be kept
+    };
     m_FontPixels = std::max(1, ::MulDiv(m_FontSize, dc.GetDeviceCaps(LOGPIXELSY), kTenthsOfPointPerInch));
     {
         CFont font;
-        MakeTextFont(font, 0, true);
+        makeFont(font, true);
         SelectGuard selected(dc, font);
         m_TitleHeight = TextHeight(dc);
     }
     CFont font;
-    MakeTextFont(font, 0, false);
+    makeFont(font, false);
     SelectGuard selected(dc, font);
     m_TextHeight = TextHeight(dc);
 
@@ -135,7 +139,7 @@ RoundScale CChartDraw::FindScale(bool x, int mostSteps) const {
     return RoundScale::Around(bounds, mostSteps);
 }
 
-void CChartDraw::MakeTextFont(CFont& font, int escapement, bool title) const {
+BOOL CChartDraw::MakeTextFont(CFont& font, int escapement, bool title) const {
     constexpr int kTitleParts = 4; // thirds of the other texts' size
     LOGFONT record = {};
     record.lfHeight = -(title ? m_FontPixels * kTitleParts / 3 : m_FontPixels);
@@ -147,5 +151,5 @@ void CChartDraw::MakeTextFont(CFont& font, int escapement, bool title) const {
     const CString face =
         m_FontFace.Left(WholeCharacters(m_FontFace, m_FontFace.GetLength(), LF_FACESIZE - 1));
     lstrcpyn(record.lfFaceName, face, LF_FACESIZE);
-    font.CreateFontIndirect(&record);
+    return font.CreateFontIndirect(&record);
 }

@@ -159,7 +159,7 @@ public:
 protected:
     /// Stores the chart rectangle, lays the chart out in it and computes the scales. OnPaint calls it each
     /// time. Without a window nothing changes. Rectangles and scales stay as they are where it throws because
-    /// memory or a DC cannot be had.
+    /// memory, a DC or a font cannot be had.
     virtual void CalcDatas();
 
     // ---- Drawing: each draws its own element, and leaves the DC as it was. ----
@@ -201,7 +201,7 @@ private:
     bool PrepareExport();
     bool WriteBitmapFile(const CString& name);
     /// Makes the font of the texts, or the title's; `escapement` in tenths of a degree.
-    void MakeTextFont(CFont& font, int escapement, bool title) const;
+    BOOL MakeTextFont(CFont& font, int escapement, bool title) const;
     kavlix::RoundScale FindScale(bool x, int mostSteps) const;
     void Calculate();
     void LayOut(CDC& dc);

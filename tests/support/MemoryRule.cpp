@@ -39,9 +39,13 @@ Outcome Run(MemoryTrial& trial, FailingAllocations& memory, int after, bool forG
         memory.FailAfter(-1);
         exception->Delete();
         outcome.threw = true;
+    } catch (CResourceException* exception) {
+        memory.FailAfter(-1);
+        exception->Delete();
+        outcome.threw = true;
     } catch (...) {
         memory.FailAfter(-1);
-        ADD_FAILURE() << "hosts catch CMemoryException* alone";
+        ADD_FAILURE() << "hosts catch the class library's exceptions alone";
         outcome.threw = true;
     }
     outcome.refused = memory.Refused() != refused;
@@ -63,7 +67,8 @@ int Failures() {
 void Check(MemoryTrial& trial, FailingAllocations& memory, const Outcome& outcome, OnFailure onFailure,
            const std::string& before, const std::string& done) {
     const bool failed = outcome.threw || !outcome.result;
-    EXPECT_FALSE(failed && onFailure == OnFailure::Never) << (outcome.threw ? "it threw" : "it answers false");
+    EXPECT_FALSE(failed && onFailure == OnFailure::Never)
+        << (outcome.threw ? "it threw" : "it answers false");
     EXPECT_FALSE(outcome.threw && onFailure != OnFailure::Throws) << "an exception left the operation";
     const std::string after = trial.State();
     if (onFailure == OnFailure::Message) {

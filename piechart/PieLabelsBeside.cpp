@@ -22,7 +22,7 @@ constexpr int kMostLines = 3; // of a box
 constexpr int kMostLanes = 6; // side by side, beside the one next to the pie
 constexpr int kLanesAStep = 2;
 constexpr int kMostBends = 6; // a longer way round the pie is hard to follow
-// Of two leaders, so many pixels may lie closer than that: at tiny sectors they begin together.
+// Leaders of tiny sectors begin side by side: up to 10 pixels of two leaders may lie closer than kTogether.
 constexpr int kMostTogether = 10;
 constexpr double kTogether = 2.0;
 
@@ -41,8 +41,8 @@ class Column {
 public:
     Column(const PieLabelArea& area, std::vector<PieBlock> blocks, bool right, int lanes)
         : m_area(area), m_blocks(std::move(blocks)), m_right(right), m_lanes(lanes),
-          m_centre(PieCentre(area.pie)),
-          m_radius((static_cast<double>(area.pie.bottom) - area.pie.top) / 2) {}
+          m_centre(PieCentre(area.pie)), m_radius((static_cast<double>(area.pie.bottom) - area.pie.top) / 2) {
+    }
 
     /// Leaves out the smallest blocks until the others have room, and leaders that can be told apart.
     void Place() {
@@ -59,8 +59,7 @@ public:
                 break;
         }
         while (!m_blocks.empty() && TotalHeight() > bottom - top)
-            m_blocks.erase(
-                std::min_element(m_blocks.rbegin(), m_blocks.rend(), IsSmaller).base() - 1);
+            m_blocks.erase(std::min_element(m_blocks.rbegin(), m_blocks.rend(), IsSmaller).base() - 1);
         std::stable_sort(m_blocks.begin(), m_blocks.end(),
                          [&](const PieBlock& a, const PieBlock& b) { return Down(a) < Down(b); });
         for (;;) {

@@ -43,8 +43,9 @@ int SecondsToRoundSecond(const CalendarTime& time, int seconds);
 int SecondsToRoundMinute(const CalendarTime& time, int minutes);
 int SecondsToRoundHour(const CalendarTime& time, int hours);
 
-/// Where the upright texts of a time label stand, in logical units: a clock time alone that much left of its
-/// tick, beside a date at the tick, and the date with its lower edge that much right of it.
+/// Where the upright texts of a time label stand, in logical units. A clock time alone stands kClockShift
+/// left of its tick. Beside a date the clock time stands at the tick, and the date's lower edge kDateShift
+/// right of it.
 inline constexpr int kClockShift = 110;
 inline constexpr int kDateShift = 70;
 
@@ -89,7 +90,7 @@ private:
     int m_round = 1; ///< seconds of local time, whose multiples labels stand at, where not every tick has one
     int m_firstOffset;
     std::int64_t m_time;      ///< of tick 0
-    std::int64_t m_every = 1; ///< of so many ticks one has a label
+    std::int64_t m_every = 1; ///< every m_every-th tick may have a label
     std::int64_t m_tick = 0;
     std::string m_text;
     bool m_showsDate = true;

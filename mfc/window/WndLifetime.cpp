@@ -134,7 +134,7 @@ LRESULT CALLBACK AfxCbtHook(int nCode, WPARAM wParam, LPARAM lParam) {
         if (_stricmp(className, "ime") != 0) {
             state.windowInCreation = nullptr;
             if (!Tie(*object, window)) {
-                state.windowInCreation = object; // nobody else tells the object that its creation failed
+                state.windowInCreation = object; // the caller of Create reports the failure
                 return 1;                        // ends the creation
             }
             const auto former = reinterpret_cast<WNDPROC>(

@@ -100,7 +100,7 @@ TEST(StrokeCutTest, NearStrokesPaintWhatTheFarOnePaints) {
         strokes += !cut.empty();
         pieces += cut.empty() ? 0 : cut.size() - 1;
     }
-    EXPECT_LT(pieces, strokes * 3) << "pixel by pixel would serve nobody who enlarges the picture";
+    EXPECT_LT(pieces, strokes * 3) << "enlarged, single pixels would show as squares";
 }
 
 TEST(PixelRasterTest, DotsCountFromTheLinesFirstPixelWhereverItLies) {

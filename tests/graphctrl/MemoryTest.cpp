@@ -21,7 +21,8 @@ constexpr const char* kExtensions[] = {".png", ".bmp", ".emf"};
 CString TempPath(int extension) {
     char folder[MAX_PATH] = "", path[MAX_PATH] = "";
     ::GetTempPathA(MAX_PATH, folder);
-    std::snprintf(path, MAX_PATH, "%skvx_memory%lu%s", folder, ::GetCurrentProcessId(), kExtensions[extension]);
+    std::snprintf(path, MAX_PATH, "%skvx_memory%lu%s", folder, ::GetCurrentProcessId(),
+                  kExtensions[extension]);
     return path;
 }
 
@@ -70,7 +71,7 @@ private:
     int m_textsLeft = 4;
 };
 
-/// The same with so many samples that the next one asks for a piece of each kind.
+/// The same, filled so that the next sample needs a new piece of every store.
 struct LongGraph : FedGraph {
     LongGraph() {
         for (int i = 32; i < 17 * 1024; ++i)
@@ -114,7 +115,8 @@ struct ShownGraph : FedGraph {
     static inline CWnd* parent = nullptr;
 
 private:
-    CString m_paths[2][3] = {{TempPath(0), TempPath(1), TempPath(2)}, {TempPath(0), TempPath(1), TempPath(2)}};
+    CString m_paths[2][3] = {{TempPath(0), TempPath(1), TempPath(2)},
+                             {TempPath(0), TempPath(1), TempPath(2)}};
     int m_left = 1;
 };
 
@@ -142,11 +144,11 @@ TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
         {"ResetAll", OnFailure::Never, [](F& s) { return s.graph.ResetAll(), true; }},
         {"RemoveHeadData", OnFailure::Never, [](F& s) { return s.graph.RemoveHeadData(3), true; }},
     });
-    EXPECT_GT(testkit::ExpectMemoryRule<LongGraph>({
-                  {"AddData", OnFailure::Reports,
-                   [](LongGraph& s) { return s.graph.AddData(1, 7, &s.x) != 0; }},
-              }),
-              3);
+    EXPECT_GT(
+        testkit::ExpectMemoryRule<LongGraph>({
+            {"AddData", OnFailure::Reports, [](LongGraph& s) { return s.graph.AddData(1, 7, &s.x) != 0; }},
+        }),
+        3);
     testkit::RecordingParent parent;
     ASSERT_TRUE(parent.CreateVisible(320, 240));
     ShownGraph::parent = &parent;

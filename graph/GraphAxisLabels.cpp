@@ -154,7 +154,8 @@ void CGraph::DrawCaptions() {
         canvas.Text({x, canvas.Height() - (p.captionFont + kCaptionBottom) * pixel}, text);
     }
     if (!axisYLabel.IsEmpty()) {
-        // Without room beside the plot the caption stands in it, where the series would cover it.
+        // No room left of the plot: the caption stands inside the plot and is drawn after the series, over
+        // them.
         const bool inside = p.plot.left < p.leftEdge;
         CString text;
         double y = 0;

@@ -139,7 +139,8 @@ void CGraphCtrl::OnMouseMove(UINT nFlags, CPoint point) {
 }
 
 void CGraphCtrl::OnLButtonUp(UINT nFlags, CPoint point) {
-    // While the parent handles GCN_MAXIMIZE, it may wait for clicks elsewhere: their release ends no press.
+    // The parent's GCN_MAXIMIZE handler may run a message loop: a release that arrives there is not a second
+    // click.
     if (m_IconMaximizeTracking && !m_MaximizeTold) {
         const HWND window = m_hWnd;
         // ReleaseCapture() re-enters OnCaptureChanged(), for which there must be no press to cancel.

@@ -13,9 +13,14 @@ bool RepaintsOnSize(HWND window) {
 
 void CGraphCtrl::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
-    // The parts of a combo box would lie over the picture and take the mouse.
-    for (HWND part = ::GetWindow(m_hWnd, GW_CHILD); part != nullptr; part = ::GetWindow(part, GW_HWNDNEXT))
-        ::ShowWindow(part, SW_HIDE);
+    // The parts of a combo box would lie over the picture and take the mouse. Other children are the host's.
+    COMBOBOXINFO combo = {};
+    combo.cbSize = sizeof combo;
+    if (::GetWindow(m_hWnd, GW_CHILD) == nullptr || !::GetComboBoxInfo(m_hWnd, &combo))
+        return;
+    for (HWND part : {combo.hwndItem, combo.hwndList})
+        if (part != m_hWnd && ::IsChild(m_hWnd, part))
+            ::ShowWindow(part, SW_HIDE);
 }
 
 LRESULT CGraphCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

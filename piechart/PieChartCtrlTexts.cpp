@@ -1,3 +1,4 @@
+// How texts of a pie are cut to their room.
 #include "piechart/PieChartCtrlTexts.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Which colours look alike.
 #include "piechart/PieColors.h"
 
 #include <algorithm>

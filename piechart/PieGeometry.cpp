@@ -73,9 +73,9 @@ Point PointAround(const Rect& pie, double angle, double distance) {
 }
 
 std::vector<Point> LineInSector(const Rect& pie, double begin, double end, double inset) {
-    constexpr double kLeastRoom = 4;     // insets between the line's tip and its arc
-    constexpr double kDegreesAStep = 2;  // along the arc
-    constexpr double kLongestMiter = 2;  // insets, where the sector is nearly the circle
+    constexpr double kLeastRoom = 4;    // between the line's tip and its arc, as a multiple of `inset`
+    constexpr double kDegreesAStep = 2; // along the arc
+    constexpr double kLongestMiter = 2; // at the tip of a nearly full circle, as a multiple of `inset`
     const double radius = (static_cast<double>(pie.bottom) - pie.top) / 2 - inset;
     const double half = (end - begin) / 2;
     const bool whole = end - begin >= kFullCircle;

@@ -1,3 +1,4 @@
+// Labels beside the pie: their places, and the leaders to their sectors.
 #include "piechart/PieLabelsBeside.h"
 
 #include <algorithm>

@@ -41,7 +41,8 @@ int CScrollGraphCtrl::AddData(int nDataset, double y, double*) {
     if (arrival.changed) {
         view.Normalize();
         SetView(view);
-        // Asking the bar takes longer than storing the samples of an instant.
+        // GetScrollInfo would take longer than storing 13 samples, so the last values sent are compared
+        // first.
         if (view.BarPosition() != m_nToldPos || view.BarPage() != m_nToldPage)
             UpdateScrollInfo();
     }

@@ -152,8 +152,9 @@ public:
     /// memory runs out.
     void SetColor(int group, COLORREF color);
     /// Appends a legend text; ignored for a scatter graph. Texts go by position in the list. The legend's box
-    /// is sized by the number of characters; where a text is wider than that, the colour beside it covers its
-    /// end. The heading may be wider than a box of short texts. Changes nothing when memory runs out.
+    /// is sized by the longest text's GetLength(); where a text is wider than that, the colour beside it
+    /// covers its end. The heading may be wider than a box of short texts. Changes nothing when memory runs
+    /// out.
     void SetLegend(int group, CString text);
     /// @}
 

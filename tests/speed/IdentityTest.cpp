@@ -66,7 +66,7 @@ double Sample(Shape shape, int index, double& state, Dice& dice) {
     }
 }
 
-/// What makes a view dear for the plain walk.
+/// What makes a view slow for the plain walk.
 struct Cost {
     bool isLong, isWide;
 
@@ -88,14 +88,14 @@ void Replay(HENHMETAFILE picture, HDC dc) {
             return 1; // the picture is enlarged, its clip regions are not
         if (record->iType == EMR_EXTSELECTCLIPRGN) {
             const auto* clip = reinterpret_cast<const EMREXTSELECTCLIPRGN*>(record);
-            const HRGN region =
-                clip->cbRgnData == 0
-                    ? nullptr
-                    : ::ExtCreateRegion(nullptr, clip->cbRgnData,
-                                        reinterpret_cast<const RGNDATA*>(clip->RgnData));
+            const HRGN region = clip->cbRgnData == 0
+                                    ? nullptr
+                                    : ::ExtCreateRegion(nullptr, clip->cbRgnData,
+                                                        reinterpret_cast<const RGNDATA*>(clip->RgnData));
             ::ExtSelectClipRgn(target, region, static_cast<int>(clip->iMode));
             ::DeleteObject(region);
-        } else if (record->iType == EMR_RECTANGLE || record->iType == EMR_ELLIPSE) { // without right and bottom edge
+        } else if (record->iType == EMR_RECTANGLE ||
+                   record->iType == EMR_ELLIPSE) { // without right and bottom edge
             const RECTL& box = reinterpret_cast<const EMRRECTANGLE*>(record)->rclBox;
             (record->iType == EMR_ELLIPSE ? ::Ellipse : ::Rectangle)(target, box.left, box.top, box.right + 1,
                                                                      box.bottom + 1);
@@ -164,7 +164,8 @@ private:
         ::GetEnhMetaFileHeader(metafile, sizeof header, &header);
         ::DeleteEnhMetaFile(metafile);
         // Where a wide stroke from far away is cut, its edges may be rounded otherwise.
-        const std::string records = graph.ReachesFarWithAWidePen() ? "" : testkit::Difference(fast, slow, plot);
+        const std::string records =
+            graph.ReachesFarWithAWidePen() ? "" : testkit::Difference(fast, slow, plot);
         CRect most(CPoint(0, 0), m_size), frame(reinterpret_cast<const RECT&>(header.rclBounds));
         most.InflateRect(100, 100); // texts may reach beyond the window
         return (records.empty() ? "" : " records: " + records) +
@@ -429,7 +430,8 @@ TEST_F(IdentityTest, EnlargedMetafilesToo) {
         const HENHMETAFILE whole = Record(graph);
         Replay(shortened, fast.Dc());
         Replay(whole, slow.Dc());
-        EXPECT_EQ(testkit::Difference(fast, slow, graph.m_rectPlot), "") << "view " << view << ", " << count << " samples";
+        EXPECT_EQ(testkit::Difference(fast, slow, graph.m_rectPlot), "")
+            << "view " << view << ", " << count << " samples";
         constexpr UINT kBytesAUnit = 20;
         EXPECT_TRUE(graph.m_Datasets[0].GetMarkerType() != CDataset::MarkerNone ||
                     ::GetEnhMetaFileBits(shortened, 0, nullptr) <

@@ -1,3 +1,4 @@
+// Makes the C runtime refuse memory to the modules under test.
 #include "tests/support/FailingAllocations.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// Makes imported calls of the modules under test fail.
 #include "tests/support/FailingCalls.h"
 
 #include <algorithm>
@@ -76,14 +77,14 @@ void FailingCalls::Replace(const char* module, const char* library, int failure)
         m_functions.back()->name = std::string(module) + " " + name;
         // Arguments lie in other registers and on the stack, untouched.
         Writer writer(code);
-        writer.R11(&callsLeft).Bytes({0x41, 0xFF, 0x0B});                             // dec dword [r11]
-        writer.Bytes({0x74, 29});                                                     // jz fail
-        writer.R11(&m_functions.back()->always).Bytes({0x41, 0x83, 0x3B, 0x00});      // cmp dword [r11], 0
-        writer.Bytes({0x75, 13});                                                     // jne fail
-        writer.R11(m_hooks.back().Original()).Bytes({0x41, 0xFF, 0xE3});              // jmp r11
-        writer.R11(&callsFailed).Bytes({0x41, 0xFF, 0x03});                           // fail: inc dword [r11]
-        writer.R11(&lastFailed).Bytes({0x41, 0xC7, 0x03}).Raw(Count() - 1);           // mov dword [r11], index
-        m_codeEnd = writer.Bytes({0xB8}).Raw(failure).Bytes({0xC3}).End();            // mov eax, failure; ret
+        writer.R11(&callsLeft).Bytes({0x41, 0xFF, 0x0B});                        // dec dword [r11]
+        writer.Bytes({0x74, 29});                                                // jz fail
+        writer.R11(&m_functions.back()->always).Bytes({0x41, 0x83, 0x3B, 0x00}); // cmp dword [r11], 0
+        writer.Bytes({0x75, 13});                                                // jne fail
+        writer.R11(m_hooks.back().Original()).Bytes({0x41, 0xFF, 0xE3});         // jmp r11
+        writer.R11(&callsFailed).Bytes({0x41, 0xFF, 0x03});                      // fail: inc dword [r11]
+        writer.R11(&lastFailed).Bytes({0x41, 0xC7, 0x03}).Raw(Count() - 1);      // mov dword [r11], index
+        m_codeEnd = writer.Bytes({0xB8}).Raw(failure).Bytes({0xC3}).End();       // mov eax, failure; ret
     }
 }
 

@@ -1,3 +1,4 @@
+// Runs a table of operations under failing allocations and checks each outcome.
 #include "tests/support/MemoryRule.h"
 
 #include "tests/support/FailingAllocations.h"

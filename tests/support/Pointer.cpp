@@ -1,3 +1,4 @@
+// The real mouse pointer, moved and pressed through the window system.
 #include "tests/support/Pointer.h"
 
 #include "tests/support/RecordingParent.h"

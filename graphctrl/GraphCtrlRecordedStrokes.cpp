@@ -63,6 +63,50 @@ int RecordedStrokes::BeginOfPixel(const SampleStore& samples, SampleStore::Reade
            1;
 }
 
+/// Adds the samples of a column, `count` values one behind another. False, nothing added, at gaps and where a
+/// pixel is not known.
+bool RecordedStrokes::AddRun(const double* values, int count) {
+    if (!m_ground.columns.HasPixel(m_pixel))
+        return false;
+    const auto rowOf = [&](int i) {
+        return values[i] == values[i] ? m_rows.Of(values[i]) : m_ground.rows.Before();
+    };
+    const auto isKnown = [&](int row) { return m_ground.rows.HasPixel(row); };
+    int first = 0;
+    int firstRow = rowOf(first);
+    if (m_isOpen && m_pixel == m_keptPixel && isKnown(m_keptRow))
+        while (firstRow == m_keptRow && ++first < count)
+            firstRow = rowOf(first);
+    if (first == count)
+        return true;
+    // The first sample on the pixel of the one at `i`, which all up to it are on.
+    const auto beginOfPixel = [&](int i, int row) {
+        while (i > first && rowOf(i - 1) == row)
+            --i;
+        return i;
+    };
+    const int lastRow = rowOf(count - 1);
+    const int last = isKnown(lastRow) ? beginOfPixel(count - 1, lastRow) : count - 1;
+    if (!isKnown(firstRow) || !isKnown(lastRow))
+        return false;
+    if (last > first) {
+        const int beforeRow = rowOf(last - 1);
+        const int before = isKnown(beforeRow) ? beginOfPixel(last - 1, beforeRow) : first;
+        const std::optional<Extremes> moves = m_rows.ExtremesOfMoves(values + first + 1, last - first - 1);
+        if (!isKnown(beforeRow) || !moves)
+            return false;
+        Keep(values[first], firstRow);
+        if (before > first) {
+            // Whichever comes first, the line goes over the same pixels.
+            Keep(moves->low, beforeRow);
+            Keep(moves->high, beforeRow);
+            Keep(values[before], beforeRow);
+        }
+    }
+    Keep(values[last], lastRow);
+    return true;
+}
+
 /// Adds a column without a look at each of its samples: the first and the last two that the pixel rule keeps,
 /// and the lowest and highest. False, nothing added, where that does not do: at gaps, and where the rule
 /// leaves an extreme out.

@@ -10,20 +10,20 @@
 
 namespace kavlix {
 
-/// Has a DC that keeps strokes instead of pixels, as a metafile or a printer does, draw a line with the pen that is
-/// selected. Of the points that the pixel rule keeps (one that falls on the pixel of the point before is left out)
-/// the first, lowest, highest and last of each column of one logical unit are drawn: the same painted strokes at a
-/// bounded size, however the picture is enlarged. Strokes are cut near the plot, since a metafile's frame holds all
-/// that is drawn, seen or not.
+/// Has a DC that keeps strokes instead of pixels, as a metafile or a printer does, draw a line with the pen
+/// that is selected. Of the points that the pixel rule keeps (one that falls on the pixel of the point before
+/// is left out) the first, lowest, highest and last of each column of one logical unit are drawn: the same
+/// painted strokes at a bounded size, however the picture is enlarged. Strokes are cut near the plot, since a
+/// metafile's frame holds all that is drawn, seen or not.
 class RecordedStrokes {
 public:
     /// Strokes go on for so many pixels beyond what can be seen.
     static constexpr int kMargin = 32;
 
-    /// `window` in pixels: what can be seen, and as far beyond it as the pen reaches. The ground's pixels are those of
-    /// the window and the margin round it. A line with markers goes on from each sample, since drawing the marker
-    /// moves there, and not from the last point that the pixel rule kept: its strokes are drawn one by one, as its
-    /// markers are.
+    /// `window` in pixels: what can be seen, and as far beyond it as the pen reaches. The ground's pixels are
+    /// those of the window and the margin round it. A line with markers goes on from each sample, since
+    /// drawing the marker moves there, and not from the last point that the pixel rule kept: its strokes are
+    /// drawn one by one, as its markers are.
     RecordedStrokes(const LineGround& ground, const Rect& window, int penPixels, bool hasMarkers)
         : m_ground(ground), m_rows(ground.yMap, ground.rows), m_window(window), m_isThin(penPixels == 1),
           m_hasMarkers(hasMarkers) {}
@@ -39,9 +39,13 @@ public:
     /// The next samples, all of a column of one unit.
     void AddColumn(const SampleStore& samples, SampleStore::Reader& values, const PixelColumn& column) {
         GoTo(column.position);
-        const bool isLong = !m_hasMarkers && column.last - column.first >= kLongColumn;
-        if (isLong && AddExtremes(samples, values, column.first, column.last))
-            return;
+        const int count = column.last - column.first + 1;
+        if (!m_hasMarkers && count >= kLongColumn) {
+            double copy[kRun];
+            if (count <= kRun ? AddRun(values.Run(column.first, column.last, copy), count)
+                              : AddExtremes(samples, values, column.first, column.last))
+                return;
+        }
         for (int i = column.first; i <= column.last; ++i)
             Add(values[i], column.position);
     }
@@ -52,7 +56,9 @@ public:
 
 private:
     /// From so many samples on, a column's extremes are looked up.
-    static constexpr int kLongColumn = 12;
+    static constexpr int kLongColumn = 8;
+    /// Up to so many samples, reading them all takes less than the search among blocks.
+    static constexpr int kRun = 256;
 
     struct Sample {
         int x;
@@ -84,6 +90,7 @@ private:
         m_sample = {m_x, value};
         return !isSame;
     }
+    bool AddRun(const double* values, int count);
     bool AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first, int last);
     int BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first, int last) const;
     bool IsSameFarPixel(const Sample& a, const Sample& b) const;

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
+
 #include "graphctrl/LinearMap.h"
 #include "graphctrl/PixelColumns.h"
+#include "graphctrl/SampleStore.h"
 
 namespace kavlix {
 
@@ -26,6 +29,11 @@ public:
         }
         return Exact(value);
     }
+
+    /// Lowest and highest of the `count` values from `values` on that lie on another row than the value
+    /// before them; of the first, that is values[-1]. Lowest above highest where all lie on one row. None
+    /// where the fast way does not tell all rows: beyond the edges, next to one, and at a NaN.
+    std::optional<Extremes> ExtremesOfMoves(const double* values, int count) const;
 
 private:
     int Exact(double value) const;

@@ -53,6 +53,17 @@ public:
                 Enter(m_store.PieceOf(number));
             return m_values[number - m_start];
         }
+        /// The values `first` to `last`, one behind another: where the store has them, or in `copy`, which
+        /// has room for all of them, where they lie in several pieces.
+        const double* Run(int first, int last, double* copy) {
+            static_cast<void>((*this)[first]);
+            const std::int64_t place = m_store.m_begin + first - m_start;
+            if (static_cast<std::uint64_t>(place + (last - first)) < m_size)
+                return m_values + place;
+            for (int i = first; i <= last; ++i)
+                copy[i - first] = (*this)[i];
+            return copy;
+        }
 
     private:
         void Enter(const Piece& piece) {

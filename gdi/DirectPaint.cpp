@@ -131,10 +131,13 @@ private:
 StrokeKind KindOfStrokes(const CDC& dc) {
     if (::GetROP2(dc.GetSafeHdc()) != R2_COPYPEN || ::GetGraphicsMode(dc.GetSafeHdc()) != GM_COMPATIBLE)
         return StrokeKind::Mixed;
+    return PaintsPixels(dc) ? StrokeKind::Pixels : StrokeKind::Recorded;
+}
+
+bool PaintsPixels(const CDC& dc) {
     const DWORD type = ::GetObjectType(dc.GetSafeHdc());
-    const bool isPixels = dc.m_hAttribDC == dc.m_hDC && (type == OBJ_DC || type == OBJ_MEMDC) &&
-                          dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY;
-    return isPixels ? StrokeKind::Pixels : StrokeKind::Recorded;
+    return dc.m_hAttribDC == dc.m_hDC && ::GetGraphicsMode(dc.GetSafeHdc()) == GM_COMPATIBLE &&
+           (type == OBJ_DC || type == OBJ_MEMDC) && dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY;
 }
 
 std::optional<PixelRaster> DirectRaster(const CDC& dc) {

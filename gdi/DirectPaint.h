@@ -19,6 +19,10 @@ enum class StrokeKind {
 };
 StrokeKind KindOfStrokes(const CDC& dc);
 
+/// Whether `dc` paints pixels at once, by whatever rules, in the controls' own mapping or another without a
+/// transform.
+bool PaintsPixels(const CDC& dc);
+
 /// The pixels that `dc` paints into, clipped as it is: where they lie in memory, have 32 bits each and the
 /// platform would paint the same ones. None where GDI must be asked.
 std::optional<PixelRaster> DirectRaster(const CDC& dc);

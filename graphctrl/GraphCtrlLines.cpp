@@ -2,14 +2,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
+#include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Markers.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/GraphCtrlPainters.h"
 #include "graphctrl/GraphCtrlReducedLines.h"
+#include "graphctrl/GraphCtrlStrokes.h"
 #include "graphctrl/SampleStore.h"
+#include "graphctrl/SeriesReduction.h"
 
 namespace kavlix {
 
@@ -52,6 +56,12 @@ int PenWidth(const CDataset& dataset) {
     return std::clamp(dataset.GetLineSize(), 0, kWidestLine);
 }
 
+int PenPixels(const CDC& dc, int width) {
+    POINT ends[2] = {{0, 0}, {width, 0}};
+    dc.LPtoDP(ends, 2);
+    return std::max(1, std::abs(static_cast<int>(ends[1].x - ends[0].x)));
+}
+
 int LineReach(const CDataset& dataset) {
     return kMarkerHalf + PenWidth(dataset) + kRoundingReach;
 }
@@ -62,6 +72,17 @@ void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPosition
     const SampleStore& samples = dataset.Samples();
     bool started = false;
     CPoint lastPixel;
+    const int penPixels = PenPixels(dc, PenWidth(dataset));
+    CRect view = ToDeviceWithEdges(dc, mark.plot);
+    view.InflateRect(SeriesReduction::Reach(penPixels), SeriesReduction::Reach(penPixels));
+    const bool isWideInPixels = penPixels > 1 && PaintsPixels(dc);
+    const auto strokeTo = [&](int x, int y) {
+        const CPoint from = dc.GetCurrentPosition();
+        WideStroke stroke = {from, {x, y}};
+        if (stroke.Shorten(dc, ToRect(view), penPixels) != WideStroke::Unseen)
+            stroke.Draw(dc);
+        dc.MoveTo(x, y);
+    };
     for (int i = range.first; i <= range.last; ++i) {
         const double value = samples[i];
         const std::optional<int> x = xPositions.At(i);
@@ -76,6 +97,8 @@ void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPosition
         dc.LPtoDP(&pixel);
         if (!started)
             dc.MoveTo(*x, *y);
+        else if (pixel != lastPixel && isWideInPixels)
+            strokeTo(*x, *y);
         else if (pixel != lastPixel)
             dc.LineTo(*x, *y);
         lastPixel = pixel;

@@ -54,6 +54,9 @@ struct LineMark {
 /// takes.
 int PenWidth(const CDataset& dataset);
 
+/// Width in pixels of a pen `width` logical units wide, as the DC rounds; 1 for a cosmetic one.
+int PenPixels(const CDC& dc, int width);
+
 /// How far a line with its markers and the mark reaches beyond the positions of its samples, in logical
 /// units.
 int LineReach(const CDataset& dataset);

@@ -23,13 +23,6 @@ constexpr int kFewSamples = 4;
 constexpr int kLongColumn = 256;
 constexpr std::ptrdiff_t kAhead = 6;
 
-/// Width of a pen in pixels, as the DC rounds; 1 for a cosmetic one.
-int PenPixels(const CDC& dc, int width) {
-    POINT ends[2] = {{0, 0}, {width, 0}};
-    dc.LPtoDP(ends, 2);
-    return std::max(1, std::abs(static_cast<int>(ends[1].x - ends[0].x)));
-}
-
 int CountOf(const CDataset& dataset) {
     return dataset.Samples().Size();
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "gdi/Mapping.h"
 #include "graphctrl/GraphCtrlConvert.h"
 #include "graphctrl/SeriesReduction.h"
 #include "graphctrl/StrokeCut.h"
@@ -13,11 +14,6 @@ namespace {
 
 constexpr std::size_t kMostPoints = 8192;
 constexpr int kFar = 1 << 18; // logical units
-constexpr int kVeryFar = 1 << 22;
-/// So many wide strokes of a line go whole from very far away to very far away. Each takes GDI up to a quarter of a
-/// second; of more, the part near the view is drawn, whose edges may be rounded otherwise.
-constexpr int kMostWholeStrokes = 1;
-constexpr int kMargin = 32; // pixels
 
 } // namespace
 
@@ -74,6 +70,7 @@ void GdiStrokes::Add(double value, const PixelColumn& column) {
 void GdiStrokes::End() {
     if (!m_points.empty())
         DrawPart();
+    DrawBands();
 }
 
 void GdiStrokes::DrawPart() {
@@ -94,8 +91,9 @@ void GdiStrokes::DrawPart() {
             return;
         }
         line.resize(static_cast<std::size_t>(count));
-        std::transform(points, points + count, line.begin(),
-                       [](const Point& point) { return POINT{point.x, point.y}; });
+        std::transform(points, points + count, line.begin(), [](const Point& point) {
+            return POINT{point.x, point.y};
+        });
         m_ground.dc.Polyline(line.data(), count);
     });
     for (std::size_t i = 0; i < m_points.size(); ++i) {
@@ -109,53 +107,76 @@ void GdiStrokes::DrawPart() {
     m_far.clear();
 }
 
-/// The region of a whole wide polyline costs more than its strokes one by one, and that of a stroke what its length
-/// costs, seen or not.
+/// The region of a whole wide polyline costs more than its strokes one by one. Upright strokes from far away
+/// are bands beside one another, of which some cover all.
 void GdiStrokes::DrawWide(const Rect& view, const Point* points, int count) {
     CDC& dc = m_ground.dc;
-    const auto isBeyond = [](const POINT& point, int limit) {
-        return std::max(std::abs(point.x), std::abs(point.y)) > limit;
-    };
-    const auto isFar = [&](const POINT& point) { return isBeyond(point, kFar); };
-    const auto bringNearer = [&](const POINT& from, POINT& farEnd) {
-        POINT ends[2] = {from, farEnd};
-        dc.LPtoDP(ends, 2);
-        const Point begin = ToPoint(ends[0]);
-        const Point end = NearerEnd(begin, ToPoint(ends[1]), 2 * StepsAcross(view, begin));
-        if (end == ToPoint(ends[1]))
-            return;
-        farEnd = {end.x, end.y};
-        dc.DPtoLP(&farEnd);
-    };
-    const auto drawCut = [&](const POINT& from, const POINT& to) {
-        POINT ends[2] = {from, to};
-        dc.LPtoDP(ends, 2);
-        std::vector<Point> cut;
-        CutStroke(PixelLine(ToPoint(ends[0]), ToPoint(ends[1])), view, kMargin, cut);
-        for (std::size_t k = 0; k < cut.size(); ++k) {
-            POINT point = {cut[k].x, cut[k].y};
-            dc.DPtoLP(&point);
-            if (k == 0)
-                dc.MoveTo(point);
-            else
-                dc.LineTo(point);
-        }
-    };
+    const int width = m_penPixels * kUnitsPerPixel;
     for (int i = 1; i < count; ++i) {
-        POINT from = {points[i - 1].x, points[i - 1].y};
-        POINT to = {points[i].x, points[i].y};
-        if (isFar(from) && !isFar(to))
-            bringNearer(to, from);
-        else if (isFar(to) && !isFar(from))
-            bringNearer(from, to);
-        else if (isBeyond(from, kVeryFar) && isBeyond(to, kVeryFar) && from.x != to.x &&
-                 ++m_wholeStrokes > kMostWholeStrokes) {
-            drawCut(from, to);
-            continue;
+        WideStroke stroke = {{points[i - 1].x, points[i - 1].y}, {points[i].x, points[i].y}};
+        switch (stroke.Shorten(dc, view, m_penPixels)) {
+        case WideStroke::Unseen:
+            break;
+        case WideStroke::Band:
+            if (m_hasBand && stroke.from.x >= m_firstBand.from.x - width &&
+                stroke.from.x <= m_lastBand + width) {
+                m_lastBand = std::max<int>(m_lastBand, stroke.from.x);
+                m_firstBand.from.x = m_firstBand.to.x = std::min(m_firstBand.from.x, stroke.from.x);
+                break;
+            }
+            DrawBands();
+            m_hasBand = true;
+            m_firstBand = stroke;
+            m_lastBand = stroke.from.x;
+            break;
+        default:
+            stroke.Draw(dc);
         }
-        dc.MoveTo(from);
-        dc.LineTo(to);
     }
+}
+
+void GdiStrokes::DrawBands() {
+    while (m_hasBand) {
+        m_firstBand.Draw(m_ground.dc);
+        m_hasBand = m_firstBand.from.x < m_lastBand;
+        m_firstBand.from.x = m_firstBand.to.x =
+            std::min<int>(m_firstBand.from.x + m_penPixels * kUnitsPerPixel, m_lastBand);
+    }
+}
+
+WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
+    const auto isFar = [](const POINT& point) {
+        return std::max(std::abs(point.x), std::abs(point.y)) > kFar;
+    };
+    if (!isFar(from) && !isFar(to))
+        return Whole;
+    POINT ends[2] = {from, to};
+    dc.LPtoDP(ends, 2);
+    const Point first = ToPoint(ends[0]);
+    const Point last = ToPoint(ends[1]);
+    Point begin = first;
+    Point end = last;
+    if (!isFar(from)) {
+        end = NearerEnd(begin, end, 2 * StepsAcross(view, begin));
+    } else if (!isFar(to)) {
+        begin = NearerEnd(end, begin, 2 * StepsAcross(view, end));
+    } else {
+        const int margin = 2 * penPixels + 2;
+        if (!BringEndsNearer(
+                begin, end,
+                {view.left - margin, view.top - margin, view.right + margin, view.bottom + margin}))
+            return Unseen;
+    }
+    const auto move = [&](POINT& place, const Point& old, const Point& pixel) {
+        if (pixel == old)
+            return;
+        place = {pixel.x, pixel.y};
+        dc.DPtoLP(&place);
+    };
+    const bool isBand = begin.x == end.x && !(begin == first) && !(end == last);
+    move(from, first, begin);
+    move(to, last, end);
+    return isBand ? Band : Whole;
 }
 
 } // namespace kavlix

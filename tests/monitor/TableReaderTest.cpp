@@ -14,9 +14,8 @@ struct Read {
 
     std::string Messages() const {
         std::string text;
-        for (const std::string& line : summary.log.Lines()) {
+        for (const std::string& line : summary.log.Lines())
             text += line + '\n';
-        }
         return text;
     }
 };
@@ -33,17 +32,15 @@ Read ReadTable(std::string_view text, std::size_t maxSeries = kMaxSeries) {
 /// Values as text, with `-` for a gap.
 std::string Values(const std::vector<double>& values) {
     std::string text;
-    for (const double value : values) {
+    for (const double value : values)
         text += (text.empty() ? "" : " ") + (std::isnan(value) ? std::string("-") : FormatNumber(value));
-    }
     return text;
 }
 
 std::string Times(const Table& table) {
     std::string text;
-    for (const Time time : table.times) {
+    for (const Time time : table.times)
         text += (text.empty() ? "" : " ") + std::to_string(time / kMicrosPerSecond);
-    }
     return text;
 }
 
@@ -143,6 +140,8 @@ TEST(TableReader, LeavesOutFilesThatAreNoRecordings) {
          "f.csv:1:1: expected a header row of text, found \"\\x7F"
          "ELF\\x02\\x01\\x00\\x00\"; the file is left out\n"},
         {"\xFF\xFEt\n", "f.csv:1:1: expected text in UTF-8, found UTF-16; the file is left out\n"},
+        {"\xFF\xFE", "f.csv:1:1: expected text in UTF-8, found UTF-16; the file is left out\n"},
+        {"\xFE\xFFt\n", "f.csv:1:1: expected text in UTF-8, found UTF-16; the file is left out\n"},
     };
     for (const auto& [text, messages] : cases) {
         const Read read = ReadTable(text);
@@ -176,9 +175,8 @@ TEST(TableReader, TakesNoMoreSeriesThanMayBeShown) {
 
 TEST(TableReader, KeepsFiveMessagesOfAKindAndCountsTheRest) {
     std::string text = "t,a\n";
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 1000; ++i)
         text += std::to_string(i) + (i % 2 == 0 ? ",x\n" : "\n");
-    }
     const Read read = ReadTable(text);
     EXPECT_EQ(read.summary.log.Kept().size(), 10u);
     EXPECT_EQ(read.summary.log.CountOf(Complaint::Cell), 500u);

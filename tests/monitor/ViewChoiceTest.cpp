@@ -48,9 +48,8 @@ TEST(TimeLabels, SuitTheRecordingsLength) {
     };
     for (const auto& one : cases) {
         std::vector<Time> times;
-        for (const char* text : one.times) {
+        for (const char* text : one.times)
             times.push_back(At(text));
-        }
         const TimeLabelStyle style = ChooseTimeLabels(times, one.labels);
         const std::string label = MakeTimeLabel(style, times.front());
         EXPECT_EQ(label, one.label) << one.title;
@@ -65,14 +64,12 @@ TEST(TimeLabels, SuitTheRecordingsLength) {
 
 Recording MakeRecording(std::size_t samples, std::vector<double> sizes) {
     Recording recording;
-    for (std::size_t i = 0; i < samples; ++i) {
+    for (std::size_t i = 0; i < samples; ++i)
         recording.times.push_back(static_cast<Time>(i) * kMicrosPerSecond);
-    }
     for (const double size : sizes) {
         Series series;
-        for (std::size_t i = 0; i < samples; ++i) {
+        for (std::size_t i = 0; i < samples; ++i)
             series.values.push_back(i % 10 == 3 ? NAN : size * static_cast<double>(i % 7 + 4) / 10.0);
-        }
         recording.series.push_back(series);
     }
     return recording;
@@ -126,9 +123,8 @@ TEST(ViewChoice, NothingToShowIsNoFault) {
         EXPECT_EQ(empty.visible.last, 0u);
         EXPECT_LT(empty.y.min, empty.y.max);
         Recording gaps = MakeRecording(3, {1, 1});
-        for (Series& series : gaps.series) {
+        for (Series& series : gaps.series)
             series.values.assign(3, NAN);
-        }
         EXPECT_LT(ChooseView(gaps, request).y2.min, ChooseView(gaps, request).y2.max);
     }
 }

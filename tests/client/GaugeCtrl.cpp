@@ -49,13 +49,11 @@ void CGaugeCtrl::Change(int nPos)
 }
 
 BEGIN_MESSAGE_MAP(CGaugeCtrl, CWnd)
-    //{{AFX_MSG_MAP(CGaugeCtrl)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_LBUTTONDOWN()
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
-    //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
 void CGaugeCtrl::OnPaint()

@@ -28,14 +28,11 @@ protected:
     int m_nPos;     // percent
     CBrush m_brFill;
     CBrush m_brBack;
-
-    //{{AFX_MSG(CGaugeCtrl)
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    //}}AFX_MSG
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -7,7 +7,6 @@
 IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
-    //{{AFX_MSG_MAP(CMainFrame)
     ON_WM_CREATE()
     ON_WM_PAINT()
     ON_COMMAND(ID_HEATING_ON, OnHeatingOn)
@@ -15,8 +14,6 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_HEATING_WARMER, OnHeatingWarmer)
     ON_UPDATE_COMMAND_UI(ID_HEATING_WARMER, OnUpdateHeatingWarmer)
     ON_COMMAND(ID_VIEW_SETTINGS, OnViewSettings)
-    ON_COMMAND(ID_VIEW_MONITOR, OnViewMonitor)
-    //}}AFX_MSG_MAP
     ON_COMMAND_RANGE(ID_UNITS_CELSIUS, ID_UNITS_FAHRENHEIT, OnUnits)
     ON_UPDATE_COMMAND_UI_RANGE(ID_UNITS_CELSIUS, ID_UNITS_FAHRENHEIT, OnUpdateUnits)
 END_MESSAGE_MAP()
@@ -24,7 +21,7 @@ END_MESSAGE_MAP()
 int CMainFrame::m_nAlive = 0;
 
 CMainFrame::CMainFrame()
-    : m_bOn(FALSE), m_nTarget(18), m_nUnits(ID_UNITS_CELSIUS), m_strName(_T("Home")), m_pMonitor(NULL), m_nPaints(0)
+    : m_bOn(FALSE), m_nTarget(18), m_nUnits(ID_UNITS_CELSIUS), m_strName(_T("Home")), m_nPaints(0)
 {
     m_nAlive++;
 }
@@ -72,17 +69,10 @@ void CMainFrame::OnPaint()
     m_nPaints++;
 }
 
-void CMainFrame::Refresh()
-{
-    Invalidate();
-    if (m_pMonitor != NULL)
-        m_pMonitor->ShowReading(m_strName, m_nTarget);
-}
-
 void CMainFrame::OnHeatingOn()
 {
     m_bOn = !m_bOn;
-    Refresh();
+    Invalidate();
 }
 
 void CMainFrame::OnUpdateHeatingOn(CCmdUI* pCmdUI)
@@ -93,7 +83,7 @@ void CMainFrame::OnUpdateHeatingOn(CCmdUI* pCmdUI)
 void CMainFrame::OnHeatingWarmer()
 {
     m_nTarget++;
-    Refresh();
+    Invalidate();
 }
 
 void CMainFrame::OnUpdateHeatingWarmer(CCmdUI* pCmdUI)
@@ -104,7 +94,7 @@ void CMainFrame::OnUpdateHeatingWarmer(CCmdUI* pCmdUI)
 void CMainFrame::OnUnits(UINT nID)
 {
     m_nUnits = (int)nID;
-    Refresh();
+    Invalidate();
 }
 
 void CMainFrame::OnUpdateUnits(CCmdUI* pCmdUI)
@@ -124,18 +114,6 @@ void CMainFrame::OnViewSettings()
     {
         m_strName = dlg.m_strName;
         m_nTarget = dlg.m_nTarget;
-        Refresh();
+        Invalidate();
     }
-}
-
-void CMainFrame::OnViewMonitor()
-{
-    if (m_pMonitor == NULL)
-    {
-        CMonitorDlg* pDlg = new CMonitorDlg(&m_pMonitor);
-        if (!pDlg->Create(this))
-            return;
-    }
-    m_pMonitor->ShowReading(m_strName, m_nTarget);
-    m_pMonitor->SetActiveWindow();
 }

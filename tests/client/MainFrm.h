@@ -1,8 +1,6 @@
 #if !defined(AFX_MAINFRM_H__INCLUDED_)
 #define AFX_MAINFRM_H__INCLUDED_
 
-class CMonitorDlg;
-
 class CMainFrame : public CFrameWnd
 {
 public:
@@ -16,18 +14,13 @@ public:
     int m_nTarget;
     int m_nUnits;
     CString m_strName;
-    CMonitorDlg* m_pMonitor;
     int m_nPaints;
-
-    //{{AFX_VIRTUAL(CMainFrame)
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
-    //}}AFX_VIRTUAL
 
 public:
     virtual ~CMainFrame();
 
 protected:
-    //{{AFX_MSG(CMainFrame)
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnPaint();
     afx_msg void OnHeatingOn();
@@ -35,13 +28,10 @@ protected:
     afx_msg void OnHeatingWarmer();
     afx_msg void OnUpdateHeatingWarmer(CCmdUI* pCmdUI);
     afx_msg void OnViewSettings();
-    afx_msg void OnViewMonitor();
-    //}}AFX_MSG
     afx_msg void OnUnits(UINT nID);
     afx_msg void OnUpdateUnits(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
-    void Refresh();
     CFont m_font;
 };
 

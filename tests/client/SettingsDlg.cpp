@@ -4,20 +4,17 @@
 CSettingsDlg::CSettingsDlg(CWnd* pParent /*=NULL*/)
     : CDialog(CSettingsDlg::IDD, pParent)
 {
-    //{{AFX_DATA_INIT(CSettingsDlg)
     m_strName = _T("");
     m_nTarget = 0;
     m_dFactor = 0.0;
     m_bAlarm = FALSE;
     m_nMode = -1;
     m_strRoom = _T("");
-    //}}AFX_DATA_INIT
 }
 
 void CSettingsDlg::DoDataExchange(CDataExchange* pDX)
 {
     CDialog::DoDataExchange(pDX);
-    //{{AFX_DATA_MAP(CSettingsDlg)
     DDX_Control(pDX, IDC_GAUGE, m_wndGauge);
     DDX_Control(pDX, IDC_DEFAULTS, m_btnDefaults);
     DDX_Text(pDX, IDC_NAME, m_strName);
@@ -28,15 +25,12 @@ void CSettingsDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Check(pDX, IDC_ALARM, m_bAlarm);
     DDX_Radio(pDX, IDC_MODE_DAY, m_nMode);
     DDX_CBString(pDX, IDC_ROOM, m_strRoom);
-    //}}AFX_DATA_MAP
 }
 
 BEGIN_MESSAGE_MAP(CSettingsDlg, CDialog)
-    //{{AFX_MSG_MAP(CSettingsDlg)
     ON_EN_CHANGE(IDC_TARGET, OnChangeTarget)
     ON_BN_CLICKED(IDC_DEFAULTS, OnDefaults)
     ON_GN_CHANGED(IDC_GAUGE, OnGaugeChanged)
-    //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
 BOOL CSettingsDlg::OnInitDialog()
@@ -78,40 +72,4 @@ void CSettingsDlg::OnDefaults()
 void CSettingsDlg::OnGaugeChanged()
 {
     SetDlgItemInt(IDC_TARGET, m_wndGauge.GetPos() / 2);
-}
-
-CMonitorDlg::CMonitorDlg(CMonitorDlg** ppThis) : m_ppThis(ppThis)
-{
-    *m_ppThis = this;
-}
-
-BEGIN_MESSAGE_MAP(CMonitorDlg, CDialog)
-END_MESSAGE_MAP()
-
-BOOL CMonitorDlg::Create(CWnd* pParent)
-{
-    return CDialog::Create(IDD_MONITOR, pParent);
-}
-
-void CMonitorDlg::ShowReading(LPCTSTR lpszName, int nDegrees)
-{
-    CString str;
-    str.Format(IDS_READING, lpszName, nDegrees);
-    SetDlgItemText(IDC_READING, str);
-}
-
-void CMonitorDlg::OnOK()
-{
-    DestroyWindow();
-}
-
-void CMonitorDlg::OnCancel()
-{
-    DestroyWindow();
-}
-
-void CMonitorDlg::PostNcDestroy()
-{
-    *m_ppThis = NULL;
-    delete this;
 }

@@ -9,12 +9,6 @@
 static char THIS_FILE[] = __FILE__;
 #endif
 
-BEGIN_MESSAGE_MAP(CThermostatApp, CWinApp)
-    //{{AFX_MSG_MAP(CThermostatApp)
-    ON_COMMAND(ID_APP_ABOUT, OnAppAbout)
-    //}}AFX_MSG_MAP
-END_MESSAGE_MAP()
-
 CThermostatApp::CThermostatApp()
 {
     m_nExits = 0;
@@ -42,18 +36,4 @@ int CThermostatApp::ExitInstance()
 {
     m_nExits++;
     return CWinApp::ExitInstance();
-}
-
-class CAboutDlg : public CDialog
-{
-public:
-    CAboutDlg() : CDialog(IDD_ABOUTBOX)
-    {
-    }
-};
-
-void CThermostatApp::OnAppAbout()
-{
-    CAboutDlg aboutDlg;
-    aboutDlg.DoModal();
 }

@@ -13,17 +13,9 @@ public:
     CThermostatApp();
 
     int m_nExits;
-
-    //{{AFX_VIRTUAL(CThermostatApp)
     public:
     virtual BOOL InitInstance();
     virtual int ExitInstance();
-    //}}AFX_VIRTUAL
-
-    //{{AFX_MSG(CThermostatApp)
-    afx_msg void OnAppAbout();
-    //}}AFX_MSG
-    DECLARE_MESSAGE_MAP()
 };
 
 extern CThermostatApp theApp;

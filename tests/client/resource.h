@@ -1,9 +1,7 @@
 //{{NO_DEPENDENCIES}}
 // Used by Thermostat.rc
 #define IDR_MAINFRAME                   128
-#define IDD_ABOUTBOX                    100
 #define IDD_SETTINGS                    129
-#define IDD_MONITOR                     130
 
 #define IDC_NAME                        1000
 #define IDC_TARGET                      1001
@@ -15,14 +13,11 @@
 #define IDC_ROOM                        1007
 #define IDC_GAUGE                       1008
 #define IDC_DEFAULTS                    1009
-#define IDC_READING                     1010
 
 #define ID_HEATING_ON                   32771
 #define ID_HEATING_WARMER               32772
 #define ID_UNITS_CELSIUS                32773
 #define ID_UNITS_FAHRENHEIT             32774
 #define ID_VIEW_SETTINGS                32775
-#define ID_VIEW_MONITOR                 32776
 
-#define IDS_READING                     5000
 #define IDS_ROOMS                       5001

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/mfc/Refusal.h"
+#include "tests/support/TempFolder.h"
 
 // CFile, CStdioFile and CMemFile.
 
@@ -14,27 +15,12 @@ namespace {
 /// A folder of its own for each test, gone afterwards.
 class File : public testing::Test {
 protected:
-    void SetUp() override {
-        TCHAR temp[MAX_PATH];
-        GetTempPath(MAX_PATH, temp);
-        m_folder.Format("%skavlix-file-test-%lu", temp, GetCurrentProcessId());
-        ASSERT_TRUE(CreateDirectory(m_folder, nullptr));
+    ~File() override {
+        std::error_code error;
+        std::filesystem::remove_all(m_folder.Path(), error);
+        EXPECT_FALSE(error) << "a file was left open";
     }
-    void TearDown() override {
-        WIN32_FIND_DATA found;
-        const HANDLE search = FindFirstFile(m_folder + "\\*", &found);
-        do {
-            SetFileAttributes(Path(found.cFileName), FILE_ATTRIBUTE_NORMAL);
-            DeleteFile(Path(found.cFileName));
-        } while (FindNextFile(search, &found));
-        FindClose(search);
-        EXPECT_TRUE(RemoveDirectory(m_folder)) << "a file was left open";
-    }
-    CString Path(LPCTSTR name) const { return m_folder + "\\" + name; }
-    void Make(LPCTSTR name, const std::string& content) const {
-        CFile file(Path(name), CFile::modeCreate | CFile::modeWrite);
-        file.Write(content.data(), static_cast<UINT>(content.size()));
-    }
+    CString Path(LPCTSTR name) const { return m_folder.Path(name).c_str(); }
     std::string Content(LPCTSTR name) const {
         CFile file(Path(name), CFile::modeRead | CFile::shareDenyNone);
         std::string content(static_cast<std::size_t>(file.GetLength()), '\0');
@@ -42,8 +28,7 @@ protected:
         return content;
     }
 
-private:
-    CString m_folder;
+    testkit::TempFolder m_folder;
 };
 
 TEST_F(File, ReadsWritesAndMovesItsPosition) {
@@ -73,7 +58,7 @@ TEST_F(File, ReadsWritesAndMovesItsPosition) {
 }
 
 TEST_F(File, ModesDecideWhatIsMadeAndKept) {
-    Make("a", "old");
+    m_folder.Write("a", "old");
     { CFile kept(Path("a"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite); }
     EXPECT_EQ("old", Content("a"));
     { CFile made(Path("b"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite); }
@@ -95,7 +80,9 @@ TEST_F(File, FailuresTellCauseNumberAndName) {
     EXPECT_TRUE(error.m_strFileName == missing);
     EXPECT_EQ(CFile::hFileNull, file.m_hFile);
     EXPECT_FALSE(file.Open(missing, CFile::modeRead)) << "nobody to tell";
-    EXPECT_EQ(CFileException::badPath, CauseOf<CFileException>([&] { Make("no folder\\x", ""); }));
+    EXPECT_EQ(CFileException::badPath, CauseOf<CFileException>([&] {
+                  CFile none(Path("no folder\\x"), CFile::modeCreate | CFile::modeWrite);
+              }));
     EXPECT_EQ(CFileException::fileNotFound, CauseOf<CFileException>([&] { CFile::Remove(missing); }));
     EXPECT_EQ(CFileException::fileNotFound,
               CauseOf<CFileException>([&] { CFile::Rename(missing, Path("x")); }));
@@ -125,7 +112,7 @@ TEST_F(File, ShareFlagsKeepOthersOut) {
 }
 
 TEST_F(File, StatusIsReadAndSet) {
-    Make("s.txt", "12345");
+    m_folder.Write("s.txt", "12345");
     CFileStatus status;
     ASSERT_TRUE(CFile::GetStatus(Path("s.txt"), status));
     EXPECT_EQ(5u, status.m_size);

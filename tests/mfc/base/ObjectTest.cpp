@@ -144,24 +144,3 @@ TEST(Diagnostics, DumpWritesTextToAFile) {
 }
 
 } // namespace
-
-// Programs set DEBUG_NEW up like this, behind all headers.
-#ifdef _DEBUG
-#define new DEBUG_NEW
-#undef THIS_FILE
-static char THIS_FILE[] = __FILE__;
-#endif
-
-namespace {
-
-TEST(Diagnostics, DebugNewMakesObjectsAndArrays) {
-    Puppy* const puppy = new Puppy;
-    EXPECT_EQ(4, puppy->legs);
-    delete puppy;
-    int* const numbers = new int[3]{1, 2, 3};
-    ASSERT(numbers[1] == 2); // names THIS_FILE
-    EXPECT_EQ(3, numbers[2]);
-    delete[] numbers;
-}
-
-} // namespace

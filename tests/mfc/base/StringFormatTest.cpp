@@ -34,6 +34,14 @@ TEST(StringFormat, TakesStringsNumbersAndTheTargetItself) {
     EXPECT_TEXT("plain and name", text);
     text.AppendFormat("<%s>", text);
     EXPECT_TEXT("plain and name<plain and name>", text);
+    const auto byList = [&](LPCTSTR pattern, ...) {
+        va_list args;
+        va_start(args, pattern);
+        text.FormatV(pattern, args);
+        va_end(args);
+    };
+    byList("%d-%s", 5, "five");
+    EXPECT_TEXT("5-five", text);
 }
 
 TEST(StringFormat, HasNoLongestText) {
@@ -55,24 +63,6 @@ TEST(StringFormat, HasNoLongestText) {
     }
 }
 
-TEST(StringFormat, FormatVTakesAnArgumentList) {
-    const auto format = [](CString& text, LPCTSTR pattern, ...) {
-        va_list args;
-        va_start(args, pattern);
-        text.FormatV(pattern, args);
-        va_end(args);
-    };
-    CString text("before");
-    format(text, "%d-%s", 5, "five");
-    EXPECT_TEXT("5-five", text);
-}
-
-TEST(StringFormat, MessagesPlaceInsertsByNumber) {
-    CString text;
-    text.FormatMessage("%2 before %1, %3!d!", "first", CString("second"), 3);
-    EXPECT_TEXT("second before first, 3", text);
-}
-
 TEST(StringFormat, ResourcesAreTextsAndFormats) {
     CString text;
     EXPECT_TRUE(text.LoadString(IDS_BASE_PLAIN));
@@ -82,6 +72,8 @@ TEST(StringFormat, ResourcesAreTextsAndFormats) {
     EXPECT_TEXT("it has 3 parts", text);
     text.AppendFormat(IDS_BASE_FORMAT, "!", 4);
     EXPECT_TEXT("it has 3 parts! has 4 parts", text);
+    text.FormatMessage("%2 before %1, %3!d!", "first", CString("second"), 3);
+    EXPECT_TEXT("second before first, 3", text);
     text.FormatMessage(IDS_BASE_MESSAGE, "one", CString("two"));
     EXPECT_TEXT("two before one", text);
     EXPECT_TEXT("1970-01-01", CTime(0).FormatGmt(IDS_BASE_TIME));
@@ -102,14 +94,6 @@ TEST(StringFormat, MissingResourcesAreToldAndLeaveNoText) {
     text.Format(missingString, 1);
     EXPECT_TEXT("old", text);
     EXPECT_TRUE(CString(MAKEINTRESOURCE(missingString)).IsEmpty());
-}
-
-TEST(StringFormat, TraceTakesStringsToo) {
-    const CString text("text");
-    const int number = 5;
-    TRACE("%s %d\n", text, number);
-    TRACE0("100% plain\n");
-    TRACE2("%s %d\n", text, number);
 }
 
 } // namespace

@@ -74,8 +74,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(COwner, CWnd)
-    ON_COMMAND(kRoutedCommand, &COwner::OnRouted)
-    ON_COMMAND(kControlCommand, &COwner::OnRouted)
+ON_COMMAND(kRoutedCommand, &COwner::OnRouted)
+ON_COMMAND(kControlCommand, &COwner::OnRouted)
 END_MESSAGE_MAP()
 
 TEST(Dialog, OkTakesTheDataAndCancelLeavesIt) {
@@ -221,6 +221,9 @@ TEST(Dialog, ModelessLivesUntilItsClassDestroysIt) {
     dialog.SendMessage(WM_CLOSE);
     testkit::Pump();
     EXPECT_EQ(1, dialog.cancels) << "the close box cancels";
+    MSG escape{dialog, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+    EXPECT_TRUE(dialog.PreTranslateMessage(&escape));
+    EXPECT_EQ(2, dialog.cancels) << "and so does Escape";
     owner.DestroyWindow();
     EXPECT_EQ(nullptr, dialog.m_hWnd) << "owned windows go with their owner";
     EXPECT_EQ(2, dialog.ncDestroys);

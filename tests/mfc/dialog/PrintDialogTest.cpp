@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -29,11 +30,8 @@ TEST(PrintDialogTest, AnswersFromTheRecord) {
     EXPECT_EQ(CPrintDialog(TRUE).m_pd.Flags & (PD_RETURNDC | PD_PRINTSETUP),
               static_cast<DWORD>(PD_PRINTSETUP));
     EXPECT_EQ(dialog.GetDeviceName(), "");
-    EXPECT_EQ(dialog.GetDevMode(), nullptr);
-    EXPECT_EQ(dialog.CreatePrinterDC(), nullptr);
-    EXPECT_EQ(dialog.GetCopies(), 1);
-    EXPECT_TRUE(dialog.PrintAll());
-    EXPECT_EQ(dialog.GetFromPage(), -1);
+    EXPECT_TRUE(dialog.GetDevMode() == nullptr && dialog.CreatePrinterDC() == nullptr && dialog.PrintAll());
+    EXPECT_EQ(std::pair(dialog.GetCopies(), dialog.GetFromPage()), std::pair(1, -1));
 
     dialog.m_pd.hDevNames = MakeNames();
     EXPECT_EQ(dialog.GetDriverName() + "|" + dialog.GetDeviceName() + "|" + dialog.GetPortName(),
@@ -47,10 +45,9 @@ TEST(PrintDialogTest, AnswersFromTheRecord) {
     dialog.m_pd.nToPage = 5;
     dialog.m_pd.nCopies = 4;
     EXPECT_EQ(dialog.GetCopies(), 4) << "without PD_USEDEVMODECOPIES";
-    EXPECT_EQ(dialog.GetFromPage(), 2);
-    EXPECT_EQ(dialog.GetToPage(), 5);
-    EXPECT_TRUE(dialog.PrintRange() && dialog.PrintCollate());
-    EXPECT_FALSE(dialog.PrintAll() || dialog.PrintSelection());
+    EXPECT_EQ(std::pair(dialog.GetFromPage(), dialog.GetToPage()), std::pair(2, 5));
+    EXPECT_TRUE(dialog.PrintRange() && dialog.PrintCollate() && !dialog.PrintAll() &&
+                !dialog.PrintSelection());
     GlobalFree(dialog.m_pd.hDevMode);
     GlobalFree(dialog.m_pd.hDevNames);
 }

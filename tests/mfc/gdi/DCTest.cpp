@@ -62,22 +62,6 @@ TEST(DC, SelectingReturnsWhatWasThere) {
     dc.SelectObject(oldBitmap);
 }
 
-TEST(DC, SaveAndRestore) {
-    MemoryDC dc;
-    const COLORREF before = dc.GetTextColor();
-    const int outer = dc.SaveDC();
-    ASSERT_GT(outer, 0);
-    EXPECT_EQ(before, dc.SetTextColor(RGB(1, 2, 3)));
-    const int inner = dc.SaveDC();
-    EXPECT_EQ(outer + 1, inner);
-    EXPECT_EQ(RGB(1, 2, 3), dc.SetTextColor(RGB(4, 5, 6)));
-    EXPECT_TRUE(dc.RestoreDC(-1));
-    EXPECT_EQ(RGB(1, 2, 3), dc.GetTextColor());
-    EXPECT_TRUE(dc.RestoreDC(outer));
-    EXPECT_EQ(before, dc.GetTextColor());
-    EXPECT_FALSE(dc.RestoreDC(outer));
-}
-
 /// Output and attributes in two DCs, as a print preview has them.
 class SplitDC : public testing::Test {
 protected:
@@ -184,6 +168,8 @@ TEST(DC, ClipResults) {
 
 TEST(DC, MappingSettersReturnTheFormerValues) {
     MemoryDC dc;
+    const int saved = dc.SaveDC();
+    EXPECT_EQ(saved + 1, dc.SaveDC()) << "saved once where both DCs are one";
     EXPECT_EQ(MM_TEXT, dc.SetMapMode(MM_ANISOTROPIC));
     EXPECT_EQ(CSize(1, 1), dc.SetWindowExt(300, 200));
     EXPECT_EQ(CSize(1, 1), dc.SetViewportExt(CSize(30, -20)));
@@ -208,6 +194,9 @@ TEST(DC, MappingSettersReturnTheFormerValues) {
     EXPECT_EQ(CSize(10, 20), size) << "a size has no direction and no origin";
     dc.DPtoLP(&size);
     EXPECT_EQ(CSize(100, 100), size);
+    EXPECT_TRUE(dc.RestoreDC(saved));
+    EXPECT_EQ(MM_TEXT, dc.GetMapMode());
+    EXPECT_FALSE(dc.RestoreDC(saved));
 }
 
 TEST(DC, HundredthsOfAMillimetre) {
@@ -292,10 +281,10 @@ TEST(DC, TextMembersAgreeWithOneAnother) {
     CString face;
     EXPECT_GT(dc.GetTextFace(face), 0);
     EXPECT_FALSE(face.IsEmpty());
-    EXPECT_EQ(static_cast<UINT>(TA_LEFT | TA_TOP), dc.SetTextAlign(TA_RIGHT | TA_BOTTOM));
-    EXPECT_EQ(static_cast<UINT>(TA_RIGHT | TA_BOTTOM), dc.GetTextAlign());
-    EXPECT_EQ(0, dc.SetTextCharacterExtra(3));
-    EXPECT_EQ(extent.cx + 6 * 3, dc.GetTextExtent(text).cx);
+    EXPECT_EQ(std::tuple(TA_LEFT | TA_TOP, 0),
+              std::tuple(dc.SetTextAlign(TA_RIGHT | TA_BOTTOM), dc.SetTextCharacterExtra(3)));
+    EXPECT_EQ(std::tuple(TA_RIGHT | TA_BOTTOM, extent.cx + 6 * 3),
+              std::tuple(dc.GetTextAlign(), dc.GetTextExtent(text).cx));
     dc.SelectObject(old);
 }
 

@@ -1,4 +1,5 @@
 #include "tests/mfc/window/WindowKit.h"
+#include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -19,11 +20,7 @@ protected:
             app.SetRegistryKey("Kavlix window tests");
             EXPECT_STREQ(app.m_pszProfileName, "Scoped");
         } else {
-            char path[MAX_PATH] = "";
-            ::GetTempPath(sizeof(path), path);
-            file = std::string(path) + "kavlix_profile_test.ini";
-            ::DeleteFile(file.c_str());
-            SetName(app.m_pszProfileName, file.c_str());
+            SetName(app.m_pszProfileName, folder.Path("profile.ini").c_str());
         }
     }
     void TearDown() override {
@@ -31,13 +28,11 @@ protected:
             app.WriteProfileString("Section", nullptr, nullptr);
             ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\Kavlix window tests\\Scoped");
             ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\Kavlix window tests");
-        } else {
-            ::DeleteFile(file.c_str());
         }
     }
 
     windowkit::ScopedApp app;
-    std::string file;
+    testkit::TempFolder folder;
 };
 
 INSTANTIATE_TEST_SUITE_P(Homes, ProfileTest, testing::Bool());

@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-using windowkit::CreateChild;
-using windowkit::CreateTop;
-using windowkit::Log;
-using windowkit::Note;
+using windowkit::CreateChild, windowkit::CreateTop, windowkit::Log, windowkit::Note;
 
 namespace {
 

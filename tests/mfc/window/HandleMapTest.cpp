@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <thread>
-using windowkit::CreateChild;
-using windowkit::CreateTop;
-using windowkit::MapCounts;
+using windowkit::CreateChild, windowkit::CreateTop, windowkit::MapCounts;
 
 namespace {
 

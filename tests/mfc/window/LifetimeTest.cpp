@@ -4,12 +4,8 @@
 
 #include <algorithm>
 
-using windowkit::CreateChild;
-using windowkit::CreateForeign;
-using windowkit::CreateTop;
-using windowkit::Log;
-using windowkit::MapCounts;
-using windowkit::Taken;
+using windowkit::CreateChild, windowkit::CreateForeign, windowkit::CreateTop, windowkit::Log,
+    windowkit::MapCounts, windowkit::Taken;
 
 namespace {
 

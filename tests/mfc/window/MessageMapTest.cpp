@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-using windowkit::CreateTop;
-using windowkit::Note;
+using windowkit::CreateTop, windowkit::Note;
 
 namespace {
 
@@ -200,19 +199,6 @@ TEST_F(MessageMapTest, BothFormsOfOldAndNewHandlersWork) {
 #ifdef _WIN64
     EXPECT_EQ(Told(WM_TIMER, 0x100000001ull), "timer 4294967297 = 0");
 #endif
-}
-
-TEST_F(MessageMapTest, RealTimersTick) {
-    ASSERT_NE(base.SetTimer(17, 10, nullptr), 0u);
-    const DWORD start = ::GetTickCount();
-    MSG message{};
-    while (base.log.empty() && ::GetTickCount() - start < 5000)
-        if (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-            ::DispatchMessage(&message);
-    ASSERT_FALSE(base.log.empty());
-    EXPECT_EQ(base.log[0], "timer 17");
-    EXPECT_TRUE(base.KillTimer(17));
-    EXPECT_FALSE(base.KillTimer(17));
 }
 
 namespace {

@@ -4,8 +4,7 @@
 
 #include <tuple>
 
-using windowkit::CreateTop;
-using windowkit::MapCounts;
+using windowkit::CreateTop, windowkit::MapCounts;
 using Received = std::tuple<UINT, WPARAM, LPARAM>; // a message
 
 namespace {

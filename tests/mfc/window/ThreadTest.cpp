@@ -7,8 +7,7 @@
 
 #include <afxpriv.h>
 
-using windowkit::CreateTop;
-using windowkit::Log;
+using windowkit::CreateTop, windowkit::Log;
 
 namespace {
 

@@ -1,69 +1,37 @@
 #include "tests/support/AllocationGuard.h"
 
-#include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <new>
 
 namespace {
 
 constexpr std::size_t kGuardBytes = 16;
 constexpr unsigned char kPattern = 0xC5;
-constexpr std::size_t kSlots = 1 << 16;
-
-/// A block under guard. The block's address stays what malloc gave, since a DLL may free it with `free`.
-struct Block {
-    void* address = nullptr;
-    std::size_t size = 0;
-};
 
 struct Ledger {
     bool active = false;
     int failAt = 0;
     bool failed = false;
     int count = 0;
-    int live = 0;
     int damaged = 0;
-    std::array<Block, kSlots> blocks;
+    /// Blocks under guard and their sizes. A block's address stays what malloc gave, since a DLL may free it
+    /// with `free`.
+    std::map<void*, std::size_t> blocks;
 };
 
 Ledger ledger;
 
-std::size_t HomeSlot(const void* address) {
-    return (reinterpret_cast<std::uintptr_t>(address) >> 4) % kSlots;
-}
+/// The ledger's own memory is not under guard.
+struct Pause {
+    Pause() { ledger.active = false; }
+    ~Pause() { ledger.active = true; }
+};
 
-Block* Find(const void* address) {
-    for (std::size_t i = 0, slot = HomeSlot(address); i < kSlots; ++i, slot = (slot + 1) % kSlots) {
-        if (ledger.blocks[slot].address == address)
-            return &ledger.blocks[slot];
-        if (ledger.blocks[slot].address == nullptr)
-            return nullptr;
-    }
-    return nullptr;
-}
-
-void* const kGone = &ledger;
-
-void Enter(void* address, std::size_t size) {
-    std::memset(static_cast<unsigned char*>(address) + size, kPattern, kGuardBytes);
-    if (Block* stale = Find(address)) {
-        stale->size = size;
-        return;
-    }
-    for (std::size_t i = 0, slot = HomeSlot(address); i < kSlots; ++i, slot = (slot + 1) % kSlots) {
-        if (ledger.blocks[slot].address == nullptr || ledger.blocks[slot].address == kGone) {
-            ledger.blocks[slot] = {address, size};
-            ++ledger.live;
-            return;
-        }
-    }
-    std::abort();
-}
-
-bool Intact(const Block& block) {
-    const auto* guard = static_cast<const unsigned char*>(block.address) + block.size;
+bool Intact(const std::pair<void* const, std::size_t>& block) {
+    const auto* guard = static_cast<const unsigned char*>(block.first) + block.second;
     for (std::size_t i = 0; i < kGuardBytes; ++i)
         if (guard[i] != kPattern)
             return false;
@@ -81,19 +49,21 @@ void* Allocate(std::size_t size) noexcept {
     if (size > SIZE_MAX - kGuardBytes)
         return nullptr;
     void* block = std::malloc(size + kGuardBytes);
-    if (block != nullptr)
-        Enter(block, size);
+    if (block != nullptr) {
+        std::memset(static_cast<unsigned char*>(block) + size, kPattern, kGuardBytes);
+        const Pause pause;
+        ledger.blocks[block] = size;
+    }
     return block;
 }
 
 void Free(void* address) noexcept {
-    if (address == nullptr)
-        return;
     if (ledger.active) {
-        if (Block* block = Find(address)) {
+        const auto block = ledger.blocks.find(address);
+        if (block != ledger.blocks.end()) {
             ledger.damaged += !Intact(*block);
-            block->address = kGone;
-            --ledger.live;
+            const Pause pause;
+            ledger.blocks.erase(block);
         }
     }
     std::free(address);
@@ -148,9 +118,7 @@ namespace testkit {
 AllocationGuard::AllocationGuard() {
     if (ledger.active)
         std::abort();
-    ledger.failAt = ledger.count = ledger.live = ledger.damaged = 0;
-    ledger.failed = false;
-    ledger.blocks.fill({});
+    ledger = {};
     ledger.active = true;
 }
 
@@ -170,14 +138,13 @@ int AllocationGuard::Count() const {
     return ledger.count;
 }
 int AllocationGuard::Live() const {
-    return ledger.live;
+    return static_cast<int>(ledger.blocks.size());
 }
 
 int AllocationGuard::Damaged() const {
     int damaged = ledger.damaged;
-    for (const Block& block : ledger.blocks)
-        if (block.address != nullptr && block.address != kGone)
-            damaged += !Intact(block);
+    for (const auto& block : ledger.blocks)
+        damaged += !Intact(block);
     return damaged;
 }
 

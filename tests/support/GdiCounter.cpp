@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <ostream>
 
 namespace testkit {
@@ -19,6 +20,15 @@ struct GdiEntry {
     std::uint64_t user;
 };
 static_assert(sizeof(GdiEntry) == 24, "the table's entries are 24 bytes");
+
+/// What the low bits of a handle's upper half say; the last row stands for all other kinds.
+constexpr struct {
+    unsigned code;
+    int ObjectCounts::*count;
+} kKinds[] = {{0x01, &ObjectCounts::dcs},     {0x21, &ObjectCounts::dcs},     {0x41, &ObjectCounts::dcs},
+              {0x04, &ObjectCounts::regions}, {0x09, &ObjectCounts::bitmaps}, {0x0A, &ObjectCounts::fonts},
+              {0x10, &ObjectCounts::brushes}, {0x30, &ObjectCounts::pens},    {0x50, &ObjectCounts::pens},
+              {0, &ObjectCounts::otherGdi}};
 
 constexpr std::size_t kMaxGdiEntries = 0x10000;
 constexpr UINT_PTR kLastUserHandle = 0xFFFE;
@@ -47,40 +57,15 @@ std::size_t ReadableEntries(const GdiEntry* table) {
 }
 
 void CountGdi(ObjectCounts& counts) {
-    constexpr unsigned kDc = 0x01, kMetafileDc = 0x21, kMemoryDc = 0x41;
-    constexpr unsigned kRegion = 0x04, kBitmap = 0x09, kFont = 0x0A, kBrush = 0x10, kPen = 0x30,
-                       kWidePen = 0x50;
     const GdiEntry* table = GdiTable();
     const std::size_t entries = ReadableEntries(table);
     for (std::size_t i = 0; i < entries; ++i) {
         if (table[i].type == 0)
             continue;
-        switch (table[i].upper & 0x7F) {
-        case kDc:
-        case kMetafileDc:
-        case kMemoryDc:
-            ++counts.dcs;
-            break;
-        case kRegion:
-            ++counts.regions;
-            break;
-        case kBitmap:
-            ++counts.bitmaps;
-            break;
-        case kFont:
-            ++counts.fonts;
-            break;
-        case kBrush:
-            ++counts.brushes;
-            break;
-        case kPen:
-        case kWidePen:
-            ++counts.pens;
-            break;
-        default:
-            ++counts.otherGdi;
-            break;
-        }
+        const auto* kind = std::begin(kKinds);
+        while (kind->code != 0 && kind->code != (table[i].upper & 0x7Fu))
+            ++kind;
+        ++(counts.*kind->count);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace testkit {
 namespace {
@@ -21,15 +22,14 @@ bool IsDialog(HWND window) {
 
 UINT IconOf(HWND picture) {
     const auto shown = reinterpret_cast<HICON>(SendMessage(picture, STM_GETICON, 0, 0));
-    if (shown == nullptr)
-        return 0;
-    if (shown == LoadIcon(nullptr, IDI_HAND))
-        return MB_ICONHAND;
-    if (shown == LoadIcon(nullptr, IDI_QUESTION))
-        return MB_ICONQUESTION;
-    if (shown == LoadIcon(nullptr, IDI_EXCLAMATION))
-        return MB_ICONEXCLAMATION;
-    return shown == LoadIcon(nullptr, IDI_ASTERISK) ? MB_ICONASTERISK : 0;
+    const std::pair<LPCSTR, UINT> icons[] = {{IDI_HAND, MB_ICONHAND},
+                                             {IDI_QUESTION, MB_ICONQUESTION},
+                                             {IDI_EXCLAMATION, MB_ICONEXCLAMATION},
+                                             {IDI_ASTERISK, MB_ICONASTERISK}};
+    for (const auto& [name, icon] : icons)
+        if (shown != nullptr && shown == LoadIconA(nullptr, name))
+            return icon;
+    return 0;
 }
 
 } // namespace

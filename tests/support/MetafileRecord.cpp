@@ -36,20 +36,16 @@ std::string MetafileRecord::Line() const {
             line << " " << point.x << "," << point.y;
     };
     switch (kind) {
-    case kLine:
-        line << "line";
-        write_points(points);
-        line << " pen " << state.pen;
-        break;
     case kRectangle:
     case kEllipse:
         line << (kind == kRectangle ? "rect " : "ellipse ") << BoxText(box) << " pen " << state.pen
              << " brush " << state.brush;
         break;
+    case kLine:
     case kPolygon:
-        line << "polygon";
+        line << (kind == kLine ? "line" : "polygon");
         write_points(points);
-        line << " pen " << state.pen << " brush " << state.brush;
+        line << " pen " << state.pen << (kind == kLine ? "" : " brush " + state.brush);
         break;
     case kRegion:
         line << "region " << BoxText(box) << " brush " << brush;

@@ -1,6 +1,7 @@
 #include "tests/support/MetafileRecorder.h"
 
 #include <algorithm>
+#include <functional>
 #include <sstream>
 #include <stdexcept>
 
@@ -9,6 +10,10 @@ namespace {
 
 constexpr DWORD kStockObject = 0x80000000;
 constexpr DWORD kSmallTextOut = 108;
+/// State that no test looks at.
+constexpr DWORD kUnread[] = {EMR_SETBKCOLOR,        EMR_SETROP2,        EMR_SETPOLYFILLMODE,
+                             EMR_SETSTRETCHBLTMODE, EMR_SETWINDOWORGEX, EMR_SETVIEWPORTORGEX,
+                             EMR_SETBRUSHORGEX,     EMR_SETMITERLIMIT,  EMR_SETLAYOUT};
 
 template <class T> const T& As(const ENHMETARECORD& record) {
     return reinterpret_cast<const T&>(record);
@@ -100,44 +105,41 @@ void MetafileRecorder::Close() {
             m_faults += "still selected at the end: " + m_objects[entry.second].value + "; ";
 }
 
-std::vector<std::string> MetafileRecorder::Lines(unsigned kinds) const {
+template <class Wanted, class Text>
+std::vector<std::string> MetafileRecorder::Collect(Wanted wanted, Text text) const {
     std::vector<std::string> lines;
     for (const MetafileRecord& record : m_records)
-        if ((record.kind & kinds) != 0)
-            lines.push_back(record.Line());
+        if (wanted(record))
+            lines.push_back(text(record));
     return lines;
+}
+
+std::vector<std::string> MetafileRecorder::Lines(unsigned kinds) const {
+    return Collect([&](auto& record) { return (record.kind & kinds) != 0; },
+                   std::mem_fn(&MetafileRecord::Line));
 }
 
 std::vector<std::string> MetafileRecorder::ClippedLines(unsigned kinds) const {
-    std::vector<std::string> lines;
-    for (const MetafileRecord& record : m_records)
-        if ((record.kind & kinds) != 0 && (record.kind != kText || !record.text.empty()))
-            lines.push_back(record.Line() + " in " + record.ClipText());
-    return lines;
+    return Collect(
+        [&](auto& record) {
+            return (record.kind & kinds) != 0 && (record.kind != kText || !record.text.empty());
+        },
+        [](auto& record) { return record.Line() + " in " + record.ClipText(); });
 }
 
 std::vector<std::string> MetafileRecorder::LinesFrom(const std::string& start) const {
-    std::vector<std::string> lines;
-    for (const std::string& line : Lines(kAll))
-        if (line.compare(0, start.size(), start) == 0)
-            lines.push_back(line);
-    return lines;
+    return Collect([&](auto& record) { return record.Line().compare(0, start.size(), start) == 0; },
+                   std::mem_fn(&MetafileRecord::Line));
 }
 
 std::vector<std::string> MetafileRecorder::Strokes(const std::string& pen) const {
-    std::vector<std::string> lines;
-    for (const MetafileRecord& record : m_records)
-        if (record.kind == kLine && record.state.pen == pen)
-            lines.push_back(record.Line());
-    return lines;
+    return Collect([&](auto& record) { return record.kind == kLine && record.state.pen == pen; },
+                   std::mem_fn(&MetafileRecord::Line));
 }
 
 std::vector<std::string> MetafileRecorder::Texts() const {
-    std::vector<std::string> texts;
-    for (const MetafileRecord& record : m_records)
-        if (record.kind == kText && !record.text.empty())
-            texts.push_back(record.text);
-    return texts;
+    return Collect([](auto& record) { return record.kind == kText && !record.text.empty(); },
+                   std::mem_fn(&MetafileRecord::text));
 }
 
 std::string MetafileRecorder::ObjectFaults(std::vector<std::string> lasting) const {
@@ -305,16 +307,6 @@ bool MetafileRecorder::ReadState(const Header& record) {
         }
         return true;
     }
-    case EMR_SETBKCOLOR:
-    case EMR_SETROP2:
-    case EMR_SETPOLYFILLMODE:
-    case EMR_SETSTRETCHBLTMODE:
-    case EMR_SETWINDOWORGEX:
-    case EMR_SETVIEWPORTORGEX:
-    case EMR_SETBRUSHORGEX:
-    case EMR_SETMITERLIMIT:
-    case EMR_SETLAYOUT:
-        return true;
     case EMR_EXTSELECTCLIPRGN:
     case EMR_INTERSECTCLIPRECT:
     case EMR_EXCLUDECLIPRECT:
@@ -322,7 +314,7 @@ bool MetafileRecorder::ReadState(const Header& record) {
         ReadClip(record);
         return true;
     default:
-        return false;
+        return std::count(std::begin(kUnread), std::end(kUnread), record.iType) > 0;
     }
 }
 
@@ -369,16 +361,12 @@ bool MetafileRecorder::ReadShape(const Header& record) {
     case EMR_ELLIPSE:
         Add(kEllipse).box = FullBox(As<EMRELLIPSE>(record).rclBox);
         return true;
-    case EMR_POLYGON: {
-        const auto& poly = As<EMRPOLYGON>(record);
-        Add(kPolygon).points = PointsOf(poly.aptl, poly.cptl);
+    case EMR_POLYGON:
+        Add(kPolygon).points = PointsOf(As<EMRPOLYGON>(record).aptl, As<EMRPOLYGON>(record).cptl);
         return true;
-    }
-    case EMR_POLYGON16: {
-        const auto& poly = As<EMRPOLYGON16>(record);
-        Add(kPolygon).points = PointsOf(poly.apts, poly.cpts);
+    case EMR_POLYGON16:
+        Add(kPolygon).points = PointsOf(As<EMRPOLYGON16>(record).apts, As<EMRPOLYGON16>(record).cpts);
         return true;
-    }
     case EMR_POLYLINE:
     case EMR_POLYLINETO:
     case EMR_POLYLINE16:

@@ -113,6 +113,7 @@ private:
     using Header = ENHMETARECORD;
 
     static int CALLBACK Enumerate(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM self);
+    template <class Wanted, class Text> std::vector<std::string> Collect(Wanted wanted, Text text) const;
     void Read(const Header& record);
     bool ReadObject(const Header& record);
     bool ReadState(const Header& record);

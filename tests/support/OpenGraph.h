@@ -14,100 +14,38 @@ namespace testkit {
 /// operations note that they were called.
 template <class Base> class OpenGraphOf : public Base {
 public:
-    using CGraphCtrl::CalcBarSize;
-    using CGraphCtrl::DrawCaption;
-    using CGraphCtrl::DrawGraph;
-    using CGraphCtrl::DrawIconMaximize;
-    using CGraphCtrl::DrawLegend;
-    using CGraphCtrl::DrawTitle;
-    using CGraphCtrl::DrawYAxis;
-    using CGraphCtrl::GetIndexFromPt;
-    using CGraphCtrl::GetPtFromIndex;
-    using CGraphCtrl::GetTitleTextHeight;
-    using CGraphCtrl::RegisterWindowClass;
-    using CGraphCtrl::SendRemoveDataNotifyMessage;
-    using CGraphCtrl::SendSelchangeNotifyMessage;
-    using CGraphCtrl::SetMapModeAnisotropic;
+    using CGraphCtrl::CalcBarSize, CGraphCtrl::DrawCaption, CGraphCtrl::DrawGraph,
+        CGraphCtrl::DrawIconMaximize, CGraphCtrl::DrawLegend, CGraphCtrl::DrawTitle, CGraphCtrl::DrawYAxis,
+        CGraphCtrl::GetIndexFromPt, CGraphCtrl::GetPtFromIndex, CGraphCtrl::GetTitleTextHeight,
+        CGraphCtrl::RegisterWindowClass, CGraphCtrl::SendRemoveDataNotifyMessage,
+        CGraphCtrl::SendSelchangeNotifyMessage, CGraphCtrl::SetMapModeAnisotropic;
 
-    using CGraphCtrl::m_AutoXVisible;
-    using CGraphCtrl::m_AxisColor;
-    using CGraphCtrl::m_BkColor;
-    using CGraphCtrl::m_BoxCursorColor;
-    using CGraphCtrl::m_CaptionColor;
-    using CGraphCtrl::m_CaptionFontFace;
-    using CGraphCtrl::m_CaptionFontSize;
-    using CGraphCtrl::m_CaptionTextColor;
-    using CGraphCtrl::m_Datasets;
-    using CGraphCtrl::m_GraphStyle;
-    using CGraphCtrl::m_GridColor;
-    using CGraphCtrl::m_GridX;
-    using CGraphCtrl::m_GridY;
-    using CGraphCtrl::m_IconMaximized;
-    using CGraphCtrl::m_IconMaximizePressed;
-    using CGraphCtrl::m_IconMaximizeTracking;
-    using CGraphCtrl::m_LegendColor;
-    using CGraphCtrl::m_LegendFont;
-    using CGraphCtrl::m_LegendItemHeight;
-    using CGraphCtrl::m_LegendMargin;
-    using CGraphCtrl::m_LegendTextColor;
-    using CGraphCtrl::m_LegendWidth;
-    using CGraphCtrl::m_LineCursorColor;
-    using CGraphCtrl::m_rectCaption;
-    using CGraphCtrl::m_rectClient;
-    using CGraphCtrl::m_rectClientInner;
-    using CGraphCtrl::m_rectIconMaximize;
-    using CGraphCtrl::m_rectLegend;
-    using CGraphCtrl::m_rectPlot;
-    using CGraphCtrl::m_rectTitle;
-    using CGraphCtrl::m_rectXAxis;
-    using CGraphCtrl::m_rectXTickLabel;
-    using CGraphCtrl::m_rectY2Axis;
-    using CGraphCtrl::m_rectY2TickLabel;
-    using CGraphCtrl::m_rectYAxis;
-    using CGraphCtrl::m_rectYTickLabel;
-    using CGraphCtrl::m_ReservedValue;
-    using CGraphCtrl::m_SelectionMarkPos;
-    using CGraphCtrl::m_ShowBorder;
-    using CGraphCtrl::m_ShowIconMaximize;
-    using CGraphCtrl::m_ShowLegend;
-    using CGraphCtrl::m_ShowLegendBoard;
-    using CGraphCtrl::m_ShowMenuRemoveDataBeforeSelectionMark;
-    using CGraphCtrl::m_ShowXLabel;
-    using CGraphCtrl::m_ShowY2Label;
-    using CGraphCtrl::m_ShowYLabel;
-    using CGraphCtrl::m_Title;
-    using CGraphCtrl::m_TitleColor;
-    using CGraphCtrl::m_TitleStyle;
-    using CGraphCtrl::m_UnitFont;
-    using CGraphCtrl::m_XLabel;
-    using CGraphCtrl::m_XLabelColor;
-    using CGraphCtrl::m_XTickLabelColor;
-    using CGraphCtrl::m_XTickLabelDown;
-    using CGraphCtrl::m_XTickLabelFont;
-    using CGraphCtrl::m_XTickLabelHeight;
-    using CGraphCtrl::m_XTickLabelUp;
-    using CGraphCtrl::m_XTickLabelUpStringMaxLength;
-    using CGraphCtrl::m_XVisibleMax;
-    using CGraphCtrl::m_XVisibleMin;
-    using CGraphCtrl::m_Y2Label;
-    using CGraphCtrl::m_Y2LabelColor;
-    using CGraphCtrl::m_Y2TickLabelColor;
-    using CGraphCtrl::m_Y2TickLabelScale;
-    using CGraphCtrl::m_Y2TickLabelWidth;
-    using CGraphCtrl::m_Y2Unit;
-    using CGraphCtrl::m_Y2UnitExponent;
-    using CGraphCtrl::m_Y2VisibleMax;
-    using CGraphCtrl::m_Y2VisibleMin;
-    using CGraphCtrl::m_YLabel;
-    using CGraphCtrl::m_YLabelColor;
-    using CGraphCtrl::m_YTickLabelColor;
-    using CGraphCtrl::m_YTickLabelFont;
-    using CGraphCtrl::m_YTickLabelScale;
-    using CGraphCtrl::m_YTickLabelWidth;
-    using CGraphCtrl::m_YUnit;
-    using CGraphCtrl::m_YUnitExponent;
-    using CGraphCtrl::m_YVisibleMax;
-    using CGraphCtrl::m_YVisibleMin;
+    using CGraphCtrl::m_AutoXVisible, CGraphCtrl::m_AxisColor, CGraphCtrl::m_BkColor,
+        CGraphCtrl::m_BoxCursorColor, CGraphCtrl::m_CaptionColor, CGraphCtrl::m_CaptionFontFace,
+        CGraphCtrl::m_CaptionFontSize, CGraphCtrl::m_CaptionTextColor, CGraphCtrl::m_Datasets,
+        CGraphCtrl::m_GraphStyle, CGraphCtrl::m_GridColor, CGraphCtrl::m_GridX, CGraphCtrl::m_GridY,
+        CGraphCtrl::m_IconMaximized, CGraphCtrl::m_IconMaximizePressed, CGraphCtrl::m_IconMaximizeTracking,
+        CGraphCtrl::m_LegendColor, CGraphCtrl::m_LegendFont, CGraphCtrl::m_LegendItemHeight,
+        CGraphCtrl::m_LegendMargin, CGraphCtrl::m_LegendTextColor, CGraphCtrl::m_LegendWidth,
+        CGraphCtrl::m_LineCursorColor, CGraphCtrl::m_rectCaption, CGraphCtrl::m_rectClient,
+        CGraphCtrl::m_rectClientInner, CGraphCtrl::m_rectIconMaximize, CGraphCtrl::m_rectLegend,
+        CGraphCtrl::m_rectPlot, CGraphCtrl::m_rectTitle, CGraphCtrl::m_rectXAxis,
+        CGraphCtrl::m_rectXTickLabel, CGraphCtrl::m_rectY2Axis, CGraphCtrl::m_rectY2TickLabel,
+        CGraphCtrl::m_rectYAxis, CGraphCtrl::m_rectYTickLabel, CGraphCtrl::m_ReservedValue,
+        CGraphCtrl::m_SelectionMarkPos, CGraphCtrl::m_ShowBorder, CGraphCtrl::m_ShowIconMaximize,
+        CGraphCtrl::m_ShowLegend, CGraphCtrl::m_ShowLegendBoard,
+        CGraphCtrl::m_ShowMenuRemoveDataBeforeSelectionMark, CGraphCtrl::m_ShowXLabel,
+        CGraphCtrl::m_ShowY2Label, CGraphCtrl::m_ShowYLabel, CGraphCtrl::m_Title, CGraphCtrl::m_TitleColor,
+        CGraphCtrl::m_TitleStyle, CGraphCtrl::m_UnitFont, CGraphCtrl::m_XLabel, CGraphCtrl::m_XLabelColor,
+        CGraphCtrl::m_XTickLabelColor, CGraphCtrl::m_XTickLabelDown, CGraphCtrl::m_XTickLabelFont,
+        CGraphCtrl::m_XTickLabelHeight, CGraphCtrl::m_XTickLabelUp, CGraphCtrl::m_XTickLabelUpStringMaxLength,
+        CGraphCtrl::m_XVisibleMax, CGraphCtrl::m_XVisibleMin, CGraphCtrl::m_Y2Label,
+        CGraphCtrl::m_Y2LabelColor, CGraphCtrl::m_Y2TickLabelColor, CGraphCtrl::m_Y2TickLabelScale,
+        CGraphCtrl::m_Y2TickLabelWidth, CGraphCtrl::m_Y2Unit, CGraphCtrl::m_Y2UnitExponent,
+        CGraphCtrl::m_Y2VisibleMax, CGraphCtrl::m_Y2VisibleMin, CGraphCtrl::m_YLabel,
+        CGraphCtrl::m_YLabelColor, CGraphCtrl::m_YTickLabelColor, CGraphCtrl::m_YTickLabelFont,
+        CGraphCtrl::m_YTickLabelScale, CGraphCtrl::m_YTickLabelWidth, CGraphCtrl::m_YUnit,
+        CGraphCtrl::m_YUnitExponent, CGraphCtrl::m_YVisibleMax, CGraphCtrl::m_YVisibleMin;
 
     /// Calls of virtual operations in order: "xaxis 4", "data", "reset labels".
     std::vector<std::string> calls;

@@ -10,11 +10,8 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::ChartStyle;
-using monitor::CMonitorChart;
-using monitor::CMonitorGraph;
-using recording::PairChoice;
-using recording::PairKind;
+using monitor::ChartStyle, monitor::CMonitorChart, monitor::CMonitorGraph, recording::PairChoice,
+    recording::PairKind;
 
 class ChartPage : public FrameWithPage {
 protected:

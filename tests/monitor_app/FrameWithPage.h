@@ -17,8 +17,7 @@ namespace kavlix::test {
 class FrameWithPage : public testing::Test {
 protected:
     struct Frame : monitor::CMainFrame {
-        using CMainFrame::CMainFrame;
-        using CMainFrame::PreTranslateMessage;
+        using CMainFrame::CMainFrame, CMainFrame::PreTranslateMessage;
     };
 
     ~FrameWithPage() override { Close(); }

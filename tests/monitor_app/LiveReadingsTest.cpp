@@ -10,10 +10,7 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::InterfaceCounters;
-using monitor::LiveReadings;
-using monitor::MachineCounters;
-using monitor::MachineRates;
+using monitor::InterfaceCounters, monitor::LiveReadings, monitor::MachineCounters, monitor::MachineRates;
 
 MachineCounters Counters(double seconds, std::uint64_t idle, std::uint64_t total,
                          std::vector<InterfaceCounters> net) {

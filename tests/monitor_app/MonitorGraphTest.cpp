@@ -10,9 +10,7 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::CMonitorGraph;
-using monitor::GraphSettings;
-using monitor::GraphSource;
+using monitor::CMonitorGraph, monitor::GraphSettings, monitor::GraphSource;
 
 /// The graph with a view of what it has set.
 class Graph : public testkit::OpenGraphOf<CMonitorGraph> {

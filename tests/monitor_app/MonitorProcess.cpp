@@ -3,14 +3,11 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
-#include <stdexcept>
 
 #include <objidl.h>
 namespace Gdiplus {
-using std::max;
-using std::min;
+using std::max, std::min;
 } // namespace Gdiplus
 #include <gdiplus.h>
 
@@ -47,25 +44,6 @@ std::string CommandLine(const std::vector<std::string>& arguments) {
 
 } // namespace
 
-TempFolder::TempFolder() {
-    static int count = 0;
-    m_path = (std::filesystem::temp_directory_path() /
-              ("kavlix-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count)))
-                 .string();
-    if (!std::filesystem::create_directory(m_path))
-        throw std::runtime_error("no folder " + m_path);
-}
-
-TempFolder::~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
-
-std::string TempFolder::Write(const std::string& name, const std::string& content) const {
-    std::ofstream(Path(name), std::ios::binary) << content;
-    return Path(name);
-}
-
 MonitorRun RunMonitor(const std::vector<std::string>& arguments) {
     MonitorRun run;
     const TempFolder folder;
@@ -97,10 +75,9 @@ MonitorRun RunMonitor(const std::vector<std::string>& arguments) {
 int Picture::Count(std::uint32_t rgb, int fromX, int toX) const {
     int count = 0;
     const int end = toX < 0 ? width : std::min(toX, width);
-    for (int y = 0; y < height; ++y) {
+    for (int y = 0; y < height; ++y)
         for (int x = fromX; x < end; ++x)
             count += At(x, y) == rgb;
-    }
     return count;
 }
 

@@ -1,28 +1,14 @@
 #pragma once
 
+#include "tests/support/TempFolder.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace kavlix::test {
 
-/// A new folder for the files of one test, removed with all files in it at the end.
-class TempFolder {
-public:
-    TempFolder();
-    ~TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    /// Path of a file in the folder.
-    std::string Path(const std::string& name) const { return m_path + "\\" + name; }
-
-    /// Writes a file; returns its path.
-    std::string Write(const std::string& name, const std::string& content) const;
-
-private:
-    std::string m_path;
-};
+using testkit::TempFolder;
 
 /// What a run of KavlixMonitor.exe left behind.
 struct MonitorRun {

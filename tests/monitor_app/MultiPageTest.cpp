@@ -11,9 +11,7 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::CMultiGraphView;
-using monitor::CMultiOptionsPanel;
-using monitor::GraphTypeChoices;
+using monitor::CMultiGraphView, monitor::CMultiOptionsPanel, monitor::GraphTypeChoices;
 
 struct Inside : CGraph {
     static int Low(const CGraph& graph) { return graph.*(&Inside::minTick); }

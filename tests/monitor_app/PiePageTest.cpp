@@ -10,8 +10,7 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::CMonitorGraph;
-using monitor::CMonitorPie;
+using monitor::CMonitorGraph, monitor::CMonitorPie;
 
 struct Inside : CMonitorPie {
     static CRect Square(const CMonitorPie& pie) { return pie.*(&Inside::m_rcPie); }

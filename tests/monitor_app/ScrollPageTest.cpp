@@ -16,13 +16,8 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::CMonitorScrollGraph;
-using monitor::CScrollPage;
-using monitor::GraphSettings;
-using monitor::LiveReadings;
-using monitor::MachineRates;
-using monitor::PageContent;
-using recording::Time;
+using monitor::CMonitorScrollGraph, monitor::CScrollPage, monitor::GraphSettings, monitor::LiveReadings,
+    monitor::MachineRates, monitor::PageContent, recording::Time;
 
 constexpr Time S = recording::kMicrosPerSecond;
 constexpr double kX = 20; // x units a second
@@ -384,9 +379,7 @@ TEST_F(ScrollPage, LabelsAndTindroTellTheTimesOfTheFile) {
         Record({start, start + S, start + 2 * S, start + 3 * S}, 2, S);
         m_said.clear();
         m_graph[1]->SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK);
-        if (&day == days) {
-            EXPECT_EQ(m_said, "For Tindro: nothing is marked");
-        }
+        EXPECT_TRUE(&day != days || m_said == "For Tindro: nothing is marked") << m_said;
         Click(1, 3);
         m_graph[1]->SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK);
         std::string text = recording::FormatExact(start + 3 * S);

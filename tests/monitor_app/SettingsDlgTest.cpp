@@ -11,9 +11,7 @@
 namespace kavlix::test {
 namespace {
 
-using monitor::CSettingsDlg;
-using monitor::GraphSettings;
-using monitor::GraphSource;
+using monitor::CSettingsDlg, monitor::GraphSettings, monitor::GraphSource;
 
 GraphSource Waves(std::size_t series) {
     std::vector<std::string> names;

@@ -98,7 +98,7 @@ void CChartDraw::DrawLine(CDC& dc, const Dataset& dataset) const {
     POINT origin = {0, 0};
     ::LPtoDP(dc.GetSafeHdc(), &origin, 1);
     if (dataset.lineSize > kPixelSize) {
-        WideStrokes strokes(dc, dataset.lineSize, raster, colour.value_or(0), origin);
+        WideStrokes strokes(dc, dataset.lineSize, ToRect(view), raster, colour.value_or(0), origin);
         ReducedPath path(ToRect(view), [&](const Point* points, int count) { strokes.Draw(points, count); });
         walk(path);
     } else if (raster) {

@@ -1,12 +1,14 @@
 // The pixels of short wide strokes, as GDI draws them: learned once for each width and direction.
 #include "chartdraw/ChartDrawWideLine.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <map>
 
 #include "gdi/Guards.h"
 #include "gdi/Scratch.h"
+#include "graphctrl/StrokeCut.h"
 
 namespace kavlix {
 
@@ -15,6 +17,16 @@ namespace {
 constexpr int kLongest = 255; // rows; longer strokes are left to GDI
 constexpr int kDirections = 3;
 constexpr int kLengths = 2 * kLongest + 1;
+constexpr int kFar = 1 << 13;     // pixels
+constexpr int kVeryFar = 1 << 17; // pixels
+/// So many strokes of a line go whole from very far away to very far away. Each takes GDI up to a tenth of a
+/// second; of more, the part near the view is drawn, whose edges may be rounded otherwise.
+constexpr int kMostWholeStrokes = 1;
+constexpr int kMargin = 32; // pixels
+
+bool IsFar(const Point& point, int limit = kFar) {
+    return std::max(std::abs(point.x), std::abs(point.y)) > limit;
+}
 
 } // namespace
 
@@ -26,9 +38,9 @@ struct WideStrokes::Shapes {
     std::array<Entry, kDirections * kLengths> entries;
 };
 
-WideStrokes::WideStrokes(CDC& dc, int width, const std::optional<PixelRaster>& raster, std::uint32_t colour,
-                         const POINT& origin)
-    : m_dc(dc), m_width(width), m_raster(raster), m_colour(colour), m_origin(origin) {
+WideStrokes::WideStrokes(CDC& dc, int width, const Rect& view, const std::optional<PixelRaster>& raster,
+                         std::uint32_t colour, const POINT& origin)
+    : m_dc(dc), m_width(width), m_view(view), m_raster(raster), m_colour(colour), m_origin(origin) {
     if (m_raster)
         m_shapes = &ShapesOf(width);
 }
@@ -50,8 +62,7 @@ void WideStrokes::Draw(const Point* points, int count) {
         const Point& to = points[i];
         const Shape* shape = m_shapes != nullptr ? Find(to.x - from.x, to.y - from.y) : nullptr;
         if (shape == nullptr) {
-            m_dc.MoveTo(from.x, from.y);
-            m_dc.LineTo(to.x, to.y);
+            DrawByGdi(from, to);
             continue;
         }
         const int x = from.x + static_cast<int>(m_origin.x);
@@ -59,6 +70,24 @@ void WideStrokes::Draw(const Point* points, int count) {
         for (const Rect& part : *shape)
             m_raster->Fill({part.left + x, part.top + y, part.right + x, part.bottom + y}, m_colour);
     }
+}
+
+/// A stroke takes GDI what its length takes, seen or not.
+void WideStrokes::DrawByGdi(Point from, Point to) {
+    std::vector<Point> cut;
+    if (IsFar(from) && !IsFar(to))
+        from = NearerEnd(to, from, 2 * StepsAcross(m_view, to));
+    else if (IsFar(to) && !IsFar(from))
+        to = NearerEnd(from, to, 2 * StepsAcross(m_view, from));
+    if (IsFar(from, kVeryFar) && IsFar(to, kVeryFar) && ++m_wholeStrokes > kMostWholeStrokes)
+        CutStroke(PixelLine(from, to), m_view, kMargin, cut);
+    else
+        cut = {from, to};
+    if (cut.empty())
+        return;
+    m_dc.MoveTo(cut[0].x, cut[0].y);
+    for (std::size_t i = 1; i < cut.size(); ++i)
+        m_dc.LineTo(cut[i].x, cut[i].y);
 }
 
 /// Null where GDI is to draw the stroke.

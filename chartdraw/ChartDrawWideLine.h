@@ -21,10 +21,10 @@ class Scratch;
 /// painted from then on.
 class WideStrokes {
 public:
-    /// `dc` has the pen selected, `width` pixels wide. With a `raster` logical units are pixels, their origin
-    /// at `origin`.
-    WideStrokes(CDC& dc, int width, const std::optional<PixelRaster>& raster, std::uint32_t colour,
-                const POINT& origin);
+    /// `dc` has the pen selected, `width` pixels wide; what the pen paints of strokes that pass by `view` is
+    /// not seen. With a `raster` logical units are pixels, their origin at `origin`.
+    WideStrokes(CDC& dc, int width, const Rect& view, const std::optional<PixelRaster>& raster,
+                std::uint32_t colour, const POINT& origin);
     ~WideStrokes();
     WideStrokes(const WideStrokes&) = delete;
     WideStrokes& operator=(const WideStrokes&) = delete;
@@ -37,14 +37,17 @@ private:
     struct Shapes;
 
     static Shapes& ShapesOf(int width);
+    void DrawByGdi(Point from, Point to);
     const Shape* Find(int dx, int dy);
     bool Learn(int dx, int dy, Shape& shape);
 
     CDC& m_dc;
     int m_width;
+    Rect m_view;
     std::optional<PixelRaster> m_raster;
     std::uint32_t m_colour;
     POINT m_origin;
+    int m_wholeStrokes = 0; ///< from far away to far away
     Shapes* m_shapes = nullptr;
     std::unique_ptr<Scratch> m_scratch; ///< where GDI draws a stroke that is not known yet
 };

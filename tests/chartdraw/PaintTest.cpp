@@ -264,6 +264,20 @@ TEST_F(ChartPaintTest, RandomViewsEqualThePlainWalk) {
     }
 }
 
+TEST_F(ChartPaintTest, WideStrokesToFarPlacesEndNearThePlot) {
+    chart.SetLineSize(Add({0.5, 5e5, 0.2, -1e9}), 5);
+    chart.SetXScale(0, 4);
+    chart.SetYScale(0, 1);
+    testkit::MetafileRecorder recorder;
+    Record(recorder, [&](CDC& dc) { chart.DrawDatasets(dc); });
+    int reach = 0; // GDI takes for a stroke what its length takes
+    for (const testkit::MetafileRecord& record : recorder.Records())
+        for (const POINT& point : record.points)
+            reach =
+                std::max({reach, std::abs(static_cast<int>(point.x)), std::abs(static_cast<int>(point.y))});
+    EXPECT_TRUE(reach > 200 && reach < 20000) << reach;
+}
+
 TEST_F(ChartPaintTest, MarkersOfManyPointsAreThoseOfEachPoint) {
     HideTexts();
     chart.replaced = "axes";

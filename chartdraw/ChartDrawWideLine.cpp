@@ -17,15 +17,10 @@ namespace {
 constexpr int kLongest = 255; // rows; longer strokes are left to GDI
 constexpr int kDirections = 3;
 constexpr int kLengths = 2 * kLongest + 1;
-constexpr int kFar = 1 << 13;     // pixels
-constexpr int kVeryFar = 1 << 17; // pixels
-/// So many strokes of a line go whole from very far away to very far away. Each takes GDI up to a tenth of a
-/// second; of more, the part near the view is drawn, whose edges may be rounded otherwise.
-constexpr int kMostWholeStrokes = 1;
-constexpr int kMargin = 32; // pixels
+constexpr int kFar = 1 << 13; // pixels
 
-bool IsFar(const Point& point, int limit = kFar) {
-    return std::max(std::abs(point.x), std::abs(point.y)) > limit;
+bool IsFar(const Point& point) {
+    return std::max(std::abs(point.x), std::abs(point.y)) > kFar;
 }
 
 } // namespace
@@ -72,22 +67,21 @@ void WideStrokes::Draw(const Point* points, int count) {
     }
 }
 
-/// A stroke takes GDI what its length takes, seen or not.
+/// A stroke takes GDI what its length takes, seen or not, so far ends are brought nearer.
 void WideStrokes::DrawByGdi(Point from, Point to) {
-    std::vector<Point> cut;
-    if (IsFar(from) && !IsFar(to))
+    if (IsFar(from) && IsFar(to)) {
+        const int margin = 2 * m_width + 2;
+        if (!BringEndsNearer(
+                from, to,
+                {m_view.left - margin, m_view.top - margin, m_view.right + margin, m_view.bottom + margin}))
+            return;
+    } else if (IsFar(from)) {
         from = NearerEnd(to, from, 2 * StepsAcross(m_view, to));
-    else if (IsFar(to) && !IsFar(from))
+    } else if (IsFar(to)) {
         to = NearerEnd(from, to, 2 * StepsAcross(m_view, from));
-    if (IsFar(from, kVeryFar) && IsFar(to, kVeryFar) && ++m_wholeStrokes > kMostWholeStrokes)
-        CutStroke(PixelLine(from, to), m_view, kMargin, cut);
-    else
-        cut = {from, to};
-    if (cut.empty())
-        return;
-    m_dc.MoveTo(cut[0].x, cut[0].y);
-    for (std::size_t i = 1; i < cut.size(); ++i)
-        m_dc.LineTo(cut[i].x, cut[i].y);
+    }
+    m_dc.MoveTo(from.x, from.y);
+    m_dc.LineTo(to.x, to.y);
 }
 
 /// Null where GDI is to draw the stroke.

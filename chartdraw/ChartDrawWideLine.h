@@ -47,7 +47,6 @@ private:
     std::optional<PixelRaster> m_raster;
     std::uint32_t m_colour;
     POINT m_origin;
-    int m_wholeStrokes = 0; ///< from far away to far away
     Shapes* m_shapes = nullptr;
     std::unique_ptr<Scratch> m_scratch; ///< where GDI draws a stroke that is not known yet
 };

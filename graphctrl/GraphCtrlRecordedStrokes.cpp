@@ -13,8 +13,8 @@ namespace kavlix {
 namespace {
 
 constexpr std::size_t kMostPoints = 8192;
-/// Players of metafiles compute positions in another arithmetic: points that are chosen here keep so many
-/// units from the edges of their pixel.
+/// Units between a chosen point and the edges of its pixel: players of metafiles compute positions in another
+/// arithmetic.
 constexpr int kEdgeInset = 2;
 
 Point ToPixel(const CDC& dc, const Point& point) {
@@ -147,10 +147,47 @@ bool RecordedStrokes::AddExtremes(const SampleStore& samples, SampleStore::Reade
     return true;
 }
 
+void RecordedStrokes::Covered::Add(const Covered& other) {
+    if (other.first <= last + 1 && first <= other.last + 1) {
+        first = std::min(first, other.first);
+        last = std::max(last, other.last);
+    } else if (other.last - other.first > last - first) {
+        *this = other;
+    }
+}
+
+/// Whether the stroke between two samples of the column paints nothing new, neither at the size of the window
+/// nor at a pixel for each unit. If it does, it counts as drawn.
+bool RecordedStrokes::IsCovered(double from, double to) {
+    if (m_x != m_coveredX) {
+        m_coveredX = m_x;
+        m_coveredUnits = m_coveredRows = Covered();
+    }
+    const Point begin = Place(m_x, from);
+    const Point end = Place(m_x, to);
+    if (!IsNear(begin) || !IsNear(end))
+        return false;
+    const auto covered = [this](int a, int b) {
+        if (!m_isThin)
+            return Covered{std::min(a, b), std::max(a, b)};
+        return a < b ? Covered{a, b - 1} : Covered{b + 1, a}; // LineTo leaves the end out
+    };
+    const Covered units = covered(begin.y, end.y);
+    const Covered rows = covered(m_ground.rows.PixelOf(begin.y), m_ground.rows.PixelOf(end.y));
+    if (m_coveredUnits.Holds(units) && m_coveredRows.Holds(rows))
+        return true;
+    m_coveredUnits.Add(units);
+    m_coveredRows.Add(rows);
+    return false;
+}
+
 void RecordedStrokes::Keep(double value, int row) {
+    bool isDrawn = true;
     if (m_isOpen && m_hasMarkers) {
         DrawColumn(false);
-        From(Place(m_sample.x, m_sample.value));
+        isDrawn = m_sample.x != m_x || !IsCovered(m_sample.value, value);
+        if (isDrawn)
+            From(Place(m_sample.x, m_sample.value));
     } else if (!m_isOpen || m_x != m_keptX) {
         DrawColumn(false);
     }
@@ -164,7 +201,7 @@ void RecordedStrokes::Keep(double value, int row) {
             m_high = {m_last, m_count - 1};
         m_before = m_last;
     }
-    ++m_count;
+    m_count += isDrawn;
     m_last = value;
     m_keptX = m_x;
     m_keptPixel = m_pixel;
@@ -194,6 +231,7 @@ void RecordedStrokes::Pause() {
     DrawPart();
     if (m_hasEnd && IsNear(m_end))
         m_points.push_back({m_end.x, m_end.y});
+    m_coveredX = kCoordinateLimit + 1; // the mark may be drawn over it
 }
 
 void RecordedStrokes::End() {

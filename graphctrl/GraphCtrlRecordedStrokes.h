@@ -17,13 +17,13 @@ namespace kavlix {
 /// metafile's frame holds all that is drawn, seen or not.
 class RecordedStrokes {
 public:
-    /// Strokes go on for so many pixels beyond what can be seen.
+    /// Pixels that strokes go on beyond what can be seen.
     static constexpr int kMargin = 32;
 
     /// `window` in pixels: what can be seen, and as far beyond it as the pen reaches. The ground's pixels are
     /// those of the window and the margin round it. A line with markers goes on from each sample, since
     /// drawing the marker moves there, and not from the last point that the pixel rule kept: its strokes are
-    /// drawn one by one, as its markers are.
+    /// drawn one by one, but for those that lie in what the same column of one unit has already.
     RecordedStrokes(const LineGround& ground, const Rect& window, int penPixels, bool hasMarkers)
         : m_ground(ground), m_rows(ground.yMap, ground.rows), m_window(window), m_isThin(penPixels == 1),
           m_hasMarkers(hasMarkers) {}
@@ -55,7 +55,7 @@ public:
     void End();
 
 private:
-    /// From so many samples on, a column's extremes are looked up.
+    /// A column's extremes are looked up when it has at least this many samples.
     static constexpr int kLongColumn = 8;
     /// Up to so many samples, reading them all takes less than the search among blocks.
     static constexpr int kRun = 256;
@@ -67,6 +67,13 @@ private:
     struct Kept {
         double value;
         int order; ///< among those of the column
+    };
+    /// Rows, or units, that the strokes of one column cover without a gap.
+    struct Covered {
+        int first = 0;
+        int last = -1;
+        bool Holds(const Covered& other) const { return first <= other.first && other.last <= last; }
+        void Add(const Covered& other);
     };
 
     bool HasPixel(int column, int row) const {
@@ -101,6 +108,7 @@ private:
     }
     Point Place(int x, double value) const { return {x, m_ground.yMap.Position(value).value_or(0)}; }
     void Keep(double value, int row);
+    bool IsCovered(double from, double to);
     void DrawColumn(bool isEnd);
     void From(const Point& point);
     void To(const Point& point);
@@ -115,9 +123,12 @@ private:
     bool m_isThin;
     bool m_hasMarkers;
 
-    int m_x = kCoordinateLimit + 1; ///< of the last sample
-    int m_pixel = 0;                ///< its column
-    Sample m_sample = {};           ///< the last one, also when it was not kept; of a line with markers
+    int m_x = kCoordinateLimit + 1;        ///< of the last sample
+    int m_pixel = 0;                       ///< its column
+    Sample m_sample = {};                  ///< the last sample, kept or not; of a line with markers
+    int m_coveredX = kCoordinateLimit + 1; ///< the column of what is covered; of a line with markers
+    Covered m_coveredUnits;
+    Covered m_coveredRows;
     bool m_isOpen = false;
     // The points kept of a column of one unit; the lowest and highest of all but the last.
     int m_count = 0;

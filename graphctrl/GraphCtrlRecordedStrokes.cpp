@@ -1,3 +1,4 @@
+// Lines for metafiles and printers: what is kept of a column, and where strokes are cut.
 #include "graphctrl/GraphCtrlRecordedStrokes.h"
 
 #include <algorithm>

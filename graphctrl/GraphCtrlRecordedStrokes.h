@@ -1,3 +1,4 @@
+// Lines for metafiles and printers.
 #pragma once
 
 #include <afxwin.h>

@@ -38,7 +38,7 @@ private:
     std::optional<PixelRaster> m_raster;
     PixelEdges m_columnEdges;
     PixelEdges m_rowEdges;
-    // What is told apart: pixels, or logical units where strokes are recorded.
+    // The grid that points are grouped by: pixels, or logical units for metafiles and printers.
     PixelEdges m_placeColumns;
     PixelEdges m_placeRows;
     std::vector<PixelColumn> m_columns; ///< of places; empty when positions must be walked

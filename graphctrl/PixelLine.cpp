@@ -1,3 +1,4 @@
+// The pixels of a thin stroke, as GDI chooses them.
 #include "graphctrl/PixelLine.h"
 
 #include <algorithm>

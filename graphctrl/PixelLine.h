@@ -1,3 +1,4 @@
+// The pixels of a thin stroke, one by one or by arithmetic.
 #pragma once
 
 #include <cstdint>

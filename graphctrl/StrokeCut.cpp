@@ -1,3 +1,4 @@
+// Where strokes from far away may end instead.
 #include "graphctrl/StrokeCut.h"
 
 #include <algorithm>

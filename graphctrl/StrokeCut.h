@@ -1,3 +1,4 @@
+// Strokes that end near what can be seen, with the same pixels there.
 #pragma once
 
 #include <algorithm>

@@ -441,6 +441,16 @@ TEST_F(IdentityTest, EnlargedMetafilesToo) {
         ::DeleteEnhMetaFile(shortened);
         ::DeleteEnhMetaFile(whole);
     }
+    // 60,000 samples with markers on about a thousand places.
+    graph.ResetAll();
+    for (int k = 0; k < 60000; ++k)
+        graph.AddData(0, k * 7 % 40, nullptr);
+    graph.SetXVisibleMax(6e6);
+    graph.SetMarkerType(0, CDataset::MarkerSquare);
+    graph.isPlain = false;
+    const HENHMETAFILE dense = Record(graph);
+    EXPECT_LT(::GetEnhMetaFileBits(dense, 0, nullptr), 200000u);
+    ::DeleteEnhMetaFile(dense);
     graph.DestroyWindow();
 }
 

@@ -57,6 +57,7 @@ void ScrollLive();
 void GraphPaint(int count);
 void GraphCopy(int count);
 void GraphWindow();
+void GraphFar();
 void GraphBars();
 void GraphAppend();
 void GraphSteady();

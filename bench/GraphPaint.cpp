@@ -85,6 +85,28 @@ void GraphWindow() {
     row.Print();
 }
 
+// Lines that go up and down through the view: `beyond` is how many times as high as the view.
+void GraphFar() {
+    constexpr int kSamples = 1000;
+    constexpr int kWide = 60;
+    constexpr double kSwing = 50;
+    for (const int pen : {0, kWide})
+        for (const double beyond : {0.9, 10.0, 30.0, 100.0, 1e3, 1e5, 1e8}) {
+            GraphStage stage;
+            CGraphCtrl& graph = stage.Graph();
+            for (int i = 0; i < kSeries; ++i) {
+                graph.SetLineSize(i, pen);
+                for (int k = 0; k < kSamples; ++k)
+                    graph.AddData(i, (k % 2 == 0 ? kSwing : -kSwing) + i, nullptr);
+            }
+            graph.SetYVisibleMin(-kSwing / beyond);
+            graph.SetYVisibleMax(kSwing / beyond);
+            Row row("graph_far");
+            row.Add("pen", pen).Add("beyond", beyond);
+            AddSpread(row, "us", Time(kCopies, 1, [&] { stage.PaintIntoMemory(); })).Print();
+        }
+}
+
 void GraphStage::FillBars(int groups) {
     m_graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);
     CString text;

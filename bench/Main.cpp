@@ -28,6 +28,7 @@ constexpr struct {
     {"graph_copy_100000", [] { bench::GraphCopy(100000); }},
     {"graph_copy_1000000", [] { bench::GraphCopy(1000000); }},
     {"graph_window", &bench::GraphWindow},
+    {"graph_far", &bench::GraphFar},
     {"graph_bars", &bench::GraphBars},
     {"graph_append", &bench::GraphAppend},
     {"graph_steady", &bench::GraphSteady},

@@ -1,7 +1,6 @@
 #include "graphctrl/GraphCtrlStrokes.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "gdi/Mapping.h"
 #include "graphctrl/GraphCtrlConvert.h"
@@ -13,7 +12,7 @@ namespace kavlix {
 namespace {
 
 constexpr std::size_t kMostPoints = 8192;
-constexpr int kFar = 1 << 18; // logical units
+constexpr int kFar = 512; // pixels beyond the view
 
 } // namespace
 
@@ -145,8 +144,12 @@ void GdiStrokes::DrawBands() {
 }
 
 WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
-    const auto isFar = [](const POINT& point) {
-        return std::max(std::abs(point.x), std::abs(point.y)) > kFar;
+    // In logical units, so that no stroke near the view is converted.
+    const auto isBeyond = [](int place, int begin, int end) {
+        return place < (begin - kFar) * kUnitsPerPixel || place > (end + kFar) * kUnitsPerPixel;
+    };
+    const auto isFar = [&](const POINT& point) {
+        return isBeyond(point.x, view.left, view.right) || isBeyond(point.y, view.top, view.bottom);
     };
     if (!isFar(from) && !isFar(to))
         return Whole;

@@ -58,7 +58,7 @@ public:
 private:
     /// A column's extremes are looked up when it has at least this many samples.
     static constexpr int kLongColumn = 8;
-    /// Up to so many samples, reading them all takes less than the search among blocks.
+    /// A column of at most this many samples is read whole: the search among blocks takes longer.
     static constexpr int kRun = 256;
 
     struct Sample {

@@ -387,7 +387,7 @@ TEST_F(ScrollPage, LabelsAndTindroTellTheTimesOfTheFile) {
         text[4] = text[7] = '/';
         EXPECT_EQ(m_said, "For Tindro: the mark is at " + text);
     }
-    // The night when clocks go back: the hour that comes twice is told twice, and the labels go on.
+    // The night when clocks go back: the labels show the repeated hour twice and go on.
     std::vector<Time> night;
     for (int i = 0; i < 360; ++i)
         night.push_back(recording::FromCivil({2026, 10, 31, 23, 0, 0, 0}) + i * 60 * S);

@@ -9,7 +9,7 @@ namespace testkit {
 /// under it gets a mouse move.
 void ParkPointer();
 /// Moves the pointer to a place of `window`'s client area, presses and lets go the left button there, and
-/// delivers what comes of it. The pointer is parked again.
+/// handles the messages that follow. The pointer is parked again.
 void ClickWithPointer(HWND window, POINT client);
 
 } // namespace testkit

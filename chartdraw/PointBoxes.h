@@ -114,7 +114,9 @@ private:
     static constexpr std::size_t kLevels = 6; // more points than an int counts
 
     /// Points in a block; level 1 is the lowest.
-    static std::size_t Size(std::size_t level) { return std::size_t{1} << (kShift * level); }
+    static std::size_t Size(std::size_t level) {
+        return std::size_t{1} << (kShift * level);
+    }
     /// The highest level whose blocks have a border at point `i`.
     static std::size_t LevelAt(std::size_t i) {
         std::size_t level = 0;

@@ -8,8 +8,9 @@
 
 namespace kavlix {
 
-/// Runs `action`; false when memory or GDI's objects run out in it. The class library throws CMemoryException*
-/// and CResourceException* then, the C++ library exceptions of its own: none of these leaves.
+/// Runs `action`; false when memory or GDI's objects run out in it. The class library throws
+/// CMemoryException* and CResourceException* then, the C++ library exceptions of its own: none of these
+/// leaves.
 template <class Action> bool WithinResources(Action action) {
     try {
         action();

@@ -6,8 +6,8 @@
 
 namespace kavlix {
 
-/// Makes a picture of `bits` (24 or 32) a pixel in memory, rows from the top. False when it cannot be made. `pixels`
-/// receives where they lie, if it is not null.
+/// Makes a picture of `bits` (24 or 32) a pixel in memory, rows from the top. False when it cannot be made.
+/// `pixels` receives where they lie, if it is not null.
 bool MakeDirectBitmap(CBitmap& bitmap, HDC dc, CSize size, void** pixels = nullptr, WORD bits = 32);
 /// Gives `object` a handle that was just made; null is refused. When that takes memory and there is none, the
 /// handle is deleted.

@@ -33,8 +33,8 @@ private:
     HENHMETAFILE m_picture = nullptr;
 };
 
-/// Draws a metafile and puts it on the clipboard. False, the clipboard untouched, when memory or GDI's objects
-/// run out. A clipboard held by somebody else is not detected.
+/// Draws a metafile and puts it on the clipboard. False, the clipboard untouched, when memory or GDI's
+/// objects run out. A clipboard held by somebody else is not detected.
 bool CopyPicture(CWnd& owner, const RECT* frame, const std::function<void(CDC&)>& draw);
 
 /// Hands a picture over to the clipboard in place of its content; deletes it when the clipboard takes none.

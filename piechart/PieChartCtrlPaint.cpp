@@ -181,8 +181,8 @@ void CPieChartCtrl::DrawSelection(CDC& dc, const std::vector<PieSector>& sectors
         if (!Piece(static_cast<INT_PTR>(i)).m_bSelected || !sectors[i].IsVisible())
             continue;
         std::vector<POINT> points;
-        for (const Point& point : LineInSector(ToRect(m_rcPie), start + sectors[i].begin,
-                                               start + sectors[i].end, kSelectionInset))
+        for (const Point& point :
+             LineInSector(ToRect(m_rcPie), start + sectors[i].begin, start + sectors[i].end, kSelectionInset))
             points.push_back({point.x, point.y});
         if (!points.empty())
             dc.Polyline(points.data(), static_cast<int>(points.size()));

@@ -41,10 +41,10 @@ LONG CALLBACK EndOnFault(EXCEPTION_POINTERS* pointers) {
         return EXCEPTION_CONTINUE_SEARCH;
     const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
     char line[512];
-    const int length = ::wsprintfA(
-        line, "\nFAULT %08lX (%s) at %p, module at %p, in test %.150s.%.150s\n", record.ExceptionCode,
-        fault->name, record.ExceptionAddress, module, test != nullptr ? test->test_suite_name() : "(none)",
-        test != nullptr ? test->name() : "");
+    const int length = ::wsprintfA(line, "\nFAULT %08lX (%s) at %p, module at %p, in test %.150s.%.150s\n",
+                                   record.ExceptionCode, fault->name, record.ExceptionAddress, module,
+                                   test != nullptr ? test->test_suite_name() : "(none)",
+                                   test != nullptr ? test->name() : "");
     DWORD written = 0;
     ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), line, static_cast<DWORD>(length), &written, nullptr);
     ::TerminateProcess(::GetCurrentProcess(), record.ExceptionCode);

@@ -72,8 +72,8 @@ public:
     /// `nDataset` is outside 0..12 or, after a message box, when memory ran out; nothing has changed then.
     BOOL AddData(int nDataset, double y, double* pX);
     /// Appends the next X tick label: label i belongs to sample index i. With `down` empty, a long `up` is
-    /// broken into two lines (SetXTickLabelUpStringMaxLength). Result 1; 0, after a message box, when memory ran
-    /// out: neither text is stored then.
+    /// broken into two lines (SetXTickLabelUpStringMaxLength). Result 1; 0, after a message box, when memory
+    /// ran out: neither text is stored then.
     BOOL AddXTickLabel(CString up, CString down);
     /// Removes all samples of a dataset and the selection mark; colour, marker, line size, legend text and
     /// visibility stay. Ignored outside 0..12.

@@ -12,8 +12,8 @@ namespace kavlix {
 /// Texts in order of arrival, with the members of CStringArray but GetData and Serialize: they do not lie one
 /// behind the other. Adding never moves what is stored, and removing from the head costs what is removed.
 ///
-/// An index outside the array throws CInvalidArgException*. When memory runs out CMemoryException* is thrown and
-/// the array is as before.
+/// An index outside the array throws CInvalidArgException*. When memory runs out CMemoryException* is thrown
+/// and the array is as before.
 class LabelStore {
 public:
     INT_PTR GetSize() const { return static_cast<INT_PTR>(m_texts.Size()); }
@@ -57,9 +57,8 @@ public:
     template <class Texts> INT_PTR Append(const Texts& source) {
         const INT_PTR first = GetSize();
         const INT_PTR count = source.GetSize(); // of itself only those there were
-        AddOrNone(static_cast<std::size_t>(count), [&](std::size_t i) {
-            return CString(source.GetAt(static_cast<INT_PTR>(i)));
-        });
+        AddOrNone(static_cast<std::size_t>(count),
+                  [&](std::size_t i) { return CString(source.GetAt(static_cast<INT_PTR>(i))); });
         return first;
     }
     /// Makes this a copy of `source`, a LabelStore or CStringArray.

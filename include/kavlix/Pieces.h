@@ -82,7 +82,7 @@ private:
     using Table = std::deque<std::unique_ptr<Piece>>;
 
     std::unique_ptr<Table> m_pieces; ///< none before the first element: an empty deque has blocks of its own
-    std::size_t m_head = 0; ///< elements of the first piece that were removed
+    std::size_t m_head = 0;          ///< elements of the first piece that were removed
     std::size_t m_size = 0;
 };
 

@@ -189,11 +189,11 @@ TEST(GraphBindingTest, AnItemOfAnyClassIsTheControlAlone) {
     const struct {
         const char* windowClass;
         DWORD style;
-    } items[] = {{"MFCGraphCtrl", 0},       {"STATIC", 0},
-                 {"STATIC", SS_OWNERDRAW},  {"BUTTON", BS_PUSHBUTTON},
-                 {"BUTTON", BS_GROUPBOX},   {"EDIT", ES_MULTILINE | WS_TABSTOP},
-                 {"LISTBOX", LBS_NOTIFY},   {"COMBOBOX", CBS_DROPDOWN},
-                 {"COMBOBOX", CBS_SIMPLE},  {"SCROLLBAR", 0},
+    } items[] = {{"MFCGraphCtrl", 0},      {"STATIC", 0},
+                 {"STATIC", SS_OWNERDRAW}, {"BUTTON", BS_PUSHBUTTON},
+                 {"BUTTON", BS_GROUPBOX},  {"EDIT", ES_MULTILINE | WS_TABSTOP},
+                 {"LISTBOX", LBS_NOTIFY},  {"COMBOBOX", CBS_DROPDOWN},
+                 {"COMBOBOX", CBS_SIMPLE}, {"SCROLLBAR", 0},
                  {kNotingClass, 0}};
     const auto play = [&] {
         for (const auto& item : items) {

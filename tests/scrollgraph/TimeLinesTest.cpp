@@ -50,7 +50,7 @@ TEST_F(ScrollLinesTest, LinesRunInFromTheLeftAndOutAtTheRight) {
     const struct {
         double pos;
         int first, last, seen; // strokes far beyond the plot are left out
-    } views[] = {{0, 0, 60, 60},       {1000, 49, 110, 61},  {1007, 50, 111, 61}, {4790, 239, 299, 60},
+    } views[] = {{0, 0, 60, 60},       {1000, 49, 110, 61}, {1007, 50, 111, 61}, {4790, 239, 299, 60},
                  {4900, 244, 299, 55}, {5990, 298, 299, 1}, {1e6, 298, 299, 0},  {-500, 0, 60, 39}};
     for (const auto& view : views) {
         graph.m_dScrollPos = view.pos;

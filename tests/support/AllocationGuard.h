@@ -17,8 +17,8 @@ public:
     AllocationGuard& operator=(const AllocationGuard&) = delete;
     ~AllocationGuard();
 
-    /// Lets the n-th allocation from now on (1 = the next) fail, once: the new-handler throws, as in any host,
-    /// CMemoryException*. 0 calls it off.
+    /// Lets the n-th allocation from now on (1 = the next) fail, once: the new-handler throws, as in any
+    /// host, CMemoryException*. 0 calls it off.
     void FailAt(int n);
     /// Whether the allocation that FailAt() named was reached.
     bool Failed() const;

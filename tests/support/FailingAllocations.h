@@ -9,9 +9,9 @@
 namespace testkit {
 
 /// While it lives, the C runtime's `malloc` can be made to answer null for the C++ run-time library and the
-/// DLLs under test. Their `new` then asks the new-handler, which throws CMemoryException*, as in any host. The
-/// test program's own `new` is not reached; its long std::strings are, since the run-time library allocates
-/// their text: make none while a failure is called for.
+/// DLLs under test. Their `new` then asks the new-handler, which throws CMemoryException*, as in any host.
+/// The test program's own `new` is not reached; its long std::strings are, since the run-time library
+/// allocates their text: make none while a failure is called for.
 ///
 /// One at a time, on one thread. MemoryRule.h tries whole operations at every allocation.
 class FailingAllocations {

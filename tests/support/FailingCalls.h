@@ -10,10 +10,10 @@
 
 namespace testkit {
 
-/// While it lives, every function that Kavlix.dll and KavlixMfc.dll import from GDI32, USER32, GDI+ and OLE32 can
-/// be made to fail without having done anything: it answers 0, one of GDI+ and OLE32 an error. Left alone are
-/// those that give something back (DeleteObject, EndPaint ...), whose failure is a leak by itself, and those
-/// that carry messages. 64-bit programs only; one at a time.
+/// While it lives, every function that Kavlix.dll and KavlixMfc.dll import from GDI32, USER32, GDI+ and OLE32
+/// can be made to fail without having done anything: it answers 0, one of GDI+ and OLE32 an error. Left alone
+/// are those that give something back (DeleteObject, EndPaint ...), whose failure is a leak by itself, and
+/// those that carry messages. 64-bit programs only; one at a time.
 class FailingCalls {
 public:
     FailingCalls();

@@ -1,8 +1,8 @@
-// What every public operation keeps when memory runs out, tried at each of its allocations: it happens whole or
-// not at all, tells its caller as documented, leaks nothing, and succeeds when memory is back.
+// What every public operation keeps when memory runs out, tried at each of its allocations: it happens whole
+// or not at all, tells its caller as documented, leaks nothing, and succeeds when memory is back.
 //
-// How to use it: a struct makes the object under test, fed, in its constructor and tells in State() all that a
-// host can read of it. Then a row an operation:
+// How to use it: a struct makes the object under test, fed, in its constructor and tells in State() all that
+// a host can read of it. Then a row an operation:
 //
 //     struct FedGraph {
 //         FedGraph() { graph.AddData(0, 1, nullptr); }
@@ -15,9 +15,9 @@
 //         {"ResetData", OnFailure::Never, [](FedGraph& s) { return s.graph.ResetData(0), true; }},
 //     });
 //
-// An operation returns its documented result, true when it has none. Texts up to 15 characters need no memory:
-// take longer ones. What the operation calls in the test (a parent's handler, say) must not make any. A visible
-// top-level window costs 25 ms: let the controls share one that stays.
+// An operation returns its documented result, true when it has none. Texts up to 15 characters need no
+// memory: take longer ones. What the operation calls in the test (a parent's handler, say) must not make any.
+// A visible top-level window costs 25 ms: let the controls share one that stays.
 #pragma once
 
 #include <functional>

@@ -5,8 +5,8 @@
 
 namespace testkit {
 
-/// Moves the pointer into the screen's last corner, away from the windows of the tests: a window that comes up
-/// under it gets a mouse move.
+/// Moves the pointer into the screen's last corner, away from the windows of the tests: a window that comes
+/// up under it gets a mouse move.
 void ParkPointer();
 /// Moves the pointer to a place of `window`'s client area, presses and lets go the left button there, and
 /// handles the messages that follow. The pointer is parked again.

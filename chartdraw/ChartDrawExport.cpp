@@ -30,12 +30,6 @@ void MakeSystemPalette(CDC& dc, CPalette& palette) {
     palette.CreatePalette(&record);
 }
 
-/// Runs `save`, whose result it returns; false when memory or GDI's objects run out.
-template <class Save> bool UnlessRefused(Save save) {
-    bool saved = false;
-    return WithinResources([&] { saved = save(); }) && saved;
-}
-
 } // namespace
 
 bool CChartDraw::PrepareExport() {

@@ -25,6 +25,12 @@ template <class Action> bool WithinResources(Action action) {
     return false;
 }
 
+/// Runs `action`, whose result it returns; false when memory or GDI's objects run out in it.
+template <class Action> bool UnlessRefused(Action action) {
+    bool result = false;
+    return WithinResources([&] { result = action(); }) && result;
+}
+
 /// Runs `append`. When memory runs out in it, the class library's own message box says so, and the result is
 /// FALSE; no such exception leaves.
 template <class Append> BOOL ReportingExhaustion(Append append) {

@@ -34,8 +34,7 @@ HENHMETAFILE MetafilePicture::Release() {
 
 bool CopyPicture(CWnd& owner, const RECT* frame, const std::function<void(CDC&)>& draw) {
     MetafilePicture picture(nullptr, frame);
-    bool drawn = false;
-    if (!WithinResources([&] { drawn = picture.Draw(draw); }) || !drawn)
+    if (!UnlessRefused([&] { return picture.Draw(draw); }))
         return false;
     PutOnClipboard(owner, picture.Release());
     return true;

@@ -186,8 +186,7 @@ bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& 
     constexpr int kLongestSide = 32767; // what GDI makes bitmaps of, and what keeps their size in 32 bits
     if (size.cx <= 0 || size.cy <= 0 || size.cx > kLongestSide || size.cy > kLongestSide)
         return false;
-    bool saved = false;
-    const bool finished = WithinResources([&] {
+    return UnlessRefused([&] {
         const CString name(path);
         const int dot = name.ReverseFind('.');
         const CString extension = dot < 0 ? CString() : name.Mid(dot);
@@ -198,9 +197,8 @@ bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& 
             bytes = EncodePixels(L"image/bmp", size, draw);
         else if (extension.CompareNoCase(".emf") == 0)
             bytes = EncodeMetafile(size, draw);
-        saved = !bytes.empty() && PutInPlace(ToWide(path), bytes);
+        return !bytes.empty() && PutInPlace(ToWide(path), bytes);
     });
-    return finished && saved;
 }
 
 } // namespace kavlix

@@ -69,8 +69,8 @@ void GraphAppend() {
 void GraphSteady() {
     Datasets datasets = std::make_unique<CDataset[]>(kSeries);
     for (int i = 0; i < kSeries; ++i)
-        WalkSeries(i, kStored,
-                   [&](int, double y) { datasets[static_cast<std::size_t>(i)].AddData(y, nullptr); });
+        WalkSeries(
+            i, kStored, [&](int, double y) { datasets[static_cast<std::size_t>(i)].AddData(y, nullptr); });
     const auto step = [&](double y) {
         for (int i = 0; i < kSeries; ++i) {
             CDataset& dataset = datasets[static_cast<std::size_t>(i)];

@@ -100,9 +100,9 @@ void Grow(int count) {
     Load(graph, count, samples, labels);
     std::vector<double> paints = Time(kRepeats, kWarm, [&] { stage.PaintIntoMemory(); });
     int place = 0;
-    std::vector<double> clicks = Time(kRepeats, kWarm, [&] {
-        graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(200 + ++place * 10, 200));
-    });
+    std::vector<double> clicks = Time(
+        kRepeats, kWarm,
+        [&] { graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(200 + ++place * 10, 200)); });
     std::vector<double> drops = Time(kRepeats, kWarm, [&] { graph.RemoveHeadData(1); });
     const int half = count / 2;
     const double begin = Now();

@@ -41,10 +41,13 @@ void Picture::Take(CWnd& control) {
 
 Row& AddPaints(Row& row, CWnd& control, const std::string& name) {
     Picture picture(kWidth, kHeight);
-    AddTimes(row, name + "window", Time(kRepeats, kWarm, [&] {
-                 control.InvalidateRect(nullptr, FALSE);
-                 control.SendMessage(WM_PAINT);
-             }));
+    AddTimes(row, name + "window",
+             Time(
+                 kRepeats, kWarm,
+                 [&] {
+                     control.InvalidateRect(nullptr, FALSE);
+                     control.SendMessage(WM_PAINT);
+                 }));
     AddTimes(row, name + "memory", Time(kRepeats, kWarm, [&] { picture.Take(control); }));
     return row;
 }

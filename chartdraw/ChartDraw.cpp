@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "chartdraw/ChartDrawDataset.h"
-#include "chartdraw/RoundScale.h"
 #include "gdi/Offscreen.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 
@@ -20,8 +20,8 @@ constexpr COLORREF kCaptionColor = RGB(32, 32, 32);
 } // namespace
 
 BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
-ON_WM_PAINT()
-ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
 END_MESSAGE_MAP()
 
 CChartDraw::CChartDraw()

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "chartdraw/ChartDrawDataset.h"
-#include "gdi/MemoryReport.h"
+#include "gdi/OutOfMemory.h"
 
 using namespace kavlix;
 
@@ -70,7 +70,8 @@ BOOL CChartDraw::SetData(int nDataset, const double* pX, const double* pY, int n
 }
 
 BOOL CChartDraw::ResetData(int nDataset) {
-    return ChangeDataset(nDataset, [](Dataset& dataset) { dataset.points.Clear(); });
+    return ChangeDataset(
+        nDataset, [](Dataset& dataset) { dataset.points.Clear(); });
 }
 
 int CChartDraw::GetDatasetSize(int nDataset) const {
@@ -87,7 +88,8 @@ BOOL CChartDraw::GetData(int nDataset, int nIndex, double& x, double& y) const {
 }
 
 BOOL CChartDraw::SetColor(int nDataset, COLORREF color) {
-    return ChangeDataset(nDataset, [=](Dataset& dataset) { dataset.color = color; });
+    return ChangeDataset(
+        nDataset, [=](Dataset& dataset) { dataset.color = color; });
 }
 
 BOOL CChartDraw::SetLineSize(int nDataset, int nSize) {
@@ -97,13 +99,16 @@ BOOL CChartDraw::SetLineSize(int nDataset, int nSize) {
 }
 
 BOOL CChartDraw::ShowLine(int nDataset, BOOL bShow) {
-    return ChangeDataset(nDataset, [=](Dataset& dataset) { dataset.showLine = bShow != FALSE; });
+    return ChangeDataset(
+        nDataset, [=](Dataset& dataset) { dataset.showLine = bShow != FALSE; });
 }
 
 BOOL CChartDraw::SetMarkerType(int nDataset, CDataset::MarkerType type) {
-    return ChangeDataset(nDataset, [=](Dataset& dataset) { dataset.markerType = type; });
+    return ChangeDataset(
+        nDataset, [=](Dataset& dataset) { dataset.markerType = type; });
 }
 
 BOOL CChartDraw::ShowDataset(int nDataset, BOOL bShow) {
-    return ChangeDataset(nDataset, [=](Dataset& dataset) { dataset.visible = bShow != FALSE; });
+    return ChangeDataset(
+        nDataset, [=](Dataset& dataset) { dataset.visible = bShow != FALSE; });
 }

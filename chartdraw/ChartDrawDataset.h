@@ -2,7 +2,7 @@
 
 #include <kavlix/ChartDraw.h>
 
-#include "chartdraw/ChartSeries.h"
+#include "chartdraw/core/ChartSeries.h"
 
 /// One dataset of a chart: its points and how they are drawn.
 struct CChartDraw::Dataset {

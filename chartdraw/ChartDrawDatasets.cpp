@@ -7,13 +7,13 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawStamps.h"
 #include "chartdraw/ChartDrawWideLine.h"
-#include "chartdraw/ChartWalk.h"
-#include "chartdraw/PaintedPath.h"
+#include "chartdraw/core/ChartWalk.h"
+#include "chartdraw/core/PaintedPath.h"
 #include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
 #include "gdi/Markers.h"
-#include "graphctrl/GraphCtrlConvert.h"
-#include "graphctrl/LinearMap.h"
+#include "gdi/ShapeConversion.h"
+#include "plot/LinearMap.h"
 
 using namespace kavlix;
 

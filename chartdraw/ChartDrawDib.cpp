@@ -4,8 +4,8 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/DibBlock.h"
-#include "chartdraw/DibLayout.h"
-#include "chartdraw/RoundScale.h"
+#include "chartdraw/core/DibLayout.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

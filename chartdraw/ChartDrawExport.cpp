@@ -7,11 +7,11 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/DibBlock.h"
-#include "chartdraw/RoundScale.h"
 #include "gdi/Guards.h"
-#include "gdi/MemoryReport.h"
+#include "gdi/OutOfMemory.h"
 #include "gdi/PictureClipboard.h"
 #include "gdi/PictureFile.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 
@@ -49,7 +49,8 @@ bool CChartDraw::CopyToClipboard() {
         CSize size = m_rectChart.Size();
         CClientDC(this).DPtoHIMETRIC(&size);
         const CRect frame(CPoint(0, 0), size);
-        return CopyPicture(*this, &frame, [this](CDC& dc) { DrawChart(dc); });
+        return CopyPicture(
+            *this, &frame, [this](CDC& dc) { DrawChart(dc); });
     });
 }
 
@@ -92,7 +93,7 @@ bool CChartDraw::WriteBitmapFile(const CString& name) {
 
 bool CChartDraw::SaveImage(CString strFileName) {
     return UnlessRefused([&] {
-        return PrepareExport() &&
-               SavePicture(strFileName, m_rectChart.Size(), [this](CDC& dc) { DrawChart(dc); });
+        return PrepareExport() && SavePicture(
+                                      strFileName, m_rectChart.Size(), [this](CDC& dc) { DrawChart(dc); });
     });
 }

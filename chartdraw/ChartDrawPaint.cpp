@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "chartdraw/ChartDrawText.h"
-#include "chartdraw/RoundScale.h"
 #include "gdi/Guards.h"
 #include "gdi/Offscreen.h"
-#include "graphctrl/LinearMap.h"
+#include "plot/LinearMap.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

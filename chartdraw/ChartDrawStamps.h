@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "chartdraw/PixelSet.h"
+#include "chartdraw/core/PixelSet.h"
 
 namespace kavlix {
 

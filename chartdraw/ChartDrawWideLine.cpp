@@ -8,7 +8,7 @@
 
 #include "gdi/Guards.h"
 #include "gdi/Scratch.h"
-#include "graphctrl/StrokeCut.h"
+#include "plot/StrokeCut.h"
 
 namespace kavlix {
 

@@ -8,8 +8,8 @@
 #include <optional>
 #include <vector>
 
-#include "graphctrl/PixelRaster.h"
-#include "graphctrl/Shapes.h"
+#include "plot/PixelRaster.h"
+#include "plot/Shapes.h"
 
 namespace kavlix {
 

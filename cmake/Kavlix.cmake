@@ -26,11 +26,12 @@ endfunction()
 # included.
 function(kavlix_resources target script)
     target_sources(${target} PRIVATE ${script})
-    file(GLOB included CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/module/*.rc ${PROJECT_SOURCE_DIR}/module/resource.h
+    file(GLOB included CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/module/*.rc ${PROJECT_SOURCE_DIR}/gdi/StringIds.h
          ${PROJECT_SOURCE_DIR}/monitor/*.rc ${PROJECT_SOURCE_DIR}/monitor/*.manifest
          ${PROJECT_SOURCE_DIR}/monitor/resource.h ${PROJECT_SOURCE_DIR}/include/kavlix/GraphNotify.h)
     set_source_files_properties(
-        ${script} PROPERTIES INCLUDE_DIRECTORIES "${PROJECT_SOURCE_DIR};${PROJECT_SOURCE_DIR}/mfc/include"
+        ${script} PROPERTIES INCLUDE_DIRECTORIES
+                             "${PROJECT_SOURCE_DIR};${PROJECT_BINARY_DIR}/generated;${PROJECT_SOURCE_DIR}/mfc/include"
                              OBJECT_DEPENDS "${included}")
 endfunction()
 
@@ -52,4 +53,41 @@ function(kavlix_copy_compiler_runtime)
             file(COPY "${path}" DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
         endif()
     endforeach()
+endfunction()
+
+# Adds the sources of all targets of a folder and its subfolders to the list `result`.
+function(kavlix_compiled_sources folder result)
+    get_directory_property(targets DIRECTORY ${folder} BUILDSYSTEM_TARGETS)
+    get_directory_property(subfolders DIRECTORY ${folder} SUBDIRECTORIES)
+    set(all ${${result}})
+    foreach(target ${targets})
+        get_target_property(sources ${target} SOURCES)
+        get_target_property(directory ${target} SOURCE_DIR)
+        foreach(source ${sources})
+            cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${directory} NORMALIZE)
+            list(APPEND all ${source})
+        endforeach()
+    endforeach()
+    foreach(subfolder ${subfolders})
+        kavlix_compiled_sources(${subfolder} all)
+    endforeach()
+    set(${result} ${all} PARENT_SCOPE)
+endfunction()
+
+# Fails when a source of the project belongs to no target. A new folder needs a place in a list of sources.
+function(kavlix_check_all_sources_are_compiled)
+    file(GLOB top LIST_DIRECTORIES true ${PROJECT_SOURCE_DIR}/*)
+    list(FILTER top EXCLUDE REGEX "/build[^/]*$")
+    foreach(folder ${top})
+        if(IS_DIRECTORY ${folder})
+            list(APPEND patterns ${folder}/*.cpp)
+        endif()
+    endforeach()
+    file(GLOB_RECURSE existing CONFIGURE_DEPENDS ${patterns})
+    kavlix_compiled_sources(${PROJECT_SOURCE_DIR} compiled)
+    list(REMOVE_ITEM existing ${compiled})
+    if(existing)
+        list(JOIN existing "\n  " names)
+        message(FATAL_ERROR "No target compiles these sources:\n  ${names}")
+    endif()
 endfunction()

@@ -7,7 +7,7 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Scratch.h"
-#include "graphctrl/ThinLine.h"
+#include "plot/ThinLine.h"
 
 namespace kavlix {
 

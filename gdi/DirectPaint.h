@@ -4,8 +4,8 @@
 
 #include <optional>
 
-#include "graphctrl/PixelColumns.h"
-#include "graphctrl/PixelRaster.h"
+#include "plot/PixelEdges.h"
+#include "plot/PixelRaster.h"
 
 /// Painting pixels without a GDI call for each stroke.
 namespace kavlix {

@@ -5,7 +5,7 @@
 
 #include "gdi/Guards.h"
 #include "gdi/Scratch.h"
-#include "graphctrl/GraphCtrlConvert.h"
+#include "gdi/ShapeConversion.h"
 
 namespace kavlix {
 

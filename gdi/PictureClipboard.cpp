@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "gdi/MemoryReport.h"
+#include "gdi/OutOfMemory.h"
 
 namespace kavlix {
 

@@ -14,8 +14,8 @@ using std::min;
 #include <gdiplus.h>
 
 #include "gdi/Guards.h"
-#include "gdi/MemoryReport.h"
 #include "gdi/Offscreen.h"
+#include "gdi/OutOfMemory.h"
 #include "gdi/PictureClipboard.h"
 
 namespace kavlix {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "graphctrl/Numeric.h"
+#include "plot/Numeric.h"
 
 namespace kavlix {
 
@@ -115,7 +115,7 @@ CSize MeasureText(const CDC& dc, const char* text, int length) {
 }
 
 CRect TextBox(const CDC& dc, int length) {
-    constexpr double kRadiansPerTenth = 3.14159265358979323846 / 1800;
+    constexpr double kRadiansPerTenth = kPi / 1800;
     TEXTMETRIC metrics = {};
     LOGFONT font = {};
     dc.GetTextMetrics(&metrics);

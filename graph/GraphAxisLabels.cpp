@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "graph/GraphPass.h"
+#include "plot/Numeric.h"
 
 using kavlix::GraphFont;
 using kavlix::LabelPlace;
@@ -63,7 +64,7 @@ void CGraph::DrawLabelsBelow(const kavlix::SeriesSlots& slots) {
         const GraphFont font(canvas, xTickFontSize); // measured level
         rowHeight = canvas.Character().height;
         // A turned label lies left or right of its tick, up to the picture's edge.
-        const bool toTheLeft = (angle < 180) == (std::cos(angle * 3.141592653589793 / 180) > 0);
+        const bool toTheLeft = (angle < 180) == (std::cos(angle * kavlix::kPi / 180) > 0);
         const auto room = [&](int slot) {
             const double x = slots.Middle(slot);
             const double aside = toTheLeft ? x - p.leftEdge : canvas.Width() - x;

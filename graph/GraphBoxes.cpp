@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "graph/BoxStatistics.h"
 #include "graph/GraphPass.h"
+#include "graph/core/BoxStatistics.h"
 
 using kavlix::GraphPass;
 using kavlix::Span;

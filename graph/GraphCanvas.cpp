@@ -6,7 +6,7 @@
 
 #include "gdi/DirectPaint.h"
 #include "gdi/Text.h"
-#include "graphctrl/Numeric.h"
+#include "plot/Numeric.h"
 
 namespace kavlix {
 namespace {

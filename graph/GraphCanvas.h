@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "gdi/Guards.h"
-#include "graph/LabelPlacement.h"
-#include "graph/PlanePoint.h"
+#include "graph/core/LabelPlacement.h"
+#include "graph/core/PlanePoint.h"
 
 namespace kavlix {
 

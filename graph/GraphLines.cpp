@@ -5,7 +5,7 @@
 #include <map>
 
 #include "graph/GraphPass.h"
-#include "graphctrl/Numeric.h"
+#include "plot/Numeric.h"
 
 using kavlix::GraphPass;
 using kavlix::PlanePoint;

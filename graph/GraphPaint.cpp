@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "graph/GraphPass.h"
-#include "graphctrl/Numeric.h"
+#include "plot/Numeric.h"
 
 using kavlix::GraphFont;
 using kavlix::GraphFrame;

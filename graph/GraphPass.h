@@ -6,12 +6,12 @@
 #include <vector>
 
 #include "graph/GraphCanvas.h"
-#include "graph/KeyedValue.h"
-#include "graph/PlotScale.h"
-#include "graph/ScaleTicks.h"
-#include "graph/SeriesSlots.h"
-#include "graph/Solid.h"
-#include "graph/StackSegments.h"
+#include "graph/core/KeyedValue.h"
+#include "graph/core/PlotScale.h"
+#include "graph/core/ScaleTicks.h"
+#include "graph/core/SeriesSlots.h"
+#include "graph/core/Solid.h"
+#include "graph/core/StackSegments.h"
 
 namespace kavlix {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "graph/GraphPass.h"
-#include "graph/PieShapes.h"
+#include "graph/core/PieShapes.h"
 
 using kavlix::GraphCanvas;
 using kavlix::GraphFont;
@@ -81,10 +81,12 @@ public:
 
     /// Whether every share finds room inside its sector.
     bool HoldsShares(const std::vector<Sector>& sectors) const {
-        return std::all_of(sectors.begin(), sectors.end(), [&](const Sector& sector) {
-            PlanePoint place;
-            return FindInside(sector, m_canvas.Measure(ShareText(sector.percent)), place);
-        });
+        return std::all_of(
+            sectors.begin(), sectors.end(),
+            [&](const Sector& sector) {
+                PlanePoint place;
+                return FindInside(sector, m_canvas.Measure(ShareText(sector.percent)), place);
+            });
     }
     /// The lowest place that Draw has drawn on.
     double Lowest() const { return m_lowest; }
@@ -289,9 +291,8 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
         } else {
             text = more;
         }
-        if (count > 1) {
+        if (count > 1)
             canvas.Text({room.left + (room.Width() - canvas.Measure(text).width) / 2, bottom + pixel}, text);
-        }
     }
 }
 

@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 #include "graph/GraphPass.h"
-#include "graphctrl/Numeric.h"
+#include "plot/Numeric.h"
 
 using kavlix::GraphFont;
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "graph/GraphPass.h"
-#include "graphctrl/Numeric.h"
+#include "plot/Numeric.h"
 
 using kavlix::ToCoordinate;
 

@@ -1,7 +1,7 @@
 #include <kavlix/Dataset.h>
 
-#include "gdi/MemoryReport.h"
-#include "graphctrl/SampleStore.h"
+#include "gdi/OutOfMemory.h"
+#include "graphctrl/core/SampleStore.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Text.h"
-#include "graphctrl/AxisTicks.h"
-#include "graphctrl/BarSlots.h"
 #include "graphctrl/GraphCtrlPainters.h"
+#include "graphctrl/core/AxisTicks.h"
+#include "graphctrl/core/BarSlots.h"
 
 using namespace kavlix;
 
@@ -109,10 +109,9 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
     if (m_GridY && nAxis == 0) {
         gridPen.emplace(dc, m_GridColor);
         Select(dc, gridPen->Pen());
-        for (int i = 1, y = rectAxis.bottom - step; i < nTicks; ++i, y -= step) {
+        for (int i = 1, y = rectAxis.bottom - step; i < nTicks; ++i, y -= step)
             if (isShown(y) && !gridPen->Draw(CPoint(m_rectPlot.left, y), CPoint(m_rectPlot.right, y)))
                 DrawLine(dc, m_rectPlot.left, y, m_rectPlot.right, y);
-        }
     }
 
     ValueTicks values = y2 ? ValueTicks(m_Y2VisibleMin, m_Y2VisibleMax, nTicks, m_Y2UnitExponent)

@@ -6,9 +6,9 @@
 
 #include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
-#include "graphctrl/GraphCtrlConvert.h"
+#include "gdi/ShapeConversion.h"
 #include "graphctrl/GraphCtrlPainters.h"
-#include "graphctrl/SampleStore.h"
+#include "graphctrl/core/SampleStore.h"
 
 namespace kavlix {
 

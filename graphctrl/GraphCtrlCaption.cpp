@@ -5,7 +5,7 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Text.h"
-#include "graphctrl/Numeric.h"
+#include "plot/Numeric.h"
 
 using namespace kavlix;
 

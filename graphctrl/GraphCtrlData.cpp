@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "gdi/MemoryReport.h"
+#include "gdi/OutOfMemory.h"
 
 using namespace kavlix;
 

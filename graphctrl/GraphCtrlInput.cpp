@@ -5,9 +5,9 @@
 
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
-#include "gdi/MemoryReport.h"
-#include "graphctrl/GraphCtrlConvert.h"
-#include "graphctrl/HitTest.h"
+#include "gdi/OutOfMemory.h"
+#include "gdi/ShapeConversion.h"
+#include "graphctrl/core/HitTest.h"
 
 using namespace kavlix;
 

@@ -8,12 +8,12 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Markers.h"
-#include "graphctrl/GraphCtrlConvert.h"
+#include "gdi/ShapeConversion.h"
 #include "graphctrl/GraphCtrlPainters.h"
 #include "graphctrl/GraphCtrlReducedLines.h"
 #include "graphctrl/GraphCtrlStrokes.h"
-#include "graphctrl/SampleStore.h"
-#include "graphctrl/SeriesReduction.h"
+#include "graphctrl/core/SampleStore.h"
+#include "plot/SeriesReduction.h"
 
 namespace kavlix {
 

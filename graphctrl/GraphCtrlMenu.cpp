@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "module/resource.h"
+#include "gdi/StringIds.h"
 
 void CGraphCtrl::OnRButtonDown(UINT, CPoint point) {
     // The menu waits for the user; whatever he chooses elsewhere may destroy the window meanwhile.

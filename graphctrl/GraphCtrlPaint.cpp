@@ -6,9 +6,9 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Offscreen.h"
+#include "gdi/ShapeConversion.h"
 #include "gdi/Text.h"
-#include "graphctrl/GraphCtrlConvert.h"
-#include "graphctrl/GraphLayout.h"
+#include "graphctrl/core/GraphLayout.h"
 
 using namespace kavlix;
 

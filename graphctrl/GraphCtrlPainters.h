@@ -7,9 +7,9 @@
 #include <optional>
 
 #include "gdi/DottedPen.h"
-#include "graphctrl/BarSlots.h"
-#include "graphctrl/IndexRange.h"
-#include "graphctrl/LinearMap.h"
+#include "graphctrl/core/BarSlots.h"
+#include "plot/IndexRange.h"
+#include "plot/LinearMap.h"
 
 /// The painters that the graph controls share. They take everything they need as arguments, keep nothing, and
 /// never ask the window.

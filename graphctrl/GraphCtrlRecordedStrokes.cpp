@@ -6,8 +6,8 @@
 #include <cstdlib>
 
 #include "gdi/Mapping.h"
-#include "graphctrl/GraphCtrlConvert.h"
-#include "graphctrl/StrokeCut.h"
+#include "gdi/ShapeConversion.h"
+#include "plot/StrokeCut.h"
 
 namespace kavlix {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "graphctrl/GraphCtrlStrokes.h"
-#include "graphctrl/SampleStore.h"
+#include "graphctrl/core/SampleStore.h"
 
 namespace kavlix {
 

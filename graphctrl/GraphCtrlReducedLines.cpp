@@ -9,9 +9,9 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Markers.h"
-#include "graphctrl/GraphCtrlConvert.h"
+#include "gdi/ShapeConversion.h"
 #include "graphctrl/GraphCtrlRecordedStrokes.h"
-#include "graphctrl/SampleStore.h"
+#include "graphctrl/core/SampleStore.h"
 
 namespace kavlix {
 
@@ -105,8 +105,9 @@ private:
 
     /// The first column with samples not before `first`.
     Columns ColumnOf(int first) const {
-        return std::lower_bound(m_lines.m_columns.begin(), m_lines.m_columns.end(), first,
-                                [](const PixelColumn& column, int index) { return column.last < index; });
+        return std::lower_bound(
+            m_lines.m_columns.begin(), m_lines.m_columns.end(), first,
+            [](const PixelColumn& column, int index) { return column.last < index; });
     }
     static PixelColumn Cut(PixelColumn column, int first, int last) {
         column.first = std::max(column.first, first);

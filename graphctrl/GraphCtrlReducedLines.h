@@ -7,6 +7,7 @@
 
 #include "gdi/DirectPaint.h"
 #include "graphctrl/GraphCtrlPainters.h"
+#include "plot/PixelColumns.h"
 
 namespace kavlix {
 

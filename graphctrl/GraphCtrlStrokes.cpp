@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "gdi/Mapping.h"
-#include "graphctrl/GraphCtrlConvert.h"
-#include "graphctrl/SeriesReduction.h"
-#include "graphctrl/StrokeCut.h"
+#include "gdi/ShapeConversion.h"
+#include "plot/SeriesReduction.h"
+#include "plot/StrokeCut.h"
 
 namespace kavlix {
 

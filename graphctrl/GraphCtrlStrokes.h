@@ -5,11 +5,11 @@
 #include <cstddef>
 #include <vector>
 
-#include "graphctrl/LinearMap.h"
-#include "graphctrl/PixelColumns.h"
-#include "graphctrl/PixelRaster.h"
-#include "graphctrl/PixelRows.h"
-#include "graphctrl/ThinLine.h"
+#include "plot/LinearMap.h"
+#include "plot/PixelColumns.h"
+#include "plot/PixelRaster.h"
+#include "plot/PixelRows.h"
+#include "plot/ThinLine.h"
 
 /// Two ways to draw a line whose samples come one by one, already chosen by their pixel columns. Both take
 /// Add, a value that is no gap in the column it belongs to, and End, where the line ends.

@@ -26,21 +26,21 @@ constexpr const char* kChartFilter =
 } // namespace
 
 BEGIN_MESSAGE_MAP(CChartPage, CMonitorPage)
-ON_WM_CREATE()
-ON_NOTIFY(MCN_SELECTION, IDC_CHART, &CChartPage::OnSelection)
-ON_NOTIFY(MCN_POINTER, IDC_CHART, &CChartPage::OnPointer)
-ON_COMMAND(ID_EDIT_COPY, &CChartPage::OnEditCopy)
-ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CChartPage::OnUpdateWithPoints)
-ON_COMMAND(ID_CHART_SAVE_AS, &CChartPage::OnSaveAs)
-ON_UPDATE_COMMAND_UI(ID_CHART_SAVE_AS, &CChartPage::OnUpdateWithPoints)
-ON_COMMAND(ID_CHART_SERIES, &CChartPage::OnChooseSeries)
-ON_UPDATE_COMMAND_UI(ID_CHART_SERIES, &CChartPage::OnUpdateWithPoints)
-ON_COMMAND(ID_CHART_SWAP, &CChartPage::OnSwap)
-ON_UPDATE_COMMAND_UI(ID_CHART_SWAP, &CChartPage::OnUpdateSwap)
-ON_COMMAND_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnStyle)
-ON_UPDATE_COMMAND_UI_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnUpdateStyle)
-ON_COMMAND(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnClearMark)
-ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnUpdateClearMark)
+    ON_WM_CREATE()
+    ON_NOTIFY(MCN_SELECTION, IDC_CHART, &CChartPage::OnSelection)
+    ON_NOTIFY(MCN_POINTER, IDC_CHART, &CChartPage::OnPointer)
+    ON_COMMAND(ID_EDIT_COPY, &CChartPage::OnEditCopy)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CChartPage::OnUpdateWithPoints)
+    ON_COMMAND(ID_CHART_SAVE_AS, &CChartPage::OnSaveAs)
+    ON_UPDATE_COMMAND_UI(ID_CHART_SAVE_AS, &CChartPage::OnUpdateWithPoints)
+    ON_COMMAND(ID_CHART_SERIES, &CChartPage::OnChooseSeries)
+    ON_UPDATE_COMMAND_UI(ID_CHART_SERIES, &CChartPage::OnUpdateWithPoints)
+    ON_COMMAND(ID_CHART_SWAP, &CChartPage::OnSwap)
+    ON_UPDATE_COMMAND_UI(ID_CHART_SWAP, &CChartPage::OnUpdateSwap)
+    ON_COMMAND_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnStyle)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnUpdateStyle)
+    ON_COMMAND(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnClearMark)
+    ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnUpdateClearMark)
 END_MESSAGE_MAP()
 
 int CChartPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -163,7 +163,8 @@ void CChartPage::OnPointer(NMHDR*, LRESULT* pResult) {
 }
 
 void CChartPage::OnEditCopy() {
-    Host().Say(CopyTextOf(CopyReaches(m_chart, [this] { return m_chart.CopyToClipboard(); })));
+    Host().Say(CopyTextOf(CopyReaches(
+        m_chart, [this] { return m_chart.CopyToClipboard(); })));
 }
 
 void CChartPage::OnSaveAs() {

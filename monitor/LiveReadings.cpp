@@ -76,10 +76,9 @@ LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
     m_historyFirst = historyFirst;
     double highest = 0;
     for (std::uint64_t reading = m_historyFirst; reading < End(); ++reading) {
-        for (std::size_t i = 0; i < kSeries; ++i) {
+        for (std::size_t i = 0; i < kSeries; ++i)
             if (IsRate(i) && ValueOf(reading, i) > highest)
                 highest = ValueOf(reading, i);
-        }
     }
     const RateUnit unit = ChooseRateUnit(highest);
     change.unitChanged = !(unit == m_unit);

@@ -31,7 +31,7 @@ void Tell(const std::string& text) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMonitorApp, CWinApp)
-ON_COMMAND(ID_APP_ABOUT, &CMonitorApp::OnAppAbout)
+    ON_COMMAND(ID_APP_ABOUT, &CMonitorApp::OnAppAbout)
 END_MESSAGE_MAP()
 
 CMonitorApp::CMonitorApp() : CWinApp("Kavlix Monitor") {

@@ -22,12 +22,12 @@ bool IsPoint(const PairedPoint& point) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMonitorChart, CChartDraw)
-ON_WM_ERASEBKGND()
-ON_WM_LBUTTONDOWN()
-ON_WM_MOUSEMOVE()
-ON_WM_MOUSELEAVE()
-ON_WM_KEYDOWN()
-ON_WM_GETDLGCODE()
+    ON_WM_ERASEBKGND()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+    ON_WM_KEYDOWN()
+    ON_WM_GETDLGCODE()
 END_MESSAGE_MAP()
 
 bool CMonitorChart::CreateChild(CWnd& parent, UINT id) {

@@ -30,10 +30,10 @@ CString ToText(const std::string& text) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMonitorGraph, CGraphCtrl)
-ON_WM_SIZE()
-ON_WM_MOUSEMOVE()
-ON_WM_MOUSELEAVE()
-ON_COMMAND(ID_EDIT_COPY, &CMonitorGraph::OnCopy)
+    ON_WM_SIZE()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+    ON_COMMAND(ID_EDIT_COPY, &CMonitorGraph::OnCopy)
 END_MESSAGE_MAP()
 
 void CMonitorGraph::Show(GraphSource source, GraphSettings settings) {

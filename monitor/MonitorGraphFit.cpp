@@ -115,10 +115,9 @@ void CMonitorGraph::FitTexts(const AxisTexts& texts, const Layout& layout) {
     const int unit = GetTitleTextHeight();
     const int height = unit - kLabelFontLess;
     std::string xText;
-    for (const std::string& text : texts.x) {
+    for (const std::string& text : texts.x)
         if (xText.empty() && TextSize(text, height, kRegular).cx <= layout.plot.cx)
             xText = text;
-    }
     SetXLabel(ToText(xText));
     SetYLabel(ToText(FitText(texts.y, static_cast<int>(layout.plot.cy), height, kRegular)));
     SetY2Label(ToText(FitText(texts.y2, static_cast<int>(layout.plot.cy), height, kRegular)));
@@ -130,10 +129,9 @@ void CMonitorGraph::FitTexts(const AxisTexts& texts, const Layout& layout) {
     // The caption band shows the window's text.
     const std::string name = m_settings.series.size() == 1 ? ": " + m_settings.series[0].name : std::string();
     std::vector<std::string> captions;
-    if (!m_shown.recording.times.empty()) {
+    if (!m_shown.recording.times.empty())
         for (const std::string& rest : texts.x)
             captions.push_back(m_settings.title + name + ", " + rest);
-    }
     captions.push_back(m_settings.title);
     FitCaption(captions);
 }

@@ -18,9 +18,9 @@ std::optional<std::size_t> PageContent::MarkedSample() const {
 }
 
 BEGIN_MESSAGE_MAP(CMonitorPage, CWnd)
-ON_WM_SIZE()
-ON_WM_SETFOCUS()
-ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
+    ON_WM_SETFOCUS()
+    ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 bool CMonitorPage::CreatePage(CWnd& frame, UINT id) {
@@ -55,10 +55,9 @@ std::vector<std::string> CMonitorPage::TextsOfSample(recording::Time time, const
     const std::vector<SeriesSettings>& series = Content().settings.series;
     std::vector<recording::NamedValue> named;
     for (const bool visible : {true, false}) {
-        for (std::size_t i = 0; i < values.size() && i < series.size(); ++i) {
+        for (std::size_t i = 0; i < values.size() && i < series.size(); ++i)
             if (series[i].visible == visible)
                 named.push_back({series[i].name, values[i], times[i]});
-        }
     }
     return recording::SampleTexts(time, named, digits);
 }

@@ -23,9 +23,9 @@ bool PieceSettings::operator==(const PieceSettings& other) const {
 }
 
 BEGIN_MESSAGE_MAP(CMonitorPie, CPieChartCtrl)
-ON_WM_LBUTTONDOWN()
-ON_WM_KEYDOWN()
-ON_WM_GETDLGCODE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_KEYDOWN()
+    ON_WM_GETDLGCODE()
 END_MESSAGE_MAP()
 
 CMonitorPie::CMonitorPie() {

@@ -30,10 +30,10 @@ constexpr int kDateShift = 10;        // right of its tick: a date keeps clear o
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMonitorScrollGraph, CScrollGraphCtrl)
-ON_WM_HSCROLL()
-ON_WM_MOUSEMOVE()
-ON_WM_MOUSELEAVE()
-ON_COMMAND(ID_EDIT_COPY, &CMonitorScrollGraph::OnCopy)
+    ON_WM_HSCROLL()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+    ON_COMMAND(ID_EDIT_COPY, &CMonitorScrollGraph::OnCopy)
 END_MESSAGE_MAP()
 
 void CMonitorScrollGraph::Begin(const GraphSettings& settings, std::vector<SeriesSettings> series,

@@ -155,10 +155,10 @@ const std::vector<GraphTypeChoice>& GraphTypeChoices() {
 }
 
 BEGIN_MESSAGE_MAP(CMultiGraphView, CWnd)
-ON_WM_PAINT()
-ON_MESSAGE(WM_PRINTCLIENT, &CMultiGraphView::OnPrintClient)
-ON_WM_ERASEBKGND()
-ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CMultiGraphView::OnPrintClient)
+    ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 bool CMultiGraphView::CreateChild(CWnd& parent, UINT id) {

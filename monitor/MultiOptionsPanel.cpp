@@ -16,12 +16,12 @@ constexpr const char* kAllSeries = "(means of all series)";
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMultiOptionsPanel, CDialog)
-ON_LBN_SELCHANGE(IDC_MULTI_TYPE, &CMultiOptionsPanel::OnChanged)
-ON_CBN_SELCHANGE(IDC_MULTI_DATA, &CMultiOptionsPanel::OnChanged)
-ON_CBN_SELCHANGE(IDC_MULTI_ANGLE, &CMultiOptionsPanel::OnChanged)
-ON_CBN_SELCHANGE(IDC_MULTI_DEPTH, &CMultiOptionsPanel::OnChanged)
-ON_BN_CLICKED(IDC_MULTI_HORIZONTAL, &CMultiOptionsPanel::OnChanged)
-ON_BN_CLICKED(IDC_MULTI_GRID, &CMultiOptionsPanel::OnChanged)
+    ON_LBN_SELCHANGE(IDC_MULTI_TYPE, &CMultiOptionsPanel::OnChanged)
+    ON_CBN_SELCHANGE(IDC_MULTI_DATA, &CMultiOptionsPanel::OnChanged)
+    ON_CBN_SELCHANGE(IDC_MULTI_ANGLE, &CMultiOptionsPanel::OnChanged)
+    ON_CBN_SELCHANGE(IDC_MULTI_DEPTH, &CMultiOptionsPanel::OnChanged)
+    ON_BN_CLICKED(IDC_MULTI_HORIZONTAL, &CMultiOptionsPanel::OnChanged)
+    ON_BN_CLICKED(IDC_MULTI_GRID, &CMultiOptionsPanel::OnChanged)
 END_MESSAGE_MAP()
 
 bool CMultiOptionsPanel::CreateChild(CWnd& parent, std::function<void()> changed) {

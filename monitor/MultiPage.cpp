@@ -19,11 +19,11 @@ constexpr int kTwipsPerInch = 1440;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMultiPage, CMonitorPage)
-ON_WM_CREATE()
-ON_COMMAND(ID_EDIT_COPY, &CMultiPage::OnEditCopy)
-ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CMultiPage::OnUpdateWithGraph)
-ON_COMMAND(ID_FILE_PRINT, &CMultiPage::OnFilePrint)
-ON_UPDATE_COMMAND_UI(ID_FILE_PRINT, &CMultiPage::OnUpdateWithGraph)
+    ON_WM_CREATE()
+    ON_COMMAND(ID_EDIT_COPY, &CMultiPage::OnEditCopy)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CMultiPage::OnUpdateWithGraph)
+    ON_COMMAND(ID_FILE_PRINT, &CMultiPage::OnFilePrint)
+    ON_UPDATE_COMMAND_UI(ID_FILE_PRINT, &CMultiPage::OnUpdateWithGraph)
 END_MESSAGE_MAP()
 
 int CMultiPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -77,7 +77,8 @@ CWnd& CMultiPage::FocusWindow() {
 }
 
 void CMultiPage::OnEditCopy() {
-    Host().Say(CopyTextOf(CopyAsMetafile(m_view, [this](CDC& dc) { m_view.Draw(dc); })));
+    Host().Say(CopyTextOf(CopyAsMetafile(
+        m_view, [this](CDC& dc) { m_view.Draw(dc); })));
 }
 
 void CMultiPage::OnFilePrint() {

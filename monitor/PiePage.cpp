@@ -47,14 +47,14 @@ void DrawLine(CDC& dc, CFont& font, COLORREF color, const std::string& text, CRe
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPiePage, CMonitorPage)
-ON_WM_CREATE()
-ON_WM_PAINT()
-ON_MESSAGE(WM_PRINTCLIENT, &CPiePage::OnPrintClient)
-ON_NOTIFY(MPN_SELECTION, IDC_PIE, &CPiePage::OnSelection)
-ON_COMMAND(ID_EDIT_COPY, &CPiePage::OnEditCopy)
-ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CPiePage::OnUpdateEditCopy)
-ON_COMMAND(ID_GRAPH_CLEAR_SELECTION_MARK, &CPiePage::OnClearMark)
-ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CPiePage::OnUpdateClearMark)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CPiePage::OnPrintClient)
+    ON_NOTIFY(MPN_SELECTION, IDC_PIE, &CPiePage::OnSelection)
+    ON_COMMAND(ID_EDIT_COPY, &CPiePage::OnEditCopy)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CPiePage::OnUpdateEditCopy)
+    ON_COMMAND(ID_GRAPH_CLEAR_SELECTION_MARK, &CPiePage::OnClearMark)
+    ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CPiePage::OnUpdateClearMark)
 END_MESSAGE_MAP()
 
 int CPiePage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -213,9 +213,9 @@ void CPiePage::OnSelection(NMHDR*, LRESULT* pResult) {
 }
 
 void CPiePage::OnEditCopy() {
-    Host().Say(CopyTextOf(CopyAsMetafile(*this, [this](CDC& dc) {
-        SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT);
-    })));
+    Host().Say(CopyTextOf(CopyAsMetafile(
+        *this,
+        [this](CDC& dc) { SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT); })));
 }
 
 void CPiePage::OnUpdateEditCopy(CCmdUI* pCmdUI) {

@@ -38,40 +38,41 @@ ValueSpan SpanFrom(std::initializer_list<double> values) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CScrollPage, CMonitorPage)
-ON_WM_CREATE()
-ON_WM_MOUSEWHEEL()
-ON_NOTIFY_RANGE(GCN_SCROLL, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnScrolled)
-ON_NOTIFY_RANGE(GCN_SELCHANGE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnSelectionChanged)
-ON_NOTIFY_RANGE(GCN_MOUSEMOVE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnPointerMoved)
-ON_NOTIFY_RANGE(MGN_MOUSELEAVE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnPointerLeft)
-ON_NOTIFY_RANGE(GCN_DBLCLK_LEGEND, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnLegendDoubleClick)
-ON_NOTIFY_RANGE(GCN_DBLCLK_CAPTION, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnCaptionDoubleClick)
-ON_NOTIFY_RANGE(GCN_MAXIMIZE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnMaximize)
-ON_NOTIFY_RANGE(GCN_REMOVEDATA, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnDataRemoved)
-ON_NOTIFY_RANGE(MGN_COPIED, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnCopied)
-ON_NOTIFY_RANGE(MGN_NOTCOPIED, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnNotCopied)
-ON_MESSAGE(WM_GRAPH_SELMARKTIME, &CScrollPage::OnMarkTime)
-ON_COMMAND(ID_EDIT_COPY, &CScrollPage::OnEditCopy)
-ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CScrollPage::OnUpdateEditCopy)
-ON_COMMAND_RANGE(ID_GRAPH_CLEAR_SELECTION_MARK, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CScrollPage::OnEditGraph)
-ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CScrollPage::OnUpdateClearMark)
-ON_UPDATE_COMMAND_UI(ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CScrollPage::OnUpdateRemoveData)
-ON_COMMAND(ID_VIEW_LEGEND, &CScrollPage::OnViewLegend)
-ON_UPDATE_COMMAND_UI(ID_VIEW_LEGEND, &CScrollPage::OnUpdateViewLegend)
-ON_COMMAND_RANGE(ID_VIEW_GRID_X, ID_VIEW_GRID_Y, &CScrollPage::OnViewGrid)
-ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_GRID_X, ID_VIEW_GRID_Y, &CScrollPage::OnUpdateViewGrid)
-ON_COMMAND_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_LATER, &CScrollPage::OnViewMove)
-ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_LATER, &CScrollPage::OnUpdateViewMove)
-ON_COMMAND_RANGE(ID_SCROLL_OLDEST, ID_SCROLL_NEWEST, &CScrollPage::OnViewMove)
-ON_UPDATE_COMMAND_UI_RANGE(ID_SCROLL_OLDEST, ID_SCROLL_NEWEST, &CScrollPage::OnUpdateViewMove)
-ON_COMMAND_RANGE(ID_SCROLL_RANGE_FIRST, ID_SCROLL_RANGE_LAST, &CScrollPage::OnRange)
-ON_UPDATE_COMMAND_UI_RANGE(ID_SCROLL_RANGE_FIRST, ID_SCROLL_RANGE_LAST, &CScrollPage::OnUpdateRange)
-ON_COMMAND(ID_SCROLL_PAUSE, &CScrollPage::OnPause)
-ON_UPDATE_COMMAND_UI(ID_SCROLL_PAUSE, &CScrollPage::OnUpdatePause)
-ON_COMMAND(ID_SCROLL_KEEP, &CScrollPage::OnKeepAtMost)
-ON_UPDATE_COMMAND_UI(ID_SCROLL_KEEP, &CScrollPage::OnUpdateKeepAtMost)
-ON_COMMAND(ID_SCROLL_TINDRO, &CScrollPage::OnTindro)
-ON_UPDATE_COMMAND_UI(ID_SCROLL_TINDRO, &CScrollPage::OnUpdateTindro)
+    ON_WM_CREATE()
+    ON_WM_MOUSEWHEEL()
+    ON_NOTIFY_RANGE(GCN_SCROLL, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnScrolled)
+    ON_NOTIFY_RANGE(GCN_SELCHANGE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnSelectionChanged)
+    ON_NOTIFY_RANGE(GCN_MOUSEMOVE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnPointerMoved)
+    ON_NOTIFY_RANGE(MGN_MOUSELEAVE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnPointerLeft)
+    ON_NOTIFY_RANGE(GCN_DBLCLK_LEGEND, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnLegendDoubleClick)
+    ON_NOTIFY_RANGE(GCN_DBLCLK_CAPTION, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnCaptionDoubleClick)
+    ON_NOTIFY_RANGE(GCN_MAXIMIZE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnMaximize)
+    ON_NOTIFY_RANGE(GCN_REMOVEDATA, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnDataRemoved)
+    ON_NOTIFY_RANGE(MGN_COPIED, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnCopied)
+    ON_NOTIFY_RANGE(MGN_NOTCOPIED, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnNotCopied)
+    ON_MESSAGE(WM_GRAPH_SELMARKTIME, &CScrollPage::OnMarkTime)
+    ON_COMMAND(ID_EDIT_COPY, &CScrollPage::OnEditCopy)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CScrollPage::OnUpdateEditCopy)
+    ON_COMMAND_RANGE(ID_GRAPH_CLEAR_SELECTION_MARK, ID_GRAPH_REMOVE_DATA_BEFORE_MARK,
+                     &CScrollPage::OnEditGraph)
+    ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CScrollPage::OnUpdateClearMark)
+    ON_UPDATE_COMMAND_UI(ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CScrollPage::OnUpdateRemoveData)
+    ON_COMMAND(ID_VIEW_LEGEND, &CScrollPage::OnViewLegend)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_LEGEND, &CScrollPage::OnUpdateViewLegend)
+    ON_COMMAND_RANGE(ID_VIEW_GRID_X, ID_VIEW_GRID_Y, &CScrollPage::OnViewGrid)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_GRID_X, ID_VIEW_GRID_Y, &CScrollPage::OnUpdateViewGrid)
+    ON_COMMAND_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_LATER, &CScrollPage::OnViewMove)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_LATER, &CScrollPage::OnUpdateViewMove)
+    ON_COMMAND_RANGE(ID_SCROLL_OLDEST, ID_SCROLL_NEWEST, &CScrollPage::OnViewMove)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_SCROLL_OLDEST, ID_SCROLL_NEWEST, &CScrollPage::OnUpdateViewMove)
+    ON_COMMAND_RANGE(ID_SCROLL_RANGE_FIRST, ID_SCROLL_RANGE_LAST, &CScrollPage::OnRange)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_SCROLL_RANGE_FIRST, ID_SCROLL_RANGE_LAST, &CScrollPage::OnUpdateRange)
+    ON_COMMAND(ID_SCROLL_PAUSE, &CScrollPage::OnPause)
+    ON_UPDATE_COMMAND_UI(ID_SCROLL_PAUSE, &CScrollPage::OnUpdatePause)
+    ON_COMMAND(ID_SCROLL_KEEP, &CScrollPage::OnKeepAtMost)
+    ON_UPDATE_COMMAND_UI(ID_SCROLL_KEEP, &CScrollPage::OnUpdateKeepAtMost)
+    ON_COMMAND(ID_SCROLL_TINDRO, &CScrollPage::OnTindro)
+    ON_UPDATE_COMMAND_UI(ID_SCROLL_TINDRO, &CScrollPage::OnUpdateTindro)
 END_MESSAGE_MAP()
 
 int CScrollPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -264,22 +265,20 @@ void CScrollPage::AddRows(const std::vector<StripRow>& rows, std::uint64_t base,
         for (std::size_t i = 0; i < m_places.size(); ++i)
             divided[m_places[i].graph].push_back(values[i]);
         const long stamp = m_clock.Stamp(row.time);
-        for (std::size_t i = 0; i < m_inUse; ++i) {
+        for (std::size_t i = 0; i < m_inUse; ++i)
             if (offline)
                 m_graphs[i].AppendOffline(stamp, divided[i]);
             else
                 m_graphs[i].Append(stamp, divided[i]);
-        }
         m_rows.push_back({row.time, static_cast<std::size_t>(row.sample + base), row.count});
     }
-    for (std::size_t i = 0; i < m_inUse; ++i) {
+    for (std::size_t i = 0; i < m_inUse; ++i)
         if (!offline)
             m_graphs[i].RedrawData();
         else if (following)
             m_graphs[i].ShowNewest();
         else
             m_graphs[i].ReachNewest();
-    }
 }
 
 std::vector<double> CScrollPage::ValuesOf(const StripRow& row) {

@@ -125,14 +125,13 @@ void CScrollPage::OnViewMove(UINT nID) {
         SetRange(m_range + 1);
         break;
     default:
-        for (std::size_t i = 0; i < m_inUse; ++i) {
+        for (std::size_t i = 0; i < m_inUse; ++i)
             if (nID == ID_VIEW_EARLIER || nID == ID_VIEW_LATER)
                 m_graphs[i].ScrollPages(nID == ID_VIEW_EARLIER ? -1 : 1);
             else if (nID == ID_SCROLL_OLDEST)
                 m_graphs[i].ShowOldest();
             else
                 m_graphs[i].ShowNewest();
-        }
     }
     ViewChanged();
 }

@@ -61,10 +61,9 @@ void CScrollPage::ShowFilling(bool filling) {
 
 /// The graph that the person looks at.
 std::size_t CScrollPage::FocusedGraph() {
-    for (std::size_t i = 0; i < m_inUse; ++i) {
+    for (std::size_t i = 0; i < m_inUse; ++i)
         if (GetFocus() == &m_graphs[i])
             m_active = i;
-    }
     return m_active;
 }
 
@@ -109,10 +108,9 @@ BOOL CScrollPage::OnMouseWheel(UINT, short zDelta, CPoint) {
     m_wheel += zDelta;
     const int steps = m_wheel / kWheelStep;
     m_wheel %= kWheelStep;
-    for (int i = 0; i < std::abs(steps); ++i) {
+    for (int i = 0; i < std::abs(steps); ++i)
         for (std::size_t graph = 0; graph < m_inUse; ++graph)
             m_graphs[graph].Wheel(static_cast<short>(steps > 0 ? WHEEL_DELTA : -WHEEL_DELTA));
-    }
     if (steps != 0)
         ViewChanged();
     return TRUE;

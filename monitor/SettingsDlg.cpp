@@ -44,17 +44,17 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
 }
 
 BEGIN_MESSAGE_MAP(CSettingsDlg, CDialog)
-ON_EN_CHANGE(IDC_TITLE, &CSettingsDlg::OnGraphChanged)
-ON_CBN_SELCHANGE(IDC_STYLE, &CSettingsDlg::OnGraphChanged)
-ON_CBN_SELCHANGE(IDC_TITLE_STYLE, &CSettingsDlg::OnGraphChanged)
-ON_BN_CLICKED(IDC_LEGEND, &CSettingsDlg::OnGraphChanged)
-ON_BN_CLICKED(IDC_GRID_X, &CSettingsDlg::OnGraphChanged)
-ON_BN_CLICKED(IDC_GRID_Y, &CSettingsDlg::OnGraphChanged)
-ON_CBN_SELCHANGE(IDC_SERIES, &CSettingsDlg::OnSeriesChosen)
-ON_BN_CLICKED(IDC_COLOR, &CSettingsDlg::OnChooseColor)
-ON_CBN_SELCHANGE(IDC_LINE_SIZE, &CSettingsDlg::OnGraphChanged)
-ON_CBN_SELCHANGE(IDC_MARKER, &CSettingsDlg::OnGraphChanged)
-ON_BN_CLICKED(IDC_SHOW_SERIES, &CSettingsDlg::OnGraphChanged)
+    ON_EN_CHANGE(IDC_TITLE, &CSettingsDlg::OnGraphChanged)
+    ON_CBN_SELCHANGE(IDC_STYLE, &CSettingsDlg::OnGraphChanged)
+    ON_CBN_SELCHANGE(IDC_TITLE_STYLE, &CSettingsDlg::OnGraphChanged)
+    ON_BN_CLICKED(IDC_LEGEND, &CSettingsDlg::OnGraphChanged)
+    ON_BN_CLICKED(IDC_GRID_X, &CSettingsDlg::OnGraphChanged)
+    ON_BN_CLICKED(IDC_GRID_Y, &CSettingsDlg::OnGraphChanged)
+    ON_CBN_SELCHANGE(IDC_SERIES, &CSettingsDlg::OnSeriesChosen)
+    ON_BN_CLICKED(IDC_COLOR, &CSettingsDlg::OnChooseColor)
+    ON_CBN_SELCHANGE(IDC_LINE_SIZE, &CSettingsDlg::OnGraphChanged)
+    ON_CBN_SELCHANGE(IDC_MARKER, &CSettingsDlg::OnGraphChanged)
+    ON_BN_CLICKED(IDC_SHOW_SERIES, &CSettingsDlg::OnGraphChanged)
 END_MESSAGE_MAP()
 
 CSettingsDlg::CSettingsDlg(GraphSource source, recording::VisibleRange visible, GraphSettings settings,
@@ -124,8 +124,8 @@ void CSettingsDlg::SettingsToMembers() {
     if (m_series >= 0 && m_series < static_cast<int>(m_settings.series.size())) {
         const SeriesSettings& series = m_settings.series[static_cast<std::size_t>(m_series)];
         m_colorButton.SetColor(series.color);
-        m_lineSize =
-            IndexOf(LineSizeChoices(), [&](const LineSizeChoice& c) { return c.size == series.lineSize; });
+        m_lineSize = IndexOf(
+            LineSizeChoices(), [&](const LineSizeChoice& c) { return c.size == series.lineSize; });
         m_marker = IndexOf(MarkerChoices(), [&](const MarkerChoice& c) { return c.type == series.marker; });
         m_showSeries = series.visible;
     }

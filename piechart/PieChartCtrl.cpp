@@ -4,8 +4,8 @@
 #include <memory>
 #include <new>
 
-#include "graphctrl/GraphCtrlConvert.h"
-#include "piechart/PieGeometry.h"
+#include "gdi/ShapeConversion.h"
+#include "piechart/core/PieGeometry.h"
 
 using namespace kavlix;
 
@@ -24,14 +24,14 @@ void MakePieFont(CFont& font, int height) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPieChartCtrl, CWnd)
-ON_WM_PAINT()
-ON_MESSAGE(WM_PRINTCLIENT, &CPieChartCtrl::OnPrintClient)
-ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CPieChartCtrl::OnPrintClient)
+    ON_WM_ERASEBKGND()
 
-ON_WM_SIZE()
+    ON_WM_SIZE()
 
-ON_WM_LBUTTONDOWN()
-ON_WM_SETCURSOR()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_SETCURSOR()
 END_MESSAGE_MAP()
 
 CPieChartPiece::CPieChartPiece()

@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "piechart/PieGeometry.h"
+#include "piechart/core/PieGeometry.h"
 
 using namespace kavlix;
 

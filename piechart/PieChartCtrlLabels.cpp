@@ -5,11 +5,11 @@
 #include <cstdio>
 
 #include "gdi/Guards.h"
+#include "gdi/ShapeConversion.h"
 #include "gdi/Text.h"
-#include "graphctrl/GraphCtrlConvert.h"
 #include "piechart/PieChartCtrlTexts.h"
-#include "piechart/PieColors.h"
-#include "piechart/PieLabels.h"
+#include "piechart/core/PieColors.h"
+#include "piechart/core/PieLabels.h"
 
 using namespace kavlix;
 

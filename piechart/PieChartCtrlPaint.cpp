@@ -7,10 +7,10 @@
 #include "gdi/Mapping.h"
 #include "gdi/Offscreen.h"
 #include "gdi/PictureFile.h"
+#include "gdi/ShapeConversion.h"
 #include "gdi/Text.h"
-#include "graphctrl/GraphCtrlConvert.h"
-#include "piechart/PieColors.h"
-#include "piechart/PieGeometry.h"
+#include "piechart/core/PieColors.h"
+#include "piechart/core/PieGeometry.h"
 
 using namespace kavlix;
 

@@ -133,4 +133,4 @@ build_preset() {
 # Debian packages by name: what building and showing the program takes, and what only the tests take.
 run_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-liberation fonts-wine)
 picture_packages=(xvfb xdotool imagemagick)
-test_packages=("${run_packages[@]}" xvfb g++ clang g++-mingw-w64-i686-posix googletest tzdata imagemagick)
+test_packages=("${run_packages[@]}" xvfb g++ clang clang-format-14 g++-mingw-w64-i686-posix googletest tzdata imagemagick)

@@ -1,8 +1,8 @@
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include "scrollgraph/ScrollGraphCtrlClock.h"
-#include "scrollgraph/TimeLine.h"
-#include "scrollgraph/ViewWindow.h"
+#include "scrollgraph/core/TimeLine.h"
+#include "scrollgraph/core/ViewWindow.h"
 
 using namespace kavlix;
 
@@ -20,15 +20,15 @@ constexpr int kBarHeight = 14;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CScrollGraphCtrl, CGraphCtrl)
-ON_WM_CREATE()
-ON_WM_PAINT()
-ON_WM_SIZE()
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_WM_SIZE()
 
-ON_WM_HSCROLL()
-ON_WM_MOUSEWHEEL()
-ON_WM_LBUTTONDOWN()
+    ON_WM_HSCROLL()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_LBUTTONDOWN()
 
-ON_COMMAND(ID_GRAPH_SEND_SELECTION_MARK, &CScrollGraphCtrl::OnSendSelectionMarkInfoToTindro)
+    ON_COMMAND(ID_GRAPH_SEND_SELECTION_MARK, &CScrollGraphCtrl::OnSendSelectionMarkInfoToTindro)
 END_MESSAGE_MAP()
 
 CScrollGraphCtrl::CScrollGraphCtrl()

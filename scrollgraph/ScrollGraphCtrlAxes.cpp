@@ -7,11 +7,11 @@
 #include "gdi/DottedPen.h"
 #include "gdi/Guards.h"
 #include "gdi/Text.h"
-#include "graphctrl/AxisTicks.h"
 #include "graphctrl/GraphCtrlPainters.h"
-#include "graphctrl/Numeric.h"
+#include "graphctrl/core/AxisTicks.h"
+#include "plot/Numeric.h"
 #include "scrollgraph/ScrollGraphCtrlClock.h"
-#include "scrollgraph/TimeLine.h"
+#include "scrollgraph/core/TimeLine.h"
 
 using namespace kavlix;
 

@@ -5,7 +5,7 @@
 #include <map>
 #include <optional>
 
-#include "scrollgraph/TimeTicks.h"
+#include "scrollgraph/core/TimeTicks.h"
 
 namespace kavlix {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "gdi/MemoryReport.h"
+#include "gdi/OutOfMemory.h"
 #include "scrollgraph/ScrollGraphCtrlClock.h"
-#include "scrollgraph/TimeLine.h"
-#include "scrollgraph/ViewWindow.h"
+#include "scrollgraph/core/TimeLine.h"
+#include "scrollgraph/core/ViewWindow.h"
 
 using namespace kavlix;
 

@@ -1,7 +1,7 @@
 #include <kavlix/ScrollGraphCtrl.h>
 
-#include "module/resource.h"
-#include "scrollgraph/TimeLine.h"
+#include "gdi/StringIds.h"
+#include "scrollgraph/core/TimeLine.h"
 
 void CScrollGraphCtrl::InsertGraphMenu(CMenu& menu) {
     CGraphCtrl::InsertGraphMenu(menu);

@@ -4,8 +4,8 @@
 #include <iterator>
 
 #include "graphctrl/GraphCtrlPainters.h"
-#include "scrollgraph/TimeLine.h"
-#include "scrollgraph/TimeMap.h"
+#include "scrollgraph/core/TimeLine.h"
+#include "scrollgraph/core/TimeMap.h"
 
 using namespace kavlix;
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <optional>
 
-#include "graphctrl/Numeric.h"
-#include "scrollgraph/TimeLine.h"
-#include "scrollgraph/ViewWindow.h"
+#include "plot/Numeric.h"
+#include "scrollgraph/core/TimeLine.h"
+#include "scrollgraph/core/ViewWindow.h"
 
 using namespace kavlix;
 

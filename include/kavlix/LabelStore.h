@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <utility>
 
-#include <kavlix/Pieces.h>
+#include <kavlix/ChunkedArray.h>
 
 namespace kavlix {
 
@@ -114,7 +114,7 @@ private:
         }
     }
 
-    Pieces<CString, 256> m_texts;
+    ChunkedArray<CString, 256> m_texts;
 };
 
 } // namespace kavlix

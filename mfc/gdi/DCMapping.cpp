@@ -43,7 +43,8 @@ CSize CDC::GetWindowExt() const {
 }
 
 int CDC::SetMapMode(int nMapMode) {
-    return ForBoth(*this, [=](HDC dc) { return ::SetMapMode(dc, nMapMode); });
+    return ForBoth(
+        *this, [=](HDC dc) { return ::SetMapMode(dc, nMapMode); });
 }
 
 CPoint CDC::SetViewportOrg(int x, int y) {

@@ -7,9 +7,8 @@ namespace {
 
 /// `select`s a handle into each DC that is not NULL. The result is `wrap` of the handle that the last one had
 /// before; when there is no memory for it, the DCs get back what they had, and the result is NULL.
-template <class Select, class Wrap>
-auto SelectInto(std::initializer_list<HDC> dcs, HGDIOBJ handle, Select select, Wrap wrap)
-    -> decltype(wrap(handle)) {
+template <class Select, class Wrap> auto SelectInto(std::initializer_list<HDC> dcs, HGDIOBJ handle,
+                                                    Select select, Wrap wrap) -> decltype(wrap(handle)) {
     HGDIOBJ formers[2] = {};
     HGDIOBJ* former = formers;
     for (HDC const dc : dcs)

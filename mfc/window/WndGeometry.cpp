@@ -133,13 +133,15 @@ template <class GiveBack> CDC* WrapNew(HDC dc, GiveBack giveBack) {
 }
 
 CDC* WrapTaken(HWND window, HDC dc) {
-    return WrapNew(dc, [window](HDC taken) { ::ReleaseDC(window, taken); });
+    return WrapNew(
+        dc, [window](HDC taken) { ::ReleaseDC(window, taken); });
 }
 
 } // namespace
 
 CDC* CWnd::BeginPaint(LPPAINTSTRUCT lpPaint) {
-    return WrapNew(::BeginPaint(m_hWnd, lpPaint), [&](HDC) { ::EndPaint(m_hWnd, lpPaint); });
+    return WrapNew(
+        ::BeginPaint(m_hWnd, lpPaint), [&](HDC) { ::EndPaint(m_hWnd, lpPaint); });
 }
 
 void CWnd::EndPaint(LPPAINTSTRUCT lpPaint) {

@@ -46,9 +46,8 @@ void CsvReader::Drain(bool atEnd) {
             m_scanned = m_begin;
             m_skipLf = false;
         }
-        if (m_skipping ? !SkipRestOfLine() : !(Begin(atEnd) && FindRowEnd(atEnd))) {
+        if (m_skipping ? !SkipRestOfLine() : !(Begin(atEnd) && FindRowEnd(atEnd)))
             break;
-        }
     }
     m_pending.erase(0, m_stopped ? m_pending.size() : m_begin);
     m_scanned -= std::min(m_scanned, m_begin);
@@ -58,9 +57,8 @@ void CsvReader::Drain(bool atEnd) {
 
 /// Deals with what stands before the first row: the byte order mark, and finding the separator.
 bool CsvReader::Begin(bool atEnd) {
-    if (m_started) {
+    if (m_started)
         return true;
-    }
     // The separator needs the whole first line, or as much of it as is allowed to be there.
     const std::size_t lineEnd = m_pending.find_first_of("\r\n", m_scanned);
     if (lineEnd == std::string::npos && !atEnd && m_pending.size() < kLineLimit + kUtf8Mark.size()) {
@@ -95,9 +93,8 @@ void CsvReader::SetSeparator(std::string_view firstLine) {
         }
     }
     m_separator = best == std::size(kSeparators) ? ',' : kSeparators[best];
-    for (const char c : {m_separator, '\n', '\r'}) {
+    for (const char c : {m_separator, '\n', '\r'})
         m_special[static_cast<unsigned char>(c)] = true;
-    }
 }
 
 /// @return false when the line goes on beyond what is there.
@@ -135,18 +132,16 @@ bool CsvReader::FindRowEnd(bool atEnd) {
             if (c == '"') {
                 m_scan = Scan::Closed;
             } else if (IsLineEnd(c)) {
-                if (at < m_plainUntil) {
+                if (at < m_plainUntil)
                     break;
-                }
                 m_rowHasBreaks = true;
             }
         } else if (c == '"' && m_scan != Scan::Plain) {
             m_scan = Scan::Quoted;
         } else if (!IsSpecial(c)) {
             m_scan = Scan::Plain;
-            while (at + 1 < stop && !IsSpecial(m_pending[at + 1])) {
+            while (at + 1 < stop && !IsSpecial(m_pending[at + 1]))
                 ++at;
-            }
         } else if (c == m_separator) {
             m_scan = Scan::CellStart;
         } else {
@@ -160,9 +155,8 @@ bool CsvReader::FindRowEnd(bool atEnd) {
         return true;
     }
     const bool tooLong = stop - m_begin > kLineLimit;
-    if (!tooLong && !atEnd) {
+    if (!tooLong && !atEnd)
         return false;
-    }
     if (m_rowHasBreaks && (tooLong || m_scan == Scan::Quoted)) {
         RestartLineByLine(stop);
         return true;
@@ -233,9 +227,8 @@ std::size_t CsvReader::ReadQuoted(std::string_view row, std::size_t at) {
         const bool doubled = quote + 1 < row.size() && row[quote + 1] == '"';
         m_unquoted.append(row.substr(from, quote - from + (doubled ? 1 : 0)));
         from = quote + (doubled ? 2 : 1);
-        if (!doubled) {
+        if (!doubled)
             break;
-        }
     }
     const std::size_t end = std::min(row.find(m_separator, from), row.size());
     if (end > from) {

@@ -27,9 +27,8 @@ std::string NameInFile(const std::vector<Table>& tables, std::size_t file, const
 
 std::string MakeDistinct(std::set<std::string>& taken, const std::string& name) {
     std::string distinct = name;
-    for (int number = 2; !taken.insert(distinct).second; ++number) {
+    for (int number = 2; !taken.insert(distinct).second; ++number)
         distinct = name + " (" + std::to_string(number) + ")";
-    }
     return distinct;
 }
 
@@ -86,22 +85,18 @@ private:
 
 void MergeRows(const std::vector<Table>& tables, Recording& recording) {
     std::size_t longest = 0;
-    for (const Table& table : tables) {
+    for (const Table& table : tables)
         longest = std::max(longest, table.times.size());
-    }
     recording.times.reserve(longest);
-    for (Series& series : recording.series) {
+    for (Series& series : recording.series)
         series.values.reserve(longest);
-    }
     Merge merge(tables);
     for (Time time = 0; merge.Step(time);) {
         recording.times.push_back(time);
         std::size_t target = 0;
-        for (std::size_t file = 0; file < tables.size(); ++file) {
-            for (std::size_t column = 0; column < tables[file].columns.size(); ++column) {
+        for (std::size_t file = 0; file < tables.size(); ++file)
+            for (std::size_t column = 0; column < tables[file].columns.size(); ++column)
                 recording.series[target++].values.push_back(merge.Value(file, column));
-            }
-        }
     }
 }
 
@@ -124,9 +119,8 @@ void JoinTables(std::vector<Table> tables, Recording& recording) {
     }
     Table& only = *std::find_if(tables.begin(), tables.end(), hasRows);
     recording.times = std::move(only.times);
-    for (std::size_t i = 0; i < only.columns.size(); ++i) {
+    for (std::size_t i = 0; i < only.columns.size(); ++i)
         recording.series[i].values = std::move(only.columns[i]);
-    }
 }
 
 } // namespace kavlix::recording

@@ -28,9 +28,8 @@ std::string Message::ToText() const {
     std::string place = file;
     if (line != 0) {
         place += ':' + std::to_string(line);
-        if (column != 0) {
+        if (column != 0)
             place += ':' + std::to_string(column);
-        }
     }
     return place + ": " + text;
 }
@@ -45,18 +44,16 @@ void MessageLog::Add(Complaint complaint, std::uint64_t line, std::uint64_t colu
 
 std::uint64_t MessageLog::Total() const {
     std::uint64_t total = 0;
-    for (const std::uint64_t count : m_counts) {
+    for (const std::uint64_t count : m_counts)
         total += count;
-    }
     return total;
 }
 
 std::vector<std::string> MessageLog::Lines() const {
     std::vector<std::string> lines;
     lines.reserve(m_kept.size());
-    for (const Message& message : m_kept) {
+    for (const Message& message : m_kept)
         lines.push_back(message.ToText());
-    }
     for (std::size_t i = 0; i < m_counts.size(); ++i) {
         if (m_counts[i] > kLimit) {
             lines.push_back(m_file + ": and " + FormatCount(m_counts[i] - kLimit) + " more " +

@@ -12,10 +12,9 @@ double AxisDistance(double value, AxisRange axis, double place) {
 
 std::optional<std::size_t> Nearest(const std::vector<double>& distances) {
     std::optional<std::size_t> nearest;
-    for (std::size_t i = 0; i < distances.size(); ++i) {
+    for (std::size_t i = 0; i < distances.size(); ++i)
         if (!std::isnan(distances[i]) && (!nearest || distances[i] < distances[*nearest]))
             nearest = i;
-    }
     return nearest;
 }
 

@@ -24,7 +24,8 @@ char Lower(char c) {
 
 bool EqualsLower(std::string_view text, std::string_view lower) {
     return text.size() == lower.size() &&
-           std::equal(text.begin(), text.end(), lower.begin(), [](char a, char b) { return Lower(a) == b; });
+           std::equal(
+               text.begin(), text.end(), lower.begin(), [](char a, char b) { return Lower(a) == b; });
 }
 
 bool IsAbsent(std::string_view text) {
@@ -44,9 +45,8 @@ bool IsUnderflow(std::string_view digits) {
         const bool negative = !text.empty() && text.front() == '-';
         text.remove_prefix(!text.empty() && (text.front() == '-' || text.front() == '+') ? 1 : 0);
         if (std::from_chars(text.data(), text.data() + text.size(), exponent).ec != std::errc() ||
-            exponent > kFar) {
+            exponent > kFar)
             exponent = kFar;
-        }
         exponent = negative ? -exponent : exponent;
     }
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
@@ -57,24 +57,20 @@ bool IsUnderflow(std::string_view digits) {
 NumberKind ParsePlain(std::string_view text, double& value) {
     const bool negative = text.front() == '-';
     std::string_view digits = text;
-    if (negative || text.front() == '+') {
+    if (negative || text.front() == '+')
         digits.remove_prefix(1);
-    }
     // Only these may begin a number here; from_chars alone would also take "inf", "nan(...)" and a second
     // sign.
-    if (digits.empty() || !((digits.front() >= '0' && digits.front() <= '9') || digits.front() == '.')) {
+    if (digits.empty() || !((digits.front() >= '0' && digits.front() <= '9') || digits.front() == '.'))
         return NumberKind::Bad;
-    }
     double read = 0;
     const char* const end = digits.data() + digits.size();
     const std::from_chars_result result = std::from_chars(digits.data(), end, read);
-    if (result.ptr != end || (result.ec != std::errc() && result.ec != std::errc::result_out_of_range)) {
+    if (result.ptr != end || (result.ec != std::errc() && result.ec != std::errc::result_out_of_range))
         return NumberKind::Bad;
-    }
     if (result.ec == std::errc::result_out_of_range || !std::isfinite(read)) {
-        if (!IsUnderflow(digits)) {
+        if (!IsUnderflow(digits))
             return NumberKind::Bad;
-        }
         read = 0;
     }
     value = negative ? -read : read;
@@ -85,23 +81,18 @@ NumberKind ParsePlain(std::string_view text, double& value) {
 std::size_t SequenceLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char lead = byte(0);
-    if (lead < 0x80) {
+    if (lead < 0x80)
         return 1;
-    }
     const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) {
+    if (lead < 0xC2 || lead > 0xF4 || text.size() < length)
         return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0) != 0x80) {
+    for (std::size_t i = 1; i < length; ++i)
+        if ((byte(i) & 0xC0) != 0x80)
             return 0;
-        }
-    }
     // Overlong forms, surrogates and what lies beyond the last code point.
     if ((lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xED && byte(1) > 0x9F) ||
-        (lead == 0xF0 && byte(1) < 0x90) || (lead == 0xF4 && byte(1) > 0x8F)) {
+        (lead == 0xF0 && byte(1) < 0x90) || (lead == 0xF4 && byte(1) > 0x8F))
         return 0;
-    }
     return length;
 }
 
@@ -110,15 +101,12 @@ std::size_t SequenceLength(std::string_view text) {
 NumberKind ParseNumber(std::string_view text, double& value, bool decimalComma) {
     value = std::numeric_limits<double>::quiet_NaN();
     const std::string_view trimmed = TrimBlanks(text);
-    if (trimmed.empty()) {
+    if (trimmed.empty())
         return NumberKind::Absent;
-    }
-    if (ParsePlain(trimmed, value) == NumberKind::Value) {
+    if (ParsePlain(trimmed, value) == NumberKind::Value)
         return NumberKind::Value;
-    }
-    if (IsAbsent(trimmed)) {
+    if (IsAbsent(trimmed))
         return NumberKind::Absent;
-    }
     if (decimalComma && trimmed.find('.') == std::string_view::npos) {
         const std::size_t comma = trimmed.find(',');
         if (comma != std::string_view::npos) {
@@ -152,9 +140,8 @@ std::string QuoteForMessage(std::string_view text, std::size_t limit) {
     while (at < text.size()) {
         const unsigned char byte = static_cast<unsigned char>(text[at]);
         const std::size_t length = SequenceLength(text.substr(at));
-        if (at + std::max<std::size_t>(length, 1) > limit) {
+        if (at + std::max<std::size_t>(length, 1) > limit)
             return quoted + "\"...";
-        }
         if (length == 0 || IsControl(byte)) {
             quoted += "\\x";
             quoted += kHex[byte >> 4];
@@ -190,12 +177,10 @@ std::string ToValidUtf8(std::string_view text) {
 }
 
 std::string_view TrimBlanks(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) {
+    while (!text.empty() && IsBlank(text.front()))
         text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlank(text.back())) {
+    while (!text.empty() && IsBlank(text.back()))
         text.remove_suffix(1);
-    }
     return text;
 }
 

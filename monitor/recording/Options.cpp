@@ -34,9 +34,8 @@ bool ParseWhole(std::string_view text, int least, int most, int& value) {
     const char* const end = text.data() + text.size();
     int read = 0;
     const std::from_chars_result result = std::from_chars(text.data(), end, read);
-    if (result.ec != std::errc() || result.ptr != end || read < least || read > most) {
+    if (result.ec != std::errc() || result.ptr != end || read < least || read > most)
         return false;
-    }
     value = read;
     return true;
 }
@@ -48,9 +47,8 @@ bool SetShot(Options& options, std::string_view value) {
 
 bool SetSeconds(Options& options, std::string_view value) {
     double seconds = 0;
-    if (ParseNumber(value, seconds) != NumberKind::Value || seconds <= 0 || seconds > kMaxSeconds) {
+    if (ParseNumber(value, seconds) != NumberKind::Value || seconds <= 0 || seconds > kMaxSeconds)
         return false;
-    }
     options.seconds = seconds;
     return true;
 }
@@ -60,9 +58,8 @@ bool SetSize(Options& options, std::string_view value) {
     WindowSize size;
     if (cross == std::string_view::npos ||
         !ParseWhole(value.substr(0, cross), kMinWindowSide, kMaxWindowSide, size.width) ||
-        !ParseWhole(value.substr(cross + 1), kMinWindowSide, kMaxWindowSide, size.height)) {
+        !ParseWhole(value.substr(cross + 1), kMinWindowSide, kMaxWindowSide, size.height))
         return false;
-    }
     options.size = size;
     return true;
 }
@@ -91,9 +88,8 @@ std::string PageNames() {
 
 bool SetPage(Options& options, std::string_view value) {
     const auto found = std::find(kPageNames.begin(), kPageNames.end(), value);
-    if (found == kPageNames.end()) {
+    if (found == kPageNames.end())
         return false;
-    }
     options.page = static_cast<std::size_t>(found - kPageNames.begin());
     return true;
 }
@@ -136,9 +132,8 @@ void ReadOption(const std::vector<std::string>& arguments, std::size_t& at, Opti
         }
     }
     for (const ValueOption& option : kValueOptions) {
-        if (name != option.name) {
+        if (name != option.name)
             continue;
-        }
         std::string_view value;
         if (equals != std::string::npos) {
             value = std::string_view(argument).substr(equals + 1);
@@ -158,14 +153,12 @@ void ReadOption(const std::vector<std::string>& arguments, std::size_t& at, Opti
 }
 
 void CheckTogether(Options& options) {
-    if (!options.error.empty() || options.help) {
+    if (!options.error.empty() || options.help)
         return;
-    }
-    if (options.check && options.files.empty()) {
+    if (options.check && options.files.empty())
         options.error = "--check: expected at least one file";
-    } else if (options.check && !options.shot.empty()) {
+    else if (options.check && !options.shot.empty())
         options.error = "--check and --shot: expected only one of them";
-    }
 }
 
 } // namespace
@@ -175,13 +168,12 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
     bool onlyFiles = false;
     for (std::size_t at = 0; at < arguments.size() && options.error.empty(); ++at) {
         const std::string& argument = arguments[at];
-        if (onlyFiles || argument.size() < 2 || argument.front() != '-') {
+        if (onlyFiles || argument.size() < 2 || argument.front() != '-')
             options.files.push_back(argument);
-        } else if (argument == "--") {
+        else if (argument == "--")
             onlyFiles = true;
-        } else {
+        else
             ReadOption(arguments, at, options);
-        }
     }
     CheckTogether(options);
     return options;

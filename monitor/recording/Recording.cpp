@@ -7,24 +7,24 @@
 namespace kavlix::recording {
 
 bool Recording::Empty() const {
-    return std::none_of(series.begin(), series.end(), [](const Series& one) {
-        return std::any_of(one.values.begin(), one.values.end(),
-                           [](double value) { return !std::isnan(value); });
-    });
+    return std::none_of(
+        series.begin(), series.end(),
+        [](const Series& one) {
+            return std::any_of(
+                one.values.begin(), one.values.end(), [](double value) { return !std::isnan(value); });
+        });
 }
 
 std::uint64_t Recording::RowsLeftOut() const {
     std::uint64_t count = 0;
-    for (const FileSummary& file : files) {
+    for (const FileSummary& file : files)
         count += file.rowsLeftOut;
-    }
     return count;
 }
 
 Status Recording::GetStatus() const {
-    if (Empty()) {
+    if (Empty())
         return Status::Nothing;
-    }
     const bool anyLeftOut = std::any_of(files.begin(), files.end(), [](const FileSummary& file) {
         return file.leftOut || file.rowsLeftOut > 0;
     });
@@ -32,7 +32,8 @@ Status Recording::GetStatus() const {
 }
 
 bool Recording::Zoned() const {
-    return std::any_of(files.begin(), files.end(), [](const FileSummary& file) { return file.zoned; });
+    return std::any_of(
+        files.begin(), files.end(), [](const FileSummary& file) { return file.zoned; });
 }
 
 Recording WithoutHead(const Recording& source, std::size_t count) {
@@ -52,9 +53,8 @@ Recording WithoutHead(const Recording& source, std::size_t count) {
 }
 
 void ValueSpan::Take(double value) {
-    if (!std::isfinite(value)) {
+    if (!std::isfinite(value))
         return;
-    }
     min = any ? std::min(min, value) : value;
     max = any ? std::max(max, value) : value;
     any = true;
@@ -71,20 +71,17 @@ ValueSpan SpanOf(const std::vector<double>& values, std::size_t first, std::size
     ValueSpan span;
     const std::size_t begin = std::min(first, values.size());
     const std::size_t end = begin + std::min(count, values.size() - begin);
-    for (std::size_t i = begin; i < end; ++i) {
+    for (std::size_t i = begin; i < end; ++i)
         span.Take(values[i]);
-    }
     return span;
 }
 
 Time MedianInterval(const std::vector<Time>& times) {
-    if (times.size() < 2) {
+    if (times.size() < 2)
         return 0;
-    }
     std::vector<Time> distances(times.size() - 1);
-    for (std::size_t i = 0; i < distances.size(); ++i) {
+    for (std::size_t i = 0; i < distances.size(); ++i)
         distances[i] = times[i + 1] - times[i];
-    }
     const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
     std::nth_element(distances.begin(), middle, distances.end());
     return *middle;

@@ -33,12 +33,10 @@ std::uint64_t SizeOf(const std::string& path) {
 } // namespace
 
 int Progress::Percent() const {
-    if (finished) {
+    if (finished)
         return 100;
-    }
-    if (bytesTotal == 0) {
+    if (bytesTotal == 0)
         return 0;
-    }
     const double share = static_cast<double>(bytesDone) / static_cast<double>(bytesTotal);
     return std::min(99, static_cast<int>(share * 100.0));
 }
@@ -70,22 +68,19 @@ struct RecordingLoader::State {
     }
 
     void Refuse(const std::string& text) {
-        if (File().log.Count(Complaint::File)) {
+        if (File().log.Count(Complaint::File))
             File().log.Add(Complaint::File, 0, 0, text);
-        }
     }
 
     /// Reads one piece of the current file. @return bytes read; 0 at its end.
     std::size_t ReadPiece(std::size_t most) {
-        if (reader->Stopped()) {
+        if (reader->Stopped())
             return 0;
-        }
         errno = 0;
         stream.read(buffer.data(), static_cast<std::streamsize>(std::min(most, buffer.size())));
         const std::size_t got = static_cast<std::size_t>(stream.gcount());
-        if (got == 0 && (stream.bad() || errno != 0)) {
+        if (got == 0 && (stream.bad() || errno != 0))
             Refuse("expected a file that can be read to its end: " + LastSystemError());
-        }
         return got;
     }
 
@@ -132,9 +127,8 @@ struct RecordingLoader::State {
             got = 0;
         }
         Advance(got, rowsBefore);
-        if (got == 0) {
+        if (got == 0)
             EndFile();
-        }
         return got;
     }
 
@@ -163,13 +157,11 @@ RecordingLoader::~RecordingLoader() = default;
 Progress RecordingLoader::Step(std::size_t budgetBytes) {
     State& state = *m_state;
     std::size_t budget = std::max<std::size_t>(budgetBytes, 1);
-    while (!state.progress.finished && budget > 0) {
-        if (state.progress.file == state.recording.files.size()) {
+    while (!state.progress.finished && budget > 0)
+        if (state.progress.file == state.recording.files.size())
             state.Join();
-        } else {
+        else
             budget -= std::min(budget, state.ReadSome(budget));
-        }
-    }
     return state.progress;
 }
 
@@ -179,16 +171,13 @@ Progress RecordingLoader::GetProgress() const {
 
 void RecordingLoader::Cancel() {
     State& state = *m_state;
-    if (state.progress.finished) {
+    if (state.progress.finished)
         return;
-    }
     state.recording.cancelled = true;
-    if (state.reader) {
+    if (state.reader)
         state.EndFile();
-    }
-    for (; state.progress.file < state.recording.files.size(); ++state.progress.file) {
+    for (; state.progress.file < state.recording.files.size(); ++state.progress.file)
         state.File().leftOut = true;
-    }
     state.Join();
 }
 

@@ -17,9 +17,8 @@ void SpanIndex::Clear() {
 }
 
 void SpanIndex::Append(double value) {
-    if ((m_gone + m_size) % kBlock == 0) {
+    if ((m_gone + m_size) % kBlock == 0)
         m_blocks.emplace_back();
-    }
     m_blocks.back().Take(value);
     ++m_size;
 }
@@ -31,9 +30,8 @@ void SpanIndex::RemoveHead(std::size_t count) {
     }
     m_size -= count;
     m_gone += count;
-    for (; m_gone >= kBlock; m_gone -= kBlock) {
+    for (; m_gone >= kBlock; m_gone -= kBlock)
         m_blocks.pop_front();
-    }
 }
 
 ValueSpan SpanIndex::Of(std::size_t first, std::size_t end,

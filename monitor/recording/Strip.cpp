@@ -43,9 +43,8 @@ StripPlan PlanStrip(const Recording& recording) {
     const Time earliest = std::max(*std::prev(end) - kLongestStrip, kFirstStripTime);
     plan.first = static_cast<std::size_t>(std::lower_bound(times.begin(), end, earliest) - times.begin());
 
-    for (const FileSummary& file : recording.files) {
+    for (const FileSummary& file : recording.files)
         plan.interval = std::max(plan.interval, file.interval);
-    }
     plan.interval = std::max(plan.interval, kMicrosPerSecond);
     const auto last = static_cast<std::size_t>(end - times.begin());
     std::size_t gaps = 0;
@@ -55,22 +54,19 @@ StripPlan PlanStrip(const Recording& recording) {
         shared += WholeSecond(times[i - 1]) == WholeSecond(times[i]);
     }
     plan.wholeSeconds = shared * kUsualOf > last - plan.first;
-    if (gaps * kUsualOf > last - plan.first) {
+    if (gaps * kUsualOf > last - plan.first)
         plan.interval = 0;
-    }
     return plan;
 }
 
 void AppendGap(Time from, Time to, Time interval, std::size_t sample, std::vector<StripRow>& rows) {
-    if (!IsGap(from, to, interval)) {
+    if (!IsGap(from, to, interval))
         return;
-    }
     const Time step =
         std::max({WholeSecond(interval), (to - from) / kMostGapRows / kMicrosPerSecond * kMicrosPerSecond,
                   kMicrosPerSecond});
-    for (Time time = from + step; time < to; time += step) {
+    for (Time time = from + step; time < to; time += step)
         rows.push_back({time, sample, 0});
-    }
 }
 
 void AppendRows(const Recording& recording, const StripPlan& plan, std::size_t& sample, std::size_t most,
@@ -81,12 +77,10 @@ void AppendRows(const Recording& recording, const StripPlan& plan, std::size_t& 
         if (!rows.empty() && rows.back().count > 0 && rows.back().time == second) {
             ++rows.back().count;
         } else {
-            if (taken >= most) {
+            if (taken >= most)
                 return;
-            }
-            if (!rows.empty()) {
+            if (!rows.empty())
                 AppendGap(rows.back().time, second, plan.interval, sample, rows);
-            }
             rows.push_back({second, sample, 1});
         }
         ++sample;
@@ -99,24 +93,20 @@ double StripValue(const std::vector<double>& values, const StripRow& row, double
     double chosen = std::numeric_limits<double>::quiet_NaN();
     for (std::size_t i = row.sample; i < row.sample + row.count; ++i) {
         const double value = values[i];
-        if (std::isnan(value)) {
+        if (std::isnan(value))
             continue;
-        }
-        if (std::isnan(chosen) || std::abs(value - before) > std::abs(chosen - before)) {
+        if (std::isnan(chosen) || std::abs(value - before) > std::abs(chosen - before))
             chosen = value;
-        }
     }
     return chosen;
 }
 
 std::vector<bool> ShareOut(const std::vector<ValueSpan>& spans) {
     std::vector<bool> below(spans.size(), false);
-    for (std::size_t i = 1; i < spans.size(); ++i) {
+    for (std::size_t i = 1; i < spans.size(); ++i)
         below[i] = !SameMagnitude(Magnitude(spans[i]), Magnitude(spans[0]));
-    }
-    if (std::find(below.begin(), below.end(), true) == below.end() && spans.size() > 1) {
+    if (std::find(below.begin(), below.end(), true) == below.end() && spans.size() > 1)
         std::fill(below.begin() + 1, below.end(), true);
-    }
     return below;
 }
 
@@ -125,9 +115,8 @@ std::size_t ChooseStripRange(Time length) {
     const auto covers = [length](int range) { return range * kMicrosPerSecond >= length; };
     const std::size_t found = static_cast<std::size_t>(
         std::find_if(std::begin(kStripRanges), std::end(kStripRanges), covers) - std::begin(kStripRanges));
-    if (found == count) {
+    if (found == count)
         return count - 1;
-    }
     return found > 0 && length * 3 < kStripRanges[found] * kMicrosPerSecond ? found - 1 : found;
 }
 

@@ -20,18 +20,19 @@ bool IsBlankRow(const CsvRow& row) {
 /// Cells without the blank ones at the end, which trailing separators leave.
 std::size_t CountFilledCells(const CsvRow& row) {
     std::size_t count = row.cells.size();
-    while (count > 0 && TrimBlanks(row.cells[count - 1].text).empty()) {
+    while (count > 0 && TrimBlanks(row.cells[count - 1].text).empty())
         --count;
-    }
     return count;
 }
 
 /// Whether the text holds bytes that no text file holds. Line breaks may stand in a quoted name.
 bool HoldsBinary(std::string_view text) {
-    return std::any_of(text.begin(), text.end(), [](char c) {
-        const unsigned char byte = static_cast<unsigned char>(c);
-        return byte < 0x20 && c != '\t' && c != '\n' && c != '\r';
-    });
+    return std::any_of(
+        text.begin(), text.end(),
+        [](char c) {
+            const unsigned char byte = static_cast<unsigned char>(c);
+            return byte < 0x20 && c != '\t' && c != '\n' && c != '\r';
+        });
 }
 
 std::string Counted(std::size_t count, const char* noun) {
@@ -60,9 +61,8 @@ Table TableReader::Finish() {
         m_summary.leftOut = true;
         return {};
     }
-    if (m_unsorted) {
+    if (m_unsorted)
         SortByTime();
-    }
     Summarize();
     return std::move(m_table);
 }
@@ -70,13 +70,11 @@ Table TableReader::Finish() {
 void TableReader::RecoverFromLowMemory() {
     m_csv.Stop();
     std::size_t rows = m_table.times.size();
-    for (const std::vector<double>& column : m_table.columns) {
+    for (const std::vector<double>& column : m_table.columns)
         rows = std::min(rows, column.size());
-    }
     m_table.times.resize(rows);
-    for (std::vector<double>& column : m_table.columns) {
+    for (std::vector<double>& column : m_table.columns)
         column.resize(rows);
-    }
     m_summary.rows = rows;
     ++m_summary.rowsLeftOut;
     if (m_summary.log.Count(Complaint::Memory)) {
@@ -87,9 +85,8 @@ void TableReader::RecoverFromLowMemory() {
 
 void TableReader::OnFault(CsvFault fault, std::uint64_t line, std::uint64_t column) {
     const auto tell = [&](Complaint complaint, const std::string& text) {
-        if (m_summary.log.Count(complaint)) {
+        if (m_summary.log.Count(complaint))
             m_summary.log.Add(complaint, line, column, text);
-        }
     };
     switch (fault) {
     case CsvFault::Utf16:
@@ -114,23 +111,20 @@ void TableReader::OnFault(CsvFault fault, std::uint64_t line, std::uint64_t colu
 
 bool TableReader::OnRow(const CsvRow& row) {
     m_endLine = row.endLine + 1;
-    if (IsBlankRow(row)) {
+    if (IsBlankRow(row))
         return true;
-    }
-    if (!m_headerSeen) {
+    if (!m_headerSeen)
         return ReadHeader(row);
-    }
     ReadData(row);
     return true;
 }
 
 /// Adds a message about the row's cell; an index beyond the last cell means the row's end.
 void TableReader::Tell(Complaint complaint, const CsvRow& row, std::size_t cell, const std::string& text) {
-    if (cell < row.cells.size()) {
+    if (cell < row.cells.size())
         m_summary.log.Add(complaint, row.line + row.cells[cell].line, row.cells[cell].column, text);
-    } else {
+    else
         m_summary.log.Add(complaint, row.endLine, row.endColumn, text);
-    }
 }
 
 bool TableReader::ReadHeader(const CsvRow& row) {
@@ -163,12 +157,10 @@ bool TableReader::ReadHeader(const CsvRow& row) {
              "expected a header row with the names of the series, found the time " +
                  QuoteForMessage(row.cells.front().text) + "; the row is kept as data");
     }
-    if (!TakeNames(row, cellCount, !isData)) {
+    if (!TakeNames(row, cellCount, !isData))
         return false;
-    }
-    if (isData) {
+    if (isData)
         ReadData(row);
-    }
     return true;
 }
 
@@ -210,9 +202,8 @@ void TableReader::ReadData(const CsvRow& row) {
     CheckOrder(row, time.time);
     m_summary.zoned = m_summary.zoned || time.zoned;
     m_table.times.push_back(time.time);
-    for (std::size_t i = 0; i < m_values.size(); ++i) {
+    for (std::size_t i = 0; i < m_values.size(); ++i)
         m_table.columns[i].push_back(m_values[i]);
-    }
     ++m_summary.rows;
 }
 
@@ -231,9 +222,8 @@ bool TableReader::ReadCells(const CsvRow& row) {
     bool anyValue = false;
     for (std::size_t i = 0; i < m_values.size(); ++i) {
         m_values[i] = kGap;
-        if (i + 1 >= found) {
+        if (i + 1 >= found)
             continue;
-        }
         const std::string_view text = row.cells[i + 1].text;
         const NumberKind kind = ParseNumber(text, m_values[i], m_csv.Separator() == ';');
         anyValue = anyValue || kind == NumberKind::Value;
@@ -257,9 +247,8 @@ bool TableReader::ReadCells(const CsvRow& row) {
 }
 
 void TableReader::CheckOrder(const CsvRow& row, Time time) {
-    if (m_table.times.empty() || time >= m_table.times.back()) {
+    if (m_table.times.empty() || time >= m_table.times.back())
         return;
-    }
     m_unsorted = true;
     if (m_summary.log.Count(Complaint::TimeBackwards)) {
         const Time before = m_table.times.back();
@@ -273,17 +262,16 @@ void TableReader::SortByTime() {
     const std::vector<Time>& times = m_table.times;
     std::vector<std::size_t> order(times.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::size_t a, std::size_t b) { return times[a] < times[b]; });
+    std::stable_sort(
+        order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return times[a] < times[b]; });
     const auto reorder = [&](auto& column) {
         auto sorted = column;
         std::transform(order.begin(), order.end(), sorted.begin(),
                        [&](std::size_t from) { return column[from]; });
         column = std::move(sorted);
     };
-    for (std::vector<double>& column : m_table.columns) {
+    for (std::vector<double>& column : m_table.columns)
         reorder(column);
-    }
     reorder(m_table.times);
 }
 

@@ -29,38 +29,31 @@ template <typename Test> bool All(const std::vector<Time>& times, Test test) {
 
 TimeLabelStyle::Form ChooseForm(const std::vector<Time>& times, int labels) {
     using Form = TimeLabelStyle::Form;
-    if (times.empty()) {
+    if (times.empty())
         return Form::Clock;
-    }
     if (!All(times, IsMidnight)) {
         const Time span = times.back() - times.front();
-        if (span / std::max(labels, 1) >= kMicrosPerDay) {
+        if (span / std::max(labels, 1) >= kMicrosPerDay)
             return Form::Date;
-        }
         return FormatDate(times.front()) == FormatDate(times.back()) ? Form::Clock : Form::DayAndClock;
     }
-    if (times.size() < 2 || !All(times, IsFirstOfMonth)) {
+    if (times.size() < 2 || !All(times, IsFirstOfMonth))
         return Form::Date;
-    }
     return All(times, IsNewYear) ? Form::Year : Form::Month;
 }
 
 /// What the times need to be told apart, but no more than a picture of their span can use.
 TimePrecision ChoosePrecision(const std::vector<Time>& times) {
-    if (times.empty()) {
+    if (times.empty())
         return TimePrecision::Seconds;
-    }
     const Time span = times.back() - times.front();
     const bool minutes = All(times, [](Time time) { return time % kMicrosPerMinute == 0; });
-    if (minutes || span >= 3 * kMicrosPerDay) {
+    if (minutes || span >= 3 * kMicrosPerDay)
         return TimePrecision::Minutes;
-    }
-    if (span >= 10 * kMicrosPerMinute || All(times, [](Time time) { return time % kMicrosPerSecond == 0; })) {
+    if (span >= 10 * kMicrosPerMinute || All(times, [](Time time) { return time % kMicrosPerSecond == 0; }))
         return TimePrecision::Seconds;
-    }
-    if (span >= 10 * kMicrosPerSecond || All(times, [](Time time) { return time % 1000 == 0; })) {
+    if (span >= 10 * kMicrosPerSecond || All(times, [](Time time) { return time % 1000 == 0; }))
         return TimePrecision::Millis;
-    }
     return TimePrecision::Micros;
 }
 
@@ -95,9 +88,8 @@ std::string MakeTimeLabel(const TimeLabelStyle& style, Time time) {
 }
 
 std::string TimeAxisTitle(const std::vector<Time>& times, const TimeLabelStyle& style, bool zoned) {
-    if (times.empty()) {
+    if (times.empty())
         return "Time";
-    }
     const auto written = [&](Time time) {
         const bool clock = style.form == TimeLabelStyle::Form::DayAndClock;
         return clock ? FormatDateTime(time, style.precision) : MakeTimeLabel(style, time);

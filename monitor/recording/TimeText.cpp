@@ -26,23 +26,20 @@ public:
     char Peek() const { return AtEnd() ? '\0' : m_text[m_at]; }
 
     bool Read(char expected) {
-        if (Peek() != expected || AtEnd()) {
+        if (Peek() != expected || AtEnd())
             return false;
-        }
         ++m_at;
         return true;
     }
 
     bool ReadDigits(std::size_t count, int& value) {
-        if (m_text.size() - m_at < count) {
+        if (m_text.size() - m_at < count)
             return false;
-        }
         int read = 0;
         for (std::size_t i = 0; i < count; ++i) {
             const char c = m_text[m_at + i];
-            if (!IsDigit(c)) {
+            if (!IsDigit(c))
                 return false;
-            }
             read = read * 10 + (c - '0');
         }
         m_at += count;
@@ -52,9 +49,8 @@ public:
 
     /// At least one digit behind a decimal point, as millionths; further digits are dropped.
     bool ReadMillionths(int& micros) {
-        if (!IsDigit(Peek())) {
+        if (!IsDigit(Peek()))
             return false;
-        }
         int scale = 100'000;
         int read = 0;
         for (; IsDigit(Peek()); ++m_at) {
@@ -79,20 +75,16 @@ bool ReadDate(Cursor& cursor, CivilTime& civil) {
 /// Reads the time of day; `leap` tells of a second 60, which civil holds as 59.
 bool ReadClock(Cursor& cursor, CivilTime& civil, bool& leap) {
     if (!cursor.ReadDigits(2, civil.hour) || !cursor.Read(':') || !cursor.ReadDigits(2, civil.minute) ||
-        civil.hour > 23 || civil.minute > 59) {
+        civil.hour > 23 || civil.minute > 59)
         return false;
-    }
-    if (!cursor.Read(':')) {
+    if (!cursor.Read(':'))
         return true;
-    }
-    if (!cursor.ReadDigits(2, civil.second) || civil.second > 60) {
+    if (!cursor.ReadDigits(2, civil.second) || civil.second > 60)
         return false;
-    }
     leap = civil.second == 60;
     civil.second = std::min(civil.second, 59);
-    if (cursor.Read('.') || cursor.Read(',')) {
+    if (cursor.Read('.') || cursor.Read(','))
         return cursor.ReadMillionths(civil.micros);
-    }
     return true;
 }
 
@@ -103,18 +95,15 @@ bool ReadZone(Cursor& cursor, Time& offset) {
         return true;
     }
     const bool east = cursor.Peek() == '+';
-    if (!cursor.Read('+') && !cursor.Read('-')) {
+    if (!cursor.Read('+') && !cursor.Read('-'))
         return false;
-    }
     int hours = 0;
     int minutes = 0;
-    if (!cursor.ReadDigits(2, hours) || hours > 23) {
+    if (!cursor.ReadDigits(2, hours) || hours > 23)
         return false;
-    }
     const bool colon = cursor.Read(':');
-    if ((colon || !cursor.AtEnd()) && (!cursor.ReadDigits(2, minutes) || minutes > 59)) {
+    if ((colon || !cursor.AtEnd()) && (!cursor.ReadDigits(2, minutes) || minutes > 59))
         return false;
-    }
     offset = (hours * kMicrosPerHour + minutes * kMicrosPerMinute) * (east ? 1 : -1);
     return true;
 }
@@ -125,28 +114,23 @@ bool ParseCalendar(std::string_view text, ParsedTime& result) {
     bool leap = false;
     Time offset = 0;
     bool zoned = false;
-    if (!ReadDate(cursor, civil)) {
+    if (!ReadDate(cursor, civil))
         return false;
-    }
     if (!cursor.AtEnd()) {
-        if (!cursor.Read(' ') && !cursor.Read('T') && !cursor.Read('t')) {
+        if (!cursor.Read(' ') && !cursor.Read('T') && !cursor.Read('t'))
             return false;
-        }
-        if (!ReadClock(cursor, civil, leap)) {
+        if (!ReadClock(cursor, civil, leap))
             return false;
-        }
         if (!cursor.AtEnd()) {
             cursor.Read(' ');
             zoned = ReadZone(cursor, offset);
-            if (!zoned || !cursor.AtEnd()) {
+            if (!zoned || !cursor.AtEnd())
                 return false;
-            }
         }
     }
     const Time time = FromCivil(civil) + (leap ? kMicrosPerSecond : 0) - offset;
-    if (time < kFirstTime || time > kLastTime) {
+    if (time < kFirstTime || time > kLastTime)
         return false;
-    }
     result.time = time;
     result.zoned = zoned;
     return true;
@@ -161,20 +145,17 @@ bool ParsePlainSeconds(std::string_view text, Time& time) {
     Time seconds = 0;
     for (; at < text.size() && IsDigit(text[at]); ++at) {
         seconds = seconds * 10 + (text[at] - '0');
-        if (seconds > kMostSeconds) {
+        if (seconds > kMostSeconds)
             return false;
-        }
     }
     int micros = 0;
-    if (at == firstDigit) {
+    if (at == firstDigit)
         return false;
-    }
     if (at < text.size()) {
         Cursor fraction(text.substr(at));
         if (!fraction.Read('.') || (!fraction.AtEnd() && !fraction.ReadMillionths(micros)) ||
-            !fraction.AtEnd()) {
+            !fraction.AtEnd())
             return false;
-        }
     }
     time = seconds * kMicrosPerSecond + micros;
     time = negative ? -time : time;
@@ -182,18 +163,15 @@ bool ParsePlainSeconds(std::string_view text, Time& time) {
 }
 
 bool ParseSeconds(std::string_view text, Time& time) {
-    if (ParsePlainSeconds(text, time)) {
+    if (ParsePlainSeconds(text, time))
         return time >= kFirstTime && time <= kLastTime;
-    }
     // What is left are the forms with an exponent or a plus sign, which some programs write.
     double seconds = 0;
-    if (ParseNumber(text, seconds) != NumberKind::Value) {
+    if (ParseNumber(text, seconds) != NumberKind::Value)
         return false;
-    }
     const double micros = std::round(seconds * static_cast<double>(kMicrosPerSecond));
-    if (!(micros >= static_cast<double>(kFirstTime)) || !(micros <= static_cast<double>(kLastTime))) {
+    if (!(micros >= static_cast<double>(kFirstTime)) || !(micros <= static_cast<double>(kLastTime)))
         return false;
-    }
     time = std::clamp(static_cast<Time>(micros), kFirstTime, kLastTime);
     return true;
 }
@@ -256,13 +234,11 @@ CivilTime ToCivil(Time time) {
 
 bool ParseTime(std::string_view text, ParsedTime& result) {
     const std::string_view trimmed = TrimBlanks(text);
-    if (ParseCalendar(trimmed, result)) {
+    if (ParseCalendar(trimmed, result))
         return true;
-    }
     Time time = 0;
-    if (!ParseSeconds(trimmed, time)) {
+    if (!ParseSeconds(trimmed, time))
         return false;
-    }
     result.time = time;
     result.zoned = false;
     return true;
@@ -294,9 +270,8 @@ std::string FormatDateTime(Time time, TimePrecision precision) {
 
 std::string FormatExact(Time time) {
     const int micros = ToCivil(time).micros;
-    if (micros == 0) {
+    if (micros == 0)
         return FormatDateTime(time, TimePrecision::Seconds);
-    }
     return FormatDateTime(time, micros % 1000 == 0 ? TimePrecision::Millis : TimePrecision::Micros);
 }
 
@@ -312,15 +287,13 @@ std::string FormatDuration(Time duration) {
     constexpr Time kMost = std::numeric_limits<Time>::max();
     const Time length = duration >= 0 ? duration : (duration < -kMost ? kMost : -duration);
     for (std::size_t i = 0; i < kUnitCount; ++i) {
-        if (length < kUnits[i].length) {
+        if (length < kUnits[i].length)
             continue;
-        }
         std::string text = std::to_string(length / kUnits[i].length) + ' ' + kUnits[i].name;
         if (i + 1 < kUnitCount) {
             const Time rest = length % kUnits[i].length / kUnits[i + 1].length;
-            if (rest != 0) {
+            if (rest != 0)
                 text += ' ' + std::to_string(rest) + ' ' + kUnits[i + 1].name;
-            }
         }
         return text;
     }

@@ -78,11 +78,10 @@ ValueSpan SpanToShow(const ValueSpan& span) {
         shown.max += farthest * kRoomShare;
         return shown;
     }
-    if (shown.min > 0 && shown.min <= shown.max * kZeroShare) {
+    if (shown.min > 0 && shown.min <= shown.max * kZeroShare)
         shown.min = 0;
-    } else if (shown.max < 0 && shown.max >= shown.min * kZeroShare) {
+    else if (shown.max < 0 && shown.max >= shown.min * kZeroShare)
         shown.max = 0;
-    }
     return shown;
 }
 
@@ -110,9 +109,8 @@ Step ChooseStep(const ValueSpan& span, std::int64_t intervals, double wanted) {
 std::int64_t FirstMultiple(const ValueSpan& span, const Step& step, std::int64_t intervals) {
     const std::int64_t low = FloorSteps(span.min, step);
     const std::int64_t high = CeilSteps(span.max, step);
-    if (span.min == 0) {
+    if (span.min == 0)
         return 0;
-    }
     return span.max == 0 ? -intervals : low - (intervals - (high - low)) / 2;
 }
 
@@ -120,9 +118,8 @@ std::string UnitText(int exponent) {
     static constexpr const char* kPrefixes[] = {"y", "z", "a", "f", "p", "n", "u", "m", "",
                                                 "k", "M", "G", "T", "P", "E", "Z", "Y"};
     constexpr int kLargest = 24;
-    if (exponent < -kLargest || exponent > kLargest) {
+    if (exponent < -kLargest || exponent > kLargest)
         return "10^" + std::to_string(exponent);
-    }
     return kPrefixes[(exponent + kLargest) / 3];
 }
 
@@ -136,15 +133,13 @@ void SetUnit(ValueScale& scale, int exponent, int stepExponent) {
 void ChooseUnit(ValueScale& scale, int stepExponent) {
     SetUnit(scale, 0, stepExponent);
     const double farthest = std::max(std::abs(scale.min), std::abs(scale.max));
-    if (farthest < kPlainBelow && farthest >= kPlainFrom) {
+    if (farthest < kPlainBelow && farthest >= kPlainFrom)
         return;
-    }
     ValueScale withUnit = scale;
     const int exponent = 3 * static_cast<int>(std::floor((std::log10(farthest) + kRoundingSlack) / 3));
     SetUnit(withUnit, exponent, stepExponent);
-    if (LongestLabel(withUnit) < LongestLabel(scale)) {
+    if (LongestLabel(withUnit) < LongestLabel(scale))
         scale = withUnit;
-    }
 }
 
 /// The control adds the step up, so what should be 0 may come out a little below it and be printed "-0.0". A
@@ -154,9 +149,8 @@ void AvoidNegativeZero(ValueScale& scale) {
     const bool any = std::any_of(labels.begin(), labels.end(), [](const std::string& label) {
         return label.front() == '-' && label.find_first_not_of("-0.") == std::string::npos;
     });
-    if (any) {
+    if (any)
         scale.max += (scale.max - scale.min) * kRoundingSlack;
-    }
 }
 
 } // namespace
@@ -192,9 +186,8 @@ bool FollowValues(ValueScale& scale, const ValueSpan& span, int ticks) {
     ValueScale fresh = ChooseValueScale(span, ticks);
     const bool fits = !span.any || (span.min >= scale.min && span.max <= scale.max);
     const bool fine = !span.any || scale.max - scale.min < kFinerByFar * (fresh.max - fresh.min);
-    if (fits && fine && scale.ticks == fresh.ticks) {
+    if (fits && fine && scale.ticks == fresh.ticks)
         return false;
-    }
     scale = std::move(fresh);
     return true;
 }
@@ -219,9 +212,8 @@ std::vector<std::string> ValueLabels(const ValueScale& scale) {
 
 int LongestLabel(const ValueScale& scale) {
     std::size_t longest = 0;
-    for (const std::string& label : ValueLabels(scale)) {
+    for (const std::string& label : ValueLabels(scale))
         longest = std::max(longest, label.size());
-    }
     return static_cast<int>(longest);
 }
 

@@ -46,14 +46,12 @@ ViewChoice ChooseView(const Recording& recording, const ViewRequest& request) {
     ValueSpan right;
     for (std::size_t i = 0; i < recording.series.size(); ++i) {
         const bool twoAxes = request.style == ViewStyle::TwoAxis;
-        if (twoAxes && i > 1) {
+        if (twoAxes && i > 1)
             break; // the control draws two series only
-        }
         (twoAxes && i == 1 ? right : left).Take(VisibleSpan(recording.series[i], choice.visible));
     }
-    if (request.style == ViewStyle::Bar) {
+    if (request.style == ViewStyle::Bar)
         left.Take(0.0); // the length of a bar says something only when it begins at 0
-    }
     choice.y = ChooseValueScale(left, request.valueTicks);
     choice.y2 = right.any ? ChooseValueScale(right, request.valueTicks) : choice.y;
     const int labelDistance = request.style == ViewStyle::Bar ? kBarLabelDistance : kLineLabelDistance;
@@ -65,15 +63,13 @@ ViewChoice ChooseView(const Recording& recording, const ViewRequest& request) {
 std::size_t SampleBeside(const Recording& recording, const VisibleRange& visible, std::size_t series,
                          std::size_t sample) {
     const std::size_t file = recording.series[series].file;
-    if (recording.files.size() < 2 || file >= recording.files.size()) {
+    if (recording.files.size() < 2 || file >= recording.files.size())
         return sample;
-    }
     const double* const values = recording.series[series].values.data() + visible.first;
     const auto beside =
         NearestValue(values, visible.last - visible.first + 1, sample - visible.first, kBesideSamples);
-    if (!beside) {
+    if (!beside)
         return sample;
-    }
     const std::size_t found = visible.first + *beside;
     const Time away = std::abs(recording.times[found] - recording.times[sample]);
     return away < recording.files[file].interval ? found : sample;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "chartdraw/DibLayout.h"
+#include "chartdraw/core/DibLayout.h"
 
 namespace {
 

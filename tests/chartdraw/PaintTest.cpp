@@ -5,7 +5,7 @@
 #include <limits>
 #include <random>
 
-#include "graphctrl/LinearMap.h"
+#include "plot/LinearMap.h"
 
 namespace {
 

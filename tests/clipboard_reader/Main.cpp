@@ -1,4 +1,4 @@
-#include "tests/clipboard_reader/MetafileSummary.h"
+#include "tests/support/MetafileSummary.h"
 
 #include <cstdio>
 #include <cstdlib>

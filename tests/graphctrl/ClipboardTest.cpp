@@ -1,7 +1,7 @@
-#include "tests/clipboard_reader/MetafileSummary.h"
 #include "tests/graphctrl/GraphTest.h"
 #include "tests/support/GdiCounter.h"
 #include "tests/support/ImportHook.h"
+#include "tests/support/MetafileSummary.h"
 
 #include <cmath>
 #include <fstream>

@@ -207,7 +207,8 @@ private:
 
     void Extend(INT_PTR newSize) {
         if (newSize > m_nMaxSize) {
-            InsertWith(m_nSize, newSize - m_nSize, [](TYPE*) {});
+            InsertWith(
+                m_nSize, newSize - m_nSize, [](TYPE*) {});
         } else {
             ConstructElements<TYPE>(m_pData + m_nSize, newSize - m_nSize);
             m_nSize = newSize;
@@ -236,7 +237,8 @@ private:
     /// element of this array.
     void InsertFilled(INT_PTR index, INT_PTR count, ARG_TYPE newElement, INT_PTR filled) {
         if (NeedsNewBlock(index, count) || index == m_nSize) {
-            InsertWith(index, count, [&](TYPE* target) { Fill(target, count, newElement, filled); });
+            InsertWith(
+                index, count, [&](TYPE* target) { Fill(target, count, newElement, filled); });
         } else {
             AfxBlock<TYPE> copy(1);
             ConstructElements<TYPE>(copy.Get(), 1);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <afx.h>
 #include "afx/Export.h"
+#include <afx.h>
 
 class CCmdTarget;
 class CCmdUI;

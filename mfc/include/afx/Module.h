@@ -1,7 +1,7 @@
 #pragma once
 
-#include <afx.h>
 #include "afx/CmdTarget.h"
+#include <afx.h>
 
 class CWinApp;
 class CDynLinkLibrary;

@@ -74,8 +74,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(COwner, CWnd)
-ON_COMMAND(kRoutedCommand, &COwner::OnRouted)
-ON_COMMAND(kControlCommand, &COwner::OnRouted)
+    ON_COMMAND(kRoutedCommand, &COwner::OnRouted)
+    ON_COMMAND(kControlCommand, &COwner::OnRouted)
 END_MESSAGE_MAP()
 
 TEST(Dialog, OkTakesTheDataAndCancelLeavesIt) {

@@ -76,7 +76,8 @@ TEST(HandleMemory, LettingGoNeedsNone) {
         testkit::FailingAllocations memory;
         memory.FailAfter(0, true);
         pen.reset();
-    }).join();
+    })
+        .join();
 }
 
 } // namespace

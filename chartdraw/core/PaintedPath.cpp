@@ -1,0 +1,152 @@
+// Strokes in pixels: which of their columns are painted already, and the exact pixels of the others.
+#include "chartdraw/core/PaintedPath.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace kavlix {
+
+namespace {
+
+constexpr int kBlock = 32;   // columns
+constexpr int kLongJump = 8; // columns; shorter strokes are painted at once
+constexpr double kUnknown = std::numeric_limits<double>::infinity();
+
+} // namespace
+
+PaintedPath::PaintedPath(const PixelRaster& raster, std::uint32_t colour)
+    : m_raster(raster), m_colour(colour), m_clip(raster.Clip()), m_line(raster, colour) {
+}
+
+void PaintedPath::Add(const Point& pixel) {
+    if (!m_isOpen || std::abs(pixel.x - m_last.x) < kLongJump) {
+        m_line.To(pixel.x, pixel.y);
+    } else {
+        m_line.Jump(pixel.x, pixel.y);
+        PaintStroke(m_last, pixel);
+    }
+    m_isOpen = true;
+    m_last = pixel;
+}
+
+void PaintedPath::Break() {
+    m_line.End();
+    m_isOpen = false;
+}
+
+void PaintedPath::PaintStroke(const Point& from, const Point& to) {
+    const int first = std::max(std::min(from.x, to.x), m_clip.left);
+    const int last = std::min(std::max(from.x, to.x), m_clip.right - 1);
+    if (first > last || std::max(from.y, to.y) < m_clip.top || std::min(from.y, to.y) >= m_clip.bottom)
+        return;
+    if (m_columns.empty()) {
+        m_columns.resize(static_cast<std::size_t>(m_clip.Width()));
+        m_blocks.resize(static_cast<std::size_t>((m_clip.Width() + kBlock - 1) / kBlock));
+    }
+    // In the columns a to b the stroke stays within a row of the straight line from a - 1/2 to b + 1/2.
+    const double slope = static_cast<double>(to.y - from.y) / (to.x - from.x);
+    const auto rowAt = [&](int column) { return from.y + (column + 0.5 - from.x) * slope; };
+    double a = rowAt(first - 1);
+    int unpainted = first;
+    for (int begin = first; begin <= last;) {
+        const auto block = static_cast<std::size_t>((begin - m_clip.left) / kBlock);
+        const int end = std::min(m_clip.left + (static_cast<int>(block) + 1) * kBlock - 1, last);
+        const double b = rowAt(end);
+        const double low = (slope < 0 ? b : a) - 1;
+        const double high = (slope < 0 ? a : b) + 1;
+        const auto isPainted = [&] { return m_blocks[block].top <= low && high <= m_blocks[block].bottom; };
+        bool isDone = isPainted();
+        if (!isDone) {
+            if (m_blocks[block].top == kUnknown)
+                FindCommonRows(block);
+            isDone = isPainted() || high < m_clip.top || low >= m_clip.bottom;
+        }
+        if (isDone) {
+            if (unpainted < begin)
+                PaintColumns(from, to, unpainted, begin - 1);
+            unpainted = end + 1;
+        }
+        begin = end + 1;
+        a = b;
+    }
+    if (unpainted <= last)
+        PaintColumns(from, to, unpainted, last);
+}
+
+void PaintedPath::FindCommonRows(std::size_t block) {
+    const std::size_t begin = block * kBlock;
+    const std::size_t end = std::min(begin + kBlock, m_columns.size());
+    Rows common = m_columns[begin];
+    for (std::size_t i = begin + 1; i < end; ++i) {
+        common.top = std::max(common.top, m_columns[i].top);
+        common.bottom = std::min(common.bottom, m_columns[i].bottom);
+    }
+    m_blocks[block].top = common.top == m_clip.top ? -kUnknown : common.top;
+    m_blocks[block].bottom = common.bottom == m_clip.bottom - 1 ? kUnknown : common.bottom;
+}
+
+/// The stroke's pixels in the columns `first` to `last`, which it has, as PixelRaster::Stroke places them.
+void PaintedPath::PaintColumns(const Point& from, const Point& to, int first, int last) {
+    const bool isLeftwards = to.x < from.x;
+    const bool isUpwards = to.y < from.y;
+    const std::int64_t dx = std::llabs(std::int64_t{to.x} - from.x);
+    const std::int64_t dy = std::llabs(std::int64_t{to.y} - from.y);
+    const int way = isUpwards ? -1 : 1;
+    const int count = last - first + 1;
+    const int begin = isLeftwards ? last : first;
+    const std::int64_t start = std::llabs(std::int64_t{begin} - from.x);
+    if (dy > dx) {
+        // Halfway the line goes to the smaller coordinate.
+        const std::int64_t atHalf = isLeftwards ? 0 : 1;
+        const auto stepOf = [&](std::int64_t column) {
+            return column == 0 ? 0 : std::min(((2 * column - 1) * dy + atHalf + 2 * dx - 1) / (2 * dx), dy);
+        };
+        std::int64_t step = stepOf(start);
+        for (int i = 0; i < count; ++i) {
+            const std::int64_t next = stepOf(start + i + 1);
+            if (next > step) {
+                const int a = from.y + way * static_cast<int>(step);
+                const int b = from.y + way * static_cast<int>(next - 1);
+                PaintColumn(isLeftwards ? begin - i : begin + i, std::min(a, b), std::max(a, b));
+            }
+            step = next;
+        }
+        return;
+    }
+    const std::int64_t atHalf = isUpwards ? 0 : 1;
+    std::int64_t error = 2 * start * dy + dx - atHalf;
+    const std::int64_t moves = error / (2 * dx);
+    error -= moves * 2 * dx;
+    int y = from.y + way * static_cast<int>(moves);
+    for (int i = 0; i < count && start + i < dx; ++i) {
+        PaintColumn(isLeftwards ? begin - i : begin + i, y, y);
+        error += 2 * dy;
+        if (error >= 2 * dx) {
+            error -= 2 * dx;
+            y += way;
+        }
+    }
+}
+
+void PaintedPath::PaintColumn(int x, int top, int bottom) {
+    top = std::max(top, m_clip.top);
+    bottom = std::min(bottom, m_clip.bottom - 1);
+    if (top > bottom)
+        return;
+    const auto column = static_cast<std::size_t>(x - m_clip.left);
+    Rows& rows = m_columns[column];
+    if (rows.top <= top && bottom <= rows.bottom)
+        return;
+    m_raster.Run(x, top, bottom, m_colour);
+    const bool touches = top <= rows.bottom + 1 && bottom >= rows.top - 1 && rows.top <= rows.bottom;
+    if (touches)
+        rows = {std::min(rows.top, top), std::max(rows.bottom, bottom)};
+    else if (bottom - top > rows.bottom - rows.top)
+        rows = {top, bottom};
+    else
+        return;
+    m_blocks[column / kBlock].top = kUnknown;
+}
+
+} // namespace kavlix

@@ -1,0 +1,100 @@
+// A set of the pixels of a rectangle, one bit each, and how a shape is stamped on all of them at once.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "plot/PixelRaster.h"
+#include "plot/Shapes.h"
+
+namespace kavlix {
+
+/// The pixels of `area` that were added.
+class PixelSet {
+public:
+    explicit PixelSet(const Rect& area)
+        : m_area(area), m_rowWords((static_cast<std::size_t>(area.Width()) + kBits - 1) / kBits),
+          m_words(m_rowWords * static_cast<std::size_t>(area.Height())) {}
+
+    const Rect& Area() const { return m_area; }
+    bool IsEmpty() const { return m_isEmpty; }
+    /// Pixels outside the area are passed over.
+    void Add(const Point& pixel) {
+        if (!m_area.Contains(pixel))
+            return;
+        m_isEmpty = false;
+        WordOf(pixel) |= BitOf(pixel);
+    }
+    /// Whether a pixel of the area is in the set.
+    bool Has(const Point& pixel) const { return (WordOf(pixel) & BitOf(pixel)) != 0; }
+    /// Calls `take(pixel)` for each pixel, row by row.
+    template <class Take> void Visit(Take take) const {
+        VisitRuns([&](const Rect& run) {
+            for (int x = run.left; x < run.right; ++x)
+                take(Point{x, run.top});
+        });
+    }
+    /// Calls `take(run)` for all neighbouring pixels of a row, row by row.
+    template <class Take> void VisitRuns(Take take) const {
+        for (int row = 0; row < m_area.Height(); ++row) {
+            const std::uint64_t* words = &m_words[static_cast<std::size_t>(row) * m_rowWords];
+            const int y = m_area.top + row;
+            int begin = -1; // of a run that goes on
+            for (std::size_t i = 0; i < m_rowWords; ++i) {
+                const int left = m_area.left + static_cast<int>(i * kBits);
+                std::uint64_t changes =
+                    words[i] ^ (words[i] << 1 | (begin < 0 ? 0 : 1)); // bits unlike the one before
+                for (; changes != 0; changes &= changes - 1) {
+                    const int x = left + LowestBit(changes);
+                    if (begin < 0) {
+                        begin = x;
+                    } else {
+                        take(Rect{begin, y, x, y + 1});
+                        begin = -1;
+                    }
+                }
+            }
+            if (begin >= 0)
+                take(Rect{begin, y, m_area.right, y + 1});
+        }
+    }
+    /// All pixels that `shape`, offsets of up to `reach` in each direction, covers when it stands on each
+    /// pixel of the set.
+    PixelSet Stamped(const std::vector<Point>& shape, int reach) const;
+
+private:
+    static constexpr std::size_t kBits = 64;
+
+    /// Number of the lowest bit of a word that is not 0.
+    static int LowestBit(std::uint64_t word) {
+#ifdef __GNUC__
+        return __builtin_ctzll(word);
+#else
+        int bit = 0;
+        for (; (word & 1) == 0; word >>= 1)
+            ++bit;
+        return bit;
+#endif
+    }
+    std::size_t IndexOf(const Point& pixel) const {
+        return static_cast<std::size_t>(pixel.y - m_area.top) * m_rowWords +
+               static_cast<std::size_t>(pixel.x - m_area.left) / kBits;
+    }
+    std::uint64_t& WordOf(const Point& pixel) {
+        return m_words[IndexOf(pixel)];
+    }
+    const std::uint64_t& WordOf(const Point& pixel) const {
+        return m_words[IndexOf(pixel)];
+    }
+    std::uint64_t BitOf(const Point& pixel) const {
+        return std::uint64_t{1} << (static_cast<std::size_t>(pixel.x - m_area.left) % kBits);
+    }
+
+    Rect m_area;
+    std::size_t m_rowWords;
+    std::vector<std::uint64_t> m_words;
+    bool m_isEmpty = true;
+};
+
+} // namespace kavlix

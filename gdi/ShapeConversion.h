@@ -1,0 +1,23 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include "plot/Shapes.h"
+
+/// Between the shapes of the platform-free arithmetic and the platform's.
+namespace kavlix {
+
+inline CRect ToCRect(const Rect& rect) {
+    return CRect(rect.left, rect.top, rect.right, rect.bottom);
+}
+
+inline Rect ToRect(const CRect& rect) {
+    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+            static_cast<int>(rect.bottom)};
+}
+
+inline Point ToPoint(const CPoint& point) {
+    return {static_cast<int>(point.x), static_cast<int>(point.y)};
+}
+
+} // namespace kavlix

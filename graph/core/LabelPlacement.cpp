@@ -1,0 +1,128 @@
+#include "graph/core/LabelPlacement.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "plot/Numeric.h"
+
+namespace kavlix {
+namespace {
+
+constexpr int kFullTurn = 360;
+constexpr int kHalfTurn = 180;
+
+/// Sine and cosine of a turn, exact where they are whole.
+struct Turn {
+    explicit Turn(int angle) {
+        const int turned = NormalAngle(angle);
+        const double radians = turned * kPi / kHalfTurn;
+        sin = turned % kHalfTurn == 0 ? 0 : std::sin(radians);
+        cos = turned % kHalfTurn == kHalfTurn / 2 ? 0 : std::cos(radians);
+    }
+    double sin;
+    double cos;
+};
+
+/// A place relative to the text's upper left corner: `along` the text and `below` its top.
+PlanePoint Inside(const Turn& turn, double along, double below) {
+    return {along * turn.cos + below * turn.sin, -along * turn.sin + below * turn.cos};
+}
+
+PlaneRect BoxAt(const Turn& turn, LabelSize size, PlanePoint origin) {
+    PlaneRect box{origin.x, origin.y, origin.x, origin.y};
+    for (const PlanePoint& corner :
+         {Inside(turn, size.width, 0), Inside(turn, 0, size.height), Inside(turn, size.width, size.height)}) {
+        box.left = std::min(box.left, origin.x + corner.x);
+        box.right = std::max(box.right, origin.x + corner.x);
+        box.top = std::min(box.top, origin.y + corner.y);
+        box.bottom = std::max(box.bottom, origin.y + corner.y);
+    }
+    return box;
+}
+
+std::int64_t Every(double needed, double distance) {
+    constexpr double kMost = 1e12;
+    if (!(distance > 0))
+        return static_cast<std::int64_t>(kMost);
+    return std::max<std::int64_t>(1,
+                                  static_cast<std::int64_t>(std::min(std::ceil(needed / distance), kMost)));
+}
+
+} // namespace
+
+PlaneRect BoxOf(LabelSize size, int angle, PlanePoint origin) {
+    return BoxAt(Turn(angle), size, origin);
+}
+
+int NormalAngle(int angle) {
+    return (angle % kFullTurn + kFullTurn) % kFullTurn;
+}
+
+LabelPlace PlaceBelow(LabelSize size, int angle, double x, double top) {
+    const Turn turn(angle);
+    const PlaneRect atZero = BoxAt(turn, size, {});
+    const double nearEnd = turn.sin == 0 ? size.width / 2 : turn.sin > 0 ? size.width : 0;
+    const PlanePoint held = Inside(turn, nearEnd, size.height / 2);
+    LabelPlace place;
+    place.origin = {x - held.x, top - atZero.top};
+    place.box = BoxAt(turn, size, place.origin);
+    return place;
+}
+
+LabelPlace PlaceLeft(LabelSize size, int angle, double right, double y) {
+    const Turn turn(angle);
+    const PlaneRect atZero = BoxAt(turn, size, {});
+    LabelPlace place;
+    place.origin = {right - atZero.right, y - (atZero.top + atZero.bottom) / 2};
+    place.box = BoxAt(turn, size, place.origin);
+    return place;
+}
+
+double LongestText(double height, int angle, double across, double down) {
+    const Turn turn(angle);
+    const double sin = std::abs(turn.sin);
+    const double cos = std::abs(turn.cos);
+    constexpr double kUnlimited = 1e9;
+    const double byWidth = cos > 0 ? (across - height * sin) / cos : across >= height ? kUnlimited : 0;
+    const double byHeight = sin > 0 ? (down - height * cos) / sin : down >= height ? kUnlimited : 0;
+    return std::max(0.0, std::min(byWidth, byHeight));
+}
+
+LabelSpread SpreadBelow(LabelSize size, int angle, double distance, double gap, int rows) {
+    const Turn turn(angle);
+    if (turn.sin == 0) {
+        for (int row = 1; row <= rows; ++row)
+            if (distance * row >= size.width + gap)
+                return {1, row};
+        return {Every(size.width + gap, distance), 1};
+    }
+    // Two parallel texts keep clear when one passes below the other, or one ends before the other begins.
+    const double passing = (size.height + gap) / std::abs(turn.sin);
+    const double following =
+        turn.cos == 0 ? passing : (size.width + size.height * std::abs(turn.sin) + gap) / std::abs(turn.cos);
+    return {Every(std::min(passing, following), distance), 1};
+}
+
+LabelSpread SpreadLeft(LabelSize size, int angle, double distance, double gap) {
+    const PlaneRect box = BoxAt(Turn(angle), size, {});
+    return {Every(box.Height() + gap, distance), 1};
+}
+
+bool SpreadMiddles(std::vector<double>& middles, double height, double top, double bottom) {
+    const auto count = static_cast<double>(middles.size());
+    if (count * height > bottom - top)
+        return false;
+    double lowest = top + height / 2;
+    for (double& middle : middles) {
+        middle = std::max(middle, lowest);
+        lowest = middle + height;
+    }
+    double highest = bottom - height / 2;
+    for (auto middle = middles.rbegin(); middle != middles.rend(); ++middle) {
+        *middle = std::min(*middle, highest);
+        highest = *middle - height;
+    }
+    return true;
+}
+
+} // namespace kavlix

@@ -1,0 +1,48 @@
+#include "graphctrl/core/AxisTicks.h"
+
+#include <cmath>
+#include <cstdio>
+
+namespace kavlix {
+
+ValueTicks::ValueTicks(double min, double max, int ticks, int exponent)
+    : m_value(min), m_step((max - min) / (ticks - 1)) {
+    const double power = std::pow(10.0, exponent);
+    if (power != 0) {
+        m_step /= power;
+        m_value /= power;
+    }
+}
+
+namespace {
+
+/// GDI draws at most 8192 characters of a text; what would stand behind them is not made.
+constexpr int kMostDecimals = 8192;
+
+int Precision(int decimals) {
+    return std::clamp(decimals, 0, kMostDecimals);
+}
+
+} // namespace
+
+std::string FormatTick(double value, int decimals) {
+    // Behind these no decimal place of a double is other than 0.
+    constexpr int kRealDecimals = 1074;
+    const int precision = std::min(Precision(decimals), kRealDecimals);
+    const int length = std::snprintf(nullptr, 0, "%.*f", precision, value);
+    if (length <= 0)
+        return {};
+    std::string text(static_cast<std::size_t>(length) + 1, '\0');
+    std::snprintf(text.data(), text.size(), "%.*f", precision, value);
+    text.pop_back();
+    if (std::isfinite(value))
+        text.append(static_cast<std::size_t>(Precision(decimals) - precision), '0');
+    return text;
+}
+
+int LongestTick(int decimals) {
+    constexpr int kBeforeDecimals = 311; // sign, 309 digits, point
+    return kBeforeDecimals + Precision(decimals);
+}
+
+} // namespace kavlix

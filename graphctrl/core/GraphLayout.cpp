@@ -1,0 +1,104 @@
+#include "graphctrl/core/GraphLayout.h"
+
+#include <cstdint>
+
+#include "plot/Numeric.h"
+
+namespace kavlix {
+
+namespace {
+
+constexpr int kLabelRows = 15;      // label rows per client height
+constexpr int kEdgeMargin = 200;    // between client edge and title, labels, legend
+constexpr int kTitleGap = 500;      // under the title
+constexpr int kCaptionGap = 400;    // under the caption band
+constexpr int kPlotBottomGap = 300; // plot bottom to X tick labels: axis strip and margin
+constexpr int kAxisStrip = 100;     // tick marks
+constexpr int kLegendGap = 400;     // legend and the margins beside it
+constexpr int kPlotInset = 30;      // the Y axis line itself
+constexpr int kLineTickRoom = 800;  // of an X label in the line styles
+constexpr int kBarTickRoom = 1000;  // of an X label under bars
+constexpr int kValueTickRoom = 500; // of a Y label
+constexpr int kSmallestSide = 51;   // of plot and legend
+
+// Sums are made in 64 bits and saturate where they become coordinates.
+using Wide = std::int64_t;
+
+Rect MakeRect(Wide left, Wide top, Wide right, Wide bottom) {
+    return {ToCoordinate(left), ToCoordinate(top), ToCoordinate(right), ToCoordinate(bottom)};
+}
+
+Point MakePoint(Wide x, Wide y) {
+    return {ToCoordinate(x), ToCoordinate(y)};
+}
+
+bool IsLargeEnough(const Rect& rect) {
+    return rect.Width() >= kSmallestSide && rect.Height() >= kSmallestSide;
+}
+
+} // namespace
+
+bool GraphLayout::HasPlot() const {
+    return IsLargeEnough(plot);
+}
+
+bool GraphLayout::HasLegend() const {
+    return IsLargeEnough(legend);
+}
+
+int LabelUnit(const Rect& client) {
+    return client.Height() / kLabelRows;
+}
+
+int TitleBottom(const Rect& client) {
+    return client.top + kEdgeMargin + LabelUnit(client) + kTitleGap;
+}
+
+GraphLayout ComputeLayout(const LayoutInput& input) {
+    GraphLayout layout;
+    const Rect& client = input.client;
+    const Wide unit = LabelUnit(client);
+    const Wide xLabelRow = input.showXLabel ? unit : 0;
+    layout.labelUnit = LabelUnit(client);
+
+    const Wide top = input.caption ? Wide{input.captionBottom} + kCaptionGap : TitleBottom(client);
+    layout.title = MakeRect(Wide{client.left} + kEdgeMargin, Wide{client.top} + kEdgeMargin,
+                            Wide{client.right} - kEdgeMargin, top);
+
+    const Wide bottom = Wide{client.bottom} - input.xTickLabelHeight - xLabelRow - kPlotBottomGap;
+    const Wide labelMiddle = (bottom + top) / 2;
+
+    Wide left = layout.title.left;
+    layout.yLabel = MakePoint(left, labelMiddle);
+    if (input.showYLabel)
+        left += unit;
+    const Wide yAxisLeft = left + input.yTickLabelWidth;
+    const Wide yAxisRight = yAxisLeft + kAxisStrip;
+    layout.yTickLabel = MakeRect(left, top, yAxisLeft, bottom);
+    layout.yAxis = MakeRect(yAxisLeft, top, yAxisRight, bottom);
+
+    Wide right = layout.title.right;
+    layout.y2Label = MakePoint(right, labelMiddle);
+    if (input.twoAxis && input.showY2Label)
+        right -= unit;
+    const Wide y2Left = input.twoAxis ? right - input.y2TickLabelWidth : right;
+    const Wide y2AxisLeft = input.twoAxis ? y2Left - kAxisStrip : y2Left;
+    layout.y2TickLabel = MakeRect(y2Left, top, right, bottom);
+    layout.y2Axis = MakeRect(y2AxisLeft, top, y2Left, bottom);
+
+    const Wide xBottom = Wide{client.bottom} - xLabelRow - kEdgeMargin;
+    const Wide xTop = xBottom - input.xTickLabelHeight;
+    const Wide xRight = input.showLegend ? Wide{client.right} - input.legendWidth - kLegendGap : y2AxisLeft;
+    layout.xLabel = MakePoint((xRight + yAxisRight) / 2, xBottom);
+    layout.xTickLabel = MakeRect(yAxisRight, xTop, xRight, xBottom);
+    layout.xAxis = MakeRect(yAxisRight, xTop - kAxisStrip, xRight, xTop);
+    layout.plot = MakeRect(yAxisRight + kPlotInset, top, xRight, bottom);
+
+    layout.xTicks = layout.plot.Width() / (input.bars ? kBarTickRoom : kLineTickRoom);
+    layout.yTicks = layout.plot.Height() / kValueTickRoom;
+    layout.legend = MakeRect(Wide{client.right} - input.legendWidth - kEdgeMargin, top,
+                             Wide{client.right} - kEdgeMargin, xBottom);
+    return layout;
+}
+
+} // namespace kavlix

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cmath>
+#include <optional>
+
+#include "plot/Numeric.h"
+
+namespace kavlix {
+
+/// Turns the values of a visible range into positions along a plot edge.
+///
+/// The range's minimum lies at `edge`, its maximum at `edge` + `extent`; a value axis, which grows upwards,
+/// has its edge at the plot's bottom and a negative extent. Values outside the range lie outside the plot.
+class LinearMap {
+public:
+    LinearMap(double min, double max, int edge, int extent)
+        : m_min(min), m_range(max - min), m_edge(edge), m_extent(extent) {}
+
+    /// Position of `value` in logical units, computed in doubles, truncated once, saturated. None for NaN, on
+    /// a range of 0, and on an infinite range that leaves the position undefined.
+    std::optional<int> Position(double value) const {
+        const double position = ExactPosition(value);
+        if (std::isnan(position))
+            return std::nullopt;
+        return ToCoordinate(position);
+    }
+
+    /// The same, neither truncated nor saturated; not a number where there is none.
+    double ExactPosition(double value) const {
+        return m_range == 0 ? std::nan("") : (value - m_min) * m_extent / m_range + m_edge;
+    }
+
+    /// The value that lies at `position`; not a number where there is none.
+    double Value(double position) const {
+        return m_range == 0 || m_extent == 0 ? std::nan("")
+                                             : m_min + (position - m_edge) * m_range / m_extent;
+    }
+
+    /// Whether every finite value has a position and positions never change direction as values grow.
+    bool IsMonotonic() const { return m_range != 0 && std::isfinite(m_range) && std::isfinite(m_min); }
+
+    /// Whether positions grow with values.
+    bool IsAscending() const { return (m_range > 0) == (m_extent > 0); }
+
+    int Edge() const { return m_edge; }
+    double Min() const { return m_min; }
+    double Range() const { return m_range; }
+    /// Logical units for each unit of value.
+    double Slope() const { return m_extent / m_range; }
+
+private:
+    double m_min;
+    double m_range;
+    int m_edge;
+    int m_extent;
+};
+
+} // namespace kavlix

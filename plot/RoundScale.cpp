@@ -1,0 +1,181 @@
+#include "plot/RoundScale.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace kavlix {
+
+namespace {
+
+constexpr double kMantissas[] = {10, 20, 25, 50};
+/// Values beyond lie outside any range that is found: sums and products of those within stay finite.
+constexpr double kLargestValue = 1e300;
+constexpr double kSmallestRange = 1e-290;
+/// Narrower ranges, measured by the size of their values, leave too few digits for several ticks.
+constexpr double kNarrowestRange = 1e-12;
+constexpr double kMostParts = 1e15; // of a host's step between two ticks; beyond, its digits are lost
+constexpr double kRoomAround = 0.5; ///< of a single value other than 0, to either side, as a part of it
+/// How much of a step a range may miss a multiple by and still end at it: the rounding of its two ends.
+constexpr double kRounding = 1e-9;
+constexpr int kMostDecimals = 12;
+constexpr std::size_t kLongestPlainLabel = 8;
+
+/// `value` * 10^`exponent`, without an intermediate result out of range.
+double Shift(double value, int exponent) {
+    constexpr int kSafe = 300;
+    if (exponent < -kSafe)
+        return value / std::pow(10.0, kSafe) / std::pow(10.0, -exponent - kSafe);
+    // Dividing by a whole power is exact to the last digit, multiplying by a fraction is not.
+    return exponent < 0 ? value / std::pow(10.0, -exponent) : value * std::pow(10.0, exponent);
+}
+
+int ExponentOf(double value) {
+    return value == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(value))));
+}
+
+std::string Plain(double value, int decimals) {
+    char text[512];
+    const int length = std::snprintf(text, sizeof text, "%.*f", decimals, value);
+    return std::string(text, static_cast<std::size_t>(std::clamp<int>(length, 0, sizeof text - 1)));
+}
+
+} // namespace
+
+RoundScale RoundScale::Around(const ValueBounds& values, int mostSteps) {
+    double min = 0;
+    double max = 1;
+    if (!values.IsEmpty()) {
+        min = std::clamp(values.min, -kLargestValue, kLargestValue);
+        max = std::clamp(values.max, -kLargestValue, kLargestValue);
+    }
+    const double size = std::max(std::abs(min), std::abs(max));
+    if (min == max) {
+        const double room = size == 0 ? 1 : std::max(size * kRoomAround, kSmallestRange);
+        min -= room;
+        max += room;
+    } else if (const double least = std::max(size * kNarrowestRange, kSmallestRange); max - min < least) {
+        const double middle = min + (max - min) / 2;
+        min = middle - least / 2;
+        max = middle + least / 2;
+    }
+
+    RoundScale scale;
+    scale.m_found = true;
+    // A range across 0 takes two steps however large they are.
+    const int most = std::max(mostSteps, 2);
+    // One power below what is needed: from there on the first step that fits is the finest.
+    scale.m_exponent = ExponentOf((max - min) / most) - 2;
+    for (;; ++scale.m_exponent) {
+        for (const double mantissa : kMantissas) {
+            scale.m_mantissa = mantissa;
+            const double step = scale.Step();
+            const double first = std::floor(min / step + kRounding);
+            const double last = std::ceil(max / step - kRounding);
+            if (last - first > most)
+                continue;
+            // The sum with 0 takes the sign off a zero.
+            scale.m_min = Shift(first * mantissa, scale.m_exponent) + 0.0;
+            scale.m_max = Shift(last * mantissa, scale.m_exponent) + 0.0;
+            scale.FindTicks();
+            return scale;
+        }
+    }
+}
+
+RoundScale RoundScale::Fixed(double min, double max, double step, int mostSteps) {
+    RoundScale scale;
+    scale.m_exponent = 0;
+    scale.m_min = std::clamp(min, -kLargestValue, kLargestValue);
+    scale.m_max = std::clamp(max, -kLargestValue, kLargestValue);
+    const double range = scale.m_max - scale.m_min;
+    const int most = std::max(mostSteps, 2);
+    const double size = std::max(std::abs(scale.m_min), std::abs(scale.m_max));
+    if (!(range >= std::max(size * kNarrowestRange, kSmallestRange)))
+        return Around({scale.m_min, scale.m_max}, mostSteps);
+    const double parts = range / step / most;
+    if (!(step > 0) || !(step <= kLargestValue) || parts > kMostParts) {
+        scale.m_exponent = ExponentOf(range / most) - 2;
+        for (bool fits = false; !fits; scale.m_exponent += !fits) {
+            for (const double mantissa : kMantissas) {
+                scale.m_mantissa = mantissa;
+                fits = range / scale.Step() <= most + kRounding;
+                if (fits)
+                    break;
+            }
+        }
+        scale.m_found = true;
+    } else {
+        double times = 1;
+        for (double power = 1; times < parts - kRounding; power *= 10)
+            for (const double mantissa : {1.0, 2.0, 5.0, 10.0})
+                if (times < parts - kRounding)
+                    times = mantissa * power;
+        scale.m_mantissa = step * times;
+        scale.m_found = false;
+    }
+    scale.FindTicks();
+    return scale;
+}
+
+double RoundScale::Step() const {
+    return Shift(m_mantissa, m_exponent);
+}
+
+void RoundScale::FindTicks() {
+    const double step = Step();
+    m_first = std::ceil(m_min / step - kRounding);
+    const double last = std::floor(m_max / step + kRounding);
+    constexpr double kMostTicks = 100000;
+    m_count = last >= m_first ? static_cast<int>(std::min(last - m_first + 1, kMostTicks)) : 0;
+    if (m_found) {
+        const bool wholePower = m_mantissa != 25;
+        m_decimals = std::max(0, -(m_exponent + (wholePower ? 1 : 0)));
+        return;
+    }
+    for (m_decimals = 0; m_decimals < kMostDecimals; ++m_decimals) {
+        const double shifted = Shift(step, m_decimals);
+        if (std::abs(shifted - std::round(shifted)) <= shifted * kRounding)
+            break;
+    }
+}
+
+double RoundScale::Tick(int i) const {
+    return Shift((m_first + i) * m_mantissa, m_exponent) + 0.0;
+}
+
+std::string RoundScale::Label(int i) const {
+    const double value = Tick(i);
+    // The whole axis is written in one way.
+    std::size_t plain = 0;
+    std::size_t power = 0;
+    for (const double each : {Tick(0), Tick(m_count - 1), Step()}) {
+        constexpr double kLongest = 1e60;
+        plain = std::max(plain, std::abs(each) > kLongest || m_decimals > kMostDecimals
+                                    ? std::string::npos
+                                    : Plain(each, m_decimals).size());
+        power = std::max(power, PowerLabel(each).size());
+    }
+    return plain <= kLongestPlainLabel || plain <= power ? Plain(value, m_decimals) : PowerLabel(value);
+}
+
+std::string RoundScale::PowerLabel(double value) const {
+    if (value == 0)
+        return "0";
+    constexpr int kMostDigits = 15;
+    int exponent = ExponentOf(value);
+    // As many digits as the step needs; rounding may carry into one more.
+    const int stepEnd = m_found ? m_exponent + (m_mantissa != 25 ? 1 : 0) : -m_decimals;
+    const int digits = std::clamp(exponent - stepEnd, 0, kMostDigits);
+    std::string mantissa = Plain(Shift(value, -exponent), digits);
+    if (mantissa.substr(0, mantissa.find('.')).find("10") != std::string::npos)
+        mantissa = Plain(Shift(value, -++exponent), digits);
+    if (mantissa.find('.') != std::string::npos) {
+        mantissa.erase(mantissa.find_last_not_of('0') + 1);
+        if (mantissa.back() == '.')
+            mantissa.pop_back();
+    }
+    return mantissa + "e" + std::to_string(exponent);
+}
+
+} // namespace kavlix

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+#include "plot/PixelRaster.h"
+
+namespace kavlix {
+
+/// Paints a line one pixel wide through points that come one by one, as strokes from each to the next would:
+/// the pixel of the last point is left out. What falls into one pixel column is painted at once, so that the
+/// cost is that of the pixels.
+class ThinLine {
+public:
+    ThinLine(const PixelRaster& raster, std::uint32_t colour) : m_raster(raster), m_colour(colour) {}
+
+    /// The next point; the first of a line after End.
+    void To(int x, int y) {
+        if (!m_isOpen)
+            Begin(x, y);
+        else if (x == m_x)
+            Within(y);
+        else if (x == m_x + 1 || x == m_x - 1)
+            ToNextColumn(x, y);
+        else {
+            m_raster.Stroke({m_x, m_y}, {x, y}, m_colour);
+            Jump(x, y);
+        }
+    }
+    /// The next point, in the column of the one before.
+    void Within(int y) {
+        if (y > m_y)
+            Cover(m_y, y - 1);
+        else if (y < m_y)
+            Cover(y + 1, m_y);
+        m_y = y;
+    }
+    /// The next point; the stroke to it is left to the caller.
+    void Jump(int x, int y) {
+        Paint();
+        Begin(x, y);
+    }
+    /// The line ends at the last point.
+    void End() {
+        if (m_isOpen)
+            Paint();
+        m_isOpen = false;
+    }
+
+private:
+    void Begin(int x, int y) {
+        m_isOpen = true;
+        m_x = x;
+        m_y = y;
+        m_top = std::numeric_limits<int>::max();
+        m_bottom = std::numeric_limits<int>::min();
+    }
+    void Cover(int top, int bottom) {
+        m_top = std::min(m_top, top);
+        m_bottom = std::max(m_bottom, bottom);
+    }
+    void Paint() const { m_raster.Run(m_x, m_top, m_bottom, m_colour); }
+    /// Of such a stroke one half lies in the old column, the other in the new one; as everywhere, the half
+    /// goes to the smaller coordinate.
+    void ToNextColumn(int x, int y) {
+        const int from = m_y;
+        const int length = std::max(std::abs(y - from), 1);
+        const int change = std::min((length + (x > m_x ? 2 : 1)) / 2, length);
+        // Which way it goes cannot be foreseen: values are picked, not branched to.
+        const int up = -static_cast<int>(y < from);
+        const auto pick = [up](int down, int upwards) { return down ^ ((down ^ upwards) & up); };
+        Cover(pick(from, from - change + 1), pick(from + change - 1, from));
+        Paint();
+        m_x = x;
+        m_y = y;
+        m_top = pick(from + change, y + 1);
+        m_bottom = pick(y - 1, from - change);
+    }
+
+    PixelRaster m_raster;
+    std::uint32_t m_colour;
+    bool m_isOpen = false;
+    // The last point, and the rows of its column that are to be painted: none where the bottom lies above the
+    // top, or up to the point.
+    int m_x = 0;
+    int m_y = 0;
+    int m_top = 0;
+    int m_bottom = 0;
+};
+
+} // namespace kavlix

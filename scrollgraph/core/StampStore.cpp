@@ -1,0 +1,58 @@
+#include "scrollgraph/core/StampStore.h"
+
+#include <utility>
+
+namespace kavlix {
+
+/// Stamps come one after the other.
+void StampStore::Piece::Set(std::size_t k, std::int32_t stamp) {
+    if (narrow) {
+        if (k == 1)
+            step = stamp - first;
+        const std::int64_t away = stamp - Even(k);
+        if (away >= INT8_MIN && away <= INT8_MAX) {
+            narrow->away[k] = static_cast<std::int8_t>(away);
+            return;
+        }
+        auto all = std::make_unique<Wide>();
+        for (std::size_t i = 0; i < k; ++i)
+            all->stamps[i] = At(i);
+        wide = std::move(all);
+        narrow.reset();
+    }
+    wide->stamps[k] = stamp;
+}
+
+void StampStore::Add(std::int32_t stamp) {
+    const std::size_t place = m_head + m_size;
+    if (place / kPiece == m_pieces.size())
+        m_pieces.push_back({stamp, 0, std::make_unique<Narrow>(), nullptr});
+    m_pieces[place / kPiece].Set(place % kPiece, stamp);
+    ++m_size;
+}
+
+void StampStore::RemoveHead(std::size_t count) {
+    m_head += count;
+    m_size -= count;
+    while (m_head >= kPiece) {
+        m_pieces.pop_front();
+        m_head -= kPiece;
+    }
+}
+
+void StampStore::KeepOne() {
+    const std::int32_t oldest = (*this)[0];
+    while (m_pieces.size() > 1)
+        m_pieces.pop_back();
+    m_head = 0;
+    m_size = 1;
+    m_pieces.front().first = oldest;
+    m_pieces.front().Set(0, oldest);
+}
+
+void StampStore::Clear() {
+    m_pieces.clear(); // and no shrink_to_fit, which asks for memory
+    m_head = m_size = 0;
+}
+
+} // namespace kavlix

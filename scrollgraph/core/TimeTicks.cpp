@@ -1,0 +1,127 @@
+#include "scrollgraph/core/TimeTicks.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+
+namespace kavlix {
+
+namespace {
+
+constexpr int kMinute = 60;
+constexpr int kHour = 3600;
+constexpr int kSteps[] = {5, 10, 20, 30, 60, 120, 180, 300, 600, 900, 1200, 1800, 3600, 7200};
+constexpr int kLongestStep = 10800;
+constexpr int kDay = 86400;
+constexpr int kWeek = 7 * kDay;
+
+/// How much is missing to the next multiple of `step`, a whole step at a multiple itself.
+int ToNextMultiple(int value, int step) {
+    return (value / step + 1) * step - value;
+}
+
+/// The next round duration after `seconds`, one of the table's or of this function: a multiple of every
+/// shorter one that divides a day.
+std::int64_t LongerRoundTime(std::int64_t seconds) {
+    const auto longer = std::upper_bound(std::begin(kSteps), std::end(kSteps), seconds);
+    if (longer != std::end(kSteps))
+        return *longer;
+    return seconds < kLongestStep ? kLongestStep : seconds == 2 * kDay ? kWeek : 2 * seconds;
+}
+
+/// The distance at which neighbouring labels do not touch, whether they have dates or not.
+int LabelDistance(bool allDated, int textHeight) {
+    const int left = kDateShift - textHeight; // of a date, whose clock time reaches `textHeight` to the right
+    return allDated ? textHeight - left : std::max(textHeight - kClockShift - left, textHeight + kClockShift);
+}
+
+/// Seconds between two labels.
+std::int64_t LabelStep(int step, int spacing, int textHeight) {
+    // Steps of the table leave room beside all but a few dates. With the longest every eighth tick has a
+    // date.
+    if (spacing <= 0 || (step < kLongestStep && spacing >= textHeight))
+        return step;
+    const auto fits = [=](std::int64_t seconds) {
+        return seconds % step == 0 && seconds / step * spacing >= LabelDistance(seconds >= kDay, textHeight);
+    };
+    std::int64_t seconds = step;
+    while (!fits(seconds))
+        seconds = LongerRoundTime(seconds);
+    return seconds;
+}
+
+} // namespace
+
+std::string FullTimeText(const CalendarTime& time) {
+    char text[80];
+    std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d", time.year, time.month, time.day,
+                  time.hour, time.minute, time.second);
+    return text;
+}
+
+int SelectTickStep(int secondsInView, int maxTicks) {
+    const auto fits = [=](int step) { return secondsInView / step <= std::int64_t{maxTicks} + 1; };
+    const auto found = std::find_if(std::begin(kSteps), std::end(kSteps), fits);
+    return found != std::end(kSteps) ? *found : kLongestStep;
+}
+
+int SecondsToRoundSecond(const CalendarTime& time, int seconds) {
+    return time.second % seconds == 0 ? 0 : ToNextMultiple(time.second, seconds);
+}
+
+int SecondsToRoundMinute(const CalendarTime& time, int minutes) {
+    return time.second == 0 && time.minute % minutes == 0
+               ? 0
+               : ToNextMultiple(time.minute, minutes) * kMinute - time.second;
+}
+
+int SecondsToRoundHour(const CalendarTime& time, int hours) {
+    return time.second == 0 && time.minute == 0 && time.hour % hours == 0
+               ? 0
+               : (ToNextMultiple(time.hour, hours) * kMinute - time.minute) * kMinute - time.second;
+}
+
+int SecondsToRoundTime(const CalendarTime& time, int step) {
+    if (step >= kHour)
+        return SecondsToRoundHour(time, step / kHour);
+    return step >= kMinute ? SecondsToRoundMinute(time, step / kMinute) : SecondsToRoundSecond(time, step);
+}
+
+TimeTicks::TimeTicks(const LocalClock& clock, std::int64_t start, int step, int spacing, int textHeight)
+    : m_clock(clock), m_step(step), m_firstOffset(SecondsToRoundTime(clock.ToLocal(start), step)),
+      m_time(start + m_firstOffset) {
+    const std::int64_t labelStep = LabelStep(step, spacing, textHeight);
+    m_every = labelStep / step;
+    m_round = static_cast<int>(std::min<std::int64_t>(labelStep, kDay));
+    Show(m_every > 1 ? SecondsToRoundTime(clock.ToLocal(m_time), m_round) / step : 0);
+}
+
+/// Shows the label at `tick`, or at the tick that takes its place after a change of the clock.
+void TimeTicks::Show(std::int64_t tick) {
+    m_tick = tick;
+    CalendarTime local = m_clock.ToLocal(m_time + m_tick * m_step);
+    if (m_every > 1) {
+        const int missing = SecondsToRoundTime(local, m_round);
+        const int passed = missing == 0 ? 0 : m_round - missing;
+        const std::int64_t away = missing < passed ? (missing + m_step - 1) / m_step : -(passed / m_step);
+        if (away != 0)
+            local = m_clock.ToLocal(m_time + (m_tick += away) * m_step);
+    }
+    m_text = FullTimeText(local);
+}
+
+void TimeTicks::Next() {
+    const std::string before = Date();
+    Show(m_tick + m_every);
+    m_showsDate = Date() != before;
+}
+
+void TimeTicks::GoTo(std::int64_t tick) {
+    // A change of the clock moves labels by less than their distance.
+    if (tick - m_tick > 3 * m_every)
+        Show(m_tick + ((tick - m_tick) / m_every - 2) * m_every);
+    while (m_tick < tick)
+        Next();
+}
+
+} // namespace kavlix

@@ -1,0 +1,131 @@
+// The page with one series against another: what is chosen, what a point tells, what is saved.
+
+#include "monitor/ChartPage.h"
+#include "monitor/ChartSeriesDlg.h"
+#include "monitor/MonitorGraph.h"
+#include "tests/monitor/FrameWithPage.h"
+
+#include <afxres.h>
+
+namespace kavlix::test {
+namespace {
+
+using monitor::ChartStyle, monitor::CMonitorChart, monitor::CMonitorGraph, recording::PairChoice,
+    recording::PairKind;
+
+class ChartPage : public FrameWithPage {
+protected:
+    CMonitorChart& Chart() { return ControlOf<CMonitorChart>(IDC_CHART); }
+    std::string Labels() { return Chart().Picture().yLabel + " / " + Chart().Picture().xLabel; }
+    CPoint Place(std::size_t point) {
+        Chart().UpdateWindow();
+        return Chart().PlaceOf(Chart().Picture().points[point]).value_or(CPoint(-1, -1));
+    }
+    void Mouse(UINT message, CPoint point) { Chart().SendMessage(message, 0, MAKELPARAM(point.x, point.y)); }
+    void Press(UINT key) { Chart().SendMessage(WM_KEYDOWN, key, 1); }
+    std::string Pointer() { return Pane(1); }
+    std::string Walk() {
+        return m_folder.Write("walk.csv", "time,a,b,c\n0,1,10,3\n60,2,40,3\n120,,20,3\n180,4,30,3\n");
+    }
+};
+
+TEST_F(ChartPage, AClickAndTheArrowKeysTellTheSampleAndHandItOn) {
+    Open("chart", {Walk()});
+    EXPECT_EQ(Labels(), "b / a");
+    EXPECT_EQ(Text(), "3 points: b against a");
+    Mouse(WM_MOUSEMOVE, Place(3));
+    EXPECT_EQ(Pointer(), "1970-01-01 00:03:00   a: 4   b: 30");
+    Mouse(WM_MOUSEMOVE, Place(3) + CSize(13, 0));
+    EXPECT_EQ(Pointer(), "") << "too far away to be meant";
+    Mouse(WM_LBUTTONDOWN, Place(1) + CSize(-5, 3));
+    EXPECT_EQ(Text(), "1970-01-01 00:01:00   a: 2   b: 40");
+    Press(VK_RIGHT);
+    EXPECT_EQ(Text(), "1970-01-01 00:03:00   a: 4   b: 30") << "over the gap";
+    Press(VK_RIGHT);
+    EXPECT_EQ(Text(), "1970-01-01 00:03:00   a: 4   b: 30") << "the last";
+    Press(VK_LEFT);
+    Command(ID_PAGE_PIE);
+    EXPECT_EQ(Text(), "walk.csv, 1970-01-01 00:01:00 (marked)");
+    Command(ID_PAGE_CHART);
+    EXPECT_EQ(Text(), "1970-01-01 00:01:00   a: 2   b: 40") << "and it is still marked here";
+    Press(VK_ESCAPE);
+    EXPECT_EQ(Text(), "3 points: b against a");
+
+    Command(ID_PAGE_GRAPH);
+    ControlOf<CMonitorGraph>(IDC_GRAPH).SetSelectionMarkPos(0);
+    Command(ID_PAGE_CHART);
+    EXPECT_EQ(Text(), "1970-01-01 00:00:00   a: 1   b: 10") << "what was marked in the graph";
+    Command(ID_CHART_SWAP);
+    EXPECT_EQ(Labels(), "a / b");
+    EXPECT_EQ(Text(), "1970-01-01 00:00:00   b: 10   a: 1");
+    Chart().UpdateWindow();
+    const CPoint first = Place(0);
+    const CPoint last = Place(3);
+    EXPECT_TRUE(first.x < last.x && first.y > last.y) << "10 to 30 to the right, 1 to 4 upwards";
+}
+
+TEST_F(ChartPage, ASingleSeriesIsDrawnAgainstItselfAndManySamplesWithoutLines) {
+    Open("chart", {m_folder.Write("one.csv", "time,a\n0,1\n60,2\n120,5\n")});
+    EXPECT_EQ(Labels(), "a / a, one sample before");
+    EXPECT_EQ(Text(), "2 points: a against a, one sample before");
+    EXPECT_EQ(Chart().Picture().style, ChartStyle::Both);
+    Command(ID_CHART_POINTS);
+    EXPECT_EQ(Chart().Picture().style, ChartStyle::Points);
+
+    std::string many = "time,a,b\n";
+    for (int i = 0; i < 600; ++i)
+        many += std::to_string(i) + "," + std::to_string(i % 7) + "," + std::to_string(i % 5) + "\n";
+    Open("chart", {m_folder.Write("many.csv", many)});
+    EXPECT_EQ(Chart().Picture().style, ChartStyle::Points);
+    Command(ID_CHART_BOTH);
+    EXPECT_EQ(Chart().Picture().style, ChartStyle::Both);
+}
+
+TEST_F(ChartPage, SeriesAreChosenInTheDialog) {
+    struct Person : monitor::CChartSeriesDlg {
+        using CChartSeriesDlg::CChartSeriesDlg;
+        int x = 0;
+        BOOL OnInitDialog() override {
+            const BOOL focus = CChartSeriesDlg::OnInitDialog();
+            static_cast<CComboBox*>(GetDlgItem(IDC_CHART_X))->SetCurSel(x);
+            PostMessage(WM_COMMAND, IDOK);
+            return focus;
+        }
+    };
+    Open("chart", {Walk()});
+    const struct {
+        int x;
+        PairChoice choice;
+    } cases[] = {
+        {2, {PairKind::Series, 2, 1}}, {3, {PairKind::Predecessor, 0, 1}}, {4, {PairKind::Time, 0, 1}}};
+    for (const auto& given : cases) {
+        Person person({"a", "b", "c"}, {PairKind::Series, 0, 1}, m_frame);
+        person.x = given.x;
+        ASSERT_EQ(person.DoModal(), IDOK);
+        EXPECT_EQ(person.Choice(), given.choice);
+        Person again({"a", "b", "c"}, given.choice, m_frame);
+        again.x = given.x;
+        ASSERT_EQ(again.DoModal(), IDOK);
+        EXPECT_EQ(again.Choice(), given.choice) << "and shown again";
+    }
+}
+
+TEST_F(ChartPage, LiveReadingsGoOnUnderTheMark) {
+    Open("chart", {});
+    // Readings that come faster than the system counts have no value for the processor.
+    for (int i = 0; i < 250 && !m_frame->Page().HasMark(); ++i) {
+        Tick();
+        Chart().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        Press(VK_LEFT);
+    }
+    ASSERT_TRUE(m_frame->Page().HasMark());
+    const std::size_t before = Chart().Picture().points.size();
+    ASSERT_LT(before, monitor::LiveReadings::kHistory) << "the page lets none go yet";
+    const std::string marked = Text();
+    Tick();
+    EXPECT_EQ(Chart().Picture().points.size(), before + 1);
+    EXPECT_EQ(Text(), marked);
+}
+
+} // namespace
+} // namespace kavlix::test

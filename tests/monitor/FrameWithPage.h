@@ -1,0 +1,79 @@
+#pragma once
+
+#include "monitor/MainFrame.h"
+#include "monitor/resource.h"
+#include "tests/monitor/MonitorProcess.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kavlix::test {
+
+/// The main window on one of its pages.
+class FrameWithPage : public testing::Test {
+protected:
+    struct Frame : monitor::CMainFrame {
+        using CMainFrame::CMainFrame, CMainFrame::PreTranslateMessage;
+    };
+
+    ~FrameWithPage() override { Close(); }
+
+    /// Opens the window on the page, its own choice without a name, with these files or with live readings.
+    void Open(std::string_view page, std::vector<std::string> files) {
+        Close();
+        recording::Options options;
+        options.files = std::move(files);
+        const auto found = std::find(recording::kPageNames.begin(), recording::kPageNames.end(), page);
+        if (!page.empty())
+            options.page = static_cast<std::size_t>(found - recording::kPageNames.begin());
+        m_frame = new Frame(std::move(options), m_exitStatus);
+        ASSERT_TRUE(m_frame->CreateMainWindow());
+        m_frame->ShowWindow(SW_SHOWNOACTIVATE);
+        m_frame->Start();
+        WorkOff();
+    }
+    void Close() {
+        if (m_frame)
+            m_frame->DestroyWindow();
+        m_frame = nullptr;
+    }
+    void WorkOff() {
+        while (m_frame->WorkInIdle())
+            ;
+    }
+    void Command(UINT id) { m_frame->SendMessage(WM_COMMAND, id); }
+    /// The next live reading.
+    void Tick() {
+        constexpr WPARAM liveTimer = 1;
+        m_frame->SendMessage(WM_TIMER, liveTimer);
+    }
+    /// What a pane of the status bar says.
+    std::string Pane(int pane) {
+        auto* const status = static_cast<CStatusBarCtrl*>(m_frame->GetDlgItem(IDC_STATUS));
+        return static_cast<LPCTSTR>(status->GetText(pane));
+    }
+    std::string Text() { return Pane(0); }
+    static std::string TitleOf(const CWnd& window) {
+        CString text;
+        window.GetWindowText(text);
+        return static_cast<LPCTSTR>(text);
+    }
+    static void ClearClipboard() {
+        ASSERT_TRUE(::OpenClipboard(nullptr));
+        ::EmptyClipboard();
+        ::CloseClipboard();
+    }
+    template <class Control> Control& ControlOf(UINT id) {
+        return dynamic_cast<Control&>(*m_frame->Page().GetDlgItem(static_cast<int>(id)));
+    }
+
+    TempFolder m_folder;
+    int m_exitStatus = 0;
+    Frame* m_frame = nullptr; ///< deletes itself
+};
+
+} // namespace kavlix::test

@@ -1,0 +1,165 @@
+// The page with a pie: which sample it shows, what a click names, and that it stands still.
+
+#include "monitor/GraphPage.h"
+#include "monitor/MonitorPie.h"
+#include "tests/monitor/FrameWithPage.h"
+#include "tests/support/MessageBoxWatcher.h"
+
+#include <afxres.h>
+
+namespace kavlix::test {
+namespace {
+
+using monitor::CMonitorGraph, monitor::CMonitorPie;
+
+struct Inside : CMonitorPie {
+    static CRect Square(const CMonitorPie& pie) { return pie.*(&Inside::m_rcPie); }
+    static const CObArray& Pieces(const CMonitorPie& pie) { return pie.*(&Inside::m_arrPieces); }
+};
+
+class PiePage : public FrameWithPage {
+protected:
+    void OpenSales() {
+        Open("graph", {m_folder.Write("sales.csv", "time,a,b,c,d\n"
+                                                   "2024-05-01 10:00:00,10,20,30,40\n"
+                                                   "2024-05-01 10:01:00,25,25,50,0\n"
+                                                   "2024-05-01 10:02:00,3,-2,,1\n")});
+        Command(ID_PAGE_PIE);
+    }
+    CMonitorPie& Pie() { return ControlOf<CMonitorPie>(IDC_PIE); }
+    /// Clicks where the pie is seen at an angle of so many degrees.
+    void Click(double angle) {
+        Pie().UpdateWindow();
+        CPoint point;
+        Pie().CountPoint(angle, point, 1);
+        Pie().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    }
+    void Press(UINT key) { Pie().SendMessage(WM_KEYDOWN, key, 1); }
+    std::vector<std::string> Labels() {
+        std::vector<std::string> labels;
+        for (int i = 0; i < Inside::Pieces(Pie()).GetSize(); ++i)
+            labels.push_back(
+                static_cast<LPCTSTR>(static_cast<CPieChartPiece*>(Inside::Pieces(Pie())[i])->m_strLabel));
+        return labels;
+    }
+    void MarkInGraph(int sample) {
+        Command(ID_PAGE_GRAPH);
+        ControlOf<CMonitorGraph>(IDC_GRAPH).SetSelectionMarkPos(sample);
+    }
+};
+
+using Strings = std::vector<std::string>;
+
+TEST_F(PiePage, ShowsTheMarkedSampleElseTheLastAndSaysWhatIsLeftOut) {
+    OpenSales();
+    EXPECT_EQ(Labels(), (Strings{"a", "d"}));
+    EXPECT_EQ(Text(), "sales.csv, 2024-05-01 10:02:00 (last sample)   "
+                      "Left out: b (negative), c (no value)");
+    MarkInGraph(1);
+    Command(ID_PAGE_PIE);
+    EXPECT_EQ(Labels(), (Strings{"a", "b", "c", "d"}));
+    EXPECT_EQ(Text(), "sales.csv, 2024-05-01 10:01:00 (marked)");
+
+    MarkInGraph(2);
+    testkit::MessageBoxWatcher person(IDYES);
+    Command(ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
+    MarkInGraph(0);
+    Command(ID_PAGE_PIE);
+    EXPECT_EQ(Text().substr(0, 42), "sales.csv, 2024-05-01 10:02:00 (marked)   ")
+        << "the mark counts from the samples that are left";
+    Command(ID_PAGE_PIE);
+    EXPECT_EQ(Text().substr(0, 42), "sales.csv, 2024-05-01 10:02:00 (marked)   ") << "shown once more";
+}
+
+TEST_F(PiePage, ClickAndKeysNameThePiece) {
+    OpenSales();
+    MarkInGraph(0);
+    Command(ID_PAGE_PIE);
+    const struct {
+        double angle;
+        const char* text;
+    } clicks[] = {{18, "a: 10   10.0 % of 100"},
+                  {70, "b: 20   20.0 % of 100"},
+                  {162, "c: 30   30.0 % of 100"},
+                  {300, "d: 40   40.0 % of 100"}};
+    for (const auto& click : clicks) {
+        Click(click.angle);
+        EXPECT_EQ(Text(), click.text);
+    }
+    Press(VK_RIGHT);
+    EXPECT_EQ(Text(), clicks[0].text) << "round";
+    Press(VK_LEFT);
+    EXPECT_EQ(Text(), clicks[3].text);
+    Press(VK_ESCAPE);
+    EXPECT_EQ(Text(), "sales.csv, 2024-05-01 10:00:00 (marked)");
+    Press(VK_LEFT);
+    EXPECT_EQ(Text(), clicks[3].text) << "from the end without a selection";
+    Command(ID_GRAPH_CLEAR_SELECTION_MARK);
+    EXPECT_FALSE(m_frame->Page().HasMark());
+}
+
+TEST_F(PiePage, LiveMemoryIsAWholeUnderItsHeadingAndKeepsTheSelection) {
+    Open("pie", {});
+    const CRect square = [this] {
+        Pie().UpdateWindow();
+        return Inside::Square(Pie());
+    }();
+    CRect pie;
+    Pie().GetWindowRect(&pie);
+    m_frame->Page().ScreenToClient(&pie);
+    EXPECT_GT(pie.top, 0) << "the heading stands above";
+    EXPECT_FALSE(square.IsRectEmpty());
+    Press(VK_RIGHT);
+    EXPECT_EQ(Text().substr(0, 16), "Kavlix Monitor: ");
+    for (int i = 0; i < 3; ++i) {
+        Tick();
+        double whole = 0;
+        for (int k = 0; k < Inside::Pieces(Pie()).GetSize(); ++k)
+            whole += static_cast<CPieChartPiece*>(Inside::Pieces(Pie())[k])->m_dValue;
+        EXPECT_NEAR(whole, 1, 1e-9);
+        EXPECT_EQ(Text().substr(0, 16), "Kavlix Monitor: ");
+    }
+    Open("pie", {m_folder.Write("one.csv", "time,a\n0,7\n")});
+    EXPECT_EQ(Text(), "one.csv, 1970-01-01 00:00:00 (last sample)");
+    Pie().UpdateWindow();
+    m_frame->Page().Update();
+    EXPECT_FALSE(Pie().GetUpdateRect(nullptr)) << "nothing new, nothing painted";
+}
+
+TEST_F(PiePage, SelectionStaysOnItsPieceWhileThereAreAsMany) {
+    OpenSales();
+    const auto show = [this](std::vector<double> shares) {
+        std::vector<monitor::PieceSettings> pieces;
+        for (const double share : shares)
+            pieces.push_back({"piece", RGB(0, 0, 200), share});
+        Pie().Show(pieces, "");
+        return Pie().Selected();
+    };
+    EXPECT_EQ(show({0.5, 0.2, 0.3}), -1);
+    Pie().Select(1);
+    EXPECT_EQ(show({0.4, 0.4, 0.2}), 1);
+    EXPECT_EQ(show({0.5, 0.5}), -1);
+}
+
+TEST_F(PiePage, CopyIsAPictureOfHeadingAndPie) {
+    OpenSales();
+    ClearClipboard();
+    Command(ID_EDIT_COPY);
+    EXPECT_EQ(Text().substr(0, 6), "Copied");
+    ASSERT_TRUE(::OpenClipboard(nullptr));
+    const auto picture = static_cast<HENHMETAFILE>(::GetClipboardData(CF_ENHMETAFILE));
+    ENHMETAHEADER header{};
+    EXPECT_NE(::GetEnhMetaFileHeader(picture, sizeof header, &header), 0u);
+    ::CloseClipboard();
+    CRect page;
+    m_frame->Page().GetClientRect(&page);
+    constexpr double frameUnits = 100; // in a millimetre
+    const RECTL& frame = header.rclFrame;
+    EXPECT_NEAR((frame.right - frame.left) / frameUnits,
+                page.Width() * header.szlMillimeters.cx / static_cast<double>(header.szlDevice.cx), 1);
+    EXPECT_NEAR((frame.bottom - frame.top) / frameUnits,
+                page.Height() * header.szlMillimeters.cy / static_cast<double>(header.szlDevice.cy), 1);
+}
+
+} // namespace
+} // namespace kavlix::test

@@ -1,0 +1,489 @@
+// The page with two graphs over time: what moves together, what stays, and what is said.
+
+#include "monitor/ScrollPage.h"
+#include "tests/monitor/FrameWithPage.h"
+#include "tests/support/ImportHook.h"
+#include "tests/support/MessageBoxWatcher.h"
+#include "tests/support/MetafileRecorder.h"
+
+#include <kavlix/Kavlix.h>
+
+#include <afxres.h>
+
+#include <cmath>
+#include <cwchar>
+
+namespace kavlix::test {
+namespace {
+
+using monitor::CMonitorScrollGraph, monitor::CScrollPage, monitor::GraphSettings, monitor::LiveReadings,
+    monitor::MachineRates, monitor::PageContent, recording::Time;
+
+constexpr Time S = recording::kMicrosPerSecond;
+constexpr double kX = 20; // x units a second
+constexpr int kPixel = 30;
+
+/// A day without a change of the clocks in any zone: 2021-01-12 10:00:00.
+const Time kStart = recording::FromCivil({2021, 1, 12, 10, 0, 0, 0});
+
+/// The rules of New York, of every year.
+int g_asked = 0;
+
+BOOL WINAPI NewYork(USHORT, PDYNAMIC_TIME_ZONE_INFORMATION, LPTIME_ZONE_INFORMATION zone) {
+    ++g_asked;
+    *zone = {};
+    zone->Bias = 300;
+    zone->DaylightBias = -60;
+    zone->DaylightDate = {0, 3, 0, 2, 2, 0, 0, 0}; // the second Sunday in March
+    zone->StandardDate = {0, 11, 0, 1, 2, 0, 0, 0};
+    return TRUE;
+}
+
+/// The same for whoever keeps rules by the zone.
+DWORD WINAPI InNewYork(PDYNAMIC_TIME_ZONE_INFORMATION zone) {
+    *zone = {};
+    std::wcscpy(zone->TimeZoneKeyName, L"Eastern Standard Time");
+    return TIME_ZONE_ID_UNKNOWN;
+}
+
+struct Inside : CMonitorScrollGraph {
+    static CRect Plot(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_rectPlot); }
+    static CRect Legend(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_rectLegend); }
+    static CRect TimeLabels(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_rectXTickLabel); }
+    static double Width(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_dViewWidth); }
+    static double Low(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_YVisibleMin); }
+    static double High(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_YVisibleMax); }
+};
+
+class Page : public CScrollPage {
+public:
+    using CScrollPage::CScrollPage;
+    int scrolled = 0; ///< notifications of the graphs
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
+        scrolled += reinterpret_cast<const NMHDR*>(lParam)->code == GCN_SCROLL;
+        return CScrollPage::OnNotify(wParam, lParam, pResult);
+    }
+};
+
+/// The page in a window that gives it what a test wants.
+class ScrollPage : public testing::Test, protected monitor::PageHost {
+protected:
+    ScrollPage() : m_page(*this) {
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, CRect(0, 0, 900, 600),
+                          nullptr, 0);
+        EXPECT_TRUE(m_page.CreatePage(m_parent, 1));
+        m_page.MoveWindow(0, 0, 900, 600);
+        m_page.ShowWindow(SW_SHOWNA);
+        for (int i = 0; i < 2; ++i)
+            m_graph[i] = dynamic_cast<CMonitorScrollGraph*>(m_page.GetDlgItem(IDC_UPPER_GRAPH + i));
+    }
+    ~ScrollPage() override { m_parent.DestroyWindow(); }
+
+    const PageContent& Content() const override { return m_content; }
+    void ChangeSettings(GraphSettings settings) override {
+        m_content.settings = std::move(settings);
+        m_page.Update();
+    }
+    void RemoveHead(std::size_t count) override {
+        m_removed = count;
+        ++m_content.cuts;
+        if (m_content.live)
+            m_content.live->RemoveHead(count);
+        m_content.lost += count;
+        m_page.Update();
+    }
+    void KeepAtMost(std::size_t count) override {
+        m_content.live->KeepAtMost(count);
+        m_page.Update();
+    }
+    void ShowSelection() override {}
+    void ShowPointer() override {}
+    void Say(const std::string& notice) override { m_said = notice; }
+    bool Filled() const override { return m_filled; }
+    void Fill(bool fill) override { m_page.ShowFilling(m_filled = fill); }
+
+    void BeginLive() {
+        ++m_content.generation;
+        m_content.live = std::make_unique<LiveReadings>();
+        m_content.settings =
+            monitor::DefaultSettings("live", m_content.live->SeriesNames(), 1000, CGraphCtrl::GraphStyleLine);
+        m_page.Update();
+    }
+    /// Readings once a second: the processor's is the number of the reading modulo 100. The page is told of
+    /// every tenth and the last, as after a pause.
+    void Live(int count) {
+        constexpr int together = 10;
+        for (int i = 0; i < count; ++i, ++m_taken) {
+            MachineRates rates;
+            rates.processorPercent = m_taken % 100;
+            rates.memoryPercent = 30;
+            rates.bytesInPerSecond = 1000 * m_taken;
+            rates.bytesOutPerSecond = 5;
+            m_content.live->Add(kStart + m_taken * S + S / 3, rates);
+            if (i % together == together - 1 || i + 1 == count)
+                m_page.Update();
+        }
+    }
+    void Record(std::vector<Time> times, std::size_t series, Time interval) {
+        auto recording = std::make_shared<recording::Recording>();
+        std::vector<std::string> names;
+        for (std::size_t i = 0; i < series; ++i) {
+            names.push_back("s" + std::to_string(i));
+            recording->series.push_back({names.back(), 0, {}});
+            for (std::size_t row = 0; row < times.size(); ++row)
+                recording->series[i].values.push_back(static_cast<double>(row) * std::pow(1000, i));
+        }
+        recording->files.resize(1);
+        recording->files[0].interval = interval;
+        recording->times = std::move(times);
+        ++m_content.generation;
+        m_content.lost = 0;
+        m_content.recording = recording;
+        m_content.settings = monitor::DefaultSettings("file", names, 1000, CGraphCtrl::GraphStyleLine);
+        m_page.Update();
+        while (m_page.WorkInIdle())
+            ;
+    }
+
+    double Position(int graph = 0) const { return m_graph[graph]->ScrollPosition(); }
+    /// The time of the first row in view, in seconds since kStart.
+    long FirstSecond(int graph = 0) const {
+        return m_graph[graph]->GetTimeInfo(m_graph[graph]->FirstVisible()) - m_graph[graph]->GetTimeInfo(0);
+    }
+    void Scroll(int graph, UINT code, UINT thumb = 0) {
+        m_graph[graph]->SendMessage(WM_HSCROLL, MAKEWPARAM(code, thumb), 0);
+    }
+    void Command(UINT id) { m_page.OnCmdMsg(id, CN_COMMAND, nullptr, nullptr); }
+    void Click(int graph, int row) {
+        m_graph[graph]->UpdateWindow();
+        const CRect plot = Inside::Plot(*m_graph[graph]);
+        const double x = (m_graph[graph]->GetXOffset(row) * kX - Position(graph)) * plot.Width() /
+                         Inside::Width(*m_graph[graph]);
+        m_graph[graph]->SendMessage(
+            WM_LBUTTONDOWN, 0,
+            MAKELPARAM(static_cast<int>((plot.left + x) / kPixel + 0.5), plot.CenterPoint().y / kPixel));
+    }
+
+    CWnd m_parent;
+    PageContent m_content;
+    Page m_page;
+    CMonitorScrollGraph* m_graph[2];
+    std::size_t m_removed = 0;
+    std::string m_said;
+    bool m_filled = false;
+    int m_taken = 0;
+};
+
+TEST_F(ScrollPage, FollowsTheNewestUntilThePersonScrollsBack) {
+    BeginLive();
+    Live(600);
+    const double width = 300 * kX;
+    EXPECT_EQ(Inside::Width(*m_graph[1]), width);
+    EXPECT_NEAR(Position(), 599 * kX - 0.9 * width, kX);
+    EXPECT_EQ(Position(1), Position());
+    Scroll(1, SB_PAGELEFT);
+    Scroll(1, SB_PAGELEFT);
+    const double back = Position();
+    EXPECT_LT(back, 599 * kX - width);
+    Live(50);
+    EXPECT_EQ(Position(), back);
+    EXPECT_EQ(Position(1), back);
+    Command(ID_SCROLL_NEWEST);
+    Live(10);
+    EXPECT_NEAR(Position(), 659 * kX - 0.9 * width, kX);
+    EXPECT_EQ(Position(1), Position());
+    EXPECT_EQ(Inside::Low(*m_graph[0]), 0);
+    EXPECT_EQ(Inside::High(*m_graph[0]), 100) << "percents";
+    EXPECT_GE(Inside::High(*m_graph[1]), 659'000) << "what is in view fits";
+}
+
+TEST_F(ScrollPage, GraphsScrollTogetherAndTellItOnce) {
+    BeginLive();
+    Live(1000);
+    for (const int graph : {0, 1}) {
+        for (const UINT code : {SB_PAGELEFT, SB_LINELEFT, SB_LINERIGHT, SB_THUMBTRACK}) {
+            m_page.scrolled = 0;
+            const double before = Position(graph);
+            Scroll(graph, code, 500);
+            EXPECT_NE(Position(graph), before) << code;
+            EXPECT_EQ(Position(0), Position(1)) << code;
+            EXPECT_EQ(m_page.scrolled, 1) << code;
+        }
+    }
+    m_page.scrolled = 0;
+    const double before = Position();
+    // From whichever window has the keys it comes to the page; less than a step waits for the rest.
+    m_graph[1]->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20), 0);
+    EXPECT_EQ(Position(), before);
+    m_graph[0]->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20), 0);
+    EXPECT_EQ(Position(), before - 0.01 * Inside::Width(*m_graph[0]));
+    m_page.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_EQ(Position(), before + 0.02 * Inside::Width(*m_graph[0]));
+    EXPECT_EQ(Position(1), Position());
+    EXPECT_EQ(m_page.scrolled, 0);
+}
+
+TEST_F(ScrollPage, APauseLosesNoReading) {
+    BeginLive();
+    Live(400);
+    Command(ID_SCROLL_PAUSE);
+    const double position = Position();
+    Live(250);
+    EXPECT_EQ(m_graph[0]->Rows(), 400) << "the pictures stand still";
+    EXPECT_EQ(Position(), position);
+    EXPECT_EQ(m_page.ViewTexts()[0].substr(0, 26), "Paused: 250 readings wait ");
+    Command(ID_SCROLL_PAUSE);
+    for (const CMonitorScrollGraph* graph : m_graph)
+        ASSERT_EQ(graph->Rows(), 650);
+    for (int row = 0; row < 650; ++row) {
+        ASSERT_EQ(m_graph[0]->ValueOf(0, row), row % 100);
+        ASSERT_EQ(m_graph[1]->ValueOf(0, row), 1000 * row);
+    }
+    EXPECT_TRUE(m_graph[0]->ShowsNewest() && m_graph[1]->ShowsNewest());
+    Command(ID_SCROLL_PAUSE);
+    KeepAtMost(100);
+    Live(120);
+    EXPECT_EQ(m_graph[0]->Rows(), 650);
+    Command(ID_SCROLL_PAUSE);
+    EXPECT_EQ(m_graph[1]->Rows(), 100);
+    EXPECT_EQ(m_graph[1]->ValueOf(0, 0), 670'000);
+}
+
+TEST_F(ScrollPage, OldReadingsGoWithoutMovingTheViewOrTheMark) {
+    BeginLive();
+    Live(1000);
+    Scroll(0, SB_THUMBTRACK, 700);
+    const long first = m_graph[0]->GetTimeInfo(m_graph[0]->FirstVisible());
+    m_graph[0]->SetSelectionMarkPos(m_graph[0]->FirstVisible() + 20);
+    m_graph[0]->SendMessage(WM_KEYDOWN, VK_RIGHT, 1);
+    const long marked = m_graph[0]->GetTimeInfo(m_graph[0]->MarkedRow());
+    KeepAtMost(800);
+    Live(100);
+    for (const CMonitorScrollGraph* graph : m_graph) {
+        EXPECT_EQ(graph->Rows(), 800);
+        EXPECT_EQ(graph->GetTimeInfo(graph->FirstVisible()), first);
+        EXPECT_EQ(graph->GetTimeInfo(graph->MarkedRow()), marked);
+        EXPECT_EQ(graph->ScrollPosition(), graph->GetXOffset(graph->FirstVisible()) * kX);
+    }
+    KeepAtMost(50);
+    EXPECT_EQ(m_graph[1]->MarkedRow(), -1) << "its reading went";
+    EXPECT_EQ(m_graph[1]->Rows(), 50);
+    EXPECT_EQ(Position(), 0);
+    Live(20);
+    EXPECT_TRUE(m_graph[0]->ShowsNewest());
+}
+
+TEST_F(ScrollPage, RangesKeepWhatThePersonLooksAt) {
+    std::vector<Time> times;
+    for (int i = 0; i < 20'000; ++i)
+        times.push_back(kStart + i * 60 * S);
+    Record(times, 2, 60 * S);
+    EXPECT_EQ(Inside::Width(*m_graph[0]), 604'800 * kX) << "two weeks";
+    EXPECT_TRUE(m_graph[0]->ShowsNewest());
+    Scroll(0, SB_THUMBTRACK, 300);
+    const int middle = (m_graph[0]->FirstVisible() + m_graph[0]->LastVisible()) / 2;
+    for (const UINT id : {ID_SCROLL_RANGE_24_HOURS, ID_SCROLL_RANGE_1_HOUR, ID_SCROLL_RANGE_15_MINUTES,
+                          ID_SCROLL_RANGE_7_DAYS}) {
+        Command(id);
+        EXPECT_EQ(Inside::Width(*m_graph[0]), recording::kStripRanges[id - ID_SCROLL_RANGE_FIRST] * kX);
+        EXPECT_EQ(Position(1), Position());
+        EXPECT_NEAR((m_graph[0]->FirstVisible() + m_graph[0]->LastVisible()) / 2, middle, 3) << id;
+    }
+    Click(1, middle + 2000);
+    EXPECT_EQ(m_graph[0]->MarkedRow(), m_graph[1]->MarkedRow());
+    EXPECT_NEAR(m_graph[0]->MarkedRow(), middle + 2000, 10);
+    Command(ID_VIEW_ZOOM_IN);
+    Command(ID_VIEW_ZOOM_IN);
+    EXPECT_EQ(Inside::Width(*m_graph[0]), 21'600 * kX);
+    const int mark = m_graph[0]->MarkedRow();
+    EXPECT_TRUE(m_graph[0]->FirstVisible() <= mark && mark <= m_graph[0]->LastVisible());
+    Scroll(0, SB_PAGELEFT);
+    Scroll(0, SB_PAGELEFT);
+    m_graph[0]->SendMessage(WM_KEYDOWN, VK_LEFT, 1);
+    EXPECT_TRUE(m_graph[1]->FirstVisible() <= mark - 1 && mark - 1 <= m_graph[1]->LastVisible())
+        << "the view goes to a mark that is moved";
+}
+
+TEST_F(ScrollPage, TheViewBeginsAtASampleWhereverItGoes) {
+    // Five minutes apart, with a gap of ten hours.
+    std::vector<Time> times;
+    for (int i = 0; i < 2000; ++i)
+        times.push_back(kStart + (i * 300 + (i < 1000 ? 0 : 36'000)) * S);
+    Record(times, 1, 300 * S);
+    EXPECT_EQ(m_graph[0]->Rows(), 2000 + 120) << "as many as would have been read";
+    EXPECT_TRUE(std::isnan(m_graph[0]->ValueOf(0, 1050)));
+    EXPECT_FALSE(m_graph[1]->IsWindowVisible()) << "one series needs one graph";
+    Command(ID_SCROLL_RANGE_6_HOURS);
+    long before = FirstSecond();
+    for (const UINT code : {SB_LINELEFT, SB_LINELEFT, SB_PAGELEFT, SB_LINERIGHT}) {
+        Scroll(0, code);
+        EXPECT_EQ(Position(), m_graph[0]->GetXOffset(m_graph[0]->FirstVisible()) * kX);
+        EXPECT_EQ(FirstSecond() < before, code != SB_LINERIGHT) << "a step is at least a sample";
+        before = FirstSecond();
+    }
+    for (const UINT thumb : {1u, 333u, 599u, 601u, 1100u}) {
+        Scroll(0, SB_THUMBTRACK, thumb);
+        EXPECT_EQ(Position(), FirstSecond() * kX) << thumb;
+    }
+    for (int i = 0; i < 50; ++i)
+        m_page.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_TRUE(m_graph[0]->ShowsNewest()) << "and the end is reached";
+    Command(ID_SCROLL_OLDEST);
+    EXPECT_EQ(Position(), 0);
+}
+
+TEST(StripClock, StampsReadAsTheFileDoesAndNeverGoBack) {
+    const testkit::ImportHook zone("KavlixMfc.dll", "GetTimeZoneInformationForYear",
+                                   reinterpret_cast<void*>(&NewYork));
+    ASSERT_TRUE(zone.Installed());
+    for (const recording::CivilTime& day :
+         {recording::CivilTime{2021, 3, 13, 0, 0, 0, 0}, recording::CivilTime{2021, 11, 6, 0, 0, 0, 0}}) {
+        monitor::StripClock clock;
+        long before = 0;
+        for (Time time = recording::FromCivil(day); time < recording::FromCivil(day) + 72 * 3600 * S;
+             time += 600 * S + S / 2) {
+            const long stamp = clock.Stamp(time);
+            EXPECT_GE(stamp, before);
+            before = stamp;
+            const recording::CivilTime civil = recording::ToCivil(time);
+            const CTime shown(stamp);
+            const bool leftOut = day.month == 3 && civil.day == 14 && civil.hour == 2;
+            EXPECT_TRUE(leftOut || (shown.GetDay() == civil.day && shown.GetHour() == civil.hour &&
+                                    shown.GetMinute() == civil.minute && shown.GetSecond() == civil.second))
+                << recording::FormatExact(time);
+        }
+    }
+    // Asking the system takes long, and a day has many samples.
+    g_asked = 0;
+    monitor::StripClock clock;
+    const Time day = recording::FromCivil({2021, 3, 14, 0, 0, 0, 0});
+    for (Time time = day; time < day + 24 * 3600 * S; time += S)
+        clock.Stamp(time);
+    EXPECT_LT(g_asked, 2000);
+}
+
+TEST_F(ScrollPage, LabelsAndTindroTellTheTimesOfTheFile) {
+    const testkit::ImportHook stamps("KavlixMfc.dll", "GetTimeZoneInformationForYear",
+                                     reinterpret_cast<void*>(&NewYork));
+    const testkit::ImportHook rules("Kavlix.dll", "GetTimeZoneInformationForYear",
+                                    reinterpret_cast<void*>(&NewYork));
+    const testkit::ImportHook zone("Kavlix.dll", "GetDynamicTimeZoneInformation",
+                                   reinterpret_cast<void*>(&InNewYork));
+    const recording::CivilTime days[] = {{2021, 1, 12, 23, 59, 58, 0}, {2021, 7, 1, 4, 5, 6, 0},
+                                         {2024, 2, 29, 12, 0, 0, 0},   {1969, 12, 31, 23, 0, 0, 0},
+                                         {1908, 5, 5, 5, 5, 5, 0},     {2037, 12, 31, 23, 59, 59, 0}};
+    for (const recording::CivilTime& day : days) {
+        const Time start = recording::FromCivil(day);
+        Record({start, start + S, start + 2 * S, start + 3 * S}, 2, S);
+        m_said.clear();
+        m_graph[1]->SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK);
+        EXPECT_TRUE(&day != days || m_said == "For Tindro: nothing is marked") << m_said;
+        Click(1, 3);
+        m_graph[1]->SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK);
+        std::string text = recording::FormatExact(start + 3 * S);
+        EXPECT_EQ(m_page.MarkTexts()[0], text + "   s0: 3   s1: 3000");
+        text[4] = text[7] = '/';
+        EXPECT_EQ(m_said, "For Tindro: the mark is at " + text);
+    }
+    // The night when clocks go back: the labels show the repeated hour twice and go on.
+    std::vector<Time> night;
+    for (int i = 0; i < 360; ++i)
+        night.push_back(recording::FromCivil({2026, 10, 31, 23, 0, 0, 0}) + i * 60 * S);
+    Record(night, 1, 60 * S);
+    testkit::MetafileRecorder picture;
+    m_graph[0]->SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.Dc()), PRF_CLIENT);
+    picture.Close();
+    std::string hours;
+    for (const std::string& text : picture.Texts())
+        if (text.find(":00:00") == 2)
+            hours += text.substr(0, 2) + " ";
+    EXPECT_EQ(hours, "23 00 01 01 02 03 04 ");
+    CMenu menu;
+    for (const bool on : {true, false}) {
+        Command(ID_SCROLL_TINDRO);
+        menu.CreatePopupMenu();
+        m_graph[0]->InsertGraphMenu(menu);
+        EXPECT_EQ(m_graph[0]->IsMenuItem(menu, ID_GRAPH_SEND_SELECTION_MARK), on);
+        menu.DestroyMenu();
+    }
+}
+
+TEST_F(ScrollPage, GraphFillsThePageAndNothingLiesUnderTheScrollBar) {
+    BeginLive();
+    Live(5);
+    for (const CSize size : {CSize(800, 360), CSize(1600, 560), CSize(300, 200), CSize(900, 600)}) {
+        m_page.MoveWindow(0, 0, size.cx, size.cy);
+        for (CMonitorScrollGraph* graph : m_graph)
+            graph->UpdateWindow();
+        for (const CMonitorScrollGraph* graph : m_graph) {
+            CRect client;
+            graph->GetClientRect(&client);
+            CRect bar;
+            graph->GetDlgItem(100)->GetWindowRect(&bar);
+            graph->ScreenToClient(&bar);
+            EXPECT_TRUE(!graph->GetShowLegend() || Inside::Legend(*graph).bottom <= bar.top * kPixel);
+            EXPECT_LE(Inside::Plot(*graph).bottom, bar.top * kPixel);
+            EXPECT_EQ(Inside::Plot(*graph).left, Inside::Plot(*m_graph[0]).left);
+            EXPECT_EQ(Inside::Plot(*graph).right, Inside::Plot(*m_graph[0]).right);
+        }
+    }
+    m_graph[1]->SetFocus();
+    Fill(true);
+    CRect graph;
+    m_graph[1]->GetClientRect(&graph);
+    EXPECT_EQ(graph.Size(), CSize(900, 600));
+    EXPECT_FALSE(m_graph[0]->IsWindowVisible());
+    Live(400);
+    EXPECT_EQ(Position(0), Position(1)) << "the hidden one goes on";
+    Fill(false);
+    m_graph[1]->GetClientRect(&graph);
+    EXPECT_EQ(graph.Height(), 300);
+    EXPECT_TRUE(m_graph[0]->IsWindowVisible());
+}
+
+TEST_F(ScrollPage, RemovingBeforeTheMarkReachesBothGraphsAndTheHost) {
+    BeginLive();
+    Live(500);
+    testkit::MessageBoxWatcher person(IDYES);
+    m_graph[1]->SetSelectionMarkPos(120);
+    m_graph[1]->SendMessage(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
+    EXPECT_EQ(m_removed, 120u);
+    EXPECT_EQ(m_content.live->First(), 120u);
+    Live(1);
+    for (const CMonitorScrollGraph* graph : m_graph) {
+        EXPECT_EQ(graph->Rows(), 381);
+        EXPECT_EQ(graph->MarkedRow(), -1);
+    }
+    EXPECT_EQ(m_graph[0]->ValueOf(0, 0), 20);
+    EXPECT_EQ(m_graph[1]->ValueOf(0, 380), 500'000);
+}
+
+class Pages : public FrameWithPage {};
+
+TEST_F(Pages, OpenOnTheirDefaultAndOnWhatIsAskedFor) {
+    const std::string file = m_folder.Write("a.csv", "time,a,b\n1000,1,2\n1060,3,4\n1120,5,6\n");
+    const auto onScroll = [this] { return dynamic_cast<CScrollPage*>(&m_frame->Page()) != nullptr; };
+    for (const bool live : {true, false}) {
+        for (const std::string asked : {"", "graph", "scroll"}) {
+            Open(asked, live ? std::vector<std::string>() : std::vector{file});
+            EXPECT_EQ(onScroll(), asked == "scroll" || (asked.empty() && live)) << live << asked;
+            Command(ID_PAGE_SCROLL);
+            WorkOff();
+            ASSERT_TRUE(onScroll());
+            auto& graph = ControlOf<CMonitorScrollGraph>(IDC_UPPER_GRAPH);
+            EXPECT_TRUE(live || graph.Rows() == 3) << graph.Rows();
+            Command(ID_SCROLL_RANGE_1_HOUR);
+            EXPECT_EQ(Inside::Width(graph), 3600 * kX);
+            Command(ID_PAGE_GRAPH);
+            EXPECT_FALSE(onScroll());
+            EXPECT_FALSE(graph.IsWindowVisible());
+            Command(ID_SCROLL_RANGE_1_MINUTE);
+            EXPECT_EQ(Inside::Width(graph), 3600 * kX) << "a hidden page gets no commands";
+        }
+    }
+}
+
+} // namespace
+} // namespace kavlix::test

@@ -1,0 +1,163 @@
+#include "scrollgraph/core/TimeTicks.h"
+
+#include "monitor/recording/TimeText.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace kavlix {
+namespace {
+
+/// A zone with one change of the clock.
+class ZoneClock : public LocalClock {
+public:
+    ZoneClock(int east, std::int64_t changeAt = 0, int eastAfter = 0)
+        : m_east(east), m_changeAt(changeAt), m_eastAfter(changeAt == 0 ? east : eastAfter) {}
+    CalendarTime ToLocal(std::int64_t time) const override {
+        // Not gmtime: some C libraries know no time before 1970.
+        const std::int64_t shown = time + (time < m_changeAt ? m_east : m_eastAfter);
+        const recording::CivilTime local = recording::ToCivil(shown * recording::kMicrosPerSecond);
+        return {local.year, local.month, local.day, local.hour, local.minute, local.second};
+    }
+
+private:
+    int m_east;
+    std::int64_t m_changeAt;
+    int m_eastAfter;
+};
+
+constexpr int kHeight = 300;
+
+std::vector<std::string> Texts(const LocalClock& clock, std::int64_t start, int step, int count,
+                               int spacing = kHeight * 2) {
+    std::vector<std::string> texts;
+    for (TimeTicks ticks(clock, start, step, spacing, kHeight); count > 0; --count, ticks.Next())
+        texts.push_back((ticks.ShowsDate() ? ticks.Date() + " " : "") + ticks.Clock());
+    return texts;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(TimeTicksTest, TheStepLeavesRoomForTheTicks) {
+    struct Case {
+        int seconds, ticks, step;
+    };
+    const Case cases[] = {{60, 11, 5},
+                          {60, 5, 10},
+                          {60, 10, 10},
+                          {60, 2, 20},
+                          {65, 11, 10},
+                          {0, 2, 5},
+                          {-60, 2, 5},
+                          {300, 9, 30},
+                          {3600, 9, 600},
+                          {86400, 11, 7200},
+                          {86400, 10, 10800},
+                          {13 * 7200 - 1, 11, 7200},
+                          {2147483647, 5, 10800},
+                          {13 * 7200, 11, 10800},
+                          {2147483647, 2147483647, 5}};
+    for (const Case& each : cases)
+        EXPECT_EQ(SelectTickStep(each.seconds, each.ticks), each.step) << each.seconds << " " << each.ticks;
+}
+
+TEST(TimeTicksTest, TheFirstTickIsARoundTime) {
+    struct Case {
+        int hour, minute, second, step, expected;
+    };
+    const Case cases[] = {
+        {12, 34, 56, 10, 4},    {12, 34, 56, 300, 4},    {12, 34, 56, 3600, 1504}, {12, 34, 50, 10, 0},
+        {12, 34, 0, 120, 0},    {12, 35, 0, 120, 60},    {12, 34, 1, 60, 59},      {12, 0, 0, 3600, 0},
+        {12, 0, 1, 3600, 3599}, {13, 0, 0, 7200, 3600},  {23, 59, 59, 10800, 1},   {0, 0, 59, 5, 1},
+        {9, 0, 0, 10800, 0},    {10, 0, 0, 10800, 7200},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(SecondsToRoundTime({2026, 11, 21, each.hour, each.minute, each.second}, each.step),
+                  each.expected)
+            << each.hour << ":" << each.minute << ":" << each.second << " step " << each.step;
+}
+
+TEST(TimeTicksTest, DatesStandAtTheFirstTickAndAfterMidnight) {
+    const ZoneClock utc(0);
+    EXPECT_EQ(Texts(utc, 951868793, 3600, 3), (Lines{"2000/03/01 00:00:00", "01:00:00", "02:00:00"}))
+        << "29 February 23:59:53";
+    EXPECT_EQ(Texts(utc, 951782400 - 5, 5, 3),
+              (Lines{"2000/02/28 23:59:55", "2000/02/29 00:00:00", "00:00:05"}));
+    EXPECT_EQ(Texts(utc, 946684799, 1800, 2), (Lines{"2000/01/01 00:00:00", "00:30:00"}));
+    EXPECT_EQ(Texts(utc, -86400 * 365LL, 7200, 2), (Lines{"1969/01/01 00:00:00", "02:00:00"}));
+    EXPECT_EQ(Texts(utc, 2147483647, 5, 2), (Lines{"2038/01/19 03:14:10", "03:14:15"})) << "past 32 bits";
+    const ZoneClock kathmandu(5 * 3600 + 45 * 60);
+    EXPECT_EQ(Texts(kathmandu, 1767204000, 900, 3),
+              (Lines{"2025/12/31 23:45:00", "2026/01/01 00:00:00", "00:15:00"}));
+}
+
+TEST(TimeTicksTest, AChangeOfTheClockRepeatsOrSkipsAnHourAndNothingStandsStill) {
+    constexpr int est = -5 * 3600;
+    constexpr int edt = -4 * 3600;
+    constexpr std::int64_t springForward = 1772953200; // 2026-03-08 07:00 UTC
+    constexpr std::int64_t fallBack = 1793512800;      // 2026-11-01 06:00 UTC
+    EXPECT_EQ(Texts(ZoneClock(est, springForward, edt), springForward - 3600, 1800, 4),
+              (Lines{"2026/03/08 01:00:00", "01:30:00", "03:00:00", "03:30:00"}));
+    EXPECT_EQ(Texts(ZoneClock(edt, fallBack, est), fallBack - 3600, 1800, 6),
+              (Lines{"2026/11/01 01:00:00", "01:30:00", "01:00:00", "01:30:00", "02:00:00", "02:30:00"}));
+    // Half an hour: the hours go on off the full hour.
+    constexpr std::int64_t lordHowe = 1775314800; // 2026-04-04 15:00 UTC, 02:00 local
+    EXPECT_EQ(Texts(ZoneClock(11 * 3600, lordHowe, 10 * 3600 + 1800), lordHowe - 3600, 3600, 4),
+              (Lines{"2026/04/05 01:00:00", "01:30:00", "02:30:00", "03:30:00"}));
+    // A change shortly after midnight leads back into the day before, and its date.
+    EXPECT_EQ(
+        Texts(ZoneClock(3600, 86400 - 1800, 0), 86400 - 5400, 1800, 4),
+        (Lines{"1970/01/01 23:30:00", "1970/01/02 00:00:00", "1970/01/01 23:30:00", "1970/01/02 00:00:00"}));
+}
+
+TEST(TimeTicksTest, LabelsThatWouldTouchStandAtLongerRoundTimes) {
+    const ZoneClock utc(0);
+    constexpr std::int64_t start = 1699978400; // 2023-11-14 16:13:20
+    const ZoneClock autumn(7200, start + 200000, 3600);
+    const ZoneClock spring(3600, start + 200000, 7200);
+    const struct {
+        int step, spacing;
+        std::int64_t firstTick;
+        Lines labels;
+    } cases[] = {
+        {10800, 420, 0, {"2023/11/14 18:00:00", "21:00:00", "2023/11/15 00:00:00"}},
+        {10800, 419, 0, {"2023/11/14 18:00:00", "2023/11/15 00:00:00", "06:00:00", "12:00:00"}},
+        {10800, 209, 2, {"2023/11/15 00:00:00", "12:00:00", "2023/11/16 00:00:00"}},
+        {10800, 76, 2, {"2023/11/15 00:00:00", "2023/11/16 00:00:00"}},
+        {10800, 66, 2, {"2023/11/15 00:00:00", "2023/11/17 00:00:00"}},
+        {10800, 30, 2, {"2023/11/15 00:00:00", "2023/11/22 00:00:00"}},
+        {10800, 6, 2, {"2023/11/15 00:00:00", "2023/11/29 00:00:00", "2023/12/13 00:00:00"}},
+        {10800, 1, 2, {"2023/11/15 00:00:00", "2024/03/06 00:00:00"}},
+        {10800, 0, 0, {"2023/11/14 18:00:00"}},
+        {7200, 300, 0, {"2023/11/14 18:00:00", "20:00:00", "22:00:00", "2023/11/15 00:00:00"}},
+        {20, 299, 2, {"2023/11/14 16:14:00", "16:15:00"}},
+        {1200, 150, 2, {"2023/11/14 17:00:00", "18:00:00"}},
+    };
+    for (const auto& each : cases) {
+        const int count = static_cast<int>(each.labels.size());
+        EXPECT_EQ(Texts(utc, start, each.step, count, each.spacing), each.labels) << each.spacing;
+        EXPECT_EQ(TimeTicks(utc, start, each.step, each.spacing, kHeight).Tick(), each.firstTick);
+        for (const ZoneClock* clock : {&utc, &autumn, &spring}) {
+            TimeTicks ticks(*clock, start, each.step, each.spacing, kHeight);
+            for (std::int64_t tick = 0; tick < 600 && each.spacing > 0; ++tick) {
+                while (ticks.Tick() < tick)
+                    ticks.Next();
+                TimeTicks there(*clock, start, each.step, each.spacing, kHeight);
+                there.GoTo(tick);
+                ASSERT_EQ(there.Tick(), ticks.Tick()) << each.step << " s in " << each.spacing;
+                ASSERT_EQ(there.Text(), ticks.Text());
+                ASSERT_EQ(there.ShowsDate(), ticks.ShowsDate());
+            }
+        }
+    }
+    // Each day has its label, at the first of its ticks.
+    EXPECT_EQ(Texts(autumn, start, 10800, 4, 76), (Lines{"2023/11/15 00:00:00", "2023/11/16 00:00:00",
+                                                         "2023/11/17 00:00:00", "2023/11/18 02:00:00"}));
+    EXPECT_EQ(Texts(spring, start, 10800, 4, 76), (Lines{"2023/11/15 00:00:00", "2023/11/16 00:00:00",
+                                                         "2023/11/17 00:00:00", "2023/11/18 01:00:00"}));
+}
+
+} // namespace
+} // namespace kavlix

@@ -1,17 +1,16 @@
+// The scrolling graph's message map, creation, and the window of its scroll bar.
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include "scrollgraph/ScrollGraphCtrlClock.h"
 #include "scrollgraph/core/TimeLine.h"
-#include "scrollgraph/core/ViewWindow.h"
 
 using namespace kavlix;
 
 namespace {
 
-constexpr double kInitialWidth = 1200.0; // x units: one minute
 constexpr UINT kScrollBarId = 100;
 
-// Pixels. The bar lies along the bottom edge.
+// The scroll bar lies along the bottom edge; pixels.
 constexpr int kBarLeft = 30;
 constexpr int kBarRight = 80; // from the right edge
 constexpr int kBarTop = 15;   // from the bottom edge
@@ -32,14 +31,11 @@ BEGIN_MESSAGE_MAP(CScrollGraphCtrl, CGraphCtrl)
 END_MESSAGE_MAP()
 
 CScrollGraphCtrl::CScrollGraphCtrl()
-    : m_arrTime(std::make_unique<TimeLine>()), m_zoneRules(std::make_unique<ZoneRules>()), m_dScrollPos(0),
-      m_dScrollMax(ViewWindow::kInitialMax), m_dScrollMin(0), m_dViewWidth(kInitialWidth),
-      m_nUnitsPerSecond(kXUnitsPerSecond), m_bTindroMode(false), m_bScrollSync(FALSE), m_bFollowed(FALSE),
-      m_nDrawFirst(-1), m_nDrawLast(-1), m_nToldPos(-1), m_nToldPage(-1) {
+    : m_arrTime(std::make_unique<TimeLine>()), m_zoneRules(std::make_unique<ZoneRules>()) {
 }
 
 CScrollGraphCtrl::~CScrollGraphCtrl() {
-    // While the scroll bar is still there to be told.
+    // The scroll bar must still exist when the window is destroyed.
     DestroyWindow();
 }
 
@@ -64,7 +60,7 @@ void CScrollGraphCtrl::OnSize(UINT nType, int cx, int cy) {
     UpdateScrollInfo();
 }
 
-// The picture is painted over everything inside the control: the bar comes back on top of it.
+// The control paints its whole client area, the scroll bar's too, so the bar must be drawn again on top.
 void CScrollGraphCtrl::RaiseScrollBar() {
     if (!::IsWindow(m_wndScrollBar.m_hWnd))
         return;
@@ -77,6 +73,6 @@ void CScrollGraphCtrl::OnLButtonDown(UINT nFlags, CPoint point) {
 }
 
 BOOL CScrollGraphCtrl::OnMouseWheel(UINT, short, CPoint) {
-    // Where the wheel turns is the host's to decide: it calls ProcessMouseWheel.
+    // The host decides about the wheel and calls ProcessMouseWheel.
     return static_cast<BOOL>(Default());
 }

@@ -1,3 +1,4 @@
+// The time axis: choice of the tick step, ticks, labels and vertical grid lines.
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include <algorithm>
@@ -83,7 +84,7 @@ CString CScrollGraphCtrl::GetNextTickTime(int nUnit, CString& date, CString& tim
         return date + " " + time;
     const SystemClock clock(*m_zoneRules);
     const auto start = clock.FromLocal({year, month, day, hour, minute, second});
-    if (!start) // no such day in that month
+    if (!start) // the month has no such day
         return date + " " + time;
     return FullTimeText(clock.ToLocal(*start + nUnit)).c_str();
 }
@@ -105,7 +106,7 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     if (m_GraphStyle != GraphStyleLine && m_GraphStyle != GraphStyleTwoAxis)
         return;
 
-    // The first sample in view is taken to stand at the plot's left edge.
+    // Ticks are placed as if the first sample in view stood at the plot's left edge.
     const int first = m_arrTime->LowerBound(m_dScrollPos);
     double exactSpacing = 0;
     const int unit = SelectTickUnit(nTicks, exactSpacing);
@@ -116,7 +117,8 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     const std::int64_t begin =
         std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
     const auto place = [&](std::int64_t tick) { return begin + tick * spacing; };
-    // Without a view there is no next tick. Of a plot that is wider than the window the rest cannot be seen.
+    // Only ticks within the window are drawn; `reach` allows for labels that begin outside it. Without a
+    // spacing there is one tick.
     const std::int64_t reach = 2 * std::int64_t{height};
     const auto ticksBefore = [&](std::int64_t x) {
         return x <= begin ? 0 : spacing > 0 ? (x - begin + spacing - 1) / spacing : 1;
@@ -135,7 +137,6 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     std::vector<int> gridColumns;
     for (std::int64_t tick = firstSeen; tick < endSeen; ++tick) {
         const int x = static_cast<int>(place(tick));
-        // Ticks in one device column are one tick.
         const auto pixel = pixels.begin() + (tick - firstSeen);
         if (pixel == pixels.begin() || pixel->x != pixel[-1].x)
             DrawXTick(dc, x, rectAxis, axisPen, isGridLast ? nullptr : grid, m_rectPlot.top);

@@ -1,3 +1,4 @@
+// Local time by the rules of the system's time zone.
 #include "scrollgraph/ScrollGraphCtrlClock.h"
 
 #include <cstring>
@@ -11,10 +12,10 @@ constexpr std::int64_t kTicksPerSecond = 10000000; // of a FILETIME
 constexpr std::int64_t kSecondsTo1970 = 11644473600;
 
 bool AreEqual(const SYSTEMTIME& a, const SYSTEMTIME& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0; // eight numbers, nothing between them
+    return std::memcmp(&a, &b, sizeof a) == 0; // eight WORDs without padding
 }
 
-/// Names of standard and daylight time do not count.
+/// Whether two zones have the same rules and key; the names of standard and daylight time may differ.
 bool AreEqual(const DYNAMIC_TIME_ZONE_INFORMATION& a, const DYNAMIC_TIME_ZONE_INFORMATION& b) {
     return a.Bias == b.Bias && a.StandardBias == b.StandardBias && a.DaylightBias == b.DaylightBias &&
            AreEqual(a.StandardDate, b.StandardDate) && AreEqual(a.DaylightDate, b.DaylightDate) &&
@@ -22,7 +23,7 @@ bool AreEqual(const DYNAMIC_TIME_ZONE_INFORMATION& a, const DYNAMIC_TIME_ZONE_IN
            std::wcscmp(a.TimeZoneKeyName, b.TimeZoneKeyName) == 0;
 }
 
-/// None before 1601 and after what the system has a calendar for.
+/// The UTC calendar time; none before 1601, and none beyond the range of a FILETIME.
 std::optional<SYSTEMTIME> UtcOf(std::int64_t time) {
     constexpr std::int64_t last = INT64_MAX / kTicksPerSecond - kSecondsTo1970;
     if (time < -kSecondsTo1970 || time > last)
@@ -77,7 +78,8 @@ CalendarTime SystemClock::ToLocal(std::int64_t time) const {
     SYSTEMTIME local = {};
     if (!utc || !::SystemTimeToTzSpecificLocalTime(&m_rules.OfYear(utc->wYear), &*utc, &local))
         return result;
-    // Around New Year the local date may lie in another year, which may have other rules.
+    // Around New Year the local date can lie in another year than the UTC date, and that year can have other
+    // rules.
     if (local.wYear != utc->wYear)
         ::SystemTimeToTzSpecificLocalTime(&m_rules.OfYear(local.wYear), &*utc, &local);
     result = {local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
@@ -92,7 +94,8 @@ std::optional<std::int64_t> SystemClock::FromLocal(const CalendarTime& local) co
     wall.wHour = static_cast<WORD>(local.hour);
     wall.wMinute = static_cast<WORD>(local.minute);
     wall.wSecond = static_cast<WORD>(local.second);
-    // Not every system refuses the 30th of February; some make it a day in March.
+    // Some systems accept the 30th of February and make it a day in March, so the day is compared after
+    // conversion.
     const std::optional<std::int64_t> asUtc = TimeOf(wall);
     const std::optional<SYSTEMTIME> back = asUtc ? UtcOf(*asUtc) : std::nullopt;
     SYSTEMTIME utc = {};

@@ -1,3 +1,4 @@
+// The system's time zone behind the platform-free LocalClock.
 #pragma once
 
 #include <afxwin.h>
@@ -9,14 +10,15 @@
 
 namespace kavlix {
 
-/// The rules of the system's time zone, year by year. Asking the system for a year's rules takes hundreds of
-/// times as long as drawing the label that needs them, so what it told is kept for as long as it keeps that
-/// zone.
+/// Cache of the rules of the system's time zone, year by year. Asking the system for a year's rules takes
+/// hundreds of times as long as drawing the label that needs them.
 class ZoneRules {
 public:
-    /// Looks which zone the system keeps now, which is cheap. The rules of another one are forgotten.
+    /// Compares the system's present zone with the cached one, which is cheap; clears the cache when they
+    /// differ.
     void Refresh();
-    /// Those of `year`; without any from the system those of UTC.
+    /// The rules of `year`; the zone's present rules when the system has none for that year, and UTC in an
+    /// unknown zone.
     const TIME_ZONE_INFORMATION& OfYear(WORD year);
 
 private:
@@ -24,15 +26,15 @@ private:
     std::map<WORD, TIME_ZONE_INFORMATION> m_years;
 };
 
-/// The local time of this system, in the zone that it keeps when the clock is made.
+/// The system's local time, in the zone that is set when the clock is constructed.
 class SystemClock : public LocalClock {
 public:
-    /// `rules` must outlive the clock and may serve many, one after the other.
+    /// `rules` must outlive the clock. Several clocks may use the same rules, one after the other.
     explicit SystemClock(ZoneRules& rules) : m_rules(rules) { m_rules.Refresh(); }
 
     CalendarTime ToLocal(std::int64_t time) const override;
-    /// Seconds since 1970-01-01 00:00 UTC at a local time; none when the calendar has no such day or clock no
-    /// such time. A time that daylight saving leaves out or repeats is one that the system takes it for.
+    /// Seconds since 1970-01-01 00:00 UTC at a local time; none when the calendar has no such day or the
+    /// clock no such time. For a time that daylight saving skips or repeats, the system chooses the moment.
     std::optional<std::int64_t> FromLocal(const CalendarTime& local) const;
 
 private:

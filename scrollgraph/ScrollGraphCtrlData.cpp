@@ -1,3 +1,4 @@
+// Samples and time stamps: adding, removing, and their texts in local time.
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include <algorithm>
@@ -41,8 +42,7 @@ int CScrollGraphCtrl::AddData(int nDataset, double y, double*) {
     if (arrival.changed) {
         view.Normalize();
         SetView(view);
-        // GetScrollInfo would take longer than storing 13 samples, so the last values sent are compared
-        // first.
+        // GetScrollInfo takes longer than storing 13 samples, so the values passed last are compared first.
         if (view.BarPosition() != m_nToldPos || view.BarPage() != m_nToldPage)
             UpdateScrollInfo();
     }
@@ -57,7 +57,7 @@ int CScrollGraphCtrl::AddDataForOffline(int nDataset, double y, double*) {
 }
 
 void CScrollGraphCtrl::SetArraySize(int) {
-    // What is empty needs memory for its 0. That comes first: nothing is cut if it fails.
+    // An empty dataset needs memory for its 0. Allocate first: nothing is cut if the allocation fails.
     const bool hadTime = m_arrTime->Size() > 0;
     int sizes[DatasetCount];
     GetSizes(sizes);

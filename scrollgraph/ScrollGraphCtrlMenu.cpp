@@ -1,3 +1,4 @@
+// The menu item that exports the selection mark's time.
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include "gdi/StringIds.h"
@@ -16,7 +17,7 @@ void CScrollGraphCtrl::InsertGraphMenu(CMenu& menu) {
 }
 
 void CScrollGraphCtrl::OnSendSelectionMarkInfoToTindro() {
-    // With no mark on a sample the text exported last goes out again: hosts rely on an answer.
+    // Without a mark on a sample the text of the last export is sent again: hosts rely on an answer.
     GetFullTime(m_SelectionMarkPos, m_strSelectionMarkTime);
     SendSelectionMarkTime();
 }
@@ -25,7 +26,7 @@ void CScrollGraphCtrl::SendSelectionMarkTime() {
     const HWND parent = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
     if (parent == nullptr)
         return;
-    // A copy stays as it is whatever the parent does to the control meanwhile.
+    // A copy, because the parent may change or delete the control during the message.
     const CString text = m_strSelectionMarkTime;
     ::SendMessage(parent, WM_GRAPH_SELMARKTIME, 0, reinterpret_cast<LPARAM>(static_cast<LPCTSTR>(text)));
 }

@@ -1,3 +1,4 @@
+// Painting of the samples in view, and hit tests against them.
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include <algorithm>
@@ -11,7 +12,7 @@ using namespace kavlix;
 
 namespace {
 
-/// Samples that stand at their time.
+/// X positions of samples by their time stamps.
 class TimePositions : public XPositions {
 public:
     explicit TimePositions(const TimeMap& map) : m_map(map) {}
@@ -40,7 +41,7 @@ void CScrollGraphCtrl::DrawGraphData(CDC& dc) {
         CGraphCtrl::DrawGraphData(dc);
         return;
     }
-    // One sample more on either side, so that the lines run out of the plot.
+    // One more sample on either side, so that the lines continue beyond the plot's edges.
     const int first = m_arrTime->LowerBound(m_dScrollPos);
     const int end = m_arrTime->Size();
     m_nDrawLast = std::min(std::min(m_arrTime->UpperBound(first, m_dViewWidth), end - 1) + 1, end - 1);
@@ -57,7 +58,7 @@ int CScrollGraphCtrl::GetIndexFromPt(CPoint point) {
         return CGraphCtrl::GetIndexFromPt(point);
     if (!m_rectPlot.PtInRect(point))
         return -1;
-    // What was painted last may have been removed since, and a time stamp alone is no sample.
+    // Samples of the last paint may have been removed since, and a time stamp can lack a sample.
     int sizes[DatasetCount];
     GetSizes(sizes);
     const int longest = *std::max_element(std::begin(sizes), std::end(sizes));

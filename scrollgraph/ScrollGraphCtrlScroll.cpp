@@ -1,3 +1,4 @@
+// The view on the time line: scroll bar, wheel, range and GCN_SCROLL.
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include <algorithm>
@@ -25,20 +26,20 @@ std::optional<ScrollStep> StepOf(UINT code) {
         return ScrollStep::PageRight;
     case SB_THUMBTRACK:
         return ScrollStep::ThumbTo;
-    default: // the end of a drag has been tracked already
+    default: // SB_THUMBPOSITION at the end of a drag repeats the last SB_THUMBTRACK
         return std::nullopt;
     }
 }
 
-/// Whether the bar holds what `wanted` makes of it. Setting the same again redraws the bar, which takes
-/// milliseconds on some systems.
+/// Whether the bar already has the values that setting `wanted` would give it. Setting equal values redraws
+/// the bar, which takes milliseconds on some systems.
 bool Holds(const CScrollBar& bar, const SCROLLINFO& wanted) {
     SCROLLINFO held = {};
     held.cbSize = sizeof(held);
     held.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     if (!::GetScrollInfo(bar.m_hWnd, SB_CTL, &held))
         return false;
-    // As the system cuts them.
+    // Windows limits page and position so.
     const UINT page = std::min(wanted.nPage, static_cast<UINT>(wanted.nMax - wanted.nMin + 1));
     const int lastPos = wanted.nMax - std::max(static_cast<int>(page) - 1, 0);
     return held.nMin == wanted.nMin && held.nMax == wanted.nMax && held.nPage == page &&

@@ -1,11 +1,12 @@
+// StampStore: chunks of time stamps, and their change from one byte a stamp to four.
 #include "scrollgraph/core/StampStore.h"
 
 #include <utility>
 
 namespace kavlix {
 
-/// Stamps come one after the other.
-void StampStore::Piece::Set(std::size_t k, std::int32_t stamp) {
+/// The caller sets the stamps of a chunk in order.
+void StampStore::Chunk::Set(std::size_t k, std::int32_t stamp) {
     if (narrow) {
         if (k == 1)
             step = stamp - first;
@@ -25,33 +26,33 @@ void StampStore::Piece::Set(std::size_t k, std::int32_t stamp) {
 
 void StampStore::Add(std::int32_t stamp) {
     const std::size_t place = m_head + m_size;
-    if (place / kPiece == m_pieces.size())
-        m_pieces.push_back({stamp, 0, std::make_unique<Narrow>(), nullptr});
-    m_pieces[place / kPiece].Set(place % kPiece, stamp);
+    if (place / kChunk == m_chunks.size())
+        m_chunks.push_back({stamp, 0, std::make_unique<Narrow>(), nullptr});
+    m_chunks[place / kChunk].Set(place % kChunk, stamp);
     ++m_size;
 }
 
 void StampStore::RemoveHead(std::size_t count) {
     m_head += count;
     m_size -= count;
-    while (m_head >= kPiece) {
-        m_pieces.pop_front();
-        m_head -= kPiece;
+    while (m_head >= kChunk) {
+        m_chunks.pop_front();
+        m_head -= kChunk;
     }
 }
 
 void StampStore::KeepOne() {
     const std::int32_t oldest = (*this)[0];
-    while (m_pieces.size() > 1)
-        m_pieces.pop_back();
+    while (m_chunks.size() > 1)
+        m_chunks.pop_back();
     m_head = 0;
     m_size = 1;
-    m_pieces.front().first = oldest;
-    m_pieces.front().Set(0, oldest);
+    m_chunks.front().first = oldest;
+    m_chunks.front().Set(0, oldest);
 }
 
 void StampStore::Clear() {
-    m_pieces.clear(); // and no shrink_to_fit, which asks for memory
+    m_chunks.clear(); // shrink_to_fit would allocate
     m_head = m_size = 0;
 }
 

@@ -1,3 +1,4 @@
+// Compact storage for the time stamps of a history.
 #pragma once
 
 #include <cstddef>
@@ -7,9 +8,9 @@
 
 namespace kavlix {
 
-/// Time stamps in order of arrival. Readings come about equally spaced: a stamp takes a byte, what it is away
-/// from the even pace of its piece, and four where a piece keeps no pace. Adding never moves more than a
-/// piece, and removing from the head costs what is removed.
+/// Time stamps in order of arrival. Readings usually arrive at an even pace, so a stamp takes one byte: its
+/// difference from the even pace of its chunk. In a chunk without an even pace a stamp takes four bytes.
+/// Adding moves at most one chunk, and removing the oldest stamps costs time in proportion to their number.
 class StampStore {
 public:
     std::size_t Size() const { return m_size; }
@@ -17,7 +18,7 @@ public:
     /// Stamp `i`, which must exist.
     std::int32_t operator[](std::size_t i) const {
         const std::size_t place = m_head + i;
-        return m_pieces[place / kPiece].At(place % kPiece);
+        return m_chunks[place / kChunk].At(place % kChunk);
     }
     /// The newest stamp, which must exist.
     std::int32_t Back() const { return (*this)[m_size - 1]; }
@@ -26,24 +27,24 @@ public:
     void Add(std::int32_t stamp);
     /// Removes the `count` oldest stamps, which must exist.
     void RemoveHead(std::size_t count);
-    /// Keeps the oldest stamp, which must exist, alone.
+    /// Removes all stamps but the oldest, which must exist.
     void KeepOne();
-    /// Removes all stamps and gives their memory back.
+    /// Removes all stamps and frees their memory.
     void Clear();
 
 private:
-    static constexpr std::size_t kPiece = 1024;
+    static constexpr std::size_t kChunk = 1024;
 
     struct Narrow {
-        std::int8_t away[kPiece];
+        std::int8_t away[kChunk];
     };
     struct Wide {
-        std::int32_t stamps[kPiece];
+        std::int32_t stamps[kChunk];
     };
-    struct Piece {
+    struct Chunk {
         std::int64_t first;             ///< stamp 0
-        std::int64_t step;              ///< from there to stamp 1
-        std::unique_ptr<Narrow> narrow; ///< null in a piece without pace
+        std::int64_t step;              ///< stamp 1 minus stamp 0, the chunk's pace
+        std::unique_ptr<Narrow> narrow; ///< null in a chunk without an even pace
         std::unique_ptr<Wide> wide;
 
         std::int64_t Even(std::size_t k) const { return first + step * static_cast<std::int64_t>(k); }
@@ -53,8 +54,8 @@ private:
         void Set(std::size_t k, std::int32_t stamp);
     };
 
-    std::deque<Piece> m_pieces;
-    std::size_t m_head = 0; ///< stamps of the first piece that were removed
+    std::deque<Chunk> m_chunks;
+    std::size_t m_head = 0; ///< number of removed stamps of the first chunk
     std::size_t m_size = 0;
 };
 

@@ -1,3 +1,4 @@
+// The time stamps of a scrolling graph, and searches among them.
 #pragma once
 
 #include <cstddef>
@@ -13,10 +14,9 @@ namespace kavlix {
 inline constexpr int kXUnitsPerSecond = 20;
 
 /// The time stamps of a scrolling graph, one per sample index, in seconds since 1970-01-01 00:00 UTC. Stamp 0
-/// is the origin of the x units. Appending never moves what is stored; dropping from the head costs what is
-/// dropped.
+/// is the origin of the x units. Removing the oldest stamps costs time in proportion to their number.
 ///
-/// Binary searches take the stamps to be in order; where they are not, their result is some valid index.
+/// The binary searches assume ascending stamps; where stamps do not ascend, the result is some valid index.
 class TimeLine {
 public:
     /// Number of stamps; never above what an int counts.
@@ -26,37 +26,38 @@ public:
     std::int32_t At(int index) const { return Has(index) ? Stamp(index) : 0; }
     /// Seconds from stamp 0 to stamp `index`, on 32 bits; 0 when there is no such stamp.
     std::int32_t Offset(int index) const;
-    /// Place of sample `index` in x units. The product is taken on 32 bits and wraps round, 3.4 years from
-    /// the origin; 0 when there is no such stamp.
+    /// X of sample `index` in x units; 0 when there is no such stamp. The product has 32 bits and wraps round
+    /// 3.4 years from the origin.
     double X(int index) const;
 
-    /// Throws std::bad_alloc, changing nothing, when memory or the range of an int is exhausted.
+    /// Throws std::bad_alloc and changes nothing when memory or the range of an int is exhausted.
     void Append(std::int32_t time);
-    /// Drops the `count` oldest stamps, all of them when there are fewer; a count below 1 drops none.
+    /// Removes the `count` oldest stamps, all of them when there are fewer; a count below 1 removes none.
     void RemoveHead(int count);
-    /// Drops all stamps and gives their memory back.
+    /// Removes all stamps and frees their memory.
     void Clear();
-    /// Keeps the first stamp, which must exist, alone.
+    /// Removes all stamps but the first, which must exist.
     void KeepOne();
 
-    /// The first sample whose x is not below `x`. The last stamp is never looked at, so that the result is at
-    /// most Size() - 1; 0 when there are fewer than two stamps.
+    /// The first sample whose x is not below `x`. The search excludes the last stamp: the result is at most
+    /// Size() - 1, and 0 when there are fewer than two stamps.
     int LowerBound(double x) const;
-    /// The last sample that a view `viewWidth` x units wide, beginning at sample `first`, has room for when
-    /// there is one sample a second. Hosts rely on the odd end: Size() itself, not Size() - 1, comes out when
-    /// the room ends exactly there.
+    /// The last sample of a view `viewWidth` x units wide that begins at sample `first`, as if there were one
+    /// sample a second. Hosts rely on the odd limit: when the view ends exactly behind the last sample, the
+    /// result is Size(), not Size() - 1.
     int UpperBound(int first, double viewWidth) const;
-    /// The last sample, at most `last`, up to which x never decreases from sample `first` on: the stamp
-    /// behind it steps back. None where a stamp between is so far from the origin that its x wraps round.
-    /// Both samples exist, `first` not behind `last`. A search among the stamps that step back, no walk.
+    /// The end of the run of ascending x that begins at sample `first`: the sample before the next stamp that
+    /// steps back, at most `last`. None where x wraps round within the run. Both samples must exist, `first`
+    /// not behind `last`. A binary search among the stamps that step back.
     std::optional<int> RunEnd(int first, int last) const;
 
 private:
     std::int32_t Stamp(int index) const { return m_times[static_cast<std::size_t>(index)]; }
 
     StampStore m_times;
-    std::int64_t m_removed = 0; ///< stamps dropped from the head so far
-    /// The stamps that are before their predecessors, ascending, each by its index when nothing was dropped.
+    std::int64_t m_removed = 0; ///< number of stamps removed from the head so far
+    /// Indices of the stamps that are earlier than their predecessors, ascending, counted as if no stamp had
+    /// been removed.
     std::deque<std::int64_t> m_stepsBack;
 };
 

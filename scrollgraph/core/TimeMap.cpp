@@ -1,3 +1,4 @@
+// TimeMap: positions and the nearest sample.
 #include "scrollgraph/core/TimeMap.h"
 
 #include <cmath>

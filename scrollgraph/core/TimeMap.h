@@ -1,3 +1,4 @@
+// From time stamps to positions in the plot, and back by search.
 #pragma once
 
 #include <optional>
@@ -6,26 +7,26 @@
 
 namespace kavlix {
 
-/// Where the samples of a scrolling graph stand across its plot.
+/// Positions of the samples of a scrolling graph across its plot.
 class TimeMap {
 public:
-    /// @param times must outlive the map
-    /// @param viewPos, viewWidth the view in x units
-    /// @param plotLeft, plotWidth the plot in logical units
+    /// `times` must outlive the map. `viewPos` and `viewWidth` are the view in x units, `plotLeft` and
+    /// `plotWidth` the plot in logical units.
     TimeMap(const TimeLine& times, double viewPos, double viewWidth, int plotLeft, int plotWidth)
         : m_times(times), m_viewPos(viewPos), m_viewWidth(viewWidth), m_left(plotLeft), m_width(plotWidth) {}
 
-    /// Position of sample `index` in logical units, computed in doubles, truncated once, saturated; none in a
-    /// view without width.
+    /// Position of sample `index` in logical units; none in a view without width. The whole calculation is in
+    /// doubles, with one truncation at the end, and saturates.
     std::optional<int> Position(int index) const;
 
-    /// The last sample of `first` to `last`, both with a time stamp, up to which positions run one way from
-    /// `first` on; none where that is not known without a walk.
+    /// The last sample of `first` to `last` up to which positions from `first` on only ascend, or only
+    /// descend; none where only a walk over the samples could find the end. Both samples must have a time
+    /// stamp.
     std::optional<int> RunEnd(int first, int last) const;
 
-    /// The sample of `first` to `last`, both with a time stamp, whose position lies nearest to `x`; of
-    /// equally near ones the first. -1 when samples have no position. A binary search in each part of the
-    /// range along which time grows; a walk where x wraps round.
+    /// The sample of `first` to `last` whose position is nearest to `x`, the first of equally near ones; -1
+    /// when samples have no position. Both samples must have a time stamp. A binary search in each run of
+    /// ascending time; a walk over the samples where x wraps round.
     int Nearest(int first, int last, int x) const;
 
 private:

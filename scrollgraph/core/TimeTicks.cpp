@@ -1,3 +1,4 @@
+// TimeTicks: round steps in local time, and the choice of ticks with labels.
 #include "scrollgraph/core/TimeTicks.h"
 
 #include <algorithm>
@@ -15,13 +16,13 @@ constexpr int kLongestStep = 10800;
 constexpr int kDay = 86400;
 constexpr int kWeek = 7 * kDay;
 
-/// How much is missing to the next multiple of `step`, a whole step at a multiple itself.
+/// The difference from `value` to the next larger multiple of `step`; a whole step when `value` is a
+/// multiple.
 int ToNextMultiple(int value, int step) {
     return (value / step + 1) * step - value;
 }
 
-/// The next round duration after `seconds`, one of the table's or of this function: a multiple of every
-/// shorter one that divides a day.
+/// The next longer round duration after `seconds`. It is a multiple of every shorter one that divides a day.
 std::int64_t LongerRoundTime(std::int64_t seconds) {
     const auto longer = std::upper_bound(std::begin(kSteps), std::end(kSteps), seconds);
     if (longer != std::end(kSteps))
@@ -29,16 +30,17 @@ std::int64_t LongerRoundTime(std::int64_t seconds) {
     return seconds < kLongestStep ? kLongestStep : seconds == 2 * kDay ? kWeek : 2 * seconds;
 }
 
-/// The distance at which neighbouring labels do not touch, whether they have dates or not.
+/// The smallest distance between ticks at which neighbouring labels do not touch. `allDated`: every label has
+/// a date; otherwise labels with and without dates are neighbours.
 int LabelDistance(bool allDated, int textHeight) {
-    const int left = kDateShift - textHeight; // of a date, whose clock time reaches `textHeight` to the right
+    const int left = kDateShift - textHeight; // left edge of a date, relative to the tick
     return allDated ? textHeight - left : std::max(textHeight - kClockShift - left, textHeight + kClockShift);
 }
 
 /// Seconds between two labels.
 std::int64_t LabelStep(int step, int spacing, int textHeight) {
-    // Steps of the table leave room beside all but a few dates. With the longest every eighth tick has a
-    // date.
+    // Steps of the table need no longer distance, because few labels have dates. With the longest step every
+    // eighth label has a date.
     if (spacing <= 0 || (step < kLongestStep && spacing >= textHeight))
         return step;
     const auto fits = [=](std::int64_t seconds) {
@@ -96,7 +98,8 @@ TimeTicks::TimeTicks(const LocalClock& clock, std::int64_t start, int step, int 
     Show(m_every > 1 ? SecondsToRoundTime(clock.ToLocal(m_time), m_round) / step : 0);
 }
 
-/// Shows the label at `tick`, or at the tick that takes its place after a change of the clock.
+/// Sets the label of `tick`. After a change of the local clock another tick can be the one at the round time;
+/// then the label moves to that tick.
 void TimeTicks::Show(std::int64_t tick) {
     m_tick = tick;
     CalendarTime local = m_clock.ToLocal(m_time + m_tick * m_step);
@@ -117,7 +120,8 @@ void TimeTicks::Next() {
 }
 
 void TimeTicks::GoTo(std::int64_t tick) {
-    // A change of the clock moves labels by less than their distance.
+    // Skip most labels at once. A change of the local clock moves a label by less than the distance of two
+    // labels.
     if (tick - m_tick > 3 * m_every)
         Show(m_tick + ((tick - m_tick) / m_every - 2) * m_every);
     while (m_tick < tick)

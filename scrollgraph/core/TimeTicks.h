@@ -1,3 +1,4 @@
+// Tick steps, ticks and labels of the time axis.
 #pragma once
 
 #include <cstdint>
@@ -5,7 +6,7 @@
 
 namespace kavlix {
 
-/// A moment as calendar and clock show it.
+/// A date and a time of day.
 struct CalendarTime {
     int year = 0;
     int month = 0; ///< 1 to 12
@@ -15,71 +16,66 @@ struct CalendarTime {
     int second = 0;
 };
 
-/// What tells local time from seconds since 1970-01-01 00:00 UTC.
+/// Converts seconds since 1970-01-01 00:00 UTC to local time.
 class LocalClock {
 public:
     virtual ~LocalClock() = default;
     virtual CalendarTime ToLocal(std::int64_t time) const = 0;
 };
 
-/// "YYYY/MM/DD hh:mm:ss", the full time text.
+/// The full time text, "YYYY/MM/DD hh:mm:ss".
 std::string FullTimeText(const CalendarTime& time);
-/// Of a full time text: "YYYY/MM/DD" and "hh:mm:ss".
-inline constexpr int kDateLength = 10;
-inline constexpr int kClockLength = 8;
-/// In the date of a full time text: where "MM/DD" begins.
-inline constexpr int kMonthAt = 5;
+inline constexpr int kDateLength = 10; ///< of "YYYY/MM/DD" in a full time text
+inline constexpr int kClockLength = 8; ///< of "hh:mm:ss" in a full time text
+inline constexpr int kMonthAt = 5;     ///< index of "MM/DD" in a full time text
 
 /// The shortest tick step, in seconds, of the table of round durations (5 s to 2 h) that leaves at most
 /// `maxTicks` + 1 whole steps in `secondsInView`; 3 h when none does.
 int SelectTickStep(int secondsInView, int maxTicks);
 
-/// Seconds from a local time to the next one that is a round multiple of `step`, which is above 0 and as the
-/// table has them: of its seconds below a minute, of its minutes below an hour, else of its hours. 0 when the
-/// time is round already.
+/// Seconds from a local time to the next multiple of `step`; 0 when the time is a multiple. A `step` below a
+/// minute counts multiples of seconds, a `step` below an hour multiples of minutes, a longer one multiples of
+/// hours. `step` is above 0, in seconds, as SelectTickStep returns it.
 int SecondsToRoundTime(const CalendarTime& time, int step);
-/// The same for a step in whole seconds, minutes or hours.
+/// Seconds from a local time to the next multiple of a step in seconds, in minutes, and in hours.
 int SecondsToRoundSecond(const CalendarTime& time, int seconds);
 int SecondsToRoundMinute(const CalendarTime& time, int minutes);
 int SecondsToRoundHour(const CalendarTime& time, int hours);
 
-/// Where the upright texts of a time label stand, in logical units. A clock time alone stands kClockShift
-/// left of its tick. Beside a date the clock time stands at the tick, and the date's lower edge kDateShift
-/// right of it.
-inline constexpr int kClockShift = 110;
-inline constexpr int kDateShift = 70;
+// Places of the upright texts of a time label, logical units. A label with a date has its clock time at the
+// tick.
+inline constexpr int kClockShift = 110; ///< from a clock time without a date to its tick on the right
+inline constexpr int kDateShift = 70;   ///< from the tick to the lower edge of a date on the right
 
-/// The ticks of a time axis, counted from 0, and their labels, left to right. Time goes on by the step
-/// whatever the local clock does: across the end of daylight saving the labels tell the repeated hour twice,
-/// and none stands still.
+/// Iterates over the labels of a time axis, left to right. Ticks are counted from 0 and advance in true time,
+/// whatever the local clock does: at the end of daylight saving the labels show the repeated hour twice.
 ///
-/// Every tick has a label where there is room for it. Where labels would touch, only the first tick from each
-/// multiple of a longer round duration on has one (twice the step and more, whole days, weeks), in local
-/// time.
+/// Every tick has a label where labels have room. Where labels would touch, only ticks at multiples of a
+/// longer round duration in local time (twice the step and more, whole days, weeks) have one. Where no tick
+/// stands exactly at such a multiple, the first tick after the multiple has the label.
 class TimeTicks {
 public:
-    /// @param clock must outlive the ticks
-    /// @param start seconds since 1970 from which the first tick is looked for
-    /// @param step of SelectTickStep
-    /// @param spacing of two ticks, logical units
-    /// @param textHeight of a label, logical units
+    /// `clock` must outlive the ticks. Tick 0 is the first round time from `start` (seconds since 1970) on.
+    /// `step` is a result of SelectTickStep. `spacing` of two ticks and `textHeight` of a label are in
+    /// logical units.
     TimeTicks(const LocalClock& clock, std::int64_t start, int step, int spacing, int textHeight);
 
     /// Seconds from the start to tick 0.
     int FirstOffset() const { return m_firstOffset; }
 
-    /// The tick that the label belongs to.
+    /// Number of the label's tick.
     std::int64_t Tick() const { return m_tick; }
     /// Full time text of the label.
     const std::string& Text() const { return m_text; }
     std::string Date() const { return m_text.substr(0, kDateLength); }
     std::string Clock() const { return m_text.substr(m_text.size() - kClockLength); }
-    /// Whether the label is the first, or its date another than that of the label before.
+    /// Whether the label shows its date: the first label does, and every label with another date than the
+    /// label before.
     bool ShowsDate() const { return m_showsDate; }
 
-    /// Goes on to the next label.
+    /// Moves to the next label.
     void Next();
-    /// Goes on to the first label not before `tick`.
+    /// Moves forward to the first label that is not before `tick`.
     void GoTo(std::int64_t tick);
 
 private:
@@ -87,7 +83,7 @@ private:
 
     const LocalClock& m_clock;
     std::int64_t m_step;
-    int m_round = 1; ///< seconds of local time, whose multiples labels stand at, where not every tick has one
+    int m_round = 1; ///< seconds; labels stand at multiples of it in local time, where not every tick has one
     int m_firstOffset;
     std::int64_t m_time;      ///< of tick 0
     std::int64_t m_every = 1; ///< every m_every-th tick may have a label

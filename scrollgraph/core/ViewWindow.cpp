@@ -1,3 +1,4 @@
+// ViewWindow: hosts rely on the order of its comparisons.
 #include "scrollgraph/core/ViewWindow.h"
 
 #include <algorithm>
@@ -8,12 +9,14 @@ namespace kavlix {
 
 namespace {
 
-constexpr double kFollowAt = 0.9;   // where in the view the newest sample stands while it is followed
-constexpr double kRoomBehind = 0.1; // of the view's width, behind the newest sample
-constexpr double kLineShare = 0.01; // of the view's width
-constexpr double kPageShare = 0.5;  // of the view's width
-constexpr double kAtLeftEnd = 1.0;  // x units: nearer to 0 than this, a line to the left does nothing
-constexpr double kPerBarUnit = 0.0008333333333333334; // 1 / 1200, rounded as it always was
+// Parts of the view's width.
+constexpr double kFollowAt = 0.9;   // position of the newest sample while the view follows
+constexpr double kRoomBehind = 0.1; // between the newest sample and the end of the range
+constexpr double kLineShare = 0.01; // a line of the scroll bar, a notch of the wheel
+constexpr double kPageShare = 0.5;  // a page of the scroll bar
+
+constexpr double kAtLeftEnd = 1.0; // x units: a view nearer to 0 does not move a line to the left
+constexpr double kPerBarUnit = 0.0008333333333333334; // 1 / 1200; hosts rely on the rounding of this literal
 
 int ToBarUnits(double share) {
     return ToCoordinate(share * ViewWindow::kBarRange);
@@ -62,7 +65,7 @@ ViewWindow::Arrival ViewWindow::Arrive(bool any, double xLast, double xNext) {
 }
 
 void ViewWindow::Clamp() {
-    // The left end wins where the range is narrower than the view.
+    // Where the range is narrower than the view, the left end decides.
     if (pos > max - width)
         pos = max - width;
     if (pos < min)

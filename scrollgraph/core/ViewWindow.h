@@ -1,47 +1,48 @@
+// The view of a scrolling graph: following, scrolling, and the state of the scroll bar.
 #pragma once
 
 namespace kavlix {
 
-/// How a scroll bar or wheel moves the view.
+/// Commands of the scroll bar.
 enum class ScrollStep { LineLeft, LineRight, PageLeft, PageRight, ThumbTo };
 
-/// The part of the time line that is in view, and the range it can be scrolled over, in x units. All
-/// arithmetic is the scrolling graph's own, down to the order of the clamps: hosts rely on where views land.
+/// The view on the time line and the range that it can be scrolled over, in x units. Hosts rely on the
+/// resulting positions, so the order of the comparisons and clamps matters.
 struct ViewWindow {
     double pos = 0;   ///< left edge of the view
     double max = 0;   ///< right end of the scroll range
     double min = 0;   ///< left end of the scroll range
     double width = 0; ///< of the view
 
-    /// What SetHorzRange and everything that rewinds sets as the right end, and the scroll bar's own range.
-    static constexpr double kInitialMax = 1200.0;
-    static constexpr int kBarRange = 1200;
-    /// The thumb never fills the whole bar.
-    static constexpr int kLargestPage = kBarRange - 3;
+    static constexpr double kInitialMax = 1200.0;      ///< right end of the range after a rewind
+    static constexpr int kBarRange = 1200;             ///< range of the scroll bar
+    static constexpr int kLargestPage = kBarRange - 3; ///< smaller than the range, so that the thumb can move
 
     /// Position and page of the scroll bar, whose range is 0 to kBarRange.
     int BarPosition() const;
     int BarPage() const;
 
-    /// Back to the left end, before the newest sample is followed again.
+    /// Moves the view to 0 and gives the range its initial right end.
     void Rewind();
-    /// Moves the view so that the newest sample, at `xLast`, stands at most at nine tenths of it.
+    /// Moves the view to the right where the newest sample, at `xLast`, stands beyond nine tenths of its
+    /// width.
     void Follow(double xLast);
-    /// Moves the view into the range at the left end, and the range's right end out to the view's.
+    /// Moves the view's left edge into the range, and the range's right end out to the view's right edge.
     void Normalize();
 
-    /// What one more sample does to the view: `xLast` is the place of the newest one so far, `xNext` of the
-    /// one that comes. `any` tells whether there is a newest one.
     struct Arrival {
         bool followed; ///< the view moved with the samples
-        bool changed;  ///< view or range changed: the scroll bar must be told once the sample is stored
+        bool changed;  ///< view or range changed, so the scroll bar must be updated once the sample is stored
     };
+    /// Adapts view and range to a new sample at `xNext`. `xLast` is the x of the newest sample so far, if
+    /// there is one (`any`).
     Arrival Arrive(bool any, double xLast, double xNext);
 
-    /// A step of the scroll bar; `thumb` (0 to kBarRange) counts for ThumbTo only. False when nothing is to
-    /// be done at all: a line to the left at the left end.
+    /// Executes a command of the scroll bar; only ThumbTo reads `thumb` (0 to kBarRange). False for LineLeft
+    /// at the left end, which does nothing.
     bool Step(ScrollStep step, unsigned thumb);
-    /// One notch of the wheel, to older samples when `delta` is not negative. True when the view moved.
+    /// Moves the view by one notch of the wheel, to older samples when `delta` is not negative. True when the
+    /// view moved.
     bool Wheel(int delta);
 
 private:

@@ -1,11 +1,9 @@
-// Odd views, odd times, lost memory, parents that do what they should not, and messages at random.
+// Odd views, odd times, lost memory, and parents that do what they should not.
 
 #include "tests/scrollgraph/ScrollTest.h"
 #include "tests/support/ForbiddenPages.h"
 #include "tests/support/GdiCounter.h"
 #include "tests/support/MemoryRule.h"
-#include "tests/support/MessageBoxWatcher.h"
-#include "tests/support/Numbers.h"
 
 #include <climits>
 #include <cmath>
@@ -15,10 +13,6 @@
 namespace {
 
 constexpr UINT kCodes[] = {SB_LINELEFT, SB_LINERIGHT, SB_PAGELEFT, SB_PAGERIGHT, SB_THUMBTRACK, SB_ENDSCROLL};
-
-} // namespace
-
-namespace {
 
 /// A control whose next time stamp and sample ask for new memory, as a host reads it.
 struct FedScroll {
@@ -269,126 +263,4 @@ TEST(ScrollMisbehavingParentTest, NothingBreaksAndNothingIsSentAfterTheEnd) {
         }
     }
     EXPECT_EQ(testkit::CountObjects(), before);
-}
-
-class ScrollRandomTest : public ScrollTest {
-protected:
-    double Odd() {
-        const double odd[] = {0, 1, -1, 50, 1e-9, 1e9, -1e15, 1e300, NAN, INFINITY};
-        return odd[numbers.Below(static_cast<int>(std::size(odd)))];
-    }
-    void Change() {
-        const int kind = numbers.Below(100);
-        if (kind < 55) {
-            for (int i = numbers.Below(8); i > 0 && graph.GetCurDataIndex() < 2000; --i) {
-                m_time += numbers.OneIn(20) ? numbers.Below(4000) - 1000 : numbers.Below(3);
-                if (!numbers.OneIn(10))
-                    graph.AddXTickLabel(m_time);
-                for (int dataset = numbers.Below(3); dataset >= 0; --dataset)
-                    graph.AddData(dataset, numbers.OneIn(9) ? Odd() : numbers.Below(100), nullptr);
-            }
-        } else if (kind < 65) {
-            graph.RemoveHeadData(numbers.OneIn(6) ? numbers.Below(5000) - 10 : numbers.Below(50));
-        } else if (kind < 72) {
-            graph.SetHorzRange(numbers.OneIn(3) ? Odd() : numbers.Below(100) / 10.0);
-        } else if (kind < 80) {
-            graph.SetSelectionMarkPos(numbers.Below(graph.GetDatasetSize(0) + 20) - 10);
-        } else if (kind < 84) {
-            graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(numbers.Below(4)));
-            graph.SetTindroMode(numbers.OneIn(2));
-            graph.SetScrollSync(numbers.Below(2));
-        } else if (kind < 86) {
-            graph.SetArraySize(numbers.Below(10) - 1);
-        } else if (kind < 88) {
-            graph.ResetAll();
-        } else if (kind < 92) {
-            graph.UpdateScrollByRemove();
-            graph.SetScrollLastPos();
-        } else if (kind < 94) {
-            graph.m_dScrollPos = Odd();
-        } else if (kind < 97) {
-            Resize(numbers.Below(numbers.OneIn(4) ? 12 : 600), numbers.Below(500));
-        } else {
-            graph.Redraw();
-            graph.UpdateWindow();
-        }
-    }
-    void SendOne() {
-        const LPARAM place = MAKELPARAM(numbers.Below(320) - 10, numbers.Below(220) - 10);
-        CMenu menu;
-        switch (numbers.Below(12)) {
-        case 0:
-        case 1:
-        case 2:
-        case 3:
-            graph.SendMessage(WM_HSCROLL, MAKEWPARAM(numbers.Below(10), numbers.Below(1300)), 0);
-            break;
-        case 4:
-            graph.ProcessMouseWheel(static_cast<short>(numbers.Next()));
-            break;
-        case 5:
-            graph.SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK);
-            ++exported;
-            break;
-        case 6:
-            graph.SendMessage(WM_KEYDOWN, numbers.OneIn(2) ? VK_LEFT : VK_RIGHT, 1);
-            break;
-        case 7:
-            graph.InvalidateRect(nullptr, FALSE);
-            graph.SendMessage(WM_PAINT);
-            break;
-        case 8:
-            menu.CreatePopupMenu();
-            graph.InsertGraphMenu(menu);
-            break;
-        case 9:
-            if (numbers.OneIn(20))
-                graph.SendMessage(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
-            break;
-        default:
-            graph.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, place);
-        }
-    }
-    int Longest() {
-        int longest = 0;
-        for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
-            longest = std::max(longest, graph.GetDatasetSize(i));
-        return longest;
-    }
-    void SendMany(int count) {
-        testkit::MessageBoxWatcher boxes(IDYES);
-        for (int i = 0; i < count; ++i) {
-            if (numbers.OneIn(5))
-                Change();
-            if (i % 200 == 0) {
-                testkit::Pump();
-                parent.Forget();
-                graph.calls.clear();
-            }
-            SendOne();
-            const int mark = graph.m_SelectionMarkPos;
-            ASSERT_GE(mark, -1) << i;
-            marked += mark >= 0;
-            ASSERT_TRUE(mark < 3000) << mark;
-            followed += graph.m_bFollowed;
-        }
-        ::ReleaseCapture();
-        testkit::Pump();
-    }
-
-    testkit::Numbers numbers{20261121};
-    int marked = 0, followed = 0, exported = 0;
-
-private:
-    long m_time = kSomeTime;
-};
-
-TEST_F(ScrollRandomTest, TwentyThousandMessagesLeaveObjectsInOrder) {
-    ASSERT_NO_FATAL_FAILURE(SendMany(3000)); // what the platform keeps for itself is made by then
-    const testkit::ObjectCounts before = testkit::CountObjects();
-    ASSERT_NO_FATAL_FAILURE(SendMany(20000));
-    EXPECT_EQ(testkit::CountObjects(), before);
-    EXPECT_GT(marked, 3000);
-    EXPECT_GT(followed, 100);
-    EXPECT_GT(exported, 1000);
 }

@@ -39,16 +39,6 @@ TEST(TimeLineTest, XCountsTwentiethsFromTheFirstStampAndWrapsRound) {
     }
 }
 
-TEST(TimeLineTest, LowerBoundNeverLooksAtTheLastStamp) {
-    EXPECT_EQ(TimeLine().LowerBound(5), 0);
-    EXPECT_EQ(LineOf({1}).LowerBound(1e9), 0);
-    const TimeLine line = LineOf({0, 10, 10, 20, 30}); // x 0, 200, 200, 400, 600
-    const std::pair<double, int> cases[] = {{-1, 0},  {0, 0},   {0.5, 1}, {200, 1}, {200.5, 3},
-                                            {400, 3}, {401, 4}, {600, 4}, {1e9, 4}};
-    for (const auto& [x, expected] : cases)
-        EXPECT_EQ(line.LowerBound(x), expected) << x;
-}
-
 TEST(TimeLineTest, UpperBoundHasRoomForOneSampleASecond) {
     struct Case {
         int count, first;

@@ -40,45 +40,6 @@ std::vector<std::string> Texts(const LocalClock& clock, std::int64_t start, int 
 
 using Lines = std::vector<std::string>;
 
-TEST(TimeTicksTest, TheStepLeavesRoomForTheTicks) {
-    struct Case {
-        int seconds, ticks, step;
-    };
-    const Case cases[] = {{60, 11, 5},
-                          {60, 5, 10},
-                          {60, 10, 10},
-                          {60, 2, 20},
-                          {65, 11, 10},
-                          {0, 2, 5},
-                          {-60, 2, 5},
-                          {300, 9, 30},
-                          {3600, 9, 600},
-                          {86400, 11, 7200},
-                          {86400, 10, 10800},
-                          {13 * 7200 - 1, 11, 7200},
-                          {2147483647, 5, 10800},
-                          {13 * 7200, 11, 10800},
-                          {2147483647, 2147483647, 5}};
-    for (const Case& each : cases)
-        EXPECT_EQ(SelectTickStep(each.seconds, each.ticks), each.step) << each.seconds << " " << each.ticks;
-}
-
-TEST(TimeTicksTest, TheFirstTickIsARoundTime) {
-    struct Case {
-        int hour, minute, second, step, expected;
-    };
-    const Case cases[] = {
-        {12, 34, 56, 10, 4},    {12, 34, 56, 300, 4},    {12, 34, 56, 3600, 1504}, {12, 34, 50, 10, 0},
-        {12, 34, 0, 120, 0},    {12, 35, 0, 120, 60},    {12, 34, 1, 60, 59},      {12, 0, 0, 3600, 0},
-        {12, 0, 1, 3600, 3599}, {13, 0, 0, 7200, 3600},  {23, 59, 59, 10800, 1},   {0, 0, 59, 5, 1},
-        {9, 0, 0, 10800, 0},    {10, 0, 0, 10800, 7200},
-    };
-    for (const Case& each : cases)
-        EXPECT_EQ(SecondsToRoundTime({2026, 11, 21, each.hour, each.minute, each.second}, each.step),
-                  each.expected)
-            << each.hour << ":" << each.minute << ":" << each.second << " step " << each.step;
-}
-
 TEST(TimeTicksTest, DatesStandAtTheFirstTickAndAfterMidnight) {
     const ZoneClock utc(0);
     EXPECT_EQ(Texts(utc, 951868793, 3600, 3), (Lines{"2000/03/01 00:00:00", "01:00:00", "02:00:00"}))

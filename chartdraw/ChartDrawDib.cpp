@@ -5,7 +5,7 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/DibBlock.h"
 #include "chartdraw/core/DibLayout.h"
-#include "plot/RoundScale.h"
+#include "chartdraw/core/RoundScale.h"
 
 using namespace kavlix;
 

@@ -5,8 +5,8 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawText.h"
+#include "chartdraw/core/RoundScale.h"
 #include "gdi/Guards.h"
-#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

@@ -17,11 +17,10 @@ namespace {
 constexpr int kLongest = 255; // rows; longer strokes are left to GDI
 constexpr int kDirections = 3;
 constexpr int kLengths = 2 * kLongest + 1;
-constexpr int kFar = 512; // pixels beyond the view
 
 bool IsFar(const Point& point, const Rect& view) {
-    return point.x < view.left - kFar || point.x > view.right + kFar || point.y < view.top - kFar ||
-           point.y > view.bottom + kFar;
+    return point.x < view.left - kFarFromView || point.x > view.right + kFarFromView ||
+           point.y < view.top - kFarFromView || point.y > view.bottom + kFarFromView;
 }
 
 } // namespace
@@ -70,17 +69,8 @@ void WideStrokes::Draw(const Point* points, int count) {
 
 /// A stroke takes GDI what its length takes, seen or not, so far ends are brought nearer.
 void WideStrokes::DrawByGdi(Point from, Point to) {
-    if (IsFar(from, m_view) && IsFar(to, m_view)) {
-        const int margin = 2 * m_width + 2;
-        if (!BringEndsNearer(
-                from, to,
-                {m_view.left - margin, m_view.top - margin, m_view.right + margin, m_view.bottom + margin}))
-            return;
-    } else if (IsFar(from, m_view)) {
-        from = NearerEnd(to, from, 2 * StepsAcross(m_view, to));
-    } else if (IsFar(to, m_view)) {
-        to = NearerEnd(from, to, 2 * StepsAcross(m_view, from));
-    }
+    if (!BringFarEndsNearer(from, to, IsFar(from, m_view), IsFar(to, m_view), m_view, m_width))
+        return;
     m_dc.MoveTo(from.x, from.y);
     m_dc.LineTo(to.x, to.y);
 }

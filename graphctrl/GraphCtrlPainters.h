@@ -8,7 +8,7 @@
 
 #include "gdi/DottedPen.h"
 #include "graphctrl/core/BarSlots.h"
-#include "plot/IndexRange.h"
+#include "graphctrl/core/IndexRange.h"
 #include "plot/LinearMap.h"
 
 /// The painters that the graph controls share. They take everything they need as arguments, keep nothing, and

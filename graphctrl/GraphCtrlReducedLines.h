@@ -7,7 +7,7 @@
 
 #include "gdi/DirectPaint.h"
 #include "graphctrl/GraphCtrlPainters.h"
-#include "plot/PixelColumns.h"
+#include "graphctrl/core/PixelColumns.h"
 
 namespace kavlix {
 

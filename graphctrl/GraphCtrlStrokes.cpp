@@ -12,7 +12,6 @@ namespace kavlix {
 namespace {
 
 constexpr std::size_t kMostPoints = 8192;
-constexpr int kFar = 512; // pixels beyond the view
 
 } // namespace
 
@@ -146,7 +145,8 @@ void GdiStrokes::DrawBands() {
 WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
     // In logical units, so that no stroke near the view is converted.
     const auto isBeyond = [](int place, int begin, int end) {
-        return place < (begin - kFar) * kUnitsPerPixel || place > (end + kFar) * kUnitsPerPixel;
+        return place < (begin - kFarFromView) * kUnitsPerPixel ||
+               place > (end + kFarFromView) * kUnitsPerPixel;
     };
     const auto isFar = [&](const POINT& point) {
         return isBeyond(point.x, view.left, view.right) || isBeyond(point.y, view.top, view.bottom);
@@ -159,17 +159,8 @@ WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
     const Point last = ToPoint(ends[1]);
     Point begin = first;
     Point end = last;
-    if (!isFar(from)) {
-        end = NearerEnd(begin, end, 2 * StepsAcross(view, begin));
-    } else if (!isFar(to)) {
-        begin = NearerEnd(end, begin, 2 * StepsAcross(view, end));
-    } else {
-        const int margin = 2 * penPixels + 2;
-        if (!BringEndsNearer(
-                begin, end,
-                {view.left - margin, view.top - margin, view.right + margin, view.bottom + margin}))
-            return Unseen;
-    }
+    if (!BringFarEndsNearer(begin, end, isFar(from), isFar(to), view, penPixels))
+        return Unseen;
     const auto move = [&](POINT& place, const Point& old, const Point& pixel) {
         if (pixel == old)
             return;

@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <vector>
 
+#include "graphctrl/core/PixelColumns.h"
+#include "graphctrl/core/PixelRows.h"
 #include "plot/LinearMap.h"
-#include "plot/PixelColumns.h"
 #include "plot/PixelRaster.h"
-#include "plot/PixelRows.h"
 #include "plot/ThinLine.h"
 
 /// Two ways to draw a line whose samples come one by one, already chosen by their pixel columns. Both take

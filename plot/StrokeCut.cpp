@@ -1,4 +1,4 @@
-// Where strokes from far away may end instead.
+// Nearer ends for long strokes, found with integer arithmetic on their slopes.
 #include "plot/StrokeCut.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace kavlix {
 
 namespace {
 
-/// `moves` pixels across on `steps` steps.
+/// The direction of a stroke: `moves` pixels across while it takes `steps` steps along its longer side.
 struct Slope {
     std::int64_t moves;
     std::int64_t steps;
@@ -18,16 +18,16 @@ bool operator<(const Slope& a, const Slope& b) {
     return a.moves * b.steps < b.moves * a.steps;
 }
 
-/// The farthest step, not beyond `last`, to which one stroke from `start` takes the same pixels as `line`.
-/// Steps beyond `enough` are not looked for.
+/// The farthest step, at most `last`, that one stroke from step `start` can reach with the same pixels as
+/// `line`. The search ends as soon as it finds a step that is not before `enough`.
 std::int64_t FarthestStep(const PixelLine& line, std::int64_t start, std::int64_t enough, std::int64_t last) {
     const std::int64_t startMoves = line.MovesAt(start);
     const std::int64_t atHalf = line.AtHalf();
-    // Each move of the line tells how steep the stroke must be at least and may be at most.
+    // Bounds of the stroke's slope. Each move of the line narrows them.
     Slope least{0, 1};
     Slope most{1, 0};
     std::int64_t farthest = start;
-    std::int64_t runBegin = 1; // steps that have made `moves` moves, counted from the start
+    std::int64_t runBegin = 1; // first step with `moves` moves; steps and moves count from `start`
     for (std::int64_t moves = 0;; ++moves) {
         const std::int64_t next = startMoves + moves + 1;
         const std::int64_t runLast =
@@ -47,9 +47,9 @@ std::int64_t FarthestStep(const PixelLine& line, std::int64_t start, std::int64_
     }
 }
 
-/// The way that a stroke may take in place of `line`, with no pixel's place between the two for `steps`
-/// steps.
-Slope WayOf(const PixelLine& line, std::int64_t steps) {
+/// A simple slope near that of `line`: for `steps` steps, no pixel position lies between lines of the two
+/// slopes from the same point.
+Slope SimpleSlope(const PixelLine& line, std::int64_t steps) {
     const Slope wanted{line.Moves(), line.Steps()};
     Slope below{0, 1};
     Slope above{1, 1};
@@ -57,18 +57,76 @@ Slope WayOf(const PixelLine& line, std::int64_t steps) {
         return wanted.moves == 0 ? below : above;
     if (wanted < Slope{1, steps})
         return {1, steps + 1};
-    // Down the tree of fractions, past all whose lines meet a place within the steps.
-    Slope way{1, 2};
-    while (way.steps <= steps) {
-        if (way < wanted)
-            below = way;
-        else if (wanted < way)
-            above = way;
+    // Descend the tree of fractions (Stern-Brocot). A line meets a pixel position within the steps exactly
+    // when the denominator of its slope is not above `steps`, so the search passes all such slopes.
+    Slope slope{1, 2};
+    while (slope.steps <= steps) {
+        if (slope < wanted)
+            below = slope;
+        else if (wanted < slope)
+            above = slope;
         else
             break;
-        way = {below.moves + above.moves, below.steps + above.steps};
+        slope = {below.moves + above.moves, below.steps + above.steps};
     }
-    return way;
+    return slope;
+}
+
+/// Brings both ends of a stroke of any width nearer to `window`. The ends lie outside the window, which holds
+/// the view and the pen's reach around it. Inside the window the edges of the new stroke pass between the
+/// same pixels. False when the stroke misses the window. Ends that are not far enough away stay.
+///
+/// GDI gives a pixel position on an edge to the right side of the edge. So the stroke may be shifted onto the
+/// nearest pixel position on its right, and turned around this position until it meets another one.
+bool BringEndsNearer(Point& from, Point& to, const Rect& window) {
+    const PixelLine line(from, to);
+    std::int64_t first = 0;
+    std::int64_t end = 0;
+    if (!line.FindInside(window, first, end))
+        return false;
+    // Find the pixel position nearest to the stroke, among those on it and to its right.
+    const bool isRightAbove = !line.IsSteep() && line.StepsDown() == line.MovesDown();
+    const bool isBefore = isRightAbove != line.MovesDown(); // positions on the right have fewer moves
+    std::int64_t nearest = first;
+    std::int64_t nearestMoves = 0;
+    std::int64_t least = line.Steps();
+    const auto movesAt = [&](std::int64_t step) { return step * line.Moves() / line.Steps(); };
+    for (std::int64_t moves = movesAt(first); least > 0 && moves <= movesAt(end - 1) + 1; ++moves) {
+        std::int64_t step = first;
+        if (line.Moves() > 0)
+            step = (moves * line.Steps() + (isBefore ? line.Moves() - 1 : 0)) / line.Moves();
+        step = std::clamp(step, first, end - 1);
+        const std::int64_t ahead = step * line.Moves() - moves * line.Steps();
+        const std::int64_t gap = isBefore ? ahead : -ahead;
+        if (gap >= 0 && gap < least) {
+            least = gap;
+            nearest = step;
+            nearestMoves = moves;
+        }
+    }
+    // In the window the stroke stays between two columns: a vertical stroke has the same edges there.
+    constexpr std::int64_t kUpright = 128; // steps a move; steeper strokes have edges as of vertical ones
+    const auto isAtNearest = [&](std::int64_t step) {
+        const std::int64_t ahead = step * line.Moves() - nearestMoves * line.Steps();
+        return (isBefore ? ahead : -ahead) >= 0 && std::llabs(ahead) < line.Steps();
+    };
+    const bool isUpright = line.IsSteep() && kUpright * line.Moves() < line.Steps() && isAtNearest(first) &&
+                           isAtNearest(end - 1);
+    if (isUpright && std::min(from.y, to.y) < window.top && std::max(from.y, to.y) > window.bottom) {
+        const int x = line.At(nearest, nearestMoves).x;
+        from = {x, line.StepsDown() ? window.bottom : window.top - 1};
+        to = {x, line.StepsDown() ? window.top - 1 : window.bottom};
+        return true;
+    }
+    const Slope slope = SimpleSlope(line, end - first);
+    const std::int64_t times = (end - first) / slope.steps + 1;
+    const std::int64_t begin = nearest - times * slope.steps;
+    const std::int64_t behind = nearest + times * slope.steps;
+    if (begin <= 0 || behind >= line.Steps())
+        return true;
+    from = line.At(begin, nearestMoves - times * slope.moves);
+    to = line.At(behind, nearestMoves + times * slope.moves);
+    return true;
 }
 
 } // namespace
@@ -90,59 +148,22 @@ void CutStroke(const PixelLine& line, const Rect& window, int margin, std::vecto
 
 Point NearerEnd(const Point& from, const Point& to, std::int64_t steps) {
     const PixelLine line(from, to);
-    const Slope way = WayOf(line, steps);
-    const std::int64_t times = steps / way.steps + 1;
-    return way.steps * times < line.Steps() ? line.At(way.steps * times, way.moves * times) : to;
+    const Slope slope = SimpleSlope(line, steps);
+    const std::int64_t times = steps / slope.steps + 1;
+    return slope.steps * times < line.Steps() ? line.At(slope.steps * times, slope.moves * times) : to;
 }
 
-bool BringEndsNearer(Point& from, Point& to, const Rect& window) {
-    const PixelLine line(from, to);
-    std::int64_t first = 0;
-    std::int64_t end = 0;
-    if (!line.FindInside(window, first, end))
-        return false;
-    // The place to the right of the stroke, or on it, that is nearest to it: moved there it passes no other.
-    const bool isRightAbove = !line.IsSteep() && line.StepsDown() == line.MovesDown();
-    const bool isBefore = isRightAbove != line.MovesDown(); // fewer moves than the stroke has made
-    std::int64_t nearest = first;
-    std::int64_t nearestMoves = 0;
-    std::int64_t least = line.Steps();
-    const auto movesAt = [&](std::int64_t step) { return step * line.Moves() / line.Steps(); };
-    for (std::int64_t moves = movesAt(first); least > 0 && moves <= movesAt(end - 1) + 1; ++moves) {
-        std::int64_t step = first;
-        if (line.Moves() > 0)
-            step = (moves * line.Steps() + (isBefore ? line.Moves() - 1 : 0)) / line.Moves();
-        step = std::clamp(step, first, end - 1);
-        const std::int64_t ahead = step * line.Moves() - moves * line.Steps();
-        const std::int64_t gap = isBefore ? ahead : -ahead;
-        if (gap >= 0 && gap < least) {
-            least = gap;
-            nearest = step;
-            nearestMoves = moves;
-        }
+bool BringFarEndsNearer(Point& from, Point& to, bool isFromFar, bool isToFar, const Rect& view,
+                        int penPixels) {
+    if (isFromFar && isToFar) {
+        const int margin = 2 * penPixels + 2;
+        return BringEndsNearer(
+            from, to, {view.left - margin, view.top - margin, view.right + margin, view.bottom + margin});
     }
-    // Upright in all of the window: a stroke straight down has the same edges.
-    constexpr std::int64_t kUpright = 128; // steps without a move, from which on no edge is rounded otherwise
-    const auto isAtNearest = [&](std::int64_t step) {
-        const std::int64_t ahead = step * line.Moves() - nearestMoves * line.Steps();
-        return (isBefore ? ahead : -ahead) >= 0 && std::llabs(ahead) < line.Steps();
-    };
-    const bool isUpright = line.IsSteep() && kUpright * line.Moves() < line.Steps() && isAtNearest(first) &&
-                           isAtNearest(end - 1);
-    if (isUpright && std::min(from.y, to.y) < window.top && std::max(from.y, to.y) > window.bottom) {
-        const int x = line.At(nearest, nearestMoves).x;
-        from = {x, line.StepsDown() ? window.bottom : window.top - 1};
-        to = {x, line.StepsDown() ? window.top - 1 : window.bottom};
-        return true;
-    }
-    const Slope way = WayOf(line, end - first);
-    const std::int64_t times = (end - first) / way.steps + 1;
-    const std::int64_t begin = nearest - times * way.steps;
-    const std::int64_t behind = nearest + times * way.steps;
-    if (begin <= 0 || behind >= line.Steps())
-        return true;
-    from = line.At(begin, nearestMoves - times * way.moves);
-    to = line.At(behind, nearestMoves + times * way.moves);
+    if (isFromFar)
+        from = NearerEnd(to, from, 2 * StepsAcross(view, to));
+    else if (isToFar)
+        to = NearerEnd(from, to, 2 * StepsAcross(view, from));
     return true;
 }
 

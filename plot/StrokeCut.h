@@ -1,4 +1,4 @@
-// Strokes that end near what can be seen, with the same pixels there.
+// Shortens strokes whose ends lie far outside the view. Their pixels inside the view stay the same.
 #pragma once
 
 #include <algorithm>
@@ -9,29 +9,31 @@
 
 namespace kavlix {
 
-/// Cuts a stroke whose ends may lie far away. `points` receives strokes that follow one another, of which a
-/// pen one pixel wide paints the same pixels of `window` as of the whole stroke; none when it paints no pixel
-/// there. An end that lies within `margin` pixels of the window stays, all other points are pixels of the
-/// line no farther away than that, 1 pixel at least.
+/// The end of a wide stroke is far when it lies more than this many pixels beyond the view.
+constexpr int kFarFromView = 512;
+
+/// Replaces the stroke `line` by shorter strokes: `points` receives the ends of strokes that follow one
+/// another. A pen one pixel wide paints the same pixels of `window` with these strokes as with `line`.
+/// `points` is empty when `line` has no pixel in the window. An end of `line` within `margin` pixels of the
+/// window (at least 1) is kept. All other points are pixels of `line` that lie no farther away than that.
 ///
-/// One stroke to a nearer point on the line seldom serves: pixels are whole numbers, so the shorter stroke
-/// has another direction, and where it is nearer to another pixel it moves across at another step.
+/// One shorter stroke is seldom enough: its ends are whole pixels, so its direction differs a little from
+/// that of `line`, and it would change rows or columns at other steps.
 void CutStroke(const PixelLine& line, const Rect& window, int margin, std::vector<Point>& points);
 
-/// Where a stroke of any width may end in place of `to`, so that its edges pass the same pixels for `steps`
-/// pixels from `from` on: the nearest such pixel behind these steps, or `to` itself. Between the two
-/// directions lies none whose line meets a pixel's place within the steps.
+/// A nearer end for the stroke of any width from `from` to `to`. Within `steps` pixels of `from`, the edges
+/// of the shorter stroke pass between the same pixels. The result is the first possible end behind these
+/// steps, or `to` when there is none before `to`.
 Point NearerEnd(const Point& from, const Point& to, std::int64_t steps);
 
-/// Brings both ends of a stroke of any width nearer to `window`, which holds what can be seen and the pen's
-/// width round it: the edges of the new stroke pass the same pixels of the window. The ends lie outside it.
-/// False when the stroke passes by. A stroke whose ends are not far away stays as it is.
-///
-/// A pixel right of an edge, or on it, belongs to the right. So the stroke may move to the nearest place on
-/// its right, and turn round that as far as it meets no other.
-bool BringEndsNearer(Point& from, Point& to, const Rect& window);
+/// Brings the far ends of a wide stroke nearer to `view`: GDI needs time for the whole length of a stroke,
+/// also where it is clipped. A pen of `penPixels` paints the same pixels of `view` as before. All positions
+/// are device pixels. `isFromFar` and `isToFar` tell which ends are far; an end that is not far stays.
+/// False, and both ends unchanged, when the stroke misses the view.
+bool BringFarEndsNearer(Point& from, Point& to, bool isFromFar, bool isToFar, const Rect& view,
+                        int penPixels);
 
-/// The steps that no stroke from `from` on exceeds before it has left `window`.
+/// The largest number of steps that a stroke from `from` can take before it leaves `window`.
 inline std::int64_t StepsAcross(const Rect& window, const Point& from) {
     return std::max({std::abs(from.x - window.left), std::abs(from.x - window.right),
                      std::abs(from.y - window.top), std::abs(from.y - window.bottom)});

@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "chartdraw/core/PointBoxes.h"
-#include "plot/ValueBounds.h"
+#include "chartdraw/core/ValueBounds.h"
 
 namespace kavlix {
 

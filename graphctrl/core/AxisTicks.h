@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "plot/IndexRange.h"
+#include "graphctrl/core/IndexRange.h"
 
 namespace kavlix {
 

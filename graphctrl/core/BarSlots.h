@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/IndexRange.h"
+#include "graphctrl/core/IndexRange.h"
 #include "plot/Shapes.h"
 
 namespace kavlix {

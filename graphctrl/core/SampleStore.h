@@ -6,7 +6,7 @@
 #include <memory>
 #include <new>
 
-#include "plot/Extremes.h"
+#include "graphctrl/core/Extremes.h"
 
 namespace kavlix {
 

@@ -5,7 +5,7 @@
 #include <tuple>
 #include <vector>
 
-#include "plot/PixelColumns.h"
+#include "graphctrl/core/PixelColumns.h"
 
 namespace kavlix {
 namespace {

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "plot/IndexRange.h"
+#include "graphctrl/core/IndexRange.h"
 #include "plot/PixelEdges.h"
 
 namespace kavlix {

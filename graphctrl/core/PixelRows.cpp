@@ -1,4 +1,4 @@
-#include "plot/PixelRows.h"
+#include "graphctrl/core/PixelRows.h"
 
 #include <algorithm>
 #include <cmath>

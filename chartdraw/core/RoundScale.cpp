@@ -1,4 +1,4 @@
-#include "plot/RoundScale.h"
+#include "chartdraw/core/RoundScale.h"
 
 #include <algorithm>
 #include <cmath>

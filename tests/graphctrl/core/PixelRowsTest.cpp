@@ -5,7 +5,7 @@
 #include <random>
 #include <vector>
 
-#include "plot/PixelRows.h"
+#include "graphctrl/core/PixelRows.h"
 
 namespace kavlix {
 namespace {

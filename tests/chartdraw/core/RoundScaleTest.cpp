@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "plot/RoundScale.h"
+#include "chartdraw/core/RoundScale.h"
 
 namespace kavlix {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "plot/ValueBounds.h"
+#include "chartdraw/core/ValueBounds.h"
 
 namespace kavlix {
 

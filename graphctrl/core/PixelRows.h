@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "plot/Extremes.h"
+#include "graphctrl/core/Extremes.h"
 #include "plot/LinearMap.h"
 #include "plot/PixelEdges.h"
 

@@ -1,4 +1,4 @@
-#include "plot/IndexRange.h"
+#include "graphctrl/core/IndexRange.h"
 
 #include <algorithm>
 #include <cmath>

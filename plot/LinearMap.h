@@ -1,3 +1,4 @@
+// The map between the values of an axis and positions on the screen.
 #pragma once
 
 #include <cmath>
@@ -7,17 +8,17 @@
 
 namespace kavlix {
 
-/// Turns the values of a visible range into positions along a plot edge.
+/// Converts the values of a visible range into positions along a plot edge, in logical units.
 ///
-/// The range's minimum lies at `edge`, its maximum at `edge` + `extent`; a value axis, which grows upwards,
-/// has its edge at the plot's bottom and a negative extent. Values outside the range lie outside the plot.
+/// `min` lies at the position `edge`, `max` at `edge` + `extent`. An axis that grows upwards has its edge at
+/// the plot's bottom and a negative extent. Values outside the range get positions outside the plot.
 class LinearMap {
 public:
     LinearMap(double min, double max, int edge, int extent)
         : m_min(min), m_range(max - min), m_edge(edge), m_extent(extent) {}
 
-    /// Position of `value` in logical units, computed in doubles, truncated once, saturated. None for NaN, on
-    /// a range of 0, and on an infinite range that leaves the position undefined.
+    /// Position of `value`, truncated toward zero and limited to kCoordinateLimit. Empty when ExactPosition
+    /// is NaN.
     std::optional<int> Position(double value) const {
         const double position = ExactPosition(value);
         if (std::isnan(position))
@@ -25,12 +26,13 @@ public:
         return ToCoordinate(position);
     }
 
-    /// The same, neither truncated nor saturated; not a number where there is none.
+    /// Position of `value`, neither truncated nor limited. NaN for NaN, for a range of 0, and where an
+    /// infinite range leaves the position undefined.
     double ExactPosition(double value) const {
         return m_range == 0 ? std::nan("") : (value - m_min) * m_extent / m_range + m_edge;
     }
 
-    /// The value that lies at `position`; not a number where there is none.
+    /// The value at `position`; NaN when the range or the extent is 0.
     double Value(double position) const {
         return m_range == 0 || m_extent == 0 ? std::nan("")
                                              : m_min + (position - m_edge) * m_range / m_extent;
@@ -45,7 +47,7 @@ public:
     int Edge() const { return m_edge; }
     double Min() const { return m_min; }
     double Range() const { return m_range; }
-    /// Logical units for each unit of value.
+    /// Logical units per unit of value.
     double Slope() const { return m_extent / m_range; }
 
 private:

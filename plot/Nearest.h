@@ -1,3 +1,4 @@
+// The search for the item nearest to a position, as hit tests need.
 #pragma once
 
 #include <cstdint>
@@ -5,9 +6,9 @@
 
 namespace kavlix {
 
-/// The item of `first` to `last`, at least one, whose position lies nearest to `x`; of equally near ones the
-/// first. `at(i)` is the position of item `i`; the positions run one way, up when `ascending`. Visits no more
-/// items than a binary search does.
+/// The item among `first` to `last` whose position is nearest to `x`; the first one of equally near items.
+/// The range holds at least one item. `at(i)` is the position of item `i`. The positions never decrease when
+/// `ascending`, and never increase otherwise. Two binary searches.
 template <class Position>
 int NearestInOrder(int first, int last, bool ascending, std::int64_t x, Position at) {
     const auto firstNotBefore = [&](std::int64_t wanted) {
@@ -28,7 +29,7 @@ int NearestInOrder(int first, int last, bool ascending, std::int64_t x, Position
     const int after = firstNotBefore(x);
     if (after == first)
         return first;
-    // Several items may share the position before x; the first of them counts.
+    // Several items may share this position: take the first one.
     const int before = firstNotBefore(at(after - 1));
     return after > last || distance(before) <= distance(after) ? before : after;
 }

@@ -1,3 +1,4 @@
+// Conversions from double to int that are defined for every value, and the limit of GDI coordinates.
 #pragma once
 
 #include <algorithm>
@@ -8,11 +9,12 @@ namespace kavlix {
 
 constexpr double kPi = 3.14159265358979323846;
 
-/// GDI takes coordinates of up to 27 bits. Positions saturate there, which also leaves room to add marker
-/// sizes and margins without overflow.
+/// The largest coordinate, in either direction, that is given to GDI. Positions are limited to this value, so
+/// marker sizes and margins can be added without overflow.
 constexpr int kCoordinateLimit = 1 << 27;
 
-/// `value` truncated toward zero and held within [low, high]; 0 for NaN. The one way from double to int.
+/// `value` truncated toward zero and limited to [low, high]; 0 for NaN. All conversions from double to int
+/// use this function, because a cast is undefined for values out of range.
 inline int TruncateToInt(double value, int low = std::numeric_limits<int>::min(),
                          int high = std::numeric_limits<int>::max()) {
     if (value >= high)
@@ -22,12 +24,12 @@ inline int TruncateToInt(double value, int low = std::numeric_limits<int>::min()
     return value == value ? static_cast<int>(value) : 0;
 }
 
-/// `value` truncated toward zero and held within what GDI can draw; 0 for NaN.
+/// `value` truncated toward zero and limited to kCoordinateLimit; 0 for NaN.
 inline int ToCoordinate(double value) {
     return TruncateToInt(value, -kCoordinateLimit, kCoordinateLimit);
 }
 
-/// `value` held within what GDI can draw.
+/// `value` limited to kCoordinateLimit.
 inline int ToCoordinate(std::int64_t value) {
     return static_cast<int>(std::clamp<std::int64_t>(value, -kCoordinateLimit, kCoordinateLimit));
 }

@@ -1,4 +1,4 @@
-// Where the pixels of a picture begin and end, in logical units.
+// The table of pixel borders along one axis, in logical units.
 #pragma once
 
 #include <cstddef>
@@ -6,21 +6,21 @@
 
 namespace kavlix {
 
-/// Where neighbouring pixels begin, in logical units: pixel `first` + k covers the positions from edge k to
-/// before edge k + 1.
+/// The borders of neighbouring pixels, in logical units. Pixel `first` + k covers the positions from edge k
+/// up to, not including, edge k + 1.
 class PixelEdges {
 public:
     PixelEdges() = default;
-    /// `edges` ascend.
+    /// `edges` are in ascending order, one more than there are pixels.
     PixelEdges(int first, std::vector<int> edges);
 
     bool IsEmpty() const { return m_edges.size() < 2; }
-    /// Number of pixels.
+    /// Number of pixels; only for a table that is not empty.
     int Count() const { return static_cast<int>(m_edges.size()) - 1; }
     int Begin() const { return m_edges.front(); }
     int End() const { return m_edges.back(); }
     bool Holds(int position) const { return position >= Begin() && position < End(); }
-    /// Which of the pixels, counted from 0, holds `position`, which must be held.
+    /// The index, from 0, of the pixel that covers `position`. Holds(position) must be true.
     int Find(int position) const {
         auto k = static_cast<std::size_t>((position - Begin()) * m_pixelsPerUnit);
         while (m_edges[k] > position)
@@ -29,8 +29,9 @@ public:
             ++k;
         return static_cast<int>(k);
     }
+    /// The number of that pixel: its index plus `first`.
     int PixelOf(int position) const { return m_first + Find(position); }
-    /// The same for any position; those before and behind all pixels count as `Before` and `Behind`.
+    /// The same for any position: Before() or Behind() for positions that no pixel covers.
     int PixelOrSide(int position) const {
         return position < Begin() ? Before() : position >= End() ? Behind() : PixelOf(position);
     }
@@ -38,7 +39,7 @@ public:
     int Behind() const { return m_first + Count(); }
     bool HasPixel(int pixel) const { return pixel > Before() && pixel < Behind(); }
     int Edge(int k) const { return m_edges[static_cast<std::size_t>(k)]; }
-    /// Whether all pixels are equally large, so that what moves by whole pixels keeps its shape.
+    /// Whether all pixels have the same size. Then a shape that moves by whole pixels keeps its pixels.
     bool IsRegular() const;
 
 private:

@@ -1,4 +1,4 @@
-// The pixels of a thin stroke, as GDI chooses them.
+// The choice of a stroke's longer side, and the part of the stroke inside a rectangle.
 #include "plot/PixelLine.h"
 
 #include <algorithm>
@@ -17,10 +17,10 @@ PixelLine::PixelLine(const Point& from, const Point& to) : m_from(from) {
 }
 
 bool PixelLine::FindInside(const Rect& area, std::int64_t& first, std::int64_t& end) const {
-    // Steps of the longer direction that lie inside, then those whose cross position does.
+    // First limit the steps by the position along the longer side, then by the position across it.
     const std::int64_t start = m_isSteep ? m_from.y : m_from.x;
     const std::int64_t low = m_isSteep ? area.top : area.left;
-    const std::int64_t high = m_isSteep ? area.bottom : area.right; // not included
+    const std::int64_t high = m_isSteep ? area.bottom : area.right; // not inside
     first = std::max<std::int64_t>(m_stepsDown ? start - high + 1 : low - start, 0);
     end = std::min(m_stepsDown ? start - low + 1 : high - start, m_along);
 

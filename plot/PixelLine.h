@@ -1,4 +1,4 @@
-// The pixels of a thin stroke, one by one or by arithmetic.
+// The pixels that GDI paints for a stroke of one pixel's width, found by integer arithmetic.
 #pragma once
 
 #include <cstdint>
@@ -7,32 +7,34 @@
 
 namespace kavlix {
 
-/// Which pixels GDI paints for a stroke with a pen one pixel wide. Along the longer direction there is one
-/// pixel for each step; across it, the line moves on where it is nearer to the next pixel. Halfway it goes to
-/// the smaller coordinate, whichever way the stroke runs. The pixel of the last step is left out.
+/// The pixels that GDI paints for a stroke with a pen one pixel wide. Each step along the stroke's longer
+/// side is one pixel. Across it the line moves by one pixel where the next row or column is nearer; halfway
+/// between two, the smaller coordinate is taken in every direction of the stroke. The pixel of the end point
+/// is not painted.
 class PixelLine {
 public:
     PixelLine(const Point& from, const Point& to);
 
     bool IsSteep() const { return m_isSteep; }
-    /// Steps from the first pixel to the last.
+    /// Steps from the start to the end point, along the longer side.
     std::int64_t Steps() const { return m_along; }
-    /// Pixels by which the line moves across on its way.
+    /// Pixels between start and end point across the longer side.
     std::int64_t Moves() const { return m_across; }
-    /// Whether steps and moves run towards smaller coordinates.
+    /// Whether the steps, or the moves, go towards smaller coordinates.
     bool StepsDown() const { return m_stepsDown; }
     bool MovesDown() const { return m_movesDown; }
-    /// 0 where the line moves on already halfway between two pixels, 1 where it moves after that.
+    /// 0 when the line moves exactly halfway between two pixels, 1 when it moves only after that.
     std::int64_t AtHalf() const { return m_movesDown ? 0 : 1; }
 
-    /// How far the line has moved across at a step.
+    /// Moves made at `step`.
     std::int64_t MovesAt(std::int64_t step) const {
         return m_along == 0 ? 0 : (2 * step * m_across + m_along - AtHalf()) / (2 * m_along);
     }
-    /// The first step at which the line has moved `moves` pixels across, 1 to Moves().
+    /// The first step at which MovesAt is `moves`, 1 to Moves().
     std::int64_t StepOf(std::int64_t moves) const {
         return ((2 * moves - 1) * m_along + AtHalf() + 2 * m_across - 1) / (2 * m_across);
     }
+    /// The pixel `step` steps along and `moves` moves across from the start.
     Point At(std::int64_t step, std::int64_t moves) const {
         const auto along = static_cast<int>(m_stepsDown ? -step : step);
         const auto across = static_cast<int>(m_movesDown ? -moves : moves);
@@ -40,7 +42,8 @@ public:
                          : Point{m_from.x + along, m_from.y + across};
     }
 
-    /// The steps `first` to before `end` whose pixels lie in `area`. False when there is none.
+    /// Sets `first` and `end` so that the steps from `first` to before `end` have their pixels in `area`.
+    /// False when there is no such step; both are undefined then.
     bool FindInside(const Rect& area, std::int64_t& first, std::int64_t& end) const;
 
 private:

@@ -1,3 +1,4 @@
+// Strokes, dotted lines and rectangles written straight into memory.
 #include "plot/PixelRaster.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ void PixelRaster::Dots(const Point& from, const Point& to, const DotPattern& pat
     const int end = isUpright ? to.y : to.x;
     const int low = isUpright ? m_clip.top : m_clip.left;
     const int high = (isUpright ? m_clip.bottom : m_clip.right) - 1;
-    // Pixels of the line, counted from its first, that lie inside the clip.
+    // First and last pixel inside the clip, counted from the start of the line.
     const int direction = end < begin ? -1 : 1;
     const int first = std::max(direction > 0 ? low - begin : begin - high, 0);
     const int last = std::min(direction > 0 ? high - begin : begin - low, std::abs(end - begin) - 1);
@@ -100,7 +101,7 @@ void PixelRaster::Stroke(const Point& from, const Point& to, std::uint32_t colou
             m_stride * std::int64_t{from.y} + from.x + alongStep * step + acrossStep * moves;
         return m_origin + static_cast<std::ptrdiff_t>(offset);
     };
-    if (across == 1) { // two runs
+    if (across == 1) { // two straight runs
         const std::int64_t change = std::clamp(line.StepOf(1), first, end);
         const auto run = [&](std::int64_t step, std::int64_t runEnd, std::int64_t moves) {
             if (step == runEnd)

@@ -1,3 +1,4 @@
+// A picture's pixels in memory, painted as GDI paints them but without calling GDI.
 #pragma once
 
 #include <cstddef>
@@ -8,27 +9,28 @@
 
 namespace kavlix {
 
-/// Which pixels of a dotted line are painted: in every `period` of them, from the first one on, those whose
-/// places `dots` tells, counted from 0.
+/// The pixels of a dotted line that are painted. The pattern repeats after `period` pixels and begins with
+/// the first pixel of the line.
 struct DotPattern {
-    std::vector<int> dots;
-    int period = 0;
+    std::vector<int> dots; ///< places of the painted pixels within one period, from 0, ascending
+    int period = 0;        ///< pixels; 0 when the pattern is not known
 };
 
-/// Paints into the 32-bit pixels of a picture what GDI would paint there with a solid pen one pixel wide or
-/// with a solid brush: the same pixels, for any coordinates of up to 28 bits. Nothing outside the clip is
-/// touched. Lines of many points go through ThinLine.
+/// Paints into the 32-bit pixels of a picture: strokes as of a solid GDI pen one pixel wide, areas as of a
+/// solid GDI brush. The pixels are the same as GDI's for coordinates of up to 28 bits. Pixels outside the
+/// clip are not changed. For lines of many points use ThinLine, which is faster.
 class PixelRaster {
 public:
-    /// `origin` is the pixel (0, 0), `stride` the distance in pixels from a row to the one below it; `clip`
-    /// must lie inside the picture. The pixels stay the caller's.
+    /// `origin` is the pixel (0, 0), `stride` the distance in pixels from a row to the row below it, negative
+    /// for pictures whose bottom row comes first in memory. `clip` lies inside the picture. The caller owns
+    /// the pixels and keeps them alive.
     PixelRaster(std::uint32_t* origin, std::ptrdiff_t stride, const Rect& clip);
 
     const Rect& Clip() const { return m_clip; }
 
-    /// The stroke between two points. Its last pixel is left out.
+    /// Paints a stroke without its last pixel.
     void Stroke(const Point& from, const Point& to, std::uint32_t colour) const;
-    /// The pixels of column `x` from row `top` to `bottom`, both included.
+    /// Paints the pixels of column `x` from row `top` to row `bottom`, both included.
     void Run(int x, int top, int bottom, std::uint32_t colour) const {
         top = top > m_clip.top ? top : m_clip.top;
         bottom = bottom < m_clip.bottom ? bottom : m_clip.bottom - 1;
@@ -39,13 +41,13 @@ public:
             *pixel = colour;
         *pixel = colour;
     }
-    /// An upright or level line of dots. Its last pixel is left out.
+    /// Paints a vertical or horizontal dotted line without its last pixel.
     void Dots(const Point& from, const Point& to, const DotPattern& pattern, std::uint32_t colour) const;
-    /// The same as upright lines from row `from` to row `to` in each of the `columns`, painted row by row: in
-    /// memory the pixels of a row are neighbours.
+    /// Paints vertical dotted lines from row `from` to row `to`, one in each of the `columns`. Painting goes
+    /// row by row, because the pixels of a row are neighbours in memory.
     void DotColumns(const std::vector<int>& columns, int from, int to, const DotPattern& pattern,
                     std::uint32_t colour) const;
-    /// The pixels of `area`.
+    /// Paints the pixels of `area`.
     void Fill(const Rect& area, std::uint32_t colour) const;
 
 private:

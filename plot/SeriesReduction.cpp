@@ -1,3 +1,4 @@
+// Runs of points in one pixel column, one row or beyond one edge, and what is kept of them.
 #include "plot/SeriesReduction.h"
 
 #include <limits>
@@ -7,7 +8,7 @@ namespace kavlix {
 
 namespace {
 
-constexpr std::size_t kLongestPart = 64; // with wide pens GDI's cost grows with the square
+constexpr std::size_t kLongestPart = 64; // for wide pens GDI's time grows with the square of the points
 constexpr unsigned kLeft = 1;
 constexpr unsigned kRight = 2;
 constexpr unsigned kAbove = 4;
@@ -55,8 +56,8 @@ void SeriesReduction::Add(const Point& pixel, const Point& position) {
         m_sides &= sides;
         if (!(pixel == m_last.pixel))
             m_arrived = entry.order;
-        // The first of several equal ones: the pixel at a line's very end is not painted, so a place that was
-        // reached before must stay in the walk.
+        // Of several points on one pixel the first is kept. The last pixel of a line is not painted, so an
+        // earlier visit of the same pixel must stay in the line.
         if (Key(pixel) < Key(m_low.pixel))
             m_low = entry;
         if (Key(pixel) > Key(m_high.pixel))
@@ -76,7 +77,7 @@ void SeriesReduction::FlushRun() {
         for (const Entry* entry : {&earlier, &later})
             if (entry->order > 0 && entry->order < m_last.order)
                 Append(*entry);
-        // Also a place that the walk ends at, but has been to and left before.
+        // The run ends on a pixel that it has visited and left before: the earlier visit paints this pixel.
         if (later.pixel == m_last.pixel && later.order > 0 && later.order < m_arrived)
             Append(m_first);
     }

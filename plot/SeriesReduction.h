@@ -1,3 +1,4 @@
+// Removes the points of a long line that cannot change a pixel.
 #pragma once
 
 #include <functional>
@@ -7,48 +8,48 @@
 
 namespace kavlix {
 
-/// Takes the points of a line one by one and hands on only those that can change a pixel, so that a painter
-/// does not walk through a million strokes.
+/// Takes the points of a line one by one and passes on only those that can change a pixel. A painter then
+/// draws a few strokes per pixel column instead of one per sample.
 ///
-/// The picture is that of the whole line, pixel for pixel, for any solid pen: of points that follow one
-/// another in one pixel column (or row) the first, lowest, highest and last are handed on, whose strokes
-/// cover what all strokes cover; of points that follow one another beyond the same edge of the view, the
-/// first and the last. All others are handed on as they come: a line that goes back and forth across the view
-/// is walked whole.
+/// The picture is the same as that of the whole line, for any solid pen. Of successive points in one pixel
+/// column or row, the first, lowest, highest and last point are passed on: their strokes cover the same
+/// pixels. Of successive points beyond the same edge of the view, the first and last point are passed on. All
+/// other points are passed on unchanged, so a line that goes back and forth across the view keeps all its
+/// points.
 ///
-/// A line need not grow in x. Memory is constant.
+/// The points may come in any order of x. The memory in use does not depend on their number.
 class SeriesReduction {
 public:
-    /// Receives a part of the line, at least 2 points. Where a line is handed on in several parts, each
-    /// begins with the last point of the one before.
+    /// Receives a part of the line, at least 2 points. When a line comes in several parts, each part begins
+    /// with the last point of the previous part.
     using Sink = std::function<void(const Point* points, int count)>;
 
-    /// `view` in the units of the pixels given to Add: everything outside it is invisible, also to strokes as
-    /// wide as the pen (see Reach).
+    /// `view` in device pixels, as Add takes them: the visible area, enlarged on all sides by Reach of the
+    /// pen. Points outside it must not show.
     SeriesReduction(const Rect& view, Sink sink);
-    /// Nothing is handed on here: call End when the line is complete.
+    /// Passes nothing on: call End when the line is complete.
     ~SeriesReduction() = default;
     SeriesReduction(const SeriesReduction&) = delete;
     SeriesReduction& operator=(const SeriesReduction&) = delete;
 
-    /// The next point, where device pixels are the unit of drawing.
+    /// The next point of a line that is drawn in device pixels.
     void Add(const Point& pixel) { Add(pixel, pixel); }
-    /// The next point: the device pixel that it falls on, and its position in the units of drawing, which is
-    /// handed on.
+    /// The next point: its device pixel, and its position in the units of drawing. The position is what the
+    /// sink receives.
     void Add(const Point& pixel, const Point& position);
-    /// The line ends here; the next point begins another.
+    /// Ends the line and passes on the rest of it. The next point begins another line.
     void Break();
-    /// Hands on all that is left. The reduction is as new afterwards.
+    /// The same after the last line.
     void End() { Break(); }
 
-    /// How far beyond the view's edges a pen of `width` pixels still reaches into it.
+    /// The distance from which a pen of `width` pixels can still paint inside the visible area, pixels.
     static int Reach(int width) { return width / 2 + 2; }
 
 private:
     struct Entry {
         Point pixel;
         Point position;
-        int order = 0; ///< within the run
+        int order = 0; ///< index within the run
     };
 
     unsigned SidesOf(const Point& pixel) const;
@@ -62,7 +63,7 @@ private:
     Sink m_sink;
     std::vector<Point> m_part;
 
-    // The run of points that is being joined.
+    // The current run of points, of which only the first, lowest, highest and last are kept.
     int m_count = 0;
     bool m_sameColumn = false;
     bool m_sameRow = false;
@@ -71,7 +72,7 @@ private:
     Entry m_low;
     Entry m_high;
     Entry m_last;
-    int m_arrived = 0; ///< since that point of the run all have been on the pixel of the last
+    int m_arrived = 0; ///< index of the point from which on all points of the run share the last pixel
 };
 
 } // namespace kavlix

@@ -1,14 +1,15 @@
+// Point and rectangle of the platform-free code.
 #pragma once
 
 namespace kavlix {
 
-/// A point in logical units.
+/// A point, in logical units or in device pixels.
 struct Point {
     int x = 0;
     int y = 0;
 };
 
-/// A rectangle in logical units; right and bottom lie outside.
+/// A rectangle, in the same units. Its right and bottom edges do not belong to it.
 struct Rect {
     int left = 0;
     int top = 0;

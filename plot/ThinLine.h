@@ -1,3 +1,4 @@
+// A line of many points, one pixel wide, painted into a PixelRaster.
 #pragma once
 
 #include <algorithm>
@@ -8,14 +9,14 @@
 
 namespace kavlix {
 
-/// Paints a line one pixel wide through points that come one by one, as strokes from each to the next would:
-/// the pixel of the last point is left out. What falls into one pixel column is painted at once, so that the
-/// cost is that of the pixels.
+/// Paints a line one pixel wide through points that come one by one. The pixels are those of single strokes
+/// from point to point: the pixel of the last point is not painted. The rows that the line covers in one
+/// pixel column are collected and painted together, so the time depends on the pixels, not on the points.
 class ThinLine {
 public:
     ThinLine(const PixelRaster& raster, std::uint32_t colour) : m_raster(raster), m_colour(colour) {}
 
-    /// The next point; the first of a line after End.
+    /// The next point. After End, the first point of a new line.
     void To(int x, int y) {
         if (!m_isOpen)
             Begin(x, y);
@@ -28,7 +29,7 @@ public:
             Jump(x, y);
         }
     }
-    /// The next point, in the column of the one before.
+    /// The next point, in the same column as the previous one.
     void Within(int y) {
         if (y > m_y)
             Cover(m_y, y - 1);
@@ -36,7 +37,7 @@ public:
             Cover(y + 1, m_y);
         m_y = y;
     }
-    /// The next point; the stroke to it is left to the caller.
+    /// The next point, without a stroke to it: the caller paints this stroke.
     void Jump(int x, int y) {
         Paint();
         Begin(x, y);
@@ -61,13 +62,13 @@ private:
         m_bottom = std::max(m_bottom, bottom);
     }
     void Paint() const { m_raster.Run(m_x, m_top, m_bottom, m_colour); }
-    /// Of such a stroke one half lies in the old column, the other in the new one; as everywhere, the half
-    /// goes to the smaller coordinate.
+    /// One half of such a stroke lies in the old column, the other half in the new one. A pixel exactly
+    /// halfway belongs to the smaller coordinate, as in PixelLine.
     void ToNextColumn(int x, int y) {
         const int from = m_y;
         const int length = std::max(std::abs(y - from), 1);
         const int change = std::min((length + (x > m_x ? 2 : 1)) / 2, length);
-        // Which way it goes cannot be foreseen: values are picked, not branched to.
+        // The direction changes at random, so a branch would be mispredicted: select with a bit mask instead.
         const int up = -static_cast<int>(y < from);
         const auto pick = [up](int down, int upwards) { return down ^ ((down ^ upwards) & up); };
         Cover(pick(from, from - change + 1), pick(from + change - 1, from));
@@ -81,8 +82,8 @@ private:
     PixelRaster m_raster;
     std::uint32_t m_colour;
     bool m_isOpen = false;
-    // The last point, and the rows of its column that are to be painted: none where the bottom lies above the
-    // top, or up to the point.
+    // The last point, and the rows of its column that are not painted yet; no rows when m_bottom is less than
+    // m_top.
     int m_x = 0;
     int m_y = 0;
     int m_top = 0;

@@ -1,3 +1,4 @@
+// The choice of round axis steps, and the texts of tick labels.
 #include "chartdraw/core/RoundScale.h"
 
 #include <algorithm>
@@ -9,24 +10,24 @@ namespace kavlix {
 namespace {
 
 constexpr double kMantissas[] = {10, 20, 25, 50};
-/// Values beyond lie outside any range that is found: sums and products of those within stay finite.
+/// Larger values are limited to this one: sums and products in this file then stay finite.
 constexpr double kLargestValue = 1e300;
 constexpr double kSmallestRange = 1e-290;
-/// Narrower ranges, measured by the size of their values, leave too few digits for several ticks.
+/// The narrowest range as a share of its largest value: a double has too few digits for ticks in between.
 constexpr double kNarrowestRange = 1e-12;
-constexpr double kMostParts = 1e15; // of a host's step between two ticks; beyond, its digits are lost
-constexpr double kRoomAround = 0.5; ///< of a single value other than 0, to either side, as a part of it
-/// How much of a step a range may miss a multiple by and still end at it: the rounding of its two ends.
+constexpr double kMostParts = 1e15; // host's steps between two ticks; with more a double loses digits
+constexpr double kRoomAround = 0.5; // space on both sides of a single value, as a share of this value
+/// Tolerance for rounding errors, as a share of a step: an end this close to a multiple counts as one.
 constexpr double kRounding = 1e-9;
 constexpr int kMostDecimals = 12;
 constexpr std::size_t kLongestPlainLabel = 8;
 
-/// `value` * 10^`exponent`, without an intermediate result out of range.
+/// `value` * 10^`exponent`, without overflow in between.
 double Shift(double value, int exponent) {
     constexpr int kSafe = 300;
     if (exponent < -kSafe)
         return value / std::pow(10.0, kSafe) / std::pow(10.0, -exponent - kSafe);
-    // Dividing by a whole power is exact to the last digit, multiplying by a fraction is not.
+    // A negative power of ten is not exact in a double: divide by the positive power instead.
     return exponent < 0 ? value / std::pow(10.0, -exponent) : value * std::pow(10.0, exponent);
 }
 
@@ -62,9 +63,9 @@ RoundScale RoundScale::Around(const ValueBounds& values, int mostSteps) {
 
     RoundScale scale;
     scale.m_found = true;
-    // A range across 0 takes two steps however large they are.
+    // A range across 0 needs two steps of any size.
     const int most = std::max(mostSteps, 2);
-    // One power below what is needed: from there on the first step that fits is the finest.
+    // Start one power of ten too low: the first step that fits is the finest one.
     scale.m_exponent = ExponentOf((max - min) / most) - 2;
     for (;; ++scale.m_exponent) {
         for (const double mantissa : kMantissas) {
@@ -74,7 +75,7 @@ RoundScale RoundScale::Around(const ValueBounds& values, int mostSteps) {
             const double last = std::ceil(max / step - kRounding);
             if (last - first > most)
                 continue;
-            // The sum with 0 takes the sign off a zero.
+            // Adding 0 turns a negative zero into zero.
             scale.m_min = Shift(first * mantissa, scale.m_exponent) + 0.0;
             scale.m_max = Shift(last * mantissa, scale.m_exponent) + 0.0;
             scale.FindTicks();
@@ -146,7 +147,8 @@ double RoundScale::Tick(int i) const {
 
 std::string RoundScale::Label(int i) const {
     const double value = Tick(i);
-    // The whole axis is written in one way.
+    // All labels of the axis use the same form, so the choice depends on the first and last tick and the
+    // step.
     std::size_t plain = 0;
     std::size_t power = 0;
     for (const double each : {Tick(0), Tick(m_count - 1), Step()}) {
@@ -164,7 +166,7 @@ std::string RoundScale::PowerLabel(double value) const {
         return "0";
     constexpr int kMostDigits = 15;
     int exponent = ExponentOf(value);
-    // As many digits as the step needs; rounding may carry into one more.
+    // As many digits as the step needs. Rounding can carry 9.99 to 10.0, which takes the next exponent.
     const int stepEnd = m_found ? m_exponent + (m_mantissa != 25 ? 1 : 0) : -m_decimals;
     const int digits = std::clamp(exponent - stepEnd, 0, kMostDigits);
     std::string mantissa = Plain(Shift(value, -exponent), digits);

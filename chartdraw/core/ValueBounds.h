@@ -1,11 +1,11 @@
-// The range of values that a scale is chosen for.
+// The smallest and largest value of a series, from which a scale is chosen.
 #pragma once
 
 #include <limits>
 
 namespace kavlix {
 
-/// The smallest and the largest of some numbers; empty (`min` above `max`) when there are none.
+/// The smallest and the largest of some numbers. Without numbers `min` is greater than `max`.
 struct ValueBounds {
     double min = std::numeric_limits<double>::infinity();
     double max = -std::numeric_limits<double>::infinity();

@@ -1,10 +1,10 @@
-// The lowest and the highest of a run of samples.
+// The lowest and highest value of a range of samples.
 #pragma once
 
 namespace kavlix {
 
-/// Lowest and highest of some values. Both are NaN when one of the values is: such values must be looked at
-/// one by one.
+/// Lowest and highest of some values. Both are NaN when one of the values is NaN; the caller must then read
+/// the values one by one.
 struct Extremes {
     double low;
     double high;

@@ -1,3 +1,4 @@
+// Index ranges of samples, found from bounds of X and from the visible positions.
 #include "graphctrl/core/IndexRange.h"
 
 #include <algorithm>
@@ -31,7 +32,7 @@ IndexRange IndicesToDraw(const LinearMap& xMap, int from, int to, int count) {
     if (low > high)
         std::swap(low, high);
 
-    // One step for the neighbour, one for rounding in the way back from position to value.
+    // One index for the neighbour, one for rounding in the conversion from position to value.
     constexpr double kMargin = 2;
     return {TruncateToInt(std::floor(low) - kMargin, 0, count - 1),
             TruncateToInt(std::ceil(high) + kMargin, 0, count - 1)};

@@ -1,10 +1,11 @@
+// Index ranges of samples whose X is their index.
 #pragma once
 
 #include "plot/LinearMap.h"
 
 namespace kavlix {
 
-/// Samples `first` to `last`; none when `last` lies below `first`.
+/// The samples from `first` to `last`, both included; empty when `last` is less than `first`.
 struct IndexRange {
     int first = 0;
     int last = -1;
@@ -13,16 +14,16 @@ struct IndexRange {
     int Count() const { return IsEmpty() ? 0 : last - first + 1; }
 };
 
-/// The first of `count` samples whose X, which is its index, is not below `min`; `count` if there is none.
+/// The first of `count` samples whose index is not below `min`; `count` when there is none.
 int FirstIndexFrom(double min, int count);
 
-/// The samples of `count` with min <= X <= max. None when either bound is NaN.
+/// Those of `count` samples with `min` <= index <= `max`. Empty when a bound is NaN.
 IndexRange IndicesBetween(double min, double max, int count);
 
-/// The samples of `count` that a line through all of them must visit to look the same between the positions
-/// `from` and `to`: those whose position lies there, and a neighbour on either side, so that the line enters
-/// and leaves where it should. `from` and `to` must include the reach of pens and markers. All samples where
-/// positions follow no order.
+/// Those of `count` samples that a line needs to look complete between the positions `from` and `to`: the
+/// samples with a position in this range and one neighbour on either side, so that the line enters and leaves
+/// the range in the right direction. The caller widens the range by the reach of pens and markers. All
+/// samples when `xMap` is not monotonic.
 IndexRange IndicesToDraw(const LinearMap& xMap, int from, int to, int count);
 
 } // namespace kavlix

@@ -1,3 +1,4 @@
+// Groups successive samples by the pixel column that they are drawn in.
 #pragma once
 
 #include <algorithm>
@@ -11,17 +12,18 @@
 
 namespace kavlix {
 
-/// Neighbouring samples that fall into one pixel column.
+/// The samples from `first` to `last`, which are drawn in one pixel column.
 struct PixelColumn {
     int first;
     int last;
-    int position; ///< of the first, logical units
-    int pixel;    ///< PixelEdges::Before or Behind for a sample beyond the edges
+    int position; ///< of the first sample, logical units
+    int pixel;    ///< number of the column; PixelEdges::Before or Behind for a sample beyond the edges
 };
 
-/// Groups the samples `range` by the pixel columns that `edges` tell. `at(i)` is the position of sample i in
-/// logical units; positions run one way, up or down. Of the samples beyond the edges only the neighbours of
-/// those inside are kept, as columns of their own. Visits a few samples a column.
+/// Groups the samples of `range` by the pixel columns of `edges`. `at(i)` is the position of sample i in
+/// logical units. The positions are in ascending or in descending order. Of the samples beyond the edges,
+/// only the one before and the one behind the visible samples are kept, each as a column of its own. Reads a
+/// few positions per column.
 template <class Position>
 std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges, Position at) {
     std::vector<PixelColumn> columns;
@@ -29,7 +31,7 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
         return columns;
     columns.reserve(static_cast<std::size_t>(std::min(edges.Count(), range.last - range.first)) + 2);
     const bool isAscending = at(range.first) <= at(range.last);
-    // The first sample that does not lie before the edges.
+    // Binary search for the first sample that is not before the edges.
     std::int64_t begin = range.first;
     std::int64_t end = std::int64_t{range.last} + 1;
     while (begin < end) {
@@ -62,7 +64,8 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
             const int place = at(static_cast<int>(index));
             return place >= low && place < high;
         };
-        // From the guess on in growing steps until the end of the column lies between, then halving.
+        // Find the column's last sample. The guess is the size of the previous column. Steps of growing size
+        // enclose the end of the column, then a binary search finds it.
         std::int64_t inside = next;
         std::int64_t outside = std::int64_t{range.last} + 1;
         std::int64_t probe = next + guess - 1;
@@ -100,9 +103,10 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
     return columns;
 }
 
-/// The same for positions that turn round now and then. `runEnd(rest)` is the last sample of the range `rest`
-/// up to which positions run one way; none where that is unknown, and then the result is empty. Around a turn
-/// the samples beyond the edges are kept too, since the line from one to the other may cross what is seen.
+/// The same for positions whose order changes between ascending and descending. `runEnd(rest)` is the last
+/// sample of `rest` up to which the positions keep one order; empty when that is unknown, and then the result
+/// is empty too. At a change of order the samples beyond the edges are kept as well, because the stroke
+/// between them may cross the visible columns.
 template <class RunEnd, class Position> std::vector<PixelColumn>
 GroupRunsByColumn(IndexRange range, const PixelEdges& edges, RunEnd runEnd, Position at) {
     std::vector<PixelColumn> columns;

@@ -1,3 +1,4 @@
+// Pixel rows by one multiplication per value, two values at a time where the processor allows it.
 #include "graphctrl/core/PixelRows.h"
 
 #include <algorithm>
@@ -13,7 +14,8 @@ namespace kavlix {
 
 namespace {
 
-// Inside these, neither way overflows or loses digits: both err by less than a billionth of a row.
+// For ranges between these limits, neither the exact nor the fast computation overflows or loses digits: the
+// error of both is less than a billionth of a row.
 constexpr double kSmallestRange = 1e-280;
 constexpr double kLargestRange = 1e280;
 
@@ -30,7 +32,7 @@ PixelRows::PixelRows(const LinearMap& map, const PixelEdges& edges) : m_map(map)
     m_min = map.Min();
     m_rowsPerValue = map.Slope() / height;
     m_rowOfMin = (map.Edge() - edges.Begin()) / height;
-    // Truncation rounds positions below 0 the other way.
+    // The fast way is valid for positions above 0: truncation rounds negative positions upwards.
     m_begin = edges.Begin() > 0 ? 0 : std::ceil((1 - edges.Begin()) / height);
     m_end = edges.Count();
 }
@@ -53,7 +55,7 @@ std::optional<Extremes> PixelRows::ExtremesOfMoves(const double* values, int cou
     __m128d highPart = high;
     const auto rowsOf = [&](__m128d pair) {
         const __m128d exact = _mm_add_pd(_mm_mul_pd(_mm_sub_pd(pair, min), rowsPerValue), rowOfMin);
-        // Of a NaN and of what no int holds, the lowest int.
+        // The conversion gives the lowest int for NaN and for values that no int can hold.
         const __m128d rows = _mm_cvtepi32_pd(_mm_cvttpd_epi32(exact));
         const __m128d part = _mm_sub_pd(exact, rows);
         lowRow = _mm_min_pd(lowRow, rows);
@@ -62,7 +64,8 @@ std::optional<Extremes> PixelRows::ExtremesOfMoves(const double* values, int cou
         highPart = _mm_max_pd(highPart, part);
         return rows;
     };
-    // With all bits set a value becomes a NaN, of which and a number both instructions take the second.
+    // Values on the same row as the value before are masked: with all bits set they are NaN, and min and max
+    // return their second operand when the first is NaN.
     const auto gather = [&](__m128d pair, __m128d isSame) {
         low = _mm_min_pd(_mm_or_pd(pair, isSame), low);
         high = _mm_max_pd(_mm_or_pd(pair, isSame), high);

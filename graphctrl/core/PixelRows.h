@@ -1,3 +1,4 @@
+// The pixel rows of sample values, computed faster than through LinearMap and PixelEdges.
 #pragma once
 
 #include <optional>
@@ -8,17 +9,17 @@
 
 namespace kavlix {
 
-/// The pixel rows of values: that of LinearMap::Position, found faster.
+/// The pixel rows of values. The result is always the row of LinearMap::Position.
 ///
-/// Position divides, truncates and is then looked up between the edges. Where all rows are equally high, one
-/// multiplication tells the same row for all values but those next to an edge, where the last bits of the
-/// division decide.
+/// Position divides, truncates, and the result is looked up in PixelEdges. When all rows have the same
+/// height, one multiplication gives the same row, except for values next to a row's edge: there the last bits
+/// of the division decide, so the exact way is taken.
 class PixelRows {
 public:
     /// `map` must be monotonic. Both must outlive this object.
     PixelRows(const LinearMap& map, const PixelEdges& edges);
 
-    /// Row of `value`, which is no NaN; PixelEdges::Before or Behind beyond the edges.
+    /// Row of `value`, which must not be NaN; PixelEdges::Before or Behind for a value beyond the edges.
     int Of(double value) const {
         const double row = (value - m_min) * m_rowsPerValue + m_rowOfMin;
         if (row >= m_begin && row < m_end) {
@@ -30,15 +31,15 @@ public:
         return Exact(value);
     }
 
-    /// Lowest and highest of the `count` values from `values` on that lie on another row than the value
-    /// before them; of the first, that is values[-1]. Lowest above highest where all lie on one row. None
-    /// where the fast way does not tell all rows: beyond the edges, next to one, and at a NaN.
+    /// Lowest and highest of those of the `count` values at `values` that lie on another row than the value
+    /// before them; values[-1] must exist. When all lie on one row, `low` is greater than `high`. Empty when
+    /// the fast way cannot find all rows: for values beyond the edges or next to an edge, and for NaN.
     std::optional<Extremes> ExtremesOfMoves(const double* values, int count) const;
 
 private:
     int Exact(double value) const;
 
-    static constexpr double kNearEdge = 1e-6;
+    static constexpr double kNearEdge = 1e-6; ///< rows; closer to an edge the exact way is taken
 
     const LinearMap& m_map;
     const PixelEdges& m_edges;
@@ -47,7 +48,7 @@ private:
     double m_rowsPerValue = 0;
     double m_rowOfMin = 0;
     double m_begin = 0;
-    double m_end = 0; ///< not above `m_begin` where only the exact way will do
+    double m_end = 0; ///< not greater than m_begin when only the exact way is valid
 };
 
 } // namespace kavlix

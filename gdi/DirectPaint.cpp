@@ -1,3 +1,4 @@
+// Finds the memory behind a DC, and checks once that the direct strokes have GDI's own pixels.
 #include "gdi/DirectPaint.h"
 
 #include <algorithm>
@@ -14,10 +15,10 @@ namespace kavlix {
 namespace {
 
 constexpr int kBits = 32;
-constexpr COLORREF kPlainColours = 0x00FFFFFF;
+constexpr COLORREF kColourBits = 0x00FFFFFF; // of a COLORREF: red, green and blue
 
 struct Pixels {
-    std::uint32_t* memory; ///< the row that lies first
+    std::uint32_t* memory; ///< the row that comes first in memory
     std::ptrdiff_t stride;
     Rect bounds;
 };
@@ -33,8 +34,8 @@ std::optional<Pixels> PixelsOf(HBITMAP bitmap) {
                   {0, 0, static_cast<int>(section.dsBm.bmWidth), static_cast<int>(section.dsBm.bmHeight)}};
 }
 
-/// The pixel (0, 0), null when it cannot be found. Which row comes first in memory cannot be asked of GDI: a
-/// pixel is changed, looked for where GDI reads it, and put back.
+/// The pixel (0, 0); null when it cannot be found. GDI does not tell whether the top or the bottom row comes
+/// first in memory. So this function changes a pixel in memory, reads it through GDI, and restores it.
 std::uint32_t* FindOrigin(HDC dc, const Pixels& pixels, const Rect& clip) {
     const POINT probe = {clip.left, clip.top};
     POINT logical = probe;
@@ -45,13 +46,13 @@ std::uint32_t* FindOrigin(HDC dc, const Pixels& pixels, const Rect& clip) {
     if (back.x != probe.x || back.y != probe.y || before == CLR_INVALID)
         return nullptr;
     std::uint32_t& pixel = pixels.memory[pixels.stride * probe.y + probe.x];
-    pixel ^= kPlainColours;
+    pixel ^= kColourBits;
     const bool isTopFirst = ::GetPixel(dc, logical.x, logical.y) != before;
-    pixel ^= kPlainColours;
+    pixel ^= kColourBits;
     return isTopFirst ? pixels.memory : pixels.memory + pixels.stride * (pixels.bounds.Height() - 1);
 }
 
-/// False when the DC is clipped to something else than a rectangle; `clip` in device units.
+/// Limits `clip`, in device pixels, to the DC's clip region. False when this region is not a rectangle.
 bool IntersectWithClip(HDC dc, Rect& clip) {
     CRgn region;
     if (!region.CreateRectRgn(0, 0, 0, 0) || ::GetMetaRgn(dc, region) == 1)
@@ -67,12 +68,13 @@ bool IntersectWithClip(HDC dc, Rect& clip) {
     return true;
 }
 
-/// Paints the same strokes and rectangles both ways, once, and compares: the rounding is the platform's own.
+/// Paints the same strokes and rectangles by GDI and by PixelRaster, and compares the pixels. GDI's rounding
+/// differs between systems, so direct painting is used only where this comparison succeeds.
 class Comparison {
 public:
     bool PaintsAlike() {
         Scratch scratch(kSide);
-        // A pen of no width, and pens of some width that come to one pixel.
+        // All these pens are one pixel wide: their widths are 0, 2/3 of a pixel and 4/3 of a pixel.
         CPen pens[kPens];
         CBrush brush;
         for (int i = 0; i < kPens; ++i)
@@ -95,7 +97,7 @@ private:
         std::vector<std::uint32_t> own(kSide * kSide);
         PixelRaster raster(own.data(), kSide, {0, 0, kSide, kSide});
         const std::uint32_t colour = *DirectColour(kColour);
-        // Ends inside and outside the picture, on pixels and between them, in all directions.
+        // Ends inside and outside the picture, on and between pixel positions, in all directions.
         for (int i = 0; i < 96; ++i) {
             POINT ends[2] = {{kUnitsPerPixel * 24 + i % 5 * 4, kUnitsPerPixel * 24 - i % 7 * 3},
                              {kUnitsPerPixel * (24 + (i * 37 + 5) % 61 - 30) + i % 3 * 7,
@@ -154,7 +156,7 @@ std::optional<PixelRaster> DirectRaster(const CDC& dc) {
         return std::nullopt;
     if (clip.left >= clip.right || clip.top >= clip.bottom)
         return PixelRaster(pixels->memory, pixels->stride, {0, 0, 0, 0});
-    ::GdiFlush(); // what was asked of GDI before comes first
+    ::GdiFlush(); // earlier GDI calls must reach the memory first
     std::uint32_t* origin = FindOrigin(handle, *pixels, clip);
     if (origin == nullptr)
         return std::nullopt;
@@ -162,14 +164,15 @@ std::optional<PixelRaster> DirectRaster(const CDC& dc) {
 }
 
 std::optional<std::uint32_t> DirectColour(COLORREF colour) {
-    if ((colour & ~kPlainColours) != 0)
+    if ((colour & ~kColourBits) != 0)
         return std::nullopt;
     return static_cast<std::uint32_t>(GetRValue(colour)) << 16 |
            static_cast<std::uint32_t>(GetGValue(colour)) << 8 | GetBValue(colour);
 }
 
 bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, PixelEdges& rows) {
-    // A pixel begins half a pixel before its own place, give or take the rounding of that half.
+    // A pixel begins half a pixel before its position. GDI may round this border by one logical unit in
+    // either direction, so three candidates are converted for each border.
     constexpr int kCandidates = 3;
     const CPoint origin = dc.GetViewportOrg();
     const int count = std::max(device.Width(), device.Height()) + 1;
@@ -209,8 +212,8 @@ bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, Pix
 }
 
 Rect FilledByRectangle(const POINT& corner, const POINT& opposite) {
-    // Right and bottom edge belong to the outline, which that pen does not draw, and the interior ends
-    // before it.
+    // The right and bottom edges belong to the outline. The null pen does not draw the outline, and the
+    // interior ends one pixel before it.
     return {static_cast<int>(std::min(corner.x, opposite.x)),
             static_cast<int>(std::min(corner.y, opposite.y)),
             static_cast<int>(std::max(corner.x, opposite.x)) - 1,

@@ -1,3 +1,4 @@
+// Direct access to the pixels behind a DC, for painting without a GDI call per stroke.
 #pragma once
 
 #include <afxwin.h>
@@ -7,34 +8,34 @@
 #include "plot/PixelEdges.h"
 #include "plot/PixelRaster.h"
 
-/// Painting pixels without a GDI call for each stroke.
 namespace kavlix {
 
-/// What becomes of strokes on a DC.
+/// How a DC treats strokes.
 enum class StrokeKind {
-    Pixels,   ///< pixels at once, which replace what is there: strokes that change no pixel may be left out
-    Recorded, ///< a metafile or printer keeps them, in units finer than its pixels; they replace what is
-              ///< there
-    Mixed     ///< they are mixed with what is there, or drawn by other rules: each stroke counts
+    Pixels,   ///< it paints pixels at once: strokes that change no pixel may be left out
+    Recorded, ///< a metafile or printer stores them, in units finer than a pixel
+    Mixed     ///< a raster operation or transform is set: every stroke must be drawn
 };
 StrokeKind KindOfStrokes(const CDC& dc);
 
-/// Whether `dc` paints pixels at once, by whatever rules, in the controls' own mapping or another without a
-/// transform.
+/// Whether `dc` paints pixels at once: a screen or memory DC without world transform. Any mapping mode and
+/// raster operation may be set.
 bool PaintsPixels(const CDC& dc);
 
-/// The pixels that `dc` paints into, clipped as it is: where they lie in memory, have 32 bits each and the
-/// platform would paint the same ones. None where GDI must be asked.
+/// The pixels that `dc` paints into, limited to its clip region. Empty when the caller must paint through
+/// GDI: for bitmaps whose pixels are not in memory or do not have 32 bits, for clip regions that are not a
+/// rectangle, for DCs whose kind is not StrokeKind::Pixels, and on systems that paint other pixels than
+/// PixelRaster.
 std::optional<PixelRaster> DirectRaster(const CDC& dc);
 
-/// `colour` as such a pixel holds it; none for a colour that is not plain red, green and blue.
+/// `colour` as a 32-bit pixel stores it. Empty for palette colours, which are not plain red, green and blue.
 std::optional<std::uint32_t> DirectColour(COLORREF colour);
 
-/// Where the pixels of `device` begin in logical units, in both directions, as `dc` rounds. False when it has
-/// another mapping than the controls' own.
+/// Finds the borders of the pixels of `device` in logical units, with the rounding that `dc` uses. False when
+/// the DC does not have the controls' own mapping; see SetControlMapping.
 bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, PixelEdges& rows);
 
-/// The pixels that a rectangle between two corners in device units fills under the null pen.
+/// The pixels that CDC::Rectangle fills between two corners, in device pixels, with the null pen selected.
 Rect FilledByRectangle(const POINT& corner, const POINT& opposite);
 
 } // namespace kavlix

@@ -1,3 +1,4 @@
+// Learns the dots of GDI's dotted pen from trial lines, and draws them directly.
 #include "gdi/DottedPen.h"
 
 #include <algorithm>
@@ -19,13 +20,13 @@ struct TrialLine {
     CPoint step;
     int length;
 };
-// In all directions, from inside and from outside; the first shows all its pixels.
+// Lines in all four directions. Some begin outside the picture. The first line lies inside it completely.
 const TrialLine kTrials[] = {
     {{3, 7}, {1, 0}, 60},    {{60, 10}, {-1, 0}, 57}, {{-7, 13}, {1, 0}, 90},  {{80, 15}, {-1, 0}, 90},
     {{10, 60}, {0, -1}, 57}, {{13, 2}, {0, 1}, 60},   {{19, 90}, {0, -1}, 95}, {{23, -8}, {0, 1}, 95},
 };
 
-/// The shortest run of dots that `dots` repeats.
+/// The shortest sequence that `dots` consists of repetitions of; empty when there is none.
 std::vector<bool> PeriodOf(std::vector<bool> dots) {
     for (int period = 1; period <= kLongestPeriod; ++period) {
         if (std::equal(dots.begin() + period, dots.end(), dots.begin())) {
@@ -36,8 +37,8 @@ std::vector<bool> PeriodOf(std::vector<bool> dots) {
     return {};
 }
 
-/// Which pixels of a dotted line the platform paints, from the first one on: one period, the same wherever
-/// the line begins and in whichever direction it goes. Empty when there is no such rule.
+/// One period of GDI's dotted pen, from the first pixel of a line on; true for painted pixels. Empty when the
+/// trial lines do not all show the same period.
 std::vector<bool> LearnDots() {
     Scratch scratch(kSide);
     CPen pen;
@@ -97,7 +98,7 @@ bool DottedPen::Draw(const CPoint& from, const CPoint& to) const {
     m_dc.LPtoDP(ends, 2);
     if (ends[0].x != ends[1].x && ends[0].y != ends[1].y)
         return false;
-    ::GdiFlush(); // what was asked of GDI before comes first
+    ::GdiFlush(); // earlier GDI calls must reach the memory first
     m_raster->Dots(ToPoint(ends[0]), ToPoint(ends[1]), m_dots, *m_colour);
     return true;
 }

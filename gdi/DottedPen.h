@@ -1,3 +1,4 @@
+// The dotted pen of grid lines.
 #pragma once
 
 #include <afxwin.h>
@@ -9,27 +10,28 @@
 
 namespace kavlix {
 
-/// The pen of grid lines: dotted, one pixel wide, transparent between the dots. GDI walks a dotted line dot
-/// by dot, which takes a third of an empty picture; where pixels lie in memory, upright and level lines are
-/// painted there directly, dot for dot as GDI does.
+/// The pen of grid lines: dotted, one pixel wide, transparent between the dots. GDI is slow with dotted
+/// lines: a grid takes it a third of the time of an empty graph. So vertical and horizontal lines are painted
+/// directly into the pixels where that is possible, with the same dots.
 class DottedPen {
 public:
-    /// For lines on `dc`, which must outlive this object with its clip and mapping unchanged.
+    /// A pen for lines on `dc`. The DC must outlive this object and keep its clip region and mapping.
     DottedPen(CDC& dc, COLORREF colour);
 
-    /// Draws a line directly and tells whether it could. Where not, select Pen and draw it by GDI.
+    /// Draws a line directly, in logical units. False when that is not possible: the caller then selects Pen
+    /// and draws the line by GDI.
     bool Draw(const CPoint& from, const CPoint& to) const;
-    /// Whether Draw draws upright lines.
+    /// Whether Draw can draw vertical lines.
     bool IsDirect() const { return m_raster.has_value(); }
-    /// Draws upright lines from `from` to `to`, in logical units, in each of some device columns; only where
-    /// IsDirect. Takes far less time than the lines one by one.
+    /// Draws vertical lines from `from` to `to`, in logical units, one in each of the device columns
+    /// `columns`. Only when IsDirect. Much faster than Draw for each line.
     void DrawColumns(const std::vector<int>& columns, int from, int to) const;
     CPen& Pen() { return m_pen; }
 
 private:
     CDC& m_dc;
     CPen m_pen;
-    const DotPattern& m_dots; ///< without period where GDI must be asked
+    const DotPattern& m_dots; ///< with period 0 when GDI must draw the dots
     std::optional<PixelRaster> m_raster;
     std::optional<std::uint32_t> m_colour;
 };

@@ -1,14 +1,17 @@
+// Scope guards for the state of a DC.
 #pragma once
 
 #include <afxwin.h>
 
-/// Scope guards: each makes one change to a DC and takes it back at the end of the scope, also when something
-/// throws. Declare a guard after the objects it selects, so that nothing is deleted while it is selected.
+/// Each guard makes one change to a DC and undoes this change at the end of the scope, also after an
+/// exception. Declare a guard after the objects that it selects: then no object is deleted while it is
+/// selected.
 namespace kavlix {
 
-/// Selects an object into `dc`; a null object is passed over. A CDC is two DCs where its host has set an
-/// attribute DC (a print preview, a metafile): one is drawn on, the other answers questions. Both get the
-/// object, as CDC::SelectObject does, so that texts are measured with the font that they are drawn with.
+/// Selects an object into `dc`; does nothing for a null object. A CDC can hold two DCs: for print previews
+/// and metafiles the host sets a separate attribute DC, which answers queries such as the size of a text. The
+/// object is selected into both, as CDC::SelectObject does, so that texts are measured with the font that
+/// draws them.
 inline void Select(CDC& dc, HGDIOBJ object) {
     if (object == nullptr)
         return;
@@ -21,8 +24,8 @@ inline void Select(CDC& dc, const CGdiObject& object) {
     Select(dc, object.GetSafeHandle());
 }
 
-/// Selects an object; the one selected before comes back at the end. A null object leaves the DC as it is, so
-/// that painting goes on with what is there when GDI runs out of objects.
+/// Selects an object, and at the end the previous one. A null object changes nothing: when GDI cannot make a
+/// pen or font, painting continues with the selected one.
 class SelectGuard {
 public:
     SelectGuard(CDC& dc, HGDIOBJ object)
@@ -32,7 +35,7 @@ public:
     SelectGuard& operator=(const SelectGuard&) = delete;
 
 private:
-    /// The selection in one of a CDC's two DCs.
+    /// The selection in one of the two DCs of a CDC.
     class Selected {
     public:
         Selected(HDC dc, HGDIOBJ object)
@@ -54,7 +57,7 @@ private:
     Selected m_attributes;
 };
 
-/// Selects a stock object at the end of the scope, in place of whatever was selected meanwhile.
+/// Selects a stock object at the end of the scope, so that objects selected in between can be deleted.
 class StockAfterGuard {
 public:
     StockAfterGuard(CDC& dc, int stockObject) : m_dc(dc), m_stockObject(stockObject) {}
@@ -67,7 +70,7 @@ private:
     int m_stockObject;
 };
 
-/// Lets a DC without attribute DC, such as CMetaFileDC makes, answer questions through its output DC.
+/// Makes the output DC of a CDC its attribute DC when there is none, as in a CMetaFileDC.
 class AttribDcGuard {
 public:
     explicit AttribDcGuard(CDC& dc) : m_dc(dc), m_isAdded(dc.m_hAttribDC == nullptr) {
@@ -86,7 +89,7 @@ private:
     bool m_isAdded;
 };
 
-/// Saves the whole state of a DC and restores it.
+/// Saves the whole state of a DC, and restores it at the end.
 class SavedDcGuard {
 public:
     explicit SavedDcGuard(CDC& dc) : m_dc(dc), m_state(dc.SaveDC()) {}
@@ -102,7 +105,7 @@ private:
     int m_state;
 };
 
-/// Brings background mode, text colour and text alignment back.
+/// Restores background mode, text colour and text alignment.
 class TextSettingsGuard {
 public:
     explicit TextSettingsGuard(CDC& dc)
@@ -122,7 +125,7 @@ private:
     UINT m_align;
 };
 
-/// Clips to what `outer` holds of a rectangle in device units; at the end to `outer` again.
+/// Clips to the part of a rectangle, in device pixels, that lies inside `outer`; at the end to `outer` again.
 class ClipGuard {
 public:
     ClipGuard(CDC& dc, const CRect& device, CRgn& outer) : m_dc(dc), m_outer(outer) {

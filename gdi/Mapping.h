@@ -1,12 +1,14 @@
+// The controls' own mapping mode, and conversions between logical units and device pixels.
 #pragma once
 
 #include <afxwin.h>
 
 namespace kavlix {
 
+/// Logical units per pixel in the controls' own mapping.
 inline constexpr int kUnitsPerPixel = 30;
 
-/// The controls' own mapping: 30 logical units per pixel, y downwards, all origins 0.
+/// Sets the controls' own mapping: kUnitsPerPixel logical units per pixel, y downwards, all origins 0.
 inline void SetControlMapping(CDC& dc) {
     constexpr int kViewportExtent = 500;
     constexpr int kWindowExtent = kViewportExtent * kUnitsPerPixel;
@@ -17,8 +19,8 @@ inline void SetControlMapping(CDC& dc) {
     dc.SetViewportOrg(0, 0);
 }
 
-/// A window's DC in that mapping, to convert coordinates with. It asks for no memory, so that what only
-/// repaints cannot fail.
+/// Converts coordinates with a window's DC in the controls' own mapping. This class allocates no memory, so
+/// operations that only repaint cannot fail here.
 class WindowUnits {
 public:
     explicit WindowUnits(HWND window) : m_window(window), m_dc(::GetDC(window)) {
@@ -33,7 +35,7 @@ public:
     WindowUnits(const WindowUnits&) = delete;
     WindowUnits& operator=(const WindowUnits&) = delete;
 
-    /// Without a DC nothing is converted.
+    /// False without a DC: the conversions return their argument then.
     bool IsReady() const { return m_dc != nullptr; }
     CPoint ToLogical(CPoint device) const {
         ::DPtoLP(m_dc, &device, 1);
@@ -59,8 +61,8 @@ inline CRect ToDevice(const CDC& dc, CRect logical) {
     return logical;
 }
 
-/// A rectangle in logical units as the device rectangle that holds all its pixels, its right and bottom edge
-/// included.
+/// The smallest device rectangle that contains all pixels of a rectangle in logical units, including the
+/// pixels of the right and bottom edges.
 inline CRect ToDeviceWithEdges(const CDC& dc, const CRect& logical) {
     CRect device = ToDevice(dc, logical);
     ++device.right;
@@ -68,8 +70,8 @@ inline CRect ToDeviceWithEdges(const CDC& dc, const CRect& logical) {
     return device;
 }
 
-/// The first position right of `x` that lies in another column of pixels; at the latest the one behind a
-/// pixel of the controls' own mapping.
+/// The first position to the right of `x` in another pixel column, in logical units. At most kUnitsPerPixel +
+/// 1 units away, also when a pixel of the DC is larger.
 inline int NextColumn(const CDC& dc, int x) {
     POINT places[kUnitsPerPixel + 2];
     int count = 0;
@@ -82,7 +84,7 @@ inline int NextColumn(const CDC& dc, int x) {
     return x + next;
 }
 
-/// The bounds of the clip region that is selected, in logical units; everything where there is none.
+/// The bounding box of the selected clip region, in logical units; a very large box without a clip region.
 inline CRect ClipBounds(const CDC& dc) {
     constexpr int kFar = 1 << 29;
     CRgn region;
@@ -95,7 +97,7 @@ inline CRect ClipBounds(const CDC& dc) {
     return logical;
 }
 
-/// The part of a rectangle in logical units that lies within the clip.
+/// The part of a rectangle, in logical units, that lies inside ClipBounds.
 inline CRect ClippedPart(const CDC& dc, const CRect& logical) {
     CRect part;
     part.IntersectRect(logical, ClipBounds(dc));

@@ -1,3 +1,4 @@
+// The shape of each marker type.
 #include "gdi/Markers.h"
 
 #include <initializer_list>
@@ -20,7 +21,7 @@ bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y, int half, int 
     const int top = y - half;
     const int right = x + half;
     const int bottom = y + half;
-    const int base = y + half * 2 / 3; // the triangle's middle is the point
+    const int base = y + half * 2 / 3; // the data point lies in the middle of the triangle
     switch (type) {
     case CDataset::MarkerSquare:
         dc.Rectangle(left, top, right + beyond, bottom + beyond);
@@ -40,7 +41,7 @@ bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y, int half, int 
         return true;
     case CDataset::MarkerNone:
     case CDataset::MarkerTypeCount:
-        break; // no default: the compiler asks for the shape of a new type
+        break; // no default label, so the compiler warns when a new type has no case
     }
     return false;
 }

@@ -1,3 +1,4 @@
+// The markers at the points of a series.
 #pragma once
 
 #include <afxwin.h>
@@ -6,14 +7,15 @@
 
 namespace kavlix {
 
-/// Whether there is anything to draw for `type`; MarkerNone and unknown types have no shape.
+/// Whether `type` has a shape to draw. MarkerNone and unknown types have none.
 inline bool HasShape(CDataset::MarkerType type) {
     return type > CDataset::MarkerNone && type < CDataset::MarkerTypeCount;
 }
 
-/// Draws a marker round a point with the pen that is selected, `half` logical units to every side. GDI leaves
-/// out the last pixel of a box or stroke at right and bottom: `beyond`, the size of a pixel, adds it, 0 does
-/// not. Uses the NULL_BRUSH that the caller has selected. False, and nothing drawn, without a shape.
+/// Draws a marker around the point `x`, `y` with the selected pen. The marker extends `half` logical units to
+/// every side. GDI does not draw the last pixel of a box or stroke at the right and bottom: pass the size of
+/// a pixel as `beyond` to draw it, 0 otherwise. The caller has selected NULL_BRUSH. False, and nothing drawn,
+/// when `type` has no shape.
 bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y, int half, int beyond);
 
 } // namespace kavlix

@@ -1,3 +1,4 @@
+// Makes the bitmap of an off-screen surface.
 #include "gdi/Offscreen.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Where memory that has run out stops being an exception: in operations that promise their host a result.
+// Turns exceptions for lack of memory into results, for operations that return one to their host.
 #pragma once
 
 #include <afxwin.h>
@@ -8,9 +8,8 @@
 
 namespace kavlix {
 
-/// Runs `action`; false when memory or GDI's objects run out in it. The class library throws
-/// CMemoryException* and CResourceException* then, the C++ library exceptions of its own: none of these
-/// leaves.
+/// Runs `action`. False when memory or GDI objects run out in it: the class library throws CMemoryException*
+/// and CResourceException* then, and the C++ library its own exceptions. This function catches all of them.
 template <class Action> bool WithinResources(Action action) {
     try {
         action();
@@ -25,14 +24,14 @@ template <class Action> bool WithinResources(Action action) {
     return false;
 }
 
-/// Runs `action`, whose result it returns; false when memory or GDI's objects run out in it.
+/// Runs `action` and returns its result. False when memory or GDI objects run out in it.
 template <class Action> bool UnlessRefused(Action action) {
     bool result = false;
     return WithinResources([&] { result = action(); }) && result;
 }
 
-/// Runs `append`. When memory runs out in it, the class library's own message box says so, and the result is
-/// FALSE; no such exception leaves.
+/// Runs `append`. When memory runs out in it, shows the class library's message box about that and returns
+/// FALSE.
 template <class Append> BOOL ReportingExhaustion(Append append) {
     if (WithinResources(append))
         return TRUE;

@@ -1,4 +1,4 @@
-// Enhanced metafiles: drawn, and handed over to the clipboard.
+// Enhanced metafiles and the clipboard.
 #pragma once
 
 #include <afxwin.h>
@@ -7,25 +7,27 @@
 
 namespace kavlix {
 
-/// The description of the controls' metafiles. One text instead of the usual two: the second is empty, and
-/// the literal's own zero ends the list. A reader of two texts finds all the zeros that it looks for.
+/// The description string of the controls' metafiles: the program's name, an empty picture name, and the zero
+/// that ends the list. The literal's own zero is the third one.
 constexpr char kPictureDescription[] = "Ruvex Trace\0\0";
 
-/// A metafile in the making, with the description above. It is deleted at the end unless Release() gave it
-/// away.
+/// An enhanced metafile with the description above. The destructor deletes the metafile, unless Release has
+/// passed it to the caller.
 class MetafilePicture {
 public:
-    /// `frame` in hundredths of a millimetre; null for what is drawn. The reference device is the screen when
-    /// `reference` is null.
+    /// `frame` is the picture's frame in hundredths of a millimetre; null for the bounding box of what is
+    /// drawn. `reference` is the reference device; null for the screen.
     explicit MetafilePicture(HDC reference = nullptr, const RECT* frame = nullptr);
     ~MetafilePicture();
     MetafilePicture(const MetafilePicture&) = delete;
     MetafilePicture& operator=(const MetafilePicture&) = delete;
 
-    /// Draws; false when the metafile cannot be made. What `draw` throws leaves.
+    /// Calls `draw` with the metafile's DC, once. False when GDI cannot make the metafile. Exceptions of
+    /// `draw` leave this function.
     bool Draw(const std::function<void(CDC&)>& draw);
+    /// The finished metafile, which this object owns; null before Draw.
     HENHMETAFILE Get() const { return m_picture; }
-    /// The picture, which is the caller's now.
+    /// The finished metafile, which the caller owns from now on.
     HENHMETAFILE Release();
 
 private:
@@ -33,11 +35,11 @@ private:
     HENHMETAFILE m_picture = nullptr;
 };
 
-/// Draws a metafile and puts it on the clipboard. False, the clipboard untouched, when memory or GDI's
-/// objects run out. A clipboard held by somebody else is not detected.
+/// Draws a metafile and puts it on the clipboard. False, and the clipboard unchanged, when memory or GDI
+/// objects run out. True also when another program holds the clipboard open and refuses the picture.
 bool CopyPicture(CWnd& owner, const RECT* frame, const std::function<void(CDC&)>& draw);
 
-/// Hands a picture over to the clipboard in place of its content; deletes it when the clipboard takes none.
+/// Replaces the content of the clipboard by `picture`. Deletes `picture` when the clipboard does not take it.
 void PutOnClipboard(CWnd& owner, HENHMETAFILE picture);
 
 } // namespace kavlix

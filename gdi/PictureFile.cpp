@@ -1,3 +1,4 @@
+// Encodes pictures by GDI+ or as metafiles, and writes them to a file.
 #include "gdi/PictureFile.h"
 
 #include <algorithm>
@@ -5,7 +6,7 @@
 #include <string>
 #include <vector>
 
-// GDI+ names min and max as if they were macros.
+// The GDI+ headers call min and max without a namespace.
 #include <objidl.h>
 namespace Gdiplus {
 using std::max;
@@ -24,7 +25,7 @@ namespace {
 
 constexpr WORD kBitsPerPixel = 24;
 
-/// GDI+ for as long as it is needed.
+/// Starts GDI+, and shuts it down at the end.
 class GdiPlus {
 public:
     GdiPlus() {
@@ -45,7 +46,7 @@ private:
     bool m_started = false;
 };
 
-/// A stream of bytes in memory.
+/// A COM stream in memory.
 class MemoryStream {
 public:
     MemoryStream() {
@@ -60,7 +61,7 @@ public:
     MemoryStream& operator=(const MemoryStream&) = delete;
 
     IStream* Get() const { return m_stream; }
-    /// All bytes; none when they cannot be read.
+    /// All bytes of the stream; empty when they cannot be read.
     std::vector<BYTE> Bytes() const {
         STATSTG status = {};
         if (m_stream->Stat(&status, STATFLAG_NONAME) != S_OK ||
@@ -81,7 +82,7 @@ bool FindEncoder(const WCHAR* mimeType, CLSID& id) {
     UINT bytes = 0;
     if (Gdiplus::GetImageEncodersSize(&count, &bytes) != Gdiplus::Ok || bytes == 0)
         return false;
-    // The encoders' texts stand behind their records in the same block.
+    // GDI+ writes the encoders' strings behind their records, so the block is larger than the records.
     std::vector<Gdiplus::ImageCodecInfo> block(bytes / sizeof(Gdiplus::ImageCodecInfo) + 1);
     if (Gdiplus::GetImageEncoders(count, bytes, block.data()) != Gdiplus::Ok)
         return false;
@@ -147,7 +148,7 @@ std::wstring ToWide(const char* text) {
     return wide;
 }
 
-/// A name in the same folder that no file has yet, and the file of that name.
+/// Creates a file with an unused name in the folder of `path`. `name` receives its name.
 HANDLE MakeFileBeside(const std::wstring& path, std::wstring& name) {
     constexpr unsigned kMostTries = 1000;
     const std::size_t folderEnd = path.find_last_of(L"\\/:");
@@ -183,7 +184,7 @@ bool PutInPlace(const std::wstring& path, const std::vector<BYTE>& bytes) {
 } // namespace
 
 bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& draw) {
-    constexpr int kLongestSide = 32767; // what GDI makes bitmaps of, and what keeps their size in 32 bits
+    constexpr int kLongestSide = 32767; // pixels; GDI makes no larger bitmaps, and sizes in bytes fit 32 bits
     if (size.cx <= 0 || size.cy <= 0 || size.cx > kLongestSide || size.cy > kLongestSide)
         return false;
     return UnlessRefused([&] {

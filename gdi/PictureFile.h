@@ -1,3 +1,4 @@
+// Saves pictures as .png, .bmp or .emf files.
 #pragma once
 
 #include <afxwin.h>
@@ -6,12 +7,13 @@
 
 namespace kavlix {
 
-/// Saves what `draw` draws, `size` pixels, as the extension of `path` says: .png, .bmp or .emf in any case.
-/// `draw` gets a DC in pixels with the picture's corner at (0, 0); the picture is white at first.
+/// Saves the picture that `draw` draws, `size` in pixels. The extension of `path` chooses the format: .png,
+/// .bmp or .emf, in upper or lower case. `path` is in the process code page. `draw` gets a DC in pixels with
+/// the picture's top left corner at (0, 0). The picture is white at first.
 ///
-/// False for another extension, an empty size, when memory runs out or when the file cannot be written. The
-/// file is written under another name beside it and takes its place when it is whole: in case of failure
-/// nothing has changed. `path` is in the process code page.
+/// False for another extension, for an empty size, when memory runs out, and when the file cannot be written.
+/// The picture is first written to a temporary file in the same folder, which then replaces `path`. So a
+/// failure leaves an existing file unchanged.
 bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& draw);
 
 } // namespace kavlix

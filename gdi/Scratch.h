@@ -1,3 +1,4 @@
+// A small picture on which GDI paints trial strokes, so that their pixels can be read.
 #pragma once
 
 #include <afxwin.h>
@@ -8,7 +9,7 @@
 
 namespace kavlix {
 
-/// A square picture of 32-bit pixels in memory, black at first, on which the platform shows how it paints.
+/// A square picture of 32-bit pixels in memory, black at first. GDI paints into it through Dc.
 class Scratch {
 public:
     explicit Scratch(int side) : m_side(side) {
@@ -26,12 +27,14 @@ public:
     Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
 
+    /// False when GDI could not make the picture; the other members must not be used then.
     bool IsReady() const { return m_pixels != nullptr; }
     CDC& Dc() { return m_dc; }
+    /// Whether the picture has a pixel at `x`, `y`.
     bool Has(int x, int y) const { return x >= 0 && x < m_side && y >= 0 && y < m_side; }
-    /// The pixels, row by row; call GdiFlush after painting.
+    /// The pixels, row by row from the top. Call GdiFlush after painting and before reading.
     const std::uint32_t* Pixels() const { return m_pixels; }
-    /// One of them, which must exist.
+    /// One pixel, for which Has must be true.
     std::uint32_t Pixel(int x, int y) const { return m_pixels[y * m_side + x]; }
 
 private:

@@ -1,10 +1,10 @@
+// Conversions between the platform-free points and rectangles and those of the class library.
 #pragma once
 
 #include <afxwin.h>
 
 #include "plot/Shapes.h"
 
-/// Between the shapes of the platform-free arithmetic and the platform's.
 namespace kavlix {
 
 inline CRect ToCRect(const Rect& rect) {

@@ -1,8 +1,8 @@
+// Identifiers of the strings in the resources of Kavlix.dll.
 #pragma once
 
-// Strings of Kavlix.dll. Hosts that show other texts put strings of the same numbers into their own
-// resources, which are searched first. Those of 5502 and 5503 are
-// kept for hosts; nothing here shows them.
+// A host can replace a text: strings with the same numbers in the host's own resources are found first. The
+// controls do not show the strings 5502 and 5503, which exist for hosts.
 #define IDS_CONFIRM_REMOVE_DATA 5501
 #define IDS_INVALID_DISPLAY_TYPE 5502
 #define IDS_INVALID_PRINT_TYPE 5503

@@ -1,3 +1,4 @@
+// Texts in the process code page, converted to UTF-16 for GDI.
 #include "gdi/Text.h"
 
 #include <algorithm>
@@ -17,8 +18,8 @@ namespace {
 
 constexpr int kMostBytesPerCharacter = 4;
 
-/// Whether a unit is a combining mark. Of a letter that has its mark in itself the platform says
-/// C3_NONSPACING too.
+/// Whether a UTF-16 unit is a combining mark. Windows reports C3_NONSPACING for letters with a built-in
+/// accent too, but then together with C3_ALPHA.
 bool IsMark(wchar_t unit) {
     WORD type = 0;
     return unit >= 0x80 && ::GetStringTypeW(CT_CTYPE3, &unit, 1, &type) &&
@@ -27,10 +28,11 @@ bool IsMark(wchar_t unit) {
 
 struct CodePoint {
     int bytes;
-    wchar_t unit; ///< the first of its UTF-16 units
+    wchar_t unit; ///< its first UTF-16 unit; 0 for a byte that is no character
 };
 
-/// The code point that `text` begins with; the code page alone knows how many bytes it takes.
+/// The first code point of `text`. The number of its bytes depends on the code page, so all numbers are
+/// tried.
 CodePoint FirstCodePoint(const char* text, int length) {
     if (static_cast<unsigned char>(*text) < 0x80)
         return {1, static_cast<wchar_t>(*text)};
@@ -41,7 +43,7 @@ CodePoint FirstCodePoint(const char* text, int length) {
     return {1, 0};
 }
 
-/// Bytes that the character at the beginning of `text` takes.
+/// The bytes of the first character of `text`, its combining marks included.
 int FirstCharacter(const char* text, int length) {
     int bytes = FirstCodePoint(text, length).bytes;
     while (bytes < length) {
@@ -53,7 +55,7 @@ int FirstCharacter(const char* text, int length) {
     return bytes;
 }
 
-/// As much of a text as GDI takes, its last character whole.
+/// The units of `text` that GDI draws: at most kLongestText, without cutting the last character.
 std::size_t DrawnUnits(const std::wstring& text) {
     if (text.size() <= kLongestText)
         return text.size();
@@ -63,8 +65,8 @@ std::size_t DrawnUnits(const std::wstring& text) {
     return end > 0 ? end : kLongestText;
 }
 
-// The single-byte calls would read a text in the font's character set; the text is in the process code page,
-// which may be UTF-8.
+/// `text` in UTF-16. The ANSI functions of GDI would read the text in the character set of the font, but the
+/// text is in the process code page, which may be UTF-8.
 std::wstring Widen(const char* text, int length) {
     const int bytes = std::min(length, (kLongestText + 1) * kMostBytesPerCharacter);
     std::wstring wide(static_cast<std::size_t>(std::max(bytes, 0)), L'\0');
@@ -120,15 +122,16 @@ CRect TextBox(const CDC& dc, int length) {
     LOGFONT font = {};
     dc.GetTextMetrics(&metrics);
     ::GetObject(::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT), sizeof font, &font);
-    // Twice the height has room for marks and for glyphs of the fonts that stand in for missing ones.
+    // Twice the height leaves space for combining marks and for glyphs of substituted fonts.
     const double height = 2.0 * metrics.tmHeight;
     const double width = std::max<double>(metrics.tmMaxCharWidth, height) * length;
-    const UINT align = dc.GetTextAlign() & TA_CENTER; // which has the bits of TA_RIGHT
+    const UINT align = dc.GetTextAlign() & TA_CENTER; // the mask of TA_LEFT, TA_RIGHT and TA_CENTER
     const double before = height + (align == TA_LEFT ? 0 : width);
     const double behind = height + (align == TA_RIGHT ? 0 : width);
     const double cosine = std::cos(font.lfEscapement * kRadiansPerTenth);
     const double sine = std::fabs(std::sin(font.lfEscapement * kRadiansPerTenth));
-    // Which way y grows is the mapping's own matter: a turned text may reach as far up as down.
+    // The direction of y depends on the mapping, so the box of a rotated text extends equally far up and
+    // down.
     const double left = (cosine < 0 ? behind : before) * std::fabs(cosine) + height * sine + 1;
     const double right = (cosine < 0 ? before : behind) * std::fabs(cosine) + height * sine + 1;
     const double upright = std::max(before, behind) * sine + height * std::fabs(cosine) + 1;

@@ -1,58 +1,59 @@
+// Fonts and texts: drawing, measuring and cutting texts of the process code page.
 #pragma once
 
 #include <afxwin.h>
 
 namespace kavlix {
 
-/// Makes a font of the controls' usual kind: upright, TrueType, rotated by `escapement` tenths of a degree.
-/// Result 0, `font` empty, when GDI cannot.
+/// Makes the font of the controls' texts: Arial, TrueType, not italic. `height` in logical units,
+/// `escapement` in tenths of a degree, `weight` an FW_ constant. 0, and `font` empty, when GDI cannot make
+/// the font.
 BOOL MakeFont(CFont& font, int height, int escapement, int weight);
 
-/// Characters of a text in the process code page: in double-byte code pages and in UTF-8 one takes several
-/// bytes, and a combining mark belongs to the character before it. Bytes that are no character count one by
-/// one.
-///
-/// Bytes that the first `characters` characters take; `length` when there are no more.
+/// The bytes of the first `characters` characters of `text`, which has `length` bytes; `length` when the text
+/// has fewer characters. A character takes several bytes in double-byte code pages and in UTF-8. A combining
+/// mark belongs to the character before it. A byte that is no character counts as one.
 int BytesOfCharacters(const char* text, int length, int characters);
-/// The most bytes, up to `bytes`, after which no character is cut.
+/// The largest number of bytes, at most `bytes`, at which `text` can be cut without cutting a character.
 int WholeCharacters(const char* text, int length, int bytes);
 
-/// UTF-16 units that GDI promises to take of a text.
+/// The largest number of UTF-16 units that GDI draws in one call.
 constexpr int kLongestText = 8192;
 
-/// Draws a text of the process code page at a reference point, as the DC's alignment says. At most the first
-/// kLongestText units are drawn; no character is cut.
+/// Draws `length` bytes of `text` at the reference point `x`, `y`, which the DC's text alignment refers to.
+/// At most kLongestText UTF-16 units are drawn; no character is cut.
 void DrawTextAt(CDC& dc, int x, int y, const char* text, int length);
 
 inline void DrawTextAt(CDC& dc, int x, int y, const CString& text) {
     DrawTextAt(dc, x, y, text, text.GetLength());
 }
 
-/// As CDC::DrawText with its DT_ flags, for a text of the process code page.
+/// Draws `text` into `rect`, as CDC::DrawText does with the DT_ flags `format`.
 void DrawTextIn(CDC& dc, CRect rect, const CString& text, UINT format);
 
-/// Width and height of one line of a text of the process code page with the DC's font, logical units; cut as
-/// DrawTextAt cuts.
+/// Width and height of a one-line text in the DC's font, in logical units. Long texts are cut as in
+/// DrawTextAt.
 CSize MeasureText(const CDC& dc, const char* text, int length);
 
 inline CSize MeasureText(const CDC& dc, const CString& text) {
     return MeasureText(dc, text, text.GetLength());
 }
 
-/// A box that a text of `length` bytes does not leave, whose reference point is 0, 0, with the DC's font and
-/// alignment, logical units: found without measuring the text.
+/// A box that contains every text of `length` bytes drawn at (0, 0) with the DC's font and text alignment, in
+/// logical units. Faster than measuring a text, and larger than necessary.
 CRect TextBox(const CDC& dc, int length);
 
-/// Width and height that DrawTextIn takes in `width` with the same flags; wider than that when a word is.
+/// Width and height of `text` when DrawTextIn draws it into `width` logical units with the same flags. The
+/// result is wider than `width` when one word is.
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format);
 
-/// Where a text is broken into two lines.
+/// The break of a text into two lines.
 struct TextBreak {
-    int width = 0; ///< of the wider line, logical units; 0 when the text holds no blank to break at
-    int at = 0;    ///< index of the blank, which belongs to neither line
+    int width = 0; ///< of the wider line, logical units; 0 when the text has no blank to break at
+    int at = 0;    ///< index of the blank at the break, which belongs to neither line
 };
 
-/// The break that leaves the narrowest lines.
+/// The break that makes the wider line as narrow as possible.
 TextBreak BreakInTwo(CDC& dc, const CString& text);
 
 } // namespace kavlix

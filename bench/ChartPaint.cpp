@@ -1,6 +1,4 @@
-// Whole repaints of the chart window: background, grid, axes, labels and a line through all points, the same
-// with a thousandth of the points in view, 13 lines thin and wide, and 13 series whose points come in random
-// order of x.
+// Repaints of the chart window: one long line, a part of it in view, 13 lines, points in random order.
 
 #include "bench/GraphSeries.h"
 
@@ -22,7 +20,7 @@ void Measure(CChartDraw& chart, int stored, int shown) {
     AddPaints(row, chart).Print();
 }
 
-/// A chart in a visible window, with the scales of the programs it is compared with.
+/// A chart in a visible window, with the same scales as in the programs of bench/run --peers.
 class ChartStage {
 public:
     explicit ChartStage(int count) : m_stage(kWidth, kHeight) {

@@ -1,3 +1,4 @@
+// Clock, quantiles, resource counts and the test window.
 #include "bench/Common.h"
 
 #include "tests/support/GdiCounter.h"

@@ -1,3 +1,4 @@
+// What all rows of the benchmark share: clock, quantiles, output lines, test window, families.
 #pragma once
 
 #include <afxwin.h>
@@ -5,20 +6,19 @@
 #include <string>
 #include <vector>
 
-/// What the rows of the benchmark share. A row family is a file of its own with a function that prints its
-/// rows; Main.cpp lists them.
+/// A family of rows is a file with a function that prints its rows. Main.cpp lists the families.
 namespace bench {
 
-/// Microseconds from a fixed moment on.
+/// The time in microseconds since a fixed moment.
 double Now();
 
-/// The value that `share` (0 to 1) of the values lie below, 0 when there is none. Reorders them. The median
-/// tells what is usual; the tenth, what it costs when nobody else uses the machine.
+/// The value below which `share` (0 to 1) of `values` lie; 0 without values. Changes the order of `values`.
+/// The median is the usual time; kTenth gives the time without other load on the machine.
 double Quantile(std::vector<double>& values, double share);
 inline constexpr double kMedian = 0.5;
 inline constexpr double kTenth = 0.1;
 
-/// What this process holds.
+/// The resources of this process.
 struct Holdings {
     int gdi;     ///< GDI objects
     int user;    ///< windows and menus
@@ -48,10 +48,10 @@ public:
     ~Stage() override;
 };
 
-/// Handles every message that waits.
+/// Handles all messages in the queue.
 void Pump();
 
-/// The families.
+/// The families. Each function prints its rows.
 void ScrollReplay();
 void ScrollLive();
 void GraphPaint(int count);

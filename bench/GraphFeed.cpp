@@ -1,4 +1,4 @@
-// Samples coming in and going out: 13 datasets by themselves, and through the control.
+// Adding and removing samples: in 13 datasets directly, and through the control.
 
 #include "bench/GraphSeries.h"
 
@@ -25,7 +25,7 @@ std::vector<std::vector<double>> Sources() {
     return sources;
 }
 
-/// Samples a second of `add(series, value)`, which is called for one index after another.
+/// The rate of `add(series, value)` in samples per second; the function is called for each index in turn.
 template <class Add> double Rate(const std::vector<std::vector<double>>& sources, Add add) {
     const double begin = Now();
     for (std::size_t k = 0; k < kStored; ++k)
@@ -85,8 +85,8 @@ void GraphSteady() {
             step(k);
         rates.push_back(kBatch * kMicrosecondsPerSecond / (Now() - begin));
     }
-    // The longest step; and, as the machine interrupts everybody now and then, the longest pause of a loop
-    // that does nothing.
+    // The longest step. For comparison the longest pause of a loop that does nothing, since the system
+    // interrupts every program from time to time.
     std::vector<double> longest;
     std::vector<double> pauses;
     for (int run = 0; run < kRuns; ++run) {

@@ -1,4 +1,4 @@
-// What the length of the history does to each step, and a day of readings on a live page.
+// The time of a step for histories of different length, and a day of readings on a live page.
 
 #include "bench/GraphSeries.h"
 
@@ -15,16 +15,15 @@ constexpr int kRepeats = 15;
 constexpr int kWarm = 2;
 constexpr int kLoads = 3;
 constexpr int kSizes[] = {1000, 10000, 100000, 1000000, 10000000};
-constexpr double kSlow = 0.9999; // one of ten thousand
+constexpr double kSlow = 0.9999; // quantile: one step of ten thousand is slower
 constexpr double kNanosecondsPerMicrosecond = 1e3;
 
-/// What each step of a work costs at least: the work is done several times, and of each step the fastest time
-/// counts. What the work itself needs comes again at the same step; what other programs take from it does
-/// not.
+/// The shortest time of each step over several runs of the same work. Time that the work itself needs appears
+/// in every run at the same step; interruptions by other programs do not.
 class Steps {
 public:
     explicit Steps(int count) : m_least(static_cast<std::size_t>(count), std::numeric_limits<float>::max()) {}
-    /// Step `i` took from `begin` to `end`.
+    /// Notes that step `i` began and ended at these times.
     void Take(int i, double begin, double end) {
         float& least = m_least[static_cast<std::size_t>(i)];
         least = std::min(least, static_cast<float>(end - begin));
@@ -45,13 +44,13 @@ private:
     std::vector<float> m_least;
 };
 
-/// The series of the growing graphs, made a part at a time: values are there before a step is timed.
+/// The values of the growing graphs, computed one part at a time and before the steps are timed.
 class Parts {
 public:
     static constexpr int kPart = 1000;
 
     explicit Parts(int count) : m_count(count), m_values(kSeries * kPart) {}
-    /// Makes the values from `begin` on.
+    /// Computes kPart values per series, from index `begin` on.
     void Make(int begin) {
         for (int i = 0; i < kSeries; ++i)
             for (int k = 0; k < kPart; ++k)
@@ -127,8 +126,8 @@ void Grow(int count) {
 
 constexpr int kDaySeconds = 86400;
 constexpr long kDayStart = 1700000000;
-constexpr double kLiveMinutes = 5; // in view
-constexpr int kWithBar = 2000;     // further steps with the scroll bar, which the window system draws
+constexpr double kLiveMinutes = 5; // width of the view
+constexpr int kWithBar = 2000;     // further steps with the scroll bar, which the system draws
 constexpr int kScrollBar = 100;    // its ID
 constexpr double kLimit = 20 * kMicrosecondsPerMillisecond;
 
@@ -147,7 +146,7 @@ void Feed(CScrollGraphCtrl& graph, int second, const std::vector<double>& values
         graph.AddData(i, values[static_cast<std::size_t>(second % kDaySeconds * kSeries + i)], nullptr);
 }
 
-/// What the samples of a day take, and what they take with their time stamps, in bytes a sample.
+/// Adds to `row` the memory of a day's samples in bytes per sample, without and with their time stamps.
 void MeasureMemory(const std::vector<double>& values, Row& row) {
     auto graph = std::make_unique<CScrollGraphCtrl>();
     const double before = UsedBytes();
@@ -161,7 +160,7 @@ void MeasureMemory(const std::vector<double>& values, Row& row) {
         .Add("bytes_per_sample_with_times", (UsedBytes() - before) / count);
 }
 
-/// The looks of a live page: a caption, a legend, lines at the values.
+/// Sets up a live page: a caption, a legend, grid lines at the values.
 void MakeLive(CScrollGraphCtrl& graph, CWnd& stage) {
     graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &stage, 1);
     graph.InitData();
@@ -189,7 +188,7 @@ void GraphDay() {
     row.Add("steps", kDaySeconds);
     MeasureMemory(values, row);
 
-    // The storage alone, several times; then the whole control, once.
+    // The storage alone, in several runs; then the whole control with repaints, in one run.
     Steps feeds(kDaySeconds);
     for (int run = 0; run < kLoads; ++run) {
         CScrollGraphCtrl graph;
@@ -221,7 +220,7 @@ void GraphDay() {
     for (int second = 0; second < kDaySeconds; ++second) {
         steps.push_back(step(second));
         if (steps.back() > kLimit) {
-            // The same picture once more: was it the picture, or another program's turn?
+            // Paint the same picture again, to tell a slow picture from an interruption.
             ++over;
             std::vector<double> again = Time(kLoads, 0, repaint);
             overAgain += Quantile(again, 0) > kLimit;

@@ -1,5 +1,4 @@
-// Whole repaints of the graph control, and copies to the clipboard: background, grid, axes, labels, legend
-// and 13 series.
+// Repaints of the whole graph control, and copies to the clipboard, with 13 series.
 
 #include "bench/GraphSeries.h"
 
@@ -85,7 +84,7 @@ void GraphWindow() {
     row.Print();
 }
 
-// Lines that go up and down through the view: `beyond` is how many times as high as the view.
+// Lines that go up and down across the view. Their height is `beyond` times the height of the view.
 void GraphFar() {
     constexpr int kSamples = 1000;
     constexpr int kWide = 60;

@@ -1,3 +1,4 @@
+// What the rows about the graph control share: series, picture size, and the lines of times.
 #pragma once
 
 #include "bench/Common.h"
@@ -11,8 +12,7 @@
 #include <string>
 #include <vector>
 
-/// What the rows about the graph control share: the same series, picture size and figures as the programs it
-/// is compared with.
+/// The series, picture sizes and figures are those of the programs that bench/run --peers compares with.
 namespace bench {
 
 constexpr int kSeries = CGraphCtrl::DatasetCount;
@@ -24,7 +24,7 @@ constexpr double kYMax = 3;
 constexpr double kMicrosecondsPerMillisecond = 1e3;
 constexpr double kMicrosecondsPerSecond = 1e6;
 
-/// Random numbers from -1 to 1, the same everywhere (splitmix64).
+/// Random numbers from -1 to 1, the same on every machine (splitmix64).
 class Randoms {
 public:
     explicit Randoms(std::uint64_t seed) : m_state(seed) {}
@@ -40,7 +40,8 @@ private:
     std::uint64_t m_state;
 };
 
-/// A noisy random walk of `count` samples whose picture looks alike at every count.
+/// Calls `take(i, value)` for each of `count` samples of a noisy random walk, whose picture looks similar for
+/// every count.
 template <class Take> void WalkSeries(int series, int count, Take take) {
     Randoms randoms(1234567u + 7919u * static_cast<unsigned>(series));
     const double step = 1.2 / std::sqrt(static_cast<double>(count));
@@ -59,7 +60,7 @@ inline std::vector<double> WalkValues(int series, int count) {
     return values;
 }
 
-/// Microseconds that `work` takes, `times` times after `warm` unmeasured ones.
+/// The times of `times` calls of `work` in microseconds. `warm` calls before them are not measured.
 template <class Work> std::vector<double> Time(int times, int warm, Work work) {
     for (int i = 0; i < warm; ++i)
         work();
@@ -72,7 +73,7 @@ template <class Work> std::vector<double> Time(int times, int warm, Work work) {
     return taken;
 }
 
-/// Adds median, smallest and largest of the values and how many they are.
+/// Adds the median, the smallest and the largest of the values, and their number, to `row`.
 inline Row& AddSpread(Row& row, const std::string& unit, std::vector<double> values) {
     const auto [low, high] = std::minmax_element(values.begin(), values.end());
     const double least = *low;
@@ -83,18 +84,17 @@ inline Row& AddSpread(Row& row, const std::string& unit, std::vector<double> val
         .Add("repeats", static_cast<int>(values.size()));
 }
 
-/// The control of the measurements in a visible window: 13 series with legend rows and colours.
+/// The measured control in a visible window: 13 series with legend rows and colours.
 class GraphStage {
 public:
     GraphStage();
 
     CGraphCtrl& Graph() { return m_graph; }
-    /// The whole control paints into a picture in memory: the same without the traffic with the window
-    /// system.
+    /// Paints the whole control into a picture in memory, without the window system.
     void PaintIntoMemory() { m_picture.Take(m_graph); }
-    /// Fills all series with `count` samples and gives each index a tick label.
+    /// Fills all series with `count` samples, with a tick label for each index.
     void Fill(int count);
-    /// Turns it into a bar graph of `groups` groups.
+    /// Makes the control a bar graph of `groups` groups.
     void FillBars(int groups);
 
 private:
@@ -106,7 +106,7 @@ private:
 /// The height of a bar, 0.1 to 1.
 double BarValue(int series, int group);
 
-/// Bytes of memory that this process has in use.
+/// The working set of this process in bytes.
 double UsedBytes();
 
 } // namespace bench

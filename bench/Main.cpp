@@ -1,4 +1,4 @@
-// bench [ROW...]: prints the rows of the named families, of all without a name, as lines of JSON.
+// bench [ROW...]: prints the rows of the named families as lines of JSON; of all families without a name.
 
 #include "bench/Common.h"
 

@@ -1,5 +1,4 @@
-// Whole paints of every type of the multi-type graph, beside the bars of the graph control with as many
-// values.
+// Repaints of every type of the multi-type graph, beside bars of the graph control.
 
 #include "bench/GraphSeries.h"
 
@@ -61,8 +60,8 @@ std::unique_ptr<CGraph> MakeGraph(int type, int series, int groups, CWnd& window
     return graph;
 }
 
-/// One row: the graph control's bars, and each type with `series` series of `groups` values. All take turns,
-/// so that what else the machine does meets all alike.
+/// One row: the bars of the graph control, and each graph type with `series` series of `groups` values. The
+/// measurements alternate, so that other load on the machine affects all of them equally.
 void Measure(const char* name, int series, int groups) {
     GraphStage bars;
     bars.FillBars(kGroups);
@@ -86,7 +85,7 @@ void Measure(const char* name, int series, int groups) {
     for (int repeat = 0; repeat < kRepeats; ++repeat)
         for (Painter& painter : painters) {
             const double taken = Time(1, 0, painter.paint).front();
-            if (repeat > 0) // the first one makes fonts and glyphs
+            if (repeat > 0) // the first paint makes fonts and glyphs
                 painter.times.push_back(taken);
         }
     dc.Detach();

@@ -1,3 +1,4 @@
+// The memory bitmap, and the rows' times of whole repaints.
 #include "bench/Picture.h"
 
 #include "bench/GraphSeries.h"

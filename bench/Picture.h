@@ -1,10 +1,11 @@
+// A memory picture of a control, and the measurement of whole repaints.
 #pragma once
 
 #include "bench/Common.h"
 
 namespace bench {
 
-/// A picture in memory that a control paints into by WM_PRINTCLIENT.
+/// A picture in memory. A control paints into it through WM_PRINTCLIENT.
 class Picture {
 public:
     Picture(int width, int height);
@@ -12,7 +13,7 @@ public:
     Picture(const Picture&) = delete;
     Picture& operator=(const Picture&) = delete;
 
-    /// The whole control paints: what its picture costs without the traffic with the window system.
+    /// Lets the whole control paint itself, without the window system.
     void Take(CWnd& control);
     HDC Dc() const { return m_dc; }
 
@@ -22,8 +23,8 @@ private:
     HGDIOBJ m_before;
 };
 
-/// Adds medians and minima of whole repaints of a control of kWidth x kHeight: through its window, and into
-/// memory. `name` goes before the members' names.
+/// Adds the medians and minima of whole repaints of a control of kWidth x kHeight pixels to `row`: through
+/// its window, and into memory. The members' names begin with `name`.
 Row& AddPaints(Row& row, CWnd& control, const std::string& name = "");
 
 } // namespace bench

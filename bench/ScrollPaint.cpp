@@ -1,5 +1,4 @@
-// Whole repaints of the scrolling graph: background, grid, time axis with its labels, legend and 13 series
-// with a sample a second.
+// Repaints of the whole scrolling graph, with 13 series and a sample a second.
 
 #include "bench/GraphSeries.h"
 
@@ -19,7 +18,8 @@ constexpr int kDay = 86400;
 
 class ScrollStage {
 public:
-    /// Of the time stamps `stepsBack`, evenly spread, lie a second before their predecessors.
+    /// `count` time stamps, one a second. `stepsBack` of them, evenly spread, are a second earlier than their
+    /// predecessor instead.
     explicit ScrollStage(int count, int stepsBack = 0) : m_stage(kWidth, kHeight) {
         m_graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &m_stage, 1);
         m_graph.InitData();
@@ -38,7 +38,7 @@ public:
             WalkSeries(i, count, [&](int, double value) { m_graph.AddDataForOffline(i, value, nullptr); });
         Pump();
     }
-    /// The newest `seconds` fill the view as far as samples fill it while they are followed, nine tenths.
+    /// Shows the newest `seconds`. While the view follows the newest sample, samples fill nine tenths of it.
     void Show(int seconds) {
         constexpr double filled = 0.9;
         m_graph.SetHorzRange(seconds / filled / kMinute);
@@ -110,7 +110,7 @@ void ScrollAxis() {
     graph.AddXTickLabel(kStart);
     graph.AddData(0, 1, nullptr);
     Picture picture(kWidth, kHeight);
-    picture.Take(graph); // lays out
+    picture.Take(graph); // computes the layout
     CDC dc;
     dc.Attach(picture.Dc());
     graph.SetMapModeAnisotropic(dc);

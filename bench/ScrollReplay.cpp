@@ -1,4 +1,4 @@
-// A day of live readings: a sample a second for each of 13 datasets, the last hour kept.
+// A day of live readings: a sample a second for each of 13 datasets, of which the last hour is kept.
 
 #include "bench/Common.h"
 
@@ -25,8 +25,9 @@ double Reading(int dataset, int second) {
     return middle + swing * std::sin(kTwoPi * second / period + dataset);
 }
 
-/// Microseconds of the steps of a graph that holds a million samples: a time stamp and a sample for each
-/// dataset, nothing painted. The view follows; page and position of a scroll bar stay as they are.
+/// The times, in microseconds, of steps on a graph that holds a million samples. A step adds a time stamp and
+/// a sample per dataset and paints nothing. The view follows the newest sample, and the scroll bar does not
+/// change.
 class LiveSteps {
 public:
     explicit LiveSteps(CScrollGraphCtrl& graph) : m_graph(graph) {
@@ -62,7 +63,7 @@ void ScrollLive() {
     Stage stage(800, 400);
     CScrollGraphCtrl shown;
     shown.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 800, 400), &stage, 1);
-    CScrollGraphCtrl bound; // a bound window has no bar
+    CScrollGraphCtrl bound; // bound to an existing window, so without scroll bar
     bound.SubclassWindow(::CreateWindowEx(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 0, 0, 800, 400,
                                           stage.m_hWnd, nullptr, nullptr, nullptr));
     LiveSteps with(shown);

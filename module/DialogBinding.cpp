@@ -1,3 +1,4 @@
+// DDX_GraphControl: binds a dialog item to a graph control.
 #include <kavlix/GraphCtrl.h>
 
 void DDX_GraphControl(CDataExchange* pDX, int nIDC, CGraphCtrl& control) {
@@ -6,7 +7,7 @@ void DDX_GraphControl(CDataExchange* pDX, int nIDC, CGraphCtrl& control) {
     const HWND item = pDX->PrepareCtrl(nIDC);
     if (!control.SubclassWindow(item))
         AfxThrowNotSupportedException();
-    // The item's parent is another window than the dialog when it sits in a container for ActiveX controls.
+    // In a container for ActiveX controls the item's parent is a window other than the dialog.
     if (::GetParent(item) != pDX->m_pDlgWnd->GetSafeHwnd())
         control.AttachControlSite(pDX->m_pDlgWnd);
 }

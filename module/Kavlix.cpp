@@ -1,3 +1,4 @@
+// The entry point of Kavlix.dll.
 #include <afxwin.h>
 
 #include <afxext.h>
@@ -8,8 +9,8 @@ namespace {
 
 AFX_EXTENSION_MODULE g_module = {};
 
-// Links the module's resources and classes into the chain that the host searches. The chain owns the link.
-// Without memory for it the module works, but its texts are not found.
+/// Adds the module's resources and classes to the chain of modules that the host searches. The class library
+/// owns the new link and deletes it. When memory runs out, the controls work without their texts.
 void JoinResourceChain() {
     try {
         new CDynLinkLibrary(g_module, FALSE);

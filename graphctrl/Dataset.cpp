@@ -1,17 +1,10 @@
+// CDataset: the samples of a series.
 #include <kavlix/Dataset.h>
 
 #include "gdi/OutOfMemory.h"
 #include "graphctrl/core/SampleStore.h"
 
-namespace {
-
-constexpr COLORREF kDefaultColor = RGB(204, 58, 183);
-
-} // namespace
-
-CDataset::CDataset()
-    : m_Samples(std::make_unique<kavlix::SampleStore>()), m_Color(kDefaultColor), m_MarkerType(MarkerNone),
-      m_LineSize(0), m_Visible(TRUE) {
+CDataset::CDataset() : m_Samples(std::make_unique<kavlix::SampleStore>()) {
 }
 
 CDataset::~CDataset() = default;

@@ -9,7 +9,7 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Text.h"
-#include "graphctrl/GraphCtrlPainters.h"
+#include "graphctrl/XTickPainter.h"
 #include "graphctrl/core/AxisTicks.h"
 #include "graphctrl/core/BarSlots.h"
 
@@ -21,8 +21,6 @@ namespace {
 constexpr int kTickLabelGap = 100;   // between axis strip and tick labels
 constexpr int kTickLabelRaise = 150; // centres a label on its tick
 constexpr int kUnitOverlap = 50;     // the unit text begins that far behind the axis line
-constexpr int kUpTextShift = 70;     // upper line of a two-line X tick label
-constexpr int kSingleTextShift = 100;
 
 constexpr UINT kUnitAlignY = TA_LEFT | TA_BOTTOM;
 constexpr UINT kUnitAlignY2 = TA_RIGHT | TA_BOTTOM;
@@ -46,41 +44,6 @@ std::string SeenPart(const CDC& dc, const std::string& text, bool isRightAligned
 }
 
 } // namespace
-
-namespace kavlix {
-
-void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop) {
-    if (gridPen != nullptr)
-        Select(dc, axisPen);
-    DrawLine(dc, x, rectAxis.bottom, x, rectAxis.top);
-    if (gridPen != nullptr && !gridPen->Draw(CPoint(x, rectAxis.top), CPoint(x, plotTop))) {
-        Select(dc, gridPen->Pen());
-        dc.LineTo(x, plotTop);
-    }
-}
-
-void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest) {
-    const auto drawTwo = [&](const CString& first, const CString& second) {
-        dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
-        DrawTextAt(dc, x + kUpTextShift, y, first);
-        dc.SetTextAlign(TA_RIGHT);
-        DrawTextAt(dc, x, y, second);
-    };
-    if (!down.IsEmpty()) {
-        drawTwo(up, down);
-    } else if (const int cut = BytesOfCharacters(up, up.GetLength(), longest); cut < up.GetLength()) {
-        CString first = up.Left(cut);
-        CString second = up.Mid(cut);
-        first.TrimRight();
-        second.TrimLeft();
-        drawTwo(first, second);
-    } else {
-        dc.SetTextAlign(TA_RIGHT | TA_BASELINE);
-        DrawTextAt(dc, x + kSingleTextShift, y, up);
-    }
-}
-
-} // namespace kavlix
 
 void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks, int nAxis) {
     const bool twoAxis = m_GraphStyle == GraphStyleTwoAxis;
@@ -154,7 +117,7 @@ void CGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks)
     TickRoom room;
     room.left = m_rectPlot.left;
     room.minGap = (rectLabel.right - rectLabel.left) / (nTicks - 1);
-    room.from = clip.left - box.right - kSingleTextShift;
+    room.from = clip.left - box.right - kSingleLineShift;
     room.to = clip.right - box.left;
     if (m_GraphStyle == GraphStyleBar)
         DrawBarTicks(dc, rectLabel, rectAxis, room);
@@ -168,9 +131,8 @@ void CGraphCtrl::DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rec
     if (m_GridX)
         gridPen.emplace(dc, m_GridColor);
     StockAfterGuard penAfter(dc, NULL_PEN);
-    const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, m_rectPlot.left, m_rectPlot.Width());
     LineTicks(
-        xMap, m_XVisibleMin, m_XVisibleMax, m_Datasets[0].GetSize(), room,
+        XMap(), m_XVisibleMin, m_XVisibleMax, m_Datasets[0].GetSize(), room,
         [&](int x) { return NextColumn(dc, x); },
         [&](int index, int x) {
             DrawXTick(dc, x, rectAxis, axisPen, gridPen ? &*gridPen : nullptr, m_rectPlot.top);

@@ -1,9 +1,11 @@
+// CGraphCtrl: the caption band and its maximize icon. The input handlers follow the press of the icon.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
 
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
+#include "gdi/OutOfMemory.h"
 #include "gdi/Text.h"
 #include "plot/Numeric.h"
 
@@ -33,15 +35,6 @@ void FillBody(CDC& dc, const CRect& rect) {
 }
 
 } // namespace
-
-void CGraphCtrl::DrawTitle(CDC& dc, int nHeight) {
-    CFont bold;
-    MakeFont(bold, nHeight, 0, FW_BOLD);
-    SelectGuard font(dc, bold);
-    dc.SetTextColor(m_TitleColor);
-    dc.SetTextAlign(TA_CENTER);
-    DrawTextAt(dc, (m_rectTitle.left + m_rectTitle.right) / 2, m_rectTitle.top, m_Title);
-}
 
 void CGraphCtrl::DrawCaption(CDC& dc) {
     if (m_hWnd == nullptr)
@@ -125,4 +118,17 @@ void CGraphCtrl::DrawIconMaximize(CDC& dc) {
         FillBar(dc, barAt(1, 1, 2), bar);
         FillBody(dc, part(1, 2, 2, 2));
     }
+}
+
+void CGraphCtrl::RepaintIcon() {
+    if (m_rectIconMaximize.IsRectEmpty())
+        return;
+    const bool painted = WithinResources([this] {
+        CClientDC dc(this);
+        SavedDcGuard saved(dc);
+        SetMapModeAnisotropic(dc);
+        DrawIconMaximize(dc);
+    });
+    if (!painted)
+        Redraw();
 }

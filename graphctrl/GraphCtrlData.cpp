@@ -45,7 +45,7 @@ BOOL CGraphCtrl::AddXTickLabel(CString up, CString down) {
 
 void CGraphCtrl::ClearSamples(CDataset& dataset) {
     dataset.RemoveAll();
-    StoreMark(-1);
+    StoreSelectionMark(-1);
 }
 
 void CGraphCtrl::ResetData(int nDataset) {
@@ -53,8 +53,23 @@ void CGraphCtrl::ResetData(int nDataset) {
         ClearSamples(m_Datasets[nDataset]);
 }
 
+void CGraphCtrl::ResetAll() {
+    for (CDataset& dataset : m_Datasets)
+        ClearSamples(dataset);
+    ResetXTickLabel();
+    ResetLegend();
+    SetTitle(kDefaultTitle);
+    SetXLabel(kDefaultXLabel);
+    SetYLabel(kDefaultYLabel);
+}
+
 int CGraphCtrl::GetDatasetSize(int nDataset) const {
     return IsDataset(nDataset) ? m_Datasets[nDataset].GetSize() : -1;
+}
+
+void CGraphCtrl::GetSizes(int (&sizes)[DatasetCount]) const {
+    for (int i = 0; i < DatasetCount; ++i)
+        sizes[i] = m_Datasets[i].GetSize();
 }
 
 BOOL CGraphCtrl::GetYData(int nDataset, int nIndex, double& y) const {
@@ -75,7 +90,7 @@ void CGraphCtrl::RemoveHeadData(int nCount) {
         dataset.RemoveYData(0, count);
     RemoveLabels(m_XTickLabelUp, count);
     RemoveLabels(m_XTickLabelDown, count);
-    StoreMark(-1);
+    StoreSelectionMark(-1);
     if (m_AutoXVisible)
         m_XVisibleMax = m_Datasets[0].GetSize() - 1 + kBehindNewest;
     RedrawData();

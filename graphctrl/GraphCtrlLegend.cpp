@@ -1,12 +1,41 @@
+// CGraphCtrl: the legend, its board and its rows.
 #include <kavlix/GraphCtrl.h>
 
 #include <cstdint>
 
 #include "gdi/Guards.h"
+#include "gdi/Mapping.h"
 #include "gdi/Text.h"
 #include "plot/Numeric.h"
 
 using namespace kavlix;
+
+namespace {
+
+constexpr int kShadowOffset = 100;  // of the board's shadow, logical units
+constexpr int kLegendClipInset = 3; // the clip region ends this many pixels left of the board's right edge
+
+} // namespace
+
+void CGraphCtrl::DrawLegendArea(CDC& dc, int right, CRgn& clientClip) {
+    CBrush board;
+    board.CreateSolidBrush(m_LegendColor);
+    StockAfterGuard brushAfter(dc, NULL_BRUSH);
+    if (m_ShowLegendBoard) {
+        dc.SelectStockObject(NULL_PEN);
+        dc.SelectStockObject(LTGRAY_BRUSH);
+        dc.Rectangle(m_rectLegend + CPoint(kShadowOffset, kShadowOffset));
+        Select(dc, board);
+        dc.Rectangle(m_rectLegend);
+    }
+    CRect area = m_rectLegend;
+    if (!m_ShowLegendBoard)
+        area.right = right;
+    CRect clip = ToDevice(dc, area);
+    clip.right -= kLegendClipInset;
+    ClipGuard legendClip(dc, clip, clientClip);
+    DrawLegend(dc);
+}
 
 void CGraphCtrl::DrawLegend(CDC& dc) {
     constexpr COLORREF kHiddenSwatch = RGB(255, 255, 255);
@@ -37,4 +66,14 @@ void CGraphCtrl::DrawLegend(CDC& dc) {
                    dataset.m_Legend);
         top += margin + side;
     }
+}
+
+int CGraphCtrl::LegendRowAt(CPoint point) const {
+    // Rows are counted by dataset, also past datasets without a legend text, which take no row on the screen.
+    const std::int64_t rowHeight = std::int64_t{m_LegendMargin} + m_LegendItemHeight;
+    std::int64_t top = std::int64_t{m_rectLegend.top} + m_LegendMargin / 2;
+    for (int i = 0; i < DatasetCount; ++i, top += rowHeight)
+        if (!m_Datasets[i].m_Legend.IsEmpty() && point.y >= top && point.y < top + rowHeight)
+            return i;
+    return -1;
 }

@@ -1,3 +1,4 @@
+// CGraphCtrl: the context menu and its commands. Copying stands with the export.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
@@ -32,7 +33,7 @@ void CGraphCtrl::OnContextGraphMenu(CPoint point) {
 
 void CGraphCtrl::InsertGraphMenu(CMenu& menu) {
     // Each item goes on top of those inserted before.
-    const UINT markState = MarkItemState();
+    const UINT markState = SelectionMarkItemState();
     const auto insert = [&](UINT command, UINT textId, UINT state) {
         if (IsMenuItem(menu, command))
             return;
@@ -47,7 +48,7 @@ void CGraphCtrl::InsertGraphMenu(CMenu& menu) {
     insert(ID_EDIT_COPY, IDS_MENU_COPY, MF_ENABLED);
 }
 
-UINT CGraphCtrl::MarkItemState() const {
+UINT CGraphCtrl::SelectionMarkItemState() const {
     return m_SelectionMarkPos < 0 ? MF_GRAYED | MF_DISABLED : MF_ENABLED;
 }
 
@@ -59,11 +60,8 @@ bool CGraphCtrl::IsMenuItem(CMenu& menu, UINT nID) {
 }
 
 void CGraphCtrl::OnHideSelectionMark() {
-    if (m_SelectionMarkPos < 0)
-        return;
-    StoreMark(-1);
-    RedrawData();
-    NotifyMarkMoved();
+    if (m_SelectionMarkPos >= 0)
+        MoveSelectionMark(-1);
 }
 
 void CGraphCtrl::OnRemoveDataBeforeSelectionMark() {

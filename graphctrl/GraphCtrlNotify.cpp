@@ -1,3 +1,4 @@
+// CGraphCtrl: the WM_NOTIFY messages to the parent.
 #include <kavlix/GraphCtrl.h>
 
 bool CGraphCtrl::Notify(NMGRAPHCTRL& record, UINT nCode) {
@@ -12,19 +13,14 @@ bool CGraphCtrl::Notify(NMGRAPHCTRL& record, UINT nCode) {
     return CWnd::FromHandlePermanent(window) == this;
 }
 
-// Tells the parent where the mark is now. The result is Notify's.
-bool CGraphCtrl::NotifyMarkMoved() {
-    if (const HWND parent = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr)
-        ::PostMessage(parent, WM_GRAPH_SELMARK, static_cast<WPARAM>(m_SelectionMarkPos), 0);
+bool CGraphCtrl::NotifySelChange() {
     NMGRAPHCTRL record = {};
     record.nIndex = m_SelectionMarkPos;
     return Notify(record, GCN_SELCHANGE);
 }
 
 void CGraphCtrl::SendSelchangeNotifyMessage() {
-    NMGRAPHCTRL record = {};
-    record.nIndex = m_SelectionMarkPos;
-    Notify(record, GCN_SELCHANGE);
+    NotifySelChange();
 }
 
 void CGraphCtrl::SendRemoveDataNotifyMessage(int nIndex, int nCount) {

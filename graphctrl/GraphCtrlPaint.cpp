@@ -1,3 +1,4 @@
+// CGraphCtrl: painting from WM_PAINT down to the parts of the picture, the layout, and what becomes invalid.
 #include <kavlix/GraphCtrl.h>
 
 #include <memory>
@@ -7,7 +8,6 @@
 #include "gdi/Mapping.h"
 #include "gdi/Offscreen.h"
 #include "gdi/ShapeConversion.h"
-#include "gdi/Text.h"
 #include "graphctrl/core/GraphLayout.h"
 
 using namespace kavlix;
@@ -15,14 +15,8 @@ using namespace kavlix;
 namespace {
 
 // Logical units.
-constexpr int kLabelFontInset = 50;    // label fonts are that much lower than a label row
 constexpr int kDataRegionAbove = 600;  // the unit texts stand above the Y bands
 constexpr int kDataRegionBeside = 900; // X tick labels may reach beyond their band
-constexpr int kShadowOffset = 100;
-constexpr int kUpwards = 900; // tenths of a degree
-constexpr int kDownwards = -900;
-// Pixels.
-constexpr int kLegendClipInset = 3;
 
 CRect LessOnePixel(const CRect& device) {
     return CRect(device.left, device.top, device.right - 1, device.bottom - 1);
@@ -88,16 +82,6 @@ void CGraphCtrl::SetMapModeAnisotropic(CDC& dc) {
     SetControlMapping(dc);
 }
 
-int CGraphCtrl::GetTitleTextHeight() {
-    if (m_hWnd == nullptr)
-        return 0;
-    CClientDC dc(this);
-    SetMapModeAnisotropic(dc);
-    CRect client;
-    GetClientRect(&client);
-    return LabelUnit(ToRect(ToLogical(dc, client)));
-}
-
 void CGraphCtrl::DrawGraph(CDC& dc) {
     if (m_hWnd == nullptr)
         return;
@@ -133,7 +117,7 @@ void CGraphCtrl::DrawGraph(CDC& dc) {
     if (m_TitleStyle != TitleStyleCaption)
         DrawTitle(dc, layout.labelUnit);
 
-    DrawLabels(dc, layout);
+    DrawAxisLabels(dc, layout);
     if (layout.HasPlot()) {
         DrawYAxis(dc, m_rectYTickLabel, m_rectYAxis, layout.yTicks, 0);
         if (m_GraphStyle == GraphStyleTwoAxis)
@@ -175,43 +159,4 @@ GraphLayout CGraphCtrl::LayOut(const CRect& client) {
     m_rectPlot = ToCRect(layout.plot);
     m_rectLegend = ToCRect(layout.legend);
     return layout;
-}
-
-void CGraphCtrl::DrawLabels(CDC& dc, const GraphLayout& layout) {
-    const int height = layout.labelUnit - kLabelFontInset;
-    const auto draw = [&](BOOL show, int escapement, COLORREF color, const Point& point,
-                          const CString& text) {
-        if (!show)
-            return;
-        CFont font;
-        MakeFont(font, height, escapement, FW_NORMAL);
-        SelectGuard selected(dc, font);
-        dc.SetTextColor(color);
-        dc.SetTextAlign(TA_CENTER);
-        DrawTextAt(dc, point.x, point.y, text);
-    };
-    draw(m_ShowYLabel, kUpwards, m_YLabelColor, layout.yLabel, m_YLabel);
-    draw(m_ShowY2Label && m_GraphStyle == GraphStyleTwoAxis, kDownwards, m_Y2LabelColor, layout.y2Label,
-         m_Y2Label);
-    draw(m_ShowXLabel, 0, m_XLabelColor, layout.xLabel, m_XLabel);
-}
-
-void CGraphCtrl::DrawLegendArea(CDC& dc, int right, CRgn& clientClip) {
-    CBrush board;
-    board.CreateSolidBrush(m_LegendColor);
-    StockAfterGuard brushAfter(dc, NULL_BRUSH);
-    if (m_ShowLegendBoard) {
-        dc.SelectStockObject(NULL_PEN);
-        dc.SelectStockObject(LTGRAY_BRUSH);
-        dc.Rectangle(m_rectLegend + CPoint(kShadowOffset, kShadowOffset));
-        Select(dc, board);
-        dc.Rectangle(m_rectLegend);
-    }
-    CRect area = m_rectLegend;
-    if (!m_ShowLegendBoard)
-        area.right = right;
-    CRect clip = ToDevice(dc, area);
-    clip.right -= kLegendClipInset;
-    ClipGuard legendClip(dc, clip, clientClip);
-    DrawLegend(dc);
 }

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "graphctrl/GraphCtrlPainters.h"
-
 BOOL CGraphCtrl::SetColor(int nDataset, COLORREF color) {
     if (!IsDataset(nDataset))
         return FALSE;
@@ -22,7 +20,7 @@ BOOL CGraphCtrl::SetColor(int nDataset, COLORREF color) {
 BOOL CGraphCtrl::SetLineSize(int nDataset, int nSize) {
     if (!IsDataset(nDataset))
         return FALSE;
-    m_Datasets[nDataset].m_LineSize = std::clamp(nSize, 0, kavlix::kWidestLine);
+    m_Datasets[nDataset].m_LineSize = std::clamp(nSize, 0, CDataset::MaxLineSize);
     return TRUE;
 }
 

@@ -7,8 +7,9 @@
 
 #include "gdi/DottedPen.h"
 #include "gdi/Guards.h"
+#include "gdi/Mapping.h"
 #include "gdi/Text.h"
-#include "graphctrl/GraphCtrlPainters.h"
+#include "graphctrl/XTickPainter.h"
 #include "graphctrl/core/AxisTicks.h"
 #include "plot/Numeric.h"
 #include "scrollgraph/ScrollGraphCtrlClock.h"
@@ -123,9 +124,10 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     const auto ticksBefore = [&](std::int64_t x) {
         return x <= begin ? 0 : spacing > 0 ? (x - begin + spacing - 1) / spacing : 1;
     };
-    const std::int64_t firstSeen = ticksBefore(std::int64_t{m_rectClient.left} * kPixel - reach);
+    const std::int64_t firstSeen = ticksBefore(std::int64_t{m_rectClient.left} * kUnitsPerPixel - reach);
     const std::int64_t endSeen = ticksBefore(
-        std::min(std::int64_t{m_rectPlot.right}, std::int64_t{m_rectClient.right} * kPixel + reach) + 1);
+        std::min(std::int64_t{m_rectPlot.right}, std::int64_t{m_rectClient.right} * kUnitsPerPixel + reach) +
+        1);
 
     std::vector<POINT> pixels;
     for (std::int64_t tick = firstSeen; tick < endSeen; ++tick)

@@ -81,7 +81,7 @@ void CScrollGraphCtrl::RemoveHeadData(int nCount) {
     for (CDataset& dataset : m_Datasets)
         dataset.RemoveYData(0, count);
     m_arrTime->RemoveHead(count);
-    StoreMark(-1);
+    StoreSelectionMark(-1);
     UpdateScrollByRemove();
     RedrawData();
 }

@@ -13,7 +13,7 @@ void CScrollGraphCtrl::InsertGraphMenu(CMenu& menu) {
         return;
     CString text;
     text.LoadString(IDS_MENU_SEND_MARK);
-    menu.AppendMenu(MarkItemState(), ID_GRAPH_SEND_SELECTION_MARK, text);
+    menu.AppendMenu(SelectionMarkItemState(), ID_GRAPH_SEND_SELECTION_MARK, text);
 }
 
 void CScrollGraphCtrl::OnSendSelectionMarkInfoToTindro() {

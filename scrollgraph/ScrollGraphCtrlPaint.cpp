@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "graphctrl/GraphCtrlPainters.h"
+#include "graphctrl/XPositions.h"
 #include "scrollgraph/core/TimeLine.h"
 #include "scrollgraph/core/TimeMap.h"
 

@@ -8,9 +8,6 @@
 
 namespace kavlix {
 
-/// Smallest distance of two ticks that can be told apart: a pixel, in logical units.
-constexpr int kPixel = 30;
-
 /// The values of a value axis' ticks, bottom to top: the range in equal steps, divided by a power of ten.
 /// Values are made by repeated addition, so that the last one carries the rounding of all steps.
 class ValueTicks {

@@ -20,7 +20,7 @@ constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 #ifdef KAVLIX_TWO_AT_ONCE
 
 /// Gathers extremes, two numbers with each instruction. Its minimum of a NaN and a number may be either.
-class Gathering {
+class ExtremesAccumulator {
 public:
     void Add(const double* values, std::int64_t count) {
         std::int64_t i = 0;
@@ -66,7 +66,7 @@ private:
 #else
 
 /// Gathers extremes.
-class Gathering {
+class ExtremesAccumulator {
 public:
     void Add(const double* values, std::int64_t count) {
         for (std::int64_t i = 0; i < count; ++i)
@@ -106,20 +106,20 @@ void PrefetchMemory(const void* begin, const void* end) {
 
 } // namespace
 
-void SampleStore::AddPiece(std::int64_t start) {
+void SampleStore::AddChunk(std::int64_t start) {
     const auto allocate = [](std::int64_t bytes) { return ::operator new(static_cast<std::size_t>(bytes)); };
     constexpr std::int64_t kValue = sizeof(double);
     constexpr std::int64_t kPair = sizeof(Extremes);
 
     Memory memory{nullptr, nullptr};
-    if (start < kPiece) {
+    if (start < kChunk) {
         const std::int64_t size = SmallSize(start);
         memory.values.reset(static_cast<double*>(allocate(size * kValue + size / kBlock * kPair)));
         memory.blocks = reinterpret_cast<Extremes*>(memory.values.get() + size);
     } else {
         const std::int64_t number = SummaryOf(start);
         if (m_summaries.empty() || number >= m_firstSummary + static_cast<std::int64_t>(m_summaries.size())) {
-            constexpr std::int64_t kExtremes = kPiecesASummary * (1 + kExtremesAPiece);
+            constexpr std::int64_t kExtremes = kChunksPerSummary * (1 + kExtremesPerChunk);
             if (!m_spareSummary)
                 m_spareSummary.reset(static_cast<Extremes*>(allocate(kExtremes * kPair)));
             m_summaries.push_back(std::move(m_spareSummary));
@@ -127,16 +127,16 @@ void SampleStore::AddPiece(std::int64_t start) {
                 m_firstSummary = number;
         }
         if (!m_spareValues)
-            m_spareValues.reset(static_cast<double*>(allocate(kPiece * kValue)));
+            m_spareValues.reset(static_cast<double*>(allocate(kChunk * kValue)));
         memory.values = std::move(m_spareValues);
-        memory.blocks =
-            m_summaries.back().get() + kPiecesASummary + PlaceInSummary(start) * kExtremesAPiece + kHalves;
+        memory.blocks = m_summaries.back().get() + kChunksPerSummary +
+                        PlaceInSummary(start) * kExtremesPerChunk + kHalves;
     }
-    m_pieces.push_back(std::move(memory));
-    m_lastPieceStart = start;
-    if (m_pieces.size() == 1) {
-        m_firstPiece = PieceNumber(start);
-        m_firstPieceEnd = LastPiece().End();
+    m_chunks.push_back(std::move(memory));
+    m_lastChunkStart = start;
+    if (m_chunks.size() == 1) {
+        m_firstChunk = ChunkNumber(start);
+        m_firstChunkEnd = LastChunk().End();
     }
 }
 
@@ -144,49 +144,49 @@ void SampleStore::AppendToNextBlock(double value) {
     const std::int64_t end = End();
     if (end - m_begin > std::numeric_limits<int>::max() - kBlock)
         throw std::bad_alloc();
-    const bool isBlockHere = !m_pieces.empty();
-    if (!isBlockHere || LastPiece().End() == end)
-        AddPiece(end);
+    const bool isBlockHere = !m_chunks.empty();
+    if (!isBlockHere || LastChunk().End() == end)
+        AddChunk(end);
     // A block is complete when the next one begins.
     if (isBlockHere && m_summarized < end)
         SummarizeBlock(end - kBlock);
     m_summarized = end;
 
-    m_next = LastPiece().Place(end);
+    m_next = LastChunk().Place(end);
     m_blockEnd = m_next + kBlock;
     m_blockEndNumber = end + kBlock;
     *m_next++ = value;
 }
 
 void SampleStore::SummarizeBlock(std::int64_t blockStart) {
-    const Piece piece = PieceOf(blockStart);
+    const Chunk chunk = ChunkOf(blockStart);
     const std::int64_t behind = blockStart + kBlock;
-    Gathering block;
-    block.Add(piece.Place(blockStart), kBlock);
-    piece.BlockExtremes(blockStart) = block.Result();
-    if (!piece.HasHalves() || behind % kHalf != 0)
+    ExtremesAccumulator block;
+    block.Add(chunk.Place(blockStart), kBlock);
+    chunk.BlockExtremes(blockStart) = block.Result();
+    if (!chunk.HasHalves() || behind % kHalf != 0)
         return;
-    Gathering half;
-    half.Add(&piece.BlockExtremes(behind - kHalf), kHalf / kBlock);
-    piece.HalfExtremes(behind - kHalf) = half.Result();
-    if (behind != piece.End())
+    ExtremesAccumulator half;
+    half.Add(&chunk.BlockExtremes(behind - kHalf), kHalf / kBlock);
+    chunk.HalfExtremes(behind - kHalf) = half.Result();
+    if (behind != chunk.End())
         return;
-    Gathering whole;
-    whole.Add(&piece.HalfExtremes(piece.start), kHalves);
-    *WholeExtremes(piece.start) = whole.Result();
+    ExtremesAccumulator whole;
+    whole.Add(&chunk.HalfExtremes(chunk.start), kHalves);
+    *WholeExtremes(chunk.start) = whole.Result();
 }
 
-void SampleStore::DropPieces() {
-    while (!m_pieces.empty() && m_firstPieceEnd <= m_begin) {
-        if (m_firstPieceEnd > kPiece)
-            m_spareValues = std::move(m_pieces.front().values);
-        m_pieces.pop_front();
-        ++m_firstPiece;
-        if (!m_pieces.empty())
-            m_firstPieceEnd = PieceOf(m_firstPieceEnd).End();
+void SampleStore::DropChunks() {
+    while (!m_chunks.empty() && m_firstChunkEnd <= m_begin) {
+        if (m_firstChunkEnd > kChunk)
+            m_spareValues = std::move(m_chunks.front().values);
+        m_chunks.pop_front();
+        ++m_firstChunk;
+        if (!m_chunks.empty())
+            m_firstChunkEnd = ChunkOf(m_firstChunkEnd).End();
     }
-    if (!m_pieces.empty()) {
-        const std::int64_t firstStart = PieceOf(m_firstPieceEnd - 1).start;
+    if (!m_chunks.empty()) {
+        const std::int64_t firstStart = ChunkOf(m_firstChunkEnd - 1).start;
         for (; m_firstSummary < SummaryOf(firstStart); ++m_firstSummary) {
             m_spareSummary = std::move(m_summaries.front());
             m_summaries.pop_front();
@@ -202,19 +202,19 @@ void SampleStore::RemoveInside(int first, int count) {
     const std::int64_t begin = m_begin + first;
     const std::int64_t oldEnd = End();
     const std::int64_t end = oldEnd - count;
-    const auto place = [this](std::int64_t number) { return PieceOf(number).Place(number); };
+    const auto place = [this](std::int64_t number) { return ChunkOf(number).Place(number); };
     for (std::int64_t number = begin; number < end; ++number)
         *place(number) = *place(number + count);
-    while (m_lastPieceStart >= end) {
-        m_pieces.pop_back();
-        m_lastPieceStart = PieceOf(m_lastPieceStart - 1).start;
+    while (m_lastChunkStart >= end) {
+        m_chunks.pop_back();
+        m_lastChunkStart = ChunkOf(m_lastChunkStart - 1).start;
     }
-    const std::int64_t lastSummary = SummaryOf(m_lastPieceStart);
+    const std::int64_t lastSummary = SummaryOf(m_lastChunkStart);
     while (!m_summaries.empty() &&
            m_firstSummary + static_cast<std::int64_t>(m_summaries.size()) - 1 > lastSummary)
         m_summaries.pop_back();
 
-    // Value `first` - 1 is still there, and its piece.
+    // Value `first` - 1 is still there, and its chunk.
     const std::int64_t blockStart = BlockStart(end - 1);
     m_next = place(end - 1) + 1;
     m_blockEnd = place(blockStart) + kBlock;
@@ -225,49 +225,49 @@ void SampleStore::RemoveInside(int first, int count) {
 }
 
 void SampleStore::Clear() {
-    m_pieces.clear();
-    m_pieces.shrink_to_fit();
+    m_chunks.clear();
+    m_chunks.shrink_to_fit();
     m_summaries.clear();
     m_summaries.shrink_to_fit();
     m_spareValues.reset();
     m_spareSummary.reset();
     m_next = m_blockEnd = nullptr;
-    m_begin = m_blockEndNumber = m_summarized = m_firstPiece = m_firstPieceEnd = m_lastPieceStart = 0;
+    m_begin = m_blockEndNumber = m_summarized = m_firstChunk = m_firstChunkEnd = m_lastChunkStart = 0;
 }
 
 Extremes SampleStore::ExtremesOf(int first, int last) const {
-    Gathering all;
+    ExtremesAccumulator all;
     std::int64_t next = m_begin + first;
     const std::int64_t end = m_begin + last + 1;
-    const std::int64_t wholesEnd = std::min(end, m_summarized) / kPiece * kPiece;
+    const std::int64_t wholesEnd = std::min(end, m_summarized) / kChunk * kChunk;
     while (next < end && !all.HasGap()) {
-        if (next >= kPiece && next % kPiece == 0 && next < wholesEnd) {
-            // Whole pieces, as many as lie in one summary.
-            const std::int64_t pieces =
-                std::min(kPiecesASummary - PlaceInSummary(next), (wholesEnd - next) / kPiece);
-            all.Add(WholeExtremes(next), pieces);
-            next += pieces * kPiece;
+        if (next >= kChunk && next % kChunk == 0 && next < wholesEnd) {
+            // Whole chunks, as many as lie in one summary.
+            const std::int64_t chunks =
+                std::min(kChunksPerSummary - PlaceInSummary(next), (wholesEnd - next) / kChunk);
+            all.Add(WholeExtremes(next), chunks);
+            next += chunks * kChunk;
             continue;
         }
-        const Piece piece = PieceOf(next);
-        const std::int64_t stop = std::min(end, piece.End());
+        const Chunk chunk = ChunkOf(next);
+        const std::int64_t stop = std::min(end, chunk.End());
         const auto addBlocks = [&](std::int64_t from, std::int64_t to) {
-            all.Add(&piece.BlockExtremes(from), (to - from) / kBlock);
+            all.Add(&chunk.BlockExtremes(from), (to - from) / kBlock);
         };
         // Values up to the first whole block, blocks up to the first whole half, and so back.
         const std::int64_t blocks = std::min((next + kBlock - 1) / kBlock * kBlock, stop);
         const std::int64_t blocksEnd = std::max(blocks, BlockStart(std::min(stop, m_summarized)));
-        all.Add(piece.Place(next), blocks - next);
+        all.Add(chunk.Place(next), blocks - next);
         const std::int64_t halves = (blocks + kHalf - 1) / kHalf * kHalf;
         const std::int64_t halvesEnd = blocksEnd / kHalf * kHalf;
-        if (piece.HasHalves() && halves < halvesEnd) {
+        if (chunk.HasHalves() && halves < halvesEnd) {
             addBlocks(blocks, halves);
-            all.Add(&piece.HalfExtremes(halves), (halvesEnd - halves) / kHalf);
+            all.Add(&chunk.HalfExtremes(halves), (halvesEnd - halves) / kHalf);
             addBlocks(halvesEnd, blocksEnd);
         } else {
             addBlocks(blocks, blocksEnd);
         }
-        all.Add(piece.Place(blocksEnd), stop - blocksEnd);
+        all.Add(chunk.Place(blocksEnd), stop - blocksEnd);
         next = stop;
     }
     return all.Result();
@@ -275,14 +275,14 @@ Extremes SampleStore::ExtremesOf(int first, int last) const {
 
 void SampleStore::Prefetch(int i) const {
     const std::int64_t number = m_begin + i;
-    const Piece piece = PieceOf(number);
-    const double* block = piece.Place(BlockStart(number));
+    const Chunk chunk = ChunkOf(number);
+    const double* block = chunk.Place(BlockStart(number));
     PrefetchMemory(block, block + kBlock);
-    if (!piece.HasHalves())
+    if (!chunk.HasHalves())
         return;
-    const Extremes* blocks = &piece.BlockExtremes(number / kHalf * kHalf);
+    const Extremes* blocks = &chunk.BlockExtremes(number / kHalf * kHalf);
     PrefetchMemory(blocks, blocks + kHalf / kBlock);
-    PrefetchMemory(&piece.HalfExtremes(piece.start), piece.blocks);
+    PrefetchMemory(&chunk.HalfExtremes(chunk.start), chunk.blocks);
 }
 
 } // namespace kavlix

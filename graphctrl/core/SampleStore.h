@@ -13,13 +13,13 @@ namespace kavlix {
 /// The values of a series in order of arrival. Appending never moves what is stored; dropping from the head
 /// costs what is dropped. Positions along the X axis are the indices and take no storage.
 ///
-/// Values lie in pieces of a fixed size, the first few of which are smaller. With every 32 values goes their
-/// lowest and highest, with every half of a piece and with every piece, so that the extremes of a long
+/// Values lie in chunks of a fixed size, the first few of which are smaller. With every 32 values goes their
+/// lowest and highest, with every half of a chunk and with every chunk, so that the extremes of a long
 /// range are found without a walk over it; they lie apart from the values, so that such a search passes over
 /// little memory. All that is aligned to the number of a value since the last Clear, which dropping from the
 /// head does not change.
 class SampleStore {
-    struct Piece;
+    struct Chunk;
 
 public:
     SampleStore() = default;
@@ -31,7 +31,7 @@ public:
     /// Value `i`, which must exist.
     double operator[](int i) const {
         const std::int64_t number = m_begin + i;
-        return PieceOf(number).Value(number);
+        return ChunkOf(number).Value(number);
     }
     bool Has(int i) const { return i >= 0 && i < Size(); }
 
@@ -43,11 +43,11 @@ public:
         double operator[](int i) {
             const std::int64_t number = m_store.m_begin + i;
             if (static_cast<std::uint64_t>(number - m_start) >= m_size)
-                Enter(m_store.PieceOf(number));
+                Enter(m_store.ChunkOf(number));
             return m_values[number - m_start];
         }
         /// The values `first` to `last`, one behind another: where the store has them, or in `copy`, which
-        /// has room for all of them, where they lie in several pieces.
+        /// has room for all of them, where they lie in several chunks.
         const double* Run(int first, int last, double* copy) {
             static_cast<void>((*this)[first]);
             const std::int64_t place = m_store.m_begin + first - m_start;
@@ -59,10 +59,10 @@ public:
         }
 
     private:
-        void Enter(const Piece& piece) {
-            m_values = piece.values;
-            m_start = piece.start;
-            m_size = static_cast<std::uint64_t>(piece.size);
+        void Enter(const Chunk& chunk) {
+            m_values = chunk.values;
+            m_start = chunk.start;
+            m_size = static_cast<std::uint64_t>(chunk.size);
         }
 
         const SampleStore& m_store;
@@ -112,21 +112,21 @@ public:
         std::int64_t end = m_begin + last + 1;
         const std::int64_t begin = m_begin + first;
         while (end > begin) {
-            const Piece piece = PieceOf(end - 1);
+            const Chunk chunk = ChunkOf(end - 1);
             const std::int64_t halfStart = (end - 1) & ~(kHalf - 1);
-            if (halfStart >= begin && end == halfStart + kHalf && piece.HasHalves() && end <= m_summarized &&
-                isUnwanted(piece.HalfExtremes(halfStart))) {
+            if (halfStart >= begin && end == halfStart + kHalf && chunk.HasHalves() && end <= m_summarized &&
+                isUnwanted(chunk.HalfExtremes(halfStart))) {
                 end = halfStart;
                 continue;
             }
             const std::int64_t blockStart = BlockStart(end - 1);
             const bool isWhole = blockStart >= begin && end == blockStart + kBlock && end <= m_summarized;
-            if (isWhole && isUnwanted(piece.BlockExtremes(blockStart))) {
+            if (isWhole && isUnwanted(chunk.BlockExtremes(blockStart))) {
                 end = blockStart;
                 continue;
             }
             for (const std::int64_t stop = blockStart > begin ? blockStart : begin; end > stop; --end)
-                if (isWanted(piece.Value(end - 1)))
+                if (isWanted(chunk.Value(end - 1)))
                     return static_cast<int>(end - 1 - m_begin);
         }
         return first - 1;
@@ -139,49 +139,49 @@ public:
         std::int64_t next = m_begin + first;
         const std::int64_t end = m_begin + last + 1;
         while (next < end) {
-            const Piece piece = PieceOf(next);
-            if (next % kHalf == 0 && next + kHalf <= end && piece.HasHalves() &&
-                next + kHalf <= m_summarized && isDone(piece.HalfExtremes(next))) {
+            const Chunk chunk = ChunkOf(next);
+            if (next % kHalf == 0 && next + kHalf <= end && chunk.HasHalves() &&
+                next + kHalf <= m_summarized && isDone(chunk.HalfExtremes(next))) {
                 next += kHalf;
                 continue;
             }
             const std::int64_t blockEnd = BlockStart(next) + kBlock;
             const bool isWhole = next == blockEnd - kBlock && blockEnd <= end && blockEnd <= m_summarized;
-            if (isWhole && isDone(piece.BlockExtremes(next))) {
+            if (isWhole && isDone(chunk.BlockExtremes(next))) {
                 next = blockEnd;
                 continue;
             }
             for (const std::int64_t stop = blockEnd < end ? blockEnd : end; next < stop; ++next)
-                visit(piece.Value(next));
+                visit(chunk.Value(next));
         }
     }
 
 private:
     static constexpr std::int64_t kBlock = 32;
     static constexpr std::int64_t kHalf = 512;
-    static constexpr std::int64_t kPiece = 1024;
-    static constexpr std::int64_t kSmallPieces = 5; // 32, 32, 64, 128, ... values up to a whole piece
-    static constexpr std::int64_t kHalves = kPiece / kHalf;
-    static constexpr std::int64_t kPiecesASummary = 16;
-    static constexpr std::int64_t kExtremesAPiece = kHalves + kPiece / kBlock;
+    static constexpr std::int64_t kChunk = 1024;
+    static constexpr std::int64_t kSmallChunks = 5; // 32, 32, 64, 128, ... values up to a whole chunk
+    static constexpr std::int64_t kHalves = kChunk / kHalf;
+    static constexpr std::int64_t kChunksPerSummary = 16;
+    static constexpr std::int64_t kExtremesPerChunk = kHalves + kChunk / kBlock;
 
     struct Release {
         void operator()(void* memory) const { ::operator delete(memory); }
     };
-    /// The memory of a piece.
+    /// The memory of a chunk.
     using Values = std::unique_ptr<double, Release>;
     struct Memory {
         Values values;
-        Extremes* blocks; ///< in a summary; behind the values of a small piece
+        Extremes* blocks; ///< in a summary; behind the values of a small chunk
     };
-    /// What lies where in a piece.
-    struct Piece {
+    /// What lies where in a chunk.
+    struct Chunk {
         double* values;
-        Extremes* blocks;   ///< in a large piece, those of its halves lie before them
+        Extremes* blocks;   ///< in a large chunk, those of its halves lie before them
         std::int64_t start; ///< number of the first value
         std::int64_t size;
 
-        bool HasHalves() const { return size == kPiece; }
+        bool HasHalves() const { return size == kChunk; }
         std::int64_t End() const { return start + size; }
         double* Place(std::int64_t number) const { return values + (number - start); }
         double Value(std::int64_t number) const { return *Place(number); }
@@ -192,40 +192,42 @@ private:
             return blocks[(halfStart - start) / kHalf - kHalves];
         }
     };
-    /// The extremes of some pieces, followed by those of the halves and blocks of each.
+    /// The extremes of some chunks, followed by those of the halves and blocks of each.
     using Summary = std::unique_ptr<Extremes, Release>;
 
     static std::int64_t BlockStart(std::int64_t number) { return number & ~(kBlock - 1); }
-    static std::int64_t PieceNumber(std::int64_t number) {
-        if (number >= kPiece)
-            return kSmallPieces + number / kPiece;
-        std::int64_t piece = 0;
+    static std::int64_t ChunkNumber(std::int64_t number) {
+        if (number >= kChunk)
+            return kSmallChunks + number / kChunk;
+        std::int64_t chunk = 0;
         for (std::int64_t blocks = number / kBlock; blocks != 0; blocks /= 2)
-            ++piece;
-        return piece;
+            ++chunk;
+        return chunk;
     }
-    Piece PieceOf(std::int64_t number) const {
-        const Memory& memory = m_pieces[static_cast<std::size_t>(PieceNumber(number) - m_firstPiece)];
-        if (number >= kPiece)
-            return {memory.values.get(), memory.blocks, number & ~(kPiece - 1), kPiece};
+    Chunk ChunkOf(std::int64_t number) const {
+        const Memory& memory = m_chunks[static_cast<std::size_t>(ChunkNumber(number) - m_firstChunk)];
+        if (number >= kChunk)
+            return {memory.values.get(), memory.blocks, number & ~(kChunk - 1), kChunk};
         std::int64_t start = number < kBlock ? 0 : kBlock;
         while (start != 0 && number >= start * 2)
             start *= 2;
         return {memory.values.get(), memory.blocks, start, SmallSize(start)};
     }
-    /// Size of the small piece that begins at number `start`.
+    /// Size of the small chunk that begins at number `start`.
     static std::int64_t SmallSize(std::int64_t start) { return start == 0 ? kBlock : start; }
-    Piece LastPiece() const { return PieceOf(m_lastPieceStart); }
+    Chunk LastChunk() const { return ChunkOf(m_lastChunkStart); }
     std::int64_t End() const { return m_blockEndNumber - (m_blockEnd - m_next); }
 
     void AppendToNextBlock(double value);
-    void AddPiece(std::int64_t start);
-    /// Which summary serves the piece that begins at number `start`; -1 for a small piece.
+    void AddChunk(std::int64_t start);
+    /// Which summary serves the chunk that begins at number `start`; -1 for a small chunk.
     static std::int64_t SummaryOf(std::int64_t start) {
-        return start < kPiece ? -1 : (start / kPiece - 1) / kPiecesASummary;
+        return start < kChunk ? -1 : (start / kChunk - 1) / kChunksPerSummary;
     }
-    static std::int64_t PlaceInSummary(std::int64_t start) { return (start / kPiece - 1) % kPiecesASummary; }
-    /// Where the extremes lie of the large piece that begins at number `start`; those of the next ones follow
+    static std::int64_t PlaceInSummary(std::int64_t start) {
+        return (start / kChunk - 1) % kChunksPerSummary;
+    }
+    /// Where the extremes lie of the large chunk that begins at number `start`; those of the next ones follow
     /// up to the end of the summary.
     Extremes* WholeExtremes(std::int64_t start) const {
         const auto summary = static_cast<std::size_t>(SummaryOf(start) - m_firstSummary);
@@ -233,10 +235,10 @@ private:
     }
     void RemoveHead(int count) {
         m_begin += count;
-        if (m_begin >= m_firstPieceEnd)
-            DropPieces();
+        if (m_begin >= m_firstChunkEnd)
+            DropChunks();
     }
-    void DropPieces();
+    void DropChunks();
     void RemoveInside(int first, int count);
     void SummarizeBlock(std::int64_t blockStart);
 
@@ -246,11 +248,11 @@ private:
     double* m_blockEnd = nullptr;      ///< end of the block that is being filled
     std::int64_t m_blockEndNumber = 0; ///< number that belongs to it
     std::int64_t m_summarized = 0;     ///< blocks up to here have their extremes
-    std::int64_t m_firstPieceEnd = 0;
-    std::int64_t m_lastPieceStart = 0;
-    std::int64_t m_firstPiece = 0;
+    std::int64_t m_firstChunkEnd = 0;
+    std::int64_t m_lastChunkStart = 0;
+    std::int64_t m_firstChunk = 0;
     std::int64_t m_firstSummary = 0;
-    std::deque<Memory> m_pieces;
+    std::deque<Memory> m_chunks;
     std::deque<Summary> m_summaries;
     // The last ones dropped, for the next ones needed: a heap takes long now and then.
     Values m_spareValues;

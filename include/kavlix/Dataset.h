@@ -1,23 +1,24 @@
+// CDataset: one series of a graph control, its samples and how they are drawn.
 #pragma once
 
 #include <afxwin.h>
 
+#include <kavlix/Export.h>
+
 #include <memory>
 #include <utility>
-
-#include <kavlix/Export.h>
 
 namespace kavlix {
 class SampleStore;
 }
 
-/// One series of a graph control: its samples in order of arrival and how they are drawn.
+/// One series of a graph control: its samples in order of arrival and how they are drawn. A sample's X is its
+/// index 0, 1, 2, ... and takes no memory.
 ///
-/// A control owns a fixed array of them. The X value of a sample is always its index 0, 1, 2, ... and takes
-/// no storage. Nothing here repaints.
+/// The control owns its datasets, a fixed array. Nothing here repaints.
 class KAVLIX_API CDataset : public CObject {
 public:
-    /// Marker drawn at each point, 90 logical units (3 pixels) to every side. Other values draw nothing.
+    /// Marker drawn at each point of a line, 90 logical units (3 pixels) to every side. Other values draw none.
     enum MarkerType : int {
         MarkerNone = 0,
         MarkerSquare = 1,   ///< outline of a square
@@ -25,34 +26,37 @@ public:
         MarkerTriangle = 3, ///< outline of a triangle pointing up
         MarkerCircle = 4,   ///< outline of a circle
         MarkerCross = 5,    ///< upright cross
-        MarkerTypeCount     ///< how many types there are; draws nothing
+        MarkerTypeCount     ///< number of values above; draws no marker
     };
 
-    /// An empty, visible series: colour RGB(204,58,183), no marker, line size 0, no legend text.
+    /// Line widths that are drawn: 0 to MaxLineSize logical units of 1/30 pixel.
+    static constexpr int MaxLineSize = 1000;
+
+    /// An empty series.
     CDataset();
     ~CDataset() override;
     CDataset(const CDataset&) = delete;
     CDataset& operator=(const CDataset&) = delete;
 
-    /// Appends a sample. If `pX` is not null it receives the sample's X, which is its index.
-    /// When memory runs out, a message box says so and the result is 0: the sample is not stored, `*pX` is
-    /// not written. No exception leaves.
+    /// Appends the sample `y`. `*pX` receives the sample's X unless `pX` is null. Result 1. Result 0, after a
+    /// message box, when memory ran out: nothing is stored, `*pX` is not written, and no exception leaves.
     BOOL AddData(double y, double* pX);
-    /// Appends a sample whose place on the X axis is kept elsewhere. Fails as AddData does.
+    /// Appends the sample `y`. Results as those of AddData.
     BOOL AddYData(double y);
 
-    /// Position and value of sample `i`. Result 0, and neither output written, when `i` is not a sample.
+    /// Stores X and value of sample `i` in `x` and `y`. Result 0, outputs unchanged, when there is no sample
+    /// `i`.
     BOOL GetData(int i, double& x, double& y) const;
-    /// Value of sample `i`. Result 0, and `y` not written, when `i` is not a sample.
+    /// Stores the value of sample `i` in `y`. Result 0, `y` unchanged, when there is no sample `i`.
     BOOL GetYData(int i, double& y) const;
 
-    /// Removes `count` samples from sample `i` on; a count beyond the end removes all up to the end, one
-    /// below 1 removes none. Result 0 when `i` is not a sample. Removing from the head costs what is removed,
-    /// not what remains.
+    /// Removes `count` samples, the first of which is sample `i`. A count beyond the end removes all up to the
+    /// end, a count below 1 none. Result 0 when there is no sample `i`. Removing from the head takes time in
+    /// proportion to `count`, however many samples remain.
     BOOL RemoveYData(int i, int count);
-    /// Keeps the first sample alone, or a single 0 when there is none, which fails as AddData does.
+    /// Removes all samples but the first. An empty series gets one sample 0, which can fail as AddData does.
     BOOL KeepOne();
-    /// Removes every sample and frees the storage; colour, marker, line size, legend and visibility stay.
+    /// Removes all samples and frees their memory. Colour, marker, line size, legend and visibility stay.
     void RemoveAll();
 
     /// Number of samples.
@@ -61,10 +65,8 @@ public:
     const kavlix::SampleStore& Samples() const { return *m_Samples; }
 
     MarkerType GetMarkerType() const { return m_MarkerType; }
-    /// Width of the line in logical units of 1/30 pixel.
     int GetLineSize() const { return m_LineSize; }
     COLORREF GetColor() const { return m_Color; }
-    /// Sets the text of the legend row; an empty text takes no row.
     void SetLegend(CString text) { m_Legend = std::move(text); }
 
 private:
@@ -73,9 +75,9 @@ private:
     std::unique_ptr<kavlix::SampleStore> m_Samples;
 
 public:
-    COLORREF m_Color;        ///< line, bar and marker colour
-    MarkerType m_MarkerType; ///< marker at each point; stored as given
-    int m_LineSize;          ///< pen width in logical units, 0 for one pixel; drawn as 0 to 1000
-    CString m_Legend;        ///< text of the legend row, empty for none
-    BOOL m_Visible;          ///< whether the series is drawn
+    COLORREF m_Color = RGB(204, 58, 183); ///< colour of line, bars and markers
+    MarkerType m_MarkerType = MarkerNone; ///< marker at each point, stored unchecked
+    int m_LineSize = 0;    ///< line width in logical units, stored unchecked; 0 draws one pixel
+    CString m_Legend;      ///< text of the legend row; no row if empty
+    BOOL m_Visible = TRUE; ///< whether the series is drawn
 };

@@ -12,6 +12,8 @@
 namespace kavlix {
 namespace {
 
+constexpr int kPixel = 30; // logical units
+
 using Ticks = std::vector<std::pair<int, int>>; // index, position
 
 std::vector<std::string> Labels(double min, double max, int ticks, int exponent, int decimals) {

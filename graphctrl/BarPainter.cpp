@@ -1,4 +1,5 @@
-#include <kavlix/GraphCtrl.h>
+// Paints one dataset as bars, with the selection mark of the bar style.
+#include "graphctrl/BarPainter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,7 +8,6 @@
 #include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
 #include "gdi/ShapeConversion.h"
-#include "graphctrl/GraphCtrlPainters.h"
 #include "graphctrl/core/SampleStore.h"
 
 namespace kavlix {
@@ -20,7 +20,7 @@ constexpr int kBeyondPlot =
 } // namespace
 
 void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSlots& slots, int offset,
-                    IndexRange range, const Rect& plot, const LinearMap& yMap, const BarMark* mark) {
+                    IndexRange range, const Rect& plot, const LinearMap& yMap, const BarSelectionMark* mark) {
     Select(dc, brush);
     const SampleStore& samples = dataset.Samples();
     std::optional<PixelRaster> raster = DirectRaster(dc);
@@ -66,55 +66,3 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
 }
 
 } // namespace kavlix
-
-using namespace kavlix;
-
-BOOL CGraphCtrl::CalcBarSize(int& nBarWidth, int& nDatasets, int& nVisiblePoints) {
-    int sizes[DatasetCount];
-    GetSizes(sizes);
-    BarSlots slots;
-    if (!ComputeBarSlots(sizes, DatasetCount, m_XVisibleMin, m_XVisibleMax, m_rectPlot.Width(), slots))
-        return FALSE;
-    nBarWidth = slots.barWidth;
-    nDatasets = slots.datasets;
-    nVisiblePoints = slots.visible;
-    return TRUE;
-}
-
-void CGraphCtrl::DrawBars(CDC& dc) {
-    CBrush cursorBrush;
-    cursorBrush.CreateSolidBrush(m_BoxCursorColor);
-    CBrush brushes[DatasetCount];
-    for (int i = 0; i < DatasetCount; ++i)
-        brushes[i].CreateSolidBrush(m_Datasets[i].GetColor());
-    StockAfterGuard brushAfter(dc, NULL_BRUSH);
-    StockAfterGuard penAfter(dc, NULL_PEN);
-    dc.SelectStockObject(NULL_PEN);
-
-    BarSlots slots;
-    if (!CalcBarSize(slots.barWidth, slots.datasets, slots.visible))
-        return;
-    // Bars without width cover nothing.
-    if (slots.barWidth == 0)
-        return;
-    const Rect plot = ToRect(m_rectPlot);
-    const LinearMap yMap(m_YVisibleMin, m_YVisibleMax, plot.bottom, -plot.Height());
-    const BarMark mark{m_SelectionMarkPos, cursorBrush};
-    int offset = 0;
-    for (int i = 0; i < DatasetCount; ++i) {
-        const CDataset& dataset = m_Datasets[i];
-        if (dataset.GetSize() == 0)
-            continue;
-        // The first dataset with samples draws the mark, before its own bar, so that it lies behind the
-        // group. A hidden dataset keeps its place.
-        const IndexRange range = IndicesInSlots(dataset.GetSize(), m_XVisibleMin, slots);
-        DrawSeriesBars(dc, dataset, brushes[i], slots, offset, range, plot, yMap,
-                       offset == 0 ? &mark : nullptr);
-        offset += slots.barWidth;
-    }
-}
-
-void CGraphCtrl::GetSizes(int (&sizes)[DatasetCount]) const {
-    for (int i = 0; i < DatasetCount; ++i)
-        sizes[i] = m_Datasets[i].GetSize();
-}

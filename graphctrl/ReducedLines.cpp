@@ -1,4 +1,4 @@
-#include "graphctrl/GraphCtrlReducedLines.h"
+#include "graphctrl/ReducedLines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,9 @@
 #include "gdi/Mapping.h"
 #include "gdi/Markers.h"
 #include "gdi/ShapeConversion.h"
-#include "graphctrl/GraphCtrlRecordedStrokes.h"
+#include "graphctrl/DirectLine.h"
+#include "graphctrl/GdiLine.h"
+#include "graphctrl/RecordedLine.h"
 #include "graphctrl/core/SampleStore.h"
 
 namespace kavlix {
@@ -50,7 +52,7 @@ public:
           m_penPixels(PenPixels(lines.m_dc, PenWidth(dataset))),
           m_colour(m_penPixels == 1 && lines.m_raster ? DirectColour(dataset.GetColor()) : std::nullopt) {
         if (lines.m_kind == StrokeKind::Recorded)
-            m_recorded.emplace(Ground(), ToRect(lines.m_seen), m_penPixels, HasShape(m_marker));
+            m_recorded.emplace(Target(), ToRect(lines.m_plotWithReach), m_penPixels, HasShape(m_marker));
     }
 
     /// Draws the samples `first` to `last`, with their markers. With `joined` the line comes from the sample
@@ -63,9 +65,9 @@ public:
             m_recorded->Pause();
         } else if (m_colour) {
             ::GdiFlush(); // what was asked of GDI before comes first
-            DrawLine(DirectStrokes(Ground(), *m_lines.m_raster, *m_colour), first, last, joined);
+            DrawLine(DirectLine(Target(), *m_lines.m_raster, *m_colour), first, last, joined);
         } else {
-            DrawLine(GdiStrokes(Ground(), m_lines.m_plot, m_penPixels), first, last, joined);
+            DrawLine(GdiLine(Target(), m_lines.m_plot, m_penPixels), first, last, joined);
         }
         if (HasShape(m_marker))
             ForColumns(first, last, [this](const PixelColumn& column) { DrawMarkers(column); });
@@ -74,7 +76,7 @@ public:
     /// Draws samples whose positions follow no order, where strokes are recorded.
     void RecordInAnyOrder(int first, int last) {
         const auto isSeen = [&](int x, int y) {
-            return m_lines.m_placeColumns.Holds(x) && m_lines.m_placeRows.Holds(y);
+            return m_lines.m_groupColumns.Holds(x) && m_lines.m_groupRows.Holds(y);
         };
         for (int i = first; i <= last; ++i) {
             const double value = m_values[i];
@@ -94,7 +96,7 @@ public:
 private:
     using Columns = std::vector<PixelColumn>::const_iterator;
 
-    LineGround Ground() const { return {m_dc, m_lines.m_columnEdges, m_lines.m_rowEdges, m_yMap}; }
+    LineTarget Target() const { return {m_dc, m_lines.m_columnEdges, m_lines.m_rowEdges, m_yMap}; }
 
     /// Calls `visit(column)` for the columns that the samples `first` to `last` have, cut to these.
     template <class Visit> void ForColumns(int first, int last, Visit visit) const {
@@ -115,45 +117,45 @@ private:
         return column;
     }
 
-    template <class Strokes> void DrawLine(Strokes strokes, int first, int last, bool joined) {
+    template <class Sink> void DrawLine(Sink sink, int first, int last, bool joined) {
         if (joined) {
             const Columns column = ColumnOf(first - 1);
             if (column != m_lines.m_columns.end() && column->first < first)
-                AddSample(strokes, first - 1, *column);
+                AddSample(sink, first - 1, *column);
         }
         const Columns end = m_lines.m_columns.end();
         for (Columns column = ColumnOf(first); column != end && column->first <= last; ++column) {
             if (end - column > kAhead && column[kAhead].first <= last &&
                 column->last - column->first >= kLongColumn)
                 m_samples.Prefetch(column[kAhead].first);
-            AddColumn(strokes, Cut(*column, first, last), last);
+            AddColumn(sink, Cut(*column, first, last), last);
         }
-        strokes.End();
+        sink.End();
     }
 
-    template <class Strokes> void AddSample(Strokes& strokes, int index, const PixelColumn& column) {
+    template <class Sink> void AddSample(Sink& sink, int index, const PixelColumn& column) {
         const double value = m_values[index];
         if (std::isnan(value))
-            strokes.End();
+            sink.End();
         else
-            strokes.Add(value, column);
+            sink.Add(value, column);
     }
 
-    template <class Strokes> void AddColumn(Strokes& strokes, const PixelColumn& column, int end) {
+    template <class Sink> void AddColumn(Sink& sink, const PixelColumn& column, int end) {
         if (column.last - column.first < kFewSamples) {
             for (int i = column.first; i <= column.last; ++i)
-                AddSample(strokes, i, column);
+                AddSample(sink, i, column);
             return;
         }
         const Extremes extremes = m_samples.ExtremesOf(column.first, column.last);
         if (extremes.HasGap())
-            AddBetweenGaps(strokes, column, end);
+            AddBetweenGaps(sink, column, end);
         else
-            AddWithoutGap(strokes, column, end, extremes);
+            AddWithoutGap(sink, column, end, extremes);
     }
 
     /// Draws the parts of a column that its gaps leave.
-    template <class Strokes> void AddBetweenGaps(Strokes& strokes, const PixelColumn& column, int end) {
+    template <class Sink> void AddBetweenGaps(Sink& sink, const PixelColumn& column, int end) {
         std::vector<int> gaps; // from the last one on
         for (int last = column.last; last >= column.first; --last) {
             last = m_samples.FindLast(
@@ -165,19 +167,19 @@ private:
         int first = column.first;
         for (auto gap = gaps.rbegin(); gap != gaps.rend(); ++gap) {
             if (first < *gap)
-                AddColumn(strokes, Cut(column, first, *gap - 1), end);
-            strokes.End();
+                AddColumn(sink, Cut(column, first, *gap - 1), end);
+            sink.End();
             first = *gap + 1;
         }
         if (first <= column.last)
-            AddColumn(strokes, Cut(column, first, column.last), end);
+            AddColumn(sink, Cut(column, first, column.last), end);
     }
 
-    template <class Strokes>
-    void AddWithoutGap(Strokes& strokes, const PixelColumn& column, int end, Extremes extremes) {
+    template <class Sink>
+    void AddWithoutGap(Sink& sink, const PixelColumn& column, int end, Extremes extremes) {
         const int first = column.first;
         const int last = column.last;
-        AddSample(strokes, first, column);
+        AddSample(sink, first, column);
         int before = -1;
         if (last == end || std::isnan(m_values[last + 1])) {
             // The line ends here, and its last pixel is not painted: how it came there matters.
@@ -186,11 +188,11 @@ private:
                 return;
             extremes = m_samples.ExtremesOf(first, before);
         }
-        strokes.Add(extremes.low, column);
-        strokes.Add(extremes.high, column);
+        sink.Add(extremes.low, column);
+        sink.Add(extremes.high, column);
         if (before >= 0)
-            AddSample(strokes, before, column);
-        AddSample(strokes, last, column);
+            AddSample(sink, before, column);
+        AddSample(sink, last, column);
     }
 
     /// The last sample of `first` to `last` on another row than sample `last`; `first` - 1 when there is
@@ -216,9 +218,9 @@ private:
 
     /// Draws the markers of a column, one for each row that has a sample.
     void DrawMarkers(const PixelColumn& column) {
-        if (!m_lines.m_placeColumns.Holds(column.position))
+        if (!m_lines.m_groupColumns.Holds(column.position))
             return;
-        const PixelEdges& rows = m_lines.m_placeRows;
+        const PixelEdges& rows = m_lines.m_groupRows;
         const int count = rows.Count();
         m_rowDone.assign(static_cast<std::size_t>(count), false);
         // Rows beyond the edges are done from the start: nothing of their markers can be seen.
@@ -259,13 +261,13 @@ private:
     LinearMap m_yMap;
     int m_penPixels;
     std::optional<std::uint32_t> m_colour; ///< where pixels are painted directly
-    std::optional<RecordedStrokes> m_recorded;
+    std::optional<RecordedLine> m_recorded;
     std::vector<bool> m_rowDone;
 };
 
 ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositions& xPositions,
                            const IndexRange* ranges, int count)
-    : m_dc(dc), m_xPositions(xPositions), m_plot(ToDeviceWithEdges(dc, plot)), m_seen(m_plot),
+    : m_dc(dc), m_xPositions(xPositions), m_plot(ToDeviceWithEdges(dc, plot)), m_plotWithReach(m_plot),
       m_kind(KindOfStrokes(dc)) {
     IndexRange all;
     for (int i = 0; i < count; ++i) {
@@ -275,9 +277,9 @@ ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositio
                   ? ranges[i]
                   : IndexRange{std::min(all.first, ranges[i].first), std::max(all.last, ranges[i].last)};
     }
-    m_seen.InflateRect(reach / kUnitsPerPixel + 1, reach / kUnitsPerPixel + 1);
-    const int margin = m_kind == StrokeKind::Recorded ? RecordedStrokes::kMargin : 0;
-    CRect known = m_seen;
+    m_plotWithReach.InflateRect(reach / kUnitsPerPixel + 1, reach / kUnitsPerPixel + 1);
+    const int margin = m_kind == StrokeKind::Recorded ? RecordedLine::kMargin : 0;
+    CRect known = m_plotWithReach;
     known.InflateRect(margin, margin);
     if (all.IsEmpty() || m_kind == StrokeKind::Mixed ||
         !FindPixelEdges(dc, known, m_columnEdges, m_rowEdges)) {
@@ -285,22 +287,22 @@ ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositio
         return;
     }
     if (m_kind == StrokeKind::Recorded) {
-        m_placeColumns = UnitsOf(m_columnEdges, margin, m_columnEdges.Count() - margin);
-        m_placeRows = UnitsOf(m_rowEdges, margin, m_rowEdges.Count() - margin);
+        m_groupColumns = UnitsOf(m_columnEdges, margin, m_columnEdges.Count() - margin);
+        m_groupRows = UnitsOf(m_rowEdges, margin, m_rowEdges.Count() - margin);
     } else {
-        m_placeColumns = m_columnEdges;
-        m_placeRows = m_rowEdges;
+        m_groupColumns = m_columnEdges;
+        m_groupRows = m_rowEdges;
     }
     m_columns = GroupRunsByColumn(
-        all, m_placeColumns, [&](IndexRange rest) { return xPositions.RunEnd(rest); },
+        all, m_groupColumns, [&](IndexRange rest) { return xPositions.RunEnd(rest); },
         [&](int index) { return xPositions.At(index).value_or(0); });
     m_raster = DirectRaster(dc);
-    if (m_raster && !IsInside(m_raster->Clip(), m_seen))
+    if (m_raster && !IsInside(m_raster->Clip(), m_plotWithReach))
         m_raster.reset();
 }
 
 bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMap, IndexRange range,
-                        const LineMark& mark) const {
+                        const LineSelectionMark& mark) const {
     const bool isRecorded = m_kind == StrokeKind::Recorded;
     const bool isInOrder = !m_columns.empty() && yMap.IsMonotonic();
     if (m_kind == StrokeKind::Mixed || !(isInOrder || isRecorded) || range.IsEmpty() || range.first < 0 ||
@@ -329,7 +331,7 @@ bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMa
     }
     // What comes before the mark lies under it, what comes after lies over it.
     draw(range.first, marked - 1, false);
-    DrawMark(m_dc, mark, pen, *markX);
+    DrawSelectionMark(m_dc, mark, pen, *markX);
     draw(marked, range.last, marked > range.first);
     return true;
 }

@@ -6,8 +6,11 @@
 #include <cstdint>
 #include <vector>
 
-#include "graphctrl/GraphCtrlStrokes.h"
+#include "graphctrl/LineTarget.h"
+#include "graphctrl/core/PixelColumns.h"
+#include "graphctrl/core/PixelRows.h"
 #include "graphctrl/core/SampleStore.h"
+#include "plot/Shapes.h"
 
 namespace kavlix {
 
@@ -16,7 +19,7 @@ namespace kavlix {
 /// is left out) the first, lowest, highest and last of each column of one logical unit are drawn: the same
 /// painted strokes at a bounded size, however the picture is enlarged. Strokes are cut near the plot, since a
 /// metafile's frame holds all that is drawn, seen or not.
-class RecordedStrokes {
+class RecordedLine {
 public:
     /// Pixels that strokes go on beyond what can be seen.
     static constexpr int kMargin = 32;
@@ -25,8 +28,8 @@ public:
     /// those of the window and the margin round it. A line with markers goes on from each sample, since
     /// drawing the marker moves there, and not from the last point that the pixel rule kept: its strokes are
     /// drawn one by one, but for those that lie in what the same column of one unit has already.
-    RecordedStrokes(const LineGround& ground, const Rect& window, int penPixels, bool hasMarkers)
-        : m_ground(ground), m_rows(ground.yMap, ground.rows), m_window(window), m_isThin(penPixels == 1),
+    RecordedLine(const LineTarget& target, const Rect& window, int penPixels, bool hasMarkers)
+        : m_target(target), m_rows(target.yMap, target.rows), m_window(window), m_isThin(penPixels == 1),
           m_hasMarkers(hasMarkers) {}
 
     /// The next sample, at `x`; a NaN is a gap.
@@ -78,16 +81,16 @@ private:
     };
 
     bool HasPixel(int column, int row) const {
-        return m_ground.columns.HasPixel(column) && m_ground.rows.HasPixel(row);
+        return m_target.columns.HasPixel(column) && m_target.rows.HasPixel(row);
     }
     bool IsNear(const Point& point) const {
-        return m_ground.columns.Holds(point.x) && m_ground.rows.Holds(point.y);
+        return m_target.columns.Holds(point.x) && m_target.rows.Holds(point.y);
     }
     void GoTo(int x) {
         if (x == m_x)
             return;
         m_x = x;
-        m_pixel = m_ground.columns.PixelOrSide(x);
+        m_pixel = m_target.columns.PixelOrSide(x);
     }
     bool TakeUnlessOnKeptPixel(double value) {
         const int row = m_rows.Of(value);
@@ -107,7 +110,7 @@ private:
         const int row = m_rows.Of(a);
         return row == m_rows.Of(b) && (HasPixel(m_pixel, row) || IsSameFarPixel({m_x, a}, {m_x, b}));
     }
-    Point Place(int x, double value) const { return {x, m_ground.yMap.Position(value).value_or(0)}; }
+    Point Place(int x, double value) const { return {x, m_target.yMap.Position(value).value_or(0)}; }
     void Keep(double value, int row);
     bool IsCovered(double from, double to);
     void DrawColumn(bool isEnd);
@@ -118,7 +121,7 @@ private:
     Point OnLine(const Point& from, const Point& to, const Point& pixel) const;
     void DrawPart();
 
-    LineGround m_ground;
+    LineTarget m_target;
     PixelRows m_rows;
     Rect m_window;
     bool m_isThin;

@@ -1,3 +1,4 @@
+// CGraphCtrl: the picture on the clipboard and in files.
 #include <kavlix/GraphCtrl.h>
 
 #include "gdi/PictureClipboard.h"

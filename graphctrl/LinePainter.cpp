@@ -1,4 +1,5 @@
-#include <kavlix/GraphCtrl.h>
+// Paints one dataset as a line with markers, stroke by stroke, with the selection mark of the line styles.
+#include "graphctrl/LinePainter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,9 +10,7 @@
 #include "gdi/Mapping.h"
 #include "gdi/Markers.h"
 #include "gdi/ShapeConversion.h"
-#include "graphctrl/GraphCtrlPainters.h"
-#include "graphctrl/GraphCtrlReducedLines.h"
-#include "graphctrl/GraphCtrlStrokes.h"
+#include "graphctrl/WideStroke.h"
 #include "graphctrl/core/SampleStore.h"
 #include "plot/SeriesReduction.h"
 
@@ -34,7 +33,7 @@ void DrawSampleMarker(CDC& dc, CDataset::MarkerType type, int x, int y) {
         dc.MoveTo(x, y);
 }
 
-void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x) {
+void DrawSelectionMark(CDC& dc, const LineSelectionMark& mark, CPen& seriesPen, int x) {
     if (x < mark.plot.left - kMarkTriangleRight - kRoundingReach ||
         x > mark.plot.right - kMarkTriangleLeft + kRoundingReach)
         return;
@@ -53,7 +52,7 @@ void DrawMark(CDC& dc, const LineMark& mark, CPen& seriesPen, int x) {
 }
 
 int PenWidth(const CDataset& dataset) {
-    return std::clamp(dataset.GetLineSize(), 0, kWidestLine);
+    return std::clamp(dataset.GetLineSize(), 0, CDataset::MaxLineSize);
 }
 
 int PenPixels(const CDC& dc, int width) {
@@ -67,7 +66,7 @@ int LineReach(const CDataset& dataset) {
 }
 
 void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPositions& xPositions,
-                    const LinearMap& yMap, IndexRange range, const LineMark& mark) {
+                    const LinearMap& yMap, IndexRange range, const LineSelectionMark& mark) {
     Select(dc, pen);
     const SampleStore& samples = dataset.Samples();
     bool started = false;
@@ -88,7 +87,7 @@ void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPosition
         const std::optional<int> x = xPositions.At(i);
         const std::optional<int> y = yMap.Position(value);
         if (x && i == mark.index && !std::isnan(value))
-            DrawMark(dc, mark, pen, *x);
+            DrawSelectionMark(dc, mark, pen, *x);
         if (!x || !y) {
             started = false;
             continue;
@@ -108,66 +107,3 @@ void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPosition
 }
 
 } // namespace kavlix
-
-using namespace kavlix;
-
-void CGraphCtrl::DrawGraphData(CDC& dc) {
-    switch (m_GraphStyle) {
-    case GraphStyleLine:
-    case GraphStyleTwoAxis: {
-        const CRect& plot = m_rectPlot;
-        const LinearMap xMap(m_XVisibleMin, m_XVisibleMax, plot.left, plot.Width());
-        DrawLines(dc, IndexPositions(xMap), [&](const CDataset& dataset) {
-            const int reach = LineReach(dataset);
-            return IndicesToDraw(xMap, plot.left - reach, plot.right + reach, dataset.GetSize());
-        });
-        break;
-    }
-    case GraphStyleBar:
-        DrawBars(dc);
-        break;
-    default:
-        break;
-    }
-}
-
-void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
-                           const std::function<IndexRange(const CDataset&)>& rangeOf) {
-    constexpr COLORREF kMarkColor = RGB(255, 0, 0);
-    CBrush triangleBrush;
-    triangleBrush.CreateSolidBrush(kMarkColor);
-    CPen cursorPen;
-    cursorPen.CreatePen(PS_DOT, 0, m_LineCursorColor);
-    CPen pens[DatasetCount];
-    for (int i = 0; i < DatasetCount; ++i)
-        pens[i].CreatePen(PS_SOLID, PenWidth(m_Datasets[i]), m_Datasets[i].GetColor());
-    StockAfterGuard brushAfter(dc, NULL_BRUSH);
-    StockAfterGuard penAfter(dc, NULL_PEN);
-    dc.SelectStockObject(NULL_BRUSH);
-
-    const CRect& plot = m_rectPlot;
-    const LinearMap yMap(m_YVisibleMin, m_YVisibleMax, plot.bottom, -plot.Height());
-    const LinearMap y2Map(m_Y2VisibleMin, m_Y2VisibleMax, plot.bottom, -plot.Height());
-    const LineMark mark{m_SelectionMarkPos, plot, cursorPen, triangleBrush};
-
-    // Dataset 0 comes last and lies on top.
-    const bool twoAxis = m_GraphStyle == GraphStyleTwoAxis;
-    const int drawn = twoAxis ? 2 : DatasetCount;
-    IndexRange ranges[DatasetCount];
-    int reach = 0;
-    for (int i = 0; i < drawn; ++i) {
-        const CDataset& dataset = m_Datasets[i];
-        if (!dataset.m_Visible)
-            continue;
-        ranges[i] = rangeOf(dataset);
-        reach = std::max(reach, LineReach(dataset));
-    }
-    const ReducedLines reduced(dc, ClippedPart(dc, plot), reach, xPositions, ranges, drawn);
-    for (int i = drawn - 1; i >= 0; --i) {
-        if (!m_Datasets[i].m_Visible)
-            continue;
-        const LinearMap& map = twoAxis && i == 1 ? y2Map : yMap;
-        if (!reduced.Draw(m_Datasets[i], pens[i], map, ranges[i], mark))
-            DrawSeriesLine(dc, m_Datasets[i], pens[i], xPositions, map, ranges[i], mark);
-    }
-}

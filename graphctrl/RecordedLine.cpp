@@ -1,5 +1,5 @@
 // Lines for metafiles and printers: what is kept of a column, and where strokes are cut.
-#include "graphctrl/GraphCtrlRecordedStrokes.h"
+#include "graphctrl/RecordedLine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +13,6 @@ namespace kavlix {
 
 namespace {
 
-constexpr std::size_t kMostPoints = 8192;
 /// Units between a chosen point and the edges of its pixel: players of metafiles compute positions in another
 /// arithmetic.
 constexpr int kEdgeInset = 2;
@@ -39,17 +38,17 @@ int Middle(const PixelEdges& edges, int pixel) {
 } // namespace
 
 /// Whether two samples beyond the same edges, whose pixels are not known, fall on one pixel.
-bool RecordedStrokes::IsSameFarPixel(const Sample& a, const Sample& b) const {
+bool RecordedLine::IsSameFarPixel(const Sample& a, const Sample& b) const {
     const Point from = Place(a.x, a.value);
     const Point to = Place(b.x, b.value);
     if (std::abs(from.x - to.x) > kUnitsPerPixel || std::abs(from.y - to.y) > kUnitsPerPixel)
         return false;
-    return ToPixel(m_ground.dc, from) == ToPixel(m_ground.dc, to);
+    return ToPixel(m_target.dc, from) == ToPixel(m_target.dc, to);
 }
 
 /// The first of the samples up to `last`, not before `first`, that all fall on the pixel of the last one.
-int RecordedStrokes::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first,
-                                  int last) const {
+int RecordedLine::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first,
+                               int last) const {
     const double value = values[last];
     if (last == first || !IsSamePixel(values[last - 1], value))
         return last;
@@ -66,13 +65,13 @@ int RecordedStrokes::BeginOfPixel(const SampleStore& samples, SampleStore::Reade
 
 /// Adds the samples of a column, `count` values one behind another. False, nothing added, at gaps and where a
 /// pixel is not known.
-bool RecordedStrokes::AddRun(const double* values, int count) {
-    if (!m_ground.columns.HasPixel(m_pixel))
+bool RecordedLine::AddRun(const double* values, int count) {
+    if (!m_target.columns.HasPixel(m_pixel))
         return false;
     const auto rowOf = [&](int i) {
-        return values[i] == values[i] ? m_rows.Of(values[i]) : m_ground.rows.Before();
+        return values[i] == values[i] ? m_rows.Of(values[i]) : m_target.rows.Before();
     };
-    const auto isKnown = [&](int row) { return m_ground.rows.HasPixel(row); };
+    const auto isKnown = [&](int row) { return m_target.rows.HasPixel(row); };
     int first = 0;
     int firstRow = rowOf(first);
     if (m_isOpen && m_pixel == m_keptPixel && isKnown(m_keptRow))
@@ -111,8 +110,7 @@ bool RecordedStrokes::AddRun(const double* values, int count) {
 /// Adds a column without a look at each of its samples: the first and the last two that the pixel rule keeps,
 /// and the lowest and highest. False, nothing added, where that does not do: at gaps, and where the rule
 /// leaves an extreme out.
-bool RecordedStrokes::AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first,
-                                  int last) {
+bool RecordedLine::AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first, int last) {
     const Extremes extremes = samples.ExtremesOf(first, last);
     if (extremes.HasGap())
         return false;
@@ -148,7 +146,7 @@ bool RecordedStrokes::AddExtremes(const SampleStore& samples, SampleStore::Reade
     return true;
 }
 
-void RecordedStrokes::Covered::Add(const Covered& other) {
+void RecordedLine::Covered::Add(const Covered& other) {
     if (other.first <= last + 1 && first <= other.last + 1) {
         first = std::min(first, other.first);
         last = std::max(last, other.last);
@@ -159,7 +157,7 @@ void RecordedStrokes::Covered::Add(const Covered& other) {
 
 /// Whether the stroke between two samples of the column paints nothing new, neither at the size of the window
 /// nor at a pixel for each unit. If it does, it counts as drawn.
-bool RecordedStrokes::IsCovered(double from, double to) {
+bool RecordedLine::IsCovered(double from, double to) {
     if (m_x != m_coveredX) {
         m_coveredX = m_x;
         m_coveredUnits = m_coveredRows = Covered();
@@ -174,7 +172,7 @@ bool RecordedStrokes::IsCovered(double from, double to) {
         return a < b ? Covered{a, b - 1} : Covered{b + 1, a}; // LineTo leaves the end out
     };
     const Covered units = covered(begin.y, end.y);
-    const Covered rows = covered(m_ground.rows.PixelOf(begin.y), m_ground.rows.PixelOf(end.y));
+    const Covered rows = covered(m_target.rows.PixelOf(begin.y), m_target.rows.PixelOf(end.y));
     if (m_coveredUnits.Holds(units) && m_coveredRows.Holds(rows))
         return true;
     m_coveredUnits.Add(units);
@@ -182,7 +180,7 @@ bool RecordedStrokes::IsCovered(double from, double to) {
     return false;
 }
 
-void RecordedStrokes::Keep(double value, int row) {
+void RecordedLine::Keep(double value, int row) {
     bool isDrawn = true;
     if (m_isOpen && m_hasMarkers) {
         DrawColumn(false);
@@ -212,7 +210,7 @@ void RecordedStrokes::Keep(double value, int row) {
 
 /// Draws what the column has. The last stroke of a line is drawn as it is, since it leaves its last pixel
 /// out, at whatever size the picture is shown.
-void RecordedStrokes::DrawColumn(bool isEnd) {
+void RecordedLine::DrawColumn(bool isEnd) {
     if (m_count == 0)
         return;
     To(Place(m_keptX, m_first));
@@ -227,7 +225,7 @@ void RecordedStrokes::DrawColumn(bool isEnd) {
     m_count = 0;
 }
 
-void RecordedStrokes::Pause() {
+void RecordedLine::Pause() {
     DrawColumn(true);
     DrawPart();
     if (m_hasEnd && IsNear(m_end))
@@ -235,7 +233,7 @@ void RecordedStrokes::Pause() {
     m_coveredX = kCoordinateLimit + 1; // the mark may be drawn over it
 }
 
-void RecordedStrokes::End() {
+void RecordedLine::End() {
     DrawColumn(true);
     DrawPart();
     m_hasEnd = false;
@@ -243,7 +241,7 @@ void RecordedStrokes::End() {
 }
 
 /// The next stroke begins at `point`.
-void RecordedStrokes::From(const Point& point) {
+void RecordedLine::From(const Point& point) {
     if (m_hasEnd && point == m_end)
         return;
     DrawPart();
@@ -251,7 +249,7 @@ void RecordedStrokes::From(const Point& point) {
     To(point);
 }
 
-void RecordedStrokes::To(const Point& point) {
+void RecordedLine::To(const Point& point) {
     const bool isNear = IsNear(point);
     if (m_hasEnd && point == m_end)
         return;
@@ -261,22 +259,22 @@ void RecordedStrokes::To(const Point& point) {
         m_points.push_back({point.x, point.y});
     m_end = point;
     m_hasEnd = true;
-    if (m_points.size() >= kMostPoints) {
+    if (m_points.size() >= kMaxPendingPoints) {
         DrawPart();
         m_points.push_back({point.x, point.y});
     }
 }
 
 /// The line comes from far away or goes there.
-void RecordedStrokes::ToFar(const Point& point) {
+void RecordedLine::ToFar(const Point& point) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return (from < edges.Begin() && to < edges.Begin()) || (from >= edges.End() && to >= edges.End());
     };
     m_cut.clear();
     const Point from = m_end;
-    if (!isBeyond(m_ground.columns, from.x, point.x) && !isBeyond(m_ground.rows, from.y, point.y)) {
-        const Point begin = ToPixel(m_ground.dc, from);
-        const Point end = ToPixel(m_ground.dc, point);
+    if (!isBeyond(m_target.columns, from.x, point.x) && !isBeyond(m_target.rows, from.y, point.y)) {
+        const Point begin = ToPixel(m_target.dc, from);
+        const Point end = ToPixel(m_target.dc, point);
         Cut(begin, end);
         for (std::size_t i = 0; i < m_cut.size(); ++i) {
             const bool isEnd = m_cut[i] == (i == 0 ? begin : end);
@@ -294,19 +292,19 @@ void RecordedStrokes::ToFar(const Point& point) {
 }
 
 /// A point of `pixel` that lies on the line, or as near to it as that pixel has one.
-Point RecordedStrokes::OnLine(const Point& from, const Point& to, const Point& pixel) const {
+Point RecordedLine::OnLine(const Point& from, const Point& to, const Point& pixel) const {
     const double dx = static_cast<double>(to.x) - from.x;
     const double dy = static_cast<double>(to.y) - from.y;
-    const int x = Middle(m_ground.columns, pixel.x);
-    const int y = Middle(m_ground.rows, pixel.y);
+    const int x = Middle(m_target.columns, pixel.x);
+    const int y = Middle(m_target.rows, pixel.y);
     if (std::fabs(dy) > std::fabs(dx))
-        return {Into(m_ground.columns, pixel.x, from.x + (y - from.y) * dx / dy), y};
-    return {x, Into(m_ground.rows, pixel.y, from.y + (x - from.x) * dy / dx)};
+        return {Into(m_target.columns, pixel.x, from.x + (y - from.y) * dx / dy), y};
+    return {x, Into(m_target.rows, pixel.y, from.y + (x - from.x) * dy / dx)};
 }
 
 /// Cuts a stroke, given in pixels. The edges of a wide one keep their pixels where a single stroke that is
 /// cut within the margin has the same; otherwise they may be rounded otherwise.
-void RecordedStrokes::Cut(const Point& begin, const Point& end) {
+void RecordedLine::Cut(const Point& begin, const Point& end) {
     const bool comesFromFar = !HasPixel(begin.x, begin.y);
     if (!m_isThin && comesFromFar != !HasPixel(end.x, end.y)) {
         const Point& nearEnd = comesFromFar ? end : begin;
@@ -319,16 +317,16 @@ void RecordedStrokes::Cut(const Point& begin, const Point& end) {
     CutStroke(PixelLine(begin, end), m_window, kMargin, m_cut);
 }
 
-void RecordedStrokes::DrawPart() {
+void RecordedLine::DrawPart() {
     const int count = static_cast<int>(m_points.size());
     if (m_isThin && count > 1)
-        m_ground.dc.Polyline(m_points.data(), count);
+        m_target.dc.Polyline(m_points.data(), count);
     // Where wide strokes are played, a whole polyline costs more than its strokes one by one.
     if (!m_isThin && count > 1) {
-        m_ground.dc.MoveTo(m_points.front());
+        m_target.dc.MoveTo(m_points.front());
         for (const POINT& point : m_points)
             if (&point != &m_points.front())
-                m_ground.dc.LineTo(point);
+                m_target.dc.LineTo(point);
     }
     m_points.clear();
 }

@@ -1,0 +1,47 @@
+// Paints one tick of the X axis and its label.
+#include "graphctrl/XTickPainter.h"
+
+#include "gdi/Guards.h"
+#include "gdi/Text.h"
+
+namespace kavlix {
+
+namespace {
+
+constexpr int kUpperLineShift = 70; // logical units from the tick to the upper line of two
+
+} // namespace
+
+void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop) {
+    if (gridPen != nullptr)
+        Select(dc, axisPen);
+    dc.MoveTo(x, rectAxis.bottom);
+    dc.LineTo(x, rectAxis.top);
+    if (gridPen != nullptr && !gridPen->Draw(CPoint(x, rectAxis.top), CPoint(x, plotTop))) {
+        Select(dc, gridPen->Pen());
+        dc.LineTo(x, plotTop);
+    }
+}
+
+void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest) {
+    const auto drawTwo = [&](const CString& first, const CString& second) {
+        dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
+        DrawTextAt(dc, x + kUpperLineShift, y, first);
+        dc.SetTextAlign(TA_RIGHT);
+        DrawTextAt(dc, x, y, second);
+    };
+    if (!down.IsEmpty()) {
+        drawTwo(up, down);
+    } else if (const int cut = BytesOfCharacters(up, up.GetLength(), longest); cut < up.GetLength()) {
+        CString first = up.Left(cut);
+        CString second = up.Mid(cut);
+        first.TrimRight();
+        second.TrimLeft();
+        drawTwo(first, second);
+    } else {
+        dc.SetTextAlign(TA_RIGHT | TA_BASELINE);
+        DrawTextAt(dc, x + kSingleLineShift, y, up);
+    }
+}
+
+} // namespace kavlix

@@ -1,22 +1,27 @@
+// The model of CGraph: settings, and the lists of series, colours and legend texts.
 #include <kavlix/Graph.h>
 
 #include <algorithm>
+#include <climits>
 #include <cstdint>
+#include <memory>
+#include <utility>
 
-#include "graph/GraphLists.h"
-#include "graph/GraphPass.h"
+#include "graph/OwningList.h"
+#include "graph/core/PrintedBottom.h"
 
 using kavlix::kListBlock;
 
 BEGIN_MESSAGE_MAP(CGraph, CStatic)
 END_MESSAGE_MAP()
 
-// The lists are made last, when nothing else can throw: a constructor that throws runs no destructor.
-CGraph::CGraph() : seriesList(nullptr) {
+// The constructors keep a list only when nothing after it can throw: no destructor runs for an object
+// whose constructor throws.
+CGraph::CGraph() {
     seriesList = new CObList(kListBlock);
 }
 
-CGraph::CGraph(int type) : seriesList(nullptr), graphType(type), quadSetManually(type != GraphTypeBar) {
+CGraph::CGraph(int type) : graphType(type), quadSetManually(type != GraphTypeBar) {
     auto series = std::make_unique<CObList>(kListBlock);
     colorList = new CObList(kListBlock);
     seriesList = series.release();

@@ -1,3 +1,5 @@
+// The axes of a drawing: walls of the 3D types, grid lines, ticks and numbers. Series labels and captions
+// are in GraphAxisLabels.cpp.
 #include <kavlix/Graph.h>
 
 #include <algorithm>
@@ -5,19 +7,16 @@
 #include <cmath>
 
 #include "graph/GraphPass.h"
+#include "graph/GraphStyle.h"
 
 using kavlix::PlanePoint;
 
 namespace {
 
-constexpr double kTickLength = 4; // all lengths in pixels
-constexpr double kGridGap = 10;   // closer grid lines are drawn at labels only
-constexpr double kNumberGap = 6;
-constexpr double kEdge = 2;
-constexpr double kBesidePlot = 8; // how far a number may reach beyond the plot's right end
+constexpr double kTickLength = 4; // pixels
+constexpr double kGridGap = 10;   // pixels; closer grid lines are drawn at numbers only
+constexpr double kBesidePlot = 8; // pixels that a number may reach beyond the plot's right end
 
-constexpr COLORREF kInk = RGB(0, 0, 0);
-constexpr COLORREF kGrid = RGB(128, 128, 128);
 constexpr COLORREF kFrame = RGB(176, 176, 176);
 constexpr COLORREF kBackWall = RGB(248, 248, 248);
 constexpr COLORREF kSideWall = RGB(236, 236, 236);
@@ -30,11 +29,11 @@ void CGraph::DrawAxis(CDC*) {
         return;
     kavlix::GraphPass& p = *pass;
     Draw3DFrame();
-    if (p.scaledKeys)
+    if (p.type.Has(kavlix::kScaledKeys))
         DrawScale(p.keys, p.keyTicks, p.horizontal);
     DrawScale(p.values, p.valueTicks, !p.horizontal);
     DrawAxisLines();
-    if (!p.scaledKeys) {
+    if (!p.type.Has(kavlix::kScaledKeys)) {
         for (const kavlix::SeriesSlots* slots : {&p.slots, &p.mirroredSlots}) {
             if (slots->count == 0)
                 continue;
@@ -66,7 +65,7 @@ void CGraph::Draw3DFrame() {
         {{f.left, f.bottom}, back(f.left, f.bottom), back(f.right, f.bottom), {f.right, f.bottom}}});
 }
 
-/// Ticks, numbers and grid lines of a scale along the plot's left side or along its bottom.
+/// Grid lines, ticks and numbers of a scale along the plot's left side or along its bottom.
 void CGraph::DrawScale(const kavlix::PlotScale& scale, const kavlix::ScaleTicks& ticks, bool left) {
     kavlix::GraphPass& p = *pass;
     const kavlix::PlaneRect& f = p.front;
@@ -76,7 +75,7 @@ void CGraph::DrawScale(const kavlix::PlotScale& scale, const kavlix::ScaleTicks&
             emit(i, scale.Position(static_cast<double>(ticks.Value(i))));
     };
     if (graphHasGridLines) {
-        p.canvas.SetLine(kGrid);
+        p.canvas.SetLine(kavlix::kGrey);
         const double distance = std::abs(scale.Position(static_cast<double>(ticks.Value(ticks.every))) -
                                          scale.Position(static_cast<double>(ticks.Value(0))));
         const bool open = distance >= kGridGap * p.canvas.Pixel();
@@ -93,7 +92,7 @@ void CGraph::DrawScale(const kavlix::PlotScale& scale, const kavlix::ScaleTicks&
                 p.canvas.Line(start, end);
         });
     }
-    p.canvas.SetLine(kInk);
+    p.canvas.SetLine(kavlix::kInk);
     eachTick([&](std::int64_t, double at) {
         if (left)
             p.canvas.Line({f.left - length, at}, {f.left, at});
@@ -118,35 +117,37 @@ void CGraph::DrawNumber(const CString& text, double position, bool left) {
     const kavlix::LabelSize size = p.canvas.Measure(text);
     if (!left) {
         const double rightmost =
-            graphHasLegend ? p.plot.right + kBesidePlot * pixel : p.canvas.Width() - kEdge * pixel;
-        const double x = std::max(std::min(position - size.width / 2, rightmost - size.width), kEdge * pixel);
-        p.canvas.Text({x, p.plot.bottom + kNumberGap * pixel}, text);
+            graphHasLegend ? p.plot.right + kBesidePlot * pixel : p.canvas.Width() - kavlix::kEdge * pixel;
+        const double x =
+            std::max(std::min(position - size.width / 2, rightmost - size.width), kavlix::kEdge * pixel);
+        p.canvas.Text({x, p.plot.bottom + kavlix::kLabelDistance * pixel}, text);
     } else if (p.leftFont > 0) {
-        p.canvas.Text({p.plot.left - kNumberGap * pixel - size.width, position - size.height / 2}, text);
+        p.canvas.Text({p.plot.left - kavlix::kLabelDistance * pixel - size.width, position - size.height / 2},
+                      text);
     } else {
         const double y = std::min(position - size.height / 2, p.plot.bottom - size.height - pixel);
-        p.lateLabels.push_back(
+        p.overlayLabels.push_back(
             {{std::max(p.plot.left + kTickLength * pixel, p.leftEdge), y}, text, yTickFontSize});
     }
 }
 
-/// The two axes, and the zero line where it is not one of them.
+/// The two axes, and the zero lines that are no axis.
 void CGraph::DrawAxisLines() {
     kavlix::GraphPass& p = *pass;
     const kavlix::PlaneRect& f = p.front;
     const double first = p.horizontal ? f.top : f.left;
     const double last = p.horizontal ? f.bottom : f.right;
-    p.canvas.SetLine(kInk);
+    p.canvas.SetLine(kavlix::kInk);
     const double valueLine = p.mirrored ? p.slots.from : p.horizontal ? f.bottom : f.left;
     p.canvas.Line(p.At(valueLine, p.values.From()), p.At(valueLine, p.values.To()));
-    const double foot = kavlix::FootOf(p);
-    p.canvas.Line(p.At(first, foot), p.At(last, foot));
+    const double base = p.BaseLine();
+    p.canvas.Line(p.At(first, base), p.At(last, base));
     if (p.values.CrossesZero() && !p.centred) {
         const double zero = p.values.Position(0);
         p.canvas.Line(p.At(first, zero), p.At(last, zero));
     }
-    if (p.scaledKeys && p.keys.CrossesZero()) {
-        p.canvas.SetLine(kGrid);
+    if (p.type.Has(kavlix::kScaledKeys) && p.keys.CrossesZero()) {
+        p.canvas.SetLine(kavlix::kGrey);
         const double zero = p.keys.Position(0);
         p.canvas.Line(p.At(zero, p.values.From()), p.At(zero, p.values.To()));
     }
@@ -158,7 +159,7 @@ void CGraph::DrawSeriesTicks(const kavlix::SeriesSlots& slots) {
     const double length = kTickLength * pixel;
     if (std::abs(slots.Width()) < 2 * length)
         return;
-    p.canvas.SetLine(kInk);
+    p.canvas.SetLine(kavlix::kInk);
     for (int i = 0; i < slots.count; ++i) {
         const double at = slots.Middle(i);
         if (p.horizontal)

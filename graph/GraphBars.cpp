@@ -1,26 +1,24 @@
-#include <kavlix/Graph.h>
-
+// Bars side by side and stacked bars.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "graph/GraphPass.h"
 
-using kavlix::GraphPass;
-using kavlix::Span;
-
+namespace kavlix {
 namespace {
 
-constexpr double kStackWidth = 0.6; // of a slot
-constexpr double kOutlined = 4;     // pixels; thinner bars would be all outline
+constexpr double kStackWidth = 0.6; // as a fraction of a slot
+constexpr double kOutlined = 4;     // pixels; the outline would hide a thinner bar
 
-/// A bar from `foot` to `tip`, in values. The pixel of the tip belongs to the bar, that of the foot does not,
-/// so that the line it stands on stays to be seen and stacked bars do not overlap.
+/// A bar from the value `foot` to the value `tip`. The pixel of the tip belongs to the bar and that of the
+/// foot does not. So the base line stays visible, and stacked bars do not overlap.
 void DrawBar(GraphPass& pass, Span along, double foot, double tip, COLORREF colour) {
     foot = pass.values.Clamp(foot);
     tip = pass.values.Clamp(tip);
     if (foot == tip)
         return;
-    kavlix::GraphCanvas& canvas = pass.canvas;
+    GraphCanvas& canvas = pass.canvas;
     const double pixel = canvas.Pixel();
     Span value{pass.values.Position(foot), pass.values.Position(tip)};
     if (value.to > value.from)
@@ -31,48 +29,44 @@ void DrawBar(GraphPass& pass, Span along, double foot, double tip, COLORREF colo
         std::swap(along.from, along.to);
     const bool outlined = along.to - along.from >= kOutlined * pixel;
     along.to = outlined ? along.to + pixel : std::max(along.to, along.from + pixel);
-    canvas.Box(pass.Between(along, value), colour, outlined ? kavlix::OutlineOf(colour) : colour);
+    canvas.Box(pass.Between(along, value), colour, outlined ? OutlineOf(colour) : colour);
 }
 
 } // namespace
 
-void CGraph::DrawBarSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    GraphPass& p = *pass;
-    const double base = p.values.Base();
-    for (int s = 0; s < p.data.SeriesCount(); ++s) {
-        const kavlix::KeyedValue* before = nullptr;
-        for (const kavlix::KeyedValue& item : p.data.series[static_cast<std::size_t>(s)].values) {
+void PaintBars(GraphPass& pass) {
+    const double base = pass.values.Base();
+    for (int s = 0; s < pass.data.SeriesCount(); ++s) {
+        const KeyedValue* before = nullptr;
+        for (const KeyedValue& item : pass.data.Series(s).values) {
             const bool repeated = before != nullptr && before->key == item.key;
             before = &item;
             if (repeated)
                 continue;
             const bool negative = item.key < 0;
             const int group = negative ? -(item.key + 1) : item.key;
-            if (group >= p.data.groups || (negative && !p.mirrored))
+            if (group >= pass.data.groups || (negative && !pass.mirrored))
                 continue;
-            const kavlix::SeriesSlots& slots = negative ? p.mirroredSlots : p.slots;
-            DrawBar(p, slots.Bar(s, group, p.data.groups), base, item.value, p.data.Colour(group));
+            const SeriesSlots& slots = negative ? pass.mirroredSlots : pass.slots;
+            DrawBar(pass, slots.Bar(s, group, pass.data.groups), base, item.value, pass.data.Colour(group));
         }
     }
 }
 
-void CGraph::DrawStackedBarSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    GraphPass& p = *pass;
-    for (int s = 0; s < p.data.SeriesCount(); ++s) {
-        const auto values =
-            kavlix::GroupValues(p.data.series[static_cast<std::size_t>(s)].values, p.data.groups);
-        const auto parts = kavlix::StackValues(values);
+void PaintStackedBars(GraphPass& pass) {
+    for (int s = 0; s < pass.data.SeriesCount(); ++s) {
+        const auto values = pass.data.Groups(s);
+        const auto parts = StackValues(values);
         for (std::size_t i = 0; i < parts.size(); ++i) {
-            const kavlix::StackSegment& part = parts[i];
-            if (i + 1 < parts.size() && p.Covers(parts[i + 1], part))
+            const StackSegment& part = parts[i];
+            if (i + 1 < parts.size() && pass.Covers(parts[i + 1], part))
                 continue;
             const bool below = part.high <= 0;
-            DrawBar(p, p.slots.Single(s, kStackWidth), static_cast<double>(below ? part.high : part.low),
-                    static_cast<double>(below ? part.low : part.high), p.data.Colour(part.group));
+            DrawBar(pass, pass.slots.Single(s, kStackWidth),
+                    static_cast<double>(below ? part.high : part.low),
+                    static_cast<double>(below ? part.low : part.high), pass.data.Colour(part.group));
         }
     }
 }
+
+} // namespace kavlix

@@ -1,48 +1,45 @@
-#include <kavlix/Graph.h>
-
+// Box-and-whisker drawings.
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "graph/GraphPass.h"
+#include "graph/GraphStyle.h"
 #include "graph/core/BoxStatistics.h"
 
-using kavlix::GraphPass;
-using kavlix::Span;
-
+namespace kavlix {
 namespace {
 
-constexpr double kBoxWidth = 0.5; // of a slot
-constexpr double kCapWidth = 0.25;
-constexpr double kMedianWidth = 2; // pixels
-constexpr double kOutlierRadius = 3;
-constexpr COLORREF kNeutral = RGB(128, 128, 128); // of a box, which stands for no group
-constexpr double kBoxLight =
-    1.55; // the box is paler than its outline, so that the median shows on any colour
+constexpr double kBoxWidth = 0.5;    // as a fraction of a slot
+constexpr double kCapWidth = 0.25;   // of a whisker, as a fraction of a slot
+constexpr double kMedianWidth = 2;   // pixels
+constexpr double kOutlierRadius = 3; // pixels
+constexpr double kBoxLight = 1.55;   // the box is paler than its median, so that the median shows
 
 class BoxPainter {
 public:
     BoxPainter(GraphPass& pass, int slot) : m_pass(pass), m_slot(slot) {}
 
-    void Draw(const kavlix::BoxStatistics& box, COLORREF colour) const {
-        kavlix::GraphCanvas& canvas = m_pass.canvas;
-        canvas.SetLine(kavlix::OutlineOf(colour));
+    void Draw(const BoxStatistics& box, COLORREF colour) const {
+        GraphCanvas& canvas = m_pass.canvas;
+        canvas.SetLine(OutlineOf(colour));
         Whisker(box.lowerQuartile, box.lowerWhisker);
         Whisker(box.upperQuartile, box.upperWhisker);
         if (Shows(box.lowerQuartile, box.upperQuartile)) {
-            kavlix::PlaneRect area =
-                m_pass.Between(m_pass.slots.Single(m_slot, kBoxWidth),
-                               {Position(box.lowerQuartile), Position(box.upperQuartile)});
+            PlaneRect area = m_pass.Between(m_pass.slots.Single(m_slot, kBoxWidth),
+                                            {Position(box.lowerQuartile), Position(box.upperQuartile)});
             area.right += canvas.Pixel();
             area.bottom += canvas.Pixel();
-            canvas.Box(area, kavlix::Shade(colour, kBoxLight), kavlix::OutlineOf(colour));
+            canvas.Box(area, Shade(colour, kBoxLight), OutlineOf(colour));
         }
-        canvas.SetLine(kavlix::OutlineOf(colour), kMedianWidth);
+        canvas.SetLine(OutlineOf(colour), kMedianWidth);
         Across(box.median, kBoxWidth);
     }
 
     void DrawOutlier(int value, COLORREF colour) const {
         if (!m_pass.values.Contains(value))
             return;
-        m_pass.canvas.SetLine(kavlix::OutlineOf(colour));
+        m_pass.canvas.SetLine(OutlineOf(colour));
         m_pass.canvas.SetFill(colour);
         m_pass.canvas.Circle(m_pass.At(m_pass.slots.Middle(m_slot), Position(value)),
                              kOutlierRadius * m_pass.canvas.Pixel());
@@ -53,7 +50,7 @@ private:
     bool Shows(double low, double high) const {
         return high >= m_pass.values.Low() && low <= m_pass.values.High();
     }
-    /// A stroke across the slot, where the value lies on the scale.
+    /// A stroke across the slot at `value`; nothing when the value is not on the scale.
     void Across(double value, double width) const {
         if (!m_pass.values.Contains(value))
             return;
@@ -74,21 +71,21 @@ private:
 
 } // namespace
 
-void CGraph::DrawBoxWhiskerSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    for (int s = 0; s < pass->data.SeriesCount(); ++s) {
-        const std::vector<kavlix::KeyedValue>& items = pass->data.series[static_cast<std::size_t>(s)].values;
+void PaintBoxes(GraphPass& pass) {
+    for (int s = 0; s < pass.data.SeriesCount(); ++s) {
+        const std::vector<KeyedValue>& items = pass.data.Series(s).values;
         std::vector<int> values;
-        for (const kavlix::KeyedValue& item : items)
+        for (const KeyedValue& item : items)
             values.push_back(item.value);
-        kavlix::BoxStatistics box;
-        if (!kavlix::ComputeBoxStatistics(std::move(values), box))
+        BoxStatistics box;
+        if (!ComputeBoxStatistics(std::move(values), box))
             continue;
-        const BoxPainter painter(*pass, s);
-        painter.Draw(box, pass->bySeries ? pass->data.Colour(s) : kNeutral);
-        for (const kavlix::KeyedValue& item : items)
+        const BoxPainter painter(pass, s);
+        painter.Draw(box, pass.bySeries ? pass.data.Colour(s) : kGrey);
+        for (const KeyedValue& item : items)
             if (box.IsOutlier(item.value))
-                painter.DrawOutlier(item.value, pass->PointColour(s, item.key));
+                painter.DrawOutlier(item.value, pass.PointColour(s, item.key));
     }
 }
+
+} // namespace kavlix

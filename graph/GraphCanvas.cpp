@@ -1,3 +1,4 @@
+// Drawing with GDI: rounding, the tools of a picture, and the faster of two calls that draw the same pixels.
 #include "graph/GraphCanvas.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@
 namespace kavlix {
 namespace {
 
-constexpr std::size_t kMostTools = 256; // pens or brushes held at a time
+constexpr std::size_t kMostTools = 256; // pens, and brushes, that exist at a time
 
 } // namespace
 
@@ -79,7 +80,7 @@ void GraphCanvas::HostTools() {
 }
 
 void GraphCanvas::Line(PlanePoint from, PlanePoint to) {
-    const double aside = m_penWidth; // the pen's other half and the pixel of rounding
+    const double aside = m_penWidth; // half of the pen, and a unit of rounding
     if (std::max(from.x, to.x) < m_visible.left - aside || std::min(from.x, to.x) > m_visible.right + aside ||
         std::max(from.y, to.y) < m_visible.top - aside || std::min(from.y, to.y) > m_visible.bottom + aside)
         return;
@@ -98,7 +99,7 @@ void GraphCanvas::Polyline(const std::vector<PlanePoint>& points) {
         return;
     const std::vector<POINT>& places = At(points.data(), points.size());
     if (m_penWidth > 1) {
-        // GDI takes eight times as long for a polyline with a wide pen, and draws the same pixels.
+        // With a wide pen Polyline draws the same pixels and takes eight times as long.
         m_dc.MoveTo(places.front());
         for (std::size_t i = 1; i < places.size(); ++i)
             m_dc.LineTo(places[i]);
@@ -121,8 +122,8 @@ void GraphCanvas::FillPixels(const CRect& area, COLORREF colour) {
 
 void GraphCanvas::Box(const PlaneRect& area, COLORREF fill, COLORREF outline) {
     CRect pixels(X(area.left), Y(area.top), X(area.right), Y(area.bottom));
-    // Two fills: the upright lines of a border take as long as the fill of everything. Rectangle leaves a
-    // single pixel out.
+    // Two fills are faster than Rectangle: GDI takes as long for the upright lines of a border as for a fill.
+    // Rectangle draws nothing when the area is a single pixel.
     if (m_pixels || pixels.Size() == CSize(1, 1)) {
         FillPixels(pixels, outline);
         pixels.DeflateRect(1, 1);
@@ -145,7 +146,7 @@ void GraphCanvas::Circle(PlanePoint centre, double radius) {
 }
 
 void GraphCanvas::Text(PlanePoint place, const CString& text) {
-    // No character is wider than twice the height of its cell.
+    // Every character is narrower than twice the height of its cell.
     const double reach = m_font.height * (2.0 * text.GetLength() + 1);
     const double back = m_font.angle != 0 ? reach : 0;
     if (place.x - back > m_visible.right || place.y - back > m_visible.bottom ||
@@ -155,8 +156,8 @@ void GraphCanvas::Text(PlanePoint place, const CString& text) {
         DrawTextAt(m_dc, X(place.x), Y(place.y), text);
         return;
     }
-    // Which way a font turns where y grows upwards differs from system to system; the same scale with y
-    // downwards leaves no doubt.
+    // Systems differ in the direction in which a font turns where y grows upwards. So the text is drawn with
+    // the same scale and y growing downwards, where they agree.
     const SavedDcGuard saved(m_dc);
     CPoint at(X(place.x), Y(place.y));
     m_dc.LPtoDP(&at);

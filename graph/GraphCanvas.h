@@ -1,7 +1,10 @@
+// A DC with the few drawing operations that a graph needs, on screen and paper alike.
 #pragma once
 
 #include <afxwin.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <map>
 #include <utility>
 #include <vector>
@@ -12,21 +15,26 @@
 
 namespace kavlix {
 
+/// The height in pixels of a font whose size the host has set: sizes below 1 count as 1.
+inline int FontHeight(int size) {
+    return std::max(size, 1);
+}
+
 /// Where a picture lies in a DC, in the DC's logical units.
 struct GraphFrame {
     int left = 0;
     int top = 0;
     int width = 0;
     int height = 0;
-    int pixel = 1;   ///< logical units to a pixel of the screen
+    int pixel = 1;   ///< logical units per pixel of a screen with 96 dots to the inch
     bool up = false; ///< whether the DC's y grows upwards
 };
 
-/// A DC into which a picture is painted, with one pen and one brush at a time.
+/// Draws shapes and texts of a picture into a DC, with one pen and one brush at a time.
 ///
-/// Places are in logical units from the picture's upper left corner, x to the right and y downwards,
-/// whichever way the DC runs; they are rounded here, and held within what GDI can draw. While the canvas
-/// lives text stands on whatever is below it, in the DC's text colour; the DC's state comes back at its end.
+/// Places are in logical units from the picture's upper left corner, x to the right and y downwards, also in
+/// a DC whose y grows upwards. The canvas rounds places to whole units and limits them to what GDI can draw.
+/// Texts are drawn without a ground, in the DC's text colour. The destructor restores the DC's state.
 class GraphCanvas {
 public:
     GraphCanvas(CDC& dc, const GraphFrame& frame);
@@ -35,48 +43,49 @@ public:
     GraphCanvas& operator=(const GraphCanvas&) = delete;
 
     CDC& Dc() { return m_dc; }
-    /// A pixel of the screen, in the picture's units.
+    /// The size of a screen pixel, in logical units.
     double Pixel() const { return m_frame.pixel; }
     double Width() const { return m_frame.width; }
     double Height() const { return m_frame.height; }
-    /// Logical coordinates of the DC.
+    /// The DC's logical coordinate of a place in the picture.
     int X(double x) const;
     int Y(double y) const;
 
-    /// Pens of `pixels` pixels' width.
+    /// Selects a solid pen that is `pixels` screen pixels wide.
     void SetLine(COLORREF colour, double pixels = 1);
     void NoLine();
     void SetFill(COLORREF colour);
     void NoFill();
-    /// The pen and brush that were selected when the canvas was made.
+    /// Selects the pen and brush that the DC had when the canvas was made.
     void HostTools();
 
     void Line(PlanePoint from, PlanePoint to);
-    /// Lines from each point to the next, with the pen of SetLine.
+    /// Lines from each point to the next. Call SetLine before.
     void Polyline(const std::vector<PlanePoint>& points);
     void Polygon(const PlanePoint* points, std::size_t count);
     template <class Points> void Polygon(const Points& points) { Polygon(points.data(), points.size()); }
-    /// Right and bottom edge lie outside.
+    /// The right and bottom edges are not part of the rectangle.
     void Rectangle(const PlaneRect& area);
-    /// A rectangle filled with `fill`, with a border of one pixel in `outline`. Replaces pen and brush.
+    /// A rectangle filled with `fill`, with a border one pixel wide in `outline`. Pen and brush change.
     void Box(const PlaneRect& area, COLORREF fill, COLORREF outline);
     void Circle(PlanePoint centre, double radius);
 
-    /// The COLORREF that texts have without a colour of their own: the DC's when the canvas was made.
+    /// The text colour that the DC had when the canvas was made.
     COLORREF HostInk() const { return m_hostInk; }
-    /// The place is the text's own upper left corner. A text that cannot reach the picture, or on the screen
-    /// what is to be painted of it, is not drawn.
+    /// `place` is the upper left corner of the text itself, before it is turned. A text that cannot reach the
+    /// visible part of the picture is not drawn.
     void Text(PlanePoint place, const CString& text);
+    /// The size of a text in the font selected, before the text is turned.
     LabelSize Measure(const CString& text) const;
-    /// `text` whole if it is not wider than `room`, else cut and ended with dots; empty when not even they
-    /// and one character fit.
+    /// `text`, or its beginning and three dots when `text` is wider than `room`. Empty when one character and
+    /// the dots are wider than `room`.
     CString Shorten(const CString& text, double room) const;
-    /// Average width of a character, and height, of the font selected.
+    /// The average width and the height of a character in the font selected.
     LabelSize Character() const;
 
 private:
     friend class GraphFont;
-    /// Of the font selected: height of its cell in the picture's units, and its turn in degrees.
+    /// Height in logical units and turn in degrees of the font selected.
     struct FontShape {
         double height = 0;
         int angle = 0;
@@ -90,26 +99,27 @@ private:
     SavedDcGuard m_saved;
     CDC& m_dc;
     GraphFrame m_frame;
-    PlaneRect m_visible; ///< of the picture, as far as it is known
-    bool m_pixels;       ///< a logical unit is a pixel, and what is drawn replaces what is there
+    PlaneRect m_visible; ///< the part of the picture that the clip box shows; all of it when not known
+    bool m_pixels;       ///< a logical unit is a pixel, and drawing replaces pixels
     HGDIOBJ m_hostPen;
     HGDIOBJ m_hostBrush;
     COLORREF m_hostInk;
-    // Kept for the whole picture: a bar graph comes back to the same few colours for every series.
-    std::map<std::pair<COLORREF, int>, CPen> m_pens; ///< by colour and width in logical units
+    // Pens and brushes live as long as the canvas: every series of a bar graph uses the same few colours.
+    std::map<std::pair<COLORREF, int>, CPen> m_pens; ///< by colour, and width in logical units
     std::map<COLORREF, CBrush> m_brushes;
     int m_penWidth = 1;
     FontShape m_font;
-    std::vector<POINT> m_places; ///< scratch of the shapes with many points
+    std::vector<POINT> m_places; ///< the points of the shape being drawn; reused to save allocations
 };
 
-/// A font that is selected for as long as it lives.
+/// A bold or normal Arial. The constructor selects the font into the canvas, the destructor selects the font
+/// that was selected before.
 class GraphFont {
 public:
     static constexpr int kLargest = 1000; ///< pixels
 
-    /// `pixels` is the height of the text's cell, held within 1 and kLargest; `angle` degrees
-    /// counter-clockwise.
+    /// `pixels` is the height of a character cell; below 1 it counts as 1, above kLargest as kLargest.
+    /// `angle` is in degrees counter-clockwise.
     GraphFont(GraphCanvas& canvas, int pixels, int angle = 0, int weight = FW_NORMAL);
     ~GraphFont() { m_canvas.m_font = m_before; }
     GraphFont(const GraphFont&) = delete;
@@ -120,7 +130,7 @@ private:
 
     GraphCanvas& m_canvas;
     GraphCanvas::FontShape m_before;
-    int m_height; ///< in the picture's units
+    int m_height; ///< in logical units
     CFont m_font;
     SelectGuard m_selected;
 };

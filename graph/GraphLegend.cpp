@@ -1,3 +1,4 @@
+// The legend: a box at the right edge with a text and a colour for each group or series.
 #include <kavlix/Graph.h>
 
 #include <algorithm>
@@ -10,16 +11,17 @@ using kavlix::GraphFont;
 using kavlix::ToCoordinate;
 
 int CGraph::LegendRows() const {
-    return ShowsBySeries() ? static_cast<int>(seriesList->GetCount()) : seriesSize;
+    return pass->bySeries ? pass->data.SeriesCount() : seriesSize;
 }
 
 int CGraph::DrawLegend(CDC*) {
-    constexpr int kRowHeight = 18; // all lengths in pixels
+    // Lengths in pixels.
+    constexpr int kRowHeight = 18;
     constexpr int kHeadingRoom = 26;
     constexpr int kFirstRow = 25;
     constexpr int kHeadingSize = 16;
     constexpr int kHeadingTop = 3;
-    constexpr int kHalfHeading = 3; // characters of half the heading
+    constexpr int kHalfHeading = 3; // characters: half of "Legend"
     constexpr int kMargin = 5;
     constexpr int kSwatchRoom = 25;
     constexpr int kSwatchGap = 10;
@@ -29,7 +31,7 @@ int CGraph::DrawLegend(CDC*) {
     if (pass == nullptr)
         return 0;
     kavlix::GraphCanvas& canvas = pass->canvas;
-    const int size = kavlix::FontSize(legendFontSize);
+    const int size = kavlix::FontHeight(legendFontSize);
     const std::int64_t pixel = static_cast<std::int64_t>(canvas.Pixel());
     const int rows = LegendRows();
     const std::int64_t height = (std::int64_t{rows} * kRowHeight + kHeadingRoom) * pixel;
@@ -58,7 +60,7 @@ int CGraph::DrawLegend(CDC*) {
 
     const GraphFont font(canvas, size, 0, FW_BOLD);
     const std::int64_t swatch = left + (kSwatchGap + std::int64_t{size} / 2 * legendMaxText) * pixel;
-    // Rows above and below the picture are left out, however many there are.
+    // Rows above and below the picture are skipped, so that many groups cost no time.
     const std::int64_t rowHeight = kRowHeight * pixel;
     const std::int64_t start = top + kFirstRow * pixel;
     const std::int64_t above = std::max<std::int64_t>(-start - size * pixel, 0);
@@ -67,7 +69,7 @@ int CGraph::DrawLegend(CDC*) {
         const std::int64_t y = start + rowHeight * i;
         if (y > canvas.Height())
             break;
-        canvas.Text(place(left + kMargin * pixel, y), graphLegend.TextAt(i)); // whole
+        canvas.Text(place(left + kMargin * pixel, y), graphLegend.TextAt(i));
         canvas.SetFill(pass->data.Colour(i));
         box(ToCoordinate(swatch), y, right - kMargin * pixel, y + kSwatchHeight * pixel);
     }

@@ -1,40 +1,39 @@
-#include <kavlix/Graph.h>
-
+// Lines, XY lines, scattered points and the ribbons of 3D lines.
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <vector>
 
+#include "graph/GraphMarker.h"
 #include "graph/GraphPass.h"
 #include "plot/Numeric.h"
 
-using kavlix::GraphPass;
-using kavlix::PlanePoint;
-
+namespace kavlix {
 namespace {
 
-constexpr double kLineWidth = 2; // pixels
-constexpr double kMarkerRoom = 10;
+constexpr double kLineWidth = 2;   // pixels
+constexpr double kMarkerRoom = 10; // pixels between two markers of a line
 
-/// A group's values over the series: (series, value), in order of the series.
-using GroupLine = std::vector<kavlix::KeyedValue>;
+/// The values of one group in order of the series. Each `key` is the index of a series.
+using GroupLine = std::vector<KeyedValue>;
 
-std::map<int, GroupLine> GroupLines(const kavlix::GraphSnapshot& data) {
+/// The lines of all groups, by group.
+std::map<int, GroupLine> GroupLines(const GraphSnapshot& data) {
     std::map<int, GroupLine> lines;
     for (int s = 0; s < data.SeriesCount(); ++s)
-        for (const auto& item :
-             kavlix::GroupValues(data.series[static_cast<std::size_t>(s)].values, data.groups))
+        for (const KeyedValue& item : data.Groups(s))
             lines[item.key].push_back({s, item.value});
     return lines;
 }
 
-/// The parts of a polyline that lie inside the plot.
+/// Draws the parts of a polyline that lie inside the plot.
 void DrawClipped(GraphPass& pass, const std::vector<PlanePoint>& points, COLORREF colour) {
     pass.canvas.SetLine(colour, kLineWidth);
     std::vector<PlanePoint> run;
     for (std::size_t i = 1; i < points.size(); ++i) {
         PlanePoint from = points[i - 1];
         PlanePoint to = points[i];
-        if (!kavlix::ClipStroke(pass.front, from, to))
+        if (!ClipStroke(pass.front, from, to))
             continue;
         if (run.empty() || run.back().x != from.x || run.back().y != from.y) {
             pass.canvas.Polyline(run);
@@ -47,86 +46,75 @@ void DrawClipped(GraphPass& pass, const std::vector<PlanePoint>& points, COLORRE
 
 } // namespace
 
-void CGraph::DrawLineSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    GraphPass& p = *pass;
-    const auto place = [&](const kavlix::KeyedValue& item) {
-        return p.At(p.slots.Middle(item.key), p.values.Position(item.value));
+void PaintLines(GraphPass& pass) {
+    const auto place = [&](const KeyedValue& item) {
+        return pass.At(pass.slots.Middle(item.key), pass.values.Position(item.value));
     };
-    const auto lines = GroupLines(p.data);
+    const auto lines = GroupLines(pass.data);
     for (const auto& [group, line] : lines) {
         std::vector<PlanePoint> run;
         for (std::size_t i = 0; i < line.size(); ++i) {
             if (i > 0 && line[i].key != line[i - 1].key + 1) {
-                DrawClipped(p, run, p.data.Colour(group));
+                DrawClipped(pass, run, pass.data.Colour(group));
                 run.clear();
             }
             run.push_back(place(line[i]));
         }
-        DrawClipped(p, run, p.data.Colour(group));
+        DrawClipped(pass, run, pass.data.Colour(group));
     }
-    const double distance = std::max(std::abs(p.slots.Width()), 1e-3);
-    const int every =
-        std::max(1, kavlix::TruncateToInt(std::ceil(kMarkerRoom * p.canvas.Pixel() / distance)));
+    const double distance = std::max(std::abs(pass.slots.Width()), 1e-3);
+    const int every = std::max(1, TruncateToInt(std::ceil(kMarkerRoom * pass.canvas.Pixel() / distance)));
     for (const auto& [group, line] : lines)
         for (std::size_t i = 0; i < line.size(); ++i) {
             const bool alone = (i == 0 || line[i - 1].key != line[i].key - 1) &&
                                (i + 1 == line.size() || line[i + 1].key != line[i].key + 1);
-            if ((alone || line[i].key % every == 0) && p.values.Contains(line[i].value))
-                kavlix::DrawMarker(p.canvas, place(line[i]), group, p.data.Colour(group));
+            if ((alone || line[i].key % every == 0) && pass.values.Contains(line[i].value))
+                DrawMarker(pass.canvas, place(line[i]), group, pass.data.Colour(group));
         }
 }
 
-void CGraph::DrawXYLineSeries(CDC* pDC) {
-    if (pass == nullptr)
-        return;
-    GraphPass& p = *pass;
-    for (int s = 0; s < p.data.SeriesCount(); ++s) {
+void PaintXYLines(GraphPass& pass) {
+    for (int s = 0; s < pass.data.SeriesCount(); ++s) {
         std::vector<PlanePoint> points;
-        for (const kavlix::KeyedValue& item : p.data.series[static_cast<std::size_t>(s)].values)
-            points.push_back(p.At(p.keys.Position(item.key), p.values.Position(item.value)));
-        DrawClipped(p, points, p.data.Colour(s));
+        for (const KeyedValue& item : pass.data.Series(s).values)
+            points.push_back(pass.At(pass.keys.Position(item.key), pass.values.Position(item.value)));
+        DrawClipped(pass, points, pass.data.Colour(s));
     }
-    DrawScatterSeries(pDC);
+    PaintPoints(pass);
 }
 
-void CGraph::DrawScatterSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    GraphPass& p = *pass;
-    for (int s = 0; s < p.data.SeriesCount(); ++s)
-        for (const kavlix::KeyedValue& item : p.data.series[static_cast<std::size_t>(s)].values)
-            if (p.values.Contains(item.value))
-                kavlix::DrawMarker(p.canvas, p.At(p.keys.Position(item.key), p.values.Position(item.value)),
-                                   s, p.PointColour(s, item.key));
+void PaintPoints(GraphPass& pass) {
+    for (int s = 0; s < pass.data.SeriesCount(); ++s)
+        for (const KeyedValue& item : pass.data.Series(s).values)
+            if (pass.values.Contains(item.value))
+                DrawMarker(pass.canvas,
+                           pass.At(pass.keys.Position(item.key), pass.values.Position(item.value)), s,
+                           pass.PointColour(s, item.key));
 }
 
-void CGraph::Draw3DLineSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    GraphPass& p = *pass;
-    constexpr double kLoneRibbon = 0.2; // half its length, of a slot
-    constexpr double kThinnest = 4;     // pixels that a ribbon seen from its edge is wide
-    const auto lines = GroupLines(p.data);
+void PaintRibbons(GraphPass& pass) {
+    constexpr double kLoneRibbon =
+        0.2;                        // half the length of a ribbon without neighbours, as a fraction of a slot
+    constexpr double kThinnest = 4; // pixels; width of a ribbon that is seen from its edge
+    const auto lines = GroupLines(pass.data);
     for (auto entry = lines.rbegin(); entry != lines.rend(); ++entry) {
-        const int group = entry->first;
+        const int group = entry->first; // the last group stands farthest behind and comes first
         const GroupLine& line = entry->second;
-        const COLORREF colour = p.data.Colour(group);
+        const COLORREF colour = pass.data.Colour(group);
         const auto draw = [&](PlanePoint from, PlanePoint to) {
-            if (!kavlix::ClipStroke(p.front, from, to))
+            if (!ClipStroke(pass.front, from, to))
                 return;
-            const double light = kavlix::RibbonLight(from, to);
+            const double light = RibbonLight(from, to);
             const auto behind = [&](PlanePoint q) {
-                return PlanePoint{q.x + p.ribbon.x * group, q.y - p.ribbon.y * group};
+                return PlanePoint{q.x + pass.depthPerGroup.x * group, q.y - pass.depthPerGroup.y * group};
             };
-            p.canvas.SetLine(kavlix::OutlineOf(colour));
-            p.canvas.SetFill(kavlix::Shade(colour, light));
-            p.canvas.Polygon(
-                kavlix::MakeRibbon(behind(from), behind(to), p.ribbon, kThinnest * p.canvas.Pixel()));
+            pass.canvas.SetLine(OutlineOf(colour));
+            pass.canvas.SetFill(Shade(colour, light));
+            pass.canvas.Polygon(
+                MakeRibbon(behind(from), behind(to), pass.depthPerGroup, kThinnest * pass.canvas.Pixel()));
         };
-        const auto place = [&](const kavlix::KeyedValue& item) {
-            return PlanePoint{p.slots.Middle(item.key), p.values.Position(item.value)};
+        const auto place = [&](const KeyedValue& item) {
+            return PlanePoint{pass.slots.Middle(item.key), pass.values.Position(item.value)};
         };
         for (std::size_t i = 0; i < line.size(); ++i) {
             const bool joined = i + 1 < line.size() && line[i + 1].key == line[i].key + 1;
@@ -134,9 +122,11 @@ void CGraph::Draw3DLineSeries(CDC*) {
                 draw(place(line[i]), place(line[i + 1]));
             } else if (i == 0 || line[i - 1].key != line[i].key - 1) {
                 const PlanePoint lone = place(line[i]);
-                const double half = p.slots.Width() * kLoneRibbon;
+                const double half = pass.slots.Width() * kLoneRibbon;
                 draw({lone.x - half, lone.y}, {lone.x + half, lone.y});
             }
         }
     }
 }
+
+} // namespace kavlix

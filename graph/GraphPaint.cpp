@@ -1,9 +1,11 @@
+// One drawing, step by step: background, title, the room of the plot, quadrants, series.
 #include <kavlix/Graph.h>
 
 #include <algorithm>
 #include <cstdint>
 
 #include "graph/GraphPass.h"
+#include "graph/GraphStyle.h"
 #include "plot/Numeric.h"
 
 using kavlix::GraphFont;
@@ -13,24 +15,20 @@ using kavlix::ToCoordinate;
 
 namespace {
 
-constexpr int kMarginBelow = 20; // all lengths in pixels
+// Lengths in pixels.
+constexpr int kMarginBelow = 20;
 constexpr int kMarginRight = 5;
-constexpr int kTitleSize = 24;
-constexpr int kTitleTop = 10;
-constexpr int kCaptionSize = 16;
 constexpr int kPlotTop = 40;
-constexpr int kPieMargin = 5;
-constexpr int kPieTop = 50;
 
-/// The height, from `size` down in steps of 2, at which `length` characters of half that width fit into
-/// `room`.
+/// The height, from `size` down in steps of 2, at which `length` characters of half that width
+/// fit into `room`.
 int FitSize(int size, int length, std::int64_t room) {
     while (size > 1 && std::int64_t{size / 2} * length > room)
         size -= 2;
     return std::max(size, 1);
 }
 
-/// Forgets the pass when the drawing ends, however it ends.
+/// Sets `slot` to the pass of a drawing, and to nullptr when the drawing ends, also by an exception.
 class PassGuard {
 public:
     PassGuard(GraphPass*& slot, GraphPass& pass) : m_slot(slot) { m_slot = &pass; }
@@ -56,39 +54,42 @@ void CGraph::DrawGraph(CDC* pDC) {
 }
 
 void CGraph::DrawPicture(CDC& dc, const GraphFrame& frame) {
-    GraphPass shared(dc, frame, {*seriesList, colorList, seriesSize});
+    GraphPass shared(dc, frame, {*seriesList, colorList, seriesSize}, kavlix::GraphTypeOf(graphType));
+    shared.bySeries = legendBySeries && shared.type.Has(kavlix::kColourBySeries);
+    shared.labelFont = xTickFontSize;
+    shared.depthRatio = depthRatio;
     const PassGuard guard(pass, shared);
     kavlix::GraphCanvas& canvas = shared.canvas;
 
-    canvas.SetFill(RGB(255, 255, 255));
+    canvas.SetFill(kavlix::kPaper);
     canvas.Rectangle({0, 0, canvas.Width(), canvas.Height()});
     canvas.HostTools();
 
     maxHeight = frame.height - kMarginBelow * frame.pixel;
     maxWidth = frame.width - kMarginRight * frame.pixel;
-    DrawTitle(dc);
-    ComputeLayout(dc);
+    DrawTitle();
+    ComputeLayout();
     if (graphHasLegend) {
-        constexpr int kLegendGap = 10;
+        constexpr int kLegendGap = 10; // pixels
         xAxisWidth = DrawLegend(&dc) - xApexPoint - kLegendGap * frame.pixel;
     }
     ChooseQuadrants();
     PlanPlot();
-    if (graphType == GraphTypeBar) {
-        if (graphQuadType == 2 || graphQuadType == 4)
-            xApexPoint += xAxisWidth / 2;
-        if (graphQuadType == 3 || graphQuadType == 4)
-            yApexPoint -= yAxisHeight / 2;
-    }
-    if (!ShowsPie()) {
+    if (shared.mirrored)
+        xApexPoint += xAxisWidth / 2;
+    if (shared.centred)
+        yApexPoint -= yAxisHeight / 2;
+    if (!shared.type.Has(kavlix::kPie)) {
         axisLabelsCut = 0;
         DrawAxis(&dc);
     }
     DrawSeries(&dc);
-    DrawLateLabels();
+    DrawOverlayLabels();
 }
 
-void CGraph::DrawTitle(CDC&) {
+void CGraph::DrawTitle() {
+    constexpr int kTitleSize = 24; // pixels
+    constexpr int kTitleTop = 10;  // pixels
     kavlix::GraphCanvas& canvas = pass->canvas;
     const int pixel = static_cast<int>(canvas.Pixel());
     const int length = graphTitle.GetLength();
@@ -99,43 +100,45 @@ void CGraph::DrawTitle(CDC&) {
     canvas.Text({static_cast<double>(x), canvas.Pixel() * kTitleTop}, graphTitle);
 }
 
-void CGraph::ComputeLayout(CDC&) {
+void CGraph::ComputeLayout() {
     kavlix::GraphCanvas& canvas = pass->canvas;
     const int pixel = static_cast<int>(canvas.Pixel());
-    if (ShowsPie()) {
+    if (pass->type.Has(kavlix::kPie)) {
+        constexpr int kPieMargin = 5; // pixels
+        constexpr int kPieTop = 50;   // pixels
         xApexPoint = kPieMargin * pixel;
         xAxisWidth = maxWidth - 2 * kPieMargin * pixel;
         yAxisHeight = maxHeight - kPieTop * pixel;
         yApexPoint = maxHeight - kPieMargin * pixel;
         return;
     }
-    // The caption along the smaller dimension is fitted; the other one takes the same size.
+    // The caption along the smaller side of the picture is fitted; the other caption takes the same size.
+    constexpr int kCaptionSize = 16; // pixels
     const bool wide = maxHeight < maxWidth;
     pass->captionFont = FitSize(kCaptionSize, (wide ? axisYLabel : axisXLabel).GetLength(),
                                 (wide ? maxHeight : maxWidth) / pixel);
     kavlix::LabelSize character;
     {
-        constexpr int kUpwards = 90;
-        const GraphFont rotated(canvas, pass->captionFont, kUpwards, FW_BOLD);
+        const GraphFont rotated(canvas, pass->captionFont, kavlix::kUpwards, FW_BOLD);
         character = canvas.Character();
     }
     const auto characterWidth = static_cast<std::int64_t>(character.width);
     const auto characterHeight = static_cast<std::int64_t>(character.height);
 
-    if (graphAlignment != 0 && graphType != GraphTypeScatter) {
-        constexpr int kLeftOfPlot = 50;
+    if (graphAlignment != 0 && !pass->type.Has(kavlix::kHorizontalRoom)) {
+        constexpr int kLeftOfPlot = 50; // pixels
         constexpr int kBelowPlot = 50;
         constexpr int kBelowTurnedLabels = 15;
         CString highest;
         highest.Format("%d", maxTick);
-        const std::int64_t halfNumber = kavlix::FontSize(yTickFontSize) / 2;
-        const std::int64_t halfLabel = kavlix::FontSize(xTickFontSize) / 2;
+        const std::int64_t halfNumber = kavlix::FontHeight(yTickFontSize) / 2;
+        const std::int64_t halfLabel = kavlix::FontHeight(xTickFontSize) / 2;
         xApexPoint = ToCoordinate((halfNumber * highest.GetLength() + kLeftOfPlot) * pixel);
         const std::int64_t below =
             xAxisAlign == 0 ? std::int64_t{kBelowPlot} : halfLabel * xAxisLabelLength + kBelowTurnedLabels;
         yApexPoint = ToCoordinate(maxHeight - below * pixel);
     } else {
-        constexpr int kCaptionGap = 10;
+        constexpr int kCaptionGap = 10; // pixels
         constexpr int kBelowPlot = 15;
         constexpr int kLeftMargin = 5;
         const CString& valueCaption = graphAlignment != 0 ? axisYLabel : axisXLabel;
@@ -148,8 +151,9 @@ void CGraph::ComputeLayout(CDC&) {
     xAxisWidth = maxWidth - xApexPoint - kMarginRight * pixel;
 }
 
+/// Only the first record of each series decides, so the choice does not depend on the number of values.
 void CGraph::ChooseQuadrants() {
-    if (quadSetManually || graphType != GraphTypeBar)
+    if (quadSetManually || !pass->type.Has(kavlix::kQuadrants))
         return;
     int lowestKey = 0;
     int lowestValue = 0;
@@ -166,37 +170,7 @@ void CGraph::ChooseQuadrants() {
     graphQuadType = kTypes[lowestKey < 0][lowestValue < 0];
 }
 
-void CGraph::DrawSeries(CDC* pDC) {
-    struct Painter {
-        int type;
-        void (CGraph::*paint)(CDC*);
-    };
-    static constexpr Painter kPainters[] = {
-        {GraphTypeBar, &CGraph::DrawBarSeries},
-        {GraphTypeLine, &CGraph::DrawLineSeries},
-        {GraphTypePie, &CGraph::DrawPieSeries},
-        {GraphTypeScatter, &CGraph::DrawScatterSeries},
-        {GraphTypeBoxWhisker, &CGraph::DrawBoxWhiskerSeries},
-        {GraphTypeStackedBar, &CGraph::DrawStackedBarSeries},
-        {GraphTypeXYLine, &CGraph::DrawXYLineSeries},
-        {GraphType3DBar, &CGraph::Draw3DBarSeries},
-        {GraphType3DLine, &CGraph::Draw3DLineSeries},
-        {GraphType3DPie, &CGraph::Draw3DPieSeries},
-        {GraphType3DStackedBar, &CGraph::Draw3DStackedBarSeries},
-    };
-    if (pass == nullptr || !pass->HasPlot())
-        return;
-    for (const Painter& painter : kPainters)
-        if (painter.type == graphType)
-            (this->*painter.paint)(pDC);
-}
-
-BOOL CGraph::ShowsPie() const {
-    return graphType == GraphTypePie || graphType == GraphType3DPie;
-}
-
-BOOL CGraph::ShowsBySeries() const {
-    const bool points =
-        graphType == GraphTypeXYLine || graphType == GraphTypeScatter || graphType == GraphTypeBoxWhisker;
-    return legendBySeries && points;
+void CGraph::DrawSeries(CDC*) {
+    if (pass != nullptr && pass->HasPlot() && pass->type.paint != nullptr)
+        pass->type.paint(*pass);
 }

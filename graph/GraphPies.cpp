@@ -1,39 +1,37 @@
-#include <kavlix/Graph.h>
-
+// Pies, flat and tilted: their arrangement in the plot, their sectors and rims, and the shares in percent.
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <vector>
 
 #include "graph/GraphPass.h"
+#include "graph/GraphStyle.h"
+#include "graph/core/Degrees.h"
+#include "graph/core/LabelPlacement.h"
 #include "graph/core/PieShapes.h"
 
-using kavlix::GraphCanvas;
-using kavlix::GraphFont;
-using kavlix::LabelSize;
-using kavlix::PlanePoint;
-using kavlix::Sector;
-
+namespace kavlix {
 namespace {
 
-constexpr double kSmallestPie = 48; // all lengths in pixels
-constexpr double kSmallestLabelled = 28;
-constexpr double kNameGap = 6;
-constexpr double kPieMargin = 6;
-constexpr double kLeader = 10;
-constexpr double kLeaderEnd = 6;
-constexpr double kTextGap = 3;
-constexpr double kTilt = 0.5;     // height of a tilted pie, of its width
-constexpr double kMostRim = 0.25; // of the room's height
-constexpr double kRimLight = 0.65;
-constexpr double kThinSector = 3; // along the rim; a thinner one has no outline, which would be all of it
-// Where a share may stand inside its sector, of the radius.
+// Lengths in pixels.
+constexpr double kSmallestPie = 48;      // side of the smallest room that a pie gets
+constexpr double kSmallestLabelled = 28; // radius; smaller pies have no shares beside them
+constexpr double kNameGap = 6;           // between a pie and its name
+constexpr double kPieMargin = 6;         // of a pie without shares beside it, both sides together
+constexpr double kLeader = 10;           // from the rim to the bend of a leader line
+constexpr double kLeaderEnd = 6;         // from the bend to the end
+constexpr double kTextGap = 3;           // from the end of a leader line to the share
+constexpr double kThinSector = 3;        // length of the rim; the outline would hide a shorter sector
+
+constexpr double kTilt = 0.5;      // height of a tilted pie, as a fraction of its width
+constexpr double kMostRim = 0.25;  // height of a rim, as a fraction of the room's height
+constexpr double kRimLight = 0.65; // factor of the sector's colour
+// Distances from the centre, as fractions of the radius, where a share's middle is tried inside its sector.
 constexpr double kInsideReaches[] = {0.66, 0.58, 0.74};
 
-constexpr COLORREF kInk = RGB(0, 0, 0); // on a light sector
-constexpr COLORREF kPaper = RGB(255, 255, 255);
-constexpr COLORREF kLeaderColour = RGB(128, 128, 128);
-
+/// A share as it is written: with one decimal place, unless the share is nearly a whole number.
 CString ShareText(double percent) {
-    constexpr double kShown = 0.05;
+    constexpr double kShown = 0.05; // percent; less rounds to nothing
     CString text;
     if (percent < kShown)
         text = "<0.1%";
@@ -42,8 +40,9 @@ CString ShareText(double percent) {
     return text;
 }
 
+/// Black or white, whichever is easier to read on `ground`.
 COLORREF InkOn(COLORREF ground) {
-    constexpr int kMiddle = 140;
+    constexpr int kMiddle = 140; // brightness, of 255
     const int light = (GetRValue(ground) * 30 + GetGValue(ground) * 59 + GetBValue(ground) * 11) / 100;
     return light < kMiddle ? kPaper : kInk;
 }
@@ -51,13 +50,14 @@ COLORREF InkOn(COLORREF ground) {
 /// What all pies of a picture have in common.
 struct PieStyle {
     double pixel = 1;
-    double tilt = 1;     ///< height of a pie, of its width
-    double rim = 0;      ///< at most
-    LabelSize share;     ///< of any share's text
+    double tilt = 1;     ///< height of a pie, as a fraction of its width
+    double rim = 0;      ///< greatest height of the rim
+    LabelSize share;     ///< holds the text of any share
     bool beside = false; ///< whether shares may stand beside the pies
 
+    /// The height of the rim in a room of this height.
     double Rim(double height) const { return std::min(rim, height * kMostRim); }
-    /// Of a pie in a room, with or without room for shares beside it.
+    /// The largest radius of a pie, with its rim and the shares beside it, in a room of this size.
     double Radius(double width, double height) const {
         const double aside =
             beside ? share.width + (kLeader + kLeaderEnd + kTextGap) * pixel : kPieMargin * pixel / 2;
@@ -69,8 +69,7 @@ struct PieStyle {
 /// One pie in its room: sectors, rim and shares.
 class PiePainter {
 public:
-    PiePainter(const kavlix::GraphPass& pass, GraphCanvas& canvas, const kavlix::PlaneRect& room,
-               const PieStyle& style)
+    PiePainter(const GraphPass& pass, GraphCanvas& canvas, const PlaneRect& room, const PieStyle& style)
         : m_pass(pass), m_canvas(canvas), m_room(room), m_style(style), m_rim(style.Rim(room.Height())) {
         const double radius = style.Radius(room.Width(), room.Height());
         m_pie.centre = {(room.left + room.right) / 2, (room.top + room.bottom - m_rim) / 2};
@@ -88,29 +87,29 @@ public:
                 return FindInside(sector, m_canvas.Measure(ShareText(sector.percent)), place);
             });
     }
-    /// The lowest place that Draw has drawn on.
+    /// The y below everything that Draw has drawn.
     double Lowest() const { return m_lowest; }
 
     void Draw(const std::vector<Sector>& sectors) {
-        // The rims first: the tops stand before whatever of them lies behind. Thin sectors last: the outlines
-        // of their neighbours lie on their edges.
+        // The tops cover the far parts of the rims, so the rims come first. The outlines of wide sectors
+        // would cover their thin neighbours, so thin sectors come last.
         for (const bool thin : {false, true})
             for (const Sector& sector : sectors)
                 if (m_rim > 0 && IsThin(sector) == thin)
-                    for (const kavlix::RimArc& arc : kavlix::VisibleRim(sector.start, sector.sweep)) {
-                        Fill(kavlix::Shade(Colour(sector), kRimLight), thin);
-                        m_canvas.Polygon(kavlix::RimCorners(m_pie, arc, m_rim));
+                    for (const RimArc& arc : VisibleRim(sector.start, sector.sweep)) {
+                        Fill(Shade(Colour(sector), kRimLight), thin);
+                        m_canvas.Polygon(RimCorners(m_pie, arc, m_rim));
                     }
         for (const bool thin : {false, true})
             for (const Sector& sector : sectors)
                 if (IsThin(sector) == thin) {
                     Fill(Colour(sector), thin);
-                    m_canvas.Polygon(kavlix::SectorCorners(m_pie, sector.start, sector.sweep));
+                    m_canvas.Polygon(SectorCorners(m_pie, sector.start, sector.sweep));
                 }
         if (sectors.empty()) {
-            m_canvas.SetLine(kLeaderColour);
+            m_canvas.SetLine(kGrey);
             m_canvas.NoFill();
-            m_canvas.Polygon(kavlix::SectorCorners(m_pie, 0, 360));
+            m_canvas.Polygon(SectorCorners(m_pie, 0, kFullTurn));
         }
         DrawShares(sectors);
     }
@@ -123,12 +122,12 @@ private:
         m_canvas.SetLine(thin ? colour : kPaper);
     }
 
-    /// Where a share's text, by its upper left corner, lies in its sector whole.
+    /// Finds a `place` for the upper left corner of a share's text, so that the text lies inside its sector.
+    /// False when the text is too large.
     bool FindInside(const Sector& sector, const LabelSize& size, PlanePoint& place) const {
-        constexpr double kFullCircle = 360;
         for (const double reach : kInsideReaches) {
             const PlanePoint middle =
-                sector.sweep < kFullCircle ? m_pie.At(sector.Middle(), reach) : m_pie.centre;
+                sector.sweep < kFullTurn ? m_pie.At(sector.Middle(), reach) : m_pie.centre;
             place = {middle.x - size.width / 2, middle.y - size.height / 2};
             const double gap = m_style.pixel;
             if (m_pie.Holds(sector,
@@ -139,12 +138,11 @@ private:
     }
 
     void DrawShares(const std::vector<Sector>& sectors) {
-        std::vector<const Sector*> outside[2]; // right, left
+        std::vector<const Sector*> outside[2]; // right and left of the pie
         for (const Sector& sector : sectors) {
             CString text;
             PlanePoint place;
-            // Most of many sectors are narrower than any text is high, which costs less to see than to
-            // measure.
+            // Measuring text is slow, and a sector narrower than half a line of text holds none.
             bool inside = m_pie.ArcLength(sector) >= m_style.share.height / 2;
             if (inside) {
                 text = ShareText(sector.percent);
@@ -154,23 +152,24 @@ private:
                 m_canvas.Dc().SetTextColor(InkOn(Colour(sector)));
                 m_canvas.Text(place, text);
             } else if (m_style.beside) {
-                outside[sector.Middle() > 180].push_back(&sector);
+                outside[sector.Middle() > kHalfTurn].push_back(&sector);
             }
         }
         m_canvas.Dc().SetTextColor(m_canvas.HostInk());
-        std::reverse(outside[1].begin(), outside[1].end()); // from the top down, as the right side
+        std::reverse(outside[1].begin(), outside[1].end()); // both sides from the top down
         DrawOutside(outside[0], 1);
         DrawOutside(outside[1], -1);
     }
 
-    /// An order without equals: of two of the same size the later one counts as larger.
+    /// A strict order: of two sectors with the same share the later one counts as larger.
     static bool IsLarger(const Sector* a, const Sector* b) {
         return a->percent != b->percent ? a->percent > b->percent : a->start > b->start;
     }
 
+    /// The place `reach` outside the middle of a sector's outline; at the front below the rim.
     PlanePoint RimPoint(const Sector& sector, double reach) const {
         PlanePoint point = m_pie.At(sector.Middle(), 1);
-        if (sector.Middle() > 90 && sector.Middle() < 270)
+        if (sector.Middle() > kQuarterTurn && sector.Middle() < kHalfTurn + kQuarterTurn)
             point.y += m_rim;
         const PlanePoint direction = m_pie.At(sector.Middle(), 2);
         const double x = direction.x - m_pie.centre.x;
@@ -179,8 +178,8 @@ private:
         return {point.x + x / length * reach, point.y + y / length * reach};
     }
 
-    /// The shares beside the pie, from the top down, each with a line to its sector. The smallest are left
-    /// out when there is not room for all.
+    /// Draws the shares beside the pie, from the top down, each with a leader line to its sector. `side` is 1
+    /// for the right side and -1 for the left one. Without room for all, the smallest shares are left out.
     void DrawOutside(std::vector<const Sector*> sectors, double side) {
         const double pixel = m_canvas.Pixel();
         const double most = std::max(std::floor(m_room.Height() / m_style.share.height), 0.0);
@@ -197,8 +196,8 @@ private:
         std::vector<double> middles;
         for (const Sector* sector : sectors)
             middles.push_back(RimPoint(*sector, kLeader * pixel).y);
-        kavlix::SpreadMiddles(middles, m_style.share.height, m_room.top, m_room.bottom);
-        m_canvas.SetLine(kLeaderColour);
+        SpreadMiddles(middles, m_style.share.height, m_room.top, m_room.bottom);
+        m_canvas.SetLine(kGrey);
         for (std::size_t i = 0; i < sectors.size(); ++i) {
             const CString text = ShareText(sectors[i]->percent);
             const double bend = side * (RimPoint(*sectors[i], kLeader * pixel).x - m_pie.centre.x);
@@ -213,7 +212,8 @@ private:
         }
     }
 
-    /// How far from the centre a share whose middle is at `y` must stand to be clear of pie and rim.
+    /// The distance from the centre, to the side, at which a share with its middle at `y` does not touch the
+    /// pie or its rim.
     double Beside(double y) const {
         const double lowest = m_pie.centre.y + m_rim;
         const double half = m_style.share.height / 2;
@@ -221,34 +221,33 @@ private:
         return away < 1 ? m_pie.radiusX * std::sqrt(1 - away * away) + kLeader * m_canvas.Pixel() : 0;
     }
 
-    const kavlix::GraphPass& m_pass;
+    const GraphPass& m_pass;
     GraphCanvas& m_canvas;
-    kavlix::PlaneRect m_room;
+    PlaneRect m_room;
     const PieStyle& m_style;
     double m_rim;
-    kavlix::PieOutline m_pie;
+    PieOutline m_pie;
     double m_lowest;
 };
 
-void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
+/// Draws a pie for each series. `tilt` is the height of a pie as a fraction of its width, `rim` the greatest
+/// height of the rims.
+void DrawPies(GraphPass& pass, double tilt, double rim) {
     GraphCanvas& canvas = pass.canvas;
     const int count = pass.data.SeriesCount();
     if (count == 0)
         return;
     const double pixel = canvas.Pixel();
-    const kavlix::PlaneRect& plot = pass.plot;
-    const GraphFont font(canvas, fontSize);
+    const PlaneRect& plot = pass.plot;
+    const GraphFont font(canvas, pass.labelFont);
     const double nameHeight = count > 1 ? canvas.Character().height + kNameGap * pixel : 0;
-    const auto sectorsOf = [&](int s) {
-        const kavlix::SeriesPoints& series = pass.data.series[static_cast<std::size_t>(s)];
-        return kavlix::MakeSectors(kavlix::GroupValues(series.values, pass.data.groups));
-    };
-    PieStyle style{pixel, tilted ? kTilt : 1, tilted ? rim : 0, canvas.Measure("88.8%"), false};
-    kavlix::PieGrid grid;
+    const auto sectorsOf = [&](int s) { return MakeSectors(pass.data.Groups(s)); };
+    PieStyle style{pixel, tilt, rim, canvas.Measure("88.8%"), false};
+    PieGrid grid;
     const auto arrange = [&](bool beside) {
         style.beside = beside;
-        grid = kavlix::ArrangePies(count, plot.Width(), plot.Height(), kSmallestPie * pixel + nameHeight,
-                                   [&](double w, double h) { return style.Radius(w, h - nameHeight); });
+        grid = ArrangePies(count, plot.Width(), plot.Height(), kSmallestPie * pixel + nameHeight,
+                           [&](double w, double h) { return style.Radius(w, h - nameHeight); });
     };
     const auto roomOf = [&](int s) {
         const double width = plot.Width() / grid.columns;
@@ -257,7 +256,7 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
         const int inRow = std::min(grid.columns, count - row * grid.columns);
         const double left = (plot.left + plot.right - inRow * width) / 2 + s % grid.columns * width;
         const double top = plot.top + row * height;
-        return kavlix::PlaneRect{left, top, left + width, top + height - nameHeight};
+        return PlaneRect{left, top, left + width, top + height - nameHeight};
     };
     // Shares stand beside the pies only when some do not fit inside and the pies stay large enough.
     arrange(false);
@@ -271,13 +270,14 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
     }
 
     const int shown = std::min(count, grid.columns * grid.rows);
-    // The last room tells how many pies found none; an only room tells it beside the pie's name.
+    // When pies are left out, the last room shows their number instead of a pie. With a single room the
+    // number follows the name of its pie.
     const int pies = shown < count ? std::max(shown - 1, 1) : shown;
     CString more;
     if (pies < count)
         more.Format("+ %d more", count - pies);
     for (int s = 0; s < shown; ++s) {
-        const kavlix::PlaneRect room = roomOf(s);
+        const PlaneRect room = roomOf(s);
         double bottom = room.bottom;
         CString text;
         const double nameRoom = room.Width() - kPieMargin * pixel;
@@ -286,7 +286,7 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
             painter.Draw(sectorsOf(s));
             bottom = std::min(bottom, painter.Lowest() + kNameGap * pixel);
             const CString beside = s + 1 == shown && pies < count ? "  " + more : CString();
-            const CString& name = pass.data.series[static_cast<std::size_t>(s)].label;
+            const CString& name = pass.data.Series(s).label;
             text = canvas.Shorten(name, nameRoom - canvas.Measure(beside).width) + beside;
         } else {
             text = more;
@@ -298,15 +298,13 @@ void DrawPies(kavlix::GraphPass& pass, int fontSize, bool tilted, double rim) {
 
 } // namespace
 
-void CGraph::DrawPieSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    DrawPies(*pass, xTickFontSize, false, 0);
+void PaintPies(GraphPass& pass) {
+    DrawPies(pass, 1, 0);
 }
 
-void CGraph::Draw3DPieSeries(CDC*) {
-    if (pass == nullptr)
-        return;
-    const double rim = depthRatio > 0 ? std::min(depthRatio, 1.0) * pass->plot.Width() : 0;
-    DrawPies(*pass, xTickFontSize, true, rim);
+void PaintSolidPies(GraphPass& pass) {
+    const double rim = pass.depthRatio > 0 ? std::min(pass.depthRatio, 1.0) * pass.plot.Width() : 0;
+    DrawPies(pass, kTilt, rim);
 }
+
+} // namespace kavlix

@@ -1,3 +1,4 @@
+// Planning a drawing: plot, depth, scales, ticks and slots, before anything of them is drawn.
 #include <kavlix/Graph.h>
 
 #include <algorithm>
@@ -6,22 +7,18 @@
 #include <cstdlib>
 
 #include "graph/GraphPass.h"
+#include "graph/GraphStyle.h"
 #include "plot/Numeric.h"
 
 using kavlix::GraphFont;
 
 namespace {
 
-constexpr double kTickGap = 4;       // all lengths in pixels
-constexpr double kLabelGap = 6;      // between two labels
-constexpr double kLabelDistance = 6; // between plot and labels
-constexpr double kEdge = 2;          // free at the picture's edge
-constexpr double kYCaptionRoom =
-    7; // beside the Y caption, with its margin of 5: the strip that nothing else uses
-constexpr double kXCaptionRoom = 9;  // around the X caption, with its margin of 7
-constexpr double kWideLabel = 1.5;   // room for a level label, so that it may be moved off the picture's edge
-constexpr double kHighLabel = 1.25;  // room for an upright row of labels
-constexpr int kSmallestNumbers = 10; // smaller ones go inside the plot instead, unless the host asks for them
+constexpr double kTickGap = 4;      // pixels between two ticks
+constexpr double kWideLabel = 1.5;  // label widths per label: room to move a label away from the edge
+constexpr double kHighLabel = 1.25; // label heights per label above each other
+constexpr int kSmallestNumbers =
+    10; // pixels; smaller numbers stand inside the plot, unless the host sets them
 
 CString Number(std::int64_t value) {
     CString text;
@@ -36,46 +33,48 @@ void CGraph::PlanPlot() {
     const double pixel = p.canvas.Pixel();
     p.plot = {static_cast<double>(xApexPoint), static_cast<double>(yApexPoint) - yAxisHeight,
               static_cast<double>(xApexPoint) + xAxisWidth, static_cast<double>(yApexPoint)};
-    p.horizontal = graphAlignment == 0 && graphType != GraphTypeScatter && graphType != GraphType3DLine;
-    p.scaledKeys = graphType == GraphTypeXYLine || graphType == GraphTypeScatter;
-    p.centred = graphType == GraphTypeBar && (graphQuadType == 3 || graphQuadType == 4);
-    p.bySeries = ShowsBySeries();
-    p.mirrored = graphType == GraphTypeBar && (graphQuadType == 2 || graphQuadType == 4);
+    p.horizontal = graphAlignment == 0 && !p.type.Has(kavlix::kUpright);
+    const bool quadrants = p.type.Has(kavlix::kQuadrants);
+    p.mirrored = quadrants && (graphQuadType == 2 || graphQuadType == 4);
+    p.centred = quadrants && (graphQuadType == 3 || graphQuadType == 4);
 
     const double width = p.plot.Width();
     const double height = p.plot.Height();
-    if (graphType == GraphType3DBar || graphType == GraphType3DStackedBar || graphType == GraphType3DLine)
+    if (p.type.Has(kavlix::kDepth))
         p.depth = kavlix::DepthOfPlot(depthRatio, width, height);
-    if (graphType == GraphType3DLine) {
-        const int ribbons = std::max(seriesSize, 1);
+    if (p.type.Has(kavlix::kDepthPerGroup)) {
+        const int groups = std::max(seriesSize, 1);
         if (line3DXBase > 0 || line3DYBase > 0)
-            p.depth = kavlix::LimitDepth({line3DXBase * pixel * ribbons, line3DYBase * pixel * ribbons},
-                                         width, height);
-        p.ribbon = {p.depth.x / ribbons, p.depth.y / ribbons};
+            p.depth = kavlix::LimitDepth({line3DXBase * pixel * groups, line3DYBase * pixel * groups}, width,
+                                         height);
+        p.depthPerGroup = {p.depth.x / groups, p.depth.y / groups};
     }
     p.front = {p.plot.left, p.plot.top + p.depth.y, p.plot.right - p.depth.x, p.plot.bottom};
-    if (!p.HasPlot() || ShowsPie())
+    if (!p.HasPlot() || p.type.Has(kavlix::kPie))
         return;
 
-    p.leftEdge = (axisYLabel.IsEmpty() ? kEdge : p.captionFont + kYCaptionRoom) * pixel;
-    p.leftRoom = p.plot.left - kLabelDistance * pixel - p.leftEdge;
-    p.bottomRoom = p.canvas.Height() - p.plot.bottom - kLabelDistance * pixel -
-                   (axisXLabel.IsEmpty() ? kEdge : p.captionFont + kXCaptionRoom) * pixel;
+    p.leftEdge =
+        (axisYLabel.IsEmpty() ? kavlix::kEdge : kavlix::kCaptionLeft + p.captionFont + kavlix::kEdge) * pixel;
+    p.leftRoom = p.plot.left - kavlix::kLabelDistance * pixel - p.leftEdge;
+    p.bottomRoom =
+        p.canvas.Height() - p.plot.bottom - kavlix::kLabelDistance * pixel -
+        (axisXLabel.IsEmpty() ? kavlix::kEdge : kavlix::kCaptionBottom + p.captionFont + kavlix::kEdge) *
+            pixel;
     PlanValues();
-    if (p.scaledKeys)
+    if (p.type.Has(kavlix::kScaledKeys))
         PlanKeys();
     else
         PlanSlots();
 }
 
-/// The greatest height up to the host's at which the wider of two numbers fits left of the plot; 0 when none
-/// does.
+/// The greatest font height, up to the host's, at which the wider of two numbers fits left of the plot; 0
+/// when even the smallest height does not fit.
 int CGraph::FitNumbers(const CString& a, const CString& b) {
     const auto fits = [&](int size) {
         const GraphFont font(pass->canvas, size);
         return std::max(pass->canvas.Measure(a).width, pass->canvas.Measure(b).width) <= pass->leftRoom;
     };
-    const int wanted = std::min(kavlix::FontSize(yTickFontSize), GraphFont::kLargest);
+    const int wanted = std::min(kavlix::FontHeight(yTickFontSize), GraphFont::kLargest);
     if (fits(wanted))
         return wanted;
     int fitting = std::min(kSmallestNumbers, wanted);
@@ -88,7 +87,7 @@ int CGraph::FitNumbers(const CString& a, const CString& b) {
     return fitting;
 }
 
-/// The ticks of a scale of whole numbers, along the plot's left side or along its bottom.
+/// The ticks of a scale from `min` to `max`, along the plot's left side or along its bottom.
 kavlix::ScaleTicks CGraph::PlanTicks(std::int64_t min, std::int64_t max, std::int64_t step, bool left,
                                      bool fromZero) {
     kavlix::GraphPass& p = *pass;
@@ -103,7 +102,7 @@ kavlix::ScaleTicks CGraph::PlanTicks(std::int64_t min, std::int64_t max, std::in
     } else {
         const GraphFont font(p.canvas, yTickFontSize);
         gap = std::max(p.canvas.Measure(low).width, p.canvas.Measure(high).width) * kWideLabel +
-              kLabelGap * pixel;
+              kavlix::kLabelGap * pixel;
     }
     return kavlix::ChooseTicks(min, max, step, left ? p.front.Height() : p.front.Width(), kTickGap * pixel,
                                gap, fromZero);
@@ -154,7 +153,7 @@ void CGraph::PlanSlots() {
     p.slots = {first, last, count};
     if (!p.mirrored)
         return;
-    // A group has a key on either side, so there are fewer groups than values.
+    // A group may have a key on each side, so `seriesSize`, which counts values, would leave empty room.
     int groups = 1;
     for (const kavlix::SeriesPoints& series : p.data.series)
         for (const kavlix::KeyedValue& item : series.values) {
@@ -164,7 +163,7 @@ void CGraph::PlanSlots() {
         }
     p.data.groups = std::min(p.data.groups, groups);
     const double middle = (first + last) / 2;
-    // Keys grow to the right, and upwards when the series stand below each other.
+    // Keys grow to the right; in a horizontal graph they grow upwards.
     p.slots = {middle, p.horizontal ? first : last, count};
     p.mirroredSlots = {middle, p.horizontal ? last : first, count};
 }

@@ -1,3 +1,4 @@
+// Printing: the picture of DrawGraph in twips, cut by margins and page.
 #include <kavlix/Graph.h>
 
 #include <afxext.h>
@@ -5,7 +6,9 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "graph/GraphPass.h"
+#include "gdi/Guards.h"
+#include "graph/GraphCanvas.h"
+#include "graph/core/PrintedBottom.h"
 #include "plot/Numeric.h"
 
 using kavlix::ToCoordinate;
@@ -14,7 +17,7 @@ namespace {
 
 constexpr int kTwipsPerPixel = 1440 / 96;
 
-/// The page's lower edge in MM_TWIPS, which the DC is in. `area` is the page in device units.
+/// The lower edge of the page in twips. `dc` is in MM_TWIPS; `area` is the page in device units.
 int PageBottom(CDC& dc, CRect area) {
     dc.DPtoLP(&area);
     return std::min(area.top, area.bottom);

@@ -1,6 +1,10 @@
+// The values of a series.
 #include <kavlix/GraphSeries.h>
 
-#include "graph/GraphLists.h"
+#include <memory>
+#include <utility>
+
+#include "graph/OwningList.h"
 
 CGraphValue::~CGraphValue() = default;
 

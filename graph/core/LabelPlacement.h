@@ -27,9 +27,9 @@ PlaneRect BoxOf(LabelSize size, int angle, PlanePoint origin);
 int NormalAngle(int angle);
 
 /// A label below an axis, turned by `angle` degrees counter-clockwise, for the tick at `x`; nothing of it
-/// lies above `top`. A level one, or one on its head, stands with its middle under the tick; a rising one (1
-/// to 179 degrees) ends there, and a falling one (181 to 359) begins there, so that no angle brings it into
-/// the plot.
+/// lies above `top`. A level one, or one on its head, stands with its middle under the tick; a rising one
+/// (1 to 179 degrees) ends there, and a falling one (181 to 359) begins there, so that no angle brings it
+/// into the plot.
 LabelPlace PlaceBelow(LabelSize size, int angle, double x, double top);
 
 /// A label left of an axis: nothing of it lies right of `right`, and its middle is at `y`.

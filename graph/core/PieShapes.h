@@ -34,8 +34,8 @@ struct PieOutline {
     PlanePoint At(double angle, double reach = 1) const;
     /// The length of a sector's rim, as if the pie were not tilted.
     double ArcLength(const Sector& sector) const;
-    /// Whether the corners of `box` all lie in the sector, and clear of the outline. A box round
-    /// a point of the sector then lies in it whole.
+    /// Whether the corners of `box` all lie in the sector, and clear of the outline. A box round a point of
+    /// the sector then lies in it whole.
     bool Holds(const Sector& sector, const PlaneRect& box) const;
 };
 

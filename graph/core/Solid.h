@@ -8,8 +8,8 @@
 
 namespace kavlix {
 
-/// Where depth leads on paper: to the right by `x` and up by `y`. The viewer thus sees front, top and right
-/// side.
+/// Where depth leads on paper: to the right by `x` and up by `y`. The viewer thus sees front, top
+/// and right side.
 struct Depth {
     double x = 0;
     double y = 0;
@@ -40,6 +40,12 @@ constexpr double kSideLight = 0.7;
 
 /// `colour` (0x00BBGGRR) under light: darker below 1; above 1 it moves towards white by the excess.
 std::uint32_t Shade(std::uint32_t colour, double light);
+
+/// The outline of a shape of `colour`.
+inline std::uint32_t OutlineOf(std::uint32_t colour) {
+    constexpr double kOutlineLight = 0.55;
+    return Shade(colour, kOutlineLight);
+}
 
 /// The strip between two points of a line, drawn out into the depth. Where the line runs nearly along the
 /// depth, the strip is thickened to be `thinnest` wide.

@@ -1,3 +1,4 @@
+// CGraph: a graph of whole numbers in eleven types, painted and printed on the host's demand.
 #pragma once
 
 #include <afxwin.h>
@@ -17,7 +18,7 @@ struct SeriesSlots;
 class PlotScale;
 } // namespace kavlix
 
-/// What a CGraph shows; codes for CGraph::SetGraphType.
+/// Codes of the graph types, for CGraph::SetGraphType.
 enum GraphType : int {
     GraphTypeBar = 0,
     GraphTypeLine = 1,
@@ -38,11 +39,11 @@ public:
     CGraphLegendText(int index, const CString& text) : legendIndex(index), legendText(text) {}
     ~CGraphLegendText() override;
 
-    int legendIndex; ///< the group it was set for; lookups go by position
+    int legendIndex; ///< the group that the host named; lookups go by position in the list
     CString legendText;
 };
 
-/// The legend texts of a graph, in order of arrival.
+/// The legend texts of a graph, in the order in which the host set them. Owns the texts.
 class KAVLIX_API CGraphLegendList : public CStatic {
 public:
     CGraphLegendList();
@@ -50,158 +51,162 @@ public:
     CGraphLegendList(const CGraphLegendList&) = delete;
     CGraphLegendList& operator=(const CGraphLegendList&) = delete;
 
+    /// Appends a text. When memory runs out, the list is unchanged and the exception passes on.
     void Add(int index, const CString& text);
-    /// The text at `position`, counted from 0; empty when there is none.
+    /// The text at `position`, from 0. Empty when the list has no such position.
     CString TextAt(int position) const;
-    /// Takes the text at `position` out; no such position changes nothing.
+    /// Removes the text at `position`. A position that the list does not have changes nothing.
     void RemoveAt(int position);
     void RemoveAll();
     int GetCount() const { return static_cast<int>(legends->GetCount()); }
-    /// Characters of the longest text ever added.
+    /// The length of the longest text added so far, in characters. Removing texts does not reduce it.
     int GetMaxLength() const { return legendMaxLength; }
 
 private:
     int legendMaxLength = 0;
-    CObList* legends;
+    CObList* legends = nullptr;
 };
 
-/// A graph of whole numbers in one of eleven types, which the host paints into any device context and prints.
+/// A graph of whole numbers in one of eleven types. The host paints it into any device context,
+/// and prints it.
 ///
-/// It needs no window and reacts to no message: setters only store, and what they stored shows at the next
-/// DrawGraph or PrintGraph. The host fills it with series (CGraphSeries), group colours and legend texts.
+/// A CGraph needs no window of its own and handles no messages. Setters only store; the next DrawGraph or
+/// PrintGraph shows what they stored. The host adds series (CGraphSeries), group colours and legend texts.
 ///
-/// What the types show. A group is a key of the series; group j has the colour of entry j of the colour list
-/// and legend row j. Texts have the text colour of the DC; a share inside a pie has black or white.
-/// - Bar, 3D bar: for each series a slot with a bar for each group, from the zero line to the value.
-/// - Stacked bar, 3D stacked bar: the groups of a series on top of each other; negative values downwards.
-/// - Line, 3D line: a line (a ribbon) for each group over the series; a missing value is a gap.
-/// - Pie, 3D pie: a pie for each series, with a sector for each group and its share in percent; values of 0
-/// and
-///   below have none. When there is no room for all pies the first ones are shown, and how many are not.
-/// - XY line, scatter: each series is a set of points, X its keys and Y its values, with a marker shape of
-/// its
-///   own. XY line joins them in ascending order of X. A point has the colour of its group, a line that of the
-///   series' position; with SetLegendBySeries points too.
-/// - Box-whisker: for each series a box from the lower to the upper quartile of its values, the median as a
-/// line
-///   in it, whiskers to the last value within 1.5 interquartile ranges of the box, and circles for the values
-///   beyond. The quartile p of n values in order, counted from 0, lies at rank p * (n - 1), interpolated
-///   between the two values on either side. A box stands for no group and is grey, and a circle has the
-///   colour of its value's group; with SetLegendBySeries both have the colour of the series' position.
+/// A group is a key of the series. Group j has the colour at position j of the colour list, and row j of the
+/// legend. Texts have the text colour of the DC; a share inside a pie is black or white. The types are:
+/// - Bar, 3D bar: each series has a slot with a bar for each group, from the zero line to the value.
+/// - Stacked bar, 3D stacked bar: the groups of a series stand on top of each other. Negative values hang
+///   below the zero line.
+/// - Line, 3D line: each group has a line (a ribbon) across the series. A missing value is a gap.
+/// - Pie, 3D pie: each series has a pie, with a sector for each group and its share in percent. Values
+///   of 0 and below have no sector. Without room for all pies the first ones are shown, and the number
+///   of the others.
+/// - XY line, scatter: each series is a set of points: keys are X values, values are Y values. Each series
+///   has a marker shape of its own. XY line joins the points in ascending order of X. A point has the colour
+///   of its group, a line has the colour at the position of its series. With SetLegendBySeries points have
+///   the colour of their series too.
+/// - Box-whisker: each series has a box from the lower to the upper quartile of its values, with the median
+///   as a line in the box. The whiskers reach to the last value within 1.5 interquartile ranges of the box.
+///   Values beyond are circles. Quartile p of n values in order, counted from 0, lies at rank p * (n - 1),
+///   interpolated between the two neighbouring values. A box is grey, and a circle has the colour of its
+///   group. With SetLegendBySeries both have the colour of their series.
 ///
-/// The value axis runs from the lower to the upper tick limit; what lies outside is cut at the plot's edge.
-/// Labels that would overlap stand in two rows or are thinned out; labels too long for their room end in
-/// dots.
+/// The value axis runs from the lower to the upper tick limit. Shapes beyond the limits are cut at the plot's
+/// edge. Labels that would overlap stand in two rows, or some are left out. A label too long for its room
+/// ends in three dots.
 class KAVLIX_API CGraph : public CStatic {
 public:
-    /// A bar graph without a colour list: every group is black until SetColor makes one.
+    /// A bar graph without a colour list: every group is black until SetColor creates the list.
     CGraph();
-    /// `type` is one of the GraphType codes; any other is kept, and no series are drawn. A type that is not 0
-    /// counts as a choice of the quadrant type, also when the type is changed later.
+    /// `type` is one of the GraphType codes. The graph keeps any other code, and draws axes without series. A
+    /// type other than 0 counts as a choice of the quadrant type, also when the type changes later.
     explicit CGraph(int type);
     /// Deletes all series, colours and legend texts.
     ~CGraph() override;
     CGraph(const CGraph&) = delete;
     CGraph& operator=(const CGraph&) = delete;
 
-    /// @name Settings: they store and repaint nothing
+    /// @name Settings: setters store and repaint nothing
     /// @{
     void SetGraphType(int type) { graphType = type; }
-    /// Angle of the series labels in degrees, counter-clockwise; any number counts by its remainder of 360.
+    /// Angle of the series labels in degrees, counter-clockwise. Full turns make no difference.
     void SetXAxisAlignment(int degrees) { xAxisAlign = degrees; }
     void SetGraphTitle(CString title) { graphTitle = title; }
-    /// Caption of the level axis. Its length also decides how much room turned series labels get below the
-    /// axis, and how much horizontal and scatter graphs leave for the labels on the left.
+    /// Caption below the plot. The number of its characters also sets the room for turned series labels below
+    /// the plot, and in horizontal and scatter graphs the room for the labels on the left.
     void SetXAxisLabel(CString label);
-    /// Caption of the upright axis.
+    /// Caption left of the plot. The caption reads upwards.
     void SetYAxisLabel(CString label);
     /// Height of the series labels in pixels (default 12). Sizes below 1 count as 1.
     void SetXTickFontSize(int size) { xTickFontSize = size; }
-    /// Height of the value labels in pixels (default 12). Sizes below 1 count as 1.
+    /// Height of the numbers at the axes in pixels (default 12). Sizes below 1 count as 1.
     void SetYTickFontSize(int size) { yTickFontSize = size; }
     /// Height of the legend texts in pixels (default 12). Sizes below 1 count as 1.
     void SetLegendFontSize(int size) { legendFontSize = size; }
-    /// TRUE: in XY line, scatter and box-whisker graphs the legend has a row for each series instead of each
-    /// group, and everything of a series has the colour of that row. FALSE (the default): rows and colours go
-    /// by group, as in all other types. The rows' texts are those of SetLegend in either case.
+    /// FALSE (the default): the legend has a row for each group. TRUE: in XY line, scatter and box-whisker
+    /// graphs the legend has a row for each series, and all points of a series have the colour of that row.
+    /// Other types have rows for groups in either case. The rows' texts are always those of SetLegend.
     void SetLegendBySeries(BOOL bySeries) { legendBySeries = bySeries; }
     void SetGridLines(BOOL show) { graphHasGridLines = show; }
-    /// 1: values grow upwards; 0: to the right. A 3D line graph keeps 1; pies and scatter graphs do not
-    /// differ.
+    /// 1: values grow upwards. 0: values grow to the right. A 3D line graph stores 1 whatever `alignment` is.
+    /// Pies look the same for both; in a scatter graph values always grow upwards.
     void SetGraphAlignment(int alignment) { graphAlignment = graphType == GraphType3DLine ? 1 : alignment; }
-    /// Limits of the value axis and the step between two ticks. The number of intervals is the range divided
-    /// by the step, rounded up. A step of 0 leaves the setting unchanged. Drawing takes the step's magnitude,
-    /// limits in falling order as an axis that runs down, and equal limits as a range of 1.
+    /// Limits of the value axis, and the step between two ticks. The number of intervals is the range divided
+    /// by the step, rounded up. A step of 0 leaves all three unchanged. Drawing ignores the sign of the step,
+    /// draws an axis that runs down when `max` is below `min`, and takes equal limits as a range of 1.
     void SetTickLimits(int min, int max, int step);
-    /// Depth of the 3D types as a fraction of the plot's width (default 0.05). Drawing gives it at most half
-    /// of the plot; a negative ratio, or NaN, makes no depth.
+    /// Depth of the 3D types as a fraction of the plot's width (default 0.05). Drawing limits the depth to
+    /// half of the plot. A negative ratio, or NaN, gives no depth.
     void Set3DDepthRatio(double ratio) { depthRatio = ratio; }
-    /// Chooses the quadrants a bar graph shows; ignored for every other type. 1: values and keys from 0 up;
-    /// 2: negative keys too; 3: negative values too; 4: both. Any other number sets type 1 and leaves the
-    /// choice to DrawGraph as before. With types 3 and 4 the zero line lies in the middle of the value axis,
-    /// which reaches on both sides as far as the larger of both tick limits.
+    /// Chooses the quadrants of a bar graph; ignored for other types. 1: values and keys from 0 up; 2:
+    /// negative keys too; 3: negative values too; 4: both. Any other number sets 1, and DrawGraph goes on
+    /// choosing the quadrants if it did before. With 3 and 4 the zero line lies in the middle of the value
+    /// axis, and each half reaches to the tick limit with the larger magnitude.
     void SetGraphQuadType(int type);
     /// How far each ribbon of a 3D line graph reaches into the depth, in pixels to the right and up. 0, 0
-    /// (the default) shares out the depth of Set3DDepthRatio; at most half of the plot is used.
+    /// (the default): the ribbons share the depth of Set3DDepthRatio. All ribbons together reach at most over
+    /// half of the plot.
     void Set3DLineBase(int x, int y);
-    /// The rectangle to print into, in twips (1/1440 inch) with y growing upwards from the page's top: a
-    /// printed graph reaches from `left` to `right` and from `graphTop` down four inches, or to `bottom` if
-    /// that is higher.
+    /// The rectangle to print into, in twips (1/1440 inch); y grows upwards from the page's top. The printed
+    /// graph reaches from `left` to `right`, and from `graphTop` down four inches, or to `bottom` if
+    /// `bottom` is higher.
     void SetMargins(int top, int bottom, int left, int right, int graphTop);
-    /// Appends a colour to the list. Colours go by position in the list, not by `group`. Changes nothing when
-    /// memory runs out.
+    /// Appends a colour to the list. Drawing finds colours by position in the list, not by `group`. When
+    /// memory runs out, the list is unchanged and the exception passes on.
     void SetColor(int group, COLORREF color);
-    /// Appends a legend text; ignored for a scatter graph. Texts go by position in the list. The legend's box
-    /// is sized by the longest text's GetLength(); where a text is wider than that, the colour beside it
-    /// covers its end. The heading may be wider than a box of short texts. Changes nothing when memory runs
-    /// out.
+    /// Appends a legend text; ignored for a scatter graph. Drawing finds texts by position in the list. The
+    /// legend's width follows from GetLength() of the longest text. If a text is wider than its length
+    /// suggests, the colour beside it covers its end, and above short texts the heading may be wider than the
+    /// box. When memory runs out, the list is unchanged and the exception passes on.
     void SetLegend(int group, CString text);
     /// @}
 
     /// @name Contents
     /// @{
-    /// Takes the series over. The number of groups becomes the largest number of values of any series so far;
-    /// values that a series gets later do not change it. NULL, and a series that is in already, is ignored.
-    /// When memory runs out, the series is deleted, and the exception passes on.
+    /// Takes ownership of a series. The number of groups becomes the largest number of values that any added
+    /// series had; values stored later do not change it. NULL, and a series added before, are ignored. When
+    /// memory runs out, the series is deleted and the exception passes on.
     void AddSeries(CGraphSeries* series);
-    /// Deletes the first series of that name (case counts); none changes nothing. The number of groups stays.
+    /// Deletes the first series with this label, case-sensitive. Without a match nothing changes. The number
+    /// of groups stays.
     void RemoveSeries(CString label);
-    /// Takes exactly the entry at `index` out; no such entry changes nothing.
+    /// Removes the colour at position `index`, from 0. An index that the list does not have changes nothing.
     void RemoveColor(int index);
+    /// Removes the legend text at position `index` in the same way.
     void RemoveLegend(int index);
-    /// Each empties its list. The number of groups and the room of the legend stay as they are.
+    /// Empties the list of series. The number of groups stays.
     void RemoveAllSeries();
     void RemoveAllColors();
+    /// Empties the list of legend texts. The legend keeps its width and is still drawn.
     void RemoveAllLegends();
-    /// Series, legend texts and colours.
+    /// Removes all series, legend texts and colours.
     void RemoveAllData();
     /// @}
 
     /// @name Drawing
     /// @{
-    /// Paints the graph from (0, 0) on, as large as the client area of `parentWindow`, in the DC's
-    /// coordinates (made for MM_TEXT: a unit is a pixel). Frames have the pen, and the legend box pen and
-    /// brush, that are selected. The DC's state is as before afterwards. Does nothing without a DC or a
-    /// window. When memory runs out, the picture is unfinished, and the exception passes on.
+    /// Paints the graph with its upper left corner at (0, 0), in the size of `parentWindow`'s client area.
+    /// The DC should be in MM_TEXT: a logical unit is taken as a pixel. Frames have the DC's pen; the legend
+    /// box has its pen and brush. Restores the DC's state. Does nothing without a DC or a window. When memory
+    /// runs out, the picture is incomplete and the exception passes on.
     void DrawGraph(CDC* pDC);
-    /// Paints the same picture in MM_TWIPS into the rectangle of SetMargins, at the DC's own resolution;
-    /// fonts and line widths are those of a screen with 96 dots to the inch. The rectangle also ends where
-    /// the page does: the page is `pInfo`'s drawing area or, without one, what the DC tells. The DC's state
-    /// is as before afterwards. Does nothing without a DC or on an empty rectangle. When memory runs out, the
-    /// picture is unfinished, and the exception passes on.
+    /// Paints the same picture in MM_TWIPS into the rectangle of SetMargins, at the DC's own resolution.
+    /// Fonts and line widths are those of a screen with 96 dots to the inch. The rectangle ends where the
+    /// page does: the page is `pInfo`'s drawing rectangle or, without `pInfo`, the size that the DC reports.
+    /// Restores the DC's state. Does nothing without a DC, or when the rectangle is empty. When memory runs
+    /// out, the picture is incomplete and the exception passes on.
     void PrintGraph(CDC* pDC, CPrintInfo* pInfo);
     /// @}
 
 private:
     int GetXAxisAlignment() const { return xAxisAlign; }
     COLORREF GetColor(int index) const;
-    BOOL ShowsPie() const;
-    BOOL ShowsBySeries() const;
     int LegendRows() const;
 
     void DrawPicture(CDC& dc, const kavlix::GraphFrame& frame);
-    void DrawTitle(CDC& dc);
-    void ComputeLayout(CDC& dc);
+    void DrawTitle();
+    void ComputeLayout();
     void ChooseQuadrants();
     void PlanPlot();
     void PlanValues();
@@ -210,8 +215,8 @@ private:
     int FitNumbers(const CString& a, const CString& b);
     kavlix::ScaleTicks PlanTicks(std::int64_t min, std::int64_t max, std::int64_t step, bool left,
                                  bool fromZero);
-    /// The steps that a drawing consists of, here and in the painters below. Outside DrawGraph and PrintGraph
-    /// they do nothing, and DrawLegend's result is 0.
+    /// The steps of a drawing. Outside DrawGraph and PrintGraph the members with a CDC* do nothing, and
+    /// DrawLegend returns 0. Otherwise DrawLegend returns the left edge of the legend box.
     void DrawSeries(CDC* pDC);
     int DrawLegend(CDC* pDC);
     void DrawAxis(CDC* pDC);
@@ -223,7 +228,7 @@ private:
     void DrawLabelsBelow(const kavlix::SeriesSlots& slots);
     void DrawLabelsLeft(const kavlix::SeriesSlots& slots);
     void DrawCaptions();
-    void DrawLateLabels();
+    void DrawOverlayLabels();
 
     void DrawBarSeries(CDC* pDC);
     void DrawLineSeries(CDC* pDC);
@@ -238,10 +243,10 @@ private:
     void Draw3DStackedBarSeries(CDC* pDC);
 
 protected:
-    /// @name State, lengths in the units of the DC; layout fields are those of the last drawing
+    /// @name State. Lengths are in logical units of the DC. A drawing sets the layout fields anew.
     /// @{
     int tickSpace = 10;
-    CObList* seriesList;
+    CObList* seriesList = nullptr;
     int graphType = GraphTypeBar;
     int graphAlignment = 1;
     int maxHeight = 0;
@@ -249,7 +254,7 @@ protected:
     CObList* colorList = nullptr;
     CString axisYLabel;
     CString axisXLabel;
-    int yApexPoint = 0; ///< where the axes meet; after printing a place on the page
+    int yApexPoint = 0; ///< with xApexPoint the place where the axes meet; after printing on the page
     int xApexPoint = 0;
     int yAxisHeight = 0;
     int xAxisWidth = 0;
@@ -272,7 +277,7 @@ protected:
     double depthRatio = 0.05;
     int graphQuadType = 1;
     BOOL quadSetManually = FALSE;
-    int axisLabelsCut = 0; ///< set by the axis pass when not every label was drawn whole
+    int axisLabelsCut = 0; ///< 1 when the last drawing cut or left out an axis label
     int line3DXBase = 0;
     int line3DYBase = 0;
     int topMargin = 0;
@@ -291,7 +296,7 @@ public:
     CWnd* parentWindow = nullptr;
 
 private:
-    kavlix::GraphPass* pass = nullptr; ///< what the painters share, while drawing
+    kavlix::GraphPass* pass = nullptr; ///< the state of the drawing in progress; nullptr outside a drawing
 
     DECLARE_MESSAGE_MAP()
 };

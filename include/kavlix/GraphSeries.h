@@ -1,3 +1,4 @@
+// CGraphSeries: a named series of whole numbers for CGraph.
 #pragma once
 
 #include <afxwin.h>
@@ -6,55 +7,56 @@
 
 #include <kavlix/Export.h>
 
-/// One keyed number: a series' value for a group, or a group's colour.
+/// A number with a key: the value of a series for a group, or the colour of a group.
 class KAVLIX_API CGraphValue : public CStatic {
 public:
     CGraphValue(int aKey, int aValue) : key(aKey), value(aValue) {}
     ~CGraphValue() override;
 
-    int key;   ///< the group index
-    int value; ///< the data value; of a colour the COLORREF 0x00BBGGRR
+    int key;   ///< the group
+    int value; ///< the data value; for a colour the COLORREF 0x00BBGGRR
 };
 
-/// A series of a CGraph: a name, and one whole number for each group, under the group's index as its key.
+/// A series of a CGraph: a label, and a whole number for each group. The key of a number is its group.
 ///
-/// The host makes it with `new`, fills it and hands it to CGraph::AddSeries, which owns it from then on.
-/// Nothing here repaints.
+/// The host creates a series with `new`, fills it and passes it to CGraph::AddSeries, which takes ownership.
+/// No member repaints.
 ///
-/// Groups count from 0. In XY line and scatter graphs a key is the point's X value. In bar graphs of quadrant
-/// types 2 and 4, key -1 - j is group j on the negative side. A group without a value is a gap in lines and
-/// takes no room in stacks.
+/// Groups count from 0. In XY line and scatter graphs the key is the X value of a point. In bar graphs with
+/// quadrant types 2 and 4, key -1 - j is group j on the negative side. A group without a value is a gap in a
+/// line, and has no part in a stack.
 class KAVLIX_API CGraphSeries : public CStatic {
 public:
-    /// Without a name and without values.
+    /// The label and the values are empty.
     CGraphSeries();
     /// Deletes the values.
     ~CGraphSeries() override;
     CGraphSeries(const CGraphSeries&) = delete;
     CGraphSeries& operator=(const CGraphSeries&) = delete;
 
-    /// The name: what stands at the axis, and what CGraph::RemoveSeries looks for.
+    /// The text at the axis; CGraph::RemoveSeries finds a series by its label.
     void SetLabel(CString label) { seriesLabel = label; }
     CString GetLabel() const { return seriesLabel; }
 
-    /// Stores the value of a group; one that is already there is replaced and keeps its place in the order.
-    /// Costs the same for any order of keys and any number of values. Changes nothing when memory runs out.
+    /// Stores the value of a group. An existing value of the group is replaced in its place in the list.
+    /// Takes constant time on average. When memory runs out, nothing changes and the exception passes on.
     void SetData(int group, int value);
-    /// Appends a point, also when there is one with the same X: XY line and scatter graphs and the statistics
-    /// of a box use every point. Everything else (GetData, SetData, the other types) takes the first record
-    /// of a key. Changes nothing when memory runs out.
+    /// Appends a point, also when the series has one with the same X. XY line, scatter and box-whisker graphs
+    /// use every point. GetData, SetData and the other types use the first point with a key. When memory runs
+    /// out, nothing changes and the exception passes on.
     void AddPoint(int x, int y);
-    /// The value first stored for `group`; 0 when there is none.
+    /// The first value of `group`; 0 when `group` has none.
     int GetData(int group) const;
-    /// Number of values stored.
+    /// The number of values, points with the same key included.
     int GetDataCount() const;
-    /// The values, CGraphValue records in order of arrival. Owned by the series; for reading.
+    /// The values as CGraphValue objects, in the order in which the host stored them. The series owns them.
     const CObList& GetDataList() const { return *dataValues; }
 
 private:
     friend class CGraph;
 
     CString seriesLabel;
-    CObList* dataValues;
-    std::unordered_map<int, CGraphValue*> firstRecords; ///< of each key; owned by dataValues
+    CObList* dataValues = nullptr;
+    std::unordered_map<int, CGraphValue*>
+        firstRecords; ///< the first value of each key; `dataValues` owns them
 };

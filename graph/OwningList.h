@@ -1,3 +1,4 @@
+// CObList as a list that owns its objects.
 #pragma once
 
 #include <afxcoll.h>
@@ -6,21 +7,21 @@
 
 namespace kavlix {
 
-constexpr int kListBlock = 10; ///< list nodes made at a time
+constexpr int kListBlock = 10; ///< list nodes that a CObList allocates at a time
 
-/// Hands an object to a list; when memory runs out the object is deleted and the exception passes on.
+/// Hands an object to a list. When memory runs out, the object is deleted and the exception passes on.
 template <class Object> void Append(CObList& list, std::unique_ptr<Object> object) {
     list.AddTail(object.get());
     object.release();
 }
 
-/// Deletes every object of a list that owns them, and empties it.
+/// Deletes every object of a list, and empties the list.
 inline void DeleteAll(CObList& list) {
     while (!list.IsEmpty())
         delete list.RemoveHead();
 }
 
-/// Deletes the object at `index` and takes its node out; the rest stays. No such index changes nothing.
+/// Removes and deletes the object at `index`, from 0. An index without an object changes nothing.
 inline void DeleteAt(CObList& list, int index) {
     const POSITION position = index >= 0 ? list.FindIndex(index) : nullptr;
     if (position == nullptr)

@@ -1,0 +1,36 @@
+// The series and colours of a graph, copied from its lists for one drawing.
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+#include "graph/core/KeyedValue.h"
+
+namespace kavlix {
+
+/// A series as the painters read it.
+struct SeriesPoints {
+    CString label;
+    std::vector<KeyedValue> values; ///< ascending by key; records with the same key in order of arrival
+};
+
+struct GraphSnapshot {
+    std::vector<SeriesPoints> series;
+    std::vector<COLORREF> colours;
+    int groups = 0; ///< the groups 0 to `groups` - 1 are drawn
+
+    /// `seriesList` holds CGraphSeries, `colorList` (nullptr for none) CGraphValue.
+    GraphSnapshot(const CObList& seriesList, const CObList* colorList, int groupCount);
+    int SeriesCount() const { return static_cast<int>(series.size()); }
+    /// The series at `index`, from 0 to SeriesCount() - 1.
+    const SeriesPoints& Series(int index) const { return series[static_cast<std::size_t>(index)]; }
+    /// The values of the drawn groups of a series, ascending by group, one a group.
+    std::vector<KeyedValue> Groups(int index) const { return GroupValues(Series(index).values, groups); }
+    /// Black where the list has no entry.
+    COLORREF Colour(int index) const {
+        return index >= 0 && index < static_cast<int>(colours.size()) ? colours[index] : RGB(0, 0, 0);
+    }
+};
+
+} // namespace kavlix

@@ -1,3 +1,4 @@
+// CPieChartCtrl: lifetime, data and geometry. Painting, labels and input have files of their own.
 #include <kavlix/PieChartCtrl.h>
 
 #include <algorithm>
@@ -12,9 +13,8 @@ using namespace kavlix;
 namespace {
 
 constexpr char kWindowClass[] = "PIE_CHART_CTRL";
-// Pixels.
-constexpr int kLargeFontHeight = 15;
-constexpr int kSmallFontHeight = 13;
+constexpr int kLargeFontHeight = 15; // pixels
+constexpr int kSmallFontHeight = 13; // pixels
 
 void MakePieFont(CFont& font, int height) {
     font.CreateFont(height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_CHARACTER_PRECIS,
@@ -34,15 +34,11 @@ BEGIN_MESSAGE_MAP(CPieChartCtrl, CWnd)
     ON_WM_SETCURSOR()
 END_MESSAGE_MAP()
 
-CPieChartPiece::CPieChartPiece()
-    : m_crColor(0), m_crText(0), m_dTotal(0), m_dValue(0), m_bSelected(FALSE), m_rcItem(0, 0, 0, 0) {
-}
+CPieChartPiece::CPieChartPiece() = default;
 
 CPieChartPiece::~CPieChartPiece() = default;
 
-CPieChartCtrl::CPieChartCtrl()
-    : m_nWaitMode(0), m_nStartAngle(0), m_crBack(RGB(255, 255, 255)), m_crOutline(RGB(0, 0, 0)),
-      m_crSelected(RGB(255, 0, 0)), m_rcPie(0, 0, 0, 0) {
+CPieChartCtrl::CPieChartCtrl() {
     RegisterWndClass(AfxGetInstanceHandle());
     MakePieFont(m_fontLarge, kLargeFontHeight);
     MakePieFont(m_fontSmall, kSmallFontHeight);

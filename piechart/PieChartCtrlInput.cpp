@@ -1,3 +1,4 @@
+// CPieChartCtrl: clicks, selection, notification and cursor.
 #include <kavlix/PieChartCtrl.h>
 
 #include <commctrl.h>
@@ -24,14 +25,14 @@ int CPieChartCtrl::GetPieceIndex(double dAngle) {
         InvalidatePiece(Piece(index));
     };
     const INT_PTR count = m_arrPieces.GetSize();
-    PieWalk walk;
+    PieRunningSum sum;
     for (INT_PTR i = 0; i < count; ++i) {
-        walk.Add(Piece(i).m_dValue, Piece(i).m_dTotal);
-        if (!walk.Reaches(dAngle)) {
+        sum.Add(Piece(i).m_dValue, Piece(i).m_dTotal);
+        if (!sum.Reaches(dAngle)) {
             clear(i);
             continue;
         }
-        // The piece found is cleared with the rest: marking the selection is the caller's part.
+        // The found piece is cleared too: only OnLButtonDown selects it again, other callers just search.
         Piece(i).m_bSelected = TRUE;
         for (INT_PTR k = i; k < count; ++k)
             clear(k);
@@ -40,8 +41,8 @@ int CPieChartCtrl::GetPieceIndex(double dAngle) {
     return -1;
 }
 
-// Sends NM_CLICK. False when the control has lost its window, or is gone, by the time the parent has handled
-// it.
+// Sends NM_CLICK to the parent. False when the parent has destroyed the window, or deleted the control, while
+// it handled the notification: the caller must not touch the control then.
 bool CPieChartCtrl::NotifyClick(UINT nFlags, int nIndex) {
     const HWND window = m_hWnd;
     const HWND parent = ::GetParent(window);
@@ -68,7 +69,8 @@ void CPieChartCtrl::OnLButtonDown(UINT nFlags, CPoint point) {
             const int index = GetPieceIndex(angle);
             if (index >= 0)
                 Piece(index).m_bSelected = TRUE;
-            // A click into the gap takes the selection away, which shows in the whole of a sector.
+            // GetPieceIndex has invalidated the labels only. Sectors change colour too, also when a click
+            // into the gap has only removed a selection.
             if (index >= 0 || wasSelected)
                 InvalidateRgn(&region, TRUE);
             if (index >= 0 && !NotifyClick(nFlags, index))
@@ -79,7 +81,7 @@ void CPieChartCtrl::OnLButtonDown(UINT nFlags, CPoint point) {
 }
 
 BOOL CPieChartCtrl::OnSetCursor(CWnd*, UINT nHitTest, UINT) {
-    // The window's own class has no cursor; without this, whatever another window left would stay.
+    // The window class has no cursor: without this call the cursor of the window left before would stay.
     if (Default() != 0)
         return TRUE;
     if (nHitTest != HTCLIENT)

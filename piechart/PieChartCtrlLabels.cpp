@@ -1,3 +1,4 @@
+// CPieChartCtrl: draws labels, percentages and leader lines. PieLabels decides where they stand.
 #include <kavlix/PieChartCtrl.h>
 
 #include <algorithm>
@@ -7,7 +8,7 @@
 #include "gdi/Guards.h"
 #include "gdi/ShapeConversion.h"
 #include "gdi/Text.h"
-#include "piechart/PieChartCtrlTexts.h"
+#include "piechart/PieLabelAbbreviation.h"
 #include "piechart/core/PieColors.h"
 #include "piechart/core/PieLabels.h"
 
@@ -20,8 +21,7 @@ constexpr int kLeaderWidth = 1;
 
 CString PercentText(const CPieChartPiece& piece) {
     constexpr double kPercent = 100.0;
-    // More than that would be a text of hundreds of digits.
-    constexpr double kHighest = 1e9;
+    constexpr double kHighest = 1e9; // a higher percentage could have hundreds of digits
     const double percent = piece.m_dValue / piece.m_dTotal * kPercent;
     if (!(std::fabs(percent) <= kHighest))
         return CString();
@@ -41,19 +41,19 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
     area.startAngle = m_nStartAngle % 360;
     area.lineHeight = std::max<int>(MeasureText(dc, "W").cy, 1);
 
-    // Measuring text is slow: only pieces that can have a label are looked at.
+    // Measuring text is slow, so only the pieces that can get a label are measured.
     const std::vector<int> shown = WidestSectors(sectors, LabelCapacity(area));
     std::vector<CString> texts;
     for (const int index : shown)
         texts.push_back(Piece(index).m_strLabel);
-    const std::vector<LabelEnds> ends = FindLabelEnds(texts);
+    const std::vector<SharedBeginning> beginnings = FindSharedBeginnings(texts);
     std::vector<PieLabelRequest> requests;
     std::vector<int> breaks;
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const CPieChartPiece& piece = Piece(shown[i]);
         PieLabelRequest request;
         request.sector = sectors[static_cast<std::size_t>(shown[i])];
-        request.text.narrowest = NarrowestLabel(dc, piece.m_strLabel, ends[i]);
+        request.text.narrowest = NarrowestLabel(dc, piece.m_strLabel, beginnings[i]);
         request.text.label = MeasureText(dc, piece.m_strLabel).cx;
         const TextBreak brk = BreakInTwo(dc, piece.m_strLabel);
         request.text.broken = brk.width;
@@ -76,7 +76,7 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
     for (std::size_t i = 0; i < labels.size(); ++i) {
         CPieChartPiece& piece = Piece(shown[i]);
         piece.m_rcItem = ToCRect(labels[i].box);
-        // Half a text that shows beside the band would be a mere scrap.
+        // A text that the message's band covers in part is left out: its rest would not be readable.
         CRect hidden;
         PieLabel visible = labels[i];
         if (hidden.IntersectRect(ToCRect(visible.label), band))
@@ -85,7 +85,7 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
             visible.percent = {};
         CString text = piece.m_strLabel;
         if (!visible.broken)
-            text = AbbreviateLabel(dc, text, ends[i], visible.label.Width());
+            text = AbbreviateLabel(dc, text, beginnings[i], visible.label.Width());
         DrawLabel(dc, piece, visible, text, breaks[i]);
     }
 }

@@ -1,3 +1,4 @@
+// CPieChartCtrl: paints sectors, outline and messages, on the screen and into picture files.
 #include <kavlix/PieChartCtrl.h>
 
 #include <algorithm>
@@ -18,21 +19,22 @@ namespace {
 
 constexpr char kNoData[] = "No Data";
 
+// Lengths are pixels.
 constexpr int kOutlineWidth = 1;
-// The line within a selected sector. Pixels.
-constexpr int kSelectionWidth = 2;
-constexpr double kSelectionInset = 4;
-// Sectors are cut out of the circle by corners that far from the centre, in radii: so far that their rounding
-// to whole pixels turns no boundary visibly.
+constexpr int kSelectionWidth = 2;      // of the line that marks a selected sector
+constexpr double kSelectionInset = 4.0; // from that line to the sector's boundary
+// Sectors are polygons whose corners lie this many radii from the centre, clipped to the circle. At such a
+// distance rounding the corners to whole pixels does not turn a boundary visibly.
 constexpr double kCornerDistance = 8.0;
-constexpr double kWidestCorner = 90.0; // degrees between two corners, so that the circle stays within them
-// A boundary line is left out where it would come closer than that to another, in pixels along the rim.
+// Degrees between two corners of such a polygon, small enough that all edges stay outside the circle.
+constexpr double kWidestCorner = 90.0;
+// Least distance between two boundary lines, along the rim. Closer lines are left out.
 constexpr double kLeastLineDistance = 3.0;
-// Of a boundary line only the part is drawn where the wider of its sectors is as wide as that, if the rest is
-// long enough to blacken the centre. Pixels.
+// The boundary lines of many thin sectors would blacken the centre. So a line begins at the distance from the
+// centre where the wider of its two sectors is kLeastWidthBetweenLines wide. If that distance is not longer
+// than kShortestGapInLine, the line begins at the centre.
 constexpr double kLeastWidthBetweenLines = 2.0;
 constexpr double kShortestGapInLine = 4.0;
-// Round a message. Pixels.
 constexpr int kMessagePaddingX = 10;
 constexpr int kMessagePaddingY = 6;
 constexpr UINT kMessageFormat = DT_CENTER | DT_WORDBREAK | DT_NOPREFIX;
@@ -73,22 +75,22 @@ bool CPieChartCtrl::SaveImage(CString strFileName) {
 }
 
 BOOL CPieChartCtrl::OnEraseBkgnd(CDC*) {
-    // Every paint covers the whole window; erasing first would flicker.
+    // Every paint covers the whole window, so erasing would only flicker.
     return TRUE;
 }
 
 void CPieChartCtrl::OnSize(UINT, int, int) {
     Default();
-    // Windows of a class without redraw styles too: the pie moves with every change of size.
+    // The class "PIE_CHART_CTRL" lacks the redraw styles, but every change of size moves the pie.
     InvalidateRect(nullptr, FALSE);
 }
 
 std::vector<PieSector> CPieChartCtrl::Sectors() const {
     std::vector<PieSector> sectors;
     sectors.reserve(static_cast<std::size_t>(m_arrPieces.GetSize()));
-    PieWalk walk;
+    PieRunningSum sum;
     for (INT_PTR i = 0; i < m_arrPieces.GetSize(); ++i)
-        sectors.push_back(walk.Add(Piece(i).m_dValue, Piece(i).m_dTotal));
+        sectors.push_back(sum.Add(Piece(i).m_dValue, Piece(i).m_dTotal));
     return sectors;
 }
 
@@ -129,7 +131,7 @@ void CPieChartCtrl::DrawPie(CDC& dc) {
 }
 
 void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) {
-    // A region leaves out one more column and row than an ellipse does.
+    // An elliptic region covers one column and one row less than the ellipse that DrawOutline draws.
     CRect device = ToDeviceWithEdges(dc, m_rcPie);
     CRgn circle;
     if (!circle.CreateEllipticRgnIndirect(&device))
@@ -152,7 +154,7 @@ void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) 
             dc.FillRect(&m_rcPie, &fill);
             continue;
         }
-        // Neighbours share the corner between them, so that every pixel belongs to just one.
+        // Neighbouring polygons share their corners, so every pixel belongs to exactly one of them.
         corners.assign(1, ToCPoint(PieCentre(pie)));
         const int steps = static_cast<int>(std::ceil(sector.Span() / kWidestCorner));
         for (int step = 0; step <= steps; ++step) {
@@ -165,7 +167,8 @@ void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) 
     DrawSelection(dc, sectors);
 }
 
-// Where a piece has the selection's own colour, the fill alone would not tell what is selected.
+// Marks the selected sectors by a line if any piece looks like the selection, because then the fill colour
+// alone does not show what is selected.
 void CPieChartCtrl::DrawSelection(CDC& dc, const std::vector<PieSector>& sectors) {
     bool isAmbiguous = false;
     for (std::size_t i = 0; i < sectors.size(); ++i)
@@ -228,7 +231,7 @@ void CPieChartCtrl::DrawOutline(CDC& dc, const std::vector<PieSector>& sectors) 
         dc.MoveTo(ToCPoint(PointAround(pie, start + angle, inner)));
         dc.LineTo(ToCPoint(PointAround(pie, start + angle, corner)));
     };
-    // With a gap, its two edges count as the boundaries of a wide sector.
+    // A gap in the circle counts as a sector: its span decides too where the lines at its edges begin.
     double last = 0;
     line(0, std::max(visible.front().Span(), whole ? visible.back().Span() : kFullCircle - covered));
     for (std::size_t i = 1; i < visible.size(); ++i) {
@@ -244,7 +247,7 @@ void CPieChartCtrl::DrawOutline(CDC& dc, const std::vector<PieSector>& sectors) 
         line(covered, std::max(visible.back().Span(), kFullCircle - covered));
 }
 
-// The band in the middle of the window on which a message stands; empty when there is none.
+// The box of the message in the middle of the window; empty without a message.
 CRect CPieChartCtrl::PlaceMessage(CDC& dc, const CRect& client, const CString& text) {
     SelectGuard font(dc, m_fontLarge);
     CRect room = client;
@@ -252,7 +255,7 @@ CRect CPieChartCtrl::PlaceMessage(CDC& dc, const CRect& client, const CString& t
     if (text.IsEmpty() || room.Width() <= 0 || room.Height() <= 0)
         return CRect(0, 0, 0, 0);
     const CSize size = MeasureTextIn(dc, text, room.Width(), kMessageFormat);
-    // A message that does not fit says less than an empty window.
+    // A message that does not fit is left out: part of the text could mislead.
     if (size.cx > room.Width() || size.cy > room.Height())
         return CRect(0, 0, 0, 0);
     CRect band(CPoint((client.Width() - size.cx) / 2, (client.Height() - size.cy) / 2), size);
@@ -275,7 +278,7 @@ void CPieChartCtrl::DrawMessage(CDC& dc, const CRect& client, const CString& tex
         SelectGuard backBrush(dc, back);
         dc.Rectangle(&band);
     }
-    // As wide as when it was measured, so that the lines break where they did.
+    // The same width as in PlaceMessage, so that the lines break at the same words.
     const CRect place(client.left + kMessagePaddingX, band.top + kMessagePaddingY,
                       client.right - kMessagePaddingX, band.bottom - kMessagePaddingY);
     dc.SetTextColor(color);

@@ -1,3 +1,4 @@
+// CPieChartCtrl: a pie chart control, and CPieChartPiece, one piece of its data.
 #pragma once
 
 #include <afxcoll.h>
@@ -13,105 +14,107 @@ struct PieLabel;
 struct PieSector;
 } // namespace kavlix
 
-/// One piece of a pie chart. It belongs to its chart.
+/// One piece of a pie chart. The chart that holds the piece deletes it.
 class KAVLIX_API CPieChartPiece : public CObject {
 public:
     CPieChartPiece();
     ~CPieChartPiece() override;
 
-    COLORREF m_crColor; ///< fill colour of the sector
-    COLORREF m_crText;  ///< colour of the texts in the sector while the piece is not selected
-    double m_dTotal;    ///< the whole of which the piece is a part
-    double m_dValue;    ///< the sector spans value / total * 360 degrees
+    COLORREF m_crColor = 0; ///< fill colour of the sector
+    COLORREF m_crText = 0;  ///< colour of the texts in the sector while the piece is not selected
+    double m_dTotal = 0;    ///< the value of a full circle
+    double m_dValue = 0;    ///< the sector spans value / total * 360 degrees
     CString m_strLabel;
-    BOOL m_bSelected; ///< drawn in the selection's colours
-    CRect m_rcItem;   ///< where the last paint put the label, client pixels; empty when it shows none
+    BOOL m_bSelected = FALSE;   ///< whether the piece is drawn in the colours of the selection
+    CRect m_rcItem{0, 0, 0, 0}; ///< the label's box in the last paint, client pixels; empty without a label
 };
 
-/// A pie of coloured pieces with their labels and percentages. A click selects a piece and tells the parent.
+/// A pie of coloured pieces with their labels and percentages. A click selects a piece and
+/// notifies the parent.
 ///
-/// Create it with Create, or subclass a dialog item of class "PIE_CHART_CTRL". Use it on the thread that owns
-/// its window. Everything but painting and clicking also works without a window.
+/// Create the control with Create, or subclass a dialog item of class "PIE_CHART_CTRL". Use the control on
+/// the thread that owns its window. Without a window everything works except painting and clicking.
 ///
 /// Angles are degrees, 0 at twelve o'clock, growing clockwise on the screen. Positions are client pixels.
 ///
-/// What is shown where: the pieces follow one another clockwise in list order. A piece takes the part of the
-/// circle that its running sum of spans reaches beyond all before it, and no more than the circle: pieces of
-/// less than the whole leave a gap, what exceeds the whole is not shown. A negative piece takes no room, and
-/// those after it begin where the sum gets beyond the highest before. A piece with total 0 and a positive
-/// value takes all that is left; from one whose span is no number on, nothing is shown. A piece of exactly 0
-/// has no sector, but a label at its place.
+/// Sectors: the pieces follow one another clockwise in list order. A running sum adds up the spans of the
+/// pieces. A piece takes the part of the circle by which it raises the highest sum so far; nothing is shown
+/// beyond 360 degrees. Pieces that sum to less than a full circle leave a gap. A negative piece has no sector
+/// and lowers the sum, so the next sector begins where the sum exceeds its highest value again. A piece with
+/// total 0 and a positive value takes the rest of the circle. A piece whose span is not a number hides itself
+/// and all pieces after it. A piece of exactly 0 has no sector, but a label where its sector would be.
 ///
-/// Label and percentage stand inside the sector where they fit, in the piece's text colour; else beside the
-/// pie with a line to the sector, in that colour or, where it would not be legible on the background, in
-/// black or white. Beside the pie a text may be broken in two, abbreviated or, if there is no room, left out,
-/// the smallest pieces first; a pie hardly higher than a line has no texts. Labels that begin alike are
-/// abbreviated in the middle. The texts of a selected piece are white on the selection's colour. Where a
-/// piece has nearly that colour itself, a light line within the selected sector tells the selection too,
-/// unless the sector is too narrow for one.
+/// Texts: label and percentage stand inside the sector if they fit, in the piece's text colour. Otherwise
+/// they stand beside the pie, and a leader line connects them with the sector; black or white replaces the
+/// text colour if the text colour is not legible on the background. Beside the pie a label may be broken into
+/// two lines or abbreviated. Labels that begin alike are abbreviated in the middle. If there is no room, the
+/// texts of the smallest pieces are left out. A pie that is hardly higher than a line of text has no texts.
+///
+/// Selection: the sector has the selection's colour, and its texts are white. If any piece has nearly the
+/// selection's colour itself, a light line inside the sector marks the selection, unless the sector is too
+/// narrow for the line.
 class KAVLIX_API CPieChartCtrl : public CWnd {
 public:
-    /// Sets all defaults, makes the fonts and tries to register the window class "PIE_CHART_CTRL"; creates no
-    /// window.
+    /// Makes the fonts and tries to register the window class "PIE_CHART_CTRL". Creates no window.
     CPieChartCtrl();
     ~CPieChartCtrl() override;
     CPieChartCtrl(const CPieChartCtrl&) = delete;
     CPieChartCtrl& operator=(const CPieChartCtrl&) = delete;
 
-    /// Registers the window class "PIE_CHART_CTRL" for all modules of the process. Call it before dialogs
-    /// that hold an item of the class, unless a control object exists by then. FALSE when it cannot be
-    /// registered, also because it is already.
+    /// Registers the window class "PIE_CHART_CTRL" for all modules of the process. The constructor does the
+    /// same. Call this function before you create a dialog with an item of the class if no control object
+    /// exists yet. FALSE when registration fails, which includes a class that is already registered.
     static BOOL RegisterWndClass(HINSTANCE hInstance);
 
     using CWnd::Create;
-    /// Creates the control's window with a sunken edge: `rect` in the parent's client pixels, `nID` the
-    /// child's identifier. The cursor becomes the arrow. FALSE when the window cannot be created; throws
-    /// CResourceException when its class cannot be registered.
+    /// Creates the control's window with a sunken edge and shows the arrow cursor. `rect` is in the parent's
+    /// client pixels, `nID` is the child window's identifier. FALSE when the window cannot be created. Throws
+    /// CResourceException when the window class cannot be registered.
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID);
 
     // ---- Data ----
 
-    /// Appends a piece of `dValue` / `dTotal` of the circle and invalidates the window. Result 1; 0, nothing
-    /// changed, when memory runs out.
+    /// Appends a piece that takes `dValue` / `dTotal` of the circle, and invalidates the window. Result 1, or
+    /// 0 with nothing changed when memory runs out.
     int AddPiece(DWORD crColor, DWORD crText, double dTotal, double dValue, const CString& strLabel);
-    /// Deletes all pieces and ends the wait mode. No repaint.
+    /// Deletes all pieces and ends the wait mode. Does not repaint.
     void Reset();
-    /// Fill colour of piece `nIndex`, of the last one for an index beyond. 0 for a negative index or without
-    /// pieces.
+    /// Writes the fill colour of piece `nIndex` to `crColor`. An index beyond the last piece gives the last
+    /// piece's colour. A negative index, or a chart without pieces, gives 0.
     void GetItemColor(int nIndex, DWORD& crColor);
 
     // ---- View ----
 
-    /// Stores the wait text and mode and invalidates the window with erase. In any mode but 0 the text stands
-    /// in the middle of the window: in place of "No Data" while there are no pieces, else on a band across
-    /// the chart, which stays visible and can be clicked beside it. 0 ends waiting, as Reset does.
+    /// Stores the wait text and mode, and invalidates the window with erase. Mode 0 ends waiting, as Reset
+    /// does. In any other mode the text stands in the middle of the window: in place of "No Data" if there
+    /// are no pieces, otherwise on a band in front of the chart. Clicks keep working while the control waits.
     void Wait(const char* pszText, int nMode);
     /// Invalidates the window with erase.
     void Refresh();
 
-    /// Saves the picture of the client area as PNG, BMP or EMF, as the extension of the name says (.png,
-    /// .bmp, .emf). False without a window, for any other extension, or when the file cannot be written; a
-    /// file of that name is then as it was before.
+    /// Saves the picture of the client area. The extension of the name (.png, .bmp or .emf) selects the
+    /// format. False without a window, for any other extension, or when the file cannot be written; an
+    /// existing file of that name then stays unchanged.
     bool SaveImage(CString strFileName);
 
     // ---- Geometry ----
 
-    /// Computes the pie's square from the client area, as every paint does. Without a window it stays as it
-    /// is.
+    /// Computes `m_rcPie` from the client area, as every paint does. Does nothing without a window.
     void RecalcRect();
-    /// The point at `dAngle` on the rim, or with `nInner` on the circle of 60 % of the radius on which labels
-    /// stand.
+    /// Writes the point at `dAngle` to `point`: on the rim if `nInner` is 0, otherwise on the circle of 60 %
+    /// of the radius, where labels stand.
     void CountPoint(double dAngle, CPoint& point, int nInner);
-    /// The angle at which `point` is seen from the pie's centre, 0 <= angle < 360; -1 for the centre itself.
+    /// The direction from the pie's centre to `point`, 0 <= angle < 360; -1 for the centre itself.
     double GetAngleFromPoint(const CPoint& point);
-    /// The first piece whose running sum of spans, counted from 0 whatever the start angle, reaches `dAngle`;
-    /// -1 when there is none. Clears the selection of every piece and invalidates the label of every piece.
+    /// The first piece at which the running sum of spans reaches `dAngle`, or -1 if no piece does. The sum
+    /// starts at 0 degrees whatever `m_nStartAngle` is. Clears the selection of every piece and invalidates
+    /// the label of every piece.
     int GetPieceIndex(double dAngle);
 
 protected:
-    /// Lays out and paints the whole client area into `dc`, one logical unit to a pixel, with its origin at
-    /// the DC's: screen, printer, metafile and memory DC get the same calls. Records where the labels are.
-    /// The DC's state and clip are kept. Does nothing without a window.
+    /// Lays out the chart and paints the whole client area into `dc`, with its corner at the DC's origin and
+    /// one logical unit to a pixel. Screen, printer, metafile and memory DC get the same calls. Writes the
+    /// label boxes to the pieces' `m_rcItem`. Restores the DC's state. Does nothing without a window.
     void DrawPie(CDC& dc);
 
     afx_msg void OnPaint();
@@ -119,22 +122,22 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
-    /// Selects the piece under `point` and sends NM_CLICK with an NMPIECHART to the parent, if there is one.
-    /// The centre, the line from it to twelve o'clock, and a pie too small to be drawn select nothing.
+    /// Selects the piece under `point` and sends NM_CLICK with an NMPIECHART to the parent window, if the
+    /// control has one. A click on the centre, or on the line from there to twelve o'clock, selects nothing.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 protected:
-    int m_nWaitMode; ///< 0 while not waiting; see Wait
+    int m_nWaitMode = 0; ///< 0 while not waiting; see Wait
     CString m_strWait;
-    int m_nStartAngle;     ///< where the first piece is drawn, degrees; the click counts from 0 all the same
-    COLORREF m_crBack;     ///< default 0x00FFFFFF
-    COLORREF m_crOutline;  ///< default 0x00000000
-    COLORREF m_crSelected; ///< default 0x000000FF
-    CObArray m_arrPieces;  ///< the CPieChartPiece objects, owned
-    CFont m_fontLarge;     ///< messages
-    CFont m_fontSmall;     ///< labels and percentages
-    CRect m_rcPie;         ///< square of the pie, written by every paint; empty before the first
+    int m_nStartAngle = 0; ///< angle at which painting begins the first piece; clicks count from 0 degrees
+    COLORREF m_crBack = RGB(255, 255, 255);
+    COLORREF m_crOutline = RGB(0, 0, 0);
+    COLORREF m_crSelected = RGB(255, 0, 0);
+    CObArray m_arrPieces;      ///< the CPieChartPiece objects, owned
+    CFont m_fontLarge;         ///< font of the wait text and "No Data"
+    CFont m_fontSmall;         ///< font of labels and percentages
+    CRect m_rcPie{0, 0, 0, 0}; ///< square of the pie, written by every paint; empty before the first paint
 
 private:
     CPieChartPiece& Piece(INT_PTR nIndex) const;

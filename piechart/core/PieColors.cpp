@@ -1,4 +1,4 @@
-// Which colours look alike.
+// Contrast by relative luminance, similarity by channel differences.
 #include "piechart/core/PieColors.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ int Channel(std::uint32_t color, int shift) {
     return static_cast<int>((color >> shift) & 0xFF);
 }
 
-// Relative luminance, 0 to 1.
+// Relative luminance as WCAG defines it, 0 to 1.
 double Luminance(std::uint32_t color) {
     const auto linear = [&](int shift) {
         const double part = Channel(color, shift) / 255.0;
@@ -21,8 +21,9 @@ double Luminance(std::uint32_t color) {
     return 0.2126 * linear(0) + 0.7152 * linear(8) + 0.0722 * linear(16);
 }
 
+// Contrast ratio as WCAG defines it, 1 to 21.
 double Contrast(std::uint32_t a, std::uint32_t b) {
-    constexpr double kGlare = 0.05;
+    constexpr double kGlare = 0.05; // luminance that the screen reflects
     const double first = Luminance(a) + kGlare;
     const double second = Luminance(b) + kGlare;
     return std::max(first, second) / std::min(first, second);
@@ -31,7 +32,7 @@ double Contrast(std::uint32_t a, std::uint32_t b) {
 } // namespace
 
 std::uint32_t LegibleOn(std::uint32_t back, std::uint32_t text) {
-    constexpr double kLegible = 3.0;
+    constexpr double kLegible = 3.0; // least contrast ratio
     constexpr std::uint32_t kBlack = 0x000000;
     constexpr std::uint32_t kWhite = 0xFFFFFF;
     if (Contrast(back, text) >= kLegible)
@@ -40,7 +41,7 @@ std::uint32_t LegibleOn(std::uint32_t back, std::uint32_t text) {
 }
 
 bool LookAlike(std::uint32_t a, std::uint32_t b) {
-    constexpr int kHardlyDifferent = 128; // of the three channels together
+    constexpr int kHardlyDifferent = 128; // sum over the three channels
     int difference = 0;
     for (const int shift : {0, 8, 16})
         difference += std::abs(Channel(a, shift) - Channel(b, shift));

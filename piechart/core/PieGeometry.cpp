@@ -1,3 +1,4 @@
+// Angles, sectors and points of a pie.
 #include "piechart/core/PieGeometry.h"
 
 #include <algorithm>
@@ -11,15 +12,15 @@ namespace {
 
 constexpr double kPieControlPi = 3.1415926535; // hosts rely on angles computed with this value
 constexpr double kHalfCircle = 180.0;
-constexpr double kHalfCircleInverse = 0.005555555555555556;
+constexpr double kHalfCircleInverse = 0.005555555555555556; // a product rounds differently from a quotient
 constexpr double kRightwards = 90.0;
 constexpr double kLeftwards = 270.0;
-constexpr double kInnerCircle = 0.6000000000000001; // of the radius
+constexpr double kInnerCircle = 0.6000000000000001; // radius of the label circle, in radii of the pie
 
-// Pixels.
-constexpr int kMargins = 40;
-constexpr int kShiftToLeft = 15;
+constexpr int kMargins = 40;     // pixels, of both sides together
+constexpr int kShiftToLeft = 15; // pixels
 
+// The mean, truncated toward zero.
 int Middle(int a, int b) {
     return static_cast<int>((std::int64_t{a} + b) / 2);
 }
@@ -34,7 +35,7 @@ double PieDegrees(double radians) {
     return radians * kHalfCircle / kPieControlPi;
 }
 
-PieSector PieWalk::Add(double value, double total) {
+PieSector PieRunningSum::Add(double value, double total) {
     const double part = value / total;
     m_sum += part * kFullCircle;
     PieSector sector;
@@ -73,18 +74,18 @@ Point PointAround(const Rect& pie, double angle, double distance) {
 }
 
 std::vector<Point> LineInSector(const Rect& pie, double begin, double end, double inset) {
-    constexpr double kLeastRoom = 4;    // between the line's tip and its arc, as a multiple of `inset`
-    constexpr double kDegreesAStep = 2; // along the arc
-    constexpr double kLongestMiter = 2; // at the tip of a nearly full circle, as a multiple of `inset`
+    constexpr double kLeastRoom = 4;    // from the line's tip to its arc, in multiples of `inset`
+    constexpr double kDegreesAStep = 2; // between two points of the arc
+    constexpr double kLongestTip = 2; // from the centre in a sector of over 180 degrees, multiples of `inset`
     const double radius = (static_cast<double>(pie.bottom) - pie.top) / 2 - inset;
     const double half = (end - begin) / 2;
     const bool whole = end - begin >= kFullCircle;
-    double tip = 0;
+    double tip = 0;    // distance from the centre to the line
     double beside = 0; // degrees between the boundary and the line, at the arc
     if (!whole) {
         tip = inset / std::sin(PieRadians(half));
         if (half > kRightwards)
-            tip = std::min(tip, inset * kLongestMiter);
+            tip = std::min(tip, inset * kLongestTip);
         beside = PieDegrees(std::asin(std::min(inset / std::max(radius, inset), 1.0)));
     }
     if (tip + kLeastRoom * inset > radius)

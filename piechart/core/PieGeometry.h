@@ -1,61 +1,61 @@
+// Where the pieces of a pie are. Angles are degrees, 0 at twelve o'clock, growing clockwise.
+// Positions are pixels.
 #pragma once
 
 #include <vector>
 
 #include "plot/Shapes.h"
 
-/// Where the pieces of a pie are. Angles are degrees, 0 at twelve o'clock, growing clockwise; y grows
-/// downwards. Positions are pixels.
 namespace kavlix {
 
 constexpr double kFullCircle = 360.0;
 
-/// The two conversions of the pie's angles.
+/// Conversions between degrees and radians with the value of pi that hosts rely on.
 double PieRadians(double degrees);
 double PieDegrees(double radians);
 
-/// The part of the circle that a piece takes, counted from the first piece's beginning.
+/// The part of the circle that a piece takes. Angles count from the beginning of the first piece.
 struct PieSector {
     double begin = 0;
     double end = 0;
-    bool hasPlace = false; ///< has a sector, or is a piece of exactly 0 within the circle
+    bool hasPlace = false; ///< the piece can have a label: it is visible, or exactly 0 and within the circle
 
     bool IsVisible() const { return end > begin; }
     double Span() const { return end - begin; }
     double Middle() const { return begin + Span() / 2; }
 };
 
-/// Goes through pieces in list order with the running sum on which both painting and search rest, so that a
-/// point in a piece's sector is found to be that piece's.
-class PieWalk {
+/// The running sum of the pieces' spans. Painting and the search for a clicked piece use the same sum, so a
+/// click on a sector finds the sector's piece.
+class PieRunningSum {
 public:
-    /// Adds the next piece.
+    /// Adds the next piece in list order and returns its sector.
     PieSector Add(double value, double total);
-    /// Whether the sum has reached `angle`; never when either is no number.
+    /// Whether the sum has reached `angle`. False when either of them is not a number.
     bool Reaches(double angle) const { return m_sum >= angle; }
 
 private:
     double m_sum = 0;
-    double m_covered = 0; ///< the highest sum so far, at most the circle
+    double m_covered = 0; ///< the highest sum so far, at most kFullCircle
 };
 
-/// The pie's square in a client area; its right lies left of its left when there is no room for a pie.
+/// The pie's square in a client area. Without room for a pie its width and height are 0 or negative.
 Rect PieSquare(const Rect& client);
 
-/// The centre from which angles are measured.
+/// The centre of the pie's square. Angles are measured from it.
 Point PieCentre(const Rect& pie);
 
-/// The point at `angle` on the rim, or on the label circle inside.
+/// The point at `angle` on the rim, or with `inner` on the smaller circle on which labels stand.
 Point PointOnPie(const Rect& pie, double angle, bool inner);
 
-/// A point at any distance from the centre, rounded to the nearest pixel.
+/// The point at `angle` and `distance` pixels from the centre, rounded to the nearest pixel.
 Point PointAround(const Rect& pie, double angle, double distance);
 
-/// A line within the sector from `begin` to `end`, `inset` pixels from its boundary, closed. Empty where the
-/// sector is too narrow to hold it and more.
+/// A closed line inside the sector from `begin` to `end`, `inset` pixels from the sector's boundary. Empty
+/// when the sector is too small for the line.
 std::vector<Point> LineInSector(const Rect& pie, double begin, double end, double inset);
 
-/// The angle at which a point is seen from the centre; -1 for the centre.
+/// The direction from the centre to `point`, 0 <= angle < 360; -1 for the centre itself.
 double AngleOfPoint(const Rect& pie, Point point);
 
 } // namespace kavlix

@@ -1,3 +1,4 @@
+// Texts inside sectors, and the choice of what goes beside the pie.
 #include "piechart/core/PieLabels.h"
 
 #include <algorithm>
@@ -10,15 +11,15 @@
 namespace kavlix {
 namespace {
 
-// Pixels.
-constexpr int kSectorInset = 2; // between a text and its sector's boundary
-constexpr int kSampleStep = 2;  // between the points of a text's edge that are looked at
+constexpr int kSectorInset = 2; // pixels between a text and its sector's boundary
+constexpr int kSampleStep = 2;  // pixels between the tested points on the edges of a text's box
 
 constexpr double kQuarterCircle = 90.0;
 
-// Distances from the label circle at which a text inside is tried, parts of the radius.
+// Places tried for a text inside: distances from the label circle, outwards, in radii.
 constexpr double kInsideShifts[] = {0.0, 0.06, 0.12, -0.08, -0.16};
 
+/// One run of PlaceLabels().
 class Placer {
 public:
     Placer(const PieLabelArea& area, const std::vector<PieLabelRequest>& requests)
@@ -26,7 +27,7 @@ public:
           m_radius((static_cast<double>(area.pie.bottom) - area.pie.top) / 2), m_labels(requests.size()) {}
 
     std::vector<PieLabel> Place() {
-        // Texts would only hide a pie that is hardly higher than themselves.
+        // Texts would hide a pie of less than two lines' height.
         if (m_radius < m_area.lineHeight)
             return std::move(m_labels);
         std::vector<PieBlock> left;
@@ -48,13 +49,14 @@ public:
     }
 
 private:
-    /// From an angle of the pieces to one of the circle, 0 to 360.
+    // Turns an angle counted from the first piece into one counted from twelve o'clock, 0 to 360.
     double Angle(double angle) const {
         const double turned = std::fmod(angle + m_area.startAngle, kFullCircle);
         return turned < 0 ? turned + kFullCircle : turned;
     }
 
-    // Whether all of a rectangle lies in a sector and clear of its boundary.
+    // Whether a rectangle lies in a sector, at least kSectorInset from its boundary. Points on the
+    // rectangle's edges are tested.
     bool IsInside(const Rect& rect, const PieSector& sector) const {
         const auto holds = [&](int x, int y) {
             const double dx = x - m_centre.x;
@@ -89,7 +91,8 @@ private:
         return {left, top, left + width, top + height};
     }
 
-    // Puts both texts of a piece into its sector, or else the percentage alone. The result is what is left.
+    // Places both texts of a piece in its sector if they fit, otherwise the percentage alone if that fits.
+    // The result holds the widths of the texts that are not placed.
     PieText PlaceInside(std::size_t index) {
         const PieSector& sector = m_requests[index].sector;
         const PieText& text = m_requests[index].text;
@@ -161,7 +164,7 @@ std::vector<int> WidestSectors(const std::vector<PieSector>& sectors, int count)
 }
 
 int LabelCapacity(const PieLabelArea& area) {
-    // One label to a line on either side; fewer than that fit inside.
+    // Beside the pie there is room for one label in each line on either side; inside for fewer.
     return 2 * (std::max(area.client.Height(), 0) / std::max(area.lineHeight, 1));
 }
 

@@ -1,21 +1,20 @@
+// Where the texts of a pie stand: each inside its sector or beside the pie. No texts overlap.
 #pragma once
 
 #include <vector>
 
 #include "piechart/core/PieGeometry.h"
 
-/// Where the texts of a pie stand: each inside its sector or beside the pie, inside the client area, none on
-/// another.
 namespace kavlix {
 
-constexpr int kPieTextPadding = 2; ///< of a box, pixels left and right of its texts
+constexpr int kPieTextPadding = 2; ///< pixels to the left and right of the texts in a box
 
-/// Widths of a piece's texts in pixels, 0 for none.
+/// Widths of a piece's texts in pixels; 0 for a text that is not shown.
 struct PieText {
     int label = 0;
-    int broken = 0; ///< of the label broken into two lines; 0 when it cannot be
+    int broken = 0; ///< of the label broken into two lines; 0 when the label cannot be broken
     int percent = 0;
-    int narrowest = 0; ///< an abbreviation of the label narrower than that says nothing
+    int narrowest = 0; ///< least width of an abbreviation of the label
 };
 
 /// A piece whose texts are to be placed.
@@ -24,10 +23,10 @@ struct PieLabelRequest {
     PieText text;
 };
 
-/// Where a piece's texts stand; all empty when there is no room. A rectangle narrower than its text holds an
-/// abbreviation of it.
+/// Where a piece's texts stand. All rectangles are empty when there is no room. A `label` narrower than the
+/// label's text means that the text has to be abbreviated.
 struct PieLabel {
-    Rect box;                  ///< the label with all that stands with it and some padding
+    Rect box;                  ///< the label, a percentage that stands with it, and kPieTextPadding
     Rect label;                ///< one line, or two when it is broken
     Rect percent;              ///< one line, in the box or alone inside the sector
     bool broken = false;       ///< the label takes two lines
@@ -35,21 +34,22 @@ struct PieLabel {
     std::vector<Point> leader; ///< from the rim to a box beside the pie
 };
 
+/// What the places of the texts depend on besides the pieces.
 struct PieLabelArea {
     Rect client;
-    Rect pie;
-    double startAngle = 0;
-    int lineHeight = 1; ///< pixels
+    Rect pie;              ///< the pie's square
+    double startAngle = 0; ///< angle of the first piece's beginning, degrees
+    int lineHeight = 1;    ///< pixels
 };
 
-/// The sectors that have a place, at most `count` of them: the widest, the first of equally wide ones; in
-/// list order.
+/// Indices of the `count` widest sectors that have a place, in list order. Of equally wide sectors the
+/// first ones are taken.
 std::vector<int> WidestSectors(const std::vector<PieSector>& sectors, int count);
 
-/// How many pieces could have a label in an area at all.
+/// The most pieces that can have a label in `area`.
 int LabelCapacity(const PieLabelArea& area);
 
-/// Places the texts of `requests`, which are in list order. The result has one entry for each.
+/// Places the texts of `requests`, which must be in list order. Entry i of the result belongs to request i.
 std::vector<PieLabel> PlaceLabels(const PieLabelArea& area, const std::vector<PieLabelRequest>& requests);
 
 } // namespace kavlix

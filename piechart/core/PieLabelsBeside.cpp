@@ -1,43 +1,33 @@
-// Labels beside the pie: their places, and the leaders to their sectors.
+// Text blocks beside the pie: where each stands, and its leader line to the sector.
 #include "piechart/core/PieLabelsBeside.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
+#include "piechart/core/LeaderGeometry.h"
+#include "piechart/core/PieTextArrangement.h"
 #include "plot/Numeric.h"
 
 namespace kavlix {
 namespace {
 
-// Pixels.
-constexpr int kRowGap = 2;         // between boxes one above the other
-constexpr int kWordGap = 5;        // between label and percentage in one line
-constexpr int kWindowMargin = 1;   // between boxes and the window's edge
-constexpr int kPieGap = 6;         // between the pie and a box beside it
-constexpr int kLeaderStart = 4;    // leaders leave the rim that far outwards
-constexpr int kLaneWidth = 3;      // between leaders that run round the pie one outside the other
-constexpr double kBendEvery = 6.0; // degrees along the rim, where a straight leader would cross the pie
+// Lengths are pixels.
+constexpr int kRowGap = 2;       // between blocks one above the other
+constexpr int kWindowMargin = 1; // between blocks and the window's edge
+constexpr int kPieGap = 6;       // between the pie and a block
+constexpr int kLeaderStart = 4;  // length of a leader's first stroke, which leaves the rim at a right angle
+constexpr int kMostLines = 3;    // of a block
 
-constexpr int kMostLines = 3; // of a box
-constexpr int kMostLanes = 6; // side by side, beside the one next to the pie
-constexpr int kLanesAStep = 2;
-constexpr int kMostBends = 6; // a longer way round the pie is hard to follow
-// Leaders of tiny sectors begin side by side: up to 10 pixels of two leaders may lie closer than kTogether.
-constexpr int kMostTogether = 10;
-constexpr double kTogether = 2.0;
+// A leader that cannot run straight to its block follows the rim in a lane: a circle round the pie. Every
+// lane is kLaneWidth farther out than the lane before it. Lane 0 is the closest to the pie.
+constexpr int kLaneWidth = 3;
+constexpr int kMostLanes = 6;                // outside lane 0
+constexpr int kLanesAStep = 2;               // lanes that PlaceBeside adds at once
+constexpr double kDegreesBetweenBends = 6.0; // of a leader in its lane
+constexpr int kMostBends = 6;                // longer leaders are hard to follow
 
-/// How the texts of a block are arranged; no lines when it has no room.
-struct Arrangement {
-    int lines = 0;
-    int width = 0;
-    int labelWidth = 0;
-    bool broken = false;
-    bool percent = false;
-    bool sameLine = false;
-};
-
-/// The blocks of one side.
+/// The text blocks on one side of the pie, from top to bottom.
 class Column {
 public:
     Column(const PieLabelArea& area, std::vector<PieBlock> blocks, bool right, int lanes)
@@ -45,7 +35,8 @@ public:
           m_centre(PieCentre(area.pie)), m_radius((static_cast<double>(area.pie.bottom) - area.pie.top) / 2) {
     }
 
-    /// Leaves out the smallest blocks until the others have room, and leaders that can be told apart.
+    /// Removes the blocks of the smallest sectors until all others fit and have distinct leaders. Gives those
+    /// blocks their places and leaders.
     void Place() {
         const int top = m_area.client.top + kWindowMargin;
         const int bottom = m_area.client.bottom - kWindowMargin;
@@ -61,8 +52,9 @@ public:
         }
         while (!m_blocks.empty() && TotalHeight() > bottom - top)
             m_blocks.erase(std::min_element(m_blocks.rbegin(), m_blocks.rend(), IsSmaller).base() - 1);
-        std::stable_sort(m_blocks.begin(), m_blocks.end(),
-                         [&](const PieBlock& a, const PieBlock& b) { return Down(a) < Down(b); });
+        std::stable_sort(m_blocks.begin(), m_blocks.end(), [&](const PieBlock& a, const PieBlock& b) {
+            return DegreesFromTop(a) < DegreesFromTop(b);
+        });
         for (;;) {
             do
                 Spread(top, bottom);
@@ -70,15 +62,16 @@ public:
             const auto crowded = Connect();
             if (crowded == m_blocks.end())
                 return;
-            RemoveNear(crowded);
+            RemoveSmallestNear(crowded);
         }
     }
 
     std::size_t Count() const { return m_blocks.size(); }
 
-    void Put(std::vector<PieLabel>& labels) const {
+    /// Writes the result to the entries of `labels` that the blocks belong to.
+    void Store(std::vector<PieLabel>& labels) const {
         for (const PieBlock& block : m_blocks)
-            Put(block, labels[block.index]);
+            Store(block, labels[block.index]);
     }
 
 private:
@@ -86,79 +79,39 @@ private:
 
     static bool IsSmaller(const PieBlock& a, const PieBlock& b) { return a.span < b.span; }
 
-    // How far down a sector lies, degrees: 0 to 180 from top to bottom on either side.
-    double Down(const PieBlock& block) const { return m_right ? block.angle : kFullCircle - block.angle; }
+    // How far below the top a sector lies on its side of the pie: 0 to 180 degrees.
+    double DegreesFromTop(const PieBlock& block) const {
+        return m_right ? block.angle : kFullCircle - block.angle;
+    }
 
     int Height(const PieBlock& block) const { return block.lines * m_area.lineHeight; }
 
-    // The radius that boxes keep clear of: leaders run between the pie and the boxes.
-    double Clear() const { return m_radius + kLeaderStart + m_lanes * kLaneWidth + 1; }
+    // The radius of the circle that blocks must not enter, because leaders run in its lanes.
+    double ClearRadius() const { return m_radius + kLeaderStart + m_lanes * kLaneWidth + 1; }
 
-    // The place between the pie and the window's edge for a box in the rows [top, bottom).
-    Rect Beside(int top, int bottom) const {
+    // The free rectangle between the pie and the window's edge in the rows from `top` to before `bottom`.
+    Rect FreeRoom(int top, int bottom) const {
         const int away = top > m_centre.y ? top - m_centre.y : bottom < m_centre.y ? m_centre.y - bottom : 0;
-        const double half = away < Clear() ? std::sqrt(Clear() * Clear() - double{1} * away * away) : 0;
+        const double half =
+            away < ClearRadius() ? std::sqrt(ClearRadius() * ClearRadius() - double{1} * away * away) : 0;
         const int reach = TruncateToInt(std::ceil(half)) + kPieGap - kLeaderStart - 1;
         return m_right ? Rect{m_centre.x + reach, top, m_area.client.right - kWindowMargin, bottom}
                        : Rect{m_area.client.left + kWindowMargin, top, m_centre.x - reach, bottom};
     }
 
-    Rect Room(const PieBlock& block) const { return Beside(block.top, block.top + Height(block)); }
+    Rect Room(const PieBlock& block) const { return FreeRoom(block.top, block.top + Height(block)); }
 
-    // The most that fits into a width and a number of lines.
-    Arrangement Arrange(const PieText& text, int room, int maxLines) const {
-        const int width = room - 2 * kPieTextPadding;
-        Arrangement result;
-        result.percent = text.percent > 0 && text.percent <= width;
-        result.labelWidth = text.label;
-        result.width = std::max(text.label, result.percent ? text.percent : 0);
-        const int both = text.label + kWordGap + text.percent;
-        if (text.label == 0) {
-            result.lines = result.percent;
-        } else if (result.percent && both <= width) {
-            result.sameLine = true;
-            result.width = both;
-            result.lines = 1;
-        } else if (text.label <= width && (!result.percent || maxLines >= 2)) {
-            result.lines = 1 + result.percent;
-        } else if (text.broken > 0 && text.broken <= width && maxLines >= 2 + result.percent) {
-            result.broken = true;
-            result.labelWidth = text.broken;
-            result.width = std::max(text.broken, result.percent ? text.percent : 0);
-            result.lines = 2 + result.percent;
-        } else if (width >= text.narrowest) {
-            // An abbreviated label goes with the percentage as far as both say something.
-            const int beside = width - kWordGap - text.percent;
-            result.labelWidth = std::min(text.label, width);
-            result.width = result.labelWidth;
-            result.lines = 1;
-            if (result.percent && maxLines >= 2) {
-                result.lines = 2;
-                result.width = std::max(result.width, text.percent);
-            } else if (result.percent && beside >= text.narrowest) {
-                result.sameLine = true;
-                result.labelWidth = beside;
-                result.width = width;
-            } else {
-                result.percent = false;
-            }
-        } else if (result.percent) {
-            result.labelWidth = 0;
-            result.width = text.percent;
-            result.lines = 1;
-        }
-        return result;
-    }
-
-    // As many lines as the texts take beside their sector, at most `maxLines`.
+    // Chooses the number of lines for a block that stands beside its sector, at most `maxLines`. More lines
+    // change the block's place and so its width, so the number grows until the texts fit.
     void Measure(PieBlock& block, int maxLines) const {
         const Point sector = PointAround(m_area.pie, block.angle, m_radius + kPieGap);
         for (block.lines = 1;; ++block.lines) {
-            // Over and under the pie a box stands clear of it, at the sides beside its sector.
+            // The block ends at the sector's height above the pie, is centred beside the pie, and begins at
+            // the sector's height below the pie. The cosine blends these cases.
             const double half = Height(block) / 2.0;
             block.wanted = sector.y - ToCoordinate(half + half * std::cos(PieRadians(block.angle)));
-            const Rect room = Beside(block.wanted, block.wanted + Height(block));
-            const int lines = Arrange(block.text, room.Width(), maxLines).lines;
+            const Rect room = FreeRoom(block.wanted, block.wanted + Height(block));
+            const int lines = ArrangeTexts(block.text, room.Width(), maxLines).lines;
             if (lines == 0)
                 block.lines = 0;
             if (lines <= block.lines)
@@ -173,12 +126,13 @@ private:
         return height;
     }
 
-    // Moves blocks that stand on one another apart, each as little as can be, and all into the window. The
-    // blocks are sorted and fit.
+    // Chooses the tops so that no blocks overlap and all lie between `top` and `bottom`, with the least sum
+    // of squared distances from the wanted tops. Blocks that would overlap form a cluster, which stands at
+    // the mean of what its blocks want. The blocks must be sorted and fit.
     void Spread(int top, int bottom) {
         struct Cluster {
-            double sum = 0; ///< of the tops wanted, each less what stands above it
-            int count = 0;
+            double sum = 0; // of the wanted tops, each minus the height of all blocks above it
+            int count = 0;  // of blocks
             double Mean() const { return sum / count; }
         };
         std::vector<Cluster> clusters;
@@ -204,13 +158,13 @@ private:
         }
     }
 
-    // Gives blocks that found less room than beside their sector further lines, as far as the window's height
-    // goes. False when none has changed.
+    // Gives more lines to blocks that Spread() has moved to a narrower place, if the window is high enough.
+    // False when no block has changed.
     bool Grow(int height, int maxLines) {
         bool grown = false;
         for (PieBlock& block : m_blocks) {
             const Rect room = Room(block);
-            const int more = Arrange(block.text, room.Width(), maxLines).lines - block.lines;
+            const int more = ArrangeTexts(block.text, room.Width(), maxLines).lines - block.lines;
             if (more <= 0 || TotalHeight() + more * m_area.lineHeight > height)
                 continue;
             block.lines += more;
@@ -220,13 +174,13 @@ private:
         return grown;
     }
 
-    // Gives every block its leader, each in the nearest lane in which it can be told from its neighbours'.
-    // The result is a block whose leader finds no way, or the end.
+    // Gives every block a leader that differs clearly from those of its neighbours. The result is the first
+    // block for which no lane allows that, or the end.
     Iterator Connect() {
         for (PieBlock& block : m_blocks)
             block.leader.clear();
-        // Leaders that lead down pass outside those that begin below, so these come first, and the other way
-        // round.
+        // A leader that goes down passes outside the leaders that begin below it, so those need the inner
+        // lanes and choose first. The same holds upwards in the opposite order.
         for (auto block = m_blocks.end(); block != m_blocks.begin();)
             if (LeadsDown(*--block) && !Connect(block))
                 return block;
@@ -236,11 +190,12 @@ private:
         return m_blocks.end();
     }
 
+    // Tries the lanes from the inside out.
     bool Connect(Iterator block) {
         for (int lane = 0; lane <= m_lanes; ++lane) {
             std::vector<Point> leader = Leader(*block, lane);
-            if (leader.empty() || (block != m_blocks.begin() && AreTogether(leader, (block - 1)->leader)) ||
-                (block + 1 != m_blocks.end() && AreTogether(leader, (block + 1)->leader)))
+            if (leader.empty() || (block != m_blocks.begin() && RunTogether(leader, (block - 1)->leader)) ||
+                (block + 1 != m_blocks.end() && RunTogether(leader, (block + 1)->leader)))
                 continue;
             block->leader = std::move(leader);
             return true;
@@ -252,7 +207,7 @@ private:
         return PointAround(m_area.pie, block.angle, m_radius + kLeaderStart + lane * kLaneWidth);
     }
 
-    Rect Box(const PieBlock& block, const Arrangement& shape) const {
+    Rect Box(const PieBlock& block, const PieTextArrangement& shape) const {
         const Rect room = Room(block);
         const int width = shape.width + 2 * kPieTextPadding;
         const int left = m_right ? room.left : room.right - width;
@@ -260,10 +215,10 @@ private:
         return {left, top, left + width, top + shape.lines * m_area.lineHeight};
     }
 
-    // Where a leader ends: at the edge that faces the pie; over or under the pie that may be the lower or
-    // upper one.
+    // The leader's end at the box: on the lower or upper edge if the sector lies closely below or above the
+    // box, otherwise in the middle of the side that faces the pie.
     Point LeaderEnd(const PieBlock& block) const {
-        const Rect box = Box(block, Arrange(block.text, Room(block).Width(), block.lines));
+        const Rect box = Box(block, ArrangeTexts(block.text, Room(block).Width(), block.lines));
         const Point start = LeaderStart(block, 0);
         const int above = start.y >= box.bottom ? start.y - box.bottom : box.top - start.y;
         if (start.x >= box.left && start.x < box.right && above < m_area.lineHeight)
@@ -273,17 +228,19 @@ private:
 
     bool LeadsDown(const PieBlock& block) const {
         const double end = AngleOfPoint(m_area.pie, LeaderEnd(block));
-        return (m_right ? end : kFullCircle - end) > Down(block);
+        return (m_right ? end : kFullCircle - end) > DegreesFromTop(block);
     }
 
-    // From the rim outwards, round the pie in a lane and to the box; empty when the way round is too long.
+    // The leader from the rim into its lane, along the lane until the rest does not cross the pie, and to the
+    // box. Empty when that takes too many bends.
     std::vector<Point> Leader(const PieBlock& block, int lane) const {
         std::vector<Point> points{PointOnPie(m_area.pie, block.angle, false), LeaderStart(block, lane)};
         const Point to = LeaderEnd(block);
         double angle = block.angle;
-        const double towards = AngleOfPoint(m_area.pie, to) > angle ? kBendEvery : -kBendEvery;
+        const double towards =
+            AngleOfPoint(m_area.pie, to) > angle ? kDegreesBetweenBends : -kDegreesBetweenBends;
         const double away = m_radius + 1 + lane * kLaneWidth;
-        for (int bends = 0; IsCloser(points.back(), to, m_centre.x, m_centre.y, away); ++bends) {
+        for (int bends = 0; IsCloserThan(points.back(), to, m_centre.x, m_centre.y, away); ++bends) {
             if (bends == kMostBends)
                 return {};
             angle += towards;
@@ -293,58 +250,8 @@ private:
         return points;
     }
 
-    // Whether the straight line between two points comes closer to a third than `away`.
-    static bool IsCloser(Point from, Point to, double x, double y, double away) {
-        const double dx = double{1} * to.x - from.x;
-        const double dy = double{1} * to.y - from.y;
-        const double length = dx * dx + dy * dy;
-        const double part =
-            length > 0 ? std::clamp(((x - from.x) * dx + (y - from.y) * dy) / length, 0.0, 1.0) : 0;
-        const double besideX = from.x + part * dx - x;
-        const double besideY = from.y + part * dy - y;
-        return besideX * besideX + besideY * besideY < away * away;
-    }
-
-    // Whether two straight lines cross; touching is none.
-    static bool Cross(Point a, Point b, Point c, Point d) {
-        const auto side = [](Point from, Point to, Point point) {
-            const double turn = (double{1} * to.x - from.x) * (double{1} * point.y - from.y) -
-                                (double{1} * to.y - from.y) * (double{1} * point.x - from.x);
-            return turn > 0 ? 1 : turn < 0 ? -1 : 0;
-        };
-        return side(a, b, c) * side(a, b, d) < 0 && side(c, d, a) * side(c, d, b) < 0;
-    }
-
-    // Whether an eye cannot follow one line apart from another.
-    static bool AreTogether(const std::vector<Point>& line, const std::vector<Point>& other) {
-        constexpr int kStep = 2;
-        int together = 0;
-        for (std::size_t i = 1; i < line.size(); ++i) {
-            const int dx = line[i].x - line[i - 1].x;
-            const int dy = line[i].y - line[i - 1].y;
-            const int steps = std::max(std::abs(dx), std::abs(dy)) / kStep;
-            for (std::size_t k = 1; k < other.size(); ++k)
-                if (Cross(line[i - 1], line[i], other[k - 1], other[k]))
-                    return true;
-            for (int step = 0; step <= steps; ++step) {
-                const double part = static_cast<double>(step) / std::max(steps, 1);
-                const double x = line[i - 1].x + dx * part;
-                const double y = line[i - 1].y + dy * part;
-                for (std::size_t k = 1; k < other.size(); ++k) {
-                    if (!IsCloser(other[k - 1], other[k], x, y, kTogether))
-                        continue;
-                    together += kStep;
-                    break;
-                }
-                if (together > kMostTogether)
-                    return true;
-            }
-        }
-        return false;
-    }
-
-    // Takes out the smallest of the blocks that stand close together round `crowded`.
-    void RemoveNear(Iterator crowded) {
+    // Removes the block with the smallest sector from the run of touching blocks that contains `crowded`.
+    void RemoveSmallestNear(Iterator crowded) {
         const auto touch = [&](const PieBlock& upper, const PieBlock& lower) {
             return upper.top + Height(upper) + kRowGap == lower.top;
         };
@@ -357,8 +264,8 @@ private:
         m_blocks.erase(std::min_element(first, end, IsSmaller));
     }
 
-    void Put(const PieBlock& block, PieLabel& label) const {
-        const Arrangement shape = Arrange(block.text, Room(block).Width(), block.lines);
+    void Store(const PieBlock& block, PieLabel& label) const {
+        const PieTextArrangement shape = ArrangeTexts(block.text, Room(block).Width(), block.lines);
         if (shape.lines == 0)
             return;
         label.outside = true;
@@ -366,7 +273,7 @@ private:
         label.box = Box(block, shape);
         label.leader = block.leader;
 
-        // Texts stand at the side of the box that faces the pie.
+        // Each text is aligned to the side of the box that faces the pie.
         const int line = m_area.lineHeight;
         const int left = label.box.left + kPieTextPadding;
         const int right = label.box.right - kPieTextPadding;
@@ -389,9 +296,9 @@ private:
     }
 
     const PieLabelArea& m_area;
-    std::vector<PieBlock> m_blocks; ///< from top to bottom
-    bool m_right;
-    int m_lanes; ///< beside the nearest one
+    std::vector<PieBlock> m_blocks;
+    bool m_right; ///< the column stands to the right of the pie
+    int m_lanes;  ///< outside lane 0
     Point m_centre;
     double m_radius;
 };
@@ -400,7 +307,7 @@ private:
 
 void PlaceBeside(const PieLabelArea& area, const std::vector<PieBlock>& blocks, bool right,
                  std::vector<PieLabel>& labels) {
-    // Lanes take room from the texts: more of them only where more labels find a place then.
+    // Lanes take width from the texts, so a wider set of lanes must place more labels to be chosen.
     std::optional<Column> best;
     for (int lanes = 0; lanes <= kMostLanes; lanes += kLanesAStep) {
         Column column(area, blocks, right, lanes);
@@ -410,7 +317,7 @@ void PlaceBeside(const PieLabelArea& area, const std::vector<PieBlock>& blocks, 
         if (best->Count() == blocks.size())
             break;
     }
-    best->Put(labels);
+    best->Store(labels);
 }
 
 } // namespace kavlix

@@ -1,23 +1,26 @@
-// Where texts stand beside a pie: in a column on either side, each with a leader to its sector.
+// Placement of the texts that do not fit into their sectors: two columns beside the pie, with leader lines.
 #pragma once
 
 #include "piechart/core/PieLabels.h"
 
 namespace kavlix {
 
-/// A block of texts beside the pie.
+/// The texts of one piece that stand beside the pie.
 struct PieBlock {
-    std::size_t index = 0; ///< of the request
-    double angle = 0;      ///< of the sector's middle, 0 to 360
-    double span = 0;       ///< of the sector; the smallest are left out first
-    PieText text;          ///< what of the texts is to stand here
+    // Input.
+    std::size_t index = 0; ///< of the piece's entry in the labels
+    double angle = 0;      ///< of the sector's middle, 0 to 360 degrees from twelve o'clock
+    double span = 0;       ///< of the sector in degrees; blocks of the smallest spans are left out first
+    PieText text;          ///< widths of the texts, 0 for a text that already stands inside the sector
+    // Found by PlaceBeside.
     int lines = 0;
-    int wanted = 0; ///< top where it stands beside its sector
-    int top = 0;
+    int wanted = 0; ///< top edge that puts the block beside its sector
+    int top = 0;    ///< top edge
     std::vector<Point> leader;
 };
 
-/// Places `blocks` on one side and enters in `labels` those for which there is room.
+/// Places `blocks` on the right or left side of the pie. Writes the places to the entries of `labels`; the
+/// entry of a block without room stays unchanged.
 void PlaceBeside(const PieLabelArea& area, const std::vector<PieBlock>& blocks, bool right,
                  std::vector<PieLabel>& labels);
 

@@ -15,7 +15,7 @@ struct Share {
 };
 
 std::vector<PieSector> Walk(const std::vector<Share>& shares) {
-    PieWalk walk;
+    PieRunningSum walk;
     std::vector<PieSector> sectors;
     for (const Share& share : shares)
         sectors.push_back(walk.Add(share.value, share.total));

@@ -27,7 +27,7 @@ PieLabelArea Area(int width, int height, double startAngle = 0) {
 std::vector<PieLabelRequest> Pieces(const std::vector<double>& parts, PieText text) {
     text.narrowest = kNarrowest;
     std::vector<PieLabelRequest> requests;
-    PieWalk walk;
+    PieRunningSum walk;
     for (const double part : parts)
         requests.push_back({walk.Add(part, 1), text});
     return requests;
@@ -182,7 +182,7 @@ TEST(PieLabelsTest, RandomPiesKeepTextsApart) {
             Area(static_cast<int>(30 + random() % 500), static_cast<int>(30 + random() % 400),
                  run % 3 == 0 ? static_cast<int>(random() % 720) - 360 : 0);
         std::vector<PieLabelRequest> requests;
-        PieWalk walk;
+        PieRunningSum walk;
         for (unsigned n = 1 + random() % 25; n > 0; --n) {
             PieText text;
             text.label = static_cast<int>(random() % 4 == 0 ? random() % 300 : 20 + random() % 60);
@@ -209,7 +209,7 @@ TEST(PieLabelsTest, RandomPiesKeepTextsApart) {
 
 TEST(PieLabelsTest, WidestSectorsInListOrder) {
     std::vector<PieSector> some;
-    PieWalk walk;
+    PieRunningSum walk;
     for (const double span : {10, 30, -5, 35, 40, 10})
         some.push_back(walk.Add(span, 360));
     EXPECT_EQ(WidestSectors(some, 10), (std::vector<int>{0, 1, 3, 4, 5}));

@@ -1,0 +1,27 @@
+// Abbreviates the labels of a pie so that labels with equal beginnings stay different.
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+namespace kavlix {
+
+/// The beginning that a label shares with another label, in bytes.
+struct SharedBeginning {
+    int length = 0; ///< the longest common beginning with any other label
+    int lastWord =
+        0; ///< where the word begins in which the difference lies; an abbreviation keeps all from there
+};
+
+/// For each label, the beginning that it shares with those of `labels` that differ from it.
+std::vector<SharedBeginning> FindSharedBeginnings(const std::vector<CString>& labels);
+
+/// The label shortened to `width` logical units in the font of `dc`: whole if it fits, "Depart..." if that
+/// differs from all other labels, otherwise "Depar...17". Empty when no such text fits. No character is cut.
+CString AbbreviateLabel(const CDC& dc, const CString& label, const SharedBeginning& shared, int width);
+
+/// The least width, in logical units, at which AbbreviateLabel() gives a text worth reading.
+int NarrowestLabel(const CDC& dc, const CString& label, const SharedBeginning& shared);
+
+} // namespace kavlix

@@ -1,3 +1,4 @@
+// CChartDraw: lifetime, scales and properties.
 #include <kavlix/ChartDraw.h>
 
 #include <algorithm>
@@ -10,27 +11,13 @@
 
 using namespace kavlix;
 
-namespace {
-
-constexpr char kDefaultFontFace[] = "Arial";
-constexpr int kDefaultFontSize = 90; // tenths of a point
-constexpr COLORREF kTextColor = RGB(64, 64, 64);
-constexpr COLORREF kCaptionColor = RGB(32, 32, 32);
-
-} // namespace
-
 BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
 END_MESSAGE_MAP()
 
 CChartDraw::CChartDraw()
-    : m_rectChart(0, 0, 0, 0), m_rectPlot(0, 0, 0, 0), m_XScale(std::make_unique<RoundScale>()),
-      m_YScale(std::make_unique<RoundScale>()), m_FontSize(kDefaultFontSize), m_FontFace(kDefaultFontFace),
-      m_BkColor(RGB(255, 255, 255)), m_TitleColor(kCaptionColor), m_XLabelColor(kCaptionColor),
-      m_YLabelColor(kCaptionColor), m_XTickLabelColor(kTextColor), m_YTickLabelColor(kTextColor),
-      m_AxisColor(RGB(96, 96, 96)), m_GridColor(RGB(228, 228, 228)), m_ZeroLineColor(RGB(176, 176, 176)),
-      m_CalcSize(0, 0) {
+    : m_XScale(std::make_unique<RoundScale>()), m_YScale(std::make_unique<RoundScale>()) {
 }
 
 CChartDraw::~CChartDraw() = default;
@@ -107,7 +94,7 @@ void CChartDraw::SetGrid(BOOL bGridX, BOOL bGridY) {
 void CChartDraw::SetTextFont(int nSize, const char* pszFace) {
     constexpr int kSmallestSize = 10;
     constexpr int kLargestSize = 720;
-    m_FontFace = pszFace; // the one step that can fail
+    m_FontFace = pszFace; // first, because only this step can throw
     m_FontSize = std::clamp(nSize, kSmallestSize, kLargestSize);
     m_Changed = true;
 }

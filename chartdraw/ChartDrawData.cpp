@@ -1,3 +1,4 @@
+// CChartDraw: datasets, their points and attributes.
 #include <kavlix/ChartDraw.h>
 
 #include <algorithm>
@@ -18,12 +19,12 @@ constexpr COLORREF kDatasetColors[] = {
 int CChartDraw::AddDataset() {
     const BOOL added = ReportingExhaustion([this] {
         auto dataset = std::make_unique<Dataset>();
-        dataset->color = kDatasetColors[m_DatasetsMade % static_cast<int>(std::size(kDatasetColors))];
+        dataset->color = kDatasetColors[m_NextColor];
         m_Datasets.push_back(std::move(dataset));
     });
     if (!added)
         return -1;
-    m_DatasetsMade = (m_DatasetsMade + 1) % static_cast<int>(std::size(kDatasetColors));
+    m_NextColor = (m_NextColor + 1) % std::size(kDatasetColors);
     m_Changed = true;
     return GetDatasetCount() - 1;
 }
@@ -42,7 +43,7 @@ BOOL CChartDraw::RemoveDataset(int nDataset) {
 
 void CChartDraw::RemoveAllDatasets() {
     m_Datasets.clear();
-    m_DatasetsMade = 0;
+    m_NextColor = 0;
     m_Changed = true;
 }
 

@@ -1,10 +1,11 @@
+// CChartDraw::Dataset, which the sources of CChartDraw share.
 #pragma once
 
 #include <kavlix/ChartDraw.h>
 
 #include "chartdraw/core/ChartSeries.h"
 
-/// One dataset of a chart: its points and how they are drawn.
+/// One dataset of a chart: its points, and the attributes that decide how they are drawn.
 struct CChartDraw::Dataset {
     kavlix::ChartSeries points;
     COLORREF color = RGB(0, 0, 0);

@@ -1,3 +1,4 @@
+// CChartDraw: packed DIB blocks, made from bitmaps and written to files.
 #include <kavlix/ChartDraw.h>
 
 #include <cstring>
@@ -16,7 +17,7 @@ static_assert(sizeof(BITMAPCOREHEADER) == kCoreHeaderBytes);
 static_assert(sizeof(RGBQUAD) == kColorBytes && sizeof(RGBTRIPLE) == kCoreColorBytes);
 static_assert(sizeof(BITMAPFILEHEADER) == kFileHeaderBytes);
 
-/// The screen's DC with a palette selected and realized.
+/// The screen's DC with a palette that is selected and realized. The destructor selects the previous palette.
 class PaletteDc {
 public:
     explicit PaletteDc(HPALETTE palette) : m_dc(::GetDC(nullptr)) {
@@ -127,7 +128,7 @@ BOOL WINAPI CChartDraw::SaveDIB(HDIB hDib, CFile& file) {
     const std::uint64_t imageBytes =
         runLengths ? header.biSizeImage : ImageBytes(header.biWidth, header.biHeight, header.biBitCount);
     const std::uint64_t dibBytes = bitsAt + imageBytes;
-    // What stands behind the block is nobody's to write.
+    // A header that claims more than the block holds must not make the file contain foreign memory.
     if (dibBytes > blockBytes || dibBytes > MAXDWORD - kFileHeaderBytes)
         return FALSE;
     header.biSizeImage = static_cast<DWORD>(imageBytes);

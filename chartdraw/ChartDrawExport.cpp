@@ -1,3 +1,4 @@
+// CChartDraw: copies the picture to the clipboard and saves it to files.
 #include <kavlix/ChartDraw.h>
 
 #include <afxdlgs.h>
@@ -17,11 +18,12 @@ using namespace kavlix;
 
 namespace {
 
-/// The colours that the system shows now. 255 are asked for, not 256: hosts rely on it.
+/// Makes a palette of the colours that the system shows now. The palette holds 255 colours instead of 256,
+/// which hosts rely on.
 void MakeSystemPalette(CDC& dc, CPalette& palette) {
     constexpr WORD kVersion = 0x300;
     constexpr UINT kEntriesAskedFor = 255;
-    constexpr std::size_t kBlockBytes = 1032; // header and 256 entries
+    constexpr std::size_t kBlockBytes = 1032; // LOGPALETTE with 256 entries, and 4 bytes to spare
     std::vector<BYTE> block(kBlockBytes);
     auto& record = *reinterpret_cast<LOGPALETTE*>(block.data());
     const UINT count = ::GetSystemPaletteEntries(dc.GetSafeHdc(), 0, kEntriesAskedFor, record.palPalEntry);

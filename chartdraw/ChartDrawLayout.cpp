@@ -1,10 +1,11 @@
+// CChartDraw: places of title, captions, scales and plot, the scales themselves, and fonts.
 #include <kavlix/ChartDraw.h>
 
 #include <algorithm>
 #include <cmath>
 
 #include "chartdraw/ChartDrawDataset.h"
-#include "chartdraw/ChartDrawText.h"
+#include "chartdraw/ChartText.h"
 #include "chartdraw/core/RoundScale.h"
 #include "gdi/Guards.h"
 
@@ -12,12 +13,11 @@ using namespace kavlix;
 
 namespace {
 
-// Distances in heights of the text.
-constexpr double kMargin = 0.6;     // round the whole
-constexpr double kCaptionGap = 0.3; // between a caption and what it names
-constexpr double kYLabelRoom = 2.5; // from one Y label to the next
-constexpr double kXLabelGap = 1.2;  // between two X labels at least
-constexpr double kSmallestPlot = 4; // for which titles and scales still get their room
+// Distances in text heights.
+constexpr double kCaptionGap = 0.3; // between a caption and the scale beside it
+constexpr double kYLabelRoom = 2.5; // from the top of a Y label to the top of the next
+constexpr double kXLabelGap = 1.2;  // least distance between two X labels
+constexpr double kSmallestPlot = 4; // a lower or narrower plot takes the room of captions, title and scales
 
 constexpr int kTenthsOfPointPerInch = 720;
 constexpr int kMostTicks = 100;
@@ -29,6 +29,7 @@ int WidestLabel(CDC& dc, const RoundScale& scale) {
     return widest;
 }
 
+// How many steps of `room` pixels fit into `length`, within the limits of a scale.
 int StepsIn(int length, double room) {
     return std::clamp(static_cast<int>(length / std::max(room, 1.0)), 2, kMostTicks);
 }
@@ -61,7 +62,7 @@ void CChartDraw::Calculate() {
     CClientDC dc(this);
     const auto makeFont = [this](CFont& font, bool title) {
         if (!MakeTextFont(font, 0, title))
-            AfxThrowResourceException(); // heights of another font would be kept
+            AfxThrowResourceException(); // otherwise the heights of the default font would be measured
     };
     m_FontPixels = std::max(1, ::MulDiv(m_FontSize, dc.GetDeviceCaps(LOGPIXELSY), kTenthsOfPointPerInch));
     {
@@ -75,7 +76,8 @@ void CChartDraw::Calculate() {
     SelectGuard selected(dc, font);
     m_TextHeight = TextHeight(dc);
 
-    // In a small window the data come first: what has no room is left out.
+    // In a small window the plot goes first: leave out one part after the other until the
+    // plot is large enough.
     const int smallest = static_cast<int>(kSmallestPlot * m_TextHeight);
     m_ShowCaptions = m_ShowTitle = m_ShowScales = true;
     LayOut(dc);
@@ -89,7 +91,7 @@ void CChartDraw::Calculate() {
 
 void CChartDraw::LayOut(CDC& dc) {
     const auto heights = [&](double count) { return static_cast<int>(count * m_TextHeight); };
-    const int margin = heights(kMargin);
+    const int margin = heights(kChartMargin);
     CRect plot = m_rectChart;
     plot.DeflateRect(margin, margin);
     if (m_ShowTitle && !m_Title.IsEmpty())
@@ -105,7 +107,7 @@ void CChartDraw::LayOut(CDC& dc) {
     if (m_ShowScales)
         plot.left += WidestLabel(dc, *m_YScale) + kTickLabelGap + kTickLength;
     FitXScale(dc, plot.Width());
-    // The last X label stands around its tick, with half a margin behind it.
+    // The last X label is centred on the plot's right edge. Half a margin stays free to the right of it.
     if (m_ShowScales && m_XScale->TickCount() > 0) {
         const int half = TextWidth(dc, m_XScale->Label(m_XScale->TickCount() - 1)) / 2;
         plot.right -= std::max(0, half - margin / 2);
@@ -116,7 +118,7 @@ void CChartDraw::LayOut(CDC& dc) {
 }
 
 void CChartDraw::FitXScale(CDC& dc, int width) {
-    double refused = 0; // the step whose labels found no room
+    double refused = 0; // the last step whose labels did not fit
     for (int steps = StepsIn(width, 2 * m_TextHeight); steps >= 2; --steps) {
         *m_XScale = FindScale(true, steps);
         if (m_XScale->Step() == refused)
@@ -140,9 +142,9 @@ RoundScale CChartDraw::FindScale(bool x, int mostSteps) const {
 }
 
 BOOL CChartDraw::MakeTextFont(CFont& font, int escapement, bool title) const {
-    constexpr int kTitleParts = 4; // thirds of the other texts' size
+    constexpr int kTitleThirds = 4; // size of the title in thirds of the other texts' size
     LOGFONT record = {};
-    record.lfHeight = -(title ? m_FontPixels * kTitleParts / 3 : m_FontPixels);
+    record.lfHeight = -(title ? m_FontPixels * kTitleThirds / 3 : m_FontPixels);
     record.lfWeight = title ? FW_BOLD : FW_NORMAL;
     record.lfEscapement = record.lfOrientation = escapement;
     record.lfCharSet = DEFAULT_CHARSET;

@@ -1,10 +1,11 @@
+// CChartDraw: paints background, title, grid, axes and scales. ChartDrawPaintData paints the datasets.
 #include <kavlix/ChartDraw.h>
 
 #include <algorithm>
 #include <memory>
 #include <utility>
 
-#include "chartdraw/ChartDrawText.h"
+#include "chartdraw/ChartText.h"
 #include "chartdraw/core/RoundScale.h"
 #include "gdi/Guards.h"
 #include "gdi/Offscreen.h"
@@ -14,15 +15,14 @@ using namespace kavlix;
 
 namespace {
 
-constexpr int kUpwards = 900;   // tenths of a degree
-constexpr double kMargin = 0.6; // of a text's height, between title or caption and the chart's edge
+constexpr int kUpwards = 900; // escapement of the Y caption, tenths of a degree
 
 void DrawStroke(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.MoveTo(x1, y1);
     dc.LineTo(x2, y2);
 }
 
-/// Calls `draw(tick, position)` for every tick of a scale that has a place.
+/// Calls `draw(tick, position)` for every tick of a scale that `map` gives a position.
 template <class Draw> void ForTicks(const RoundScale& scale, const LinearMap& map, Draw draw) {
     for (int i = 0; i < scale.TickCount(); ++i)
         if (const auto position = map.Position(scale.Tick(i)))
@@ -33,9 +33,9 @@ bool GoesThroughZero(const RoundScale& scale, int tick) {
     return scale.Tick(tick) == 0 && scale.Min() < 0 && scale.Max() > 0;
 }
 
-/// Draws a text in the middle of `inner`, in the middle of `outer` where it is too wide for that. One that is
-/// too wide for both is shortened: its beginning can be read. With `isUpwards` widths are heights, and
-/// `edge`, the text's upper edge, lies left of it.
+/// Draws a text centred in `inner`, or in `outer` if `inner` is too narrow. A text that is too wide for both
+/// is shortened. `edge` is the y of the text's upper edge. With `isUpwards` the text runs upwards: its length
+/// is compared with the rectangles' heights, and `edge` is the x of its left side.
 void DrawWithin(CDC& dc, const CRect& inner, const CRect& outer, int edge, const CString& text,
                 bool isUpwards = false) {
     const auto length = [&](const CRect& room) { return isUpwards ? room.Height() : room.Width(); };
@@ -61,7 +61,7 @@ void CChartDraw::OnPaint() {
     }
     const int state = picture->Dc().SaveDC();
     DrawChart(picture->Dc());
-    // A picture whose clip or objects could not be put back would spoil the next paint.
+    // Keep the picture only if its DC's state could be restored: the next paint draws on the same DC.
     const bool isUnchanged = state != 0 && picture->Dc().RestoreDC(state);
     paintDc.BitBlt(0, 0, client.Width(), client.Height(), &picture->Dc(), 0, 0, SRCCOPY);
     if (isUnchanged)
@@ -83,7 +83,7 @@ void CChartDraw::DrawChart(CDC& dc) {
     DrawTitle(dc);
     DrawGrid(dc);
     DrawDatasets(dc);
-    // Over the data, so that axes and numbers are always read.
+    // After the data, so that axes and numbers stay readable.
     DrawAxes(dc);
     DrawYScale(dc);
     DrawXScale(dc);
@@ -112,7 +112,7 @@ void CChartDraw::DrawTitle(CDC& dc) {
     Select(dc, font);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(m_TitleColor);
-    const int margin = static_cast<int>(kMargin * m_TextHeight);
+    const int margin = static_cast<int>(kChartMargin * m_TextHeight);
     CRect room = m_rectChart;
     room.DeflateRect(margin, margin);
     DrawWithin(dc, room, room, room.top, m_Title);
@@ -126,7 +126,7 @@ void CChartDraw::DrawGrid(CDC& dc) {
     CPen zeroPen;
     zeroPen.CreatePen(PS_SOLID, 0, m_ZeroLineColor);
     SavedDcGuard saved(dc);
-    // The lines at 0 come last, on top of the others.
+    // The lines at 0 are drawn last, in front of the others.
     for (const bool zero : {false, true}) {
         Select(dc, zero ? zeroPen : gridPen);
         if (m_GridX)
@@ -158,7 +158,7 @@ void CChartDraw::DrawAxes(CDC& dc) {
     if (!m_ShowCaptions)
         return;
     dc.SetBkMode(TRANSPARENT);
-    const int margin = static_cast<int>(kMargin * m_TextHeight);
+    const int margin = static_cast<int>(kChartMargin * m_TextHeight);
     CRect room = m_rectChart;
     room.DeflateRect(margin, margin);
     if (!m_XLabel.IsEmpty()) {
@@ -195,7 +195,7 @@ void CChartDraw::DrawScale(CDC& dc, COLORREF textColor, UINT align,
 }
 
 void CChartDraw::DrawXScale(CDC& dc) {
-    int free = m_rectChart.left; // where the next label may begin
+    int free = m_rectChart.left; // least x at which the next label may begin
     DrawScale(dc, m_XTickLabelColor, TA_CENTER | TA_TOP, [&] {
         ForTicks(*m_XScale, XMap(), [&](int tick, int x) {
             DrawStroke(dc, x, m_rectPlot.bottom, x, m_rectPlot.bottom + kTickLength);
@@ -212,7 +212,7 @@ void CChartDraw::DrawXScale(CDC& dc) {
 
 void CChartDraw::DrawYScale(CDC& dc) {
     const int right = m_rectPlot.left - kTickLength;
-    int free = m_rectChart.bottom + m_TextHeight; // where the next label may end
+    int free = m_rectChart.bottom + m_TextHeight; // greatest y at which the next label may end
     DrawScale(dc, m_YTickLabelColor, TA_RIGHT | TA_TOP, [&] {
         ForTicks(*m_YScale, YMap(), [&](int tick, int y) {
             DrawStroke(dc, right, y, m_rectPlot.left, y);

@@ -1,3 +1,4 @@
+// CChartDraw: draws the lines and markers of datasets.
 #include <kavlix/ChartDraw.h>
 
 #include <algorithm>
@@ -5,10 +6,10 @@
 #include <vector>
 
 #include "chartdraw/ChartDrawDataset.h"
-#include "chartdraw/ChartDrawStamps.h"
-#include "chartdraw/ChartDrawWideLine.h"
-#include "chartdraw/core/ChartWalk.h"
-#include "chartdraw/core/PaintedPath.h"
+#include "chartdraw/PixelStamps.h"
+#include "chartdraw/WideStrokes.h"
+#include "chartdraw/core/ChartReduction.h"
+#include "chartdraw/core/RasterPath.h"
 #include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
 #include "gdi/Markers.h"
@@ -19,24 +20,25 @@ using namespace kavlix;
 
 namespace {
 
-constexpr int kMarkerHalf = 3;
-constexpr int kPixelSize = 1;
+constexpr int kMarkerHalf = 3; // pixels from a marker's centre to its edge
+constexpr int kPixelSize = 1;  // logical units to a pixel: marker sizes and pens are in pixels
 
-/// Paints a line in logical units that are pixels, the device's `origin` at (0, 0).
-class MovedPath : public PixelPath {
+/// Paints a line whose points are in logical units of one pixel. `origin` is the logical (0,
+/// 0) in device units.
+class OffsetPath : public PixelPath {
 public:
-    MovedPath(const PixelRaster& raster, std::uint32_t colour, const POINT& origin)
+    OffsetPath(const PixelRaster& raster, std::uint32_t colour, const POINT& origin)
         : m_path(raster, colour), m_origin(ToPoint(origin)) {}
 
     void Add(const Point& pixel) override { m_path.Add({pixel.x + m_origin.x, pixel.y + m_origin.y}); }
     void Break() override { m_path.Break(); }
 
 private:
-    PaintedPath m_path;
+    RasterPath m_path;
     Point m_origin;
 };
 
-/// Has GDI draw a thin line with the pen that is selected.
+/// Draws a line with the pen that is selected into `dc`.
 void DrawThin(CDC& dc, const Point* points, int count) {
     std::vector<POINT> stroke;
     stroke.reserve(static_cast<std::size_t>(count));
@@ -45,7 +47,8 @@ void DrawThin(CDC& dc, const Point* points, int count) {
     dc.Polyline(stroke.data(), count);
 }
 
-/// A dot as wide as the line, with corners where a round one would hardly be seen.
+/// The dot that shows a point without neighbours: as wide as the line, and square if a circle would
+/// be too small to see.
 StampShape DotOf(int lineSize) {
     constexpr int kSmallest = 3;
     constexpr int kSmallestRound = 5;
@@ -89,7 +92,7 @@ void CChartDraw::DrawLine(CDC& dc, const Dataset& dataset) const {
     const LinearMap yMap = YMap();
     const auto walk = [&](PixelPath& path) {
         ChartLine line(path, lonePixels);
-        ChartWalk(dataset.points, xMap, yMap, ToRect(view), line).Run();
+        ChartReduction(dataset.points, xMap, yMap, ToRect(view), line).Run();
     };
     const std::optional<std::uint32_t> colour = DirectColour(dataset.color);
     std::optional<PixelRaster> raster;
@@ -102,24 +105,26 @@ void CChartDraw::DrawLine(CDC& dc, const Dataset& dataset) const {
         ReducedPath path(ToRect(view), [&](const Point* points, int count) { strokes.Draw(points, count); });
         walk(path);
     } else if (raster) {
-        MovedPath path(*raster, *colour, origin);
+        OffsetPath path(*raster, *colour, origin);
         walk(path);
     } else {
         ReducedPath path(ToRect(view), [&](const Point* points, int count) { DrawThin(dc, points, count); });
         walk(path);
     }
-    // A point without neighbours has no stroke; a dot shows it.
+    // A point without neighbours has no stroke. If it has no marker either, a dot shows it.
     if (dataset.markerType == CDataset::MarkerNone)
         DrawStamps(dc, lonePixels, dataset.color, DotOf(dataset.lineSize));
 }
 
 void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
-    // A marker on a place that has one changes nothing.
+    // Several markers on the same pixel look like one, so a set of pixels replaces the list of points.
     const Rect plot = ToRect(m_rectPlot);
     PixelSet places(plot);
     const LinearMap xMap = XMap();
     const LinearMap yMap = YMap();
-    const auto isDone = [&](const PointBox& box, int first, int last) {
+    // Whether a block of points cannot add a pixel: it lies outside the plot, or all its
+    // pixels are in the set.
+    const auto addsNothing = [&](const PointBox& box, int first, int last) {
         const auto left = xMap.Position(box.left);
         const auto right = xMap.Position(box.right);
         const auto top = yMap.Position(box.high);
@@ -135,10 +140,10 @@ void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
                 return false;
         return true;
     };
-    dataset.points.Boxes().Visit(0, dataset.points.Size(), isDone, [&](int first, int behind) {
+    dataset.points.Boxes().Visit(0, dataset.points.Size(), addsNothing, [&](int first, int behind) {
         const ChartPoint* points = &dataset.points[first];
         for (int i = 0; i < behind - first; ++i) {
-            // Beyond these the point is outside, or has no place.
+            // These comparisons are false for NaN. Positions truncate toward zero, so -0.5 still counts as 0.
             const double x = xMap.ExactPosition(points[i].x);
             const double y = yMap.ExactPosition(points[i].y);
             if (x > plot.left - 1 && x < plot.right && y > plot.top - 1 && y < plot.bottom)

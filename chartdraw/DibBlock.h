@@ -1,10 +1,11 @@
+// Guards for blocks of global memory that hold packed DIBs.
 #pragma once
 
 #include <windows.h>
 
 namespace kavlix {
 
-/// Owns a block of global memory.
+/// Owns a block of global memory and frees it in the destructor.
 class DibBlock {
 public:
     explicit DibBlock(HGLOBAL block) : m_block(block) {}
@@ -16,13 +17,14 @@ public:
     DibBlock& operator=(const DibBlock&) = delete;
 
     HGLOBAL Get() const { return m_block; }
-    /// Gives the block away.
+    /// Passes the ownership to the caller.
     HGLOBAL Detach() {
         const HGLOBAL block = m_block;
         m_block = nullptr;
         return block;
     }
-    /// Changes the block's size; it may move. False, and the block as before, when memory runs out.
+    /// Changes the block's size, which can change its handle and address. False, with the block unchanged,
+    /// when memory runs out.
     bool Resize(SIZE_T bytes) {
         const HGLOBAL block = ::GlobalReAlloc(m_block, bytes, GMEM_MOVEABLE);
         if (block == nullptr)
@@ -35,7 +37,7 @@ private:
     HGLOBAL m_block;
 };
 
-/// Keeps a block of global memory in place while its bytes are used.
+/// Locks a block of global memory, so that its address stays the same, until the destructor unlocks it.
 class DibLock {
 public:
     explicit DibLock(HGLOBAL block)
@@ -47,7 +49,7 @@ public:
     DibLock(const DibLock&) = delete;
     DibLock& operator=(const DibLock&) = delete;
 
-    /// Null when there is no block or it cannot be locked.
+    /// The block's bytes; null when there is no block or it cannot be locked.
     char* Bytes() const { return m_bytes; }
     BITMAPINFOHEADER& Header() const { return *reinterpret_cast<BITMAPINFOHEADER*>(m_bytes); }
     BITMAPINFO* Info() const { return reinterpret_cast<BITMAPINFO*>(m_bytes); }

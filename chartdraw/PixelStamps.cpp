@@ -1,5 +1,5 @@
-// Shapes on many pixels: learned from GDI once and painted together, or drawn one by one.
-#include "chartdraw/ChartDrawStamps.h"
+// Shapes at many pixels: painted together from a mask, or drawn one by one by GDI.
+#include "chartdraw/PixelStamps.h"
 
 #include <vector>
 
@@ -8,10 +8,9 @@
 #include "gdi/Scratch.h"
 
 namespace kavlix {
-
 namespace {
 
-/// Pen and brush that draw a shape, selected as long as it lives.
+/// Selects the pen and brush that draw a shape; the destructor restores the DC.
 class Ink {
 public:
     Ink(CDC& dc, COLORREF colour, bool isFilled) : m_saved(dc) {
@@ -27,10 +26,10 @@ public:
 private:
     CPen m_pen;
     CBrush m_brush;
-    SavedDcGuard m_saved; // ends before the objects
+    SavedDcGuard m_saved; // last member: it must restore the DC before pen and brush are deleted
 };
 
-/// The pixels of a shape, round its place; none when they cannot be found.
+/// The pixels that GDI paints for a shape, relative to its centre. Empty when no scratch picture can be made.
 std::vector<Point> PixelsOf(const StampShape& shape) {
     std::vector<Point> pixels;
     const int side = 2 * shape.reach + 1;

@@ -1,4 +1,4 @@
-// The same small shape on many pixels of a chart: markers, and the dots of points without neighbours.
+// Drawing the same small shape at many pixels: markers, and the dots of points without neighbours.
 #pragma once
 
 #include <afxwin.h>
@@ -9,16 +9,16 @@
 
 namespace kavlix {
 
-/// A shape of up to `reach` pixels round its place.
+/// A small shape that can be drawn at any pixel.
 struct StampShape {
-    int reach;
-    bool isFilled; ///< with the colour of the pen
-    /// Draws it with the pen and brush that are selected.
+    int reach;     ///< the shape covers at most this many pixels in each direction from its centre
+    bool isFilled; ///< filled with the pen's colour; otherwise only outlined
+    /// Draws the shape centred on (x, y) with the pen and brush that are selected.
     std::function<void(CDC&, int x, int y)> draw;
 };
 
-/// Draws the shape on each of the places. Where pixels lie in memory GDI draws it once, elsewhere, and all
-/// places are painted together with the pixels that it took.
+/// Draws the shape at each of the places. If the pixels of `dc` lie in memory, GDI draws the shape only once,
+/// into a scratch picture; the pixels found there are then painted at all places in one pass.
 void DrawStamps(CDC& dc, const PixelSet& places, COLORREF colour, const StampShape& shape);
 
 } // namespace kavlix

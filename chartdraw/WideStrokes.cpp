@@ -1,5 +1,5 @@
-// The pixels of short wide strokes, as GDI draws them: learned once for each width and direction.
-#include "chartdraw/ChartDrawWideLine.h"
+// The cache of stroke shapes, and strokes of any length by GDI.
+#include "chartdraw/WideStrokes.h"
 
 #include <algorithm>
 #include <array>
@@ -11,11 +11,10 @@
 #include "plot/StrokeCut.h"
 
 namespace kavlix {
-
 namespace {
 
-constexpr int kLongest = 255; // rows; longer strokes are left to GDI
-constexpr int kDirections = 3;
+constexpr int kLongest = 255;  // rows of a cached stroke
+constexpr int kDirections = 3; // to the previous column, the same, and the next one
 constexpr int kLengths = 2 * kLongest + 1;
 
 bool IsFar(const Point& point, const Rect& view) {
@@ -25,6 +24,7 @@ bool IsFar(const Point& point, const Rect& view) {
 
 } // namespace
 
+/// The cached shapes of one pen width, one entry for each direction and length.
 struct WideStrokes::Shapes {
     struct Entry {
         bool isKnown = false;
@@ -42,7 +42,8 @@ WideStrokes::WideStrokes(CDC& dc, int width, const Rect& view, const std::option
 
 WideStrokes::~WideStrokes() = default;
 
-/// Kept for all charts: there are few widths, and a shape takes some hundred bytes.
+// The cache is shared by all charts and never shrinks: there are few widths, and a shape takes
+// some hundred bytes.
 WideStrokes::Shapes& WideStrokes::ShapesOf(int width) {
     static std::map<int, std::unique_ptr<Shapes>> all;
     std::unique_ptr<Shapes>& shapes = all[width];
@@ -67,7 +68,8 @@ void WideStrokes::Draw(const Point* points, int count) {
     }
 }
 
-/// A stroke takes GDI what its length takes, seen or not, so far ends are brought nearer.
+// GDI's time grows with a stroke's length, visible or not. So an end far outside the view is replaced by a
+// nearer point that leaves the visible pixels the same.
 void WideStrokes::DrawByGdi(Point from, Point to) {
     if (!BringFarEndsNearer(from, to, IsFar(from, m_view), IsFar(to, m_view), m_view, m_width))
         return;
@@ -75,7 +77,7 @@ void WideStrokes::DrawByGdi(Point from, Point to) {
     m_dc.LineTo(to.x, to.y);
 }
 
-/// Null where GDI is to draw the stroke.
+// The cached shape of the stroke from (0, 0) to (`dx`, `dy`); null when GDI has to draw the stroke.
 const WideStrokes::Shape* WideStrokes::Find(int dx, int dy) {
     if (std::abs(dx) > 1 || std::abs(dy) > kLongest)
         return nullptr;
@@ -85,6 +87,7 @@ const WideStrokes::Shape* WideStrokes::Find(int dx, int dy) {
     return entry.isKnown ? &entry.shape : nullptr;
 }
 
+// Lets GDI draw a stroke into the scratch picture and reads its pixels back. False when that is impossible.
 bool WideStrokes::Learn(int dx, int dy, Shape& shape) {
     const int margin = m_width + 2;
     if (!m_scratch)

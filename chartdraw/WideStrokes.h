@@ -1,4 +1,4 @@
-// Strokes wider than a pixel, painted straight into pixels where they are short.
+// Strokes wider than a pixel: short ones are painted from cached shapes, the others by GDI.
 #pragma once
 
 #include <afxwin.h>
@@ -15,14 +15,16 @@ namespace kavlix {
 
 class Scratch;
 
-/// Draws strokes with a solid pen wider than a pixel. GDI makes a region of each such stroke, which takes as
-/// long as painting a hundred pixels. In a line with many points nearly all strokes lead to the same or the
-/// next column: where pixels lie in memory, GDI draws each such stroke once, elsewhere, and its pixels are
-/// painted from then on.
+/// Draws strokes with a solid pen wider than a pixel. GDI makes a region of each such stroke, which
+/// takes as long as painting a hundred pixels. In a line with many points nearly all strokes lead to the
+/// same column or the next one. So if the pixels of the DC lie in memory, GDI draws each such stroke
+/// once into a scratch picture; its shape is cached, and later strokes of the same direction and length
+/// are painted from the cache.
 class WideStrokes {
 public:
-    /// `dc` has the pen selected, `width` pixels wide; what the pen paints of strokes that pass by `view` is
-    /// not seen. With a `raster` logical units are pixels, their origin at `origin`.
+    /// A solid pen of `width` pixels and of the colour `colour` must be selected into `dc`. Pixels outside
+    /// `view` are never visible. If the pixels of `dc` lie in memory, `raster` gives access to them; logical
+    /// units are then pixels, and `origin` is the logical (0, 0) in device units.
     WideStrokes(CDC& dc, int width, const Rect& view, const std::optional<PixelRaster>& raster,
                 std::uint32_t colour, const POINT& origin);
     ~WideStrokes();
@@ -33,7 +35,8 @@ public:
     void Draw(const Point* points, int count);
 
 private:
-    using Shape = std::vector<Rect>; ///< pixels that a stroke paints, its first point at (0, 0)
+    /// The pixels that a stroke paints, relative to its first point.
+    using Shape = std::vector<Rect>;
     struct Shapes;
 
     static Shapes& ShapesOf(int width);
@@ -47,8 +50,8 @@ private:
     std::optional<PixelRaster> m_raster;
     std::uint32_t m_colour;
     POINT m_origin;
-    Shapes* m_shapes = nullptr;
-    std::unique_ptr<Scratch> m_scratch; ///< where GDI draws a stroke that is not known yet
+    Shapes* m_shapes = nullptr;         ///< null when GDI draws all strokes
+    std::unique_ptr<Scratch> m_scratch; ///< GDI draws strokes here whose shape is not cached yet
 };
 
 } // namespace kavlix

@@ -1,3 +1,4 @@
+// Cutting strokes at the border of the range that GDI can draw.
 #include "chartdraw/core/ChartLine.h"
 
 #include <algorithm>
@@ -6,10 +7,9 @@
 #include "plot/Numeric.h"
 
 namespace kavlix {
-
 namespace {
 
-/// Sums and products of two such positions stay finite.
+// Pixels. The difference of two such positions is still finite.
 constexpr double kFarthest = 1e300;
 
 Point ToPixel(double x, double y) {
@@ -18,7 +18,8 @@ Point ToPixel(double x, double y) {
 
 } // namespace
 
-/// Narrows the part [from, to] of a stroke to where `start` + part * `step` lies within the near range.
+// Along the stroke one coordinate is start + part * step, with part from 0 to 1. Narrows the range `from` to
+// `to` of the part to where this coordinate is near. `from` > `to` afterwards: the stroke is nowhere near.
 void ChartLine::Narrow(double start, double step, double& from, double& to) {
     if (step == 0) {
         if (std::abs(start) > kNear)
@@ -31,6 +32,7 @@ void ChartLine::Narrow(double start, double step, double& from, double& to) {
     to = std::min(to, std::max(a, b));
 }
 
+// The coordinate at `part` of a stroke, held within the near range against rounding.
 double ChartLine::Along(double start, double step, double part) {
     return std::clamp(start + part * step, -kNear, kNear);
 }
@@ -56,8 +58,8 @@ void ChartLine::Add(double x, double y) {
 }
 
 void ChartLine::AddCut(const Place& to) {
-    // What is near has its own pixel, as in a line that is not cut, and the cut is reckoned from there: the
-    // far end may be so large that the near one is lost in it.
+    // Count the parts from the near end, if there is one: from a very large far end, rounding would lose the
+    // near one. The near end keeps the pixel that it has in a line without cuts.
     const bool backwards = IsNear(to);
     const Place& start = backwards ? to : m_last;
     const Place& other = backwards ? m_last : to;
@@ -78,7 +80,7 @@ void ChartLine::AddCut(const Place& to) {
             m_path.Add(cut);
         }
     }
-    // Out there the stroke ends; the next one begins where it comes back.
+    // The far point itself is not passed on: the line ends at the cut and begins again where it becomes near.
     if (!IsNear(to))
         m_path.Break();
 }

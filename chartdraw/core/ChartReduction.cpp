@@ -1,4 +1,5 @@
-#include "chartdraw/core/ChartWalk.h"
+// Reduction of a series, column by column.
+#include "chartdraw/core/ChartReduction.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,15 +7,13 @@
 #include <limits>
 
 namespace kavlix {
-
 namespace {
 
-/// So few points of a column are handed on as they are.
-constexpr int kFewPoints = 4;
+constexpr int kFewPoints = 4; // in a column; up to this number all points are passed on
 
 } // namespace
 
-void ChartWalk::Run() {
+void ChartReduction::Run() {
     m_series.Boxes().Visit(
         0, m_series.Size(),
         [this](const PointBox& box, int first, int last) { return TakeBox(box, first, last); },
@@ -23,7 +22,8 @@ void ChartWalk::Run() {
     m_line.End();
 }
 
-bool ChartWalk::TakeBox(const PointBox& box, int first, int last) {
+// Whether a block of points is dealt with as a whole. If not, its parts are tried.
+bool ChartReduction::TakeBox(const PointBox& box, int first, int last) {
     if (box.HasGap())
         return false;
     if (m_first <= m_last && IsInColumn(box.left) && IsInColumn(box.right)) {
@@ -47,8 +47,9 @@ bool ChartWalk::TakeBox(const PointBox& box, int first, int last) {
     return true;
 }
 
-/// Positions that are no numbers are beyond nothing.
-bool ChartWalk::IsBeyond(double left, double right, const PointBox& box) const {
+// Whether a block lies completely beyond one edge of the view. A position that is not a
+// number is never beyond.
+bool ChartReduction::IsBeyond(double left, double right, const PointBox& box) const {
     if (std::isnan(left) || std::isnan(right))
         return false;
     if (ToCoordinate(right) < m_view.left || ToCoordinate(left) >= m_view.right)
@@ -59,12 +60,13 @@ bool ChartWalk::IsBeyond(double left, double right, const PointBox& box) const {
            (ToCoordinate(bottom) < m_view.top || ToCoordinate(top) >= m_view.bottom);
 }
 
-void ChartWalk::TakePoints(int first, int behind) {
+void ChartReduction::TakePoints(int first, int behind) {
     const ChartPoint* points = &m_series[first];
     const int count = behind - first;
     for (int i = 0; i < count; ++i) {
         if (m_first <= m_last) {
-            // Copies: the compiler cannot know that the points are not these members.
+            // Local copies: the compiler could not keep the members in registers, as
+            // `points` might alias them.
             const double begin = m_columnBegin;
             const double end = m_columnEnd;
             double low = m_low;
@@ -84,7 +86,7 @@ void ChartWalk::TakePoints(int first, int behind) {
     }
 }
 
-void ChartWalk::TakePoint(int i, const ChartPoint& point) {
+void ChartReduction::TakePoint(int i, const ChartPoint& point) {
     const double x = m_xMap.ExactPosition(point.x);
     if (!std::isnan(point.y) && ChartLine::IsNear(x)) {
         Extend(ToCoordinate(x), i, i, point.y, point.y);
@@ -94,7 +96,9 @@ void ChartWalk::TakePoint(int i, const ChartPoint& point) {
     Add(i);
 }
 
-void ChartWalk::Extend(int column, int first, int last, double low, double high) {
+// Adds the points `first` to `last`, which lie between the values `low` and `high`, to the open column if
+// that is `column`. Otherwise opens `column` with these points.
+void ChartReduction::Extend(int column, int first, int last, double low, double high) {
     if (m_first <= m_last && m_column == column) {
         m_last = last;
         m_low = std::min(m_low, low);
@@ -102,10 +106,10 @@ void ChartWalk::Extend(int column, int first, int last, double low, double high)
         return;
     }
     FlushColumn();
-    // Points that are looked at one by one lie round the border of two columns: those of a later border, as
-    // far away as this column was long, are asked for early.
-    constexpr std::int64_t kAhead = 3;
-    PointBoxes::Prefetch(m_series.Values(), first + kAhead * (std::int64_t{first} - m_first));
+    // Single points are only read near the border between two columns. Assume that the next columns have as
+    // many points as the last one, and prefetch the points near a later border.
+    constexpr std::int64_t kAhead = 3; // columns
+    PointBoxTree::Prefetch(m_series.Values(), first + kAhead * (std::int64_t{first} - m_first));
     m_first = first;
     m_last = last;
     m_low = low;
@@ -113,17 +117,18 @@ void ChartWalk::Extend(int column, int first, int last, double low, double high)
     if (m_column == column)
         return;
     m_column = column;
-    // Away from its edges by more than rounding can move a position.
+    // The certain values keep a distance from the column's edges that is larger than rounding errors.
     constexpr double kNearEdge = 1e-6; // pixels
     constexpr double kRounding = 4 * std::numeric_limits<double>::epsilon();
     const double a = m_xMap.Value(column + kNearEdge);
     const double b = m_xMap.Value(column + 1 - kNearEdge);
     const double rounding = kRounding * std::max(std::abs(a), std::abs(b));
     m_columnBegin = std::min(a, b) + rounding;
-    m_columnEnd = column > 0 ? std::max(a, b) - rounding : m_columnBegin; // at 0 positions truncate upwards
+    m_columnEnd = column > 0 ? std::max(a, b) - rounding : m_columnBegin; // truncation widens column 0
 }
 
-void ChartWalk::FlushColumn() {
+// Passes on the points of the open column and closes it.
+void ChartReduction::FlushColumn() {
     const double low = m_yMap.ExactPosition(m_low);
     const double high = m_yMap.ExactPosition(m_high);
     const bool isFew = m_last - m_first < kFewPoints;
@@ -135,16 +140,18 @@ void ChartWalk::FlushColumn() {
     m_last = m_first - 1;
 }
 
-void ChartWalk::AddColumn(int bottom, int top) {
+// Passes on the first point of the open column, its two extreme pixels, and its last point.
+void ChartReduction::AddColumn(int bottom, int top) {
     const int last = Row(m_series[m_last].y);
     int before = -1;
     Add(m_first);
     if (last == top || last == bottom) {
-        // The line may end here, and its last pixel is not painted: it must be so only if the line has been
-        // there before and gone elsewhere.
+        // The line may end at the column's last point, and the last pixel of a line is not painted. The pixel
+        // is painted nevertheless if the line visits that row earlier and leaves it. So take the extremes
+        // only of the points up to the last one in another row.
         before = LastElsewhere(last);
         if (before < m_first) {
-            Add(m_last); // a wide pen makes a dot of a stroke without length
+            Add(m_last); // a wide pen draws a stroke without length as a dot
             return;
         }
         PointBox box;
@@ -168,15 +175,15 @@ void ChartWalk::AddColumn(int bottom, int top) {
     Add(m_last);
 }
 
-/// The last point of the column on another row than `row`; m_first - 1 when there is none.
-int ChartWalk::LastElsewhere(int row) const {
+// The last point of the open column in a row other than `row`; m_first - 1 when there is none.
+int ChartReduction::LastElsewhere(int row) const {
     return m_series.Boxes().FindLast(
         m_first, m_last + 1,
         [&](const PointBox& box) { return !box.HasGap() && Row(box.low) == row && Row(box.high) == row; },
         [&](int i) { return Row(m_series[i].y) != row; });
 }
 
-void ChartWalk::Add(int i) {
+void ChartReduction::Add(int i) {
     const ChartPoint& point = m_series[i];
     m_line.Add(m_xMap.ExactPosition(point.x), m_yMap.ExactPosition(point.y));
 }

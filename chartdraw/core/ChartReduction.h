@@ -1,3 +1,4 @@
+// Reduction of a series to the points that can change a pixel, by means of bounding boxes.
 #pragma once
 
 #include "chartdraw/core/ChartLine.h"
@@ -6,20 +7,22 @@
 
 namespace kavlix {
 
-/// Hands the points of a series to a ChartLine at the cost of the pixels: of points that follow one another
-/// in a pixel column only those that can change a pixel, of points that follow one another beyond the same
-/// edge of the view the first and the last. The picture is that of all points, pixel for pixel. Only a line
-/// that goes back and forth across the view is walked whole.
-class ChartWalk {
+/// Passes the points of a series to a ChartLine, at a cost that grows with the pixels and not with the
+/// points. Of consecutive points in one pixel column only those that can change a pixel are passed on; of
+/// consecutive points beyond the same edge of the view, only the first and the last. The picture is the
+/// same, pixel for pixel, as that of all points. Lines that go back and forth between columns are passed
+/// on point by point.
+class ChartReduction {
 public:
-    /// `view` as the line's SeriesReduction has it. All references must outlive the walk.
-    ChartWalk(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, const Rect& view,
-              ChartLine& line)
+    /// Everything outside `view` is invisible, also to the line's pen. All references must
+    /// outlive this object.
+    ChartReduction(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, const Rect& view,
+                   ChartLine& line)
         : m_series(series), m_xMap(xMap), m_yMap(yMap), m_view(view), m_line(line) {}
-    ChartWalk(const ChartWalk&) = delete;
-    ChartWalk& operator=(const ChartWalk&) = delete;
+    ChartReduction(const ChartReduction&) = delete;
+    ChartReduction& operator=(const ChartReduction&) = delete;
 
-    /// Hands on the whole series and ends the line.
+    /// Passes on the whole series and ends the line.
     void Run();
 
 private:
@@ -41,13 +44,14 @@ private:
     Rect m_view;
     ChartLine& m_line;
 
-    // Points that follow one another in one column, none when m_last lies below m_first.
+    // The open column: consecutive points in one pixel column that are not passed on yet.
     int m_column = 0;
-    int m_first = 0;
-    int m_last = -1;
+    int m_first = 0; ///< index of the first point
+    int m_last = -1; ///< index of the last point; less than m_first when there is no open column
     double m_low = 0;
     double m_high = 0;
-    // X values between these lie in m_column for certain; none where the one is not below the other.
+    // Values of x between these two certainly lie in m_column. Without such values the begin is
+    // not below the end.
     double m_columnBegin = 0;
     double m_columnEnd = 0;
 };

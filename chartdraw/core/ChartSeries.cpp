@@ -1,3 +1,4 @@
+// Appending to a series, all or nothing.
 #include "chartdraw/core/ChartSeries.h"
 
 #include <cmath>
@@ -16,7 +17,7 @@ void ChartSeries::Append(double x, double y) {
         m_values.RemoveTail(1);
         throw;
     }
-    Count(m_values.Back());
+    AddToBounds(m_values.Back());
 }
 
 void ChartSeries::Assign(const double* pX, const double* pY, int count) {
@@ -30,7 +31,7 @@ void ChartSeries::Clear() {
     *this = ChartSeries();
 }
 
-void ChartSeries::Count(const ChartPoint& value) {
+void ChartSeries::AddToBounds(const ChartPoint& value) {
     if (!std::isfinite(value.x) || !std::isfinite(value.y))
         return;
     m_xBounds.Add(value.x);

@@ -1,3 +1,4 @@
+// Sizes of rows, images and colour tables.
 #include "chartdraw/core/DibLayout.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Stamping a shape on every pixel of a set: whole words of pixels at a time.
+// Stamping a shape on all pixels of a set, 64 pixels at a time.
 #include "chartdraw/core/PixelSet.h"
 
 namespace kavlix {

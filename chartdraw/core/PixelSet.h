@@ -1,4 +1,4 @@
-// A set of the pixels of a rectangle, one bit each, and how a shape is stamped on all of them at once.
+// A set of the pixels of a rectangle, one bit each.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace kavlix {
 
-/// The pixels of `area` that were added.
+/// A set of pixels inside `area`, at first empty.
 class PixelSet {
 public:
     explicit PixelSet(const Rect& area)
@@ -19,14 +19,14 @@ public:
 
     const Rect& Area() const { return m_area; }
     bool IsEmpty() const { return m_isEmpty; }
-    /// Pixels outside the area are passed over.
+    /// Adds a pixel. Pixels outside the area are ignored.
     void Add(const Point& pixel) {
         if (!m_area.Contains(pixel))
             return;
         m_isEmpty = false;
         WordOf(pixel) |= BitOf(pixel);
     }
-    /// Whether a pixel of the area is in the set.
+    /// Whether the set contains `pixel`, which must lie inside the area.
     bool Has(const Point& pixel) const { return (WordOf(pixel) & BitOf(pixel)) != 0; }
     /// Calls `take(pixel)` for each pixel, row by row.
     template <class Take> void Visit(Take take) const {
@@ -35,16 +35,17 @@ public:
                 take(Point{x, run.top});
         });
     }
-    /// Calls `take(run)` for all neighbouring pixels of a row, row by row.
+    /// Calls `take(run)` for each run of neighbouring pixels in a row, row by row. A run is a
+    /// Rect one pixel high.
     template <class Take> void VisitRuns(Take take) const {
         for (int row = 0; row < m_area.Height(); ++row) {
             const std::uint64_t* words = &m_words[static_cast<std::size_t>(row) * m_rowWords];
             const int y = m_area.top + row;
-            int begin = -1; // of a run that goes on
+            int begin = -1; // of the run that is open, or -1
             for (std::size_t i = 0; i < m_rowWords; ++i) {
                 const int left = m_area.left + static_cast<int>(i * kBits);
                 std::uint64_t changes =
-                    words[i] ^ (words[i] << 1 | (begin < 0 ? 0 : 1)); // bits unlike the one before
+                    words[i] ^ (words[i] << 1 | (begin < 0 ? 0 : 1)); // bits that differ from the bit before
                 for (; changes != 0; changes &= changes - 1) {
                     const int x = left + LowestBit(changes);
                     if (begin < 0) {
@@ -59,14 +60,14 @@ public:
                 take(Rect{begin, y, m_area.right, y + 1});
         }
     }
-    /// All pixels that `shape`, offsets of up to `reach` in each direction, covers when it stands on each
-    /// pixel of the set.
+    /// The set of all pixels that `shape` covers when its centre stands on each pixel of this set. `shape`
+    /// holds offsets from the centre, at most `reach` in each direction.
     PixelSet Stamped(const std::vector<Point>& shape, int reach) const;
 
 private:
     static constexpr std::size_t kBits = 64;
 
-    /// Number of the lowest bit of a word that is not 0.
+    /// Index of the lowest bit that is set in `word`, which must not be 0.
     static int LowestBit(std::uint64_t word) {
 #ifdef __GNUC__
         return __builtin_ctzll(word);

@@ -1,7 +1,7 @@
-#include "chartdraw/core/PointBoxes.h"
+// Adding points to boxes and boxes to levels.
+#include "chartdraw/core/PointBoxTree.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
@@ -26,11 +26,11 @@ void PointBox::Add(const PointBox& box) {
     high = std::max(high, box.high);
 }
 
-void PointBoxes::Update(const Points& points) {
-    // The box round the newest ones of `parts`.
+void PointBoxTree::Update(const ChartPoints& points) {
+    // The box of the newest block: of the last kFanOut points, or of the last kFanOut boxes.
     const auto boxOf = [](const auto& parts) {
         PointBox box;
-        for (std::size_t i = parts.Size() - kFan; i < parts.Size(); ++i)
+        for (std::size_t i = parts.Size() - kFanOut; i < parts.Size(); ++i)
             box.Add(parts[i]);
         return box;
     };

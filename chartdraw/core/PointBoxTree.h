@@ -1,3 +1,4 @@
+// Bounding boxes of consecutive points, in several levels.
 #pragma once
 
 #include <algorithm>
@@ -10,18 +11,18 @@
 
 namespace kavlix {
 
-/// A point of a chart.
+/// A point of a dataset.
 struct ChartPoint {
     double x;
     double y;
 
-    bool IsGap() const { return x != x || y != y; }
+    bool IsGap() const { return x != x || y != y; } // NaN
 };
 
-constexpr std::size_t kPointPiece = 256;
-using Points = ChunkedArray<ChartPoint, kPointPiece>;
+constexpr std::size_t kPointsPerChunk = 256; ///< points that lie one behind another in memory
+using ChartPoints = ChunkedArray<ChartPoint, kPointsPerChunk>;
 
-/// What some points lie within; NaN when one of them is a gap.
+/// The bounding box of some points. All values are NaN when one of the points is a gap.
 struct PointBox {
     double left = std::numeric_limits<double>::infinity();
     double right = -std::numeric_limits<double>::infinity();
@@ -33,23 +34,24 @@ struct PointBox {
     void Add(const PointBox& box);
 };
 
-/// The boxes round every 32 points of a series, round every 32 of those boxes and so on, so that a painter
-/// passes over points that can change no pixel. A byte a point. Points that follow the last whole block have
-/// no box yet.
-class PointBoxes {
+/// The bounding boxes of every 32 points of a series, of every 32 of those boxes, and so on. A painter uses
+/// them to skip points that cannot change a pixel. A block is what one box contains. The points after the
+/// last complete block have no box. The boxes take about one byte for each point.
+class PointBoxTree {
 public:
-    /// `points` holds one point more than at the last call. Throws what `new` throws, changing
-    /// nothing.
-    void Update(const Points& points);
+    /// Call this after each point that is added to `points`. Throws std::bad_alloc, with nothing changed,
+    /// when memory runs out.
+    void Update(const ChartPoints& points);
 
-    /// Has the lowest block round point `i` of `points` brought into the cache, where there is one.
-    static void Prefetch(const Points& points, std::int64_t i) {
+    /// Prefetches the points of the lowest block that contains point `i`, if that point exists.
+    static void Prefetch(const ChartPoints& points, std::int64_t i) {
 #if defined(__GNUC__)
         constexpr std::size_t kLine = 64; // bytes
         if (i < 0 || static_cast<std::size_t>(i) >= points.Size())
             return;
-        const auto* block = reinterpret_cast<const char*>(&points[static_cast<std::size_t>(i) / kFan * kFan]);
-        for (std::size_t at = 0; at < kFan * sizeof(ChartPoint); at += kLine)
+        const auto* block =
+            reinterpret_cast<const char*>(&points[static_cast<std::size_t>(i) / kFanOut * kFanOut]);
+        for (std::size_t at = 0; at < kFanOut * sizeof(ChartPoint); at += kLine)
             __builtin_prefetch(block + at);
 #else
         (void)points;
@@ -57,9 +59,10 @@ public:
 #endif
     }
 
-    /// Goes through the points `begin` to before `end` in order. `takeBox(box, first, last)` tells whether
-    /// the whole block is dealt with; where it is not, the blocks in it are tried and in the end
-    /// `takePoints(first, behind)` called for the points of a lowest block, which lie one behind another.
+    /// Visits the points from `begin` to before `end` in order. `takeBox(box, first, last)` is called for the
+    /// largest blocks first; the result true means that the whole block is dealt with. Otherwise the blocks
+    /// inside it are tried. `takePoints(first, behind)` is called for the points of a lowest block that are
+    /// left, from `first` to before `behind`; these lie one behind another in memory.
     template <class TakeBox, class TakePoints>
     void Visit(int begin, int end, TakeBox takeBox, TakePoints takePoints) const {
         std::size_t next = static_cast<std::size_t>(begin);
@@ -76,13 +79,13 @@ public:
             }
             if (next != start)
                 continue;
-            next = std::min(start - start % kFan + kFan, stop);
+            next = std::min(start - start % kFanOut + kFanOut, stop);
             takePoints(static_cast<int>(start), static_cast<int>(next));
         }
     }
 
-    /// The last of the points `begin` to before `end` for which `isWanted(i)`; `begin` - 1 when there is
-    /// none. Blocks are passed over when `isUnwanted(box)` knows that none of their points is wanted.
+    /// The last point from `begin` to before `end` for which `isWanted(i)` is true; `begin` - 1 when there is
+    /// none. `isUnwanted(box)` returns true to skip a block without wanted points.
     template <class IsUnwanted, class IsWanted>
     int FindLast(int begin, int end, IsUnwanted isUnwanted, IsWanted isWanted) const {
         std::size_t behind = static_cast<std::size_t>(end);
@@ -97,7 +100,7 @@ public:
             }
             if (behind != start)
                 continue;
-            const std::size_t low = std::max((start - 1) / kFan * kFan, stop);
+            const std::size_t low = std::max((start - 1) / kFanOut * kFanOut, stop);
             for (; behind > low; --behind)
                 if (isWanted(static_cast<int>(behind - 1)))
                     return static_cast<int>(behind - 1);
@@ -108,16 +111,16 @@ public:
 private:
     using Boxes = ChunkedArray<PointBox, 64>;
 
-    static constexpr std::size_t kFan = 32;
-    static_assert(kPointPiece % kFan == 0, "the points of a lowest block lie in one piece");
     static constexpr std::size_t kShift = 5;
-    static constexpr std::size_t kLevels = 6; // more points than an int counts
+    static constexpr std::size_t kFanOut = std::size_t{1} << kShift; ///< points or boxes in a block
+    static_assert(kPointsPerChunk % kFanOut == 0, "the points of a lowest block lie in one chunk");
+    static constexpr std::size_t kLevels = 6; ///< enough for as many points as an int counts
 
-    /// Points in a block; level 1 is the lowest.
+    /// Number of points in a block of a level; level 1 is the lowest.
     static std::size_t Size(std::size_t level) {
         return std::size_t{1} << (kShift * level);
     }
-    /// The highest level whose blocks have a border at point `i`.
+    /// The highest level of which a block begins at point `i`; 0 when no block begins there.
     static std::size_t LevelAt(std::size_t i) {
         std::size_t level = 0;
         while (level < kLevels && i % Size(level + 1) == 0)
@@ -125,7 +128,7 @@ private:
         return level;
     }
 
-    std::array<Boxes, kLevels> m_levels;
+    std::array<Boxes, kLevels> m_levels; ///< element 0 is level 1
 };
 
 } // namespace kavlix

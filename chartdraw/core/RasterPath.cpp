@@ -1,25 +1,24 @@
-// Strokes in pixels: which of their columns are painted already, and the exact pixels of the others.
-#include "chartdraw/core/PaintedPath.h"
+// Long strokes: which of their columns are painted already, and the exact pixels of the other columns.
+#include "chartdraw/core/RasterPath.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
 namespace kavlix {
-
 namespace {
 
 constexpr int kBlock = 32;   // columns
-constexpr int kLongJump = 8; // columns; shorter strokes are painted at once
-constexpr double kUnknown = std::numeric_limits<double>::infinity();
+constexpr int kLongJump = 8; // columns; shorter strokes go to ThinLine without a look at painted rows
+constexpr double kUnknown = std::numeric_limits<double>::infinity(); // as Block::top
 
 } // namespace
 
-PaintedPath::PaintedPath(const PixelRaster& raster, std::uint32_t colour)
+RasterPath::RasterPath(const PixelRaster& raster, std::uint32_t colour)
     : m_raster(raster), m_colour(colour), m_clip(raster.Clip()), m_line(raster, colour) {
 }
 
-void PaintedPath::Add(const Point& pixel) {
+void RasterPath::Add(const Point& pixel) {
     if (!m_isOpen || std::abs(pixel.x - m_last.x) < kLongJump) {
         m_line.To(pixel.x, pixel.y);
     } else {
@@ -30,12 +29,12 @@ void PaintedPath::Add(const Point& pixel) {
     m_last = pixel;
 }
 
-void PaintedPath::Break() {
+void RasterPath::Break() {
     m_line.End();
     m_isOpen = false;
 }
 
-void PaintedPath::PaintStroke(const Point& from, const Point& to) {
+void RasterPath::PaintStroke(const Point& from, const Point& to) {
     const int first = std::max(std::min(from.x, to.x), m_clip.left);
     const int last = std::min(std::max(from.x, to.x), m_clip.right - 1);
     if (first > last || std::max(from.y, to.y) < m_clip.top || std::min(from.y, to.y) >= m_clip.bottom)
@@ -44,7 +43,8 @@ void PaintedPath::PaintStroke(const Point& from, const Point& to) {
         m_columns.resize(static_cast<std::size_t>(m_clip.Width()));
         m_blocks.resize(static_cast<std::size_t>((m_clip.Width() + kBlock - 1) / kBlock));
     }
-    // In the columns a to b the stroke stays within a row of the straight line from a - 1/2 to b + 1/2.
+    // From column a to column b, the stroke's pixels differ by at most one row from the straight line between
+    // the left edge of column a and the right edge of column b.
     const double slope = static_cast<double>(to.y - from.y) / (to.x - from.x);
     const auto rowAt = [&](int column) { return from.y + (column + 0.5 - from.x) * slope; };
     double a = rowAt(first - 1);
@@ -74,7 +74,7 @@ void PaintedPath::PaintStroke(const Point& from, const Point& to) {
         PaintColumns(from, to, unpainted, last);
 }
 
-void PaintedPath::FindCommonRows(std::size_t block) {
+void RasterPath::FindCommonRows(std::size_t block) {
     const std::size_t begin = block * kBlock;
     const std::size_t end = std::min(begin + kBlock, m_columns.size());
     Rows common = m_columns[begin];
@@ -86,8 +86,9 @@ void PaintedPath::FindCommonRows(std::size_t block) {
     m_blocks[block].bottom = common.bottom == m_clip.bottom - 1 ? kUnknown : common.bottom;
 }
 
-/// The stroke's pixels in the columns `first` to `last`, which it has, as PixelRaster::Stroke places them.
-void PaintedPath::PaintColumns(const Point& from, const Point& to, int first, int last) {
+// Paints the same pixels as PixelRaster::Stroke, but only in the columns from `first` to `last`. The stroke
+// must cross these columns.
+void RasterPath::PaintColumns(const Point& from, const Point& to, int first, int last) {
     const bool isLeftwards = to.x < from.x;
     const bool isUpwards = to.y < from.y;
     const std::int64_t dx = std::llabs(std::int64_t{to.x} - from.x);
@@ -97,7 +98,7 @@ void PaintedPath::PaintColumns(const Point& from, const Point& to, int first, in
     const int begin = isLeftwards ? last : first;
     const std::int64_t start = std::llabs(std::int64_t{begin} - from.x);
     if (dy > dx) {
-        // Halfway the line goes to the smaller coordinate.
+        // Halfway between two pixels, the line takes the smaller coordinate.
         const std::int64_t atHalf = isLeftwards ? 0 : 1;
         const auto stepOf = [&](std::int64_t column) {
             return column == 0 ? 0 : std::min(((2 * column - 1) * dy + atHalf + 2 * dx - 1) / (2 * dx), dy);
@@ -129,7 +130,7 @@ void PaintedPath::PaintColumns(const Point& from, const Point& to, int first, in
     }
 }
 
-void PaintedPath::PaintColumn(int x, int top, int bottom) {
+void RasterPath::PaintColumn(int x, int top, int bottom) {
     top = std::max(top, m_clip.top);
     bottom = std::min(bottom, m_clip.bottom - 1);
     if (top > bottom)

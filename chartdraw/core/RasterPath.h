@@ -1,5 +1,4 @@
-// Thin lines that are painted straight into pixels, also where their points jump back and forth across the
-// view.
+// Painting of thin lines into pixels, fast also if their points jump back and forth across the view.
 #pragma once
 
 #include <cstddef>
@@ -7,32 +6,32 @@
 #include <limits>
 #include <vector>
 
-#include "chartdraw/core/ChartLine.h"
+#include "chartdraw/core/PixelPath.h"
 #include "plot/PixelRaster.h"
 #include "plot/ThinLine.h"
 
 namespace kavlix {
 
-/// Paints lines one pixel wide: the pixels of a stroke from each point to the next, but for the last.
+/// Paints lines one pixel wide into a raster. The last pixel of a line is not painted, as by GDI.
 ///
-/// A line whose points come in random order of x covers the same pixels over and over. So the rows that are
-/// painted without a gap are known for each column, and for each block of columns the rows that are in all of
-/// them: strokes are painted only where they may leave those rows.
-class PaintedPath : public PixelPath {
+/// A line whose points come in random order of x covers the same pixels many times. So this class remembers a
+/// range of painted rows for each pixel column, and for each block of columns the rows that are painted in
+/// all of its columns. A stroke is painted only in blocks where it may leave those rows.
+class RasterPath : public PixelPath {
 public:
-    PaintedPath(const PixelRaster& raster, std::uint32_t colour);
+    RasterPath(const PixelRaster& raster, std::uint32_t colour);
 
     void Add(const Point& pixel) override;
     void Break() override;
 
 private:
-    /// Rows from `top` to `bottom`, both included; none when the bottom lies above the top.
+    /// Rows from `top` to `bottom`, both included. `bottom` < `top` means no rows.
     struct Rows {
         int top = 0;
         int bottom = -1;
     };
-    /// Rows painted in each column of a block; infinite where nothing of the clip lies beyond. None, the top
-    /// above all numbers, where a column has changed since they were found.
+    /// The rows that are painted in all columns of a block. A range that reaches an edge of the clip counts
+    /// as infinite there. `top` is infinite when a column has changed since the rows were found.
     struct Block {
         double top = std::numeric_limits<double>::infinity();
         double bottom = 0;
@@ -49,7 +48,7 @@ private:
     ThinLine m_line;
     bool m_isOpen = false;
     Point m_last;
-    std::vector<Rows> m_columns; ///< of the clip; made with the first jump
+    std::vector<Rows> m_columns; ///< of the clip; empty until the first long stroke
     std::vector<Block> m_blocks;
 };
 

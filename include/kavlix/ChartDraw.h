@@ -1,3 +1,4 @@
+// CChartDraw: a chart window that draws datasets of points and exports its picture.
 #pragma once
 
 #include <afxwin.h>
@@ -16,18 +17,19 @@ class Offscreen;
 class RoundScale;
 } // namespace kavlix
 
-/// A packed device-independent bitmap in a block of global memory: header, colour table, pixel bits.
+/// A packed device-independent bitmap in a block of global memory: header, colour table, pixels.
 typedef HANDLE HDIB;
 
 /// A chart window: any number of datasets of (x, y) points, drawn as lines, markers or both, with title,
-/// grid, axes and their captions. Its picture can be copied to the clipboard and saved to a file.
+/// grid, axes and captions. The chart's picture can be copied to the clipboard and saved to a file.
 ///
-/// Units are pixels, y growing downwards. Colours are COLORREF. Values are doubles; every conversion to a
-/// position truncates toward zero and saturates. Points need not be in order of x. A point with a NaN is a
-/// gap in the line; one with an infinite value lies far outside. Only finite points count for the scales.
+/// Units are pixels, y growing downwards. Colours are COLORREF. Values are doubles; every conversion of a
+/// value to a position truncates toward zero and saturates. The points of a dataset may come in any order of
+/// x. A point with a NaN is a gap in the line. A point with an infinite value lies far outside the plot. Only
+/// finite points influence the scales.
 ///
-/// Data and properties can be set without a window and do not repaint: call Redraw. Use it on the thread that
-/// owns its window.
+/// Data and properties can be set without a window. Setting them does not repaint: call Redraw. Use the chart
+/// on the thread that owns its window.
 class KAVLIX_API CChartDraw : public CWnd {
 public:
     /// An empty chart without a window.
@@ -37,73 +39,75 @@ public:
     CChartDraw& operator=(const CChartDraw&) = delete;
 
     using CWnd::Create;
-    /// Creates the window, as a child when `pParentWnd` is given with WS_CHILD. FALSE when that fails. Throws
-    /// CResourceException when a window class cannot be registered.
+    /// Creates the window, a child of `pParentWnd` if `dwStyle` contains WS_CHILD. FALSE when the window
+    /// cannot be created. Throws CResourceException when the window class cannot be registered.
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    // ---- Data. An index outside its range makes an operation fail and change nothing. No repaint. ----
+    // ---- Data. With an invalid index an operation fails and changes nothing. None of them repaints. ----
 
-    /// Appends an empty dataset: a line one pixel wide without markers, in the next of ten colours. Its
-    /// index, counted from 0; -1 after a message box when memory ran out.
+    /// Appends an empty dataset, drawn as a line one pixel wide without markers, in the next of ten
+    /// colours. The result is the dataset's index, counted from 0, or -1 when memory runs out; a
+    /// message box then says so.
     int AddDataset();
     int GetDatasetCount() const;
-    /// Removes a dataset; those behind it move up by one.
+    /// Removes a dataset. The indices of the later datasets decrease by one.
     BOOL RemoveDataset(int nDataset);
     void RemoveAllDatasets();
-    /// Appends a point. Result 0 when there is no such dataset or, after a message box, when memory ran out.
+    /// Appends a point. FALSE when there is no such dataset, and when memory runs out; a
+    /// message box then says so.
     BOOL AddData(int nDataset, double x, double y);
-    /// Replaces all points of a dataset by `nCount` others, copied from `pX` and `pY`. With `pX` null X is
-    /// the index. Result 0 when there is no such dataset, `nCount` is negative, `pY` is null though there are
-    /// points or, after a message box, when memory ran out.
+    /// Replaces all points of a dataset by `nCount` points, copied from `pX` and `pY`. If `pX` is null, each
+    /// point's x is its index. FALSE, with nothing changed, when there is no such dataset, when `nCount` is
+    /// negative, when `pY` is null and `nCount` positive, and when memory runs out; a message box reports
+    /// only the last case.
     BOOL SetData(int nDataset, const double* pX, const double* pY, int nCount);
-    /// Removes all points of a dataset; its colours and switches stay. FALSE when there is no such dataset.
-    /// As all that only removes it needs no memory.
+    /// Removes all points of a dataset and keeps its attributes. Needs no memory. FALSE when there
+    /// is no such dataset.
     BOOL ResetData(int nDataset);
-    /// Number of points; -1 when there is no such dataset.
+    /// Number of points, or -1 when there is no such dataset.
     int GetDatasetSize(int nDataset) const;
-    /// A point. Result 0, and neither output written, when there is none of that index.
+    /// Writes a point's values to `x` and `y`. FALSE, with neither written, when there is no such point.
     BOOL GetData(int nDataset, int nIndex, double& x, double& y) const;
 
-    // ---- Datasets' attributes. Result 0 when there is no such dataset. No repaint. ----
+    // ---- Attributes of datasets. FALSE when there is no such dataset. None of them repaints. ----
 
     BOOL SetColor(int nDataset, COLORREF color);
-    /// Width of the line in pixels, clamped to 0..100; 0 and 1 are one pixel.
+    /// Width of the line in pixels, clamped to 0..100; 0 and 1 both draw one pixel.
     BOOL SetLineSize(int nDataset, int nSize);
-    /// Whether the points are joined by a line; default on. Where there are no markers,
-    /// points without neighbours to be joined to, and lines that fall on one pixel, are shown as dots of the
-    /// line's width, at least 3 pixels.
+    /// Whether a line joins the points; default TRUE. In a dataset without markers, a point between two gaps,
+    /// and a line that falls on a single pixel, appear as a dot of the line's width, at least 3 pixels.
     BOOL ShowLine(int nDataset, BOOL bShow);
-    /// Marker at each point within the scales, 3 pixels to every side; default none.
+    /// Marker at each point inside the plot, reaching 3 pixels to every side; default none.
     BOOL SetMarkerType(int nDataset, CDataset::MarkerType type);
-    /// Whether the dataset is drawn, and counts for the scales; default on.
+    /// Whether the dataset is drawn and influences the scales; default TRUE.
     BOOL ShowDataset(int nDataset, BOOL bShow);
 
-    // ---- Scales. No repaint. ----
+    // ---- Scales. None of them repaints. ----
 
-    /// Finds the scale from the points: round numbers around all of them, in steps of 1, 2, 2.5 or 5 times a
-    /// power of ten. The default.
+    /// Lets CalcDatas find the scale from the points: a range with round ends that holds all points, in steps
+    /// of 1, 2, 2.5 or 5 times a power of ten. This is the default.
     void SetAutoXScale();
     void SetAutoYScale();
-    /// Fixes a scale. Points outside are clipped. Ticks are the multiples of `dStep`, thinned where their
-    /// labels find no room; 0 has a round step found. Result 0, and nothing changed, unless `dMin` lies below
-    /// `dMax`, all are finite and `dStep` is not negative.
+    /// Fixes a scale. Points outside it are clipped. Ticks stand at the multiples of `dStep`; some of them
+    /// are left out if their labels have no room. If `dStep` is 0, CalcDatas finds a round step. FALSE, with
+    /// nothing changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
     BOOL SetXScale(double dMin, double dMax, double dStep = 0);
     BOOL SetYScale(double dMin, double dMax, double dStep = 0);
-    /// The scale that CalcDatas found last; 0 to 1 in steps of 0.2 at first.
+    /// The scale that CalcDatas found last; 0 to 1 in steps of 0.2 before its first call.
     void GetXScale(double& dMin, double& dMax, double& dStep) const;
     void GetYScale(double& dMin, double& dMax, double& dStep) const;
 
-    // ---- Properties. They store what is given. No repaint. ----
+    // ---- Properties. None of them repaints. ----
 
-    /// Texts; empty ones take no room. At first all are empty. What is too long for the window is shortened,
-    /// with dots at its end.
+    /// Title above the plot, and captions of the two axes. All are empty by default; an empty text takes no
+    /// room. A text that is too long for the window is shortened and ends in dots.
     void SetTitle(CString text);
     void SetXLabel(CString text);
     void SetYLabel(CString text);
-    /// Lines through the plot at the ticks; default both on.
+    /// Whether lines cross the plot at the ticks of each scale; default both TRUE.
     void SetGrid(BOOL bGridX, BOOL bGridY);
-    /// Font of all texts, in tenths of a point; default 90 and "Arial". The title is a third larger and bold.
-    /// Sizes are clamped to 10..720.
+    /// Font of all texts. `nSize` is in tenths of a point, clamped to 10..720. The title is a
+    /// third larger and bold.
     void SetTextFont(int nSize, const char* pszFace);
     void SetBkColor(COLORREF color) { m_BkColor = color; }
     void SetTitleColor(COLORREF color) { m_TitleColor = color; }
@@ -113,68 +117,70 @@ public:
     void SetYTickLabelColor(COLORREF color) { m_YTickLabelColor = color; }
     void SetAxisColor(COLORREF color) { m_AxisColor = color; }
     void SetGridColor(COLORREF color) { m_GridColor = color; }
-    /// The grid lines at 0, where a scale goes on to both sides of it.
+    /// Colour of the grid line at 0 of a scale that has negative and positive values.
     void SetZeroLineColor(COLORREF color) { m_ZeroLineColor = color; }
 
     // ---- View ----
 
-    /// Has the whole window repainted, without erasing it first. Nothing without a window.
+    /// Invalidates the whole window without erase. Does nothing without a window.
     void Redraw();
-    /// Runs the drawing sequence on any DC, in its logical units, the chart's corner at (0, 0): PaintBkGnd,
-    /// DrawTitle, DrawGrid, DrawDatasets, DrawAxes, DrawYScale, DrawXScale. CalcDatas has run before.
+    /// Draws the chart on any DC, in logical units, with the chart's corner at (0, 0). Calls PaintBkGnd,
+    /// DrawTitle, DrawGrid, DrawDatasets, DrawAxes, DrawYScale and DrawXScale in this order. CalcDatas
+    /// must have run before.
     void DrawChart(CDC& dc);
 
-    // ---- Image export. Where data, properties or the window's size changed after CalcDatas, it runs first.
+    // ---- Image export. Calls CalcDatas first if data, properties or the window's size have changed. ----
 
-    /// Puts the chart on the clipboard as an enhanced metafile with the description "Ruvex Trace", framed by
-    /// the chart's size. False without a window, when memory runs out or when the metafile cannot be made;
-    /// the clipboard is untouched then. Whether the clipboard took it is not told.
+    /// Puts the chart on the clipboard as an enhanced metafile of the chart's size with the description
+    /// "Ruvex Trace". False, with the clipboard unchanged, without a window, when memory runs out, or when
+    /// the metafile cannot be made. A clipboard that refuses the metafile does not change the result.
     virtual bool CopyToClipboard();
-    /// Asks for a name and calls CopyToFile(CString) with it. False when the user cancels or memory runs out.
+    /// Asks the user for a file name and calls CopyToFile(CString) with it. False when the user cancels, when
+    /// memory runs out, or when that call returns false.
     virtual bool CopyToFile();
-    /// Saves the chart as a bitmap file in the colours of the screen, over an existing file. False without a
-    /// window or an area, when memory runs out or when the file cannot be made. Throws CFileException when it
-    /// cannot be written; what was written until then stays. On a 32-bit screen the pixels are 4 bytes off:
-    /// use SaveImage for a picture that is right in every program.
+    /// Saves the chart as a bitmap file in the screen's colour depth and replaces an existing file. False
+    /// without a window, for an empty client area, when memory runs out, or when the file cannot be created.
+    /// Throws CFileException when writing fails; the file then stays incomplete. On a 32-bit screen all
+    /// pixels in the file are shifted by 4 bytes, which hosts rely on: use SaveImage for a file that every
+    /// program shows correctly.
     virtual bool CopyToFile(CString strFileName);
-    /// A packed DIB block with a bitmap's pixels, for the caller to free with GlobalFree; the bitmap must be
-    /// selected in no DC. A block of 32 bits per pixel has one unused table entry before its pixels. `pPal`
-    /// may be null. NULL when memory runs out, GDI does not know the format, or `dwCompression` is
-    /// BI_BITFIELDS.
+    /// Copies a bitmap's pixels to a new packed DIB block. The caller frees the block with GlobalFree.
+    /// `bitmap` must not be selected into a DC; `pPal` may be null. A block of 32 bits per pixel has one
+    /// unused colour table entry before its pixels. NULL when memory runs out, when GDI cannot convert the
+    /// bitmap, and for BI_BITFIELDS.
     virtual HANDLE DDBToDIB(CBitmap& bitmap, DWORD dwCompression, CPalette* pPal);
-    /// Bytes of the colour table of the DIB whose header (BITMAPINFOHEADER or BITMAPCOREHEADER) is given.
+    /// Size in bytes of a DIB's colour table. `lpbi` points to a BITMAPINFOHEADER or BITMAPCOREHEADER.
     virtual WORD WINAPI PaletteSize(LPSTR lpbi);
-    /// Colour table entries of that DIB: what the header tells, else what its depth has.
+    /// Number of entries in a DIB's colour table: the header's biClrUsed, or if that is 0 or missing, the
+    /// number that belongs to the colour depth. `lpbi` as above.
     virtual WORD WINAPI DIBNumColors(LPSTR lpbi);
-    /// Writes a block as a bitmap file. FALSE, and nothing written, when it is NULL, no block, shorter than
-    /// its header tells, or has no BITMAPINFOHEADER. The caller keeps the block, whose biSizeImage is
-    /// rewritten. Throws CFileException when the file cannot be written.
+    /// Writes a packed DIB block to `file` as a bitmap file. The caller keeps the block; its biSizeImage is
+    /// updated. FALSE, with nothing written, when `hDib` is no valid block, has no BITMAPINFOHEADER, or is
+    /// shorter than its header says. Throws CFileException when writing fails.
     virtual BOOL WINAPI SaveDIB(HDIB hDib, CFile& file);
 
-    /// Saves the chart as PNG, BMP or EMF, as the name's extension says. False for another extension, without
-    /// a window or an area, when memory runs out or when the file cannot be written; an existing file is as
-    /// before then, and nothing half-written is left.
+    /// Saves the chart's picture. The extension of the name (.png, .bmp or .emf) selects the format. False
+    /// without a window, for an empty client area, for any other extension, when memory runs out, or when the
+    /// file cannot be written. After a failure an existing file is unchanged, and no incomplete file is left.
     bool SaveImage(CString strFileName);
 
 protected:
-    /// Stores the chart rectangle, lays the chart out in it and computes the scales. OnPaint calls it each
-    /// time. Without a window nothing changes. Rectangles and scales stay as they are where it throws because
-    /// memory, a DC or a font cannot be had.
+    /// Lays the chart out in the client rectangle and computes the scales. Every paint calls this function.
+    /// Does nothing without a window. Throws when memory, a DC or a font is missing; rectangles and scales
+    /// then stay unchanged.
     virtual void CalcDatas();
 
-    // ---- Drawing: each draws its own element, and leaves the DC as it was. ----
+    // ---- Drawing. Each function draws one element and restores the DC's state. ----
 
-    /// The background.
     virtual void PaintBkGnd(CDC& dc);
     virtual void DrawTitle(CDC& dc);
-    /// The lines at the ticks.
     virtual void DrawGrid(CDC& dc);
-    /// The axes' lines and captions.
+    /// Draws the axes' lines and captions.
     virtual void DrawAxes(CDC& dc);
-    /// Ticks and numbers.
+    /// Draws the ticks and numbers of a scale.
     virtual void DrawXScale(CDC& dc);
     virtual void DrawYScale(CDC& dc);
-    /// Lines and markers.
+    /// Draws the lines and markers of all visible datasets.
     virtual void DrawDatasets(CDC& dc);
 
     afx_msg void OnPaint();
@@ -182,25 +188,25 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 protected:
-    CRect m_rectChart; ///< the client rectangle that CalcDatas stored
-    CRect m_rectPlot;  ///< the data's part of it; right and bottom lie outside
+    CRect m_rectChart{0, 0, 0, 0}; ///< the client rectangle at the last CalcDatas
+    CRect m_rectPlot{0, 0, 0, 0};  ///< the part in which data is drawn; right and bottom lie outside
 
 private:
     struct Dataset;
     struct FixedScale {
-        bool fixed;
-        double min;
-        double max;
-        double step;
+        bool fixed = false; ///< false: the scale is found from the points, and the other members mean nothing
+        double min = 0;
+        double max = 0;
+        double step = 0; ///< 0: a round step is found
     };
 
     bool IsDataset(int nDataset) const { return nDataset >= 0 && nDataset < GetDatasetCount(); }
-    /// Calls `change` with a dataset that exists; what it changes is seen by the next CalcDatas.
+    /// Calls `change` with the dataset and marks the layout as outdated. FALSE when there is no such dataset.
     BOOL ChangeDataset(int nDataset, const std::function<void(Dataset&)>& change);
     BOOL FixScale(FixedScale& scale, double dMin, double dMax, double dStep);
     bool PrepareExport();
     bool WriteBitmapFile(const CString& name);
-    /// Makes the font of the texts, or the title's; `escapement` in tenths of a degree.
+    /// Makes the font of the title or of all other texts. `escapement` is in tenths of a degree.
     BOOL MakeTextFont(CFont& font, int escapement, bool title) const;
     kavlix::RoundScale FindScale(bool x, int mostSteps) const;
     void Calculate();
@@ -208,17 +214,16 @@ private:
     void FitXScale(CDC& dc, int width);
     kavlix::LinearMap XMap() const;
     kavlix::LinearMap YMap() const;
-    /// Has the ticks and labels of a scale drawn with the axes' pen and the texts' font, where scales are
-    /// shown.
+    /// If scales are shown, selects the axes' pen and the texts' font and calls `drawTicks`.
     void DrawScale(CDC& dc, COLORREF textColor, UINT align, const std::function<void()>& drawTicks) const;
     void DrawLine(CDC& dc, const Dataset& dataset) const;
     void DrawMarkers(CDC& dc, const Dataset& dataset) const;
 
-    std::unique_ptr<kavlix::Offscreen> m_Picture; ///< what WM_PAINT composes in, kept from paint to paint
+    std::unique_ptr<kavlix::Offscreen> m_Picture; ///< WM_PAINT composes here; kept for the next paint
     std::vector<std::unique_ptr<Dataset>> m_Datasets;
-    int m_DatasetsMade = 0; ///< picks the next colour
-    FixedScale m_XFixed = {};
-    FixedScale m_YFixed = {};
+    std::size_t m_NextColor = 0; ///< index of the next dataset's colour
+    FixedScale m_XFixed;
+    FixedScale m_YFixed;
     std::unique_ptr<kavlix::RoundScale> m_XScale;
     std::unique_ptr<kavlix::RoundScale> m_YScale;
     CString m_Title;
@@ -226,24 +231,24 @@ private:
     CString m_YLabel;
     BOOL m_GridX = TRUE;
     BOOL m_GridY = TRUE;
-    int m_FontSize;
-    CString m_FontFace;
-    COLORREF m_BkColor;
-    COLORREF m_TitleColor;
-    COLORREF m_XLabelColor;
-    COLORREF m_YLabelColor;
-    COLORREF m_XTickLabelColor;
-    COLORREF m_YTickLabelColor;
-    COLORREF m_AxisColor;
-    COLORREF m_GridColor;
-    COLORREF m_ZeroLineColor;
+    int m_FontSize = 90; ///< tenths of a point
+    CString m_FontFace = "Arial";
+    COLORREF m_BkColor = RGB(255, 255, 255);
+    COLORREF m_TitleColor = RGB(32, 32, 32);
+    COLORREF m_XLabelColor = RGB(32, 32, 32);
+    COLORREF m_YLabelColor = RGB(32, 32, 32);
+    COLORREF m_XTickLabelColor = RGB(64, 64, 64);
+    COLORREF m_YTickLabelColor = RGB(64, 64, 64);
+    COLORREF m_AxisColor = RGB(96, 96, 96);
+    COLORREF m_GridColor = RGB(228, 228, 228);
+    COLORREF m_ZeroLineColor = RGB(176, 176, 176);
 
-    // What CalcDatas found.
-    bool m_Changed = true; ///< since CalcDatas ran
-    CSize m_CalcSize;      ///< of the client area that it saw
-    int m_FontPixels = 0;  ///< height of the texts' font as GDI asks for it
-    int m_TextHeight = 0;
-    int m_TitleHeight = 0;
+    // Results of the last CalcDatas.
+    bool m_Changed = true;  ///< data or properties have changed since then
+    CSize m_CalcSize{0, 0}; ///< size of the client area at that time
+    int m_FontPixels = 0;   ///< character height of the texts' font
+    int m_TextHeight = 0;   ///< line height of that font, pixels
+    int m_TitleHeight = 0;  ///< line height of the title's font, pixels
     bool m_ShowTitle = false;
     bool m_ShowCaptions = false;
     bool m_ShowScales = false;

@@ -1,5 +1,5 @@
-#include "chartdraw/core/ChartWalk.h"
-#include "chartdraw/core/PaintedPath.h"
+#include "chartdraw/core/ChartReduction.h"
+#include "chartdraw/core/RasterPath.h"
 
 #include <gtest/gtest.h>
 
@@ -55,20 +55,20 @@ void WalkAll(const ChartSeries& series, const LinearMap& xMap, const LinearMap& 
 void WalkReduced(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, Canvas& canvas) {
     ReducedPath path(kView, [&](const Point* points, int count) { canvas.Draw(points, count); });
     ChartLine line(path, canvas.lone);
-    ChartWalk(series, xMap, yMap, kView, line).Run();
+    ChartReduction(series, xMap, yMap, kView, line).Run();
 }
 
 void WalkPainted(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, Canvas& canvas) {
-    PaintedPath path(canvas.raster, kInk);
+    RasterPath path(canvas.raster, kInk);
     ChartLine line(path, canvas.lone);
-    ChartWalk(series, xMap, yMap, kView, line).Run();
+    ChartReduction(series, xMap, yMap, kView, line).Run();
 }
 
 const LinearMap kWholeY(0, kHeight - 1, kHeight - 1, 1 - kHeight);
 
 } // namespace
 
-TEST(ChartWalk, DrawsWhatTheWholeLineDraws) {
+TEST(ChartReduction, DrawsWhatTheWholeLineDraws) {
     std::mt19937 random(5);
     const auto unit = [&] { return random() / 4294967296.0; };
     for (int round = 0; round < 3000; ++round) {
@@ -104,7 +104,7 @@ TEST(ChartWalk, DrawsWhatTheWholeLineDraws) {
     }
 }
 
-TEST(ChartWalk, HandsOnWhatThePixelsTake) {
+TEST(ChartReduction, HandsOnWhatThePixelsTake) {
     std::mt19937 random(9);
     ChartSeries series;
     constexpr int count = 300000;
@@ -122,7 +122,7 @@ TEST(ChartWalk, HandsOnWhatThePixelsTake) {
     }
 }
 
-TEST(ChartWalk, PointsFarAwayAndWithoutAPlaceBreakNothing) {
+TEST(ChartReduction, PointsFarAwayAndWithoutAPlaceBreakNothing) {
     ChartSeries series;
     for (int i = 0; i < 200; ++i)
         series.Append(i % 50 == 49 ? INFINITY : i % 31 == 30 ? -1e308 : i, i % 40 == 39 ? -INFINITY : i % 7);

@@ -1,5 +1,7 @@
+// Properties and texts of any size.
+
 #include "tests/graphctrl/GraphTest.h"
-#include "tests/support/GdiCounter.h"
+#include "tests/support/ImportHook.h"
 #include "tests/support/Numbers.h"
 
 #include <algorithm>
@@ -19,6 +21,21 @@ std::string Formatted(double value, int decimals) {
 
 bool IsBeginning(const std::string& part, const std::string& whole) {
     return !part.empty() && whole.compare(0, part.size(), part) == 0;
+}
+
+void* g_multiByteToWideChar = nullptr;
+
+/// A process whose code page is UTF-8.
+int WINAPI FromUtf8(UINT, DWORD flags, const char* text, int length, WCHAR* wide, int room) {
+    return reinterpret_cast<decltype(&::MultiByteToWideChar)>(g_multiByteToWideChar)(CP_UTF8, flags, text,
+                                                                                     length, wide, room);
+}
+
+/// A text in UTF-8 as the metafile shows it in the tests' code page.
+std::string Shown(const std::wstring& wide) {
+    char text[100] = "";
+    ::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, text, sizeof text, nullptr, nullptr);
+    return text;
 }
 
 } // namespace
@@ -69,105 +86,45 @@ TEST_F(GraphRobustnessTest, NumberTextsOfAnyLength) {
     }
 }
 
-TEST_F(GraphRobustnessTest, AxisEndsThatAreNoNumbers) {
-    const double odd[] = {NAN, INFINITY, -INFINITY, 1e308, -1e308, 0, 5e-324};
-    Add(0, {1, 2, 3});
-    Add(1, {1, 2, 3});
-    graph.AddXTickLabel("label", "");
-    graph.SetSelectionMarkPos(1);
-    graph.SetAutoXVisible(FALSE);
-    graph.SetMarkerType(0, CDataset::MarkerSquare);
-    HideTexts();
-    for (int style = 0; style < 3; ++style) {
-        graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(style));
-        for (const double min : odd) {
-            for (const double max : odd) {
-                SCOPED_TRACE(std::to_string(style) + " " + std::to_string(min) + " " + std::to_string(max));
-                graph.SetXVisibleMin(min);
-                graph.SetXVisibleMax(max);
-                const auto first = Paint();
-                graph.SetXVisibleMin(0);
-                graph.SetXVisibleMax(2);
-                graph.SetYVisibleMin(min);
-                graph.SetYVisibleMax(max);
-                graph.SetY2VisibleMin(min);
-                graph.SetY2VisibleMax(max);
-                const auto second = Paint();
-                graph.SetYVisibleMin(0);
-                graph.SetYVisibleMax(100);
-                // The mark's red appears nowhere outside the plot, whatever the ends are.
-                const CRect plot = ToDevice(graph.m_rectPlot);
-                const COLORREF red = RGB(255, 0, 0);
-                for (const auto* picture : {&first, &second}) {
-                    const CRect inside(plot.left, plot.top, plot.right + 1, plot.bottom + 1);
-                    EXPECT_EQ((*picture)->Count(red), (*picture)->Count(red, inside));
-                }
-            }
-        }
-    }
-}
-
-TEST_F(GraphRobustnessTest, OddSamplesLeaveNoInkBetweenTheirNeighbours) {
-    HideTexts();
-    graph.SetGrid(FALSE, FALSE);
-    const COLORREF colour = graph.m_Datasets[0].m_Color;
+TEST_F(GraphRobustnessTest, NoTextIsCutWithinACharacter) {
+    const testkit::ImportHook hook("Kavlix.dll", "MultiByteToWideChar", reinterpret_cast<void*>(&FromUtf8));
+    ASSERT_TRUE(hook.Installed());
+    g_multiByteToWideChar = hook.Original();
+    Add(0, {1});
+    graph.SetXTickLabelUpStringMaxLength(3);
     const struct {
-        const char* name;
-        std::vector<double> values;
-        /// Whether ink is expected between sample i and i + 1, away from both.
-        std::vector<int> ink;
-    } cases[] = {
-        {"numbers", {20, 80, 20}, {1, 1}},
-        {"a gap", {20, 80, NAN, 80, 20}, {1, 0, 0, 1}},
-        {"gaps at the ends", {NAN, 20, 80, NAN}, {0, 1, 0}},
-        {"a lonely number", {NAN, 50, NAN}, {0, 0}},
-        {"nothing but gaps", {NAN, NAN, NAN}, {0, 0}},
-        {"up out of the picture", {50, 1e300, 50, 60}, {0, 0, 1}},
-        {"down out of the picture", {50, -1e300, 50, 60}, {0, 0, 1}},
-        {"infinite", {50, INFINITY, 50, -INFINITY, 50, 60}, {0, 0, 0, 0, 1}},
-        {"above all along", {1e300, 1e300, INFINITY, 3e9}, {0, 0, 0}},
-        {"far outside", {50, 3e9, 50, -3e9, 50, 60}, {0, 0, 0, 0, 1}},
+        const char* text;
+        std::wstring first, second; ///< the lines; the second is empty where one holds the text
+    } labels[] = {
+        {"abc", L"abc", L""},
+        {"abcd", L"abc", L"d"},
+        {"\xC3\xA9\xC3\xA8\xC3\xA0", L"\u00E9\u00E8\u00E0", L""},
+        {"\xC3\xA9\xC3\xA8\xC3\xA0\xC3\xB9", L"\u00E9\u00E8\u00E0", L"\u00F9"},
+        {"ab\xE6\xB8\xA9\xE5\xBA\xA6", L"ab\u6E29", L"\u5EA6"},
+        {"ab\xF0\x9F\x8C\xA1z", L"ab\xD83C\xDF21", L"z"},
+        {"abe\xCC\x81z", L"abe\u0301", L"z"}, // a letter and its mark are one character
+        {"ab\xC3", L"ab\xFFFD", L""},         // bytes that are no character count one by one
     };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.name);
-        graph.ResetData(0);
-        for (const double value : each.values)
-            Add(0, {value});
-        const int count = static_cast<int>(each.values.size());
-        FixX(0, count - 1);
-        const auto picture = Paint();
-        const CRect plot = ToDevice(graph.m_rectPlot);
-        for (int i = 0; i + 1 < count; ++i) {
-            const int left = plot.left + plot.Width() * i / (count - 1) + 3;
-            const int right = plot.left + plot.Width() * (i + 1) / (count - 1) - 3;
-            const int columns = picture->Columns(colour, left, right);
-            EXPECT_EQ(columns, each.ink[static_cast<std::size_t>(i)] ? right - left : 0)
-                << "after sample " << i;
+    for (const auto& each : labels) {
+        graph.ResetXTickLabel();
+        graph.AddXTickLabel(each.text, "");
+        const Strings texts =
+            Record()->LinesFrom("text 2" + std::string(each.second.empty() ? "330" : "300"));
+        ASSERT_EQ(texts.size(), 1u) << each.text;
+        EXPECT_NE(texts[0].find("\"" + Shown(each.first) + "\""), std::string::npos) << texts[0];
+        const Strings second = Record()->LinesFrom("text 2230,4000");
+        EXPECT_EQ(second.empty(), each.second.empty()) << each.text;
+        if (!second.empty()) {
+            EXPECT_NE(second[0].find("\"" + Shown(each.second) + "\""), std::string::npos) << second[0];
         }
-        const CRect ink = picture->Bounds(colour);
-        EXPECT_TRUE(ink.IsRectEmpty() || (ink.left >= plot.left && ink.right <= plot.right + 1 &&
-                                          ink.top >= plot.top && ink.bottom <= plot.bottom + 1))
-            << Text(ink);
     }
-}
-
-TEST_F(GraphRobustnessTest, InvertedRangesMirrorThePicture) {
-    Add(0, {0, 25, 100});
-    FixX(0, 2);
-    graph.SetYVisibleMin(100);
-    graph.SetYVisibleMax(0);
-    const std::string pen = std::string("solid 0 ") + kColour0;
-    EXPECT_EQ(Record()->Strokes(pen),
-              (Strings{"line 2230,1100 3915,1775 pen " + pen, "line 3915,1775 5600,3800 pen " + pen}));
-    graph.SetYVisibleMin(0);
-    graph.SetYVisibleMax(100);
-    FixX(2, 0);
-    EXPECT_EQ(Record()->Strokes(pen),
-              (Strings{"line 5600,3800 3915,3125 pen " + pen, "line 3915,3125 2230,1100 pen " + pen}));
-    graph.SetYVisibleMin(-200);
-    graph.SetYVisibleMax(-100);
-    HideTexts();
-    EXPECT_EQ(Paint()->Count(graph.m_Datasets[0].m_Color), 0) << "above the visible range";
+    // The longest text that is drawn ends before what would be cut.
+    const std::string most(8191, 'a');
+    for (const char* last : {"\xF0\x9F\x8C\xA1", "e\xCC\x81"}) {
+        graph.SetXLabel((most + last).c_str());
+        const Strings texts = Record()->Texts();
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), most), 1) << last;
+    }
 }
 
 TEST_F(GraphRobustnessTest, TextsOfAMillionCharacters) {

@@ -1,10 +1,9 @@
+// Many messages of all kinds in any order.
+
 #include "tests/graphctrl/GraphTest.h"
 #include "tests/support/GdiCounter.h"
 #include "tests/support/MessageBoxWatcher.h"
 #include "tests/support/Numbers.h"
-#include "tests/support/RecordingParent.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -36,15 +35,8 @@ protected:
     }
 };
 
-class GraphRandomMessagesTest : public testing::Test {
+class GraphRandomMessagesTest : public testkit::GraphFixture<BriefMenuGraph> {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(parent.CreateVisible(800, 640)) << "no display";
-        ASSERT_TRUE(
-            graph.Create("MFCGraphCtrl", "text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 77));
-        graph.UpdateWindow();
-    }
-
     int LongestSize() const {
         int longest = 0;
         for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
@@ -108,72 +100,40 @@ protected:
 
     /// Sends one message of the kinds that the control handles; the result is its number.
     UINT SendOne() {
-        const UINT usual[] = {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_KEYDOWN};
-        UINT message = usual[numbers.Below(static_cast<int>(std::size(usual)))];
-        WPARAM wParam = numbers.Next() & 0xFFFF;
-        LPARAM lParam = Place();
-        MSG query = {graph.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}};
-        CDC dc;
-        if (message == WM_KEYDOWN) {
-            const WPARAM keys[] = {VK_LEFT, VK_RIGHT, VK_RIGHT, VK_ESCAPE, VK_APPS, VK_F10, VK_RETURN};
-            wParam = numbers.OneIn(5) ? static_cast<WPARAM>(numbers.Below(256))
-                                      : keys[numbers.Below(static_cast<int>(std::size(keys)))];
-            lParam = static_cast<LPARAM>(static_cast<std::int32_t>(numbers.Next()));
-        } else if (numbers.OneIn(8)) {
-            switch (numbers.Below(600) / 5) {
-            case 0:
-                message = WM_COMMAND;
-                wParam = ID_GRAPH_REMOVE_DATA_BEFORE_MARK;
-                lParam = 0;
-                break;
-            case 1:
-            case 2:
-                message = WM_COMMAND;
-                wParam = ID_EDIT_COPY;
-                lParam = 0;
-                break;
-            case 3:
-            case 4:
-            case 5:
-                message = WM_PRINTCLIENT;
-                dc.CreateCompatibleDC(nullptr);
-                wParam = reinterpret_cast<WPARAM>(dc.m_hDC);
-                lParam = PRF_CLIENT;
-                break;
-            case 6:
-            case 7:
-            case 8:
-                message = WM_PAINT;
-                graph.InvalidateRect(CRect(0, 0, numbers.Below(300), numbers.Below(200)), FALSE);
-                break;
-            case 9:
-            case 10:
-            case 11:
-            case 12:
-                message = WM_RBUTTONDOWN;
-                break;
-            case 13:
-            case 14:
-                message = WM_CONTEXTMENU;
-                wParam = reinterpret_cast<WPARAM>(graph.m_hWnd);
-                lParam = -1;
-                break;
-            default:
-                message = numbers.OneIn(3)   ? WM_COMMAND
-                          : numbers.OneIn(2) ? WM_GETDLGCODE
-                                             : WM_CAPTURECHANGED;
-                if (message == WM_COMMAND) {
-                    wParam = ID_GRAPH_CLEAR_SELECTION_MARK;
-                    lParam = 0;
-                } else if (message == WM_GETDLGCODE) {
-                    lParam = numbers.OneIn(2) ? reinterpret_cast<LPARAM>(&query) : 0;
-                } else {
-                    lParam = 0;
-                }
-            }
-        }
-        graph.SendMessage(message, wParam, lParam);
-        return message;
+        const WPARAM keys[] = {VK_LEFT, VK_RIGHT, VK_RIGHT, VK_ESCAPE, VK_APPS, VK_F10, VK_RETURN};
+        const WPARAM flags = numbers.Next() & 0xFFFF;
+        const LPARAM place = Place();
+        MSG escape = {graph.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {0, 0}};
+        const struct {
+            int weight;
+            UINT message;
+            WPARAM wParam;
+            LPARAM lParam;
+        } kinds[] = {
+            {200, WM_MOUSEMOVE, flags, place},
+            {200, WM_LBUTTONDOWN, flags, place},
+            {200, WM_LBUTTONUP, flags, place},
+            {200, WM_LBUTTONDBLCLK, flags, place},
+            {160, WM_KEYDOWN, keys[numbers.Below(static_cast<int>(std::size(keys)))], place},
+            {40, WM_KEYDOWN, flags % 256, place},
+            {40, WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK, 0},
+            {20, WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&escape)},
+            {20, WM_GETDLGCODE, flags, 0},
+            {40, WM_CAPTURECHANGED, flags, 0},
+            {1, WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, 0},
+            {2, WM_COMMAND, ID_EDIT_COPY, 0},
+            {3, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory.m_hDC), PRF_CLIENT},
+            {3, WM_PAINT, 0, 0},
+            {4, WM_RBUTTONDOWN, flags, place},
+            {2, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(graph.m_hWnd), -1},
+        };
+        const auto* kind = kinds;
+        for (int left = numbers.Below(1135); left >= kind->weight; ++kind)
+            left -= kind->weight;
+        if (kind->message == WM_PAINT)
+            graph.InvalidateRect(CRect(0, 0, numbers.Below(300), numbers.Below(200)), FALSE);
+        graph.SendMessage(kind->message, kind->wParam, kind->lParam);
+        return kind->message;
     }
 
     void SendMany(int count) {
@@ -207,8 +167,7 @@ protected:
     }
 
     testkit::Numbers numbers{20240607};
-    testkit::RecordingParent parent;
-    BriefMenuGraph graph;
+    CDC memory; ///< where WM_PRINTCLIENT draws
     int marked = 0; ///< messages after which there was a mark
     int beyond = 0; ///< of those, messages after which dataset 0 did not hold the marked sample
     int asked = 0;  ///< message boxes answered
@@ -217,6 +176,7 @@ protected:
 } // namespace
 
 TEST_F(GraphRandomMessagesTest, AHundredThousandLeaveMarkAndObjectsInOrder) {
+    ASSERT_TRUE(memory.CreateCompatibleDC(nullptr));
     ASSERT_NO_FATAL_FAILURE(SendMany(20000)); // what the platform keeps for itself is made by then
     const testkit::ObjectCounts before = testkit::CountObjects();
     ASSERT_NO_FATAL_FAILURE(SendMany(100000));

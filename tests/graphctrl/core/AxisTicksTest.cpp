@@ -1,3 +1,5 @@
+// Texts of value ticks, and which points of a crowded axis get a tick.
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,34 +17,6 @@ namespace {
 constexpr int kPixel = 30; // logical units
 
 using Ticks = std::vector<std::pair<int, int>>; // index, position
-
-std::vector<std::string> Labels(double min, double max, int ticks, int exponent, int decimals) {
-    std::vector<std::string> labels;
-    ValueTicks values(min, max, ticks, exponent);
-    for (int i = 0; i < ticks; ++i, values.Next())
-        labels.push_back(FormatTick(values.Value(), decimals));
-    return labels;
-}
-
-TEST(ValueTicksTest, Labels) {
-    using List = std::vector<std::string>;
-    EXPECT_EQ(Labels(0, 100, 5, 0, 0), (List{"0", "25", "50", "75", "100"}));
-    EXPECT_EQ(Labels(0, 100000, 5, 3, 1), (List{"0.0", "25.0", "50.0", "75.0", "100.0"}));
-    EXPECT_EQ(Labels(0, 100, 5, 3, 1), (List{"0.0", "0.0", "0.1", "0.1", "0.1"}));
-    EXPECT_EQ(Labels(10, -10, 3, 0, -4), (List{"10", "0", "-10"}));
-    EXPECT_EQ(Labels(7, 7, 2, 0, 2), (List{"7.00", "7.00"}));
-    EXPECT_EQ(Labels(0, 1, 2, -2, 0), (List{"0", "100"}));
-    EXPECT_EQ(Labels(0, 3, 2, -400, 0), (List{"0", "3"})); // 10^-400 is 0: undivided
-}
-
-TEST(ValueTicksTest, ValuesCarryTheRoundingOfRepeatedAddition) {
-    ValueTicks values(0, 1, 11, 0);
-    double sum = 0;
-    for (int i = 0; i < 10; ++i, sum += 0.1)
-        values.Next();
-    EXPECT_EQ(values.Value(), sum);
-    EXPECT_NE(values.Value(), 1.0);
-}
 
 TEST(ValueTicksTest, NoTextIsTooLong) {
     EXPECT_EQ(FormatTick(1.5, 400).size(), 402u);
@@ -154,27 +128,6 @@ TEST(TickThinningTest, MillionsOfPointsGiveNoMoreTicksThanPixels) {
     }
     EXPECT_EQ(ThinnedTicks(1000000, {0, 800, 0, 100}, [](int) { return 0; }).size(), 1u);
     EXPECT_TRUE(ThinnedTicks(0, {0, 800, 0, 100}, [](int) { return 0; }).empty());
-}
-
-TEST(LineTicksTest, OnlyVisiblePointsOfAnUprightRange) {
-    const auto ticksOf = [](double min, double max, int count) {
-        Ticks ticks;
-        LineTicks(LinearMap(min, max, 1000, 3000), min, max, count, {1000, 900, 0, 9000}, RightOfColumn,
-                  [&](int i, int x) { ticks.emplace_back(i, x); });
-        return ticks;
-    };
-    // A point on the right end is inside, one past it is not.
-    EXPECT_EQ(ticksOf(0, 3, 10), (Ticks{{0, 1000}, {1, 2000}, {2, 3000}, {3, 4000}}));
-    EXPECT_EQ(ticksOf(1.5, 4.5, 10), (Ticks{{2, 1500}, {3, 2500}, {4, 3500}}));
-    EXPECT_EQ(ticksOf(-2, 1, 10), (Ticks{{0, 3000}, {1, 4000}}));
-    EXPECT_TRUE(ticksOf(20, 30, 10).empty());
-    EXPECT_TRUE(ticksOf(0, 3, 0).empty());
-    EXPECT_TRUE(ticksOf(3, 0, 10).empty());
-    EXPECT_TRUE(ticksOf(2, 2, 10).empty());
-    EXPECT_EQ(ticksOf(0, INFINITY, 10), (Ticks{{0, 1000}})) << "every position is the left end";
-    EXPECT_TRUE(ticksOf(-INFINITY, 5, 10).empty());
-    EXPECT_TRUE(ticksOf(std::nan(""), 5, 10).empty());
-    EXPECT_EQ(ticksOf(0, 1e300, 10), (Ticks{{0, 1000}}));
 }
 
 } // namespace

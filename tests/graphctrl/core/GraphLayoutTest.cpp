@@ -1,3 +1,5 @@
+// Smallest sides, and sizes of any magnitude.
+
 #include <gtest/gtest.h>
 
 #include <climits>

@@ -1,7 +1,8 @@
+// What another process finds on the clipboard after a copy.
+
 #include "tests/graphctrl/GraphTest.h"
 #include "tests/support/GdiCounter.h"
 #include "tests/support/ImportHook.h"
-#include "tests/support/MetafileSummary.h"
 
 #include <cmath>
 #include <fstream>
@@ -66,8 +67,13 @@ private:
 
 /// What another process finds on the clipboard.
 struct Found {
-    std::string text;                             ///< lines "name value"
-    std::unique_ptr<testkit::DibSurface> picture; ///< null when no metafile is there
+    Found() = default;
+    Found(const Found&) = delete;
+    Found& operator=(const Found&) = delete;
+    ~Found() { ::DeleteEnhMetaFile(picture); }
+
+    std::string text;               ///< lines "name value"
+    HENHMETAFILE picture = nullptr; ///< null when no metafile is there
 
     /// The value of a line; "none" when there is no such line.
     std::string Line(const std::string& name) const {
@@ -77,43 +83,40 @@ struct Found {
         const std::size_t begin = at + name.size() + 1;
         return text.substr(begin, text.find('\n', begin) - begin);
     }
-    /// The part that MetafileSummary writes.
-    std::string Summary() const {
-        const std::size_t at = text.find("bounds ");
-        return at == std::string::npos ? "" : text.substr(at);
-    }
 };
 
-Found ReadElsewhere(CSize size) {
+void ReadElsewhere(Found& found) {
     const std::string base = Folder() + "clipboard_" + std::to_string(::GetCurrentProcessId());
-    const std::string texts_path = base + ".txt", pixels_path = base + ".bits";
-    ::DeleteFileA(texts_path.c_str());
-    ::DeleteFileA(pixels_path.c_str());
-    Found found;
-    Reader reader("read \"" + base + "\" " + std::to_string(size.cx) + " " + std::to_string(size.cy));
-    EXPECT_EQ(reader.Result(), 0);
-    {
-        std::ifstream lines(texts_path);
-        std::ostringstream text;
-        text << lines.rdbuf();
-        found.text = text.str();
-        std::ifstream bits(pixels_path, std::ios::binary);
-        std::vector<char> pixels(static_cast<std::size_t>(size.cx) * size.cy * 4);
-        if (bits.read(pixels.data(), static_cast<std::streamsize>(pixels.size()))) {
-            BITMAPINFO info = {};
-            info.bmiHeader.biSize = sizeof(info.bmiHeader);
-            info.bmiHeader.biWidth = size.cx;
-            info.bmiHeader.biHeight = -size.cy;
-            info.bmiHeader.biPlanes = 1;
-            info.bmiHeader.biBitCount = 32;
-            found.picture = std::make_unique<testkit::DibSurface>(size.cx, size.cy);
-            ::SetDIBitsToDevice(found.picture->Dc(), 0, 0, size.cx, size.cy, 0, 0, 0, size.cy, pixels.data(),
-                                &info, DIB_RGB_COLORS);
-        }
-    }
-    ::DeleteFileA(texts_path.c_str());
-    ::DeleteFileA(pixels_path.c_str());
-    return found;
+    const std::string texts = base + ".txt", picture = base + ".emf";
+    ::DeleteFileA(texts.c_str());
+    ::DeleteFileA(picture.c_str());
+    EXPECT_EQ(Reader("read \"" + base + "\"").Result(), 0);
+    std::ostringstream text;
+    text << std::ifstream(texts).rdbuf();
+    found.text = text.str();
+    const HENHMETAFILE file = ::GetEnhMetaFileA(picture.c_str());
+    found.picture = ::CopyEnhMetaFileA(file, nullptr);
+    ::DeleteEnhMetaFile(file);
+    ::DeleteFileA(texts.c_str());
+    ::DeleteFileA(picture.c_str());
+}
+
+/// Bounds, frame and records of a metafile, byte by byte. The description is left out.
+std::string Contents(HENHMETAFILE picture) {
+    ENHMETAHEADER header = {};
+    ::GetEnhMetaFileHeader(picture, sizeof(header), &header);
+    std::string contents(reinterpret_cast<const char*>(&header.rclBounds), 2 * sizeof(RECTL));
+    const auto append = [](HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM to) {
+        // Bytes behind the end of a font's name are not initialized.
+        constexpr UINT kFontBytes = offsetof(EMREXTCREATEFONTINDIRECTW, elfw.elfLogFont.lfFaceName);
+        if (record->iType != EMR_HEADER)
+            reinterpret_cast<std::string*>(to)->append(
+                reinterpret_cast<const char*>(record),
+                record->iType == EMR_EXTCREATEFONTINDIRECTW ? kFontBytes : record->nSize);
+        return 1;
+    };
+    ::EnumEnhMetaFile(nullptr, picture, append, &contents, nullptr);
+    return contents;
 }
 
 /// Empties the clipboard and puts a text there.
@@ -125,21 +128,6 @@ void PutText(HWND owner, const char* text) {
     ::GlobalUnlock(block);
     EXPECT_NE(::SetClipboardData(CF_TEXT, block), nullptr);
     ::CloseClipboard();
-}
-
-CRect Box(const std::string& text) {
-    int box[4] = {};
-    std::sscanf(text.c_str(), "%d,%d,%d,%d", &box[0], &box[1], &box[2], &box[3]);
-    return CRect(box[0], box[1], box[2], box[3]);
-}
-
-/// Pixels of the screen in hundredths of a millimetre; a pixel is about 26.
-double Hundredths(int pixels, int length, int resolution) {
-    const HDC screen = ::GetDC(nullptr);
-    const double result =
-        100.0 * pixels * ::GetDeviceCaps(screen, length) / ::GetDeviceCaps(screen, resolution);
-    ::ReleaseDC(nullptr, screen);
-    return result;
 }
 
 HDC WINAPI NoMetafile(HDC, LPCSTR, const RECT*, LPCSTR) {
@@ -168,23 +156,11 @@ protected:
 
 TEST_F(GraphClipboardTest, AnotherProcessFindsThePictureOfTheWindow) {
     Fill();
-    const struct {
-        const char* name;
-        CGraphCtrl::GraphStyle style;
-        CGraphCtrl::TitleStyle title;
-        bool byMenu;
-    } cases[] = {
-        {"lines", CGraphCtrl::GraphStyleLine, CGraphCtrl::TitleStyleText, false},
-        {"bars, by the menu's command", CGraphCtrl::GraphStyleBar, CGraphCtrl::TitleStyleText, true},
-        {"two axes", CGraphCtrl::GraphStyleTwoAxis, CGraphCtrl::TitleStyleText, false},
-        {"caption and icon, by the menu's command", CGraphCtrl::GraphStyleLine, CGraphCtrl::TitleStyleCaption,
-         true},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.name);
-        graph.SetGraphStyle(each.style);
-        graph.SetTitleStyle(each.title);
-        graph.ShowIconMaximize(each.title == CGraphCtrl::TitleStyleCaption, FALSE);
+    for (int style = 0; style < 3; ++style) {
+        SCOPED_TRACE(style);
+        graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(style));
+        graph.SetTitleStyle(style == 2 ? CGraphCtrl::TitleStyleCaption : CGraphCtrl::TitleStyleText);
+        graph.ShowIconMaximize(TRUE, FALSE);
         graph.Redraw();
         Settle();
         const CRect client = ClientRect();
@@ -192,50 +168,45 @@ TEST_F(GraphClipboardTest, AnotherProcessFindsThePictureOfTheWindow) {
         shown.Grab(graph.m_hWnd);
 
         PutText(parent.m_hWnd, "before");
-        if (each.byMenu)
+        if (style == 1)
             graph.SendMessage(WM_COMMAND, ID_EDIT_COPY);
         else
             EXPECT_EQ(graph.CopyToClipboard(), 1);
         EXPECT_EQ(::GetOpenClipboardWindow(), nullptr) << "closed again";
         EXPECT_EQ(Text(UpdateRect()), "0,0,0,0") << "nothing to repaint by that";
 
-        const Found found = ReadElsewhere(client.Size());
+        Found found;
+        ReadElsewhere(found);
         EXPECT_NE((" " + found.Line("formats") + " ").find(" 14 "), std::string::npos) << found.text;
         EXPECT_EQ(found.Line("text"), "none") << "emptied before";
-        std::string description = found.Line("description");
-        int zeros = 0;
-        for (; description.size() > 3 && description.substr(description.size() - 3) == "<0>"; ++zeros)
-            description.resize(description.size() - 3);
-        EXPECT_EQ(description, "Ruvex Trace");
-        EXPECT_GE(zeros, 2) << "one ends the text, one the texts";
-        EXPECT_EQ(found.Line("mapping"),
-                  "mode 8 window 15000,15000 window origin 0,0 viewport 500,500 viewport origin 0,0");
+        ASSERT_NE(found.picture, nullptr);
+        WCHAR description[40] = L"";
+        ::GetEnhMetaFileDescriptionW(found.picture, 40, description);
+        EXPECT_STREQ(description, L"Ruvex Trace");
         const auto painted = Record();
-        EXPECT_EQ(found.Summary(), testkit::MetafileSummary(painted->Handle()))
-            << "the one painter's records";
+        EXPECT_TRUE(Contents(found.picture) == Contents(painted->Handle()))
+            << "the one painter's records, drawn in the same frame";
 
         // The frame is what is drawn, which is the client area at least.
-        const CRect bounds = Box(found.Line("bounds")), frame = Box(found.Line("frame"));
-        CRect both;
-        both.UnionRect(bounds, CRect(0, 0, client.right - 1, client.bottom - 1));
-        EXPECT_EQ(Text(both), Text(bounds));
-        EXPECT_NEAR(frame.left, Hundredths(bounds.left, HORZSIZE, HORZRES), 30);
-        EXPECT_NEAR(frame.top, Hundredths(bounds.top, VERTSIZE, VERTRES), 30);
-        EXPECT_NEAR(frame.right, Hundredths(bounds.right, HORZSIZE, HORZRES), 30);
-        EXPECT_NEAR(frame.bottom, Hundredths(bounds.bottom, VERTSIZE, VERTRES), 30);
+        ENHMETAHEADER header = {};
+        ::GetEnhMetaFileHeader(found.picture, sizeof(header), &header);
+        const CRect bounds(reinterpret_cast<const RECT&>(header.rclBounds));
+        EXPECT_EQ(Text(bounds | CRect(0, 0, client.right - 1, client.bottom - 1)), Text(bounds));
+        EXPECT_GE(header.nDescription, 13u) << "one zero ends the text, one the texts";
 
-        ASSERT_NE(found.picture, nullptr);
-        // The player computes positions in another arithmetic: what lies half-way between two pixels may go
-        // either way. It plays in the advanced mode, where rectangles without a pen are a pixel larger; that
-        // closes the gaps between bars, so bars are compared with a picture painted in that mode.
-        if (each.style == CGraphCtrl::GraphStyleBar) {
-            ::SetGraphicsMode(shown.Dc(), GM_ADVANCED);
-            PaintInto(shown.Dc());
+        // In the frame's own unit a pixel of the reference device becomes a pixel exactly. The player computes
+        // positions in another arithmetic: what lies half-way between two pixels may go either way.
+        testkit::DibSurface played(client.right, client.bottom);
+        ::SetMapMode(played.Dc(), MM_ANISOTROPIC);
+        ::SetWindowExtEx(played.Dc(), header.szlMillimeters.cx * 100, header.szlMillimeters.cy * 100,
+                         nullptr);
+        ::SetViewportExtEx(played.Dc(), header.szlDevice.cx, header.szlDevice.cy, nullptr);
+        ::PlayEnhMetaFile(played.Dc(), found.picture, reinterpret_cast<const RECT*>(&header.rclFrame));
+        // It plays in the advanced mode, where bars are a pixel larger.
+        if (style != CGraphCtrl::GraphStyleBar) {
+            EXPECT_EQ(testkit::Displaced(shown, played, CRect(0, 0, 299, 199), 1), 0);
         }
-        const CRect compared(0, 0, client.right - 1, client.bottom - 1);
-        EXPECT_EQ(testkit::Displaced(shown, *found.picture, compared, 1), 0);
-        EXPECT_GT(found.picture->Count(graph.m_Datasets[0].m_Color), 100);
-        EXPECT_EQ(found.picture->Count(RGB(255, 0, 0)) > 0, shown.Count(RGB(255, 0, 0)) > 0) << "the mark";
+        EXPECT_GT(played.Count(graph.m_Datasets[0].m_Color), 100);
     }
 }
 
@@ -260,14 +231,15 @@ TEST_F(GraphClipboardTest, AClipboardHeldByAnotherProgramKeepsItsContent) {
     }
     ::CloseHandle(opened);
     ::CloseHandle(release);
-    Found found = ReadElsewhere(ClientRect().Size());
-    EXPECT_EQ(found.Line("text"), "held") << found.text;
-    EXPECT_EQ(found.picture, nullptr);
+    Found held, copied;
+    ReadElsewhere(held);
+    EXPECT_EQ(held.Line("text"), "held") << held.text;
+    EXPECT_EQ(held.picture, nullptr);
 
     EXPECT_EQ(graph.CopyToClipboard(), 1);
-    found = ReadElsewhere(ClientRect().Size());
-    EXPECT_EQ(found.Line("text"), "none");
-    EXPECT_NE(found.picture, nullptr) << "copying works again";
+    ReadElsewhere(copied);
+    EXPECT_EQ(copied.Line("text"), "none");
+    EXPECT_NE(copied.picture, nullptr) << "copying works again";
 }
 
 TEST_F(GraphClipboardTest, WhatCannotBeMadeLeavesTheClipboardAlone) {
@@ -290,5 +262,7 @@ TEST_F(GraphClipboardTest, WhatCannotBeMadeLeavesTheClipboardAlone) {
     }
     EXPECT_EQ(testkit::CountObjects(), before);
     EXPECT_EQ(::GetClipboardSequenceNumber(), sequence) << "not even opened for change";
-    EXPECT_EQ(ReadElsewhere(ClientRect().Size()).Line("text"), "kept");
+    Found found;
+    ReadElsewhere(found);
+    EXPECT_EQ(found.Line("text"), "kept");
 }

@@ -5,6 +5,7 @@
 #include "tests/support/Numbers.h"
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 
 namespace {
@@ -294,4 +295,35 @@ TEST_F(GraphPictureTest, EqualsThePlainPainters) {
     }
     EXPECT_GT(compared, 10000u);
     EXPECT_GT(hits, 50);
+}
+
+TEST_F(GraphPictureTest, NoPropertyDrawsMoreThanThePictureShows) {
+    const int lengths[] = {INT_MIN, INT_MIN + 1, -(1 << 27), -1000000, -1, 0, 1, 1000000, 1 << 27, INT_MAX};
+    const double ends[] = {NAN, INFINITY, -INFINITY, 0, 1, -5e4, 999, 1e9, -1e300, 1e308, 5e-324};
+    for (int round = 0; round < 300; ++round) {
+        SCOPED_TRACE(round);
+        ASSERT_NO_FATAL_FAILURE(ChooseAll());
+        Resize(300, 200);
+        for (int d = 0; d < CGraphCtrl::DatasetCount; ++d) {
+            graph.ShowDataset(d, FALSE);
+            for (int i = graph.GetDatasetSize(d); i < 1000; ++i)
+                graph.AddData(d, 1, nullptr);
+        }
+        for (int* length : {&graph.m_XTickLabelHeight, &graph.m_LegendWidth, &graph.m_YTickLabelWidth,
+                            &graph.m_Y2TickLabelWidth, &graph.m_XTickLabelUpStringMaxLength,
+                            &graph.m_YUnitExponent, &graph.m_YTickLabelScale, &graph.m_Y2TickLabelScale,
+                            &graph.m_CaptionFontSize, &graph.m_LegendItemHeight, &graph.m_LegendMargin})
+            if (numbers.OneIn(3))
+                *length = lengths[numbers.Below(10)];
+        for (double* end :
+             {&graph.m_XVisibleMin, &graph.m_XVisibleMax, &graph.m_YVisibleMin, &graph.m_YVisibleMax})
+            if (numbers.OneIn(3))
+                *end = ends[numbers.Below(11)];
+        const auto picture = Record();
+        EXPECT_LE(picture->Texts().size(), 2u * (300 + 200) + CGraphCtrl::DatasetCount + 6);
+        EXPECT_LE(picture->Lines(testkit::kLine).size(), 3u * (300 + 200));
+        EXPECT_EQ(picture->ObjectFaults(kControlFonts), "");
+        for (const std::string& text : picture->Texts())
+            EXPECT_LE(text.size(), 8192u);
+    }
 }

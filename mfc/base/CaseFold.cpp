@@ -1,3 +1,5 @@
+// Lower and upper case: ASCII directly, other characters through UTF-16.
+
 #include "mfc/base/CaseFold.h"
 
 #include <algorithm>
@@ -15,7 +17,7 @@ char AsciiWithCase(char ch, bool upper) {
     return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
 }
 
-// Converts what is not ASCII by way of UTF-16; false if the bytes are no text of the code page.
+// Converts through UTF-16. Returns false if the bytes are not valid in the code page.
 bool ConvertWide(const std::string& text, bool upper, std::string& result) {
     const int length = static_cast<int>(text.size());
     const int wideLength = MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), length, nullptr, 0);

@@ -1,12 +1,13 @@
+// Lower and upper case in the code page of the process.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
 
-/// Compare two texts by the byte values of their lower-case forms: -1, 0 or 1.
+/// Compare two texts by the byte values of their lower-case forms. Returns -1, 0 or 1.
 int AfxCompareFolded(const char* left, const char* right);
 
-/// The text in the other case, in the code page of the process. Its length may differ. Bytes that are no
-/// characters are left as they are.
+/// Converts the text to upper or lower case in the code page of the process. The length may change. Bytes
+/// that are not valid characters stay unchanged.
 std::string AfxWithCase(const std::string& text, bool upper);

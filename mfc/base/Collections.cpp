@@ -1,6 +1,6 @@
-#include <afxcoll.h>
+// The ready-made collections: class information, and collections that cannot be serialised.
 
-// The ready-made collections: their class information, and which of them have no stored form.
+#include <afxcoll.h>
 
 IMPLEMENT_SERIAL(CByteArray, CObject, 0)
 IMPLEMENT_SERIAL(CWordArray, CObject, 0)

@@ -1,3 +1,5 @@
+// Assertions, checks of memory, traces and CDumpContext.
+
 #include <afx.h>
 
 #include <cstdio>
@@ -18,8 +20,7 @@ void AfxAssertFailed(LPCSTR expression, LPCSTR file, int line) {
 }
 
 void AfxAbort() {
-    // Not abort(): in a program with windows the C library shows a box first and waits for somebody to answer
-    // it.
+    // Not abort(): in a program with windows, abort() shows a message box and waits for the user.
     TerminateProcess(GetCurrentProcess(), 3);
     for (;;)
         Sleep(INFINITE);
@@ -52,7 +53,7 @@ BOOL AfxIsValidString(LPCSTR text, int length) {
         return AfxIsValidAddress(text, static_cast<UINT_PTR>(length), FALSE);
     constexpr UINT_PTR page = 4096;
     for (;;) {
-        // What lies in one page is readable as a whole or not at all.
+        // Memory protection applies to whole pages, so one readable byte makes the rest of its page readable.
         if (!AfxIsValidAddress(text, 1, FALSE))
             return FALSE;
         const UINT_PTR left = page - reinterpret_cast<UINT_PTR>(text) % page;
@@ -89,7 +90,7 @@ CDumpContext& CDumpContext::operator<<(LPCSTR text) {
         OutputDebugStringA(text);
         return *this;
     }
-    // A binary file: text files know their own line ends.
+    // The file is binary, so "\n" becomes "\r\n" here.
     for (const char* line = text; *line != 0;) {
         const std::size_t length = std::strcspn(line, "\n");
         m_pFile->Write(line, static_cast<UINT>(length));

@@ -1,3 +1,5 @@
+// The exception classes without data, and CException.
+
 #include <afx.h>
 
 #include <new>
@@ -14,13 +16,13 @@ IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
 
 namespace {
 
-// The static exceptions tell nothing but their kind, so that threads can share them.
+// The static exceptions have no data, so threads can share them.
 template <class EXCEPTION> [[noreturn]] void ThrowStatic() {
     static EXCEPTION exception(FALSE);
     throw &exception;
 }
 
-// Programs expect new to throw the library's own exception.
+// Programs expect operator new to throw CMemoryException*.
 const std::new_handler previousNewHandler = std::set_new_handler([] { AfxThrowMemoryException(); });
 
 } // namespace

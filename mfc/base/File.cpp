@@ -1,3 +1,5 @@
+// CFile: files of the system, without a buffer.
+
 #include <afx.h>
 
 #include <algorithm>
@@ -48,7 +50,7 @@ DWORD ShareOf(UINT openFlags) {
         return FILE_SHARE_WRITE;
     case CFile::shareDenyNone:
         return FILE_SHARE_READ | FILE_SHARE_WRITE;
-    default: // exclusive; the compatible mode of old systems means the same here
+    default: // exclusive; shareCompat has the same effect
         return 0;
     }
 }
@@ -63,7 +65,7 @@ constexpr DWORD kSettableAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_H
                                       FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_DIRECTORY |
                                       FILE_ATTRIBUTE_ARCHIVE;
 
-/// Times, size and attributes, from either of the records in which the system tells them.
+/// Copies times, size and attributes. The system has two record types with the same field names.
 template <class Info> void TakeInfo(CFileStatus& status, const Info& info) {
     status.m_ctime = CTime(info.ftCreationTime);
     status.m_mtime = CTime(info.ftLastWriteTime);
@@ -139,7 +141,7 @@ void CFile::Abort() {
 
 CFile* CFile::Duplicate() const {
     ASSERT(m_hFile != hFileNull);
-    auto file = std::make_unique<CFile>(); // before the handle, which could get lost
+    auto file = std::make_unique<CFile>(); // allocated before the handle, which an exception would leak
     file->m_strFileName = m_strFileName;
     HANDLE copy = nullptr;
     if (!::DuplicateHandle(::GetCurrentProcess(), m_hFile, ::GetCurrentProcess(), &copy, 0, FALSE,
@@ -267,7 +269,8 @@ void CFile::SetStatus(LPCTSTR fileName, const CFileStatus& status) {
     if (old == INVALID_FILE_ATTRIBUTES)
         fail();
     const DWORD wanted = status.m_attribute == normal ? FILE_ATTRIBUTE_NORMAL : status.m_attribute;
-    // A read-only file takes no times: it becomes writable first, and read-only last.
+    // The system does not change the times of a read-only file. The file becomes writable first and
+    // read-only last.
     if ((old & FILE_ATTRIBUTE_READONLY) && !::SetFileAttributes(fileName, FILE_ATTRIBUTE_NORMAL))
         fail();
     const FILETIME created = FileTimeOf(status.m_ctime.GetTime());

@@ -1,3 +1,5 @@
+// CFileException and CArchiveException: messages, and causes of error numbers.
+
 #include <afx.h>
 
 #include <cerrno>
@@ -10,7 +12,7 @@ IMPLEMENT_DYNAMIC(CArchiveException, CException)
 
 namespace {
 
-// Texts by cause; %s is the name of the file.
+// Messages by cause. %s is the file name.
 const char* const fileMessages[] = {
     "No error occurred.",
     "An error occurred while accessing %s.",

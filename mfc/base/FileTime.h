@@ -1,8 +1,9 @@
+// Conversions between FILETIME and seconds since 1970.
 #pragma once
 
 #include <windows.h>
 
-/// The system's file times, which count 100 ns from 1601-01-01, as seconds since 1970-01-01.
+/// A FILETIME counts units of 100 ns since 1601-01-01; __time64_t counts seconds since 1970-01-01.
 
 constexpr __time64_t kFileTicksPerSecond = 10000000;
 constexpr __time64_t kFileTimeTo1970 = 11644473600; // seconds from 1601 to 1970
@@ -11,7 +12,7 @@ inline ULONGLONG TicksOf(const FILETIME& fileTime) {
     return static_cast<ULONGLONG>(fileTime.dwHighDateTime) << 32 | fileTime.dwLowDateTime;
 }
 
-/// Whole seconds; what is left of a second is cut.
+/// Whole seconds; fractions are truncated.
 inline __time64_t SecondsOf(const FILETIME& fileTime) {
     return static_cast<__time64_t>(TicksOf(fileTime) / kFileTicksPerSecond) - kFileTimeTo1970;
 }

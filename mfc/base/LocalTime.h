@@ -1,11 +1,12 @@
+// Local time of the system's zone, with the daylight-saving rules of the year.
 #pragma once
 
 #include "mfc/base/FileTime.h"
 
-// Local time of the system's zone, with the daylight-saving rules of the year in question. The C library's
-// own zone is not asked: it reads the TZ variable in a form of its own and answers nothing before 1970.
+// The C library's conversions are not used: they read the TZ variable in another format and fail for times
+// before 1970.
 
-/// The zone's rules of a year. FALSE if the system has none.
+/// The zone's rules of a year. Returns false if the system has none.
 inline bool ZoneOfYear(WORD year, TIME_ZONE_INFORMATION& zone) {
     return ::GetTimeZoneInformationForYear(year, nullptr, &zone) != 0 ||
            ::GetTimeZoneInformation(&zone) != TIME_ZONE_ID_INVALID;
@@ -15,7 +16,7 @@ inline bool LocalFromUtc(const SYSTEMTIME& utc, SYSTEMTIME& local) {
     TIME_ZONE_INFORMATION zone;
     if (!ZoneOfYear(utc.wYear, zone) || !::SystemTimeToTzSpecificLocalTime(&zone, &utc, &local))
         return false;
-    // Around New Year the local date may lie in another year, which may have other rules.
+    // Around New Year the local date can be in another year than the UTC date, with other rules.
     return local.wYear == utc.wYear || !ZoneOfYear(local.wYear, zone) ||
            ::SystemTimeToTzSpecificLocalTime(&zone, &utc, &local) != 0;
 }

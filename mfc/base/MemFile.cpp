@@ -1,3 +1,5 @@
+// CMemFile: a file in memory.
+
 #include <afx.h>
 
 #include <algorithm>
@@ -65,7 +67,7 @@ void CMemFile::Write(const void* buffer, UINT count) {
     const SIZE_T after = m_nPosition + count;
     if (after > m_nBufferSize)
         GrowFile(after);
-    if (m_nPosition > m_nFileSize) // a gap left by Seek
+    if (m_nPosition > m_nFileSize) // Seek() left a gap
         std::memset(m_lpBuffer + m_nFileSize, 0, m_nPosition - m_nFileSize);
     Memcpy(m_lpBuffer + m_nPosition, static_cast<const BYTE*>(buffer), count);
     m_nPosition = after;
@@ -137,7 +139,7 @@ void CMemFile::Free(BYTE* block) {
 void CMemFile::GrowFile(SIZE_T length) {
     if (length <= m_nBufferSize)
         return;
-    if (m_nGrowBytes == 0) // memory of a fixed size
+    if (m_nGrowBytes == 0) // the memory has a fixed size
         AfxThrowMemoryException();
     SIZE_T size = m_nBufferSize;
     const SIZE_T steps = (length - size + m_nGrowBytes - 1) / m_nGrowBytes;

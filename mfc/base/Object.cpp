@@ -1,3 +1,5 @@
+// CObject, CRuntimeClass and the list of classes.
+
 #include <afx.h>
 
 #include <cstring>
@@ -9,13 +11,13 @@ CRuntimeClass CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObjec
 
 namespace {
 
-// Modules are loaded and unloaded by any thread.
+// Any thread can load and unload modules.
 struct ClassList {
     std::mutex mutex;
     CRuntimeClass* first = nullptr;
 };
 
-// Made when it is first used: classes of other source files register themselves in an order nobody knows.
+// Created at the first use: the initialisation order of the registering source files is undefined.
 ClassList& Classes() {
     static ClassList* const classes = new ClassList;
     return *classes;

@@ -1,6 +1,7 @@
+// Texts for callers' buffers.
 #pragma once
 
 #include <afxwin.h>
 
-/// Copies a text, cut to `maxLength` bytes with its terminating zero.
+/// Copies a text, cut to `maxLength` bytes with the terminating zero.
 void AfxCopyMessage(LPTSTR text, UINT maxLength, LPCTSTR message);

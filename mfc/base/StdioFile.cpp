@@ -1,3 +1,5 @@
+// CStdioFile: a file with the buffer of the C library.
+
 #include <afx.h>
 
 #include <cerrno>
@@ -13,7 +15,7 @@ HANDLE HandleOf(FILE* stream) {
     return reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
 }
 
-/// The stream modes that go with a file already opened, and made or truncated, by CFile.
+/// The stream mode for a file that CFile has already opened, created or truncated.
 const char* ModeOf(UINT openFlags) {
     const bool binary = (openFlags & CFile::typeBinary) != 0;
     switch (openFlags & (CFile::modeWrite | CFile::modeReadWrite)) {
@@ -66,7 +68,7 @@ BOOL CStdioFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
         error->m_strFileName = fileName;
     }
     if (descriptor != -1) {
-        ::_close(descriptor); // closes the handle too
+        ::_close(descriptor); // also closes the handle
         m_hFile = hFileNull;
     }
     CFile::Abort();

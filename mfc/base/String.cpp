@@ -1,3 +1,5 @@
+// CString: construction, assignment, comparison, buffers. StringEdit.cpp and StringFormat.cpp have the rest.
+
 #include <afx.h>
 
 #include <algorithm>
@@ -13,7 +15,7 @@ namespace {
 
 constexpr std::size_t longestText = INT_MAX - 1;
 
-// Every change that makes a text longer passes through here first.
+// Every function that makes a text longer calls RequireLength first.
 void RequireLength(std::size_t length) {
     if (length > longestText)
         AfxThrowMemoryException();
@@ -109,7 +111,7 @@ CString& CString::operator=(CString&& other) noexcept {
     return *this;
 }
 CString& CString::operator=(LPCTSTR text) {
-    // The text may be a part of this string: std::string allows that.
+    // `text` may be a part of this string; std::string supports that.
     RequireLength(LengthOf(text));
     AfxWithMemory([&] { m_text.assign(OrEmpty(text)); });
     return *this;
@@ -253,7 +255,7 @@ void CString::ReleaseBuffer(int newLength) {
     m_text.resize(std::min(length, room));
 }
 void CString::FreeExtra() {
-    // Only a request: a string that cannot get a smaller block keeps the one it has.
+    // shrink_to_fit is a request. If the smaller block cannot be allocated, the string keeps its block.
     m_text.shrink_to_fit();
 }
 LPTSTR CString::LockBuffer() {

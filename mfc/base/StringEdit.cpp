@@ -1,11 +1,11 @@
+// CString: members that search, extract and change.
+
 #include <afxtempl.h>
 
 #include <algorithm>
 #include <cstring>
 
 #include "mfc/base/CaseFold.h"
-
-// Members of CString that search, cut and change.
 
 namespace {
 
@@ -182,7 +182,7 @@ CString CString::Tokenize(LPCTSTR separators, int& position) const {
 }
 
 BOOL AfxExtractSubString(CString& part, LPCTSTR full, int index, TCHAR separator) {
-    // The text may be the characters of `part` itself, so that one changes last.
+    // `full` may point into `part`, so `part` changes last.
     const char* begin = full;
     for (; begin != nullptr && index > 0; --index) {
         begin = std::strchr(begin, separator);

@@ -1,15 +1,16 @@
+// CString: formats and string resources.
+
 #include <afxtempl.h>
 
 #include <cstdio>
 
 #include "mfc/base/Resource.h"
 
-// Members of CString that make texts from formats and resources.
-
 BOOL CString::LoadResource(UINT id) {
     const HINSTANCE module = AfxFindStringResourceHandle(id);
     if (module != nullptr) {
-        // With a length of 0 the system gives the address of the resource itself, which is not terminated.
+        // With a length of 0, the system returns the address of the resource. The resource has no
+        // terminating zero.
         LPCWSTR text = nullptr;
         const int length = ::LoadStringW(module, id, reinterpret_cast<LPWSTR>(&text), 0);
         if (length > 0) {
@@ -26,14 +27,14 @@ BOOL CString::LoadResource(UINT id) {
 void CString::AppendFormatted(std::size_t keep, LPCTSTR format, va_list args) {
     if (format == nullptr)
         AfxThrowInvalidArgException();
-    // The arguments may be characters of this very string, which stays as it is until the text is made.
+    // The arguments may point into this string, so the string changes only after the text is complete.
     char brief[256];
     va_list measured;
     va_copy(measured, args);
     const int length = std::vsnprintf(brief, sizeof brief, format, measured);
     va_end(measured);
     if (length < 0) {
-        // A wide text that has no form in the code page, or a text longer than INT_MAX.
+        // The format failed: a wide text has no form in the code page, or the text is longer than INT_MAX.
         m_text.resize(keep);
         return;
     }

@@ -1,3 +1,5 @@
+// CTime and CTimeSpan: conversions and formats.
+
 #include <afx.h>
 
 #include <algorithm>
@@ -9,7 +11,7 @@
 
 namespace {
 
-constexpr __time64_t kLastSecond = 910692730085; // of the last FILETIME that has a date
+constexpr __time64_t kLastSecond = 910692730085; // the last second of a FILETIME that has a date
 constexpr __time64_t kNoTime = -1;
 
 bool UtcFromTime(__time64_t time, SYSTEMTIME& utc) {
@@ -24,7 +26,7 @@ bool TimeFromUtc(const SYSTEMTIME& utc, __time64_t& time) {
     if (!::SystemTimeToFileTime(&utc, &fileTime))
         return false;
     time = SecondsOf(fileTime);
-    // Not every system refuses the 30th of February; some make it a day in March.
+    // Some systems accept the 30th of February and convert it to a day in March.
     SYSTEMTIME back;
     return UtcFromTime(time, back) && back.wMonth == utc.wMonth && back.wDay == utc.wDay;
 }
@@ -64,7 +66,8 @@ std::string OffsetText(int minutesEast) {
     return text;
 }
 
-/// strftime, code by code: the C library stops at a code it does not know, and reads the zone from elsewhere.
+/// Formats code by code with strftime. A single call of strftime would stop at an unknown code, and would use
+/// the zone of the C library.
 CString FormatTm(LPCTSTR format, const struct tm& value, const std::string& zoneName,
                  const std::string& offset) {
     CString text;
@@ -132,7 +135,7 @@ CString CTimeSpan::Format(LPCTSTR format) const {
             part = "%";
             break;
         default:
-            ASSERT(FALSE); // not a code of a time span
+            ASSERT(FALSE); // not a format code of a time span
             part.Format("%%%c", *at);
             break;
         }
@@ -189,7 +192,7 @@ CTime::CTime(const FILETIME& utc, int) : m_time(SecondsOf(utc)) {
 void CTime::SetLocal(const SYSTEMTIME& local, int isDst) {
     m_time = kNoTime;
     __time64_t wall = 0;
-    if (!TimeFromUtc(local, wall)) // checks the date
+    if (!TimeFromUtc(local, wall)) // fails for an invalid date
         return;
     SYSTEMTIME utc;
     if (isDst < 0) {

@@ -1,3 +1,5 @@
+// CButton.
+
 #include "afx/Controls.h"
 
 IMPLEMENT_DYNAMIC(CButton, CWnd)

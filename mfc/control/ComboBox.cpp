@@ -1,3 +1,5 @@
+// CComboBox.
+
 #include "afx/Controls.h"
 
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)

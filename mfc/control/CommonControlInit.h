@@ -1,6 +1,7 @@
+// Loading the system's common controls.
 #pragma once
 
 #include <windows.h>
 
-/// Makes the system register the window classes of the common controls named by ICC_ flags.
+/// Makes the system register the window classes of common controls. `classes` are ICC_ flags.
 BOOL LoadCommonControls(DWORD classes);

@@ -1,3 +1,5 @@
+// CStatusBarCtrl and CProgressCtrl.
+
 #include "afx/CommonControls.h"
 
 #include "mfc/control/CommonControlInit.h"

@@ -1,3 +1,5 @@
+// CEdit.
+
 #include "afx/Controls.h"
 
 #include <algorithm>
@@ -47,7 +49,7 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const {
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const {
     if (nMaxLength <= 0)
         return 0;
-    // The message takes the size from the buffer's first word, which a short buffer does not have.
+    // EM_GETLINE reads the buffer's size from its first word. A caller's buffer may be smaller than a WORD.
     const WORD limit = static_cast<WORD>(std::min<int>(nMaxLength, 0xFFFF));
     std::vector<TCHAR> line(std::max<std::size_t>(limit, sizeof(limit)));
     std::memcpy(line.data(), &limit, sizeof(limit));

@@ -1,3 +1,5 @@
+// CListBox.
+
 #include "afx/Controls.h"
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
@@ -27,7 +29,7 @@ int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem) {
 }
 
 int CListBox::SetCaretIndex(int nIndex, BOOL bScroll) {
-    // The message asks the opposite question: whether a partly visible item will do.
+    // LB_SETCARETINDEX takes the opposite flag: TRUE means that a partly visible item is not scrolled.
     return afx_control::Ask(m_hWnd, LB_SETCARETINDEX, Param(nIndex), MAKELPARAM(!bScroll, 0));
 }
 

@@ -1,3 +1,5 @@
+// CScrollBar.
+
 #include "afx/Controls.h"
 
 #include <algorithm>
@@ -14,7 +16,7 @@ BOOL CScrollBar::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT 
 
 BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
     lpScrollInfo->cbSize = sizeof(SCROLLINFO);
-    ::SetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo, bRedraw); // answers a position, which may be 0
+    ::SetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo, bRedraw); // the function returns a position, which may be 0
     return TRUE;
 }
 

@@ -1,3 +1,5 @@
+// CSliderCtrl and CSpinButtonCtrl.
+
 #include "afx/CommonControls.h"
 
 #include "mfc/control/CommonControlInit.h"

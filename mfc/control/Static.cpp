@@ -1,3 +1,5 @@
+// CStatic.
+
 #include "afx/Controls.h"
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)

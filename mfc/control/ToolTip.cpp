@@ -1,3 +1,5 @@
+// CToolTipCtrl.
+
 #include "afx/CommonControls.h"
 
 #include "mfc/control/CommonControlInit.h"
@@ -6,8 +8,8 @@ IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
 namespace {
 
-/// The record that names a tool: a part of a window by number, or a whole window as an item of its parent.
-/// `text` must live as long as the record.
+/// The record of a tool: a part of the window with a number, or (with `id` 0) the whole window as a child of
+/// its parent. The record points to `text`.
 TOOLINFO ToolOf(const CWnd& window, UINT_PTR id, LPCTSTR text = nullptr) {
     TOOLINFO tool{};
     tool.cbSize = sizeof(tool);
@@ -27,7 +29,7 @@ LRESULT Tell(HWND tooltip, UINT message, TOOLINFO& tool) {
     return ::SendMessage(tooltip, message, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-constexpr int kMaxTipText = 1024; // characters, as much as one string resource of the usual kind holds
+constexpr int kMaxTipText = 1024; // characters; the buffer for tool texts
 
 } // namespace
 

@@ -1,3 +1,5 @@
+// CColorDialog.
+
 #include <afxdlgs.h>
 
 #include <array>

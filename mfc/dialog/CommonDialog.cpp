@@ -1,3 +1,5 @@
+// CCommonDialog, the base of the system's dialogs.
+
 #include <afxdlgs.h>
 
 #include "mfc/dialog/ModalOwner.h"

@@ -1,3 +1,4 @@
+// The text of a control.
 #pragma once
 
 #include <afx.h>

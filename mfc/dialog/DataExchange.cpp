@@ -1,3 +1,5 @@
+// CDataExchange.
+
 #include <afxwin.h>
 
 CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)

@@ -1,3 +1,5 @@
+// CDialog.
+
 #include <afxwin.h>
 
 #include "mfc/control/CommonControlInit.h"
@@ -15,16 +17,15 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr UINT kFirstCommandId =
-    0x8000; // below are the IDs of controls, which mean nothing outside their dialog
+constexpr UINT kFirstCommandId = 0x8000; // smaller numbers are IDs of controls, for their dialog only
 constexpr UINT kFirstSystemId = 0xF000;
 
-/// The system's dialog manager asks it about every message. All are handled by the message map before.
+/// Dialog procedure for the system's dialog manager. CDialog's message map has handled the messages before.
 INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
-/// Keeps a window disabled while it lives.
+/// Disables a window while the object exists.
 class DisabledWindow {
 public:
     explicit DisabledWindow(HWND window)
@@ -43,8 +44,8 @@ private:
     HWND m_window;
 };
 
-/// The window of a modal dialog: it goes whichever way the loop ended, and after the owners are enabled
-/// again, or the system would activate another program's window in its place.
+/// Destroys the window of a modal dialog, whichever way the loop ends. The owners must be enabled before:
+/// otherwise the system would activate a window of another program.
 class ModalWindow {
 public:
     ModalWindow(CDialog& dialog, HWND owner) : m_dialog(dialog), m_owner(owner) {}
@@ -52,7 +53,7 @@ public:
     ModalWindow(const ModalWindow&) = delete;
     ModalWindow& operator=(const ModalWindow&) = delete;
 
-    /// Takes the window off the screen and activates the owner in its place.
+    /// Hides the window and activates the owner.
     void HandOver() {
         HWND const window = m_dialog.m_hWnd;
         if (window == nullptr)
@@ -94,7 +95,7 @@ BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
     const LPCDLGTEMPLATE dialogTemplate = LoadDialogTemplate(module, lpszTemplateName);
     if (dialogTemplate == nullptr)
         return FALSE;
-    m_lpszTemplateName = lpszTemplateName; // for the list contents that may be stored under the same name
+    m_lpszTemplateName = lpszTemplateName; // list data may be stored under the same name
     const BOOL created = CreateIndirect(dialogTemplate, pParentWnd);
     m_lpszTemplateName = nullptr;
     return created;
@@ -131,13 +132,13 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
 
 BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner) {
     ASSERT(m_hWnd == nullptr);
-    LoadCommonControls(ICC_WIN95_CLASSES); // templates may name any of them
+    LoadCommonControls(ICC_WIN95_CLASSES); // a template may contain any common control
     m_bCenter = WantsCentering(dialogTemplate);
     AfxHookWindowCreate(this);
     HWND const window =
         ::CreateDialogIndirectParam(AfxGetInstanceHandle(), dialogTemplate, owner, NoDialogProc, 0);
     if (!AfxUnhookWindowCreate())
-        PostNcDestroy(); // no window was ever tied to this object: nobody else would tell it
+        PostNcDestroy(); // no window was attached, so there was no WM_NCDESTROY
     if (window != nullptr && m_hWnd != window)
         ::DestroyWindow(window);
     return window != nullptr && m_hWnd == window;
@@ -162,7 +163,7 @@ INT_PTR CDialog::DoModal() {
         return -1;
     HWND const owner = ModalOwner(m_pParentWnd);
     m_nModalResult = -1;
-    m_bContinueModal = TRUE; // lets EndDialog() work from OnInitDialog() on, before there is a loop
+    m_bContinueModal = TRUE; // EndDialog() in OnInitDialog() needs the flag before RunModalLoop() sets it
     try {
         ModalWindow modal(*this, owner);
         {

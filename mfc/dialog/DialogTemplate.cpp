@@ -1,3 +1,5 @@
+// Dialog templates: position and styles, and the list data of RT_DLGINIT resources.
+
 #include "mfc/dialog/DialogTemplate.h"
 
 #include <afxwin.h>
@@ -9,7 +11,7 @@ namespace {
 const LPCTSTR kListDataType = MAKEINTRESOURCE(240);
 constexpr WORD kExtendedSignature = 0xFFFF;
 
-/// Head of an extended template; what follows it does not matter here.
+/// The first fields of an extended template.
 #pragma pack(push, 2)
 struct ExtendedTemplate {
     WORD version;
@@ -22,7 +24,8 @@ struct ExtendedTemplate {
     short y;
 };
 
-/// One entry of list data, followed by `size` bytes of text with its zero. A zero ID ends the list.
+/// An entry of list data. `size` bytes of text, with the terminating zero, follow. An entry with ID 0 ends
+/// the data.
 struct ListEntry {
     WORD control;
     WORD message;
@@ -30,7 +33,7 @@ struct ListEntry {
 };
 #pragma pack(pop)
 
-// Messages as list data numbers them: those of the first 16-bit systems.
+// Message numbers in list data, which are those of 16-bit Windows.
 constexpr WORD kAddToListBox = 0x0401;
 constexpr WORD kAddToComboBox = 0x0403;
 

@@ -1,3 +1,5 @@
+// DDX_ routines for states, selections, positions and control objects.
+
 #include <afxdd_.h>
 #include <afxwin.h>
 
@@ -34,7 +36,7 @@ CString SelectedText(HWND listBox) {
 
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl) {
     if (rControl.m_hWnd != nullptr)
-        return; // bound by an earlier exchange
+        return; // an earlier exchange has bound the object
     if (!rControl.SubclassWindow(pDX->PrepareCtrl(nIDC)))
         AfxThrowNotSupportedException();
 }

@@ -1,3 +1,5 @@
+// DDV_ routines for ranges.
+
 #include <afxdd_.h>
 #include <afxres.h>
 #include <afxwin.h>
@@ -28,7 +30,7 @@ void CheckInteger(CDataExchange* pDX, long long value, long long lowest, long lo
 
 void CheckReal(CDataExchange* pDX, double value, double lowest, double highest, int digits) {
     ASSERT(lowest <= highest);
-    const bool inside = value >= lowest && value <= highest; // false for what is no number, too
+    const bool inside = value >= lowest && value <= highest; // also false for NaN
     if (pDX->m_bSaveAndValidate && !inside)
         FailWithPrompt(pDX, AFX_IDP_PARSE_REAL_RANGE, Text(lowest, digits), Text(highest, digits));
 }

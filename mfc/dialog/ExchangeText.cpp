@@ -1,3 +1,5 @@
+// DDX_Text for numbers and texts, and DDV_MaxChars.
+
 #include <afxdd_.h>
 #include <afxres.h>
 #include <afxwin.h>
@@ -16,13 +18,14 @@ namespace {
 
 constexpr LPCTSTR kBlanks = _T(" \t\r\n");
 
-/// Leaves a control alone that shows the text already: setting it would flicker and reset the caret.
+/// Sets the text of a control unless the control has it already. Setting an equal text would flicker and move
+/// the caret.
 void ShowText(HWND control, LPCTSTR text) {
     if (ControlText(control) != text)
         ::SetWindowText(control, text);
 }
 
-/// Whether only blanks follow, and something stood before.
+/// Whether a number was read (`end` differs from `start`) and only blanks follow.
 bool IsWholeNumber(LPCTSTR start, LPCTSTR end) {
     return end != start && end[std::strspn(end, kBlanks)] == 0;
 }
@@ -34,7 +37,7 @@ bool ReadSigned(LPCTSTR text, long long lowest, long long highest, long long& va
     return errno == 0 && IsWholeNumber(text, end) && value >= lowest && value <= highest;
 }
 
-/// As C reads unsigned numbers, but without their wrapped negatives.
+/// strtoull accepts negative numbers and wraps them, so texts with '-' are refused first.
 bool ReadUnsigned(LPCTSTR text, unsigned long long highest, unsigned long long& value) {
     if (std::strchr(text, '-') != nullptr)
         return false;
@@ -44,7 +47,7 @@ bool ReadUnsigned(LPCTSTR text, unsigned long long highest, unsigned long long& 
     return errno == 0 && IsWholeNumber(text, end) && value <= highest;
 }
 
-/// Decimal notation only: no words for infinity, no hexadecimal digits.
+/// Accepts decimal notation only: no "inf" or "nan", no hexadecimal numbers.
 bool ReadReal(LPCTSTR text, double largest, double& value) {
     if (text[std::strspn(text, _T("0123456789+-.eE \t\r\n"))] != 0)
         return false;
@@ -148,7 +151,7 @@ void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars) {
     }
     if (pDX->m_hWndLastControl == nullptr || !pDX->m_bEditLastControl)
         return;
-    // A combo box has a message of its own; an edit control takes its number for something else.
+    // A combo box has its own message. The number of that message means something else to an edit control.
     TCHAR className[16] = {};
     ::GetClassName(pDX->m_hWndLastControl, className, _countof(className));
     const UINT message = ::lstrcmpi(className, _T("COMBOBOX")) == 0 ? CB_LIMITTEXT : EM_LIMITTEXT;

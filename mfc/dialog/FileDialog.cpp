@@ -1,3 +1,5 @@
+// CFileDialog.
+
 #include <afxdlgs.h>
 
 #include <cstring>
@@ -29,7 +31,7 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
         lstrcpyn(m_szFileName, lpszFileName, _countof(m_szFileName));
     if (lpszFilter != nullptr) {
         m_strFilter = lpszFilter;
-        m_strFilter += _T("||"); // the list ends with two zeros, also where the caller left bars out
+        m_strFilter += _T("||"); // the list must end with two zeros, even if the last bars are missing
         for (int i = 0; i < m_strFilter.GetLength(); ++i)
             if (m_strFilter[i] == _T('|'))
                 m_strFilter.SetAt(i, _T('\0'));
@@ -96,7 +98,8 @@ CString CFileDialog::GetNextPathName(POSITION& pos) const {
         pos = nullptr;
         return name;
     }
-    // Several files: the folder, then the names, each with its zero; an empty name ends them.
+    // With several files, the buffer holds the folder and then the names, each with its zero. An empty name
+    // ends the list.
     CString path = m_ofn.lpstrFile;
     if (path.Right(1) != _T("\\"))
         path += _T('\\');
@@ -150,7 +153,7 @@ BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     default:
         return CCommonDialog::OnNotify(wParam, lParam, pResult);
     }
-    // The system's dialog reads the answer where dialog procedures leave theirs.
+    // The system's dialog reads the result from DWLP_MSGRESULT.
     ::SetWindowLongPtr(m_hWnd, DWLP_MSGRESULT, *pResult);
     return TRUE;
 }

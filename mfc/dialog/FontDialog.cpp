@@ -1,3 +1,5 @@
+// CFontDialog.
+
 #include <afxdlgs.h>
 
 IMPLEMENT_DYNAMIC(CFontDialog, CCommonDialog)

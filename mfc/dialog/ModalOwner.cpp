@@ -1,3 +1,5 @@
+// The windows that a modal dialog disables.
+
 #include "mfc/dialog/ModalOwner.h"
 
 #include <afxwin.h>

@@ -1,12 +1,13 @@
+// The windows that a modal dialog disables.
 #pragma once
 
 #include <windows.h>
 
 class CWnd;
 
-/// The window that owns a modal dialog: the top-level window of `parent`; without a parent, the popup of the
-/// main window that the user worked with last, or the main window itself. NULL if there is none of these.
+/// The owner of a modal dialog: the top-level window of `parent`. Without a parent, the popup of the main
+/// window that was active last, else the main window, else NULL.
 HWND ModalOwner(const CWnd* parent);
 
-/// The end of a window's chain of owners, which a modal dialog blocks as well: often the main window.
+/// The last window in the chain of owners, often the main window. A modal dialog disables it too.
 HWND TopmostOwner(HWND window);

@@ -1,10 +1,12 @@
+// CPrintDialog.
+
 #include <afxdlgs.h>
 
 IMPLEMENT_DYNAMIC(CPrintDialog, CCommonDialog)
 
 namespace {
 
-/// Locks a block of the system's memory for as long as it lives.
+/// Locks a block of global memory while the object exists.
 template <class Record> class Locked {
 public:
     explicit Locked(HGLOBAL memory)
@@ -49,7 +51,7 @@ UINT_PTR CALLBACK CPrintDialog::HookProc(HWND window, UINT message, WPARAM, LPAR
     if (message != WM_INITDIALOG)
         return FALSE;
     auto* const dialog = reinterpret_cast<CPrintDialog*>(reinterpret_cast<PRINTDLG*>(lParam)->lCustData);
-    // "Print" may show "Print Setup" above itself; the object stays with the first of them.
+    // The "Print" dialog may open "Print Setup". The object stays attached to the first window.
     if (dialog->GetSafeHwnd() != nullptr)
         return TRUE;
     return dialog->SubclassWindow(window) && dialog->OnInitDialog();
@@ -59,7 +61,7 @@ BOOL CPrintDialog::GetDefaults() {
     PRINTDLG defaults = m_pd;
     defaults.Flags = (m_pd.Flags | PD_RETURNDEFAULT) &
                      ~static_cast<DWORD>(PD_ENABLEPRINTHOOK | PD_ENABLESETUPHOOK | PD_RETURNDC);
-    defaults.hDevMode = nullptr; // the system insists
+    defaults.hDevMode = nullptr; // PD_RETURNDEFAULT requires NULL here
     defaults.hDevNames = nullptr;
     if (!::PrintDlg(&defaults))
         return FALSE;

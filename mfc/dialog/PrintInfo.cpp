@@ -1,3 +1,5 @@
+// CPrintInfo.
+
 #include <afxdlgs.h>
 #include <afxext.h>
 

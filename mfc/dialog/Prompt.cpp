@@ -1,3 +1,5 @@
+// Messages about wrong input.
+
 #include "mfc/dialog/Prompt.h"
 
 void FailWithPrompt(CDataExchange* pDX, UINT id, LPCTSTR first, LPCTSTR second) {

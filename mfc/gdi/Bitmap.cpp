@@ -1,3 +1,5 @@
+// CBitmap.
+
 #include "afx/DC.h"
 #include "afx/GdiObject.h"
 #include "afx/Module.h"

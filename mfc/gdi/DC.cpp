@@ -1,3 +1,5 @@
+// CDC: handles, creation, saved states. The other members are in the other DC*.cpp files.
+
 #include "afx/DC.h"
 
 #include "mfc/gdi/Handles.h"
@@ -25,7 +27,7 @@ CDC::~CDC() {
 CDC* PASCAL CDC::FromHandle(HDC hDC) {
     ThreadGdiMaps* const maps = GdiMaps();
     CDC* const dc = maps == nullptr ? nullptr : maps->dcs.FromHandle(hDC);
-    if (dc != nullptr && dc->m_hDC != hDC) { // a program detached or deleted through a temporary wrapper
+    if (dc != nullptr && dc->m_hDC != hDC) { // a program has detached the handle through the wrapper
         dc->m_hDC = hDC;
         dc->m_hAttribDC = hDC;
     }
@@ -38,7 +40,7 @@ void PASCAL CDC::DeleteTempMap() {
 }
 
 HDC CDC::GetSafeHdc() const {
-    const CDC* volatile self = this; // may be asked of a NULL object
+    const CDC* volatile self = this; // the call is allowed on a NULL object
     return self == nullptr ? nullptr : m_hDC;
 }
 
@@ -115,7 +117,8 @@ BOOL CDC::ResetDC(const DEVMODE* lpDevMode) {
 int CDC::SaveDC() {
     if (m_hDC == m_hAttribDC || m_hAttribDC == nullptr || m_hDC == nullptr)
         return ::SaveDC(m_hDC != nullptr ? m_hDC : m_hAttribDC);
-    // Two DCs count their saves apart; "the latest" is the only number that means the same to both.
+    // The two DCs count their saved states separately. Only -1, the latest state, has the same meaning
+    // for both.
     const bool saved = ::SaveDC(m_hAttribDC) != 0;
     return ::SaveDC(m_hDC) != 0 && saved ? -1 : 0;
 }

@@ -1,3 +1,5 @@
+// CDC: drawing attributes and clips.
+
 #include "afx/DC.h"
 #include "mfc/gdi/Handles.h"
 
@@ -105,8 +107,8 @@ UINT CDC::SetBoundsRect(LPCRECT lpRectBounds, UINT flags) {
 BOOL CDC::SelectClipPath(int nMode) {
     if (m_hAttribDC == nullptr || m_hAttribDC == m_hDC)
         return ::SelectClipPath(m_hDC, nMode);
-    // The attribute DC has no path of its own: hand it the region, or its clip questions would answer
-    // otherwise.
+    // The path exists in the output DC only. The attribute DC gets the same region, so that questions about
+    // the clip have the same answers.
     ::SaveDC(m_hDC);
     CRgn region;
     const BOOL known = region.CreateFromPath(this);

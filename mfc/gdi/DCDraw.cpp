@@ -1,10 +1,12 @@
+// CDC: lines, fills and pictures.
+
 #include "afx/DC.h"
 #include "mfc/gdi/Handles.h"
 
 namespace {
 
-/// Drawing moves the position of the output DC only: the attribute DC, which answers for it, is moved after
-/// it.
+/// Drawing moves the position of the output DC. The position of the attribute DC, which GetCurrentPosition()
+/// returns, follows.
 BOOL WithPosition(const CDC& dc, BOOL drawn) {
     POINT position{};
     if (dc.m_hAttribDC != nullptr && dc.m_hAttribDC != dc.m_hDC &&

@@ -1,3 +1,5 @@
+// CDC: mapping modes, and conversions between units.
+
 #include "afx/DC.h"
 #include "mfc/gdi/Handles.h"
 
@@ -7,7 +9,7 @@ namespace {
 
 constexpr int kHimetricPerInch = 2540; // one HIMETRIC unit is 0.01 mm
 
-/// Modes in which GDI itself fixes how long a unit is.
+/// Whether GDI defines the length of a unit in the mode.
 bool HasFixedUnits(int mapMode) {
     return mapMode != 0 && mapMode != MM_TEXT && mapMode != MM_ISOTROPIC && mapMode != MM_ANISOTROPIC;
 }
@@ -112,8 +114,8 @@ void CDC::LPtoDP(LPSIZE lpSize) const {
 void CDC::DPtoHIMETRIC(LPSIZE lpSize) const {
     const int mode = GetMapMode();
     if (HasFixedUnits(mode)) {
-        // Only this DC's view of units changes for a moment; the mapping members of derived classes stay out
-        // of it.
+        // ::SetMapMode() instead of the virtual SetMapMode(): the mode changes only for the conversion, in
+        // the attribute DC.
         ::SetMapMode(m_hAttribDC, MM_HIMETRIC);
         DPtoLP(lpSize);
         ::SetMapMode(m_hAttribDC, mode);

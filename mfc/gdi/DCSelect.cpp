@@ -1,3 +1,5 @@
+// CDC: selected objects and the halftone brush.
+
 #include "afx/DC.h"
 #include "mfc/gdi/Handles.h"
 
@@ -5,8 +7,8 @@
 
 namespace {
 
-/// `select`s a handle into each DC that is not NULL. The result is `wrap` of the handle that the last one had
-/// before; when there is no memory for it, the DCs get back what they had, and the result is NULL.
+/// Calls `select` with the handle for each DC that is not NULL. Returns `wrap` of the former handle of the
+/// last DC. If memory runs out, selects the former handles again and returns NULL.
 template <class Select, class Wrap> auto SelectInto(std::initializer_list<HDC> dcs, HGDIOBJ handle,
                                                     Select select, Wrap wrap) -> decltype(wrap(handle)) {
     HGDIOBJ formers[2] = {};
@@ -32,7 +34,7 @@ template <class Object, class Handle> Object* ObjectOf(HGDIOBJ handle) {
     return Object::FromHandle(static_cast<Handle>(handle));
 }
 
-/// Every second pixel of an 8 x 8 pattern; rows are WORD aligned.
+/// A pattern of 8 x 8 pixels with every second pixel set. Rows are aligned to WORD.
 constexpr WORD kHalftoneRows[8] = {0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA};
 
 } // namespace

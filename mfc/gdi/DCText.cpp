@@ -1,8 +1,10 @@
+// CDC: text and its measures.
+
 #include "afx/DC.h"
 #include "mfc/gdi/Handles.h"
 
 namespace {
-/// The system packs a width and a height into one number.
+/// Width in the low word, height in the high word.
 CSize Unpacked(DWORD extent) {
     return CSize(LOWORD(extent), HIWORD(extent));
 }
@@ -40,7 +42,7 @@ CSize CDC::GetTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions
 }
 
 int CDC::GetTextFace(CString& rString) const {
-    const int needed = ::GetTextFace(m_hAttribDC, 0, nullptr); // counts the terminating zero
+    const int needed = ::GetTextFace(m_hAttribDC, 0, nullptr); // includes the terminating zero
     if (needed <= 0) {
         rString.Empty();
         return 0;

@@ -1,3 +1,5 @@
+// CGdiObject.
+
 #include "afx/GdiObject.h"
 
 #include "mfc/gdi/Handles.h"
@@ -41,7 +43,7 @@ void PASCAL CGdiObject::DeleteTempMap() {
 }
 
 HGDIOBJ CGdiObject::GetSafeHandle() const {
-    // Callers rely on asking a NULL object; the detour keeps the compiler from assuming that there is none.
+    // The call is allowed on a NULL object. `volatile` keeps the compiler from removing the test.
     const CGdiObject* volatile self = this;
     return self == nullptr ? nullptr : m_hObject;
 }

@@ -1,3 +1,5 @@
+// CPen, CBrush, CFont and CPalette.
+
 #include "afx/DC.h"
 #include "afx/GdiObject.h"
 #include "mfc/gdi/Handles.h"
@@ -14,8 +16,8 @@ namespace {
 
 constexpr int kTenthsOfPointPerInch = 720;
 
-/// A permanent object of another class (a plain CGdiObject that a pen was attached to) must not hide the
-/// handle.
+/// The object of class `Object` for a handle. An attached object of another class, such as a plain
+/// CGdiObject, does not count.
 template <class Object> Object* FromHandleOf(HGDIOBJ handle, bool isOfKind) {
     ThreadGdiMaps* const maps = GdiMaps();
     return handle != nullptr && isOfKind && maps != nullptr ? maps->objects.Find<Object>(handle) : nullptr;

@@ -1,3 +1,4 @@
+// Handles of objects that may be NULL, and new handles while memory runs out.
 #pragma once
 
 #include "afx/DC.h"
@@ -6,7 +7,7 @@
 
 #include <new>
 
-/// Handles of objects that may be NULL, without a member call on them.
+/// The handle of an object; NULL for a NULL object.
 inline HDC SafeHandle(const CDC* dc) {
     return dc == nullptr ? nullptr : dc->m_hDC;
 }
@@ -23,7 +24,7 @@ inline HRGN RegionHandle(const CRgn* region) {
     return static_cast<HRGN>(SafeHandle(region));
 }
 
-/// Runs `work`; false when memory runs out meanwhile.
+/// Runs `work`. Returns false if memory runs out.
 template <class Work> bool HasMemoryFor(Work work) {
     try {
         work();
@@ -35,8 +36,7 @@ template <class Work> bool HasMemoryFor(Work work) {
     return false;
 }
 
-/// Attaches a handle that was just made for `owner`. When memory runs out, `destroy` ends the handle, and the
-/// result is FALSE.
+/// Attaches a new handle to `owner`. If memory runs out, calls `destroy` for the handle and returns FALSE.
 template <class Owner, class Handle, class Destroy>
 BOOL AttachNew(Owner& owner, Handle handle, Destroy destroy) {
     BOOL attached = FALSE;
@@ -45,7 +45,8 @@ BOOL AttachNew(Owner& owner, Handle handle, Destroy destroy) {
     return attached;
 }
 
-/// Applies a setting to the output DC and the attribute DC; the attribute DC's answer counts if there is one.
+/// Applies a setting to the output DC and to the attribute DC. Returns the result of the attribute DC, or of
+/// the output DC if there is no attribute DC.
 template <class Set> auto ForBoth(const CDC& dc, Set set) -> decltype(set(HDC())) {
     decltype(set(HDC())) answer{};
     if (dc.m_hDC != nullptr && dc.m_hDC != dc.m_hAttribDC)

@@ -1,3 +1,5 @@
+// CMenu.
+
 #include "afx/Menu.h"
 
 #include "afx/GdiObject.h"
@@ -36,7 +38,7 @@ CMenu* PASCAL CMenu::FromHandle(HMENU hMenu) {
     ThreadGdiMaps* const maps = GdiMaps();
     CMenu* const menu = maps == nullptr ? nullptr : maps->menus.FromHandle(hMenu);
     if (menu != nullptr)
-        menu->m_hMenu = hMenu; // a program may have detached or destroyed through a temporary wrapper
+        menu->m_hMenu = hMenu; // a program may have detached or destroyed the menu through the wrapper
     return menu;
 }
 
@@ -51,7 +53,7 @@ void PASCAL CMenu::DeleteTempMap() {
 }
 
 HMENU CMenu::GetSafeHmenu() const {
-    const CMenu* volatile self = this; // may be asked of a NULL object
+    const CMenu* volatile self = this; // the call is allowed on a NULL object
     return self == nullptr ? nullptr : m_hMenu;
 }
 
@@ -117,7 +119,7 @@ BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpU
 int CMenu::GetMenuString(UINT nIDItem, LPTSTR lpString, int nMaxCount, UINT nFlags) const {
     const int copied = ::GetMenuString(m_hMenu, nIDItem, lpString, nMaxCount, nFlags);
     if (lpString != nullptr && nMaxCount > 0)
-        lpString[nMaxCount - 1] = 0; // Wine leaves it out of a text that it cuts
+        lpString[nMaxCount - 1] = 0; // Wine does not terminate a text that it cuts
     return copied;
 }
 

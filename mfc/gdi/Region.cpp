@@ -1,3 +1,5 @@
+// CRgn.
+
 #include "afx/DC.h"
 #include "afx/GdiObject.h"
 #include "mfc/gdi/Handles.h"

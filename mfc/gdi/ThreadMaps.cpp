@@ -1,8 +1,10 @@
+// Creation and deletion of the handle maps of a thread.
+
 #include "mfc/gdi/ThreadMaps.h"
 
 namespace {
 
-// Plain thread-local variables: they can still be read when the thread's objects are gone.
+// Variables without destructors, so that code can read them after the thread's objects are destroyed.
 thread_local ThreadGdiMaps* t_maps = nullptr;
 thread_local bool t_ended = false;
 
@@ -21,7 +23,7 @@ thread_local MapsEnd t_end;
 
 ThreadGdiMaps* GdiMaps() {
     if (t_maps == nullptr && !t_ended) {
-        t_end.armed = true; // the first use makes its destructor run at the thread's end
+        t_end.armed = true; // the first access registers the destructor for the end of the thread
         t_maps = new ThreadGdiMaps;
     }
     return t_maps;

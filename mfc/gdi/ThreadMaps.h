@@ -1,3 +1,4 @@
+// The handle maps of DCs, menus and GDI objects, one set for each thread.
 #pragma once
 
 #include "afx/DC.h"
@@ -8,7 +9,7 @@
 #include <array>
 #include <memory>
 
-/// Wraps a DC, menu or GDI object for as long as the thread is busy, and forgets it without destroying it.
+/// Create a temporary wrapper for a handle, and clear the wrapper's handle without destroying it.
 struct DCTraits {
     static std::unique_ptr<CDC> Wrap(HDC handle);
     static void Unwrap(CDC& dc);
@@ -28,18 +29,19 @@ template <class Object> struct GdiTraits {
     static void Unwrap(CGdiObject& object) { object.m_hObject = nullptr; }
 };
 
-/// The wrappers of one thread's GDI handles.
+/// The wrappers of a thread's GDI handles.
 ///
-/// Temporaries are kept by class, so that a handle that was deleted and came back as another kind of object
-/// within the same message never meets the wrapper of its former life.
+/// Each class has its own map of temporary wrappers. GDI may reuse the number of a deleted handle for an
+/// object of another kind, and such a handle must not get the old wrapper.
 class GdiObjectMap {
 public:
     CGdiObject* Permanent(HGDIOBJ handle) const { return m_permanent.Permanent(handle); }
     void SetPermanent(HGDIOBJ handle, CGdiObject* object) { m_permanent.SetPermanent(handle, object); }
-    /// Forgets the entry only if it is `object`'s: the handle may have found another owner meanwhile.
+    /// Removes the entry of `handle` if it is `object`. Another object may own the handle meanwhile.
     void Remove(HGDIOBJ handle, const CGdiObject* object);
 
-    /// The wrapper of class `Object` for a handle of that kind; the permanent one if it is of that class.
+    /// The wrapper of class `Object` for a handle of that kind. The attached object, if it has that class;
+    /// else a temporary one.
     template <class Object> Object* Find(HGDIOBJ handle) {
         if (auto* const permanent = dynamic_cast<Object*>(Permanent(handle)))
             return permanent;
@@ -54,7 +56,7 @@ private:
     template <class Map> static CGdiObject* Temporary(Map& map, HGDIOBJ handle) {
         CGdiObject* const object = map.FromHandle(handle);
         if (object != nullptr)
-            object->m_hObject = handle; // a program may have detached or deleted through the wrapper
+            object->m_hObject = handle; // a program may have detached the handle through the wrapper
         return object;
     }
     Temporaries<CPen>& TemporariesOf(const CPen*) { return m_pens; }
@@ -65,7 +67,7 @@ private:
     Temporaries<CRgn>& TemporariesOf(const CRgn*) { return m_regions; }
     Temporaries<CGdiObject>& TemporariesOf(const CGdiObject*) { return m_others; }
 
-    Temporaries<CGdiObject> m_permanent; // its temporary half stays empty
+    Temporaries<CGdiObject> m_permanent; // only the permanent entries are used
     Temporaries<CPen> m_pens;
     Temporaries<CBrush> m_brushes;
     Temporaries<CFont> m_fonts;
@@ -75,15 +77,15 @@ private:
     Temporaries<CGdiObject> m_others;
 };
 
-/// All maps of the calling thread.
+/// All maps of a thread.
 struct ThreadGdiMaps {
     GdiObjectMap objects;
     HandleMap<CDC, HDC, DCTraits> dcs;
     HandleMap<CMenu, HMENU, MenuTraits> menus;
 };
 
-/// The calling thread's maps, made at first use. NULL once the thread has begun to end: global objects that
-/// own handles may be destroyed after the maps.
+/// The maps of the calling thread. The first call creates them. NULL at the end of the thread, because global
+/// objects that own handles may be destroyed after the maps.
 ThreadGdiMaps* GdiMaps();
-/// The same, and NULL where none have been made: what only takes an entry out must not ask for memory.
+/// The maps of the calling thread if they exist, else NULL. Removing an entry must not allocate memory.
 ThreadGdiMaps* MadeGdiMaps();

@@ -1,3 +1,5 @@
+// CPaintDC, CClientDC, CWindowDC and CMetaFileDC.
+
 #include "afx/WindowDC.h"
 
 #include "mfc/gdi/Handles.h"
@@ -48,7 +50,7 @@ BOOL CMetaFileDC::Create(LPCTSTR lpszFilename) {
     const auto discard = [](HDC dc) { ::DeleteMetaFile(::CloseMetaFile(dc)); };
     if (!AttachNew(*this, ::CreateMetaFile(lpszFilename), discard))
         return FALSE;
-    ReleaseAttribDC(); // a recording cannot answer for a device
+    ReleaseAttribDC(); // a recording has no device that could answer questions
     return TRUE;
 }
 

@@ -1,6 +1,6 @@
+// Foundation of the class library: diagnostics, CObject, CString, exceptions, files, archives, times, CRect.
 #pragma once
 
-// The foundation: diagnostics, CObject, CString, exceptions, files, archives, times, points and rectangles.
 // The collections have headers of their own: afxcoll.h for the ready-made ones, afxtempl.h for the templates.
 
 #include <windows.h>

@@ -1,3 +1,4 @@
+// The common controls: status bar, progress bar, slider, up-down control, tooltip.
 #pragma once
 
 #include "afx/CommonControls.h"

@@ -1,6 +1,5 @@
+// The collections of ready-made element types.
 #pragma once
-
-// Collections of ready-made element types.
 
 #include <afx.h>
 

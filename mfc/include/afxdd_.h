@@ -1,3 +1,4 @@
+// Dialog data exchange (DDX_) and validation (DDV_) routines.
 #pragma once
 
 #include "afx/DataExchange.h"
@@ -6,14 +7,13 @@
 class CListBox;
 class CComboBox;
 
-/// Dialog data exchange: each routine moves one value between a member and a control, in the direction that
-/// `pDX->m_bSaveAndValidate` tells. Call them from DoDataExchange() only. Input that cannot be read as the
-/// member's type is told to the user and ends the exchange (CUserException*, which CWnd::UpdateData() answers
-/// with FALSE).
+/// Dialog data exchange. Each DDX_ routine copies one value between a member and a control, in the direction
+/// of `pDX->m_bSaveAndValidate`. Call the routines from DoDataExchange() only. If the input is not a value of
+/// the member's type, the routine shows a message and throws CUserException*. CWnd::UpdateData() catches that
+/// exception and returns FALSE.
 
-/// @name Text of a control. Numbers: decimal, with blanks around allowed; floating-point numbers show 6
-/// digits (float) or 15 (double).
-/// @{
+/// Text of a control. Numbers are decimal, and blanks may surround them. Real numbers show 6 digits (float)
+/// or 15 (double).
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value);
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value);
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value);
@@ -23,36 +23,34 @@ void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value);
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
-/// @}
 
-/// 0, 1 or 2 (indeterminate); another value is shown as 0.
+/// State of a check box: 0, 1 or 2 (indeterminate). Another value is shown as 0.
 void MFC_API AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
-/// The position, from 0, of the chosen button in the group that starts at `nIDC` (which has WS_GROUP); -1 if
-/// none is.
+/// Number, from 0, of the chosen button in the group that starts at `nIDC`; -1 if no button is chosen. The
+/// first button has the style WS_GROUP.
 void MFC_API AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
 
-/// @name Lists: the selected index (-1: none), the selected text, or the text that must match exactly
-/// @{
+/// Selection of a list box or combo box: the index (-1 for none), the first item that begins with the text,
+/// or the item that equals the text.
 void MFC_API AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
 void MFC_API AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index);
-/// The text of the combo box; a text that no item begins with goes into the edit field, if there is one.
+/// Text of a combo box. If no item begins with the text, the text goes into the edit field.
 void MFC_API AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value);
-/// @}
 
 /// Position of a scroll bar control.
 void MFC_API AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
 /// Position of a slider (trackbar).
 void MFC_API AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
 
-/// Binds `rControl` to the control by subclassing it, the first time; later calls change nothing. Throws
-/// CNotSupportedException* if there is no such control.
+/// Binds `rControl` to the control by subclassing the control's window. Later calls for a bound object do
+/// nothing. Throws CNotSupportedException* if the window has no such control.
 void MFC_API AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
 
-/// Validation: call it right after the value's DDX_ routine. When saving, a value out of range is told to the
-/// user and ends the exchange as unreadable input does.
+/// Validation of a range. Call the routine directly after the DDX_ routine of the value. While saving, a
+/// value outside the range shows a message and throws CUserException*.
 void MFC_API AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal);
 void MFC_API AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal);
 void MFC_API AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
@@ -62,5 +60,6 @@ void MFC_API AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVa
 void MFC_API AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal);
 void MFC_API AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal);
 void MFC_API AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
-/// When loading, also limits what can be typed.
+/// Validation of a length. While loading, the routine also limits the number of characters that the user
+/// can type.
 void MFC_API AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);

@@ -1,3 +1,4 @@
+// The system's own dialogs: open and save, colour, font, print.
 #pragma once
 
 #include "afx/CommonDialogs.h"

@@ -1,5 +1,4 @@
-#pragma once
-
 // What the main source of an extension DLL includes: AFX_EXTENSION_MODULE and CDynLinkLibrary.
+#pragma once
 
 #include <afxwin.h>

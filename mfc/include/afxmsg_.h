@@ -1,15 +1,16 @@
+// Message-map rows for Windows messages and for the notifications of the standard controls.
 #pragma once
 
 #include "afx/CmdTarget.h"
 
-// Message-map rows for Windows messages (each ties a message to the member function of the like name, whose
-// arguments stand in CWnd) and for the notifications of the standard controls.
+// A row ON_WM_X() ties the message WM_X to the member function OnX, whose declaration stands in CWnd.
 
-/// Row for the handler `name` of the class whose map is being written.
+/// Row for the handler `name` of the class whose map the source defines.
 #define AFX_ON_WM(message, sig, result, name, args)                                                          \
     {message, 0, 0, 0, AfxSig::sig, static_cast<result(CWnd::*) args>(&AfxMapNames::Class::name)},
 
-// Messages whose handlers occur with either of two argument types: the handler's own type decides.
+// Messages whose handlers exist with two argument types. The type of the program's handler selects
+// the overload.
 #ifdef _WIN64
 template <class C> constexpr AFX_MSGMAP_ENTRY AfxTimerEntry(void (C::*f)(UINT_PTR)) {
     return {WM_TIMER, 0, 0, 0, AfxSig::v_timer, static_cast<void (CWnd::*)(UINT_PTR)>(f)};
@@ -169,7 +170,7 @@ template <class C> constexpr AFX_MSGMAP_ENTRY AfxActivateAppEntry(void (C::*f)(B
 #define ON_WM_RENDERALLFORMATS() AFX_ON_WM(WM_RENDERALLFORMATS, v, void, OnRenderAllFormats, ())
 #define ON_WM_CHANGECBCHAIN() AFX_ON_WM(WM_CHANGECBCHAIN, v_windows, void, OnChangeCbChain, (HWND, HWND))
 
-// Reflected messages: the control handles what it would otherwise have sent to its parent
+// Reflected messages: the parent hands the message back, and the control's own handler runs
 #define ON_WM_CTLCOLOR_REFLECT()                                                                             \
     AFX_ON_WM(WM_REFLECT_BASE + WM_CTLCOLOR, brush_du, HBRUSH, CtlColor, (CDC*, UINT))
 #define ON_WM_HSCROLL_REFLECT()                                                                              \
@@ -222,7 +223,7 @@ template <class C> constexpr AFX_MSGMAP_ENTRY AfxActivateAppEntry(void (C::*f)(B
 #define ON_LBN_SETFOCUS(id, memberFxn) ON_CONTROL(LBN_SETFOCUS, id, memberFxn)
 #define ON_LBN_KILLFOCUS(id, memberFxn) ON_CONTROL(LBN_KILLFOCUS, id, memberFxn)
 
-/// A check list box's item was ticked or cleared.
+/// The user ticked or cleared an item of a check list box.
 #define CLBN_CHKCHANGE 40
 #define ON_CLBN_CHKCHANGE(id, memberFxn) ON_CONTROL(CLBN_CHKCHANGE, id, memberFxn)
 

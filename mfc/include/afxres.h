@@ -1,10 +1,10 @@
+// Standard command, control and string IDs.
 #pragma once
 
-// Standard command, control and string IDs. C++ sources and resource scripts both include this header, so it
-// holds nothing but preprocessor definitions.
+// C++ sources and resource scripts include this header, so it holds preprocessor definitions only.
 //
-// Ranges: 0x0001-0x6FFF application resources, 0x8000-0xDFFF its commands, 0x7000-0x7FFF and 0xE000-0xEFFF
-// framework, 0xF000-0xFFFF system commands and framework prompts.
+// Ranges: 0x0001-0x6FFF resources of the application, 0x8000-0xDFFF its commands, 0x7000-0x7FFF and
+// 0xE000-0xEFFF the framework, 0xF000-0xFFFF system commands and prompts of the framework.
 
 #ifdef RC_INVOKED
 #include <winresrc.h>
@@ -95,12 +95,13 @@
 #define AFX_IDI_STD_MDIFRAME 0x7801
 #define AFX_IDI_STD_FRAME 0x7802
 
-// Strings: an application may define the first, the library's own text stands in for the others
+// Strings. An application may define the first one; the library has English texts for the others
 #define AFX_IDS_APP_TITLE 0xE000
 #define AFX_IDS_IDLEMESSAGE 0xE001
 #define AFX_IDS_HELPMODEMESSAGE 0xE002
 
-// Prompts. The library holds English texts; a string of the same ID in the application takes their place.
+// Prompts. The library has English texts. A string with the same ID in the application replaces the
+// library's text.
 #define AFX_IDP_NO_ERROR_AVAILABLE 0xF020
 #define AFX_IDP_INTERNAL_FAILURE 0xF021
 #define AFX_IDP_COMMAND_FAILURE 0xF022

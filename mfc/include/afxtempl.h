@@ -1,6 +1,5 @@
+// The collection templates CArray, CList and CMap, and the typed views of pointer collections.
 #pragma once
-
-// Collection templates: CArray, CList, CMap, and the typed views of pointer collections.
 
 #include <afx.h>
 

@@ -1,9 +1,8 @@
+// Windows, dialogs, controls, drawing and the application.
 #pragma once
 
-// Programs ask for it, to tell whether their precompiled header came first.
+// Programs test this macro to find out whether their precompiled header was included first.
 #define __AFXWIN_H__
-
-// Windows, dialogs, controls, drawing and the application.
 
 #include <afx.h>
 #include <afxcoll.h>

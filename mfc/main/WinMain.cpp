@@ -1,6 +1,8 @@
+// WinMain, the entry point of a program of the class library.
+
 #include <afxwin.h>
 
-/// Entry point of a program of the class library: runs its application object.
+/// Runs the program's application object.
 int WINAPI WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLine, int nCmdShow) {
     return AfxWinMain(hInstance, hPrevInstance, lpCmdLine, nCmdShow);
 }

@@ -1,3 +1,5 @@
+// CWinApp, and the start and end of a program. The profile data are in Profile.cpp.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
@@ -16,13 +18,13 @@ END_MESSAGE_MAP()
 
 namespace {
 
-/// Replaces one of the application's names, which are blocks of malloc().
+/// Replaces a name of the application, which is a block of malloc().
 void SetName(LPCTSTR& name, const std::string& text) {
     std::free(const_cast<char*>(name));
     name = _strdup(text.c_str());
 }
 
-/// The window that shall own a message box, and the top-level window that must not get input meanwhile.
+/// The owner of a message box, and the top-level window that the box disables.
 struct BoxOwner {
     HWND owner = nullptr;
     HWND disabled = nullptr;
@@ -31,7 +33,7 @@ struct BoxOwner {
         HWND main = SafeWindow(AfxGetMainWnd());
         if (main == nullptr)
             return;
-        // The popup in front of the main window (a modal dialog, say) owns the box.
+        // The popup in front of the main window, for example a modal dialog, owns the box.
         owner = ::GetLastActivePopup(main);
         HWND top = owner;
         for (HWND above = ::GetParent(top); above != nullptr; above = ::GetParent(above))
@@ -97,7 +99,7 @@ BOOL CWinApp::InitInstance() {
 }
 
 int CWinApp::Run() {
-    // A program that shows no window has nothing to wait for.
+    // A program without a main window ends at once.
     if (m_pMainWnd == nullptr)
         AfxPostQuitMessage(0);
     return CWinThread::Run();
@@ -187,7 +189,7 @@ void CWinApp::ParseCommandLine(CCommandLineInfo& rCmdInfo) {
     }
 }
 
-// ---- The program's life ----
+// ---- Start and end of a program ----
 
 BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     AFX_MODULE_STATE* const state = AfxStateOfModule(nullptr);

@@ -1,12 +1,12 @@
+// Starting threads: AfxBeginThread() and CWinThread::CreateThread().
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
 
 #include <process.h>
 
-// Threads of the program's own.
-
-/// What a new thread runs.
+/// The function of a new thread, and the ways to start it.
 struct AfxThreadStart {
     static unsigned __stdcall Run(void* parameter) {
         CWinThread* const thread = static_cast<CWinThread*>(parameter);
@@ -28,7 +28,7 @@ struct AfxThreadStart {
 
     static CWinThread* Begin(CWinThread* thread, int priority, UINT stackSize, DWORD flags,
                              LPSECURITY_ATTRIBUTES security) {
-        // Suspended first, so that the priority counts from the start.
+        // Created suspended, so that the thread runs with its priority from the start.
         if (!thread->CreateThread(flags | CREATE_SUSPENDED, stackSize, security)) {
             thread->Delete();
             return nullptr;
@@ -51,7 +51,7 @@ struct AfxThreadStart {
 BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
     ASSERT(m_hThread == nullptr);
     unsigned id = 0;
-    // The thread may be over, and its object deleted, before a running thread's handle could be stored.
+    // Created suspended: a running thread could end and delete its object before m_hThread is set.
     const uintptr_t handle = _beginthreadex(lpSecurityAttrs, nStackSize, &AfxThreadStart::Run, this,
                                             dwCreateFlags | CREATE_SUSPENDED, &id);
     if (handle == 0)

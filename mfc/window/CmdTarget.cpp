@@ -1,3 +1,5 @@
+// CCmdTarget: from a command or notification to its handler.
+
 #include "afx/CmdTarget.h"
 
 #include "afx/App.h"
@@ -25,8 +27,8 @@ const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP_ENTRY* lpEntry, UIN
 
 namespace {
 
-/// The parts of OnCmdMsg()'s `nCode`: the message in the high word, WM_COMMAND if there is none, and the
-/// code.
+/// The parts of OnCmdMsg()'s `nCode`: the message in the high word (0 stands for WM_COMMAND) and the
+/// notification code in the low word.
 struct CommandCode {
     UINT message = WM_COMMAND;
     UINT code = 0;
@@ -40,7 +42,7 @@ struct CommandCode {
         if (HIWORD(packed) != 0)
             message = HIWORD(packed);
         if (message == WM_NOTIFY || message == WM_REFLECT_BASE + WM_NOTIFY) {
-            // Codes of WM_NOTIFY have 32 bits, so the record's own counts.
+            // Codes of WM_NOTIFY have 32 bits, so the code comes from the notification record.
             const auto* const notify = static_cast<const AFX_NOTIFY*>(extra);
             code = notify != nullptr ? notify->pNMHDR->code
                                      : static_cast<UINT>(static_cast<short>(LOWORD(packed)));

@@ -1,3 +1,5 @@
+// CCmdUI: updates of menu items and buttons.
+
 #include "afx/CmdTarget.h"
 
 #include "afx/Menu.h"
@@ -6,7 +8,8 @@
 namespace {
 
 bool IsItem(const CCmdUI& item) {
-    // The popup that an item opens is greyed by its first command, but carries neither check nor text of it.
+    // An item that opens a popup uses the command of the popup's first item. It gets neither the check mark
+    // nor the text of that command.
     return item.m_pMenu != nullptr && item.m_pSubMenu == nullptr;
 }
 
@@ -27,8 +30,8 @@ void CCmdUI::Enable(BOOL bOn) {
     }
     if (m_pOther == nullptr)
         return;
-    // A control that is about to lose the focus to a disabled state hands it on, or the keyboard would be
-    // dead.
+    // A disabled window cannot have the focus, so the focus moves to the next control before the control
+    // is disabled.
     if (!bOn && ::GetFocus() == m_pOther->m_hWnd)
         ::SendMessage(::GetParent(m_pOther->m_hWnd), WM_NEXTDLGCTL, 0, FALSE);
     ::EnableWindow(m_pOther->m_hWnd, bOn);
@@ -75,7 +78,7 @@ void CCmdUI::SetText(LPCTSTR lpszText) {
         info.dwTypeData = const_cast<LPTSTR>(lpszText);
         ::SetMenuItemInfo(m_pMenu->m_hMenu, m_nIndex, TRUE, &info);
     } else if (m_pOther != nullptr) {
-        // Setting an equal text would make the control flicker at each idle time.
+        // Setting an equal text would make the control flicker at every idle time.
         CString present;
         m_pOther->GetWindowText(present);
         if (present != lpszText)

@@ -1,6 +1,6 @@
-#include "afx/App.h"
+// CCommandLineInfo: the conventional flags of a command line.
 
-// What the flags of a program's command line mean by convention.
+#include "afx/App.h"
 
 void CCommandLineInfo::ParseParam(LPCTSTR pszParam, BOOL bFlag, BOOL bLast) {
     if (bFlag)

@@ -1,3 +1,5 @@
+// CFrameWnd.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
@@ -11,12 +13,14 @@ IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_CREATE()
-    ON_WM_DESTROY()
     ON_WM_CLOSE()
+    ON_WM_DESTROY()
+
+    ON_WM_ERASEBKGND()
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
+
     ON_WM_INITMENUPOPUP()
-    ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -26,13 +30,13 @@ namespace {
 constexpr UINT frameClassStyle = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
 constexpr UINT firstSystemCommand = 0xF000;
 
-/// The first resource of this name in the chain, or NULL.
+/// The first module of the chain with this resource; NULL if none has it.
 HINSTANCE ModuleWith(LPCTSTR name, LPCTSTR type) {
     const HINSTANCE module = AfxFindResourceHandle(name, type);
     return ::FindResource(module, name, type) != nullptr ? module : nullptr;
 }
 
-/// The menu that opens `popup`, in or below `menu`; NULL if it is none of those.
+/// The menu that opens `popup`, searched in `menu` and its submenus; NULL if there is none.
 HMENU FindParentMenu(HMENU menu, HMENU popup) {
     const int count = menu != nullptr ? ::GetMenuItemCount(menu) : 0;
     for (int i = 0; i < count; ++i) {
@@ -87,7 +91,7 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     const int height = leaveToSystem ? CW_USEDEFAULT : rect.bottom - rect.top;
     const BOOL created = CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
                                   width, height, SafeWindow(pParentWnd), menu, pContext);
-    // The window destroys its menu; a window that never was does not.
+    // A window destroys its menu. If no window was created, the menu must be destroyed here.
     if (!created && menu != nullptr && ::IsMenu(menu))
         ::DestroyMenu(menu);
     return created;
@@ -112,7 +116,7 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
 
     const LPCTSTR name = MAKEINTRESOURCE(nIDResource);
     const LPCTSTR menu = ModuleWith(name, RT_MENU) != nullptr ? name : nullptr;
-    // Accelerators first: if the window cannot be created the object is gone afterwards.
+    // The accelerators come first: after a failed Create() this object no longer exists.
     LoadAccelTable(name);
     return Create(GetIconWndClass(dwDefaultStyle, nIDResource), title, dwDefaultStyle, rectDefault,
                   pParentWnd, menu, 0, pContext);
@@ -181,7 +185,7 @@ void CFrameWnd::OnSetFocus(CWnd* pOldWnd) {
 }
 
 BOOL CFrameWnd::OnEraseBkgnd(CDC* pDC) {
-    // A pane covers the client area: painting it twice would flicker.
+    // A pane covers the client area. Erasing the area first would flicker.
     const HWND pane = ::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST);
     if (pane != nullptr && ::IsWindowVisible(pane))
         return TRUE;
@@ -225,13 +229,14 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu) {
                 continue; // separator
             state.DoUpdate(this, m_bAutoMenuEnable && state.m_nID < firstSystemCommand);
         } else {
-            // A popup goes by its first command, which may fill it (lists of files, say).
+            // The state of a popup follows its first command. The handler of that command may also fill the
+            // popup, for example with a list of files.
             state.m_nID = ::GetMenuItemID(state.m_pSubMenu->m_hMenu, 0);
             if (state.m_nID == 0 || state.m_nID == static_cast<UINT>(-1))
                 continue;
             state.DoUpdate(this, FALSE);
         }
-        // The handler may have added or removed items: go on behind the item it was called for.
+        // The handler may have added or removed items. The loop continues after the item of the handler.
         const UINT count = static_cast<UINT>(::GetMenuItemCount(pMenu->m_hMenu));
         if (count < state.m_nIndexMax) {
             state.m_nIndex -= std::min(state.m_nIndexMax - count, state.m_nIndex);

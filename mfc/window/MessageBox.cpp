@@ -1,7 +1,7 @@
+// Message boxes and texts with inserts.
+
 #include "afx/App.h"
 #include "afx/Module.h"
-
-// Message boxes and the texts they are made of.
 
 int AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
     if (CWinApp* const app = AfxGetApp())
@@ -11,7 +11,7 @@ int AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
 
 int AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
     CString text;
-    const int longest = 4096; // characters in a string resource
+    const int longest = 4096; // characters, the maximum for a string resource
     AfxLoadString(nIDPrompt, text.GetBuffer(longest), longest + 1);
     text.ReleaseBuffer();
     return AfxMessageBox(text, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);

@@ -1,3 +1,5 @@
+// Module states: the program's state, the states of DLLs, and the current state of a thread.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
@@ -5,8 +7,6 @@
 #include <map>
 #include <memory>
 #include <mutex>
-
-// The states of the program and of regular DLLs, and which of them is in force.
 
 namespace {
 
@@ -16,7 +16,7 @@ HINSTANCE ProgramInstance() {
 
 struct ProgramState : AFX_MODULE_STATE {
     ProgramState() {
-        // Objects that are made before the start-up code runs need an instance too.
+        // Global objects are constructed before the start-up code runs, and need an instance too.
         m_hCurrentInstanceHandle = ProgramInstance();
         m_hCurrentResourceHandle = ProgramInstance();
     }
@@ -72,7 +72,7 @@ void AfxSetResourceHandle(HINSTANCE hInstResource) {
 }
 
 CWinApp* AfxGetApp() {
-    // A DLL's state lends its resources only; the application is the program's.
+    // The state of a DLL changes the resources only. The application is always the program's.
     return StateOfProgram().m_pCurrentWinApp;
 }
 

@@ -1,3 +1,5 @@
+// CWinApp: profile data in the registry (after SetRegistryKey()) or in an INI file.
+
 #include "afx/App.h"
 #include "afx/Module.h"
 
@@ -6,11 +8,9 @@
 #include <string>
 #include <vector>
 
-// Profile data: in the registry after SetRegistryKey(), in an INI file else.
-
 namespace {
 
-/// An open registry key.
+/// Owns an open registry key.
 class Key {
 public:
     explicit Key(HKEY key) : m_key(key) {}
@@ -35,7 +35,7 @@ HKEY OpenBelow(HKEY parent, LPCTSTR name) {
     return key;
 }
 
-/// A value's bytes if it is of type `type`; false else.
+/// Reads a value of type `type`. Returns false if the value does not exist or has another type.
 bool ReadValue(HKEY section, LPCTSTR entry, DWORD type, std::vector<BYTE>& bytes) {
     DWORD present = 0;
     DWORD size = 0;
@@ -63,7 +63,7 @@ CString ReadIniText(LPCTSTR file, LPCTSTR section, LPCTSTR entry, LPCTSTR fallba
                                                        static_cast<DWORD>(text.size()), file);
         if (length + 1 < text.size() || text.size() > 0x100000)
             return CString(text.data());
-        text.resize(text.size() * 2); // the answer was cut
+        text.resize(text.size() * 2); // the buffer was too small
     }
 }
 
@@ -123,7 +123,7 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
     std::vector<BYTE> bytes;
     if (!ReadValue(section.Get(), lpszEntry, REG_SZ, bytes))
         return CString(fallback);
-    bytes.push_back(0); // a value may have been stored without its end
+    bytes.push_back(0); // a stored text may lack its terminating zero
     return CString(reinterpret_cast<LPCSTR>(bytes.data()));
 }
 
@@ -144,7 +144,7 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
     return WriteValue(section.Get(), lpszEntry, REG_SZ, lpszValue, std::strlen(lpszValue) + 1);
 }
 
-// An INI file keeps bytes as pairs of hexadecimal digits.
+// An INI file stores bytes as pairs of hexadecimal digits.
 
 BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes) {
     *ppData = nullptr;

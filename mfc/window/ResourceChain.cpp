@@ -1,3 +1,5 @@
+// Extension DLLs, the chain of modules with resources, and window classes.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afxres.h"
@@ -8,8 +10,6 @@
 #include <string>
 #include <vector>
 
-// Extension DLLs, the chain of modules that resources are looked up in, and window classes.
-
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
 namespace {
@@ -19,7 +19,7 @@ std::mutex& ChainGuard() {
     return guard;
 }
 
-/// Linked libraries, the last one first.
+/// The linked libraries, the latest first.
 std::vector<CDynLinkLibrary*>& Chain() {
     static std::vector<CDynLinkLibrary*> chain;
     return chain;
@@ -30,13 +30,13 @@ struct RegisteredClass {
     HINSTANCE instance;
 };
 
-/// Window classes of DLLs.
+/// Registered window classes of DLLs.
 std::vector<RegisteredClass>& DllClasses() {
     static std::vector<RegisteredClass> classes;
     return classes;
 }
 
-/// The modules in the order in which they are asked; a module may stand in it twice.
+/// The modules in search order. A module may occur twice.
 std::vector<HINSTANCE> ModulesToAsk() {
     std::vector<HINSTANCE> modules{AfxGetResourceHandle(),
                                    AfxStateOfModule(nullptr)->m_hCurrentResourceHandle,
@@ -53,7 +53,7 @@ std::vector<HINSTANCE> ModulesToAsk() {
     return modules;
 }
 
-/// English texts of the library's own prompts.
+/// English texts of the library's prompts.
 LPCSTR OwnText(UINT id) {
     switch (id) {
     case AFX_IDS_IDLEMESSAGE:
@@ -144,7 +144,7 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
         registered.erase(first, registered.end());
     }
     for (CDynLinkLibrary* const library : leaving)
-        delete library; // takes itself out of the chain
+        delete library; // the destructor removes the link from the chain
     for (const RegisteredClass& entry : classes)
         ::UnregisterClassA(entry.name.c_str(), entry.instance);
     state.bInitialized = FALSE;

@@ -1,3 +1,5 @@
+// CWinThread: the message loop, idle work, uncaught exceptions.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
@@ -11,7 +13,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-/// Timer of the system that makes carets blink; not in any header.
+/// Message of the system's caret timer. No header defines it.
 constexpr UINT caretTimerMessage = 0x0118;
 
 LRESULT CALLBACK FilterMessage(int nCode, WPARAM wParam, LPARAM lParam) {
@@ -122,7 +124,8 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
     const HWND mainWindow = SafeWindow(main);
     if (CWnd::WalkPreTranslateTree(mainWindow, pMsg))
         return TRUE;
-    // Windows beside the main window (modeless dialogs, say) leave it the last word, for its accelerators.
+    // Windows outside the main window, such as modeless dialogs, also use the accelerators of the
+    // main window.
     if (main == nullptr || pMsg->hwnd == nullptr)
         return FALSE;
     HWND top = pMsg->hwnd;
@@ -165,7 +168,7 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
 LRESULT AnswerUncaughtException(CException* exception, const MSG& message) {
     if (CWinThread* const thread = AfxGetThread())
         return thread->ProcessWndProcException(exception, &message);
-    // A thread without an object behaves like one that overrides nothing.
+    // A thread without a CWinThread object uses the base versions.
     CWinThread plain;
     return plain.ProcessWndProcException(exception, &message);
 }

@@ -1,11 +1,13 @@
+// The state of each thread.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/DC.h"
 
 namespace {
 
-// The pointer is not an object with a destructor: global objects that own windows may be destroyed after the
-// thread's own storage, and then start with a fresh state that nobody deletes.
+// A plain pointer without a destructor: global objects that own windows may be destroyed after the thread's
+// own storage. They then get a new state, which is never deleted.
 thread_local ThreadState* t_state = nullptr;
 
 struct StateDeleter {

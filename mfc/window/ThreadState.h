@@ -1,3 +1,4 @@
+// Per-thread state of the window classes.
 #pragma once
 
 #include "afx/HandleMap.h"
@@ -7,37 +8,37 @@
 
 #include <memory>
 
-/// Temporary window objects refer to a window and never destroy it.
+/// A temporary window object refers to a window and never destroys it.
 struct AfxWndMapTraits {
     static std::unique_ptr<CWnd> Wrap(HWND handle) { return std::unique_ptr<CWnd>(new CWnd(handle)); }
     static void Unwrap(CWnd& window) { window.m_hWnd = nullptr; }
 };
 
-/// What the window classes know about the calling thread.
+/// Data of the window classes for the calling thread.
 struct ThreadState {
     HandleMap<CWnd, HWND, AfxWndMapTraits> windows;
-    MSG currentMessage{};             ///< the message whose handler runs
-    int messageDepth = 0;             ///< handlers that run, one inside the other
-    CWnd* windowInCreation = nullptr; ///< waits for the next window
+    MSG currentMessage{};             ///< the message whose handler is running
+    int messageDepth = 0;             ///< number of nested handlers that are running
+    CWnd* windowInCreation = nullptr; ///< the object that the next created window belongs to
     HHOOK creationHook = nullptr;
     int creationHookDepth = 0;
     HHOOK messageFilterHook = nullptr;
-    HWND exchangingWindow = nullptr; ///< window inside UpdateData(): its controls' notifications are dropped
-    HMENU popupMenu = nullptr;       ///< popup that was opened last, to find owner-drawn items
-    CWinThread* thread = nullptr;    ///< NULL in the main thread: the application stands for it
+    HWND exchangingWindow = nullptr; ///< window inside UpdateData(); its controls' notifications are ignored
+    HMENU popupMenu = nullptr;       ///< the popup that opened last, for finding owner-drawn items
+    CWinThread* thread = nullptr;    ///< NULL in the main thread, where the application is the thread object
     AFX_MODULE_STATE* moduleState = nullptr;
-    char className[96] = ""; ///< answer of AfxRegisterWndClass()
+    char className[96] = ""; ///< result buffer of AfxRegisterWndClass()
 };
 
-/// The calling thread's state, made at first use.
+/// The state of the calling thread. The first call creates it.
 ThreadState& CurrentThreadState();
-/// Deletes the calling thread's temporary window, DC, menu and GDI objects, unless a message handler is
-/// running: pointers that the handler holds outlive the modal loops it runs.
+/// Deletes the temporary window, DC, menu and GDI objects of the calling thread, but not while a message
+/// handler runs. A handler may hold pointers to them while it runs a modal loop.
 void DeleteTemporariesWhenIdle();
-/// Starts and ends the calling thread's ProcessMessageFilter() calls.
+/// Start and end the ProcessMessageFilter() calls for the calling thread.
 void HookMessageFilter();
 void UnhookMessageFilter();
-/// The answer to a message whose handler let an exception out; see CWinThread::ProcessWndProcException().
+/// The result of a message whose handler threw an exception; see CWinThread::ProcessWndProcException().
 LRESULT AnswerUncaughtException(CException* exception, const MSG& message);
 
 inline HWND SafeWindow(const CWnd* window) {

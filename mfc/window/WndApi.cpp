@@ -1,10 +1,10 @@
+// CWnd: state, text, menus and timers, as calls of the Win32 functions.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
 #include "afx/GdiObject.h"
 #include "afx/Menu.h"
-
-// State, text, menus, timers: the plain Win32 functions as members.
 
 DWORD CWnd::GetStyle() const {
     return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_STYLE));

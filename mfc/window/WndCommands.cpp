@@ -1,19 +1,21 @@
+// CWnd: commands, notifications, and messages that a parent hands back to a control.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/Controls.h"
 #include "afx/Menu.h"
 #include "afxmsg_.h"
 
-// Commands and notifications, and the messages that a parent hands back to the control that caused them.
-
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
     ON_WM_PARENTNOTIFY()
+
     ON_WM_CTLCOLOR()
     ON_WM_DRAWITEM()
     ON_WM_MEASUREITEM()
-    ON_WM_DELETEITEM()
     ON_WM_COMPAREITEM()
+    ON_WM_DELETEITEM()
+
     ON_WM_VKEYTOITEM()
     ON_WM_CHARTOITEM()
     ON_WM_HSCROLL()
@@ -22,7 +24,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-/// Learns whether a command is enabled, without showing it anywhere.
+/// Finds out whether a command is enabled, without changing a user interface.
 class EnabledProbe : public CCmdUI {
 public:
     BOOL enabled = TRUE;
@@ -36,8 +38,8 @@ public:
     void SetText(LPCTSTR) override {}
 };
 
-/// The object of the menu that holds owner-drawn item `id`, in `menu` or the popups below; NULL if there is
-/// none.
+/// The object of the menu that contains the owner-drawn item `id`. Searches `menu` and its submenus; NULL if
+/// there is none.
 CMenu* FindItemOwner(HMENU menu, UINT id) {
     const int count = menu != nullptr ? ::GetMenuItemCount(menu) : 0;
     for (int i = 0; i < count; ++i) {
@@ -60,7 +62,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (control == nullptr) { // menu or accelerator
         if (id == 0)
             return FALSE;
-        // Accelerators do not look whether their command is enabled.
+        // TranslateAccelerator() does not check whether the command is enabled.
         EnabledProbe probe;
         probe.m_nID = id;
         OnCmdMsg(id, CN_UPDATE_COMMAND_UI, &probe, nullptr);
@@ -85,7 +87,7 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
         return TRUE;
     if (ReflectLastMsg(control, pResult))
         return TRUE;
-    // The window's own ID: what stands in the record is the sender's word only.
+    // The control's own ID counts, because idFrom of the record can be wrong.
     const UINT id = ::IsWindow(control) ? static_cast<UINT>(::GetDlgCtrlID(control))
                                         : static_cast<UINT>(notification->idFrom);
     AFX_NOTIFY record{pResult, notification};
@@ -134,7 +136,7 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     }
 }
 
-// ---- The parent's default: hand the message back. ----
+// ---- Default of the parent: hand the message back to the control. ----
 
 void CWnd::OnParentNotify(UINT message, LPARAM lParam) {
     const bool isLife = LOWORD(message) == WM_CREATE || LOWORD(message) == WM_DESTROY;

@@ -1,3 +1,5 @@
+// CWnd: from the window procedure to the handler of a message.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
@@ -8,8 +10,6 @@
 #include <new>
 #include <windowsx.h>
 
-// From the window procedure to the handler.
-
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
     CWnd* const window = CWnd::FromHandlePermanent(hWnd);
     if (window == nullptr)
@@ -19,7 +19,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
 
 namespace {
 
-/// Makes a message the current one as long as its handler runs.
+/// Sets the current message while its handler runs.
 class CurrentMessageScope {
 public:
     CurrentMessageScope(ThreadState& state, const MSG& message)
@@ -55,9 +55,9 @@ HWND WindowOf(LPARAM lParam) {
     return reinterpret_cast<HWND>(lParam);
 }
 
-/// A window as the control class that a handler's declaration names. Programs compare the pointer with their
-/// own control, of whatever class; a temporary object is a plain CWnd, which the control classes add no data
-/// to.
+/// The object of a control's window, as a pointer to the class in the handler's declaration. Programs compare
+/// the pointer with their own control of any class. A temporary object is a plain CWnd; the control classes
+/// have no data members of their own.
 template <class Control> Control* ControlOf(LPARAM lParam) {
     return reinterpret_cast<Control*>(CWnd::FromHandle(WindowOf(lParam)));
 }
@@ -81,7 +81,8 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
         exception->Delete();
         return result;
     } catch (const std::bad_alloc&) {
-        // The system's frames below must not be unwound, and a missing block is a missing block.
+        // Exceptions must not cross the system's stack frames, so a failed allocation is handled
+        // like CMemoryException.
         CMemoryException exception(FALSE);
         return AnswerUncaughtException(&exception, message);
     }
@@ -141,7 +142,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     if (entry == nullptr)
         return FALSE;
 
-    // From here on the handler may delete this object: nothing below touches it after the call.
+    // The handler may delete this object, so no code after the call uses it.
     const AfxHandler& call = entry->pfn;
     const UINT word = static_cast<UINT>(wParam);
     const UINT wLow = LOWORD(wParam);
@@ -209,7 +210,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         (this->*call.v_up)(word, PointOf(lParam));
         break;
     case AfxSig::b_wheel:
-        // The handler's FALSE is not sent on to the parent here: its Default() has done that.
+        // A handler that returns FALSE has called Default(), which has sent the message to the parent.
         result = (this->*call.b_wheel)(wLow, static_cast<short>(wHigh), PointOf(lParam));
         return TRUE;
     case AfxSig::v_wheel:
@@ -260,7 +261,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         (this->*call.v_wp)(FromHandle(WindowOf(wParam)), PointOf(lParam));
         break;
     case AfxSig::u_p:
-        result = static_cast<int>((this->*call.u_p)(PointOf(lParam))); // HTERROR and the like are negative
+        result = static_cast<int>((this->*call.u_p)(PointOf(lParam))); // HTERROR and other codes are negative
         return TRUE;
     case AfxSig::l_p:
         result = (this->*call.l_p)(PointOf(lParam));
@@ -356,7 +357,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         (this->*call.v_windows)(WindowOf(wParam), WindowOf(lParam));
         break;
     default:
-        return FALSE; // a command's row: it never stands under another message
+        return FALSE; // a row for commands, which window messages do not use
     }
     result = 0;
     return TRUE;

@@ -1,8 +1,8 @@
+// CWnd: related windows, and messages to several windows.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/FrameWnd.h"
-
-// Finding windows, and sending to many.
 
 CWnd* CWnd::ChildWindowFromPoint(POINT point) const {
     return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
@@ -99,7 +99,7 @@ CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const {
             return FromHandle(item);
     }
     for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        // A temporary object of the child's would do, but would fill the map with windows nobody asked for.
+        // A local object instead of a temporary one, which would fill the map with one entry for each child.
         CWnd probe;
         probe.m_hWnd = child;
         CWnd* const found = probe.GetDescendantWindow(nID, bOnlyPerm);

@@ -1,3 +1,5 @@
+// CWnd: position, coordinates and painting.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/DC.h"
@@ -5,8 +7,6 @@
 #include "mfc/gdi/Handles.h"
 
 #include <algorithm>
-
-// Position, coordinates and painting.
 
 void CWnd::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint) {
     ::MoveWindow(m_hWnd, x, y, nWidth, nHeight, bRepaint);
@@ -29,8 +29,8 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
 
     CRect own;
     GetWindowRect(&own);
-    CRect area;   // where the window may lie
-    CRect centre; // what it is centred over
+    CRect area;   // area that limits the position
+    CRect centre; // rectangle to centre over
     if (isChild) {
         ::GetClientRect(::GetParent(m_hWnd), &area);
         ::GetClientRect(over, &centre);
@@ -49,7 +49,7 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner) {
     }
     int x = (centre.left + centre.right - own.Width()) / 2;
     int y = (centre.top + centre.bottom - own.Height()) / 2;
-    // The upper left corner wins if the window is larger than the area.
+    // A window larger than the area keeps its upper left corner inside.
     x = std::max<int>(std::min<int>(x, area.right - own.Width()), area.left);
     y = std::max<int>(std::min<int>(y, area.bottom - own.Height()), area.top);
     ::SetWindowPos(m_hWnd, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -123,8 +123,8 @@ void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType) {
 
 namespace {
 
-/// The object of a DC that was just taken. When memory runs out, `giveBack` ends the DC, and the result is
-/// NULL.
+/// The object of a DC that the caller has just got from the system. If memory runs out, `giveBack` returns
+/// the DC to the system, and the result is NULL.
 template <class GiveBack> CDC* WrapNew(HDC dc, GiveBack giveBack) {
     CDC* object = nullptr;
     if (!HasMemoryFor([&] { object = CDC::FromHandle(dc); }))

@@ -1,3 +1,5 @@
+// CWnd: children by ID, data exchange and updates of buttons.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
@@ -5,8 +7,6 @@
 #include "afxres.h"
 
 #include <vector>
-
-// Children by ID, and data exchange with them.
 
 void CWnd::CheckDlgButton(int nIDButton, UINT nCheck) {
     ::CheckDlgButton(m_hWnd, nIDButton, nCheck);
@@ -90,7 +90,8 @@ void CWnd::DoDataExchange(CDataExchange*) {
 }
 
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
-    // Setting a control's value makes it notify its parent, as if the user had changed it.
+    // A control whose value changes notifies its parent, as if the user had changed it. These notifications
+    // are ignored.
     class NotificationLock {
     public:
         explicit NotificationLock(HWND window) : m_previous(CurrentThreadState().exchangingWindow) {
@@ -110,7 +111,7 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
         DoDataExchange(&exchange);
         return TRUE;
     } catch (CUserException* exception) {
-        exception->Delete(); // the user has been told
+        exception->Delete(); // the user has already seen a message
     } catch (CException* exception) {
         exception->ReportError(MB_ICONEXCLAMATION, AFX_IDP_INTERNAL_FAILURE);
         exception->Delete();
@@ -124,7 +125,7 @@ void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
         CCmdUI state;
         state.m_nID = LOWORD(::GetDlgCtrlID(child));
         state.m_pOther = control;
-        // Only push buttons stand for commands; what else has no handler is not to be disabled.
+        // Only push buttons represent commands. Other controls without a handler stay enabled.
         const LRESULT kind = ::SendMessage(child, WM_GETDLGCODE, 0, 0);
         const bool isCommand = (kind & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
         state.DoUpdate(pTarget, bDisableIfNoHndler && isCommand);

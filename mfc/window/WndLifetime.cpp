@@ -1,11 +1,11 @@
+// CWnd: creation, subclassing, attaching, destruction.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
 #include "mfc/gdi/Handles.h"
 
 #include <cstring>
-
-// How a window object and its window find each other and part again.
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
@@ -21,20 +21,20 @@ CWnd::~CWnd() {
         TRACE(
             "CWnd is deleted with its window: OnDestroy and PostNcDestroy of derived classes do not run.\n");
         CWnd::DestroyWindow();
-        // Still there: the window belongs to another thread, or is none any more.
+        // DestroyWindow() failed: the window belongs to another thread, or no longer exists.
         if (m_hWnd != nullptr)
             Detach();
     }
 }
 
 HWND CWnd::GetSafeHwnd() const {
-    const CWnd* volatile self = this; // programs ask NULL objects too; the detour keeps the test in the code
+    const CWnd* volatile self = this; // `volatile`: allowed on NULL objects, see CGdiObject
     return self == nullptr ? nullptr : m_hWnd;
 }
 
 CWnd* CWnd::FromHandle(HWND hWnd) {
     CWnd* const window = CurrentThreadState().windows.FromHandle(hWnd);
-    // A program may have detached the temporary object by hand.
+    // A program may have called Detach() on the temporary object.
     if (window != nullptr && window->m_hWnd == nullptr)
         window->m_hWnd = hWnd;
     return window;
@@ -67,23 +67,23 @@ HWND CWnd::Detach() {
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
-    const auto leave = [](HWND) {}; // it is not the object's to destroy
+    const auto leave = [](HWND) {}; // the object does not own the window yet
     if (m_hWnd != nullptr || FromHandlePermanent(hWnd) != nullptr || !AttachNew(*this, hWnd, leave))
         return FALSE;
     try {
         PreSubclassWindow();
     } catch (...) {
-        Detach(); // or the destructor would destroy a window that is not the object's
+        Detach(); // otherwise the destructor would destroy a window that the object does not own
         throw;
     }
     ::SetLastError(0);
     const auto former = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
-    if (former == nullptr && ::GetLastError() != 0) { // no such window, or one of another process
+    if (former == nullptr && ::GetLastError() != 0) { // no such window, or a window of another process
         Detach();
         return FALSE;
     }
-    // A window whose procedure is the library's already has no former one to go back to.
+    // If the window's procedure is already AfxWndProc, there is no former procedure to restore.
     if (former != AfxWndProc)
         *GetSuperWndProcAddr() = former;
     return TRUE;
@@ -103,10 +103,10 @@ HWND CWnd::UnsubclassWindow() {
     return Detach();
 }
 
-// ---- Creation: a hook ties the window to its object before the window's first message. ----
+// ---- Creation. A hook attaches the window to its object before the window's first message. ----
 
-/// Ties a window to its object. False, and nothing tied, when memory runs out or the object refuses by
-/// throwing: exceptions must not cross the system's stack frames.
+/// Attaches a window to its object. Returns false, with nothing attached, if memory runs out or
+/// PreSubclassWindow() throws: exceptions must not cross the system's stack frames.
 static bool Tie(CWnd& object, HWND window) {
     try {
         if (HasMemoryFor([&] {
@@ -128,14 +128,14 @@ LRESULT CALLBACK AfxCbtHook(int nCode, WPARAM wParam, LPARAM lParam) {
     CWnd* const object = state.windowInCreation;
     if (nCode == HCBT_CREATEWND && object != nullptr) {
         const HWND window = reinterpret_cast<HWND>(wParam);
-        // The system may make an input-method window of its own in between.
+        // The system may create an input-method window before the requested window.
         char className[8] = "";
         ::GetClassNameA(window, className, static_cast<int>(sizeof(className)));
         if (_stricmp(className, "ime") != 0) {
             state.windowInCreation = nullptr;
             if (!Tie(*object, window)) {
-                state.windowInCreation = object; // the caller of Create reports the failure
-                return 1;                        // ends the creation
+                state.windowInCreation = object; // AfxUnhookWindowCreate() then returns FALSE
+                return 1;                        // the system cancels the creation
             }
             const auto former = reinterpret_cast<WNDPROC>(
                 ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
@@ -159,7 +159,7 @@ void AfxHookWindowCreate(CWnd* pWnd) {
 
 BOOL AfxUnhookWindowCreate() {
     ThreadState& state = CurrentThreadState();
-    // A window that handles its creation by creating another one ends the inner creation first.
+    // The handlers of a window in creation may create another window, so creations can be nested.
     if (state.creationHookDepth > 0 && --state.creationHookDepth == 0) {
         ::UnhookWindowsHookEx(state.creationHook);
         state.creationHook = nullptr;
@@ -171,7 +171,7 @@ BOOL AfxUnhookWindowCreate() {
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {
     if (cs.lpszClass == nullptr) {
-        ASSERT((cs.style & WS_CHILD) != 0); // top-level windows name their class
+        ASSERT((cs.style & WS_CHILD) != 0); // a top-level window needs a class name
         WNDCLASS windowClass{};
         windowClass.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
         windowClass.lpfnWndProc = ::DefWindowProc;
@@ -194,7 +194,7 @@ BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, 
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
                     const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam) {
-    // CFrameWnd::rectDefault leaves the extent to the system too, whose values must not be subtracted.
+    // CW_USEDEFAULT is a code, not a coordinate, so no extent is calculated from it.
     const bool leaveToSystem = rect.left == CW_USEDEFAULT;
     const int width = leaveToSystem ? CW_USEDEFAULT : rect.right - rect.left;
     const int height = leaveToSystem ? CW_USEDEFAULT : rect.bottom - rect.top;
@@ -227,8 +227,8 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
         ::CreateWindowEx(wanted.dwExStyle, wanted.lpszClass, wanted.lpszName,
                          static_cast<DWORD>(wanted.style), wanted.x, wanted.y, wanted.cx, wanted.cy,
                          wanted.hwndParent, wanted.hMenu, wanted.hInstance, wanted.lpCreateParams);
-    // Once a window was tied, its WM_NCDESTROY has already cleaned up if the creation failed; the object may
-    // be gone.
+    // If a window was attached and the creation failed, WM_NCDESTROY has cleaned up. The object may
+    // be deleted.
     if (!AfxUnhookWindowCreate())
         PostNcDestroy();
     return window != nullptr;
@@ -242,8 +242,9 @@ BOOL CWnd::DestroyWindow() {
     const HWND window = m_hWnd;
     const bool attached = FromHandlePermanent(window) == this;
     const BOOL destroyed = ::DestroyWindow(window);
-    // The map tells whether the object still exists: OnNcDestroy() took it out, and it may have deleted
-    // itself. An object that is only attached gets no WM_NCDESTROY.
+    // OnNcDestroy() removes the map entry, and the object may delete itself there. Only an entry that
+    // still exists proves that the object exists. An object that is attached without subclassing gets
+    // no WM_NCDESTROY.
     if (destroyed && attached && FromHandlePermanent(window) == this)
         Detach();
     return destroyed;
@@ -264,7 +265,7 @@ void CWnd::OnNcDestroy() {
     }
     const HWND window = m_hWnd;
     Default();
-    // Whatever still arrives goes to the former procedure, unless that has replaced itself meanwhile.
+    // Later messages go to the former procedure, unless another subclasser has replaced AfxWndProc.
     WNDPROC* const former = GetSuperWndProcAddr();
     if (*former != nullptr &&
         reinterpret_cast<WNDPROC>(::GetWindowLongPtr(window, GWLP_WNDPROC)) == AfxWndProc)

@@ -1,13 +1,13 @@
+// CWnd: translation of queued messages, and modal loops.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
 #include "afxpriv.h"
 
-// What happens to queued messages before they are dispatched, and loops inside a window.
-
 namespace {
 
-/// Milliseconds after which a window that waits for an idle moment appears in a loop that has none.
+/// Milliseconds. A loop that is never idle shows a hidden window (MLF_SHOWONIDLE) after this time.
 constexpr DWORD longestHiddenTime = 100;
 
 } // namespace
@@ -51,7 +51,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             showPending = false;
         }
     };
-    // A window that was destroyed instead of ended must not leave its loop behind.
+    // The loop also ends if the window is destroyed without EndModalLoop().
     const auto goesOn = [&] { return m_hWnd == window && ContinueModal(); };
     m_bModalLoop = TRUE;
     m_bContinueModal = TRUE;
@@ -71,7 +71,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
         }
         while (goesOn()) {
             if (!thread->PumpMessage()) {
-                // The program ends: the outer loop must see that too.
+                // The program ends. The outer loop needs a WM_QUIT too.
                 AfxPostQuitMessage(static_cast<int>(message->wParam));
                 m_bModalLoop = FALSE;
                 m_bContinueModal = FALSE;

@@ -1,3 +1,5 @@
+// CWnd: scroll bars and scrolled contents.
+
 #include "mfc/window/ThreadState.h"
 
 #include "afx/Controls.h"
@@ -5,11 +7,10 @@
 
 #include <algorithm>
 
-// Scroll bars and scrolled contents. A window may have a scroll bar control in the place of its own bar.
-
 namespace {
 
-/// The window whose bar `bar` is, and the bar's kind there.
+/// The window and the kind (SB_ code) of a scroll bar. A scroll bar control can replace the window's own
+/// scroll bar.
 struct Bar {
     HWND window;
     int kind;
@@ -95,7 +96,7 @@ void CWnd::ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect, LPCRECT lpClip
         ::ScrollWindow(m_hWnd, xAmount, yAmount, lpRect, lpClipRect);
         return;
     }
-    // ::ScrollWindow() leaves the children of a hidden window where they are.
+    // ::ScrollWindow() does not move the children of a hidden window.
     for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
         RECT place{};

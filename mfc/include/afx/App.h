@@ -1,8 +1,9 @@
+// CWinApp, the application object, and CCommandLineInfo.
 #pragma once
 
 #include "afx/Thread.h"
 
-/// What the command line asked for, as CWinApp::ParseCommandLine() fills it in.
+/// The command line's meaning, filled in by CWinApp::ParseCommandLine().
 class MFC_API CCommandLineInfo : public CObject {
 public:
     enum { FileNew, FileOpen, FilePrint, FilePrintTo, FileDDE, AppRegister, AppUnregister, FileNothing = -1 };
@@ -18,7 +19,8 @@ public:
     CString m_strDriverName;
     CString m_strPortName;
 
-    /// Takes one argument. `bFlag`: it began with - or /, which is cut off; `bLast`: none follows.
+    /// Evaluates one argument. `bFlag`: the argument began with - or /, which is already removed. `bLast`:
+    /// the argument is the last one.
     virtual void ParseParam(LPCTSTR pszParam, BOOL bFlag, BOOL bLast);
 
 protected:
@@ -27,29 +29,29 @@ protected:
     void ParseLast(BOOL bLast);
 };
 
-/// The application: a program has exactly one object of a class derived from this, usually global. The
-/// start-up code sets it up, calls InitInstance() and Run().
+/// The application. A program has exactly one object of a class derived from CWinApp, usually a global one.
+/// The start-up code initialises the object, then calls InitInstance() and Run().
 class MFC_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 
 public:
-    /// @param lpszAppName  title of message boxes; without it the string AFX_IDS_APP_TITLE, else the
-    /// program's name
+    /// `lpszAppName` is the title of message boxes. Without a name, the title is the string
+    /// AFX_IDS_APP_TITLE; without that string, the name of the program file.
     explicit CWinApp(LPCTSTR lpszAppName = nullptr);
     ~CWinApp() override;
 
     HINSTANCE m_hInstance = nullptr;
     HINSTANCE m_hPrevInstance = nullptr; ///< always NULL
-    LPTSTR m_lpCmdLine = nullptr;        ///< the command line behind the program's name
-    int m_nCmdShow = SW_SHOWNORMAL;      ///< for the first ShowWindow()
+    LPTSTR m_lpCmdLine = nullptr;        ///< the command line after the program's name
+    int m_nCmdShow = SW_SHOWNORMAL;      ///< argument of the first ShowWindow()
 
-    // These names are blocks of malloc(), freed by the destructor. To change one, free it and assign a
-    // _strdup().
+    // The names are blocks of malloc(), freed by the destructor. To change a name, free the old block and
+    // assign the result of _strdup().
     LPCTSTR m_pszAppName = nullptr;
     LPCTSTR m_pszExeName = nullptr;      ///< file name without folder and extension
     LPCTSTR m_pszHelpFilePath = nullptr; ///< the program's path with .HLP
-    LPCTSTR m_pszProfileName = nullptr;  ///< INI file, or the application's key below m_pszRegistryKey
-    LPCTSTR m_pszRegistryKey = nullptr;  ///< company key; NULL: profile data are in the INI file
+    LPCTSTR m_pszProfileName = nullptr;  ///< INI file, or key of the application below m_pszRegistryKey
+    LPCTSTR m_pszRegistryKey = nullptr;  ///< company's registry key; NULL: profile data are in the INI file
 
     LPCTSTR GetAppName() const { return m_pszAppName; }
 
@@ -69,28 +71,30 @@ public:
     /// Keeps profile data in HKEY_CURRENT_USER\Software\<company>\<application> instead of an INI file.
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
-    /// The application's key and a section's key; the caller closes them. NULL on failure or without
-    /// SetRegistryKey().
+    /// The registry key of the application, and the key of a section. The caller closes the key. NULL on
+    /// failure, and NULL before SetRegistryKey().
     HKEY GetAppRegistryKey();
     HKEY GetSectionKey(LPCTSTR lpszSection);
     UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
     BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
     CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
-    /// A NULL value deletes the entry, a NULL entry the section.
+    /// A NULL value deletes the entry. A NULL entry deletes the whole section.
     BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
-    /// Allocates the data with new BYTE[]; the caller deletes them. FALSE, and nothing allocated, if there
-    /// are none.
+    /// Allocates the data with new BYTE[]; the caller deletes the block. If the entry does not exist, returns
+    /// FALSE and allocates nothing.
     BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
-    // ---- Behaviour of the program ----
+    // ---- Behaviour ----
 
     void ParseCommandLine(CCommandLineInfo& rCmdInfo);
-    /// Shows AfxMessageBox()'s box, owned by the active window; adds an icon if `nType` has none.
+    /// Shows a message box for AfxMessageBox(). The active window owns the box. If `nType` names no icon, the
+    /// function adds one.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
-    /// 1 shows the hourglass, -1 takes one call of that back, 0 shows it again if it should be there.
+    /// `nCode` 1 shows the hourglass, -1 undoes one call with 1, and 0 shows the hourglass again if a call
+    /// with 1 is still open.
     virtual void DoWaitCursor(int nCode);
-    /// Disables or enables all of the program while a system-modal thing is up: here, the main window.
+    /// Disables or enables the main window while a system-modal dialog is open.
     void EnableModeless(BOOL bEnable);
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
     BOOL Enable3dControls() { return TRUE; }
@@ -105,7 +109,7 @@ public:
 
     /// Closes the main window (ID_APP_EXIT).
     afx_msg void OnAppExit();
-    /// Shows the help file. Not in the message map: programs add it for ID_HELP.
+    /// Shows the help file. The function is not in the message map; a program adds it for ID_HELP.
     afx_msg void OnHelp();
     afx_msg void OnHelpIndex();
     afx_msg void OnHelpFinder();
@@ -126,10 +130,10 @@ protected:
 MFC_API CWinApp* AfxGetApp();
 MFC_API LPCTSTR AfxGetAppName();
 
-/// Sets the library up for a program. The start-up code calls it; console programs call it themselves, with
-/// `::GetModuleHandle(NULL), NULL, ::GetCommandLine(), 0`.
+/// Initialises the library for a program. The start-up code calls the function. Console programs call it
+/// themselves, with `::GetModuleHandle(NULL), NULL, ::GetCommandLine(), 0`.
 MFC_API BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
-/// Runs the application object from AfxWinInit() to AfxWinTerm(); returns the exit status.
+/// Calls AfxWinInit(), runs the application object and calls AfxWinTerm(). Returns the exit status.
 MFC_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
-/// Undoes AfxWinInit() for the calling thread.
+/// Releases what AfxWinInit() acquired for the calling thread.
 MFC_API void AfxWinTerm();

@@ -1,3 +1,4 @@
+// CArchive: objects and values stored in a file or loaded from a file.
 #pragma once
 
 #include <memory>
@@ -8,85 +9,87 @@
 
 class CDocument;
 
-/// Stores objects in a file, or loads them from there, through a buffer. Values are stored as their bytes,
-/// least significant first. Members throw CArchiveException* (writeOnly and readOnly for the wrong direction,
-/// endOfFile when the file ends too early, and others for what cannot be read), and what the file throws
-/// passes through.
+/// Stores objects and values in a file, or loads them, through a buffer. Values are stored as their bytes,
+/// the least significant byte first. Members throw CArchiveException*: writeOnly and readOnly for the wrong
+/// direction, endOfFile when the file ends too early, other causes for bytes that are not an archive.
+/// Exceptions of the file pass through.
 ///
-/// An object is stored once, with the name and schema of its class; further pointers to it are stored as
-/// references, and loading restores them as pointers to one object.
+/// The first pointer to an object stores the object, with the name and schema of its class. Further pointers
+/// store references. Loading creates one object and sets all pointers to it.
 class MFC_API CArchive {
 public:
     enum Mode { store = 0, load = 1, bNoFlushOnDelete = 2, bNoByteSwap = 4 };
 
-    /// `file` must stay open while the archive exists, and must allow the direction. Of `buffer`, which the
-    /// caller keeps, the first `bufferSize` bytes are used; without one the archive makes its own, of at
-    /// least 128 bytes.
+    /// `file` must stay open while the archive exists, and its open mode must allow the direction. The
+    /// archive uses the first `bufferSize` bytes of `buffer`; the caller owns the buffer. Without a buffer
+    /// the archive allocates at least 128 bytes.
     CArchive(CFile* file, UINT mode, int bufferSize = 4096, void* buffer = nullptr);
-    /// Closes the archive, unless bNoFlushOnDelete says not to. Errors are lost here: call Close() to see
-    /// them.
+    /// Closes the archive, unless the mode contains bNoFlushOnDelete. The destructor ignores errors; call
+    /// Close() to get them.
     ~CArchive();
     CArchive(const CArchive&) = delete;
     CArchive& operator=(const CArchive&) = delete;
 
     BOOL IsLoading() const { return (m_nMode & load) != 0; }
     BOOL IsStoring() const { return !IsLoading(); }
-    /// FALSE: the byte order of files is the machine's.
+    /// FALSE: the byte order in files is the byte order of the machine.
     BOOL IsByteSwapping() const { return FALSE; }
-    /// TRUE if nothing is buffered: the next load reads from the file.
+    /// TRUE if the buffer is empty: the next load reads from the file.
     BOOL IsBufferEmpty() const { return m_nPosition == m_nFilled; }
     /// Null after Close or Abort.
     CFile* GetFile() const { return m_pFile; }
 
-    /// Storing: writes the buffer to the file. Loading: sets the file's position to the first byte not yet
-    /// loaded.
+    /// Storing: writes the buffer to the file. Loading: sets the file's position to the first byte that is
+    /// not loaded yet.
     void Flush();
-    /// Flushes and ends the archive; the file stays open.
+    /// Flushes the buffer and ends the archive. The file stays open.
     void Close();
     /// Ends the archive without writing and without throwing.
     void Abort();
 
-    /// Loads up to `count` bytes; fewer only at the end of the file. Returns how many.
+    /// Loads up to `count` bytes, fewer only at the end of the file. Returns the number of bytes.
     UINT Read(void* buffer, UINT count);
     void Write(const void* buffer, UINT count);
 
     /// Writes the characters without their terminating zero.
     void WriteString(LPCTSTR text);
-    /// A line without its line end. The first form cuts at `maxCount` characters, appends a zero behind them
-    /// and returns null at the end of the file; the second returns FALSE there.
+    /// Loads a line without its line end. The first form stops after `maxCount` characters, appends a zero,
+    /// and returns null at the end of the file. The second form returns FALSE at the end of the file.
     LPTSTR ReadString(LPTSTR text, UINT maxCount);
     BOOL ReadString(CString& text);
 
-    /// An element count: 2 bytes below 0xFFFF, else 6, or 14.
+    /// An element count. It takes 2 bytes below 0xFFFF, 6 bytes below 0xFFFFFFFF, else 14 bytes.
     void WriteCount(DWORD_PTR count);
     DWORD_PTR ReadCount();
 
-    /// Null is stored as null. The object's class must be serialisable (else CNotSupportedException*).
+    /// Null is stored as null. Throws CNotSupportedException* if the object's class is not serialisable.
     void WriteObject(const CObject* object);
-    /// A new object owned by the caller, or one that was already loaded, or null. Throws badClass if it is
-    /// not of the given class (null: of any) or one derived from it, badSchema if its schema does not fit.
+    /// Returns a new object that the caller owns, an object that was loaded before, or null. Throws badClass
+    /// if the object is not of `runtimeClass` or a class derived from it (null allows any class), and
+    /// badSchema if the schemas do not match.
     CObject* ReadObject(const CRuntimeClass* runtimeClass);
-    /// Enters an object that was not stored through WriteObject, so that pointers to it can be stored; the
-    /// loading side must enter its own at the same place.
+    /// Numbers an object that WriteObject() did not store, so that pointers to the object can be stored. The
+    /// loading side must call MapObject() at the same place for its own object.
     void MapObject(const CObject* object);
     void WriteClass(const CRuntimeClass* runtimeClass);
-    /// The class stored next. `*schema` is its stored schema; `*objectTag` the reference, if an old object
-    /// follows instead of a class: then the result is null. Without `objectTag` such a reference throws
-    /// badIndex.
+    /// Loads a class. `*schema` receives the stored schema. If a reference to an object follows instead of a
+    /// class, `*objectTag` receives the reference and the result is null; without `objectTag` such a
+    /// reference throws badIndex.
     CRuntimeClass* ReadClass(const CRuntimeClass* requested = nullptr, UINT* schema = nullptr,
                              DWORD* objectTag = nullptr);
     void SerializeClass(const CRuntimeClass* runtimeClass);
 
-    /// Schema of the object being loaded; the first call in its Serialize tells it, later ones give (UINT)-1.
+    /// Schema of the object that is being loaded. Only the first call inside the object's Serialize() returns
+    /// the schema; later calls return (UINT)-1.
     UINT GetObjectSchema();
     void SetObjectSchema(UINT schema);
 
-    /// Only of meaning before the first object: how large the table of objects starts (and, storing, its hash
-    /// table).
+    /// Initial size of the table of objects; for storing, of its hash table. Only calls before the first
+    /// object have an effect.
     void SetLoadParams(UINT growBy = 1024);
     void SetStoreParams(UINT hashSize = 2053, UINT blockSize = 128);
 
-    /// A template, so that no pointer turns into a bool on its way here.
+    /// A template, so that a pointer cannot convert to bool here.
     template <class T> std::enable_if_t<std::is_same_v<T, bool>, CArchive&> operator<<(T value) {
         return Put(static_cast<BYTE>(value));
     }
@@ -122,7 +125,7 @@ public:
     CArchive& operator>>(float& value) { return GetInto(value); }
     CArchive& operator>>(double& value) { return GetInto(value); }
 
-    /// For the program's use; the archive does not touch it.
+    /// For the program's use. The archive does not read or write the member.
     CDocument* m_pDocument = nullptr;
 
 private:
@@ -173,7 +176,7 @@ inline CArchive& operator>>(CArchive& ar, const CObject*& object) {
     return ar;
 }
 
-/// Coordinates as 4 bytes each.
+/// Each coordinate takes 4 bytes.
 MFC_API CArchive& operator<<(CArchive& ar, SIZE size);
 MFC_API CArchive& operator<<(CArchive& ar, POINT point);
 MFC_API CArchive& operator<<(CArchive& ar, const RECT& rect);

@@ -1,10 +1,9 @@
+// The arrays with a fixed element type. They have the members of CArray.
 #pragma once
 
 #include <afx/CArray.h>
 
-// The arrays that need no template argument. They have the members of CArray.
-
-/// An array of bytes, which it stores as they are.
+/// An array of bytes. Serialize stores the bytes unchanged.
 class MFC_API CByteArray : public CArray<BYTE, BYTE> {
     DECLARE_DYNCREATE(CByteArray)
 public:
@@ -35,7 +34,7 @@ public:
     void Serialize(CArchive& ar) override;
 };
 
-/// The pointers' targets are not owned. Not serialisable: Serialize throws CNotSupportedException*.
+/// The array does not own the pointers' targets. Not serialisable: Serialize throws CNotSupportedException*.
 class MFC_API CPtrArray : public CArray<void*, void*> {
     DECLARE_DYNAMIC(CPtrArray)
 public:
@@ -44,7 +43,8 @@ public:
     void Serialize(CArchive& ar) override;
 };
 
-/// The objects are not owned. Serialize stores and loads them; loaded ones are owned by whoever loads.
+/// The array does not own its objects. Serialize stores and loads the objects; the program that loads the
+/// array deletes them.
 class MFC_API CObArray : public CArray<CObject*, CObject*> {
     DECLARE_DYNCREATE(CObArray)
 public:

@@ -1,16 +1,16 @@
+// CArray, an array that grows as needed.
 #pragma once
 
 #include <afx/Templates.h>
 
 /// An array that grows as needed.
 ///
-/// When it must grow it takes the grow-by count of SetSize more elements than it had room for, and, if none
-/// was set, an eighth of its size, at least 4 and at most 1024. New elements are zeroed and
-/// default-constructed. Elements are moved when the array grows: addresses of elements are good until the
-/// next change of its size.
+/// Growth: an array without free room allocates room for `growBy` more elements (see SetSize). If `growBy` is
+/// 0, the array chooses an eighth of its size, at least 4 and at most 1024. New elements are zeroed and
+/// default-constructed. Growing moves the elements, so their addresses are valid only until the size changes.
 ///
-/// An index outside the array asserts in debug builds and throws CInvalidArgException* in others. When memory
-/// runs out CMemoryException* is thrown and the array is as it was.
+/// An index outside the array asserts in debug builds and throws CInvalidArgException* in other builds. If
+/// memory runs out, members throw CMemoryException* and the array stays unchanged.
 template <class TYPE, class ARG_TYPE = const TYPE&> class CArray : public CObject {
 public:
     CArray() = default;
@@ -22,11 +22,11 @@ public:
     INT_PTR GetSize() const { return m_nSize; }
     INT_PTR GetCount() const { return m_nSize; }
     BOOL IsEmpty() const { return m_nSize == 0; }
-    /// The greatest valid index, -1 if there is none.
+    /// The greatest valid index; -1 if the array is empty.
     INT_PTR GetUpperBound() const { return m_nSize - 1; }
 
-    /// Appends new elements, or removes those at the end and frees the memory no longer needed. `growBy`, if
-    /// not negative, becomes the number of elements by which the array grows; 0: it chooses.
+    /// Appends new elements, or removes elements at the end and frees the memory that is no longer needed. A
+    /// `growBy` of 1 or more sets the growth; 0 lets the array choose; -1 keeps the present setting.
     void SetSize(INT_PTR newSize, INT_PTR growBy = -1) {
         Require(newSize >= 0);
         const INT_PTR oldGrowBy = m_nGrowBy;
@@ -42,7 +42,7 @@ public:
             throw;
         }
     }
-    /// Frees the memory of elements that are not there yet; the size stays.
+    /// Frees the memory that is reserved for further elements. The size stays.
     void FreeExtra() {
         if (m_nSize == m_nMaxSize)
             return;
@@ -65,11 +65,11 @@ public:
     }
     TYPE& operator[](INT_PTR index) { return ElementAt(index); }
     const TYPE& operator[](INT_PTR index) const { return ElementAt(index); }
-    /// The elements one behind the other; null for an array that never had any.
+    /// The elements in one block; null if the array never had an element.
     TYPE* GetData() { return m_pData; }
     const TYPE* GetData() const { return m_pData; }
 
-    /// Sets an element; the array is extended up to it if it is not there yet.
+    /// Sets an element. An index behind the end first extends the array.
     void SetAtGrow(INT_PTR index, ARG_TYPE newElement) {
         Require(index >= 0);
         if (index < m_nSize)
@@ -94,7 +94,8 @@ public:
         }
         return index;
     }
-    /// Appends copies of another array's elements; returns the index of the first. The array may be this one.
+    /// Appends copies of the elements of `source`, which may be the array itself. Returns the index of the
+    /// first copy.
     INT_PTR Append(const CArray& source) {
         const INT_PTR oldSize = m_nSize;
         const INT_PTR count = source.m_nSize;
@@ -116,7 +117,8 @@ public:
         CopyElements<TYPE>(m_pData, source.m_pData, m_nSize);
     }
 
-    /// Inserts `count` copies before the element at `index`. Behind the end, new elements fill the gap.
+    /// Inserts `count` copies before the element at `index`. If `index` is behind the end, new elements fill
+    /// the gap.
     void InsertAt(INT_PTR index, ARG_TYPE newElement, INT_PTR count = 1) {
         Require(index >= 0 && count > 0 && count <= MaxSize - index);
         if (index >= m_nSize)
@@ -135,7 +137,7 @@ public:
         InsertWith(first, gap + count,
                    [&](TYPE* target) { CopyElements<TYPE>(target + gap, source->m_pData, count); });
     }
-    /// Removes `count` elements; memory stays reserved.
+    /// Removes `count` elements. The memory stays reserved.
     void RemoveAt(INT_PTR index, INT_PTR count = 1) {
         Require(index >= 0 && count >= 0 && index <= m_nSize && count <= m_nSize - index);
         if (count == 0)
@@ -151,7 +153,7 @@ public:
         Elements::MoveDown(m_pData + index, m_pData + index + count, behind, guard.arrived);
     }
 
-    /// The number of elements, then SerializeElements.
+    /// Stores or loads the number of elements and then the elements (SerializeElements).
     void Serialize(CArchive& ar) override {
         if (ar.IsStoring()) {
             ar.WriteCount(static_cast<DWORD_PTR>(m_nSize));
@@ -185,7 +187,7 @@ private:
             AfxThrowInvalidArgException();
     }
 
-    /// The room to make for `newSize` elements, of which there is too little now.
+    /// The capacity to allocate for `newSize` elements when the present capacity is too small.
     INT_PTR Grown(INT_PTR newSize) const {
         INT_PTR growBy = m_nGrowBy;
         if (growBy == 0) {
@@ -197,7 +199,7 @@ private:
         return m_nMaxSize + growBy;
     }
 
-    /// Takes the block, whose elements are made, for the one there was.
+    /// Replaces the array's block with `block`, whose elements are already constructed.
     void Adopt(AfxBlock<TYPE>& block) {
         Elements::End(m_pData, m_nSize);
         AfxBlock<TYPE>::Free(m_pData);
@@ -218,7 +220,8 @@ private:
     void Shrink(INT_PTR newSize) {
         DestructElements<TYPE>(m_pData + newSize, m_nSize - newSize);
         m_nSize = newSize;
-        // Giving memory back may itself need some; an array that shrinks does not fail for lack of it.
+        // Shrinking may need a new block. If its allocation fails, the array keeps the old block and does
+        // not fail.
         if (newSize == 0) {
             AfxBlock<TYPE>::Free(m_pData);
             m_pData = nullptr;
@@ -233,8 +236,8 @@ private:
         }
     }
 
-    /// Inserts `count` new elements before `index` and sets the last `filled` of them. The value may be an
-    /// element of this array.
+    /// Inserts `count` new elements before `index` and assigns the value to the last `filled` of them. The
+    /// value may be an element of this array.
     void InsertFilled(INT_PTR index, INT_PTR count, ARG_TYPE newElement, INT_PTR filled) {
         if (NeedsNewBlock(index, count) || index == m_nSize) {
             InsertWith(
@@ -259,8 +262,8 @@ private:
         return count > m_nMaxSize - m_nSize || (!Elements::CannotFail && index < m_nSize);
     }
 
-    /// Makes room for `count` elements before `index`, constructs them and lets `fill` set them. Until all
-    /// that has succeeded, the elements there were stay where they are, or are moved back.
+    /// Makes room for `count` elements before `index`, constructs the elements and calls `fill` to set them.
+    /// Until all steps have succeeded, the old elements stay in their places or are moved back.
     template <class FILL> void InsertWith(INT_PTR index, INT_PTR count, FILL fill) {
         if (count > MaxSize - m_nSize)
             AfxThrowMemoryException();

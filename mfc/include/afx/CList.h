@@ -1,13 +1,15 @@
+// CList, a doubly linked list.
 #pragma once
 
 #include <afx/Templates.h>
 
-/// A doubly linked list. A POSITION stays valid until the element there is removed. A null POSITION where an
-/// element is needed asserts in debug builds and throws CInvalidArgException* in others, as do GetHead and
-/// the like on an empty list. When memory runs out CMemoryException* is thrown and the list is as it was.
+/// A doubly linked list. A POSITION stays valid until its element is removed. A null POSITION where an
+/// element is needed, and GetHead() or GetTail() of an empty list, assert in debug builds and throw
+/// CInvalidArgException* in other builds. If memory runs out, members throw CMemoryException* and the list
+/// stays unchanged.
 template <class TYPE, class ARG_TYPE = const TYPE&> class CList : public CObject {
 public:
-    /// `blockSize` is a hint that this list does not need.
+    /// `blockSize` exists for compatibility; the list ignores it.
     explicit CList(INT_PTR blockSize = 10) { static_cast<void>(blockSize); }
     ~CList() override { RemoveAll(); }
 
@@ -20,7 +22,7 @@ public:
     TYPE& GetTail() { return GetAt(GetTailPosition()); }
     const TYPE& GetTail() const { return GetAt(GetTailPosition()); }
 
-    /// Take an element out and return it.
+    /// Remove an element and return its value.
     TYPE RemoveHead() { return Take(m_pHead); }
     TYPE RemoveTail() { return Take(m_pTail); }
 
@@ -47,7 +49,8 @@ public:
     POSITION GetHeadPosition() const { return Position(m_pHead); }
     POSITION GetTailPosition() const { return Position(m_pTail); }
 
-    /// The element at `position`, which moves to the next (previous) one, or becomes null behind the last.
+    /// The element at `position`. The call sets `position` to the next (previous) element, or to null after
+    /// the last one.
     TYPE& GetNext(POSITION& position) {
         Node* const node = At(position);
         position = Position(node->next);
@@ -74,8 +77,8 @@ public:
     void SetAt(POSITION position, ARG_TYPE newElement) { At(position)->element = newElement; }
     void RemoveAt(POSITION position) { Unlink(At(position)); }
 
-    /// Insert beside the element at `position`; with null, InsertBefore adds at the head and InsertAfter at
-    /// the tail.
+    /// Insert an element before or after the element at `position`. With a null `position`, InsertBefore adds
+    /// at the head and InsertAfter at the tail.
     POSITION InsertBefore(POSITION position, ARG_TYPE newElement) {
         if (position == nullptr)
             return AddHead(newElement);
@@ -89,8 +92,8 @@ public:
         return Link(node, newElement, node->next);
     }
 
-    /// The first element behind `startAfter` (null: of all) that CompareElements finds equal; null if there
-    /// is none.
+    /// The first element after `startAfter` that CompareElements finds equal, or null. A null `startAfter`
+    /// searches the whole list.
     POSITION Find(ARG_TYPE searchValue, POSITION startAfter = nullptr) const {
         for (Node* node = startAfter == nullptr ? m_pHead : At(startAfter)->next; node != nullptr;
              node = node->next)
@@ -98,7 +101,7 @@ public:
                 return Position(node);
         return nullptr;
     }
-    /// The place of element number `index` from 0; null if there is no such element.
+    /// The position of element number `index`, counted from 0; null if the list has no such element.
     POSITION FindIndex(INT_PTR index) const {
         if (index < 0 || index >= m_nCount)
             return nullptr;
@@ -108,7 +111,8 @@ public:
         return Position(node);
     }
 
-    /// The number of elements, then SerializeElements of each. Loading adds at the tail.
+    /// Stores or loads the number of elements and then each element (SerializeElements). Loading appends at
+    /// the tail.
     void Serialize(CArchive& ar) override {
         if (ar.IsStoring()) {
             ar.WriteCount(static_cast<DWORD_PTR>(m_nCount));
@@ -144,7 +148,7 @@ private:
 
         Node* next = nullptr;
         Node* previous = nullptr;
-        // In a union, so that ConstructElements and DestructElements alone begin and end its life.
+        // A union, so that only ConstructElements and DestructElements construct and destroy the element.
         union {
             TYPE element;
         };

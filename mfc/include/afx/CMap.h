@@ -1,13 +1,15 @@
+// CMap, a hash table of keys and values.
 #pragma once
 
 #include <afx/Templates.h>
 
-/// A table of unique keys with a value each. Keys are found by HashKey<ARG_KEY> and CompareElements. The
-/// order of enumeration is arbitrary. When memory runs out CMemoryException* is thrown and the map is as it
-/// was.
+/// A hash table of unique keys, each with a value. HashKey<ARG_KEY> and CompareElements find a key. The
+/// order of enumeration is arbitrary. If memory runs out, members throw CMemoryException* and the map
+/// stays unchanged.
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE> class CMap : public CObject {
 public:
-    /// A key with its value; what the PGet members lend.
+    /// A key with its value. PLookup(), PGetFirstAssoc() and PGetNextAssoc() return pointers to pairs inside
+    /// the map.
     struct CPair {
         const KEY key;
         VALUE value;
@@ -16,7 +18,7 @@ public:
         explicit CPair(ARG_KEY newKey) : key(newKey), value() {}
     };
 
-    /// `blockSize` is a hint that this map does not need.
+    /// `blockSize` exists for compatibility; the map ignores it.
     explicit CMap(INT_PTR blockSize = 10) { static_cast<void>(blockSize); }
     ~CMap() override { RemoveAll(); }
 
@@ -24,7 +26,8 @@ public:
     INT_PTR GetSize() const { return m_nCount; }
     BOOL IsEmpty() const { return m_nCount == 0; }
 
-    /// FALSE, and `value` unchanged, if the key is not there.
+    /// Copies the value of `key`. If the map does not contain the key, returns FALSE and leaves
+    /// `value` unchanged.
     BOOL Lookup(ARG_KEY key, VALUE& value) const {
         const Node* const node = FindNode(key);
         if (node == nullptr)
@@ -35,7 +38,7 @@ public:
     const CPair* PLookup(ARG_KEY key) const { return FindNode(key); }
     CPair* PLookup(ARG_KEY key) { return FindNode(key); }
 
-    /// The value of the key, which is added with a default value if it is not there.
+    /// The value of `key`. If the map does not contain the key, adds it with a default value.
     VALUE& operator[](ARG_KEY key) {
         Node* node = FindNode(key);
         if (node == nullptr)
@@ -53,7 +56,7 @@ public:
             throw;
         }
     }
-    /// FALSE if the key is not there.
+    /// FALSE if the map does not contain the key.
     BOOL RemoveKey(ARG_KEY key) {
         if (!m_buckets)
             return FALSE;
@@ -80,25 +83,25 @@ public:
         m_nCount = 0;
     }
 
-    /// Null for an empty map, else the place before the first element.
+    /// The position before the first element; null if the map is empty.
     POSITION GetStartPosition() const { return m_nCount == 0 ? nullptr : BEFORE_START_POSITION; }
-    /// Copies the element at `position`, which moves to the next, or becomes null behind the last. That
-    /// element may then be removed, and the enumeration goes on.
+    /// Copies the element at `position` and sets `position` to the next element, or to null after the last
+    /// one. The program may remove the copied element and go on with the enumeration.
     void GetNextAssoc(POSITION& position, KEY& key, VALUE& value) const {
         const Node* const node = NodeAt(position);
         position = reinterpret_cast<POSITION>(NextNode(node));
         key = node->key;
         value = node->value;
     }
-    /// The first element, or the one behind `pair`; null if there is none.
+    /// The first element, or the element after `pair`; null if there is none.
     const CPair* PGetFirstAssoc() const { return FirstNode(0); }
     CPair* PGetFirstAssoc() { return FirstNode(0); }
     const CPair* PGetNextAssoc(const CPair* pair) const { return NextNode(CheckedNode(pair)); }
     CPair* PGetNextAssoc(const CPair* pair) { return NextNode(CheckedNode(pair)); }
 
     UINT GetHashTableSize() const { return m_nBuckets; }
-    /// Sets the size of the hash table, before the first element is added: about a fifth more than the
-    /// elements expected, and best a prime number. `allocateNow` makes the table at once.
+    /// Sets the size of the hash table before the first element is added. Good sizes are prime numbers about
+    /// a fifth larger than the expected number of elements. `allocateNow` allocates the table at once.
     void InitHashTable(UINT hashSize, BOOL allocateNow = TRUE) {
         Require(m_nCount == 0 && hashSize > 0);
         m_buckets.reset();
@@ -107,8 +110,8 @@ public:
             MakeTable();
     }
 
-    /// The number of elements, then for each SerializeElements of its key and of its value. Loading adds to
-    /// the map.
+    /// Stores or loads the number of elements, then key and value of each element (SerializeElements).
+    /// Loading adds to the map.
     void Serialize(CArchive& ar) override {
         if (ar.IsStoring()) {
             ar.WriteCount(static_cast<DWORD_PTR>(m_nCount));

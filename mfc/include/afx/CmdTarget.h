@@ -1,39 +1,39 @@
+// CCmdTarget, the base of all classes with message maps, and CCmdUI, which updates menu items and buttons.
 #pragma once
 
 #include "afx/MessageMap.h"
 
-/// What CCmdTarget::OnCmdMsg() fills in instead of calling the handler.
+/// Result of CCmdTarget::OnCmdMsg() when the caller asks for the handler instead of calling it.
 struct AFX_CMDHANDLERINFO {
-    CCmdTarget* pTarget;       ///< object that would handle the command
-    void (CCmdTarget::*pmf)(); ///< its handler, if that takes no arguments; else NULL
+    CCmdTarget* pTarget;       ///< object with the handler
+    void (CCmdTarget::*pmf)(); ///< the handler, if it has no arguments; else NULL
 };
 
 /// `pExtra` of CCmdTarget::OnCmdMsg() for a WM_NOTIFY notification.
 struct AFX_NOTIFY {
-    LRESULT* pResult; ///< receives the handler's answer
+    LRESULT* pResult; ///< receives the handler's result
     NMHDR* pNMHDR;    ///< the notification
 };
 
-/// Base of everything that can have a message map: windows, threads and the application.
+/// Base of all classes with a message map: windows, threads and the application.
 class MFC_API CCmdTarget : public CObject {
     DECLARE_DYNAMIC(CCmdTarget)
 
 public:
     CCmdTarget() = default;
 
-    /// Routes one command or notification. The base looks through this object's message map; overrides go on
-    /// to further objects.
-    /// @param nID  command or control ID
-    /// @param nCode  CN_COMMAND, CN_UPDATE_COMMAND_UI, or a control's notification code
-    /// @param pExtra  CCmdUI* for updates, AFX_NOTIFY* for WM_NOTIFY notifications, else NULL
-    /// @param pHandlerInfo  if not NULL the handler is only told, not called
-    /// @return nonzero if the command was handled
+    /// Routes a command or notification to a handler. The base searches the message map of this object;
+    /// overrides also ask other objects. `nID` is the ID of the command or control. `nCode` is CN_COMMAND,
+    /// CN_UPDATE_COMMAND_UI or a notification code of the control. `pExtra` is a CCmdUI* for updates, an
+    /// AFX_NOTIFY* for WM_NOTIFY notifications, else NULL. If `pHandlerInfo` is not NULL, the function
+    /// fills in the handler and does not call it. Returns nonzero if a handler exists and did not refuse
+    /// the command.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
-    /// Shows the hourglass until the matching EndWaitCursor(); calls nest.
+    /// Shows the hourglass until the matching EndWaitCursor(). Calls can be nested.
     void BeginWaitCursor();
     void EndWaitCursor();
-    /// Shows the hourglass again after something else (a message box, say) changed the cursor.
+    /// Shows the hourglass again after another function, such as a message box, changed the cursor.
     void RestoreWaitCursor();
 
 protected:
@@ -45,7 +45,7 @@ protected:
     virtual const AFX_MSGMAP* GetMessageMap() const;
 };
 
-/// Shows the hourglass as long as it lives.
+/// Shows the hourglass while the object exists.
 class MFC_API CWaitCursor {
 public:
     CWaitCursor();
@@ -55,34 +55,34 @@ public:
     void Restore();
 };
 
-/// One user-interface item (menu item, button, pane) that is being brought up to date. ON_UPDATE_COMMAND_UI
-/// handlers get one and say how the item shall look.
+/// A user-interface item (menu item, button, pane) during an update. An ON_UPDATE_COMMAND_UI handler receives
+/// the object and sets the item's state.
 class MFC_API CCmdUI {
 public:
     CCmdUI();
     virtual ~CCmdUI() = default;
 
     UINT m_nID = 0;                 ///< command ID of the item
-    UINT m_nIndex = 0;              ///< its position in the menu or bar
-    CMenu* m_pMenu = nullptr;       ///< the menu that holds it, if a menu does
-    CMenu* m_pSubMenu = nullptr;    ///< the popup that the item opens, if it does
-    CMenu* m_pParentMenu = nullptr; ///< the menu that holds m_pMenu, for popups of a menu bar
-    CWnd* m_pOther = nullptr;       ///< the window that is the item or holds it, if it is no menu item
-    BOOL m_bEnableChanged = FALSE;  ///< whether Enable() was called
+    UINT m_nIndex = 0;              ///< position of the item in the menu or bar
+    CMenu* m_pMenu = nullptr;       ///< the menu that contains the item; NULL if the item is not a menu item
+    CMenu* m_pSubMenu = nullptr;    ///< the popup that the item opens; NULL if the item opens none
+    CMenu* m_pParentMenu = nullptr; ///< the menu that contains m_pMenu, for popups of a menu bar
+    CWnd* m_pOther = nullptr;       ///< the window that is or contains the item; NULL for menu items
+    BOOL m_bEnableChanged = FALSE;  ///< whether a handler called Enable()
     BOOL m_bContinueRouting = FALSE;
     UINT m_nIndexMax = 0; ///< number of items in the menu or bar
 
     /// Enables or greys the item.
     virtual void Enable(BOOL bOn = TRUE);
-    /// 0 unchecked, 1 checked, 2 undetermined (shown by buttons only).
+    /// 0 unchecked, 1 checked, 2 undetermined (visible on buttons only).
     virtual void SetCheck(int nCheck = 1);
-    /// As SetCheck(), with a radio button's dot.
+    /// Like SetCheck(), but the mark is the dot of a radio button.
     virtual void SetRadio(BOOL bOn = TRUE);
     virtual void SetText(LPCTSTR lpszText);
-    /// Makes the framework ask the next object in the command's route, as if there were no handler here.
+    /// Makes the framework ask the next object of the route, as if this handler did not exist.
     void ContinueRouting() { m_bContinueRouting = TRUE; }
 
-    /// Asks `pTarget` to update the item. With `bDisableIfNoHndler` the item is greyed when no update handler
-    /// called Enable() and nobody would handle the command.
+    /// Asks `pTarget` to update the item. With `bDisableIfNoHndler`, the function greys the item if no update
+    /// handler called Enable() and no object has a handler for the command.
     BOOL DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
 };

@@ -1,12 +1,13 @@
+// The classes of the common controls.
 #pragma once
 
 #include "afx/Controls.h"
 #include "afx/Export.h"
 #include <commctrl.h>
 
-/// The common controls, as objects. Creating one loads the system's common-control library first.
+/// The common controls. Create() first loads the system's common-control library.
 
-/// A status bar. Panes count from 0; 255 names the one simple pane.
+/// A status bar. Panes count from 0; number 255 is the pane of the simple mode.
 class MFC_API CStatusBarCtrl : public CWnd {
     DECLARE_DYNAMIC(CStatusBarCtrl)
 
@@ -15,34 +16,35 @@ public:
     ~CStatusBarCtrl() override;
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    /// `nType` holds drawing flags (0, SBT_NOBORDERS, SBT_POPOUT, SBT_OWNERDRAW).
+    /// `nType` is 0 or a drawing flag: SBT_NOBORDERS, SBT_POPOUT, SBT_OWNERDRAW.
     BOOL SetText(LPCTSTR lpszText, int nPane, int nType);
     CString GetText(int nPane, int* pType = nullptr) const;
-    /// Copies text and zero: the buffer holds GetTextLength() + 1 characters. Returns the length.
+    /// Copies the text and a terminating zero; the buffer needs GetTextLength() + 1 characters. Returns
+    /// the length.
     int GetText(LPTSTR lpszText, int nPane, int* pType = nullptr) const;
     int GetTextLength(int nPane, int* pType = nullptr) const;
-    /// Right edges of the panes in client pixels; -1 stands for the end of the window.
+    /// Sets the panes. `pWidths` holds the right edges in client pixels; -1 is the right end of the window.
     BOOL SetParts(int nParts, int* pWidths);
-    /// Returns the number of panes and fills at most `nParts` edges.
+    /// Copies at most `nParts` right edges. Returns the number of panes.
     int GetParts(int nParts, int* pParts) const;
-    /// Widths of the borders in pixels: horizontal, vertical, between panes.
+    /// Widths of the borders in pixels: horizontal, vertical, between the panes.
     BOOL GetBorders(int* pBorders) const;
     BOOL GetBorders(int& nHorz, int& nVert, int& nSpacing) const;
     void SetMinHeight(int nMin);
     BOOL SetSimple(BOOL bSimple = TRUE);
     BOOL GetRect(int nPane, LPRECT lpRect) const;
 
-    /// Panes drawn by their owner: override it. The default draws nothing.
+    /// Override the function to draw owner-drawn panes. The default draws nothing.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
 };
 
-/// A progress bar. Its range starts as 0 to 100, its step as 10.
+/// A progress bar. The initial range is 0 to 100, the initial step 10.
 class MFC_API CProgressCtrl : public CWnd {
     DECLARE_DYNAMIC(CProgressCtrl)
 
@@ -51,24 +53,24 @@ public:
     ~CProgressCtrl() override;
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    /// 16-bit limits; SetRange32() takes any int.
+    /// Limits of 16 bits. SetRange32() accepts every int.
     void SetRange(short nLower, short nUpper);
     void SetRange32(int nLower, int nUpper);
     void GetRange(int& nLower, int& nUpper) const;
     int GetPos() const { return afx_control::Ask(m_hWnd, PBM_GETPOS); }
-    /// All three return the former position.
+    /// The three functions return the former position.
     int SetPos(int nPos) { return afx_control::Ask(m_hWnd, PBM_SETPOS, Param(nPos)); }
     int OffsetPos(int nPos) { return afx_control::Ask(m_hWnd, PBM_DELTAPOS, Param(nPos)); }
     int StepIt() { return afx_control::Ask(m_hWnd, PBM_STEPIT); }
-    /// Returns the former step.
+    /// Sets the step and returns the former step.
     int SetStep(int nStep) { return afx_control::Ask(m_hWnd, PBM_SETSTEP, Param(nStep)); }
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
 
-/// A slider (trackbar). Its parent learns of moves by WM_HSCROLL and WM_VSCROLL.
+/// A slider (trackbar). The parent gets WM_HSCROLL or WM_VSCROLL when the user moves the slider.
 class MFC_API CSliderCtrl : public CWnd {
     DECLARE_DYNAMIC(CSliderCtrl)
 
@@ -90,7 +92,7 @@ public:
     void GetSelection(int& nMin, int& nMax) const;
     void SetSelection(int nMin, int nMax);
     int GetPos() const { return afx_control::Ask(m_hWnd, TBM_GETPOS); }
-    /// Held inside the range; repaints.
+    /// Positions outside the range are moved into it. The control repaints itself.
     void SetPos(int nPos) { afx_control::Ask(m_hWnd, TBM_SETPOS, TRUE, nPos); }
     UINT GetNumTics() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, TBM_GETNUMTICS)); }
     int GetTic(int nTic) const { return afx_control::Ask(m_hWnd, TBM_GETTIC, static_cast<WPARAM>(nTic)); }
@@ -109,10 +111,10 @@ public:
     void GetThumbRect(LPRECT lprc) const;
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
 };
 
-/// An up-down control, often beside an edit control (its buddy).
+/// An up-down control, often next to an edit control (its buddy).
 class MFC_API CSpinButtonCtrl : public CWnd {
     DECLARE_DYNAMIC(CSpinButtonCtrl)
 
@@ -121,11 +123,11 @@ public:
     ~CSpinButtonCtrl() override;
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    /// 16-bit positions; the "32" forms take any int. SetPos() returns the former position.
+    /// Positions of 16 bits; the functions with "32" accept every int. SetPos() returns the former position.
     int SetPos(int nPos) {
         return static_cast<short>(afx_control::Ask(m_hWnd, UDM_SETPOS, 0, MAKELPARAM(nPos, 0)));
     }
-    /// Low word: position; high word: nonzero on error (a buddy's text that is no number).
+    /// Low word: the position. High word: nonzero on error, for example if the buddy's text is not a number.
     int GetPos() const { return afx_control::Ask(m_hWnd, UDM_GETPOS); }
     int SetPos32(int nPos) { return afx_control::Ask(m_hWnd, UDM_SETPOS32, 0, nPos); }
     int GetPos32(LPBOOL lpbError = nullptr) const;
@@ -135,21 +137,21 @@ public:
     DWORD GetRange() const { return static_cast<DWORD>(afx_control::Ask(m_hWnd, UDM_GETRANGE)); }
     void GetRange(int& lower, int& upper) const;
     void GetRange32(int& lower, int& upper) const;
-    /// 10 or 16; returns the former base, 0 for another one.
+    /// Sets the base, 10 or 16. Returns the former base, or 0 if `nBase` is another number.
     int SetBase(int nBase) { return afx_control::Ask(m_hWnd, UDM_SETBASE, static_cast<WPARAM>(nBase)); }
     UINT GetBase() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, UDM_GETBASE)); }
-    /// Both buddies may be temporary; NULL if there is none.
+    /// Both functions may return temporary objects, and NULL if there is no buddy.
     CWnd* SetBuddy(CWnd* pWndBuddy);
     CWnd* GetBuddy() const;
     BOOL SetAccel(int nAccel, UDACCEL* pAccel);
     UINT GetAccel(int nAccel, UDACCEL* pAccel) const;
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
 };
 
-/// A tooltip window for the controls of a window. Relay mouse messages to it (CWnd::PreTranslateMessage() is
-/// the place), or add tools with TTF_SUBCLASS.
+/// A tooltip window for the controls of a window. The program relays mouse messages, usually in
+/// CWnd::PreTranslateMessage(), or adds its tools with TTF_SUBCLASS.
 class MFC_API CToolTipCtrl : public CWnd {
     DECLARE_DYNAMIC(CToolTipCtrl)
 
@@ -159,11 +161,11 @@ public:
     BOOL Create(CWnd* pParentWnd, DWORD dwStyle = 0);
 
     void Activate(BOOL bActivate) { afx_control::Ask(m_hWnd, TTM_ACTIVATE, static_cast<WPARAM>(bActivate)); }
-    /// A tool is the whole of `pWnd` (`nIDTool` 0), or the part `lpRectTool` of its client area (`nIDTool`
-    /// not 0). LPSTR_TEXTCALLBACK asks the window for the text when it is needed.
+    /// Adds a tool: the whole of `pWnd` if `nIDTool` is 0, else the part `lpRectTool` of its client area.
+    /// LPSTR_TEXTCALLBACK makes the tooltip ask the window for the text.
     BOOL AddTool(CWnd* pWnd, LPCTSTR lpszText = LPSTR_TEXTCALLBACK, LPCRECT lpRectTool = nullptr,
                  UINT_PTR nIDTool = 0);
-    /// The text is loaded through the resource chain.
+    /// The text is a string of the resource chain.
     BOOL AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool = nullptr, UINT_PTR nIDTool = 0);
     void DelTool(CWnd* pWnd, UINT_PTR nIDTool = 0);
     int GetToolCount() const { return afx_control::Ask(m_hWnd, TTM_GETTOOLCOUNT); }
@@ -174,7 +176,8 @@ public:
     void RelayEvent(LPMSG lpMsg) {
         ::SendMessage(m_hWnd, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(lpMsg));
     }
-    /// Milliseconds: TTDT_AUTOMATIC sets all from one, TTDT_INITIAL, TTDT_AUTOPOP, TTDT_RESHOW set one each.
+    /// Times in milliseconds. TTDT_AUTOMATIC sets all three times in proportion; TTDT_INITIAL, TTDT_AUTOPOP
+    /// and TTDT_RESHOW set one each.
     void SetDelayTime(UINT nDelay) { SetDelayTime(TTDT_AUTOMATIC, static_cast<int>(nDelay)); }
     void SetDelayTime(DWORD dwDuration, int iTime);
     int GetDelayTime(DWORD dwDuration) const {
@@ -185,5 +188,5 @@ public:
     void Pop() { afx_control::Ask(m_hWnd, TTM_POP); }
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
 };

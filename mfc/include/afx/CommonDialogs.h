@@ -1,3 +1,4 @@
+// The file, colour and font dialogs of the system.
 #pragma once
 
 #include "afx/Dialog.h"
@@ -5,8 +6,8 @@
 #include <afxcoll.h>
 #include <commdlg.h>
 
-/// Base of the system's own dialogs. Their DoModal() returns IDOK or IDCANCEL; after IDCANCEL
-/// ::CommDlgExtendedError() tells whether an error was the cause.
+/// Base of the system's own dialogs. DoModal() returns IDOK or IDCANCEL. After IDCANCEL,
+/// ::CommDlgExtendedError() is nonzero if an error was the cause.
 class MFC_API CCommonDialog : public CDialog {
     DECLARE_DYNAMIC(CCommonDialog)
 
@@ -15,9 +16,10 @@ public:
     ~CCommonDialog() override;
 
 protected:
-    /// The owner's window: the parent given, else the main window; it may be NULL.
+    /// The owner's window: the parent from the constructor, else the main window, else NULL.
     HWND OwnerWindow() const;
-    /// The system's procedure ends these dialogs; the base class's exchange and EndDialog() stay out of it.
+    /// The system's dialog procedure ends these dialogs, so OnOK() and OnCancel() neither exchange data nor
+    /// call EndDialog().
     void OnOK() override;
     void OnCancel() override;
     CWnd* m_pOwnerWnd;
@@ -28,39 +30,40 @@ class MFC_API CFileDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CFileDialog)
 
 public:
-    /// @param bOpenFileDialog  TRUE: Open; FALSE: Save As
-    /// @param lpszDefExt  extension added to a name without one, no period; NULL adds none
-    /// @param lpszFileName  name shown first
-    /// @param dwFlags  OFN_ flags
-    /// @param lpszFilter  pairs "Text (*.txt)|*.txt|", ended by one more '|'
+    /// `bOpenFileDialog` TRUE makes the Open dialog, FALSE the Save As dialog. `lpszDefExt` is the extension,
+    /// without period, that the dialog adds to a name without one; NULL adds none. `lpszFileName` is the
+    /// initial name, `dwFlags` are OFN_ flags. `lpszFilter` holds pairs "Text (*.txt)|*.txt|" and ends with
+    /// one more '|'.
     explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr, LPCTSTR lpszFileName = nullptr,
                          DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCTSTR lpszFilter = nullptr,
                          CWnd* pParentWnd = nullptr);
     ~CFileDialog() override;
 
-    /// Change it after construction and before DoModal(). With OFN_ALLOWMULTISELECT give it a larger
-    /// lpstrFile and nMaxFile of your own.
+    /// The system's record. Change it between construction and DoModal(). OFN_ALLOWMULTISELECT needs a larger
+    /// buffer of the program in lpstrFile and nMaxFile.
     OPENFILENAME m_ofn{};
 
     INT_PTR DoModal() override;
 
-    /// While the dialog is open they ask it; after DoModal() they tell what was chosen.
+    /// While the dialog is open, the functions return its present contents; after DoModal(), the
+    /// user's choice.
     CString GetPathName() const;
     CString GetFileName() const;
-    /// Without the period.
+    /// The extension without the period.
     CString GetFileExt() const;
     /// The name without its extension.
     CString GetFileTitle() const;
     BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
 
-    /// The chosen files, one after the other, as full paths: start, then next until the position is NULL.
+    /// The chosen files as full paths. GetNextPathName() sets the position to NULL after the last one.
     POSITION GetStartPosition() const;
     CString GetNextPathName(POSITION& pos) const;
 
 protected:
-    /// 0 accepts the name; 1 keeps the dialog open (tell the user why).
+    /// Return 0 to accept the name, 1 to keep the dialog open. The override shows the reason to the user.
     virtual BOOL OnFileNameOK();
-    /// OFN_SHAREFALLTHROUGH (accept), OFN_SHARENOWARN (refuse, silently) or OFN_SHAREWARN (refuse and tell).
+    /// Return OFN_SHAREFALLTHROUGH to accept the file, OFN_SHARENOWARN to refuse it without a message,
+    /// OFN_SHAREWARN to refuse it with a message.
     virtual UINT OnShareViolation(LPCTSTR lpszPathName);
     virtual void OnInitDone();
     virtual void OnFileNameChange();
@@ -89,15 +92,15 @@ public:
     CHOOSECOLOR m_cc{};
 
     INT_PTR DoModal() override;
-    /// The colour chosen, or the current one while the dialog is open.
+    /// The chosen colour; while the dialog is open, the colour it shows.
     COLORREF GetColor() const { return m_cc.rgbResult; }
     /// Selects a colour in the open dialog.
     void SetCurrentColor(COLORREF clr);
-    /// The 16 custom colours, shared by all such dialogs of the program.
+    /// The 16 custom colours. All colour dialogs of the program share them.
     static COLORREF* PASCAL GetSavedCustomColors();
 
 protected:
-    /// 0 accepts the colour; 1 keeps the dialog open.
+    /// Return 0 to accept the colour, 1 to keep the dialog open.
     virtual BOOL OnColorOK();
 
 private:
@@ -116,11 +119,11 @@ public:
     CHOOSEFONT m_cf{};
 
     INT_PTR DoModal() override;
-    /// The font chosen; while the dialog is open, the one shown now.
+    /// The chosen font; while the dialog is open, the font it shows.
     void GetCurrentFont(LPLOGFONT lplf);
     CString GetFaceName() const { return m_lf.lfFaceName; }
     CString GetStyleName() const { return m_szStyleName; }
-    /// Tenths of a point.
+    /// Size in tenths of a point.
     int GetSize() const { return m_cf.iPointSize; }
     COLORREF GetColor() const { return m_cf.rgbColors; }
     int GetWeight() const { return m_lf.lfWeight; }

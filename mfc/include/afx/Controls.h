@@ -1,15 +1,16 @@
+// The classes of the system's controls: static, button, edit, scroll bar.
 #pragma once
 
 #include "afx/Export.h"
 #include "afx/GdiObject.h"
 #include "afx/Wnd.h"
 
-/// The controls of the system, as objects. Every Create() makes the control as a child of `pParentWnd` with
-/// the command ID `nID`, in client coordinates of the parent, and returns FALSE on failure. Members send the
-/// control's own messages, so they need a window, and the control repaints itself as the system has it do.
+/// The controls of the system. Create() makes the control as a child of `pParentWnd` with the ID `nID`, in
+/// client coordinates of the parent, and returns FALSE on failure. Members send messages to the control, so
+/// the window must exist.
 
 namespace afx_control {
-/// A control's answer as an int: counts, indices and flags all fit one.
+/// A control's answer as an int. Counts, indices and flags fit into an int.
 inline int Ask(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessage(control, message, wParam, lParam));
 }
@@ -24,7 +25,7 @@ public:
     ~CStatic() override;
     BOOL Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID = 0xFFFF);
 
-    /// Pictures stay the caller's. Setters return the former one.
+    /// The caller keeps ownership of pictures. Setters return the former picture.
     HBITMAP SetBitmap(HBITMAP hBitmap) { return reinterpret_cast<HBITMAP>(SetImage(IMAGE_BITMAP, hBitmap)); }
     HBITMAP GetBitmap() const { return reinterpret_cast<HBITMAP>(GetImage(IMAGE_BITMAP)); }
     HICON SetIcon(HICON hIcon);
@@ -38,14 +39,14 @@ public:
         return reinterpret_cast<HENHMETAFILE>(GetImage(IMAGE_ENHMETAFILE));
     }
 
-    /// Owner draw (SS_OWNERDRAW): override it. The default draws nothing.
+    /// Override the function for SS_OWNERDRAW. The default draws nothing.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
     LRESULT SetImage(UINT kind, HANDLE image);
     LRESULT GetImage(UINT kind) const;
 };
@@ -59,18 +60,18 @@ public:
     ~CButton() override;
     BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    /// BST_ bits: checked, pushed, focus.
+    /// BST_ flags: checked, pushed, focus.
     UINT GetState() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, BM_GETSTATE)); }
     void SetState(BOOL bHighlight) { afx_control::Ask(m_hWnd, BM_SETSTATE, static_cast<WPARAM>(bHighlight)); }
     /// 0 unchecked, 1 checked, 2 indeterminate.
     int GetCheck() const { return afx_control::Ask(m_hWnd, BM_GETCHECK); }
     void SetCheck(int nCheck) { afx_control::Ask(m_hWnd, BM_SETCHECK, static_cast<WPARAM>(nCheck)); }
-    /// The BS_ bits of the window style.
+    /// The BS_ flags of the window style.
     UINT GetButtonStyle() const;
     void SetButtonStyle(UINT nStyle, BOOL bRedraw = TRUE) {
         afx_control::Ask(m_hWnd, BM_SETSTYLE, nStyle, bRedraw);
     }
-    /// Pictures stay the caller's. Setters return the former one.
+    /// The caller keeps ownership of pictures. Setters return the former picture.
     HICON SetIcon(HICON hIcon);
     HICON GetIcon() const;
     HBITMAP SetBitmap(HBITMAP hBitmap);
@@ -78,17 +79,17 @@ public:
     HCURSOR SetCursor(HCURSOR hCursor) { return static_cast<HCURSOR>(SetIcon(static_cast<HICON>(hCursor))); }
     HCURSOR GetCursor() const { return static_cast<HCURSOR>(GetIcon()); }
 
-    /// Owner draw (BS_OWNERDRAW): override it. The default draws nothing.
+    /// Override the function for BS_OWNERDRAW. The default draws nothing.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
 };
 
-/// An edit control, of one line or several. Character positions count from 0 through the whole text.
+/// An edit control with one line or several lines. Character positions count from 0 through the whole text.
 class MFC_API CEdit : public CWnd {
     DECLARE_DYNAMIC(CEdit)
 
@@ -104,24 +105,25 @@ public:
         afx_control::Ask(m_hWnd, EM_SETMODIFY, static_cast<WPARAM>(bModified));
     }
     void GetRect(LPRECT lpRect) const;
-    /// Start in the low word, end in the high word; texts beyond 65,535 characters need the other form.
+    /// Low word: start of the selection; high word: its end. Texts of more than 65,535 characters need the
+    /// other form.
     DWORD GetSel() const { return static_cast<DWORD>(afx_control::Ask(m_hWnd, EM_GETSEL)); }
-    /// `nEndChar` is the first character behind the selection.
+    /// `nEndChar` is the first character after the selection.
     void GetSel(int& nStartChar, int& nEndChar) const;
     HLOCAL GetHandle() const { return reinterpret_cast<HLOCAL>(::SendMessage(m_hWnd, EM_GETHANDLE, 0, 0)); }
     void SetHandle(HLOCAL hBuffer) {
         ::SendMessage(m_hWnd, EM_SETHANDLE, reinterpret_cast<WPARAM>(hBuffer), 0);
     }
-    /// Low word: left margin, high word: right margin, in pixels.
+    /// Low word: left margin in pixels; high word: right margin.
     DWORD GetMargins() const { return static_cast<DWORD>(afx_control::Ask(m_hWnd, EM_GETMARGINS)); }
     void SetMargins(UINT nLeft, UINT nRight);
     UINT GetLimitText() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, EM_GETLIMITTEXT)); }
     void SetLimitText(UINT nMax) { afx_control::Ask(m_hWnd, EM_SETLIMITTEXT, nMax); }
     CPoint PosFromChar(UINT nChar) const;
-    /// Low word: character, high word: line.
+    /// Low word: character index; high word: line.
     int CharFromPos(CPoint pt) const;
-    /// Copies line `nIndex` (from 0) without a terminating zero; the first form takes the buffer's size from
-    /// its first word. Returns the characters copied, 0 if there is no such line.
+    /// Copies line `nIndex`, counted from 0, without a terminating zero. The first form reads the buffer's
+    /// size from its first word. Returns the number of characters; 0 if the line does not exist.
     int GetLine(int nIndex, LPTSTR lpszBuffer) const;
     int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
     void EmptyUndoBuffer() { afx_control::Ask(m_hWnd, EM_EMPTYUNDOBUFFER); }
@@ -129,11 +131,11 @@ public:
         return afx_control::Ask(m_hWnd, EM_FMTLINES, static_cast<WPARAM>(bAddEOL));
     }
     void LimitText(int nChars = 0) { afx_control::Ask(m_hWnd, EM_LIMITTEXT, static_cast<WPARAM>(nChars)); }
-    /// The line that holds a character; -1 asks for the line where the selection starts.
+    /// The line of a character; -1 stands for the start of the selection.
     int LineFromChar(int nIndex = -1) const {
         return afx_control::Ask(m_hWnd, EM_LINEFROMCHAR, Position(nIndex));
     }
-    /// The first character of a line; -1 asks for the line with the caret.
+    /// The first character of a line; -1 stands for the line with the caret.
     int LineIndex(int nLine = -1) const { return afx_control::Ask(m_hWnd, EM_LINEINDEX, Position(nLine)); }
     int LineLength(int nLine = -1) const { return afx_control::Ask(m_hWnd, EM_LINELENGTH, Position(nLine)); }
     void LineScroll(int nLines, int nChars = 0) {
@@ -144,8 +146,8 @@ public:
     TCHAR GetPasswordChar() const { return static_cast<TCHAR>(afx_control::Ask(m_hWnd, EM_GETPASSWORDCHAR)); }
     void SetRect(LPCRECT lpRect);
     void SetRectNP(LPCRECT lpRect);
-    /// (0, -1) selects all; a start of -1 takes the selection away. The caret is scrolled into view unless
-    /// told not to.
+    /// The range (0, -1) selects all; a start of -1 removes the selection. The control scrolls the caret into
+    /// view unless `bNoScroll` is TRUE.
     void SetSel(DWORD dwSelection, BOOL bNoScroll = FALSE);
     void SetSel(int nStartChar, int nEndChar, BOOL bNoScroll = FALSE);
     BOOL SetTabStops(int nTabStops, LPINT rgTabStops);
@@ -163,11 +165,11 @@ public:
     void Paste() { afx_control::Ask(m_hWnd, WM_PASTE); }
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
     static WPARAM Position(int index) { return static_cast<WPARAM>(static_cast<INT_PTR>(index)); }
 };
 
-/// A scroll bar control. (Scroll bars that belong to a window's frame are members of CWnd.)
+/// A scroll bar control. CWnd has the functions for scroll bars in a window's frame.
 class MFC_API CScrollBar : public CWnd {
     DECLARE_DYNAMIC(CScrollBar)
 
@@ -189,14 +191,14 @@ public:
     BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH) {
         return ::EnableScrollBar(m_hWnd, SB_CTL, nArrowFlags);
     }
-    /// cbSize is filled in.
+    /// The function fills in cbSize.
     BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    /// The largest position a user can reach, the page considered.
+    /// The largest position that the user can reach: the end of the range minus the page.
     int GetScrollLimit();
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
 };
 
 #include "afx/ListControls.h"

@@ -1,3 +1,4 @@
+// CDC, a device context.
 #pragma once
 
 #include "afx/Export.h"
@@ -6,15 +7,14 @@
 
 class CWnd;
 
-/// Deletes the calling thread's temporary DC, GDI object and menu wrappers; called when the thread is idle.
+/// Deletes the temporary DC, GDI object and menu wrappers of the calling thread. The message loop calls the
+/// function when it is idle.
 void MFC_API AfxDeleteTempGdiMaps();
 
-/// A device context.
-///
-/// It is two handles in one: output goes to m_hDC, questions are answered by m_hAttribDC; usually they are
-/// the same. Settings go to both, and what a setter returns (the former value) comes from m_hAttribDC if
-/// there is one. Coordinates are logical units unless told otherwise. Drawing members return FALSE, and GDI's
-/// own error values where they return more, on failure; none throws.
+/// A device context with two handles. Output goes to m_hDC, and m_hAttribDC answers questions; usually both
+/// are the same handle. Setters change both DCs and return the former value of m_hAttribDC, or of m_hDC if
+/// m_hAttribDC is NULL. Coordinates are logical units if the comment does not name another unit. On failure,
+/// drawing members return FALSE or GDI's error value; they do not throw.
 class MFC_API CDC : public CObject {
     DECLARE_DYNCREATE(CDC)
 
@@ -23,60 +23,55 @@ public:
     HDC m_hAttribDC = nullptr; ///< attributes
 
     CDC() = default;
-    /// Deletes the output DC it still owns.
+    /// Deletes the output DC that the object owns.
     ~CDC() override;
 
-    /// @name Handles
-    /// @{
-    /// The permanent object of `hDC`, else a temporary one; NULL for a NULL handle.
+    /// The attached object of `hDC`, else a temporary one. NULL for a NULL handle.
     static CDC* PASCAL FromHandle(HDC hDC);
-    /// Deletes the temporaries of the calling thread; their handles stay.
+    /// Deletes the temporary objects of the calling thread. The handles stay valid.
     static void PASCAL DeleteTempMap();
     operator HDC() const { return m_hDC; }
-    /// m_hDC; NULL also for a NULL object.
+    /// m_hDC. The call is allowed on a NULL object and then returns NULL.
     HDC GetSafeHdc() const;
-    /// The window the DC belongs to, or NULL (memory, printer, metafile).
+    /// The window of the DC; NULL for memory, printer and metafile DCs.
     CWnd* GetWindow() const;
-    /// Takes `hDC` for both handles, and owns it. FALSE for NULL. Throws CMemoryException* when memory runs
-    /// out; the DC stays the caller's.
+    /// Sets both handles to `hDC`; the object owns it from now on. FALSE for NULL. Throws CMemoryException*
+    /// if memory runs out; the caller then keeps the DC.
     BOOL Attach(HDC hDC);
-    /// Gives both handles up; the caller deletes or releases the result.
+    /// Clears both handles. The caller deletes or releases the result.
     HDC Detach();
     virtual void SetAttribDC(HDC hDC);
     virtual void SetOutputDC(HDC hDC);
     virtual void ReleaseAttribDC();
     virtual void ReleaseOutputDC();
-    /// A DC used for printing.
+    /// Whether the DC belongs to a printer.
     BOOL IsPrinting() const;
-    /// @}
 
-    /// @name Creation: FALSE on failure
-    /// @{
+    // Creation. The functions return FALSE on failure.
     BOOL CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput, const void* lpInitData);
     BOOL CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput, const void* lpInitData);
-    /// A memory DC; NULL makes one for the screen.
+    /// A memory DC. A NULL `pDC` stands for the screen.
     BOOL CreateCompatibleDC(CDC* pDC);
-    /// Deletes a DC that was created. Window DCs are released instead, by their own classes.
+    /// Deletes a DC that a Create function made. Classes of window DCs release theirs instead.
     BOOL DeleteDC();
     BOOL ResetDC(const DEVMODE* lpDevMode);
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
-    /// Saves both DCs; returns the number for RestoreDC(), 0 on failure.
+    /// Saves both DCs. Returns the number for RestoreDC(), 0 on failure.
     virtual int SaveDC();
-    /// `nSavedDC`: what SaveDC() returned, or negative to count from the latest.
+    /// `nSavedDC` is the result of SaveDC(), or a negative number that counts back from the latest save.
     virtual BOOL RestoreDC(int nSavedDC);
-    /// @}
 
-    /// @name Objects: each select returns the object selected before (perhaps a temporary), NULL on failure
-    /// @{
+    // Selected objects. SelectObject() returns the former object, perhaps a temporary one; NULL on failure.
     virtual CGdiObject* SelectStockObject(int nIndex);
     CPen* SelectObject(CPen* pPen);
     CBrush* SelectObject(CBrush* pBrush);
     virtual CFont* SelectObject(CFont* pFont);
-    /// Memory DCs only, and into one at a time.
+    /// For memory DCs. A bitmap can be selected into one DC at a time.
     CBitmap* SelectObject(CBitmap* pBitmap);
-    /// As SelectClipRgn(): returns the kind of the clip region.
+    /// Like SelectClipRgn(): returns the kind of the clip region.
     int SelectObject(CRgn* pRgn);
-    /// For an object whose class is not known; a region cannot be told back and gives NULL.
+    /// For an object of unknown class. After a region the result is NULL, because GDI does not return the
+    /// former region.
     CGdiObject* SelectObject(CGdiObject* pObject);
     CPen* GetCurrentPen() const;
     CBrush* GetCurrentBrush() const;
@@ -88,16 +83,14 @@ public:
     void UpdateColors() { ::UpdateColors(m_hDC); }
     COLORREF GetNearestColor(COLORREF crColor) const { return ::GetNearestColor(m_hAttribDC, crColor); }
     CPoint GetBrushOrg() const;
-    /// Device units; returns the former origin.
+    /// The origin is in device units. Returns the former origin.
     CPoint SetBrushOrg(int x, int y);
     CPoint SetBrushOrg(POINT point) { return SetBrushOrg(point.x, point.y); }
     int EnumObjects(int nObjectType, int(CALLBACK* lpfn)(LPVOID, LPARAM), LPARAM lpData);
-    /// A brush of every second pixel, shared by all; do not delete it.
+    /// A brush that sets every second pixel. The library owns the brush.
     static CBrush* PASCAL GetHalftoneBrush();
-    /// @}
 
-    /// @name Drawing attributes: setters return the former value
-    /// @{
+    // Drawing attributes. Setters return the former value.
     COLORREF GetBkColor() const { return ::GetBkColor(m_hAttribDC); }
     int GetBkMode() const { return ::GetBkMode(m_hAttribDC); }
     int GetPolyFillMode() const { return ::GetPolyFillMode(m_hAttribDC); }
@@ -116,10 +109,8 @@ public:
         return ::GetColorAdjustment(m_hAttribDC, lpColorAdjust);
     }
     BOOL SetColorAdjustment(const COLORADJUSTMENT* lpColorAdjust);
-    /// @}
 
-    /// @name Mapping: setters return the former value
-    /// @{
+    // Mapping. Setters return the former value.
     int GetMapMode() const { return ::GetMapMode(m_hAttribDC); }
     CPoint GetViewportOrg() const;
     CSize GetViewportExt() const;
@@ -129,7 +120,7 @@ public:
     virtual CPoint SetViewportOrg(int x, int y);
     CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
     virtual CPoint OffsetViewportOrg(int nWidth, int nHeight);
-    /// Extents are ignored in every mode but MM_ISOTROPIC and MM_ANISOTROPIC.
+    /// Extents have an effect in the modes MM_ISOTROPIC and MM_ANISOTROPIC only.
     virtual CSize SetViewportExt(int cx, int cy);
     CSize SetViewportExt(SIZE size) { return SetViewportExt(size.cx, size.cy); }
     virtual CSize ScaleViewportExt(int xNum, int xDenom, int yNum, int yDenom);
@@ -139,30 +130,28 @@ public:
     virtual CSize SetWindowExt(int cx, int cy);
     CSize SetWindowExt(SIZE size) { return SetWindowExt(size.cx, size.cy); }
     virtual CSize ScaleWindowExt(int xNum, int xDenom, int yNum, int yDenom);
-    /// Logical to device units and back. Points and rectangles move with the origins; sizes only scale, keep
-    /// their sign and are rounded.
+    /// Convert between logical and device units. The origins shift points and rectangles. Sizes are scaled
+    /// and rounded; they keep their sign.
     void DPtoLP(LPPOINT lpPoints, int nCount = 1) const { ::DPtoLP(m_hAttribDC, lpPoints, nCount); }
     void DPtoLP(LPRECT lpRect) const { ::DPtoLP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2); }
     void DPtoLP(LPSIZE lpSize) const;
     void LPtoDP(LPPOINT lpPoints, int nCount = 1) const { ::LPtoDP(m_hAttribDC, lpPoints, nCount); }
     void LPtoDP(LPRECT lpRect) const { ::LPtoDP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2); }
     void LPtoDP(LPSIZE lpSize) const;
-    /// Device or logical units and 0.01 mm. In the metric, English and twips modes an inch is as long as the
-    /// mode makes it; else as GetDeviceCaps() tells.
+    /// Convert between device or logical units and units of 0.01 mm. In the metric, English and twips modes
+    /// the mode defines the length of an inch; in the other modes GetDeviceCaps() does.
     void DPtoHIMETRIC(LPSIZE lpSize) const;
     void HIMETRICtoDP(LPSIZE lpSize) const;
     void LPtoHIMETRIC(LPSIZE lpSize) const;
     void HIMETRICtoLP(LPSIZE lpSize) const;
-    /// @}
 
-    /// @name Clipping: regions are device units and are copied; results are ERROR, NULLREGION, SIMPLE...,
-    /// COMPLEX...
-    /// @{
+    // Clipping. Regions are in device units, and the DC copies them. Results are ERROR, NULLREGION,
+    // SIMPLEREGION or COMPLEXREGION.
     virtual int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hAttribDC, lpRect); }
     virtual BOOL PtVisible(int x, int y) const { return ::PtVisible(m_hAttribDC, x, y); }
     BOOL PtVisible(POINT point) const { return PtVisible(point.x, point.y); }
     virtual BOOL RectVisible(LPCRECT lpRect) const { return ::RectVisible(m_hAttribDC, lpRect); }
-    /// NULL takes the clip away.
+    /// A NULL region removes the clip.
     int SelectClipRgn(CRgn* pRgn);
     int SelectClipRgn(CRgn* pRgn, int nMode);
     int ExcludeClipRect(int x1, int y1, int x2, int y2);
@@ -170,19 +159,17 @@ public:
     int ExcludeUpdateRgn(CWnd* pWnd);
     int IntersectClipRect(int x1, int y1, int x2, int y2);
     int IntersectClipRect(LPCRECT lpRect);
-    /// Logical units.
+    /// The offsets are in logical units.
     int OffsetClipRgn(int x, int y);
     int OffsetClipRgn(SIZE size) { return OffsetClipRgn(size.cx, size.cy); }
     UINT SetBoundsRect(LPCRECT lpRectBounds, UINT flags);
     UINT GetBoundsRect(LPRECT lpRectBounds, UINT flags) {
         return ::GetBoundsRect(m_hAttribDC, lpRectBounds, flags);
     }
-    /// @}
 
-    /// @name Lines
-    /// @{
+    // Lines.
     CPoint GetCurrentPosition() const;
-    /// Returns the former position.
+    /// Moves the current position and returns the former one.
     CPoint MoveTo(int x, int y);
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y);
@@ -199,7 +186,7 @@ public:
         return ArcTo(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom, ptStart.x, ptStart.y, ptEnd.x,
                      ptEnd.y);
     }
-    /// Angles in degrees, counter-clockwise.
+    /// Angles are degrees, counter-clockwise.
     BOOL AngleArc(int x, int y, int nRadius, float fStartAngle, float fSweepAngle);
     BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     BOOL PolylineTo(const POINT* lpPoints, int nCount);
@@ -211,17 +198,15 @@ public:
         return ::PolyBezier(m_hDC, lpPoints, static_cast<DWORD>(nCount));
     }
     BOOL PolyBezierTo(const POINT* lpPoints, int nCount);
-    /// @}
 
-    /// @name Shapes and fills
-    /// @{
+    // Shapes and fills.
     void FillRect(LPCRECT lpRect, CBrush* pBrush);
     void FrameRect(LPCRECT lpRect, CBrush* pBrush);
     void InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
-    /// Fills with one colour, fast; the background colour is `clr` afterwards.
+    /// Fills the rectangle with one colour, without a brush. The call changes the background colour to `clr`.
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
-    /// A frame one unit wide, in one colour at left and top and another at right and bottom.
+    /// Draws a frame one unit wide: `clrTopLeft` at left and top, `clrBottomRight` at right and bottom.
     void Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight);
     void Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight);
     BOOL FillRgn(CRgn* pRgn, CBrush* pBrush);
@@ -265,8 +250,8 @@ public:
     }
     BOOL DrawIcon(int x, int y, HICON hIcon) { return ::DrawIcon(m_hDC, x, y, hIcon); }
     BOOL DrawIcon(POINT point, HICON hIcon) { return ::DrawIcon(m_hDC, point.x, point.y, hIcon); }
-    /// Disabled, dithered and other states of a picture or a text (DSS_ flags); the kind follows from the
-    /// overload.
+    /// Draws a picture or a text in a state such as disabled (DSS_ flags). The overload selects bitmap, icon
+    /// or text.
     BOOL DrawState(CPoint pt, CSize size, HBITMAP hBitmap, UINT nFlags, HBRUSH hBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, CBitmap* pBitmap, UINT nFlags, CBrush* pBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, HBRUSH hBrush = nullptr);
@@ -275,10 +260,8 @@ public:
                    int nTextLen = 0, HBRUSH hBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText, int nTextLen,
                    CBrush* pBrush);
-    /// @}
 
-    /// @name Bitmaps and pixels
-    /// @{
+    // Bitmaps and pixels.
     BOOL PatBlt(int x, int y, int nWidth, int nHeight, DWORD dwRop) {
         return ::PatBlt(m_hDC, x, y, nWidth, nHeight, dwRop);
     }
@@ -289,7 +272,7 @@ public:
                  int xMask, int yMask, DWORD dwRop);
     BOOL PlgBlt(LPPOINT lpPoint, CDC* pSrcDC, int xSrc, int ySrc, int nWidth, int nHeight,
                 CBitmap& maskBitmap, int xMask, int yMask);
-    /// CLR_INVALID outside the clip.
+    /// CLR_INVALID for a pixel outside the clip.
     COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
     COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
     COLORREF SetPixel(int x, int y, COLORREF crColor) { return ::SetPixel(m_hDC, x, y, crColor); }
@@ -300,13 +283,11 @@ public:
     BOOL ExtFloodFill(int x, int y, COLORREF crColor, UINT nFillType) {
         return ::ExtFloodFill(m_hDC, x, y, crColor, nFillType);
     }
-    /// `lpRectUpdate` and `pRgnUpdate` tell what became uncovered; either may be NULL.
+    /// `lpRectUpdate` and `pRgnUpdate` receive the uncovered area. Both may be NULL.
     BOOL ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* pRgnUpdate,
                   LPRECT lpRectUpdate);
-    /// @}
 
-    /// @name Text
-    /// @{
+    // Text.
     virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount) {
         return ::TextOut(m_hDC, x, y, lpszString, nCount);
     }
@@ -318,14 +299,14 @@ public:
     BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str, LPINT lpDxWidths) {
         return ExtTextOut(x, y, nOptions, lpRect, str, static_cast<UINT>(str.GetLength()), lpDxWidths);
     }
-    /// Width and height of what was written.
+    /// Returns width and height of the text.
     virtual CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
                                 LPINT lpnTabStopPositions, int nTabOrigin);
     CSize TabbedTextOut(int x, int y, const CString& str, int nTabPositions, LPINT lpnTabStopPositions,
                         int nTabOrigin) {
         return TabbedTextOut(x, y, str, str.GetLength(), nTabPositions, lpnTabStopPositions, nTabOrigin);
     }
-    /// Returns the height of the text; `nCount` -1 stands for a text that ends with a zero.
+    /// Returns the height of the text. `nCount` -1 stands for a text with a terminating zero.
     virtual int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) {
         return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
     }
@@ -334,7 +315,7 @@ public:
     }
     virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData,
                             int nCount, int x, int y, int nWidth, int nHeight);
-    /// Measured by the attribute DC; the GetOutput... members ask the output DC. (0, 0) on failure.
+    /// The attribute DC measures the text; the functions with "Output" ask the output DC. (0, 0) on failure.
     CSize GetTextExtent(LPCTSTR lpszString, int nCount) const;
     CSize GetTextExtent(const CString& str) const { return GetTextExtent(str, str.GetLength()); }
     CSize GetOutputTextExtent(LPCTSTR lpszString, int nCount) const;
@@ -352,7 +333,8 @@ public:
     int GetTextFace(CString& rString) const;
     BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hAttribDC, lpMetrics); }
     BOOL GetOutputTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hDC, lpMetrics); }
-    /// Extra units shared out over the break characters of the texts to come; 1 on success.
+    /// Distributes `nBreakExtra` units over the break characters of the following texts. Returns 1
+    /// on success.
     int SetTextJustification(int nBreakExtra, int nBreakCount);
     int GetTextCharacterExtra() const { return ::GetTextCharacterExtra(m_hAttribDC); }
     int SetTextCharacterExtra(int nCharExtra);
@@ -376,10 +358,8 @@ public:
     DWORD GetFontData(DWORD dwTable, DWORD dwOffset, LPVOID lpData, DWORD cbData) const {
         return ::GetFontData(m_hAttribDC, dwTable, dwOffset, lpData, cbData);
     }
-    /// @}
 
-    /// @name Printing: results above 0 are success, negative ones SP_ errors
-    /// @{
+    // Printing. Results above 0 mean success; negative results are SP_ errors.
     int StartDoc(LPDOCINFO lpDocInfo) { return ::StartDoc(m_hDC, lpDocInfo); }
     int StartPage() { return ::StartPage(m_hDC); }
     int EndPage() { return ::EndPage(m_hDC); }
@@ -392,23 +372,19 @@ public:
     int Escape(int nEscape, int nInputSize, LPCSTR lpszInputData, int nOutputSize, LPSTR lpszOutputData) {
         return ::ExtEscape(m_hDC, nEscape, nInputSize, lpszInputData, nOutputSize, lpszOutputData);
     }
-    /// @}
 
-    /// @name Metafiles
-    /// @{
+    // Metafiles.
     BOOL PlayMetaFile(HMETAFILE hMF) { return ::PlayMetaFile(m_hDC, hMF); }
-    /// Stretched to `lpBounds`, in logical units.
+    /// Stretches the picture to `lpBounds`, in logical units.
     BOOL PlayMetaFile(HENHMETAFILE hEnhMetaFile, LPCRECT lpBounds) {
         return ::PlayEnhMetaFile(m_hDC, hEnhMetaFile, lpBounds);
     }
-    /// Enhanced metafile DCs only: `nDataSize` bytes that are recorded and never drawn.
+    /// For enhanced metafile DCs: records `nDataSize` bytes that playing ignores.
     BOOL AddMetaFileComment(UINT nDataSize, const BYTE* pCommentData) {
         return ::GdiComment(m_hDC, nDataSize, pCommentData);
     }
-    /// @}
 
-    /// @name Paths
-    /// @{
+    // Paths.
     BOOL AbortPath() { return ::AbortPath(m_hDC); }
     BOOL BeginPath() { return ::BeginPath(m_hDC); }
     BOOL CloseFigure() { return ::CloseFigure(m_hDC); }
@@ -423,9 +399,8 @@ public:
     int GetPath(LPPOINT lpPoints, LPBYTE lpTypes, int nCount) const {
         return ::GetPath(m_hDC, lpPoints, lpTypes, nCount);
     }
-    /// `nMode` is RGN_AND, RGN_COPY, ...; the path is used up.
+    /// `nMode` is RGN_AND, RGN_COPY or another RGN_ mode. The call discards the path.
     BOOL SelectClipPath(int nMode);
-    /// @}
 };
 
 #include "afx/WindowDC.h"

@@ -1,3 +1,4 @@
+// CDataExchange, the state of one exchange between members and controls.
 #pragma once
 
 #include "afx/Export.h"
@@ -5,26 +6,27 @@
 
 class CWnd;
 
-/// One exchange between a window's members and its controls, as CWnd::UpdateData() starts it and every DDX_
-/// and DDV_ routine takes part in it.
+/// One exchange between the members and the controls of a window. CWnd::UpdateData() creates the object;
+/// every DDX_ and DDV_ routine receives it.
 class MFC_API CDataExchange {
 public:
-    /// @param pDlgWnd  window whose controls take part
-    /// @param bSaveAndValidate  TRUE: controls to members; FALSE: members to controls
+    /// `pDlgWnd` is the window with the controls. `bSaveAndValidate` TRUE copies controls to members, FALSE
+    /// copies members to controls.
     CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate);
 
     BOOL m_bSaveAndValidate;
     CWnd* m_pDlgWnd;
-    /// The control of the latest Prepare...(): it gets the focus if the exchange fails.
+    /// The control of the latest Prepare call. Fail() sets the focus to it.
     HWND m_hWndLastControl = nullptr;
-    /// Whether that control is an edit control, whose text is then selected.
+    /// Whether that control is an edit control. Fail() then selects its text.
     BOOL m_bEditLastControl = FALSE;
 
-    /// The control's window, remembered as the one to blame. Throws CNotSupportedException* if there is none.
+    /// Returns the window of the control and stores it for Fail(). Throws CNotSupportedException* if the
+    /// control does not exist.
     HWND PrepareCtrl(int nIDC);
-    /// As PrepareCtrl(), for an edit control or a combo box with one.
+    /// Like PrepareCtrl(), for an edit control or for a combo box with an edit field.
     HWND PrepareEditCtrl(int nIDC);
-    /// Gives the focus back to the remembered control (and selects an edit's text), then throws
-    /// CUserException*. The message to the user has been shown before.
+    /// Sets the focus to the stored control, selects the text of an edit control, and throws CUserException*.
+    /// The caller has shown the message before.
     [[noreturn]] void Fail();
 };

@@ -1,3 +1,4 @@
+// Assertions, traces, checks of memory, and CDumpContext.
 #pragma once
 
 #include <windows.h>
@@ -15,23 +16,23 @@ class CFile;
 class CObject;
 class CString;
 
-/// Version of the interface this library follows: 4.2.
+/// Version of the MFC interface that the library implements: 4.2.
 #define _MFC_VER 0x0420
 
-// Markers that existing programs write in their declarations. This library needs no special calling
-// convention and no special storage, so they stand for nothing.
+// Markers that existing programs write in declarations. The library needs no special calling convention or
+// storage, so the markers are empty.
 #define AFXAPI
 #define AFX_CDECL
 #define AFX_DATA
 #define AFX_DATADEF
 #define afx_msg
 
-/// The file that ASSERT and DEBUG_NEW name. A source may replace it by an array of its own:
-/// `#undef THIS_FILE` and `static char THIS_FILE[] = __FILE__;`.
+/// The file name in messages of ASSERT and DEBUG_NEW. A source may define its own array instead: `#undef
+/// THIS_FILE` and `static char THIS_FILE[] = __FILE__;`.
 #define THIS_FILE __FILE__
 
-// A macro that declares an override cannot know whether the class around it spells out `override`; clang
-// warns about the mixture, so the macros switch the warning off around what they declare.
+// clang warns if some overrides of a class use `override` and others do not. A macro cannot know what the
+// class uses, so the macros disable the warning around their declarations.
 #if defined(__clang__)
 #define AFX_BEGIN_IMPLIED_OVERRIDES                                                                          \
     _Pragma("clang diagnostic push") _Pragma("clang diagnostic ignored \"-Winconsistent-missing-override\"")
@@ -41,42 +42,42 @@ class CString;
 #define AFX_END_IMPLIED_OVERRIDES
 #endif
 
-/// Reports a failed assertion to the debugger and to stderr, stops in the debugger if there is one, and ends
-/// the process with status 3. Never returns. `expression` may be null.
+/// Writes a message to the debugger and to stderr, breaks into an attached debugger, and ends the process
+/// with status 3. `expression` may be null.
 [[noreturn]] MFC_API void AfxAssertFailed(LPCSTR expression, LPCSTR file, int line);
 
-/// Asserts that `object` is not null and points to readable memory, then calls its AssertValid().
+/// Asserts that `object` is not null and that its memory is readable, then calls AssertValid().
 MFC_API void AfxAssertValidObject(const CObject* object, LPCSTR file, int line);
 
-/// TRUE if all `bytes` from `address` on can be read, and also written if `readWrite` is TRUE. The answer
-/// holds for the moment of the call only. FALSE for null.
+/// TRUE if `bytes` bytes from `address` on are readable and, with `readWrite`, writable at the moment of the
+/// call. FALSE for null.
 MFC_API BOOL AfxIsValidAddress(const void* address, UINT_PTR bytes, BOOL readWrite = TRUE);
 
-/// TRUE if `text` is readable up to its terminating zero, or, with a `length` of 0 or more, for `length`
-/// characters.
+/// TRUE if `text` is readable up to its terminating zero. With a `length` of 0 or more, TRUE if `length`
+/// characters are readable.
 MFC_API BOOL AfxIsValidString(LPCSTR text, int length = -1);
 
 /// Ends the process with status 3 and without clean-up.
 [[noreturn]] MFC_API void AfxAbort();
 
-/// Writes formatted text to the debugger; see TRACE. Takes plain C arguments only.
+/// Writes formatted text to the debugger. The arguments must be plain C types; see TRACE.
 MFC_API void AfxTraceFormatted(LPCTSTR format, ...);
 
-/// The value of an argument as a C variadic function can take it. CString has an overload that gives its
-/// characters; any other class with a copy constructor of its own is refused when compiling.
+/// Converts an argument for a C variadic function. An overload converts a CString to its characters. The
+/// compiler rejects any other class with its own copy constructor.
 template <class T> constexpr T AfxVariadicArgument(T value) {
     static_assert(std::is_trivially_copyable_v<T>, "this class cannot be an argument of a format");
     return value;
 }
 
-/// Formats like CString::Format, CString arguments included, and writes the text to the debugger.
+/// Formats like CString::Format, with CString arguments, and writes the text to the debugger.
 template <class... Args> void AfxTrace(LPCTSTR format, Args... args) {
     AfxTraceFormatted(format, AfxVariadicArgument(args)...);
 }
 
-/// ASSERT(f): in debug builds (_DEBUG) a false `f` ends the program; in others `f` is not evaluated.
-/// VERIFY(f): the same, but `f` is evaluated in every build.
-/// TRACE(format, ...): debug builds write to the debugger; in others the arguments are not evaluated.
+/// ASSERT(f): in debug builds (_DEBUG) a false `f` ends the program; other builds do not evaluate `f`.
+/// VERIFY(f): the same, but every build evaluates `f`. TRACE(format, ...): debug builds write to the
+/// debugger; other builds do not evaluate the arguments.
 #ifdef _DEBUG
 #define ASSERT(f) ((f) ? (void)0 : ::AfxAssertFailed(#f, THIS_FILE, __LINE__))
 #define VERIFY(f) ASSERT(f)
@@ -102,11 +103,11 @@ template <class... Args> void AfxTrace(LPCTSTR format, Args... args) {
 #define TRACE2(sz, p1, p2) TRACE(_T(sz), p1, p2)
 #define TRACE3(sz, p1, p2, p3) TRACE(_T(sz), p1, p2, p3)
 
-/// Debug builds assert that `object` points to an object of class `class_name` or of one derived from it.
+/// In debug builds, asserts that `object` is of class `class_name` or of a class derived from it.
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))
 
-/// What DEBUG_NEW calls. File and line are there for the reader of a debugger's stack; memory comes from the
-/// ordinary operator new and is given back by the ordinary operator delete.
+/// The operators behind DEBUG_NEW. File and line are visible in a debugger's stack. The ordinary operators
+/// new and delete manage the memory.
 inline void* operator new(std::size_t bytes, LPCSTR, int) {
     return ::operator new(bytes);
 }
@@ -120,16 +121,15 @@ inline void operator delete[](void* block, LPCSTR, int) noexcept {
     ::operator delete[](block);
 }
 
-/// Takes the text that objects write about themselves in their Dump members, and passes it to a file or,
-/// without one, to the debugger.
+/// Receives the text that objects write in their Dump members, and writes it to a file or to the debugger.
 class MFC_API CDumpContext {
 public:
-    /// `file` is not owned and must outlive the context; null stands for the debugger.
+    /// `file` must outlive the context, which does not own it. Null stands for the debugger.
     explicit CDumpContext(CFile* file = nullptr);
     CDumpContext(const CDumpContext&) = delete;
     CDumpContext& operator=(const CDumpContext&) = delete;
 
-    /// 0: objects inside a collection are left out; greater: they dump themselves too.
+    /// With depth 0 a collection does not dump its elements; with a greater depth it does.
     int GetDepth() const { return m_nDepth; }
     void SetDepth(int depth) { m_nDepth = depth; }
 
@@ -150,7 +150,8 @@ public:
     CDumpContext& operator<<(float value);
     CDumpContext& operator<<(double value);
 
-    /// Writes `count` bytes as rows of at most `width` two-digit hexadecimal numbers, each row led by `line`.
+    /// Writes `count` bytes as two-digit hexadecimal numbers, at most `width` in a row. Each row begins
+    /// with `line`.
     void HexDump(LPCTSTR line, const BYTE* bytes, int count, int width);
 
     /// Flushes the file, if there is one.

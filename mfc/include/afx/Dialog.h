@@ -1,26 +1,27 @@
+// CDialog, a dialog box made from a template.
 #pragma once
 
 #include "afx/Export.h"
 #include "afx/Wnd.h"
 
-/// A dialog box, made from a template that is found through the resource chain or given in memory.
+/// A dialog box, made from a template in the resource chain or in memory.
 ///
-/// Modal: construct it with the template, call DoModal(). Modeless: construct it bare, call Create(); it must
-/// then override OnOK() and OnCancel() to destroy its window, since the base class's EndDialog() only hides
-/// it.
+/// Modal dialogs: construct the object with the template, then call DoModal(). Modeless dialogs: use the
+/// default constructor, then call Create(). A modeless dialog must override OnOK() and OnCancel() to destroy
+/// its window, because EndDialog() of the base class only hides the window.
 class MFC_API CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
 
 public:
     /// For a modeless dialog, or for InitModalIndirect().
     CDialog();
-    /// For DoModal(). Without a parent the program's main window is the owner.
+    /// For DoModal(). Without a parent, the main window of the program owns the dialog.
     explicit CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     ~CDialog() override;
 
-    /// Modeless; visible at once only if the template says WS_VISIBLE. FALSE if there is no template or no
-    /// window.
+    /// Creates a modeless dialog. The dialog is visible at once only if the template has the style
+    /// WS_VISIBLE. FALSE if the template or the window cannot be created.
     BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr) {
         return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
@@ -29,40 +30,42 @@ public:
                         void* lpDialogInit = nullptr);
     BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
 
-    /// Gives the template for DoModal(); it must outlive the dialog. `lpDialogInit` is list data in the
-    /// format of RT_DLGINIT resources.
+    /// Sets the template for DoModal(). The template must outlive the dialog. `lpDialogInit` holds list data
+    /// in the format of RT_DLGINIT resources.
     BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
                            void* lpDialogInit = nullptr);
     BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
-    /// Runs the dialog until EndDialog(); returns what that was given, -1 if the dialog could not be created.
+    /// Runs the dialog until EndDialog(). Returns the argument of EndDialog(), or -1 if the dialog could not
+    /// be created.
     virtual INT_PTR DoModal();
 
-    /// Dialog units to pixels.
+    /// Converts dialog units to pixels.
     void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
     void NextDlgCtrl() const { ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, FALSE); }
     void PrevDlgCtrl() const { ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, FALSE); }
     void GotoDlgCtrl(CWnd* pWndCtrl);
     void SetDefID(UINT nID) { ::SendMessage(m_hWnd, DM_SETDEFID, nID, 0); }
-    /// Low word: ID of the default button; high word: DC_HASDEFID, or 0 if there is none.
+    /// Low word: ID of the default button; high word: DC_HASDEFID. 0 if there is no default button.
     DWORD GetDefID() const { return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0)); }
 
-    /// Makes DoModal() return `nResult` once the current message is handled (from OnInitDialog(): without the
-    /// dialog being shown). Only hides a modeless dialog.
+    /// Ends the modal loop after the current message; DoModal() returns `nResult`. A call in OnInitDialog()
+    /// ends the dialog before it becomes visible. A modeless dialog is only hidden.
     void EndDialog(int nResult);
 
-    /// Called before the dialog is shown: exchanges data to the controls. Return FALSE if you set the focus
-    /// yourself.
+    /// Called before the dialog becomes visible. The base copies the members to the controls. Return FALSE if
+    /// the override has set the focus.
     virtual BOOL OnInitDialog();
-    /// Called before the controls are made, with the font they will use.
+    /// Called before the controls are created. `pFont` is the font of the controls.
     virtual void OnSetFont(CFont* pFont);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
 protected:
-    /// The OK button: exchanges data from the controls and ends with IDOK; stays if the exchange fails.
+    /// The OK button. The base copies the controls to the members and ends with IDOK; if the exchange fails,
+    /// the dialog stays open.
     virtual void OnOK();
-    /// The Cancel button, Escape, and the close box: ends with IDCANCEL.
+    /// The Cancel button, the Escape key and the close box. The base ends with IDCANCEL.
     virtual void OnCancel();
     /// Called when WM_INITDIALOG arrives, before OnInitDialog().
     virtual void PreInitDialog();
@@ -72,14 +75,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the dialog has a window class of its own
 
     BOOL CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner);
     LPCDLGTEMPLATE FindTemplate();
     void ForgetTemplate();
     void CenterUnlessPlaced(const RECT& created);
 
-    // Where the template comes from: a name or number of a resource, memory, or a block of global memory.
+    // Source of the template: a resource name or number, memory, or a block of global memory.
     CString m_strTemplateName;
     LPCTSTR m_lpszTemplateName = nullptr;
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;

@@ -1,53 +1,54 @@
+// The exception classes, the functions that throw them, and the macros of older programs.
 #pragma once
 
 #include <afx/Object.h>
 #include <afx/String.h>
 
-/// Base of all exceptions of the library. They are thrown by pointer. Who catches one with `catch` calls
-/// Delete(); the CATCH macros do that themselves.
+/// Base of all exceptions of the library, which throws pointers. A handler with the keyword `catch` must call
+/// Delete(); the CATCH macros call it automatically.
 class MFC_API CException : public CObject {
     DECLARE_DYNAMIC(CException)
 public:
     CException();
-    /// FALSE for an object that Delete() must not delete, such as a static one.
+    /// `autoDelete` FALSE is for objects that Delete() must not delete, such as static ones.
     explicit CException(BOOL autoDelete);
     ~CException() override;
 
-    /// Deletes the object unless it was made with `autoDelete` FALSE.
+    /// Deletes the object, unless the constructor received `autoDelete` FALSE.
     void Delete();
 
-    /// Copies a text for the user, cut to `maxLength` bytes with its terminating zero, and sets
-    /// `*helpContext` to 0. FALSE, and an empty text, if there is none. `text` must not be null unless
-    /// `maxLength` is 0.
+    /// Copies the message for the user, cut to `maxLength` bytes with the terminating zero, and sets
+    /// `*helpContext` to 0. Without a message, returns FALSE and copies an empty text. `text` may be null
+    /// only if `maxLength` is 0.
     virtual BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr);
 
-    /// Shows the error's text in a message box; without one, the string resource `idFallback`; without that,
-    /// "No error message is available". Returns what AfxMessageBox returns.
+    /// Shows the message in a message box. Without a message, shows the string resource `idFallback`; without
+    /// that, "No error message is available". Returns the result of AfxMessageBox.
     virtual int ReportError(UINT type = MB_OK, UINT idFallback = 0);
 
 private:
     BOOL m_bAutoDelete;
 };
 
-/// Base of the exceptions that tell nothing but their kind.
+/// Base of the exceptions without data.
 class MFC_API CSimpleException : public CException {
     DECLARE_DYNAMIC(CSimpleException)
 public:
     CSimpleException();
     explicit CSimpleException(BOOL autoDelete);
-    /// With a string resource as the text for the user.
+    /// The string resource `idMessage` is the message for the user.
     CSimpleException(BOOL autoDelete, UINT idMessage);
     BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) override;
 
 protected:
-    /// The text for the user if no string resource was given; null for none.
+    /// The message if the constructor received no string resource; null for none.
     virtual LPCTSTR DefaultMessage() const;
 
 private:
     UINT m_idMessage = 0;
 };
 
-/// Out of memory. The one that the library throws itself is static: throwing it needs no memory.
+/// Out of memory. The library throws a static object, so throwing needs no memory.
 class MFC_API CMemoryException : public CSimpleException {
     DECLARE_DYNAMIC(CMemoryException)
 public:
@@ -59,7 +60,7 @@ protected:
     LPCTSTR DefaultMessage() const override;
 };
 
-/// A request for what is not supported.
+/// An operation that is not supported.
 class MFC_API CNotSupportedException : public CSimpleException {
     DECLARE_DYNAMIC(CNotSupportedException)
 public:
@@ -83,7 +84,7 @@ protected:
     LPCTSTR DefaultMessage() const override;
 };
 
-/// Stops an operation of the user's after the user has been told; has no text.
+/// Ends an operation after the user has seen a message. The exception has no message.
 class MFC_API CUserException : public CSimpleException {
     DECLARE_DYNAMIC(CUserException)
 public:
@@ -92,7 +93,7 @@ public:
     CUserException(BOOL autoDelete, UINT idMessage);
 };
 
-/// An argument that a function cannot work with.
+/// An invalid argument.
 class MFC_API CInvalidArgException : public CSimpleException {
     DECLARE_DYNAMIC(CInvalidArgException)
 public:
@@ -129,7 +130,7 @@ public:
 
     explicit CFileException(int cause = none, LONG osError = -1, LPCTSTR fileName = nullptr);
 
-    /// The cause that stands for an error number of the system, or of the C library.
+    /// The cause for an error number of the system, or of the C library.
     static int OsErrorToException(LONG osError);
     static int ErrnoToException(int errorNumber);
 
@@ -139,7 +140,7 @@ public:
 
     BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) override;
 
-    /// One of the values above.
+    /// One of the enumerators above.
     int m_cause;
     /// Error number of the system, -1 if unknown.
     LONG m_lOsError;
@@ -165,7 +166,7 @@ public:
     explicit CArchiveException(int cause = none, LPCTSTR archiveName = nullptr);
     BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) override;
 
-    /// One of the values above.
+    /// One of the enumerators above.
     int m_cause;
     CString m_strFileName;
 };
@@ -178,7 +179,7 @@ public:
 [[noreturn]] MFC_API void AfxThrowFileException(int cause, LONG osError = -1, LPCTSTR fileName = nullptr);
 [[noreturn]] MFC_API void AfxThrowArchiveException(int cause, LPCTSTR archiveName = nullptr);
 
-/// Deletes the exception that a CATCH block handles when the block is left, unless THROW_LAST passes it on.
+/// Deletes the exception at the end of a CATCH block, unless THROW_LAST rethrows it.
 class MFC_API AfxCaughtException {
 public:
     explicit AfxCaughtException(CException* exception) : m_pException(exception) {}
@@ -191,8 +192,8 @@ private:
     CException* m_pException;
 };
 
-// The macros of programs older than C++ exceptions. Inside a CATCH block THROW_LAST passes the caught
-// exception on; THROW is for new ones.
+// The macros of programs that are older than C++ exceptions. THROW_LAST rethrows the exception of the CATCH
+// block; THROW throws a new one.
 #define TRY                                                                                                  \
     {                                                                                                        \
         try {

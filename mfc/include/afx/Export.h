@@ -1,7 +1,8 @@
+// Import and export of the library's symbols.
 #pragma once
 
-/// Linkage of everything the class library offers: exported while the library itself is built
-/// (MFC_BUILD), imported by everybody else.
+/// Linkage of the library's classes and functions: exported while the library is built (MFC_BUILD), imported
+/// in other programs.
 #if defined(MFC_BUILD)
 #define MFC_API __declspec(dllexport)
 #else

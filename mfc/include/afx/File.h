@@ -1,3 +1,4 @@
+// CFile, CStdioFile and CMemFile.
 #pragma once
 
 #include <cstdio>
@@ -8,19 +9,20 @@
 
 class CFileException;
 
-/// What CFile::GetStatus tells about a file.
+/// Result of CFile::GetStatus.
 struct CFileStatus {
     CTime m_ctime;
     CTime m_mtime;
     CTime m_atime;
     ULONGLONG m_size;
-    /// CFile::Attribute bits.
+    /// Flags of CFile::Attribute.
     BYTE m_attribute;
-    /// Full path; empty for an open file of unknown name.
+    /// Full path; empty if the name of an open file is unknown.
     TCHAR m_szFullName[MAX_PATH];
 };
 
-/// A binary file without buffering. Members throw CFileException* on failure unless they say otherwise.
+/// A binary file without a buffer. Members throw CFileException* on failure if the comment does not name
+/// another result.
 class MFC_API CFile : public CObject {
     DECLARE_DYNAMIC(CFile)
 public:
@@ -35,10 +37,11 @@ public:
         shareDenyNone = OF_SHARE_DENY_NONE,
         /// Child processes do not inherit the handle.
         modeNoInherit = 0x0080,
-        /// Makes the file, or truncates it to length 0; with modeNoTruncate an existing one is kept as it is.
+        /// Creates the file, or truncates an existing file to length 0. With modeNoTruncate, an existing file
+        /// keeps its content.
         modeCreate = OF_CREATE,
         modeNoTruncate = 0x2000,
-        /// Of meaning to derived classes only.
+        /// For derived classes.
         typeText = 0x4000,
         typeBinary = 0x8000
     };
@@ -53,56 +56,57 @@ public:
     };
     enum SeekPosition : UINT { begin = FILE_BEGIN, current = FILE_CURRENT, end = FILE_END };
 
-    /// The value of m_hFile while no file is open.
+    /// The value of m_hFile while the object has no open file.
     static const HANDLE hFileNull;
 
     CFile();
-    /// Takes an open handle; the destructor does not close it.
+    /// Uses an open handle. The destructor does not close the handle.
     explicit CFile(HANDLE file);
     /// Opens the file; the destructor closes it.
     CFile(LPCTSTR fileName, UINT openFlags);
     ~CFile() override;
 
-    /// FALSE on failure, with the cause in `*error` unless that is null. One file at a time: closes nothing.
+    /// Opens a file. Returns FALSE on failure; `*error` receives the cause unless `error` is null. The object
+    /// must not have an open file.
     virtual BOOL Open(LPCTSTR fileName, UINT openFlags, CFileException* error = nullptr);
     /// Closes the file, which must be open.
     virtual void Close();
-    /// Closes the file if one is open, and ignores errors.
+    /// Closes the file if one is open. Ignores errors.
     virtual void Abort();
-    /// A second object for the same open file, owned by the caller. CMemFile and CStdioFile do not support
-    /// it.
+    /// Returns a second object for the same open file; the caller owns it. CMemFile and CStdioFile do not
+    /// support the function.
     virtual CFile* Duplicate() const;
 
-    /// Reads up to `count` bytes; fewer only at the end of the file. Returns how many.
+    /// Reads up to `count` bytes, fewer only at the end of the file. Returns the number of bytes.
     virtual UINT Read(void* buffer, UINT count);
-    /// Writes all bytes, else throws (diskFull if the medium took fewer).
+    /// Writes all bytes, or throws. The cause is diskFull if the medium took fewer bytes.
     virtual void Write(const void* buffer, UINT count);
     virtual void Flush();
 
-    /// Moves the position; returns it, from the start of the file. A position before the start throws
-    /// badSeek.
+    /// Moves the position and returns it, counted from the start of the file. A position before the start
+    /// throws badSeek.
     virtual ULONGLONG Seek(LONGLONG offset, UINT from);
     void SeekToBegin() { Seek(0, begin); }
     ULONGLONG SeekToEnd() { return Seek(0, end); }
     virtual ULONGLONG GetPosition() const;
     virtual ULONGLONG GetLength() const;
-    /// Cuts the file or extends it by bytes of undefined value. The position is at the new end.
+    /// Truncates the file or extends it with undefined bytes. CFile and CStdioFile then stand at the new end.
     virtual void SetLength(ULONGLONG length);
     virtual void LockRange(ULONGLONG position, ULONGLONG count);
     virtual void UnlockRange(ULONGLONG position, ULONGLONG count);
 
-    /// Name with extension, name without it, and full path of the open file.
+    /// The open file's name with extension, its name without extension, and its full path.
     virtual CString GetFileName() const;
     virtual CString GetFileTitle() const;
     virtual CString GetFilePath() const;
-    /// Only changes what the three members above tell.
+    /// Changes the results of the three functions above. The file on the disk keeps its name.
     virtual void SetFilePath(LPCTSTR path);
     operator HANDLE() const { return m_hFile; }
 
-    /// FALSE on failure.
+    /// Fills `status` for the open file or for a file name. FALSE on failure.
     BOOL GetStatus(CFileStatus& status) const;
     static BOOL GetStatus(LPCTSTR fileName, CFileStatus& status);
-    /// Sets attributes and times; a time of 0 stays as it is. The size is not set.
+    /// Sets attributes and times. A time of 0 leaves the file's time unchanged. The size is not set.
     static void SetStatus(LPCTSTR fileName, const CFileStatus& status);
     static void Rename(LPCTSTR oldName, LPCTSTR newName);
     static void Remove(LPCTSTR fileName);
@@ -117,21 +121,21 @@ protected:
     BOOL m_bCloseOnDelete = FALSE;
 };
 
-/// A buffered file over the C library, in text mode unless opened with typeBinary: line ends are a single
-/// '\n' in memory. Duplicate, LockRange and UnlockRange throw CNotSupportedException*.
+/// A file with the buffer of the C library. The mode is text unless typeBinary is set; in text mode a line
+/// end is a single '\n' in memory. Duplicate, LockRange and UnlockRange throw CNotSupportedException*.
 class MFC_API CStdioFile : public CFile {
     DECLARE_DYNAMIC(CStdioFile)
 public:
     CStdioFile();
-    /// Takes an open stream; the destructor does not close it.
+    /// Uses an open stream. The destructor does not close the stream.
     explicit CStdioFile(FILE* stream);
     CStdioFile(LPCTSTR fileName, UINT openFlags);
     ~CStdioFile() override;
 
-    /// A line, cut at `maxCount` - 1 characters, with its '\n' if that was reached; null at the end of the
-    /// file.
+    /// Reads a line, at most `maxCount` - 1 characters, with the '\n' if the line's end was reached. Null at
+    /// the end of the file.
     virtual LPTSTR ReadString(LPTSTR text, UINT maxCount);
-    /// A line of any length without its '\n'. FALSE, and an empty text, at the end of the file.
+    /// Reads a line of any length without its '\n'. At the end of the file, returns FALSE and an empty text.
     virtual BOOL ReadString(CString& text);
     virtual void WriteString(LPCTSTR text);
 
@@ -150,26 +154,28 @@ public:
     void UnlockRange(ULONGLONG position, ULONGLONG count) override;
     void Dump(CDumpContext& dc) const override;
 
-    /// Null while no file is open.
+    /// Null while the object has no open file.
     FILE* m_pStream = nullptr;
 };
 
-/// A file in memory. Running out of memory throws CMemoryException*. Duplicate, LockRange and UnlockRange
+/// A file in memory. Members throw CMemoryException* if memory runs out. Duplicate, LockRange and UnlockRange
 /// throw CNotSupportedException*.
 class MFC_API CMemFile : public CFile {
     DECLARE_DYNAMIC(CMemFile)
 public:
-    /// Memory grows by at least `growBytes` at a time; 0: it does not grow, and writing beyond it throws.
+    /// The memory grows in steps of `growBytes`. With 0 the memory does not grow, and writing beyond its
+    /// end throws.
     explicit CMemFile(UINT growBytes = 1024);
-    /// As Attach.
+    /// Calls Attach.
     CMemFile(BYTE* buffer, UINT size, UINT growBytes = 0);
     ~CMemFile() override;
 
-    /// Takes a buffer as the file's memory. With `growBytes` 0 its content is the file's, and the caller
-    /// keeps it; else the file is empty, the buffer must come from malloc, and the file frees it.
+    /// Uses `buffer` as the file's memory. With `growBytes` 0, the buffer's bytes are the content and the
+    /// caller keeps the buffer. Otherwise the file starts empty, the buffer must come from malloc, and the
+    /// file frees it.
     void Attach(BYTE* buffer, UINT size, UINT growBytes = 0);
-    /// Gives the memory to the caller, who frees it with free, and leaves an empty file. Null if there is
-    /// none.
+    /// Returns the memory to the caller, who calls free(), and empties the file. Null if the file has
+    /// no memory.
     BYTE* Detach();
 
     void Close() override;
@@ -187,7 +193,7 @@ public:
     void Dump(CDumpContext& dc) const override;
 
 protected:
-    /// The file's memory is managed through these. Alloc and Realloc return null when there is no memory.
+    /// These functions manage the file's memory. Alloc and Realloc return null if memory runs out.
     virtual BYTE* Alloc(SIZE_T bytes);
     virtual BYTE* Realloc(BYTE* block, SIZE_T bytes);
     virtual BYTE* Memcpy(BYTE* target, const BYTE* source, SIZE_T bytes);

@@ -1,17 +1,18 @@
+// CFrameWnd, a top-level window with title, menu and accelerators.
 #pragma once
 
 #include "afx/Wnd.h"
 #include "afxres.h"
 
-/// Style of frame windows whose title is extended by a document's name. There are no documents; it does
-/// nothing.
+/// Style for frame windows that show a document's name in their title. The library has no documents, so the
+/// style has no effect.
 #define FWS_ADDTOTITLE 0x00008000L
 #define FWS_PREFIXTITLE 0x00004000L
-/// Style of a child window that fills a frame: child ID AFX_IDW_PANE_FIRST.
+/// Style of a child window that fills a frame. The child's ID is AFX_IDW_PANE_FIRST.
 #define AFX_WS_DEFAULT_VIEW (WS_CHILD | WS_VISIBLE | WS_BORDER)
 
-/// A top-level window with title, menu and accelerators. The object is made with `new` and deletes itself
-/// when its window is destroyed.
+/// A top-level window with title, menu and accelerators. Allocate the object with `new`; the object deletes
+/// itself when its window is destroyed.
 class MFC_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 
@@ -19,31 +20,31 @@ public:
     CFrameWnd() = default;
     ~CFrameWnd() override;
 
-    /// Tells Create() to let the system choose position and size.
+    /// Argument of Create() that lets the system choose position and size.
     static const CRect rectDefault;
 
-    /// Items of menus whose command nobody handles are greyed. Clear it before the window is created to keep
-    /// them.
+    /// TRUE greys menu items whose command has no handler. Set FALSE before the window is created to leave
+    /// such items enabled.
     BOOL m_bAutoMenuEnable = TRUE;
 
-    /// Creates the window. NULL for the class name means the framework's frame class. FALSE on failure: the
-    /// object has deleted itself then.
+    /// Creates the window. A NULL class name stands for the framework's frame class. On failure, returns
+    /// FALSE; the object has then deleted itself.
     BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
                 const RECT& rect = rectDefault, CWnd* pParentWnd = nullptr, LPCTSTR lpszMenuName = nullptr,
                 DWORD dwExStyle = 0, CCreateContext* pContext = nullptr);
     using CWnd::Create;
-    /// Creates the window with everything that has the ID `nIDResource`: the string (the first line is the
-    /// title), menu, accelerators and icon, as far as they are there.
+    /// Creates the window with the resources of the ID `nIDResource`: string (its first line is the title),
+    /// menu, accelerators and icon. Missing resources are left out.
     virtual BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
                            CWnd* pParentWnd = nullptr, CCreateContext* pContext = nullptr);
-    /// FALSE if there is no such table or one is loaded already.
+    /// FALSE if the table does not exist, or if a table is already loaded.
     BOOL LoadAccelTable(LPCTSTR lpszResourceName);
 
-    /// Shows the frame, restores it if it is minimised, and brings it to the top.
+    /// Shows the frame, restores a minimised frame, and brings the frame to the top.
     virtual void ActivateFrame(int nCmdShow = -1);
-    /// The frame that works for this one: itself.
+    /// The active frame. A CFrameWnd without child frames returns itself.
     virtual CFrameWnd* GetActiveFrame() { return this; }
-    /// Lays the child AFX_IDW_PANE_FIRST out over the client area. Called after each change of size.
+    /// Moves the child AFX_IDW_PANE_FIRST to fill the client area. Called after each change of size.
     virtual void RecalcLayout(BOOL bNotify = TRUE);
     CString GetTitle() const { return m_strTitle; }
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
@@ -58,9 +59,9 @@ public:
 protected:
     friend class CWnd;
 
-    /// Called while the window is created, to make children. FALSE lets the creation fail.
+    /// Called during creation of the window, for example to create children. FALSE makes the creation fail.
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
-    /// The name of a window class with the frame's icon; registers it.
+    /// Registers a window class with the frame's icon and returns the name of the class.
     LPCTSTR GetIconWndClass(DWORD dwDefaultStyle, UINT nIDResource);
     void PostNcDestroy() override;
 

@@ -1,3 +1,4 @@
+// CGdiObject and the classes of pens, brushes, fonts, bitmaps, palettes and regions.
 #pragma once
 
 #include "afx/Export.h"
@@ -6,57 +7,58 @@
 class CDC;
 class CBitmap;
 
-/// A GDI object and the handle it owns.
+/// A GDI object and the handle that it owns.
 ///
-/// The destructor deletes the handle, unless it was detached before. Objects obtained from FromHandle() for a
-/// handle that no CGdiObject owns are temporary: they end at the next idle time of the thread and leave the
-/// handle alone.
+/// The destructor deletes the handle, unless Detach() was called before. FromHandle() returns a temporary
+/// object for a handle that no CGdiObject owns. The message loop deletes temporary objects when it is idle;
+/// their handles stay valid.
 class MFC_API CGdiObject : public CObject {
     DECLARE_DYNCREATE(CGdiObject)
 
 public:
-    /// The handle, or NULL. Read it freely; change it by Attach() and Detach() only.
+    /// The handle, or NULL. Programs may read the member; only Attach() and Detach() change it.
     HGDIOBJ m_hObject = nullptr;
 
     CGdiObject() = default;
-    /// Deletes the handle it still owns.
+    /// Deletes the handle that the object owns.
     ~CGdiObject() override;
 
-    /// The permanent object of `hObject`, else a temporary one of the handle's real class (CPen for a pen,
-    /// and so on). NULL for a NULL handle.
+    /// The attached object of `hObject`, else a temporary one of the handle's class (CPen for a pen, and so
+    /// on). NULL for a NULL handle.
     static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
-    /// Deletes the temporaries of the calling thread; their handles stay.
+    /// Deletes the temporary objects of the calling thread. The handles stay valid.
     static void PASCAL DeleteTempMap();
 
     operator HGDIOBJ() const { return m_hObject; }
-    /// The handle; NULL also for a NULL object.
+    /// The handle. The call is allowed on a NULL object and then returns NULL.
     HGDIOBJ GetSafeHandle() const;
 
-    /// Takes ownership of `hObject`. FALSE for NULL. The object must not own a handle yet. Throws
-    /// CMemoryException* when memory runs out; the handle stays the caller's.
+    /// Takes ownership of `hObject`. The object must not own a handle yet. FALSE for NULL. Throws
+    /// CMemoryException* if memory runs out; the caller then keeps the handle.
     BOOL Attach(HGDIOBJ hObject);
-    /// Gives the handle away: the caller deletes it from now on.
+    /// Releases ownership: the caller deletes the handle.
     HGDIOBJ Detach();
-    /// Deletes the handle and forgets it, though it should be selected into no DC. FALSE if there was none or
-    /// GDI refused.
+    /// Deletes the handle, which must not be selected into a DC. FALSE if the object has no handle, or if
+    /// GDI refuses.
     BOOL DeleteObject();
 
-    /// Fills the buffer with the object's record (LOGPEN, LOGBRUSH, LOGFONT, BITMAP ...). Returns bytes, 0 on
-    /// failure.
+    /// Copies the object's record (LOGPEN, LOGBRUSH, LOGFONT, BITMAP ...). Returns the number of bytes, 0
+    /// on failure.
     int GetObject(int nCount, LPVOID lpObject) const { return ::GetObject(m_hObject, nCount, lpObject); }
-    /// OBJ_PEN, OBJ_BRUSH, ...; 0 if the handle is not valid.
+    /// OBJ_PEN, OBJ_BRUSH and so on; 0 if the handle is invalid.
     UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
-    /// Attaches a stock object (WHITE_PEN, SYSTEM_FONT ...). Deleting it later does no harm.
+    /// Attaches a stock object (WHITE_PEN, SYSTEM_FONT ...). GDI ignores a later deletion.
     BOOL CreateStockObject(int nIndex) { return AttachNew(::GetStockObject(nIndex)); }
-    /// Resets a brush's origin, or makes a palette be realized anew.
+    /// Resets the origin of a brush, or makes the system realise a palette again.
     BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
 
-    /// Objects are equal when their handles are.
+    /// Two objects are equal if their handles are equal.
     BOOL operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
     BOOL operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
 
 protected:
-    /// Attach() for a handle that was just made: when memory runs out, deletes the handle and answers FALSE.
+    /// Attaches a handle that a creator function has just made. If memory runs out, deletes the handle and
+    /// returns FALSE.
     BOOL AttachNew(HGDIOBJ hObject);
 };
 
@@ -66,7 +68,7 @@ class MFC_API CPen : public CGdiObject {
 
 public:
     CPen() = default;
-    /// Creates the pen at once; throws CResourceException* on failure.
+    /// Creates the pen. Throws CResourceException* on failure.
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
     CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
          const DWORD* lpStyle = nullptr);
@@ -81,7 +83,7 @@ public:
     BOOL CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
                    const DWORD* lpStyle = nullptr);
     BOOL CreatePenIndirect(LPLOGPEN lpLogPen) { return AttachNew(::CreatePenIndirect(lpLogPen)); }
-    /// Fails for pens made with a LOGBRUSH; ask those with GetExtLogPen().
+    /// Fails for pens that were made with a LOGBRUSH; use GetExtLogPen() for them.
     int GetLogPen(LOGPEN* pLogPen) const { return GetObject(sizeof(LOGPEN), pLogPen); }
     int GetExtLogPen(EXTLOGPEN* pLogPen) const { return GetObject(sizeof(EXTLOGPEN), pLogPen); }
 };
@@ -92,7 +94,7 @@ class MFC_API CBrush : public CGdiObject {
 
 public:
     CBrush() = default;
-    /// Each creates the brush at once; throws CResourceException* on failure.
+    /// Creates the brush. Throws CResourceException* on failure.
     explicit CBrush(COLORREF crColor);
     CBrush(int nIndex, COLORREF crColor);
     explicit CBrush(CBitmap* pBitmap);
@@ -113,7 +115,7 @@ public:
     BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
         return AttachNew(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
     }
-    /// The brush of a system colour (COLOR_WINDOW ...); the system keeps it.
+    /// The brush of a system colour (COLOR_WINDOW ...). The system keeps ownership.
     BOOL CreateSysColorBrush(int nIndex) { return AttachNew(::GetSysColorBrush(nIndex)); }
     int GetLogBrush(LOGBRUSH* pLogBrush) const { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
 };
@@ -133,10 +135,10 @@ public:
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                     BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                     BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
-    /// A font of `nPointSize` tenths of a point, converted to the logical units of `pDC` as it is mapped now;
-    /// without one, to pixels of the screen.
+    /// Creates a font of `nPointSize` tenths of a point. The height is converted to the logical units of
+    /// `pDC` in its present mapping; without a DC, to pixels of the screen.
     BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = nullptr);
-    /// As CreatePointFont(); `lpLogFont->lfHeight` holds the tenths of a point.
+    /// Like CreatePointFont(); `lpLogFont->lfHeight` is the size in tenths of a point.
     BOOL CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC = nullptr);
     int GetLogFont(LOGFONT* pLogFont) const { return GetObject(sizeof(LOGFONT), pLogFont); }
 };
@@ -152,10 +154,10 @@ public:
     static CBitmap* PASCAL FromHandle(HBITMAP hBitmap);
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
 
-    /// Loads from the first module of the resource chain that holds the bitmap.
+    /// Loads the bitmap from the first module of the resource chain that contains it.
     BOOL LoadBitmap(LPCTSTR lpszResourceName);
     BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
-    /// One of the system's own (OBM_CLOSE ...).
+    /// Loads a bitmap of the system (OBM_CLOSE ...).
     BOOL LoadOEMBitmap(UINT nIDBitmap) {
         return AttachNew(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap)));
     }
@@ -164,17 +166,17 @@ public:
         return AttachNew(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
     }
     BOOL CreateBitmapIndirect(LPBITMAP lpBitmap) { return AttachNew(::CreateBitmapIndirect(lpBitmap)); }
-    /// Compatible with the output DC of `pDC`.
+    /// Creates a bitmap that is compatible with the output DC of `pDC`.
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     BOOL CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight);
 
     int GetBitmap(BITMAP* pBitMap) const { return GetObject(sizeof(BITMAP), pBitMap); }
-    /// Both copy at most `dwCount` bytes of device-dependent bits and return the bytes copied.
+    /// Copy at most `dwCount` bytes of device-dependent bits. Return the number of bytes.
     DWORD SetBitmapBits(DWORD dwCount, const void* lpBits);
     DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const;
-    /// The size noted by SetBitmapDimension(), in tenths of a millimetre; (0, 0) if none was.
+    /// The size from SetBitmapDimension(), in tenths of a millimetre; (0, 0) before the first call.
     CSize GetBitmapDimension() const;
-    /// Returns the size noted before.
+    /// Stores a size for the program's use. Returns the former size.
     CSize SetBitmapDimension(int nWidth, int nHeight);
 };
 
@@ -193,7 +195,7 @@ public:
     BOOL CreateHalftonePalette(CDC* pDC);
 
     int GetEntryCount() const;
-    /// Both return the number of entries copied, 0 on failure.
+    /// Return the number of copied entries, 0 on failure.
     UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const {
         return ::GetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
     }
@@ -207,8 +209,8 @@ public:
     BOOL ResizePalette(UINT nNumEntries) { return ::ResizePalette(*this, nNumEntries); }
 };
 
-/// A region. Coordinates are device units where a DC clips by it. Members that combine or measure return
-/// ERROR, NULLREGION, SIMPLEREGION or COMPLEXREGION.
+/// A region. Its coordinates are device units when a DC uses it as clip. Members that combine or measure
+/// regions return ERROR, NULLREGION, SIMPLEREGION or COMPLEXREGION.
 class MFC_API CRgn : public CGdiObject {
     DECLARE_DYNAMIC(CRgn)
 
@@ -219,7 +221,7 @@ public:
     static CRgn* PASCAL FromHandle(HRGN hRgn);
     operator HRGN() const { return static_cast<HRGN>(m_hObject); }
 
-    /// All creators answer FALSE on failure. Right and bottom edges do not belong to the region.
+    /// The creator functions return FALSE on failure. Right and bottom edges do not belong to the region.
     BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return AttachNew(::CreateRectRgn(x1, y1, x2, y2)); }
     BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return AttachNew(::CreateRectRgnIndirect(lpRect)); }
     BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2) {
@@ -235,7 +237,7 @@ public:
     BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3) {
         return AttachNew(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
     }
-    /// From the closed path of `pDC`, which is used up.
+    /// Converts the closed path of `pDC` to a region. The call discards the path.
     BOOL CreateFromPath(CDC* pDC);
     BOOL CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData) {
         return AttachNew(::ExtCreateRegion(lpXForm, static_cast<DWORD>(nCount), pRgnData));
@@ -245,7 +247,7 @@ public:
     void SetRectRgn(LPCRECT lpRect) {
         ::SetRectRgn(*this, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
     }
-    /// Replaces this region, which must exist, by the combination of two others.
+    /// Replaces this region, which must exist, with the combination of two regions.
     int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
     int CopyRgn(const CRgn* pRgnSrc);
     BOOL EqualRgn(const CRgn* pRgn) const;
@@ -255,7 +257,8 @@ public:
     BOOL PtInRegion(int x, int y) const { return ::PtInRegion(*this, x, y); }
     BOOL PtInRegion(POINT point) const { return ::PtInRegion(*this, point.x, point.y); }
     BOOL RectInRegion(LPCRECT lpRect) const { return ::RectInRegion(*this, lpRect); }
-    /// With NULL, the bytes needed; else the bytes copied, 0 if `nCount` is too small.
+    /// With a NULL buffer, returns the needed number of bytes. Otherwise returns the number of copied bytes,
+    /// 0 if `nCount` is too small.
     int GetRegionData(LPRGNDATA lpRgnData, int nCount) const {
         return static_cast<int>(::GetRegionData(*this, static_cast<DWORD>(nCount), lpRgnData));
     }

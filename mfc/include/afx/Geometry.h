@@ -1,3 +1,4 @@
+// CSize, CPoint and CRect.
 #pragma once
 
 #include <windows.h>
@@ -5,15 +6,15 @@
 class CPoint;
 class CRect;
 
-// CRect::TopLeft and BottomRight lend two fields of a RECT as a CPoint; the compiler must be told that a
-// CPoint may stand for other memory than a POINT.
+// CRect::TopLeft and BottomRight return two fields of a RECT as a CPoint. The attribute makes the compiler
+// assume that a CPoint can overlap objects of other types.
 #if defined(__GNUC__)
 #define AFX_MAY_ALIAS __attribute__((may_alias))
 #else
 #define AFX_MAY_ALIAS
 #endif
 
-/// Coordinates that leave the range of LONG wrap around, as the system's own rectangle functions do.
+/// Coordinates outside the range of LONG wrap around, as in the system's rectangle functions.
 inline constexpr LONG AfxWrap(DWORD value) {
     return static_cast<LONG>(value);
 }
@@ -106,8 +107,8 @@ inline CPoint CSize::operator-(POINT point) const {
     return CPoint(AfxMinus(cx, point.x), AfxMinus(cy, point.y));
 }
 
-/// A rectangle; right and bottom lie just outside it. Members that shrink, join or cut expect a normalized
-/// one, whose left is not greater than its right and whose top is not greater than its bottom.
+/// A rectangle. The right and the bottom edge lie outside it. Members that shrink, join or cut rectangles
+/// expect normalized ones: left <= right and top <= bottom.
 class CRect : public tagRECT {
 public:
     CRect() : CRect(0, 0, 0, 0) {}
@@ -125,7 +126,7 @@ public:
     const CPoint& TopLeft() const { return *reinterpret_cast<const CPoint*>(&left); }
     CPoint& BottomRight() { return *reinterpret_cast<CPoint*>(&right); }
     const CPoint& BottomRight() const { return *reinterpret_cast<const CPoint*>(&right); }
-    /// The middle, rounded towards 0.
+    /// The centre, rounded towards 0.
     CPoint CenterPoint() const { return CPoint(Middle(left, right), Middle(top, bottom)); }
 
     operator LPRECT() { return this; }
@@ -135,7 +136,7 @@ public:
     BOOL IsRectEmpty() const { return left >= right || top >= bottom; }
     /// TRUE if all four coordinates are 0.
     BOOL IsRectNull() const { return left == 0 && top == 0 && right == 0 && bottom == 0; }
-    /// TRUE if the point is inside; points on the right or bottom side are not.
+    /// TRUE if the point is inside. Points on the right or bottom edge are outside.
     BOOL PtInRect(POINT point) const {
         return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
     }
@@ -155,7 +156,7 @@ public:
     void SetRectEmpty() { SetRect(0, 0, 0, 0); }
     void CopyRect(LPCRECT rect) { SetRect(rect->left, rect->top, rect->right, rect->bottom); }
 
-    /// Move each side outwards (Deflate: inwards) by the amount given for it.
+    /// Move each side outwards (Deflate: inwards) by its own amount.
     void InflateRect(int dx, int dy) { InflateRect(dx, dy, dx, dy); }
     void InflateRect(SIZE size) { InflateRect(size.cx, size.cy); }
     void InflateRect(LPCRECT sides) { InflateRect(sides->left, sides->top, sides->right, sides->bottom); }
@@ -175,7 +176,7 @@ public:
     void OffsetRect(SIZE size) { OffsetRect(size.cx, size.cy); }
     void OffsetRect(POINT point) { OffsetRect(point.x, point.y); }
 
-    /// Swaps left and right, top and bottom, where they are the wrong way round.
+    /// Swaps left and right if left is greater, and top and bottom if top is greater.
     void NormalizeRect() {
         if (left > right)
             SetRect(right, top, left, bottom);
@@ -183,9 +184,9 @@ public:
             SetRect(left, bottom, right, top);
     }
 
-    /// Set this rectangle to the common part, to the smallest rectangle around both, or to what is left of
-    /// the first when the second is cut off it (unchanged unless the second covers a whole side of it). FALSE
-    /// if the result is empty. The arguments may be this rectangle itself.
+    /// Set this rectangle to the intersection, to the smallest rectangle around both, or to the part of
+    /// `first` that `second` does not cover. SubtractRect leaves `first` unchanged unless `second` covers a
+    /// whole side of it. FALSE if the result is empty. The arguments may be this rectangle.
     BOOL IntersectRect(LPCRECT first, LPCRECT second) { return ::IntersectRect(this, first, second); }
     BOOL UnionRect(LPCRECT first, LPCRECT second) { return ::UnionRect(this, first, second); }
     BOOL SubtractRect(LPCRECT first, LPCRECT second) { return ::SubtractRect(this, first, second); }
@@ -242,8 +243,8 @@ public:
         result |= rect;
         return result;
     }
-    /// Every coordinate times `multiplier` over `divisor`, rounded to the nearest; -1 where that is
-    /// impossible.
+    /// Each coordinate times `multiplier` divided by `divisor`, rounded to the nearest integer; -1 if the
+    /// division is impossible.
     CRect MulDiv(int multiplier, int divisor) const {
         return CRect(::MulDiv(left, multiplier, divisor), ::MulDiv(top, multiplier, divisor),
                      ::MulDiv(right, multiplier, divisor), ::MulDiv(bottom, multiplier, divisor));

@@ -1,20 +1,20 @@
+// HandleMap: from a system handle to the object that wraps it.
 #pragma once
 
 #include <memory>
 #include <unordered_map>
 
-/// Maps a system handle to the object that wraps it, in two halves.
+/// Maps system handles to the objects that wrap them.
 ///
-/// Permanent entries belong to objects that a program made and attached; the map never deletes those. Temporary
-/// entries are wrappers the map made itself because somebody asked for a handle that no object owned; they live until
-/// DeleteTemporaries(), which the message loop calls when it is idle, and they let go of their handle
-/// without destroying it.
+/// Permanent entries are objects that a program attached to a handle; the map never deletes these objects.
+/// Temporary entries are wrappers that the map created because FromHandle() got a handle without a permanent
+/// entry. DeleteTemporaries() deletes the wrappers and leaves their handles valid; the message loop calls it
+/// when it is idle.
 ///
-/// `Traits` supplies
-///   static std::unique_ptr<Object> Wrap(Handle)   a wrapper that refers to the handle and does not own it
-///   static void Unwrap(Object&)                    makes the wrapper forget its handle before it is deleted
+/// `Traits` supplies two static functions. Wrap(Handle) returns a std::unique_ptr<Object> that refers to the
+/// handle and does not own it. Unwrap(Object&) clears the handle of a wrapper before the wrapper is deleted.
 ///
-/// A map is used by one thread only: keep it in thread-local storage.
+/// One thread uses a map, so a map belongs into thread-local storage.
 template <class Object, class Handle, class Traits> class HandleMap {
 public:
     HandleMap() = default;
@@ -22,13 +22,14 @@ public:
     HandleMap& operator=(const HandleMap&) = delete;
     ~HandleMap() { DeleteTemporaries(); }
 
-    /// The object attached to `handle`, or nullptr. Never makes one.
+    /// The object attached to `handle`, or nullptr. The function never creates a wrapper.
     Object* Permanent(Handle handle) const {
         const auto found = m_permanent.find(handle);
         return found == m_permanent.end() ? nullptr : found->second;
     }
 
-    /// The attached object, else the temporary wrapper, made if there is none yet; nullptr for a null handle.
+    /// The attached object, else the temporary wrapper. The function creates the wrapper at the first call;
+    /// nullptr for a null handle.
     Object* FromHandle(Handle handle) {
         if (handle == nullptr)
             return nullptr;
@@ -40,13 +41,14 @@ public:
         return temporary.get();
     }
 
-    /// Enters `object` as the owner of `handle`. A temporary wrapper that somebody still holds stays valid.
+    /// Sets the permanent entry of `handle`. An existing temporary wrapper stays valid, because a caller may
+    /// hold a pointer to it.
     void SetPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
 
-    /// Forgets the permanent entry of `handle`, if any.
+    /// Removes the permanent entry of `handle`, if any.
     void Remove(Handle handle) { m_permanent.erase(handle); }
 
-    /// Deletes every temporary wrapper; the handles themselves are left alone.
+    /// Deletes all temporary wrappers. The handles stay valid.
     void DeleteTemporaries() {
         auto wrappers = std::move(m_temporary);
         m_temporary.clear();

@@ -1,9 +1,10 @@
+// CListBox and CComboBox.
 #pragma once
 
 #include "afx/Controls.h"
 
-/// A list box. Indices count from 0; LB_ERR (-1) tells failure or "none", LB_ERRSPACE (-2) that memory ran
-/// out.
+/// A list box. Indices count from 0. LB_ERR (-1) means failure or "none"; LB_ERRSPACE (-2) means that memory
+/// ran out.
 class MFC_API CListBox : public CWnd {
     DECLARE_DYNAMIC(CListBox)
 
@@ -26,12 +27,13 @@ public:
     int InitStorage(int nItems, UINT nBytes) {
         return afx_control::Ask(m_hWnd, LB_INITSTORAGE, Param(nItems), static_cast<LPARAM>(nBytes));
     }
-    /// The item nearest to a client point, and whether the point lies outside the client area.
+    /// Returns the item nearest to a client point. `bOutside` receives whether the point is outside the
+    /// client area.
     UINT ItemFromPoint(CPoint pt, BOOL& bOutside) const;
 
-    /// The selected item of a single-selection box, else LB_ERR.
+    /// The selected item of a single-selection list box; LB_ERR if none.
     int GetCurSel() const { return afx_control::Ask(m_hWnd, LB_GETCURSEL); }
-    /// -1 takes the selection away, and that answers LB_ERR too.
+    /// -1 removes the selection; that call also returns LB_ERR.
     int SetCurSel(int nSelect) { return afx_control::Ask(m_hWnd, LB_SETCURSEL, Param(nSelect)); }
 
     /// Multiple selection.
@@ -47,7 +49,7 @@ public:
     int SetCaretIndex(int nIndex, BOOL bScroll = TRUE);
     int GetCaretIndex() const { return afx_control::Ask(m_hWnd, LB_GETCARETINDEX); }
 
-    /// What a program keeps with an item.
+    /// A value of the program for each item.
     DWORD_PTR GetItemData(int nIndex) const {
         return static_cast<DWORD_PTR>(::SendMessage(m_hWnd, LB_GETITEMDATA, Param(nIndex), 0));
     }
@@ -59,13 +61,13 @@ public:
         return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
     }
     int GetItemRect(int nIndex, LPRECT lpRect) const;
-    /// The buffer holds GetTextLen() characters and a zero. Returns the length, LB_ERR for a wrong index.
+    /// The buffer needs GetTextLen() characters and a zero. Returns the length; LB_ERR for an invalid index.
     int GetText(int nIndex, LPTSTR lpszBuffer) const;
-    /// Empty for a wrong index.
+    /// The text is empty for an invalid index.
     void GetText(int nIndex, CString& rString) const;
     int GetTextLen(int nIndex) const { return afx_control::Ask(m_hWnd, LB_GETTEXTLEN, Param(nIndex)); }
 
-    /// Settings; heights and widths are pixels, tab stops are dialog units.
+    /// Heights and widths are pixels; tab stops are dialog units.
     void SetColumnWidth(int cxWidth) { afx_control::Ask(m_hWnd, LB_SETCOLUMNWIDTH, Param(cxWidth)); }
     BOOL SetTabStops(int nTabStops, LPINT rgTabStops);
     void SetTabStops() { afx_control::Ask(m_hWnd, LB_SETTABSTOPS); }
@@ -73,26 +75,27 @@ public:
     int SetItemHeight(int nIndex, UINT cyItemHeight);
     int GetItemHeight(int nIndex) const { return afx_control::Ask(m_hWnd, LB_GETITEMHEIGHT, Param(nIndex)); }
 
-    /// Items. Adding returns the new index; deleting, the items left.
+    /// Items. Functions that add return the new index; DeleteString() returns the number of remaining items.
     int AddString(LPCTSTR lpszItem);
     int DeleteString(UINT nIndex) { return afx_control::Ask(m_hWnd, LB_DELETESTRING, nIndex); }
-    /// Without sorting; -1 appends.
+    /// Inserts without sorting; -1 appends.
     int InsertString(int nIndex, LPCTSTR lpszItem);
     void ResetContent() { afx_control::Ask(m_hWnd, LB_RESETCONTENT); }
     int Dir(UINT attr, LPCTSTR lpszWildCard);
-    /// The first item that begins with the text, sought from behind `nStartAfter` (-1: from the top) and on
-    /// from the top.
+    /// The first item that begins with the text. The search starts after `nStartAfter` (-1: at the top) and
+    /// continues from the top.
     int FindString(int nStartAfter, LPCTSTR lpszItem) const;
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const;
     int SelectString(int nStartAfter, LPCTSTR lpszItem);
 
-    /// Owner draw: override what the style needs. The defaults draw nothing and leave the system's measures.
+    /// Owner draw. Override the functions that the style needs. The defaults draw nothing and keep the
+    /// system's measures.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
-    /// -1, 0 or 1: first item before, equal to or behind the second.
+    /// Return -1, 0 or 1: the first item comes before, equals or comes after the second.
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
     virtual void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
-    /// LBS_WANTKEYBOARDINPUT: an index to go to, -1 for the default action, -2 for none.
+    /// For LBS_WANTKEYBOARDINPUT. Return the index to select, -1 for the default action, -2 for no action.
     virtual int VKeyToItem(UINT nKey, UINT nIndex);
     virtual int CharToItem(UINT nKey, UINT nIndex);
 
@@ -100,24 +103,24 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
 
-/// A combo box. Indices count from 0; CB_ERR (-1) tells failure or "none", CB_ERRSPACE (-2) that memory ran
-/// out.
+/// A combo box. Indices count from 0. CB_ERR (-1) means failure or "none"; CB_ERRSPACE (-2) means that memory
+/// ran out.
 class MFC_API CComboBox : public CWnd {
     DECLARE_DYNAMIC(CComboBox)
 
 public:
     CComboBox() = default;
     ~CComboBox() override;
-    /// `rect` includes the opened list.
+    /// `rect` includes the open list.
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     int GetCount() const { return afx_control::Ask(m_hWnd, CB_GETCOUNT); }
     int GetCurSel() const { return afx_control::Ask(m_hWnd, CB_GETCURSEL); }
-    /// -1 takes the selection away and empties the edit field.
+    /// -1 removes the selection and empties the edit field.
     int SetCurSel(int nSelect) { return afx_control::Ask(m_hWnd, CB_SETCURSEL, Param(nSelect)); }
     LCID GetLocale() const { return static_cast<LCID>(afx_control::Ask(m_hWnd, CB_GETLOCALE)); }
     LCID SetLocale(LCID nNewLocale) {
@@ -135,14 +138,14 @@ public:
     int SetDroppedWidth(UINT nWidth) { return afx_control::Ask(m_hWnd, CB_SETDROPPEDWIDTH, nWidth); }
     int GetDroppedWidth() const { return afx_control::Ask(m_hWnd, CB_GETDROPPEDWIDTH); }
 
-    /// The edit field: start in the low word, end in the high word.
+    /// Selection of the edit field. Low word: start; high word: end.
     DWORD GetEditSel() const { return static_cast<DWORD>(afx_control::Ask(m_hWnd, CB_GETEDITSEL)); }
     BOOL SetEditSel(int nStartChar, int nEndChar) {
         return afx_control::Ask(m_hWnd, CB_SETEDITSEL, 0, MAKELPARAM(nStartChar, nEndChar));
     }
     BOOL LimitText(int nMaxChars) { return afx_control::Ask(m_hWnd, CB_LIMITTEXT, Param(nMaxChars)); }
 
-    /// What a program keeps with an item.
+    /// A value of the program for each item.
     DWORD_PTR GetItemData(int nIndex) const {
         return static_cast<DWORD_PTR>(::SendMessage(m_hWnd, CB_GETITEMDATA, Param(nIndex), 0));
     }
@@ -153,9 +156,10 @@ public:
     int SetItemDataPtr(int nIndex, void* pData) {
         return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
     }
-    /// The buffer holds GetLBTextLen() characters and a zero. Returns the length, CB_ERR for a wrong index.
+    /// The buffer needs GetLBTextLen() characters and a zero. Returns the length; CB_ERR for an
+    /// invalid index.
     int GetLBText(int nIndex, LPTSTR lpszText) const;
-    /// Empty for a wrong index.
+    /// The text is empty for an invalid index.
     void GetLBText(int nIndex, CString& rString) const;
     int GetLBTextLen(int nIndex) const { return afx_control::Ask(m_hWnd, CB_GETLBTEXTLEN, Param(nIndex)); }
 
@@ -167,22 +171,22 @@ public:
         return afx_control::Ask(m_hWnd, CB_SETEXTENDEDUI, static_cast<WPARAM>(bExtended));
     }
     BOOL GetExtendedUI() const { return afx_control::Ask(m_hWnd, CB_GETEXTENDEDUI); }
-    /// Screen coordinates of the opened list.
+    /// Screen coordinates of the open list.
     void GetDroppedControlRect(LPRECT lprect) const;
     BOOL GetDroppedState() const { return afx_control::Ask(m_hWnd, CB_GETDROPPEDSTATE); }
     void ShowDropDown(BOOL bShowIt = TRUE) {
         afx_control::Ask(m_hWnd, CB_SHOWDROPDOWN, static_cast<WPARAM>(bShowIt));
     }
 
-    /// Items. Adding returns the new index; deleting, the items left.
+    /// Items. Functions that add return the new index; DeleteString() returns the number of remaining items.
     int AddString(LPCTSTR lpszString);
     int DeleteString(UINT nIndex) { return afx_control::Ask(m_hWnd, CB_DELETESTRING, nIndex); }
-    /// Without sorting; -1 appends.
+    /// Inserts without sorting; -1 appends.
     int InsertString(int nIndex, LPCTSTR lpszString);
     void ResetContent() { afx_control::Ask(m_hWnd, CB_RESETCONTENT); }
     int Dir(UINT attr, LPCTSTR lpszWildCard);
-    /// The first item that begins with the text, sought from behind `nStartAfter` (-1: from the top) and on
-    /// from the top.
+    /// The first item that begins with the text. The search starts after `nStartAfter` (-1: at the top) and
+    /// continues from the top.
     int FindString(int nStartAfter, LPCTSTR lpszString) const;
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const;
     int SelectString(int nStartAfter, LPCTSTR lpszString);
@@ -192,10 +196,11 @@ public:
     void Cut() { afx_control::Ask(m_hWnd, WM_CUT); }
     void Paste() { afx_control::Ask(m_hWnd, WM_PASTE); }
 
-    /// Owner draw: override what the style needs. The defaults draw nothing and leave the system's measures.
+    /// Owner draw. Override the functions that the style needs. The defaults draw nothing and keep the
+    /// system's measures.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
-    /// -1, 0 or 1: first item before, equal to or behind the second.
+    /// Return -1, 0 or 1: the first item comes before, equals or comes after the second.
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
     virtual void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
 
@@ -203,6 +208,6 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: these windows have a class of their own
+    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };

@@ -1,10 +1,9 @@
+// The lists with a fixed element type. They have the members of CList.
 #pragma once
 
 #include <afx/CList.h>
 
-// The lists that need no template argument. They have the members of CList.
-
-/// The pointers' targets are not owned. Not serialisable: Serialize throws CNotSupportedException*.
+/// The list does not own the pointers' targets. Not serialisable: Serialize throws CNotSupportedException*.
 class MFC_API CPtrList : public CList<void*, void*> {
     DECLARE_DYNAMIC(CPtrList)
 public:
@@ -13,7 +12,8 @@ public:
     void Serialize(CArchive& ar) override;
 };
 
-/// The objects are not owned. Serialize stores and loads them; loaded ones are owned by whoever loads.
+/// The list does not own its objects. Serialize stores and loads the objects; the program that loads the list
+/// deletes them.
 class MFC_API CObList : public CList<CObject*, CObject*> {
     DECLARE_DYNCREATE(CObList)
 public:

@@ -1,10 +1,10 @@
+// The maps with fixed types. They have the members of CMap and the types that CTypedPtrMap needs.
 #pragma once
 
 #include <afx/CMap.h>
 
-// The maps that need no template argument. They have the members of CMap, and the types CTypedPtrMap needs.
-// The targets of pointers are not owned. Maps of plain pointers are not serialisable: Serialize throws
-// CNotSupportedException*.
+// The maps do not own the targets of pointers. Maps of void pointers are not serialisable: Serialize
+// throws CNotSupportedException*.
 
 class MFC_API CMapWordToPtr : public CMap<WORD, WORD, void*, void*> {
     DECLARE_DYNAMIC(CMapWordToPtr)
@@ -53,7 +53,7 @@ public:
     ~CMapWordToOb() override;
 };
 
-/// What the maps with text keys have in common.
+/// Common base of the maps with text keys.
 template <class VALUE, class ARG_VALUE> class CAfxStringMap
     : public CMap<CString, LPCTSTR, VALUE, ARG_VALUE> {
 public:
@@ -63,8 +63,8 @@ public:
     typedef ARG_VALUE BASE_ARG_VALUE;
     using CMap<CString, LPCTSTR, VALUE, ARG_VALUE>::CMap;
 
-    /// Sets `stored` to the map's own copy of the key, valid as long as the key is in the map. FALSE if it is
-    /// not.
+    /// Sets `stored` to the map's own copy of the key, which is valid while the key is in the map. FALSE if
+    /// the map does not contain the key.
     BOOL LookupKey(LPCTSTR key, LPCTSTR& stored) const {
         const auto* const pair = this->PLookup(key);
         if (pair == nullptr)

@@ -1,3 +1,4 @@
+// CMenu, a menu and the handle that it owns.
 #pragma once
 
 #include "afx/Export.h"
@@ -6,49 +7,49 @@
 class CBitmap;
 class CWnd;
 
-/// A menu and the handle it owns. The destructor destroys the menu unless it was detached before: detach a
-/// menu that a window shows (the window destroys it), and give up submenus that were appended to another
-/// menu.
+/// A menu and the handle that it owns. The destructor destroys the menu unless Detach() was called before.
+/// Detach a menu that a window shows, because the window destroys it. Detach a submenu that was appended to
+/// another menu, because the other menu destroys it.
 class MFC_API CMenu : public CObject {
     DECLARE_DYNCREATE(CMenu)
 
 public:
-    /// The handle, or NULL. Change it by Attach() and Detach() only.
+    /// The handle, or NULL. Only Attach() and Detach() change the member.
     HMENU m_hMenu = nullptr;
 
     CMenu() = default;
     ~CMenu() override;
 
-    /// The permanent object of `hMenu`, else a temporary one; NULL for a NULL handle.
+    /// The attached object of `hMenu`, else a temporary one. NULL for a NULL handle.
     static CMenu* PASCAL FromHandle(HMENU hMenu);
-    /// The permanent object of `hMenu`, or NULL.
+    /// The attached object of `hMenu`, or NULL.
     static CMenu* PASCAL FromHandlePermanent(HMENU hMenu);
-    /// Deletes the temporaries of the calling thread; their handles stay.
+    /// Deletes the temporary objects of the calling thread. The handles stay valid.
     static void PASCAL DeleteTempMap();
 
     operator HMENU() const { return m_hMenu; }
     BOOL operator==(const CMenu& menu) const { return m_hMenu == menu.m_hMenu; }
     BOOL operator!=(const CMenu& menu) const { return m_hMenu != menu.m_hMenu; }
-    /// The handle; NULL also for a NULL object.
+    /// The handle. The call is allowed on a NULL object and then returns NULL.
     HMENU GetSafeHmenu() const;
 
-    /// Takes ownership of `hMenu`. FALSE for NULL. Throws CMemoryException* when memory runs out; the menu
-    /// stays the caller's.
+    /// Takes ownership of `hMenu`. FALSE for NULL. Throws CMemoryException* if memory runs out; the caller
+    /// then keeps the menu.
     BOOL Attach(HMENU hMenu);
-    /// Gives the handle away.
+    /// Releases ownership: the caller destroys the menu.
     HMENU Detach();
     BOOL DestroyMenu();
 
-    /// FALSE on failure, as the other creators.
+    /// The creator functions return FALSE on failure.
     BOOL CreateMenu();
     BOOL CreatePopupMenu();
-    /// Loads from the first module of the resource chain that holds the menu.
+    /// Loads the menu from the first module of the resource chain that contains it.
     BOOL LoadMenu(LPCTSTR lpszResourceName);
     BOOL LoadMenu(UINT nIDResource) { return LoadMenu(MAKEINTRESOURCE(nIDResource)); }
     BOOL LoadMenuIndirect(const void* lpMenuTemplate);
 
-    /// Items are named by command (MF_BYCOMMAND) or by position from 0 (MF_BYPOSITION). With MF_POPUP the new
-    /// item's "ID" is the submenu's handle, which this menu then owns.
+    /// Items are identified by command (MF_BYCOMMAND) or by position from 0 (MF_BYPOSITION). With MF_POPUP,
+    /// `nIDNewItem` is the handle of the submenu, and this menu owns the submenu from now on.
     BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem = 0, LPCTSTR lpszNewItem = nullptr) {
         return ::AppendMenu(m_hMenu, nFlags, nIDNewItem, lpszNewItem);
     }
@@ -61,43 +62,44 @@ public:
         return ::ModifyMenu(m_hMenu, nPosition, nFlags, nIDNewItem, lpszNewItem);
     }
     BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
-    /// Takes the item out; a submenu survives and is the caller's.
+    /// Removes the item. A submenu stays valid, and the caller destroys it.
     BOOL RemoveMenu(UINT nPosition, UINT nFlags) { return ::RemoveMenu(m_hMenu, nPosition, nFlags); }
-    /// Takes the item out and destroys its submenu.
+    /// Removes the item and destroys its submenu.
     BOOL DeleteMenu(UINT nPosition, UINT nFlags) { return ::DeleteMenu(m_hMenu, nPosition, nFlags); }
 
-    /// The former check state (MF_CHECKED or MF_UNCHECKED); 0xFFFFFFFF if there is no such item.
+    /// Returns the former check state, MF_CHECKED or MF_UNCHECKED; 0xFFFFFFFF if the item does not exist.
     UINT CheckMenuItem(UINT nIDCheckItem, UINT nCheck) {
         return ::CheckMenuItem(m_hMenu, nIDCheckItem, nCheck);
     }
     BOOL CheckMenuRadioItem(UINT nIDFirst, UINT nIDLast, UINT nIDItem, UINT nFlags) {
         return ::CheckMenuRadioItem(m_hMenu, nIDFirst, nIDLast, nIDItem, nFlags);
     }
-    /// The former state (MF_ENABLED, MF_GRAYED, MF_DISABLED); 0xFFFFFFFF if there is no such item.
+    /// Returns the former state, MF_ENABLED, MF_GRAYED or MF_DISABLED; 0xFFFFFFFF if the item does not exist.
     UINT EnableMenuItem(UINT nIDEnableItem, UINT nEnable) {
         return static_cast<UINT>(::EnableMenuItem(m_hMenu, nIDEnableItem, nEnable));
     }
     BOOL SetDefaultItem(UINT uItem, BOOL fByPos = FALSE) {
         return ::SetMenuDefaultItem(m_hMenu, uItem, static_cast<UINT>(fByPos));
     }
-    /// Command or position of the default item; 0xFFFFFFFF if there is none.
+    /// Command or position of the default item; 0xFFFFFFFF if there is no default item.
     UINT GetDefaultItem(UINT gmdiFlags, BOOL fByPos = FALSE) {
         return ::GetMenuDefaultItem(m_hMenu, static_cast<UINT>(fByPos), gmdiFlags);
     }
     BOOL SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked,
                             const CBitmap* pBmpChecked);
 
-    /// 0xFFFFFFFF if the menu is not valid.
+    /// 0xFFFFFFFF if the menu is invalid.
     UINT GetMenuItemCount() const { return static_cast<UINT>(::GetMenuItemCount(m_hMenu)); }
-    /// 0 for a separator; 0xFFFFFFFF for a submenu and beyond the end.
+    /// 0 for a separator; 0xFFFFFFFF for a submenu and for positions beyond the end.
     UINT GetMenuItemID(int nPos) const { return ::GetMenuItemID(m_hMenu, nPos); }
-    /// MF_ flags; for a submenu the item count is in the high byte of the low word. 0xFFFFFFFF: no such item.
+    /// MF_ flags. For a submenu, the high byte of the low word is the number of items. 0xFFFFFFFF if the item
+    /// does not exist.
     UINT GetMenuState(UINT nID, UINT nFlags) const { return ::GetMenuState(m_hMenu, nID, nFlags); }
-    /// Copies at most `nMaxCount` - 1 characters and a zero; returns the characters copied.
+    /// Copies at most `nMaxCount` - 1 characters and a zero. Returns the number of characters.
     int GetMenuString(UINT nIDItem, LPTSTR lpString, int nMaxCount, UINT nFlags) const;
-    /// The whole text; empty if there is no such item.
+    /// Copies the whole text; empty if the item does not exist.
     int GetMenuString(UINT nIDItem, CString& rString, UINT nFlags) const;
-    /// Temporary, or the permanent object of the submenu; NULL if the item is none.
+    /// The attached or temporary object of the submenu; NULL if the item is not a submenu.
     CMenu* GetSubMenu(int nPos) const { return FromHandle(::GetSubMenu(m_hMenu, nPos)); }
     BOOL GetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE) {
         return ::GetMenuItemInfo(m_hMenu, uItem, fByPos, lpMenuItemInfo);
@@ -110,12 +112,11 @@ public:
     }
     DWORD GetMenuContextHelpId() const { return ::GetMenuContextHelpId(m_hMenu); }
 
-    /// Shows a popup menu at screen position (x, y); its command goes to `pWnd`. With TPM_RETURNCMD the
-    /// result is the command chosen, else nonzero for success. `lpRect` is ignored by the system since
-    /// Windows 95.
+    /// Shows a popup menu at the screen position (x, y). The command goes to `pWnd`. With TPM_RETURNCMD the
+    /// result is the chosen command, else nonzero for success. Windows ignores `lpRect`.
     BOOL TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = nullptr);
 
-    /// Owner-draw items: override both. The defaults draw and measure nothing.
+    /// Override both functions for owner-drawn items. The defaults do nothing.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
 };

@@ -1,3 +1,4 @@
+// The handler of a message-map row: its type, and how a message's parameters become its arguments.
 #pragma once
 
 #include "afx/Export.h"
@@ -12,14 +13,13 @@ class CScrollBar;
 class CWinThread;
 class CWnd;
 
-// What a row of a message map calls: the handler with its own type, and the signature that says how a
-// message's two parameters become its arguments. Nothing is cast between function types.
+// AfxHandler keeps the handler with its own type, so no function pointer is cast to another type.
 
 // clang-format off
 
-/// How a message's parameters become the arguments of its handler. Letters behind the underscore tell result
-/// and arguments: v none, b BOOL, i int, u UINT, w CWnd*, d CDC*, p CPoint, l LPARAM; `Lo`/`Hi` tell where
-/// from.
+/// How the parameters of a message become the arguments of its handler. The letters before the underscore
+/// name the result, the letters after it the arguments: v none, b BOOL, i int, u UINT, w CWnd*, d CDC*, p
+/// CPoint, l LPARAM. `Lo` and `Hi` name the word that an argument comes from.
 enum class AfxSig : UINT {
     End,              // last row of a table
     Command,          // void()
@@ -176,8 +176,8 @@ enum class AfxSig : UINT {
 #define AFX_HANDLER_CONSTRUCTOR(owner, name, result, arguments) \
     constexpr AfxHandler(result (owner::*function) arguments) : name(function) {}
 
-/// A member function of a command target, a window or a thread. Which member of the union holds it follows
-/// from its type, and from the signature that stands beside it.
+/// A member function of a command target, a window or a thread. The row's AfxSig names the member of the
+/// union that is set.
 union AfxHandler {
     constexpr AfxHandler() : command(nullptr) {}
     AFX_HANDLER_TYPES(AFX_DECLARE_HANDLER)

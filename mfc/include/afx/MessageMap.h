@@ -1,13 +1,13 @@
+// Message maps: constant tables from messages, commands and notifications to member functions.
 #pragma once
 
 #include "afx/MessageHandler.h"
 
-// Message maps: constant tables that tie a message, a command or a notification to a member function.
-
-/// Added to a message's number when it is handed back to the control that caused it.
+/// Offset of reflected messages. A parent that hands a message back to the control adds this number to
+/// the message.
 #define WM_REFLECT_BASE (WM_USER + 0x1C00)
 
-/// Number used in maps for the whole family WM_CTLCOLORMSGBOX .. WM_CTLCOLORSTATIC.
+/// The number that maps use for all messages from WM_CTLCOLORMSGBOX to WM_CTLCOLORSTATIC.
 #ifndef WM_CTLCOLOR
 #define WM_CTLCOLOR 0x0019
 #endif
@@ -19,32 +19,33 @@
 
 /// One row of a message map.
 struct AFX_MSGMAP_ENTRY {
-    UINT nMessage;  ///< message; WM_COMMAND or WM_NOTIFY with nCode and the IDs; AFX_REGISTERED with
+    UINT nMessage;  ///< message; WM_COMMAND or WM_NOTIFY for commands; AFX_REGISTERED if pnRegistered is set
                     ///< pnRegistered
-    UINT nCode;     ///< notification code, CN_COMMAND, CN_UPDATE_COMMAND_UI; 0 for window messages
+    UINT nCode;     ///< notification code, CN_COMMAND or CN_UPDATE_COMMAND_UI; 0 for window messages
     UINT nID;       ///< first control or command ID; 0 for window messages
     UINT nLastID;   ///< last control or command ID
     AfxSig nSig;    ///< how the handler is called
     AfxHandler pfn; ///< the handler
-    const UINT* pnRegistered = nullptr; ///< variable that holds a registered message's number
+    const UINT* pnRegistered = nullptr; ///< variable with the number of a registered message
 };
 
-/// nMessage of rows made by ON_REGISTERED_MESSAGE.
+/// nMessage of the rows of ON_REGISTERED_MESSAGE.
 #define AFX_REGISTERED 0xC000u
 
-/// A class's message map: its rows, and how to reach the base class's map. The base is reached through a
-/// function of the class itself, so that the map is constant data also when the base lives in another module.
+/// The message map of a class. A function of the class returns the base class's map, so that the table is
+/// constant data even if the base class is in another module.
 struct AFX_MSGMAP {
-    const AFX_MSGMAP* (*pfnGetBaseMap)(); ///< NULL at the root
-    const AFX_MSGMAP_ENTRY* lpEntries;    ///< ends with AfxSig::End
+    const AFX_MSGMAP* (*pfnGetBaseMap)(); ///< NULL for the root class
+    const AFX_MSGMAP_ENTRY* lpEntries;    ///< the rows; the last one is AfxSig::End
 };
 
-/// Finds the row for a window message (`nCode` and `nID` 0) or a command in one table; NULL if there is none.
+/// Finds the row of a window message (`nCode` and `nID` are 0) or of a command in one table. NULL if there
+/// is none.
 MFC_API const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP_ENTRY* lpEntry, UINT nMsg, UINT nCode,
                                                     UINT nID);
 
-/// Declares the message map of a class. Members that follow are private until an access specifier says
-/// otherwise.
+/// Declares the message map of a class. Members after the macro are private unless an access
+/// specifier follows.
 #define DECLARE_MESSAGE_MAP()                                                                                \
 private:                                                                                                     \
     struct AfxMapNames;                                                                                      \
@@ -59,7 +60,7 @@ protected:                                                                      
                                                                                                              \
 private:
 
-/// Begins the message map of `theClass`, which continues in the map of `baseClass`.
+/// Begins the message map of `theClass`. Messages without a row go to the map of `baseClass`.
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
     struct theClass::AfxMapNames {                                                                           \
         using Class = theClass;                                                                              \
@@ -78,8 +79,8 @@ private:
     }                                                                                                        \
     ;
 
-// Rows for commands: `void OnFoo()`, `BOOL OnFoo(UINT id)` (FALSE keeps the command going), `void OnFoo(UINT
-// id)`.
+// Rows for commands: `void OnFoo()`, `BOOL OnFoo(UINT id)`, `void OnFoo(UINT id)`. FALSE lets the command go
+// on to the next object.
 
 #define ON_COMMAND(id, memberFxn)                                                                            \
     {WM_COMMAND,                                                                                             \
@@ -104,7 +105,7 @@ private:
      AfxSig::CommandEx,                                                                                      \
      static_cast<BOOL (CCmdTarget::*)(UINT)>(memberFxn)},
 
-// Rows for command user interface: `void OnUpdateFoo(CCmdUI*)`.
+// Rows for updates of the user interface: `void OnUpdateFoo(CCmdUI*)`.
 
 #define ON_UPDATE_COMMAND_UI(id, memberFxn) ON_UPDATE_COMMAND_UI_RANGE(id, id, memberFxn)
 #define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn)                                                    \
@@ -122,7 +123,7 @@ private:
      AfxSig::UpdateUI,                                                                                       \
      static_cast<void (CCmdTarget::*)(CCmdUI*)>(memberFxn)},
 
-// Rows for control notifications that come as WM_COMMAND: `void OnFoo()`, ranges `void OnFoo(UINT id)`.
+// Rows for control notifications in WM_COMMAND: `void OnFoo()`; ranges `void OnFoo(UINT id)`.
 
 #define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
     {WM_COMMAND,                                                                                             \
@@ -138,7 +139,7 @@ private:
      static_cast<WORD>(idLast),                                                                              \
      AfxSig::CommandRange,                                                                                   \
      static_cast<void (CCmdTarget::*)(UINT)>(memberFxn)},
-/// The control's own handler, `void OnFoo()`; the parent does not see the notification.
+/// Handler of the control itself, `void OnFoo()`. The parent does not get the notification.
 #define ON_CONTROL_REFLECT(wNotifyCode, memberFxn)                                                           \
     {WM_REFLECT_BASE + WM_COMMAND,                                                                           \
      static_cast<UINT>(wNotifyCode),                                                                         \
@@ -146,7 +147,7 @@ private:
      0xFFFF,                                                                                                 \
      AfxSig::Command,                                                                                        \
      static_cast<void (CCmdTarget::*)()>(memberFxn)},
-/// The control's own handler, `BOOL OnFoo()`; after FALSE the parent sees the notification too.
+/// Handler of the control itself, `BOOL OnFoo()`. After FALSE the parent gets the notification too.
 #define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn)                                                        \
     {WM_REFLECT_BASE + WM_COMMAND,                                                                           \
      static_cast<UINT>(wNotifyCode),                                                                         \
@@ -155,8 +156,8 @@ private:
      AfxSig::ControlReflectEx,                                                                               \
      static_cast<BOOL (CCmdTarget::*)()>(memberFxn)},
 
-// Rows for control notifications that come as WM_NOTIFY: `void OnFoo(NMHDR*, LRESULT*)`, ranges with the ID
-// in front.
+// Rows for control notifications in WM_NOTIFY: `void OnFoo(NMHDR*, LRESULT*)`; ranges with the ID as
+// first argument.
 
 #define ON_NOTIFY(wNotifyCode, id, memberFxn)                                                                \
     {WM_NOTIFY,                                                                                              \
@@ -172,7 +173,7 @@ private:
      static_cast<WORD>(idLast),                                                                              \
      AfxSig::NotifyRange,                                                                                    \
      static_cast<void (CCmdTarget::*)(UINT, NMHDR*, LRESULT*)>(memberFxn)},
-/// `BOOL OnFoo(UINT id, NMHDR*, LRESULT*)`; FALSE keeps the notification going.
+/// `BOOL OnFoo(UINT id, NMHDR*, LRESULT*)`. FALSE lets the notification go on to the next object.
 #define ON_NOTIFY_EX(wNotifyCode, id, memberFxn) ON_NOTIFY_EX_RANGE(wNotifyCode, id, id, memberFxn)
 #define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                               \
     {WM_NOTIFY,                                                                                              \
@@ -205,11 +206,12 @@ private:
      0,                                                                                                      \
      AfxSig::Message,                                                                                        \
      static_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(memberFxn)},
-/// `nMessageVariable` is a UINT variable that RegisterWindowMessage() has filled by the time messages arrive.
+/// `nMessageVariable` is a UINT variable. The program sets it with RegisterWindowMessage() before the
+/// message arrives.
 #define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn)                                                   \
     {AFX_REGISTERED,   0, 0, 0, AfxSig::Message, static_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(memberFxn),  \
      &nMessageVariable},
-/// Message without a window, posted to a CWinThread: `void OnFoo(WPARAM, LPARAM)`.
+/// A message without a window, posted to a CWinThread: `void OnFoo(WPARAM, LPARAM)`.
 #define ON_THREAD_MESSAGE(message, memberFxn)                                                                \
     {static_cast<UINT>(message),                                                                             \
      0,                                                                                                      \

@@ -1,3 +1,4 @@
+// CObject and run-time class information.
 #pragma once
 
 #include <afx/Diagnostics.h>
@@ -14,42 +15,41 @@ class CArchive;
 #define AFX_EXT_DATA AFX_EXT_CLASS
 #endif
 
-/// Bit to be combined with the schema number of IMPLEMENT_SERIAL: the class reads older schemas too and asks
-/// CArchive::GetObjectSchema which one it is given.
+/// Flag for the schema number of IMPLEMENT_SERIAL. The class also reads older schemas and calls
+/// CArchive::GetObjectSchema() to get the stored schema.
 #define VERSIONABLE_SCHEMA (0x80000000)
 
-/// What is known at run time about a class that uses DECLARE_DYNAMIC, DECLARE_DYNCREATE or DECLARE_SERIAL.
-/// Objects of this type are made by the IMPLEMENT_ macros and need no run-time initialisation, also across
-/// DLL borders: the base class is therefore reached through a function.
+/// Run-time information about a class with DECLARE_DYNAMIC, DECLARE_DYNCREATE or DECLARE_SERIAL. The
+/// IMPLEMENT_ macros define the objects as constant data. A function returns the base class, so that no
+/// initialisation across DLLs is needed.
 struct MFC_API CRuntimeClass {
     LPCSTR m_lpszClassName;
-    /// Bytes of an object of the class.
+    /// Size of an object in bytes.
     int m_nObjectSize;
-    /// Schema number, or 0xFFFF for a class that is not serialisable.
+    /// Schema number; 0xFFFF for a class that is not serialisable.
     UINT m_wSchema;
-    /// Makes an object; null for a class that cannot be made by name.
+    /// Creates an object; null if the class cannot be created by name.
     CObject* (*m_pfnCreateObject)();
-    /// Gives the base class; its result is null for CObject only.
+    /// Returns the base class; null for CObject.
     CRuntimeClass* (*m_pfnGetBaseClass)();
-    /// Next class in the list that FromName searches. Kept by the library.
+    /// Next class in the list that FromName searches. The library sets the member.
     CRuntimeClass* m_pNextClass;
 
-    /// A new object made with the default constructor, owned by the caller; null if the class cannot be made
-    /// dynamically or memory runs out.
+    /// Returns a new object from the default constructor; the caller owns it. Null if the class cannot be
+    /// created by name, or if memory runs out.
     CObject* CreateObject() const;
 
     /// TRUE if this is `baseClass` or a class derived from it.
     BOOL IsDerivedFrom(const CRuntimeClass* baseClass) const;
 
-    /// The class of that name among the loaded modules; null if there is none.
+    /// The class with this name in the loaded modules; null if there is none.
     static CRuntimeClass* FromName(LPCSTR className);
 
-    /// CreateObject() of the class of that name; null if there is no such class.
+    /// CreateObject() of the class with this name; null if there is none.
     static CObject* CreateObject(LPCSTR className);
 };
 
-/// Keeps a class in the list that CRuntimeClass::FromName searches, for as long as the class's module is
-/// loaded.
+/// Adds a class to the list that CRuntimeClass::FromName searches, while the module of the class is loaded.
 class MFC_API AfxClassRegistration {
 public:
     explicit AfxClassRegistration(CRuntimeClass& runtimeClass);
@@ -61,27 +61,27 @@ private:
     CRuntimeClass& m_class;
 };
 
-/// Base of nearly all classes of the library: run-time class information, serialisation, diagnostics.
+/// Base of most classes of the library: run-time class information, serialisation, diagnostics.
 class MFC_API CObject {
 public:
     CObject(const CObject&) = delete;
     CObject& operator=(const CObject&) = delete;
     virtual ~CObject();
 
-    /// Class information of the most derived class that declares any.
+    /// Information about the most derived class with a DECLARE_ macro.
     virtual CRuntimeClass* GetRuntimeClass() const;
 
-    /// TRUE if the object is of the given class or of one derived from it, as far as the classes declare
-    /// information.
+    /// TRUE if the object is of the given class or of a class derived from it. Only classes with a DECLARE_
+    /// macro count.
     BOOL IsKindOf(const CRuntimeClass* runtimeClass) const;
 
     /// TRUE if the class was implemented with IMPLEMENT_SERIAL.
     BOOL IsSerializable() const;
 
-    /// Writes the object to the archive or reads it from there. Does nothing here.
+    /// Stores the object in the archive or loads it from there. The base does nothing.
     virtual void Serialize(CArchive& ar);
 
-    /// Asserts that the object is in a state it can be in.
+    /// Asserts that the object's members are consistent.
     virtual void AssertValid() const;
 
     /// Writes the class name and address to the context.
@@ -96,7 +96,7 @@ protected:
 /// The CRuntimeClass of a class.
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
 
-/// Stand in the class; what follows them is public until the next access specifier.
+/// The macros stand inside the class. Members after the macro are public unless an access specifier follows.
 #define DECLARE_DYNAMIC(class_name)                                                                          \
 public:                                                                                                      \
     static CRuntimeClass class##class_name;                                                                  \
@@ -125,9 +125,9 @@ public:                                                                         
         return RUNTIME_CLASS(class_name);                                                                    \
     }
 
-/// Stand once in a source file. IMPLEMENT_DYNCREATE and IMPLEMENT_SERIAL need a default constructor (it may
-/// be protected); IMPLEMENT_SERIAL takes a schema number of 0 or more, which changes when the stored form
-/// changes.
+/// The macros stand once in a source file. IMPLEMENT_DYNCREATE and IMPLEMENT_SERIAL need a default
+/// constructor, which may be protected. IMPLEMENT_SERIAL takes a schema number of 0 or more; change the
+/// number when the stored form changes.
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
@@ -148,10 +148,11 @@ public:                                                                         
         return ar;                                                                                           \
     }
 
-/// `object` if it is of the given class or of one derived from it, else null (also for a null object).
+/// Returns `object` if it is of the given class or of a class derived from it, else null. Null for a
+/// null object.
 MFC_API CObject* AfxDynamicDownCast(CRuntimeClass* runtimeClass, CObject* object);
 
-/// `object`; a debug build asserts that it is null or of the given class.
+/// Returns `object`. A debug build asserts that it is null or of the given class.
 MFC_API CObject* AfxStaticDownCast(CRuntimeClass* runtimeClass, CObject* object);
 
 #define DYNAMIC_DOWNCAST(class_name, object)                                                                 \

@@ -1,3 +1,4 @@
+// CPrintDialog, the print dialogs of the system.
 #pragma once
 
 #include "afx/CommonDialogs.h"
@@ -5,17 +6,17 @@
 
 /// The "Print" and "Print Setup" dialogs.
 ///
-/// The memory of the printer's settings (m_pd.hDevMode, m_pd.hDevNames) is the caller's: free it with
-/// GlobalFree() when the settings are no longer needed. The object never frees it.
+/// The caller owns the memory of the printer's settings (m_pd.hDevMode and m_pd.hDevNames) and frees it with
+/// GlobalFree(). The object never frees the memory.
 class MFC_API CPrintDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CPrintDialog)
 
 public:
-    /// The record the system's dialog reads and writes. Change it after construction and before DoModal().
+    /// The record of the system's dialog. Change it between construction and DoModal().
     PRINTDLG& m_pd;
 
-    /// @param bPrintSetupOnly  TRUE: "Print Setup"; FALSE: "Print", which also makes a DC for the printer
-    /// @param dwFlags  PD_ flags
+    /// `bPrintSetupOnly` TRUE makes the "Print Setup" dialog, FALSE the "Print" dialog, which also creates a
+    /// DC of the printer. `dwFlags` are PD_ flags.
     explicit CPrintDialog(BOOL bPrintSetupOnly,
                           DWORD dwFlags = PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS |
                                           PD_HIDEPRINTTOFILE | PD_NOSELECTION,
@@ -23,31 +24,29 @@ public:
     ~CPrintDialog() override;
 
     INT_PTR DoModal() override;
-    /// Takes the default printer's settings without showing anything. FALSE when there is no printer.
+    /// Reads the settings of the default printer without a dialog. FALSE if there is no printer.
     BOOL GetDefaults();
 
-    /// @name After DoModal() or GetDefaults()
-    /// @{
+    /// Results of DoModal() and GetDefaults().
     int GetCopies() const;
     BOOL PrintCollate() const { return (m_pd.Flags & PD_COLLATE) != 0; }
     BOOL PrintSelection() const { return (m_pd.Flags & PD_SELECTION) != 0; }
     BOOL PrintRange() const { return (m_pd.Flags & PD_PAGENUMS) != 0; }
     BOOL PrintAll() const { return !PrintRange() && !PrintSelection(); }
-    /// -1 when no range of pages was chosen.
+    /// -1 if the user chose no range of pages.
     int GetFromPage() const { return PrintRange() ? m_pd.nFromPage : -1; }
     int GetToPage() const { return PrintRange() ? m_pd.nToPage : -1; }
-    /// The settings, locked; unlock m_pd.hDevMode after use. NULL when there are none.
+    /// The locked settings; the caller unlocks m_pd.hDevMode. NULL if there are no settings.
     LPDEVMODE GetDevMode() const;
-    /// Empty when no printer was chosen.
+    /// The names are empty if there is no printer.
     CString GetDriverName() const;
     CString GetDeviceName() const;
     CString GetPortName() const;
-    /// The DC that "Print" made, or NULL. The caller deletes it with DeleteDC().
+    /// The DC that the "Print" dialog created, or NULL. The caller deletes it with DeleteDC().
     HDC GetPrinterDC() const;
-    /// Makes a DC for the printer chosen, puts it into m_pd.hDC and returns it; the caller deletes it. NULL
-    /// on failure.
+    /// Creates a DC of the chosen printer, stores it in m_pd.hDC and returns it. The caller deletes the DC.
+    /// NULL on failure.
     HDC CreatePrinterDC();
-    /// @}
 
 private:
     static UINT_PTR CALLBACK HookProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,3 +1,4 @@
+// CPrintInfo, the data of a print job.
 #pragma once
 
 #include "afx/Export.h"
@@ -5,31 +6,31 @@
 
 class CPrintDialog;
 
-/// What a program tells its printing code about a print job and the page at hand.
+/// A print job and its current page, for the printing code of a program.
 struct MFC_API CPrintInfo {
-    /// Pages from 1 on, the last one not known; makes the dialog.
+    /// The first page is 1, the last page unknown. The constructor creates the dialog.
     CPrintInfo();
-    /// Deletes the dialog and frees the settings it holds.
+    /// Deletes the dialog and frees its settings.
     ~CPrintInfo();
     CPrintInfo(const CPrintInfo&) = delete;
     CPrintInfo& operator=(const CPrintInfo&) = delete;
 
-    CPrintDialog* m_pPD;             ///< the "Print" dialog of the job; owned
-    BOOL m_bPreview = FALSE;         ///< a preview on the screen
-    BOOL m_bDirect = FALSE;          ///< no dialog is to be shown
+    CPrintDialog* m_pPD;             ///< the "Print" dialog of the job; owned by the object
+    BOOL m_bPreview = FALSE;         ///< TRUE for a preview on the screen
+    BOOL m_bDirect = FALSE;          ///< TRUE for a job without a dialog
     BOOL m_bContinuePrinting = TRUE; ///< FALSE ends the job
-    UINT m_nCurPage = 1;             ///< the page being printed
+    UINT m_nCurPage = 1;             ///< number of the current page
     UINT m_nNumPreviewPages = 0;     ///< pages shown side by side in a preview
-    CString m_strPageDesc;           ///< how page numbers are written
-    LPVOID m_lpUserData = nullptr;   ///< the program's own
-    CRect m_rectDraw;                ///< the page's drawing area, logical units
+    CString m_strPageDesc;           ///< format of page numbers
+    LPVOID m_lpUserData = nullptr;   ///< for the program's use
+    CRect m_rectDraw;                ///< drawing area of the page in logical units
 
     void SetMinPage(UINT nMinPage);
-    /// 0xFFFF: not known.
+    /// 0xFFFF stands for an unknown last page.
     void SetMaxPage(UINT nMaxPage);
     UINT GetMinPage() const;
     UINT GetMaxPage() const;
-    /// The range chosen in the dialog.
+    /// The range from the dialog.
     UINT GetFromPage() const;
     UINT GetToPage() const;
 };

@@ -1,3 +1,4 @@
+// CString, text in the code page of the process.
 #pragma once
 
 #include <string>
@@ -6,22 +7,23 @@
 
 class CArchive;
 
-/// Text in the code page of the process. Each object owns its characters; copying copies them, moving does
-/// not. Positions and lengths count bytes. What needs memory throws CMemoryException* when there is none or
-/// when the text would exceed INT_MAX characters, and leaves the string as it was. A position outside the
-/// string asserts in debug builds and throws CInvalidArgException* in others; a count beyond the end means
-/// "up to the end", a negative one 0.
+/// Text in the code page of the process. Copies have their own characters; a move transfers them. Positions
+/// and lengths count bytes. If memory runs out, or if the text would exceed INT_MAX characters, members throw
+/// CMemoryException* and the string stays unchanged. A position outside the string asserts in debug builds
+/// and throws CInvalidArgException* in other builds. A count beyond the end means "up to the end"; a negative
+/// count means 0.
 class MFC_API CString {
 public:
     CString() noexcept;
     CString(const CString& other);
     CString(CString&& other) noexcept;
-    /// `repeat` times `ch`; empty if `repeat` is 0 or less.
+    /// `repeat` copies of `ch`; an empty string if `repeat` is 0 or less.
     CString(TCHAR ch, int repeat = 1);
-    /// Null gives an empty string; MAKEINTRESOURCE(id) loads that string resource (empty if there is none).
+    /// Null makes an empty string. MAKEINTRESOURCE(id) loads the string resource; a missing resource makes an
+    /// empty string.
     CString(LPCTSTR text);
     CString(const unsigned char* text);
-    /// The first `length` characters, zeros included.
+    /// The first `length` characters; zeros among them are copied too.
     CString(LPCTSTR text, int length);
     /// Converts from UTF-16.
     CString(LPCWSTR text);
@@ -48,13 +50,12 @@ public:
     TCHAR operator[](int index) const;
     void SetAt(int index, TCHAR ch);
 
-    /// The characters with a zero behind them, valid until the string is next changed.
+    /// The characters with a terminating zero, valid until the string changes.
     operator LPCTSTR() const;
     LPCTSTR GetString() const;
 
-    /// Less than, equal to or greater than 0. Compare goes by byte values, CompareNoCase by those of the
-    /// lower-case texts, Collate and CollateNoCase by the order of the user's locale. Null counts as an empty
-    /// text.
+    /// The result is -1, 0 or 1. Compare orders by byte values, CompareNoCase by the byte values of the
+    /// lower-case texts, Collate and CollateNoCase by the user's locale. Null counts as an empty text.
     int Compare(LPCTSTR other) const;
     int CompareNoCase(LPCTSTR other) const;
     int Collate(LPCTSTR other) const;
@@ -64,7 +65,7 @@ public:
     CString Mid(int first, int count) const;
     CString Left(int count) const;
     CString Right(int count) const;
-    /// The longest beginning that consists of characters of `set`, or of characters outside it.
+    /// The longest beginning with characters of `set` only, or without any of them.
     CString SpanIncluding(LPCTSTR set) const;
     CString SpanExcluding(LPCTSTR set) const;
 
@@ -72,7 +73,7 @@ public:
     CString& MakeLower();
     CString& MakeReverse();
 
-    /// Remove white space, one character, or every character of a set, from the end or ends named.
+    /// Remove white space, one character, or the characters of a set, at the left, the right or both ends.
     CString& TrimLeft();
     CString& TrimLeft(TCHAR target);
     CString& TrimLeft(LPCTSTR targets);
@@ -83,29 +84,30 @@ public:
     CString& Trim(TCHAR target);
     CString& Trim(LPCTSTR targets);
 
-    /// Position of the first match at or behind `start`, else -1; -1 also for a start outside the string.
+    /// Position of the first match at or after `start`; -1 if there is none, or if `start` is outside
+    /// the string.
     int Find(TCHAR ch, int start = 0) const;
     int Find(LPCTSTR sub, int start = 0) const;
     int ReverseFind(TCHAR ch) const;
     int FindOneOf(LPCTSTR set) const;
 
-    /// Return how many places were changed. An empty or null `oldText` matches nothing; a null `newText` is
-    /// empty.
+    /// Return the number of replacements. An empty or null `oldText` matches nothing; a null `newText` counts
+    /// as empty.
     int Replace(TCHAR oldChar, TCHAR newChar);
     int Replace(LPCTSTR oldText, LPCTSTR newText);
     int Remove(TCHAR ch);
-    /// Return the new length. A position behind the end means the end, a negative one the beginning.
+    /// Return the new length. An index beyond the end stands for the end, a negative index for the beginning.
     int Insert(int index, TCHAR ch);
     int Insert(int index, LPCTSTR text);
     int Delete(int index, int count = 1);
 
-    /// The next piece between characters of `separators`, from `position` on, which moves behind it; empty
-    /// pieces are skipped. At the end the result is empty and `position` -1.
+    /// Returns the next piece between characters of `separators`, starting at `position`, and sets `position`
+    /// behind the piece. Empty pieces are skipped. At the end the result is empty and `position` is -1.
     CString Tokenize(LPCTSTR separators, int& position) const;
 
-    /// Replace (Append: extend) the text by what printf would write. CString arguments serve for %s. Any
-    /// length is possible. With an `id`, the format is that string resource; nothing changes if there is
-    /// none.
+    /// Replace the text (Append: extend it) with formatted text, as printf does. %s accepts CString
+    /// arguments. The result has no maximum length. With an `id`, the format is a string resource; if it does
+    /// not exist, the text stays unchanged.
     template <class... Args> void Format(LPCTSTR format, Args... args) {
         FormatPlain(format, AfxVariadicArgument(args)...);
     }
@@ -124,8 +126,8 @@ public:
     }
     void FormatV(LPCTSTR format, va_list args);
 
-    /// Replace the text by a message with inserts (%1, %2!d!, ...), as the system's function of that name
-    /// reads them. Throws CMemoryException* if the system cannot make the message.
+    /// Replace the text with a message with inserts (%1, %2!d!, ...), as the Win32 function FormatMessage
+    /// does. Throws CMemoryException* if the system cannot create the message.
     template <class... Args> void FormatMessage(LPCTSTR format, Args... args) {
         FormatMessagePlain(format, AfxVariadicArgument(args)...);
     }
@@ -135,20 +137,20 @@ public:
             FormatMessagePlain(format.GetString(), AfxVariadicArgument(args)...);
     }
 
-    /// Replaces the text by a string resource, looked up through the chain of modules. FALSE, and an empty
-    /// string, if there is none.
+    /// Loads a string resource from the chain of modules. If it does not exist, returns FALSE and empties
+    /// the string.
     BOOL LoadString(UINT id) { return LoadResource(id); }
 
-    /// Characters to write to, with room for at least `minLength` of them and a terminating zero.
-    /// ReleaseBuffer must follow before any other member is called.
+    /// A writable buffer for at least `minLength` characters and a terminating zero. Call ReleaseBuffer()
+    /// before any other member.
     LPTSTR GetBuffer(int minLength);
     LPTSTR GetBuffer();
-    /// Characters to write to; the length of the string is `length` from now on.
+    /// A writable buffer; the string has the length `length` from now on.
     LPTSTR GetBufferSetLength(int length);
-    /// Ends what GetBuffer began: the new length, or -1 for "up to the first zero".
+    /// Ends the use of the buffer and sets the new length. -1 stands for the position of the first zero.
     void ReleaseBuffer(int newLength = -1);
     void FreeExtra();
-    /// As GetBuffer() and ReleaseBuffer(); characters are never shared between strings here.
+    /// Like GetBuffer() and ReleaseBuffer(). Strings never share their characters in this library.
     LPTSTR LockBuffer();
     void UnlockBuffer();
 
@@ -173,7 +175,7 @@ private:
     std::string m_text;
 };
 
-/// A CString as the argument of a variadic function: its characters, valid as long as the string is.
+/// Converts a CString for a variadic function. The characters are valid while the string exists.
 inline LPCTSTR AfxVariadicArgument(const CString& text) {
     return text.GetString();
 }
@@ -184,7 +186,8 @@ MFC_API CString operator+(LPCTSTR left, const CString& right);
 MFC_API CString operator+(const CString& left, TCHAR right);
 MFC_API CString operator+(TCHAR left, const CString& right);
 
-/// Comparisons are those of CString::Compare; two CStrings are compared with the zeros inside them.
+/// The operators compare like CString::Compare. Only the comparison of two CStrings includes characters after
+/// a zero.
 MFC_API bool operator==(const CString& left, const CString& right);
 inline bool operator==(const CString& left, LPCTSTR right) {
     return left.Compare(right) == 0;
@@ -238,10 +241,10 @@ inline bool operator>=(LPCTSTR left, const CString& right) {
     return right.Compare(left) <= 0;
 }
 
-/// Length, then characters; the length takes 1 byte below 255, else 3 or 7.
+/// Stores the length and then the characters. The length takes 1 byte below 255, else 3 or 7 bytes.
 MFC_API CArchive& operator<<(CArchive& ar, const CString& text);
 MFC_API CArchive& operator>>(CArchive& ar, CString& text);
 
-/// Sets `part` to piece number `index` (from 0) of `full`, whose pieces are separated by `separator`. FALSE,
-/// and an empty `part`, if there is no such piece.
+/// Sets `part` to piece number `index`, counted from 0, of `full`. `separator` separates the pieces. If the
+/// piece does not exist, returns FALSE and empties `part`.
 MFC_API BOOL AfxExtractSubString(CString& part, LPCTSTR full, int index, TCHAR separator = _T('\n'));

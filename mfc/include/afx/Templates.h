@@ -1,3 +1,4 @@
+// Helpers of the collection templates: positions, element functions, raw memory.
 #pragma once
 
 #include <climits>
@@ -15,18 +16,18 @@
 #include <afx/Object.h>
 #include <afx/String.h>
 
-/// A place in a list or map; null is no place. Valid until the element there is removed.
+/// Position of an element in a list or map; null is no element. A position is valid until its element
+/// is removed.
 struct AfxPosition;
 typedef AfxPosition* POSITION;
 
-/// CMap::GetNextAssoc accepts it as the place of the first element.
+/// Position before the first element, for CMap::GetNextAssoc.
 #define BEFORE_START_POSITION (reinterpret_cast<POSITION>(static_cast<INT_PTR>(-1)))
 
-// What collections do with their elements. A program may specialise each of these functions for its own
-// types.
+// Operations of collections on their elements. A program may specialise these functions for its own types.
 
-/// Makes `count` new elements in raw memory, which is zeroed first: plain types are 0, others
-/// default-constructed.
+/// Zeroes raw memory and constructs `count` elements in it. Plain types are 0, other types
+/// are default-constructed.
 template <class TYPE> void AFXAPI ConstructElements(TYPE* elements, INT_PTR count) {
     if (count <= 0)
         return;
@@ -35,25 +36,25 @@ template <class TYPE> void AFXAPI ConstructElements(TYPE* elements, INT_PTR coun
         std::uninitialized_default_construct_n(elements, static_cast<std::size_t>(count));
 }
 
-/// Ends `count` elements; their memory is not freed.
+/// Destroys `count` elements. The memory is not freed.
 template <class TYPE> void AFXAPI DestructElements(TYPE* elements, INT_PTR count) {
     if (count > 0)
         std::destroy_n(elements, static_cast<std::size_t>(count));
 }
 
-/// Assigns elements one by one, as Append and Copy do.
+/// Assigns the elements one by one, for Append and Copy.
 template <class TYPE> void AFXAPI CopyElements(TYPE* target, const TYPE* source, INT_PTR count) {
     for (INT_PTR i = 0; i < count; ++i)
         target[i] = source[i];
 }
 
-/// TRUE if both are equal; used by Find and for map keys.
+/// TRUE if both elements are equal, for Find and for map keys.
 template <class TYPE, class ARG_TYPE> BOOL AFXAPI CompareElements(const TYPE* left, const ARG_TYPE* right) {
     return *left == *right;
 }
 
-/// Stores or loads elements as their bytes. Types for which that has no meaning need a specialisation;
-/// without one this throws CNotSupportedException*.
+/// Stores or loads elements as their bytes. A type that is not trivially copyable needs a specialisation;
+/// without one the function throws CNotSupportedException*.
 template <class TYPE> void AFXAPI SerializeElements(CArchive& ar, TYPE* elements, INT_PTR count) {
     if constexpr (std::is_trivially_copyable_v<TYPE>) {
         constexpr std::size_t most = INT_MAX / sizeof(TYPE);
@@ -88,7 +89,8 @@ template <> inline void AFXAPI SerializeElements<CObject*>(CArchive& ar, CObject
             ar >> elements[i];
 }
 
-/// Writes what the elements are made of; see CDumpContext::SetDepth.
+/// Writes the bytes of the elements. Collections call the function if CDumpContext::GetDepth() is greater
+/// than 0.
 template <class TYPE> void AFXAPI DumpElements(CDumpContext& dc, const TYPE* elements, INT_PTR count) {
     dc.HexDump(" ", reinterpret_cast<const BYTE*>(elements),
                count < INT_MAX / static_cast<INT_PTR>(sizeof(TYPE)) ? static_cast<int>(count * sizeof(TYPE))
@@ -100,7 +102,7 @@ template <class TYPE> void AFXAPI DumpElements(CDumpContext& dc, const TYPE* ele
 MFC_API UINT AfxHashText(LPCTSTR text);
 MFC_API UINT AfxHashText(LPCWSTR text);
 
-/// Hash of a map key: texts by their characters, whole numbers, enumerations and pointers by their value.
+/// Hash of a map key. Texts use their characters; numbers, enumerations and pointers use their value.
 template <class ARG_KEY> UINT AFXAPI HashKey(ARG_KEY key) {
     using Key = std::remove_cv_t<std::remove_reference_t<ARG_KEY>>;
     if constexpr (std::is_convertible_v<const Key&, LPCTSTR>) {
@@ -113,7 +115,7 @@ template <class ARG_KEY> UINT AFXAPI HashKey(ARG_KEY key) {
     }
 }
 
-/// Runs `work` and turns the C++ library's out-of-memory exceptions into CMemoryException*.
+/// Runs `work`, and throws CMemoryException* instead of std::bad_alloc and std::length_error.
 template <class Work> decltype(auto) AfxWithMemory(Work&& work) {
     try {
         return work();
@@ -124,10 +126,11 @@ template <class Work> decltype(auto) AfxWithMemory(Work&& work) {
     }
 }
 
-/// Raw memory for `capacity` elements, freed unless it is released: what the collections are built on.
+/// Raw memory for `capacity` elements, the base of the collections. The destructor frees the memory unless
+/// Release() was called.
 template <class TYPE> class AfxBlock {
 public:
-    /// Throws CMemoryException* if there is no memory or the size has no representation.
+    /// Throws CMemoryException* if memory runs out, or if the size exceeds PTRDIFF_MAX bytes.
     explicit AfxBlock(INT_PTR capacity) : m_capacity(capacity) {
         static_assert(alignof(TYPE) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__,
                       "operator new does not align that strictly");
@@ -152,14 +155,15 @@ private:
     INT_PTR m_capacity;
 };
 
-/// How elements get from one place in memory to another.
+/// Moves of elements from one place in memory to another.
 template <class TYPE> struct AfxElements {
     static constexpr bool IsBitwise = std::is_trivially_copyable_v<TYPE>;
     static constexpr bool IsMovable = std::is_move_constructible_v<TYPE>;
     static constexpr bool CannotFail = IsBitwise || std::is_nothrow_move_constructible_v<TYPE>;
 
-    /// Makes `count` elements in raw memory from others, by moving if that cannot fail. After a failure the
-    /// target is raw again, and the sources are as before unless they can only be moved.
+    /// Constructs `count` elements in raw memory from `source`. Elements are moved if moving cannot throw,
+    /// else copied. After an exception the target is raw memory again, and the sources are unchanged unless
+    /// they can only be moved.
     static void Make(TYPE* target, TYPE* source, INT_PTR count) {
         if (count <= 0)
             return;
@@ -178,14 +182,14 @@ template <class TYPE> struct AfxElements {
         }
     }
 
-    /// Ends elements whose content lives on elsewhere.
+    /// Destroys the source elements of a move.
     static void End(TYPE* elements, INT_PTR count) {
         if (!IsBitwise && count > 0)
             std::destroy_n(elements, static_cast<std::size_t>(count));
     }
 
-    /// Moves `count` elements to raw memory at a lower address of the same block; `arrived` tells how many
-    /// got there. After a failure the others no longer exist.
+    /// Moves `count` elements to raw memory at a lower address of the same block. `arrived` receives the
+    /// number of moved elements. After an exception the other elements are destroyed.
     static void MoveDown(TYPE* target, TYPE* source, INT_PTR count, INT_PTR& arrived) {
         arrived = 0;
         if constexpr (IsBitwise) {
@@ -206,7 +210,7 @@ template <class TYPE> struct AfxElements {
         }
     }
 
-    /// The same towards a higher address. For elements whose moving cannot fail.
+    /// Moves `count` elements to a higher address. Moving must not throw.
     static void MoveUp(TYPE* target, TYPE* source, INT_PTR count) {
         if constexpr (IsBitwise) {
             if (count > 0)
@@ -225,7 +229,7 @@ private:
         if constexpr (IsMovable) {
             ::new (static_cast<void*>(target)) TYPE(std::move_if_noexcept(*source));
         } else {
-            // Classes derived from CObject often have an assignment operator only.
+            // Classes derived from CObject often have an assignment operator but no copy constructor.
             ::new (static_cast<void*>(target)) TYPE;
             try {
                 *target = *source;

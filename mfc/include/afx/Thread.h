@@ -1,3 +1,4 @@
+// CWinThread, a thread with a message loop or a worker thread.
 #pragma once
 
 #include "afx/Wnd.h"
@@ -12,50 +13,50 @@ public:
     CWinThread();
     ~CWinThread() override;
 
-    CWnd* m_pMainWnd = nullptr;   ///< when this window is destroyed the message loop ends
-    CWnd* m_pActiveWnd = nullptr; ///< stands in for m_pMainWnd in GetMainWnd(), if set
-    BOOL m_bAutoDelete = TRUE;    ///< whether the object deletes itself when its thread ends
-    HANDLE m_hThread = nullptr;   ///< owned; NULL for the main thread
+    CWnd* m_pMainWnd = nullptr;   ///< the message loop ends when this window is destroyed
+    CWnd* m_pActiveWnd = nullptr; ///< if not NULL, GetMainWnd() returns this window instead of m_pMainWnd
+    BOOL m_bAutoDelete = TRUE;    ///< TRUE: the object deletes itself when its thread ends
+    HANDLE m_hThread = nullptr;   ///< owned by the object; NULL for the main thread
     DWORD m_nThreadID = 0;
-    MSG m_msgCur{}; ///< the message that PumpMessage() took last
+    MSG m_msgCur{}; ///< the latest message of PumpMessage()
 
     operator HANDLE() const { return m_hThread; }
 
-    /// Starts the thread of an object that was made with `new`. FALSE on failure.
+    /// Starts the thread of an object that was allocated with `new`. FALSE on failure.
     BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,
                       LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
     DWORD SuspendThread() { return ::SuspendThread(m_hThread); }
     DWORD ResumeThread() { return ::ResumeThread(m_hThread); }
     int GetThreadPriority() { return ::GetThreadPriority(m_hThread); }
     BOOL SetThreadPriority(int nPriority) { return ::SetThreadPriority(m_hThread, nPriority); }
-    /// Posts a message without a window; ON_THREAD_MESSAGE handles it.
+    /// Posts a message without a window. ON_THREAD_MESSAGE declares the handler.
     BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);
     }
 
-    /// Sets up. FALSE ends the thread at once (through ExitInstance()).
+    /// Initialises the thread. FALSE ends the thread at once, after ExitInstance().
     virtual BOOL InitInstance();
-    /// The message loop; returns ExitInstance()'s answer.
+    /// The message loop. Returns the result of ExitInstance().
     virtual int Run();
-    /// Looks at a message before it is translated. The base runs thread-message handlers and asks the
-    /// windows.
+    /// Called for each message before translation. The base runs thread-message handlers and calls
+    /// PreTranslateMessage() of the windows.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    /// Takes one message and dispatches it. FALSE for WM_QUIT.
+    /// Gets one message and dispatches it. FALSE for WM_QUIT.
     virtual BOOL PumpMessage();
-    /// Called while there is no message, with 0, 1, 2 ... until it returns FALSE. The base updates the user
+    /// Called while no message waits, with 0, 1, 2 ... until it returns FALSE. The base updates the user
     /// interface at 0 and deletes temporary objects.
     virtual BOOL OnIdle(LONG lCount);
-    /// Whether idle processing starts anew after this message; not so for mouse moves on the spot and the
-    /// like.
+    /// Whether idle processing restarts after this message. FALSE for messages such as a mouse move to the
+    /// same place.
     virtual BOOL IsIdleMessage(MSG* pMsg);
-    /// Cleans up and gives the exit status: by default that of WM_QUIT.
+    /// Cleans up and returns the exit status. The base returns the status of WM_QUIT.
     virtual int ExitInstance();
-    /// An exception that no handler caught. The base answers -1 to WM_CREATE, validates the window for
-    /// WM_PAINT, and tells the user for all others (but not for a CUserException: the user has been told).
-    /// Returns the message's result.
+    /// Called for an exception that no handler caught. Returns the message's result. The base returns -1
+    /// for WM_CREATE, validates the window for WM_PAINT, ignores CUserException, and shows a message for
+    /// other exceptions.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
-    /// Looks at messages in the loops of menus, message boxes and system dialogs (MSGF_... codes). TRUE eats
-    /// one.
+    /// Called for messages in the loops of menus, message boxes and system dialogs (MSGF_... codes). TRUE
+    /// discards the message.
     virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
     virtual CWnd* GetMainWnd();
 
@@ -73,20 +74,19 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/// Starts a worker thread. The object deletes itself when `pfnThreadProc` returns, unless m_bAutoDelete is
-/// cleared while the thread is suspended. NULL on failure.
+/// Starts a worker thread. The object deletes itself when `pfnThreadProc` returns, unless the program sets
+/// m_bAutoDelete to FALSE while the thread is suspended. NULL on failure.
 MFC_API CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
                                    int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
                                    DWORD dwCreateFlags = 0, LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
-/// Starts a thread with a message loop; `pThreadClass` is a class derived from CWinThread.
+/// Starts a thread with a message loop. `pThreadClass` is a class derived from CWinThread.
 MFC_API CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority = THREAD_PRIORITY_NORMAL,
                                    UINT nStackSize = 0, DWORD dwCreateFlags = 0,
                                    LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
 
-/// The object of the calling thread: the application in the main thread; NULL in a thread the library does
-/// not know.
+/// The object of the calling thread; in the main thread, the application. NULL if the thread has no object.
 MFC_API CWinThread* AfxGetThread();
 /// The calling thread's main window, or NULL.
 MFC_API CWnd* AfxGetMainWnd();
-/// Sends WM_QUIT to the calling thread.
+/// Posts WM_QUIT to the calling thread.
 MFC_API void AfxPostQuitMessage(int nExitCode);

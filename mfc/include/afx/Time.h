@@ -1,3 +1,4 @@
+// CTime, a point in time, and CTimeSpan, a number of seconds.
 #pragma once
 
 #include <ctime>
@@ -6,7 +7,7 @@
 
 class CArchive;
 
-/// Seconds, positive or negative, held in 64 bits.
+/// A number of seconds, positive or negative, in 64 bits.
 class MFC_API CTimeSpan {
 public:
     CTimeSpan() : m_nSpan(0) {}
@@ -14,8 +15,8 @@ public:
     CTimeSpan(LONG days, int hours, int minutes, int seconds)
         : m_nSpan(((days * __time64_t{24} + hours) * 60 + minutes) * 60 + seconds) {}
 
-    /// Whole days; and what is left of them, each with the sign of the span: hours -23..23, minutes and
-    /// seconds -59..59.
+    /// GetDays() returns the whole days, the other functions the remainder. All have the sign of the span:
+    /// hours -23..23, minutes and seconds -59..59.
     LONGLONG GetDays() const { return m_nSpan / SecondsPerDay; }
     LONG GetHours() const { return static_cast<LONG>(m_nSpan % SecondsPerDay / 3600); }
     LONG GetMinutes() const { return static_cast<LONG>(m_nSpan % 3600 / 60); }
@@ -26,8 +27,8 @@ public:
     LONGLONG GetTotalSeconds() const { return m_nSpan; }
     LONGLONG GetTimeSpan() const { return m_nSpan; }
 
-    /// %D whole days, %H hours, %M minutes and %S seconds in two digits, %% a percent sign; with an `id`, the
-    /// format is that string resource.
+    /// Formats the span: %D whole days; %H hours, %M minutes and %S seconds with two digits; %% a percent
+    /// sign. With an `id`, the format is a string resource.
     CString Format(LPCTSTR format) const;
     CString Format(UINT id) const;
 
@@ -51,24 +52,24 @@ private:
     __time64_t m_nSpan;
 };
 
-/// A point in time: seconds since 1970-01-01 00:00:00 UTC, in 64 bits. Local time is that of the system's
-/// zone with the daylight-saving rules of the year in question. Years 1601 to 30827 can be told as a date;
-/// the date of a time outside them reads as 1970-01-01 00:00:00.
+/// A point in time: seconds since 1970-01-01 00:00:00 UTC, in 64 bits. Local time uses the system's zone with
+/// the daylight-saving rules of the year. Dates exist for the years 1601 to 30827; other times have the date
+/// 1970-01-01 00:00:00.
 class MFC_API CTime {
 public:
     static CTime GetCurrentTime();
 
     CTime() : m_time(0) {}
     CTime(__time64_t time) : m_time(time) {}
-    /// Local time. `isDst`: 0 standard time, greater daylight-saving time, -1 what the zone's rules say.
-    /// Debug builds assert that every value is in its range (year from 1900); in others a value outside gives
-    /// the time -1.
+    /// From local time. `isDst` is 0 for standard time, positive for daylight-saving time, -1 for the zone's
+    /// rules. Values outside their ranges (years start at 1900) assert in debug builds and make the time -1
+    /// in other builds.
     CTime(int year, int month, int day, int hour, int minute, int second, int isDst = -1);
-    /// Local time in the DOS form, whose seconds are even.
+    /// From local time in the DOS format, which has even seconds only.
     CTime(WORD dosDate, WORD dosTime, int isDst = -1);
-    /// Local time. A record that is no date gives the time -1.
+    /// From local time. An invalid date makes the time -1.
     explicit CTime(const SYSTEMTIME& local, int isDst = -1);
-    /// UTC, cut to whole seconds.
+    /// From UTC, truncated to whole seconds.
     explicit CTime(const FILETIME& utc, int isDst = -1);
 
     __time64_t GetTime() const { return m_time; }
@@ -81,15 +82,15 @@ public:
     int GetSecond() const;
     int GetDayOfWeek() const;
 
-    /// Fill `*result`, or with null a record of the calling thread that the next such call overwrites, and
-    /// return it.
+    /// Fill `*result` and return it. A null `result` stands for a record of the calling thread, which the
+    /// next call overwrites.
     struct tm* GetLocalTm(struct tm* result = nullptr) const;
     struct tm* GetGmtTm(struct tm* result = nullptr) const;
     /// Local time. FALSE if the time has no date.
     bool GetAsSystemTime(SYSTEMTIME& local) const;
 
-    /// As strftime: local time (FormatGmt: UTC). Codes unknown to strftime are copied as they are. With an
-    /// `id`, the format is that string resource.
+    /// Formats local time (FormatGmt: UTC) as strftime does. Codes that strftime does not know are copied.
+    /// With an `id`, the format is a string resource.
     CString Format(LPCTSTR format) const;
     CString Format(UINT id) const;
     CString FormatGmt(LPCTSTR format) const;
@@ -113,7 +114,7 @@ private:
     __time64_t m_time;
 };
 
-/// Seconds as 8 bytes.
+/// The number of seconds takes 8 bytes.
 MFC_API CArchive& operator<<(CArchive& ar, CTimeSpan span);
 MFC_API CArchive& operator>>(CArchive& ar, CTimeSpan& span);
 MFC_API CArchive& operator<<(CArchive& ar, CTime time);

@@ -1,12 +1,13 @@
+// Typed views of pointer collections.
 #pragma once
 
 #include <afx/Arrays.h>
 #include <afx/Lists.h>
 #include <afx/Maps.h>
 
-/// A stored CObject* or void* seen as the pointer it was before. The compiler may assume that different
-/// pointer types never share memory; the barrier keeps it from moving reads and writes of the one past those
-/// of the other.
+/// Returns a reference to a stored CObject* or void* as a pointer of another type. The compiler may assume
+/// that objects of different pointer types do not overlap; the barrier keeps it from reordering their reads
+/// and writes.
 template <class TYPE, class POINTER> TYPE& AfxTypedPointer(POINTER& pointer) {
 #if defined(__GNUC__)
     __asm__ volatile("" ::: "memory");
@@ -14,8 +15,8 @@ template <class TYPE, class POINTER> TYPE& AfxTypedPointer(POINTER& pointer) {
     return reinterpret_cast<TYPE&>(pointer);
 }
 
-/// A view of CObArray or CPtrArray whose elements are of the pointer type TYPE. Members not shown here are
-/// those of BASE_CLASS.
+/// A view of CObArray or CPtrArray whose elements have the pointer type TYPE. The other members are those
+/// of BASE_CLASS.
 template <class BASE_CLASS, class TYPE> class CTypedPtrArray : public BASE_CLASS {
 public:
     TYPE GetAt(INT_PTR index) const { return static_cast<TYPE>(BASE_CLASS::GetAt(index)); }
@@ -33,7 +34,7 @@ public:
     void InsertAt(INT_PTR start, CTypedPtrArray* source) { BASE_CLASS::InsertAt(start, source); }
 };
 
-/// A view of CObList or CPtrList whose elements are of the pointer type TYPE.
+/// A view of CObList or CPtrList whose elements have the pointer type TYPE.
 template <class BASE_CLASS, class TYPE> class CTypedPtrList : public BASE_CLASS {
 public:
     explicit CTypedPtrList(INT_PTR blockSize = 10) : BASE_CLASS(blockSize) {}
@@ -63,7 +64,7 @@ public:
     }
 };
 
-/// A view of one of the ready-made maps with keys of type KEY and values of the pointer type VALUE.
+/// A view of a map with keys of type KEY and values of the pointer type VALUE.
 template <class BASE_CLASS, class KEY, class VALUE> class CTypedPtrMap : public BASE_CLASS {
 public:
     explicit CTypedPtrMap(INT_PTR blockSize = 10) : BASE_CLASS(blockSize) {}

@@ -1,31 +1,32 @@
+// The DCs of windows and of metafiles.
 #pragma once
 
 #include "afx/DC.h"
 
 class CWnd;
 
-/// The DC of one WM_PAINT: BeginPaint() when made, EndPaint() when it ends.
+/// The DC of one WM_PAINT. The constructor calls BeginPaint(), the destructor EndPaint().
 class MFC_API CPaintDC : public CDC {
     DECLARE_DYNAMIC(CPaintDC)
 
 public:
-    /// Throws CResourceException* if no DC can be had.
+    /// Throws CResourceException* if the system has no DC.
     explicit CPaintDC(CWnd* pWnd);
     ~CPaintDC() override;
 
-    /// What BeginPaint() told: the part to paint, and whether the background still has to be erased.
+    /// The record of BeginPaint(): the rectangle to paint, and whether the background must be erased.
     PAINTSTRUCT m_ps{};
 
 protected:
     HWND m_hWnd = nullptr;
 };
 
-/// The DC of a window's client area, given back when the object ends.
+/// The DC of a window's client area. The destructor releases the DC.
 class MFC_API CClientDC : public CDC {
     DECLARE_DYNAMIC(CClientDC)
 
 public:
-    /// NULL stands for the whole screen. Throws CResourceException* if no DC can be had.
+    /// NULL stands for the screen. Throws CResourceException* if the system has no DC.
     explicit CClientDC(CWnd* pWnd);
     ~CClientDC() override;
 
@@ -33,12 +34,12 @@ protected:
     HWND m_hWnd = nullptr;
 };
 
-/// The DC of a whole window, frame and caption included, given back when the object ends.
+/// The DC of a whole window with frame and caption. The destructor releases the DC.
 class MFC_API CWindowDC : public CDC {
     DECLARE_DYNAMIC(CWindowDC)
 
 public:
-    /// NULL stands for the whole screen. Throws CResourceException* if no DC can be had.
+    /// NULL stands for the screen. Throws CResourceException* if the system has no DC.
     explicit CWindowDC(CWnd* pWnd);
     ~CWindowDC() override;
 
@@ -46,8 +47,8 @@ protected:
     HWND m_hWnd = nullptr;
 };
 
-/// A DC that records what is drawn. It answers no questions about a device until SetAttribDC() gives it one
-/// that can. A recording that is never closed is thrown away with the object.
+/// A DC that records drawing. Questions about a device have answers only after SetAttribDC(). The destructor
+/// discards a recording that was not closed.
 class MFC_API CMetaFileDC : public CDC {
     DECLARE_DYNAMIC(CMetaFileDC)
 
@@ -55,17 +56,16 @@ public:
     CMetaFileDC() = default;
     ~CMetaFileDC() override;
 
-    /// Starts a recording in the old format, in memory or in a file.
+    /// Starts a recording in the old metafile format, in memory or in a file.
     BOOL Create(LPCTSTR lpszFilename = nullptr);
-    /// Starts an enhanced recording.
-    /// @param pDCRef  device it is made for; NULL stands for the screen
-    /// @param lpszFileName  file to write to; NULL keeps it in memory
-    /// @param lpBounds  frame in units of 0.01 mm; NULL takes the smallest that holds all that is drawn
-    /// @param lpszDescription  "program\0title\0\0", or NULL
+    /// Starts an enhanced recording. `pDCRef` is the reference device; NULL stands for the screen.
+    /// `lpszFileName` names a file; NULL keeps the recording in memory. `lpBounds` is the frame in units of
+    /// 0.01 mm; NULL takes the smallest frame around the drawing. `lpszDescription` is "program\0title\0\0"
+    /// or NULL.
     BOOL CreateEnhanced(CDC* pDCRef, LPCTSTR lpszFileName, LPCRECT lpBounds, LPCTSTR lpszDescription);
 
-    /// End the recording; the caller owns the result and deletes it. NULL on failure. Use the one that fits
-    /// Create...().
+    /// End the recording. The caller owns the result and deletes it. NULL on failure. Close() belongs to
+    /// Create(), CloseEnhanced() to CreateEnhanced().
     HMETAFILE Close();
     HENHMETAFILE CloseEnhanced();
 };

@@ -1,3 +1,4 @@
+// CWnd, a window.
 #pragma once
 
 #include "afx/CmdTarget.h"
@@ -10,32 +11,32 @@ class CFrameWnd;
 class CRgn;
 struct CCreateContext;
 
-// Macros of <winuser.h> and <windowsx.h> that stand in the way of members.
+// <winuser.h> and <windowsx.h> define macros with the names of these members.
 #undef GetNextWindow
 #undef SubclassWindow
 
 /// Flags of CWnd::RunModalLoop().
 #define MLF_NOIDLEMSG 0x0001  // no WM_ENTERIDLE to the parent
 #define MLF_NOKICKIDLE 0x0002 // no WM_KICKIDLE to the window
-#define MLF_SHOWONIDLE 0x0004 // show the window, if hidden, when the loop is idle for the first time
+#define MLF_SHOWONIDLE 0x0004 // shows a hidden window when the loop is idle for the first time
 
-/// A window. The object and the window are two things with lifetimes of their own: Create() and
-/// SubclassWindow() tie them together, the window's WM_NCDESTROY parts them, and the destructor destroys a
-/// window that is still there.
+/// A window. The object and the window have separate lifetimes: Create() and SubclassWindow() attach the
+/// object to a window, WM_NCDESTROY of the window detaches it, and the destructor destroys a window that is
+/// still attached.
 ///
-/// Members named like a Win32 function call it with m_hWnd and return what it returns; they need a window,
-/// and have comments only where they do more. Pointers to windows that come back may be temporary
-/// (FromHandle()).
+/// A member with the name of a Win32 function calls that function with m_hWnd and returns its result; the
+/// window must exist. Such members have comments only if they do more. Returned CWnd pointers may be
+/// temporary (see FromHandle()).
 class MFC_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 
 public:
-    /// The window, or NULL. It changes by creation, Attach() and Detach(), not by assignment.
+    /// The window, or NULL. Creation, Attach() and Detach() change the member; programs must not assign it.
     HWND m_hWnd = nullptr;
 
     CWnd() = default;
-    /// Destroys the window if there still is one. Handlers of derived classes do not run any more by then, so
-    /// a derived class whose OnDestroy() matters calls DestroyWindow() in its own destructor.
+    /// Destroys the window if it still exists. Handlers of derived classes no longer run at that time. A
+    /// derived class that needs its OnDestroy() calls DestroyWindow() in its own destructor.
     ~CWnd() override;
 
     /// Values for SetWindowPos(): `&wndTop` and so on.
@@ -47,58 +48,56 @@ public:
     operator HWND() const { return m_hWnd; }
     BOOL operator==(const CWnd& wnd) const { return m_hWnd == wnd.m_hWnd; }
     BOOL operator!=(const CWnd& wnd) const { return m_hWnd != wnd.m_hWnd; }
-    /// The handle; NULL also for a NULL object.
+    /// The handle. The call is allowed on a NULL object and then returns NULL.
     HWND GetSafeHwnd() const;
     DWORD GetStyle() const;
     DWORD GetExStyle() const;
-    /// @name Changes style bits; with `nFlags` nonzero SetWindowPos() is called with them and the size kept.
-    /// FALSE if nothing changed. @{
+    /// Change style bits. With a nonzero `nFlags`, the function also calls SetWindowPos() with these flags
+    /// and keeps the size. FALSE if no bit changed.
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     static BOOL PASCAL ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
     static BOOL PASCAL ModifyStyleEx(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
-    /// @}
 
     // ---- Handle maps (per thread) ----
 
-    /// The object of `hWnd`, else a temporary one that lives until the message loop is next idle. NULL for
-    /// NULL.
+    /// The attached object of `hWnd`, else a temporary one that exists until the message loop is idle. NULL
+    /// for NULL.
     static CWnd* PASCAL FromHandle(HWND hWnd);
     /// The object attached to `hWnd`, or NULL.
     static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
-    /// Deletes the temporary objects; their windows stay.
+    /// Deletes the temporary objects. Their windows stay valid.
     static void PASCAL DeleteTempMap();
-    /// Ties the object to a window without changing how the window behaves: no message reaches the message
-    /// map. FALSE for NULL. The object then owns the window (see the destructor). Throws CMemoryException*
-    /// when memory runs out; nothing is tied then.
+    /// Attaches the object to a window without subclassing: messages do not reach the message map. The object
+    /// owns the window from now on (see the destructor). FALSE for NULL. Throws CMemoryException* if memory
+    /// runs out; the object then stays detached.
     BOOL Attach(HWND hWndNew);
-    /// Parts the object from its window, which lives on.
+    /// Detaches the object. The window continues to exist.
     HWND Detach();
-    /// Attaches and routes the window's messages through this object; what the map does not handle goes to
-    /// the former window procedure. `hWnd` must have no object yet. FALSE on failure.
+    /// Attaches the object and routes the window's messages through it. Messages without a row in the message
+    /// map go to the former window procedure. `hWnd` must not have an object yet. FALSE on failure.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
-    /// Puts the former window procedure back and detaches; returns the window.
+    /// Restores the former window procedure and detaches the object. Returns the window.
     HWND UnsubclassWindow();
-    /// Called just before the window's messages start to reach this object, whichever way it is tied. m_hWnd
-    /// is set.
+    /// Called before the window's messages reach this object, at creation and at subclassing. m_hWnd is set.
     virtual void PreSubclassWindow() {}
-    /// Where the former window procedure is kept.
+    /// Address of the variable with the former window procedure.
     virtual WNDPROC* GetSuperWndProcAddr() { return &m_pfnSuper; }
 
     // ---- Creation and destruction ----
 
-    /// Creates a child window. NULL for the class name means the framework's child window class.
+    /// Creates a child window. A NULL class name stands for the framework's child window class.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                         CWnd* pParentWnd, UINT nID, CCreateContext* pContext = nullptr);
-    /// Creates any window. On failure PostNcDestroy() has run, so the object may be gone.
+    /// Creates a window. On failure the function has called PostNcDestroy(), so the object may be deleted.
     BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
                   int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
     BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
                   const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
-    /// Last chance to change what CreateEx() will ask for. FALSE makes the creation fail.
+    /// Called before creation; overrides change the arguments in `cs`. FALSE makes the creation fail.
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
-    /// FALSE without a window. The object may be gone afterwards (PostNcDestroy()).
+    /// FALSE if there is no window. PostNcDestroy() may delete the object during the call.
     virtual BOOL DestroyWindow();
 
     // ---- State ----
@@ -118,7 +117,7 @@ public:
     static CWnd* PASCAL GetFocus();
     CWnd* SetCapture();
     static CWnd* PASCAL GetCapture();
-    /// Whether this is a frame window.
+    /// TRUE for frame windows.
     virtual BOOL IsFrameWnd() const { return FALSE; }
 
     // ---- Text, font, icon ----
@@ -137,8 +136,8 @@ public:
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
-    /// Centres over `pAlternateOwner`, else over the owner (the parent for a child), and keeps the window on
-    /// its monitor's work area.
+    /// Centres the window over `pAlternateOwner`, else over its owner (a child: over its parent), and keeps
+    /// the window inside the work area of the monitor.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
     void BringWindowToTop();
     UINT ArrangeIconicWindows();
@@ -154,12 +153,12 @@ public:
     void ScreenToClient(LPRECT lpRect) const;
     void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
     void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
-    /// Turns a client rectangle into the window rectangle that holds it.
+    /// Converts a client rectangle to the window rectangle around it.
     virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = 0);
 
     // ---- Painting ----
 
-    /// The four that take a DC answer NULL on failure.
+    /// The functions that return a CDC* return NULL on failure.
     CDC* BeginPaint(LPPAINTSTRUCT lpPaint);
     void EndPaint(LPPAINTSTRUCT lpPaint);
     CDC* GetDC();
@@ -207,14 +206,14 @@ public:
     CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     int DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType);
-    /// Moves values between the controls and the members: TRUE from controls to members, with validation.
-    /// FALSE if a value was refused; the user has been told and the control has the focus.
+    /// Copies values between controls and members: TRUE copies controls to members and validates. FALSE if a
+    /// value was refused; the user has then seen a message, and the control has the focus.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
-    /// Overridden with the window's DDX_ and DDV_ calls.
+    /// Override the function with the DDX_ and DDV_ calls of the window.
     virtual void DoDataExchange(CDataExchange* pDX);
-    /// Sends update requests for the buttons among the children to `pTarget` (see CCmdUI).
+    /// Asks `pTarget` to update the buttons among the children (see CCmdUI).
     void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
-    /// Nothing to do: there are no ActiveX controls.
+    /// Does nothing, because the library has no ActiveX controls.
     void AttachControlSite(CWnd* /*pWnd*/) {}
 
     // ---- Scrolling ----
@@ -225,12 +224,12 @@ public:
     void SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw = TRUE);
     BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    /// Largest position a user can reach: the range's end less the page.
+    /// The largest position that the user can reach: the end of the range minus the page.
     int GetScrollLimit(int nBar);
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
     void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
     BOOL EnableScrollBar(int nSBFlags, UINT nArrowFlags = ESB_ENABLE_BOTH);
-    /// The scroll bar that stands beside the window in place of its own; the base has none.
+    /// A scroll bar control that replaces the window's own scroll bar; the base returns NULL.
     virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
     void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = nullptr, LPCRECT lpClipRect = nullptr);
     int ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
@@ -269,20 +268,20 @@ public:
     CWnd* GetLastActivePopup() const;
     CWnd* GetParent() const;
     CWnd* SetParent(CWnd* pWndNewParent);
-    /// The window that SetOwner() named, else the parent.
+    /// The window from SetOwner(), else the parent.
     CWnd* GetOwner() const;
-    /// Makes another window than the parent the target of commands and notifications.
+    /// Sets the window that gets commands and notifications instead of the parent.
     void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd ? pOwnerWnd->m_hWnd : nullptr; }
-    /// The nearest frame window above; NULL if there is none.
+    /// The nearest frame window above this window; NULL if there is none.
     CFrameWnd* GetParentFrame() const;
-    /// The topmost frame window above; NULL if there is none.
+    /// The topmost frame window above this window; NULL if there is none.
     CFrameWnd* GetTopLevelFrame() const;
-    /// The topmost window above, owners included.
+    /// The topmost window above this window. Owners count as parents.
     CWnd* GetTopLevelParent() const;
     CWnd* GetTopLevelOwner() const;
-    /// The nearest window above that is no child; the window itself if it is none.
+    /// The nearest window above that is not a child. A window that is not a child returns itself.
     CWnd* GetParentOwner() const;
-    /// The descendant with this ID. Only windows with an object are found if `bOnlyPerm`.
+    /// The descendant with this ID. With `bOnlyPerm`, only windows with an attached object are found.
     CWnd* GetDescendantWindow(int nID, BOOL bOnlyPerm = FALSE) const;
     static CWnd* PASCAL GetDesktopWindow();
     static CWnd* PASCAL WindowFromPoint(POINT point);
@@ -292,7 +291,8 @@ public:
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    /// Sends to all children, and to theirs with `bDeep`; with `bOnlyPerm` only to windows with an object.
+    /// Sends the message to all children; with `bDeep`, also to their children; with `bOnlyPerm`, only to
+    /// windows with an attached object.
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE,
                                   BOOL bOnlyPerm = FALSE);
     static void PASCAL SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam,
@@ -301,19 +301,20 @@ public:
     BOOL FlashWindow(BOOL bInvert);
     DWORD GetWindowContextHelpId() const;
     BOOL SetWindowContextHelpId(DWORD dwContextHelpId);
-    /// Called for every queued message before it is translated; TRUE keeps it from being dispatched.
+    /// Called for every queued message before translation. TRUE discards the message.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    /// Asks the window of the message and its parents up to `hWndStop`, in that order.
+    /// Calls PreTranslateMessage() of the message's window and of its parents up to `hWndStop`.
     static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
-    /// Lets ::IsDialogMessage() look at a keyboard or mouse message.
+    /// Passes a keyboard or mouse message to ::IsDialogMessage().
     BOOL PreTranslateInput(LPMSG lpMsg);
     BOOL IsDialogMessage(LPMSG lpMsg) { return ::IsDialogMessage(m_hWnd, lpMsg); }
-    /// Gives a message that the parent got from this control back to it. TRUE if the control handled it.
+    /// The parent calls the function to hand the current message back to this control. TRUE if the control
+    /// handled the message.
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
 
-    /// Runs messages until EndModalLoop(), and returns its argument.
+    /// Runs a message loop until EndModalLoop(). Returns the argument of EndModalLoop().
     int RunModalLoop(DWORD dwFlags = 0);
-    /// Whether the modal loop goes on.
+    /// Whether the modal loop continues.
     virtual BOOL ContinueModal();
     virtual void EndModalLoop(int nResult);
 
@@ -328,30 +329,33 @@ protected:
 
     // ---- Message processing, from the outside in ----
 
-    /// Everything the window receives. The base asks OnWndMsg() and then DefWindowProc().
+    /// Receives every message of the window. The base calls OnWndMsg() and, for a message without a
+    /// handler, DefWindowProc().
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-    /// Looks through the message map. FALSE if nothing handled the message.
+    /// Searches the message map. FALSE if there is no handler.
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    /// WM_COMMAND. The base offers it to the sending control, then to OnCmdMsg(); nonzero if it was handled.
+    /// Handles WM_COMMAND. The base offers the message to the control and then calls OnCmdMsg(). Nonzero if a
+    /// handler ran.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
-    /// WM_NOTIFY, likewise.
+    /// Handles WM_NOTIFY in the same way.
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    /// A message of this control that its parent hands back. TRUE keeps the parent from handling it.
+    /// Called when the parent hands a message of this control back. TRUE ends the handling in the parent.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    /// Calls the reflected handler of the message map for such a message.
+    /// Calls the handler that the message map has for the reflected message.
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     /// Hands the current message back to the control `hWndChild`.
     static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
-    /// The former window procedure, or ::DefWindowProc().
+    /// Calls the former window procedure, or ::DefWindowProc().
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-    /// DefWindowProc() for the message that is being handled, with the parameters it came with.
+    /// Calls DefWindowProc() with the current message and its original parameters.
     LRESULT Default();
-    /// The message that is being handled. Use inside a handler only.
+    /// The current message. Call the function inside a handler only.
     static const MSG* PASCAL GetCurrentMessage();
-    /// The window is gone, m_hWnd is NULL. Classes whose objects live on the heap delete themselves here.
+    /// Called when the window no longer exists and m_hWnd is NULL. A class with objects on the heap deletes
+    /// the object here.
     virtual void PostNcDestroy() {}
 
-    // ---- Handlers. The base of each calls Default(): the parameters given to it are not used. ----
+    // ---- Handlers. The base versions call Default() and ignore their arguments. ----
 
     afx_msg int OnCreate(LPCREATESTRUCT) { return static_cast<int>(Default()); }
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return Default() != 0; }
@@ -385,7 +389,7 @@ protected:
     afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return Default() != 0; }
     afx_msg void OnIconEraseBkgnd(CDC*) { Default(); }
-    /// Offers the message to the control before the default.
+    /// Offers the message to the control, then calls Default().
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
@@ -471,8 +475,7 @@ protected:
     afx_msg void OnRenderAllFormats() { Default(); }
     afx_msg void OnChangeCbChain(HWND, HWND) { Default(); }
 
-    /// How the window procedure that was there before this object took over is reached; NULL for
-    /// ::DefWindowProc().
+    /// The former window procedure; NULL stands for ::DefWindowProc().
     WNDPROC m_pfnSuper = nullptr;
     HWND m_hWndOwner = nullptr;
     /// State of RunModalLoop().
@@ -483,13 +486,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/// The window procedure of every window that has an object.
+/// The window procedure of all windows with an attached object.
 MFC_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
-/// Runs one message through `pWnd` with exceptions stopped and the current message remembered.
+/// Runs one message through `pWnd`: sets the current message, and catches exceptions of the handler.
 MFC_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam = 0, LPARAM lParam = 0);
-/// Ties the next window that this thread creates to `pWnd`, before its first message.
+/// Attaches the next window that this thread creates to `pWnd`, before the window's first message.
 MFC_API void AfxHookWindowCreate(CWnd* pWnd);
-/// Ends that. FALSE if no window was tied, that is if the creation failed early.
+/// Ends AfxHookWindowCreate(). FALSE if no window was attached, because the creation failed early.
 MFC_API BOOL AfxUnhookWindowCreate();
-/// Number of attached and of temporary window objects of the calling thread, for leak checks.
+/// Numbers of attached and of temporary window objects of the calling thread, for leak checks.
 MFC_API void AfxGetWndMapCounts(std::size_t* pPermanent, std::size_t* pTemporary);

@@ -1,3 +1,4 @@
+// ChunkedArray against a deque.
 #include "kavlix/ChunkedArray.h"
 
 #include <gtest/gtest.h>

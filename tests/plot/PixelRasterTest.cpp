@@ -1,12 +1,13 @@
+// PixelRaster, ThinLine and CutStroke against walks over single pixels.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <random>
 #include <vector>
 
 #include "plot/StrokeCut.h"
 #include "plot/ThinLine.h"
+#include "tests/support/Numbers.h"
 
 namespace kavlix {
 namespace {
@@ -15,8 +16,21 @@ constexpr int kSide = 40;
 constexpr std::uint32_t kInk = 7;
 using Picture = std::vector<std::uint32_t>;
 
-/// Every pixel of a stroke one by one: along the longer direction, halves to the smaller coordinate.
-void PlainStroke(Picture& picture, const Rect& clip, Point from, Point to) {
+class Random : public testkit::Numbers {
+public:
+    using Numbers::Numbers;
+    int Within(int low, int high) { return low + Below(high - low + 1); }
+    Point Near() { return {Within(-5, kSide + 5), Within(-5, kSide + 5)}; }
+};
+
+void Set(Picture& picture, const Rect& clip, const Point& pixel) {
+    if (clip.Contains(pixel))
+        picture[static_cast<std::size_t>(pixel.y * kSide + pixel.x)] = kInk;
+}
+
+/// Calls `visit(pixel, k)` for each pixel k of a stroke but the last one. Halfway between two pixels the
+/// smaller coordinate counts.
+template <class Visit> void Walk(const Point& from, const Point& to, Visit visit) {
     const long long dx = std::llabs(static_cast<long long>(to.x) - from.x);
     const long long dy = std::llabs(static_cast<long long>(to.y) - from.y);
     const int sx = to.x < from.x ? -1 : 1, sy = to.y < from.y ? -1 : 1;
@@ -25,120 +39,104 @@ void PlainStroke(Picture& picture, const Rect& clip, Point from, Point to) {
     const long long half = (steep ? sx : sy) < 0 ? 0 : 1;
     for (long long k = 0; k < along; ++k) {
         const long long moved = (2 * k * across + along - half) / (2 * along);
-        const long long x = from.x + sx * (steep ? moved : k), y = from.y + sy * (steep ? k : moved);
-        if (x >= clip.left && x < clip.right && y >= clip.top && y < clip.bottom)
-            picture[static_cast<std::size_t>(y * kSide + x)] = kInk;
+        visit(Point{static_cast<int>(from.x + sx * (steep ? moved : k)),
+                    static_cast<int>(from.y + sy * (steep ? k : moved))},
+              static_cast<int>(k));
     }
 }
 
-TEST(PixelRasterTest, LinesAreThoseOfSinglePixels) {
-    std::mt19937 random(21);
-    const auto within = [&](int low, int high) {
-        return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
-    };
+void PaintLine(Random& random, const PixelRaster& raster, Picture& plain, int far) {
+    ThinLine line(raster, kInk);
+    Point at = random.Near();
+    for (int count = random.Within(0, 6); count > 0; --count) {
+        const Point before = at;
+        at.x += random.Within(-far, far) * random.Within(0, 1);
+        at.y += random.Within(-2 * far, 2 * far);
+        line.To(before.x, before.y);
+        line.To(at.x, at.y);
+        Walk(before, at, [&](const Point& pixel, int) { Set(plain, raster.Clip(), pixel); });
+    }
+    line.End();
+}
+
+void PaintDots(Random& random, const PixelRaster& raster, Picture& plain) {
+    const DotPattern pattern{{0, 1, 3}, 5};
+    const bool isUpright = random.OneIn(2), isColumns = random.OneIn(2);
+    const Point from = random.Near();
+    const int end = random.Within(-60, 100);
+    const Point to = isUpright ? Point{from.x, end} : Point{end, from.y};
+    if (isUpright && isColumns)
+        raster.DotColumns({-5, from.x, 70}, from.y, end, pattern, kInk);
+    else
+        raster.Dots(from, to, pattern, kInk);
+    Walk(from, to, [&](const Point& pixel, int k) {
+        if (k % 5 == 0 || k % 5 == 1 || k % 5 == 3)
+            Set(plain, raster.Clip(), pixel);
+    });
+}
+
+void PaintFill(Random& random, const PixelRaster& raster, Picture& plain) {
+    const Point corner = random.Near();
+    const Rect area{corner.x, corner.y, corner.x + random.Within(-2, 9), corner.y + random.Within(-2, 50)};
+    raster.Fill(area, kInk);
+    for (int y = 0; y < kSide; ++y)
+        for (int x = 0; x < kSide; ++x)
+            if (area.Contains({x, y}))
+                Set(plain, raster.Clip(), {x, y});
+}
+
+TEST(PixelRasterTest, PaintsThePixelsOfAWalkInsideTheClip) {
+    Random random(21);
     const Rect clips[] = {{0, 0, kSide, kSide}, {7, 11, 31, 29}, {20, 0, 21, kSide}, {5, 5, 5, 9}};
     for (int round = 0; round < 40000; ++round) {
-        const Rect& clip = clips[round % 4];
-        const int far = round % 7 == 0 ? 3000 : round % 3 == 0 ? 100 : 3;
-        std::vector<Point> line(static_cast<std::size_t>(within(0, 6)));
-        Point at{within(-5, kSide + 5), within(-5, kSide + 5)};
-        for (Point& point : line) {
-            at.x += within(-far, far) * within(0, 1);
-            at.y += within(-2 * far, 2 * far);
-            point = at;
-        }
         Picture own(kSide * kSide), plain(kSide * kSide);
-        // Rows upwards in memory are told by a stride below 0.
-        const bool upwards = round % 2 == 0;
-        PixelRaster raster(upwards ? own.data() + (kSide - 1) * kSide : own.data(), upwards ? -kSide : kSide,
-                           clip);
-        ThinLine strokes(raster, kInk);
-        for (const Point& point : line)
-            strokes.To(point.x, point.y);
-        strokes.End();
-        for (std::size_t i = 1; i < line.size(); ++i)
-            PlainStroke(plain, clip, line[i - 1], line[i]);
-        for (int y = 0; y < kSide; ++y)
-            for (int x = 0; x < kSide; ++x)
-                ASSERT_EQ(own[static_cast<std::size_t>((upwards ? kSide - 1 - y : y) * kSide + x)],
-                          plain[static_cast<std::size_t>(y * kSide + x)])
-                    << "round " << round << " at " << x << "," << y;
+        // A negative stride: the bottom row comes first in memory.
+        const bool isUpwards = round % 2 == 0;
+        const PixelRaster raster(isUpwards ? own.data() + (kSide - 1) * kSide : own.data(),
+                                 isUpwards ? -kSide : kSide, clips[random.Below(4)]);
+        if (round % 10 < 2)
+            PaintDots(random, raster, plain);
+        else if (round % 10 < 4)
+            PaintFill(random, raster, plain);
+        else
+            PaintLine(random, raster, plain, round % 7 == 0 ? 3000 : round % 3 == 0 ? 100 : 3);
+        for (int y = 0; isUpwards && y < kSide / 2; ++y)
+            std::swap_ranges(own.begin() + y * kSide, own.begin() + (y + 1) * kSide,
+                             own.end() - (y + 1) * kSide);
+        ASSERT_EQ(own, plain) << "round " << round;
     }
 }
 
 TEST(StrokeCutTest, NearStrokesPaintWhatTheFarOnePaints) {
-    std::mt19937 random(8);
-    const auto within = [&](int low, int high) {
-        return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
-    };
+    Random random(8);
     const Rect windows[] = {{0, 0, kSide, kSide}, {3, 17, 38, 22}, {20, 2, 21, 39}};
     std::vector<Point> cut;
     std::size_t strokes = 0, pieces = 0;
     for (int round = 0; round < 60000; ++round) {
-        // From inside to far away, and from far to far through a place inside; now and then nearly level.
+        // From inside to far away, from far away to inside, and across; some strokes are nearly horizontal.
         const Rect& window = windows[round % 3];
-        const int far = 1 << within(3, 27), margin = within(1, 30);
-        const Point at{within(-2, kSide + 2), within(-2, kSide + 2)};
-        const Point way{within(-far, far), round % 7 == 0 ? within(-3, 3) : within(-far, far)};
-        const Point from =
-            round % 4 == 0 ? at : Point{at.x - way.x + within(-9, 9), at.y - way.y + within(-9, 9)};
+        const int far = 1 << random.Within(3, 27), margin = random.Within(1, 30);
+        const Point at = random.Near();
+        const Point way{random.Within(-far, far),
+                        random.Within(round % 7 == 0 ? -3 : -far, round % 7 == 0 ? 3 : far)};
+        const Point from = round % 4 == 0 ? at : Point{at.x - way.x + random.Below(9), at.y - way.y};
         const Point to = round % 4 == 1 ? at : Point{at.x + way.x, at.y + way.y};
+        const Rect around{window.left - margin, window.top - margin, window.right + margin,
+                          window.bottom + margin};
         Picture whole(kSide * kSide), parts(kSide * kSide);
         PixelRaster(whole.data(), kSide, window).Stroke(from, to, kInk);
         CutStroke(PixelLine(from, to), window, margin, cut);
         for (std::size_t i = 0; i < cut.size(); ++i) {
-            ASSERT_TRUE(cut[i] == from || cut[i] == to ||
-                        (cut[i].x >= window.left - margin && cut[i].x < window.right + margin &&
-                         cut[i].y >= window.top - margin && cut[i].y < window.bottom + margin))
-                << "round " << round;
+            ASSERT_TRUE(cut[i] == from || cut[i] == to || around.Contains(cut[i])) << "round " << round;
             if (i > 0)
                 PixelRaster(parts.data(), kSide, window).Stroke(cut[i - 1], cut[i], kInk);
         }
         ASSERT_EQ(parts, whole) << "round " << round;
-        ASSERT_EQ(cut.empty(), std::find(whole.begin(), whole.end(), kInk) == whole.end())
-            << "round " << round;
+        ASSERT_EQ(cut.empty(), std::count(whole.begin(), whole.end(), kInk) == 0) << "round " << round;
         strokes += !cut.empty();
         pieces += cut.empty() ? 0 : cut.size() - 1;
     }
-    EXPECT_LT(pieces, strokes * 3) << "enlarged, single pixels would show as squares";
-}
-
-TEST(PixelRasterTest, DotsCountFromTheLinesFirstPixelWhereverItLies) {
-    const Rect clip{3, 4, 30, 25};
-    const DotPattern pattern{{0, 1, 3}, 5};
-    const auto isDot = [](int k) { return k % 5 == 0 || k % 5 == 1 || k % 5 == 3; };
-    for (int begin : {-23, 0, 7, 39, 70}) {
-        for (int end : {-9, 7, 22, 60}) {
-            for (bool isUpright : {false, true}) {
-                Picture picture(kSide * kSide), plain(kSide * kSide);
-                const auto at = [&](int along) { return isUpright ? Point{9, along} : Point{along, 9}; };
-                PixelRaster(picture.data(), kSide, clip).Dots(at(begin), at(end), pattern, kInk);
-                for (int k = 0; k < std::abs(end - begin); ++k) {
-                    const Point p = at(end < begin ? begin - k : begin + k);
-                    if (clip.Contains(p) && isDot(k))
-                        plain[static_cast<std::size_t>(p.y * kSide + p.x)] = kInk;
-                }
-                ASSERT_EQ(picture, plain) << begin << " to " << end << (isUpright ? " upright" : "");
-                Picture columns(kSide * kSide);
-                PixelRaster(columns.data(), kSide, clip).DotColumns({-5, 9, 70}, begin, end, pattern, kInk);
-                ASSERT_TRUE(!isUpright || columns == plain) << begin << " to " << end;
-            }
-        }
-    }
-}
-
-TEST(PixelRasterTest, FillsStayInsideTheClip) {
-    const Rect clip{3, 4, 30, 25};
-    for (const Rect& area : {Rect{-9, -9, 99, 99}, Rect{5, 6, 9, 8}, Rect{5, 6, 6, 99}, Rect{5, 6, 5, 9},
-                             Rect{9, 9, 5, 20}, Rect{9, 20, 12, 9}, Rect{29, 0, 31, 9}, Rect{2, 0, 4, 50}}) {
-        Picture picture(kSide * kSide);
-        PixelRaster(picture.data(), kSide, clip).Fill(area, kInk);
-        for (int y = 0; y < kSide; ++y)
-            for (int x = 0; x < kSide; ++x)
-                ASSERT_EQ(picture[static_cast<std::size_t>(y * kSide + x)] == kInk,
-                          area.Contains({x, y}) && clip.Contains({x, y}))
-                    << x << "," << y;
-    }
+    EXPECT_LT(pieces, strokes * 3) << "an enlarged picture of single pixels shows squares";
 }
 
 } // namespace

@@ -1,115 +1,90 @@
+// SeriesReduction against the whole line.
+#include "plot/SeriesReduction.h"
+
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <random>
-#include <set>
 #include <vector>
 
-#include "plot/SeriesReduction.h"
+#include "plot/PixelRaster.h"
+#include "tests/support/Numbers.h"
 
 namespace kavlix {
 namespace {
 
 constexpr Rect kView{0, 0, 40, 30};
+constexpr int kUnits = 30; ///< positions are this many times as fine as pixels
 using Line = std::vector<Point>;
-using Pixels = std::set<std::pair<int, int>>;
 
-/// The pixels of the view that strokes from point to point paint, each without its last pixel.
-Pixels Painted(const std::vector<Line>& lines, const Rect& view) {
-    Pixels pixels;
-    for (const Line& line : lines) {
-        for (std::size_t i = 1; i < line.size(); ++i) {
-            const Point from = line[i - 1], to = line[i];
-            const int dx = to.x - from.x, dy = to.y - from.y;
-            const int steps = std::max(std::abs(dx), std::abs(dy));
-            for (int k = 0; k < steps; ++k) {
-                const Point at{from.x + dx * k / steps, from.y + dy * k / steps};
-                if (view.Contains(at))
-                    pixels.insert({at.x, at.y});
-            }
-        }
-    }
-    return pixels;
+std::vector<std::uint32_t> Painted(const std::vector<Line>& lines) {
+    std::vector<std::uint32_t> picture(static_cast<std::size_t>(kView.right * kView.bottom));
+    const PixelRaster raster(picture.data(), kView.right, kView);
+    for (const Line& line : lines)
+        for (std::size_t i = 1; i < line.size(); ++i)
+            raster.Stroke(line[i - 1], line[i], 1);
+    return picture;
 }
 
-struct Reduced {
+/// The pixels of `lines` that the reduction passes on, each part as a line of its own.
+std::vector<Line> Reduce(const std::vector<Line>& lines) {
     std::vector<Line> parts;
-    std::size_t points = 0;
-};
-
-/// `lines` through the reduction.
-Reduced Reduce(const std::vector<Line>& lines, const Rect& view) {
-    Reduced reduced;
-    SeriesReduction reduction(view, [&](const Point* points, int count) {
+    std::size_t first = 0; // part of the current line
+    SeriesReduction reduction(kView, [&](const Point* points, int count) {
         EXPECT_GE(count, 2);
-        reduced.parts.emplace_back(points, points + count);
-        reduced.points += static_cast<std::size_t>(count);
+        Line part;
+        for (const Point* point = points; point != points + count; ++point)
+            part.push_back({point->x / kUnits, point->y / kUnits});
+        EXPECT_TRUE(parts.size() == first || part.front() == parts.back().back()) << "parts meet";
+        parts.push_back(part);
     });
     for (const Line& line : lines) {
-        for (const Point& point : line)
-            reduction.Add(point);
+        first = parts.size();
+        for (const Point& pixel : line)
+            reduction.Add(pixel, {pixel.x * kUnits, pixel.y * kUnits});
         reduction.Break();
     }
     reduction.End();
-    return reduced;
+    return parts;
+}
+
+std::size_t PointsOf(const std::vector<Line>& parts) {
+    std::size_t points = 0;
+    for (const Line& part : parts)
+        points += part.size();
+    return points;
 }
 
 TEST(SeriesReductionTest, PaintsWhatTheWholeLinePaints) {
-    std::mt19937 random(11);
-    const auto upTo = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    testkit::Numbers random(11);
     for (int round = 0; round < 3000; ++round) {
-        // Steps from tiny to across the view; x going on, standing still or going back; lines leaving it.
-        const int reach = 1 + upTo(round % 3 == 0 ? 60 : 4);
-        const bool forward = round % 2 == 0;
-        std::vector<Line> lines(1 + static_cast<std::size_t>(upTo(3)));
+        // Steps from one pixel to the width of the view. In every second round x never decreases.
+        const int reach = 1 + random.Below(round % 3 == 0 ? 60 : 4);
+        std::vector<Line> lines(1 + static_cast<std::size_t>(random.Below(3)));
         for (Line& line : lines) {
-            Point at{upTo(40), upTo(30)};
-            for (int i = upTo(60); i > 0; --i) {
-                at.x += forward ? upTo(4) / 3 * upTo(3) : upTo(2 * reach + 1) - reach;
-                at.y += upTo(2 * reach + 1) - reach;
+            Point at{random.Below(40), random.Below(30)};
+            for (int i = random.Below(random.OneIn(20) ? 600 : 60); i > 0; --i) {
+                at.x += round % 2 == 0 ? random.Below(4) / 3 * random.Below(3)
+                                       : random.Below(2 * reach + 1) - reach;
+                at.y += random.Below(2 * reach + 1) - reach;
                 line.push_back(at);
             }
         }
-        const Reduced reduced = Reduce(lines, kView);
-        ASSERT_EQ(Painted(reduced.parts, kView), Painted(lines, kView)) << "round " << round;
+        ASSERT_EQ(Painted(Reduce(lines)), Painted(lines)) << "round " << round;
     }
 }
 
-TEST(SeriesReductionTest, HandsOnFewPoints) {
-    std::mt19937 random(5);
+TEST(SeriesReductionTest, PassesOnFewPoints) {
+    testkit::Numbers random(5);
     Line forward, up, outside, spot(100000, Point{7, 7});
     for (int i = 0; i < 100000; ++i) {
-        forward.push_back({i / 2500, static_cast<int>(random() % 30)});
-        up.push_back({static_cast<int>(random() % 40), i / 3400});
-        outside.push_back({static_cast<int>(random() % 4000) - 2000, -1 - static_cast<int>(random() % 50)});
+        forward.push_back({i / 2500, random.Below(30)});
+        up.push_back({random.Below(40), i / 3400});
+        outside.push_back({random.Below(4000) - 2000, -1 - random.Below(50)});
     }
-    EXPECT_LE(Reduce({forward}, kView).points, 40u * 8);
-    EXPECT_LE(Reduce({up}, kView).points, 30u * 8);
-    EXPECT_LE(Reduce({outside}, kView).points, 2u);
-    EXPECT_EQ(Reduce({spot}, kView).points, 2u) << "a stroke of no length is a dot with some pens";
-    EXPECT_EQ(Reduce({{{3, 3}}, {}, {{4, 4}}}, kView).points, 0u) << "no stroke";
-}
-
-TEST(SeriesReductionTest, LongLinesComeInPartsThatMeet) {
-    Line line;
-    for (int i = 0; i < 20000; ++i)
-        line.push_back({i % 2 * 39, i % 30});
-    const Reduced reduced = Reduce({line}, kView);
-    ASSERT_GT(reduced.parts.size(), 2u);
-    for (std::size_t i = 1; i < reduced.parts.size(); ++i)
-        EXPECT_EQ(reduced.parts[i].front(), reduced.parts[i - 1].back()) << "part " << i;
-    EXPECT_EQ(reduced.points, line.size() + reduced.parts.size() - 1) << "none is left out";
-}
-
-TEST(SeriesReductionTest, PositionsGoWithTheirPixels) {
-    Line handedOn;
-    SeriesReduction reduction(
-        kView, [&](const Point* points, int count) { handedOn.assign(points, points + count); });
-    // Thirty units a pixel: all fall into column 1.
-    for (const Point& position : Line{{31, 300}, {35, 900}, {40, 30}, {44, 600}, {50, 310}})
-        reduction.Add({position.x / 30, position.y / 30}, position);
-    reduction.End();
-    EXPECT_EQ(handedOn, (Line{{31, 300}, {35, 900}, {40, 30}, {50, 310}}));
+    EXPECT_LE(PointsOf(Reduce({forward})), 40u * 8);
+    EXPECT_LE(PointsOf(Reduce({up})), 30u * 8);
+    EXPECT_LE(PointsOf(Reduce({outside})), 2u);
+    EXPECT_EQ(PointsOf(Reduce({spot})), 2u) << "some pens draw a dot for a stroke of no length";
+    EXPECT_EQ(PointsOf(Reduce({{{3, 3}}, {}, {{4, 4}}})), 0u) << "lines without a stroke";
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+// IndexRange against the comparison of every index.
 #include "graphctrl/core/IndexRange.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Pixel columns against a walk over every sample.
 #include <gtest/gtest.h>
 
 #include <algorithm>

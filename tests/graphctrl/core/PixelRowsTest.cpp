@@ -1,3 +1,4 @@
+// Pixel rows against the exact positions.
 #include <gtest/gtest.h>
 
 #include <cmath>

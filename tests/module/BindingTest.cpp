@@ -1,12 +1,9 @@
-#include "tests/module/DialogTemplate.h"
+// DDX_GraphControl: dialog items of many window classes become the control.
+#include "tests/module/GraphDialog.h"
 #include "tests/support/DibSurface.h"
 #include "tests/support/GdiCounter.h"
 #include "tests/support/Pointer.h"
 #include "tests/support/RecordingParent.h"
-
-#include <afxwin.h>
-
-#include <kavlix/Kavlix.h>
 
 #include <gtest/gtest.h>
 
@@ -15,12 +12,11 @@
 
 namespace {
 
-constexpr int kGraphItem = 1001;
 constexpr int kStaticItem = 1002;
 constexpr int kNoItem = 4321;
 
-/// Counts paints, to show that a bound item's messages reach the control.
-class PaintedGraph : public CGraphCtrl {
+/// Counts WM_GETDLGCODE, to show that the messages of a bound item reach the control.
+class AskedGraph : public CGraphCtrl {
 public:
     int keys = 0;
 
@@ -29,36 +25,6 @@ protected:
         keys += message == WM_GETDLGCODE;
         return CGraphCtrl::WindowProc(message, wParam, lParam);
     }
-};
-
-template <class Graph = PaintedGraph> class GraphDialog : public CDialog {
-public:
-    explicit GraphDialog(int item) : m_item(item) {}
-
-    Graph graph;
-    int exchanges = 0;
-    int commands = 0;
-    int selected = -1; ///< the mark that was told last
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        CDialog::DoDataExchange(pDX);
-        ++exchanges;
-        DDX_GraphControl(pDX, m_item, graph);
-    }
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        ++commands;
-        return CDialog::OnCommand(wParam, lParam);
-    }
-    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
-        const auto* record = reinterpret_cast<const NMGRAPHCTRL*>(lParam);
-        if (record->hdr.code == GCN_SELCHANGE)
-            selected = record->nIndex;
-        return CDialog::OnNotify(wParam, lParam, result);
-    }
-
-private:
-    int m_item;
 };
 
 DialogTemplate TwoItems() {
@@ -71,7 +37,7 @@ DialogTemplate TwoItems() {
 } // namespace
 
 TEST(GraphBindingTest, ItemBecomesTheControlOnce) {
-    GraphDialog<> dialog(kGraphItem);
+    GraphDialog<AskedGraph> dialog;
     const DialogTemplate resource = TwoItems();
     ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
     ASSERT_GE(dialog.exchanges, 1) << "the dialog's initialisation exchanges its data";
@@ -98,7 +64,7 @@ TEST(GraphBindingTest, ItemBecomesTheControlOnce) {
 
 namespace {
 
-// A class of a host's own, which notes what still reaches it.
+// A window class of the host. Its procedure records the messages that still reach it.
 constexpr const char* kNotingClass = "KavlixNotingItem";
 std::vector<UINT> noted;
 
@@ -133,11 +99,11 @@ template <class Graph> void PlayAnItemOf(const char* windowClass, DWORD style) {
     SCOPED_TRACE(windowClass);
     DialogTemplate resource(200, 140);
     resource.AddItem(windowClass, kGraphItem, 5, 5, 150, 80, WS_CHILD | WS_VISIBLE | style, "item");
-    GraphDialog<Graph> dialog(kGraphItem);
+    GraphDialog<Graph> dialog;
     ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
     Graph& graph = dialog.graph;
     const HWND item = graph.m_hWnd;
-    ::MoveWindow(item, 5, 5, 240, 150, TRUE); // a combo box makes itself as high as a line
+    ::MoveWindow(item, 5, 5, 240, 150, TRUE); // a combo box sets its own height
     Feed(graph);
     graph.Redraw();
     noted.clear();
@@ -209,29 +175,18 @@ TEST(GraphBindingTest, AnItemOfAnyClassIsTheControlAlone) {
 
 TEST(GraphBindingTest, AnItemThatCannotBeSubclassedThrows) {
     const DialogTemplate resource = TwoItems();
-    CGraphCtrl nowhere, first, second; // with the first comes the window class that the template names
+    CGraphCtrl nowhere, first, second; // the first object registers the window class that the template names
     CDialog dialog;
     ASSERT_TRUE(dialog.CreateIndirect(resource.Get(), nullptr));
     CDataExchange exchange(&dialog, FALSE);
 
-    EXPECT_THROW(
-        try { DDX_GraphControl(&exchange, kNoItem, nowhere); } catch (CNotSupportedException* e) {
-            e->Delete();
-            throw 1;
-        },
-        int);
+    EXPECT_TRUE(Refuses<CNotSupportedException>([&] { DDX_GraphControl(&exchange, kNoItem, nowhere); }));
     EXPECT_EQ(nowhere.m_hWnd, nullptr);
 
     DDX_GraphControl(&exchange, kGraphItem, first);
     ASSERT_NE(first.m_hWnd, nullptr);
-    bool refused = false;
-    try {
-        DDX_GraphControl(&exchange, kGraphItem, second);
-    } catch (CNotSupportedException* e) {
-        refused = true;
-        e->Delete();
-    }
-    EXPECT_TRUE(refused) << "the item belongs to another object already";
+    EXPECT_TRUE(Refuses<CNotSupportedException>([&] { DDX_GraphControl(&exchange, kGraphItem, second); }))
+        << "the item belongs to another object already";
     EXPECT_EQ(second.m_hWnd, nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(first.m_hWnd), &first);
     dialog.DestroyWindow();

@@ -1,17 +1,11 @@
-// The control among other items of a dialog, worked by keys alone.
-
-#include "tests/module/DialogTemplate.h"
+// The control among other items of a dialog, used with the keyboard only.
+#include "tests/module/GraphDialog.h"
 #include "tests/support/RecordingParent.h"
-
-#include <afxwin.h>
-
-#include <kavlix/Kavlix.h>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr int kGraphItem = 1001;
 constexpr DWORD kItemStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 
 class MarkedGraph : public CGraphCtrl {
@@ -19,21 +13,8 @@ public:
     int Mark() const { return m_SelectionMarkPos; }
 };
 
-class KeyDialog : public CDialog {
-public:
-    MarkedGraph graph;
-    int closed = 0;
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        CDialog::DoDataExchange(pDX);
-        DDX_GraphControl(pDX, kGraphItem, graph);
-    }
-    void OnCancel() override { ++closed; }
-    void OnOK() override {}
-};
-
-/// A button, the control, another button. Keys take the way of a program's message loop.
+/// A button, the control, another button. Keys go through IsDialogMessage, as in the message loop of a
+/// program.
 class DialogKeysTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -48,7 +29,7 @@ protected:
     }
     void TearDown() override { dialog.DestroyWindow(); }
 
-    /// Presses and lets go a key where the focus is.
+    /// Presses and releases a key in the window with the focus.
     void Press(WPARAM key) {
         ::PostMessage(::GetFocus(), WM_KEYDOWN, key, 1);
         ::PostMessage(::GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
@@ -61,7 +42,7 @@ protected:
     }
     int Focused() { return ::GetDlgCtrlID(::GetFocus()); }
 
-    KeyDialog dialog;
+    GraphDialog<MarkedGraph> dialog;
 };
 
 } // namespace
@@ -74,7 +55,7 @@ TEST_F(DialogKeysTest, TabReachesTheControlAndLeavesIt) {
     }
     dialog.graph.SetSelectionMarkPos(1);
     Press(VK_TAB);
-    EXPECT_EQ(Focused(), IDCANCEL) << "a mark keeps nobody in";
+    EXPECT_EQ(Focused(), IDCANCEL) << "a mark does not keep the focus";
 }
 
 TEST_F(DialogKeysTest, ArrowsStayAndEscapeClearsTheMarkBeforeItClosesTheDialog) {

@@ -1,3 +1,4 @@
+// The memory layout of dialog templates.
 #include "tests/module/DialogTemplate.h"
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// Dialog templates without resource scripts.
 #pragma once
 
 #include <windows.h>

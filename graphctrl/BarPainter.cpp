@@ -1,4 +1,4 @@
-// Paints one dataset as bars, with the selection mark of the bar style.
+// Paints one dataset as bars, and the selection mark of the bar style.
 #include "graphctrl/BarPainter.h"
 
 #include <algorithm>
@@ -7,6 +7,7 @@
 
 #include "gdi/DirectPaint.h"
 #include "gdi/Guards.h"
+#include "gdi/Mapping.h"
 #include "gdi/ShapeConversion.h"
 #include "graphctrl/core/SampleStore.h"
 
@@ -14,13 +15,13 @@ namespace kavlix {
 
 namespace {
 
-constexpr int kBeyondPlot =
-    90; // bars are cut this far beyond the plot, where none of it is seen: three pixels
+constexpr int kBeyondPlot = 3 * kUnitsPerPixel; // bars end at most this far above or below the plot
 
 } // namespace
 
 void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSlots& slots, int offset,
-                    IndexRange range, const Rect& plot, const LinearMap& yMap, const BarSelectionMark* mark) {
+                    IndexRange range, const Rect& plot, const LinearMap& yMap,
+                    const BarSelectionMark* selectionMark) {
     Select(dc, brush);
     const SampleStore& samples = dataset.Samples();
     std::optional<PixelRaster> raster = DirectRaster(dc);
@@ -35,20 +36,21 @@ void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSl
             raster->Fill(FilledByRectangle(corners[i], corners[i + 1]), *colour);
         corners.clear();
     };
-    // A metafile's frame holds all that is drawn, seen or not.
+    // The frame of a metafile includes everything that is drawn, so bars must not extend far
+    // outside the plot.
     const auto nearPlot = [&plot](int y) {
         return std::clamp(y, plot.top - kBeyondPlot, plot.bottom + kBeyondPlot);
     };
     for (int slot = 0; slot < range.Count(); ++slot) {
         const int index = range.first + slot;
         const double value = samples[index];
-        if (mark != nullptr && index == mark->index && !std::isnan(value)) {
+        if (selectionMark != nullptr && index == selectionMark->index && !std::isnan(value)) {
             if (isDirect)
                 fillCorners();
-            Select(dc, mark->brush);
+            Select(dc, selectionMark->brush);
             dc.Rectangle(ToCRect(slots.Band(slot, plot)));
             Select(dc, brush);
-            ::GdiFlush();
+            ::GdiFlush(); // the bars that follow may be written into the pixels directly
         }
         const std::optional<int> y = yMap.Position(value);
         if (!y || !dataset.m_Visible)

@@ -1,4 +1,4 @@
-// Paints one dataset as bars, with the selection mark of the bar style.
+// Paints one dataset as bars, and the selection mark of the bar style.
 #pragma once
 
 #include <afxwin.h>
@@ -12,14 +12,16 @@ namespace kavlix {
 
 /// The selection mark of the bar style: a band behind a whole group of bars.
 struct BarSelectionMark {
-    int index = -1; ///< marked sample, -1 for none
+    int index = -1; ///< index of the marked sample, -1 for none
     CBrush& brush;
 };
 
-/// Draws the samples `range` of a dataset as bars in the slots 0, 1, 2, ..., `offset` right of each slot's
-/// left edge, with `brush` and the null pen that the caller has selected. `mark` is null for all but the
-/// dataset that draws it. Of a hidden dataset only the mark is drawn. Leaves `brush` selected.
+/// Draws the samples `range` of a dataset as bars in the slots 0, 1, 2, ..., each `offset` logical units
+/// right of the left edge of its slot. `selectionMark` is drawn too, unless it is null; a hidden dataset
+/// draws the selection mark only. The caller has selected the null pen; `brush`, which fills the bars,
+/// is selected afterwards.
 void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSlots& slots, int offset,
-                    IndexRange range, const Rect& plot, const LinearMap& yMap, const BarSelectionMark* mark);
+                    IndexRange range, const Rect& plot, const LinearMap& yMap,
+                    const BarSelectionMark* selectionMark);
 
 } // namespace kavlix

@@ -1,11 +1,12 @@
-// Draws a line one pixel wide by writing into the pixels of a picture: the strokes that leave the pixel table.
+// DirectLine: the strokes that begin or end outside the pixel table.
 #include "graphctrl/DirectLine.h"
 
 #include "gdi/ShapeConversion.h"
 
 namespace kavlix {
 
-/// The previous or next point lies outside the pixel tables, so its pixel is unknown.
+/// Adds a sample when it or the last one lies outside the pixel table, so that its pixel is unknown. GDI
+/// converts many such points in one call, in PaintFar.
 void DirectLine::GoFar(double value, const PixelColumn& column, int row) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return from == to && !edges.HasPixel(from);

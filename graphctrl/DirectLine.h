@@ -12,13 +12,14 @@
 
 namespace kavlix {
 
-/// Paints a line one pixel wide straight into a picture, whose clip must lie inside the ground's pixels.
+/// Draws one or more lines into `raster`, whose clip must lie inside the pixel table of `target`.
 class DirectLine {
 public:
     DirectLine(const LineTarget& target, const PixelRaster& raster, std::uint32_t colour)
         : m_target(target), m_rows(target.yMap, target.rows), m_raster(raster), m_colour(colour),
           m_line(raster, colour) {}
 
+    /// Adds a sample of `column`; `value` is not a NaN.
     void Add(double value, const PixelColumn& column) {
         const int row = m_rows.Of(value);
         const bool isNear = m_target.rows.HasPixel(row) && m_target.columns.HasPixel(column.pixel);
@@ -30,13 +31,14 @@ public:
         m_isNear = isNear;
         m_last = {value, column.position, column.pixel, row};
     }
+    /// Ends the line and paints what is pending. The next sample begins another line.
     void End();
 
 private:
     struct Place {
         double value;
-        int position;
-        int pixel;
+        int position; ///< logical units
+        int pixel;    ///< column of pixels
         int row;
     };
 
@@ -49,9 +51,9 @@ private:
     std::uint32_t m_colour;
     ThinLine m_line;
     bool m_isOpen = false;
-    bool m_isNear = false; ///< whether the pixel of the last point is known
-    Place m_last = {};
-    std::vector<POINT> m_far; ///< ends of strokes whose pixels GDI tells later, all at once; logical units
+    bool m_isNear = false;    ///< the last sample lies inside the pixel table
+    Place m_last = {};        ///< the last sample
+    std::vector<POINT> m_far; ///< pending strokes that leave the pixel table: two ends each, logical units
 };
 
 } // namespace kavlix

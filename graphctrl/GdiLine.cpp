@@ -1,4 +1,4 @@
-// Draws a line on a DC that paints pixels, by calls of GDI.
+// GdiLine: pixels of the points, reduction of the line, and the calls of GDI.
 #include "graphctrl/GdiLine.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ void GdiLine::Add(double value, const PixelColumn& column) {
         m_far.push_back(0);
     }
     const int y = m_target.yMap.Position(value).value_or(0);
-    // Pixels are looked up where they can be seen; of the others GDI is asked later, of all at once.
+    // Inside the pixel table the pixel is looked up. GDI converts all other points in one call later.
     if (m_target.columns.HasPixel(column.pixel) && m_target.rows.Holds(y)) {
         m_pixels.push_back({column.pixel, m_target.rows.PixelOf(y)});
     } else {
@@ -58,7 +58,7 @@ void GdiLine::DrawPart() {
         m_target.dc.Polyline(line.data(), count);
     });
     for (std::size_t i = 0; i < m_points.size(); ++i) {
-        // With some pens a stroke of no length is a dot: none is drawn.
+        // Skip strokes of length 0, which some pens draw as a dot.
         if (i == 0 || !(m_pixels[i] == m_pixels[i - 1]))
             reduction.Add(m_pixels[i], m_points[i]);
     }
@@ -68,15 +68,15 @@ void GdiLine::DrawPart() {
     m_far.clear();
 }
 
-/// The region of a whole wide polyline costs more than its strokes one by one. Upright strokes from far away
-/// are bands beside one another, of which some cover all.
+/// Draws stroke by stroke, since GDI builds a region for a wide polyline, which takes longer. Neighbouring
+/// bands are collected: DrawBands covers their area with fewer strokes.
 void GdiLine::DrawWide(const Rect& view, const Point* points, int count) {
     CDC& dc = m_target.dc;
     const int width = m_penPixels * kUnitsPerPixel;
     for (int i = 1; i < count; ++i) {
         WideStroke stroke = {{points[i - 1].x, points[i - 1].y}, {points[i].x, points[i].y}};
         switch (stroke.Shorten(dc, view, m_penPixels)) {
-        case WideStroke::Unseen:
+        case WideStroke::Invisible:
             break;
         case WideStroke::Band:
             if (m_hasBand && stroke.from.x >= m_firstBand.from.x - width &&
@@ -96,6 +96,7 @@ void GdiLine::DrawWide(const Rect& view, const Point* points, int count) {
     }
 }
 
+/// Draws bands one pen width apart, from the first pending band to the last.
 void GdiLine::DrawBands() {
     while (m_hasBand) {
         m_firstBand.Draw(m_target.dc);

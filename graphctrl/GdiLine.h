@@ -12,14 +12,17 @@
 
 namespace kavlix {
 
-/// Has GDI draw a line with the pen that is selected, `penPixels` wide.
+/// Draws one or more lines with the selected pen, which is `penPixels` wide. Samples that paint no new pixel
+/// are left out.
 class GdiLine {
 public:
-    /// `plot` in device units, edges included: what can be seen.
+    /// `plot` in device units, edges included: the visible part of the line.
     GdiLine(const LineTarget& target, const CRect& plot, int penPixels)
         : m_target(target), m_plot(plot), m_penPixels(penPixels) {}
 
+    /// Adds a sample of `column`; `value` is not a NaN.
     void Add(double value, const PixelColumn& column);
+    /// Ends the line and draws what is pending. The next sample begins another line.
     void End();
 
 private:
@@ -30,13 +33,13 @@ private:
     LineTarget m_target;
     CRect m_plot;
     int m_penPixels;
-    // Bands that wait to be drawn, with no gap between them.
+    // Pending bands, which are vertical strokes that overlap or touch: the leftmost, and the rightmost's X.
     bool m_hasBand = false;
     WideStroke m_firstBand = {};
-    int m_lastBand = 0;          ///< x
-    std::vector<Point> m_points; ///< logical units
-    std::vector<Point> m_pixels;
-    std::vector<std::size_t> m_far; ///< the points whose pixels are not known yet
+    int m_lastBand = 0;             ///< logical units
+    std::vector<Point> m_points;    ///< pending points, logical units
+    std::vector<Point> m_pixels;    ///< the pixel of each point
+    std::vector<std::size_t> m_far; ///< indices of the points whose pixels are still unknown
 };
 
 } // namespace kavlix

@@ -1,3 +1,4 @@
+// CGraphCtrl: the axes with ticks, tick labels, unit texts and grid. XTickPainter draws a single X tick.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
@@ -18,9 +19,9 @@ using namespace kavlix;
 namespace {
 
 // Logical units.
-constexpr int kTickLabelGap = 100;   // between axis strip and tick labels
-constexpr int kTickLabelRaise = 150; // centres a label on its tick
-constexpr int kUnitOverlap = 50;     // the unit text begins that far behind the axis line
+constexpr int kTickLabelGap = 100;   // between the strip of tick marks and the tick labels
+constexpr int kTickLabelRaise = 150; // from a Y tick up to the top of its label
+constexpr int kUnitOverlap = 50;     // from the right edge of the tick strip to the unit text
 
 constexpr UINT kUnitAlignY = TA_LEFT | TA_BOTTOM;
 constexpr UINT kUnitAlignY2 = TA_RIGHT | TA_BOTTOM;
@@ -30,10 +31,11 @@ void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.LineTo(x2, y2);
 }
 
-/// Of a number of thousands of digits the part that may lie in `clip`: its end where the reference point `at`
-/// is on the right of the text, else its beginning. GDI takes long for such texts.
-std::string SeenPart(const CDC& dc, const std::string& text, bool isRightAligned, const CPoint& at,
-                     const CRect& clip) {
+/// The part of a long number that may lie in `clip`: the end of a right-aligned text, else its beginning.
+/// `at` is the reference point of the text. Other texts are returned whole. GDI is slow at texts of
+/// thousands of digits.
+std::string VisiblePart(const CDC& dc, const std::string& text, bool isRightAligned, const CPoint& at,
+                        const CRect& clip) {
     constexpr std::size_t kLongNumber = 1024;
     if (text.size() <= kLongNumber)
         return text;
@@ -60,7 +62,8 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
     if (nTicks < 2)
         return;
 
-    // An axis may be far longer than the picture is high: what lies outside the clip is not drawn.
+    // A derived class may pass an axis far longer than the picture is high, so ticks outside the
+    // clip are skipped.
     const int step = (rectLabel.bottom - rectLabel.top) / (nTicks - 1);
     const CRect clip = ClipBounds(dc);
     const auto isShown = [&](int y) {
@@ -90,7 +93,7 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
         if (!isBeside || y + box.bottom < clip.top || y + box.top > clip.bottom)
             continue;
         const std::string text =
-            SeenPart(dc, FormatTick(values.Value(), decimals), !y2, CPoint(labelX, y), clip);
+            VisiblePart(dc, FormatTick(values.Value(), decimals), !y2, CPoint(labelX, y), clip);
         DrawTextAt(dc, labelX, y, text.c_str(), static_cast<int>(text.size()));
     }
 
@@ -144,8 +147,8 @@ void CGraphCtrl::DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rect
     BarSlots slots;
     if (!CalcBarSize(slots.barWidth, slots.datasets, slots.visible))
         return;
-    // Sample indices are the same positions in every dataset: the first one with a sample to show fills all
-    // slots.
+    // A sample index has the same slot in every dataset. The first dataset with a visible sample
+    // fills all slots.
     for (const CDataset& dataset : m_Datasets) {
         const IndexRange range = IndicesInSlots(dataset.GetSize(), m_XVisibleMin, slots);
         if (range.IsEmpty())

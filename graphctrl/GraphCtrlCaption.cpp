@@ -1,4 +1,4 @@
-// CGraphCtrl: the caption band and its maximize icon. The input handlers follow the press of the icon.
+// CGraphCtrl: paints the caption band and its maximize icon. GraphCtrlInput handles clicks on the icon.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
@@ -14,14 +14,14 @@ using namespace kavlix;
 namespace {
 
 // Logical units.
-constexpr int kCaptionPadding = 120; // beyond the font's height
-constexpr int kIconTop = 50;
+constexpr int kCaptionPadding = 120; // the band's height beyond the height of its font
+constexpr int kIconTop = 50;         // distances of the icon from the edges of the band
 constexpr int kIconBottom = 70;
 constexpr int kIconRight = 50;
-constexpr int kIconExtraWidth = 50; // the icon is that much wider than high
-constexpr int kHugeFont = 30000;    // a thousand pixels
+constexpr int kIconExtraWidth = 50; // the icon is this much wider than high
+constexpr int kHugeFont = 1000 * kUnitsPerPixel;
 
-// A font size that still fits an int when it is scaled to logical units.
+// Largest font size, in tenths of a point, that still fits an int when it is scaled to logical units.
 constexpr int kLargestFontSize = 1 << 22;
 
 void FillBar(CDC& dc, const CRect& rect, const CBrush& brush) {
@@ -39,8 +39,8 @@ void FillBody(CDC& dc, const CRect& rect) {
 void CGraphCtrl::DrawCaption(CDC& dc) {
     if (m_hWnd == nullptr)
         return;
-    // A point size is a size on the screen; taking it to logical units first keeps it so under the control's
-    // mapping.
+    // CreatePointFont takes a size on the screen. Scaling the size to logical units first makes the font as
+    // large under the control's mapping.
     CSize size(0, std::clamp(m_CaptionFontSize, -kLargestFontSize, kLargestFontSize));
     dc.DPtoLP(&size);
     CFont captionFont;
@@ -60,8 +60,8 @@ void CGraphCtrl::DrawCaption(CDC& dc) {
     Select(dc, band);
     dc.Rectangle(&m_rectCaption);
 
-    // GDI makes a picture of each letter first: of letters far larger than the control that takes seconds,
-    // for nothing that could be read.
+    // GDI renders each glyph before it draws the text. Glyphs far larger than the control take seconds and
+    // cannot be read.
     if (height < kHugeFont || height < 2 * ToLogical(dc, client).Height()) {
         CString text;
         GetWindowText(text);
@@ -80,7 +80,7 @@ void CGraphCtrl::DrawCaption(CDC& dc) {
 }
 
 void CGraphCtrl::DrawIconMaximize(CDC& dc) {
-    if (m_rectIconMaximize.IsRectNull()) // no icon is shown
+    if (m_rectIconMaximize.IsRectNull()) // the last paint showed no icon
         return;
     CPen pen;
     pen.CreatePen(PS_SOLID, 0, m_CaptionColor);
@@ -99,7 +99,7 @@ void CGraphCtrl::DrawIconMaximize(CDC& dc) {
     CRect icon = m_rectIconMaximize;
     if (m_IconMaximizePressed)
         icon.OffsetRect(pixel);
-    // Distances from the icon's edges, in pixels.
+    // Parts of the icon: the four arguments are distances from the icon's edges in pixels.
     const auto part = [&](int left, int top, int right, int bottom) {
         return CRect(icon.left + left * pixel.cx, icon.top + top * pixel.cy, icon.right - right * pixel.cx,
                      icon.bottom - bottom * pixel.cy);

@@ -1,3 +1,4 @@
+// CGraphCtrl: samples and tick labels, added, read and removed.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
@@ -9,7 +10,7 @@ using namespace kavlix;
 
 namespace {
 
-// The visible range ends this far behind the newest sample, so that the sample lies inside.
+// The automatic X range ends this far behind the newest sample, so that the sample lies inside.
 constexpr double kBehindNewest = 0.001;
 
 void RemoveLabels(LabelStore& labels, int count) {

@@ -12,14 +12,15 @@ void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
         m_IconMaximizeTracking = TRUE;
         m_IconMaximizePressed = TRUE;
         m_MaximizeNotified = false;
-        // Whoever held the capture hears of it.
+        // SetCapture sends WM_CAPTURECHANGED to the window that had the capture. Its handler may
+        // delete this control.
         const HWND window = m_hWnd;
         ::SetCapture(window);
         if (CWnd::FromHandlePermanent(window) != this)
             return;
         RepaintIcon();
     }
-    // Last, so that the notifications find the focus where it was.
+    // The focus moves last: the handlers of the notifications above still see the old one.
     ::SetFocus(m_hWnd);
 }
 
@@ -39,28 +40,28 @@ void CGraphCtrl::OnMouseMove(UINT nFlags, CPoint point) {
 }
 
 void CGraphCtrl::OnLButtonUp(UINT nFlags, CPoint point) {
-    // The parent's GCN_MAXIMIZE handler may run a message loop: a release that arrives there is not a second
-    // click.
+    // The parent's GCN_MAXIMIZE handler may run a message loop. A button release that arrives in that loop
+    // must not send GCN_MAXIMIZE again.
     if (m_IconMaximizeTracking && !m_MaximizeNotified) {
         const HWND window = m_hWnd;
-        // ReleaseCapture() re-enters OnCaptureChanged(), for which there must be no press to cancel.
+        // Reentrancy: ReleaseCapture calls OnCaptureChanged, which would cancel the press.
         m_IconMaximizeTracking = FALSE;
         ::ReleaseCapture();
         if (CWnd::FromHandlePermanent(window) != this)
             return;
         m_IconMaximizeTracking = TRUE;
-        bool pressedAnew = false;
+        bool isPressedAgain = false;
         if (m_IconMaximizePressed) {
             m_MaximizeNotified = true;
             NMGRAPHCTRL record = {};
             record.nFlags = nFlags;
             record.pt = point;
-            // The icon is still down: the parent may repaint it.
+            // The icon stays pressed during the notification, since the parent may paint the control.
             if (!Notify(record, GCN_MAXIMIZE))
                 return;
-            pressedAnew = !m_MaximizeNotified;
+            isPressedAgain = !m_MaximizeNotified; // OnLButtonDown clears this flag
         }
-        if (!pressedAnew) {
+        if (!isPressedAgain) {
             EndPress();
             RepaintIcon();
         }
@@ -75,8 +76,8 @@ void CGraphCtrl::EndPress() {
 }
 
 void CGraphCtrl::OnCaptureChanged(CWnd* pWnd) {
-    // Somebody else took the mouse in the middle of a press: no click comes of it. Capturing anew is told
-    // too.
+    // Capture lost while the button is down: cancel the press. `SetCapture` on this window also sends the
+    // message, with this window as the new owner.
     if (!m_IconMaximizeTracking || pWnd == this)
         return;
     EndPress();
@@ -117,7 +118,7 @@ void CGraphCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
 
 UINT CGraphCtrl::OnGetDlgCode() {
     UINT code = static_cast<UINT>(Default()) | DLGC_WANTARROWS;
-    // While there is a mark to clear, Escape is the control's; else it closes the dialog.
+    // With a selection mark, Escape removes the mark. Without one, the dialog gets the key and closes.
     const MSG* current = GetCurrentMessage();
     if (m_SelectionMarkPos >= 0 && current != nullptr && current->message == WM_GETDLGCODE &&
         current->lParam != 0) {

@@ -39,7 +39,7 @@ void CGraphCtrl::DrawLegendArea(CDC& dc, int right, CRgn& clientClip) {
 
 void CGraphCtrl::DrawLegend(CDC& dc) {
     constexpr COLORREF kHiddenSwatch = RGB(255, 255, 255);
-    constexpr int kTextRaise = 6; // the text begins 1/6 of a row above its swatch
+    constexpr int kTextRaise = 6; // the text begins 1/6 of the swatch's height above the swatch
 
     SelectGuard font(dc, m_LegendFont);
     dc.SetTextColor(m_LegendTextColor);
@@ -47,7 +47,7 @@ void CGraphCtrl::DrawLegend(CDC& dc) {
     dc.SelectStockObject(NULL_PEN);
     StockAfterGuard brushAfter(dc, NULL_BRUSH);
 
-    // Derived classes may set margin and height to anything.
+    // 64-bit sums: derived classes may set margin and height to any int.
     const std::int64_t margin = m_LegendMargin;
     const std::int64_t side = m_LegendItemHeight;
     const std::int64_t left = m_rectLegend.left + margin;
@@ -69,7 +69,7 @@ void CGraphCtrl::DrawLegend(CDC& dc) {
 }
 
 int CGraphCtrl::LegendRowAt(CPoint point) const {
-    // Rows are counted by dataset, also past datasets without a legend text, which take no row on the screen.
+    // Every dataset counts as one row here, although DrawLegend leaves out datasets without a legend text.
     const std::int64_t rowHeight = std::int64_t{m_LegendMargin} + m_LegendItemHeight;
     std::int64_t top = std::int64_t{m_rectLegend.top} + m_LegendMargin / 2;
     for (int i = 0; i < DatasetCount; ++i, top += rowHeight)

@@ -1,4 +1,4 @@
-// CGraphCtrl: the context menu and its commands. Copying stands with the export.
+// CGraphCtrl: the context menu and its commands, except for copying (GraphCtrlExport).
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 #include "gdi/StringIds.h"
 
 void CGraphCtrl::OnRButtonDown(UINT, CPoint point) {
-    // The menu waits for the user; whatever he chooses elsewhere may destroy the window meanwhile.
+    // The menu runs a message loop, in which the host may destroy the window or delete this control.
     const HWND window = m_hWnd;
     OnContextGraphMenu(point);
     if (CWnd::FromHandlePermanent(window) == this)
@@ -14,7 +14,8 @@ void CGraphCtrl::OnRButtonDown(UINT, CPoint point) {
 }
 
 void CGraphCtrl::OnContextMenu(CWnd*, CPoint point) {
-    // The mouse's menu opens with the button's press already; what arrives here by mouse is passed on.
+    // OnRButtonDown shows the menu for the mouse. For the keyboard's request Windows sends the
+    // position (-1, -1).
     const CPoint byKeyboard(-1, -1);
     if (point == byKeyboard)
         OnContextGraphMenu(ToClientPoint(GetPtFromIndex(m_SelectionMarkPos)));
@@ -32,7 +33,7 @@ void CGraphCtrl::OnContextGraphMenu(CPoint point) {
 }
 
 void CGraphCtrl::InsertGraphMenu(CMenu& menu) {
-    // Each item goes on top of those inserted before.
+    // Each item is inserted at the top, so the code inserts the last item first.
     const UINT markState = SelectionMarkItemState();
     const auto insert = [&](UINT command, UINT textId, UINT state) {
         if (IsMenuItem(menu, command))
@@ -67,6 +68,7 @@ void CGraphCtrl::OnHideSelectionMark() {
 void CGraphCtrl::OnRemoveDataBeforeSelectionMark() {
     CString question;
     question.LoadString(IDS_CONFIRM_REMOVE_DATA);
+    // The message box runs a message loop, in which the host may destroy the window or delete this control.
     const HWND window = m_hWnd;
     if (AfxMessageBox(question, MB_YESNO | MB_ICONHAND | MB_DEFBUTTON2) == IDNO)
         return;

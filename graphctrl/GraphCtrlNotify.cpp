@@ -1,4 +1,4 @@
-// CGraphCtrl: the WM_NOTIFY messages to the parent.
+// CGraphCtrl: sends the WM_NOTIFY messages to the parent.
 #include <kavlix/GraphCtrl.h>
 
 bool CGraphCtrl::Notify(NMGRAPHCTRL& record, UINT nCode) {

@@ -1,4 +1,4 @@
-// CGraphCtrl: painting from WM_PAINT down to the parts of the picture, the layout, and what becomes invalid.
+// CGraphCtrl: WM_PAINT and WM_PRINTCLIENT, the layout, and the order in which the parts are drawn.
 #include <kavlix/GraphCtrl.h>
 
 #include <memory>
@@ -15,9 +15,10 @@ using namespace kavlix;
 namespace {
 
 // Logical units.
-constexpr int kDataRegionAbove = 600;  // the unit texts stand above the Y bands
-constexpr int kDataRegionBeside = 900; // X tick labels may reach beyond their band
+constexpr int kDataRegionAbove = 600;  // room of the unit texts above the Y axes
+constexpr int kDataRegionBeside = 900; // X tick labels may extend beyond the right end of their band
 
+/// `device` without its last column and row of pixels.
 CRect LessOnePixel(const CRect& device) {
     return CRect(device.left, device.top, device.right - 1, device.bottom - 1);
 }
@@ -41,7 +42,7 @@ void CGraphCtrl::OnPaint() {
     CDC& dc = picture->Dc();
     SetMapModeAnisotropic(dc);
     {
-        SavedDcGuard unchanged(dc); // what derived classes leave selected does not stay
+        SavedDcGuard restored(dc); // derived classes may leave objects selected, and the DC is used again
         DrawGraph(dc);
     }
     const CRect copied = ToLogical(paintDc, LessOnePixel(client));
@@ -54,7 +55,7 @@ LRESULT CGraphCtrl::OnPrintClient(WPARAM wParam, LPARAM) {
     if (dc == nullptr)
         return Default();
     SavedDcGuard saved(*dc);
-    // Whoever asks may have moved the origin to place the picture.
+    // The sender may have moved the origin of its DC to place the picture: keep the place.
     CPoint origin(0, 0);
     dc->LPtoDP(&origin);
     SetMapModeAnisotropic(*dc);
@@ -96,7 +97,7 @@ void CGraphCtrl::DrawGraph(CDC& dc) {
 
     GetClientRect(&m_rectClient);
     m_rectClientInner = LessOnePixel(m_rectClient);
-    // Device units of this DC, whose viewport origin may be anywhere.
+    // The viewport origin of `dc` may be anywhere, so client pixels are moved to device units first.
     const CPoint origin = dc.GetViewportOrg();
     const CRect client = ToLogical(dc, m_rectClient + origin);
     const CRect inner = m_rectClientInner + origin;

@@ -1,4 +1,4 @@
-// CGraphCtrl: values, samples, logical units and client pixels, each found from another.
+// CGraphCtrl: conversions between samples, values, logical units and client pixels.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>

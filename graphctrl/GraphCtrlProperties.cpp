@@ -1,3 +1,4 @@
+// CGraphCtrl: the setters that do more than store one value.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>

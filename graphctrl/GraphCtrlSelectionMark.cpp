@@ -1,4 +1,4 @@
-// CGraphCtrl: where the selection mark is, and who learns that it moved. The painters draw the mark.
+// CGraphCtrl: moves the selection mark and reports the move. The painters of datasets draw it.
 #include <kavlix/GraphCtrl.h>
 
 void CGraphCtrl::SetSelectionMarkPos(int nPos) {
@@ -8,7 +8,7 @@ void CGraphCtrl::SetSelectionMarkPos(int nPos) {
     RedrawData();
 }
 
-// Every change of the selection mark is made here, so that screen readers receive an event for each.
+// The only function that writes m_SelectionMarkPos, so that assistive tools get an event at every change.
 void CGraphCtrl::StoreSelectionMark(int nPos) {
     if (nPos == m_SelectionMarkPos)
         return;

@@ -34,11 +34,11 @@ void CGraphCtrl::DrawGraphData(CDC& dc) {
 
 void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
                            const std::function<IndexRange(const CDataset&)>& rangeOf) {
-    constexpr COLORREF kMarkColor = RGB(255, 0, 0);
+    constexpr COLORREF kTriangleColor = RGB(255, 0, 0);
     CBrush triangleBrush;
-    triangleBrush.CreateSolidBrush(kMarkColor);
-    CPen cursorPen;
-    cursorPen.CreatePen(PS_DOT, 0, m_LineCursorColor);
+    triangleBrush.CreateSolidBrush(kTriangleColor);
+    CPen linePen;
+    linePen.CreatePen(PS_DOT, 0, m_LineCursorColor);
     CPen pens[DatasetCount];
     for (int i = 0; i < DatasetCount; ++i)
         pens[i].CreatePen(PS_SOLID, PenWidth(m_Datasets[i]), m_Datasets[i].GetColor());
@@ -47,9 +47,9 @@ void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
     dc.SelectStockObject(NULL_BRUSH);
 
     const CRect& plot = m_rectPlot;
-    const LineSelectionMark mark{m_SelectionMarkPos, plot, cursorPen, triangleBrush};
+    const LineSelectionMark selectionMark{m_SelectionMarkPos, plot, linePen, triangleBrush};
 
-    // Dataset 0 comes last and lies on top.
+    // Dataset 0 is drawn last and covers the others.
     const int drawn = m_GraphStyle == GraphStyleTwoAxis ? 2 : DatasetCount;
     IndexRange ranges[DatasetCount];
     int reach = 0;
@@ -65,8 +65,8 @@ void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
         if (!m_Datasets[i].m_Visible)
             continue;
         const LinearMap yMap = YMapOf(i);
-        if (!reduced.Draw(m_Datasets[i], pens[i], yMap, ranges[i], mark))
-            DrawSeriesLine(dc, m_Datasets[i], pens[i], xPositions, yMap, ranges[i], mark);
+        if (!reduced.Draw(m_Datasets[i], pens[i], yMap, ranges[i], selectionMark))
+            DrawSeriesLine(dc, m_Datasets[i], pens[i], xPositions, yMap, ranges[i], selectionMark);
     }
 }
 
@@ -83,8 +83,8 @@ BOOL CGraphCtrl::CalcBarSize(int& nBarWidth, int& nDatasets, int& nVisiblePoints
 }
 
 void CGraphCtrl::DrawBars(CDC& dc) {
-    CBrush cursorBrush;
-    cursorBrush.CreateSolidBrush(m_BoxCursorColor);
+    CBrush bandBrush;
+    bandBrush.CreateSolidBrush(m_BoxCursorColor);
     CBrush brushes[DatasetCount];
     for (int i = 0; i < DatasetCount; ++i)
         brushes[i].CreateSolidBrush(m_Datasets[i].GetColor());
@@ -95,22 +95,22 @@ void CGraphCtrl::DrawBars(CDC& dc) {
     BarSlots slots;
     if (!CalcBarSize(slots.barWidth, slots.datasets, slots.visible))
         return;
-    // Bars without width cover nothing.
+    // Bars of width 0 paint no pixel.
     if (slots.barWidth == 0)
         return;
     const Rect plot = ToRect(m_rectPlot);
     const LinearMap yMap = YMapOf(0);
-    const BarSelectionMark mark{m_SelectionMarkPos, cursorBrush};
+    const BarSelectionMark selectionMark{m_SelectionMarkPos, bandBrush};
     int offset = 0;
     for (int i = 0; i < DatasetCount; ++i) {
         const CDataset& dataset = m_Datasets[i];
         if (dataset.GetSize() == 0)
             continue;
-        // The first dataset with samples draws the mark, before its own bar, so that it lies behind the
-        // group. A hidden dataset keeps its place.
+        // The first dataset with samples draws the selection mark before its own bar, so that the selection
+        // mark lies behind the whole group. A hidden dataset keeps its place in the group.
         const IndexRange range = IndicesInSlots(dataset.GetSize(), m_XVisibleMin, slots);
         DrawSeriesBars(dc, dataset, brushes[i], slots, offset, range, plot, yMap,
-                       offset == 0 ? &mark : nullptr);
+                       offset == 0 ? &selectionMark : nullptr);
         offset += slots.barWidth;
     }
 }

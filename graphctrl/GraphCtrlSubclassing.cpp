@@ -1,9 +1,9 @@
-// The control in a window of another class: a dialog item of any kind becomes the control alone.
+// CGraphCtrl in a window of another class, for example a dialog item: keeps the behaviour of that class out.
 #include <kavlix/GraphCtrl.h>
 
 namespace {
 
-/// Whether the window's class has itself repainted as a whole when its size changes.
+/// Whether Windows invalidates the whole window when its size changes, as the style of its class asks for.
 bool RepaintsOnSize(HWND window) {
     constexpr ULONG_PTR kBoth = CS_HREDRAW | CS_VREDRAW;
     return (::GetClassLongPtr(window, GCL_STYLE) & kBoth) == kBoth;
@@ -13,7 +13,8 @@ bool RepaintsOnSize(HWND window) {
 
 void CGraphCtrl::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
-    // The parts of a combo box would lie over the picture and take the mouse. Other children are the host's.
+    // Hide the child windows of a combo box, which would cover the picture and receive the mouse. Other child
+    // windows belong to the host.
     COMBOBOXINFO combo = {};
     combo.cbSize = sizeof combo;
     if (::GetWindow(m_hWnd, GW_CHILD) == nullptr || !::GetComboBoxInfo(m_hWnd, &combo))
@@ -27,15 +28,16 @@ LRESULT CGraphCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND window = m_hWnd;
     switch (message) {
     case WM_NCDESTROY:
-        EndPress(); // the object may get another window
+        EndPress(); // this object may be attached to another window later
         [[fallthrough]];
     case WM_NCCREATE:
     case WM_CREATE:
     case WM_DESTROY:
-        // The class's own procedure keeps memory and windows from here to there.
+        // The class's own procedure allocates memory and windows at creation and frees them at destruction.
         return CWnd::DefWindowProc(message, wParam, lParam);
     case WM_ERASEBKGND:
-        // A paint leaves the last row and column of pixels to the class's background.
+        // A paint leaves out the last row and column of pixels, which show the class's background. A class
+        // without a background brush would leave them undefined.
         if (::GetClassLongPtr(window, GCLP_HBRBACKGROUND) == 0) {
             CRect client;
             ::GetClientRect(window, &client);

@@ -1,4 +1,4 @@
-// CGraphCtrl: its fonts, the title and the labels of the axes. Tick labels and legend rows are drawn elsewhere.
+// CGraphCtrl: its fonts, the title and the axis labels. Not here: tick labels and legend rows.
 #include <kavlix/GraphCtrl.h>
 
 #include "gdi/Guards.h"

@@ -1,4 +1,4 @@
-// Paints one dataset as a line with markers, stroke by stroke, with the selection mark of the line styles.
+// Paints one dataset as a line with markers, sample by sample, and the selection mark of the line styles.
 #include "graphctrl/LinePainter.h"
 
 #include <algorithm>
@@ -19,12 +19,13 @@ namespace kavlix {
 namespace {
 
 // Logical units.
-constexpr int kMarkerHalf = 90;
-constexpr int kMarkTriangleHeight = 180;
-constexpr int kMarkTriangleTip = 10; // the triangle stands right of the line by this much
-constexpr int kMarkTriangleRight = 90;
-constexpr int kMarkTriangleLeft = -70;
-constexpr int kRoundingReach = 60; // two pixels
+constexpr int kMarkerHalf = 3 * kUnitsPerPixel; // from the centre of a marker to its edges
+constexpr int kRoundingReach = 2 * kUnitsPerPixel;
+// The triangle of the selection mark; its corners are given by their distance right of the dotted line.
+constexpr int kTriangleHeight = 180;
+constexpr int kTriangleTip = 10;
+constexpr int kTriangleRight = 90;
+constexpr int kTriangleLeft = -70;
 
 } // namespace
 
@@ -33,20 +34,20 @@ void DrawSampleMarker(CDC& dc, CDataset::MarkerType type, int x, int y) {
         dc.MoveTo(x, y);
 }
 
-void DrawSelectionMark(CDC& dc, const LineSelectionMark& mark, CPen& seriesPen, int x) {
-    if (x < mark.plot.left - kMarkTriangleRight - kRoundingReach ||
-        x > mark.plot.right - kMarkTriangleLeft + kRoundingReach)
+void DrawSelectionMark(CDC& dc, const LineSelectionMark& selectionMark, CPen& seriesPen, int x) {
+    if (x < selectionMark.plot.left - kTriangleRight - kRoundingReach ||
+        x > selectionMark.plot.right - kTriangleLeft + kRoundingReach)
         return;
     const CPoint position = dc.GetCurrentPosition();
-    POINT triangle[] = {{x + kMarkTriangleTip, mark.plot.top + kMarkTriangleHeight},
-                        {x + kMarkTriangleRight, mark.plot.top},
-                        {x + kMarkTriangleLeft, mark.plot.top}};
+    POINT triangle[] = {{x + kTriangleTip, selectionMark.plot.top + kTriangleHeight},
+                        {x + kTriangleRight, selectionMark.plot.top},
+                        {x + kTriangleLeft, selectionMark.plot.top}};
     CRgn region;
     if (region.CreatePolygonRgn(triangle, 3, ALTERNATE))
-        dc.FillRgn(&region, &mark.triangleBrush);
-    Select(dc, mark.cursorPen);
-    dc.MoveTo(x, mark.plot.bottom);
-    dc.LineTo(x, mark.plot.top);
+        dc.FillRgn(&region, &selectionMark.triangleBrush);
+    Select(dc, selectionMark.linePen);
+    dc.MoveTo(x, selectionMark.plot.bottom);
+    dc.LineTo(x, selectionMark.plot.top);
     Select(dc, seriesPen);
     dc.MoveTo(position);
 }
@@ -66,19 +67,19 @@ int LineReach(const CDataset& dataset) {
 }
 
 void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPositions& xPositions,
-                    const LinearMap& yMap, IndexRange range, const LineSelectionMark& mark) {
+                    const LinearMap& yMap, IndexRange range, const LineSelectionMark& selectionMark) {
     Select(dc, pen);
     const SampleStore& samples = dataset.Samples();
     bool started = false;
     CPoint lastPixel;
     const int penPixels = PenPixels(dc, PenWidth(dataset));
-    CRect view = ToDeviceWithEdges(dc, mark.plot);
+    CRect view = ToDeviceWithEdges(dc, selectionMark.plot);
     view.InflateRect(SeriesReduction::Reach(penPixels), SeriesReduction::Reach(penPixels));
     const bool isWideInPixels = penPixels > 1 && PaintsPixels(dc);
     const auto strokeTo = [&](int x, int y) {
         const CPoint from = dc.GetCurrentPosition();
         WideStroke stroke = {from, {x, y}};
-        if (stroke.Shorten(dc, ToRect(view), penPixels) != WideStroke::Unseen)
+        if (stroke.Shorten(dc, ToRect(view), penPixels) != WideStroke::Invisible)
             stroke.Draw(dc);
         dc.MoveTo(x, y);
     };
@@ -86,8 +87,8 @@ void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPosition
         const double value = samples[i];
         const std::optional<int> x = xPositions.At(i);
         const std::optional<int> y = yMap.Position(value);
-        if (x && i == mark.index && !std::isnan(value))
-            DrawSelectionMark(dc, mark, pen, *x);
+        if (x && i == selectionMark.index && !std::isnan(value))
+            DrawSelectionMark(dc, selectionMark, pen, *x);
         if (!x || !y) {
             started = false;
             continue;

@@ -1,4 +1,4 @@
-// Paints one dataset as a line with markers, stroke by stroke, with the selection mark of the line styles.
+// Paints one dataset as a line with markers, sample by sample, and the selection mark of the line styles.
 #pragma once
 
 #include <afxwin.h>
@@ -13,35 +13,36 @@ namespace kavlix {
 
 /// The selection mark of the line styles: a dotted line across the plot with a triangle on top.
 struct LineSelectionMark {
-    int index = -1; ///< marked sample, -1 for none
-    const CRect& plot;
-    CPen& cursorPen;
+    int index = -1;    ///< index of the marked sample, -1 for none
+    const CRect& plot; ///< logical units
+    CPen& linePen;
     CBrush& triangleBrush;
 };
 
-/// Width of the pen that draws a dataset's line, in logical units: its line size, within what SetLineSize
-/// takes.
+/// Width of the pen that draws a dataset's line, in logical units: the line size,
+/// clamped to 0..CDataset::MaxLineSize.
 int PenWidth(const CDataset& dataset);
 
-/// Width in pixels of a pen `width` logical units wide, as the DC rounds; 1 for a cosmetic one.
+/// Width in pixels of a pen of `width` logical units, rounded as `dc` rounds; at least 1.
 int PenPixels(const CDC& dc, int width);
 
-/// How far a line with its markers and the mark reaches beyond the positions of its samples, in logical
-/// units.
+/// How far a dataset's line, markers and selection mark extend beyond the positions of its samples,
+/// in logical units.
 int LineReach(const CDataset& dataset);
 
-/// Draws the marker `type` of a sample with the pen and brush that are selected, and moves the current
-/// position to the sample if there is such a marker.
+/// Draws the marker of a sample at `x`, `y` (logical units) with the selected pen and brush. If `type` has a
+/// shape, the current position of `dc` moves to the sample.
 void DrawSampleMarker(CDC& dc, CDataset::MarkerType type, int x, int y);
 
-/// Draws the mark at `x`, where it can be seen in the plot; leaves `seriesPen` selected and the current
-/// position as it was.
-void DrawSelectionMark(CDC& dc, const LineSelectionMark& mark, CPen& seriesPen, int x);
+/// Draws the selection mark at `x` (logical units), unless it lies outside the plot. Afterwards `seriesPen`
+/// is selected and the current position is what it was.
+void DrawSelectionMark(CDC& dc, const LineSelectionMark& selectionMark, CPen& seriesPen, int x);
 
-/// Draws the samples `range` of a dataset as a line with markers and, at the marked sample, the mark. Samples
-/// without position leave a gap. Uses the NULL_BRUSH that the caller has selected; leaves `pen` selected.
-/// Every sample of the range is drawn: see ReducedLines.
+/// Draws the samples `range` of a dataset as a line with markers, and the selection mark at the marked
+/// sample. Samples without a position leave a gap. The caller has selected NULL_BRUSH; `pen` is selected
+/// afterwards. The cost grows with the number of samples: ReducedLines draws the same pixels faster
+/// where it can.
 void DrawSeriesLine(CDC& dc, const CDataset& dataset, CPen& pen, const XPositions& xPositions,
-                    const LinearMap& yMap, IndexRange range, const LineSelectionMark& mark);
+                    const LinearMap& yMap, IndexRange range, const LineSelectionMark& selectionMark);
 
 } // namespace kavlix

@@ -1,4 +1,4 @@
-// Lines for metafiles and printers: what is kept of a column, and where strokes are cut.
+// RecordedLine: which samples of a column are kept, and where strokes are cut.
 #include "graphctrl/RecordedLine.h"
 
 #include <algorithm>
@@ -13,8 +13,8 @@ namespace kavlix {
 
 namespace {
 
-/// Units between a chosen point and the edges of its pixel: players of metafiles compute positions in another
-/// arithmetic.
+/// Smallest distance of a cut from the edges of its pixel, in logical units. Programs that play a metafile
+/// round positions in their own way, and a cut must stay on its pixel.
 constexpr int kEdgeInset = 2;
 
 Point ToPixel(const CDC& dc, const Point& point) {
@@ -23,13 +23,14 @@ Point ToPixel(const CDC& dc, const Point& point) {
     return ToPoint(pixel);
 }
 
-/// `position` moved into the pixel that begins at edge `k`.
+/// `position` in logical units, moved into `pixel` if it lies outside.
 int Into(const PixelEdges& edges, int pixel, double position) {
     const int k = pixel - edges.Before() - 1;
     return TruncateToInt(std::round(position), edges.Edge(k) + kEdgeInset,
                          edges.Edge(k + 1) - 1 - kEdgeInset);
 }
 
+/// The middle of `pixel` in logical units.
 int Middle(const PixelEdges& edges, int pixel) {
     const int k = pixel - edges.Before() - 1;
     return (edges.Edge(k) + edges.Edge(k + 1)) / 2;
@@ -37,7 +38,7 @@ int Middle(const PixelEdges& edges, int pixel) {
 
 } // namespace
 
-/// Whether two samples beyond the same edges, whose pixels are not known, fall on one pixel.
+/// Whether two samples outside the pixel table fall on one pixel. GDI converts their positions.
 bool RecordedLine::IsSameFarPixel(const Sample& a, const Sample& b) const {
     const Point from = Place(a.x, a.value);
     const Point to = Place(b.x, b.value);
@@ -46,7 +47,7 @@ bool RecordedLine::IsSameFarPixel(const Sample& a, const Sample& b) const {
     return ToPixel(m_target.dc, from) == ToPixel(m_target.dc, to);
 }
 
-/// The first of the samples up to `last`, not before `first`, that all fall on the pixel of the last one.
+/// The sample from which on all samples up to `last` fall on the pixel of sample `last`; not before `first`.
 int RecordedLine::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first,
                                int last) const {
     const double value = values[last];
@@ -63,9 +64,9 @@ int RecordedLine::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& 
            1;
 }
 
-/// Adds the samples of a column, `count` values one behind another. False, nothing added, at gaps and where a
-/// pixel is not known.
-bool RecordedLine::AddRun(const double* values, int count) {
+/// Adds the samples of a column, an array of `count` values, by reading each. False, with nothing added, when
+/// a value is NaN or lies outside the pixel table.
+bool RecordedLine::AddRead(const double* values, int count) {
     if (!m_target.columns.HasPixel(m_pixel))
         return false;
     const auto rowOf = [&](int i) {
@@ -79,7 +80,7 @@ bool RecordedLine::AddRun(const double* values, int count) {
             firstRow = rowOf(first);
     if (first == count)
         return true;
-    // The first sample on the pixel of the one at `i`, which all up to it are on.
+    // The sample from which on all samples up to `i` fall on row `row`.
     const auto beginOfPixel = [&](int i, int row) {
         while (i > first && rowOf(i - 1) == row)
             --i;
@@ -97,7 +98,7 @@ bool RecordedLine::AddRun(const double* values, int count) {
             return false;
         Keep(values[first], firstRow);
         if (before > first) {
-            // Whichever comes first, the line goes over the same pixels.
+            // The order of lowest and highest does not matter: the strokes cover the same pixels.
             Keep(moves->low, beforeRow);
             Keep(moves->high, beforeRow);
             Keep(values[before], beforeRow);
@@ -107,10 +108,10 @@ bool RecordedLine::AddRun(const double* values, int count) {
     return true;
 }
 
-/// Adds a column without a look at each of its samples: the first and the last two that the pixel rule keeps,
-/// and the lowest and highest. False, nothing added, where that does not do: at gaps, and where the rule
-/// leaves an extreme out.
-bool RecordedLine::AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first, int last) {
+/// Adds the samples of a column without reading each: the first and the last two samples that the pixel rule
+/// keeps, and the lowest and highest. False, with nothing added, when a value is NaN, and when the pixel rule
+/// may leave out the lowest or highest.
+bool RecordedLine::AddSearched(const SampleStore& samples, SampleStore::Reader& values, int first, int last) {
     const Extremes extremes = samples.ExtremesOf(first, last);
     if (extremes.HasGap())
         return false;
@@ -121,7 +122,7 @@ bool RecordedLine::AddExtremes(const SampleStore& samples, SampleStore::Reader& 
     if (end == first)
         return false;
     const int before = BeginOfPixel(samples, values, first, end - 1);
-    // From the end on, since that is where the last two were looked for.
+    // Searches backwards: BeginOfPixel has just read the end of the column, which is in the cache.
     int highest = first - 1;
     int lowest = first - 1;
     for (int i = before; i >= first && (highest < first || lowest < first); --i) {
@@ -135,7 +136,7 @@ bool RecordedLine::AddExtremes(const SampleStore& samples, SampleStore::Reader& 
     if (!isKept(highest) || !isKept(lowest))
         return false;
     int taken = first;
-    while (!TakeUnlessOnKeptPixel(values[taken]))
+    while (!KeepUnlessOnKeptPixel(values[taken]))
         ++taken;
     for (const int i : {std::min(lowest, highest), std::max(lowest, highest), before, end}) {
         if (i > taken) {
@@ -155,8 +156,8 @@ void RecordedLine::Covered::Add(const Covered& other) {
     }
 }
 
-/// Whether the stroke between two samples of the column paints nothing new, neither at the size of the window
-/// nor at a pixel for each unit. If it does, it counts as drawn.
+/// Whether the strokes of the current column cover the stroke between two of its values, both in pixels and
+/// in logical units. If they do not, the stroke is added to the covered ranges: the caller draws it.
 bool RecordedLine::IsCovered(double from, double to) {
     if (m_x != m_coveredX) {
         m_coveredX = m_x;
@@ -169,7 +170,7 @@ bool RecordedLine::IsCovered(double from, double to) {
     const auto covered = [this](int a, int b) {
         if (!m_isThin)
             return Covered{std::min(a, b), std::max(a, b)};
-        return a < b ? Covered{a, b - 1} : Covered{b + 1, a}; // LineTo leaves the end out
+        return a < b ? Covered{a, b - 1} : Covered{b + 1, a}; // LineTo leaves out the last pixel
     };
     const Covered units = covered(begin.y, end.y);
     const Covered rows = covered(m_target.rows.PixelOf(begin.y), m_target.rows.PixelOf(end.y));
@@ -208,8 +209,9 @@ void RecordedLine::Keep(double value, int row) {
     m_isOpen = true;
 }
 
-/// Draws what the column has. The last stroke of a line is drawn as it is, since it leaves its last pixel
-/// out, at whatever size the picture is shown.
+/// Draws the pending samples of the column. With `isEnd`, the last stroke of the line keeps its beginning,
+/// the last but one sample: GDI leaves out the last pixel of a line, so the painted pixels depend on the
+/// direction of the last stroke.
 void RecordedLine::DrawColumn(bool isEnd) {
     if (m_count == 0)
         return;
@@ -230,7 +232,7 @@ void RecordedLine::Pause() {
     DrawPart();
     if (m_hasEnd && IsNear(m_end))
         m_points.push_back({m_end.x, m_end.y});
-    m_coveredX = kCoordinateLimit + 1; // the mark may be drawn over it
+    m_coveredX = kCoordinateLimit + 1; // the caller may draw the selection mark over the covered strokes
 }
 
 void RecordedLine::End() {
@@ -240,7 +242,7 @@ void RecordedLine::End() {
     m_isOpen = false;
 }
 
-/// The next stroke begins at `point`.
+/// Begins the next stroke at `point`.
 void RecordedLine::From(const Point& point) {
     if (m_hasEnd && point == m_end)
         return;
@@ -249,6 +251,7 @@ void RecordedLine::From(const Point& point) {
     To(point);
 }
 
+/// Draws a stroke to `point`, or begins the line there.
 void RecordedLine::To(const Point& point) {
     const bool isNear = IsNear(point);
     if (m_hasEnd && point == m_end)
@@ -265,7 +268,8 @@ void RecordedLine::To(const Point& point) {
     }
 }
 
-/// The line comes from far away or goes there.
+/// Cuts the stroke from m_end to `point`, at least one of which lies outside the pixel table, and
+/// adds what remains.
 void RecordedLine::ToFar(const Point& point) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return (from < edges.Begin() && to < edges.Begin()) || (from >= edges.End() && to >= edges.End());
@@ -291,7 +295,8 @@ void RecordedLine::ToFar(const Point& point) {
         DrawPart();
 }
 
-/// A point of `pixel` that lies on the line, or as near to it as that pixel has one.
+/// The point of `pixel` on the line between `from` and `to`, or near the line. `from`, `to` and the result
+/// in logical units.
 Point RecordedLine::OnLine(const Point& from, const Point& to, const Point& pixel) const {
     const double dx = static_cast<double>(to.x) - from.x;
     const double dy = static_cast<double>(to.y) - from.y;
@@ -302,8 +307,9 @@ Point RecordedLine::OnLine(const Point& from, const Point& to, const Point& pixe
     return {x, Into(m_target.rows, pixel.y, from.y + (x - from.x) * dy / dx)};
 }
 
-/// Cuts a stroke, given in pixels. The edges of a wide one keep their pixels where a single stroke that is
-/// cut within the margin has the same; otherwise they may be rounded otherwise.
+/// Stores the visible part of a stroke, given in pixels, in m_cut. For a wide pen with one end in the pixel
+/// table, NearerEnd finds a cut that keeps the pixels of the stroke's edges, if such a cut lies in the pixel
+/// table. Every other cut of a wide stroke may move its edges by a pixel.
 void RecordedLine::Cut(const Point& begin, const Point& end) {
     const bool comesFromFar = !HasPixel(begin.x, begin.y);
     if (!m_isThin && comesFromFar != !HasPixel(end.x, end.y)) {
@@ -317,11 +323,12 @@ void RecordedLine::Cut(const Point& begin, const Point& end) {
     CutStroke(PixelLine(begin, end), m_window, kMargin, m_cut);
 }
 
+/// Draws the pending polyline.
 void RecordedLine::DrawPart() {
     const int count = static_cast<int>(m_points.size());
     if (m_isThin && count > 1)
         m_target.dc.Polyline(m_points.data(), count);
-    // Where wide strokes are played, a whole polyline costs more than its strokes one by one.
+    // Playing a wide polyline takes longer than playing its strokes one by one.
     if (!m_isThin && count > 1) {
         m_target.dc.MoveTo(m_points.front());
         for (const POINT& point : m_points)

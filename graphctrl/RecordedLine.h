@@ -1,4 +1,4 @@
-// Lines for metafiles and printers.
+// Draws a line for a metafile or printer, which records strokes instead of painting pixels.
 #pragma once
 
 #include <afxwin.h>
@@ -14,55 +14,60 @@
 
 namespace kavlix {
 
-/// Has a DC that keeps strokes instead of pixels, as a metafile or a printer does, draw a line with the pen
-/// that is selected. Of the points that the pixel rule keeps (one that falls on the pixel of the point before
-/// is left out) the first, lowest, highest and last of each column of one logical unit are drawn: the same
-/// painted strokes at a bounded size, however the picture is enlarged. Strokes are cut near the plot, since a
-/// metafile's frame holds all that is drawn, seen or not.
+/// Draws one or more lines with the selected pen on a DC that records strokes. The number of strokes is
+/// bounded by the width of the plot, and the recorded picture may be enlarged.
+///
+/// Two rules choose the samples. Pixel rule: a sample on the same pixel as the sample before it is left out.
+/// Column rule: of the samples that the pixel rule keeps in one column of one logical unit, only the first,
+/// lowest, highest and last are drawn. Strokes are cut near the plot, because the frame of a metafile
+/// includes everything that is drawn.
 class RecordedLine {
 public:
-    /// Pixels that strokes go on beyond what can be seen.
+    /// Strokes are cut this many pixels outside the visible area.
     static constexpr int kMargin = 32;
 
-    /// `window` in pixels: what can be seen, and as far beyond it as the pen reaches. The ground's pixels are
-    /// those of the window and the margin round it. A line with markers goes on from each sample, since
-    /// drawing the marker moves there, and not from the last point that the pixel rule kept: its strokes are
-    /// drawn one by one, but for those that lie in what the same column of one unit has already.
+    /// `window` in pixels: the visible area, enlarged by the reach of the pen. The pixel table of `target`
+    /// covers the window and kMargin pixels round it.
+    ///
+    /// With markers, each stroke begins at the previous sample, even if the pixel rule has left that sample
+    /// out, because drawing its marker moves the current position there. The strokes are then drawn one by
+    /// one, except for those that the strokes of the same column cover already.
     RecordedLine(const LineTarget& target, const Rect& window, int penPixels, bool hasMarkers)
         : m_target(target), m_rows(target.yMap, target.rows), m_window(window), m_isThin(penPixels == 1),
           m_hasMarkers(hasMarkers) {}
 
-    /// The next sample, at `x`; a NaN is a gap.
+    /// Adds the next sample, at `x` (logical units). A NaN ends the line.
     void Add(double value, int x) {
         GoTo(x);
         if (value != value)
             End();
         else
-            TakeUnlessOnKeptPixel(value);
+            KeepUnlessOnKeptPixel(value);
     }
-    /// The next samples, all of a column of one unit.
+    /// Adds the next samples: those of `column`, which is one logical unit wide.
     void AddColumn(const SampleStore& samples, SampleStore::Reader& values, const PixelColumn& column) {
         GoTo(column.position);
         const int count = column.last - column.first + 1;
-        if (!m_hasMarkers && count >= kLongColumn) {
-            double copy[kRun];
-            if (count <= kRun ? AddRun(values.Run(column.first, column.last, copy), count)
-                              : AddExtremes(samples, values, column.first, column.last))
+        if (!m_hasMarkers && count >= kReducedColumn) {
+            double copy[kReadColumn];
+            if (count <= kReadColumn ? AddRead(values.Run(column.first, column.last, copy), count)
+                                     : AddSearched(samples, values, column.first, column.last))
                 return;
         }
         for (int i = column.first; i <= column.last; ++i)
             Add(values[i], column.position);
     }
-    /// Draws all that came. The line may go on.
+    /// Draws what is pending. The line may continue.
     void Pause();
-    /// The line ends.
+    /// Ends the line and draws what is pending. The next sample begins another line.
     void End();
 
 private:
-    /// A column's extremes are looked up when it has at least this many samples.
-    static constexpr int kLongColumn = 8;
-    /// A column of at most this many samples is read whole: the search among blocks takes longer.
-    static constexpr int kRun = 256;
+    /// Columns with at least this many samples are reduced before the rules are applied to each sample.
+    static constexpr int kReducedColumn = 8;
+    /// Of these, columns of at most this many samples are read sample by sample, which is faster than a
+    /// search for their extremes.
+    static constexpr int kReadColumn = 256;
 
     struct Sample {
         int x;
@@ -70,9 +75,9 @@ private:
     };
     struct Kept {
         double value;
-        int order; ///< among those of the column
+        int order; ///< number within the column, from 0
     };
-    /// Rows, or units, that the strokes of one column cover without a gap.
+    /// A range of rows, or of vertical logical units, that the strokes of one column cover without a gap.
     struct Covered {
         int first = 0;
         int last = -1;
@@ -92,7 +97,8 @@ private:
         m_x = x;
         m_pixel = m_target.columns.PixelOrSide(x);
     }
-    bool TakeUnlessOnKeptPixel(double value) {
+    /// Applies the pixel rule to a sample of the current column. Whether the sample was kept.
+    bool KeepUnlessOnKeptPixel(double value) {
         const int row = m_rows.Of(value);
         const bool isSame = m_isOpen && m_pixel == m_keptPixel && row == m_keptRow &&
                             (HasPixel(m_pixel, row) || IsSameFarPixel({m_keptX, m_last}, {m_x, value}));
@@ -101,11 +107,11 @@ private:
         m_sample = {m_x, value};
         return !isSame;
     }
-    bool AddRun(const double* values, int count);
-    bool AddExtremes(const SampleStore& samples, SampleStore::Reader& values, int first, int last);
+    bool AddRead(const double* values, int count);
+    bool AddSearched(const SampleStore& samples, SampleStore::Reader& values, int first, int last);
     int BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first, int last) const;
     bool IsSameFarPixel(const Sample& a, const Sample& b) const;
-    /// The same for two samples of the column that is being added.
+    /// Whether two samples of the current column fall on one pixel.
     bool IsSamePixel(double a, double b) const {
         const int row = m_rows.Of(a);
         return row == m_rows.Of(b) && (HasPixel(m_pixel, row) || IsSameFarPixel({m_x, a}, {m_x, b}));
@@ -127,14 +133,15 @@ private:
     bool m_isThin;
     bool m_hasMarkers;
 
-    int m_x = kCoordinateLimit + 1;        ///< of the last sample
-    int m_pixel = 0;                       ///< its column
-    Sample m_sample = {};                  ///< the last sample, kept or not; of a line with markers
-    int m_coveredX = kCoordinateLimit + 1; ///< the column of what is covered; of a line with markers
+    int m_x = kCoordinateLimit + 1;        ///< current column: position of the last sample, logical units
+    int m_pixel = 0;                       ///< pixel column of m_x
+    Sample m_sample = {};                  ///< the last sample, kept or not; used with markers only
+    int m_coveredX = kCoordinateLimit + 1; ///< column of the two covered ranges; used with markers only
     Covered m_coveredUnits;
     Covered m_coveredRows;
     bool m_isOpen = false;
-    // The points kept of a column of one unit; the lowest and highest of all but the last.
+    // The pending samples of the column m_keptX: how many, the first, the lowest and highest of all but the
+    // last, the last but one, and the last.
     int m_count = 0;
     int m_keptX = 0;
     double m_first = 0;
@@ -142,13 +149,13 @@ private:
     Kept m_high = {};
     double m_before = 0;
     double m_last = 0;
-    int m_keptPixel = 0; ///< of the last one
+    int m_keptPixel = 0; ///< pixel column of the last one
     int m_keptRow = 0;
 
     bool m_hasEnd = false;
-    Point m_end;                 ///< where the last stroke ended, logical units
-    std::vector<POINT> m_points; ///< of strokes to draw, logical units
-    std::vector<Point> m_cut;
+    Point m_end;                 ///< end of the last stroke, logical units
+    std::vector<POINT> m_points; ///< pending polyline, logical units
+    std::vector<Point> m_cut;    ///< what ToFar keeps of a stroke
 };
 
 } // namespace kavlix

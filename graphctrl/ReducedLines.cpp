@@ -1,3 +1,4 @@
+// ReducedLines: chooses the samples of each column and passes them on to DirectLine, GdiLine or RecordedLine.
 #include "graphctrl/ReducedLines.h"
 
 #include <algorithm>
@@ -19,10 +20,11 @@ namespace kavlix {
 
 namespace {
 
-/// So few samples of a column are drawn as they are.
+/// Columns of at most this many samples are drawn without a search for their extremes.
 constexpr int kFewSamples = 4;
-/// In columns of so many samples reading waits for memory, which is asked for some columns before.
-constexpr int kLongColumn = 256;
+/// Prefetch distance: columns with more samples than this miss the cache, so their blocks are prefetched
+/// `kAhead` columns early.
+constexpr int kPrefetchedColumn = 256;
 constexpr std::ptrdiff_t kAhead = 6;
 
 int CountOf(const CDataset& dataset) {
@@ -34,7 +36,8 @@ bool IsInside(const Rect& rect, const CRect& outer) {
            rect.bottom <= outer.bottom;
 }
 
-/// The units from where pixel `first` of `pixels` begins to where pixel `end` begins, counted from 0.
+/// One edge per logical unit, from the beginning of pixel `first` to the beginning of pixel `end` of
+/// `pixels`, which are counted from 0.
 PixelEdges UnitsOf(const PixelEdges& pixels, int first, int end) {
     std::vector<int> edges(static_cast<std::size_t>(pixels.Edge(end) - pixels.Edge(first)) + 1);
     std::iota(edges.begin(), edges.end(), pixels.Edge(first));
@@ -43,7 +46,7 @@ PixelEdges UnitsOf(const PixelEdges& pixels, int first, int end) {
 
 } // namespace
 
-/// One line while it is drawn.
+/// Draws one line.
 class ReducedLines::Line {
 public:
     Line(const ReducedLines& lines, const CDataset& dataset, const LinearMap& yMap)
@@ -55,8 +58,8 @@ public:
             m_recorded.emplace(Target(), ToRect(lines.m_plotWithReach), m_penPixels, HasShape(m_marker));
     }
 
-    /// Draws the samples `first` to `last`, with their markers. With `joined` the line comes from the sample
-    /// before.
+    /// Draws the samples `first` to `last` with their markers. With `joined`, the line begins at sample
+    /// `first` - 1.
     void Draw(int first, int last, bool joined) {
         if (m_recorded) {
             ForColumns(first, last, [this](const PixelColumn& column) {
@@ -64,7 +67,7 @@ public:
             });
             m_recorded->Pause();
         } else if (m_colour) {
-            ::GdiFlush(); // what was asked of GDI before comes first
+            ::GdiFlush(); // GDI must finish its pending calls before pixels are written directly
             DrawLine(DirectLine(Target(), *m_lines.m_raster, *m_colour), first, last, joined);
         } else {
             DrawLine(GdiLine(Target(), m_lines.m_plot, m_penPixels), first, last, joined);
@@ -73,9 +76,9 @@ public:
             ForColumns(first, last, [this](const PixelColumn& column) { DrawMarkers(column); });
     }
 
-    /// Draws samples whose positions follow no order, where strokes are recorded.
+    /// Draws samples whose positions are not monotonic, on a DC that records strokes.
     void RecordInAnyOrder(int first, int last) {
-        const auto isSeen = [&](int x, int y) {
+        const auto isVisible = [&](int x, int y) {
             return m_lines.m_groupColumns.Holds(x) && m_lines.m_groupRows.Holds(y);
         };
         for (int i = first; i <= last; ++i) {
@@ -87,7 +90,7 @@ public:
                 continue;
             }
             m_recorded->Add(value, *x);
-            if (HasShape(m_marker) && isSeen(*x, *y))
+            if (HasShape(m_marker) && isVisible(*x, *y))
                 DrawSampleMarker(m_dc, m_marker, *x, *y);
         }
         m_recorded->Pause();
@@ -98,14 +101,15 @@ private:
 
     LineTarget Target() const { return {m_dc, m_lines.m_columnEdges, m_lines.m_rowEdges, m_yMap}; }
 
-    /// Calls `visit(column)` for the columns that the samples `first` to `last` have, cut to these.
+    /// Calls `visit(column)` for each column with samples of `first` to `last`. The column holds
+    /// these samples only.
     template <class Visit> void ForColumns(int first, int last, Visit visit) const {
         const Columns end = m_lines.m_columns.end();
         for (Columns column = ColumnOf(first); column != end && column->first <= last; ++column)
             visit(Cut(*column, first, last));
     }
 
-    /// The first column with samples not before `first`.
+    /// The first column whose last sample is sample `first` or a later one.
     Columns ColumnOf(int first) const {
         return std::lower_bound(
             m_lines.m_columns.begin(), m_lines.m_columns.end(), first,
@@ -126,7 +130,7 @@ private:
         const Columns end = m_lines.m_columns.end();
         for (Columns column = ColumnOf(first); column != end && column->first <= last; ++column) {
             if (end - column > kAhead && column[kAhead].first <= last &&
-                column->last - column->first >= kLongColumn)
+                column->last - column->first >= kPrefetchedColumn)
                 m_samples.Prefetch(column[kAhead].first);
             AddColumn(sink, Cut(*column, first, last), last);
         }
@@ -154,9 +158,9 @@ private:
             AddWithoutGap(sink, column, end, extremes);
     }
 
-    /// Draws the parts of a column that its gaps leave.
+    /// Adds a column that has gaps, part by part.
     template <class Sink> void AddBetweenGaps(Sink& sink, const PixelColumn& column, int end) {
-        std::vector<int> gaps; // from the last one on
+        std::vector<int> gaps; // the last gap first
         for (int last = column.last; last >= column.first; --last) {
             last = m_samples.FindLast(
                 column.first, last, [](const Extremes& block) { return !block.HasGap(); },
@@ -182,7 +186,8 @@ private:
         AddSample(sink, first, column);
         int before = -1;
         if (last == end || std::isnan(m_values[last + 1])) {
-            // The line ends here, and its last pixel is not painted: how it came there matters.
+            // The line ends here. GDI leaves out the last pixel of a line, so the painted pixels depend on
+            // the direction of the last stroke: the beginning of that stroke must be added.
             before = LastElsewhere(first, last);
             if (before < first)
                 return;
@@ -195,8 +200,8 @@ private:
         AddSample(sink, last, column);
     }
 
-    /// The last sample of `first` to `last` on another row than sample `last`; `first` - 1 when there is
-    /// none.
+    /// The last of the samples `first` to `last` on another row than sample `last`; `first` - 1 if
+    /// there is none.
     int LastElsewhere(int first, int last) const {
         const int row = DeviceRow(m_samples[last]);
         return m_samples.FindLast(
@@ -216,14 +221,15 @@ private:
         return static_cast<int>(point.y);
     }
 
-    /// Draws the markers of a column, one for each row that has a sample.
+    /// Draws the markers of a column, one for each row that holds a sample.
     void DrawMarkers(const PixelColumn& column) {
         if (!m_lines.m_groupColumns.Holds(column.position))
             return;
         const PixelEdges& rows = m_lines.m_groupRows;
         const int count = rows.Count();
         m_rowDone.assign(static_cast<std::size_t>(count), false);
-        // Rows beyond the edges are done from the start: nothing of their markers can be seen.
+        // The first and last row that a block of values covers. Rows outside the table are left out, since
+        // their markers are invisible.
         const auto firstRow = [&](int y) {
             return y < rows.Begin() ? 0 : y >= rows.End() ? count : rows.Find(y);
         };
@@ -260,8 +266,8 @@ private:
     CDataset::MarkerType m_marker;
     LinearMap m_yMap;
     int m_penPixels;
-    std::optional<std::uint32_t> m_colour; ///< where pixels are painted directly
-    std::optional<RecordedLine> m_recorded;
+    std::optional<std::uint32_t> m_colour;  ///< set if DirectLine draws the line
+    std::optional<RecordedLine> m_recorded; ///< set if RecordedLine draws the line
     std::vector<bool> m_rowDone;
 };
 
@@ -302,13 +308,14 @@ ReducedLines::ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositio
 }
 
 bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMap, IndexRange range,
-                        const LineSelectionMark& mark) const {
+                        const LineSelectionMark& selectionMark) const {
     const bool isRecorded = m_kind == StrokeKind::Recorded;
     const bool isInOrder = !m_columns.empty() && yMap.IsMonotonic();
     if (m_kind == StrokeKind::Mixed || !(isInOrder || isRecorded) || range.IsEmpty() || range.first < 0 ||
         range.last >= CountOf(dataset) || pen.GetSafeHandle() == nullptr)
         return false;
-    // A marker moves with its sample by whole pixels only where all pixels are alike.
+    // Samples on one pixel share one marker, whose shape is the same for all of them only if all pixels
+    // are equally large.
     if (!isRecorded && HasShape(dataset.GetMarkerType()) &&
         (!m_columnEdges.IsRegular() || !m_rowEdges.IsRegular()))
         return false;
@@ -321,7 +328,7 @@ bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMa
         else
             line.RecordInAnyOrder(first, last);
     };
-    const int marked = mark.index;
+    const int marked = selectionMark.index;
     const bool hasMark =
         marked >= range.first && marked <= range.last && !std::isnan(dataset.Samples()[marked]);
     const std::optional<int> markX = hasMark ? m_xPositions.At(marked) : std::nullopt;
@@ -329,9 +336,10 @@ bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMa
         draw(range.first, range.last, false);
         return true;
     }
-    // What comes before the mark lies under it, what comes after lies over it.
+    // The selection mark covers the strokes up to the marked sample; the strokes from there on
+    // cover the mark.
     draw(range.first, marked - 1, false);
-    DrawSelectionMark(m_dc, mark, pen, *markX);
+    DrawSelectionMark(m_dc, selectionMark, pen, *markX);
     draw(marked, range.last, marked > range.first);
     return true;
 }

@@ -1,3 +1,4 @@
+// Draws the lines of a paint in time that grows with the number of pixels, not of samples.
 #pragma once
 
 #include <afxwin.h>
@@ -11,22 +12,22 @@
 
 namespace kavlix {
 
-/// Draws the lines of a paint at the cost of the pixels, not of the samples. On screen and in pictures in
-/// memory the result is that of DrawSeriesLine, pixel for pixel: of the samples in one pixel column only the
-/// first, lowest, highest and last can change a pixel. A metafile or printer gets the same strokes as from
-/// DrawSeriesLine by way of RecordedLine. Where that does not hold, Draw leaves the line to the caller.
+/// Draws the lines of one paint. On DCs that paint pixels, the result equals that of DrawSeriesLine in every
+/// pixel: of the samples in one pixel column only the first, lowest, highest and last can change a pixel. For
+/// metafiles and printers RecordedLine chooses the samples. Where neither is possible, Draw does nothing, and
+/// the caller draws the line with DrawSeriesLine.
 class ReducedLines {
 public:
-    /// @param plot in logical units; the DC is clipped to it
-    /// @param reach the largest LineReach of the lines
-    /// @param ranges the samples of each of `count` lines; empty ones are passed over
-    /// All references must outlive this object.
+    /// Groups the samples of all lines by pixel column. `plot` in logical units; `dc` is clipped to it.
+    /// `reach` is the largest LineReach of the lines. `ranges` holds the range of samples of each of `count`
+    /// lines; empty ranges are ignored. All references must outlive this object.
     ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositions& xPositions,
                  const IndexRange* ranges, int count);
 
-    /// Draws one line as DrawSeriesLine does. False, nothing drawn, when every sample must be drawn.
+    /// Draws one line and the selection mark as DrawSeriesLine does. False, with nothing drawn, when only
+    /// DrawSeriesLine can draw the line.
     bool Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMap, IndexRange range,
-              const LineSelectionMark& mark) const;
+              const LineSelectionMark& selectionMark) const;
 
 private:
     class Line;
@@ -34,15 +35,15 @@ private:
     CDC& m_dc;
     const XPositions& m_xPositions;
     CRect m_plot;          ///< device units, edges included
-    CRect m_plotWithReach; ///< device units: the plot, and as far beyond it as lines and markers reach
+    CRect m_plotWithReach; ///< device units: the plot, enlarged by the reach of lines and markers
     StrokeKind m_kind;
-    std::optional<PixelRaster> m_raster;
-    PixelEdges m_columnEdges;
+    std::optional<PixelRaster> m_raster; ///< the pixels of the DC, if they can be written directly
+    PixelEdges m_columnEdges;            ///< the pixel table
     PixelEdges m_rowEdges;
-    // The grid that points are grouped by: pixels, or logical units for metafiles and printers.
+    // The columns and rows that samples are grouped by: pixels, or logical units for metafiles and printers.
     PixelEdges m_groupColumns;
     PixelEdges m_groupRows;
-    std::vector<PixelColumn> m_columns; ///< of places; empty when positions must be walked
+    std::vector<PixelColumn> m_columns; ///< the samples by column; empty if X positions are not monotonic
 };
 
 } // namespace kavlix

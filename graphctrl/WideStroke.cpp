@@ -1,4 +1,4 @@
-// One stroke of a pen wider than a pixel, and how a stroke from far away is shortened.
+// WideStroke: how a stroke from far away is shortened.
 #include "graphctrl/WideStroke.h"
 
 #include "gdi/Mapping.h"
@@ -8,7 +8,7 @@
 namespace kavlix {
 
 WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
-    // In logical units, so that no stroke near the view is converted.
+    // The test is made in logical units, so that the common stroke near the view needs no conversion.
     const auto isBeyond = [](int place, int begin, int end) {
         return place < (begin - kFarFromView) * kUnitsPerPixel ||
                place > (end + kFarFromView) * kUnitsPerPixel;
@@ -17,7 +17,7 @@ WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
         return isBeyond(point.x, view.left, view.right) || isBeyond(point.y, view.top, view.bottom);
     };
     if (!isFar(from) && !isFar(to))
-        return Whole;
+        return Other;
     POINT ends[2] = {from, to};
     dc.LPtoDP(ends, 2);
     const Point first = ToPoint(ends[0]);
@@ -25,7 +25,7 @@ WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
     Point begin = first;
     Point end = last;
     if (!BringFarEndsNearer(begin, end, isFar(from), isFar(to), view, penPixels))
-        return Unseen;
+        return Invisible;
     const auto move = [&](POINT& place, const Point& old, const Point& pixel) {
         if (pixel == old)
             return;
@@ -35,7 +35,7 @@ WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
     const bool isBand = begin.x == end.x && !(begin == first) && !(end == last);
     move(from, first, begin);
     move(to, last, end);
-    return isBand ? Band : Whole;
+    return isBand ? Band : Other;
 }
 
 } // namespace kavlix

@@ -7,21 +7,23 @@
 
 namespace kavlix {
 
-/// A stroke, logical units, with a pen more than a pixel wide on a DC that paints pixels. GDI takes what a
-/// stroke's length takes, seen or not.
+/// A straight line between two points in logical units, for a pen wider than a pixel. GDI's time
+/// grows with the length of a stroke, also where the stroke is clipped away, so strokes from far away
+/// are shortened first.
 struct WideStroke {
     enum Kind {
-        Unseen, ///< it passes by
-        Band,   ///< upright, from beyond the view to beyond it, as all bands
-        Whole
+        Invisible, ///< paints no pixel of the view
+        Band,      ///< vertical, and both ends lie outside the view
+        Other
     };
 
     POINT from;
     POINT to;
 
-    /// Has a stroke from far away end nearer, so that it takes the same pixels of `view`, in device units,
-    /// which is as much larger than the clip as the pen reaches.
+    /// Moves far ends nearer in such a way that the stroke paints the same pixels of `view`, and returns the
+    /// kind of the stroke. `view` in device units: the clip region, enlarged by the reach of the pen.
     Kind Shorten(CDC& dc, const Rect& view, int penPixels);
+    /// Draws the stroke with the selected pen.
     void Draw(CDC& dc) const {
         dc.MoveTo(from);
         dc.LineTo(to);

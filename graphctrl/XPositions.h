@@ -8,18 +8,19 @@
 
 namespace kavlix {
 
-/// Where samples stand along the X axis.
+/// The X positions of samples.
 class XPositions {
 public:
     virtual ~XPositions() = default;
-    /// Position of sample `index` in logical units, none when it has none.
+    /// Position of sample `index` in logical units; none for a sample without a position.
     virtual std::optional<int> At(int index) const = 0;
-    /// The last sample of `range` up to which all have positions that run one way; none where a sample may
-    /// have no position, or where only a walk could tell.
+    /// The last sample of the monotonic run that begins with the first sample of `range`: from there to the
+    /// returned sample, positions never change direction. None when a sample may have no position, and when
+    /// finding the end would need a look at every sample.
     virtual std::optional<int> RunEnd(IndexRange range) const = 0;
 };
 
-/// Samples that stand at their index.
+/// Samples whose X is their index.
 class IndexPositions : public XPositions {
 public:
     explicit IndexPositions(const LinearMap& map) : m_map(map) {}

@@ -7,16 +7,16 @@
 
 namespace kavlix {
 
-/// Distance from a tick to the baseline of its label where the label is a single line, logical units.
+/// From a tick to the baseline of a label of one line, logical units.
 constexpr int kSingleLineShift = 100;
 
-/// Draws an X tick at `x` with the pen that is selected, which is `axisPen` at first. With a `gridPen` the
-/// grid line goes on from it up to `plotTop`; either pen may stay selected.
+/// Draws an X tick at `x` with `axisPen`, which the caller has selected before the first tick. A `gridPen`
+/// that is not null continues the tick as a grid line up to `plotTop`. Either pen may be selected afterwards.
 void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop);
 
-/// Draws the upright texts of an X tick at `x`, `y` being the top of the label band's text: `up` and `down`
-/// side by side, or `up` alone, broken in two when it is longer than `longest` characters. Text colour and
-/// font are the caller's.
+/// Draws the label of an X tick, which runs upwards and ends at `y` below the tick at `x`: the lines `up` and
+/// `down` side by side. With an empty `down`, an `up` of more than `longest` characters is broken into two
+/// lines. The caller has selected font and text colour.
 void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest);
 
 } // namespace kavlix

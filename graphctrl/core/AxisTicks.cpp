@@ -1,3 +1,4 @@
+// The values and texts of a value axis' ticks.
 #include "graphctrl/core/AxisTicks.h"
 
 #include <cmath>
@@ -16,7 +17,7 @@ ValueTicks::ValueTicks(double min, double max, int ticks, int exponent)
 
 namespace {
 
-/// GDI draws at most 8192 characters of a text; what would stand behind them is not made.
+/// GDI draws at most 8192 characters of a text, so more decimal places are useless.
 constexpr int kMostDecimals = 8192;
 
 int Precision(int decimals) {
@@ -26,7 +27,7 @@ int Precision(int decimals) {
 } // namespace
 
 std::string FormatTick(double value, int decimals) {
-    // Behind these no decimal place of a double is other than 0.
+    // A double has at most this many decimal places that are not 0. The rest is appended as zeros.
     constexpr int kRealDecimals = 1074;
     const int precision = std::min(Precision(decimals), kRealDecimals);
     const int length = std::snprintf(nullptr, 0, "%.*f", precision, value);
@@ -41,7 +42,7 @@ std::string FormatTick(double value, int decimals) {
 }
 
 int LongestTick(int decimals) {
-    constexpr int kBeforeDecimals = 311; // sign, 309 digits, point
+    constexpr int kBeforeDecimals = 311; // sign, 309 digits and decimal point of the largest double
     return kBeforeDecimals + Precision(decimals);
 }
 

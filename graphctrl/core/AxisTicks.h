@@ -1,3 +1,4 @@
+// The ticks of value axes, and the choice of labelled ticks along the X axis.
 #pragma once
 
 #include <algorithm>
@@ -8,11 +9,12 @@
 
 namespace kavlix {
 
-/// The values of a value axis' ticks, bottom to top: the range in equal steps, divided by a power of ten.
-/// Values are made by repeated addition, so that the last one carries the rounding of all steps.
+/// The values of the ticks of a value axis from bottom to top: the range in equal steps, divided by a power
+/// of ten. Each value is the last one plus a step, so rounding errors add up: the labels show that.
 class ValueTicks {
 public:
-    /// `ticks` at least 2. A power that is too small for a double leaves the values undivided.
+    /// `ticks` is the number of ticks, at least 2. The values are divided by 10 to the power of `exponent`,
+    /// unless that power is too small for a double.
     ValueTicks(double min, double max, int ticks, int exponent);
     double Value() const { return m_value; }
     void Next() { m_value += m_step; }
@@ -22,29 +24,30 @@ private:
     double m_step;
 };
 
-/// `value` as a tick label with that many decimal places, below 1 none. Decimals beyond what can be drawn are
-/// cut.
+/// `value` as a tick label with `decimals` decimal places. Negative numbers of places count as 0, numbers
+/// above 8192 as 8192.
 std::string FormatTick(double value, int decimals);
 
-/// The most characters that FormatTick makes with that many decimal places.
+/// Largest number of characters that FormatTick returns for `decimals` decimal places.
 int LongestTick(int decimals);
 
 /// Where labelled ticks may stand along the X axis, in logical units.
 struct TickRoom {
     int left = 0;   ///< where the axis begins
     int minGap = 0; ///< between the first two ticks
-    int from = 0;   ///< ticks left of here show nothing
-    int to = 0;     ///< nor do ticks right of here
+    int from = 0;   ///< left end of the visible part; ticks left of here are not made
+    int to = 0;     ///< right end of the visible part
 };
 
 /// Chooses which of many points along the X axis get a labelled tick.
 ///
-/// The first point does; the second is the first one at least `minGap` right of `left`; the number of points
-/// between these two is kept as the interval of all others. Of ticks in one device column only the first is
-/// made. Points are skipped by arithmetic, not visited.
+/// The first tick stands at the first point at or right of `room.left`, the second at the first point at
+/// least `room.minGap` right of `room.left`. The index of the second point is the interval of all further
+/// ticks. Of several ticks in one device column only the first is made. The points of ticks are found by
+/// binary search, so the cost grows with the number of ticks and not of points.
 ///
-/// `count` points have positions `xOf(0)`, `xOf(1)`, ... that never decrease; `nextColumn(x)` is the first
-/// position right of `x` in another device column; `emit(k, x)` is called for each tick that shows.
+/// The positions `xOf(0)`, `xOf(1)`, ... of the `count` points never decrease. `nextColumn(x)` is the first
+/// position right of `x` in another device column. `emit(k, x)` is called for each visible tick.
 template <class Position, class NextColumn, class Emit>
 void ThinTicks(int count, const TickRoom& room, Position xOf, NextColumn nextColumn, Emit emit) {
     const auto firstFrom = [&](std::int64_t begin, std::int64_t x) {
@@ -60,8 +63,8 @@ void ThinTicks(int count, const TickRoom& room, Position xOf, NextColumn nextCol
     };
 
     std::int64_t nextX = room.left;
-    std::int64_t free = nextX; // right of the column of the last tick made
-    std::int64_t interval = 0; // not known yet
+    std::int64_t free = nextX; // the first position right of the last tick's device column
+    std::int64_t interval = 0; // 0: still unknown
     std::int64_t k = firstFrom(0, nextX);
     while (k < count) {
         const int x = xOf(static_cast<int>(k));
@@ -79,14 +82,15 @@ void ThinTicks(int count, const TickRoom& room, Position xOf, NextColumn nextCol
             k += std::max<std::int64_t>((next - k + interval - 1) / interval, 1) * interval;
         } else {
             nextX += room.minGap;
-            // Without a gap the interval stays unknown: every point gets a tick, if its column is free.
+            // With a gap of 0 the interval stays unknown: every point in a new device column gets a tick.
             k = firstFrom(k + 1, room.minGap == 0 ? std::max<std::int64_t>(free, room.from) : nextX);
         }
     }
 }
 
-/// Calls `emit(index, x)` for each labelled tick of an axis whose points are the samples 0 to `count` - 1
-/// within min <= X <= max. None where samples have no position.
+/// Calls `emit(index, x)` for each labelled tick of an axis whose points are those of the samples 0
+/// to `count` - 1 with `min` <= X <= `max`. Makes no ticks when the samples have no positions, and
+/// when positions decrease.
 template <class NextColumn, class Emit> void LineTicks(const LinearMap& xMap, double min, double max,
                                                        int count, const TickRoom& room, NextColumn nextColumn,
                                                        Emit emit) {

@@ -1,3 +1,4 @@
+// The division of the plot's width among bars.
 #include "graphctrl/core/BarSlots.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The layout of a graph control.
 #include "graphctrl/core/GraphLayout.h"
 
 #include <cstdint>
@@ -8,20 +9,21 @@ namespace kavlix {
 
 namespace {
 
-constexpr int kLabelRows = 15;      // label rows per client height
-constexpr int kEdgeMargin = 200;    // between client edge and title, labels, legend
+constexpr int kLabelRows = 15; // a label row is 1/15 of the client area's height
+// Lengths in logical units.
+constexpr int kEdgeMargin = 200;    // from the edge of the client area to title, labels and legend
 constexpr int kTitleGap = 500;      // under the title
 constexpr int kCaptionGap = 400;    // under the caption band
-constexpr int kPlotBottomGap = 300; // plot bottom to X tick labels: axis strip and margin
-constexpr int kAxisStrip = 100;     // tick marks
-constexpr int kLegendGap = 400;     // legend and the margins beside it
-constexpr int kPlotInset = 30;      // the Y axis line itself
-constexpr int kLineTickRoom = 800;  // of an X label in the line styles
-constexpr int kBarTickRoom = 1000;  // of an X label under bars
-constexpr int kValueTickRoom = 500; // of a Y label
-constexpr int kSmallestSide = 51;   // of plot and legend
+constexpr int kPlotBottomGap = 300; // the X axis' strip of tick marks and the margin at the bottom
+constexpr int kAxisStrip = 100;     // width of a strip of tick marks
+constexpr int kLegendGap = 400;     // the margins left and right of the legend together
+constexpr int kPlotInset = 30;      // width of the Y axis' line
+constexpr int kLineTickRoom = 800;  // width of the plot per X tick in the line styles
+constexpr int kBarTickRoom = 1000;  // width of the plot per X tick in the bar style
+constexpr int kValueTickRoom = 500; // height of the plot per Y tick
+constexpr int kSmallestSide = 51;   // smallest side of a plot or legend that is drawn
 
-// Sums are made in 64 bits and saturate where they become coordinates.
+// Type of sums: a host may set any int as a length. The sums saturate when they become coordinates.
 using Wide = std::int64_t;
 
 Rect MakeRect(Wide left, Wide top, Wide right, Wide bottom) {

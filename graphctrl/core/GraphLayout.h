@@ -1,16 +1,17 @@
+// The layout of a graph control: where title, labels, axes, plot and legend stand.
 #pragma once
 
 #include "plot/Shapes.h"
 
 namespace kavlix {
 
-/// What the layout of a graph control depends on. Lengths in logical units, as the host set them.
+/// What the layout of a graph control depends on. Lengths in logical units; the host may have set any number.
 struct LayoutInput {
     Rect client;           ///< the client area
-    bool bars = false;     ///< drawn as bars, or in an unknown style: X labels need more room
+    bool bars = false;     ///< the bar style or an unknown style, in which an X tick takes more room
     bool twoAxis = false;  ///< the Y2 axis is shown
-    bool caption = false;  ///< a caption band instead of the title
-    int captionBottom = 0; ///< bottom of the caption band, as measured
+    bool caption = false;  ///< a caption band is shown instead of the title
+    int captionBottom = 0; ///< bottom of the caption band, whose height follows from its font
     bool showXLabel = true;
     bool showYLabel = true;
     bool showY2Label = true;
@@ -21,8 +22,7 @@ struct LayoutInput {
     int legendWidth = 0;
 };
 
-/// Where everything of a graph control stands, in logical units. Coordinates saturate, so sizes may be
-/// anything.
+/// The places of all parts of a graph control, in logical units. Coordinates saturate.
 struct GraphLayout {
     int labelUnit = 0; ///< height of a label row
     Rect title;
@@ -34,11 +34,11 @@ struct GraphLayout {
     Rect xAxis;
     Rect plot;
     Rect legend;
-    Point yLabel; ///< reference point of the label texts
+    Point yLabel; ///< reference point of the Y label's text
     Point y2Label;
     Point xLabel;
-    int xTicks = 0; ///< largest number of labelled ticks
-    int yTicks = 0;
+    int xTicks = 0; ///< largest number of labelled X ticks
+    int yTicks = 0; ///< number of ticks of each value axis
 
     /// Whether the plot is large enough for axes and data.
     bool HasPlot() const;
@@ -46,12 +46,13 @@ struct GraphLayout {
     bool HasLegend() const;
 };
 
-/// Height of a label row in a client area of the given height.
+/// Height of a label row in the client area `client`.
 int LabelUnit(const Rect& client);
 
 /// Bottom of the title area when the title is plain text.
 int TitleBottom(const Rect& client);
 
+/// Lays out a graph control.
 GraphLayout ComputeLayout(const LayoutInput& input);
 
 } // namespace kavlix

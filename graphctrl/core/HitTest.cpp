@@ -1,3 +1,4 @@
+// Which sample a point belongs to.
 #include "graphctrl/core/HitTest.h"
 
 #include <cstdint>
@@ -9,15 +10,16 @@ namespace kavlix {
 
 namespace {
 
-constexpr long long kTooFar = 1000000;
+constexpr long long kTooFar = 1000000; // logical units
 
-/// The slots, and the samples in them by the first dataset that has samples; false when there is no bar.
+/// Stores the slots, and the samples of the first dataset with samples that have a slot. False when there
+/// is no bar.
 bool FindGroups(const int* sizes, int sizeCount, double min, double max, const Rect& plot, BarSlots& slots,
                 IndexRange& indices) {
     if (!ComputeBarSlots(sizes, sizeCount, min, max, plot.Width(), slots) || slots.barWidth == 0)
         return false;
     int dataset = 0;
-    while (sizes[dataset] <= 0) // slots were found, so one has samples
+    while (sizes[dataset] <= 0) // ends: where there are slots, a dataset has samples
         ++dataset;
     indices = IndicesInSlots(sizes[dataset], min, slots);
     return true;
@@ -26,7 +28,7 @@ bool FindGroups(const int* sizes, int sizeCount, double min, double max, const R
 } // namespace
 
 int NearestIndex(const LinearMap& xMap, int count, int x, long long& distance) {
-    if (count <= 0 || !xMap.Position(0)) // where one sample has a position, all have
+    if (count <= 0 || !xMap.Position(0)) // either all samples have positions or none
         return -1;
     const auto at = [&](int index) { return xMap.Position(index).value_or(xMap.Edge()); };
     const int nearest = NearestInOrder(0, count - 1, xMap.IsAscending(), x, at);

@@ -1,3 +1,4 @@
+// Which sample a point belongs to, and where a group of bars stands.
 #pragma once
 
 #include "graphctrl/core/BarSlots.h"
@@ -5,20 +6,22 @@
 
 namespace kavlix {
 
-/// The sample, of `count`, whose position lies nearest to `x`, the first of equally near ones; `distance`
-/// receives how far away it is. -1, `distance` untouched, when samples have no position. Visits no more
-/// samples than a binary search does.
+/// The sample of the samples 0 to `count` - 1 whose position is nearest to `x`; of equally near ones the
+/// first. Stores the distance in `distance`. -1, with `distance` unchanged, when there is no sample or the
+/// samples have no positions. The search is binary.
 int NearestIndex(const LinearMap& xMap, int count, int x, long long& distance);
 
-/// As above over several datasets: the first whose nearest sample is less than 1,000,000 logical units away
-/// decides. -1 when there is none.
+/// The nearest sample of the first dataset whose nearest sample is less than 1,000,000 logical units away
+/// from `x`; -1 if there is none. `sizes` holds the number of samples of each of `sizeCount` datasets.
 int NearestIndex(const LinearMap& xMap, const int* sizes, int sizeCount, int x);
 
-/// The sample whose group of bars, widened by half a bar on either side, holds `point`; -1 for none. The
-/// first dataset with samples decides.
+/// The sample whose group of bars, widened by half a bar on either side, holds `point` (logical units);
+/// -1 for none. The groups are those of the first dataset with samples. `sizes`, `min` and `max` are
+/// those of ComputeBarSlots.
 int BarGroupAt(const int* sizes, int sizeCount, double min, double max, const Rect& plot, Point point);
 
-/// The middle of the group of bars of sample `index`, in logical units; none when it has no visible group.
+/// The X position of the middle of the group of bars of sample `index`, in logical units; none if the sample
+/// has no visible group.
 std::optional<int> BarGroupMiddle(const int* sizes, int sizeCount, double min, double max, const Rect& plot,
                                   int index);
 

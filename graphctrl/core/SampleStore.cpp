@@ -1,3 +1,4 @@
+// SampleStore: memory of the chunks, and the extremes of blocks, halves and chunks.
 #include "graphctrl/core/SampleStore.h"
 
 #include <algorithm>
@@ -19,7 +20,8 @@ constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 #ifdef KAVLIX_TWO_AT_ONCE
 
-/// Gathers extremes, two numbers with each instruction. Its minimum of a NaN and a number may be either.
+/// Finds the lowest and highest of many values, two values per instruction. The processor's minimum of a NaN
+/// and a number may be either, so NaNs are recorded apart.
 class ExtremesAccumulator {
 public:
     void Add(const double* values, std::int64_t count) {
@@ -65,7 +67,7 @@ private:
 
 #else
 
-/// Gathers extremes.
+/// Finds the lowest and highest of many values.
 class ExtremesAccumulator {
 public:
     void Add(const double* values, std::int64_t count) {
@@ -95,7 +97,7 @@ private:
 
 void PrefetchMemory(const void* begin, const void* end) {
 #if defined(__GNUC__)
-    constexpr std::ptrdiff_t kLine = 64;
+    constexpr std::ptrdiff_t kLine = 64; // bytes of a cache line
     for (auto at = static_cast<const char*>(begin); at < end; at += kLine)
         __builtin_prefetch(at);
 #else
@@ -130,7 +132,7 @@ void SampleStore::AddChunk(std::int64_t start) {
             m_spareValues.reset(static_cast<double*>(allocate(kChunk * kValue)));
         memory.values = std::move(m_spareValues);
         memory.blocks = m_summaries.back().get() + kChunksPerSummary +
-                        PlaceInSummary(start) * kExtremesPerChunk + kHalves;
+                        PlaceInSummary(start) * kExtremesPerChunk + kHalvesPerChunk;
     }
     m_chunks.push_back(std::move(memory));
     m_lastChunkStart = start;
@@ -147,7 +149,8 @@ void SampleStore::AppendToNextBlock(double value) {
     const bool isBlockHere = !m_chunks.empty();
     if (!isBlockHere || LastChunk().End() == end)
         AddChunk(end);
-    // A block is complete when the next one begins.
+    // Appending within a block does not update its extremes. They are computed once, when the
+    // next block begins.
     if (isBlockHere && m_summarized < end)
         SummarizeBlock(end - kBlock);
     m_summarized = end;
@@ -172,7 +175,7 @@ void SampleStore::SummarizeBlock(std::int64_t blockStart) {
     if (behind != chunk.End())
         return;
     ExtremesAccumulator whole;
-    whole.Add(&chunk.HalfExtremes(chunk.start), kHalves);
+    whole.Add(&chunk.HalfExtremes(chunk.start), kHalvesPerChunk);
     *WholeExtremes(chunk.start) = whole.Result();
 }
 
@@ -214,7 +217,7 @@ void SampleStore::RemoveInside(int first, int count) {
            m_firstSummary + static_cast<std::int64_t>(m_summaries.size()) - 1 > lastSummary)
         m_summaries.pop_back();
 
-    // Value `first` - 1 is still there, and its chunk.
+    // `first` is not 0, so value `first` - 1 and its chunk still exist.
     const std::int64_t blockStart = BlockStart(end - 1);
     m_next = place(end - 1) + 1;
     m_blockEnd = place(blockStart) + kBlock;
@@ -242,7 +245,7 @@ Extremes SampleStore::ExtremesOf(int first, int last) const {
     const std::int64_t wholesEnd = std::min(end, m_summarized) / kChunk * kChunk;
     while (next < end && !all.HasGap()) {
         if (next >= kChunk && next % kChunk == 0 && next < wholesEnd) {
-            // Whole chunks, as many as lie in one summary.
+            // Adds all whole chunks whose extremes lie one behind another in one summary.
             const std::int64_t chunks =
                 std::min(kChunksPerSummary - PlaceInSummary(next), (wholesEnd - next) / kChunk);
             all.Add(WholeExtremes(next), chunks);
@@ -254,7 +257,8 @@ Extremes SampleStore::ExtremesOf(int first, int last) const {
         const auto addBlocks = [&](std::int64_t from, std::int64_t to) {
             all.Add(&chunk.BlockExtremes(from), (to - from) / kBlock);
         };
-        // Values up to the first whole block, blocks up to the first whole half, and so back.
+        // Adds values up to the first whole block, blocks up to the first whole half, halves, blocks,
+        // and values again.
         const std::int64_t blocks = std::min((next + kBlock - 1) / kBlock * kBlock, stop);
         const std::int64_t blocksEnd = std::max(blocks, BlockStart(std::min(stop, m_summarized)));
         all.Add(chunk.Place(next), blocks - next);

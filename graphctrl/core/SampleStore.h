@@ -1,3 +1,4 @@
+// SampleStore: the values of a dataset, with the extremes of ranges of values.
 #pragma once
 
 #include <cstddef>
@@ -10,14 +11,16 @@
 
 namespace kavlix {
 
-/// The values of a series in order of arrival. Appending never moves what is stored; dropping from the head
-/// costs what is dropped. Positions along the X axis are the indices and take no storage.
+/// The values of a dataset in order of arrival. Appending never moves stored values. Removing from the head
+/// takes time in proportion to the number of values removed.
 ///
-/// Values lie in chunks of a fixed size, the first few of which are smaller. With every 32 values goes their
-/// lowest and highest, with every half of a chunk and with every chunk, so that the extremes of a long
-/// range are found without a walk over it; they lie apart from the values, so that such a search passes over
-/// little memory. All that is aligned to the number of a value since the last Clear, which dropping from the
-/// head does not change.
+/// Values lie in chunks of a fixed size; the first chunks are smaller. The store keeps the extremes (lowest
+/// and highest) of every block of 32 values, of every half chunk, and of every chunk, so that the extremes of
+/// a long range are found without reading all values. The extremes lie apart from the values, so that such a
+/// search touches little memory.
+///
+/// A value's number counts the values since the last Clear; removing from the head does not change the
+/// numbers. Blocks, halves and chunks are aligned to these numbers.
 class SampleStore {
     struct Chunk;
 
@@ -26,17 +29,18 @@ public:
     SampleStore(const SampleStore&) = delete;
     SampleStore& operator=(const SampleStore&) = delete;
 
-    /// Number of values; never above what an int counts.
+    /// Number of values.
     int Size() const { return static_cast<int>(End() - m_begin); }
     /// Value `i`, which must exist.
     double operator[](int i) const {
         const std::int64_t number = m_begin + i;
         return ChunkOf(number).Value(number);
     }
+    /// Whether there is a value `i`.
     bool Has(int i) const { return i >= 0 && i < Size(); }
 
-    /// Reads values that lie near one another faster than the store's own operator. The store must not change
-    /// meanwhile.
+    /// Reads values near one another faster than the store's operator does, because it keeps the last chunk.
+    /// The store must not change during the reader's lifetime.
     class Reader {
     public:
         explicit Reader(const SampleStore& store) : m_store(store) {}
@@ -46,8 +50,8 @@ public:
                 Enter(m_store.ChunkOf(number));
             return m_values[number - m_start];
         }
-        /// The values `first` to `last`, one behind another: where the store has them, or in `copy`, which
-        /// has room for all of them, where they lie in several chunks.
+        /// The values `first` to `last` as an array: in the store itself if they lie in one chunk, else
+        /// copied to `copy`, which must have room for all.
         const double* Run(int first, int last, double* copy) {
             static_cast<void>((*this)[first]);
             const std::int64_t place = m_store.m_begin + first - m_start;
@@ -71,20 +75,21 @@ public:
         std::uint64_t m_size = 0;
     };
 
-    /// Throws std::bad_alloc, changing nothing, when memory or the range of an int is exhausted.
+    /// Appends a value. Throws std::bad_alloc and changes nothing when memory runs out, and when the number
+    /// of values would exceed the range of an int.
     void Append(double value) {
         if (!TryAppend(value))
             AppendToNextBlock(value);
     }
-    /// Appends where that takes no more than a store; false, nothing stored, where it takes more.
+    /// Appends a value if the last block has room. False, with nothing stored, when the block is full.
     bool TryAppend(double value) {
         if (m_next == m_blockEnd)
             return false;
         *m_next++ = value;
         return true;
     }
-    /// Removes `count` values from value `first` on, which must exist; a count beyond the end removes up to
-    /// the end, one below 1 none.
+    /// Removes `count` values, the first of which is value `first`, which must exist. A count beyond the end
+    /// removes all up to the end, a count below 1 none.
     void Remove(int first, int count) {
         const int rest = Size() - first;
         if (count > rest)
@@ -96,17 +101,16 @@ public:
         else
             RemoveInside(first, count);
     }
-    /// Removes all values and gives their memory back.
+    /// Removes all values and frees their memory.
     void Clear();
 
-    /// Lowest and highest of the values `first` to `last`, which must exist, at least one.
+    /// The extremes of the values `first` to `last`, at least one value, all of which must exist.
     Extremes ExtremesOf(int first, int last) const;
-    /// Asks for the memory that ExtremesOf reads next to value `i`, which must exist, ahead of its use.
+    /// Prefetches the memory that ExtremesOf reads around value `i`, which must exist.
     void Prefetch(int i) const;
 
-    /// The last one of the values `first` to `last` for which `isWanted(value)`; `first` - 1 when there is
-    /// none. Whole blocks are passed over when `isUnwanted(extremes)` knows that none of their values is
-    /// wanted.
+    /// The last of the values `first` to `last` for which `isWanted(value)`; `first` - 1 if there is none.
+    /// When `isUnwanted(extremes)` returns true for a block or half, the search skips all its values.
     template <class IsUnwanted, class IsWanted>
     int FindLast(int first, int last, IsUnwanted isUnwanted, IsWanted isWanted) const {
         std::int64_t end = m_begin + last + 1;
@@ -132,8 +136,8 @@ public:
         return first - 1;
     }
 
-    /// Calls `visit(value)` for the values `first` to `last` in order. Whole blocks are passed over when
-    /// `isDone(extremes)`.
+    /// Calls `visit(value)` for the values `first` to `last` in order. When `isDone(extremes)` returns true
+    /// for a block or half, its values are skipped.
     template <class IsDone, class Visit>
     void VisitUnless(int first, int last, IsDone isDone, Visit visit) const {
         std::int64_t next = m_begin + first;
@@ -157,29 +161,32 @@ public:
     }
 
 private:
-    static constexpr std::int64_t kBlock = 32;
-    static constexpr std::int64_t kHalf = 512;
-    static constexpr std::int64_t kChunk = 1024;
-    static constexpr std::int64_t kSmallChunks = 5; // 32, 32, 64, 128, ... values up to a whole chunk
-    static constexpr std::int64_t kHalves = kChunk / kHalf;
+    static constexpr std::int64_t kBlock = 32;   ///< values of a block
+    static constexpr std::int64_t kHalf = 512;   ///< values of half a chunk
+    static constexpr std::int64_t kChunk = 1024; ///< values of a chunk
+    /// The first 1024 values lie in small chunks of 32, 32, 64, 128, 256 and 512 values, numbered 0 to 5.
+    static constexpr std::int64_t kLastSmallChunk = 5;
+    static constexpr std::int64_t kHalvesPerChunk = kChunk / kHalf;
     static constexpr std::int64_t kChunksPerSummary = 16;
-    static constexpr std::int64_t kExtremesPerChunk = kHalves + kChunk / kBlock;
+    static constexpr std::int64_t kExtremesPerChunk = kHalvesPerChunk + kChunk / kBlock;
 
     struct Release {
         void operator()(void* memory) const { ::operator delete(memory); }
     };
-    /// The memory of a chunk.
     using Values = std::unique_ptr<double, Release>;
+    /// The memory of a chunk. A small chunk has the extremes of its blocks behind its values; those of a
+    /// large chunk lie in a summary.
     struct Memory {
         Values values;
-        Extremes* blocks; ///< in a summary; behind the values of a small chunk
+        Extremes* blocks; ///< extremes of the blocks
     };
-    /// What lies where in a chunk.
+    /// A chunk, computed from its Memory and the number of a value. Only large chunks have the extremes of
+    /// halves, which lie directly before those of the blocks.
     struct Chunk {
         double* values;
-        Extremes* blocks;   ///< in a large chunk, those of its halves lie before them
+        Extremes* blocks;
         std::int64_t start; ///< number of the first value
-        std::int64_t size;
+        std::int64_t size;  ///< number of values that fit
 
         bool HasHalves() const { return size == kChunk; }
         std::int64_t End() const { return start + size; }
@@ -189,16 +196,18 @@ private:
             return blocks[(blockStart - start) / kBlock];
         }
         Extremes& HalfExtremes(std::int64_t halfStart) const {
-            return blocks[(halfStart - start) / kHalf - kHalves];
+            return blocks[(halfStart - start) / kHalf - kHalvesPerChunk];
         }
     };
-    /// The extremes of some chunks, followed by those of the halves and blocks of each.
+    /// The extremes of kChunksPerSummary large chunks, followed by the extremes of the halves and
+    /// blocks of each.
     using Summary = std::unique_ptr<Extremes, Release>;
 
     static std::int64_t BlockStart(std::int64_t number) { return number & ~(kBlock - 1); }
+    /// Number of the chunk that holds value `number`. Chunks are counted from the last Clear on.
     static std::int64_t ChunkNumber(std::int64_t number) {
         if (number >= kChunk)
-            return kSmallChunks + number / kChunk;
+            return kLastSmallChunk + number / kChunk;
         std::int64_t chunk = 0;
         for (std::int64_t blocks = number / kBlock; blocks != 0; blocks /= 2)
             ++chunk;
@@ -220,14 +229,14 @@ private:
 
     void AppendToNextBlock(double value);
     void AddChunk(std::int64_t start);
-    /// Which summary serves the chunk that begins at number `start`; -1 for a small chunk.
+    /// Number of the summary for the chunk that begins at number `start`; -1 for a small chunk.
     static std::int64_t SummaryOf(std::int64_t start) {
         return start < kChunk ? -1 : (start / kChunk - 1) / kChunksPerSummary;
     }
     static std::int64_t PlaceInSummary(std::int64_t start) {
         return (start / kChunk - 1) % kChunksPerSummary;
     }
-    /// Where the extremes lie of the large chunk that begins at number `start`; those of the next ones follow
+    /// The extremes of the large chunk that begins at number `start`. The extremes of the next chunks follow,
     /// up to the end of the summary.
     Extremes* WholeExtremes(std::int64_t start) const {
         const auto summary = static_cast<std::size_t>(SummaryOf(start) - m_firstSummary);
@@ -242,19 +251,18 @@ private:
     void RemoveInside(int first, int count);
     void SummarizeBlock(std::int64_t blockStart);
 
-    // Values are numbered from the last Clear on.
     std::int64_t m_begin = 0;          ///< number of value 0
     double* m_next = nullptr;          ///< place of the next value
-    double* m_blockEnd = nullptr;      ///< end of the block that is being filled
-    std::int64_t m_blockEndNumber = 0; ///< number that belongs to it
-    std::int64_t m_summarized = 0;     ///< blocks up to here have their extremes
-    std::int64_t m_firstChunkEnd = 0;
-    std::int64_t m_lastChunkStart = 0;
-    std::int64_t m_firstChunk = 0;
-    std::int64_t m_firstSummary = 0;
+    double* m_blockEnd = nullptr;      ///< end of the last block
+    std::int64_t m_blockEndNumber = 0; ///< number of the first value behind the last block
+    std::int64_t m_summarized = 0;     ///< extremes of blocks, halves and chunks are valid up to this number
+    std::int64_t m_firstChunkEnd = 0;  ///< number of the first value behind the first chunk
+    std::int64_t m_lastChunkStart = 0; ///< number of the first value of the last chunk
+    std::int64_t m_firstChunk = 0;     ///< number of the first chunk that is stored
+    std::int64_t m_firstSummary = 0;   ///< number of the first summary that is stored
     std::deque<Memory> m_chunks;
     std::deque<Summary> m_summaries;
-    // The last ones dropped, for the next ones needed: a heap takes long now and then.
+    // Free lists of one element each. Reusing removed chunks avoids occasional slow heap allocations.
     Values m_spareValues;
     Summary m_spareSummary;
 };

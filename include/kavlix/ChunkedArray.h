@@ -1,3 +1,4 @@
+// ChunkedArray: an array in chunks of a fixed size, for samples and labels that arrive one by one.
 #pragma once
 
 #include <cstddef>
@@ -7,10 +8,13 @@
 
 namespace kavlix {
 
-/// Elements in order of arrival, in pieces of `ChunkSize`. Adding never moves what is stored, and removing
-/// from the head costs what is removed. Of a deque the same is true but for the table of its small pieces,
-/// which it copies as it grows: milliseconds with ten million elements. Only adding asks for memory: an empty
-/// object holds none, and removing, clearing, moving and swapping cannot fail.
+/// Elements in order of arrival, in chunks of `ChunkSize` elements. Adding never moves stored elements.
+/// Removing from the head takes time in proportion to the number of elements removed. Compared with
+/// std::deque, larger chunks keep the table of chunks short: a growing std::deque copies its table, which
+/// takes milliseconds at ten million elements.
+///
+/// Only adding allocates memory, and an empty object holds none. Removing, clearing, moving and
+/// swapping cannot fail.
 template <class T, std::size_t ChunkSize> class ChunkedArray {
 public:
     ChunkedArray() = default;
@@ -33,7 +37,7 @@ public:
     /// The newest element, which must exist.
     const T& Back() const { return (*this)[m_size - 1]; }
 
-    /// Changes nothing when memory runs out and `new` throws.
+    /// Appends `value`. When an allocation fails, its exception leaves and nothing has changed.
     void Add(T value) {
         const std::size_t place = m_head + m_size;
         if (!m_chunks)
@@ -63,7 +67,7 @@ public:
         if (m_chunks)
             m_chunks->resize((m_head + m_size + ChunkSize - 1) / ChunkSize);
     }
-    /// Removes all elements and gives their memory back.
+    /// Removes all elements and frees their memory.
     void Clear() {
         m_chunks.reset();
         m_head = m_size = 0;
@@ -81,8 +85,8 @@ private:
 
     using Table = std::deque<std::unique_ptr<Chunk>>;
 
-    std::unique_ptr<Table> m_chunks; ///< none before the first element: an empty deque has blocks of its own
-    std::size_t m_head = 0;          ///< elements of the first piece that were removed
+    std::unique_ptr<Table> m_chunks; ///< null while empty, since even an empty std::deque allocates memory
+    std::size_t m_head = 0;          ///< number of elements removed from the first chunk
     std::size_t m_size = 0;
 };
 

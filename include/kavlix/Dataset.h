@@ -18,7 +18,8 @@ class SampleStore;
 /// The control owns its datasets, a fixed array. Nothing here repaints.
 class KAVLIX_API CDataset : public CObject {
 public:
-    /// Marker drawn at each point of a line, 90 logical units (3 pixels) to every side. Other values draw none.
+    /// Marker drawn at each point of a line, 90 logical units (3 pixels) to every side. Other
+    /// values draw none.
     enum MarkerType : int {
         MarkerNone = 0,
         MarkerSquare = 1,   ///< outline of a square
@@ -44,15 +45,15 @@ public:
     /// Appends the sample `y`. Results as those of AddData.
     BOOL AddYData(double y);
 
-    /// Stores X and value of sample `i` in `x` and `y`. Result 0, outputs unchanged, when there is no sample
-    /// `i`.
+    /// Stores X and value of sample `i` in `x` and `y`. Result 0, outputs unchanged, when there is
+    /// no sample `i`.
     BOOL GetData(int i, double& x, double& y) const;
     /// Stores the value of sample `i` in `y`. Result 0, `y` unchanged, when there is no sample `i`.
     BOOL GetYData(int i, double& y) const;
 
-    /// Removes `count` samples, the first of which is sample `i`. A count beyond the end removes all up to the
-    /// end, a count below 1 none. Result 0 when there is no sample `i`. Removing from the head takes time in
-    /// proportion to `count`, however many samples remain.
+    /// Removes `count` samples, the first of which is sample `i`. A count beyond the end removes all up to
+    /// the end, a count below 1 none. Result 0 when there is no sample `i`. Removing from the head takes time
+    /// in proportion to `count`, however many samples remain.
     BOOL RemoveYData(int i, int count);
     /// Removes all samples but the first. An empty series gets one sample 0, which can fail as AddData does.
     BOOL KeepOne();

@@ -1,7 +1,7 @@
+// KAVLIX_API: the linkage of every exported declaration.
 #pragma once
 
-/// Linkage of everything Kavlix offers: exported while Kavlix.dll itself is built (KAVLIX_BUILD), imported by
-/// hosts.
+// Building Kavlix.dll (KAVLIX_BUILD) exports the declarations; a host imports them.
 #if defined(KAVLIX_BUILD)
 #define KAVLIX_API __declspec(dllexport)
 #else

@@ -22,26 +22,26 @@ struct IndexRange;
 struct TickRoom;
 } // namespace kavlix
 
-/// A graph of up to 13 datasets: lines with markers, grouped bars, or two lines against two value axes. Around
-/// the plot stand a title or caption band, axis labels, tick labels and a legend. The selection mark shows one
-/// sample, which the user chooses by mouse or keyboard.
+/// A graph of up to 13 datasets: lines with markers, grouped bars, or two lines against two value axes.
+/// Around the plot stand a title or caption band, axis labels, tick labels and a legend. The selection mark
+/// shows one sample, which the user chooses by mouse or keyboard.
 ///
 /// Window: create the control with `CWnd::Create("MFCGraphCtrl", ...)`, or bind a dialog item with
-/// DDX_GraphControl. Use the control on the thread that owns its window. A dialog item may be of another window
-/// class, such as STATIC or BUTTON. The procedure of that class then receives the messages of creation and
-/// destruction only; the control paints the item and handles its input.
+/// DDX_GraphControl. Use the control on the thread that owns its window. A dialog item may be of another
+/// window class, such as STATIC or BUTTON. The procedure of that class then receives the messages of creation
+/// and destruction only; the control paints the item and handles its input.
 ///
 /// Units: a logical unit is 1/30 pixel in both directions, at every size of the window; y grows downwards.
-/// Colours are COLORREF. Values are doubles. Every conversion of a value to a position truncates toward zero
-/// and saturates.
+/// Colours are COLORREF. Values are doubles. Every conversion of a value to a position truncates toward
+/// zero and saturates.
 ///
 /// Repainting: the setters and the operations on data store their arguments and invalidate nothing.
 /// RemoveHeadData and SetSelectionMarkPos are the exceptions. Call Redraw after changing properties and
 /// RedrawData after adding samples. Without a window everything works except painting.
 ///
-/// Values without a position: a NaN sample leaves a gap in its line and gets no bar. An infinite sample is drawn
-/// far outside the plot. Datasets whose visible range has the width 0 are not drawn. A range with its minimum
-/// above its maximum turns a value axis upside down; such an X range shows neither ticks nor bars.
+/// Values without a position: a NaN sample leaves a gap in its line and gets no bar. An infinite sample is
+/// drawn far outside the plot. Datasets whose visible range has the width 0 are not drawn. A range with its
+/// minimum above its maximum turns a value axis upside down; such an X range shows neither ticks nor bars.
 class KAVLIX_API CGraphCtrl : public CWnd {
 public:
     /// How the datasets are drawn. With other values the control draws frame, axes and labels, but no data.
@@ -61,27 +61,28 @@ public:
     /// Number of datasets of every control. A dataset's number, `nDataset`, is 0 to DatasetCount - 1.
     static constexpr int DatasetCount = 13;
 
-    /// Registers the window class if needed and makes the fonts; creates no window. Throws CResourceException*
-    /// when Windows refuses to register the class.
+    /// Registers the window class if needed and makes the fonts; creates no window. Throws
+    /// CResourceException* when Windows refuses to register the class.
     CGraphCtrl();
     ~CGraphCtrl() override;
     CGraphCtrl(const CGraphCtrl&) = delete;
     CGraphCtrl& operator=(const CGraphCtrl&) = delete;
 
-    // ---- Data. With a number or index outside its range an operation fails and changes nothing. No repaint. ----
+    // ---- Data. An index outside its range makes a call fail and change nothing. No repaint. ----
 
     /// Appends `y` to dataset `nDataset`. The sample's X is its index in the dataset; `*pX` receives that X
-    /// unless `pX` is null. With the automatic X range, the visible range then ends at that X + 0.001. Result 1.
-    /// Result 0 for another `nDataset` or, after a message box, when memory ran out; nothing has changed then.
+    /// unless `pX` is null. With the automatic X range, the visible range then ends at that X + 0.001. Result
+    /// 1. Result 0, with nothing changed, if there is no dataset `nDataset` or, after a message box, when
+    /// memory ran out.
     BOOL AddData(int nDataset, double y, double* pX);
     /// Appends the next X tick label: label i belongs to sample index i. With an empty `down`, a long `up` is
     /// broken into two lines (SetXTickLabelUpStringMaxLength). Result 1. Result 0, after a message box, when
     /// memory ran out: neither text is stored then.
     BOOL AddXTickLabel(CString up, CString down);
-    /// Removes all samples of a dataset and the selection mark. Colour, marker, line size, legend text and
-    /// visibility stay.
+    /// Removes all samples of a dataset and the selection mark. Colour, marker, line size, legend text
+    /// and visibility stay.
     void ResetData(int nDataset);
-    /// Number of samples; -1 for another `nDataset`.
+    /// Number of samples; -1 if there is no dataset `nDataset`.
     int GetDatasetSize(int nDataset) const;
     /// Stores the value of a sample in `y`. Result 0, `y` not written, when there is no such sample.
     BOOL GetYData(int nDataset, int nIndex, double& y) const;
@@ -89,28 +90,29 @@ public:
     /// label their defaults. The Y2 label, colours, styles, ranges and switches stay.
     void ResetAll();
 
-    // ---- Attributes of a dataset. Result 1, or 0 for another `nDataset`. No repaint. ----
+    // ---- Attributes of a dataset. Result 1; 0 if there is no dataset `nDataset`. No repaint. ----
 
     /// Colour of line, bars, markers and legend swatch. In the two-axis style the colour of dataset 0 is also
     /// that of the Y label and the Y tick labels, and the colour of dataset 1 that of the Y2 ones.
     BOOL SetColor(int nDataset, COLORREF color);
     /// Line width in logical units, clamped to 0..CDataset::MaxLineSize; 0 draws one pixel.
     BOOL SetLineSize(int nDataset, int nSize);
-    /// Marker at each point of a line; an unknown type draws none.
+    /// Marker at each sample of a line; an unknown type draws none.
     BOOL SetMarkerType(int nDataset, CDataset::MarkerType type);
-    /// Whether the dataset is drawn. A hidden dataset keeps its place among the bars and its legend row, whose
-    /// swatch turns white.
+    /// Whether the dataset is drawn. A hidden dataset keeps its place among the bars and its legend row,
+    /// whose swatch turns white.
     BOOL ShowDataset(int nDataset, BOOL bShow);
     /// Text of the legend row. A dataset with an empty text has no row.
     BOOL SetLegend(int nDataset, CString text);
     /// Empties all legend texts.
     void ResetLegend();
 
-    // ---- Properties. The setters store their arguments unchecked; a property's default is the initial value of
-    // its data member below. No repaint. ----
+    // ---- Properties. Setters store their arguments unchecked. No repaint. ----
 
-    /// Setting GraphStyleTwoAxis also hides the legend and gives the labels of each value axis the colour of its
-    /// dataset. Changing to another style restores neither.
+    // The default of a property is the initial value of its data member below.
+
+    /// Setting GraphStyleTwoAxis also hides the legend and gives the labels of each value axis the colour of
+    /// its dataset. Changing to another style restores neither.
     void SetGraphStyle(GraphStyle style);
     GraphStyle GetGraphStyle() const { return m_GraphStyle; }
     void SetTitleStyle(TitleStyle style) { m_TitleStyle = style; }
@@ -149,14 +151,14 @@ public:
     void ShowLegendBoard(BOOL bShow) { m_ShowLegendBoard = bShow; }
     /// Width of the legend in logical units.
     void SetLegendWidth(int nWidth) { m_LegendWidth = nWidth; }
-    /// Dotted grid lines at the X ticks (line styles only) and at the Y ticks.
+    /// Whether dotted grid lines are drawn at the X ticks (line styles only) and at the Y ticks.
     void SetGrid(BOOL bGridX, BOOL bGridY);
 
     /// Room for the X tick labels, whose text runs upwards, in logical units.
     void SetXTickLabelHeight(int nHeight) { m_XTickLabelHeight = nHeight; }
-    /// Longest line of an X tick label without a lower text, in characters of the process code page; a longer
-    /// text is broken into two lines. A character of several bytes counts once, as does a letter with its
-    /// combining marks.
+    /// Longest line of an X tick label without a lower text, in characters of the process code page; a
+    /// longer text is broken into two lines. A character of several bytes counts once, as does a letter with
+    /// its combining marks.
     void SetXTickLabelUpStringMaxLength(int nLength) { m_XTickLabelUpStringMaxLength = nLength; }
     /// Room for the Y and Y2 tick labels in logical units.
     void SetYTickLabelWidth(int nWidth) { m_YTickLabelWidth = nWidth; }
@@ -173,8 +175,8 @@ public:
     /// control does not maximize its window: the parent receives GCN_MAXIMIZE.
     void ShowIconMaximize(BOOL bShow, BOOL bMaximized);
     /// Font of the caption band: size in tenths of a point on the screen, and face. The height of the band
-    /// follows from the font. A font at least a thousand pixels high draws no text if it is also at least twice
-    /// as high as the control.
+    /// follows from the font. A font at least a thousand pixels high draws no text if it is also at least
+    /// twice as high as the control.
     void SetCaptionFont(int nSize, const char* pszFace);
 
     void SetBkColor(COLORREF color) { m_BkColor = color; }
@@ -206,13 +208,14 @@ public:
     /// Invalidates the data region (plot, tick labels and a margin) in the layout of the last paint, without
     /// erasing. Nothing happens without a window.
     void RedrawData();
-    /// Puts the selection mark on sample `nPos`, or removes it for -1, and calls RedrawData. Ignores an `nPos`
-    /// below -1 or beyond the last sample of dataset 0. The parent gets no notification. Assistive tools get an
-    /// event, as at every change of the selection mark: sample i is child i + 1 of the control's client object.
+    /// Puts the selection mark on sample `nPos`, or removes it for -1, and calls RedrawData. Ignores an
+    /// `nPos` below -1 or beyond the last sample of dataset 0. The parent gets no notification. Assistive
+    /// tools get an event, as at every change of the selection mark: sample i is child i + 1 of the
+    /// control's client object.
     void SetSelectionMarkPos(int nPos);
-    /// Puts the picture on the clipboard as an enhanced metafile. Result 1; 0 when there is no window or memory,
-    /// or when GDI cannot make the metafile. The result does not tell whether another program holds the
-    /// clipboard.
+    /// Puts the picture on the clipboard as an enhanced metafile. Result 1; 0 when there is no window or
+    /// memory, or when GDI cannot make the metafile. The result does not tell whether another program
+    /// holds the clipboard.
     int CopyToClipboard();
     /// Saves the picture as PNG, BMP or EMF, as the extension of the name says. False for another extension,
     /// without a window, with an empty client area, without memory, and when the file cannot be written. An
@@ -226,9 +229,9 @@ public:
     /// Stores the texts of X tick label `nIndex` in `up` and `down`. A text that was never added leaves its
     /// output unchanged. Always 1.
     virtual BOOL GetXData(int nIndex, CString& up, CString& down);
-    /// Removes the `nCount` oldest samples of every dataset, the `nCount` oldest tick labels, and the selection
-    /// mark. The automatic X range then ends at the newest sample of dataset 0. Calls RedrawData. A negative
-    /// count counts as 0. The parent gets no notification.
+    /// Removes the `nCount` oldest samples of every dataset, the `nCount` oldest tick labels, and the
+    /// selection mark. The automatic X range then ends at the newest sample of dataset 0. Calls RedrawData. A
+    /// negative count counts as 0. The parent gets no notification.
     virtual void RemoveHeadData(int nCount);
     /// Removes all X tick labels.
     virtual void ResetXTickLabel();
@@ -240,18 +243,18 @@ public:
     virtual void InsertGraphMenu(CMenu& menu);
 
 protected:
-    /// Draws axis line, ticks and tick labels of the X axis. `rectLabel` and `rectAxis` are the bands of labels
-    /// and tick marks in logical units; `nTicks` is the largest number of labelled ticks.
+    /// Draws axis line, ticks and tick labels of the X axis. `rectLabel` and `rectAxis` are the bands of
+    /// labels and tick marks in logical units; `nTicks` is the largest number of labelled ticks.
     virtual void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks);
     /// Draws the datasets and the selection mark into the plot, to which the caller has clipped `dc`.
     virtual void DrawGraphData(CDC& dc);
-    /// Sample that belongs to `point` (logical units), -1 for none. Line styles: the sample nearest in X, at any
-    /// distance below 1,000,000 logical units. Bar style: the sample whose group of bars holds the point.
+    /// Sample that belongs to `point` (logical units), -1 for none. Line styles: the sample nearest in X, at
+    /// any distance below 1,000,000 logical units. Bar style: the sample whose group of bars holds the point.
     virtual int GetIndexFromPt(CPoint point);
-    /// Position of sample `nIndex` in logical units, moved into the plot where it lies outside. Line styles: on
-    /// the line of the first visible dataset that has the sample. Bar style: at the same height, in the middle of
-    /// the group of bars. The centre of the plot when there is no such sample or it has no position. The context
-    /// menu opens there when the user asks for it by keyboard.
+    /// Position of sample `nIndex` in logical units, moved into the plot where it lies outside. Line styles:
+    /// on the line of the first visible dataset that has the sample. Bar style: at the same height, in the
+    /// middle of the group of bars. The centre of the plot when there is no such sample or it has no
+    /// position. The context menu opens there when the user asks for it by keyboard.
     virtual CPoint GetPtFromIndex(int nIndex);
 
     // ---- Painting. Screen, printer, metafile and memory DC get the same calls. ----
@@ -261,9 +264,9 @@ protected:
     static BOOL RegisterWindowClass();
     /// Gives `dc` the mapping of 30 logical units per pixel with all origins 0.
     void SetMapModeAnisotropic(CDC& dc);
-    /// Lays out and paints everything into `dc`, which must have the mapping above. The viewport origin of `dc`
-    /// may be anywhere and places the picture. Leaves `dc` without clip region, and with the objects and text
-    /// settings that it had.
+    /// Lays out and paints everything into `dc`, which must have the mapping above. The viewport origin of
+    /// `dc` may be anywhere and places the picture. Afterwards `dc` has no clip region, and the same objects
+    /// and text settings as before.
     void DrawGraph(CDC& dc);
     /// Draws the title at the top of m_rectTitle with a bold font of the height `nHeight`.
     void DrawTitle(CDC& dc, int nHeight);
@@ -287,8 +290,8 @@ protected:
     void SendSelchangeNotifyMessage();
     /// Sends GCN_REMOVEDATA to the parent.
     void SendRemoveDataNotifyMessage(int nIndex, int nCount);
-    /// Fills in the header of `record` and sends the record to the parent. False when the parent's handler has
-    /// destroyed the window or deleted this object: access no member then.
+    /// Fills in the header of `record` and sends the record to the parent. False without a window, and when
+    /// the parent's handler has destroyed the window or deleted this object: access no member then.
     bool Notify(NMGRAPHCTRL& record, UINT nCode);
 
     // ---- For derived controls ----
@@ -301,10 +304,11 @@ protected:
     void StoreSelectionMark(int nPos);
     /// State flags of menu items that need a selection mark: grayed without one.
     UINT SelectionMarkItemState() const;
-    /// GetPtFromIndex for sample `nIndex` at the X position `x` (logical units), or without one.
+    /// The result of GetPtFromIndex for sample `nIndex`, whose X position is `x` (logical units), if
+    /// it has one.
     CPoint PtOfSample(int nIndex, std::optional<int> x);
-    /// Draws the datasets of the line styles and the selection mark. `xPositions` holds the X positions of the
-    /// samples. `rangeOf(dataset)` is the range of samples that is drawn of a dataset.
+    /// Draws the datasets of the line styles and the selection mark. `xPositions` holds the X positions of
+    /// the samples. `rangeOf(dataset)` is the range of samples that is drawn of a dataset.
     void DrawLines(CDC& dc, const kavlix::XPositions& xPositions,
                    const std::function<kavlix::IndexRange(const CDataset&)>& rangeOf);
 
@@ -348,7 +352,8 @@ protected:
     kavlix::LabelStore m_XTickLabelDown;
     BOOL m_ShowBorder = FALSE;
 
-    // Layout, in logical units unless said otherwise. Every paint sets it; before the first paint it is empty.
+    // Layout, in logical units unless said otherwise. Every paint sets it; before the first paint
+    // it is empty.
     CRect m_rectPlot;         ///< the data area
     CRect m_rectLegend;       ///< the legend board
     CRect m_rectTitle;        ///< the title area
@@ -453,7 +458,7 @@ private:
     bool NotifySelChange();
 };
 
-/// Binds the dialog item `nIDC` to `control` by subclassing the item. Later calls with the same control do
-/// nothing. Call this function from DoDataExchange. Throws CNotSupportedException* when the item cannot be
-/// subclassed.
+/// Binds the dialog item `nIDC` to `control` by subclassing the item. A control that has a window is
+/// left unchanged. Call this function from DoDataExchange. Throws CNotSupportedException* when the item
+/// cannot be subclassed.
 KAVLIX_API void DDX_GraphControl(CDataExchange* pDX, int nIDC, CGraphCtrl& control);

@@ -1,6 +1,6 @@
+// All public headers of Kavlix, for hosts that include a single one.
 #pragma once
 
-/// Everything a host needs of Kavlix.
 #include <kavlix/ChartDraw.h>
 #include <kavlix/Dataset.h>
 #include <kavlix/Export.h>

@@ -1,19 +1,21 @@
+// LabelStore: the tick labels of a graph control.
 #pragma once
 
 #include <afxcoll.h>
 
+#include <kavlix/ChunkedArray.h>
+
 #include <cstddef>
 #include <utility>
 
-#include <kavlix/ChunkedArray.h>
-
 namespace kavlix {
 
-/// Texts in order of arrival, with the members of CStringArray but GetData and Serialize: they do not lie one
-/// behind the other. Adding never moves what is stored, and removing from the head costs what is removed.
+/// Texts in order of arrival, with the members of CStringArray except GetData and Serialize, which need texts
+/// in one block of memory. Adding never moves stored texts. Removing from the head takes time in proportion
+/// to the number of texts removed.
 ///
-/// An index outside the array throws CInvalidArgException*. When memory runs out CMemoryException* is thrown
-/// and the array is as before.
+/// An index outside the array throws CInvalidArgException*. A failed allocation throws CMemoryException* and
+/// leaves the array unchanged.
 class LabelStore {
 public:
     INT_PTR GetSize() const { return static_cast<INT_PTR>(m_texts.Size()); }
@@ -28,7 +30,7 @@ public:
     CString& operator[](INT_PTR index) { return ElementAt(index); }
     const CString& operator[](INT_PTR index) const { return GetAt(index); }
     void SetAt(INT_PTR index, const CString& text) { ElementAt(index) = text; }
-    /// Sets a text; the array is extended up to it if it is not there yet.
+    /// Sets the text at `index`. A shorter array grows first, with empty texts before `index`.
     void SetAtGrow(INT_PTR index, const CString& text) {
         if (Checked(index) < m_texts.Size())
             SetAt(index, text);
@@ -36,7 +38,8 @@ public:
             InsertAt(index, text);
     }
 
-    /// Appends empty texts or removes those at the end. How the array grows is its own affair.
+    /// Appends empty texts or removes texts at the end until there are `size`. The second parameter exists
+    /// for callers of CStringArray and has no effect.
     void SetSize(INT_PTR size, INT_PTR /*growBy*/ = -1) {
         const std::size_t count = Checked(size);
         if (count < m_texts.Size())
@@ -44,8 +47,9 @@ public:
         else
             AddOrNone(count - m_texts.Size(), [](std::size_t) { return CString(); });
     }
-    void FreeExtra() {} // there is none
-    /// Removes all texts and gives their memory back.
+    /// Does nothing: the array reserves no memory beyond its last chunk.
+    void FreeExtra() {}
+    /// Removes all texts and frees their memory.
     void RemoveAll() { m_texts.Clear(); }
 
     /// Appends a text; returns its index.
@@ -56,7 +60,7 @@ public:
     /// Appends copies of all texts of `source`, a LabelStore or CStringArray; returns the index of the first.
     template <class Texts> INT_PTR Append(const Texts& source) {
         const INT_PTR first = GetSize();
-        const INT_PTR count = source.GetSize(); // of itself only those there were
+        const INT_PTR count = source.GetSize(); // read once: `source` may be this array, which grows below
         AddOrNone(static_cast<std::size_t>(count),
                   [&](std::size_t i) { return CString(source.GetAt(static_cast<INT_PTR>(i))); });
         return first;
@@ -69,19 +73,21 @@ public:
         copy.Append(source);
         m_texts.Swap(copy.m_texts);
     }
-    /// Inserts `count` copies before the text at `index`. Behind the end, empty texts fill the gap.
+    /// Inserts `count` copies of `text` before the text at `index`. With an `index` behind the end, empty
+    /// texts fill the gap.
     void InsertAt(INT_PTR index, const CString& text, INT_PTR count = 1) {
         const std::size_t at = Checked(index);
         const std::size_t copies = Checked(count);
-        const CString copy(text); // it may be one of those that move
+        const CString copy(text); // `text` may be an element of this array, and elements move below
         const std::size_t before = m_texts.Size();
         const std::size_t gap = at > before ? at - before : 0;
         AddOrNone(gap + copies, [&](std::size_t i) { return i < gap ? CString() : copy; });
-        // Each text behind the place changes places with the copy that stands where the text belongs.
+        // The copies were appended. Swap each text behind `at` with the copy that stands
+        // `copies` places later.
         for (std::size_t i = before; i-- > at;)
             std::swap(m_texts[i], m_texts[i + copies]);
     }
-    /// Removes `count` texts from `index` on.
+    /// Removes `count` texts, the first of which is the one at `index`.
     void RemoveAt(INT_PTR index, INT_PTR count = 1) {
         Checked(index, GetSize());
         Checked(count, GetSize() - index);
@@ -97,12 +103,14 @@ public:
     }
 
 private:
+    /// `value` as an unsigned number; throws CInvalidArgException* unless 0 <= `value` <= `greatest`.
     static std::size_t Checked(INT_PTR value, INT_PTR greatest = INTPTR_MAX) {
         if (value < 0 || value > greatest)
             AfxThrowInvalidArgException();
         return static_cast<std::size_t>(value);
     }
-    /// Appends `textOf(0)` up to `textOf(count - 1)`, or nothing when memory runs out.
+    /// Appends the texts `textOf(0)` to `textOf(count - 1)`. Appends none of them and passes the exception on
+    /// when an allocation fails.
     template <class TextOf> void AddOrNone(std::size_t count, TextOf textOf) {
         const std::size_t before = m_texts.Size();
         try {

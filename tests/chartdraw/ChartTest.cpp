@@ -1,46 +1,46 @@
+// Files and handles, as the chart's tests ask for them.
 #include "tests/chartdraw/ChartTest.h"
 
 #include <algorithm>
-
-TempFolder::TempFolder() {
-    char folder[MAX_PATH] = "", path[MAX_PATH] = "";
-    ::GetTempPathA(MAX_PATH, folder);
-    ::GetTempFileNameA(folder, "kvx", 0, path);
-    ::DeleteFileA(path);
-    ::CreateDirectoryA(path, nullptr);
-    m_path = path;
-}
-
-TempFolder::~TempFolder() {
-    for (const std::string& name : Names()) {
-        ::SetFileAttributesA(Path(name).c_str(), FILE_ATTRIBUTE_NORMAL);
-        ::DeleteFileA(Path(name).c_str());
-    }
-    ::RemoveDirectoryA(m_path.c_str());
-}
+#include <filesystem>
+#include <iterator>
 
 Strings TempFolder::Names() const {
     Strings names;
-    WIN32_FIND_DATAA found = {};
-    const HANDLE search = ::FindFirstFileA(Path("*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE)
-        return names;
-    do {
-        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
-            names.push_back(found.cFileName);
-    } while (::FindNextFileA(search, &found));
-    ::FindClose(search);
+    for (const auto& file : std::filesystem::directory_iterator(Path()))
+        names.push_back(file.path().filename().string());
     std::sort(names.begin(), names.end());
     return names;
 }
 
+DibBitmap::DibBitmap(int width, int height, int bits) : m_stride((width * bits + 31) / 32 * 4) {
+    struct {
+        BITMAPINFOHEADER header = {};
+        RGBQUAD colors[256] = {};
+    } info;
+    info.header.biSize = sizeof info.header;
+    info.header.biWidth = width;
+    info.header.biHeight = -height;
+    info.header.biPlanes = 1;
+    info.header.biBitCount = static_cast<WORD>(bits);
+    for (int i = 0; i < 256; ++i)
+        info.colors[i] = {static_cast<BYTE>((i & 3) * 85), static_cast<BYTE>((i >> 2 & 7) * 36),
+                          static_cast<BYTE>((i >> 5) * 36), 0};
+    info.colors[255] = {255, 255, 255, 0};
+    void* memory = nullptr;
+    bitmap.Attach(::CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS, &memory,
+                                     nullptr, 0));
+    m_rows = static_cast<unsigned char*>(memory);
+}
+
+void DibBitmap::SetRow(int y, const std::vector<unsigned char>& bytes) {
+    ::GdiFlush();
+    std::copy(bytes.begin(), bytes.end(), m_rows + y * m_stride);
+}
+
 std::vector<unsigned char> FileBytes(const std::string& path) {
-    CFile file;
-    if (!file.Open(path.c_str(), CFile::modeRead))
-        return {};
-    std::vector<unsigned char> bytes(static_cast<std::size_t>(file.GetLength()));
-    bytes.resize(file.Read(bytes.data(), static_cast<UINT>(bytes.size())));
-    return bytes;
+    std::ifstream file(path, std::ios::binary);
+    return std::vector<unsigned char>(std::istreambuf_iterator<char>(file), {});
 }
 
 DWORD OpenHandles() {

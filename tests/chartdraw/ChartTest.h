@@ -1,3 +1,4 @@
+// The fixture of the chart's tests: a chart in a visible parent.
 #pragma once
 
 #include <afxwin.h>
@@ -9,6 +10,7 @@
 #include "tests/support/ImportHook.h"
 #include "tests/support/MetafileRecorder.h"
 #include "tests/support/RecordingParent.h"
+#include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -109,21 +111,26 @@ protected:
     OpenChart chart;
 };
 
-/// A folder of its own for the files of a test, gone with it.
-class TempFolder {
+/// A folder for the files of a test.
+class TempFolder : public testkit::TempFolder {
 public:
-    TempFolder();
-    ~TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    /// Full path of a name in it.
-    std::string Path(const std::string& name) const { return m_path + "\\" + name; }
-    /// The names in it, sorted.
+    /// The names of its files, sorted.
     Strings Names() const;
+};
+
+/// A bitmap of 1 to 32 bits per pixel whose rows lie in memory, the top row first. An 8-bit pixel holds three
+/// bits of red, three of green and two of blue, except 255, which is white.
+class DibBitmap {
+public:
+    DibBitmap(int width, int height, int bits);
+
+    CBitmap bitmap;
+    /// Copies bytes to the beginning of a row.
+    void SetRow(int y, const std::vector<unsigned char>& bytes);
 
 private:
-    std::string m_path;
+    int m_stride;
+    unsigned char* m_rows = nullptr;
 };
 
 /// All bytes of a file; none when it cannot be read.

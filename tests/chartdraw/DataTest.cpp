@@ -1,3 +1,4 @@
+// Data, scales and invalidation of a chart.
 #include "tests/chartdraw/ChartTest.h"
 
 #include <cmath>

@@ -1,8 +1,7 @@
+// Pictures on the clipboard and in files, and what becomes of every failure.
 #include "tests/chartdraw/ChartTest.h"
 
-#include <algorithm>
-#include <cmath>
-#include <fstream>
+#include <cstring>
 #include <functional>
 
 namespace {
@@ -91,57 +90,17 @@ protected:
     }
 };
 
-/// Answers the next file dialog: a name that is typed in and saved, or Cancel.
-class DialogUser {
-public:
-    explicit DialogUser(const char* name) : m_name(name != nullptr ? name : ""), m_saves(name != nullptr) {
-        s_current = this;
-        m_timer = ::SetTimer(nullptr, 0, 20, &DialogUser::Look);
-    }
-    ~DialogUser() { ::KillTimer(nullptr, m_timer); }
-    DialogUser(const DialogUser&) = delete;
-    DialogUser& operator=(const DialogUser&) = delete;
-
-    std::string proposed; ///< the name that the dialog showed first
-    std::string filter;   ///< the text of its filter
-
-private:
-    static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD) {
-        HWND dialog = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM found) -> BOOL {
-                char name[16] = "";
-                ::GetClassNameA(window, name, sizeof name);
-                if (std::string(name) != "#32770" || !::IsWindowVisible(window))
-                    return TRUE;
-                *reinterpret_cast<HWND*>(found) = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&dialog));
-        if (dialog == nullptr)
-            return;
-        ::KillTimer(nullptr, s_current->m_timer);
-        constexpr int kNameEdit = 0x480, kNameCombo = 0x47C, kFilterCombo = 0x470;
-        HWND name = ::GetDlgItem(dialog, kNameCombo);
-        if (name == nullptr)
-            name = ::GetDlgItem(dialog, kNameEdit);
-        char text[MAX_PATH] = "";
-        ::GetWindowTextA(name, text, MAX_PATH);
-        s_current->proposed = text;
-        ::GetDlgItemTextA(dialog, kFilterCombo, text, MAX_PATH);
-        s_current->filter = text;
-        if (s_current->m_saves)
-            ::SetWindowTextA(name, s_current->m_name.c_str());
-        ::PostMessageA(dialog, WM_COMMAND, s_current->m_saves ? IDOK : IDCANCEL, 0);
-    }
-
-    static DialogUser* s_current;
-    std::string m_name;
-    bool m_saves;
-    UINT_PTR m_timer = 0;
-};
-DialogUser* DialogUser::s_current = nullptr;
+/// What the file dialog is asked for, and its answer: a name, or Cancel when it is empty.
+DWORD g_flags = 0;
+std::string g_proposed, g_filter, g_extension, g_answer;
+BOOL WINAPI AnswerDialog(LPOPENFILENAMEA dialog) {
+    g_flags = dialog->Flags;
+    g_extension = dialog->lpstrDefExt;
+    g_proposed = dialog->lpstrFile;
+    g_filter = dialog->lpstrFilter;
+    std::strcpy(dialog->lpstrFile, g_answer.c_str());
+    return !g_answer.empty();
+}
 
 } // namespace
 
@@ -294,17 +253,19 @@ TEST_F(ChartExportTest, WhatCannotBeMadeWritesNothing) {
 
 TEST_F(ChartExportTest, TheDialogNamesTheFile) {
     const TempFolder folder;
-    {
-        DialogUser user(nullptr);
-        EXPECT_FALSE(chart.CopyToFile()) << "cancelled";
-        EXPECT_EQ(user.proposed.substr(0, 5), "Chart");
-        EXPECT_EQ(user.filter, "Bitmap ");
-    }
+    const testkit::ImportHook hook("KavlixMfc.dll", "GetSaveFileNameA", Address(&AnswerDialog));
+    ASSERT_TRUE(hook.Installed());
+    g_answer.clear();
+    EXPECT_FALSE(chart.CopyToFile()) << "cancelled";
     EXPECT_EQ(folder.Names(), Strings());
-    DialogUser user(folder.Path("asked").c_str());
+    EXPECT_EQ(g_proposed, "Chart");
+    EXPECT_EQ(g_filter, "Bitmap ");
+    EXPECT_EQ(g_extension, "BMP");
+    EXPECT_EQ(g_flags & (OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY),
+              DWORD(OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY));
+    g_answer = folder.Path("asked.bmp");
     EXPECT_TRUE(chart.CopyToFile());
-    ASSERT_EQ(folder.Names().size(), 1u);
-    EXPECT_EQ(CString(folder.Names()[0].c_str()).CompareNoCase("asked.bmp"), 0) << "the extension is added";
+    EXPECT_EQ(folder.Names(), Strings{"asked.bmp"});
 }
 
 TEST_F(ChartExportTest, ThePictureOnTheClipboard) {

@@ -1,3 +1,4 @@
+// Files for another program, which compares their pixels with those that were drawn.
 #include "tests/chartdraw/ChartTest.h"
 
 #include <fstream>
@@ -15,31 +16,15 @@ template <class At> void WritePixels(const std::string& base, CSize size, At at)
 /// Writes the chart as a bitmap file of this depth, made by the chart's own members, and its pixels as plain
 /// red, green and blue bytes beside it.
 void WriteDepth(OpenChart& chart, int bits, const std::string& base) {
-    struct {
-        BITMAPINFOHEADER header = {};
-        RGBQUAD colors[256] = {};
-    } info;
     const CSize size = chart.m_rectChart.Size();
-    info.header.biSize = sizeof info.header;
-    info.header.biWidth = size.cx;
-    info.header.biHeight = size.cy;
-    info.header.biPlanes = 1;
-    info.header.biBitCount = static_cast<WORD>(bits);
-    for (int i = 0; i < 256; ++i) // three bits of red and green, two of blue
-        info.colors[i] = {static_cast<BYTE>((i & 3) * 85), static_cast<BYTE>((i >> 2 & 7) * 36),
-                          static_cast<BYTE>((i >> 5) * 36), 0};
-    info.colors[255] = {255, 255, 255, 0};
-    void* memory = nullptr;
-    CBitmap bitmap;
-    ASSERT_TRUE(bitmap.Attach(::CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info),
-                                                 DIB_RGB_COLORS, &memory, nullptr, 0)));
+    DibBitmap picture(size.cx, size.cy, bits);
     CDC dc;
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
-    CBitmap* const old = dc.SelectObject(&bitmap);
+    CBitmap* const old = dc.SelectObject(&picture.bitmap);
     chart.DrawChart(dc);
     WritePixels(base, size, [&](int x, int y) { return dc.GetPixel(x, y); });
     dc.SelectObject(old);
-    const HANDLE block = chart.DDBToDIB(bitmap, BI_RGB, nullptr);
+    const HANDLE block = chart.DDBToDIB(picture.bitmap, BI_RGB, nullptr);
     ASSERT_NE(block, nullptr);
     {
         CFile file((base + ".bmp").c_str(), CFile::modeCreate | CFile::modeWrite);

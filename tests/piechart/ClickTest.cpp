@@ -1,3 +1,4 @@
+// Clicks at the edges of pieces, the search, and parents that act during the notification.
 #include "tests/piechart/PieTest.h"
 
 #include <cmath>
@@ -12,40 +13,22 @@ protected:
     }
 };
 
-TEST_F(PieClickTest, GeometryFollowsTheWindow) {
-    EXPECT_EQ(pie.GetAngleFromPoint(CPoint(136, 100)), 90.0);
-    CPoint rim, inner;
-    pie.CountPoint(90, rim, FALSE);
-    pie.CountPoint(90, inner, 7);
-    EXPECT_EQ(std::pair(rim.x, inner.x), std::pair(LONG(215), LONG(183)));
-    Resize(200, 400);
-    EXPECT_EQ(pie.m_rcPie, CRect(5, 120, 165, 280));
-}
-
-TEST_F(PieClickTest, ClicksFindThePiecesTold) {
+TEST_F(PieClickTest, EdgesBelongToThePieceBefore) {
     Add({25, 50});
     const Strings first = {"notify -2 id 77 flags 1 piece 0"};
     const Strings second = {"notify -2 id 77 flags 1 piece 1"};
     const struct {
-        const char* name;
         CPoint point;
         Strings log;
         int selected;
-    } cases[] = {
-        {"first piece", CPoint(160, 80), first, 0},
-        {"the edge belongs to the piece before", CPoint(180, 100), first, 0},
-        {"just past it", CPoint(180, 101), second, 1},
-        {"below", CPoint(135, 150), second, 1},
-        {"left on the line", CPoint(100, 100), second, 1},
-        {"gap", CPoint(110, 70), {}, -1},
-        {"twelve o'clock, where the angle is 0", CPoint(135, 60), {}, 0},
-        {"the centre", CPoint(135, 100), {}, 0},
-        {"outside", CPoint(60, 25), {}, 0},
-        {"on the outline", CPoint(214, 95), first, 0},
-        {"far outside", CPoint(250, 100), {}, 0},
-    };
+    } cases[] = {{CPoint(180, 100), first, 0},
+                 {CPoint(180, 101), second, 1},
+                 {CPoint(135, 60), {}, 0}, // angle 0
+                 {CPoint(135, 100), {}, 0} /* centre */,
+                 {CPoint(214, 95), first, 0} /* outline */,
+                 {CPoint(110, 70), {}, -1}};
     for (const auto& each : cases) {
-        SCOPED_TRACE(each.name);
+        SCOPED_TRACE(testing::Message() << each.point.x << "," << each.point.y);
         Click(CPoint(160, 80));
         Settle();
         parent.Forget();
@@ -54,10 +37,17 @@ TEST_F(PieClickTest, ClicksFindThePiecesTold) {
         EXPECT_EQ(Log(), each.log);
         EXPECT_EQ(pie.Selected(), each.selected);
         EXPECT_EQ(pie.defaulted, Strings{"button"});
+        EXPECT_LE(UpdateRect().Width(), 162) << "not the whole window";
     }
+    Settle();
+    Click(CPoint(110, 70));
+    EXPECT_LT(UpdateRect().Width(), 100) << "without a selection a click into the gap repaints labels only";
     Click(CPoint(160, 80), MK_LBUTTON | MK_SHIFT | MK_CONTROL);
     EXPECT_EQ(*reinterpret_cast<const HWND*>(parent.Entries()[0].record), pie.m_hWnd);
     EXPECT_EQ(Log(), Strings{"notify -2 id 77 flags 13 piece 0"});
+    pie.m_rcPie.SetRectEmpty(); // as before the first paint
+    Click(CPoint(0, 0));
+    EXPECT_TRUE(Log().empty());
 }
 
 TEST_F(PieClickTest, SearchClearsEverySelection) {
@@ -84,36 +74,6 @@ TEST_F(PieClickTest, SearchClearsEverySelection) {
     EXPECT_EQ(pie.GetPieceIndex(1), -1);
 }
 
-TEST_F(PieClickTest, ClickRepaintsTheWholePicture) {
-    Add({25, 50});
-    for (const CPoint click : {CPoint(160, 80), CPoint(135, 150), CPoint(110, 70)}) { // the last clears
-        Click(click);
-        CRect pieAndEdge = pie.m_rcPie;
-        pieAndEdge.InflateRect(1, 1);
-        const CRect update = UpdateRect();
-        EXPECT_FALSE(update.IsRectEmpty());
-        EXPECT_LE(update.Width(), pieAndEdge.Width()) << "not the window";
-        pie.UpdateWindow();
-        testkit::DibSurface shown(300, 200);
-        shown.Grab(pie.m_hWnd);
-        EXPECT_EQ(testkit::Difference(shown, *Paint()), "");
-    }
-    Click(CPoint(110, 70));
-    EXPECT_TRUE(UpdateRect().Width() < 100) << "with no selection to clear the gap repaints labels only";
-}
-
-TEST_F(PieClickTest, NothingToHitBeforeAPaintOrWithoutRoom) {
-    Add({100});
-    pie.m_rcPie.SetRectEmpty();
-    Click(CPoint(0, 0));
-    Resize(30, 30);
-    for (int x = 0; x < 30; ++x)
-        for (int y = 0; y < 30; ++y)
-            Click(CPoint(x, y));
-    EXPECT_TRUE(Log().empty());
-    EXPECT_EQ(pie.Selected(), -1);
-}
-
 TEST_F(PieClickTest, WithoutParentNothingIsSent) {
     OpenPie popup;
     ASSERT_TRUE(popup.Create(WS_POPUP | WS_VISIBLE, CRect(0, 0, 300, 200), nullptr, 0));
@@ -126,40 +86,30 @@ TEST_F(PieClickTest, WithoutParentNothingIsSent) {
 }
 
 TEST_F(PieClickTest, ParentMayDoAnythingInTheNotification) {
-    bool deleted = false;
-    class Counted : public OpenPie {
+    static bool isDeleted = false;
+    class Watched : public OpenPie {
     public:
-        explicit Counted(bool& gone) : m_gone(gone) {}
-        ~Counted() override { m_gone = true; }
-        bool& m_gone;
+        ~Watched() override { isDeleted = true; }
     };
-    auto* other = new Counted(deleted);
-    ASSERT_TRUE(other->Create("PIE_CHART_CTRL", nullptr, WS_CHILD | WS_VISIBLE, CRect(300, 0, 600, 200),
-                              &parent, 78));
-    const HWND window = other->m_hWnd;
-    other->AddPiece(0, 0, 1, 1, "");
-    other->UpdateWindow();
-    const auto click = [&] {
-        const HWND target = ::IsWindow(window) ? window : nullptr;
-        ::SendMessage(target, WM_LBUTTONDOWN, 0, MAKELPARAM(160, 80));
-    };
-    parent.onNoted = [&](const auto&) {
-        other->Reset();
+    const std::function<void(Watched*)> actions[] = {
+        [](Watched* other) { other->Reset(), other->UpdateWindow(); },
+        [](Watched* other) { other->DestroyWindow(); }, [](Watched* other) { delete other; }};
+    for (int i = 0; i < 3; ++i) {
+        SCOPED_TRACE(i);
+        isDeleted = false;
+        auto* other = new Watched;
+        ASSERT_TRUE(other->Create("PIE_CHART_CTRL", nullptr, WS_CHILD | WS_VISIBLE, CRect(300, 0, 600, 200),
+                                  &parent, 78));
+        other->AddPiece(0, 0, 1, 1, "");
         other->UpdateWindow();
-    };
-    click();
-    EXPECT_EQ(other->defaulted.size(), 1u);
-    other->AddPiece(0, 0, 1, 1, "");
-    other->UpdateWindow();
-    parent.onNoted = [&](const auto&) { other->DestroyWindow(); };
-    click();
-    EXPECT_EQ(other->m_hWnd, nullptr);
-    EXPECT_EQ(other->defaulted.size(), 1u) << "nothing is done after the window is gone";
-    ASSERT_TRUE(other->Create("PIE_CHART_CTRL", nullptr, WS_CHILD | WS_VISIBLE, CRect(300, 0, 600, 200),
-                              &parent, 78));
-    other->UpdateWindow();
-    parent.onNoted = [&](const auto&) { delete other; };
-    ::SendMessage(other->m_hWnd, WM_LBUTTONDOWN, 0, MAKELPARAM(160, 80));
-    EXPECT_TRUE(deleted);
-    parent.onNoted = nullptr;
+        parent.onNoted = [&](const auto&) { actions[i](other); };
+        other->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(160, 80));
+        parent.onNoted = nullptr;
+        EXPECT_EQ(isDeleted, i == 2);
+        if (isDeleted)
+            continue;
+        EXPECT_EQ(other->defaulted.size(), i == 0 ? 1u : 0u) << "nothing is done after the window is gone";
+        other->DestroyWindow();
+        delete other;
+    }
 }

@@ -1,9 +1,20 @@
+// Texts, messages, destinations and failures of painting. RandomTest compares the pixels of the sectors.
 #include "tests/piechart/PieTest.h"
+#include "tests/support/ImportHook.h"
 
-#include <algorithm>
-#include <cmath>
-#include <random>
 #include <set>
+
+namespace {
+
+HBITMAP WINAPI NoBitmap(HDC, int, int) {
+    return nullptr;
+}
+
+HRGN WINAPI NoRegion(const RECT*) {
+    return nullptr;
+}
+
+} // namespace
 
 class PiePaintTest : public PieTest {
 protected:
@@ -19,88 +30,9 @@ protected:
     }
 };
 
-TEST_F(PiePaintTest, EveryPixelBelongsToThePieceThatAClickFinds) {
-    constexpr COLORREF kBack = RGB(255, 255, 255);
-    const double odd[] = {0, -20, NAN, INFINITY, -INFINITY, 70, 0.8};
-    const unsigned equal[] = {1, 2, 7, 40};
-    std::mt19937 random(7);
-    for (unsigned run = 0; run < 30; ++run) {
-        SCOPED_TRACE(run);
-        pie.Reset();
-        OpenPie search; // without a window, where nothing is invalidated a million times
-        search.m_rcPie = pie.m_rcPie;
-        const unsigned pieces = run < 4 ? equal[run] : 1 + random() % 9;
-        for (unsigned i = 0; i < pieces; ++i) {
-            double value = run < 4 ? 100.0 / pieces : random() % 40;
-            if (run >= 4 && random() % 4 == 0)
-                value = odd[random() % std::size(odd)];
-            pie.AddPiece(Colour(static_cast<int>(i)), 0, 100, value, "");
-            search.AddPiece(0, 0, 100, value, "");
-        }
-        const auto picture = Paint();
-        const CPoint centre = pie.m_rcPie.CenterPoint();
-        int inside = 0, told = 0, wrong = 0;
-        for (int y = pie.m_rcPie.top; y < pie.m_rcPie.bottom; ++y)
-            for (int x = pie.m_rcPie.left; x < pie.m_rcPie.right; ++x) {
-                const double angle = search.GetAngleFromPoint(CPoint(x, y));
-                const double distance = std::hypot(x - centre.x, y - centre.y);
-                const double pixel = 80 / std::max(distance, 1.0); // degrees, and some more
-                const int piece = search.GetPieceIndex(angle);
-                if (distance > pie.m_rcPie.Height() / 2.0 - 2 || angle <= pixel || angle + pixel >= 360 ||
-                    search.GetPieceIndex(angle - pixel) != piece ||
-                    search.GetPieceIndex(angle + pixel) != piece)
-                    continue; // outside, or on a boundary
-                const COLORREF colour = picture->At(x, y);
-                bool isKnown = colour == kBack; // no text, which has many colours
-                for (unsigned i = 0; i < pieces; ++i)
-                    isKnown = isKnown || colour == Colour(static_cast<int>(i));
-                ++inside;
-                told += isKnown;
-                wrong += isKnown && colour != (piece < 0 ? kBack : Colour(piece));
-            }
-        EXPECT_EQ(wrong, 0);
-        EXPECT_GE(told, inside * 0.8);
-        EXPECT_EQ(picture->Count(RGB(1, 2, 3)), 0) << "all is painted";
-    }
-}
-
-TEST_F(PiePaintTest, OutlineColoursAndStartAngle) {
-    Add({50, 25});
-    pie.m_crBack = RGB(200, 210, 220);
-    pie.m_crOutline = RGB(0, 0, 254);
-    pie.m_crSelected = RGB(250, 120, 0);
-    pie.m_nStartAngle = 90 - 3 * 360;
-    pie.At(1).m_bSelected = TRUE;
-    const auto picture = Paint();
-    const auto at = [&](double angle, double part) {
-        const CPoint point = At(angle, part);
-        return picture->At(point.x, point.y);
-    };
-    EXPECT_EQ(at(100, 0.9), Colour(0));
-    EXPECT_EQ(at(260, 0.9), Colour(0));
-    EXPECT_EQ(at(280, 0.9), pie.m_crSelected);
-    EXPECT_EQ(at(45, 0.5), pie.m_crBack);
-    EXPECT_EQ(picture->At(0, 0), pie.m_crBack);
-    for (const double angle : {90, 270, 0})
-        EXPECT_EQ(at(angle, 0.8), pie.m_crOutline) << "boundary at " << angle;
-    EXPECT_EQ(picture->Bounds(Colour(0)).bottom, 179) << "inside the outline, whose lowest row is 179";
-    EXPECT_EQ(picture->At(135, 179), pie.m_crOutline);
-    const CRect all = picture->Bounds(pie.m_crOutline);
-    EXPECT_GE(all.left, pie.m_rcPie.left);
-    EXPECT_LE(all.bottom, pie.m_rcPie.bottom);
-}
-
-TEST_F(PiePaintTest, LabelsThatFindNoRoomLeaveNoTrace) {
-    pie.AddPiece(Colour(0), 0, 1, 1, "label");
-    Settle();
-    EXPECT_FALSE(pie.At(0).m_rcItem.IsRectEmpty());
-    Resize(35, 35);
-    EXPECT_TRUE(pie.At(0).m_rcItem.IsRectEmpty());
-}
-
 TEST_F(PiePaintTest, SliversKeepTheirColour) {
     Add({50, 0.3, 49.7});
-    EXPECT_GT(Paint()->Count(Colour(1)), 20) << "its two boundaries do not cover it";
+    EXPECT_GT(Paint()->Count(PieceColour(1)), 20) << "its two boundaries do not cover it";
 }
 
 TEST_F(PiePaintTest, TextsAndTheirColours) {
@@ -144,7 +76,7 @@ TEST_F(PiePaintTest, ASelectionShowsBesidePiecesOfItsColour) {
 TEST_F(PiePaintTest, LabelsThatBeginAlikeKeepTheirEnds) {
     Resize(400, 300);
     for (int i = 1; i <= 30; ++i)
-        pie.AddPiece(Colour(i), 0, 30, 1, ("Department " + std::to_string(i)).c_str());
+        pie.AddPiece(PieceColour(i), 0, 30, 1, ("Department " + std::to_string(i)).c_str());
     std::set<std::string> ends;
     for (const std::string& text : Texts()) {
         const std::size_t dots = text.find("...");
@@ -183,13 +115,10 @@ TEST_F(PiePaintTest, Messages) {
 }
 
 TEST_F(PiePaintTest, OnePictureForEveryDestination) {
-    pie.AddPiece(Colour(0), RGB(0, 0, 0), 100, 60, "first");
-    pie.AddPiece(Colour(1), RGB(0, 0, 0), 100, 4, "second");
+    pie.AddPiece(PieceColour(0), RGB(0, 0, 0), 100, 60, "first");
+    pie.AddPiece(PieceColour(1), RGB(0, 0, 0), 100, 4, "second");
     Settle();
     const auto picture = Paint();
-    testkit::DibSurface shown(300, 200);
-    shown.Grab(pie.m_hWnd);
-    EXPECT_EQ(testkit::Difference(*picture, shown), "") << "the window";
     testkit::DibSurface asked(300, 200, RGB(9, 9, 9));
     pie.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(asked.Dc()), PRF_CLIENT);
     EXPECT_EQ(testkit::Difference(*picture, asked), "") << "WM_PRINTCLIENT";
@@ -210,16 +139,18 @@ TEST_F(PiePaintTest, OnePictureForEveryDestination) {
     ::SetViewportOrgEx(moved.Dc(), 40, 50, nullptr);
     ::IntersectClipRect(moved.Dc(), 0, 0, 100, 200);
     ::SetTextColor(moved.Dc(), RGB(7, 7, 7));
-    const HGDIOBJ before[] = {::GetCurrentObject(moved.Dc(), OBJ_PEN),
-                              ::GetCurrentObject(moved.Dc(), OBJ_BRUSH),
-                              ::GetCurrentObject(moved.Dc(), OBJ_FONT)};
+    const auto selected = [&] {
+        std::set<HGDIOBJ> objects;
+        for (const UINT kind : {OBJ_PEN, OBJ_BRUSH, OBJ_FONT})
+            objects.insert(::GetCurrentObject(moved.Dc(), kind));
+        return objects;
+    };
+    const std::set<HGDIOBJ> before = selected();
     pie.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(moved.Dc()), PRF_CLIENT);
     EXPECT_EQ(moved.Count(RGB(9, 9, 9)), 340 * 250 - 100 * 200) << "the clip holds";
     EXPECT_EQ(moved.At(60 + 40, 100 + 50), picture->At(60, 100));
     EXPECT_EQ(::GetTextColor(moved.Dc()), COLORREF(RGB(7, 7, 7)));
-    EXPECT_EQ(::GetCurrentObject(moved.Dc(), OBJ_PEN), before[0]);
-    EXPECT_EQ(::GetCurrentObject(moved.Dc(), OBJ_BRUSH), before[1]);
-    EXPECT_EQ(::GetCurrentObject(moved.Dc(), OBJ_FONT), before[2]);
+    EXPECT_EQ(selected(), before);
 }
 
 TEST_F(PiePaintTest, SavesThePictureOfTheWindow) {
@@ -239,11 +170,39 @@ TEST_F(PiePaintTest, SavesThePictureOfTheWindow) {
     ::DeleteFileA(picture.c_str());
 }
 
-TEST_F(PiePaintTest, ResizedWindowsRepaintWhole) {
+TEST_F(PiePaintTest, TenThousandPieces) {
+    for (int i = 0; i < 10000; ++i)
+        ASSERT_EQ(pie.AddPiece(PieceColour(i % 7), 0, 10000, 1, "piece"), 1);
+    const auto picture = Paint();
+    EXPECT_LT(picture->Count(RGB(0, 0, 0), pie.m_rcPie), 160 * 12) << "boundaries do not blacken the pie";
+    Click(At(180, 0.5));
+    EXPECT_NEAR(pie.Selected(), 5000, 150);
+    DWORD colour = 0;
+    pie.GetItemColor(9999, colour);
+    EXPECT_EQ(colour, PieceColour(9999 % 7));
+}
+
+TEST_F(PiePaintTest, PaintsWithoutBitmapAndWithoutRegions) {
     Add({60, 40});
-    pie.SetWindowPos(nullptr, 0, 0, 260, 240, SWP_NOZORDER | SWP_NOMOVE);
-    pie.UpdateWindow();
-    testkit::DibSurface shown(260, 240);
-    shown.Grab(pie.m_hWnd);
-    EXPECT_EQ(testkit::Difference(*Paint(), shown), "");
+    const auto whole = Paint();
+    {
+        const testkit::ImportHook hook("Kavlix.dll", "CreateCompatibleBitmap",
+                                       reinterpret_cast<void*>(&NoBitmap));
+        const testkit::ImportHook other("KavlixMfc.dll", "CreateCompatibleBitmap",
+                                        reinterpret_cast<void*>(&NoBitmap));
+        ASSERT_TRUE(hook.Installed() || other.Installed());
+        pie.Refresh();
+        pie.UpdateWindow();
+        testkit::DibSurface shown(300, 200);
+        shown.Grab(pie.m_hWnd);
+        EXPECT_EQ(testkit::Difference(*whole, shown), "");
+    }
+    const testkit::ImportHook hook("Kavlix.dll", "CreateEllipticRgnIndirect",
+                                   reinterpret_cast<void*>(&NoRegion));
+    const testkit::ImportHook other("KavlixMfc.dll", "CreateEllipticRgnIndirect",
+                                    reinterpret_cast<void*>(&NoRegion));
+    ASSERT_TRUE(hook.Installed() || other.Installed());
+    Settle();
+    Click(CPoint(160, 80));
+    EXPECT_TRUE(parent.Entries().empty());
 }

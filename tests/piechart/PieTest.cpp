@@ -1,3 +1,4 @@
+// The fixture of the pie's tests.
 #include "tests/piechart/PieTest.h"
 
 #include <cmath>
@@ -43,14 +44,14 @@ void PieTest::Resize(int width, int height) {
     Settle();
 }
 
-COLORREF PieTest::Colour(int index) {
+COLORREF PieceColour(int index) {
     return RGB(40 + index * 5 % 200, 100 + index / 40 * 3, 60 + index * 37 % 190);
 }
 
 void PieTest::Add(std::initializer_list<double> values) {
     for (const double value : values) {
         const int index = static_cast<int>(pie.m_arrPieces.GetSize());
-        EXPECT_EQ(pie.AddPiece(Colour(index), RGB(0, 0, 0), 100, value, ""), 1);
+        EXPECT_EQ(pie.AddPiece(PieceColour(index), RGB(0, 0, 0), 100, value, ""), 1);
     }
     Settle();
 }

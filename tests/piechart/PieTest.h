@@ -1,3 +1,4 @@
+// The fixture of the pie's tests: a control in a visible parent.
 #pragma once
 
 #include <kavlix/PieChartCtrl.h>
@@ -38,6 +39,9 @@ protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
+/// The fill colour of piece `index` in the tests; the first forty differ.
+COLORREF PieceColour(int index);
+
 /// A control in a visible parent; its window has no frame.
 class PieTest : public testing::Test {
 protected:
@@ -47,9 +51,8 @@ protected:
     void TearDown() override;
 
     void Resize(int width, int height);
-    /// Pieces with these values of 100, piece i in Colour(i), without label texts.
+    /// Pieces with these values of 100, piece i in PieceColour(i), without label texts.
     void Add(std::initializer_list<double> values);
-    static COLORREF Colour(int index);
 
     std::unique_ptr<testkit::DibSurface> Paint();
     std::unique_ptr<testkit::MetafileRecorder> Record();

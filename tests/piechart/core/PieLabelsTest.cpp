@@ -1,3 +1,4 @@
+// Layouts of labels: what must hold of each, and how many texts must find room.
 #include <gtest/gtest.h>
 
 #include <algorithm>

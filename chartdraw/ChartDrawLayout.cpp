@@ -76,7 +76,7 @@ void CChartDraw::Calculate() {
     SelectGuard selected(dc, font);
     m_TextHeight = TextHeight(dc);
 
-    // In a small window the plot goes first: leave out one part after the other until the
+    // In a small window the plot has priority: leave out one part after the other until the
     // plot is large enough.
     const int smallest = static_cast<int>(kSmallestPlot * m_TextHeight);
     m_ShowCaptions = m_ShowTitle = m_ShowScales = true;

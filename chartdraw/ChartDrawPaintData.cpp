@@ -21,10 +21,10 @@ using namespace kavlix;
 namespace {
 
 constexpr int kMarkerHalf = 3; // pixels from a marker's centre to its edge
-constexpr int kPixelSize = 1;  // logical units to a pixel: marker sizes and pens are in pixels
+constexpr int kPixelSize = 1;  // logical units in a pixel
 
-/// Paints a line whose points are in logical units of one pixel. `origin` is the logical (0,
-/// 0) in device units.
+/// Paints a line whose points are in logical units of one pixel. `origin` is the device point of
+/// the logical origin.
 class OffsetPath : public PixelPath {
 public:
     OffsetPath(const PixelRaster& raster, std::uint32_t colour, const POINT& origin)
@@ -143,7 +143,8 @@ void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
     dataset.points.Boxes().Visit(0, dataset.points.Size(), addsNothing, [&](int first, int behind) {
         const ChartPoint* points = &dataset.points[first];
         for (int i = 0; i < behind - first; ++i) {
-            // These comparisons are false for NaN. Positions truncate toward zero, so -0.5 still counts as 0.
+            // The comparisons are false for NaN and keep both numbers in the range of an int. The set ignores
+            // pixels outside the plot.
             const double x = xMap.ExactPosition(points[i].x);
             const double y = yMap.ExactPosition(points[i].y);
             if (x > plot.left - 1 && x < plot.right && y > plot.top - 1 && y < plot.bottom)

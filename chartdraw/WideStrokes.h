@@ -24,7 +24,7 @@ class WideStrokes {
 public:
     /// A solid pen of `width` pixels and of the colour `colour` must be selected into `dc`. Pixels outside
     /// `view` are never visible. If the pixels of `dc` lie in memory, `raster` gives access to them; logical
-    /// units are then pixels, and `origin` is the logical (0, 0) in device units.
+    /// units are then pixels, and `origin` is the device point of the logical origin.
     WideStrokes(CDC& dc, int width, const Rect& view, const std::optional<PixelRaster>& raster,
                 std::uint32_t colour, const POINT& origin);
     ~WideStrokes();

@@ -10,8 +10,9 @@ namespace kavlix {
 /// The beginning that a label shares with another label, in bytes.
 struct SharedBeginning {
     int length = 0; ///< the longest common beginning with any other label
-    int lastWord =
-        0; ///< where the word begins in which the difference lies; an abbreviation keeps all from there
+    /// Where the word begins that contains the first difference. An abbreviation in the middle keeps
+    /// the text from there.
+    int lastWord = 0;
 };
 
 /// For each label, the beginning that it shares with those of `labels` that differ from it.

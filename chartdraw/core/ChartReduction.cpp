@@ -124,7 +124,8 @@ void ChartReduction::Extend(int column, int first, int last, double low, double 
     const double b = m_xMap.Value(column + 1 - kNearEdge);
     const double rounding = kRounding * std::max(std::abs(a), std::abs(b));
     m_columnBegin = std::min(a, b) + rounding;
-    m_columnEnd = column > 0 ? std::max(a, b) - rounding : m_columnBegin; // truncation widens column 0
+    // Positions truncate toward zero, so the columns up to 0 have other borders: no value is certain there.
+    m_columnEnd = column > 0 ? std::max(a, b) - rounding : m_columnBegin;
 }
 
 // Passes on the points of the open column and closes it.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kBlock = 32;   // columns
 constexpr int kLongJump = 8; // columns; shorter strokes go to ThinLine without a look at painted rows
-constexpr double kUnknown = std::numeric_limits<double>::infinity(); // as Block::top
+constexpr double kUnknown = std::numeric_limits<double>::infinity(); // of Block::top
 
 } // namespace
 

@@ -1,5 +1,4 @@
-// Where the pieces of a pie are. Angles are degrees, 0 at twelve o'clock, growing clockwise.
-// Positions are pixels.
+// Where the pieces of a pie are. Angles are degrees, clockwise from twelve o'clock; positions are pixels.
 #pragma once
 
 #include <vector>

@@ -115,6 +115,9 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
             {!inBox && hasPercent && !inSector(label.percent, requests[i].sector),
              "percentage leaves its sector"},
             {label.outside && nearest < radius, "box on the pie"},
+            {label.outside && std::abs(rim.x - centre.x) > 2 &&
+                 (rim.x < centre.x) != (label.box.left + label.box.right < 2 * centre.x),
+             "box on the other side"},
             {label.outside && !hasLeader, "leader of too few or many points"},
             {label.outside && hasLeader && std::hypot(leader[0].x - rim.x, leader[0].y - rim.y) > 1.5,
              "leader begins elsewhere"},

@@ -21,6 +21,12 @@ constexpr const char* kColour2 = "99CC00";
 /// The fonts that live with a control, as the recorder writes them: a recording does not see their end.
 inline const Strings kControlFonts = {"Arial 350", "Arial 300 @900", "Arial 450", "Arial 350"};
 
+/// Every property as "name=value", and of each dataset "number: colour marker line-size 'legend' visible
+/// samples".
+Strings Properties(const OpenGraph& graph);
+/// The parts with blanks between them.
+std::string Joined(const Strings& parts);
+
 class GraphTest : public testkit::GraphFixture<OpenGraph> {
 protected:
     /// Appends values to a dataset.

@@ -40,24 +40,16 @@ struct FedGraph {
     }
     std::string State() {
         std::ostringstream out;
+        out << Joined(Properties(graph)) << " " << x;
         for (int i = 0; i < CGraphCtrl::DatasetCount; ++i) {
-            out << graph.GetDatasetSize(i) << " " << graph.m_Datasets[i].m_Legend.GetString() << ":";
             double y = 0, sum = 0;
             for (int k = 0; graph.GetYData(i, k, y); ++k)
                 sum += y * (k % 97 + 1);
-            out << sum << " ";
+            out << " " << sum;
         }
-        for (const LabelStore* labels : {&graph.m_XTickLabelUp, &graph.m_XTickLabelDown}) {
-            out << "\nlabels " << labels->GetSize();
+        for (const LabelStore* labels : {&graph.m_XTickLabelUp, &graph.m_XTickLabelDown})
             if (!labels->IsEmpty())
                 out << labels->GetAt(0).GetString() << labels->GetAt(labels->GetUpperBound()).GetString();
-        }
-        out << "\n" << graph.m_SelectionMarkPos << " " << graph.m_XVisibleMax;
-        for (const CString* text : {&graph.m_Title, &graph.m_XLabel, &graph.m_YLabel, &graph.m_Y2Label,
-                                    &graph.m_CaptionFontFace, &graph.m_YUnit, &graph.m_Y2Unit})
-            out << "|" << text->GetString();
-        out << "|" << x << graph.m_YUnitExponent << graph.m_YTickLabelScale << graph.m_Y2UnitExponent
-            << graph.m_CaptionFontSize;
         return out.str();
     }
     /// A long text that was made while there was memory.

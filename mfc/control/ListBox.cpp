@@ -2,6 +2,8 @@
 
 #include "afx/Controls.h"
 
+#include "mfc/control/OwnerDraw.h"
+
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 
 CListBox::~CListBox() {
@@ -107,18 +109,6 @@ int CListBox::CharToItem(UINT, UINT) {
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        *pResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
     case WM_VKEYTOITEM:
         *pResult = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
@@ -126,6 +116,7 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         *pResult = CharToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
     default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+        return CallOwnerDraw(*this, message, lParam, pResult) ||
+               CWnd::OnChildNotify(message, wParam, lParam, pResult);
     }
 }

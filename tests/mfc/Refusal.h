@@ -1,10 +1,11 @@
+// What tests of errors share: refused arguments and thrown exceptions.
 #pragma once
 
 #include <afx.h>
 
 #include <gtest/gtest.h>
 
-/// A debug build stops at a wrong argument; a release build throws, and goes on unharmed.
+/// A debug build ends at an assertion; a release build throws CInvalidArgException*.
 #ifdef _DEBUG
 #define EXPECT_REFUSED(statement) EXPECT_DEATH(statement, "assertion failed")
 #else

@@ -1,3 +1,4 @@
+// String resources of the base tests.
 #pragma once
 
 #define IDS_BASE_PLAIN 101

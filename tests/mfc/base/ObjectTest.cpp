@@ -1,11 +1,11 @@
+// Run-time class information, assertions and dumps.
+
 #include <afx.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
-
-// Run-time class information and diagnostics.
 
 namespace {
 
@@ -47,8 +47,12 @@ TEST(RuntimeClass, KnowsItsBasesAcrossTheDllBorder) {
     EXPECT_FALSE(RUNTIME_CLASS(Animal)->IsDerivedFrom(dog));
     EXPECT_TRUE(RUNTIME_CLASS(CStdioFile)->IsDerivedFrom(RUNTIME_CLASS(CFile)));
     EXPECT_EQ(nullptr, RUNTIME_CLASS(CObject)->m_pfnGetBaseClass());
-    EXPECT_TRUE(Puppy().IsKindOf(dog));
-    EXPECT_STREQ("Dog", Puppy().GetRuntimeClass()->m_lpszClassName);
+    Puppy puppy;
+    CObject* const object = &puppy;
+    EXPECT_EQ(dog, puppy.GetRuntimeClass());
+    EXPECT_EQ(&puppy, DYNAMIC_DOWNCAST(Dog, object));
+    EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CFile, object));
+    EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(Dog, static_cast<CObject*>(nullptr)));
 }
 
 TEST(RuntimeClass, MakesObjectsByNameWhereItCan) {
@@ -73,15 +77,6 @@ TEST(RuntimeClass, ClassesOfAnUnloadedModuleLeaveTheList) {
     EXPECT_EQ(RUNTIME_CLASS(Dog), CRuntimeClass::FromName("Dog"));
 }
 
-TEST(DownCast, ChecksTheClass) {
-    Puppy puppy;
-    CObject* const object = &puppy;
-    EXPECT_EQ(&puppy, DYNAMIC_DOWNCAST(Dog, object));
-    EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(CFile, object));
-    EXPECT_EQ(nullptr, DYNAMIC_DOWNCAST(Dog, static_cast<CObject*>(nullptr)));
-    EXPECT_EQ(&puppy, STATIC_DOWNCAST(Animal, object));
-}
-
 TEST(Diagnostics, AssertionsStopADebugBuildOnly) {
     int evaluated = 0;
     VERIFY(++evaluated == 1);
@@ -91,11 +86,9 @@ TEST(Diagnostics, AssertionsStopADebugBuildOnly) {
     Puppy puppy;
     ASSERT_VALID(&puppy);
     ASSERT_KINDOF(Dog, &puppy);
-    ASSERT_POINTER(&puppy, Puppy);
     ASSERT_NULL_OR_POINTER(none, Dog);
 #ifdef _DEBUG
     EXPECT_DEATH(ASSERT(evaluated == 2), "ObjectTest.cpp\\(.*evaluated == 2");
-    EXPECT_DEATH(VERIFY(evaluated == 2), "evaluated == 2");
     EXPECT_DEATH(ASSERT_VALID(none), "assertion failed");
     puppy.legs = -1;
     EXPECT_DEATH(ASSERT_VALID(&puppy), "legs >= 0");

@@ -1,42 +1,223 @@
+// CString without its formats: random calls against std::string, and what such a model cannot show.
+
 #include <afx.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstring>
+#include <random>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "tests/mfc/Refusal.h"
 
-// CString but for its formats.
-
 namespace {
 
-// EXPECT_STREQ reads a CString only by its characters.
+// EXPECT_STREQ needs a pointer to characters.
 #define EXPECT_TEXT(expected, text) EXPECT_STREQ(expected, static_cast<LPCTSTR>(text))
 
-TEST(String, ConstructorsTakeWhatTheyAreGivenAndNoMore) {
-    EXPECT_TEXT("", CString());
-    EXPECT_TEXT("", CString(static_cast<LPCTSTR>(nullptr)));
-    EXPECT_TEXT("", CString(static_cast<LPCWSTR>(nullptr)));
-    EXPECT_TEXT("x", CString('x'));
+std::string Plain(const CString& text) {
+    return std::string(text.GetString(), static_cast<std::size_t>(text.GetLength()));
+}
+
+std::string WithCase(std::string text, bool upper) {
+    for (char& ch : text)
+        ch = static_cast<char>(upper ? std::toupper(ch) : std::tolower(ch));
+    return text;
+}
+
+/// Without the characters of `set` at its ends.
+std::string Trimmed(const std::string& text, const std::string& set, bool left, bool right) {
+    const std::size_t first = left ? text.find_first_not_of(set) : 0;
+    const std::size_t last = right ? text.find_last_not_of(set) + 1 : text.size();
+    return first < last ? text.substr(first, last - first) : "";
+}
+
+/// `text` with every `before` replaced, from left to right, and how many there were.
+std::pair<std::string, int> Replaced(std::string text, const std::string& before, const std::string& after) {
+    int count = 0;
+    for (std::size_t at = 0; !before.empty() && (at = text.find(before, at)) != std::string::npos; ++count) {
+        text.replace(at, before.size(), after);
+        at += after.size();
+    }
+    return {text, count};
+}
+
+/// The pieces between commas, the empty ones too.
+std::vector<std::string> Pieces(const std::string& text) {
+    std::vector<std::string> pieces(1);
+    for (const char ch : text)
+        ch == ',' ? void(pieces.emplace_back()) : void(pieces.back() += ch);
+    return pieces;
+}
+
+int Index(std::size_t found) {
+    return static_cast<int>(found); // -1 for std::string::npos
+}
+
+int Sign(int order) {
+    return (order > 0) - (order < 0);
+}
+
+template <class LEFT, class RIGHT> auto Relations(const LEFT& left, const RIGHT& right) {
+    return std::tuple(left == right, left != right, left<right, left <= right, left> right, left >= right);
+}
+
+TEST(String, ActsLikeAStdStringUnderRandomCalls) {
+    std::mt19937 random(22);
+    const auto below = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
+    const auto letter = [&] { return "aAbB ,\v"[below(7)]; };
+    CString text;
+    std::string model;
+    for (int step = 0; step < 30000; ++step) {
+        SCOPED_TRACE(step);
+        const int length = static_cast<int>(model.size());
+        const auto number = [&] { // around the text's positions, or far outside
+            const int chance = below(20);
+            return chance == 0 ? INT_MIN : chance == 1 ? INT_MAX : below(length + 7) - 3;
+        };
+        const int at = number();
+        const int count = number();
+        const std::size_t first = static_cast<std::size_t>(std::clamp(at, 0, length));
+        const std::size_t many = static_cast<std::size_t>(std::max(count, 0));
+        const char ch = letter();
+        const char other = letter();
+        const bool own = below(4) == 0; // an argument that is a part of the text itself
+        std::string part = own ? model.substr(first) : std::string(random() % 4, ' ');
+        if (!own)
+            std::generate(part.begin(), part.end(), letter);
+        const LPCTSTR argument = own ? text.GetString() + first : part.c_str();
+        const std::string one(1, ch);
+
+        ASSERT_EQ(model.substr(first, many), Plain(text.Mid(at, count)));
+        ASSERT_EQ(model.substr(first), Plain(text.Mid(at)));
+        ASSERT_EQ(model.substr(0, many), Plain(text.Left(count)));
+        ASSERT_EQ(model.substr(model.size() - std::min(many, model.size())), Plain(text.Right(count)));
+        ASSERT_EQ(model.substr(0, model.find_first_not_of(part)), Plain(text.SpanIncluding(argument)));
+        ASSERT_EQ(model.substr(0, model.find_first_of(part)), Plain(text.SpanExcluding(argument)));
+        ASSERT_EQ(Index(model.find_first_of(part)), text.FindOneOf(argument));
+        ASSERT_EQ(at < 0 ? -1 : Index(model.find(part, static_cast<std::size_t>(at))),
+                  text.Find(argument, at));
+        ASSERT_EQ(at < 0 ? -1 : Index(model.find(ch, static_cast<std::size_t>(at))), text.Find(ch, at));
+        ASSERT_EQ(Index(model.rfind(ch)), text.ReverseFind(ch));
+        ASSERT_EQ(Sign(model.compare(part)), text.Compare(argument));
+        ASSERT_EQ(Sign(WithCase(model, false).compare(WithCase(part, false))), text.CompareNoCase(argument));
+        ASSERT_EQ(Relations(model, part), Relations(text, argument));
+        ASSERT_EQ(Relations(part, model), Relations(argument, text));
+        ASSERT_EQ(Relations(model, part), Relations(text, CString(argument)));
+        CString piece("old");
+        int index = 0;
+        int position = 0;
+        for (const std::string& expected : Pieces(model)) {
+            ASSERT_TRUE(AfxExtractSubString(piece, text, index++, ','));
+            ASSERT_EQ(expected, Plain(piece));
+            ASSERT_EQ(expected, expected.empty() ? "" : Plain(text.Tokenize(",", position)));
+        }
+        ASSERT_FALSE(AfxExtractSubString(piece, text, index, ',') || !piece.IsEmpty());
+        ASSERT_TRUE(position != -1 && text.Tokenize(",", position).IsEmpty() && position == -1);
+
+        const auto [replaced, changes] = Replaced(model, part, one + part);
+        const auto [exchanged, exchanges] = Replaced(model, one, std::string(1, other));
+        switch (below(length > 60 ? 1 : 14)) {
+        case 0:
+            text = argument;
+            model = part;
+            break;
+        case 1:
+            text += argument;
+            text += ch;
+            model += part + ch;
+            break;
+        case 2:
+            text = ch + text + argument + CString(other);
+            model = ch + model + part + other;
+            break;
+        case 3:
+            model.insert(first, part);
+            ASSERT_EQ(static_cast<int>(model.size()), text.Insert(at, argument));
+            break;
+        case 4:
+            model.insert(first, one);
+            ASSERT_EQ(length + 1, text.Insert(at, ch));
+            break;
+        case 5:
+            model.erase(first, many);
+            ASSERT_EQ(static_cast<int>(model.size()), text.Delete(at, count));
+            break;
+        case 6:
+            model = replaced;
+            ASSERT_EQ(changes, text.Replace(argument, one.c_str() + CString(argument)));
+            break;
+        case 7:
+            model = exchanged;
+            ASSERT_EQ(ch == other ? 0 : exchanges, text.Replace(ch, other));
+            break;
+        case 8:
+            model = Replaced(model, one, "").first;
+            ASSERT_EQ(length - static_cast<int>(model.size()), text.Remove(ch));
+            break;
+        case 9:
+            model = Trimmed(Trimmed(model, one, true, own), " \v", !own, true);
+            (own ? text.Trim(ch).TrimRight() : text.TrimLeft(ch).Trim());
+            break;
+        case 10:
+            model = Trimmed(Trimmed(model, part, own, true), " \v", true, false);
+            (own ? text.Trim(part.c_str()) : text.TrimRight(part.c_str())).TrimLeft();
+            break;
+        case 11:
+            model = WithCase(model, own);
+            own ? text.MakeUpper() : text.MakeLower();
+            break;
+        case 12:
+            std::reverse(model.begin(), model.end());
+            text.MakeReverse();
+            break;
+        default:
+            if (at >= 0 && at < length) {
+                model[first] = ch;
+                text.SetAt(at, ch);
+            }
+        }
+        ASSERT_EQ(model, Plain(text));
+    }
+}
+
+TEST(String, NothingAndTooMuchAreTakenWell) {
+    const LPCTSTR none = nullptr;
+    for (const CString& empty : {CString(), CString(none), CString(static_cast<LPCWSTR>(nullptr)),
+                                 CString('x', 0), CString('x', -5), CString("abcdef", -1), none + CString()})
+        EXPECT_TEXT("", empty);
     EXPECT_TEXT("xxx", CString('x', 3));
-    EXPECT_TEXT("", CString('x', 0));
-    EXPECT_TEXT("", CString('x', -5));
     EXPECT_TEXT("abc", CString("abcdef", 3));
-    EXPECT_TEXT("", CString("abcdef", -1));
     EXPECT_TEXT("wide", CString(L"wide"));
     EXPECT_TEXT("wi", CString(L"wide", 2));
     const unsigned char bytes[] = {'b', 'y', 0};
     EXPECT_TEXT("by", CString(bytes));
+    CString text("aa");
+    text += none;
+    EXPECT_TRUE(text != none && CString() == none && text.Find(none) == -1);
+    EXPECT_EQ(2, text.Replace("a", none));
+    EXPECT_FALSE(AfxExtractSubString(text, nullptr, 0));
 
     const CString withZero("a\0b", 3);
     EXPECT_EQ(3, withZero.GetLength());
     EXPECT_TRUE(withZero == CString("a\0b", 3));
     EXPECT_FALSE(withZero == CString("a\0c", 3)) << "what follows a zero is part of the text";
     EXPECT_EQ(0, withZero.Compare("a")) << "but a plain text ends there";
+
+    text = "kept";
+    EXPECT_TRUE(Throws<CMemoryException>([&] { text.GetBuffer(INT_MAX); }));
+    EXPECT_TRUE(Throws<CMemoryException>([&] { text.GetBufferSetLength(INT_MAX); }));
+    EXPECT_TEXT("kept", text);
+    EXPECT_EQ('t', text.GetAt(3));
+    EXPECT_REFUSED(text.GetAt(4));
+    EXPECT_REFUSED(text.SetAt(-1, 'x'));
+    EXPECT_REFUSED(static_cast<void>(CString()[0]));
 }
 
 TEST(String, MovingLeavesAnEmptyStringAndCopiesNothing) {
@@ -55,172 +236,14 @@ TEST(String, MovingLeavesAnEmptyStringAndCopiesNothing) {
     EXPECT_EQ(1000, source.GetLength());
 }
 
-TEST(String, AssignsAndAppendsPartsOfItself) {
-    CString text("0123456789");
-    text = static_cast<LPCTSTR>(text) + 4;
-    EXPECT_TEXT("456789", text);
-    text += text;
-    EXPECT_TEXT("456789456789", text);
-    for (int i = 0; i < 10; ++i)
-        text += static_cast<LPCTSTR>(text) + 1;
-    EXPECT_EQ('4', text[0]);
-    EXPECT_EQ(std::strlen(text), static_cast<std::size_t>(text.GetLength()));
-    const CString& same = text;
-    text = same;
-    EXPECT_EQ('4', text[0]);
-    text.Insert(3, static_cast<LPCTSTR>(text) + 2);
-    EXPECT_EQ('4', text[0]);
-    text.Replace(text, "gone");
-    EXPECT_TEXT("gone", text);
-}
-
-TEST(String, ConcatenationTakesTextsAndCharactersOnEitherSide) {
-    const CString b("b");
-    EXPECT_TEXT("abcde", "a" + b + 'c' + CString("d") + "e");
-    EXPECT_TEXT("ab", 'a' + b);
-    EXPECT_TEXT("b", static_cast<LPCTSTR>(nullptr) + b);
-    CString text;
-    text += 'x';
-    text += "y";
-    text += b;
-    text += static_cast<LPCTSTR>(nullptr);
-    EXPECT_TEXT("xyb", text);
-}
-
-TEST(String, ComparisonsOrderByByteValue) {
-    const CString text("Beta");
-    EXPECT_TRUE(text == "Beta" && "Beta" == text && text != "beta" && !(text != "Beta"));
-    EXPECT_TRUE(text < "beta" && "Alpha" < text && text > "Alpha" && "beta" > text);
-    EXPECT_TRUE(text <= "Beta" && text >= "Beta" && "Beta" <= text && "Beta" >= text);
-    EXPECT_FALSE(text < "Beta" || text > "Beta");
+TEST(String, OrdersBytesAndFollowsTheCodePage) {
     EXPECT_TRUE(CString("\xE9") > "z") << "bytes are unsigned";
-    EXPECT_TRUE(CString() == static_cast<LPCTSTR>(nullptr));
-    EXPECT_EQ(-1, text.Compare("Betas"));
-    EXPECT_EQ(0, text.CompareNoCase("bETA"));
-    EXPECT_EQ(1, text.CompareNoCase("BET"));
     EXPECT_EQ(-1, CString("_").CompareNoCase("A"))
         << "letters compare as lower case, and '_' lies between the cases";
     EXPECT_EQ(-1, CString("a").Collate("B"));
     EXPECT_EQ(1, CString("a").Compare("B"));
     EXPECT_EQ(0, CString("a").CollateNoCase("A"));
     EXPECT_NE(0, CString("a").Collate("A"));
-}
-
-TEST(String, PartsAreCutToTheString) {
-    const CString text("abcdef");
-    struct {
-        int first;
-        int count;
-        const char* expected;
-    } const cases[] = {
-        {0, 3, "abc"},
-        {2, 2, "cd"},
-        {4, 9, "ef"},
-        {6, 1, ""},
-        {7, 1, ""},
-        {-2, 3, "abc"},
-        {1, -1, ""},
-        {2, INT_MAX, "cdef"},
-        {INT_MAX, INT_MAX, ""},
-        {INT_MIN, INT_MIN, ""},
-    };
-    for (const auto& c : cases)
-        EXPECT_TEXT(c.expected, text.Mid(c.first, c.count)) << c.first << ", " << c.count;
-    EXPECT_TEXT("def", text.Mid(3));
-    EXPECT_TEXT("", text.Mid(INT_MAX));
-    const struct {
-        int count;
-        const char *left, *right;
-    } ends[] = {{2, "ab", "ef"}, {100, "abcdef", "abcdef"}, {-1, "", ""}};
-    for (const auto& end : ends) {
-        EXPECT_TEXT(end.left, text.Left(end.count));
-        EXPECT_TEXT(end.right, text.Right(end.count));
-    }
-    EXPECT_TEXT("ab", text.SpanIncluding("ba"));
-    EXPECT_TEXT("", text.SpanIncluding("c"));
-    EXPECT_TEXT("abcdef", text.SpanIncluding("fedcba"));
-    EXPECT_TEXT("abc", text.SpanExcluding("xd"));
-    EXPECT_TEXT("abcdef", text.SpanExcluding(""));
-}
-
-TEST(String, PositionsOutsideTheStringAreRefused) {
-    CString text("abc");
-    EXPECT_EQ('c', text.GetAt(2));
-    text.SetAt(2, 'd');
-    EXPECT_TEXT("abd", text);
-    EXPECT_REFUSED(text.GetAt(3));
-    EXPECT_REFUSED(text.SetAt(-1, 'x'));
-    EXPECT_REFUSED(static_cast<void>(text[INT_MIN]));
-    EXPECT_REFUSED(static_cast<void>(CString()[0]));
-}
-
-TEST(String, SearchesFromWhereItIsTold) {
-    const CString text("one two one");
-    EXPECT_EQ(0, text.Find("one"));
-    EXPECT_EQ(8, text.Find("one", 1));
-    EXPECT_EQ(-1, text.Find("one", 9));
-    EXPECT_EQ(-1, text.Find("three"));
-    EXPECT_EQ(4, text.Find('t'));
-    EXPECT_EQ(-1, text.Find('t', 5));
-    EXPECT_EQ(-1, text.Find('o', INT_MAX));
-    EXPECT_EQ(-1, text.Find('o', -1));
-    EXPECT_EQ(8, text.ReverseFind('o'));
-    EXPECT_EQ(-1, text.ReverseFind('x'));
-    EXPECT_EQ(1, text.FindOneOf("xyzn"));
-    EXPECT_EQ(-1, text.FindOneOf(""));
-}
-
-TEST(String, ReplacesWithoutReadingItsOwnReplacements) {
-    CString text("aaaa");
-    EXPECT_EQ(2, text.Replace("aa", "a"));
-    EXPECT_TEXT("aa", text);
-    EXPECT_EQ(2, text.Replace("a", "aa"));
-    EXPECT_TEXT("aaaa", text);
-    EXPECT_EQ(4, text.Replace("a", nullptr));
-    EXPECT_TEXT("", text);
-    text = "x.y.z";
-    EXPECT_EQ(2, text.Replace('.', ','));
-    EXPECT_EQ(0, text.Replace(',', ',')) << "nothing changed";
-    EXPECT_EQ(0, text.Replace("", "never"));
-    EXPECT_EQ(0, text.Replace("Y", "case matters"));
-    EXPECT_TEXT("x,y,z", text);
-    EXPECT_EQ(2, text.Remove(','));
-    EXPECT_TEXT("xyz", text);
-}
-
-TEST(String, InsertsAndDeletesWithinItsBounds) {
-    CString text("bd");
-    EXPECT_EQ(3, text.Insert(1, 'c'));
-    EXPECT_EQ(4, text.Insert(-7, "a"));
-    EXPECT_EQ(6, text.Insert(99, "ef"));
-    EXPECT_EQ(6, text.Insert(2, ""));
-    EXPECT_TEXT("abcdef", text);
-    EXPECT_EQ(5, text.Delete(0));
-    EXPECT_EQ(4, text.Delete(4, 100));
-    EXPECT_EQ(4, text.Delete(4, 1));
-    EXPECT_EQ(4, text.Delete(1, -1));
-    EXPECT_EQ(2, text.Delete(1, 2));
-    EXPECT_TEXT("be", text);
-    EXPECT_EQ(0, text.Delete(0, INT_MAX));
-}
-
-TEST(String, TrimsOnlyTheEnds) {
-    const char* const padded = " \t\r\n in side \v\f ";
-    EXPECT_TEXT("in side", CString(padded).Trim());
-    EXPECT_TEXT("in side \v\f ", CString(padded).TrimLeft());
-    EXPECT_TEXT(" \t\r\n in side", CString(padded).TrimRight());
-    EXPECT_TEXT("", CString("   ").Trim());
-    EXPECT_TEXT("", CString("xx").TrimLeft('x'));
-    EXPECT_TEXT("", CString("xx").TrimRight('x'));
-    EXPECT_TEXT("y", CString("xxyxx").Trim('x'));
-    EXPECT_TEXT("1x2", CString("xy1x2yx").Trim("yx"));
-    EXPECT_TEXT("xx", CString("xx").TrimLeft("")) << "an empty set trims nothing";
-}
-
-TEST(String, ChangesCaseOfAsciiAndOfTheCodePage) {
-    EXPECT_TEXT("ABC-1", CString("aBc-1").MakeUpper());
-    EXPECT_TEXT("abc-1", CString("aBc-1").MakeLower());
-    EXPECT_TEXT("cba", CString("abc").MakeReverse());
     const CString upper(L"\x00C4\x00D6x");
     CString lower(L"\x00E4\x00F6X");
     if (upper.Find('?') < 0) { // a code page that knows the letters
@@ -236,53 +259,17 @@ TEST(String, BufferIsWritableToItsLastByte) {
     std::memcpy(buffer, "0123456789", 11);
     text.ReleaseBuffer();
     EXPECT_TEXT("0123456789", text);
-
     text.GetBuffer(200)[0] = 0;
     text.ReleaseBuffer();
     EXPECT_TRUE(text.IsEmpty());
-
     std::memset(text.GetBufferSetLength(5), 'z', 5);
     EXPECT_EQ(5, text.GetLength());
     text.GetBuffer(0);
     text.ReleaseBuffer(2);
-    EXPECT_TEXT("zz", text);
     text.LockBuffer()[0] = 'y';
     text.UnlockBuffer();
     text.FreeExtra();
     EXPECT_TEXT("yz", text);
-}
-
-TEST(String, TooLongForAnIntIsOutOfMemory) {
-    CString text("kept");
-    EXPECT_TRUE(Throws<CMemoryException>([&] { text.GetBuffer(INT_MAX); }));
-    EXPECT_TRUE(Throws<CMemoryException>([&] { text.GetBufferSetLength(INT_MAX); }));
-    EXPECT_TEXT("kept", text);
-}
-
-TEST(String, ExtractsNumberedPieces) {
-    CString part;
-    const char* const pieces[] = {"a", "", "c", ""};
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(i < 3, AfxExtractSubString(part, "a;;c", i, ';') != FALSE) << i;
-        EXPECT_TEXT(pieces[i], part) << i;
-    }
-    EXPECT_TRUE(AfxExtractSubString(part, "first\nsecond", 1));
-    EXPECT_TEXT("second", part);
-    part = "x\ny";
-    EXPECT_TRUE(AfxExtractSubString(part, part, 1)) << "the text may be the target's own";
-    EXPECT_TEXT("y", part);
-    EXPECT_FALSE(AfxExtractSubString(part, nullptr, 0));
-}
-
-TEST(String, TokenizeSkipsEmptyPieces) {
-    const CString text(",one,,two;three");
-    int position = 0;
-    for (const char* const piece : {"one", "two", "three"})
-        EXPECT_TEXT(piece, text.Tokenize(",;", position));
-    EXPECT_NE(-1, position);
-    EXPECT_TEXT("", text.Tokenize(",;", position));
-    EXPECT_EQ(-1, position);
-    EXPECT_TEXT("", text.Tokenize(",;", position));
 }
 
 } // namespace

@@ -1,14 +1,15 @@
+// CTime and CTimeSpan: local time by the rules of a zone and year, formats, other forms of dates.
+
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
-#include "tests/mfc/Refusal.h"
-#include "tests/support/ImportHook.h"
 #include <cstring>
 #include <string>
 #include <tuple>
 
-// CTime and CTimeSpan.
+#include "tests/mfc/Refusal.h"
+#include "tests/support/ImportHook.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ std::string Gmt(CTime time) {
     return time.FormatGmt("%Y-%m-%d %H:%M:%S").GetString();
 }
 
-/// The rules of some zones as the system tells them: wDay is the how many-th Sunday of the month, 5 the last.
+/// Rules of zones in the format of the system: wDay is the number of the Sunday in the month, 5 the last.
 struct Zone {
     const char* name;
     LONG bias; // minutes, west positive
@@ -67,8 +68,7 @@ struct Moment {
 const Moment moments[] = {
     {"America/New_York", 1705320000, "2024-01-15 07:00:00", 0},
     {"America/New_York", 1721044800, "2024-07-15 08:00:00", 1},
-    {"America/New_York", 1710053999, "2024-03-10 01:59:59",
-     0}, // the last second before the clocks go forward
+    {"America/New_York", 1710053999, "2024-03-10 01:59:59", 0}, // before the clocks go forward
     {"America/New_York", 1710054000, "2024-03-10 03:00:00", 1},
     {"America/New_York", 1730613599, "2024-11-03 01:59:59", 1}, // and before they go back
     {"America/New_York", 1730613600, "2024-11-03 01:00:00", 0},
@@ -122,8 +122,8 @@ TEST(Time, FollowsTheRulesOfTheZoneAndYear) {
 }
 
 TEST(Time, FollowsTheZoneOfTheSystem) {
-    // In a zone of the table, told by TZ, the system itself must come to the same; in any other, back and
-    // forth must.
+    // If TZ names a zone of the table, the system must agree with the table. In any zone, conversions there
+    // and back must agree.
     char zone[64] = "";
     GetEnvironmentVariableA("TZ", zone, sizeof zone);
     CheckMoments(zone);
@@ -141,7 +141,7 @@ TEST(Time, TellsGmtOfAnyYear) {
     EXPECT_EQ("2000-02-29 00:00:00", Gmt(CTime(951782400)));
     EXPECT_EQ("2038-01-19 03:14:08", Gmt(CTime(2147483648LL)));
     EXPECT_EQ("1601-01-01 00:00:00", Gmt(CTime(-11644473600)));
-    // The last but one lies before all dates.
+    // The third time is before the first date.
     for (const CTime time : {CTime(), CTime(INT64_MAX), CTime(-11644473601), CTime(INT64_MIN)})
         EXPECT_EQ("1970-01-01 00:00:00", Gmt(time)) << time.GetTime();
     struct tm record {};
@@ -199,7 +199,7 @@ TEST(Time, SpansAddAndCompare) {
     time -= span;
     EXPECT_TRUE(time == start && time >= start);
     EXPECT_TRUE(CTimeSpan(1) < CTimeSpan(2) && CTimeSpan(-1) < CTimeSpan(0));
-    // The ends of 64 bits wrap and do not trap.
+    // Times wrap at the ends of 64 bits.
     EXPECT_EQ(INT64_MIN, (CTime(INT64_MAX) + CTimeSpan(1)).GetTime());
 }
 

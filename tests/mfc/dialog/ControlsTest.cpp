@@ -1,3 +1,5 @@
+// The control classes: what they do beyond sending the message of a member's name.
+
 #include <afxcmn.h>
 #include <afxwin.h>
 
@@ -31,16 +33,12 @@ protected:
 TEST_F(Controls, EditTextSelectionAndLines) {
     CEdit edit;
     ASSERT_TRUE(edit.Create(kStyle | ES_MULTILINE, m_rect, &m_parent, 5));
-    EXPECT_EQ(5, edit.GetDlgCtrlID());
     edit.SetWindowText("first\r\nsecond line\r\n\r\nlast");
-    EXPECT_EQ(tuple(4, 7, 11, 1),
-              tuple(edit.GetLineCount(), edit.LineIndex(1), edit.LineLength(7), edit.LineFromChar(8)));
     char line[32];
     EXPECT_EQ(11, edit.GetLine(1, line, sizeof(line)));
     EXPECT_EQ("second line", std::string(line, 11));
     char one[2] = {'-', '-'};
-    EXPECT_EQ(1, edit.GetLine(1, one, 1))
-        << "room for one character, less than the message needs for its size";
+    EXPECT_EQ(1, edit.GetLine(1, one, 1)) << "less room than the message needs for its size";
     EXPECT_EQ("s-", std::string(one, 2));
     EXPECT_EQ(0, edit.GetLine(9, line, sizeof(line)));
 
@@ -48,30 +46,23 @@ TEST_F(Controls, EditTextSelectionAndLines) {
     int start = 0, end = 0;
     edit.GetSel(start, end);
     EXPECT_EQ(tuple(7, 13), tuple(start, end));
-    EXPECT_EQ(static_cast<DWORD>(MAKELONG(7, 13)), edit.GetSel());
     edit.ReplaceSel("2nd", TRUE);
-    EXPECT_TRUE(edit.CanUndo());
     EXPECT_STREQ("first\r\n2nd line\r\n\r\nlast", TextOf(edit));
     EXPECT_TRUE(edit.Undo());
-    edit.SetSel(0, -1);
+    edit.SetSel(static_cast<DWORD>(MAKELONG(0, -1)));
     edit.GetSel(start, end);
     EXPECT_EQ(tuple(0, TextOf(edit).GetLength()), tuple(start, end));
-    edit.SetModify();
-    edit.SetLimitText(10);
     edit.SetMargins(3, 4);
-    EXPECT_EQ(tuple(TRUE, 10u, MAKELONG(3, 4)),
-              tuple(edit.GetModify(), edit.GetLimitText(), edit.GetMargins()));
-    EXPECT_TRUE(edit.SetReadOnly() && (edit.GetStyle() & ES_READONLY) != 0);
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(3, 4)), edit.GetMargins());
+    EXPECT_EQ(8, LOWORD(edit.CharFromPos(edit.PosFromChar(8))));
 }
 
 TEST_F(Controls, ButtonsAndStatics) {
     CButton button;
     ASSERT_TRUE(button.Create("&Three", kStyle | BS_AUTO3STATE, m_rect, &m_parent, 6));
+    EXPECT_EQ(static_cast<UINT>(BS_AUTO3STATE), button.GetButtonStyle() & 0xF);
     button.SetCheck(2);
-    EXPECT_EQ(tuple(2, 2u), tuple(button.GetCheck(), button.GetState() & 3));
-    button.SetButtonStyle(BS_AUTOCHECKBOX);
-    EXPECT_EQ(static_cast<UINT>(BS_AUTOCHECKBOX), button.GetButtonStyle() & 0xF);
-
+    EXPECT_EQ(2, button.GetCheck());
     CStatic label;
     ASSERT_TRUE(label.Create("", kStyle | SS_ICON, m_rect, &m_parent));
     HICON const icon = ::LoadIcon(nullptr, IDI_APPLICATION);
@@ -81,11 +72,9 @@ TEST_F(Controls, ButtonsAndStatics) {
 
 TEST_F(Controls, ListBoxItems) {
     CListBox list;
-    ASSERT_TRUE(list.Create(kStyle | LBS_SORT, m_rect, &m_parent, 7));
-    EXPECT_EQ(0, list.AddString("pear"));
-    EXPECT_EQ(0, list.AddString("apple"));
-    EXPECT_EQ(2, list.InsertString(-1, "applause"));
-    EXPECT_EQ(3, list.GetCount());
+    ASSERT_TRUE(list.Create(kStyle | LBS_MULTIPLESEL, m_rect, &m_parent, 7));
+    for (LPCTSTR item : {"apple", "pear", "applause", "plum"})
+        list.AddString(item);
     CString text("unchanged");
     list.GetText(1, text);
     EXPECT_STREQ("pear", text);
@@ -94,34 +83,19 @@ TEST_F(Controls, ListBoxItems) {
     EXPECT_EQ(2, list.FindString(0, "app"));
     EXPECT_EQ(0, list.FindStringExact(-1, "APPLE"));
     EXPECT_EQ(LB_ERR, list.FindStringExact(-1, "app"));
-    EXPECT_EQ(1, list.SelectString(-1, "pe"));
-    EXPECT_EQ(1, list.GetCurSel());
-    EXPECT_EQ(LB_ERR, list.SetCurSel(-1));
-    EXPECT_EQ(LB_ERR, list.GetCurSel());
-    list.SetItemDataPtr(2, &list);
-    EXPECT_EQ(2, list.DeleteString(0));
-    EXPECT_EQ(&list, list.GetItemDataPtr(1));
-    CRect first, second;
-    list.GetItemRect(0, first);
+    CRect second;
     list.GetItemRect(1, second);
-    EXPECT_EQ(first.bottom, second.top);
     BOOL outside = TRUE;
     EXPECT_EQ(1u, list.ItemFromPoint(second.CenterPoint(), outside));
     EXPECT_FALSE(outside);
-    list.ResetContent();
-    EXPECT_EQ(0, list.GetCount());
-
-    CListBox several;
-    ASSERT_TRUE(several.Create(kStyle | LBS_MULTIPLESEL, m_rect, &m_parent, 8));
-    for (LPCTSTR item : {"a", "b", "c", "d"})
-        several.AddString(item);
-    several.SetSel(3);
-    several.SelItemRange(TRUE, 0, 1);
-    EXPECT_EQ(3, several.GetSelCount());
+    list.SetSel(3);
+    list.SelItemRange(TRUE, 0, 1);
     int chosen[4] = {-1, -1, -1, -1};
-    EXPECT_EQ(3, several.GetSelItems(4, chosen));
+    EXPECT_EQ(3, list.GetSelItems(4, chosen));
     EXPECT_EQ(tuple(3, -1), tuple(chosen[2], chosen[3]));
-    EXPECT_FALSE(several.GetSel(2));
+    list.SetItemDataPtr(2, &list);
+    EXPECT_EQ(3, list.DeleteString(0));
+    EXPECT_EQ(&list, list.GetItemDataPtr(1));
 }
 
 TEST_F(Controls, ComboBoxItemsAndEditField) {
@@ -134,26 +108,18 @@ TEST_F(Controls, ComboBoxItemsAndEditField) {
     CString text;
     combo.GetLBText(2, text);
     EXPECT_EQ(longText, text);
-    EXPECT_EQ(500, combo.GetLBTextLen(2));
     combo.GetLBText(7, text);
     EXPECT_STREQ("", text);
-    EXPECT_EQ(1, combo.SetCurSel(1));
+    EXPECT_EQ(1, combo.SelectString(-1, "tw"));
     EXPECT_STREQ("two", TextOf(combo));
     EXPECT_TRUE(combo.SetEditSel(1, 3));
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(1, 3)), combo.GetEditSel());
-    EXPECT_EQ(CB_ERR, combo.SetCurSel(-1));
-    EXPECT_STREQ("", TextOf(combo));
-    combo.SetItemData(0, 1234);
-    EXPECT_EQ(tuple(1234u, FALSE), tuple(combo.GetItemData(0), combo.GetDroppedState()));
 }
 
 TEST_F(Controls, ScrollBarsAndTheirLimit) {
     CScrollBar bar;
     ASSERT_TRUE(bar.Create(kStyle | SBS_HORZ, m_rect, &m_parent, 10));
     bar.SetScrollRange(-10, 90);
-    EXPECT_EQ(0, bar.SetScrollPos(40));
-    EXPECT_EQ(40, bar.SetScrollPos(500));
-    EXPECT_EQ(90, bar.GetScrollPos()) << "held in the range";
     SCROLLINFO info{};
     info.fMask = SIF_PAGE;
     info.nPage = 21;
@@ -211,10 +177,8 @@ TEST_F(Controls, CommonControls) {
     CSliderCtrl slider;
     ASSERT_TRUE(slider.Create(kStyle | TBS_ENABLESELRANGE, m_rect, &m_parent, 21));
     slider.SetRange(-70000, 70000);
-    slider.SetPos(-65000);
-    EXPECT_EQ(-65000, slider.GetPos());
-    slider.SetPos(90000);
-    EXPECT_EQ(70000, slider.GetPos());
+    slider.GetRange(low, high);
+    EXPECT_EQ(tuple(-70000, 70000), tuple(low, high));
     slider.SetSelection(-5, 5);
     slider.GetSelection(low, high);
     EXPECT_EQ(tuple(-5, 5), tuple(low, high));
@@ -229,7 +193,6 @@ TEST_F(Controls, CommonControls) {
     spin.GetRange(low, high);
     EXPECT_EQ(tuple(-50, 50), tuple(low, high));
     spin.SetPos(-12);
-    EXPECT_STREQ("-12", TextOf(buddy));
     EXPECT_EQ(-12, spin.SetPos(3)) << "the former position, with its sign";
 
     CStatusBarCtrl status;
@@ -255,8 +218,6 @@ TEST_F(Controls, CommonControls) {
     tips.UpdateTipText("other", &slider);
     tips.GetText(text, &slider);
     EXPECT_STREQ("other", text);
-    tips.DelTool(&m_parent, 77);
-    EXPECT_EQ(1, tips.GetToolCount());
 }
 
 } // namespace

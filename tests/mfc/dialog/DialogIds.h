@@ -1,6 +1,6 @@
+// IDs of the dialogs of these tests, for the sources and the resource script.
 #pragma once
 
-// IDs of the dialogs that these tests use; the resource script includes them, too.
 #define IDD_DATA 200
 #define IDD_SMALL 201
 #define IDD_LISTS 202

@@ -1,3 +1,5 @@
+// CMenu: ownership of handles, texts of any length, and popups that are removed or deleted.
+
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
@@ -6,7 +8,6 @@ namespace {
 
 constexpr UINT kOpen = 100;
 constexpr UINT kSave = 101;
-constexpr UINT kClose = 102;
 
 TEST(Menu, OwnsItsHandleUntilDetached) {
     HMENU destroyed = nullptr;
@@ -32,61 +33,35 @@ TEST(Menu, OwnsItsHandleUntilDetached) {
     EXPECT_EQ(nullptr, CMenu::FromHandle(nullptr));
 }
 
-class MenuItems : public testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(m_menu.CreatePopupMenu());
-        m_menu.AppendMenu(MF_STRING, kOpen, "&Open");
-        m_menu.AppendMenu(MF_SEPARATOR);
-        m_menu.AppendMenu(MF_STRING | MF_GRAYED, kClose, "&Close");
-        m_menu.InsertMenu(1, MF_BYPOSITION | MF_STRING, kSave, CString("&Save"));
-    }
-    CString Text(UINT item, UINT flags = MF_BYCOMMAND) {
-        CString text("unchanged");
-        m_menu.GetMenuString(item, text, flags);
-        return text;
-    }
-    CMenu m_menu;
-};
-
-TEST_F(MenuItems, AreFoundByCommandAndByPosition) {
-    EXPECT_EQ(4u, m_menu.GetMenuItemCount());
-    EXPECT_EQ(kSave, m_menu.GetMenuItemID(1));
-    EXPECT_EQ(0u, m_menu.GetMenuItemID(2)) << "a separator";
-    EXPECT_EQ(0xFFFFFFFFu, m_menu.GetMenuItemID(9));
-    EXPECT_STREQ("&Save", Text(1, MF_BYPOSITION));
-    EXPECT_STREQ("", Text(9999)) << "no such item";
-    EXPECT_EQ(static_cast<UINT>(MF_GRAYED), m_menu.GetMenuState(kClose, MF_BYCOMMAND) & MF_GRAYED);
-
+TEST(Menu, ItemsAreFoundAndTextsCutToTheirBuffer) {
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    menu.AppendMenu(MF_STRING, kOpen, "&Open");
+    menu.InsertMenu(0, MF_BYPOSITION | MF_STRING, kSave, CString("&Save"));
+    CString text("unchanged");
+    EXPECT_EQ(5, menu.GetMenuString(0, text, MF_BYPOSITION));
+    EXPECT_STREQ("&Save", text);
+    EXPECT_EQ(0, menu.GetMenuString(9999, text, MF_BYCOMMAND)) << "no such item";
+    EXPECT_STREQ("", text);
     const CString longText('x', 3000);
-    EXPECT_TRUE(m_menu.ModifyMenu(kSave, MF_BYCOMMAND | MF_STRING, kSave, longText));
-    EXPECT_EQ(longText, Text(kSave));
+    EXPECT_TRUE(menu.ModifyMenu(kSave, MF_BYCOMMAND | MF_STRING, kSave, longText));
+    menu.GetMenuString(kSave, text, MF_BYCOMMAND);
+    EXPECT_EQ(longText, text);
     char cut[5];
-    EXPECT_EQ(4, m_menu.GetMenuString(kSave, cut, sizeof(cut), MF_BYCOMMAND));
+    EXPECT_EQ(4, menu.GetMenuString(kSave, cut, sizeof(cut), MF_BYCOMMAND));
     EXPECT_STREQ("xxxx", cut);
-}
+    EXPECT_EQ(0xFFFFFFFFu, menu.CheckMenuItem(9999, MF_BYCOMMAND | MF_CHECKED));
+    EXPECT_TRUE(menu.CheckMenuRadioItem(kOpen, kSave, kSave, MF_BYCOMMAND));
+    EXPECT_NE(0u, menu.GetMenuState(kSave, MF_BYCOMMAND) & MF_CHECKED);
 
-TEST_F(MenuItems, StatesAreSetAndTold) {
-    EXPECT_EQ(static_cast<UINT>(MF_UNCHECKED), m_menu.CheckMenuItem(kOpen, MF_BYCOMMAND | MF_CHECKED));
-    EXPECT_EQ(static_cast<UINT>(MF_CHECKED), m_menu.CheckMenuItem(kOpen, MF_BYCOMMAND | MF_UNCHECKED));
-    EXPECT_EQ(0xFFFFFFFFu, m_menu.CheckMenuItem(9999, MF_BYCOMMAND | MF_CHECKED));
-    EXPECT_EQ(static_cast<UINT>(MF_GRAYED), m_menu.EnableMenuItem(kClose, MF_BYCOMMAND | MF_ENABLED));
-    EXPECT_TRUE(m_menu.CheckMenuRadioItem(kOpen, kClose, kSave, MF_BYCOMMAND));
-    EXPECT_NE(0u, m_menu.GetMenuState(kSave, MF_BYCOMMAND) & MF_CHECKED);
-    EXPECT_EQ(0u, m_menu.GetMenuState(kOpen, MF_BYCOMMAND) & MF_CHECKED);
-    EXPECT_TRUE(m_menu.SetDefaultItem(kOpen));
-    EXPECT_EQ(kOpen, m_menu.GetDefaultItem(0));
-}
-
-TEST_F(MenuItems, RemovedSubmenusSurviveDeletedOnesDoNot) {
     HMENU const removed = ::CreatePopupMenu();
     HMENU const deleted = ::CreatePopupMenu();
-    m_menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(removed), "First");
-    m_menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(deleted), "Second");
-    EXPECT_EQ(removed, m_menu.GetSubMenu(4)->m_hMenu);
-    EXPECT_EQ(nullptr, m_menu.GetSubMenu(0));
-    EXPECT_TRUE(m_menu.RemoveMenu(4, MF_BYPOSITION));
-    EXPECT_TRUE(m_menu.DeleteMenu(4, MF_BYPOSITION));
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(removed), "First");
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(deleted), "Second");
+    EXPECT_EQ(removed, menu.GetSubMenu(2)->m_hMenu);
+    EXPECT_EQ(nullptr, menu.GetSubMenu(0));
+    EXPECT_TRUE(menu.RemoveMenu(2, MF_BYPOSITION));
+    EXPECT_TRUE(menu.DeleteMenu(2, MF_BYPOSITION));
     EXPECT_TRUE(::IsMenu(removed));
     EXPECT_FALSE(::IsMenu(deleted));
     ::DestroyMenu(removed);

@@ -1,9 +1,11 @@
-#include "tests/mfc/window/WindowKit.h"
-#include "tests/support/TempFolder.h"
+// CWinApp: profile data, command line, names, message boxes, the hourglass.
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+
+#include "tests/mfc/window/WindowKit.h"
+#include "tests/support/TempFolder.h"
 
 namespace {
 
@@ -12,7 +14,7 @@ void SetName(LPCTSTR& name, const char* text) {
     name = _strdup(text);
 }
 
-/// Both homes of profile data: the registry (TRUE) and an INI file.
+/// Profile data in the registry (true) and in an INI file.
 class ProfileTest : public testing::TestWithParam<bool> {
 protected:
     void SetUp() override {

@@ -1,6 +1,8 @@
-#include "tests/mfc/window/WindowKit.h"
+// Commands and notifications: by ID, range and code, reflected to the control, passed to the parent.
 
 #include <gtest/gtest.h>
+
+#include "tests/mfc/window/WindowKit.h"
 
 using windowkit::CreateChild, windowkit::CreateTop, windowkit::Log, windowkit::Note;
 
@@ -8,7 +10,7 @@ namespace {
 
 constexpr UINT wideCode = 0xFFFF0000u - 321; // more than 16 bits count
 
-/// Sends notifications, and handles some of them itself.
+/// A control that sends notifications and handles some of them by reflection.
 class ReflectingWnd : public CWnd {
 public:
     explicit ReflectingWnd(Log& log) : m_log(log) {}
@@ -145,7 +147,7 @@ TEST_F(CommandTest, CommandsAreMatchedByIdAndRange) {
     EXPECT_EQ(Taken(), (Log{"plain", "range 200", "range 202", "ex 300", "ex 301"}));
 }
 
-TEST_F(CommandTest, HandlersCanBeAskedForWithoutBeingCalled) {
+TEST_F(CommandTest, HandlersAreFoundWithoutBeingCalled) {
     AFX_CMDHANDLERINFO info{};
     EXPECT_TRUE(parent.OnCmdMsg(100, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &parent);
@@ -200,25 +202,7 @@ TEST_F(CommandTest, ScrollingAndDrawingAreHandedBackToTheControl) {
     draw.hwndItem = control.m_hWnd;
     EXPECT_NE(parent.SendMessage(WM_DRAWITEM, 1, reinterpret_cast<LPARAM>(&draw)), 0);
     EXPECT_EQ(Taken(), Log{"control draw 66"});
-    draw.CtlType = ODT_MENU; // a menu whose handle is this window's is nobody's
+    draw.CtlType = ODT_MENU; // no CMenu is attached to this handle
     parent.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
     EXPECT_EQ(Taken(), Log{});
-}
-
-TEST_F(CommandTest, AnOverrideThatKeepsTheBaseFromRunningKeepsTheMapFromRunning) {
-    class DeafWnd : public ParentWnd {
-    public:
-        using ParentWnd::ParentWnd;
-
-    protected:
-        BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-            return LOWORD(wParam) == 100 || ParentWnd::OnCommand(wParam, lParam);
-        }
-    };
-    DeafWnd deaf(log);
-    ASSERT_TRUE(CreateTop(deaf));
-    EXPECT_NE(deaf.SendMessage(WM_COMMAND, 100), 0);
-    EXPECT_EQ(Taken(), Log{});
-    deaf.SendMessage(WM_COMMAND, 200);
-    EXPECT_EQ(Taken(), Log{"range 200"});
 }

@@ -1,15 +1,18 @@
-#include "tests/mfc/window/WindowKit.h"
+// Temporary window objects: when they are shared, replaced and deleted, and that each thread has its own.
 
 #include <gtest/gtest.h>
 
 #include <thread>
-using windowkit::CreateChild, windowkit::CreateTop, windowkit::MapCounts;
+
+#include "tests/mfc/window/WindowKit.h"
+
+using windowkit::CreateTop, windowkit::MapCounts;
 
 namespace {
 
 constexpr UINT loopMessage = WM_USER + 2;
 
-/// Looks at a window without an object inside its handlers.
+/// Its handler calls FromHandle() for a window without an object.
 class AskingWnd : public CWnd {
 public:
     HWND foreign = nullptr;
@@ -20,7 +23,7 @@ protected:
     LRESULT OnLoop(WPARAM, LPARAM) {
         answer = CWnd::FromHandle(foreign);
         const std::size_t held = MapCounts::Now().temporary;
-        windowkit::RunIdle(); // a handler that runs a loop of its own is still busy
+        windowkit::RunIdle(); // the handler still runs
         survivedLoop = held != 0 && MapCounts::Now().temporary == held && answer->m_hWnd == foreign;
         return 0;
     }
@@ -89,9 +92,7 @@ TEST_F(HandleMapTest, EachThreadHasMapsOfItsOwn) {
 }
 
 TEST_F(HandleMapTest, PlacementConstantsAreNotWindows) {
-    EXPECT_EQ(CWnd::wndTop.m_hWnd, HWND_TOP);
-    const CWnd* const places[] = {&CWnd::wndNoTopMost, &CWnd::wndTopMost, &CWnd::wndNoTopMost};
-    for (const CWnd* const place : places) {
+    for (const CWnd* const place : {&CWnd::wndTopMost, &CWnd::wndNoTopMost}) {
         EXPECT_TRUE(window.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
         EXPECT_EQ((window.GetExStyle() & WS_EX_TOPMOST) != 0, place == &CWnd::wndTopMost);
     }

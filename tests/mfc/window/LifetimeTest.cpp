@@ -1,15 +1,17 @@
-#include "tests/mfc/window/WindowKit.h"
+// How a window and its object begin and end together, in each order and after each failure.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+
+#include "tests/mfc/window/WindowKit.h"
 
 using windowkit::CreateChild, windowkit::CreateForeign, windowkit::CreateTop, windowkit::Log,
     windowkit::MapCounts, windowkit::Taken;
 
 namespace {
 
-/// Notes every step of its life, and whether object and window know each other there.
+/// Logs every step of its life, and whether object and window are attached at that time.
 class LoggedWnd : public CWnd {
 public:
     explicit LoggedWnd(Log& log, bool deletesItself = false) : m_log(log), m_deletesItself(deletesItself) {}
@@ -31,9 +33,8 @@ protected:
     int OnCreate(LPCREATESTRUCT lpcs) {
         Note("create");
         CWnd::OnCreate(lpcs);
-        if (childOnCreate != nullptr) {
-            EXPECT_TRUE(CreateChild(*childOnCreate, *this, 7));
-        }
+        if (childOnCreate != nullptr && !CreateChild(*childOnCreate, *this, 7))
+            ADD_FAILURE() << "no child";
         return createAnswer;
     }
     void OnDestroy() {
@@ -151,7 +152,7 @@ TEST_F(LifetimeTest, AnObjectOnTheHeapMayGoWithItsWindow) {
         [](HWND window) { ::DestroyWindow(window); },
         [](HWND window) { EXPECT_EQ(::SendMessage(window, dieMessage, 0, 0), 42); },
         [](HWND window) { ::SendMessage(window, WM_COMMAND, dieCommand, 0); },
-        [](HWND window) { ::SendMessage(window, WM_CLOSE, 0, 0); }, // by way of the default procedure
+        [](HWND window) { ::SendMessage(window, WM_CLOSE, 0, 0); }, // through the default window procedure
     };
     for (const auto& way : ways) {
         auto* const window = new LoggedWnd(log, true);
@@ -199,7 +200,7 @@ TEST_F(LifetimeTest, AFailedCreationCleansUpOnceAndLeavesNothing) {
     EXPECT_EQ(failsWith([](LoggedWnd& window) { window.ncCreateAnswer = FALSE; }, plain.c_str()),
               (Log{"subclass", "nccreate", "ncdestroy", "post"}));
 
-    // After all that, the next window of somebody else's is not taken for one of ours.
+    // A window of another class, created afterwards, does not get an object.
     const HWND foreign = CreateForeign("STATIC");
     ASSERT_NE(foreign, nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
@@ -219,8 +220,10 @@ TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
     }
     EXPECT_TRUE(::IsWindow(given));
     {
-        CWnd window;
+        LoggedWnd window(log);
         window.Attach(given);
+        window.SendMessage(dieMessage);
+        EXPECT_TRUE(::IsWindow(given) && log.empty()) << "attaching does not route messages";
         EXPECT_TRUE(window.DestroyWindow());
         EXPECT_EQ(window.m_hWnd, nullptr);
     }
@@ -232,16 +235,6 @@ TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
     }
     EXPECT_FALSE(::IsWindow(kept));
     EXPECT_EQ(CWnd::FromHandlePermanent(kept), nullptr);
-}
-
-TEST_F(LifetimeTest, AttachingDoesNotRouteMessages) {
-    const HWND foreign = CreateForeign("STATIC");
-    LoggedWnd window(log);
-    window.Attach(foreign);
-    window.SendMessage(dieMessage);
-    EXPECT_TRUE(::IsWindow(foreign));
-    EXPECT_TRUE(log.empty());
-    window.DestroyWindow();
 }
 
 TEST_F(LifetimeTest, TheMainWindowEndsTheMessageLoop) {

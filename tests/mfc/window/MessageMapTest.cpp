@@ -1,6 +1,8 @@
-#include "tests/mfc/window/WindowKit.h"
+// Message maps: parameters taken apart for each kind of handler, inheritance, registered messages.
 
 #include <gtest/gtest.h>
+
+#include "tests/mfc/window/WindowKit.h"
 
 using windowkit::CreateTop, windowkit::Note;
 
@@ -14,7 +16,7 @@ std::string Text(const CPoint& point) {
     return std::to_string(point.x) + "," + std::to_string(point.y);
 }
 
-/// Notes what its handlers were called with.
+/// Logs the arguments of its handlers.
 class BaseWnd : public CWnd {
 public:
     windowkit::Log log;
@@ -96,7 +98,7 @@ BEGIN_MESSAGE_MAP(BaseWnd, CWnd)
     ON_WM_SETTINGCHANGE()
 END_MESSAGE_MAP()
 
-/// Written as older programs are: a timer ID and a hit code of type UINT, a scroll bar that is any window.
+/// Handlers as in older programs: timer ID and hit code of type UINT, a CWnd* as scroll bar.
 class DerivedWnd : public BaseWnd {
 protected:
     LRESULT OnOverridden(WPARAM, LPARAM) {
@@ -126,7 +128,7 @@ protected:
         base.log.clear();
         derived.log.clear();
     }
-    /// What the handlers of `window` noted, "=" and the message's result.
+    /// Sends a message. Returns the log of the handlers, "=" and the message's result.
     static std::string Told(BaseWnd& window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         const LRESULT result = window.SendMessage(message, wParam, lParam);
         std::string told;
@@ -199,36 +201,4 @@ TEST_F(MessageMapTest, BothFormsOfOldAndNewHandlersWork) {
 #ifdef _WIN64
     EXPECT_EQ(Told(WM_TIMER, 0x100000001ull), "timer 4294967297 = 0");
 #endif
-}
-
-namespace {
-
-class EarlyWnd : public CWnd {
-public:
-    /// How many maps answer for this class, or 0 if its rows are not there yet.
-    int MapsReady() const {
-        int depth = 0;
-        const AFX_MSGMAP* map = GetMessageMap();
-        if (map->lpEntries == nullptr || AfxFindMessageEntry(map->lpEntries, WM_SIZE, 0, 0) == nullptr)
-            return 0;
-        for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr)
-            ++depth;
-        return depth;
-    }
-
-protected:
-    DECLARE_MESSAGE_MAP()
-};
-
-// Initialised before anything below it that needs code to be initialised.
-const int g_mapsReadyEarly = EarlyWnd().MapsReady();
-
-BEGIN_MESSAGE_MAP(EarlyWnd, CWnd)
-    ON_WM_SIZE()
-END_MESSAGE_MAP()
-
-} // namespace
-
-TEST_F(MessageMapTest, MapsAreReadyBeforeAnyCodeOfTheProgramRuns) {
-    EXPECT_EQ(g_mapsReadyEarly, 3) << "EarlyWnd, CWnd, CCmdTarget";
 }

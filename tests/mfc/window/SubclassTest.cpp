@@ -1,8 +1,10 @@
-#include "tests/mfc/window/WindowKit.h"
+// Subclassed windows: the former procedure, its restoration, and subclassing by others on top.
 
 #include <gtest/gtest.h>
 
 #include <tuple>
+
+#include "tests/mfc/window/WindowKit.h"
 
 using windowkit::CreateTop, windowkit::MapCounts;
 using Received = std::tuple<UINT, WPARAM, LPARAM>; // a message
@@ -51,7 +53,7 @@ protected:
     }
     void OnSize(UINT type, int, int) {
         ++handled;
-        CWnd::OnSize(type + 1, -5, -6); // what is passed on here does not count
+        CWnd::OnSize(type + 1, -5, -6); // CWnd ignores these arguments
     }
     DECLARE_MESSAGE_MAP()
 };
@@ -69,7 +71,7 @@ protected:
         windowClass.hInstance = AfxGetInstanceHandle();
         windowClass.lpszClassName = "SubclassTestWindow";
         ASSERT_TRUE(AfxRegisterClass(&windowClass));
-        ASSERT_TRUE(CreateTop(parent));
+        ASSERT_TRUE(parent.m_hWnd != nullptr || CreateTop(parent));
         target = windowkit::CreateForeign("SubclassTestWindow", &parent, 9);
         ASSERT_NE(target, nullptr);
         g_original.clear();
@@ -122,18 +124,13 @@ TEST_F(SubclassTest, OneWindowHasOneObject) {
     EXPECT_EQ(CWnd::FromHandlePermanent(target), &first);
     EXPECT_FALSE(first.SubclassWindow(parent.m_hWnd)) << "nor can an object have two";
     EXPECT_EQ(first.m_hWnd, target);
-}
-
-TEST_F(SubclassTest, SubclassingWhatIsNoWindowFails) {
-    const MapCounts before = MapCounts::Now();
     class Plain : public CWnd {
-    } window;
-    EXPECT_FALSE(window.SubclassWindow(nullptr));
-    EXPECT_FALSE(window.SubclassDlgItem(12345, &parent));
-    const HWND gone = target;
-    ::DestroyWindow(target);
-    EXPECT_FALSE(window.SubclassWindow(gone));
-    EXPECT_EQ(window.m_hWnd, nullptr);
+    } plain;
+    const MapCounts before = MapCounts::Now();
+    EXPECT_FALSE(plain.SubclassWindow(nullptr));
+    EXPECT_FALSE(plain.SubclassDlgItem(12345, &parent));
+    EXPECT_FALSE(plain.SubclassWindow(reinterpret_cast<HWND>(static_cast<UINT_PTR>(0xFFF1))));
+    EXPECT_EQ(plain.m_hWnd, nullptr);
     EXPECT_EQ(MapCounts::Now().permanent, before.permanent);
 }
 
@@ -144,11 +141,9 @@ TEST_F(SubclassTest, TheFormerProcedureSeesTheWindowGo) {
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_EQ(g_original, (std::vector<Received>{{WM_NCDESTROY, 0, 0}}));
     EXPECT_EQ(window.Former(), nullptr) << "the object is as new";
-}
-
-TEST_F(SubclassTest, DeletingTheObjectOfASubclassedWindowDestroysTheWindow) {
+    SetUp();
     ASSERT_TRUE(SubclassedWnd().SubclassWindow(target));
-    EXPECT_FALSE(::IsWindow(target));
+    EXPECT_FALSE(::IsWindow(target)) << "the destructor destroys the window";
 }
 
 TEST_F(SubclassTest, ASubclasserOnTopKeepsItsPlaceUntilTheEnd) {

@@ -1,11 +1,13 @@
-#include "tests/mfc/window/WindowKit.h"
+// Message loops: idle work, modal loops, and threads with windows of their own.
+
+#include <afxpriv.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <atomic>
 
-#include <afxpriv.h>
+#include "tests/mfc/window/WindowKit.h"
 
 using windowkit::CreateTop, windowkit::Log;
 
@@ -41,7 +43,7 @@ BEGIN_MESSAGE_MAP(LoopApp, CWinApp)
     ON_THREAD_MESSAGE(endMessage, &LoopApp::OnEnd)
 END_MESSAGE_MAP()
 
-/// Counts the idle requests that reach it, and ends modal loops when told.
+/// Logs idle messages, and can end its modal loop.
 class LoopWnd : public CWnd {
 public:
     int endsWhenIdleWith = 0; ///< not 0: ends the modal loop at the second idle moment in a row
@@ -82,7 +84,7 @@ TEST_F(ThreadTest, TheLoopRunsUntilQuitAndAnswersItsStatus) {
     LoopWnd main;
     ASSERT_TRUE(CreateTop(main));
     app.m_pMainWnd = &main;
-    // The last message is posted only if the loop finds idle time again after the messages before.
+    // Each message is posted in the idle time after the message before.
     app.postWhenIdle = {workMessage, workMessage, endMessage};
     struct Watchdog {
         static void CALLBACK Bite(HWND, UINT, UINT_PTR, DWORD) { AfxPostQuitMessage(99); }

@@ -1,3 +1,4 @@
+// Windows, logs and an application for the tests of windows.
 #pragma once
 
 #include <afxwin.h>
@@ -9,10 +10,10 @@
 
 namespace windowkit {
 
-/// What happened, in order.
+/// Events in order.
 using Log = std::vector<std::string>;
 
-/// The parts with blanks between them.
+/// The parts, separated by blanks.
 template <class FIRST, class... PARTS> std::string Note(const FIRST& first, const PARTS&... parts) {
     std::ostringstream text;
     text << first;
@@ -20,12 +21,11 @@ template <class FIRST, class... PARTS> std::string Note(const FIRST& first, cons
     return text.str();
 }
 
-/// What is in the log, which is empty afterwards.
+/// Returns the log and empties it.
 inline Log Taken(Log& log) {
     return std::exchange(log, {});
 }
-/// Makes a hidden top-level window of a plain class for `window`. A popup: showing it needs no window
-/// manager.
+/// Makes a hidden popup window for `window`. Popups become visible without a window manager.
 inline BOOL CreateTop(CWnd& window) {
     return window.CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), "top", WS_POPUP, 0, 0, 200, 100, nullptr,
                            nullptr);
@@ -36,15 +36,15 @@ inline BOOL CreateChild(CWnd& window, CWnd& parent, UINT id) {
     return window.Create(nullptr, "child", WS_CHILD, CRect(0, 0, 50, 20), &parent, id);
 }
 
-/// Makes a hidden window of a class of the system's, which no object knows: with `parent`, a child of the ID
-/// `id`.
+/// Makes a hidden window of a class of the system, without an object. With `parent`, the window is a child
+/// with the ID `id`.
 inline HWND CreateForeign(LPCTSTR className, CWnd* parent = nullptr, int id = 0, DWORD style = 0) {
     return ::CreateWindow(className, "", style | (parent != nullptr ? WS_CHILD : 0), 0, 0, 10, 10,
                           parent != nullptr ? parent->m_hWnd : nullptr,
                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), AfxGetInstanceHandle(), nullptr);
 }
 
-/// All the idle work of this thread.
+/// Runs all idle work of this thread.
 inline void RunIdle() {
     for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
     }
@@ -65,8 +65,8 @@ struct FormerApp {
     CWinApp* former = AfxGetModuleState()->m_pCurrentWinApp;
 };
 
-/// Stands for the test program's application while it lives: its message boxes are noted instead of shown,
-/// uncaught exceptions too.
+/// Replaces the test program's application while the object exists. Logs message boxes, which are not shown,
+/// and uncaught exceptions.
 class ScopedApp : private FormerApp, public CWinApp {
 public:
     ScopedApp() : CWinApp("Scoped") { m_hInstance = AfxGetInstanceHandle(); }
@@ -84,7 +84,7 @@ public:
     }
 };
 
-/// Takes a WM_QUIT out of the queue; FALSE if none waits.
+/// Removes WM_QUIT from the queue; false if there is none.
 inline bool TakeQuit(int* status = nullptr) {
     MSG message{};
     bool found = false;

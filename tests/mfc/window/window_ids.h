@@ -1,9 +1,9 @@
+// Resource and command IDs of the window tests.
 #pragma once
 
-// Resource and command IDs of the window tests.
 #define IDR_FRAME 150
 #define IDS_TEMPLATE 160
-// In the same block of sixteen strings as some of Kavlix.dll's.
+// A number in a block of sixteen strings that Kavlix.dll uses too.
 #define IDS_IN_KAVLIX_BLOCK 5510
 
 #define ID_KNOWN 32771

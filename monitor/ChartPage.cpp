@@ -1,10 +1,6 @@
-#include "monitor/ChartPage.h"
+// The chart page: its choices, texts and commands.
 
-#include "monitor/ChartSeriesDlg.h"
-#include "monitor/PictureCopy.h"
-#include "monitor/recording/NumberText.h"
-#include "monitor/recording/SampleText.h"
-#include "monitor/resource.h"
+#include "monitor/ChartPage.h"
 
 #include <afxdlgs.h>
 #include <afxres.h>
@@ -13,13 +9,20 @@
 #include <cmath>
 #include <utility>
 
+#include "monitor/ChartSeriesDlg.h"
+#include "monitor/Notifications.h"
+#include "monitor/PictureCopy.h"
+#include "monitor/recording/NumberText.h"
+#include "monitor/recording/SampleText.h"
+#include "monitor/resource.h"
+
 namespace kavlix::monitor {
 
-using recording::PairKind;
+using recording::ChartX;
 
 namespace {
 
-constexpr std::size_t kPointsWithLines = 500; // with more, lines between points make a scribble
+constexpr std::size_t kPointsWithLines = 500; // with more points, the lines between them hide the picture
 constexpr const char* kChartFilter =
     "PNG pictures (*.png)|*.png|Bitmaps (*.bmp)|*.bmp|Enhanced metafiles (*.emf)|*.emf||";
 
@@ -27,18 +30,22 @@ constexpr const char* kChartFilter =
 
 BEGIN_MESSAGE_MAP(CChartPage, CMonitorPage)
     ON_WM_CREATE()
+
     ON_NOTIFY(MCN_SELECTION, IDC_CHART, &CChartPage::OnSelection)
     ON_NOTIFY(MCN_POINTER, IDC_CHART, &CChartPage::OnPointer)
+
     ON_COMMAND(ID_EDIT_COPY, &CChartPage::OnEditCopy)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CChartPage::OnUpdateWithPoints)
     ON_COMMAND(ID_CHART_SAVE_AS, &CChartPage::OnSaveAs)
     ON_UPDATE_COMMAND_UI(ID_CHART_SAVE_AS, &CChartPage::OnUpdateWithPoints)
+
     ON_COMMAND(ID_CHART_SERIES, &CChartPage::OnChooseSeries)
     ON_UPDATE_COMMAND_UI(ID_CHART_SERIES, &CChartPage::OnUpdateWithPoints)
     ON_COMMAND(ID_CHART_SWAP, &CChartPage::OnSwap)
     ON_UPDATE_COMMAND_UI(ID_CHART_SWAP, &CChartPage::OnUpdateSwap)
     ON_COMMAND_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnStyle)
     ON_UPDATE_COMMAND_UI_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnUpdateStyle)
+
     ON_COMMAND(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnClearMark)
     ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnUpdateClearMark)
 END_MESSAGE_MAP()
@@ -60,7 +67,7 @@ void CChartPage::Update() {
         for (std::size_t i = 0; i < content.settings.series.size(); ++i)
             if (content.settings.series[i].visible)
                 visible.push_back(i);
-        m_choice = recording::DefaultPair(visible);
+        m_choice = recording::DefaultChartChoice(visible);
         m_style.reset();
         m_mark = content.marked;
         changed = true;
@@ -75,21 +82,21 @@ void CChartPage::Update() {
     m_chart.Mark(there ? std::optional(static_cast<std::size_t>(*m_mark - content.lost)) : std::nullopt);
 }
 
-/// Shows the choice.
+/// Shows the points of the choice.
 void CChartPage::Rebuild() {
     ChartPicture picture;
     picture.title = m_settings.title;
     if (m_recording && m_choice.y < m_settings.series.size()) {
-        picture.points = recording::PairSeries(*m_recording, m_choice);
+        picture.points = recording::ChartPointsOf(*m_recording, m_choice);
         picture.xLabel = XText(*m_recording);
         picture.yLabel = m_settings.series[m_choice.y].name;
         picture.color = m_settings.series[m_choice.y].color;
-        picture.style = m_choice.kind == PairKind::Time             ? ChartStyle::Lines
+        picture.style = m_choice.kind == ChartX::Time               ? ChartStyle::Lines
                         : picture.points.size() <= kPointsWithLines ? ChartStyle::Both
                                                                     : ChartStyle::Points;
-        // Live readings are never beyond it.
+        // A fixed scale for live readings, which never leave it.
         picture.yCovers = Content().Source().axisCovers;
-        if (m_choice.kind != PairKind::Time)
+        if (m_choice.kind != ChartX::Time)
             picture.xCovers = picture.yCovers;
         picture.style = m_style.value_or(picture.style);
     }
@@ -98,9 +105,9 @@ void CChartPage::Rebuild() {
 
 std::string CChartPage::XText(const recording::Recording& recording) const {
     const std::vector<SeriesSettings>& series = m_settings.series;
-    if (m_choice.kind == PairKind::Series)
+    if (m_choice.kind == ChartX::Series)
         return series[m_choice.x].name;
-    if (m_choice.kind == PairKind::Predecessor)
+    if (m_choice.kind == ChartX::Predecessor)
         return series[m_choice.y].name + ", one sample before";
     if (recording.times.empty())
         return {};
@@ -110,11 +117,11 @@ std::string CChartPage::XText(const recording::Recording& recording) const {
            (recording.Zoned() ? " UTC" : "");
 }
 
-std::vector<std::string> CChartPage::TextsOf(const recording::PairedPoint& point) const {
+std::vector<std::string> CChartPage::TextsOf(const recording::ChartPoint& point) const {
     std::vector<recording::NamedValue> values;
-    if (m_choice.kind == PairKind::Series)
+    if (m_choice.kind == ChartX::Series)
         values.push_back({m_settings.series[m_choice.x].name, point.x, {}});
-    else if (m_choice.kind == PairKind::Predecessor)
+    else if (m_choice.kind == ChartX::Predecessor)
         values.push_back({"before", point.x, {}});
     values.push_back({m_settings.series[m_choice.y].name, point.y, {}});
     return recording::SampleTexts(m_recording->times[point.row], values,
@@ -123,21 +130,21 @@ std::vector<std::string> CChartPage::TextsOf(const recording::PairedPoint& point
 }
 
 std::vector<std::string> CChartPage::MarkTexts() {
-    const recording::PairedPoint* const point = m_chart.Marked();
+    const recording::ChartPoint* const point = m_chart.Marked();
     return point ? TextsOf(*point) : std::vector<std::string>();
 }
 
 std::vector<std::string> CChartPage::PointerTexts() {
-    const recording::PairedPoint* const point = m_chart.Pointed();
+    const recording::ChartPoint* const point = m_chart.Pointed();
     return point ? TextsOf(*point) : std::vector<std::string>();
 }
 
 std::vector<std::string> CChartPage::ViewTexts() {
-    const std::vector<recording::PairedPoint>& points = m_chart.Picture().points;
+    const std::vector<recording::ChartPoint>& points = m_chart.Picture().points;
     if (points.empty() || Content().live)
         return CMonitorPage::ViewTexts();
     const auto whole = static_cast<std::size_t>(
-        std::count_if(points.begin(), points.end(), [](const recording::PairedPoint& point) {
+        std::count_if(points.begin(), points.end(), [](const recording::ChartPoint& point) {
             return std::isfinite(point.x) && std::isfinite(point.y);
         }));
     return {recording::FormatCount(whole) + (whole == 1 ? " point" : " points") + ": " +
@@ -146,7 +153,7 @@ std::vector<std::string> CChartPage::ViewTexts() {
 }
 
 std::optional<std::size_t> CChartPage::MarkedSample() {
-    const recording::PairedPoint* const point = m_chart.Marked();
+    const recording::ChartPoint* const point = m_chart.Marked();
     return point ? std::optional(point->row) : std::nullopt;
 }
 
@@ -201,7 +208,7 @@ void CChartPage::OnSwap() {
 }
 
 void CChartPage::OnUpdateSwap(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(m_choice.kind == PairKind::Series && !m_chart.Picture().points.empty());
+    pCmdUI->Enable(m_choice.kind == ChartX::Series && !m_chart.Picture().points.empty());
 }
 
 void CChartPage::OnStyle(UINT nID) {

@@ -1,15 +1,16 @@
+// The chart page: one series against another.
 #pragma once
-
-#include "monitor/MonitorChart.h"
-#include "monitor/MonitorPage.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "monitor/MonitorChart.h"
+#include "monitor/MonitorPage.h"
+
 namespace kavlix::monitor {
 
-/// The page with one series drawn against another, against the value before, or against time.
+/// Shows one series against another, against its own previous value, or against time.
 class CChartPage : public CMonitorPage {
 public:
     using CMonitorPage::CMonitorPage;
@@ -41,20 +42,20 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    std::vector<std::string> TextsOf(const recording::PairedPoint& point) const;
+    std::vector<std::string> TextsOf(const recording::ChartPoint& point) const;
     std::string XText(const recording::Recording& recording) const;
     void Rebuild();
 
     CMonitorChart m_chart;
-    recording::PairChoice m_choice;
-    std::optional<ChartStyle> m_style; ///< what a person has chosen
+    recording::ChartChoice m_choice;
+    std::optional<ChartStyle> m_style; ///< the person's choice
 
-    // What of the content is shown.
+    // The content that the last Update showed.
     unsigned m_generation = 0;
     std::shared_ptr<const recording::Recording> m_recording;
     GraphSettings m_settings;
-    std::optional<std::uint64_t> m_contentMark; ///< that was seen last
-    std::optional<std::uint64_t> m_mark;        ///< as PageContent::marked
+    std::optional<std::uint64_t> m_contentMark; ///< PageContent::marked
+    std::optional<std::uint64_t> m_mark;        ///< the mark on this page, counted as PageContent::marked
 };
 
 } // namespace kavlix::monitor

@@ -1,26 +1,28 @@
+// The choice boxes for X and Y.
+
 #include "monitor/ChartSeriesDlg.h"
 
 #include <utility>
 
 namespace kavlix::monitor {
 
-using recording::PairChoice;
-using recording::PairKind;
+using recording::ChartChoice;
+using recording::ChartX;
 
-CChartSeriesDlg::CChartSeriesDlg(std::vector<std::string> names, PairChoice choice, CWnd* parent)
+CChartSeriesDlg::CChartSeriesDlg(std::vector<std::string> names, ChartChoice choice, CWnd* parent)
     : CDialog(CChartSeriesDlg::IDD, parent), m_names(std::move(names)), m_y(static_cast<int>(choice.y)) {
     const auto count = static_cast<int>(m_names.size());
-    m_x = choice.kind == PairKind::Series        ? static_cast<int>(choice.x)
-          : choice.kind == PairKind::Predecessor ? count
-                                                 : count + 1;
+    m_x = choice.kind == ChartX::Series        ? static_cast<int>(choice.x)
+          : choice.kind == ChartX::Predecessor ? count
+                                               : count + 1;
 }
 
-PairChoice CChartSeriesDlg::Choice() const {
+ChartChoice CChartSeriesDlg::Choice() const {
     const auto x = static_cast<std::size_t>(m_x);
     const auto y = static_cast<std::size_t>(m_y);
     if (x < m_names.size())
-        return {PairKind::Series, x, y};
-    return {x == m_names.size() ? PairKind::Predecessor : PairKind::Time, 0, y};
+        return {ChartX::Series, x, y};
+    return {x == m_names.size() ? ChartX::Predecessor : ChartX::Time, 0, y};
 }
 
 BOOL CChartSeriesDlg::OnInitDialog() {

@@ -1,25 +1,26 @@
+// The dialog that chooses the series of the chart page.
 #pragma once
-
-#include "monitor/recording/Pairing.h"
-#include "monitor/resource.h"
 
 #include <afxwin.h>
 
 #include <string>
 #include <vector>
 
+#include "monitor/recording/ChartPoints.h"
+#include "monitor/resource.h"
+
 namespace kavlix::monitor {
 
-/// Asks which series is drawn against what.
+/// Asks which series the chart shows, and against what.
 class CChartSeriesDlg : public CDialog {
 public:
     enum { IDD = IDD_CHART_SERIES };
 
-    /// @param names of all series; at least one
-    CChartSeriesDlg(std::vector<std::string> names, recording::PairChoice choice, CWnd* parent = nullptr);
+    /// `names` are those of all series, at least one.
+    CChartSeriesDlg(std::vector<std::string> names, recording::ChartChoice choice, CWnd* parent = nullptr);
 
-    /// What was chosen when DoModal says IDOK.
-    recording::PairChoice Choice() const;
+    /// The person's choice, once DoModal has returned IDOK.
+    recording::ChartChoice Choice() const;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -27,7 +28,7 @@ protected:
 
 private:
     std::vector<std::string> m_names;
-    int m_x; ///< the series, and behind them value before and time
+    int m_x; ///< index into the box: the series, then predecessor, then time
     int m_y;
 };
 

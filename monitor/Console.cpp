@@ -1,3 +1,5 @@
+// Finds the standard handles of a program with windows, and writes to them.
+
 #include "monitor/Console.h"
 
 #include <windows.h>
@@ -5,10 +7,10 @@
 #include <vector>
 
 namespace kavlix::monitor {
-
 namespace {
 
-/// A program with windows gets no console of its own, but may use that of the program that started it.
+/// The handle that the program was started with, or the parent process's console: a program with windows has
+/// none of its own.
 HANDLE FindHandle(DWORD which) {
     const HANDLE handle = GetStdHandle(which);
     if (handle && handle != INVALID_HANDLE_VALUE && GetFileType(handle) != FILE_TYPE_UNKNOWN)

@@ -1,13 +1,15 @@
+// Text for the person who started the program from a terminal.
 #pragma once
 
 #include <string>
 
 namespace kavlix::monitor {
 
-/// Writes text to standard output or standard error: a file or pipe that the program was started with, or the
-/// console of the program that started it. Text is UTF-8.
-/// @return false when there is nothing to write to
+/// Writes UTF-8 text to standard output: the file or pipe of that name, or the console of the parent process.
+/// Returns false when there is neither.
 bool WriteOutput(const std::string& text);
+
+/// The same for standard error.
 bool WriteError(const std::string& text);
 
 } // namespace kavlix::monitor

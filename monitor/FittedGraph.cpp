@@ -1,20 +1,21 @@
-#include "monitor/FittedGraph.h"
+// Look, layout and texts of the Monitor's graphs.
 
-#include "monitor/recording/TextCut.h"
+#include "monitor/FittedGraph.h"
 
 #include <algorithm>
 
-namespace kavlix::monitor {
+#include "monitor/Notifications.h"
+#include "monitor/PictureCopy.h"
+#include "monitor/recording/TextCut.h"
 
+namespace kavlix::monitor {
 namespace {
 
 // Logical units.
-constexpr int kTickDistance = 500; // the control puts a tick of the value axis every so often
-constexpr int kLegendGap = 450;    // right of the text of a legend row
-constexpr int kMinLegendText = 600;
-constexpr int kLegendShare = 3; // the legend takes at most one part in so many of the width
+constexpr int kLegendGap = 450;     // on the right of the text of a legend row
+constexpr int kMinLegendText = 600; // room for the texts at least
 
-constexpr const char* kCaptionFace = "Arial";
+constexpr int kLegendShare = 3;    // the texts of the legend take at most a third of the window's width
 constexpr int kCaptionSize = 90;   // tenths of a point
 constexpr int kCaptionMargin = 10; // pixels beside the caption's text
 
@@ -49,18 +50,18 @@ template <class Control> void CFittedGraph<Control>::ApplyLook(const GraphSettin
     this->SetCaptionColor(RGB(55, 71, 98));
     this->SetLegendColor(RGB(246, 247, 249));
     this->SetLegendTextColor(ink);
-    this->SetCaptionFont(kCaptionSize, kCaptionFace);
-    // In the two-axis style the control gives each value axis the colour of its series.
+    this->SetCaptionFont(kCaptionSize, kFontFace);
+    // In the two-axis style, the control draws each value axis in the colour of its series.
     if (settings.style != CGraphCtrl::GraphStyleTwoAxis) {
         this->SetYLabelColor(ink);
-        // Without any series there is nothing the labels could be true of.
+        // No series: hide the labels, which would be meaningless.
         this->SetYTickLabelColor(series.empty() ? this->m_BkColor : ink);
     }
 }
 
 template <class Control> typename CFittedGraph<Control>::Layout CFittedGraph<Control>::MeasureLayout() {
-    // The control lays itself out while it paints. A paint into one pixel, without samples, tells the layout
-    // before anything is seen.
+    // The control computes its layout while it paints. Paint into a bitmap of one pixel, without samples and
+    // X axis, which is fast.
     CClientDC client(this);
     CDC dc;
     CBitmap bitmap;
@@ -72,7 +73,7 @@ template <class Control> typename CFittedGraph<Control>::Layout CFittedGraph<Con
     this->DrawGraph(dc);
     m_measuring = false;
     dc.SelectObject(old);
-    return {this->m_rectPlot.Height() / kTickDistance, this->m_rectPlot.Size()};
+    return {this->m_rectPlot.Height() / recording::kValueTickDistance, this->m_rectPlot.Size()};
 }
 
 template <class Control>
@@ -93,9 +94,9 @@ template <class Control> int CFittedGraph<Control>::FitLegend(const std::vector<
     const int room = client.Width() * kPixel / kLegendShare;
     LONG width = kMinLegendText;
     for (std::size_t i = 0; i < series.size() && i < CGraphCtrl::DatasetCount; ++i) {
-        const std::string text = FitText(series[i].name, room, kTickFontHeight, kRegular);
+        const std::string text = FitText(series[i].name, room, kTickFontHeight, FW_NORMAL);
         this->SetLegend(static_cast<int>(i), text.c_str());
-        width = std::max(width, TextSize(text, kTickFontHeight, kRegular).cx);
+        width = std::max(width, TextSize(text, kTickFontHeight, FW_NORMAL).cx);
     }
     return static_cast<int>(width) + 2 * this->m_LegendMargin + this->m_LegendItemHeight + kLegendGap;
 }
@@ -103,21 +104,21 @@ template <class Control> int CFittedGraph<Control>::FitLegend(const std::vector<
 template <class Control> int CFittedGraph<Control>::TickLabelWidth(const recording::ValueScale& scale) {
     LONG width = 0;
     for (const std::string& label : recording::ValueLabels(scale))
-        width = std::max(width, TextSize(label, kTickFontHeight, kRegular).cx);
+        width = std::max(width, TextSize(label, kTickFontHeight, FW_NORMAL).cx);
     return static_cast<int>(width) + kTickLabelGap;
 }
 
 template <class Control> void CFittedGraph<Control>::FitCaption(const std::vector<std::string>& texts) {
     CClientDC dc(this);
     CFont font;
-    if (!font.CreatePointFont(kCaptionSize, kCaptionFace, &dc)) {
+    if (!font.CreatePointFont(kCaptionSize, kFontFace, &dc)) {
         this->SetWindowText(texts.back().c_str());
         return;
     }
     CFont* const old = dc.SelectObject(&font);
     CRect client;
     this->GetClientRect(&client);
-    // The text stands in the band's middle: the icon at its right end takes as much room on the left.
+    // The text is centred in the band, so the icon at the right end costs the same room on the left.
     const LONG icon = this->m_ShowIconMaximize ? this->m_rectIconMaximize.Width() / kPixel : 0;
     const LONG room = client.Width() - 2 * (kCaptionMargin + icon);
     const auto fits = [&](const std::string& text) { return dc.GetTextExtent(text.c_str()).cx <= room; };
@@ -133,7 +134,7 @@ CSize CFittedGraph<Control>::TextSize(const std::string& text, int height, int w
     this->SetMapModeAnisotropic(dc);
     CFont font;
     if (!font.CreateFont(height, 0, 0, 0, weight, FALSE, FALSE, 0, ANSI_CHARSET, OUT_TT_PRECIS,
-                         CLIP_LH_ANGLES, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, "Arial"))
+                         CLIP_LH_ANGLES, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, kFontFace))
         return CSize(0, 0);
     CFont* old = dc.SelectObject(&font);
     const CSize size = dc.GetTextExtent(text.c_str());
@@ -157,36 +158,17 @@ template <class Control> bool CFittedGraph<Control>::IsOnIcon(CPoint point) cons
 template <class Control> void CFittedGraph<Control>::WatchPointer() {
     if (m_watchingLeave)
         return;
-    TRACKMOUSEEVENT watch{};
-    watch.cbSize = sizeof watch;
-    watch.dwFlags = TME_LEAVE;
-    watch.hwndTrack = this->m_hWnd;
-    m_watchingLeave = ::TrackMouseEvent(&watch) != FALSE;
+    m_watchingLeave = WatchMouseLeave(*this);
 }
 
 template <class Control> void CFittedGraph<Control>::PointerLeft() {
     m_watchingLeave = false;
-    Tell(MGN_MOUSELEAVE);
+    NotifyParent(*this, MGN_MOUSELEAVE);
 }
 
 template <class Control> void CFittedGraph<Control>::CopyAndTell() {
-    // The control does not tell whether the clipboard was to be had. It was when this window owns it and what
-    // is on it has changed: the number tells that where the system gives one.
-    const DWORD before = ::GetClipboardSequenceNumber();
-    const bool made = this->CopyToClipboard() != 0;
-    const bool changed = before == 0 || ::GetClipboardSequenceNumber() != before;
-    Tell(made && changed && ::GetClipboardOwner() == this->m_hWnd ? MGN_COPIED : MGN_NOTCOPIED);
-}
-
-template <class Control> void CFittedGraph<Control>::Tell(UINT code) {
-    const HWND parent = ::GetParent(this->m_hWnd);
-    if (parent == nullptr)
-        return;
-    NMHDR record{};
-    record.hwndFrom = this->m_hWnd;
-    record.idFrom = static_cast<UINT_PTR>(this->GetDlgCtrlID());
-    record.code = code;
-    ::SendMessage(parent, WM_NOTIFY, record.idFrom, reinterpret_cast<LPARAM>(&record));
+    const bool reached = CopyReaches(*this, [this] { return this->CopyToClipboard() != 0; });
+    NotifyParent(*this, reached ? MGN_COPIED : MGN_NOTCOPIED);
 }
 
 template class CFittedGraph<CGraphCtrl>;

@@ -1,7 +1,5 @@
+// The base of the Monitor's two graphs.
 #pragma once
-
-#include "monitor/GraphSettings.h"
-#include "monitor/recording/ValueScale.h"
 
 #include <kavlix/GraphCtrl.h>
 #include <kavlix/ScrollGraphCtrl.h>
@@ -9,16 +7,15 @@
 #include <string>
 #include <vector>
 
+#include "monitor/GraphSettings.h"
+#include "monitor/recording/GraphUnits.h"
+#include "monitor/recording/ValueScale.h"
+
 namespace kavlix::monitor {
 
-// Codes of further WM_NOTIFY messages to the parent, sent with a plain NMHDR.
-constexpr UINT MGN_MOUSELEAVE = 1400; ///< the mouse pointer left the window
-constexpr UINT MGN_COPIED = 1401;     ///< the picture is on the clipboard
-constexpr UINT MGN_NOTCOPIED = 1402;  ///< somebody else holds the clipboard, or there was no memory
-
-/// What the Monitor's graphs have in common, whichever control draws them: colours, texts that fit into the
-/// room there is, and what the parent is told beyond the control's own notifications. Members that choose
-/// something do not repaint. Lengths in logical units (1/30 pixel).
+/// The common part of the Monitor's graphs: colours, texts cut to the available room, and notifications
+/// beyond the control's own. Only Redraw and the functions that say so repaint. Lengths are in logical units
+/// (1/30 pixel).
 template <class Control> class CFittedGraph : public Control {
 public:
     /// Creates the control as a child window that takes part in the tab order.
@@ -27,57 +24,60 @@ public:
     /// Whether a point (client pixels) is on the maximize icon.
     bool IsOnIcon(CPoint point) const;
 
-    /// Shows the maximize icon in the form that goes with filling the window or not.
+    /// Chooses the form of the maximize icon: to restore when the graph fills the window, else to maximize.
     void ShowFilling(bool filling) { this->ShowIconMaximize(TRUE, filling); }
 
 protected:
-    static constexpr int kPixel = 30;
-    static constexpr int kTickFontHeight = 350; ///< of the value axes' labels and the legend
-    static constexpr int kTickLabelGap = 200;   ///< between tick labels and what is left of them
-    static constexpr int kRegular = 400;        ///< weights of fonts
-    static constexpr int kBold = 700;
+    static constexpr int kPixel = recording::kUnitsPerPixel;
+    static constexpr int kTickFontHeight = 350; ///< font of the value axes' labels and of the legend
+    static constexpr int kTickLabelGap = 200;   ///< room on the left of the tick labels
+
+    /// A series' sample counts as under the pointer up to this distance along the time axis,
+    static constexpr int kPointerReach = 10 * kPixel;
+    /// and up to this number of samples, which bounds the time of the search.
+    static constexpr int kPointerSamples = 1000;
 
     struct Layout {
-        int valueTicks = 0; ///< ticks of the value axes
+        int valueTicks = 0; ///< number of ticks of the value axes
         CSize plot;         ///< size of the plot
     };
 
-    /// Sets style, switches and colours, and of dataset i what series i has.
+    /// Sets style, switches and colours of the graph, and the look of each dataset from the series of
+    /// its index.
     void ApplyLook(const GraphSettings& settings, const std::vector<SeriesSettings>& series);
 
-    /// The layout that the next paint will have.
+    /// Computes the layout of the next paint.
     Layout MeasureLayout();
 
-    /// Sets the legend's texts, each cut to what a legend may take of the window's width.
-    /// @return the width that the legend needs
+    /// Sets the legend's texts, each cut to the legend's share of the window's width. Returns the width that
+    /// the legend needs.
     int FitLegend(const std::vector<SeriesSettings>& series);
 
-    /// Room that the labels of a scale need beside the axis.
+    /// The room that the labels of a scale need beside the axis.
     int TickLabelWidth(const recording::ValueScale& scale);
 
-    /// The text with its end cut so far that it fits into `room`, in a font of this height and weight.
+    /// The text, cut to fit into `room` in a font of this height and weight.
     std::string FitText(const std::string& text, int room, int height, int weight);
 
-    /// Sets the caption band's text: the first that fits into the band, or the last with its end cut.
+    /// Sets the caption band's text: the first of `texts` that fits, or the last one cut.
     void FitCaption(const std::vector<std::string>& texts);
 
     CSize TextSize(const std::string& text, int height, int weight);
 
-    /// To be called at every mouse move, so that the parent hears when the pointer leaves.
+    /// Asks for WM_MOUSELEAVE. The derived class calls it for every mouse move, and PointerLeft for
+    /// WM_MOUSELEAVE, which sends MGN_MOUSELEAVE to the parent.
     void WatchPointer();
     void PointerLeft();
 
-    /// Copies the picture to the clipboard and tells the parent how that went.
+    /// Copies the picture to the clipboard and sends MGN_COPIED or MGN_NOTCOPIED to the parent.
     void CopyAndTell();
 
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
     void DrawGraphData(CDC& dc) override;
 
 private:
-    void Tell(UINT code);
-
-    bool m_watchingLeave = false; ///< the system tells when the pointer leaves
-    bool m_measuring = false;     ///< a paint only finds the layout
+    bool m_watchingLeave = false; ///< the system will send WM_MOUSELEAVE
+    bool m_measuring = false;     ///< the current paint only computes the layout
 };
 
 extern template class CFittedGraph<CGraphCtrl>;

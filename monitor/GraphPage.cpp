@@ -1,18 +1,23 @@
+// The graph page's content, texts and notifications. Its commands are in GraphPageCommands.
+
 #include "monitor/GraphPage.h"
-
-#include "monitor/recording/NumberText.h"
-#include "monitor/resource.h"
-
-#include <kavlix/Kavlix.h>
 
 #include <afxres.h>
 
+#include <kavlix/Kavlix.h>
+
 #include <utility>
+
+#include "monitor/Notifications.h"
+#include "monitor/PictureCopy.h"
+#include "monitor/recording/NumberText.h"
+#include "monitor/resource.h"
 
 namespace kavlix::monitor {
 
 BEGIN_MESSAGE_MAP(CGraphPage, CMonitorPage)
     ON_WM_CREATE()
+
     ON_NOTIFY(GCN_SELCHANGE, IDC_GRAPH, &CGraphPage::OnSelectionChanged)
     ON_NOTIFY(GCN_MOUSEMOVE, IDC_GRAPH, &CGraphPage::OnPointerMoved)
     ON_NOTIFY(MGN_MOUSELEAVE, IDC_GRAPH, &CGraphPage::OnPointerLeft)
@@ -22,12 +27,14 @@ BEGIN_MESSAGE_MAP(CGraphPage, CMonitorPage)
     ON_NOTIFY(GCN_REMOVEDATA, IDC_GRAPH, &CGraphPage::OnDataRemoved)
     ON_NOTIFY(MGN_COPIED, IDC_GRAPH, &CGraphPage::OnCopied)
     ON_NOTIFY(MGN_NOTCOPIED, IDC_GRAPH, &CGraphPage::OnNotCopied)
+
     ON_COMMAND(ID_EDIT_COPY, &CGraphPage::OnEditCopy)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CGraphPage::OnUpdateEditCopy)
     ON_COMMAND_RANGE(ID_GRAPH_CLEAR_SELECTION_MARK, ID_GRAPH_REMOVE_DATA_BEFORE_MARK,
                      &CGraphPage::OnEditGraph)
     ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CGraphPage::OnUpdateClearMark)
     ON_UPDATE_COMMAND_UI(ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CGraphPage::OnUpdateRemoveData)
+
     ON_COMMAND_RANGE(ID_VIEW_LINE, ID_VIEW_TWO_AXES, &CGraphPage::OnViewStyle)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LINE, ID_VIEW_TWO_AXES, &CGraphPage::OnUpdateViewStyle)
     ON_COMMAND(ID_VIEW_LEGEND, &CGraphPage::OnViewLegend)
@@ -70,7 +77,7 @@ void CGraphPage::ShowFilling(bool filling) {
     m_graph.Redraw();
 }
 
-/// How exactly the picture's values are told.
+/// The number of digits of the values in the status bar.
 recording::ValueDigits CGraphPage::Digits() const {
     return Content().live || m_graph.SamplesEach() > 1 ? recording::ValueDigits::Computed
                                                        : recording::ValueDigits::AsRead;
@@ -128,19 +135,19 @@ void CGraphPage::OnPointerLeft(NMHDR*, LRESULT* pResult) {
 }
 
 void CGraphPage::OnCopied(NMHDR*, LRESULT* pResult) {
-    Host().Say("Copied: the picture is on the clipboard");
+    Host().Say(CopyTextOf(true));
     *pResult = 0;
 }
 
 void CGraphPage::OnNotCopied(NMHDR*, LRESULT* pResult) {
-    Host().Say("Not copied: another program holds the clipboard. Try again");
+    Host().Say(CopyTextOf(false));
     *pResult = 0;
 }
 
 void CGraphPage::OnDataRemoved(NMHDR* pNMHDR, LRESULT* pResult) {
     const int count = reinterpret_cast<const NMGRAPHCTRL*>(pNMHDR)->nCount;
     *pResult = 0;
-    // Below zero: the mark went while the person was asked. The files on the disk stay as they are.
+    // A count below 0: the mark was removed while the message box was open. Files on disk are never changed.
     if (count >= 0) {
         const std::size_t before = Content().live ? Content().live->CountBeforeHistory() : 0;
         const std::size_t removed = m_graph.FirstSampleOf(count);
@@ -166,7 +173,7 @@ void CGraphPage::OnMaximize(NMHDR*, LRESULT* pResult) {
 }
 
 void CGraphPage::OnCaptionDoubleClick(NMHDR* pNMHDR, LRESULT* pResult) {
-    // A double-click on the icon: its first click has done what was wanted.
+    // The first click of a double-click on the icon has already filled the window or restored it.
     if (!m_graph.IsOnIcon(CPoint(reinterpret_cast<const NMGRAPHCTRL*>(pNMHDR)->pt)))
         Host().Fill(!Host().Filled());
     *pResult = 0;

@@ -1,15 +1,16 @@
+// The graph page: one graph over the samples.
 #pragma once
-
-#include "monitor/MonitorGraph.h"
-#include "monitor/MonitorPage.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "monitor/MonitorGraph.h"
+#include "monitor/MonitorPage.h"
+
 namespace kavlix::monitor {
 
-/// The page with one graph: lines, bars or two axes over the samples of the recording or of the last minutes.
+/// Shows one graph: lines, bars or two axes over the samples of the recording or of the last minutes.
 class CGraphPage : public CMonitorPage {
 public:
     using CMonitorPage::CMonitorPage;
@@ -58,9 +59,9 @@ private:
     std::size_t SampleCount() const;
 
     CMonitorGraph m_graph;
-    std::optional<CPoint> m_pointer; ///< where the mouse pointer is in the graph, client pixels
+    std::optional<CPoint> m_pointer; ///< the mouse pointer in the graph, client pixels
 
-    // What of the content is shown.
+    // The content that the last Update showed.
     unsigned m_generation = 0;
     unsigned m_cuts = 0;
     std::uint64_t m_lost = 0;

@@ -1,13 +1,13 @@
-// The commands of the graph page.
+// The graph page's commands.
 
 #include "monitor/GraphPage.h"
-
-#include "monitor/resource.h"
 
 #include <afxres.h>
 
 #include <algorithm>
 #include <utility>
+
+#include "monitor/resource.h"
 
 namespace kavlix::monitor {
 
@@ -15,9 +15,9 @@ using recording::VisibleRange;
 
 namespace {
 
-constexpr std::size_t kFewestShown = 8; // samples: nobody zooms in farther
+constexpr std::size_t kFewestShown = 8; // samples in view at the greatest zoom
 
-/// Moves the range by so many samples, as far as there are any.
+/// The range moved by a number of samples, at most to an end of the recording's `count` samples.
 VisibleRange Moved(VisibleRange range, std::ptrdiff_t by, std::size_t count) {
     const std::size_t size = range.last - range.first + 1;
     const std::size_t end = count - std::min(size, count);
@@ -28,7 +28,7 @@ VisibleRange Moved(VisibleRange range, std::ptrdiff_t by, std::size_t count) {
     return range;
 }
 
-/// A range of the given size round a sample.
+/// A range of `size` samples with `middle` in the middle, moved as far as the recording's ends require.
 VisibleRange Around(std::size_t middle, std::size_t size, std::size_t count) {
     size = std::min(size, count);
     const std::size_t first = std::min(middle - std::min(middle, size / 2), count - size);
@@ -67,7 +67,7 @@ void CGraphPage::OnViewStyle(UINT nID) {
 void CGraphPage::OnUpdateViewStyle(CCmdUI* pCmdUI) {
     const GraphSettings& settings = Content().settings;
     pCmdUI->SetRadio(static_cast<UINT>(settings.style) == pCmdUI->m_nID - ID_VIEW_LINE);
-    // Two axes need two series.
+    // The two-axis style needs two series.
     pCmdUI->Enable(settings.series.size() >= (pCmdUI->m_nID == ID_VIEW_TWO_AXES ? 2u : 1u));
 }
 
@@ -95,7 +95,7 @@ void CGraphPage::OnUpdateViewGrid(CCmdUI* pCmdUI) {
     const GraphSettings& settings = Content().settings;
     const bool forTime = pCmdUI->m_nID == ID_VIEW_GRID_X;
     pCmdUI->SetCheck(forTime ? settings.gridX : settings.gridY);
-    // Bars have no lines at the time ticks.
+    // With bars, the control draws no grid lines at the time ticks.
     pCmdUI->Enable(!forTime || settings.style != CGraphCtrl::GraphStyleBar);
 }
 

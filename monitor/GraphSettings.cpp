@@ -1,3 +1,5 @@
+// Default settings, and the lists of markers and line widths.
+
 #include "monitor/GraphSettings.h"
 
 #include <array>
@@ -5,10 +7,9 @@
 #include <utility>
 
 namespace kavlix::monitor {
-
 namespace {
 
-/// With more samples than this, markers would touch one another.
+/// With more samples than this, markers would overlap.
 constexpr std::size_t kMarkerSamples = 60;
 
 constexpr std::array<COLORREF, CGraphCtrl::DatasetCount> kColors = {

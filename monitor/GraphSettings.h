@@ -1,3 +1,4 @@
+// The person's choices about graphs, which all pages share.
 #pragma once
 
 #include <kavlix/GraphCtrl.h>
@@ -7,19 +8,21 @@
 
 namespace kavlix::monitor {
 
+/// The font of all texts.
+constexpr const char* kFontFace = "Arial";
+
 /// How one series is drawn.
 struct SeriesSettings {
     std::string name;
     COLORREF color = RGB(0, 0, 0);
-    int lineSize = 0; ///< width of the line in logical units (1/30 pixel); 0 is one pixel
+    int lineSize = 0; ///< width of the line in logical units (1/30 pixel); 0: one pixel
     CDataset::MarkerType marker = CDataset::MarkerNone;
     bool visible = true;
 
     bool operator==(const SeriesSettings& other) const;
 };
 
-/// What a person chooses about the graph. What follows from the data (ranges, units, label texts) is not
-/// here.
+/// The person's choices about the graph. Ranges, units and label texts follow from the data and are not here.
 struct GraphSettings {
     std::string title;
     CGraphCtrl::GraphStyle style = CGraphCtrl::GraphStyleLine;
@@ -32,21 +35,21 @@ struct GraphSettings {
     bool operator==(const GraphSettings& other) const;
 };
 
-/// Colour of the series with this index (from 0) until a person chooses another; all are readable on white.
+/// The default colour of the series with this index; all are readable on white.
 COLORREF DefaultSeriesColor(std::size_t index);
 
-/// Settings for a picture of these series. Series of few samples get markers, a single one gets no legend.
-/// The two-axis style is taken only with two series or more; otherwise lines.
+/// The settings that a new recording begins with. Few samples get markers. A single series gets no legend,
+/// and lines instead of the two-axis style.
 GraphSettings DefaultSettings(std::string title, const std::vector<std::string>& seriesNames,
                               std::size_t samples, CGraphCtrl::GraphStyle style);
 
-/// Names of markers and line widths in the order in which a person chooses among them.
+/// A marker and a line width as the settings dialog offers them.
 struct MarkerChoice {
     CDataset::MarkerType type;
     const char* name;
 };
 struct LineSizeChoice {
-    int size; ///< logical units
+    int size; ///< logical units; 0: one pixel
     const char* name;
 };
 const std::vector<MarkerChoice>& MarkerChoices();

@@ -1,11 +1,12 @@
+// The limits of the number of readings.
+
 #include "monitor/KeepDlg.h"
 
 namespace kavlix::monitor {
-
 namespace {
 
 constexpr UINT kFewest = 10;
-constexpr UINT kMost = 10'000'000; // four months of readings once a second
+constexpr UINT kMost = 10'000'000; // four months of one reading a second
 
 } // namespace
 

@@ -1,14 +1,15 @@
+// The dialog for the number of live readings to keep.
 #pragma once
-
-#include "monitor/resource.h"
 
 #include <afxwin.h>
 
 #include <cstddef>
 
+#include "monitor/resource.h"
+
 namespace kavlix::monitor {
 
-/// Asks how many live readings to keep.
+/// Asks for the number of live readings to keep.
 class CKeepDlg : public CDialog {
 public:
     enum { IDD = IDD_KEEP };

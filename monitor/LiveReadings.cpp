@@ -1,3 +1,5 @@
+// Adding and removing live readings, and the history that is made of them.
+
 #include "monitor/LiveReadings.h"
 
 #include <windows.h>
@@ -5,16 +7,16 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <limits>
 
 namespace kavlix::monitor {
-
 namespace {
 
-using Reading = std::optional<double> MachineRates::*;
+using recording::MachineRates;
 
-constexpr Reading kReadings[] = {&MachineRates::processorPercent, &MachineRates::memoryPercent,
-                                 &MachineRates::bytesInPerSecond, &MachineRates::bytesOutPerSecond};
+// The series.
+constexpr std::optional<double> MachineRates::*kReadings[] = {
+    &MachineRates::processorPercent, &MachineRates::memoryPercent, &MachineRates::bytesInPerSecond,
+    &MachineRates::bytesOutPerSecond};
 constexpr const char* kNames[] = {"CPU", "Memory", "Network in", "Network out"};
 constexpr bool kIsRate[] = {false, false, true, true};
 
@@ -27,12 +29,12 @@ std::string PercentText(double value) {
 }
 
 std::string RateText(double value) {
-    return std::isnan(value) ? "not available" : FormatRate(value);
+    return std::isnan(value) ? "not available" : recording::FormatRate(value);
 }
 
 } // namespace
 
-LiveReadings::LiveReadings() : m_unit(ChooseRateUnit(0)) {
+LiveReadings::LiveReadings() : m_unit(recording::ChooseRateUnit(0)) {
 }
 
 recording::ValueSpan LiveReadings::AxisSpan() {
@@ -43,14 +45,14 @@ recording::ValueSpan LiveReadings::AxisSpan() {
 }
 
 LiveReadings::Change LiveReadings::Add(recording::Time now, const MachineRates& rates) {
-    // A clock that was set back would put the new reading before older ones.
+    // The times ascend even when the machine's clock was set back.
     if (!m_times.empty() && now <= m_times.back())
         now = m_times.back() + 1;
     m_times.push_back(now);
     Values values{};
     for (std::size_t i = 0; i < kSeries; ++i) {
         const std::optional<double>& reading = rates.*kReadings[i];
-        values[i] = reading.value_or(std::numeric_limits<double>::quiet_NaN());
+        values[i] = reading.value_or(recording::kNoValue);
         m_had[i] = m_had[i] || reading.has_value();
     }
     m_values.push_back(values);
@@ -66,6 +68,7 @@ LiveReadings::Change LiveReadings::KeepAtMost(std::size_t count) {
     return Trim(m_times.size() - std::min(m_times.size(), m_most));
 }
 
+/// Removes the oldest readings, and chooses the history and its unit anew.
 LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
     m_times.erase(m_times.begin(), m_times.begin() + static_cast<std::ptrdiff_t>(removed));
     m_values.erase(m_values.begin(), m_values.begin() + static_cast<std::ptrdiff_t>(removed));
@@ -80,7 +83,7 @@ LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
             if (IsRate(i) && ValueOf(reading, i) > highest)
                 highest = ValueOf(reading, i);
     }
-    const RateUnit unit = ChooseRateUnit(highest);
+    const recording::RateUnit unit = recording::ChooseRateUnit(highest);
     change.unitChanged = !(unit == m_unit);
     m_unit = unit;
     m_recording.reset();

@@ -1,7 +1,5 @@
+// Keeps the live readings of the machine.
 #pragma once
-
-#include "monitor/MachineCounters.h"
-#include "monitor/recording/Recording.h"
 
 #include <array>
 #include <cstddef>
@@ -11,75 +9,80 @@
 #include <string>
 #include <vector>
 
+#include "monitor/recording/MachineRates.h"
+#include "monitor/recording/Recording.h"
+
 namespace kavlix::monitor {
 
-/// The readings of the machine: the last minutes as a recording, and one by one as far back as they are kept.
-/// In the recording, processor and memory are in percent, network in and out in a unit in which they, too,
-/// lie between 0 and 100, so that one axis serves all. A reading that is not to be had is a gap.
+/// The readings of the machine: all kept readings one by one, and the last minutes as a recording. In the
+/// recording, processor and memory are in percent. The network rates are in a unit in which they lie between
+/// 0 and 100 too, so that all series share one axis. A value that is not available is a gap.
 class LiveReadings {
 public:
     /// Series: processor, memory, network in, network out.
     static constexpr std::size_t kSeries = 4;
-    /// Readings in the recording; older ones leave it.
+    /// Number of readings in the recording.
     static constexpr std::size_t kHistory = 300;
-    /// Readings that are kept in all, unless a person asks for another number: a week's.
+    /// Number of readings that are kept by default: those of a week.
     static constexpr std::size_t kKept = 604'800;
-    /// Readings the time axis has room for from the start.
+    /// Number of readings for which the time axis has room at least.
     static constexpr std::size_t kShownAtLeast = 10;
 
-    /// Values the axis covers whatever the readings are: all percents.
+    /// The values that the axis always covers: 0 to 100.
     static recording::ValueSpan AxisSpan();
 
     LiveReadings();
 
-    /// What Add or RemoveHead did to the recording.
+    /// The effect of a change on the recording.
     struct Change {
-        std::size_t removed = 0;  ///< samples that went at the recording's head
-        bool unitChanged = false; ///< values of the network series are in another unit now
+        std::size_t removed = 0;  ///< number of samples removed at the recording's head
+        bool unitChanged = false; ///< the network series have another unit
     };
 
-    /// Takes a reading that was made at `now` (local time). `rates` are those since the reading before it.
-    Change Add(recording::Time now, const MachineRates& rates);
+    /// Adds a reading of the local time `now`. `rates` are those since the previous reading.
+    Change Add(recording::Time now, const recording::MachineRates& rates);
 
-    /// Takes away the oldest readings that are kept; the latest always stays.
+    /// Removes the oldest `count` readings; the latest reading always stays.
     Change RemoveHead(std::size_t count);
 
-    /// Keeps at most so many from now on, at least one.
+    /// Sets the number of readings to keep, at least 1, and removes older ones.
     Change KeepAtMost(std::size_t count);
     std::size_t MostKept() const { return m_most; }
 
-    // ---- One by one. Readings are counted from the first that was ever taken. ----
+    // ---- Single readings. Their numbers count from the first reading that was ever added. ----
 
-    /// The oldest reading that is kept, and one behind the latest.
+    /// The oldest kept reading, and the number behind the latest one.
     std::uint64_t First() const { return m_first; }
     std::uint64_t End() const { return m_first + m_times.size(); }
 
     recording::Time TimeOf(std::uint64_t reading) const { return m_times[Index(reading)]; }
-    /// In percent, or bytes a second; NaN when it was not to be had.
+
+    /// The value in percent or in bytes a second; NaN when it was not available.
     double ValueOf(std::uint64_t reading, std::size_t series) const;
 
     static const char* NameOf(std::size_t series);
-    /// Whether a series is a rate in bytes a second; else it is in percent.
+
+    /// Whether a series is in bytes a second; otherwise it is in percent.
     static bool IsRate(std::size_t series);
-    /// Readings in words; NaN is not available.
+
+    /// The values of a reading as text, NaN as `not available`.
     static std::string TextOf(const std::vector<double>& values);
 
     // ---- The last minutes ----
 
-    /// Readings that are kept and stand before those of the history.
+    /// Number of kept readings before those of the history.
     std::size_t CountBeforeHistory() const { return Index(m_historyFirst); }
 
-    /// The history; a new object after every change, made when it is first asked for.
+    /// The history. The first call after a change makes a new object.
     std::shared_ptr<const recording::Recording> History() const;
 
-    /// Names of the series, with the units they are drawn in, and `(not available)` behind those that were
-    /// never to be had.
+    /// Names of the series with their units. A series that never had a value has `(not available)` instead.
     std::vector<std::string> SeriesNames() const;
 
-    /// The latest readings in words.
+    /// The latest reading as text.
     std::string LatestText() const;
 
-    /// What one of the axis stands for.
+    /// The units of the axis.
     std::string AxisText() const;
 
 private:
@@ -91,15 +94,15 @@ private:
 
     std::deque<recording::Time> m_times;
     std::deque<Values> m_values;
-    std::array<bool, kSeries> m_had{}; ///< the series was to be had, once
+    std::array<bool, kSeries> m_had{}; ///< the series has had a value
     std::uint64_t m_first = 0;
     std::size_t m_most = kKept;
-    std::uint64_t m_historyFirst = 0; ///< the oldest reading of the history
-    RateUnit m_unit;
-    mutable std::shared_ptr<const recording::Recording> m_recording; ///< null: not asked for since the change
+    std::uint64_t m_historyFirst = 0; ///< number of the history's oldest reading
+    recording::RateUnit m_unit;
+    mutable std::shared_ptr<const recording::Recording> m_recording; ///< null: not made since the last change
 };
 
-/// The machine's local time, as recordings tell theirs.
+/// The machine's local time in the form of a recording's times.
 recording::Time LocalTimeNow();
 
 } // namespace kavlix::monitor

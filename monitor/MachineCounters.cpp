@@ -1,4 +1,5 @@
-// The socket header must come before windows.h: this file is compiled without the precompiled header.
+// Reads the counters. Compiled without the precompiled header: winsock2.h must come before windows.h.
+
 #include <winsock2.h>
 
 #include "monitor/MachineCounters.h"
@@ -9,7 +10,6 @@
 #include <psapi.h>
 
 namespace kavlix::monitor {
-
 namespace {
 
 std::uint64_t ToNumber(const FILETIME& time) {
@@ -24,14 +24,14 @@ double NowInSeconds() {
     return static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-std::optional<MachineCounters::Processor> ReadProcessor() {
+std::optional<recording::MachineCounters::Processor> ReadProcessor() {
     FILETIME idle;
     FILETIME kernel;
     FILETIME user;
     if (!GetSystemTimes(&idle, &kernel, &user))
         return std::nullopt;
-    // The time in the kernel includes the idle time.
-    return MachineCounters::Processor{ToNumber(idle), ToNumber(kernel) + ToNumber(user)};
+    // The kernel's time includes the idle time.
+    return recording::MachineCounters::Processor{ToNumber(idle), ToNumber(kernel) + ToNumber(user)};
 }
 
 std::optional<double> ReadMemoryPercent() {
@@ -43,7 +43,7 @@ std::optional<double> ReadMemoryPercent() {
 }
 
 #ifdef _WIN64
-// Headers do not agree on the calling convention of this function; 64-bit systems have only one.
+// A callback of EnumPageFiles. Headers disagree on its calling convention; 64-bit Windows has only one.
 BOOL AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCSTR) {
     // Both counts are in pages.
     SYSTEM_INFO system;
@@ -55,14 +55,14 @@ BOOL AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCSTR) {
 }
 #endif
 
-std::optional<std::vector<InterfaceCounters>> ReadInterfaces() {
+std::optional<std::vector<recording::InterfaceCounters>> ReadInterfaces() {
     MIB_IF_TABLE2* table = nullptr;
     if (GetIfTable2(&table) != NO_ERROR)
         return std::nullopt;
-    std::vector<InterfaceCounters> interfaces;
+    std::vector<recording::InterfaceCounters> interfaces;
     for (ULONG i = 0; i < table->NumEntries; ++i) {
         const MIB_IF_ROW2& row = table->Table[i];
-        // Filters and virtual interfaces count the bytes of the hardware below them once more.
+        // Filters and virtual interfaces would count the bytes of their hardware a second time.
         if (row.Type != IF_TYPE_SOFTWARE_LOOPBACK && row.InterfaceAndOperStatusFlags.HardwareInterface &&
             !row.InterfaceAndOperStatusFlags.FilterInterface)
             interfaces.push_back({row.InterfaceLuid.Value, row.InOctets, row.OutOctets});
@@ -73,8 +73,8 @@ std::optional<std::vector<InterfaceCounters>> ReadInterfaces() {
 
 } // namespace
 
-MachineCounters ReadMachineCounters() {
-    MachineCounters counters;
+recording::MachineCounters ReadMachineCounters() {
+    recording::MachineCounters counters;
     counters.seconds = NowInSeconds();
     counters.processor = ReadProcessor();
     counters.memoryPercent = ReadMemoryPercent();
@@ -93,7 +93,7 @@ std::optional<recording::MachineMemory> ReadMachineMemory() {
     PROCESS_MEMORY_COUNTERS own;
     if (GetProcessMemoryInfo(GetCurrentProcess(), &own, sizeof own))
         memory.own = own.WorkingSetSize;
-    // A system that does not count its kernel's memory says 0.
+    // A system that does not count its kernel's memory returns 0.
     PERFORMANCE_INFORMATION system;
     if (GetPerformanceInfo(&system, sizeof system) && system.KernelNonpaged > 0)
         memory.kernel = std::uint64_t{system.KernelNonpaged} * system.PageSize;

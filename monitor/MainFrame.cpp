@@ -1,39 +1,48 @@
+// The main window's life, layout and pages. Commands, sources and status bar have files of their own.
+
 #include "monitor/MainFrame.h"
+
+#include <algorithm>
+#include <utility>
 
 #include "monitor/Pages.h"
 #include "monitor/WindowPicture.h"
 #include "monitor/resource.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace kavlix::monitor {
-
 namespace {
 
-constexpr int kDefaultWidth = 1000; // of the window's inside, in pixels
+// Size of the client area and the menu bar, in pixels.
+constexpr int kDefaultWidth = 1000;
 constexpr int kDefaultHeight = 640;
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_WM_CREATE()
-    ON_WM_SIZE()
-    ON_WM_SETFOCUS()
-    ON_WM_GETMINMAXINFO()
-    ON_WM_ERASEBKGND()
-    ON_WM_TIMER()
     ON_WM_DESTROY()
+
+    ON_WM_ERASEBKGND()
+
+    ON_WM_SIZE()
+    ON_WM_GETMINMAXINFO()
+
+    ON_WM_SETFOCUS()
+
+    ON_WM_TIMER()
+
     ON_COMMAND(ID_FILE_OPEN, &CMainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_LIVE, &CMainFrame::OnFileLive)
     ON_UPDATE_COMMAND_UI(ID_FILE_LIVE, &CMainFrame::OnUpdateFileLive)
     ON_COMMAND(ID_FILE_SAVE_PICTURE, &CMainFrame::OnFileSavePicture)
+
     ON_COMMAND(ID_VIEW_FILL, &CMainFrame::OnViewFill)
     ON_UPDATE_COMMAND_UI(ID_VIEW_FILL, &CMainFrame::OnUpdateViewFill)
     ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, &CMainFrame::OnViewPage)
     ON_UPDATE_COMMAND_UI_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, &CMainFrame::OnUpdateViewPage)
     ON_COMMAND(ID_VIEW_MESSAGES, &CMainFrame::OnViewMessages)
     ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &CMainFrame::OnUpdateViewMessages)
+
     ON_COMMAND(ID_SETTINGS, &CMainFrame::OnSettings)
     ON_UPDATE_COMMAND_UI(ID_SETTINGS, &CMainFrame::OnUpdateSettings)
 END_MESSAGE_MAP()
@@ -53,7 +62,7 @@ bool CMainFrame::CreateMainWindow() {
 }
 
 BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    // Page and status bar cover the window: painting under them would only flicker.
+    // Page and status bar cover the client area: painting below them would flicker.
     cs.style |= WS_CLIPCHILDREN;
     return CFrameWnd::PreCreateWindow(cs);
 }
@@ -85,8 +94,8 @@ void CMainFrame::OnSetFocus(CWnd*) {
 
 void CMainFrame::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {
     CFrameWnd::OnGetMinMaxInfo(lpMMI);
-    // A picture may be larger than the screen.
-    constexpr LONG borders = 200;
+    // A picture may be larger than the screen, so the window may be too.
+    constexpr LONG borders = 200; // more than any frame takes, in pixels
     lpMMI->ptMaxTrackSize.x = std::max<LONG>(lpMMI->ptMaxTrackSize.x, recording::kMaxWindowSide + borders);
     lpMMI->ptMaxTrackSize.y = std::max<LONG>(lpMMI->ptMaxTrackSize.y, recording::kMaxWindowSide + borders);
 }
@@ -101,8 +110,8 @@ BOOL CMainFrame::PreTranslateMessage(MSG* pMsg) {
             CancelReading();
             return TRUE;
         }
-        // Escape first clears the mark. A key that is held for that does not go on to leave the filled
-        // window.
+        // Escape first removes the mark. While the key stays down, its repetitions must not end the
+        // filled state.
         const bool held = (HIWORD(pMsg->lParam) & KF_REPEAT) != 0;
         if (m_filled && !held && !m_page->HasMark()) {
             Fill(false);
@@ -118,12 +127,13 @@ BOOL CMainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
-/// The page that content is shown on as long as nobody has chosen another.
+/// The page of the content until the person chooses one.
 std::size_t CMainFrame::DefaultPage() const {
     return m_options.page.value_or(m_content.live ? recording::kScrollPage : recording::kGraphPage);
 }
 
-/// Brings a page to the front and up to date. False: its window could not be made, and nothing has changed.
+/// Makes a page the current one and updates it. False: its window could not be created, and nothing
+/// has changed.
 bool CMainFrame::ShowPage(std::size_t index) {
     std::unique_ptr<CMonitorPage>& page = m_pages[index];
     if (!page) {
@@ -176,7 +186,7 @@ void CMainFrame::Fill(bool fill) {
     m_filled = fill;
     m_page->ShowFilling(fill);
     m_status.ShowWindow(fill ? SW_HIDE : SW_SHOWNA);
-    // A change of the menu bar changes the inside's size, and with it the layout.
+    // SetMenu changes the size of the client area and so calls LayOut.
     if (fill) {
         m_menuWhileFilled = ::GetMenu(m_hWnd);
         ::SetMenu(m_hWnd, nullptr);

@@ -1,9 +1,5 @@
+// The main window.
 #pragma once
-
-#include "monitor/MonitorPage.h"
-#include "monitor/StatusPanes.h"
-#include "monitor/recording/Options.h"
-#include "monitor/recording/RecordingLoader.h"
 
 #include <afxwin.h>
 
@@ -11,26 +7,31 @@
 #include <string>
 #include <vector>
 
+#include "monitor/MonitorPage.h"
+#include "monitor/StatusPanes.h"
+#include "monitor/recording/Options.h"
+#include "monitor/recording/RecordingLoader.h"
+
 namespace kavlix::monitor {
 
-/// The main window: one of several pages over a status bar. It owns what they show: recordings, which it
-/// reads in slices while the message loop is idle, or live readings of the machine.
+/// The main window: one of several pages above a status bar. The window owns the content of the pages:
+/// recordings, which it reads in slices while the message loop is idle, or live readings of the machine.
 class CMainFrame : public CFrameWnd, private PageHost {
 public:
-    /// @param exitStatus receives what the program ends with; it must outlive the window
+    /// `exitStatus` receives the program's exit status and must outlive the window.
     CMainFrame(recording::Options options, int& exitStatus);
 
-    /// Makes the window of the size the options ask for; it deletes itself when it is destroyed.
+    /// Creates the window in the size of the options. The object deletes itself with its window.
     bool CreateMainWindow();
 
-    /// Begins what the command line asks for. The window must be visible.
+    /// Begins reading the files of the command line, or live readings. The window must be visible.
     void Start();
 
-    /// One piece of the work that is done while no message waits.
-    /// @return whether there is more to do
+    /// Does one piece of idle work: reading, filling a page, or saving the picture. Returns whether
+    /// work remains.
     bool WorkInIdle();
 
-    /// The page that is shown.
+    /// The current page.
     CMonitorPage& Page() { return *m_page; }
 
     const PageContent& Content() const override { return m_content; }
@@ -65,12 +66,12 @@ protected:
 
 private:
     enum Timer : UINT_PTR {
-        kLiveTimer = 1, ///< the next live reading
-        kEndTimer,      ///< the end the command line asks for
-        kNoticeTimer    ///< the notice has been seen
+        kLiveTimer = 1, ///< takes the next live reading
+        kEndTimer,      ///< ends the program, for `--seconds`
+        kNoticeTimer    ///< removes the notice from the status bar
     };
 
-    // What pages ask for.
+    // PageHost.
     void ChangeSettings(GraphSettings settings) override;
     void RemoveHead(std::size_t count) override;
     void KeepAtMost(std::size_t count) override;
@@ -103,24 +104,25 @@ private:
 
     recording::Options m_options;
     int& m_exitStatus;
-    bool m_fromCommandLine = false; ///< what is shown is what the command line asked for
-    bool m_pictureDue = false;      ///< the picture is taken as soon as everything is painted
+    bool m_fromCommandLine = false; ///< the content is that of the command line
+    bool m_pictureDue = false;      ///< save the picture once all idle work is done
 
     PageContent m_content;
-    std::vector<std::unique_ptr<CMonitorPage>> m_pages; ///< by recording::kPageNames; made when first shown
-    CMonitorPage* m_page = nullptr;                     ///< the one that is shown
-    bool m_pageChosen = false;                          ///< a person has chosen it
+    std::vector<std::unique_ptr<CMonitorPage>>
+        m_pages;                    ///< in the order of recording::kPageNames; created when first shown
+    CMonitorPage* m_page = nullptr; ///< the current page
+    bool m_pageChosen = false;      ///< the person has chosen a page
 
-    bool m_filled = false;             ///< see Filled
-    HMENU m_menuWhileFilled = nullptr; ///< the window's menu while a page fills it
+    bool m_filled = false;             ///< see PageHost::Filled
+    HMENU m_menuWhileFilled = nullptr; ///< the menu that was removed while a page fills the window
     CStatusPanes m_status;
-    StatusTexts m_texts;  ///< what the status bar shows, but for the notice
-    std::string m_notice; ///< stands for a short time in place of the first text
-    std::string m_title = "Kavlix Monitor";
+    StatusTexts m_texts;                    ///< the texts of the status bar without the notice
+    std::string m_notice;                   ///< replaces the first text for a short time; empty: none
+    std::string m_title = "Kavlix Monitor"; ///< the window's title while no page fills it
 
-    std::unique_ptr<recording::RecordingLoader> m_loader; ///< set while reading
-    std::vector<std::string> m_paths;                     ///< the files that are shown or read
-    MachineCounters m_counters;
+    std::unique_ptr<recording::RecordingLoader> m_loader; ///< not null while files are being read
+    std::vector<std::string> m_paths;                     ///< the files of the content
+    recording::MachineCounters m_counters;                ///< of the last live reading
 };
 
 } // namespace kavlix::monitor

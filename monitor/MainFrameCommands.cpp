@@ -2,21 +2,20 @@
 
 #include "monitor/MainFrame.h"
 
+#include <afxdlgs.h>
+
+#include <algorithm>
+
 #include "monitor/MessagesDlg.h"
 #include "monitor/SettingsDlg.h"
 #include "monitor/WindowPicture.h"
 #include "monitor/recording/CheckReport.h"
 #include "monitor/resource.h"
 
-#include <afxdlgs.h>
-
-#include <algorithm>
-
 namespace kavlix::monitor {
-
 namespace {
 
-constexpr DWORD kFileNameRoom = 32768; // characters for the names of all chosen files
+constexpr DWORD kFileNameRoom = 32768; // characters of the buffer for the names of all chosen files
 
 constexpr const char* kRecordingFilter = "Recordings (*.csv)|*.csv|All files (*.*)|*.*||";
 constexpr const char* kPictureFilter = "Pictures (*.png)|*.png||";
@@ -95,7 +94,8 @@ void CMainFrame::OnSettings() {
     CSettingsDlg dialog(m_content.Source(), m_page->VisibleSamples(), m_content.settings, this);
     if (dialog.DoModal() != IDOK)
         return;
-    // Live readings went on meanwhile, and with them the units in the series' names.
+    // Live readings may have changed the units in the series' names while the dialog was open: keep the
+    // new names.
     GraphSettings settings = dialog.Settings();
     const std::vector<SeriesSettings>& current = m_content.settings.series;
     for (std::size_t i = 0; i < settings.series.size() && i < current.size(); ++i)

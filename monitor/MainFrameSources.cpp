@@ -1,16 +1,16 @@
-// Where the main window's data come from: files, read in slices, or the machine itself; and how the program
-// ends.
+// Where the main window's content comes from: files or live readings; and how the program ends.
 
 #include "monitor/MainFrame.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "monitor/Console.h"
+#include "monitor/MachineCounters.h"
 #include "monitor/WindowPicture.h"
 #include "monitor/recording/CheckReport.h"
 #include "monitor/recording/NumberText.h"
 #include "monitor/resource.h"
-
-#include <algorithm>
-#include <utility>
 
 namespace kavlix::monitor {
 
@@ -20,10 +20,10 @@ using recording::RecordingLoader;
 namespace {
 
 constexpr UINT kLiveInterval = 1000;      // milliseconds
-constexpr double kLivePictureSeconds = 3; // live readings before a picture when no time is asked for
+constexpr double kLivePictureSeconds = 3; // time before a picture of live readings without --seconds
 constexpr double kMillisPerSecond = 1000;
-constexpr std::size_t kNamedFiles = 2;       // more are only counted in titles
-constexpr double kLongestTimer = 0x7FFFFFFF; // milliseconds: what a window timer can wait
+constexpr std::size_t kNamedFiles = 2;       // titles name at most this number of files, and count more
+constexpr double kLongestTimer = 0x7FFFFFFF; // milliseconds, the limit of SetTimer
 
 std::string BaseName(const std::string& path) {
     const std::size_t slash = path.find_last_of("/\\:");
@@ -109,7 +109,7 @@ void CMainFrame::CancelReading() {
     ShowRecording(loader->Take());
 }
 
-/// The content is another from now on.
+/// Shows content that has been replaced.
 void CMainFrame::ShowOtherContent() {
     ++m_content.generation;
     m_content.lost = 0;
@@ -158,13 +158,13 @@ void CMainFrame::BeginLive() {
 }
 
 void CMainFrame::TakeLiveReading() {
-    MachineCounters now = ReadMachineCounters();
-    LiveChanged(m_content.live->Add(LocalTimeNow(), RatesBetween(m_counters, now)));
+    recording::MachineCounters now = ReadMachineCounters();
+    LiveChanged(m_content.live->Add(LocalTimeNow(), recording::RatesBetween(m_counters, now)));
     m_counters = std::move(now);
     RefreshStatus();
 }
 
-/// Shows the live readings, and the units that they have now in the series' names.
+/// Updates the page, and the units in the series' names.
 void CMainFrame::LiveChanged(const LiveReadings::Change& change) {
     m_content.lost += change.removed;
     const std::vector<std::string> names = m_content.live->SeriesNames();

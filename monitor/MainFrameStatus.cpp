@@ -1,18 +1,17 @@
-// What the main window says about what it shows: in the status bar, or in its title while a page fills it.
+// The main window's texts: in the status bar, or in the title while a page fills the window.
 
 #include "monitor/MainFrame.h"
-
-#include "monitor/recording/CheckReport.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace kavlix::monitor {
+#include "monitor/recording/CheckReport.h"
 
+namespace kavlix::monitor {
 namespace {
 
 constexpr UINT kNoticeTime = 4000; // milliseconds
-constexpr int kTitleButtons = 5;   // icon, three buttons and the space between them, each about so wide
+constexpr int kTitleButtons = 5;   // icon, three buttons and their distances, in widths of a button
 
 bool FitsTitleBar(CWnd& frame, const std::string& title) {
     NONCLIENTMETRICS metrics{};
@@ -32,7 +31,7 @@ bool FitsTitleBar(CWnd& frame, const std::string& title) {
 
 } // namespace
 
-/// Begins to show other data.
+/// Sets the window's title for other content, and clears the texts of the old one.
 void CMainFrame::NameSource(const std::string& title) {
     m_title = title;
     m_notice.clear();
@@ -53,7 +52,7 @@ void CMainFrame::ShowStatus() {
         texts.text = {m_notice};
     std::string title = m_title;
     if (m_filled) {
-        // Text and pointer get shorter together until the title bar has room for them.
+        // Take shorter and shorter forms of both texts until the title bar has room.
         const std::size_t forms = std::max(texts.text.size(), texts.pointer.size());
         for (std::size_t form = 0; form < forms; ++form) {
             title = texts.text.empty() ? m_title : texts.text[std::min(form, texts.text.size() - 1)];
@@ -71,7 +70,7 @@ void CMainFrame::ShowStatus() {
         SetWindowText(title.c_str());
 }
 
-/// Says something until the person does something else, or for a short time. Nothing: takes it back.
+/// Shows a notice until ShowSelection, or for a short time. An empty notice removes the current one.
 void CMainFrame::Say(const std::string& notice) {
     m_notice = notice;
     if (notice.empty())
@@ -81,14 +80,13 @@ void CMainFrame::Say(const std::string& notice) {
     ShowStatus();
 }
 
-/// After something that a person did to what is shown.
 void CMainFrame::ShowSelection() {
     m_notice.clear();
     RefreshStatus();
 }
 
 void CMainFrame::RefreshStatus() {
-    // While files are read, the status bar tells how far.
+    // During reading, the status bar shows the progress.
     if (m_loader)
         return;
     std::vector<std::string> texts = m_page->MarkTexts();

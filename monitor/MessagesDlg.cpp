@@ -1,10 +1,12 @@
+// Shows text in an edit control.
+
 #include "monitor/MessagesDlg.h"
 
 namespace kavlix::monitor {
 
 CMessagesDlg::CMessagesDlg(const std::string& text, CWnd* parent)
     : CDialog(CMessagesDlg::IDD, parent), m_text(text.c_str()) {
-    // Edit controls break lines at both characters only.
+    // An edit control breaks lines only at CRLF.
     m_text.Replace("\r\n", "\n");
     m_text.Replace("\n", "\r\n");
 }
@@ -16,7 +18,7 @@ void CMessagesDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CMessagesDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    // The whole text would be selected when the edit control gets the focus.
+    // The edit control would select its whole text when it gets the focus.
     GetDlgItem(IDOK)->SetFocus();
     return FALSE;
 }

@@ -1,19 +1,20 @@
+// The dialog with the messages about the files.
 #pragma once
-
-#include "monitor/resource.h"
 
 #include <afxwin.h>
 
 #include <string>
 
+#include "monitor/resource.h"
+
 namespace kavlix::monitor {
 
-/// Shows what was wrong with the files, as text that can be copied.
+/// Shows the messages about the files as text that can be copied.
 class CMessagesDlg : public CDialog {
 public:
     enum { IDD = IDD_MESSAGES };
 
-    /// @param text lines ended with \n
+    /// The lines of `text` end with \n.
     explicit CMessagesDlg(const std::string& text, CWnd* parent = nullptr);
 
 protected:

@@ -1,4 +1,11 @@
+// Start and end of the program.
+
 #include "monitor/MonitorApp.h"
+
+#include <cstdlib>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "monitor/Console.h"
 #include "monitor/MainFrame.h"
@@ -7,13 +14,7 @@
 #include "monitor/recording/RecordingLoader.h"
 #include "monitor/resource.h"
 
-#include <cstdlib>
-#include <string>
-#include <utility>
-#include <vector>
-
 namespace kavlix::monitor {
-
 namespace {
 
 constexpr int kNothing = static_cast<int>(recording::Status::Nothing);
@@ -22,7 +23,7 @@ std::vector<std::string> Arguments() {
     return std::vector<std::string>(__argv + (__argc > 0 ? 1 : 0), __argv + __argc);
 }
 
-/// Tells somebody who started the program from a terminal, or else somebody who started it with the mouse.
+/// Shows an error on standard error, or in a message box when there is no standard error.
 void Tell(const std::string& text) {
     if (!WriteError(text + "\n"))
         AfxMessageBox(text.c_str(), MB_OK | MB_ICONEXCLAMATION);
@@ -56,11 +57,11 @@ BOOL CMonitorApp::InitInstance() {
         return FALSE;
     }
 
-    // A window that starts as an icon has no picture.
+    // A minimized window has no picture: ignore the parent's wish for one.
     const int show = options.shot.empty() ? m_nCmdShow : SW_SHOWNORMAL;
     m_frame = new CMainFrame(std::move(options), m_exitStatus);
     if (!m_frame->CreateMainWindow()) {
-        // A frame whose window cannot be made has deleted itself.
+        // The frame has deleted itself.
         m_frame = nullptr;
         Tell("The window cannot be made: is there a display?");
         m_exitStatus = kNothing;

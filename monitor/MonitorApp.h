@@ -1,3 +1,4 @@
+// The application object of KavlixMonitor.exe.
 #pragma once
 
 #include <afxwin.h>
@@ -6,7 +7,7 @@ namespace kavlix::monitor {
 
 class CMainFrame;
 
-/// The program. With `--check` or `--help` it only prints; otherwise it opens its window.
+/// The application object. With `--check` or `--help` it prints and ends; otherwise it opens the main window.
 class CMonitorApp : public CWinApp {
 public:
     CMonitorApp();
@@ -20,7 +21,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CMainFrame* m_frame = nullptr; ///< deletes itself with its window; the message loop ends with it
+    CMainFrame* m_frame =
+        nullptr; ///< deletes itself when its window is destroyed, which ends the message loop
     int m_exitStatus = 0;
 };
 

@@ -1,21 +1,26 @@
+// Points, mark, mouse and keys of the chart.
+
 #include "monitor/MonitorChart.h"
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
+#include "monitor/GraphSettings.h"
+#include "monitor/Notifications.h"
+
 namespace kavlix::monitor {
 
-using recording::PairedPoint;
+using recording::ChartPoint;
 
 namespace {
 
 constexpr COLORREF kMarkColor = RGB(200, 0, 0);
-constexpr int kMarkHalf = 4;  // pixels from the mark's middle to its edge
-constexpr int kReach = 12;    // pixels from the pointer to a point that is meant
+constexpr int kMarkHalf = 4;  // pixels from the mark's centre to its edge
+constexpr int kReach = 12;    // pixels from the pointer to the farthest point that counts as under it
 constexpr int kFontSize = 90; // tenths of a point
 
-bool IsPoint(const PairedPoint& point) {
+bool IsPoint(const ChartPoint& point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
 }
 
@@ -23,27 +28,29 @@ bool IsPoint(const PairedPoint& point) {
 
 BEGIN_MESSAGE_MAP(CMonitorChart, CChartDraw)
     ON_WM_ERASEBKGND()
+
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+
     ON_WM_KEYDOWN()
     ON_WM_GETDLGCODE()
 END_MESSAGE_MAP()
 
 bool CMonitorChart::CreateChild(CWnd& parent, UINT id) {
     AddDataset();
-    SetTextFont(kFontSize, "Arial");
+    SetTextFont(kFontSize, kFontFace);
     return Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id) != FALSE;
 }
 
 void CMonitorChart::Show(ChartPicture picture) {
-    const PairedPoint* const marked = Marked();
+    const ChartPoint* const marked = Marked();
     const auto row = marked ? std::optional(marked->row) : std::nullopt;
     m_picture = std::move(picture);
     m_pointed.reset();
     std::vector<double> x;
     std::vector<double> y;
-    for (const PairedPoint& point : m_picture.points) {
+    for (const ChartPoint& point : m_picture.points) {
         x.push_back(point.x);
         y.push_back(point.y);
     }
@@ -65,28 +72,28 @@ void CMonitorChart::Show(ChartPicture picture) {
 
 void CMonitorChart::Mark(std::optional<std::size_t> row) {
     m_marked.reset();
-    const std::vector<PairedPoint>& points = m_picture.points;
+    const std::vector<ChartPoint>& points = m_picture.points;
     if (row) {
-        // A gap may stand before the point of its row.
+        // A row with a point may also have a gap in front of it.
         const auto found = std::find_if(
             std::lower_bound(points.begin(), points.end(), *row,
-                             [](const PairedPoint& point, std::size_t wanted) { return point.row < wanted; }),
-            points.end(), [row](const PairedPoint& point) { return point.row > *row || IsPoint(point); });
+                             [](const ChartPoint& point, std::size_t wanted) { return point.row < wanted; }),
+            points.end(), [row](const ChartPoint& point) { return point.row > *row || IsPoint(point); });
         if (found != points.end() && found->row == *row)
             m_marked = static_cast<std::size_t>(found - points.begin());
     }
     Redraw();
 }
 
-const PairedPoint* CMonitorChart::Marked() const {
+const ChartPoint* CMonitorChart::Marked() const {
     return m_marked ? &m_picture.points[*m_marked] : nullptr;
 }
 
-const PairedPoint* CMonitorChart::Pointed() const {
+const ChartPoint* CMonitorChart::Pointed() const {
     return m_pointed ? &m_picture.points[*m_pointed] : nullptr;
 }
 
-std::optional<CPoint> CMonitorChart::PlaceOf(const PairedPoint& point) const {
+std::optional<CPoint> CMonitorChart::PlaceOf(const ChartPoint& point) const {
     if (!IsPoint(point) || m_rectPlot.IsRectEmpty())
         return std::nullopt;
     double xMin = 0;
@@ -98,7 +105,7 @@ std::optional<CPoint> CMonitorChart::PlaceOf(const PairedPoint& point) const {
     GetYScale(yMin, yMax, step);
     const double x = m_rectPlot.left + (point.x - xMin) / (xMax - xMin) * (m_rectPlot.Width() - 1);
     const double y = m_rectPlot.bottom - 1 - (point.y - yMin) / (yMax - yMin) * (m_rectPlot.Height() - 1);
-    constexpr double farthest = 32767; // of a window's pixels
+    constexpr double farthest = 32767; // largest coordinate of a window, in pixels
     if (!(std::abs(x) < farthest) || !(std::abs(y) < farthest))
         return std::nullopt;
     return CPoint(static_cast<int>(x), static_cast<int>(y));
@@ -147,7 +154,7 @@ void CMonitorChart::DrawDatasets(CDC& dc) {
 }
 
 BOOL CMonitorChart::OnEraseBkgnd(CDC*) {
-    // Painting covers the window.
+    // OnPaint covers the whole window.
     return TRUE;
 }
 
@@ -159,17 +166,12 @@ void CMonitorChart::OnLButtonDown(UINT nFlags, CPoint point) {
         return;
     m_marked = found;
     Redraw();
-    Tell(MCN_SELECTION);
+    NotifyParent(*this, MCN_SELECTION);
 }
 
 void CMonitorChart::OnMouseMove(UINT nFlags, CPoint point) {
-    if (!m_watchingLeave) {
-        TRACKMOUSEEVENT watch{};
-        watch.cbSize = sizeof watch;
-        watch.dwFlags = TME_LEAVE;
-        watch.hwndTrack = m_hWnd;
-        m_watchingLeave = ::TrackMouseEvent(&watch) != FALSE;
-    }
+    if (!m_watchingLeave)
+        m_watchingLeave = WatchMouseLeave(*this);
     CChartDraw::OnMouseMove(nFlags, point);
     Point(PointUnder(point));
 }
@@ -181,7 +183,7 @@ void CMonitorChart::OnMouseLeave() {
 
 void CMonitorChart::Point(std::optional<std::size_t> point) {
     if (std::exchange(m_pointed, point) != point)
-        Tell(MCN_POINTER);
+        NotifyParent(*this, MCN_POINTER);
 }
 
 void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
@@ -189,7 +191,7 @@ void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
         Step(nChar == VK_RIGHT ? 1 : -1);
     } else if (nChar == VK_ESCAPE && m_marked) {
         Mark({});
-        Tell(MCN_SELECTION);
+        NotifyParent(*this, MCN_SELECTION);
     } else {
         CChartDraw::OnKeyDown(nChar, nRepCnt, nFlags);
     }
@@ -199,7 +201,7 @@ UINT CMonitorChart::OnGetDlgCode() {
     return DLGC_WANTARROWS;
 }
 
-/// Marks the next point in this direction; from no mark the first or the last one.
+/// Moves the mark to the next point in this direction. Without a mark, marks the first or the last point.
 void CMonitorChart::Step(int direction) {
     const auto count = static_cast<std::ptrdiff_t>(m_picture.points.size());
     std::ptrdiff_t at = direction > 0 ? -1 : count;
@@ -212,15 +214,7 @@ void CMonitorChart::Step(int direction) {
         return;
     m_marked = static_cast<std::size_t>(at);
     Redraw();
-    Tell(MCN_SELECTION);
-}
-
-void CMonitorChart::Tell(UINT code) {
-    NMHDR record{};
-    record.hwndFrom = m_hWnd;
-    record.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
-    record.code = code;
-    ::SendMessage(::GetParent(m_hWnd), WM_NOTIFY, record.idFrom, reinterpret_cast<LPARAM>(&record));
+    NotifyParent(*this, MCN_SELECTION);
 }
 
 } // namespace kavlix::monitor

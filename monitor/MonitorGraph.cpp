@@ -1,7 +1,11 @@
+// Hands samples to the graph control. MonitorGraphFit chooses ranges and texts.
+
 #include "monitor/MonitorGraph.h"
 
 #include <algorithm>
 #include <utility>
+
+#include "monitor/recording/JoinedSamples.h"
 
 namespace kavlix::monitor {
 
@@ -10,29 +14,23 @@ using recording::VisibleRange;
 
 namespace {
 
-/// Samples handed to the control for lines: many times what the widest screen has pixels, and little enough
-/// that changing the view takes no time to speak of.
+/// The most samples that the control gets for lines: many for each pixel of the widest screen, and few enough
+/// that a change of the view has no noticeable delay.
 constexpr std::size_t kLineSamples = 50'000;
-
-/// The control labels at most one time in so many logical units.
-constexpr int kLineLabelDistance = 800;
-constexpr int kBarLabelDistance = 1000;
 
 VisibleRange AllOf(const GraphSource& source) {
     const std::size_t size = source.recording ? source.recording->times.size() : 0;
     return {0, size == 0 ? 0 : size - 1};
 }
 
-CString ToText(const std::string& text) {
-    return CString(text.c_str());
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMonitorGraph, CGraphCtrl)
     ON_WM_SIZE()
+
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+
     ON_COMMAND(ID_EDIT_COPY, &CMonitorGraph::OnCopy)
 END_MESSAGE_MAP()
 
@@ -130,7 +128,7 @@ std::size_t CMonitorGraph::SampleBeside(std::size_t series, std::size_t index) c
 }
 
 double CMonitorGraph::ValueOf(std::size_t series, std::size_t index) const {
-    // What a line goes through between two samples of a series is no sample.
+    // Between the samples of a joined file, m_shown has values of the connecting line, which are no samples.
     return m_shown.samplesEach == 1 ? m_source.recording->series[series].values[m_visible.first + index]
                                     : m_shown.recording.series[series].values[index];
 }
@@ -167,7 +165,8 @@ void CMonitorGraph::OnSize(UINT nType, int cx, int cy) {
 void CMonitorGraph::FeedSamples(const Layout& layout) {
     const bool bars = m_settings.style == GraphStyleBar;
     const std::size_t limit = SampleLimit(layout);
-    m_timeLabels = static_cast<int>(layout.plot.cx) / (bars ? kBarLabelDistance : kLineLabelDistance);
+    m_timeLabels = static_cast<int>(layout.plot.cx) /
+                   (bars ? recording::kBarLabelDistance : recording::kLineLabelDistance);
     if (m_fed && m_fedBars == bars && m_fedLimit == limit &&
         recording::ChooseTimeLabels(m_shown.recording.times, m_timeLabels) == m_labels)
         return;
@@ -204,8 +203,8 @@ void CMonitorGraph::FeedTail(std::size_t first) {
             AddData(static_cast<int>(series), values[i], nullptr);
     }
     for (std::size_t i = first; i < shown.times.size(); ++i)
-        AddXTickLabel(ToText(recording::MakeTimeLabel(m_labels, shown.times[i])), CString());
-    // Of the samples read, since the last bar begins before they end.
+        AddXTickLabel(recording::MakeTimeLabel(m_labels, shown.times[i]).c_str(), CString());
+    // The recording's own times: the last bar's time is before the last sample's.
     const std::vector<recording::Time>* const times =
         m_source.recording ? &m_source.recording->times : nullptr;
     std::vector<recording::Time> ends;
@@ -217,16 +216,19 @@ void CMonitorGraph::FeedTail(std::size_t first) {
 std::size_t CMonitorGraph::SampleLimit(const Layout& layout) const {
     if (m_settings.style != GraphStyleBar)
         return kLineSamples;
-    // Bars that can be seen well: four pixels and more.
+    // Bars of at least four pixels are easy to see.
+    constexpr int pixels = 4;
     const std::size_t series = m_source.recording ? m_source.recording->series.size() : 1;
-    return recording::BarCapacity(static_cast<int>(layout.plot.cx / 4), std::max<std::size_t>(series, 1));
+    return recording::BarCapacity(static_cast<int>(layout.plot.cx / pixels),
+                                  std::max<std::size_t>(series, 1));
 }
 
-ShownSamples CMonitorGraph::Reduce(std::size_t limit) const {
+recording::ShownSamples CMonitorGraph::Reduce(std::size_t limit) const {
     if (!m_source.recording)
         return {};
-    return m_settings.style == GraphStyleBar ? ReduceForBars(*m_source.recording, m_visible, limit)
-                                             : ReduceForLines(*m_source.recording, m_visible, limit);
+    return m_settings.style == GraphStyleBar
+               ? recording::ReduceForBars(*m_source.recording, m_visible, limit)
+               : recording::ReduceForLines(*m_source.recording, m_visible, limit);
 }
 
 } // namespace kavlix::monitor

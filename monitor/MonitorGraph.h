@@ -1,56 +1,55 @@
+// The graph control of the graph page and of the settings dialog's preview.
 #pragma once
-
-#include "monitor/FittedGraph.h"
-#include "monitor/GraphSettings.h"
-#include "monitor/Reduction.h"
 
 #include <memory>
 #include <optional>
 #include <string>
+
+#include "monitor/FittedGraph.h"
+#include "monitor/GraphSettings.h"
+#include "monitor/recording/Reduction.h"
+#include "monitor/recording/ViewChoice.h"
 
 namespace kavlix::monitor {
 
 /// What a graph shows.
 struct GraphSource {
     std::shared_ptr<const recording::Recording> recording; ///< null: nothing
-    recording::ValueSpan axisCovers; ///< values that the value axis covers whatever the samples are
-    std::string valueLabel;          ///< text along the value axis when several series share it
-    std::size_t samplesAtLeast = 0;  ///< the time axis has room for so many
+    recording::ValueSpan axisCovers;                       ///< values that the value axis always covers
+    std::string valueLabel;         ///< text along the value axis when several series share it
+    std::size_t samplesAtLeast = 0; ///< number of samples for which the time axis has room at least
 };
 
-/// The graph control with a recording in it. It chooses what follows from the data and from the window's
-/// size: which samples are handed over, ranges with round labels, the room for labels and legend.
+/// The graph control with a recording. The graph chooses everything that follows from the data and the
+/// window's size: the samples for the control, ranges with round labels, and the room for labels and legend.
 class CMonitorGraph : public CFittedGraph<CGraphCtrl> {
 public:
-    /// Where a sample of the picture comes from.
+    /// The selection mark and the values there.
     struct Mark {
-        int index = -1; ///< sample of the picture, -1: no mark
+        int index = -1; ///< the control's sample; -1: no mark
         recording::Time time = 0;
-        std::vector<double> values; ///< one a series, NaN where there is none
-        /// When each value was read. Files that were joined have their samples at different times: what is
-        /// told of a series then is the sample beside the mark, if it is no farther than its file's rows are
-        /// apart.
+        std::vector<double> values; ///< one for each series; NaN: no value
+        /// The time of each value. In joined files it may differ from the mark's time; see SampleBeside.
         std::vector<recording::Time> times;
     };
 
-    /// A sample of one series that stands under the mouse pointer.
+    /// The sample of one series under the mouse pointer.
     struct Pointed {
         recording::Time time = 0;
         std::size_t series = 0;
         double value = 0;
     };
 
-    /// Shows all of another recording with other settings. Repaints.
+    /// Shows another recording, all of it. Repaints.
     void Show(GraphSource source, GraphSettings settings);
 
-    /// Goes on with a recording that has lost `removed` samples at its head and got others at its end, its
-    /// series the same. The selection mark stays on its sample as long as it is there. Repaints.
-    /// @param changed settings that go with it; given them, the values of the samples that stay may differ,
-    /// too
+    /// Shows the same series after `removed` samples were removed at the head and others were added at the
+    /// end. The selection mark stays on its sample while that exists. With `changed` the settings change too,
+    /// and the values of the remaining samples may differ. Repaints.
     void ShowGrown(GraphSource source, std::size_t removed, std::optional<GraphSettings> changed = {});
 
-    /// Goes on with a recording that has lost `removed` samples at its head. What was visible and is left
-    /// stays visible. The selection mark goes. Repaints.
+    /// Shows the same recording after `removed` samples were removed at the head. The visible samples that
+    /// remain stay visible. The selection mark is removed. Repaints.
     void ShowRest(GraphSource source, std::size_t removed, GraphSettings settings);
 
     /// Changes the settings. The selection mark stays on its sample. Repaints.
@@ -59,30 +58,27 @@ public:
 
     const GraphSource& Source() const { return m_source; }
 
-    /// The part of the recording that is visible; all of it by default. Repaints. The selection mark stays on
-    /// its sample as long as that is visible.
+    /// Sets the visible part of the recording. The selection mark stays on its sample while that is
+    /// visible. Repaints.
     void SetVisible(recording::VisibleRange range);
     recording::VisibleRange Visible() const { return m_visible; }
     bool ShowsAll() const;
 
-    /// Samples of the recording behind each sample of the picture.
+    /// Number of the recording's samples in each run of the reduction; 1: not reduced.
     std::size_t SamplesEach() const { return m_shown.samplesEach; }
 
-    /// The selection mark.
     Mark SelectionMark() const;
 
-    /// Sample of the recording at the selection mark.
+    /// The recording's sample at the selection mark.
     std::optional<std::size_t> MarkedSample() const;
 
-    /// First sample of the recording that a sample of the picture stands for.
+    /// The first sample of the recording that a sample of the control stands for.
     std::size_t FirstSampleOf(int index) const;
 
-    /// Of the sample nearest to the pointer the series that is nearest: in the line styles the one whose
-    /// point is at most as far above or below as any other's, in the bar style the one whose bar is. Hidden
-    /// series and those without a value thereabouts do not count. Costs the same however many samples there
-    /// are.
-    /// @param point client pixels
-    /// @return nothing outside the plot or when no sample is there
+    /// The sample under a point (client pixels). Of the sample nearest in time, the result is the nearest
+    /// series: with lines, the one whose value is the least distance above or below; with bars, the one whose
+    /// bar is nearest. Hidden series, and series without a value near the point, do not count. None outside
+    /// the plot. Takes the same time for any number of samples.
     std::optional<Pointed> SampleUnder(CPoint point);
 
 protected:
@@ -93,15 +89,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    /// Texts along the axes, before they are cut to the room there is.
+    /// Texts along the axes, not yet cut to the available room.
     struct AxisTexts {
-        std::vector<std::string> x; ///< the same at decreasing length
+        std::vector<std::string> x; ///< several forms, the longest first
         std::string y;
         std::string y2;
     };
 
-    /// The sample of the recording that was marked, for as long as the mark stands where it was put. In a
-    /// reduced picture the mark alone would not tell it any more.
+    /// The recording's sample of the selection mark, valid while the mark is at `index`. In a reduced picture
+    /// the control's mark identifies only a run of samples.
     struct HeldMark {
         int index = -1;
         std::size_t sample = 0;
@@ -121,20 +117,20 @@ private:
     AxisTexts ChooseAxisTexts();
     void FitTexts(const AxisTexts& texts, const Layout& layout);
     std::size_t SampleLimit(const Layout& layout) const;
-    ShownSamples Reduce(std::size_t limit) const;
+    recording::ShownSamples Reduce(std::size_t limit) const;
 
     GraphSource m_source;
     GraphSettings m_settings;
     recording::VisibleRange m_visible;
-    ShownSamples m_shown;
+    recording::ShownSamples m_shown; ///< the samples for the control
     recording::TimeLabelStyle m_labels;
-    int m_timeLabels = 1; ///< labels of the time axis there is room for
+    int m_timeLabels = 1; ///< number of labels for which the time axis has room
     std::string m_timeTitle;
     bool m_fed = false;         ///< the control holds m_shown
     bool m_fedBars = false;     ///< m_shown was reduced for bars
-    std::size_t m_fedLimit = 0; ///< the limit m_shown was reduced to
+    std::size_t m_fedLimit = 0; ///< the limit of that reduction
     HeldMark m_heldMark;
-    std::optional<std::size_t> m_markToKeep; ///< sample to mark when the control gets other samples
+    std::optional<std::size_t> m_markToKeep; ///< sample to mark after the next FeedAll
 };
 
 } // namespace kavlix::monitor

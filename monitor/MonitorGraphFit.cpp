@@ -1,11 +1,11 @@
-// What the graph chooses by the window's size: ranges with round labels, room for texts.
+// What the graph chooses from the window's size: ranges with round labels, and room for texts.
 
 #include "monitor/MonitorGraph.h"
 
-#include "monitor/recording/NumberText.h"
-
 #include <algorithm>
 #include <cmath>
+
+#include "monitor/recording/NumberText.h"
 
 namespace kavlix::monitor {
 
@@ -13,10 +13,10 @@ using recording::ValueSpan;
 
 namespace {
 
-// All lengths in logical units of 1/30 pixel.
-constexpr int kMarkerRoom = 150;   // half a marker and a little more
-constexpr int kLabelFontLess = 50; // the axis labels' font is so much lower than the label unit
-constexpr int kMinLabelUnit = 300; // lower axis labels cannot be read
+// Logical units.
+constexpr int kMarkerRoom = 150;   // half a marker and a margin
+constexpr int kLabelFontLess = 50; // difference between the label height and the height of the labels' font
+constexpr int kMinLabelUnit = 300; // smaller axis labels are illegible
 
 CString ToText(const std::string& text) {
     return CString(text.c_str());
@@ -71,7 +71,7 @@ void CMonitorGraph::FitTimeRange() {
     const std::size_t places = std::max(m_shown.recording.times.size(), m_source.samplesAtLeast);
     const double last = static_cast<double>(places) - 1;
     if (last >= 1) {
-        // Markers of the first and the last sample stand whole in the plot.
+        // Room for the whole markers of the first and the last sample.
         const bool markers =
             std::any_of(m_settings.series.begin(), m_settings.series.end(),
                         [](const auto& series) { return series.marker != CDataset::MarkerNone; });
@@ -81,7 +81,7 @@ void CMonitorGraph::FitTimeRange() {
         SetXVisibleMin(-pad);
         SetXVisibleMax(last + pad);
     } else {
-        // One sample alone: in the middle as a point, over the whole width as a bar.
+        // A single sample: a point in the middle, or a bar over the whole width.
         SetXVisibleMin(-1);
         SetXVisibleMax(m_settings.style == GraphStyleBar ? 0 : 1);
     }
@@ -102,8 +102,9 @@ CMonitorGraph::AxisTexts CMonitorGraph::ChooseAxisTexts() {
     }
     texts.x.push_back(m_timeTitle);
 
-    // The control's axis labels grow with the window, as its text title does. The caption band stays small,
-    // and what the labels would say stands in it; only two axes cannot be told apart without them.
+    // The control's axis labels grow with the window, as its text title does. The caption band stays small
+    // and contains the text of the X label, so the labels are hidden with it. Two value axes need their
+    // labels in any case.
     const bool labels = m_settings.titleStyle == TitleStyleText && GetTitleTextHeight() >= kMinLabelUnit;
     ShowXLabel(labels);
     ShowYLabel((labels || twoAxes) && !texts.y.empty());
@@ -116,17 +117,17 @@ void CMonitorGraph::FitTexts(const AxisTexts& texts, const Layout& layout) {
     const int height = unit - kLabelFontLess;
     std::string xText;
     for (const std::string& text : texts.x)
-        if (xText.empty() && TextSize(text, height, kRegular).cx <= layout.plot.cx)
+        if (xText.empty() && TextSize(text, height, FW_NORMAL).cx <= layout.plot.cx)
             xText = text;
     SetXLabel(ToText(xText));
-    SetYLabel(ToText(FitText(texts.y, static_cast<int>(layout.plot.cy), height, kRegular)));
-    SetY2Label(ToText(FitText(texts.y2, static_cast<int>(layout.plot.cy), height, kRegular)));
+    SetYLabel(ToText(FitText(texts.y, static_cast<int>(layout.plot.cy), height, FW_NORMAL)));
+    SetY2Label(ToText(FitText(texts.y2, static_cast<int>(layout.plot.cy), height, FW_NORMAL)));
 
     CRect client;
     GetClientRect(&client);
-    SetTitle(ToText(FitText(m_settings.title, client.Width() * kPixel - 2 * kTickLabelGap, unit, kBold)));
+    SetTitle(ToText(FitText(m_settings.title, client.Width() * kPixel - 2 * kTickLabelGap, unit, FW_BOLD)));
 
-    // The caption band shows the window's text.
+    // The caption band shows the window's text: the title with as much of the X axis' text as fits.
     const std::string name = m_settings.series.size() == 1 ? ": " + m_settings.series[0].name : std::string();
     std::vector<std::string> captions;
     if (!m_shown.recording.times.empty())

@@ -1,13 +1,11 @@
-// What the graph makes of the mouse beyond the control: what is under the pointer, and what its parent is
-// told.
+// The graph's mouse: the sample under the pointer, and notifications to the parent.
 
 #include "monitor/MonitorGraph.h"
 
-#include "monitor/recording/NearestPoint.h"
-
 #include <algorithm>
 #include <cmath>
-#include <limits>
+
+#include "monitor/recording/NearestPoint.h"
 
 namespace kavlix::monitor {
 
@@ -15,13 +13,8 @@ using recording::AxisRange;
 
 namespace {
 
-constexpr int kPixel = 30;                  // logical units
-constexpr int kReach = 10 * kPixel;         // so far from the pointer a series' sample is looked for
-constexpr std::size_t kReachSamples = 1000; // and no farther than this, however densely they stand
-constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-
 CPoint ToLogical(CPoint pixels) {
-    return CPoint(pixels.x * kPixel, pixels.y * kPixel);
+    return CPoint(pixels.x * recording::kUnitsPerPixel, pixels.y * recording::kUnitsPerPixel);
 }
 
 } // namespace
@@ -40,12 +33,13 @@ std::optional<CMonitorGraph::Pointed> CMonitorGraph::SampleUnder(CPoint point) {
     return Pointed{m_shown.recording.times[indices[*series]], *series, ValueOf(*series, indices[*series])};
 }
 
-/// Of every series how far its sample at or near `index` is from the point, and which sample that is.
+/// For every series, the distance of its sample at or near `index` from the point; NaN without one. `indices`
+/// receives these samples.
 std::vector<double> CMonitorGraph::DistancesFrom(CPoint logical, std::size_t index,
                                                  std::vector<std::size_t>& indices) {
     const std::size_t drawn = std::min(m_shown.recording.series.size(), m_settings.series.size());
     indices.assign(drawn, index);
-    std::vector<double> distances(drawn, kNone);
+    std::vector<double> distances(drawn, recording::kNoValue);
     int barWidth = 0;
     int datasets = 0;
     int places = 0;
@@ -53,11 +47,10 @@ std::vector<double> CMonitorGraph::DistancesFrom(CPoint logical, std::size_t ind
     if (bars && (!CalcBarSize(barWidth, datasets, places) || barWidth <= 0))
         return distances;
 
-    // Files that were joined have their samples at different times: a series' own may stand beside the
-    // nearest.
+    // In joined files, a series may have its value beside the sample at `index`.
     const double perUnit = (m_XVisibleMax - m_XVisibleMin) / std::max(m_rectPlot.Width(), 1);
-    const auto reach =
-        static_cast<std::size_t>(std::clamp(perUnit * kReach, 0.0, static_cast<double>(kReachSamples)));
+    const auto reach = static_cast<std::size_t>(
+        std::clamp(perUnit * kPointerReach, 0.0, static_cast<double>(kPointerSamples)));
     const double height =
         static_cast<double>(m_rectPlot.bottom - logical.y) / std::max(m_rectPlot.Height(), 1);
     const std::size_t limit = m_GraphStyle == GraphStyleTwoAxis ? 2 : drawn;
@@ -67,7 +60,7 @@ std::vector<double> CMonitorGraph::DistancesFrom(CPoint logical, std::size_t ind
         if (bars) {
             const LONG left = m_rectPlot.left + static_cast<LONG>(index) * barWidth * (datasets + 1);
             const double middle = left + barWidth * (static_cast<double>(i) + 0.5);
-            distances[i] = std::isnan(ValueOf(i, index)) ? kNone : std::abs(logical.x - middle);
+            distances[i] = std::isnan(ValueOf(i, index)) ? recording::kNoValue : std::abs(logical.x - middle);
             continue;
         }
         const std::vector<double>& values =

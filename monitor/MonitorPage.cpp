@@ -1,3 +1,5 @@
+// What all pages have in common.
+
 #include "monitor/MonitorPage.h"
 
 namespace kavlix::monitor {
@@ -18,9 +20,9 @@ std::optional<std::size_t> PageContent::MarkedSample() const {
 }
 
 BEGIN_MESSAGE_MAP(CMonitorPage, CWnd)
+    ON_WM_ERASEBKGND()
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
-    ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 bool CMonitorPage::CreatePage(CWnd& frame, UINT id) {
@@ -79,7 +81,7 @@ void CMonitorPage::OnSetFocus(CWnd*) {
 }
 
 BOOL CMonitorPage::OnEraseBkgnd(CDC*) {
-    // The page's windows cover it.
+    // Child windows cover the page.
     return TRUE;
 }
 

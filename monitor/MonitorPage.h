@@ -1,9 +1,5 @@
+// The content of the pages, and the base of all pages.
 #pragma once
-
-#include "monitor/GraphSettings.h"
-#include "monitor/LiveReadings.h"
-#include "monitor/MonitorGraph.h"
-#include "monitor/recording/SampleText.h"
 
 #include <afxwin.h>
 
@@ -13,50 +9,55 @@
 #include <string>
 #include <vector>
 
+#include "monitor/GraphSettings.h"
+#include "monitor/LiveReadings.h"
+#include "monitor/MonitorGraph.h"
+#include "monitor/recording/SampleText.h"
+
 namespace kavlix::monitor {
 
-/// What the pages show: a recording, live readings, or nothing but a title.
+/// The content of the pages: a recording, live readings, or only a title.
 struct PageContent {
-    unsigned generation = 0; ///< another number: other content, to be shown from its beginning
-    unsigned cuts = 0;       ///< how often a person has removed samples at the head
-    std::uint64_t lost = 0;  ///< samples that went at the head of Source().recording since then
-    std::shared_ptr<const recording::Recording> recording; ///< what was read; null while nothing is, or live
-    std::unique_ptr<LiveReadings> live;                    ///< set while readings are live
-    GraphSettings settings;                                ///< what a person chose; all pages share it
-    std::optional<std::uint64_t> marked; ///< the sample that was marked on a page, those that went counted
+    unsigned generation = 0; ///< changes when other content begins
+    unsigned cuts = 0;       ///< number of times the person removed samples at the head
+    std::uint64_t lost = 0;  ///< number of samples removed at the head in this generation
+    std::shared_ptr<const recording::Recording> recording; ///< null without files
+    std::unique_ptr<LiveReadings> live;                    ///< null with files
+    GraphSettings settings;                                ///< shared by all pages
+    std::optional<std::uint64_t> marked; ///< the marked sample, counted from the generation's first sample
 
-    /// Index of the marked sample in Source().recording, if it is still there.
+    /// Index of the marked sample in Source().recording; none when it was removed.
     std::optional<std::size_t> MarkedSample() const;
 
-    /// The recording, or the live readings of the last minutes as one.
+    /// The recording, or the live readings of the last minutes as a recording.
     GraphSource Source() const;
 };
 
-/// What a page may ask of the window it stands in.
+/// What a page may ask of the window around it.
 class PageHost {
 public:
     virtual const PageContent& Content() const = 0;
 
-    /// Takes other settings; the page is updated.
+    /// Changes the settings and updates the page.
     virtual void ChangeSettings(GraphSettings settings) = 0;
 
-    /// Removes the oldest samples of the recording or of all live readings that are kept; the page is
-    /// updated, also when the count is 0.
+    /// Removes the oldest `count` samples of the recording or of the kept live readings. Updates the page,
+    /// even for 0.
     virtual void RemoveHead(std::size_t count) = 0;
 
-    /// Keeps at most so many live readings from now on; the page is updated.
+    /// Sets the number of live readings to keep and updates the page.
     virtual void KeepAtMost(std::size_t count) = 0;
 
-    /// A person did something to what is shown: the page is asked for its texts again.
+    /// The view or the mark has changed: the host asks the page for all its texts.
     virtual void ShowSelection() = 0;
 
-    /// What is under the mouse pointer may have changed: the page is asked for its PointerTexts.
+    /// The mouse pointer has moved: the host asks the page for its PointerTexts.
     virtual void ShowPointer() = 0;
 
-    /// Says something for a short time, or until ShowSelection.
+    /// Shows a notice for a short time, at most until ShowSelection.
     virtual void Say(const std::string& notice) = 0;
 
-    /// Whether the page fills the window's whole inside, without menu bar and status bar.
+    /// Whether the page fills the whole client area, without menu bar and status bar.
     virtual bool Filled() const = 0;
     virtual void Fill(bool fill) = 0;
 
@@ -64,11 +65,11 @@ protected:
     ~PageHost() = default;
 };
 
-/// One way to show the content: a child window over the status bar. The main window shows one page at a time
-/// and offers it every command first; a page handles its own in its message map.
+/// One way to show the content: a child window above the status bar. The main window shows one page at a time
+/// and routes every command to that page first. A page handles its own commands in its message map.
 ///
-/// A new page is a class, its name in recording::kPageNames, a line in the table of Pages.cpp, its command,
-/// key and menu in Monitor.rc.
+/// A new page needs a class, a name in recording::kPageNames, a line in the table of Pages.cpp, and a
+/// command, a key and a menu in Monitor.rc.
 class CMonitorPage : public CWnd {
 public:
     explicit CMonitorPage(PageHost& host) : m_host(host) {}
@@ -76,59 +77,58 @@ public:
     /// Creates the window, hidden.
     bool CreatePage(CWnd& frame, UINT id);
 
-    /// Brings the picture to what Content() is now. Called when the content or its settings have changed, and
-    /// when the page comes to the front; hidden pages are not called.
+    /// Shows the current Content(). The host calls it when the content or its settings have changed, and when
+    /// the page becomes the current one. It is not called while the page is hidden.
     virtual void Update() = 0;
 
-    /// Work that is done in pieces while no message waits; a picture for `--shot` waits for its end.
-    /// @return whether there is more to do
+    /// Does one piece of idle work. Returns whether work remains; `--shot` waits until none does.
     virtual bool WorkInIdle() { return false; }
 
-    // ---- Texts for the status bar, longest form first ----
+    // ---- Texts for the status bar, in several forms, the longest first ----
 
-    /// The marked sample; empty: nothing is marked.
+    /// The marked sample; empty without a mark.
     virtual std::vector<std::string> MarkTexts() { return {}; }
 
-    /// What stands under the mouse pointer; empty: nothing.
+    /// The sample under the mouse pointer; empty without one.
     virtual std::vector<std::string> PointerTexts() { return {}; }
 
-    /// What is shown when nothing is marked. By default the latest live readings, or the recording's ends.
+    /// The text without a mark. By default the latest live reading, or the recording's first and last time.
     virtual std::vector<std::string> ViewTexts();
 
     // ---- What the main window's own commands need ----
 
-    /// The sample that goes as PageContent::marked to the page that is shown next: by default what was marked
-    /// before this page was shown.
+    /// The sample that the next page receives as PageContent::marked. By default the one that this
+    /// page received.
     virtual std::optional<std::size_t> MarkedSample() { return Content().MarkedSample(); }
 
-    /// Whether Escape has something to do on the page before it leaves the filled window.
+    /// Whether there is a mark, which Escape removes before it ends the filled state of the window.
     virtual bool HasMark() { return false; }
 
     /// Whether the page may fill the window.
     virtual bool CanFill() { return true; }
 
-    /// The page fills the window from now on, or does not.
+    /// Called when the page begins or ends to fill the window.
     virtual void ShowFilling(bool) {}
 
-    /// The samples of Source().recording in view, for the preview of the settings.
+    /// The visible samples of Source().recording, for the preview of the settings dialog.
     virtual recording::VisibleRange VisibleSamples();
 
 protected:
-    /// Moves the page's windows.
+    /// Moves the page's child windows.
     virtual void LayOut(CSize size) = 0;
 
-    /// The window that gets the keys.
+    /// The child window that gets the focus.
     virtual CWnd& FocusWindow() = 0;
 
     PageHost& Host() { return m_host; }
     const PageContent& Content() const { return m_host.Content(); }
 
-    /// The time and, of the series that are seen first, names and values; of a long text the end may be cut.
+    /// SampleTexts of a sample, visible series before hidden ones because the end of a long text may be cut.
     std::vector<std::string> TextsOfSample(recording::Time time, const std::vector<double>& values,
                                            const std::vector<recording::Time>& times,
                                            recording::ValueDigits digits) const;
 
-    /// First and last time of a part of the recording.
+    /// First and last time of a part of the recording as text.
     static std::string RangeText(const recording::Recording& recording, recording::VisibleRange range);
 
     afx_msg void OnSize(UINT nType, int cx, int cy);

@@ -1,16 +1,19 @@
+// Pieces, selection and keys of the pie.
+
 #include "monitor/MonitorPie.h"
 
 #include <tuple>
 
-namespace kavlix::monitor {
+#include "monitor/Notifications.h"
 
+namespace kavlix::monitor {
 namespace {
 
-constexpr COLORREF kSelectedColor = RGB(55, 65, 80); // unlike every series
-constexpr int kBrightest = 255 * 1000;
-constexpr int kWaiting = 1; // any wait mode but 0
+constexpr COLORREF kSelectedColor = RGB(55, 65, 80); // differs from every series colour
+constexpr int kBrightest = 255 * 1000;               // brightness of white in TextColorOn
+constexpr int kWaiting = 1;                          // any wait mode other than 0 shows the message
 
-/// Black or white, whichever is seen better on the colour.
+/// Black or white, the one with more contrast to the colour.
 COLORREF TextColorOn(COLORREF color) {
     const int brightness = 299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color);
     return brightness > kBrightest / 2 ? RGB(0, 0, 0) : RGB(255, 255, 255);
@@ -24,6 +27,7 @@ bool PieceSettings::operator==(const PieceSettings& other) const {
 
 BEGIN_MESSAGE_MAP(CMonitorPie, CPieChartCtrl)
     ON_WM_LBUTTONDOWN()
+
     ON_WM_KEYDOWN()
     ON_WM_GETDLGCODE()
 END_MESSAGE_MAP()
@@ -35,7 +39,7 @@ CMonitorPie::CMonitorPie() {
 bool CMonitorPie::CreateChild(CWnd& parent, UINT id) {
     if (!Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id))
         return false;
-    // The page around it is its edge.
+    // The control has an edge by default; on the page it needs none.
     ModifyStyleEx(WS_EX_CLIENTEDGE, 0, SWP_FRAMECHANGED);
     return true;
 }
@@ -71,7 +75,7 @@ void CMonitorPie::Select(int piece) {
 void CMonitorPie::OnLButtonDown(UINT nFlags, CPoint point) {
     SetFocus();
     CPieChartCtrl::OnLButtonDown(nFlags, point);
-    TellSelection();
+    NotifyParent(*this, MPN_SELECTION);
 }
 
 void CMonitorPie::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
@@ -89,19 +93,11 @@ void CMonitorPie::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     if (then == now)
         return;
     Select(then);
-    TellSelection();
+    NotifyParent(*this, MPN_SELECTION);
 }
 
 UINT CMonitorPie::OnGetDlgCode() {
     return DLGC_WANTARROWS;
-}
-
-void CMonitorPie::TellSelection() {
-    NMHDR record{};
-    record.hwndFrom = m_hWnd;
-    record.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
-    record.code = MPN_SELECTION;
-    ::SendMessage(::GetParent(m_hWnd), WM_NOTIFY, record.idFrom, reinterpret_cast<LPARAM>(&record));
 }
 
 } // namespace kavlix::monitor

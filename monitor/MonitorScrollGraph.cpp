@@ -1,11 +1,13 @@
-#include "monitor/MonitorScrollGraph.h"
+// Samples, view and layout of a scrolling graph.
 
-#include "monitor/recording/NearestPoint.h"
+#include "monitor/MonitorScrollGraph.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
+
+#include "monitor/recording/GraphUnits.h"
+#include "monitor/recording/NearestPoint.h"
 
 namespace kavlix::monitor {
 
@@ -13,26 +15,24 @@ using recording::ValueSpan;
 
 namespace {
 
-constexpr double kXUnits = 20; // a second
-constexpr double kRoomBehind = 0.1;
+constexpr double kRoomBehind = 0.1; // empty part of the view behind the newest row
 constexpr int kSecondsPerMinute = 60;
-constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 
 // Logical units.
-constexpr int kReach = 10 * 30; // so far from the pointer a series' sample is looked for
-constexpr int kReachRows = 1000;
-constexpr int kTimeFontHeight = 300;  // of the time labels
+constexpr int kTimeFontHeight = 300;  // font of the time labels
 constexpr int kTimeLabelMargin = 200; // above and below the time labels
-constexpr int kScrollBarRoom = 280;   // of the scroll bar, above what the control leaves free
-constexpr int kMinLegendPlot = 3000;  // a legend leaves so much of the window's width
-constexpr int kDateShift = 10;        // right of its tick: a date keeps clear of the clock time in every font
+constexpr int kScrollBarRoom = 280; // height of the scroll bar beyond the room that the control leaves for it
+constexpr int kMinLegendPlot = 3000; // width that a legend must leave for the plot
+constexpr int kDateShift = 10;       // from the tick to the right: keeps the date apart from the clock time
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMonitorScrollGraph, CScrollGraphCtrl)
     ON_WM_HSCROLL()
+
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+
     ON_COMMAND(ID_EDIT_COPY, &CMonitorScrollGraph::OnCopy)
 END_MESSAGE_MAP()
 
@@ -101,13 +101,13 @@ void CMonitorScrollGraph::RemoveHeadData(int nCount) {
 }
 
 double CMonitorScrollGraph::ValueOf(std::size_t series, int row) const {
-    double value = kNone;
+    double value = recording::kNoValue;
     GetYData(static_cast<int>(series), row, value);
     return value;
 }
 
 double CMonitorScrollGraph::XOf(int row) const {
-    return GetXOffset(row) * kXUnits;
+    return GetXOffset(row) * recording::kTimeUnitsPerSecond;
 }
 
 bool CMonitorScrollGraph::ShowsNewest() const {
@@ -148,12 +148,13 @@ void CMonitorScrollGraph::SetRange(int seconds) {
     ShowView();
 }
 
-/// Keeps the view inside the scroll range.
+/// Moves the view into the scroll range.
 void CMonitorScrollGraph::Clamp() {
     m_dScrollPos = std::max(std::min(m_dScrollPos, m_dScrollMax - m_dViewWidth), m_dScrollMin);
 }
 
-/// Lets the view begin at a sample: the next one in the direction in which it moved, but within the range.
+/// Moves the beginning of the view to a sample: the next one in the direction of the movement since `before`,
+/// but within the scroll range.
 void CMonitorScrollGraph::Settle(double before) {
     if (Rows() == 0)
         return;
@@ -213,7 +214,8 @@ int CMonitorScrollGraph::MarkedRow() const {
 }
 
 void CMonitorScrollGraph::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
-    // The parent is told where the view has come to stand.
+    // Suppress the control's notification, which would carry the position before Settle, and send
+    // one afterwards.
     const double before = m_dScrollPos;
     const int tied = std::exchange(m_bScrollSync, FALSE);
     CScrollGraphCtrl::OnHScroll(nSBCode, nPos, pScrollBar);
@@ -239,8 +241,9 @@ void CMonitorScrollGraph::OnCopy() {
     CopyAndTell();
 }
 
+/// The row nearest to `row`, from `first` to `last`, that has a value of the series.
 std::optional<int> CMonitorScrollGraph::RowWithValue(std::size_t series, int row, int first, int last) const {
-    for (int away = 0; away <= kReachRows && (row - away >= first || row + away <= last); ++away) {
+    for (int away = 0; away <= kPointerSamples && (row - away >= first || row + away <= last); ++away) {
         if (row - away >= first && !std::isnan(ValueOf(series, row - away)))
             return row - away;
         if (row + away <= last && !std::isnan(ValueOf(series, row + away)))
@@ -256,12 +259,12 @@ std::optional<CMonitorScrollGraph::Pointed> CMonitorScrollGraph::SampleUnder(CPo
     const int hit = GetIndexFromPt(logical);
     if (hit < 0 || hit >= Rows())
         return std::nullopt;
-    const double reach = kReach * m_dViewWidth / std::max(m_rectPlot.Width(), 1);
+    const double reach = kPointerReach * m_dViewWidth / std::max(m_rectPlot.Width(), 1);
     const int first = LowerBound(XOf(hit) - reach);
     const int last = LowerBound(XOf(hit) + reach);
     const double height =
         static_cast<double>(m_rectPlot.bottom - logical.y) / std::max(m_rectPlot.Height(), 1);
-    std::vector<double> distances(m_series.size(), kNone);
+    std::vector<double> distances(m_series.size(), recording::kNoValue);
     std::vector<int> rows(m_series.size(), hit);
     for (std::size_t i = 0; i < m_series.size(); ++i) {
         const auto row = m_series[i].visible ? RowWithValue(i, hit, first, last) : std::nullopt;
@@ -310,15 +313,16 @@ CMonitorScrollGraph::Room CMonitorScrollGraph::FitAndMeasure() {
     room.legend = FitLegend(m_series);
     CRect client;
     GetClientRect(&client);
-    // The scroll bar lies in the lowest row. A row for a label, which stays empty, keeps the legend out of
-    // it; without a legend, or where rows are too low for that, the time labels get room for both.
+    // The scroll bar covers the lowest part of the window. An empty X label reserves that part below the
+    // legend. Without a legend, or when a label is lower than the scroll bar, the band of the time labels
+    // includes the room instead.
     const bool legend = m_settings.legend && !m_series.empty() && GetTitleTextHeight() >= kScrollBarRoom &&
                         client.Width() * kPixel - room.legend >= kMinLegendPlot;
     ShowLegend(legend);
     ShowXLabel(legend);
     SetXLabel("");
     ShowYLabel(FALSE);
-    const int labels = static_cast<int>(TextSize("00:00:00", kTimeFontHeight, kRegular).cx);
+    const int labels = static_cast<int>(TextSize("00:00:00", kTimeFontHeight, FW_NORMAL).cx);
     SetXTickLabelHeight(labels + kTimeLabelMargin + (legend ? 0 : kScrollBarRoom));
     m_valueTicks = MeasureLayout().valueTicks;
     FollowValues();
@@ -336,7 +340,7 @@ void CMonitorScrollGraph::TakeRoom(const Room& room) {
     CRect client;
     GetClientRect(&client);
     SetTitle(
-        FitText(m_settings.title, client.Width() * kPixel - 2 * kTickLabelGap, GetTitleTextHeight(), kBold)
+        FitText(m_settings.title, client.Width() * kPixel - 2 * kTickLabelGap, GetTitleTextHeight(), FW_BOLD)
             .c_str());
     Redraw();
 }

@@ -1,88 +1,102 @@
+// The scrolling graph control of the scroll page.
 #pragma once
-
-#include "monitor/FittedGraph.h"
-#include "monitor/recording/SpanIndex.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "monitor/FittedGraph.h"
+#include "monitor/recording/SpanIndex.h"
+
 namespace kavlix::monitor {
 
-/// One of the graphs of the scroll page. Its view always begins at a sample, which is where the control takes
-/// the first sample in view to stand, so that its time labels are true. It chooses a value axis with round
-/// labels for what is in view.
+/// One of the graphs of the scroll page. The view always begins exactly at a sample, because the control
+/// draws its first visible sample at the left edge: otherwise the time labels would be wrong. The graph
+/// chooses a value axis with round labels for the visible samples.
 class CMonitorScrollGraph : public CFittedGraph<CScrollGraphCtrl> {
 public:
-    /// What the value axis is, beyond the samples.
+    /// Properties of the value axis that do not follow from the samples.
     struct Axis {
-        recording::ValueSpan covers; ///< values it covers whatever the samples are
+        recording::ValueSpan covers; ///< values that the axis always covers
         std::string unit;            ///< `%`, `B/s`
     };
 
-    /// Room beside the plot, in logical units. Graphs that share their times share it, too.
+    /// Widths beside the plot, in logical units. All graphs of the page use the same, so that their times
+    /// line up.
     struct Room {
         int tickLabels = 0;
         int legend = 0;
     };
 
-    /// A sample of one series that stands under the mouse pointer.
+    /// The sample of one series under the mouse pointer.
     struct Pointed {
         int row = 0;
-        std::size_t series = 0; ///< of this graph
+        std::size_t series = 0; ///< index within this graph
     };
 
-    /// Begins anew without samples. The number of series stays from then on.
+    /// Removes all samples and begins with these series. SetLook must not change their number.
     void Begin(const GraphSettings& settings, std::vector<SeriesSettings> series, Axis axis);
     void SetLook(const GraphSettings& settings, std::vector<SeriesSettings> series);
 
-    // ---- Samples. Rows are counted from the oldest that is there. ----
+    // ---- Samples. Row numbers count from the oldest row that exists. ----
 
-    /// Adds a row: a value a series. The view follows while it shows the newest row. No repaint.
+    /// Adds a row with a value for each series. A view that shows the newest row follows. Does not repaint.
     void Append(long stamp, const std::vector<double>& values);
-    /// The same without following, for many rows. Call ShowNewest or ReachNewest after the last.
+
+    /// Adds one of many rows; the view does not follow. The caller calls ShowNewest or ReachNewest after the
+    /// last row.
     void AppendOffline(long stamp, const std::vector<double>& values);
-    /// Removes the oldest rows; view and mark stay where they are as long as that is there.
+
+    /// Removes the oldest rows. View and mark stay on their rows while those exist.
     void TrimHead(int rows);
-    /// As the control's command does: the mark goes; the view stays.
+
+    /// Removes the oldest rows as the control's command does: the mark is removed, the view stays.
     void RemoveHeadData(int nCount) override;
 
     int Rows() const { return GetCurDataIndex(); }
     double ValueOf(std::size_t series, int row) const;
 
-    // ---- View. All repaint and tell the parent nothing. ----
+    // ---- View. The functions that change it repaint and do not notify the parent. ----
 
     bool ShowsNewest() const;
-    /// Shows the newest row a tenth before the plot's right edge, and follows the next ones.
+
+    /// Shows the newest row a tenth of the view before the plot's right edge.
     void ShowNewest();
     void ShowOldest();
-    /// Lets the scroll bar reach the newest row.
+
+    /// Extends the scroll range to the newest row.
     void ReachNewest();
-    /// Changes the width of the view. The newest row, the marked row or else the middle stays where it was,
-    /// whichever of them is in view.
+
+    /// Changes the width of the view. A view that shows the newest row keeps doing so. Otherwise the marked
+    /// row, if visible, or the middle of the view keeps its place.
     void SetRange(int seconds);
     void ScrollTo(double position);
     double ScrollPosition() const { return m_dScrollPos; }
-    /// Moves the view by half its width; -1 to the left, 1 to the right.
+
+    /// Moves the view by half its width for each page, to the left when `pages` is negative.
     void ScrollPages(int pages);
     void Wheel(short delta);
-    /// Moves the view so that it shows the row, if it does not.
+
+    /// Moves the view to the row if the row is not visible.
     void EnsureVisible(int row);
     int FirstVisible() const;
     int LastVisible() const;
 
     int MarkedRow() const;
 
-    /// The sample nearest to a point (client pixels) in time, and of the series there the nearest.
+    /// The sample under a point (client pixels): of the row nearest in time, the series nearest in height.
     std::optional<Pointed> SampleUnder(CPoint point);
 
-    // ---- Fitting into the window. ----
+    // ---- Fitting into the window ----
 
-    /// Fits the value axis to what is in view. True when it changed: then the room has to be shared anew.
+    /// Fits the value axis to the visible samples. Returns true when the axis changed: then the caller must
+    /// call FitAndMeasure and TakeRoom.
     bool FollowValues();
-    /// Chooses everything that does not depend on the room.
+
+    /// Sets everything that does not depend on the room, and returns the room that this graph needs.
     Room FitAndMeasure();
-    /// Takes the room, chooses the rest and repaints.
+
+    /// Sets the room and everything that depends on it. Repaints.
     void TakeRoom(const Room& room);
 
 protected:
@@ -108,7 +122,7 @@ private:
     Axis m_axis;
     recording::ValueScale m_scale;
     int m_valueTicks = 0;
-    std::vector<recording::SpanIndex> m_spans; ///< one a series
+    std::vector<recording::SpanIndex> m_spans; ///< one for each series
 };
 
 } // namespace kavlix::monitor

@@ -1,9 +1,12 @@
-#include "monitor/MultiGraphView.h"
+// Fills and paints the multi-type graph.
 
-#include "monitor/recording/Periods.h"
+#include "monitor/MultiGraphView.h"
 
 #include <algorithm>
 #include <cmath>
+
+#include "monitor/recording/Periods.h"
+#include "monitor/recording/WholeScale.h"
 
 namespace kavlix::monitor {
 
@@ -18,11 +21,11 @@ constexpr COLORREF kMeanColor = RGB(25, 135, 60);
 constexpr COLORREF kHighestColor = RGB(215, 85, 0);
 constexpr int kPrintMargin = 720; // twips
 
-/// A line of the table behind the picture.
+/// One statistic, or the mean of one series, over all periods.
 struct Row {
     std::string name;
     COLORREF color;
-    std::vector<double> values; ///< one a period
+    std::vector<double> values; ///< one for each period
 };
 
 std::vector<std::size_t> VisibleSeries(const Recording& recording, const GraphSettings& settings) {
@@ -56,7 +59,7 @@ bool IsXY(int type) {
     return type == GraphTypeScatter || type == GraphTypeXYLine;
 }
 
-/// Whether the type has its values along the level axis when the graph is to be horizontal.
+/// Whether a horizontal graph of this type has its values along the horizontal axis.
 bool TurnsHorizontal(int type) {
     return type != GraphTypeScatter && type != GraphType3DLine;
 }
@@ -65,7 +68,7 @@ bool ShowsZero(int type) {
     return type == GraphTypeBar || type == GraphType3DBar || IsStacked(type);
 }
 
-/// What the value axis must hold.
+/// The values that the value axis must cover: single values, or the sums of a stack.
 ValueSpan SpanOfRows(const std::vector<Row>& rows, std::size_t periods, bool stacked) {
     ValueSpan span;
     for (std::size_t period = 0; period < periods; ++period) {
@@ -96,10 +99,11 @@ void AddSeries(CGraph& graph, const std::string& label, const std::vector<double
     graph.AddSeries(series.release());
 }
 
-/// The graph counts the groups by the fullest series that it was ever given; here a period may lack any of
-/// them.
+/// Makes the graph count `groups` groups. The graph takes the number from the longest series that was
+/// ever added, but a period may lack some of its values. A complete series, added and removed again, sets
+/// the number.
 void CountGroups(CGraph& graph, std::size_t groups) {
-    const CString name;
+    const CString name; // the added series has no label
     auto fullest = std::make_unique<CGraphSeries>();
     for (std::size_t key = 0; key < groups; ++key)
         fullest->SetData(static_cast<int>(key), 0);
@@ -107,7 +111,7 @@ void CountGroups(CGraph& graph, std::size_t groups) {
     graph.RemoveSeries(name);
 }
 
-/// A box for each period of the series, or for each series.
+/// The boxes of the box-whisker type: one for each period of a series, or one for each series.
 struct Boxes {
     std::vector<std::string> labels;
     std::vector<std::vector<double>> values;
@@ -158,6 +162,7 @@ BEGIN_MESSAGE_MAP(CMultiGraphView, CWnd)
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CMultiGraphView::OnPrintClient)
     ON_WM_ERASEBKGND()
+
     ON_WM_SIZE()
 END_MESSAGE_MAP()
 
@@ -188,7 +193,8 @@ void CMultiGraphView::Show(const Recording* recording, const GraphSettings& sett
         const recording::WholeScale scale = ChooseWholeScale(span, ShowsZero(options.type));
         graph->SetTickLimits(scale.min, scale.max, scale.step);
 
-        // A scatter graph takes no legend texts, though it shows those that are there.
+        // Set the legend before the type: a scatter graph ignores SetLegend, but shows legend texts
+        // set earlier.
         for (std::size_t i = 0; i < rows.size(); ++i) {
             graph->SetColor(static_cast<int>(i), rows[i].color);
             graph->SetLegend(static_cast<int>(i), rows[i].name.c_str());
@@ -220,7 +226,7 @@ void CMultiGraphView::Show(const Recording* recording, const GraphSettings& sett
         const std::string across = bySeries             ? "all values"
                                    : IsXY(options.type) ? "number of the " + every + ", from 0"
                                                         : "every " + every;
-        // Captions belong to the level and the upright axis, whichever of them has the values.
+        // The graph's X label is below the horizontal axis, even if the values are along that axis.
         const bool level = options.horizontal && TurnsHorizontal(options.type);
         graph->SetXAxisLabel((level ? of + unit : across).c_str());
         graph->SetYAxisLabel((level ? across : of + unit).c_str());
@@ -251,7 +257,7 @@ void CMultiGraphView::OnPaint() {
     CPaintDC dc(this);
     CRect client;
     GetClientRect(&client);
-    // Composed unseen and copied at once; painted directly where there is no memory for that.
+    // Paint into a bitmap and copy it, without flicker; paint directly when there is no memory for a bitmap.
     CDC memory;
     CBitmap bitmap;
     if (!memory.CreateCompatibleDC(&dc) ||

@@ -1,7 +1,5 @@
+// The window with the multi-type graph.
 #pragma once
-
-#include "monitor/GraphSettings.h"
-#include "monitor/recording/Recording.h"
 
 #include <kavlix/Graph.h>
 
@@ -10,45 +8,46 @@
 #include <string>
 #include <vector>
 
+#include "monitor/GraphSettings.h"
+#include "monitor/recording/Recording.h"
+
 namespace kavlix::monitor {
 
-/// A type of graph as a person chooses it.
+/// A type of graph as the panel offers it.
 struct GraphTypeChoice {
-    int type;
+    int type; ///< GraphTypeBar and the like
     const char* name;
 };
 const std::vector<GraphTypeChoice>& GraphTypeChoices();
 
-/// What a person chooses about the multi-type graph.
+/// The person's choices about the multi-type graph.
 struct MultiOptions {
     int type = GraphTypeBar;
-    /// The series whose lowest, mean and highest values are shown; none: the means of all visible series.
+    /// The series whose lowest, mean and highest values are shown. None: the means of all visible series.
     std::optional<std::size_t> series;
     bool horizontal = false;
     bool grid = true;
-    int labelAngle = 0; ///< degrees
-    double depth = 0.05;
+    int labelAngle = 0;  ///< degrees
+    double depth = 0.05; ///< of 3D types, as a share of the plot's width
 };
 
-/// Shows statistics of a recording, by periods, in a multi-type graph.
+/// Shows the statistics of a recording's periods in a multi-type graph.
 ///
-/// Bars, lines and pies have a group for each statistic and a slot for each period. The box-whisker type has
-/// a box of all values for each period, or for each series when all are shown. Scatter and XY line have the
-/// period's number along X.
+/// Bars, lines and pies have a group for each statistic, and in it an element for each period. The
+/// box-whisker type has a box for each period of a series, or for each series when all are shown. Scatter and
+/// XY line have the period's number along X.
 class CMultiGraphView : public CWnd {
 public:
     bool CreateChild(CWnd& parent, UINT id);
 
-    /// Shows statistics. Repaints.
-    /// @param recording null: nothing
+    /// Shows the statistics of `recording`; null shows an empty graph. Repaints.
     void Show(const recording::Recording* recording, const GraphSettings& settings,
               const MultiOptions& options);
 
     /// Paints the picture at the size of the window, one logical unit to a pixel.
     void Draw(CDC& dc);
 
-    /// Paints the picture across the top of a page, with margins.
-    /// @param page width and height in twips
+    /// Prints the picture at the top of a page, with margins. `page` is the size of the page in twips.
     void Print(CDC& dc, CSize page);
 
     const CGraph& Graph() const { return *m_graph; }

@@ -1,3 +1,5 @@
+// Fills and reads the panel's controls.
+
 #include "monitor/MultiOptionsPanel.h"
 
 #include <algorithm>
@@ -5,12 +7,11 @@
 #include <utility>
 
 namespace kavlix::monitor {
-
 namespace {
 
 constexpr int kAngles[] = {0, 30, 45, 60, 90, 135, 180, 270, 315};
 constexpr int kDepths[] = {0, 2, 5, 10, 20, 40}; // percent of the plot's width
-constexpr std::size_t kDefaultDepth = 2;
+constexpr std::size_t kDefaultDepth = 2;         // index into kDepths
 constexpr const char* kAllSeries = "(means of all series)";
 
 } // namespace
@@ -49,8 +50,8 @@ BOOL CMultiOptionsPanel::OnInitDialog() {
 }
 
 BOOL CMultiOptionsPanel::PreTranslateMessage(MSG* pMsg) {
-    // A dialog would keep every key from the main window's commands. Those that go through a list are its
-    // own.
+    // A dialog would handle every key itself, so offer keys to the main window's accelerators first. The keys
+    // that scroll a list stay with the dialog.
     const WPARAM key = pMsg->message == WM_KEYDOWN ? pMsg->wParam : 0;
     const bool forList = key == VK_HOME || key == VK_END || key == VK_PRIOR || key == VK_NEXT;
     CFrameWnd* const frame = GetTopLevelFrame();
@@ -69,7 +70,7 @@ void CMultiOptionsPanel::OfferSeries(const std::vector<std::string>& names) {
     box->AddString(kAllSeries);
     for (const std::string& name : names)
         box->AddString(name.c_str());
-    // Of a single series the mean alone says little.
+    // A single series shows all its statistics: the mean alone says little.
     box->SetCurSel(before >= 0 ? before : names.size() == 1 ? 1 : 0);
 }
 

@@ -1,7 +1,5 @@
+// The panel of choices beside the multi-type graph.
 #pragma once
-
-#include "monitor/MultiGraphView.h"
-#include "monitor/resource.h"
 
 #include <afxwin.h>
 
@@ -9,21 +7,23 @@
 #include <string>
 #include <vector>
 
+#include "monitor/MultiGraphView.h"
+#include "monitor/resource.h"
+
 namespace kavlix::monitor {
 
-/// The strip beside the multi-type graph in which a person chooses what it shows.
+/// The panel beside the multi-type graph, with the choices of what the graph shows.
 class CMultiOptionsPanel : public CDialog {
 public:
     enum { IDD = IDD_MULTI_OPTIONS };
 
-    /// Creates the strip as a child window.
-    /// @param changed called when a person has chosen something else
+    /// Creates the panel as a child window. It calls `changed` when the person changes a choice.
     bool CreateChild(CWnd& parent, std::function<void()> changed);
 
-    /// Offers these series; the choice among them stays when it can.
+    /// Offers these series. The chosen one stays chosen if the number of series does not change.
     void OfferSeries(const std::vector<std::string>& names);
 
-    /// What is chosen.
+    /// The current choices.
     MultiOptions Options() const;
 
 protected:

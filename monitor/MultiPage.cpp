@@ -1,7 +1,6 @@
-#include "monitor/MultiPage.h"
+// The multi page's layout, copy and print.
 
-#include "monitor/PictureCopy.h"
-#include "monitor/resource.h"
+#include "monitor/MultiPage.h"
 
 #include <afxdlgs.h>
 #include <afxres.h>
@@ -10,8 +9,10 @@
 #include <string>
 #include <vector>
 
-namespace kavlix::monitor {
+#include "monitor/PictureCopy.h"
+#include "monitor/resource.h"
 
+namespace kavlix::monitor {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
@@ -20,6 +21,7 @@ constexpr int kTwipsPerInch = 1440;
 
 BEGIN_MESSAGE_MAP(CMultiPage, CMonitorPage)
     ON_WM_CREATE()
+
     ON_COMMAND(ID_EDIT_COPY, &CMultiPage::OnEditCopy)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CMultiPage::OnUpdateWithGraph)
     ON_COMMAND(ID_FILE_PRINT, &CMultiPage::OnFilePrint)

@@ -1,14 +1,15 @@
+// The multi page: a multi-type graph and its choices.
 #pragma once
+
+#include <memory>
 
 #include "monitor/MonitorPage.h"
 #include "monitor/MultiGraphView.h"
 #include "monitor/MultiOptionsPanel.h"
 
-#include <memory>
-
 namespace kavlix::monitor {
 
-/// The page with a multi-type graph over statistics of the recording, its choices beside it while it does not
+/// Shows a multi-type graph of the recording's statistics, and the panel of choices while the page does not
 /// fill the window.
 class CMultiPage : public CMonitorPage {
 public:
@@ -33,9 +34,9 @@ private:
 
     CMultiOptionsPanel m_panel;
     CMultiGraphView m_view;
-    int m_panelWidth = 0;
+    int m_panelWidth = 0; ///< pixels
     bool m_filling = false;
-    std::shared_ptr<const recording::Recording> m_recording; ///< that is shown
+    std::shared_ptr<const recording::Recording> m_recording; ///< the one shown
     GraphSettings m_settings;
 };
 

@@ -1,3 +1,5 @@
+// The table of all pages.
+
 #include "monitor/Pages.h"
 
 #include "monitor/ChartPage.h"
@@ -7,7 +9,6 @@
 #include "monitor/ScrollPage.h"
 
 namespace kavlix::monitor {
-
 namespace {
 
 template <class Page> std::unique_ptr<CMonitorPage> Make(PageHost& host) {

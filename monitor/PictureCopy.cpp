@@ -1,17 +1,18 @@
+// Makes metafiles, and checks that the clipboard took them.
+
 #include "monitor/PictureCopy.h"
 
 namespace kavlix::monitor {
-
 namespace {
 
-constexpr int kFrameUnits = 100; // of a metafile's frame, in a millimetre
+constexpr int kFrameUnits = 100; // units of a metafile's frame in a millimetre
 
 } // namespace
 
 bool CopyReaches(const CWnd& owner, const std::function<bool()>& copy) {
     const DWORD before = ::GetClipboardSequenceNumber();
     const bool made = copy();
-    // Not every system gives the number.
+    // A sequence number of 0 means that the system has none.
     const bool changed = before == 0 || ::GetClipboardSequenceNumber() != before;
     return made && changed && ::GetClipboardOwner() == owner.m_hWnd;
 }
@@ -24,7 +25,7 @@ bool CopyAsMetafile(CWnd& owner, const std::function<void(CDC&)>& draw) {
         return ::MulDiv(pixels, kFrameUnits * screen.GetDeviceCaps(millimetres),
                         screen.GetDeviceCaps(resolution));
     };
-    // Without it, what the picture clips would count for its bounds.
+    // Without explicit bounds, GDI would include the clipped parts of the picture.
     const CRect bounds(0, 0, frame(client.right, HORZSIZE, HORZRES), frame(client.bottom, VERTSIZE, VERTRES));
     CDC dc;
     if (!dc.Attach(::CreateEnhMetaFile(screen.m_hDC, nullptr, &bounds, "Kavlix Monitor\0Picture\0")))

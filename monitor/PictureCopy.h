@@ -1,3 +1,4 @@
+// Copies pictures to the clipboard.
 #pragma once
 
 #include <afxwin.h>
@@ -7,16 +8,15 @@
 
 namespace kavlix::monitor {
 
-/// Calls `copy`, which is to put something on the clipboard as `owner`, and tells whether it came there: the
-/// owner is this window then and what is on the clipboard has changed.
+/// Calls `copy`, which must put something on the clipboard as `owner`. Returns whether that succeeded: `copy`
+/// returned true, the window owns the clipboard, and the clipboard's content has changed.
 bool CopyReaches(const CWnd& owner, const std::function<bool()>& copy);
 
-/// Puts a picture of the window's client area on the clipboard as an enhanced metafile.
-/// @param draw paints it into any DC, one logical unit to a pixel
-/// @return whether it came there
+/// Puts a picture of the window's client area on the clipboard as an enhanced metafile. `draw` paints the
+/// picture into any DC, one logical unit to a pixel. Returns whether the clipboard took the metafile.
 bool CopyAsMetafile(CWnd& owner, const std::function<void(CDC&)>& draw);
 
-/// What to say about it.
+/// The notice about a copy that reached the clipboard, or did not.
 std::string CopyTextOf(bool reached);
 
 } // namespace kavlix::monitor

@@ -1,16 +1,20 @@
-#include "monitor/PiePage.h"
+// The pie page: its two kinds of pies, heading, texts and commands.
 
-#include "monitor/MachineCounters.h"
-#include "monitor/PictureCopy.h"
-#include "monitor/recording/MemoryParts.h"
-#include "monitor/recording/NumberText.h"
-#include "monitor/resource.h"
+#include "monitor/PiePage.h"
 
 #include <afxres.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <utility>
+
+#include "monitor/MachineCounters.h"
+#include "monitor/Notifications.h"
+#include "monitor/PictureCopy.h"
+#include "monitor/recording/JoinedSamples.h"
+#include "monitor/recording/MemoryParts.h"
+#include "monitor/recording/NumberText.h"
+#include "monitor/resource.h"
 
 namespace kavlix::monitor {
 
@@ -21,6 +25,7 @@ namespace {
 constexpr COLORREF kBackground = RGB(255, 255, 255);
 constexpr COLORREF kTitleColor = RGB(0, 0, 0);
 constexpr COLORREF kNoteColor = RGB(90, 90, 90);
+
 // Pixels.
 constexpr int kTitleHeight = 18;
 constexpr int kNoteHeight = 14;
@@ -48,9 +53,12 @@ void DrawLine(CDC& dc, CFont& font, COLORREF color, const std::string& text, CRe
 
 BEGIN_MESSAGE_MAP(CPiePage, CMonitorPage)
     ON_WM_CREATE()
+
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CPiePage::OnPrintClient)
+
     ON_NOTIFY(MPN_SELECTION, IDC_PIE, &CPiePage::OnSelection)
+
     ON_COMMAND(ID_EDIT_COPY, &CPiePage::OnEditCopy)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CPiePage::OnUpdateEditCopy)
     ON_COMMAND(ID_GRAPH_CLEAR_SELECTION_MARK, &CPiePage::OnClearMark)
@@ -63,7 +71,7 @@ int CPiePage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return failed;
     const auto make = [](CFont& font, int height, int weight) {
         font.CreateFont(-height, 0, 0, 0, weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
-                        CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, "Arial");
+                        CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, kFontFace);
     };
     make(m_titleFont, kTitleHeight, FW_BOLD);
     make(m_noteFont, kNoteHeight, FW_NORMAL);
@@ -120,7 +128,7 @@ CPiePage::Picture CPiePage::SamplePicture() const {
     const recording::Recording& all = *content.recording;
     const std::vector<SeriesSettings>& series = content.settings.series;
     const auto marked = content.MarkedSample();
-    const std::size_t row = marked ? *marked : recording::LastRow(all);
+    const std::size_t row = marked ? *marked : recording::LastFullRow(all);
 
     const std::vector<double> values = recording::ValuesAt(all, row);
     std::vector<std::size_t> shown;
@@ -133,19 +141,19 @@ CPiePage::Picture CPiePage::SamplePicture() const {
         divided.push_back(values[i]);
         names.push_back(series[i].name);
     }
-    const recording::Division division = recording::Divide(divided);
-    for (const recording::Division::Part& part : division.parts) {
+    const recording::PieShares shares = recording::SharesOf(divided);
+    for (const recording::PieShares::Part& part : shares.parts) {
         const SeriesSettings& of = series[shown[part.index]];
         picture.names.push_back(of.name);
         picture.values.push_back(recording::FormatNumber(part.value));
         picture.pieces.push_back({of.name, of.color, part.share});
     }
     char total[32];
-    std::snprintf(total, sizeof total, "%.6g", division.total);
+    std::snprintf(total, sizeof total, "%.6g", shares.total);
     picture.total = total;
     picture.title = content.settings.title + ", " + recording::FormatExact(all.times[row]) +
                     (all.Zoned() ? " UTC" : "") + (marked ? " (marked)" : " (last sample)");
-    picture.note = recording::LeftOutText(division, names);
+    picture.note = recording::LeftOutText(shares, names);
     return picture;
 }
 

@@ -1,16 +1,17 @@
+// The pie page: the parts of a whole.
 #pragma once
-
-#include "monitor/MonitorPage.h"
-#include "monitor/MonitorPie.h"
-#include "monitor/recording/Division.h"
 
 #include <string>
 #include <vector>
 
+#include "monitor/MonitorPage.h"
+#include "monitor/MonitorPie.h"
+#include "monitor/recording/PieShares.h"
+
 namespace kavlix::monitor {
 
-/// The page with a pie: how the machine's memory divides now, or how a sample of the recording divides among
-/// the series. The sample is the one that was marked on another page, else the last.
+/// Shows a pie: the parts of the machine's memory, or the shares of the series in one sample of the
+/// recording. The sample is the one marked on another page, or else the last one.
 class CPiePage : public CMonitorPage {
 public:
     using CMonitorPage::CMonitorPage;
@@ -35,13 +36,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    /// What is shown.
+    /// The texts and pieces of the page.
     struct Picture {
         std::string title;
         std::string note; ///< a line under the title; may be empty
         std::vector<PieceSettings> pieces;
-        std::vector<std::string> names;  ///< one a piece
-        std::vector<std::string> values; ///< one a piece, with its unit
+        std::vector<std::string> names;  ///< one for each piece
+        std::vector<std::string> values; ///< one for each piece, with its unit
         std::string total;
     };
 
@@ -54,7 +55,7 @@ private:
     CFont m_titleFont;
     CFont m_noteFont;
     Picture m_picture;
-    unsigned m_generation = 0; ///< of the content that is shown
+    unsigned m_generation = 0; ///< PageContent::generation of the last Update
 };
 
 } // namespace kavlix::monitor

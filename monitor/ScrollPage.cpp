@@ -1,31 +1,34 @@
+// The scroll page's content: makes rows of samples. View and commands have files of their own.
+
 #include "monitor/ScrollPage.h"
-
-#include "monitor/Reduction.h"
-#include "monitor/recording/NumberText.h"
-#include "monitor/resource.h"
-
-#include <kavlix/Kavlix.h>
 
 #include <afxres.h>
 
+#include <kavlix/Kavlix.h>
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
+
+#include "monitor/Notifications.h"
+#include "monitor/recording/NumberText.h"
+#include "monitor/recording/Reduction.h"
+#include "monitor/resource.h"
 
 namespace kavlix::monitor {
 
 using recording::Recording;
-using recording::StripRow;
+using recording::ScrollRow;
 using recording::ValueSpan;
 
 namespace {
 
-constexpr std::size_t kSlice = 50'000;     // rows handed over between two looks at the message queue
-constexpr std::size_t kFollowedRows = 100; // more at once go in without following each
-constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+constexpr std::size_t kSlice = 50'000; // rows that one piece of idle work hands to the graphs
 
-/// A reading that was late is no gap yet.
+/// More new rows than this are added without following each one.
+constexpr std::size_t kFollowedRows = 100;
+
+/// The interval of live readings for AppendGapRows: longer than a second, so that a late reading is no gap.
 constexpr recording::Time kLiveInterval = 3 * recording::kMicrosPerSecond;
 
 ValueSpan SpanFrom(std::initializer_list<double> values) {
@@ -39,7 +42,9 @@ ValueSpan SpanFrom(std::initializer_list<double> values) {
 
 BEGIN_MESSAGE_MAP(CScrollPage, CMonitorPage)
     ON_WM_CREATE()
+
     ON_WM_MOUSEWHEEL()
+
     ON_NOTIFY_RANGE(GCN_SCROLL, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnScrolled)
     ON_NOTIFY_RANGE(GCN_SELCHANGE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnSelectionChanged)
     ON_NOTIFY_RANGE(GCN_MOUSEMOVE, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnPointerMoved)
@@ -51,12 +56,14 @@ BEGIN_MESSAGE_MAP(CScrollPage, CMonitorPage)
     ON_NOTIFY_RANGE(MGN_COPIED, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnCopied)
     ON_NOTIFY_RANGE(MGN_NOTCOPIED, IDC_UPPER_GRAPH, IDC_LOWER_GRAPH, &CScrollPage::OnNotCopied)
     ON_MESSAGE(WM_GRAPH_SELMARKTIME, &CScrollPage::OnMarkTime)
+
     ON_COMMAND(ID_EDIT_COPY, &CScrollPage::OnEditCopy)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CScrollPage::OnUpdateEditCopy)
     ON_COMMAND_RANGE(ID_GRAPH_CLEAR_SELECTION_MARK, ID_GRAPH_REMOVE_DATA_BEFORE_MARK,
                      &CScrollPage::OnEditGraph)
     ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CScrollPage::OnUpdateClearMark)
     ON_UPDATE_COMMAND_UI(ID_GRAPH_REMOVE_DATA_BEFORE_MARK, &CScrollPage::OnUpdateRemoveData)
+
     ON_COMMAND(ID_VIEW_LEGEND, &CScrollPage::OnViewLegend)
     ON_UPDATE_COMMAND_UI(ID_VIEW_LEGEND, &CScrollPage::OnUpdateViewLegend)
     ON_COMMAND_RANGE(ID_VIEW_GRID_X, ID_VIEW_GRID_Y, &CScrollPage::OnViewGrid)
@@ -65,6 +72,7 @@ BEGIN_MESSAGE_MAP(CScrollPage, CMonitorPage)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_LATER, &CScrollPage::OnUpdateViewMove)
     ON_COMMAND_RANGE(ID_SCROLL_OLDEST, ID_SCROLL_NEWEST, &CScrollPage::OnViewMove)
     ON_UPDATE_COMMAND_UI_RANGE(ID_SCROLL_OLDEST, ID_SCROLL_NEWEST, &CScrollPage::OnUpdateViewMove)
+
     ON_COMMAND_RANGE(ID_SCROLL_RANGE_FIRST, ID_SCROLL_RANGE_LAST, &CScrollPage::OnRange)
     ON_UPDATE_COMMAND_UI_RANGE(ID_SCROLL_RANGE_FIRST, ID_SCROLL_RANGE_LAST, &CScrollPage::OnUpdateRange)
     ON_COMMAND(ID_SCROLL_PAUSE, &CScrollPage::OnPause)
@@ -97,7 +105,7 @@ void CScrollPage::Update() {
         SetLooks();
         FitGraphs();
     }
-    // What a person removes goes at once, also while the pictures stand still.
+    // Samples that the person removes disappear at once, even during a pause.
     if (!m_paused || m_cuts != content.cuts)
         TrimTo(content.live ? content.live->First() : content.lost);
     m_cuts = content.cuts;
@@ -107,14 +115,14 @@ void CScrollPage::Update() {
         ViewMoved();
 }
 
-/// Other content: from its beginning.
+/// Begins with other content.
 void CScrollPage::Begin() {
     const PageContent& content = Content();
     m_generation = content.generation;
     m_cuts = content.cuts;
     m_paused = false;
     m_rows.clear();
-    m_clock.Reset();
+    m_stamps.Reset();
     m_feeding.reset();
     m_pointer.reset();
     if (content.live) {
@@ -129,16 +137,16 @@ void CScrollPage::Begin() {
         std::vector<ValueSpan> spans;
         for (const recording::Series& series : recording->series)
             spans.push_back(recording::SpanOf(series.values));
-        Divide(recording::ShareOut(spans));
-        m_plan = recording::PlanStrip(*recording);
+        Divide(recording::DivideByMagnitude(spans));
+        m_plan = recording::PlanScrollRows(*recording);
         m_next = content.lost + m_plan.first;
-        m_before.assign(recording->series.size(), kNone);
-        // Of joined files, lines go on between the samples of one file.
+        m_before.assign(recording->series.size(), recording::kNoValue);
+        // In joined files, lines connect the samples of one file across the rows of other files.
         m_feeding = recording;
         m_feedingFrom = content.lost;
         if (recording->files.size() > 1)
             m_feeding = std::make_shared<const Recording>(
-                ReduceForLines(*recording, VisibleSamples(), recording->times.size()).recording);
+                recording::ReduceForLines(*recording, VisibleSamples(), recording->times.size()).recording);
     } else {
         Divide({});
     }
@@ -183,7 +191,7 @@ std::vector<SeriesSettings> CScrollPage::SeriesOf(std::size_t graph) const {
     return series;
 }
 
-/// Live readings stand in plain units on an axis of their own.
+/// The name in the legend. Live readings have an axis in plain units here, so the name is without the unit.
 std::string CScrollPage::SeriesName(std::size_t series) const {
     const std::string& name = m_settings.series[series].name;
     const bool available = name.find("(not available)") == std::string::npos;
@@ -198,15 +206,14 @@ void CScrollPage::SetLooks() {
 
 void CScrollPage::FeedLive() {
     const LiveReadings& live = *Content().live;
-    std::vector<StripRow> rows;
+    std::vector<ScrollRow> rows;
     if (!m_rows.empty())
         rows.push_back(m_rows.back());
     m_next = std::max(m_next, live.First());
     for (; m_next < live.End(); ++m_next) {
-        const recording::Time time =
-            live.TimeOf(m_next) / recording::kMicrosPerSecond * recording::kMicrosPerSecond;
+        const recording::Time time = recording::FloorTo(live.TimeOf(m_next), recording::kMicrosPerSecond);
         if (!rows.empty())
-            recording::AppendGap(rows.back().time, time, kLiveInterval, m_next, rows);
+            recording::AppendGapRows(rows.back().time, time, kLiveInterval, m_next, rows);
         rows.push_back({time, static_cast<std::size_t>(m_next), 1});
     }
     if (!m_rows.empty())
@@ -223,7 +230,7 @@ bool CScrollPage::WorkInIdle() {
 
 void CScrollPage::FeedSlice() {
     const auto base = static_cast<std::size_t>(m_feedingFrom);
-    std::vector<StripRow> rows;
+    std::vector<ScrollRow> rows;
     if (!m_rows.empty()) {
         rows.push_back(m_rows.back());
         rows.back().sample -= base;
@@ -243,8 +250,8 @@ void CScrollPage::EndFeeding() {
     m_feeding.reset();
     if (!m_rows.empty()) {
         const recording::Time length = m_rows.back().time - m_rows.front().time;
-        SetRange(recording::ChooseStripRange(length));
-        if (length <= recording::kStripRanges[m_range] * recording::kMicrosPerSecond)
+        SetRange(recording::ChooseViewRange(length));
+        if (length <= recording::kViewRanges[m_range] * recording::kMicrosPerSecond)
             for (CMonitorScrollGraph& graph : m_graphs)
                 graph.ShowOldest();
     }
@@ -252,19 +259,19 @@ void CScrollPage::EndFeeding() {
     Host().ShowSelection();
 }
 
-/// Hands rows over, whose samples are counted from `base` on.
-void CScrollPage::AddRows(const std::vector<StripRow>& rows, std::uint64_t base, bool offline) {
+/// Adds rows to the graphs. The rows' sample numbers count from `base`.
+void CScrollPage::AddRows(const std::vector<ScrollRow>& rows, std::uint64_t base, bool offline) {
     if (rows.empty())
         return;
     const bool following = m_graphs[0].Rows() == 0 || m_graphs[0].ShowsNewest();
     std::vector<double> divided[kGraphs];
-    for (const StripRow& row : rows) {
+    for (const ScrollRow& row : rows) {
         const std::vector<double> values = ValuesOf(row);
         for (std::vector<double>& some : divided)
             some.clear();
         for (std::size_t i = 0; i < m_places.size(); ++i)
             divided[m_places[i].graph].push_back(values[i]);
-        const long stamp = m_clock.Stamp(row.time);
+        const long stamp = m_stamps.Stamp(row.time);
         for (std::size_t i = 0; i < m_inUse; ++i)
             if (offline)
                 m_graphs[i].AppendOffline(stamp, divided[i]);
@@ -281,8 +288,8 @@ void CScrollPage::AddRows(const std::vector<StripRow>& rows, std::uint64_t base,
             m_graphs[i].ReachNewest();
 }
 
-std::vector<double> CScrollPage::ValuesOf(const StripRow& row) {
-    std::vector<double> values(m_places.size(), kNone);
+std::vector<double> CScrollPage::ValuesOf(const ScrollRow& row) {
+    std::vector<double> values(m_places.size(), recording::kNoValue);
     if (row.count == 0)
         return values;
     for (std::size_t i = 0; i < values.size(); ++i) {
@@ -290,16 +297,16 @@ std::vector<double> CScrollPage::ValuesOf(const StripRow& row) {
             values[i] = Content().live->ValueOf(row.sample, i);
             continue;
         }
-        values[i] = recording::StripValue(m_feeding->series[i].values, row, m_before[i]);
+        values[i] = recording::PeakValue(m_feeding->series[i].values, row, m_before[i]);
         if (!std::isnan(values[i]))
             m_before[i] = values[i];
     }
     return values;
 }
 
-/// Removes the rows of samples before the given one.
+/// Removes the rows of the samples before `sample`.
 void CScrollPage::TrimTo(std::uint64_t sample) {
-    const auto gone = [sample](const StripRow& row) {
+    const auto gone = [sample](const ScrollRow& row) {
         return row.count == 0 ? row.sample <= sample : row.sample < sample;
     };
     const auto left = std::find_if_not(m_rows.begin(), m_rows.end(), gone);

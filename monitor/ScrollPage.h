@@ -1,9 +1,5 @@
+// The scroll page: two graphs over time.
 #pragma once
-
-#include "monitor/MonitorPage.h"
-#include "monitor/MonitorScrollGraph.h"
-#include "monitor/StripClock.h"
-#include "monitor/recording/Strip.h"
 
 #include <deque>
 #include <memory>
@@ -11,11 +7,17 @@
 #include <string>
 #include <vector>
 
+#include "monitor/LocalStamps.h"
+#include "monitor/MonitorPage.h"
+#include "monitor/MonitorScrollGraph.h"
+#include "monitor/recording/ScrollChoice.h"
+#include "monitor/recording/ScrollRows.h"
+
 namespace kavlix::monitor {
 
-/// The page with two graphs over time, one above the other, which scroll together and share their mark: of
-/// live readings percents above and rates below; of recordings the series divided by magnitude. With one
-/// series there is one graph.
+/// Shows two graphs over time, one above the other, which scroll together and share their mark. Of live
+/// readings the upper graph shows percents and the lower one rates. The series of a recording are divided by
+/// magnitude. A single series has one graph.
 class CScrollPage : public CMonitorPage {
 public:
     explicit CScrollPage(PageHost& host) : CMonitorPage(host) {}
@@ -70,13 +72,13 @@ protected:
 private:
     static constexpr std::size_t kGraphs = 2;
 
-    /// Where a series of the content is drawn.
+    /// The graph and dataset of one series of the content.
     struct Place {
         std::size_t graph = 0;
         std::size_t dataset = 0;
     };
 
-    /// A place of the mouse pointer.
+    /// The position of the mouse pointer.
     struct Pointer {
         std::size_t graph = 0;
         CPoint point; ///< client pixels
@@ -89,8 +91,8 @@ private:
     void FeedLive();
     void FeedSlice();
     void EndFeeding();
-    void AddRows(const std::vector<recording::StripRow>& rows, std::uint64_t base, bool offline);
-    std::vector<double> ValuesOf(const recording::StripRow& row);
+    void AddRows(const std::vector<recording::ScrollRow>& rows, std::uint64_t base, bool offline);
+    std::vector<double> ValuesOf(const recording::ScrollRow& row);
     void TrimTo(std::uint64_t sample);
 
     std::size_t GraphOf(const NMHDR* notification) const;
@@ -106,28 +108,28 @@ private:
     std::string SeriesName(std::size_t series) const;
 
     CMonitorScrollGraph m_graphs[kGraphs];
-    std::size_t m_inUse = 1;              ///< graphs that have series
-    std::size_t m_active = 0;             ///< the graph that gets the keys
+    std::size_t m_inUse = 1;              ///< number of graphs with series
+    std::size_t m_active = 0;             ///< the graph that gets the focus
     std::optional<std::size_t> m_filling; ///< the graph that fills the window
     std::optional<Pointer> m_pointer;
-    std::vector<Place> m_places; ///< one a series of the content
-    int m_wheel = 0;             ///< turns of the wheel that were too little for a step
-    std::size_t m_range = 1;     ///< index into recording::kStripRanges
+    std::vector<Place> m_places; ///< one for each series of the content
+    int m_wheel = 0;             ///< rotation of the mouse wheel that is not yet a whole step
+    std::size_t m_range = 1;     ///< index into recording::kViewRanges
     bool m_tindro = false;
     bool m_paused = false;
 
-    // Samples are counted from the first that the content ever had.
-    std::deque<recording::StripRow> m_rows; ///< what the graphs hold
-    StripClock m_clock;
-    std::uint64_t m_next = 0; ///< the next sample that has no row
+    // Sample numbers count from the first sample that the content ever had.
+    std::deque<recording::ScrollRow> m_rows; ///< the rows that the graphs hold
+    LocalStamps m_stamps;
+    std::uint64_t m_next = 0; ///< the next sample without a row
 
-    // Of a recording, until all of it has been handed over.
-    std::shared_ptr<const recording::Recording> m_feeding; ///< null: nothing is left to do
-    std::uint64_t m_feedingFrom = 0;                       ///< its first sample
-    recording::StripPlan m_plan;
+    // A recording while its rows are handed to the graphs.
+    std::shared_ptr<const recording::Recording> m_feeding; ///< null: all rows were handed over
+    std::uint64_t m_feedingFrom = 0;                       ///< number of the recording's first sample
+    recording::ScrollPlan m_plan;
     std::vector<double> m_before; ///< last value of each series
 
-    // What of the content is shown.
+    // The content that the last Update showed.
     unsigned m_generation = 0;
     unsigned m_cuts = 0;
     GraphSettings m_settings;

@@ -1,17 +1,18 @@
-// The commands of the scroll page, and what its graphs ask for.
+// The scroll page's commands, and those of its graphs' notifications that change content or settings.
 
 #include "monitor/ScrollPage.h"
 
-#include "monitor/KeepDlg.h"
-#include "monitor/resource.h"
+#include <afxres.h>
 
 #include <kavlix/Kavlix.h>
-
-#include <afxres.h>
 
 #include <algorithm>
 #include <iterator>
 #include <utility>
+
+#include "monitor/KeepDlg.h"
+#include "monitor/PictureCopy.h"
+#include "monitor/resource.h"
 
 namespace kavlix::monitor {
 
@@ -45,19 +46,19 @@ void CScrollPage::OnDataRemoved(UINT, NMHDR* pNMHDR, LRESULT* pResult) {
         m_rows.erase(m_rows.begin(), m_rows.begin() + count);
         const std::uint64_t first = Content().live ? Content().live->First() : Content().lost;
         const std::uint64_t left = m_rows.front().sample;
-        // While the pictures stand still, older readings may have gone already.
+        // During a pause, the content may have lost these readings already.
         Host().RemoveHead(left > first ? static_cast<std::size_t>(left - first) : 0);
     }
     ViewChanged();
 }
 
 void CScrollPage::OnCopied(UINT, NMHDR*, LRESULT* pResult) {
-    Host().Say("Copied: the picture is on the clipboard");
+    Host().Say(CopyTextOf(true));
     *pResult = 0;
 }
 
 void CScrollPage::OnNotCopied(UINT, NMHDR*, LRESULT* pResult) {
-    Host().Say("Not copied: another program holds the clipboard. Try again");
+    Host().Say(CopyTextOf(false));
     *pResult = 0;
 }
 
@@ -82,7 +83,7 @@ void CScrollPage::OnMaximize(UINT, NMHDR* pNMHDR, LRESULT* pResult) {
 
 void CScrollPage::OnCaptionDoubleClick(UINT nID, NMHDR* pNMHDR, LRESULT* pResult) {
     *pResult = 0;
-    // A double-click on the icon: its first click has done what was wanted.
+    // The first click of a double-click on the icon has already filled the window or restored it.
     const CPoint point(reinterpret_cast<const NMGRAPHCTRL*>(pNMHDR)->pt);
     if (!m_graphs[GraphOf(pNMHDR)].IsOnIcon(point))
         OnMaximize(nID, pNMHDR, pResult);
@@ -141,7 +142,7 @@ void CScrollPage::OnUpdateViewMove(CCmdUI* pCmdUI) {
     if (pCmdUI->m_nID == ID_VIEW_ZOOM_IN)
         possible = possible && m_range > 0;
     else if (pCmdUI->m_nID == ID_VIEW_ZOOM_OUT)
-        possible = possible && m_range + 1 < std::size(recording::kStripRanges);
+        possible = possible && m_range + 1 < std::size(recording::kViewRanges);
     pCmdUI->Enable(possible);
 }
 
@@ -156,7 +157,7 @@ void CScrollPage::OnUpdateRange(CCmdUI* pCmdUI) {
 }
 
 void CScrollPage::OnPause() {
-    // Readings go on; their rows wait.
+    // Readings continue during a pause; their rows are added at its end.
     m_paused = !m_paused;
     Update();
     Host().ShowSelection();

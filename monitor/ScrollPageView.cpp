@@ -1,9 +1,6 @@
-// What the scroll page shows where, and what it says about it.
+// The scroll page's layout, view and texts.
 
 #include "monitor/ScrollPage.h"
-
-#include "monitor/recording/NumberText.h"
-#include "monitor/resource.h"
 
 #include <kavlix/Kavlix.h>
 
@@ -13,18 +10,22 @@
 #include <iterator>
 #include <utility>
 
+#include "monitor/recording/JoinedSamples.h"
+#include "monitor/recording/NumberText.h"
+#include "monitor/resource.h"
+
 namespace kavlix::monitor {
 
 using recording::Recording;
-using recording::StripRow;
+using recording::ScrollRow;
 
 namespace {
 
-constexpr int kWheelStep = WHEEL_DELTA / 3; // three steps, of a hundredth of the view each, a notch
+constexpr int kWheelStep = WHEEL_DELTA / 3; // a notch of the wheel is three steps of a hundredth of the view
 
 std::string LiveValueText(std::size_t series, double value) {
     if (LiveReadings::IsRate(series))
-        return FormatRate(value);
+        return recording::FormatRate(value);
     char text[32];
     std::snprintf(text, sizeof text, "%.1f %%", value);
     return text;
@@ -59,7 +60,7 @@ void CScrollPage::ShowFilling(bool filling) {
     LayOut(client.Size());
 }
 
-/// The graph that the person looks at.
+/// The graph with the focus, or the last one that had it.
 std::size_t CScrollPage::FocusedGraph() {
     for (std::size_t i = 0; i < m_inUse; ++i)
         if (GetFocus() == &m_graphs[i])
@@ -82,7 +83,7 @@ void CScrollPage::FitGraphs() {
         m_graphs[i].TakeRoom(room);
 }
 
-/// The view shows other samples.
+/// Fits the value axes after the visible samples have changed.
 void CScrollPage::ViewMoved() {
     bool changed = false;
     for (std::size_t i = 0; i < m_inUse; ++i)
@@ -91,7 +92,7 @@ void CScrollPage::ViewMoved() {
         FitGraphs();
 }
 
-/// A person has moved the view.
+/// Fits the axes, and the texts in the status bar, after the person has moved the view.
 void CScrollPage::ViewChanged() {
     ViewMoved();
     Host().ShowSelection();
@@ -100,11 +101,11 @@ void CScrollPage::ViewChanged() {
 void CScrollPage::SetRange(std::size_t range) {
     m_range = range;
     for (CMonitorScrollGraph& graph : m_graphs)
-        graph.SetRange(recording::kStripRanges[range]);
+        graph.SetRange(recording::kViewRanges[range]);
 }
 
 BOOL CScrollPage::OnMouseWheel(UINT, short zDelta, CPoint) {
-    // Both views stand at the same place, so both make the same steps.
+    // Both views are at the same position, so the same steps keep them together.
     m_wheel += zDelta;
     const int steps = m_wheel / kWheelStep;
     m_wheel %= kWheelStep;
@@ -130,7 +131,7 @@ void CScrollPage::OnSelectionChanged(UINT, NMHDR* pNMHDR, LRESULT* pResult) {
     const int row = m_graphs[m_active].MarkedRow();
     if (Has(1 - m_active))
         m_graphs[1 - m_active].SetSelectionMarkPos(row);
-    // The keys may have moved it out of sight.
+    // The arrow keys may have moved the mark out of the view.
     for (std::size_t i = 0; i < m_inUse; ++i)
         m_graphs[i].EnsureVisible(row);
     ViewChanged();
@@ -148,13 +149,13 @@ void CScrollPage::OnPointerLeft(UINT, NMHDR*, LRESULT* pResult) {
     Host().ShowPointer();
 }
 
-/// How exactly values are told.
+/// The number of digits of the values in the status bar.
 recording::ValueDigits CScrollPage::Digits() const {
     return Content().live || m_plan.wholeSeconds ? recording::ValueDigits::Computed
                                                  : recording::ValueDigits::AsRead;
 }
 
-/// The row's sample in what is left of the recording.
+/// The row's sample as an index into the recording.
 std::size_t CScrollPage::SampleOf(int row) const {
     return m_rows[static_cast<std::size_t>(row)].sample - static_cast<std::size_t>(Content().lost);
 }
@@ -170,7 +171,7 @@ std::vector<std::string> CScrollPage::MarkTexts() {
     const int row = m_graphs[0].MarkedRow();
     if (row < 0 || static_cast<std::size_t>(row) >= m_rows.size())
         return {};
-    const StripRow& marked = m_rows[static_cast<std::size_t>(row)];
+    const ScrollRow& marked = m_rows[static_cast<std::size_t>(row)];
     std::vector<double> values = ShownValues(row);
     if (marked.count == 0)
         return {recording::FormatExact(marked.time) + "   no reading"};
@@ -200,7 +201,7 @@ std::vector<std::string> CScrollPage::PointerTexts() {
     std::size_t series = 0;
     while (m_places[series].graph != m_pointer->graph || m_places[series].dataset != pointed->series)
         ++series;
-    const StripRow& row = m_rows[static_cast<std::size_t>(pointed->row)];
+    const ScrollRow& row = m_rows[static_cast<std::size_t>(pointed->row)];
     double value = m_graphs[m_pointer->graph].ValueOf(pointed->series, pointed->row);
     if (Content().live)
         return {recording::FormatExact(row.time) + "   " + SeriesName(series) + ": " +

@@ -1,15 +1,16 @@
+// Moves the settings between the dialog's controls and the preview.
+
 #include "monitor/SettingsDlg.h"
 
-#include <kavlix/Kavlix.h>
-
 #include <afxdlgs.h>
+
+#include <kavlix/Kavlix.h>
 
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
 namespace kavlix::monitor {
-
 namespace {
 
 constexpr const char* kStyleNames[] = {"Lines", "Bars", "Two axes"};
@@ -96,7 +97,7 @@ BOOL CSettingsDlg::OnInitDialog() {
 }
 
 void CSettingsDlg::FillChoices() {
-    // Two axes need two series.
+    // The two-axis style needs two series.
     const std::size_t styles =
         m_settings.series.size() >= 2 ? std::size(kStyleNames) : std::size(kStyleNames) - 1;
     for (std::size_t i = 0; i < styles; ++i)

@@ -1,9 +1,10 @@
+// The settings dialog with its preview.
 #pragma once
+
+#include <afxwin.h>
 
 #include "monitor/MonitorGraph.h"
 #include "monitor/resource.h"
-
-#include <afxwin.h>
 
 namespace kavlix::monitor {
 
@@ -20,13 +21,13 @@ private:
     COLORREF m_color = RGB(0, 0, 0);
 };
 
-/// Changes a graph's settings before the person's eyes: the preview follows every change. The caller takes
-/// Settings() when the dialog ended with IDOK.
+/// Changes a graph's settings. A preview shows every change at once. The caller applies Settings() when the
+/// dialog has returned IDOK.
 class CSettingsDlg : public CDialog {
 public:
     enum { IDD = IDD_SETTINGS };
 
-    /// @param source what the preview shows, the part `visible` of it
+    /// The preview shows the part `visible` of `source`.
     CSettingsDlg(GraphSource source, recording::VisibleRange visible, GraphSettings settings,
                  CWnd* parent = nullptr);
 
@@ -69,7 +70,7 @@ private:
     int m_lineSize = 0;
     int m_marker = 0;
     BOOL m_showSeries = FALSE;
-    bool m_filling = true; ///< the controls are being filled: their notifications tell of no change
+    bool m_filling = true; ///< the dialog is setting its controls: their notifications are ignored
 };
 
 } // namespace kavlix::monitor

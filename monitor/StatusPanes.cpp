@@ -1,8 +1,10 @@
+// Widths and texts of the status bar's panes.
+
 #include "monitor/StatusPanes.h"
 
-#include "monitor/recording/TextCut.h"
-
 #include <algorithm>
+
+#include "monitor/recording/TextCut.h"
 
 namespace kavlix::monitor {
 
@@ -10,8 +12,8 @@ using recording::PaneWidths;
 
 namespace {
 
-constexpr int kTextMargin = 16; // pixels round the text of a pane
-constexpr int kGripRoom = 16;   // pixels of the sizing grip, in the last pane
+constexpr int kTextMargin = 16; // pixels around the text of a pane
+constexpr int kGripRoom = 16;   // pixels of the sizing grip in the last pane
 constexpr int kPanes = 3;
 
 } // namespace
@@ -53,7 +55,7 @@ void CStatusPanes::Show(const StatusTexts& texts) {
 
     if (widths.text != m_widths.text || widths.pointer != m_widths.pointer ||
         widths.summary != m_widths.summary) {
-        // A pane for nothing but the grip would only look odd: the one before it goes to the end.
+        // Without a summary there is no third pane: the second one extends to the end.
         int edges[kPanes] = {widths.text, widths.text + widths.pointer, -1};
         const int panes = texts.summary.empty() ? kPanes - 1 : kPanes;
         edges[panes - 1] = -1;

@@ -1,6 +1,5 @@
+// The status bar.
 #pragma once
-
-#include "monitor/recording/PaneWidths.h"
 
 #include <afxcmn.h>
 #include <afxwin.h>
@@ -8,34 +7,37 @@
 #include <string>
 #include <vector>
 
+#include "monitor/recording/PaneWidths.h"
+
 namespace kavlix::monitor {
 
-/// What a status bar says. Texts may have shorter forms for less room, which stand behind the longest.
+/// The texts of the status bar. A text may have several forms, the longest first.
 struct StatusTexts {
     std::vector<std::string> text;    ///< the marked sample, or what is shown
-    std::vector<std::string> pointer; ///< the sample under the mouse pointer; empty: its pane takes no room
+    std::vector<std::string> pointer; ///< the sample under the mouse pointer; empty: the pane takes no room
     std::string summary;              ///< what was read
 };
 
-/// A status bar of three panes that share its width by what their longest texts need. Texts whose shortest
-/// form is too long end in dots. Only panes that change are written, so that nothing flickers while the mouse
-/// moves.
+/// A status bar of three panes, whose widths follow from the longest forms of their texts. A pane shows the
+/// first form that fits, or the last one cut. Only panes whose text changes are written, so that the others
+/// do not flicker.
 class CStatusPanes : public CStatusBarCtrl {
 public:
     /// Creates the bar at the parent's lower edge.
     bool CreateBar(CWnd& parent, UINT id);
 
-    /// Shows the texts and paints at once what changed. Call it again when the bar's width has changed.
+    /// Shows the texts and paints the changed panes. The caller calls it again when the bar's width
+    /// has changed.
     void Show(const StatusTexts& texts);
 
-    /// The pane for the pointer grows with its texts and does not shrink with them, so that the panes stand
-    /// still while the mouse moves. This lets it begin anew: for other data.
+    /// Resets the width of the pointer pane, for other data. Until then the width only grows, so that the
+    /// panes do not move with every text.
     void ForgetPointerRoom() { m_pointerRoom = 0; }
 
 private:
-    int m_pointerRoom = 0; ///< pixels
+    int m_pointerRoom = 0; ///< width that the pointer pane wants, in pixels
     recording::PaneWidths m_widths;
-    std::string m_shown[3]; ///< what the panes say
+    std::string m_shown[3]; ///< the panes' current texts
 };
 
 } // namespace kavlix::monitor

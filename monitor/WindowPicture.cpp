@@ -1,10 +1,12 @@
+// Copies a window from the screen and writes it as PNG.
+
 #include "monitor/WindowPicture.h"
 
 #include <algorithm>
 #include <cstring>
 #include <vector>
 
-// GDI+ names min and max as if they were macros.
+// The headers of GDI+ expect the macros min and max.
 #include <objidl.h>
 namespace Gdiplus {
 using std::max;
@@ -13,13 +15,12 @@ using std::min;
 #include <gdiplus.h>
 
 namespace kavlix::monitor {
-
 namespace {
 
 constexpr int kBitsPerPixel = 24;
 constexpr int kSizingAttempts = 3;
 
-/// GDI+ for as long as it is needed.
+/// GDI+, from construction to destruction.
 class GdiPlus {
 public:
     GdiPlus() {
@@ -40,7 +41,7 @@ private:
     bool m_started = false;
 };
 
-/// Pixels in memory that GDI draws on, rows from the top, selected into a DC.
+/// A bitmap in memory, with rows from the top down, selected into a DC.
 class PixelPage {
 public:
     explicit PixelPage(CSize size) : m_size(size) {
@@ -68,6 +69,7 @@ public:
     CDC& Dc() { return m_dc; }
     CSize Size() const { return m_size; }
     BYTE* Bits() const { return static_cast<BYTE*>(m_bits); }
+
     /// Bytes from one row to the next.
     int Stride() const { return static_cast<int>((m_size.cx * kBitsPerPixel + 31) / 32 * 4); }
 
@@ -84,7 +86,7 @@ bool FindPngEncoder(CLSID& id) {
     UINT bytes = 0;
     if (Gdiplus::GetImageEncodersSize(&count, &bytes) != Gdiplus::Ok || bytes == 0)
         return false;
-    // The encoders' texts stand behind their records in the same block.
+    // GDI+ puts the records and their texts into one block of `bytes` bytes.
     std::vector<Gdiplus::ImageCodecInfo> block(bytes / sizeof(Gdiplus::ImageCodecInfo) + 1);
     if (Gdiplus::GetImageEncoders(count, bytes, block.data()) != Gdiplus::Ok)
         return false;
@@ -129,7 +131,7 @@ void PaintNow(CWnd& frame) {
     frame.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
-/// Copies the part of the picture's area that is on the screen now.
+/// Copies the part of the picture's area that is on the screen.
 void CopyVisible(CWnd& frame, PixelPage& page) {
     PaintNow(frame);
     CRect window;
@@ -158,7 +160,7 @@ CRect PictureArea(const CWnd& frame) {
 }
 
 void SizePictureArea(CWnd& frame, CSize size) {
-    // The menu bar may break into two lines in the new width, so what came out is looked at and corrected.
+    // In the new width the menu bar may need two lines, which makes the area smaller: measure and correct.
     for (int i = 0; i < kSizingAttempts; ++i) {
         const CSize missing = size - PictureArea(frame).Size();
         if (missing == CSize(0, 0))

@@ -1,3 +1,4 @@
+// Saves a picture of a window.
 #pragma once
 
 #include <afxwin.h>
@@ -6,17 +7,16 @@
 
 namespace kavlix::monitor {
 
-/// What a person sees inside a frame's border: menu bar and client area, in screen coordinates.
+/// The area of the picture: menu bar and client area of the frame, in screen coordinates.
 CRect PictureArea(const CWnd& frame);
 
-/// Sizes the frame so that the picture's area has the given size in pixels; it may reach beyond the screen if
-/// the frame allows such a size (WM_GETMINMAXINFO).
+/// Sizes the frame so that its PictureArea has the given size in pixels. The area may exceed the screen if
+/// the frame allows that in WM_GETMINMAXINFO.
 void SizePictureArea(CWnd& frame, CSize size);
 
-/// Saves the picture's area of a visible window as a PNG file, as it stands on the screen. Parts beyond the
-/// screen are brought onto it one after the other by moving the window, which returns to its place.
-/// @param path file name in the process code page
-/// @return empty, or what went wrong
+/// Saves the PictureArea of a visible window as a PNG file, copied from the screen. When the window exceeds
+/// the screen, it is moved to copy one part after another, and moved back. `path` is in the process code
+/// page. Returns an empty text, or a description of the failure.
 std::string SavePicture(CWnd& frame, const std::string& path);
 
 } // namespace kavlix::monitor

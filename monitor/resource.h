@@ -1,6 +1,5 @@
-#pragma once
-
 // Identifiers of the program's own resources and commands.
+#pragma once
 
 #define IDR_MAINFRAME 100
 #define IDD_SETTINGS 110
@@ -12,7 +11,7 @@
 
 #define IDC_GRAPH 1000
 #define IDC_STATUS 1001
-#define IDC_PAGE_FIRST 1002 // to 1009, the pages' windows
+#define IDC_PAGE_FIRST 1002 // to 1009: the windows of the pages
 #define IDC_PREVIEW 1010
 #define IDC_TITLE 1011
 #define IDC_STYLE 1012
@@ -58,7 +57,7 @@
 #define ID_VIEW_FILL 32792
 #define ID_SETTINGS 32800
 
-// One a page, in the order of recording::kPageNames.
+// One command for each page, in the order of recording::kPageNames.
 #define ID_PAGE_FIRST 32810
 #define ID_PAGE_GRAPH 32810
 #define ID_PAGE_SCROLL 32811
@@ -67,7 +66,7 @@
 #define ID_PAGE_MULTI 32814
 #define ID_PAGE_LAST 32814
 
-// The scrolling time graph. The ranges stand in the order of recording::kStripRanges.
+// The scroll page. The ranges are in the order of recording::kViewRanges.
 #define ID_SCROLL_RANGE_FIRST 32830
 #define ID_SCROLL_RANGE_1_MINUTE 32830
 #define ID_SCROLL_RANGE_5_MINUTES 32831
@@ -83,7 +82,7 @@
 #define ID_SCROLL_KEEP 32840
 #define ID_SCROLL_TINDRO 32841
 
-// The chart; the styles stand in the order of ChartStyle.
+// The chart page. The styles are in the order of ChartStyle.
 #define ID_CHART_SERIES 32850
 #define ID_CHART_SWAP 32851
 #define ID_CHART_POINTS 32852

@@ -1,3 +1,5 @@
+// Puts the reports together from the files' summaries.
+
 #include "monitor/recording/CheckReport.h"
 
 #include "monitor/recording/NumberText.h"

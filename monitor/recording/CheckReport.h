@@ -1,19 +1,20 @@
+// The reports on what was read and what was wrong, as text.
 #pragma once
-
-#include "monitor/recording/Recording.h"
 
 #include <string>
 
+#include "monitor/recording/Recording.h"
+
 namespace kavlix::recording {
 
-/// What was read and what was wrong, as text of several lines for `--check`: for each file its series with
-/// their samples, range and gaps, its time range, the messages, the rows left out; then the joined recording.
+/// The report that `--check` prints. For each file: its series with their samples, range and gaps, its time
+/// range, its messages, and the number of rows left out. Then a line on the joined recording.
 std::string CheckReport(const Recording& recording);
 
-/// The messages alone, a line each, with the count of rows left out; empty when nothing was wrong.
+/// Only the messages, one a line, then the number of rows left out. Empty when nothing was wrong.
 std::string MessageReport(const Recording& recording);
 
-/// The same in one line for a status bar: `22,695 rows, 1 series; 3 rows left out, 2 messages`.
+/// A summary of one line for the status bar: `22,695 rows, 1 series; 3 rows left out; 2 messages`.
 std::string StatusLine(const Recording& recording);
 
 } // namespace kavlix::recording

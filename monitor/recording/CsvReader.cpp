@@ -1,3 +1,5 @@
+// Scanning for rows, quotes and line ends of comma-separated text.
+
 #include "monitor/recording/CsvReader.h"
 
 #include <algorithm>
@@ -55,11 +57,11 @@ void CsvReader::Drain(bool atEnd) {
     m_begin = 0;
 }
 
-/// Deals with what stands before the first row: the byte order mark, and finding the separator.
+/// Reads the byte order mark and finds the separator; false when more bytes are needed or the file is UTF-16.
 bool CsvReader::Begin(bool atEnd) {
     if (m_started)
         return true;
-    // The separator needs the whole first line, or as much of it as is allowed to be there.
+    // The separator is known only after the whole first line, or after kLineLimit bytes.
     const std::size_t lineEnd = m_pending.find_first_of("\r\n", m_scanned);
     if (lineEnd == std::string::npos && !atEnd && m_pending.size() < kLineLimit + kUtf8Mark.size()) {
         m_scanned = m_pending.size();
@@ -88,7 +90,7 @@ void CsvReader::SetSeparator(std::string_view firstLine) {
         if (!quoted && found != std::end(kSeparators)) {
             const std::size_t index = static_cast<std::size_t>(found - std::begin(kSeparators));
             ++counts[index];
-            // Of equal counts the separator met first wins: it stands behind the time column's name.
+            // Of equal counts the first one wins: it follows the time column's name.
             best = best == std::size(kSeparators) || counts[index] > counts[best] ? index : best;
         }
     }
@@ -97,7 +99,7 @@ void CsvReader::SetSeparator(std::string_view firstLine) {
         m_special[static_cast<unsigned char>(c)] = true;
 }
 
-/// @return false when the line goes on beyond what is there.
+/// Skips to the end of a line beyond the limit; false when the end has not been fed yet.
 bool CsvReader::SkipRestOfLine() {
     const std::size_t end = m_pending.find_first_of("\r\n", m_begin);
     if (end == std::string::npos) {
@@ -110,7 +112,7 @@ bool CsvReader::SkipRestOfLine() {
     return true;
 }
 
-/// Prepares for the row behind the line end at `end`.
+/// Begins the row behind the line end at `end`.
 void CsvReader::EndRow(std::size_t end) {
     m_skipLf = m_pending[end] == '\r';
     m_begin = end + 1;
@@ -119,11 +121,10 @@ void CsvReader::EndRow(std::size_t end) {
     m_rowHasBreaks = false;
 }
 
-/// Scans on for the end of the current row, and delivers the row when its end is there.
-/// @return false when more bytes are needed.
+/// Looks for the end of the current row and delivers the row; false when more bytes are needed.
 bool CsvReader::FindRowEnd(bool atEnd) {
-    // Where the scan ends does not depend on how the bytes came: one byte behind the limit may be the line
-    // end.
+    // The scan stops at the same byte whatever the size of the pieces. One byte behind the limit may be the
+    // line end of a row of exactly kLineLimit bytes.
     const std::size_t stop = std::min(m_pending.size(), m_begin + kLineLimit + 1);
     std::size_t at = m_scanned;
     for (; at < stop; ++at) {
@@ -174,9 +175,8 @@ bool CsvReader::FindRowEnd(bool atEnd) {
     return false;
 }
 
-/// A quote was opened and its end is not in sight: takes it as closed at the end of its line, so that the
-/// rows below are not lost. Up to `until` no quote reaches across lines then, so no byte is scanned again and
-/// again.
+/// Scans the current row again after an open quote was not closed before `until`. Every quote before `until`
+/// now ends with its line, so the following rows are not lost, and no byte is scanned more than twice.
 void CsvReader::RestartLineByLine(std::size_t until) {
     m_plainUntil = until;
     m_scanned = m_begin;
@@ -188,7 +188,7 @@ void CsvReader::Deliver(std::string_view row) {
     m_row.cells.clear();
     m_row.line = m_line;
     m_unquoted.clear();
-    m_unquoted.reserve(row.size()); // the cells' texts point into it: it must not move
+    m_unquoted.reserve(row.size()); // cells point into the buffer, which must not be reallocated
     m_rowLine = 0;
     m_lineStart = 0;
     std::size_t at = 0;
@@ -201,7 +201,8 @@ void CsvReader::Deliver(std::string_view row) {
     m_stopped = !m_sink.OnRow(m_row) || m_stopped;
 }
 
-/// @return the position of the separator behind the cell, or the row's end.
+/// Adds the cell that begins at `at`; returns the position of the separator behind the cell, or the
+/// row's end.
 std::size_t CsvReader::ReadPlain(std::string_view row, std::size_t at) {
     const std::size_t end = std::min(row.find(m_separator, at), row.size());
     m_row.cells.push_back(
@@ -240,7 +241,7 @@ std::size_t CsvReader::ReadQuoted(std::string_view row, std::size_t at) {
     return end;
 }
 
-/// Counts the line breaks of a quoted text, CRLF as one.
+/// Counts the line breaks within quotes, CRLF as one.
 void CsvReader::CountLineBreaks(std::string_view row, std::size_t begin, std::size_t end) {
     for (std::size_t at = begin; at < end; ++at) {
         if (row[at] == '\n' || (row[at] == '\r' && !(at + 1 < end && row[at + 1] == '\n'))) {

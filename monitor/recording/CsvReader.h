@@ -1,3 +1,4 @@
+// Splits comma-separated text into rows and cells. What the cells mean is TableReader's concern.
 #pragma once
 
 #include <array>
@@ -9,71 +10,70 @@
 
 namespace kavlix::recording {
 
-/// One cell of a row. Its text lives until the sink's call returns.
+/// One cell of a row. Its text is valid until the sink's call returns.
 struct CsvCell {
-    std::string_view text;  ///< without the quotes around it, doubled quotes made single
-    std::uint32_t line = 0; ///< lines after the row's first line, where the cell begins (quoted line breaks)
+    std::string_view text;    ///< without the quotes around it; doubled quotes are single
+    std::uint32_t line = 0;   ///< line where the cell begins, counted from the row's first line, which is 0
     std::uint32_t column = 1; ///< byte position in that line, from 1
 };
 
-/// One row: at least one cell; an empty line is a row of one empty cell.
+/// One row of at least one cell. An empty line is a row of one empty cell.
 struct CsvRow {
     std::uint64_t line = 1;      ///< line of the file where the row begins, from 1
-    std::uint64_t endLine = 1;   ///< line where it ends
-    std::uint32_t endColumn = 1; ///< byte position behind its last byte in that line
+    std::uint64_t endLine = 1;   ///< line where the row ends
+    std::uint32_t endColumn = 1; ///< byte position behind the row's last byte in that line
     std::vector<CsvCell> cells;
 };
 
-/// What a CsvReader may complain about.
+/// A fault in the text, and what CsvReader does about it.
 enum class CsvFault {
-    Utf16,       ///< the file begins with a UTF-16 byte order mark; nothing is delivered
-    LineTooLong, ///< the line passes the limit and is skipped
-    OpenQuote,   ///< a quote is never closed; it is taken as closed at the end of its line
-    AfterQuote ///< text stands between a closing quote and the next separator; it is kept as part of the cell
+    Utf16,       ///< the file begins with a UTF-16 byte order mark: the reader delivers nothing
+    LineTooLong, ///< the line exceeds kLineLimit: the reader skips the line
+    OpenQuote,   ///< a quote is never closed: the reader closes it at the end of its line
+    AfterQuote   ///< text follows a closing quote: the reader keeps the text as part of the cell
 };
 
-/// Receives what a CsvReader reads.
+/// Receives the rows and faults from a CsvReader.
 class CsvSink {
 public:
     virtual ~CsvSink() = default;
 
-    /// A row was read. Return false to stop: the rest of the file is ignored.
+    /// Takes a row. Returns false to stop the reader, which then ignores the rest of the file.
     virtual bool OnRow(const CsvRow& row) = 0;
 
-    /// Something is wrong at the given line and byte position, both from 1. The reader goes on as told at
-    /// CsvFault.
+    /// Takes a fault at the given line and byte position, both from 1.
     virtual void OnFault(CsvFault fault, std::uint64_t line, std::uint64_t column) = 0;
 };
 
-/// Reads comma-separated text fed in pieces of any size; how the text is cut into pieces does not change what
-/// is delivered. Quoting follows RFC 4180; lines end with CRLF, LF or CR. A UTF-8 byte order mark is skipped.
-/// The separator (comma, semicolon or tab) is the one that occurs most in the first line outside quotes.
-/// Memory is bounded by the line limit whatever is fed.
+/// Reads comma-separated text that the caller feeds in pieces. The rows do not depend on the size of the
+/// pieces. Quoting follows RFC 4180. Lines end with CRLF, LF or CR. A UTF-8 byte order mark is skipped. The
+/// separator is the one of comma, semicolon and tab that is most frequent in the first line outside quotes.
+/// Memory stays below about twice kLineLimit for any input.
 class CsvReader {
 public:
-    /// A row of more bytes than this is skipped (or, when a quote is open across lines, read again line by
-    /// line).
+    /// Longest row in bytes. A longer row is skipped. When the row is long because a quote is open across
+    /// lines, its lines are read one by one instead.
     static constexpr std::size_t kLineLimit = std::size_t{1} << 20;
 
-    /// @param sink is called from Feed and Finish; it must outlive the reader.
+    /// `sink` is called from Feed and Finish, and must outlive the reader.
     explicit CsvReader(CsvSink& sink);
 
     CsvReader(const CsvReader&) = delete;
     CsvReader& operator=(const CsvReader&) = delete;
 
-    /// Takes the next `size` bytes. After the sink stopped the reader this does nothing.
+    /// Reads the next `size` bytes. Does nothing once the reader has stopped.
     void Feed(const char* data, std::size_t size);
 
-    /// Ends the text: delivers a last row without a line end. Feed must not be called after it.
+    /// Ends the text and delivers a last row that has no line end. Feed must not be called afterwards.
     void Finish();
 
-    /// Ends reading: what is fed from now on is ignored.
+    /// Stops the reader: Feed and Finish ignore the rest of the text.
     void Stop() { m_stopped = true; }
 
-    /// The separator found in the first line; a comma before that.
+    /// The separator of the first line; a comma until that line has been read.
     char Separator() const { return m_separator; }
 
-    /// Whether the sink stopped the reader, or the file is no text this reader knows.
+    /// Whether reading has stopped: by the sink, by Stop, or because the file is UTF-16.
     bool Stopped() const { return m_stopped; }
 
 private:
@@ -93,25 +93,25 @@ private:
     bool IsSpecial(char c) const { return m_special[static_cast<unsigned char>(c)]; }
 
     CsvSink& m_sink;
-    std::string m_pending;        ///< bytes not yet delivered: never more than the limit and one piece
+    std::string m_pending;        ///< bytes not yet delivered: at most kLineLimit and one piece
     std::size_t m_begin = 0;      ///< where the current row begins in m_pending
-    std::size_t m_scanned = 0;    ///< up to here the current row has been scanned for its end
-    std::size_t m_plainUntil = 0; ///< up to here a quote ends with its line, since one was found open
+    std::size_t m_scanned = 0;    ///< end of the bytes that were scanned for the row's end
+    std::size_t m_plainUntil = 0; ///< before this position a quote ends with its line; see RestartLineByLine
     Scan m_scan = Scan::CellStart;
-    bool m_rowHasBreaks = false; ///< a quoted line break was met in the current row
+    bool m_rowHasBreaks = false; ///< the current row has a line break within quotes
     std::uint64_t m_line = 1;    ///< line where the current row begins
-    bool m_started = false;
-    bool m_skipping = false; ///< within a line that passed the limit
-    bool m_skipLf = false;   ///< the last row ended with CR: an LF right behind belongs to it
+    bool m_started = false;      ///< the byte order mark and the separator are known
+    bool m_skipping = false;     ///< the reader is inside a line beyond the limit
+    bool m_skipLf = false;       ///< the last row ended with CR: an LF right behind belongs to that line end
     bool m_stopped = false;
     char m_separator = ',';
-    std::array<bool, 256> m_special{}; ///< bytes that a cell without quotes cannot hold
+    std::array<bool, 256> m_special{}; ///< bytes that end a cell without quotes
 
     // State of Deliver.
     CsvRow m_row;
-    std::string m_unquoted;      ///< texts of cells that hold doubled quotes
-    std::uint32_t m_rowLine = 0; ///< lines passed within the row
-    std::size_t m_lineStart = 0; ///< where the line within the row begins
+    std::string m_unquoted;      ///< texts of the quoted cells
+    std::uint32_t m_rowLine = 0; ///< line within the row, from 0
+    std::size_t m_lineStart = 0; ///< where that line begins in the row
 };
 
 } // namespace kavlix::recording

@@ -1,3 +1,5 @@
+// Divides the machine's memory into parts, and writes numbers of bytes.
+
 #include "monitor/recording/MemoryParts.h"
 
 #include <algorithm>
@@ -45,7 +47,7 @@ std::string FormatBytes(double bytes) {
     constexpr std::array<const char*, 7> units = {"bytes", "KB", "MB", "GB", "TB", "PB", "EB"};
     constexpr double step = 1024;
     std::size_t unit = 0;
-    // 1023.5 would be printed as 1024: the next unit takes over where the rounding does.
+    // From 1023.5 on, rounding would print 1024: take the next unit.
     while (bytes >= step - 0.5 && unit + 1 < units.size()) {
         bytes /= step;
         ++unit;

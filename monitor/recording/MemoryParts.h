@@ -1,3 +1,4 @@
+// The parts of the machine's memory on the pie page. MachineCounters reads the counters.
 #pragma once
 
 #include <cstdint>
@@ -7,30 +8,31 @@
 
 namespace kavlix::recording {
 
-/// What the machine's memory holds, in bytes.
+/// The counters of the machine's memory, in bytes.
 struct MachineMemory {
     std::uint64_t total = 0;             ///< physical memory
-    std::uint64_t available = 0;         ///< of it, for any program that asks: free, or a copy of something
-    std::optional<std::uint64_t> own;    ///< of it, in use by this program
-    std::optional<std::uint64_t> kernel; ///< of it, always held by the system's kernel
+    std::uint64_t available = 0;         ///< physical memory that a program can get at once
+    std::optional<std::uint64_t> own;    ///< physical memory that this program uses
+    std::optional<std::uint64_t> kernel; ///< physical memory that the kernel never pages out
     std::uint64_t pageFile = 0;          ///< size of all page files
     std::uint64_t pageFileUsed = 0;
 };
 
-/// A part of the memory.
+/// One part of the memory.
 struct MemoryPart {
     enum Kind { Others, Own, Kernel, Available, PageFileUsed, PageFileFree };
     Kind kind = Others;
     std::uint64_t bytes = 0;
 };
 
-/// The parts that memory and page files consist of; together they are the whole. What the system does not
-/// tell is part of what is in use by others. Counts that contradict one another are cut to what is left.
+/// Divides memory and page files into parts that add up to the whole. A counter that the system does not give
+/// has no part: its bytes count as Others. Where counters contradict one another, later parts are cut.
 std::vector<MemoryPart> PartsOf(const MachineMemory& memory);
 
+/// The name that the pie shows for a part.
 const char* NameOf(MemoryPart::Kind kind);
 
-/// A number of bytes for people, 1 KB being 1024 bytes: `512 bytes`, `22.7 GB`.
+/// A number of bytes as text, 1 KB being 1024 bytes: `512 bytes`, `22.7 GB`.
 std::string FormatBytes(double bytes);
 
 } // namespace kavlix::recording

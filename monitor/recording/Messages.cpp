@@ -1,8 +1,10 @@
+// Keeps and counts messages, and writes them as lines.
+
 #include "monitor/recording/Messages.h"
 
-#include "monitor/recording/NumberText.h"
-
 #include <utility>
+
+#include "monitor/recording/NumberText.h"
 
 namespace kavlix::recording {
 namespace {

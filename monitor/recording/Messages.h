@@ -1,3 +1,4 @@
+// Messages about what is wrong with a file, limited in number.
 #pragma once
 
 #include <array>
@@ -8,7 +9,7 @@
 
 namespace kavlix::recording {
 
-/// What a message is about. Messages of one kind are limited for each file.
+/// What a message is about. The number of messages of each kind is limited.
 enum class Complaint {
     File,          ///< the file cannot be opened, is empty, is no text, has no series
     Header,        ///< no header row, or a name in it
@@ -24,41 +25,42 @@ enum class Complaint {
     Count_         ///< number of kinds
 };
 
-/// One thing that was wrong.
+/// One thing that is wrong.
 struct Message {
     Complaint complaint = Complaint::File;
     std::string file;
-    std::uint64_t line = 0;   ///< from 1; 0 when the whole file is meant
-    std::uint64_t column = 0; ///< byte position in the line, from 1; 0 when the whole line is meant
+    std::uint64_t line = 0;   ///< from 1; 0 when the message is about the whole file
+    std::uint64_t column = 0; ///< byte position in the line, from 1; 0 when it is about the whole line
     std::string text;         ///< what was expected and what was found
 
     /// `FILE:LINE:COLUMN: text`, without the parts that are 0.
     std::string ToText() const;
 };
 
-/// The messages about one file. The first kLimit of every kind are kept, of the others only the count.
+/// The messages about one file. Keeps the text of the first kLimit messages of each kind, and counts
+/// the rest.
 class MessageLog {
 public:
     static constexpr std::size_t kLimit = 5;
 
     explicit MessageLog(std::string file = {}) : m_file(std::move(file)) {}
 
-    /// Counts one message of the kind; true when its text is still wanted, and must be given with Add.
+    /// Counts one message. When the result is true, the caller must pass the message's text to Add.
     bool Count(Complaint complaint);
 
-    /// Keeps the text of a message that Count asked for.
+    /// Keeps the text of a message for which Count returned true.
     void Add(Complaint complaint, std::uint64_t line, std::uint64_t column, std::string text);
 
-    /// The kept messages in the order they came.
+    /// The kept messages in the order of Add.
     const std::vector<Message>& Kept() const { return m_kept; }
 
-    /// How many messages of the kind there were, kept or not.
+    /// Number of messages of one kind, including those that were not kept.
     std::uint64_t CountOf(Complaint complaint) const { return m_counts[static_cast<std::size_t>(complaint)]; }
 
-    /// How many messages there were in all.
+    /// Number of messages of all kinds, including those that were not kept.
     std::uint64_t Total() const;
 
-    /// One line a message, and one line for each kind of which more were counted than kept.
+    /// The text of each kept message, then a line for each kind of which messages were not kept.
     std::vector<std::string> Lines() const;
 
 private:

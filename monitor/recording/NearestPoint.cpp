@@ -1,3 +1,5 @@
+// Distances on axes, and the search for the nearest sample or value.
+
 #include "monitor/recording/NearestPoint.h"
 
 #include <cmath>

@@ -1,3 +1,5 @@
+// Reads and writes numbers; makes text safe for messages and for UTF-8.
+
 #include "monitor/recording/NumberText.h"
 
 #include <algorithm>
@@ -34,9 +36,9 @@ bool IsAbsent(std::string_view text) {
                                        [&](std::string_view word) { return EqualsLower(text, word); });
 }
 
-/// Whether digits that do not fit a double are too small for it, rather than too large.
+/// Whether a number outside the range of a double is too small, not too large.
 bool IsUnderflow(std::string_view digits) {
-    constexpr long long kFar = 1'000'000'000;
+    constexpr long long kFar = 1'000'000'000; // exponents are cut to this
     const std::size_t mark = digits.find_first_of("eE");
     const std::string_view mantissa = digits.substr(0, mark);
     long long exponent = 0;
@@ -59,8 +61,8 @@ NumberKind ParsePlain(std::string_view text, double& value) {
     std::string_view digits = text;
     if (negative || text.front() == '+')
         digits.remove_prefix(1);
-    // Only these may begin a number here; from_chars alone would also take "inf", "nan(...)" and a second
-    // sign.
+    // A number begins with a digit or a point. from_chars would also accept "inf", "nan(...)" and a
+    // second sign.
     if (digits.empty() || !((digits.front() >= '0' && digits.front() <= '9') || digits.front() == '.'))
         return NumberKind::Bad;
     double read = 0;
@@ -77,7 +79,7 @@ NumberKind ParsePlain(std::string_view text, double& value) {
     return NumberKind::Value;
 }
 
-/// Length of the UTF-8 sequence at the front: 0 when there is none.
+/// Length of the UTF-8 sequence at the front of the text; 0 when the bytes are no such sequence.
 std::size_t SequenceLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char lead = byte(0);
@@ -89,7 +91,7 @@ std::size_t SequenceLength(std::string_view text) {
     for (std::size_t i = 1; i < length; ++i)
         if ((byte(i) & 0xC0) != 0x80)
             return 0;
-    // Overlong forms, surrogates and what lies beyond the last code point.
+    // Overlong forms, surrogates, and numbers above the last code point.
     if ((lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xED && byte(1) > 0x9F) ||
         (lead == 0xF0 && byte(1) < 0x90) || (lead == 0xF4 && byte(1) > 0x8F))
         return 0;

@@ -1,10 +1,12 @@
-#include "monitor/recording/Options.h"
+// Reads the command line; the text of --help.
 
-#include "monitor/recording/NumberText.h"
+#include "monitor/recording/Options.h"
 
 #include <algorithm>
 #include <charconv>
 #include <utility>
+
+#include "monitor/recording/NumberText.h"
 
 namespace kavlix::recording {
 namespace {
@@ -76,7 +78,7 @@ bool SetStyle(Options& options, std::string_view value) {
     return false;
 }
 
-/// The pages' names for people.
+/// The pages' names as a list: `graph, scroll or pie`.
 std::string PageNames() {
     std::string text;
     for (std::size_t i = 0; i < kPageNames.size(); ++i) {
@@ -96,8 +98,8 @@ bool SetPage(Options& options, std::string_view value) {
 
 struct ValueOption {
     std::string_view name;
-    bool (*set)(Options&, std::string_view); ///< false when the value is not as expected
-    std::string expected;
+    bool (*set)(Options&, std::string_view); ///< returns false for a wrong value
+    std::string expected;                    ///< a right value in words, for the message
 };
 
 const ValueOption kValueOptions[] = {
@@ -119,7 +121,8 @@ constexpr FlagOption kFlagOptions[] = {
     {"-h", &Options::help},
 };
 
-/// Reads one option, at `at`, which moves to its last argument. Sets options.error when it is wrong.
+/// Reads the option at `at` and moves `at` to the option's last argument. Sets options.error for a
+/// wrong option.
 void ReadOption(const std::vector<std::string>& arguments, std::size_t& at, Options& options) {
     const std::string& argument = arguments[at];
     const std::size_t equals = argument.find('=');

@@ -1,6 +1,5 @@
+// The Monitor's command line.
 #pragma once
-
-#include "monitor/recording/ViewChoice.h"
 
 #include <array>
 #include <cstddef>
@@ -9,43 +8,45 @@
 #include <string_view>
 #include <vector>
 
+#include "monitor/recording/ViewChoice.h"
+
 namespace kavlix::recording {
 
-/// Width and height of the window's client area in pixels.
+/// Size of the window's client area in pixels.
 struct WindowSize {
     int width = 0;
     int height = 0;
 };
 
-inline constexpr int kMinWindowSide = 100;
-inline constexpr int kMaxWindowSide = 10'000;
+inline constexpr int kMinWindowSide = 100;    // pixels
+inline constexpr int kMaxWindowSide = 10'000; // pixels
 inline constexpr double kMaxSeconds = 1e6;
 
-/// What `--page` calls the pages, in the order in which the menu offers them.
+/// The pages' names for `--page`, in the order of the menu.
 inline constexpr std::array<std::string_view, 5> kPageNames = {"graph", "scroll", "pie", "chart", "multi"};
-inline constexpr std::size_t kGraphPage = 0;  ///< recordings open on it
-inline constexpr std::size_t kScrollPage = 1; ///< and live readings on this one
+inline constexpr std::size_t kGraphPage = 0;  ///< the default page of recordings
+inline constexpr std::size_t kScrollPage = 1; ///< the default page of live readings
 
-/// The command line of the Monitor.
+/// What the command line asks for.
 struct Options {
     std::vector<std::string> files; ///< recordings; none: live readings
-    std::string shot;               ///< PNG to save before ending; empty: none
-    std::optional<double> seconds;  ///< end after this time
+    std::string shot;               ///< PNG file to save before the program ends; empty: none
+    std::optional<double> seconds;  ///< the program ends after this time
     std::optional<WindowSize> size;
     std::optional<ViewStyle> style;
     std::optional<std::size_t> page; ///< index into kPageNames
-    bool check = false;              ///< read, report, end
-    bool help = false;               ///< print HelpText and end with 0
+    bool check = false;              ///< read the files, print the report and end
+    bool help = false;               ///< print HelpText and end
 
-    /// What is wrong with the command line, for people; empty when nothing is. The exit status is 2 then.
+    /// What is wrong with the command line, as text for a person; empty when nothing is.
     std::string error;
 };
 
-/// Reads the arguments behind the program's name. `--option value` and `--option=value` are the same; of a
-/// repeated option the last counts; behind `--` everything is a file.
+/// Reads the arguments that follow the program's name. `--option value` and `--option=value` mean the same.
+/// Of a repeated option the last one counts. Every argument behind `--` is a file.
 Options ParseOptions(const std::vector<std::string>& arguments);
 
-/// What `--help` prints.
+/// The text that `--help` prints.
 std::string HelpText();
 
 } // namespace kavlix::recording

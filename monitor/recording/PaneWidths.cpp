@@ -1,3 +1,5 @@
+// Divides the width of the status bar.
+
 #include "monitor/recording/PaneWidths.h"
 
 #include <algorithm>

@@ -1,17 +1,15 @@
+// Chooses the periods of a recording and computes their statistics.
+
 #include "monitor/recording/Periods.h"
 
 #include <algorithm>
-#include <climits>
 #include <cmath>
-#include <cstdio>
-#include <limits>
 
 namespace kavlix::recording {
-
 namespace {
 
 constexpr Time kMinute = kMicrosPerMinute;
-constexpr Time kHour = 60 * kMinute;
+constexpr Time kHour = kMicrosPerHour;
 constexpr Time kDay = kMicrosPerDay;
 constexpr Time kWeek = 7 * kDay;
 constexpr Time kLengths[] = {5 * kMicrosPerSecond,
@@ -27,29 +25,12 @@ constexpr Time kLengths[] = {5 * kMicrosPerSecond,
                              kWeek,
                              4 * kWeek,
                              12 * kWeek};
-constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 
-// Units on an axis.
-constexpr double kFewestUnits = 100;  // between lowest and highest
-constexpr double kMostUnits = 9999;   // of the highest, if that leaves enough
-constexpr double kLargest = 99999999; // of the highest, in any case
-constexpr int kLargestPower = 300;    // of ten, so that it is a number, and its inverse, too
-constexpr double kWantedTicks = 7;
-
-Time FloorTo(Time time, Time length) {
-    // A Monday, so that weeks begin with it.
-    static const Time origin = FromCivil({1970, 1, 5, 0, 0, 0, 0});
-    const Time since = time - origin;
-    return time - ((since % length) + length) % length;
-}
-
-/// The round number at or above.
-double RoundStep(double least) {
-    const double power = std::pow(10, std::floor(std::log10(least)));
-    for (const double factor : {1.0, 2.0, 5.0})
-        if (factor * power >= least)
-            return factor * power;
-    return 10 * power;
+/// Where the period begins that holds `time`. Periods are counted from a Monday, so that weeks begin
+/// on Mondays.
+Time BeginOfPeriod(Time time, Time length) {
+    static const Time monday = FromCivil({1970, 1, 5, 0, 0, 0, 0});
+    return monday + FloorTo(time - monday, length);
 }
 
 } // namespace
@@ -59,7 +40,7 @@ Periods::Periods(const std::vector<Time>& times) {
         return;
     const auto fits = [&](Time length) {
         m_length = length;
-        m_first = FloorTo(times.front(), length);
+        m_first = BeginOfPeriod(times.front(), length);
         m_count = static_cast<std::size_t>((times.back() - m_first) / length) + 1;
         return m_count <= kMost;
     };
@@ -71,6 +52,7 @@ Periods::Periods(const std::vector<Time>& times) {
 }
 
 std::string Periods::Label(std::size_t period) const {
+    // Ends of the parts of `YYYY-MM-DD HH:MM:SS`.
     constexpr std::size_t year = 4, month = 7, day = 10, minute = 16;
     const std::string text = FormatDateTime(Begin(period), TimePrecision::Seconds);
     if (m_length < kMinute)
@@ -98,8 +80,8 @@ std::string Periods::LengthText() const {
 
 PeriodStatistics StatisticsOf(const Recording& recording, std::size_t series, const Periods& periods) {
     const std::size_t count = periods.Count();
-    PeriodStatistics found{std::vector<double>(count, kNothing), std::vector<double>(count, kNothing),
-                           std::vector<double>(count, kNothing)};
+    PeriodStatistics found{std::vector<double>(count, kNoValue), std::vector<double>(count, kNoValue),
+                           std::vector<double>(count, kNoValue)};
     std::vector<double> counts(count, 0);
     const std::vector<double>& values = recording.series[series].values;
     for (std::size_t row = 0; row < values.size(); ++row) {
@@ -113,7 +95,7 @@ PeriodStatistics StatisticsOf(const Recording& recording, std::size_t series, co
         }
         found.lowest[period] = std::min(found.lowest[period], values[row]);
         found.highest[period] = std::max(found.highest[period], values[row]);
-        // In halves of what may be the largest numbers.
+        // Running mean: the sum of the values may exceed the range of a double.
         double& mean = found.mean[period];
         mean = mean * ((n - 1) / n) + values[row] / n;
     }
@@ -140,46 +122,6 @@ std::vector<std::vector<double>> RankedValues(const Recording& recording, std::s
     for (std::vector<double>& all : ranked)
         all = RankedOf(std::move(all));
     return ranked;
-}
-
-int WholeScale::ToWhole(double value) const {
-    return static_cast<int>(std::lround(std::clamp(value * factor, -1e9, 1e9)));
-}
-
-std::string WholeScale::UnitText() const {
-    if (factor == 1)
-        return {};
-    char text[48];
-    std::snprintf(text, sizeof text, " (x %.10g)", 1 / factor);
-    return text;
-}
-
-WholeScale ChooseWholeScale(const ValueSpan& values, bool fromZero) {
-    WholeScale scale;
-    const double low = fromZero ? std::min(values.min, 0.0) : values.min;
-    const double high = fromZero ? std::max(values.max, 0.0) : values.max;
-    const double largest = std::max(std::abs(low), std::abs(high));
-    if (!values.any || largest == 0)
-        return scale;
-    // Of a single value the distance from 0 counts.
-    const double range = high > low ? high / 2 - low / 2 : largest / 2;
-    const auto units = [](double value, int power) { return value * std::pow(10, power); };
-    int power = 0;
-    while (power < kLargestPower && 2 * units(range, power) < kFewestUnits)
-        ++power;
-    while (power > -kLargestPower - 10 && units(largest, power) > kMostUnits &&
-           (2 * units(range, power - 1) >= kFewestUnits || units(largest, power) > kLargest))
-        --power;
-    scale.factor = std::pow(10, power);
-    const double bottom = low * scale.factor;
-    const double top = high * scale.factor;
-    const double step = std::max(1.0, RoundStep(std::max(top - bottom, 1.0) / kWantedTicks));
-    scale.step = static_cast<int>(step);
-    scale.min = static_cast<int>(std::floor(bottom / step) * step);
-    scale.max = static_cast<int>(std::ceil(top / step) * step);
-    if (scale.min == scale.max)
-        scale.max += scale.step;
-    return scale;
 }
 
 } // namespace kavlix::recording

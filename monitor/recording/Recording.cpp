@@ -1,3 +1,5 @@
+// Questions about a whole recording, and spans of values.
+
 #include "monitor/recording/Recording.h"
 
 #include <algorithm>

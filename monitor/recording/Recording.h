@@ -1,102 +1,119 @@
+// What was read: the times and series of joined files, and a summary of each file.
 #pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <vector>
 
 #include "monitor/recording/Messages.h"
 #include "monitor/recording/TimeText.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <string>
-#include <vector>
-
 namespace kavlix::recording {
 
-/// As many series as the graph control has datasets.
+/// The most series of a recording: the graph control has that number of datasets.
 inline constexpr std::size_t kMaxSeries = 13;
+
+/// Stands in a series where there is no value: a gap.
+inline constexpr double kNoValue = std::numeric_limits<double>::quiet_NaN();
 
 /// One series of a recording.
 struct Series {
     std::string name;           ///< UTF-8, distinct within the recording, never empty
     std::size_t file = 0;       ///< index of its file in Recording::files
-    std::vector<double> values; ///< one a time stamp; NaN where the series has no value
+    std::vector<double> values; ///< one for each time; kNoValue for a gap
 };
 
 /// What one file gave.
 struct FileSummary {
     struct SeriesSummary {
         std::string name;         ///< as in Series
-        std::uint64_t values = 0; ///< samples with a value
-        std::uint64_t absent = 0; ///< rows in which this series has no value
-        std::uint64_t gaps = 0;   ///< runs of such rows
-        double min = 0;           ///< lowest and highest value; meaningless when values is 0
+        std::uint64_t values = 0; ///< number of samples with a value
+        std::uint64_t absent = 0; ///< number of rows without a value
+        std::uint64_t gaps = 0;   ///< number of runs of such rows
+        double min = 0;           ///< lowest and highest value; meaningless when `values` is 0
         double max = 0;
     };
 
     std::string path;
-    std::uint64_t bytes = 0;       ///< bytes read
-    std::uint64_t rows = 0;        ///< rows kept
-    std::uint64_t rowsLeftOut = 0; ///< rows (not the header) of which nothing is kept
-    bool leftOut = false;          ///< nothing of the file is shown
-    bool zoned = false;            ///< its times name a zone: they are shown in UTC
-    Time first = 0;                ///< earliest and latest time; meaningless when rows is 0
+    std::uint64_t bytes = 0;       ///< number of bytes read
+    std::uint64_t rows = 0;        ///< number of rows kept
+    std::uint64_t rowsLeftOut = 0; ///< number of rows, without the header, that were left out
+    bool leftOut = false;          ///< the whole file was left out
+    bool zoned = false;            ///< the file's times name a time zone: they were converted to UTC
+    Time first = 0;                ///< earliest and latest time; meaningless when `rows` is 0
     Time last = 0;
     Time interval = 0;          ///< median distance of neighbouring rows; 0 with fewer than two
-    std::uint64_t timeGaps = 0; ///< neighbours farther apart than 1.5 times that
-    Time longestGap = 0;        ///< the largest of those distances
+    std::uint64_t timeGaps = 0; ///< number of neighbouring rows farther apart than LongestStep(interval)
+    Time longestGap = 0;        ///< the greatest of their distances
     std::vector<SeriesSummary> series;
     MessageLog log;
 };
 
-/// How reading went. The numbers are the exit status of the program.
+/// The result of reading. The numbers are the program's exit status.
 enum class Status {
     Fine = 0,    ///< every row of every file is shown
     LeftOut = 1, ///< a row or a whole file was left out
     Nothing = 2  ///< there is nothing to show
 };
 
-/// Recordings joined on time.
+/// Several files, joined on time.
 ///
-/// The time stamps are those of all files, in ascending order. Rows with the same time in several files
-/// become one row; a time that occurs several times within a file stays several rows, in the file's order,
-/// and pairs with the same occurrence in the other files. A row whose time lies before the row above it (a
-/// clock that was set back) is told, kept, and stands where its time belongs.
+/// The times are those of all files, in ascending order. Rows of several files with the same time become one
+/// row. A time that occurs several times within one file stays several rows, in the file's order: the first
+/// pairs with the first row of that time in the other files, the second with the second. A row whose time is
+/// before the previous row's (a clock was set back) causes a message and is sorted by its time.
 struct Recording {
     std::vector<Time> times;
     std::vector<Series> series;     ///< at most kMaxSeries, in the order of the files and their columns
-    std::vector<FileSummary> files; ///< in the order they were given
-    bool cancelled = false;         ///< reading was cancelled: this is what was read until then
-    std::uint64_t removed = 0;      ///< rows that were taken away at the head since reading
+    std::vector<FileSummary> files; ///< in the order of the command line or the dialog
+    bool cancelled = false;         ///< reading was cancelled: the recording is incomplete
+    std::uint64_t removed = 0;      ///< number of rows that WithoutHead removed
 
-    /// Whether there is no value at all to show.
+    /// Whether there is no value at all.
     bool Empty() const;
 
-    /// Rows left out, of all files.
+    /// Number of rows left out, of all files.
     std::uint64_t RowsLeftOut() const;
 
     Status GetStatus() const;
 
-    /// Whether any file's times name a zone.
+    /// Whether the times of any file name a time zone.
     bool Zoned() const;
 };
 
-/// The recording from its row `count` on; at least the last row stays. What is told of the files stays as it
-/// was read.
+/// A part of a recording's samples, by index: `first` to `last`, both included.
+struct VisibleRange {
+    std::size_t first = 0;
+    std::size_t last = 0;
+};
+
+/// The recording without its first `count` rows; at least the last row stays. The file summaries stay as they
+/// were read.
 Recording WithoutHead(const Recording& source, std::size_t count);
 
 /// Lowest and highest finite value.
 struct ValueSpan {
-    bool any = false; ///< false: there is none, and min and max are 0
+    bool any = false; ///< false: there is no value, and min and max are 0
     double min = 0;
     double max = 0;
 
-    /// Widens the span to hold the value; NaN and infinities are ignored.
+    /// Widens the span to hold the value. NaN and infinities are ignored.
     void Take(double value);
     void Take(const ValueSpan& other);
 };
 
-/// The span of the values from index `first` on, at most `count` of them.
+/// The span of at most `count` values from index `first` on.
 ValueSpan SpanOf(const std::vector<double>& values, std::size_t first = 0, std::size_t count = SIZE_MAX);
 
-/// Median distance of neighbouring times; 0 with fewer than two. Ascending times are expected.
+/// Median distance of neighbouring times; 0 with fewer than two times. The times must ascend.
 Time MedianInterval(const std::vector<Time>& times);
+
+/// The longest distance between rows of a file that still follow one another: 1.5 intervals. A longer
+/// distance is a gap in time.
+inline Time LongestStep(Time interval) {
+    return interval + interval / 2;
+}
 
 } // namespace kavlix::recording

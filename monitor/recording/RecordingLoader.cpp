@@ -1,7 +1,6 @@
-#include "monitor/recording/RecordingLoader.h"
+// Opens the files one after another, feeds their bytes to a table reader, and joins the tables.
 
-#include "monitor/recording/Join.h"
-#include "monitor/recording/TableReader.h"
+#include "monitor/recording/RecordingLoader.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -11,17 +10,20 @@
 #include <system_error>
 #include <utility>
 
+#include "monitor/recording/TableJoin.h"
+#include "monitor/recording/TableReader.h"
+
 namespace kavlix::recording {
 namespace {
 
-constexpr std::size_t kMostAtOnce = std::size_t{1} << 18;
+constexpr std::size_t kBufferSize = std::size_t{1} << 18; // bytes
 
 std::string LastSystemError() {
     const int error = errno;
     return error != 0 ? std::generic_category().message(error) : std::string("it cannot be opened");
 }
 
-/// Size in bytes; 0 when it cannot be told (a device, a folder, no such file).
+/// Size of a file in bytes; 0 when the system gives none (a device, a folder, no such file).
 std::uint64_t SizeOf(const std::string& path) {
     constexpr std::uint64_t kLargestPlausible = std::uint64_t{1} << 60;
     std::ifstream stream(path, std::ios::binary | std::ios::ate);
@@ -49,12 +51,12 @@ struct RecordingLoader::State {
     std::ifstream stream;
     std::unique_ptr<TableReader> reader;
     Progress progress;
-    std::uint64_t bytesBefore = 0; ///< sizes of the files already ended
+    std::uint64_t bytesBefore = 0; ///< size of the files that were read to their end
     std::size_t seriesTaken = 0;
 
     FileSummary& File() { return recording.files[progress.file]; }
 
-    /// Opens the file that is next. @return false when it cannot be read.
+    /// Opens the current file; false when it cannot be read.
     bool Open() {
         FileSummary& file = File();
         reader = std::make_unique<TableReader>(file, kMaxSeries - seriesTaken);
@@ -72,7 +74,7 @@ struct RecordingLoader::State {
             File().log.Add(Complaint::File, 0, 0, text);
     }
 
-    /// Reads one piece of the current file. @return bytes read; 0 at its end.
+    /// Reads at most `most` bytes of the current file into the buffer. Returns their number, 0 at the end.
     std::size_t ReadPiece(std::size_t most) {
         if (reader->Stopped())
             return 0;
@@ -108,7 +110,7 @@ struct RecordingLoader::State {
         progress.rows += reader->Rows() - rowsBefore;
     }
 
-    /// Reads on in the current file. @return bytes taken from the budget.
+    /// Reads and parses the next piece of the current file. Returns the number of bytes read.
     std::size_t ReadSome(std::size_t budget) {
         if (!reader && !Open()) {
             EndFile();
@@ -141,7 +143,7 @@ struct RecordingLoader::State {
 };
 
 RecordingLoader::RecordingLoader(std::vector<std::string> paths) : m_state(std::make_unique<State>()) {
-    m_state->buffer.resize(kMostAtOnce);
+    m_state->buffer.resize(kBufferSize);
     for (std::string& path : paths) {
         m_state->sizes.push_back(SizeOf(path));
         m_state->progress.bytesTotal += m_state->sizes.back();

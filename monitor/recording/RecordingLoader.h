@@ -1,6 +1,5 @@
+// Reads recordings from files, piece by piece.
 #pragma once
-
-#include "monitor/recording/Recording.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -8,50 +7,52 @@
 #include <string>
 #include <vector>
 
+#include "monitor/recording/Recording.h"
+
 namespace kavlix::recording {
 
 /// How far a RecordingLoader is.
 struct Progress {
     std::uint64_t bytesDone = 0;
-    std::uint64_t bytesTotal = 0; ///< of all files, as found when loading began; never less than bytesDone
-    std::size_t file = 0;         ///< index of the file being read
-    std::uint64_t rows = 0;       ///< rows kept so far, of all files
+    std::uint64_t bytesTotal = 0; ///< size of all files when loading began; never less than bytesDone
+    std::size_t file = 0;         ///< index of the current file
+    std::uint64_t rows = 0;       ///< rows kept of all files
     bool finished = false;
 
-    /// Done share in percent, 0 to 100; 100 only when finished.
+    /// The share of the bytes that is done, 0 to 100. Only a finished loader returns 100.
     int Percent() const;
 };
 
-/// Reads recordings in slices, so that a window lives meanwhile:
+/// Reads recordings in slices, so that a window can process messages between two slices:
 ///
 ///     RecordingLoader loader(paths);
 ///     while (!loader.Step(RecordingLoader::kSlice).finished) { pump messages; show progress; }
 ///     Recording recording = loader.Take();
 ///
-/// It never throws for what the files hold or for files that are missing: that ends in the messages.
+/// Missing files and wrong contents never throw: they cause messages in the file's summary.
 class RecordingLoader {
 public:
-    /// A slice that takes some milliseconds.
+    /// Bytes of a slice that takes a few milliseconds.
     static constexpr std::size_t kSlice = std::size_t{1} << 20;
 
-    /// @param paths file names in the process code page, shown in messages as they are given.
+    /// `paths` are file names in the process code page. Messages show them as given.
     explicit RecordingLoader(std::vector<std::string> paths);
     ~RecordingLoader();
 
     RecordingLoader(const RecordingLoader&) = delete;
     RecordingLoader& operator=(const RecordingLoader&) = delete;
 
-    /// Reads about `budgetBytes` more (at least one byte's worth). The last step also joins the files. After
-    /// the end it changes nothing.
+    /// Reads about `budgetBytes` more, at least one byte. The last step also joins the files. Does nothing
+    /// once loading has finished.
     Progress Step(std::size_t budgetBytes);
 
-    /// Where loading stands, without reading.
+    /// How far loading is, without reading.
     Progress GetProgress() const;
 
-    /// Ends loading with what has been read; files not yet begun are left out.
+    /// Ends loading and keeps what was read. The remaining files are left out.
     void Cancel();
 
-    /// The recording, after the end; the loader is empty then. Before the end it cancels first.
+    /// Hands over the recording; the loader is empty afterwards. Before the end of loading, cancels first.
     Recording Take();
 
     /// Reads all files at once.

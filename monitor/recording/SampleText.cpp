@@ -1,17 +1,18 @@
-#include "monitor/recording/SampleText.h"
+// Writes the time, names and values of a sample.
 
-#include "monitor/recording/NumberText.h"
-#include "monitor/recording/TextCut.h"
+#include "monitor/recording/SampleText.h"
 
 #include <cmath>
 #include <cstdio>
 #include <utility>
 
-namespace kavlix::recording {
+#include "monitor/recording/NumberText.h"
+#include "monitor/recording/TextCut.h"
 
+namespace kavlix::recording {
 namespace {
 
-constexpr std::size_t kNameBytes[] = {32, 10, 0}; // of a longer name, in each form
+constexpr std::size_t kNameBytes[] = {32, 10, 0}; // longest name in each form; 0: no names
 constexpr std::size_t kDateBytes = 11;            // `YYYY-MM-DD` and a blank
 
 std::string ValueText(double value, ValueDigits digits) {
@@ -22,7 +23,7 @@ std::string ValueText(double value, ValueDigits digits) {
     return text;
 }
 
-/// A name as it stands before its value: of a long one only the beginning, so that the value is still seen.
+/// The text before a value: the name, cut to `limit` bytes so that the value stays visible.
 std::string NameText(const std::string& name, std::size_t limit) {
     if (limit == 0)
         return {};

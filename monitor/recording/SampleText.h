@@ -1,29 +1,30 @@
+// The text of one sample for the status bar.
 #pragma once
-
-#include "monitor/recording/TimeText.h"
 
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "monitor/recording/TimeText.h"
+
 namespace kavlix::recording {
 
-/// A series' value at some time.
+/// The value of a series at some time.
 struct NamedValue {
     std::string name;
-    double value = 0;              ///< NaN: there is none
-    std::optional<Time> time = {}; ///< of the value, when it may be another than the one asked for
+    double value = 0;              ///< NaN: the series has no value there
+    std::optional<Time> time = {}; ///< the value's own time, where it may differ from the sample's
 };
 
-/// How exactly values are written.
+/// Number of digits of a value.
 enum class ValueDigits {
-    AsRead,  ///< as many as tell the number from every other
-    Computed ///< six: a mean, or a reading that was divided, has more than it means
+    AsRead,  ///< all that FormatNumber needs to identify the number
+    Computed ///< six: more digits of a mean or of a converted reading have no meaning
 };
 
-/// A line for a status bar, longest first and in shorter forms for less room: the time, then name and value
-/// of every series that has one; the same with the beginnings of the names only; without names. Behind a
-/// value of another time stands that time, without the day when the day is the same.
+/// Texts of a sample in three forms, the longest first: the time with name and value of every series that has
+/// a value; the same with shortened names; the same without names. A value whose own time differs from `time`
+/// is followed by its time, without the date when the date is the same.
 std::vector<std::string> SampleTexts(Time time, const std::vector<NamedValue>& values, ValueDigits digits);
 
 } // namespace kavlix::recording

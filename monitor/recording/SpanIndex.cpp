@@ -1,12 +1,13 @@
+// Spans of blocks of 256 values.
+
 #include "monitor/recording/SpanIndex.h"
 
 #include <algorithm>
 
 namespace kavlix::recording {
-
 namespace {
 
-constexpr std::size_t kBlock = 256; // values
+constexpr std::size_t kBlock = 256; // values in a block
 
 } // namespace
 

@@ -1,23 +1,22 @@
-#include "monitor/recording/TableReader.h"
+// Reads header and rows of a file, and describes every fault in a message.
 
-#include "monitor/recording/NumberText.h"
+#include "monitor/recording/TableReader.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numeric>
 #include <utility>
 
+#include "monitor/recording/NumberText.h"
+
 namespace kavlix::recording {
 namespace {
-
-constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
 
 bool IsBlankRow(const CsvRow& row) {
     return row.cells.size() == 1 && TrimBlanks(row.cells.front().text).empty();
 }
 
-/// Cells without the blank ones at the end, which trailing separators leave.
+/// Number of cells without blank ones at the end, which come from trailing separators.
 std::size_t CountFilledCells(const CsvRow& row) {
     std::size_t count = row.cells.size();
     while (count > 0 && TrimBlanks(row.cells[count - 1].text).empty())
@@ -25,7 +24,7 @@ std::size_t CountFilledCells(const CsvRow& row) {
     return count;
 }
 
-/// Whether the text holds bytes that no text file holds. Line breaks may stand in a quoted name.
+/// Whether the text holds control characters other than tab and line breaks, which a quoted name may hold.
 bool HoldsBinary(std::string_view text) {
     return std::any_of(
         text.begin(), text.end(),
@@ -119,7 +118,7 @@ bool TableReader::OnRow(const CsvRow& row) {
     return true;
 }
 
-/// Adds a message about the row's cell; an index beyond the last cell means the row's end.
+/// Adds a message about a cell of the row. An index beyond the last cell means the row's end.
 void TableReader::Tell(Complaint complaint, const CsvRow& row, std::size_t cell, const std::string& text) {
     if (cell < row.cells.size())
         m_summary.log.Add(complaint, row.line + row.cells[cell].line, row.cells[cell].column, text);
@@ -146,8 +145,7 @@ bool TableReader::ReadHeader(const CsvRow& row) {
         if (m_summary.log.Count(Complaint::Header)) {
             Tell(Complaint::Header, row, row.cells.size(),
                  "expected the names of a time column and of at least one series, separated by comma, "
-                 "semicolon or "
-                 "tab, found " +
+                 "semicolon or tab, found " +
                      Counted(cellCount, "column") + "; the file is left out");
         }
         return false;
@@ -164,7 +162,7 @@ bool TableReader::ReadHeader(const CsvRow& row) {
     return true;
 }
 
-/// Makes the columns. @return false when no series may be taken any more.
+/// Makes a column for each series; false when the limit leaves room for none.
 bool TableReader::TakeNames(const CsvRow& row, std::size_t cellCount, bool named) {
     m_cellCount = cellCount;
     const std::size_t taken = std::min(cellCount - 1, m_maxSeries);
@@ -207,7 +205,7 @@ void TableReader::ReadData(const CsvRow& row) {
     ++m_summary.rows;
 }
 
-/// Reads the numbers of the row into m_values. @return false when the row is to be left out.
+/// Reads the numbers of the row into m_values; false when the row must be left out.
 bool TableReader::ReadCells(const CsvRow& row) {
     const std::size_t found = row.cells.size();
     if (found > m_cellCount && CountFilledCells(row) > m_cellCount) {
@@ -221,7 +219,7 @@ bool TableReader::ReadCells(const CsvRow& row) {
     bool damaged = found < m_cellCount;
     bool anyValue = false;
     for (std::size_t i = 0; i < m_values.size(); ++i) {
-        m_values[i] = kGap;
+        m_values[i] = kNoValue;
         if (i + 1 >= found)
             continue;
         const std::string_view text = row.cells[i + 1].text;
@@ -282,7 +280,7 @@ void TableReader::Summarize() {
     m_summary.interval = MedianInterval(times);
     for (std::size_t i = 1; i < times.size(); ++i) {
         const Time distance = times[i] - times[i - 1];
-        if (distance > m_summary.interval + m_summary.interval / 2) {
+        if (distance > LongestStep(m_summary.interval)) {
             ++m_summary.timeGaps;
             m_summary.longestGap = std::max(m_summary.longestGap, distance);
         }

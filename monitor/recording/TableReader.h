@@ -1,12 +1,13 @@
+// Makes a table of times and numbers from the rows of one file.
 #pragma once
-
-#include "monitor/recording/CsvReader.h"
-#include "monitor/recording/Recording.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "monitor/recording/CsvReader.h"
+#include "monitor/recording/Recording.h"
 
 namespace kavlix::recording {
 
@@ -14,37 +15,36 @@ namespace kavlix::recording {
 struct Table {
     std::vector<Time> times;
     std::vector<std::string> names;           ///< of the series, from the header; not yet distinct
-    std::vector<std::vector<double>> columns; ///< one a name, as long as times; NaN is a gap
+    std::vector<std::vector<double>> columns; ///< one for each name, as long as `times`; NaN is a gap
 };
 
-/// Makes a table of one file's rows and says what is wrong with them. The rules:
+/// Makes a table of one file's rows, and a message for everything that is wrong. The rules:
 ///
-/// - The header names the series. Where the first row is data already, names are made up and the row is kept.
-/// - A row with an unreadable time is left out. So is one with too many cells: nobody can tell which of them
-/// belong
-///   to which series.
-/// - A cell that is no number, or is missing at the end of the row, is a gap; when that leaves nothing
-///   of the row, it is left out and counted.
-/// - A time before the one above is told; the row is kept, and sorted in at the end.
+/// - The header names the series. When the first row is data, the reader makes up names and keeps the row.
+/// - A row with an unreadable time is left out. A row with too many cells is left out too, because their
+///   series are unknown.
+/// - A cell that is no number is a gap. A cell missing at the end of the row is a gap too. When no value of
+///   the row remains, the row is left out and counted.
+/// - A time before the previous row's causes a message. The row is kept, and sorted by time at the end.
 class TableReader final : public CsvSink {
 public:
-    /// @param summary receives the messages and counts; it must outlive the reader.
-    /// @param maxSeries series that may still be taken.
+    /// `summary` receives the messages and counts, and must outlive the reader. The reader takes at most
+    /// `maxSeries` series.
     TableReader(FileSummary& summary, std::size_t maxSeries);
 
     /// Feeds bytes of the file.
     void Feed(const char* data, std::size_t size);
 
-    /// Ends the file and completes the summary. A table without rows is empty, and its file is left out.
+    /// Ends the file and completes the summary. Without any row the table is empty, and the file is left out.
     Table Finish();
 
     /// Whether the rest of the file need not be read.
     bool Stopped() const { return m_csv.Stopped(); }
 
-    /// Rows kept so far.
+    /// Number of rows kept until now.
     std::size_t Rows() const { return m_table.times.size(); }
 
-    /// Ends reading because the memory ran out, and says so: gives back what was only half added.
+    /// Stops reading after a failed allocation: removes the incomplete last row, and adds a message.
     void RecoverFromLowMemory();
 
     bool OnRow(const CsvRow& row) override;
@@ -64,11 +64,11 @@ private:
     std::size_t m_maxSeries;
     CsvReader m_csv;
     Table m_table;
-    std::size_t m_cellCount = 0;  ///< cells of a full row, the time included
-    std::vector<double> m_values; ///< the current row
+    std::size_t m_cellCount = 0;  ///< cells of a complete row, including the time
+    std::vector<double> m_values; ///< the current row's values
     std::uint64_t m_endLine = 1;  ///< line behind the last row
     bool m_headerSeen = false;
-    bool m_unsorted = false;
+    bool m_unsorted = false; ///< a time was before the previous row's
 };
 
 } // namespace kavlix::recording

@@ -1,3 +1,4 @@
+// Cuts UTF-8 text to the room there is.
 #pragma once
 
 #include <algorithm>
@@ -5,7 +6,8 @@
 
 namespace kavlix::recording {
 
-/// Bytes to take from the front of UTF-8 text so that no character is cut; at most `bytes`.
+/// The greatest number of bytes, at most `bytes`, that can be cut off the front of `text` without dividing a
+/// UTF-8 character.
 inline std::size_t WholeCharacters(const std::string& text, std::size_t bytes) {
     bytes = std::min(bytes, text.size());
     while (bytes > 0 && bytes < text.size() && (static_cast<unsigned char>(text[bytes]) & 0xC0) == 0x80)
@@ -13,8 +15,8 @@ inline std::size_t WholeCharacters(const std::string& text, std::size_t bytes) {
     return bytes;
 }
 
-/// The text, or as much of it as fits with dots behind it; empty when not even one character does.
-/// @param fits tells of a text whether there is room for it; shorter texts need no more room
+/// The text, or the longest beginning of it that fits with `...` behind it; empty when not even one character
+/// fits. `fits` returns whether there is room for a text; a shorter text must not need more room.
 template <class Fits> std::string CutToFit(const std::string& text, Fits fits) {
     if (fits(text))
         return text;

@@ -1,3 +1,5 @@
+// Chooses form and precision of the time labels, and writes them.
+
 #include "monitor/recording/TimeLabels.h"
 
 #include <algorithm>
@@ -5,8 +7,8 @@
 namespace kavlix::recording {
 namespace {
 
-// The control's X label font is 300 units high; its digits are about 150 wide, and the text stands 100 below
-// the axis.
+// Logical units. The control's X label font is 300 high, its digits are about 150 wide, and the labels begin
+// 100 below the axis.
 constexpr int kCharWidth = 160;
 constexpr int kBandMargin = 200;
 
@@ -42,7 +44,7 @@ TimeLabelStyle::Form ChooseForm(const std::vector<Time>& times, int labels) {
     return All(times, IsNewYear) ? Form::Year : Form::Month;
 }
 
-/// What the times need to be told apart, but no more than a picture of their span can use.
+/// The precision that distinguishes the times, but not finer than is useful for their span.
 TimePrecision ChoosePrecision(const std::vector<Time>& times) {
     if (times.empty())
         return TimePrecision::Seconds;
@@ -70,7 +72,7 @@ TimeLabelStyle ChooseTimeLabels(const std::vector<Time>& times, int labels) {
 
 std::string MakeTimeLabel(const TimeLabelStyle& style, Time time) {
     using Form = TimeLabelStyle::Form;
-    constexpr std::size_t year = 5; // characters: `2013-`
+    constexpr std::size_t year = 5; // length of `2013-`
     const std::string date = FormatDate(time);
     switch (style.form) {
     case Form::Clock:
@@ -80,7 +82,7 @@ std::string MakeTimeLabel(const TimeLabelStyle& style, Time time) {
     case Form::Date:
         return date;
     case Form::Month:
-        return date.substr(0, 7);
+        return date.substr(0, 7); // `2013-12`
     case Form::Year:
         return date.substr(0, 4);
     }

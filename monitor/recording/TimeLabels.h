@@ -1,40 +1,41 @@
+// The labels of the graph page's time axis.
 #pragma once
-
-#include "monitor/recording/TimeText.h"
 
 #include <string>
 #include <vector>
 
+#include "monitor/recording/TimeText.h"
+
 namespace kavlix::recording {
 
-/// How the samples' times are written at the X axis. The graph control draws the texts upwards, each in one
-/// line: in its form of two lines they would touch.
+/// How the samples' times are written along the X axis. The labels use the control's form of one line, drawn
+/// upwards: in the form of two lines, neighbouring labels would touch.
 struct TimeLabelStyle {
     enum class Form {
-        Clock,       ///< `14:05:00`: all within a day
+        Clock,       ///< `14:05:00`: all times within one day
         DayAndClock, ///< `12-02 21:15`
-        Date,        ///< `2013-12-02`: the labels are a day or more apart, or every time is a midnight
-        Month,       ///< `2013-12`: every time is a midnight of a first
-        Year         ///< `2013`: every time is a New Year's midnight
+        Date,        ///< `2013-12-02`: the labels are a day or more apart, or every time is midnight
+        Month,       ///< `2013-12`: every time is midnight of the first of a month
+        Year         ///< `2013`: every time is midnight of 1 January
     };
 
     Form form = Form::Clock;
     TimePrecision precision = TimePrecision::Seconds;
-    int chars = 8; ///< length of the texts: the limit to give SetXTickLabelUpStringMaxLength, at least
-    int bandHeight = 1500; ///< height for SetXTickLabelHeight in logical units (1/30 pixel)
+    int chars = 8;         ///< length of the labels, for SetXTickLabelUpStringMaxLength
+    int bandHeight = 1500; ///< height for SetXTickLabelHeight, in logical units
 
     bool operator==(const TimeLabelStyle& other) const {
         return form == other.form && precision == other.precision;
     }
 };
 
-/// Chooses the style for ascending times of which at most `labels` (at least 1) are written.
+/// Chooses the style for ascending times when the axis has room for `labels` labels.
 TimeLabelStyle ChooseTimeLabels(const std::vector<Time>& times, int labels);
 
-/// The text of one sample for AddXTickLabel.
+/// The label of one sample, for AddXTickLabel.
 std::string MakeTimeLabel(const TimeLabelStyle& style, Time time);
 
-/// A text for the X axis as a whole: the day, or first and last time, with `UTC` when the times named zones.
+/// The title of the X axis: the day, or the first and the last time; with ` (UTC)` when `zoned`.
 std::string TimeAxisTitle(const std::vector<Time>& times, const TimeLabelStyle& style, bool zoned);
 
 } // namespace kavlix::recording

@@ -1,11 +1,13 @@
-#include "monitor/recording/TimeText.h"
+// The calendar, and reading and writing of times.
 
-#include "monitor/recording/NumberText.h"
+#include "monitor/recording/TimeText.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <limits>
+
+#include "monitor/recording/NumberText.h"
 
 namespace kavlix::recording {
 namespace {
@@ -17,7 +19,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Reads text from left to right; every Read leaves the position unchanged when it fails.
+/// Reads text from left to right. A Read function that fails leaves the position unchanged.
 class Cursor {
 public:
     explicit Cursor(std::string_view text) : m_text(text) {}
@@ -47,7 +49,7 @@ public:
         return true;
     }
 
-    /// At least one digit behind a decimal point, as millionths; further digits are dropped.
+    /// Reads the digits behind a decimal point, at least one, as millionths. Further digits are dropped.
     bool ReadMillionths(int& micros) {
         if (!IsDigit(Peek()))
             return false;
@@ -72,7 +74,7 @@ bool ReadDate(Cursor& cursor, CivilTime& civil) {
            civil.month <= 12 && civil.day >= 1 && civil.day <= DaysInMonth(civil.year, civil.month);
 }
 
-/// Reads the time of day; `leap` tells of a second 60, which civil holds as 59.
+/// Reads the time of day. Second 60 sets `leap`, and is stored as second 59.
 bool ReadClock(Cursor& cursor, CivilTime& civil, bool& leap) {
     if (!cursor.ReadDigits(2, civil.hour) || !cursor.Read(':') || !cursor.ReadDigits(2, civil.minute) ||
         civil.hour > 23 || civil.minute > 59)
@@ -88,7 +90,7 @@ bool ReadClock(Cursor& cursor, CivilTime& civil, bool& leap) {
     return true;
 }
 
-/// Reads `Z`, `+HH`, `+HHMM` or `+HH:MM` and gives the offset to UTC.
+/// Reads `Z`, `+HH`, `+HHMM` or `+HH:MM` and returns the offset from UTC.
 bool ReadZone(Cursor& cursor, Time& offset) {
     if (cursor.Read('Z') || cursor.Read('z')) {
         offset = 0;
@@ -136,7 +138,7 @@ bool ParseCalendar(std::string_view text, ParsedTime& result) {
     return true;
 }
 
-/// Digits with an optional decimal part: read exactly, not through a double.
+/// Reads digits with an optional decimal part. They are read exactly: a double would round microseconds.
 bool ParsePlainSeconds(std::string_view text, Time& time) {
     constexpr Time kMostSeconds = 1'000'000'000'000;
     const bool negative = !text.empty() && text.front() == '-';
@@ -165,7 +167,7 @@ bool ParsePlainSeconds(std::string_view text, Time& time) {
 bool ParseSeconds(std::string_view text, Time& time) {
     if (ParsePlainSeconds(text, time))
         return time >= kFirstTime && time <= kLastTime;
-    // What is left are the forms with an exponent or a plus sign, which some programs write.
+    // Some programs write an exponent or a plus sign.
     double seconds = 0;
     if (ParseNumber(text, seconds) != NumberKind::Value)
         return false;
@@ -174,11 +176,6 @@ bool ParseSeconds(std::string_view text, Time& time) {
         return false;
     time = std::clamp(static_cast<Time>(micros), kFirstTime, kLastTime);
     return true;
-}
-
-Time FloorDivide(Time value, Time divisor) {
-    const Time quotient = value / divisor;
-    return value % divisor < 0 ? quotient - 1 : quotient;
 }
 
 template <typename... Args> std::string Printed(const char* format, Args... args) {
@@ -195,8 +192,8 @@ int DaysInMonth(int year, int month) {
     return month == 2 && leap ? 29 : kDays[std::clamp(month, 1, 12) - 1];
 }
 
-// Days are counted in eras of 400 years that begin on the first of March, so that the leap day ends its year;
-// this is the method published by Howard Hinnant as "days_from_civil" and "civil_from_days".
+// Days are counted in eras of 400 years that begin on 1 March, so that a leap day is the last day of its
+// year. The method was published by Howard Hinnant as "days_from_civil" and "civil_from_days".
 Time FromCivil(const CivilTime& civil) {
     const int year = civil.month <= 2 ? civil.year - 1 : civil.year;
     const int era = (year >= 0 ? year : year - 399) / 400;
@@ -210,9 +207,9 @@ Time FromCivil(const CivilTime& civil) {
 
 CivilTime ToCivil(Time time) {
     const Time inRange = std::clamp(time, kFirstTime, kLastTime);
-    const Time dayNumber = FloorDivide(inRange, kMicrosPerDay);
-    Time rest = inRange - dayNumber * kMicrosPerDay;
-    const int days = static_cast<int>(dayNumber) + kEraOfEpochDays;
+    const Time midnight = FloorTo(inRange, kMicrosPerDay);
+    Time rest = inRange - midnight;
+    const int days = static_cast<int>(midnight / kMicrosPerDay) + kEraOfEpochDays;
     const int era = (days >= 0 ? days : days - (kDaysPerEra - 1)) / kDaysPerEra;
     const int dayOfEra = days - era * kDaysPerEra;
     const int yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36'524 - dayOfEra / 146'096) / 365;

@@ -1,3 +1,4 @@
+// Times: the calendar, times as text, and text as times.
 #pragma once
 
 #include <cstdint>
@@ -6,8 +7,8 @@
 
 namespace kavlix::recording {
 
-/// A moment: microseconds since 1970-01-01 00:00:00. Times written without a zone are taken as they stand (no
-/// conversion to or from the machine's zone); times with a zone are turned to UTC.
+/// A moment: microseconds since 1970-01-01 00:00:00. A time written without a time zone is taken as it
+/// stands, without conversion from or to the machine's zone. A time with a zone is converted to UTC.
 using Time = std::int64_t;
 
 inline constexpr Time kMicrosPerSecond = 1'000'000;
@@ -18,6 +19,12 @@ inline constexpr Time kMicrosPerDay = 24 * kMicrosPerHour;
 /// The first and the last moment that can be read and written: years 1 to 9999.
 inline constexpr Time kFirstTime = -62'135'596'800 * kMicrosPerSecond;
 inline constexpr Time kLastTime = 253'402'300'800 * kMicrosPerSecond - 1;
+
+/// The latest multiple of `unit` that is not after `time`, also before 1970.
+inline Time FloorTo(Time time, Time unit) {
+    const Time rest = time % unit;
+    return time - (rest < 0 ? rest + unit : rest);
+}
 
 /// A moment by the calendar (proleptic Gregorian).
 struct CivilTime {
@@ -33,23 +40,23 @@ struct CivilTime {
 /// Days in the given month (1 to 12) of the given year, leap years counted.
 int DaysInMonth(int year, int month);
 
-/// Turns a calendar time into a moment. The fields must be within the ranges told above.
+/// Turns a calendar time into a moment. The fields must be within their ranges.
 Time FromCivil(const CivilTime& civil);
 
-/// Turns a moment into a calendar time. Moments outside kFirstTime to kLastTime are cut to that range.
+/// Turns a moment into a calendar time. A moment outside kFirstTime to kLastTime is cut to that range.
 CivilTime ToCivil(Time time);
 
 /// What ParseTime read.
 struct ParsedTime {
     Time time = 0;
-    bool zoned = false; ///< the text named a zone (`Z` or an offset)
+    bool zoned = false; ///< the text names a time zone (`Z` or an offset)
 };
 
-/// Reads a time: `YYYY-MM-DD HH:MM[:SS[.fraction]]`, the same with `T` between date and time, a date alone
-/// (its midnight), each with an optional `Z` or `+HH:MM`, `-HHMM`, `+HH` behind the time of day; or seconds
-/// since 1970, whole or decimal, also negative. Blanks around the text are ignored. Second 60 (a leap second)
-/// is read as the next second. Digits beyond microseconds are dropped.
-/// @return false, and `result` unchanged, when the text is none of these or lies outside years 1 to 9999.
+/// Reads a time in one of these forms: `YYYY-MM-DD HH:MM[:SS[.fraction]]`; the same with `T` between date and
+/// time of day; a date, which means its midnight; seconds since 1970, whole or decimal, also negative. A time
+/// of day may be followed by a zone: `Z`, `+HH:MM`, `-HHMM` or `+HH`. Blanks around the text are ignored.
+/// Second 60 (a leap second) is read as the next second. Digits beyond microseconds are dropped. Returns
+/// false, and leaves `result` unchanged, when the text has another form or lies outside years 1 to 9999.
 bool ParseTime(std::string_view text, ParsedTime& result);
 
 /// What ParseTime expects, in words for a message.
@@ -67,17 +74,16 @@ enum class TimePrecision {
 /// `YYYY-MM-DD`.
 std::string FormatDate(Time time);
 
-/// Time of day: `HH:MM`, `HH:MM:SS` or with a fraction. What the precision does not show is dropped, not
-/// rounded.
+/// Time of day: `HH:MM`, `HH:MM:SS` or with a fraction. Digits beyond the precision are dropped, not rounded.
 std::string FormatClock(Time time, TimePrecision precision);
 
 /// Date and time of day with one blank between.
 std::string FormatDateTime(Time time, TimePrecision precision);
 
-/// Date and time of day with as many digits as the moment needs, at least seconds: reading it gives it back.
+/// Date and time of day, to the second or as much finer as the moment needs. ParseTime reads the same moment.
 std::string FormatExact(Time time);
 
-/// A length of time for people, its two largest units: `5 min`, `2 d 3 h`, `250 ms`. The sign is dropped.
+/// A length of time in its two largest units: `5 min`, `2 d 3 h`, `250 ms`. The sign is dropped.
 std::string FormatDuration(Time duration);
 
 } // namespace kavlix::recording

@@ -1,3 +1,5 @@
+// Chooses a range with round ticks that covers the values.
+
 #include "monitor/recording/ValueScale.h"
 
 #include <algorithm>
@@ -11,25 +13,30 @@ namespace {
 
 constexpr int kMinTicks = 2;
 constexpr int kMaxTicks = 1000;
-constexpr double kSmallest = 1e-300; // values nearer to 0 than this are shown as 0
-constexpr double kConstantShare =
-    1e-9;                          // a span of this share of the values is no span: labels could not tell it
-constexpr double kRoomShare = 0.1; // room around constant values
-constexpr double kZeroShare =
-    1.0 / 3.0; // the axis reaches 0 when the values come this near, as a share of the farthest
-constexpr double kRoundingSlack = 1e-9; // of a step: what division may be off without taking another step
-constexpr double kFinerByFar = 2.5;
-constexpr double kPlainBelow = 1e4; // labels below this and from kPlainFrom on need no unit exponent
-constexpr double kPlainFrom = 1e-2;
+constexpr double kSmallest = 1e-300; // values nearer to 0 are shown as 0
 
-/// A step of mantissa · 10^exponent.
+/// Values whose span is at most this share of their magnitude count as equal: labels could not show the span.
+constexpr double kConstantShare = 1e-9;
+constexpr double kRoomShare = 0.1; // room above and below equal values, as a share of their magnitude
+
+/// The axis reaches 0 when the value nearest to 0 is at most this share of the farthest one.
+constexpr double kZeroShare = 1.0 / 3.0;
+
+/// Tolerance of a division, as a share of a step: without it, rounding errors would cost a whole step.
+constexpr double kRoundingSlack = 1e-9;
+constexpr double kFinerByFar = 2.5; // a new range this number of times shorter replaces the old one
+constexpr double kPlainFrom = 1e-2; // labels from here
+constexpr double kPlainBelow = 1e4; // to here need no unit
+
+/// A step of mantissa * 10^exponent.
 struct Step {
     std::int64_t mantissa = 1;
     int exponent = 0;
     double value = 1;
 };
 
-/// Steps are these tenths times a power of ten. The less round ones are taken where they save room.
+/// The round steps, as tenths of a power of ten. The penalty of the less round ones lets ChooseStep prefer
+/// them only where they make the range shorter.
 struct Mantissa {
     std::int64_t tenths;
     double penalty;
@@ -37,7 +44,7 @@ struct Mantissa {
 constexpr Mantissa kMantissas[] = {{10, 1.0}, {15, 1.2}, {20, 1.0}, {25, 1.0}, {30, 1.2},
                                    {40, 1.2}, {50, 1.0}, {60, 1.2}, {80, 1.2}};
 
-/// multiple · step, rounded once where the power of ten is exact: 3 · 0.1 gives 0.3.
+/// multiple * step, with one rounding where the power of ten is exact: 3 * 0.1 gives 0.3.
 double Multiple(std::int64_t multiple, const Step& step) {
     const double whole = static_cast<double>(multiple * step.mantissa);
     return step.exponent >= 0 ? whole * std::pow(10.0, step.exponent)
@@ -61,7 +68,7 @@ std::int64_t CeilSteps(double value, const Step& step) {
     return static_cast<std::int64_t>(std::ceil(value / step.value - kRoundingSlack));
 }
 
-/// The span to show: cut to what can be computed with, never of zero width.
+/// The span that the axis covers: cut to kScaleLimit, extended to 0 where 0 is near, never of zero width.
 ValueSpan SpanToShow(const ValueSpan& span) {
     ValueSpan shown;
     shown.any = true;
@@ -85,7 +92,7 @@ ValueSpan SpanToShow(const ValueSpan& span) {
     return shown;
 }
 
-/// The smallest round step with which `intervals` steps cover the span, from the power of ten of `wanted` on.
+/// The best round step, not below `wanted`, with which `intervals` steps cover the span.
 Step ChooseStep(const ValueSpan& span, std::int64_t intervals, double wanted) {
     const int exponent = static_cast<int>(std::floor(std::log10(wanted)));
     Step best;
@@ -104,8 +111,9 @@ Step ChooseStep(const ValueSpan& span, std::int64_t intervals, double wanted) {
     return best;
 }
 
-/// Which multiple of the step the axis begins with: 0 where the span begins or ends there, else with the span
-/// in the middle. That does not reach over 0: a span that near to it was made to begin or end there.
+/// The multiple of the step at which the axis begins. A span that begins or ends at 0 keeps 0 as an end of
+/// the axis; any other span is centred. Centring cannot reach across 0, because SpanToShow extends spans
+/// near 0.
 std::int64_t FirstMultiple(const ValueSpan& span, const Step& step, std::int64_t intervals) {
     const std::int64_t low = FloorSteps(span.min, step);
     const std::int64_t high = CeilSteps(span.max, step);
@@ -129,7 +137,7 @@ void SetUnit(ValueScale& scale, int exponent, int stepExponent) {
     scale.unit = UnitText(exponent);
 }
 
-/// Takes a unit exponent when the numbers are large or small and it makes the labels shorter.
+/// Chooses a unit for large or small numbers if it makes the labels shorter.
 void ChooseUnit(ValueScale& scale, int stepExponent) {
     SetUnit(scale, 0, stepExponent);
     const double farthest = std::max(std::abs(scale.min), std::abs(scale.max));
@@ -142,8 +150,8 @@ void ChooseUnit(ValueScale& scale, int stepExponent) {
         scale = withUnit;
 }
 
-/// The control adds the step up, so what should be 0 may come out a little below it and be printed "-0.0". A
-/// range longer by a part that no pixel shows keeps it above.
+/// The control computes the ticks by repeated addition, so a tick at 0 may come out slightly negative and be
+/// printed as "-0.0". Extending the range by less than a pixel avoids that.
 void AvoidNegativeZero(ValueScale& scale) {
     const std::vector<std::string> labels = ValueLabels(scale);
     const bool any = std::any_of(labels.begin(), labels.end(), [](const std::string& label) {
@@ -162,7 +170,7 @@ ValueScale ChooseValueScale(const ValueSpan& span, int ticks) {
     const std::int64_t intervals = scale.ticks - 1;
     Step step;
     if (intervals == 1) {
-        // Two labels need not be neighbouring multiples of one step: any two round values do.
+        // The two labels need not be neighbouring multiples of a step: any two round values do.
         constexpr std::int64_t kParts = 6;
         step = ChooseStep(shown, kParts, (shown.max - shown.min) / static_cast<double>(kParts));
         scale.min = Multiple(FloorSteps(shown.min, step), step);
@@ -173,7 +181,7 @@ ValueScale ChooseValueScale(const ValueSpan& span, int ticks) {
         scale.min = Multiple(first, step);
         scale.max = Multiple(first + intervals, step);
     }
-    // Where division was a little off, the range still covers the values.
+    // Rounding errors of the division must not leave a value outside.
     scale.min = std::min(scale.min, shown.min);
     scale.max = std::max(scale.max, shown.max);
     scale.step = (scale.max - scale.min) / static_cast<double>(intervals);

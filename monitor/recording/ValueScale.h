@@ -1,42 +1,42 @@
+// The range and the labels of a value axis.
 #pragma once
-
-#include "monitor/recording/Recording.h"
 
 #include <string>
 #include <vector>
 
+#include "monitor/recording/Recording.h"
+
 namespace kavlix::recording {
 
-/// The range of a value axis and how its ticks are labelled. The graph control puts `ticks` labels at equal
-/// distances from min to max, so the range is chosen to make these values round.
+/// The range of a value axis and the form of its labels. The graph control places `ticks` labels at equal
+/// distances from `min` to `max`, so the range is chosen to make all of them round.
 struct ValueScale {
     double min = 0;
     double max = 1;
     double step = 1;      ///< distance of neighbouring ticks
-    int ticks = 2;        ///< number of ticks the range was chosen for
-    int unitExponent = 0; ///< power of ten the labels are divided by: a multiple of 3
-    int decimals = 0;     ///< decimals the labels need
+    int ticks = 2;        ///< number of ticks
+    int unitExponent = 0; ///< the labels are divided by this power of ten, a multiple of 3
+    int decimals = 0;     ///< number of decimals of the labels
     std::string unit;     ///< `k`, `M`, `m`, `10^27`, ...; empty for exponent 0
 };
 
-/// Values beyond this are cut off by the range, so that no arithmetic with it overflows.
+/// Values beyond this limit are cut to it, so that arithmetic with the range cannot overflow.
 inline constexpr double kScaleLimit = 1e300;
 
-/// Chooses the range for the values and the given number of ticks (taken as 2 when less, 1000 when more). It
-/// covers the values; it begins (or ends) at 0 when they come near it; values that are all the same get room
-/// on both sides; no values give 0 to 1 or a little more.
+/// Chooses the range for the values and a number of ticks (cut to 2 to 1000). The range covers the values. It
+/// begins (or ends) at 0 when the values come near 0. Values that are all the same get room on both sides.
+/// Without values the range begins at 0 and ends at 1 or a little above.
 ValueScale ChooseValueScale(const ValueSpan& span, int ticks);
 
-/// For values that keep coming: keeps the scale while the values fit into it, the tick count is the same and
-/// a newly chosen range would not be finer by far; else chooses anew, so that the axis does not jump at every
-/// sample.
-/// @return whether the scale changed.
+/// Chooses the scale anew when the values no longer fit, when the number of ticks differs, or when a new
+/// range would be much shorter. Otherwise keeps the scale, so that the axis does not change with every
+/// sample. Returns whether the scale changed.
 bool FollowValues(ValueScale& scale, const ValueSpan& span, int ticks);
 
 /// The labels as the graph control prints them, from the bottom up.
 std::vector<std::string> ValueLabels(const ValueScale& scale);
 
-/// Length of the longest of them in characters.
+/// Length of the longest label in characters.
 int LongestLabel(const ValueScale& scale);
 
 } // namespace kavlix::recording

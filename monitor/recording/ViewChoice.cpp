@@ -1,21 +1,13 @@
+// Chooses ranges, labels and the visible part for each style of the graph page.
+
 #include "monitor/recording/ViewChoice.h"
 
-#include "monitor/recording/NearestPoint.h"
-
 #include <algorithm>
-#include <cstdlib>
+
+#include "monitor/recording/GraphUnits.h"
 
 namespace kavlix::recording {
 namespace {
-
-constexpr int kUnitsPerPixel = 30;
-
-// The control labels at most one time in so many logical units.
-constexpr int kLineLabelDistance = 800;
-constexpr int kBarLabelDistance = 1000;
-
-/// So many samples of other files stand between two of one file, at most, for them to count as neighbours.
-constexpr std::size_t kBesideSamples = 1000;
 
 ValueSpan VisibleSpan(const Series& series, const VisibleRange& visible) {
     return SpanOf(series.values, visible.first, visible.last - visible.first + 1);
@@ -34,7 +26,7 @@ VisibleRange ChooseVisible(const Recording& recording, const ViewRequest& reques
 } // namespace
 
 std::size_t BarCapacity(int plotWidth, std::size_t seriesCount) {
-    // Every sample has a slot of one bar for each series and one bar's width of gap.
+    // A sample takes one bar for each series and a gap as wide as one bar.
     const std::size_t slot = kUnitsPerPixel * (seriesCount + 1);
     return std::max<std::size_t>(1, static_cast<std::size_t>(std::max(plotWidth, 0)) / slot);
 }
@@ -51,28 +43,13 @@ ViewChoice ChooseView(const Recording& recording, const ViewRequest& request) {
         (twoAxes && i == 1 ? right : left).Take(VisibleSpan(recording.series[i], choice.visible));
     }
     if (request.style == ViewStyle::Bar)
-        left.Take(0.0); // the length of a bar says something only when it begins at 0
+        left.Take(0.0); // lengths of bars can be compared only when all bars begin at 0
     choice.y = ChooseValueScale(left, request.valueTicks);
     choice.y2 = right.any ? ChooseValueScale(right, request.valueTicks) : choice.y;
     const int labelDistance = request.style == ViewStyle::Bar ? kBarLabelDistance : kLineLabelDistance;
     choice.labels = ChooseTimeLabels(recording.times, request.plotWidth / labelDistance);
     choice.timeTitle = TimeAxisTitle(recording.times, choice.labels, recording.Zoned());
     return choice;
-}
-
-std::size_t SampleBeside(const Recording& recording, const VisibleRange& visible, std::size_t series,
-                         std::size_t sample) {
-    const std::size_t file = recording.series[series].file;
-    if (recording.files.size() < 2 || file >= recording.files.size())
-        return sample;
-    const double* const values = recording.series[series].values.data() + visible.first;
-    const auto beside =
-        NearestValue(values, visible.last - visible.first + 1, sample - visible.first, kBesideSamples);
-    if (!beside)
-        return sample;
-    const std::size_t found = visible.first + *beside;
-    const Time away = std::abs(recording.times[found] - recording.times[sample]);
-    return away < recording.files[file].interval ? found : sample;
 }
 
 } // namespace kavlix::recording

@@ -1,5 +1,6 @@
-// Calls the fuzz target with made-up recordings, so that it is run where there is no libFuzzer: as many as
-// the first argument says (default 20,000), always the same ones.
+// Calls the fuzz target with random recordings where there is no libFuzzer.
+//
+// The first argument is the number of recordings, by default 20,000. They are the same in every run.
 
 #include <cstddef>
 #include <cstdint>

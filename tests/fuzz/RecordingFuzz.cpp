@@ -1,11 +1,4 @@
-// Feeds arbitrary bytes to everything that reads recordings, and checks what must hold whatever they are.
-
-#include "monitor/recording/CheckReport.h"
-#include "monitor/recording/Join.h"
-#include "monitor/recording/NumberText.h"
-#include "monitor/recording/Options.h"
-#include "monitor/recording/TableReader.h"
-#include "monitor/recording/ViewChoice.h"
+// The fuzz target: feeds arbitrary bytes to all readers of recordings and checks what must hold for any input.
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +6,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+
+#include "monitor/recording/CheckReport.h"
+#include "monitor/recording/NumberText.h"
+#include "monitor/recording/Options.h"
+#include "monitor/recording/TableJoin.h"
+#include "monitor/recording/TableReader.h"
+#include "monitor/recording/ViewChoice.h"
 
 namespace {
 
@@ -111,7 +111,7 @@ void CheckRecording(std::string_view first, std::string_view second, int ticks) 
         CheckScale(choice.y2);
         for (const Time time : recording.times) {
             Require(static_cast<int>(MakeTimeLabel(choice.labels, time).size()) == choice.labels.chars,
-                    "labels have the length told");
+                    "labels have the length of their style");
         }
     }
 }
@@ -145,7 +145,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < 2) {
         return 0;
     }
-    // The first two bytes choose the pieces and where the text is divided into two files.
+    // The first two bytes choose the size of the pieces and the place where the text is divided into two files.
     const std::size_t piece = data[0] % 16 + std::size_t{1};
     const std::string_view text(reinterpret_cast<const char*>(data) + 2, size - 2);
     const std::size_t half = std::min<std::size_t>(text.size(), data[1] * std::size_t{4});

@@ -1,17 +1,17 @@
-// The page with one series against another: what is chosen, what a point tells, what is saved.
+// The chart page: choices, mark, pointer and texts.
+
+#include <afxres.h>
 
 #include "monitor/ChartPage.h"
 #include "monitor/ChartSeriesDlg.h"
 #include "monitor/MonitorGraph.h"
 #include "tests/monitor/FrameWithPage.h"
 
-#include <afxres.h>
-
 namespace kavlix::test {
 namespace {
 
-using monitor::ChartStyle, monitor::CMonitorChart, monitor::CMonitorGraph, recording::PairChoice,
-    recording::PairKind;
+using monitor::ChartStyle, monitor::CMonitorChart, monitor::CMonitorGraph, recording::ChartChoice,
+    recording::ChartX;
 
 class ChartPage : public FrameWithPage {
 protected:
@@ -95,11 +95,10 @@ TEST_F(ChartPage, SeriesAreChosenInTheDialog) {
     Open("chart", {Walk()});
     const struct {
         int x;
-        PairChoice choice;
-    } cases[] = {
-        {2, {PairKind::Series, 2, 1}}, {3, {PairKind::Predecessor, 0, 1}}, {4, {PairKind::Time, 0, 1}}};
+        ChartChoice choice;
+    } cases[] = {{2, {ChartX::Series, 2, 1}}, {3, {ChartX::Predecessor, 0, 1}}, {4, {ChartX::Time, 0, 1}}};
     for (const auto& given : cases) {
-        Person person({"a", "b", "c"}, {PairKind::Series, 0, 1}, m_frame);
+        Person person({"a", "b", "c"}, {ChartX::Series, 0, 1}, m_frame);
         person.x = given.x;
         ASSERT_EQ(person.DoModal(), IDOK);
         EXPECT_EQ(person.Choice(), given.choice);
@@ -112,7 +111,7 @@ TEST_F(ChartPage, SeriesAreChosenInTheDialog) {
 
 TEST_F(ChartPage, LiveReadingsGoOnUnderTheMark) {
     Open("chart", {});
-    // Readings that come faster than the system counts have no value for the processor.
+    // The processor has no value in readings that are faster than the system's counter.
     for (int i = 0; i < 250 && !m_frame->Page().HasMark(); ++i) {
         Tick();
         Chart().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);

@@ -1,8 +1,8 @@
-// KavlixMonitor --check: what it prints and what it ends with.
-
-#include "tests/monitor/MonitorProcess.h"
+// KavlixMonitor --check: its output and its exit status.
 
 #include <gtest/gtest.h>
+
+#include "tests/monitor/MonitorProcess.h"
 
 namespace kavlix::test {
 namespace {
@@ -18,22 +18,17 @@ bool Contains(const std::string& text, const std::string& part) {
 
 TEST(MonitorCheck, TellsWhatFilesHoldAndEndsWithWhatWasLeftOut) {
     const TempFolder folder;
-    const std::string good = folder.Write("good.csv", kGood);
     const std::string bad =
         folder.Write("bad.csv", std::string(kGood) + "yesterday,4,5\n2020-01-01 00:20:00,5,6\n");
     const std::string none = folder.Path("none.csv");
-    const std::string empty = folder.Write("empty.csv", "");
     const struct {
         std::vector<std::string> files;
         unsigned status;
         std::vector<std::string> told;
     } cases[] = {
-        {{good}, 0, {"good.csv", "Load", "Heat", "2020-01-01 00:00:00", "2020-01-01 00:10:00"}},
-        {{folder.Write("name with blanks & (signs).csv", kGood)}, 0, {}},
+        {{folder.Write("name with blanks & (signs).csv", kGood)}, 0, {"Load", "Heat", "2020-01-01 00:10:00"}},
         {{bad}, 1, {bad + ":5:1: ", "yesterday", "2020-01-01 00:20:00"}},
-        {{good, none}, 1, {"none.csv", "Heat"}},
         {{none}, 2, {none}},
-        {{empty}, 2, {empty}},
     };
     for (const auto& given : cases) {
         std::vector<std::string> arguments = given.files;

@@ -1,8 +1,5 @@
+// A fixture with the main window on one of its pages.
 #pragma once
-
-#include "monitor/MainFrame.h"
-#include "monitor/resource.h"
-#include "tests/monitor/MonitorProcess.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +7,10 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "monitor/MainFrame.h"
+#include "monitor/resource.h"
+#include "tests/monitor/MonitorProcess.h"
 
 namespace kavlix::test {
 
@@ -22,7 +23,8 @@ protected:
 
     ~FrameWithPage() override { Close(); }
 
-    /// Opens the window on the page, its own choice without a name, with these files or with live readings.
+    /// Opens the window with these files, or with live readings, on the named page or by default on its
+    /// own choice.
     void Open(std::string_view page, std::vector<std::string> files) {
         Close();
         recording::Options options;
@@ -46,12 +48,12 @@ protected:
             ;
     }
     void Command(UINT id) { m_frame->SendMessage(WM_COMMAND, id); }
-    /// The next live reading.
+    /// Takes the next live reading.
     void Tick() {
         constexpr WPARAM liveTimer = 1;
         m_frame->SendMessage(WM_TIMER, liveTimer);
     }
-    /// What a pane of the status bar says.
+    /// The text of a pane of the status bar.
     std::string Pane(int pane) {
         auto* const status = static_cast<CStatusBarCtrl*>(m_frame->GetDlgItem(IDC_STATUS));
         return static_cast<LPCTSTR>(status->GetText(pane));
@@ -73,7 +75,7 @@ protected:
 
     TempFolder m_folder;
     int m_exitStatus = 0;
-    Frame* m_frame = nullptr; ///< deletes itself
+    Frame* m_frame = nullptr; ///< deletes itself with its window
 };
 
 } // namespace kavlix::test

@@ -1,16 +1,19 @@
-// Rates out of the system's counters, and the history they are shown from.
+// Rates from the system's counters, and the live readings made of them.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
 
 #include "monitor/LiveReadings.h"
 #include "monitor/MachineCounters.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-
 namespace kavlix::test {
 namespace {
 
-using monitor::InterfaceCounters, monitor::LiveReadings, monitor::MachineCounters, monitor::MachineRates;
+using monitor::LiveReadings, recording::InterfaceCounters, recording::MachineCounters,
+    recording::MachineRates;
 
 MachineCounters Counters(double seconds, std::uint64_t idle, std::uint64_t total,
                          std::vector<InterfaceCounters> net) {
@@ -49,7 +52,7 @@ TEST(MachineRates, WhatIsNotToldIsAbsentAndNotZero) {
     EXPECT_FALSE(sameMoment.processorPercent || sameMoment.bytesInPerSecond);
     EXPECT_FALSE(RatesBetween(Counters(1, 0, 1, {}), Counters(2, 0, 2, {})).bytesInPerSecond)
         << "a machine without a network";
-    // Idle time may be told a little ahead of the total.
+    // The system may count idle time slightly ahead of the total.
     EXPECT_DOUBLE_EQ(*RatesBetween(Counters(1, 0, 0, {}), Counters(2, 11, 10, {})).processorPercent, 0);
 }
 
@@ -62,11 +65,11 @@ TEST(MachineRates, UnitsHoldRatesBetween0And100) {
                        {1e6, 1e4, "10 kB/s"},     {5e6, 1e5, "100 kB/s"}, {2e7, 1e6, "MB/s"},
                        {1.25e9, 1e8, "100 MB/s"}, {NAN, 1e3, "kB/s"}};
     for (const auto& given : cases) {
-        const monitor::RateUnit unit = monitor::ChooseRateUnit(given.highest);
+        const recording::RateUnit unit = recording::ChooseRateUnit(given.highest);
         EXPECT_NEAR(unit.bytesPerSecond / given.unit, 1, 1e-9) << given.highest;
         EXPECT_EQ(unit.text, given.text) << given.highest;
     }
-    EXPECT_GT(monitor::ChooseRateUnit(INFINITY).bytesPerSecond, 1e9) << "and it ends";
+    EXPECT_GT(recording::ChooseRateUnit(INFINITY).bytesPerSecond, 1e9) << "and it ends";
 }
 
 TEST(MachineRates, AreWrittenForPeople) {
@@ -77,7 +80,7 @@ TEST(MachineRates, AreWrittenForPeople) {
                        {3400, "3.4 kB/s"}, {99'960, "100 kB/s"}, {999'600, "1.0 MB/s"}, {1.2e8, "120 MB/s"},
                        {-5, "0 B/s"},      {NAN, "0 B/s"}};
     for (const auto& given : cases)
-        EXPECT_EQ(monitor::FormatRate(given.rate), given.text);
+        EXPECT_EQ(recording::FormatRate(given.rate), given.text);
 }
 
 TEST(MachineCountersOfThisMachine, AreRealAndOnlyGrow) {
@@ -87,7 +90,7 @@ TEST(MachineCountersOfThisMachine, AreRealAndOnlyGrow) {
     EXPECT_GT(*first.memoryPercent, 0);
     EXPECT_LT(*first.memoryPercent, 100);
     MachineCounters second = monitor::ReadMachineCounters();
-    // The system counts in ticks: some work passes until it has counted one.
+    // The counters advance in ticks: read until one has passed.
     for (int i = 0; i < 1'000'000 && second.processor->total == first.processor->total; ++i)
         second = monitor::ReadMachineCounters();
     EXPECT_GT(second.processor->total, first.processor->total);
@@ -103,42 +106,49 @@ MachineRates Rates(double cpu, double in) {
     return rates;
 }
 
-TEST(LiveReadings, KeepTheLatestAndTellWhatWent) {
-    LiveReadings live;
-    EXPECT_EQ(live.History()->series.size(), 4u);
-    EXPECT_TRUE(live.History()->times.empty());
-    for (std::size_t i = 0; i < LiveReadings::kHistory; ++i)
-        EXPECT_EQ(live.Add(static_cast<recording::Time>(i), Rates(static_cast<double>(i), 0)).removed, 0u);
-    EXPECT_EQ(live.Add(5000, Rates(77, 0)).removed, 1u);
-    const auto history = live.History();
-    EXPECT_EQ(history->times.size(), LiveReadings::kHistory);
-    EXPECT_EQ(history->times.front(), 1);
-    EXPECT_EQ(history->series[0].values.front(), 1);
-    EXPECT_EQ(history->series[0].values.back(), 77);
-}
-
-TEST(LiveReadings, LoseTheirHeadAndGoOn) {
-    LiveReadings live;
-    EXPECT_EQ(live.RemoveHead(5).removed, 0u);
-    live.Add(1, Rates(1, 4e6));
-    for (recording::Time time = 2; time <= 6; ++time)
-        live.Add(time, Rates(static_cast<double>(time), 0));
-    EXPECT_TRUE(live.RemoveHead(2).unitChanged) << "the peak went";
-    EXPECT_EQ(live.History()->times, (std::vector<recording::Time>{3, 4, 5, 6}));
-    EXPECT_EQ(live.History()->series[0].values.front(), 3);
-    live.Add(7, Rates(7, 0));
-    EXPECT_EQ(live.History()->times.size(), 5u);
-    EXPECT_EQ(live.RemoveHead(100).removed, 4u) << "the latest stays";
-}
-
-TEST(LiveReadings, TimesAscendAlsoWhenTheClockIsSetBack) {
-    LiveReadings live;
-    for (const recording::Time time : {1000, 2000, 500, 500, 3000})
-        live.Add(time, Rates(1, 1));
-    const auto& times = live.History()->times;
-    for (std::size_t i = 1; i < times.size(); ++i)
-        EXPECT_GT(times[i], times[i - 1]);
-    EXPECT_EQ(times.back(), 3000);
+// Against a list of all readings that were ever added.
+TEST(LiveReadings, EqualAListOfReadings) {
+    std::mt19937 random(9);
+    for (int round = 0; round < 20; ++round) {
+        SCOPED_TRACE(round);
+        LiveReadings live;
+        std::vector<recording::Time> times;
+        std::size_t first = 0;   // the oldest kept reading
+        std::size_t history = 0; // the oldest one of the recording
+        std::size_t most = LiveReadings::kKept;
+        for (int step = 0; step < 500; ++step) {
+            LiveReadings::Change change;
+            const unsigned action = random() % 60;
+            if (action == 0) {
+                const std::size_t count = random() % 20;
+                change = live.RemoveHead(count);
+                first = times.empty() ? 0 : std::min(first + count, times.size() - 1);
+            } else if (action == 1 && round % 2 == 0) {
+                const std::size_t asked = random() % 40 * 10;
+                change = live.KeepAtMost(asked);
+                most = std::max<std::size_t>(asked, 1);
+            } else {
+                // Now and then the clock is set back.
+                const auto now = static_cast<recording::Time>(step * 10 - (action == 2 ? 500 : 0));
+                change = live.Add(now, Rates(static_cast<double>(times.size()), 0));
+                times.push_back(times.empty() ? now : std::max(now, times.back() + 1));
+            }
+            first = std::max(first, times.size() - std::min(times.size(), most));
+            const std::size_t before = history;
+            history =
+                std::max({history, first, times.size() - std::min(times.size(), LiveReadings::kHistory)});
+            ASSERT_EQ(change.removed, history - before);
+            ASSERT_EQ(live.First(), first);
+            ASSERT_EQ(live.End(), times.size());
+            ASSERT_EQ(live.CountBeforeHistory(), history - first);
+            const auto shown = live.History();
+            ASSERT_EQ(shown->times, std::vector(times.begin() + static_cast<int>(history), times.end()));
+            ASSERT_EQ(shown->series.size(), LiveReadings::kSeries);
+            for (std::size_t i = 0; i < shown->times.size(); ++i)
+                ASSERT_EQ(shown->series[0].values[i], static_cast<double>(history + i));
+            ASSERT_TRUE(times.empty() || live.ValueOf(first, 0) == static_cast<double>(first));
+        }
+    }
 }
 
 TEST(LiveReadings, NetworkChangesItsUnitForAllReadingsAtOnceAndBack) {
@@ -151,10 +161,8 @@ TEST(LiveReadings, NetworkChangesItsUnitForAllReadingsAtOnceAndBack) {
     EXPECT_DOUBLE_EQ(live.History()->series[2].values[0], 0.5);
     EXPECT_DOUBLE_EQ(live.History()->series[2].values[1], 40);
     EXPECT_DOUBLE_EQ(live.History()->series[0].values[1], 1) << "percents stay percents";
-    bool changedBack = false;
-    for (std::size_t i = 0; i < LiveReadings::kHistory; ++i)
-        changedBack |= live.Add(static_cast<recording::Time>(10 + i), Rates(1, 0)).unitChanged;
-    EXPECT_TRUE(changedBack) << "the peak has left the history";
+    live.Add(3, Rates(1, 0));
+    EXPECT_TRUE(live.RemoveHead(2).unitChanged) << "the peak has left the history";
     EXPECT_EQ(live.SeriesNames()[2], "Network in, kB/s");
 }
 
@@ -169,7 +177,8 @@ TEST(LiveReadings, WhatIsNotToBeHadIsSaidAndIsAGap) {
     EXPECT_NE(live.LatestText().find("CPU 12.3 %"), std::string::npos) << live.LatestText();
     EXPECT_NE(live.LatestText().find("Network in not available"), std::string::npos) << live.LatestText();
     live.Add(2, Rates(1, 5));
-    EXPECT_EQ(live.SeriesNames()[2], "Network in, kB/s") << "once it was to be had, gaps are gaps";
+    EXPECT_EQ(live.SeriesNames()[2], "Network in, kB/s")
+        << "a series that had a value keeps its unit in a gap";
 }
 
 } // namespace

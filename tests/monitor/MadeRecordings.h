@@ -1,14 +1,15 @@
+// Recordings made in memory for tests of the graph and the settings dialog.
 #pragma once
-
-#include "monitor/MonitorGraph.h"
 
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "monitor/MonitorGraph.h"
+
 namespace kavlix::test {
 
-/// What a graph shows of a recording of these series, a sample a minute.
+/// A recording of these series, with one sample a minute.
 inline monitor::GraphSource MakeSource(std::size_t samples, const std::vector<std::string>& names,
                                        double (*value)(std::size_t sample, std::size_t series)) {
     auto recording = std::make_shared<recording::Recording>();

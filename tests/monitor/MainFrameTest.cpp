@@ -1,8 +1,4 @@
-// What a person does with mouse and keyboard in the main window, and what it shows then.
-
-#include "monitor/MonitorGraph.h"
-#include "tests/monitor/FrameWithPage.h"
-#include "tests/support/MessageBoxWatcher.h"
+// Mouse, keyboard and commands in the main window, on the graph page.
 
 #include <afxres.h>
 
@@ -10,17 +6,21 @@
 #include <future>
 #include <thread>
 
+#include "monitor/MonitorGraph.h"
+#include "tests/monitor/FrameWithPage.h"
+#include "tests/support/MessageBoxWatcher.h"
+
 namespace kavlix::test {
 namespace {
 
 using monitor::CMonitorGraph;
 
-constexpr int kPixel = 30; // logical units
+constexpr int kPixel = recording::kUnitsPerPixel;
 constexpr int kTextPane = 0;
 constexpr int kPointerPane = 1;
 constexpr int kSummaryPane = 2;
 
-/// What the control keeps for derived classes.
+/// Protected members of the control.
 struct Inside : CMonitorGraph {
     static CRect Plot(const CMonitorGraph& graph) { return graph.*(&Inside::m_rectPlot); }
     static CRect Legend(const CMonitorGraph& graph) { return graph.*(&Inside::m_rectLegend); }
@@ -35,7 +35,7 @@ struct Inside : CMonitorGraph {
     }
 };
 
-/// Counts what is written to the status bar of this thread's window.
+/// Counts the texts and widths that are set in status bars of this thread.
 class StatusWrites {
 public:
     StatusWrites() : m_hook(SetWindowsHookEx(WH_CALLWNDPROC, Note, nullptr, GetCurrentThreadId())) {
@@ -72,7 +72,7 @@ protected:
     void Mouse(UINT message, CPoint point) { m_graph->SendMessage(message, 0, MAKELPARAM(point.x, point.y)); }
     void Point(double x, double share) { Mouse(WM_MOUSEMOVE, PlotPoint(x, share)); }
     void Press(UINT key) { m_graph->SendMessage(WM_KEYDOWN, key, 1); }
-    /// As the message loop does: the frame first, then the graph.
+    /// Sends the key as the message loop does: to the frame first, then to the graph.
     void PressEscape(LPARAM flags = 1) {
         MSG message{m_graph->m_hWnd, WM_KEYDOWN, VK_ESCAPE, flags, 0, {}};
         if (!m_frame->PreTranslateMessage(&message))
@@ -82,7 +82,7 @@ protected:
     static CPoint Middle(CRect logical) {
         return CPoint(logical.CenterPoint().x / kPixel, logical.CenterPoint().y / kPixel);
     }
-    /// Where sample x would stand with a value at this share of the plot's height.
+    /// The position of sample x with a value at this share of the plot's height, in client pixels.
     CPoint PlotPoint(double x, double share) {
         const CRect plot = Inside::Plot(*m_graph);
         const double across = plot.left + x * plot.Width() / Inside::LastX(*m_graph);
@@ -138,7 +138,7 @@ TEST_F(MainFrame, PointerFindsTheBarAndTheSeriesWhoseSamplesStandBetween) {
     Open({Ramps(9)});
     Command(ID_VIEW_BAR);
     const CRect plot = Inside::Plot(*m_graph);
-    // Nine groups share the plot: two bars and a gap each, by the range 0 to 8.
+    // The plot has nine groups of two bars and a gap.
     const int bar = plot.Width() / 9 / 3;
     for (const int series : {0, 1}) {
         const int x = plot.left + bar * 3 * 4 + bar * series + bar / 2;
@@ -271,7 +271,7 @@ TEST_F(MainFrame, RemovingDataBeforeTheMarkReachesEverythingThatShowsThem) {
         UINT style;
         recording::VisibleRange visible;
         int mark;
-        std::size_t each;    ///< samples of each run; 0: whatever the width gives
+        std::size_t each;    ///< samples of each run; 0: depends on the width
         std::size_t removed; ///< in runs
         recording::VisibleRange left;
     } const cases[] = {
@@ -339,7 +339,7 @@ TEST_F(MainFrame, LiveReadingsGoOnAfterTheirHeadWasRemoved) {
     EXPECT_EQ(m_graph->GetDatasetSize(0), static_cast<int>(count - 3));
     EXPECT_EQ(m_graph->SelectionMark().time, times[4]);
     Command(ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
-    EXPECT_EQ(person.Boxes().size(), 1u) << "nobody is asked when nothing stands before the mark";
+    EXPECT_EQ(person.Boxes().size(), 1u) << "no question when there is nothing before the mark";
     Command(ID_GRAPH_CLEAR_SELECTION_MARK);
     EXPECT_EQ(m_graph->SelectionMark().index, -1);
     EXPECT_EQ(Pane(kTextPane).substr(0, 3), "CPU");
@@ -356,7 +356,7 @@ TEST_F(MainFrame, CopyReachesTheClipboardAndSaysWhenItDoesNot) {
         EXPECT_EQ(Pane(kTextPane), "1970-01-01 00:00:00   up: 0   down: 100") << "until something changes";
         m_graph->SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
     }
-    // This window owns the clipboard's content, and yet somebody else holds it open now.
+    // The graph still owns the clipboard's content, but another thread holds the clipboard open.
     std::promise<bool> opened;
     std::promise<void> done;
     std::thread other([&] {

@@ -1,18 +1,20 @@
-// What the Monitor's graph chooses from data and window size.
-
-#include "tests/monitor/MadeRecordings.h"
-#include "tests/support/OpenGraph.h"
+// What the Monitor's graph chooses from its data and the size of its window.
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <optional>
+#include <random>
+
+#include "tests/monitor/MadeRecordings.h"
+#include "tests/support/OpenGraph.h"
 
 namespace kavlix::test {
 namespace {
 
 using monitor::CMonitorGraph, monitor::GraphSettings, monitor::GraphSource;
 
-/// The graph with a view of what it has set.
+/// The graph with its protected members open.
 class Graph : public testkit::OpenGraphOf<CMonitorGraph> {
 public:
     void Paint() { DrawOnce(); }
@@ -86,28 +88,6 @@ TEST_F(MonitorGraph, RangeHasRoundTicksAtEveryHeight) {
     EXPECT_GT(different, 2) << "the range follows the number of ticks";
 }
 
-TEST_F(MonitorGraph, HandsOverAllSamplesOfAnOrdinaryRecordingAndFewOfAHugeOne) {
-    Show(22'695, {"a", "b"});
-    EXPECT_EQ(m_graph.GetDatasetSize(0), 22'695);
-    EXPECT_EQ(m_graph.GetDatasetSize(1), 22'695);
-    EXPECT_EQ(m_graph.m_XTickLabelUp.GetSize(), 22'695);
-    EXPECT_EQ(m_graph.m_XVisibleMax, 22'694);
-
-    Show(300'000, {"a"});
-    EXPECT_GT(m_graph.SamplesEach(), 1u);
-    EXPECT_LT(m_graph.GetDatasetSize(0), 60'000);
-    EXPECT_EQ(m_graph.GetDatasetSize(1), 0) << "the second series went";
-
-    m_graph.SetVisible({1000, 1999});
-    EXPECT_EQ(m_graph.SamplesEach(), 1u);
-    EXPECT_EQ(m_graph.GetDatasetSize(0), 1000);
-    double value = 0;
-    EXPECT_TRUE(m_graph.GetYData(0, 5, value));
-    EXPECT_DOUBLE_EQ(value, Ramp(1005, 0));
-    m_graph.SetSelectionMarkPos(5);
-    EXPECT_EQ(m_graph.MarkedSample(), 1005u);
-}
-
 TEST_F(MonitorGraph, BarsHaveRoomAndSayWhatTheyStandFor) {
     Show(5000, {"a", "b"}, CGraphCtrl::GraphStyleBar);
     const int bars = m_graph.GetDatasetSize(0);
@@ -139,72 +119,75 @@ TEST_F(MonitorGraph, TimeRangeStandsInTheCaptionOrUnderATextTitle) {
     EXPECT_EQ(m_graph.XLabel(), "1970-01-01 00:00 to 1970-01-04 11:19");
 }
 
-TEST_F(MonitorGraph, GrowingReadingsKeepTheMarkOnItsSample) {
-    GraphSource source = Show(10, {"a"});
-    m_graph.SetSelectionMarkPos(6);
-    const auto grown = [&](std::size_t removed, std::size_t added) {
-        auto next = std::make_shared<recording::Recording>(*source.recording);
-        next->times.erase(next->times.begin(), next->times.begin() + static_cast<std::ptrdiff_t>(removed));
-        auto& values = next->series[0].values;
-        values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(removed));
-        for (std::size_t i = 0; i < added; ++i) {
-            next->times.push_back(next->times.back() + recording::kMicrosPerMinute);
-            values.push_back(100 + static_cast<double>(i));
+// Random changes of what is shown, against what must hold after each: the control has the visible samples,
+// and the mark stays on its sample while that is visible.
+TEST_F(MonitorGraph, HoldsTheVisibleSamplesAndKeepsTheMarkWhateverChanges) {
+    std::mt19937 random(13);
+    for (int round = 0; round < 8; ++round) {
+        const bool huge = round == 0;
+        GraphSource source = Show(huge ? 120'000 : 20 + random() % 6000, {"a", "b"});
+        std::optional<std::size_t> mark;
+        for (int step = 0; step < 25; ++step) {
+            const std::size_t count = source.recording->times.size();
+            GraphSettings settings = m_graph.Settings();
+            const unsigned action = random() % 7;
+            SCOPED_TRACE(std::to_string(round) + ", " + std::to_string(step) + ": " + std::to_string(action));
+            if (action == 0) {
+                const std::size_t first = random() % count;
+                const std::size_t last = std::min(count - 1, first + 20 + random() % count);
+                m_graph.SetVisible({first, last});
+                mark = mark && *mark >= first && *mark <= last ? mark : std::nullopt;
+            } else if (action == 1) {
+                settings.style = static_cast<CGraphCtrl::GraphStyle>(random() % 3);
+                m_graph.SetSettings(settings);
+            } else if (action == 2) {
+                settings.series[1].visible = !settings.series[1].visible;
+                m_graph.SetSettings(settings);
+            } else if (action == 3) {
+                Resize(300 + static_cast<int>(random() % 700), 200 + static_cast<int>(random() % 400));
+            } else if (action == 4 || action == 5) {
+                const std::size_t removed = std::min<std::size_t>(random() % 12, count - 1);
+                auto next = std::make_shared<recording::Recording>(
+                    recording::WithoutHead(*source.recording, removed));
+                for (unsigned i = action == 4 ? random() % 10 : 0; i > 0; --i) {
+                    next->times.push_back(next->times.back() + recording::kMicrosPerMinute);
+                    next->series[0].values.push_back(static_cast<double>(random() % 300));
+                    next->series[1].values.push_back(1);
+                }
+                source.recording = next;
+                if (action == 5)
+                    m_graph.ShowRest(source, removed, settings);
+                else if (random() % 2 == 0)
+                    m_graph.ShowGrown(source, removed);
+                else
+                    m_graph.ShowGrown(source, removed, settings);
+                mark =
+                    action == 4 && mark && *mark >= removed ? std::optional(*mark - removed) : std::nullopt;
+            } else {
+                m_graph.SetSelectionMarkPos(static_cast<int>(random() % 20));
+                mark = m_graph.MarkedSample();
+            }
+            ASSERT_EQ(m_graph.MarkedSample(), mark);
+            ASSERT_EQ(m_graph.SelectionMark().index >= 0, mark.has_value());
+            const recording::VisibleRange seen = m_graph.Visible();
+            const int held = m_graph.GetDatasetSize(0);
+            ASSERT_EQ(m_graph.GetDatasetSize(1), held);
+            ASSERT_EQ(m_graph.m_XTickLabelUp.GetSize(), held);
+            ASSERT_TRUE(held <= 60'000 && held * m_graph.SamplesEach() >= seen.last - seen.first + 1);
+            double value = 0;
+            if (m_graph.SamplesEach() > 1)
+                continue;
+            ASSERT_EQ(static_cast<std::size_t>(held), seen.last - seen.first + 1);
+            const auto& values = source.recording->series[0].values;
+            for (int i = 0; i < held; i += 1 + held / 50) {
+                ASSERT_TRUE(m_graph.GetYData(0, i, value));
+                ASSERT_EQ(value, values[seen.first + static_cast<std::size_t>(i)]);
+            }
+            ASSERT_TRUE(!mark || m_graph.SelectionMark().values[0] == values[*mark]);
         }
-        source.recording = std::move(next);
-        m_graph.ShowGrown(source, removed);
-    };
-    grown(2, 3);
-    EXPECT_EQ(m_graph.GetDatasetSize(0), 11);
-    EXPECT_EQ(m_graph.m_XTickLabelUp.GetSize(), 11);
-    EXPECT_EQ(m_graph.SelectionMark().index, 4);
-    EXPECT_DOUBLE_EQ(m_graph.SelectionMark().values[0], Ramp(6, 0));
-    double value = 0;
-    EXPECT_TRUE(m_graph.GetYData(0, 10, value));
-    EXPECT_EQ(value, 102);
-    EXPECT_GE(m_graph.m_YVisibleMax, 102) << "the range follows";
-    grown(5, 1);
-    EXPECT_EQ(m_graph.GetDatasetSize(0), 7);
-    EXPECT_EQ(m_graph.SelectionMark().index, -1) << "its sample is gone";
-}
-
-TEST_F(MonitorGraph, MarkStaysOnItsSampleWhateverIsShownOfTheRest) {
-    GraphSource source = Show(5000, {"a", "b"});
-    m_graph.SetVisible({1000, 2999});
-    m_graph.SetSelectionMarkPos(234);
-    const auto expectMark = [&](const char* after) {
-        EXPECT_EQ(m_graph.MarkedSample(), 1234u) << after;
-        EXPECT_GE(m_graph.SelectionMark().index, 0) << after;
-    };
-    GraphSettings settings = m_graph.Settings();
-    settings.series[1].visible = false;
-    m_graph.SetSettings(settings);
-    expectMark("hiding a series");
-    m_graph.SetVisible({0, 4999});
-    expectMark("zooming out");
-    settings.style = CGraphCtrl::GraphStyleBar;
-    m_graph.SetSettings(settings);
-    EXPECT_GT(m_graph.SamplesEach(), 1u);
-    expectMark("bars");
-    Resize(700, 400);
-    expectMark("fewer bars");
-    settings.style = CGraphCtrl::GraphStyleLine;
-    m_graph.SetSettings(settings);
-    expectMark("lines again");
-    EXPECT_DOUBLE_EQ(m_graph.SelectionMark().values[0], Ramp(1234, 0));
-    m_graph.SetVisible({2000, 2999});
-    EXPECT_EQ(m_graph.SelectionMark().index, -1) << "its sample is not to be seen";
-
-    // Bars that stand for several readings each: what was marked moves through them with the time.
-    settings.style = CGraphCtrl::GraphStyleBar;
-    m_graph.Show(source, settings);
-    m_graph.SetSelectionMarkPos(3);
-    const std::size_t marked = *m_graph.MarkedSample();
-    for (std::size_t i = 0; i < marked; ++i)
-        m_graph.ShowGrown(source, 1);
-    EXPECT_EQ(m_graph.MarkedSample(), 0u);
-    m_graph.ShowGrown(source, 1, settings);
-    EXPECT_EQ(m_graph.SelectionMark().index, -1);
+    }
+    Show(5000, {"a"});
+    EXPECT_EQ(m_graph.GetDatasetSize(1), 0) << "the second series went";
 }
 
 TEST_F(MonitorGraph, LongNamesAreShortenedToTheRoomThereIs) {

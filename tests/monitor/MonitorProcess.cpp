@@ -1,3 +1,5 @@
+// Starts KavlixMonitor.exe, waits for its end, and decodes the picture it saved.
+
 #include "tests/monitor/MonitorProcess.h"
 
 #include <windows.h>
@@ -17,7 +19,7 @@ namespace {
 
 constexpr DWORD kPatience = 90'000; // milliseconds; a loaded machine may take long
 
-/// A new file that a started program can write to.
+/// A new file whose handle a child process inherits.
 HANDLE OpenForProgram(const std::string& path) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     return CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
@@ -72,13 +74,8 @@ MonitorRun RunMonitor(const std::vector<std::string>& arguments) {
     return run;
 }
 
-int Picture::Count(std::uint32_t rgb, int fromX, int toX) const {
-    int count = 0;
-    const int end = toX < 0 ? width : std::min(toX, width);
-    for (int y = 0; y < height; ++y)
-        for (int x = fromX; x < end; ++x)
-            count += At(x, y) == rgb;
-    return count;
+int Picture::Count(std::uint32_t rgb) const {
+    return static_cast<int>(std::count(pixels.begin(), pixels.end(), rgb));
 }
 
 Picture::Place Picture::Where(std::uint32_t rgb) const {

@@ -1,41 +1,42 @@
+// Runs of KavlixMonitor.exe, and pictures that it saved.
 #pragma once
-
-#include "tests/support/TempFolder.h"
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "tests/support/TempFolder.h"
+
 namespace kavlix::test {
 
 using testkit::TempFolder;
 
-/// What a run of KavlixMonitor.exe left behind.
+/// The result of a run of KavlixMonitor.exe.
 struct MonitorRun {
-    unsigned status = 999; ///< 999: it could not be started, or did not end in time and was stopped
+    unsigned status = 999; ///< 999: it did not start, or did not end in time and was stopped
     std::string output;
     std::string error;
 };
 
-/// Runs the KavlixMonitor.exe that stands beside the test program, and waits for its end.
+/// Runs the KavlixMonitor.exe in the folder of the test program and waits for its end.
 MonitorRun RunMonitor(const std::vector<std::string>& arguments);
 
 /// A decoded picture.
 struct Picture {
-    int width = 0; ///< 0: there is no such picture
+    int width = 0; ///< 0: the file is no picture
     int height = 0;
     std::vector<std::uint32_t> pixels; ///< 0xRRGGBB, rows from the top
 
     std::uint32_t At(int x, int y) const { return pixels[static_cast<std::size_t>(y) * width + x]; }
 
-    /// Pixels of this very colour within the given columns (the end excluded); all columns by default.
-    int Count(std::uint32_t rgb, int fromX = 0, int toX = -1) const;
+    /// Number of pixels of this colour.
+    int Count(std::uint32_t rgb) const;
 
     struct Place {
         int left, top, right, bottom;
     };
-    /// First and last column and row that hold the colour; its last ones come before its first where none
-    /// does.
+    /// First and last column and row with the colour. Without any, the last ones are less than the
+    /// first ones.
     Place Where(std::uint32_t rgb) const;
 };
 

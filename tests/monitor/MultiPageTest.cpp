@@ -1,12 +1,12 @@
-// The page with the multi-type graph: what it is filled with for each type, and its copy and print.
-
-#include "monitor/MultiGraphView.h"
-#include "monitor/MultiOptionsPanel.h"
-#include "tests/monitor/FrameWithPage.h"
+// The multi page: the contents of its graph for each type, copy and print.
 
 #include <afxres.h>
 
 #include <functional>
+
+#include "monitor/MultiGraphView.h"
+#include "monitor/MultiOptionsPanel.h"
+#include "tests/monitor/FrameWithPage.h"
 
 namespace kavlix::test {
 namespace {
@@ -25,7 +25,7 @@ struct Inside : CGraph {
 
 class MultiPage : public FrameWithPage {
 protected:
-    /// Four days, each hour a value: up = 10 * day + 4 * hour, and no value on the third day; down = -up.
+    /// Four days with a value each hour, none on the third day: up = 10 * day + 4 * hour, down = -up.
     std::string Days() {
         std::string text = "time,up,down\n";
         for (int hour = 0; hour < 4 * 24; ++hour) {

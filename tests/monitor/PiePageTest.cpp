@@ -1,11 +1,11 @@
-// The page with a pie: which sample it shows, what a click names, and that it stands still.
+// The pie page: its sample, its selection and its copy.
+
+#include <afxres.h>
 
 #include "monitor/GraphPage.h"
 #include "monitor/MonitorPie.h"
 #include "tests/monitor/FrameWithPage.h"
 #include "tests/support/MessageBoxWatcher.h"
-
-#include <afxres.h>
 
 namespace kavlix::test {
 namespace {
@@ -27,7 +27,7 @@ protected:
         Command(ID_PAGE_PIE);
     }
     CMonitorPie& Pie() { return ControlOf<CMonitorPie>(IDC_PIE); }
-    /// Clicks where the pie is seen at an angle of so many degrees.
+    /// Clicks into the pie at an angle in degrees.
     void Click(double angle) {
         Pie().UpdateWindow();
         CPoint point;
@@ -119,26 +119,14 @@ TEST_F(PiePage, LiveMemoryIsAWholeUnderItsHeadingAndKeepsTheSelection) {
         EXPECT_NEAR(whole, 1, 1e-9);
         EXPECT_EQ(Text().substr(0, 16), "Kavlix Monitor: ");
     }
+    const monitor::PieceSettings piece{"piece", RGB(0, 0, 200), 0.5};
+    Pie().Show({piece, piece}, "");
+    EXPECT_EQ(Pie().Selected(), -1) << "another number of pieces";
     Open("pie", {m_folder.Write("one.csv", "time,a\n0,7\n")});
     EXPECT_EQ(Text(), "one.csv, 1970-01-01 00:00:00 (last sample)");
     Pie().UpdateWindow();
     m_frame->Page().Update();
     EXPECT_FALSE(Pie().GetUpdateRect(nullptr)) << "nothing new, nothing painted";
-}
-
-TEST_F(PiePage, SelectionStaysOnItsPieceWhileThereAreAsMany) {
-    OpenSales();
-    const auto show = [this](std::vector<double> shares) {
-        std::vector<monitor::PieceSettings> pieces;
-        for (const double share : shares)
-            pieces.push_back({"piece", RGB(0, 0, 200), share});
-        Pie().Show(pieces, "");
-        return Pie().Selected();
-    };
-    EXPECT_EQ(show({0.5, 0.2, 0.3}), -1);
-    Pie().Select(1);
-    EXPECT_EQ(show({0.4, 0.4, 0.2}), 1);
-    EXPECT_EQ(show({0.5, 0.5}), -1);
 }
 
 TEST_F(PiePage, CopyIsAPictureOfHeadingAndPie) {

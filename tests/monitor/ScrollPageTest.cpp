@@ -1,4 +1,11 @@
-// The page with two graphs over time: what moves together, what stays, and what is said.
+// The scroll page: what moves together, what stays, and the texts.
+
+#include <afxres.h>
+
+#include <kavlix/Kavlix.h>
+
+#include <cmath>
+#include <cwchar>
 
 #include "monitor/ScrollPage.h"
 #include "tests/monitor/FrameWithPage.h"
@@ -6,29 +13,22 @@
 #include "tests/support/MessageBoxWatcher.h"
 #include "tests/support/MetafileRecorder.h"
 
-#include <kavlix/Kavlix.h>
-
-#include <afxres.h>
-
-#include <cmath>
-#include <cwchar>
-
 namespace kavlix::test {
 namespace {
 
 using monitor::CMonitorScrollGraph, monitor::CScrollPage, monitor::GraphSettings, monitor::LiveReadings,
-    monitor::MachineRates, monitor::PageContent, recording::Time;
+    monitor::PageContent, recording::MachineRates, recording::Time;
 
 constexpr Time S = recording::kMicrosPerSecond;
-constexpr double kX = 20; // x units a second
-constexpr int kPixel = 30;
+constexpr double kX = recording::kTimeUnitsPerSecond;
+constexpr int kPixel = recording::kUnitsPerPixel;
 
 /// A day without a change of the clocks in any zone: 2021-01-12 10:00:00.
 const Time kStart = recording::FromCivil({2021, 1, 12, 10, 0, 0, 0});
 
-/// The rules of New York, of every year.
-int g_asked = 0;
+int g_asked = 0; // calls of NewYork
 
+/// The rules of New York for every year, in place of the system's function.
 BOOL WINAPI NewYork(USHORT, PDYNAMIC_TIME_ZONE_INFORMATION, LPTIME_ZONE_INFORMATION zone) {
     ++g_asked;
     *zone = {};
@@ -39,7 +39,7 @@ BOOL WINAPI NewYork(USHORT, PDYNAMIC_TIME_ZONE_INFORMATION, LPTIME_ZONE_INFORMAT
     return TRUE;
 }
 
-/// The same for whoever keeps rules by the zone.
+/// The zone's name, for code that caches rules by name.
 DWORD WINAPI InNewYork(PDYNAMIC_TIME_ZONE_INFORMATION zone) {
     *zone = {};
     std::wcscpy(zone->TimeZoneKeyName, L"Eastern Standard Time");
@@ -58,7 +58,7 @@ struct Inside : CMonitorScrollGraph {
 class Page : public CScrollPage {
 public:
     using CScrollPage::CScrollPage;
-    int scrolled = 0; ///< notifications of the graphs
+    int scrolled = 0; ///< number of GCN_SCROLL notifications
 
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
@@ -67,7 +67,7 @@ protected:
     }
 };
 
-/// The page in a window that gives it what a test wants.
+/// The page in a host that gives it the content of the test.
 class ScrollPage : public testing::Test, protected monitor::PageHost {
 protected:
     ScrollPage() : m_page(*this) {
@@ -111,8 +111,8 @@ protected:
             monitor::DefaultSettings("live", m_content.live->SeriesNames(), 1000, CGraphCtrl::GraphStyleLine);
         m_page.Update();
     }
-    /// Readings once a second: the processor's is the number of the reading modulo 100. The page is told of
-    /// every tenth and the last, as after a pause.
+    /// Adds readings, one a second; the processor's value is the number of the reading modulo 100. Updates
+    /// the page after every tenth reading and after the last.
     void Live(int count) {
         constexpr int together = 10;
         for (int i = 0; i < count; ++i, ++m_taken) {
@@ -214,7 +214,7 @@ TEST_F(ScrollPage, GraphsScrollTogetherAndTellItOnce) {
     }
     m_page.scrolled = 0;
     const double before = Position();
-    // From whichever window has the keys it comes to the page; less than a step waits for the rest.
+    // The wheel reaches the page from either graph. A rotation of less than a step waits for the rest.
     m_graph[1]->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20), 0);
     EXPECT_EQ(Position(), before);
     m_graph[0]->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20), 0);
@@ -287,7 +287,7 @@ TEST_F(ScrollPage, RangesKeepWhatThePersonLooksAt) {
     for (const UINT id : {ID_SCROLL_RANGE_24_HOURS, ID_SCROLL_RANGE_1_HOUR, ID_SCROLL_RANGE_15_MINUTES,
                           ID_SCROLL_RANGE_7_DAYS}) {
         Command(id);
-        EXPECT_EQ(Inside::Width(*m_graph[0]), recording::kStripRanges[id - ID_SCROLL_RANGE_FIRST] * kX);
+        EXPECT_EQ(Inside::Width(*m_graph[0]), recording::kViewRanges[id - ID_SCROLL_RANGE_FIRST] * kX);
         EXPECT_EQ(Position(1), Position());
         EXPECT_NEAR((m_graph[0]->FirstVisible() + m_graph[0]->LastVisible()) / 2, middle, 3) << id;
     }
@@ -334,13 +334,13 @@ TEST_F(ScrollPage, TheViewBeginsAtASampleWhereverItGoes) {
     EXPECT_EQ(Position(), 0);
 }
 
-TEST(StripClock, StampsReadAsTheFileDoesAndNeverGoBack) {
+TEST(LocalStamps, StampsReadAsTheFileDoesAndNeverGoBack) {
     const testkit::ImportHook zone("KavlixMfc.dll", "GetTimeZoneInformationForYear",
                                    reinterpret_cast<void*>(&NewYork));
     ASSERT_TRUE(zone.Installed());
     for (const recording::CivilTime& day :
          {recording::CivilTime{2021, 3, 13, 0, 0, 0, 0}, recording::CivilTime{2021, 11, 6, 0, 0, 0, 0}}) {
-        monitor::StripClock clock;
+        monitor::LocalStamps clock;
         long before = 0;
         for (Time time = recording::FromCivil(day); time < recording::FromCivil(day) + 72 * 3600 * S;
              time += 600 * S + S / 2) {
@@ -355,9 +355,9 @@ TEST(StripClock, StampsReadAsTheFileDoesAndNeverGoBack) {
                 << recording::FormatExact(time);
         }
     }
-    // Asking the system takes long, and a day has many samples.
+    // Asking the system is slow, and a day has many samples.
     g_asked = 0;
-    monitor::StripClock clock;
+    monitor::LocalStamps clock;
     const Time day = recording::FromCivil({2021, 3, 14, 0, 0, 0, 0});
     for (Time time = day; time < day + 24 * 3600 * S; time += S)
         clock.Stamp(time);

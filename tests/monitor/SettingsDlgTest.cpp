@@ -1,12 +1,13 @@
-// The Settings dialog: every control changes the preview at once, and what the caller takes.
-
-#include "monitor/SettingsDlg.h"
-#include "tests/monitor/MadeRecordings.h"
+// The settings dialog: its controls change the preview and the settings that the caller takes.
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <memory>
+#include <random>
+
+#include "monitor/SettingsDlg.h"
+#include "tests/monitor/MadeRecordings.h"
 
 namespace kavlix::test {
 namespace {
@@ -44,7 +45,7 @@ protected:
     void Click(int button) { m_dialog->SendDlgItemMessage(button, BM_CLICK); }
     int Chosen(int box) { return static_cast<int>(m_dialog->SendDlgItemMessage(box, CB_GETCURSEL)); }
 
-    /// What the preview follows is what the caller would take.
+    /// The settings that the caller would take, which the preview must show.
     const GraphSettings& Now() {
         EXPECT_TRUE(m_dialog->Preview().Settings() == m_dialog->Settings()) << "the preview follows";
         return m_dialog->Settings();
@@ -65,55 +66,70 @@ TEST_F(SettingsDlg, OpensWithTheSettingsItWasGivenAndChangesNothing) {
     EXPECT_EQ(m_dialog->Preview().GetGraphStyle(), CGraphCtrl::GraphStyleTwoAxis);
 }
 
-TEST_F(SettingsDlg, EveryChangeOfTheGraphReachesThePreviewAtOnce) {
-    Open(2);
-    m_dialog->SetDlgItemText(IDC_TITLE, "Other title");
-    EXPECT_EQ(Now().title, "Other title");
-    Choose(IDC_STYLE, 1);
-    EXPECT_EQ(Now().style, CGraphCtrl::GraphStyleBar);
-    EXPECT_EQ(m_dialog->Preview().GetGraphStyle(), CGraphCtrl::GraphStyleBar);
-    const int titleStyle = Chosen(IDC_TITLE_STYLE);
-    Choose(IDC_TITLE_STYLE, 1 - titleStyle);
-    EXPECT_EQ(Now().titleStyle, 1 - titleStyle);
-    EXPECT_EQ(m_dialog->Preview().GetTitleStyle(), 1 - titleStyle);
-    Click(IDC_LEGEND);
-    EXPECT_FALSE(Now().legend);
-    EXPECT_FALSE(m_dialog->Preview().GetShowLegend());
-    Click(IDC_LEGEND);
-    EXPECT_TRUE(m_dialog->Preview().GetShowLegend());
-    const bool gridX = Now().gridX;
-    const bool gridY = Now().gridY;
-    Click(IDC_GRID_X);
-    EXPECT_NE(Now().gridX, gridX);
-    EXPECT_EQ(Now().gridY, gridY);
-    Click(IDC_GRID_Y);
-    EXPECT_NE(Now().gridY, gridY);
-}
-
-TEST_F(SettingsDlg, SeriesAreChangedOneByOne) {
+// Against settings that change as the controls do. The preview must follow every change.
+TEST_F(SettingsDlg, EveryChangeReachesThePreviewAndNothingElse) {
     Open(3);
-    Choose(IDC_SERIES, 1);
-    Choose(IDC_LINE_SIZE, 2);
-    Choose(IDC_MARKER, 4);
-    Click(IDC_SHOW_SERIES);
-    Choose(IDC_SERIES, 2);
-    EXPECT_EQ(Chosen(IDC_LINE_SIZE), 0) << "the controls show the chosen series";
-    EXPECT_EQ(Chosen(IDC_MARKER), 0);
-    EXPECT_EQ(m_dialog->IsDlgButtonChecked(IDC_SHOW_SERIES), 1u);
-    Choose(IDC_MARKER, 1);
-    Choose(IDC_SERIES, 1);
-    EXPECT_EQ(Chosen(IDC_LINE_SIZE), 2);
-    EXPECT_EQ(m_dialog->IsDlgButtonChecked(IDC_SHOW_SERIES), 0u);
-
-    const GraphSettings& settings = Now();
-    const GraphSettings before = SettingsOf(Waves(3));
-    EXPECT_TRUE(settings.series[0] == before.series[0]);
-    EXPECT_EQ(settings.series[1].lineSize, 90);
-    EXPECT_EQ(settings.series[1].marker, CDataset::MarkerCircle);
-    EXPECT_FALSE(settings.series[1].visible);
-    EXPECT_EQ(settings.series[1].color, before.series[1].color);
-    EXPECT_EQ(settings.series[2].marker, CDataset::MarkerSquare);
-    EXPECT_TRUE(settings.series[2].visible);
+    GraphSettings expected = SettingsOf(Waves(3));
+    std::size_t chosen = 0;
+    std::mt19937 random(12);
+    for (int step = 0; step < 200; ++step) {
+        SCOPED_TRACE(step);
+        monitor::SeriesSettings& series = expected.series[chosen];
+        const int choice = static_cast<int>(random() % 3);
+        switch (random() % 10) {
+        case 0:
+            expected.title = "Title " + std::to_string(step);
+            m_dialog->SetDlgItemText(IDC_TITLE, expected.title.c_str());
+            break;
+        case 1:
+            expected.style = static_cast<CGraphCtrl::GraphStyle>(choice);
+            Choose(IDC_STYLE, choice);
+            break;
+        case 2:
+            expected.titleStyle = static_cast<CGraphCtrl::TitleStyle>(choice % 2);
+            Choose(IDC_TITLE_STYLE, choice % 2);
+            break;
+        case 3:
+            if (expected.style == CGraphCtrl::GraphStyleTwoAxis)
+                break; // two axes have no legend to switch
+            expected.legend = !expected.legend;
+            Click(IDC_LEGEND);
+            break;
+        case 4:
+            expected.gridX = !expected.gridX;
+            Click(IDC_GRID_X);
+            break;
+        case 5:
+            expected.gridY = !expected.gridY;
+            Click(IDC_GRID_Y);
+            break;
+        case 6:
+            chosen = static_cast<std::size_t>(choice);
+            Choose(IDC_SERIES, choice);
+            break;
+        case 7:
+            series.lineSize = monitor::LineSizeChoices()[static_cast<std::size_t>(choice)].size;
+            Choose(IDC_LINE_SIZE, choice);
+            break;
+        case 8:
+            series.marker = monitor::MarkerChoices()[static_cast<std::size_t>(choice)].type;
+            Choose(IDC_MARKER, choice);
+            break;
+        default:
+            series.visible = !series.visible;
+            Click(IDC_SHOW_SERIES);
+        }
+        ASSERT_TRUE(Now() == expected);
+        ASSERT_EQ(m_dialog->Preview().GetGraphStyle(), expected.style);
+        ASSERT_EQ(m_dialog->Preview().GetTitleStyle(), expected.titleStyle);
+        ASSERT_EQ(m_dialog->Preview().GetShowLegend() != FALSE,
+                  expected.legend && expected.style != CGraphCtrl::GraphStyleTwoAxis);
+        const monitor::SeriesSettings& shown = expected.series[chosen];
+        ASSERT_EQ(monitor::LineSizeChoices()[static_cast<std::size_t>(Chosen(IDC_LINE_SIZE))].size,
+                  shown.lineSize);
+        ASSERT_EQ(monitor::MarkerChoices()[static_cast<std::size_t>(Chosen(IDC_MARKER))].type, shown.marker);
+        ASSERT_EQ(m_dialog->IsDlgButtonChecked(IDC_SHOW_SERIES) != 0, shown.visible);
+    }
 }
 
 TEST_F(SettingsDlg, OnlyPossibleChoicesAreOffered) {
@@ -125,9 +141,6 @@ TEST_F(SettingsDlg, OnlyPossibleChoicesAreOffered) {
     EXPECT_TRUE(m_dialog->GetDlgItem(IDC_LEGEND)->IsWindowEnabled());
     Choose(IDC_STYLE, 2);
     EXPECT_FALSE(m_dialog->GetDlgItem(IDC_LEGEND)->IsWindowEnabled()) << "two axes have no legend";
-    EXPECT_FALSE(m_dialog->Preview().GetShowLegend());
-    Choose(IDC_STYLE, 0);
-    EXPECT_TRUE(m_dialog->Preview().GetShowLegend()) << "the legend comes back with the lines";
 }
 
 TEST_F(SettingsDlg, TabReachesThePreviewAfterTheControls) {
@@ -136,7 +149,7 @@ TEST_F(SettingsDlg, TabReachesThePreviewAfterTheControls) {
     CWnd* const preview = m_dialog->GetDlgItem(IDC_PREVIEW);
     EXPECT_EQ(m_dialog->GetNextDlgTabItem(title, TRUE), preview);
     EXPECT_EQ(m_dialog->GetNextDlgTabItem(preview, FALSE), title);
-    // Escape belongs to the preview only while there is a mark to clear.
+    // The preview wants Escape only while it has a mark to clear.
     MSG escape{preview->m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
     const auto wanted = [&] {
         return (preview->SendMessage(WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&escape)) &

@@ -1,13 +1,16 @@
-#include "monitor/recording/CsvReader.h"
+// Rows, cells, places and faults of comma-separated text, whatever the pieces it is fed in.
 
 #include <gtest/gtest.h>
 
 #include <random>
 
+#include "monitor/recording/CsvReader.h"
+
 namespace kavlix::recording {
 namespace {
 
-/// Writes down what the reader delivers, as text that a failed test can show.
+/// Writes down what the reader delivers: `LINE [CELL]@LINE:COLUMN ... end LINE:COLUMN` and
+/// `fault KIND@LINE:COLUMN`.
 class Recorder final : public CsvSink {
 public:
     bool OnRow(const CsvRow& row) override {
@@ -17,33 +20,28 @@ public:
                    std::to_string(cell.column);
         }
         log += " end " + std::to_string(row.endLine) + ':' + std::to_string(row.endColumn) + '\n';
-        cells.emplace_back();
-        for (const CsvCell& cell : row.cells)
-            cells.back().emplace_back(cell.text);
-        return cells.size() < stopAfter;
+        return ++rows < stopAfter;
     }
 
     void OnFault(CsvFault fault, std::uint64_t line, std::uint64_t column) override {
         log += "fault " + std::to_string(static_cast<int>(fault)) + '@' + std::to_string(line) + ':' +
                std::to_string(column) + '\n';
-        faults.push_back(fault);
     }
 
     std::string log;
-    std::vector<std::vector<std::string>> cells;
-    std::vector<CsvFault> faults;
+    std::size_t rows = 0;
     std::size_t stopAfter = SIZE_MAX;
 };
 
-Recorder ReadWhole(std::string_view text) {
+std::string LogOf(std::string_view text) {
     Recorder recorder;
     CsvReader reader(recorder);
     reader.Feed(text.data(), text.size());
     reader.Finish();
-    return recorder;
+    return recorder.log;
 }
 
-/// The log of reading the text in pieces of at most so many bytes.
+/// The log of reading the text in random pieces of at most `most` bytes.
 std::string LogOfPieces(std::string_view text, std::size_t most, std::mt19937& random) {
     Recorder recorder;
     CsvReader reader(recorder);
@@ -56,108 +54,69 @@ std::string LogOfPieces(std::string_view text, std::size_t most, std::mt19937& r
     return recorder.log;
 }
 
-using Rows = std::vector<std::vector<std::string>>;
-
-TEST(CsvReader, ReadsCellsRowsAndQuotes) {
-    const struct {
-        std::string_view text;
-        Rows rows;
-    } cases[] = {
-        {"", {}},
-        {"a", {{"a"}}},
-        {"a,b\n", {{"a", "b"}}},
-        {"a,b\r\n1,2\r\n", {{"a", "b"}, {"1", "2"}}},
-        {"a,b\r1,2\r", {{"a", "b"}, {"1", "2"}}},
-        {"a,b\n1,2", {{"a", "b"}, {"1", "2"}}},
-        {"a,b\n\n1,2\n", {{"a", "b"}, {""}, {"1", "2"}}},
-        {"a,b\r\r\n\n1,2\n", {{"a", "b"}, {""}, {""}, {"1", "2"}}},
-        {"a,,\n,\n", {{"a", "", ""}, {"", ""}}},
-        {"\xEF\xBB\xBF"
-         "a,b\n",
-         {{"a", "b"}}},
-        {"\"a\",\"b,c\"\n\"\",\"\"\"\"\n", {{"a", "b,c"}, {"", "\""}}},
-        {"a,\"x\ny\r\nz\",c\n1,2,3\n", {{"a", "x\ny\r\nz", "c"}, {"1", "2", "3"}}},
-        {"a,b\"c\"\n", {{"a", "b\"c\""}}},
-        {"a,\"b\"\"c\",\"d\"\"\"\n", {{"a", "b\"c", "d\""}}},
-        {std::string_view("a,b\n\0,1\n", 8), {{"a", "b"}, {std::string(1, '\0'), "1"}}},
+TEST(CsvReader, ReadsCellsQuotesSeparatorsAndLineEnds) {
+    const std::pair<std::string_view, std::string_view> cases[] = {
+        {"", ""},
+        {"a,b\r\n1,2\r\n", "1 [a]@1:1 [b]@1:3 end 1:4\n2 [1]@2:1 [2]@2:3 end 2:4\n"},
+        {"a\r\r\n\nb", "1 [a]@1:1 end 1:2\n2 []@2:1 end 2:1\n3 []@3:1 end 3:1\n4 [b]@4:1 end 4:2\n"},
+        {"\xEF\xBB\xBF,\n", "1 []@1:1 []@1:2 end 1:2\n"},
+        {"\"a\",\"b,c\",\"\",\"\"\"\"", "1 [a]@1:1 [b,c]@1:5 []@1:11 [\"]@1:14 end 1:18\n"},
+        {"a,b\"c\"", "1 [a]@1:1 [b\"c\"]@1:3 end 1:7\n"},
+        {"a,\"b\"\"c\"", "1 [a]@1:1 [b\"c]@1:3 end 1:9\n"},
+        {"1,\"x\r\ny\rz\",3\n4\n", "1 [1]@1:1 [x\r\ny\rz]@1:3 [3]@3:4 end 3:5\n4 [4]@4:1 end 4:2\n"},
+        {"a,\"b\"x,c", "fault 3@1:6\n1 [a]@1:1 [bx]@1:3 [c]@1:8 end 1:9\n"},
+        {"1,\"2\n3\n", "fault 2@1:3\n1 [1]@1:1 [2]@1:3 end 1:5\n2 [3]@2:1 end 2:2\n"},
+        {"t;a\n1;2,5", "1 [t]@1:1 [a]@1:3 end 1:4\n2 [1]@2:1 [2,5]@2:3 end 2:6\n"},
+        {"t\ta,b\tc", "1 [t]@1:1 [a,b]@1:3 [c]@1:7 end 1:8\n"},
+        {"\"t,u,v\";a", "1 [t,u,v]@1:1 [a]@1:9 end 1:10\n"},
+        {"t;a, b", "1 [t]@1:1 [a, b]@1:3 end 1:7\n"}, // two separators once each: the first one counts
     };
-    for (const auto& one : cases) {
-        const Recorder read = ReadWhole(one.text);
-        EXPECT_EQ(read.cells, one.rows) << one.text;
-        EXPECT_TRUE(read.faults.empty()) << one.text;
-    }
+    for (const auto& [text, log] : cases)
+        EXPECT_EQ(LogOf(text), log) << text;
+    EXPECT_EQ(LogOf(std::string_view("\0,1", 3)), std::string("1 [") + '\0' + "]@1:1 [1]@1:3 end 1:4\n");
+
+    Recorder recorder;
+    recorder.stopAfter = 2;
+    CsvReader reader(recorder);
+    for (int i = 0; i < 2; ++i)
+        reader.Feed("a\nb\nc\n", 6);
+    reader.Finish();
+    EXPECT_TRUE(reader.Stopped());
+    EXPECT_EQ(recorder.rows, 2u) << "the sink stopped the reader";
 }
 
-TEST(CsvReader, FindsTheSeparatorInTheFirstLine) {
-    const std::pair<const char*, Rows> cases[] = {
-        {"t;a\n1;2,5\n", {{"t", "a"}, {"1", "2,5"}}},
-        {"t\ta\n1\t2,5\n", {{"t", "a"}, {"1", "2,5"}}},
-        {"\"t,u,v\";a\n", {{"t,u,v", "a"}}},
-        {"t;a, b\n", {{"t", "a, b"}}}, // as many of both: the first counts
-        {"t,a;b;c\n", {{"t,a", "b", "c"}}},
-        {"t\n1,2\n", {{"t"}, {"1", "2"}}},
-    };
-    for (const auto& [text, rows] : cases)
-        EXPECT_EQ(ReadWhole(text).cells, rows) << text;
-}
-
-TEST(CsvReader, TellsPlacesAcrossQuotedLineBreaks) {
-    EXPECT_EQ(ReadWhole("ab,c\n1,\"x\r\ny\",3\n4\n").log, "1 [ab]@1:1 [c]@1:4 end 1:5\n"
-                                                          "2 [1]@2:1 [x\r\ny]@2:3 [3]@3:4 end 3:5\n"
-                                                          "4 [4]@4:1 end 4:2\n");
-    EXPECT_EQ(ReadWhole("a,\"b\"x,c\n").log, "fault 3@1:6\n1 [a]@1:1 [bx]@1:3 [c]@1:8 end 1:9\n");
-}
-
-TEST(CsvReader, AnOpenQuoteLosesNoRowBelow) {
-    const Recorder read = ReadWhole("t,a\n1,\"2\n3,4\n5,6\n");
-    EXPECT_EQ(read.cells, (Rows{{"t", "a"}, {"1", "2"}, {"3", "4"}, {"5", "6"}}));
-    EXPECT_EQ(read.faults, std::vector<CsvFault>{CsvFault::OpenQuote});
-    EXPECT_NE(read.log.find("fault 2@2:3\n"), std::string::npos);
-
-    // The same far from the end of the file, where the reader gives up waiting.
+// An open quote far from the end of the file, where the reader no longer waits for its end. Lines that close
+// a quote and open one again make the reader search for the row's end: searching anew in every line would
+// take hours.
+TEST(CsvReader, AnOpenQuoteLosesNoRowAndTakesLinearTime) {
     std::string text = "t,a\n1,\"2\n";
-    std::size_t rows = 2;
-    while (text.size() < 3 * CsvReader::kLineLimit) {
+    std::size_t rows = 3;
+    for (; text.size() < 3 * CsvReader::kLineLimit; ++rows)
         text += "3,4\n";
-        ++rows;
-    }
-    const Recorder large = ReadWhole(text + "5,\"6\n7\"\n");
-    EXPECT_EQ(large.faults, std::vector<CsvFault>{CsvFault::OpenQuote});
-    ASSERT_EQ(large.cells.size(), rows + 1);
-    EXPECT_EQ(large.cells[1], (std::vector<std::string>{"1", "2"}));
-    EXPECT_EQ(large.cells.back(), (std::vector<std::string>{"5", "6\n7"}));
+    const std::string log = LogOf(text + "5,\"6\n7\"\n");
+    EXPECT_EQ(static_cast<std::size_t>(std::count(log.begin(), log.end(), ']')), 2 * rows);
+    EXPECT_EQ(log.find("fault 2@2:3\n2 [1]@2:1 [2]@2:3 end"), log.find("fault"));
+    EXPECT_NE(log.find(" [6\n7]@"), std::string::npos) << "a later quote is whole";
+    text = "t,a\n";
+    while (text.size() < 8 * CsvReader::kLineLimit)
+        text += "x\",\"\n";
+    Recorder recorder;
+    CsvReader reader(recorder);
+    reader.Feed(text.data(), text.size());
+    reader.Finish();
+    EXPECT_EQ(recorder.rows, (text.size() - 4) / 5 + 1);
 }
 
 TEST(CsvReader, SkipsLinesBeyondTheLimit) {
     const std::string longest(CsvReader::kLineLimit, 'x');
-    for (const char* lineEnd : {"\n", "\r\n", "\r"}) {
-        const std::string end = lineEnd;
-        const Recorder fits = ReadWhole("a" + end + longest + end + "b" + end);
-        EXPECT_EQ(fits.cells, (Rows{{"a"}, {longest}, {"b"}}));
-        EXPECT_TRUE(fits.faults.empty());
-
-        const Recorder skipped = ReadWhole("a" + end + longest + "x" + end + "b" + end);
-        EXPECT_EQ(skipped.cells, (Rows{{"a"}, {"b"}}));
-        EXPECT_EQ(skipped.faults, std::vector<CsvFault>{CsvFault::LineTooLong});
-        EXPECT_NE(skipped.log.find("3 [b]@3:1"), std::string::npos) << "the line number goes on";
+    for (const std::string end : {"\n", "\r\n", "\r"}) {
+        EXPECT_EQ(LogOf("a" + end + longest + end + "b" + end),
+                  "1 [a]@1:1 end 1:2\n2 [" + longest + "]@2:1 end 2:1048577\n3 [b]@3:1 end 3:2\n");
+        EXPECT_EQ(LogOf("a" + end + longest + "x" + end + "b" + end),
+                  "1 [a]@1:1 end 1:2\nfault 1@2:1048577\n3 [b]@3:1 end 3:2\n");
     }
-    const Recorder quoted = ReadWhole("a\n\"" + longest + longest + "\nb\n");
-    EXPECT_EQ(quoted.cells, (Rows{{"a"}, {"b"}}));
-    const Recorder only = ReadWhole(longest + longest);
-    EXPECT_TRUE(only.cells.empty());
-    EXPECT_EQ(only.faults, std::vector<CsvFault>{CsvFault::LineTooLong});
-}
-
-TEST(CsvReader, StopsWhenTheSinkSaysSo) {
-    Recorder recorder;
-    recorder.stopAfter = 2;
-    CsvReader reader(recorder);
-    const std::string text = "a\nb\nc\nd\n";
-    reader.Feed(text.data(), text.size());
-    EXPECT_TRUE(reader.Stopped());
-    reader.Feed(text.data(), text.size());
-    reader.Finish();
-    EXPECT_EQ(recorder.cells.size(), 2u);
+    EXPECT_EQ(LogOf("\"" + longest + longest + "\nb"), "fault 1@1:1048577\n2 [b]@2:1 end 2:2\n");
+    EXPECT_EQ(LogOf(longest + longest), "fault 1@1:1048577\n");
 }
 
 TEST(CsvReader, ThePiecesDoNotMatter) {
@@ -170,12 +129,9 @@ TEST(CsvReader, ThePiecesDoNotMatter) {
         for (unsigned i = random() % 40; i > 0; --i)
             text += parts[random() % std::size(parts)];
         const std::size_t most = round % 3 == 0 ? 1 : 1 + random() % 7;
-        ASSERT_EQ(LogOfPieces(text, most, random), ReadWhole(text).log) << text;
+        ASSERT_EQ(LogOfPieces(text, most, random), LogOf(text)) << text;
     }
-}
-
-TEST(CsvReader, ThePiecesDoNotMatterAroundTheLimit) {
-    std::mt19937 random(4);
+    // The same around the limit of a line.
     for (int round = 0; round < 12; ++round) {
         std::string text = round % 2 == 0 ? "\xEF\xBB\xBF" : "";
         text += round % 3 == 0 ? "t,a\n1,\"2\n" : "";
@@ -185,18 +141,8 @@ TEST(CsvReader, ThePiecesDoNotMatterAroundTheLimit) {
         }
         for (int i = 0; i < 60; ++i)
             text += "x,\"\n\r\""[random() % 6];
-        ASSERT_TRUE(LogOfPieces(text, 5000, random) == ReadWhole(text).log) << "round " << round;
+        ASSERT_TRUE(LogOfPieces(text, 5000, random) == LogOf(text)) << "round " << round;
     }
-}
-
-// Lines that close a quote and open one again keep a reader searching for the end of the row: it must not
-// begin anew at every line. Read so, this text would take hours.
-TEST(CsvReader, QuotesThatNeverCloseTakeLinearTime) {
-    std::string text = "t,a\n";
-    while (text.size() < 8 * CsvReader::kLineLimit)
-        text += "x\",\"\n";
-    const Recorder read = ReadWhole(text);
-    EXPECT_EQ(read.cells.size(), (text.size() - 4) / 5 + 1);
 }
 
 } // namespace

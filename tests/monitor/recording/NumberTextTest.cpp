@@ -1,4 +1,4 @@
-#include "monitor/recording/NumberText.h"
+// Reading and writing numbers, and texts for messages.
 
 #include <gtest/gtest.h>
 
@@ -8,26 +8,28 @@
 #include <cstring>
 #include <random>
 
+#include "monitor/recording/NumberText.h"
+
 namespace kavlix::recording {
 namespace {
 
 TEST(ParseNumber, ReadsNumbersInEveryLocale) {
-    const std::pair<const char*, double> cases[] = {
-        {"0", 0.0},
-        {"+1.5", 1.5},
-        {".5", 0.5},
-        {"5.", 5.0},
-        {"\t2 ", 2.0},
-        {"1E+3", 1000.0},
-        {"1e-3", 0.001},
-        {"1e308", 1e308},
-        {"1e-400", 0.0},
-        {"-1e-400", -0.0},
-        {"5e-324", DBL_TRUE_MIN},
-        {"0e999999999999999999999", 0.0},
-        {"0.0001e310", 1e306},
-        {"000000000000000000000000000000012", 12.0},
-    };
+    const std::pair<std::string, double> cases[] = {{"0", 0.0},
+                                                    {"+1.5", 1.5},
+                                                    {".5", 0.5},
+                                                    {"5.", 5.0},
+                                                    {"\t2 ", 2.0},
+                                                    {"1E+3", 1000.0},
+                                                    {"1e-3", 0.001},
+                                                    {"1e308", 1e308},
+                                                    {"1e-400", 0.0},
+                                                    {"-1e-400", -0.0},
+                                                    {"0.0001e310", 1e306},
+                                                    {"0e999999999999999999999", 0.0},
+                                                    {"5e-324", DBL_TRUE_MIN},
+                                                    {std::string(30, '0') + "12", 12.0},
+                                                    {"0." + std::string(1000, '0') + "1", 0.0},
+                                                    {"1" + std::string(1000, '0') + "e-1000", 1.0}};
     const std::string before = std::setlocale(LC_ALL, nullptr);
     for (const char* locale : {"C", "de_DE.UTF-8", "German"}) {
         std::setlocale(LC_ALL, locale); // one that is not installed changes nothing
@@ -39,13 +41,6 @@ TEST(ParseNumber, ReadsNumbersInEveryLocale) {
         EXPECT_EQ(FormatNumber(0.5), "0.5");
     }
     std::setlocale(LC_ALL, before.c_str());
-    double value = 0;
-    const std::string manyZeros = "0." + std::string(1000, '0') + "1";
-    EXPECT_EQ(ParseNumber(manyZeros, value), NumberKind::Value);
-    EXPECT_EQ(value, 0.0);
-    const std::string large = "1" + std::string(1000, '0') + "e-1000";
-    EXPECT_EQ(ParseNumber(large, value), NumberKind::Value);
-    EXPECT_EQ(value, 1.0);
 }
 
 TEST(ParseNumber, TellsGapsFromGarbage) {
@@ -113,14 +108,8 @@ TEST(MessageText, ShowsEveryByteAndIsCut) {
 
 TEST(ToValidUtf8, KeepsUtf8AndTakesTheRestAsLatin1) {
     const std::pair<const char*, const char*> cases[] = {
-        {"\xC2\xB0"
-         "C",
-         "\xC2\xB0"
-         "C"}, // already UTF-8
-        {"\xB0"
-         "C",
-         "\xC2\xB0"
-         "C"},                                                    // Latin-1
+        {"\xC2\xB0-", "\xC2\xB0-"},                               // already UTF-8
+        {"\xB0-", "\xC2\xB0-"},                                   // Latin-1
         {"\xC3", "\xC3\x83"},                                     // cut sequence
         {"\xC0\x80", "\xC3\x80\xC2\x80"},                         // overlong
         {"\xED\xA0\x80", "\xC3\xAD\xC2\xA0\xC2\x80"},             // surrogate

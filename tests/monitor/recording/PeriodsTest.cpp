@@ -1,9 +1,12 @@
-#include "monitor/recording/Periods.h"
+// Periods, their statistics, and the scale of whole numbers.
 
 #include <gtest/gtest.h>
 
 #include <cfloat>
 #include <cmath>
+
+#include "monitor/recording/Periods.h"
+#include "monitor/recording/WholeScale.h"
 
 namespace kavlix::recording {
 namespace {

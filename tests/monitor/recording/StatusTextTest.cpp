@@ -1,12 +1,12 @@
-// What the Monitor's status bar says, and how its panes share the room.
-
-#include "monitor/recording/NearestPoint.h"
-#include "monitor/recording/PaneWidths.h"
-#include "monitor/recording/SampleText.h"
+// Texts and panes of the status bar, and the sample under the pointer.
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+
+#include "monitor/recording/NearestPoint.h"
+#include "monitor/recording/PaneWidths.h"
+#include "monitor/recording/SampleText.h"
 
 namespace kavlix::recording {
 namespace {
@@ -22,7 +22,7 @@ TEST(SampleTexts, HaveTimeAndEverySeriesThatHasAValueInShorterAndShorterForms) {
               "2013-12-02 21:15:00   a: 73.96732207   c: -2");
     EXPECT_EQ(longest(time + 250'000, {{"a", 100.0 / 3}}, ValueDigits::Computed),
               "2013-12-02 21:15:00.250   a: 33.3333")
-        << "neighbours within a second are told apart";
+        << "samples of the same second have different texts";
     const NamedValue earlier{"a", 1, time - kMicrosPerMinute};
     EXPECT_EQ(longest(time, {earlier, {"b", 2, time}}, ValueDigits::AsRead),
               "2013-12-02 21:15:00   a: 1 (21:14:00)   b: 2");
@@ -65,7 +65,7 @@ TEST(NearestPoint, FindsTheValueBesideAGap) {
     EXPECT_EQ(NearestValue(gaps, 2, 1, 1000), std::nullopt) << "and it ends at both ends";
 }
 
-TEST(PaneWidths, NobodyIsCutWithoutNeedAndTheSummaryGivesWayFirst) {
+TEST(PaneWidths, NoPaneIsCutWithoutNeedAndTheSummaryGivesWayFirst) {
     struct {
         int width;
         PaneWidths wanted;

@@ -1,10 +1,12 @@
-#include "monitor/recording/TimeText.h"
+// Reading and writing times, and the calendar.
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <ctime>
 #include <random>
+
+#include "monitor/recording/TimeText.h"
 
 namespace kavlix::recording {
 namespace {
@@ -35,6 +37,7 @@ TEST(ParseTime, ReadsWhatRecordersWrite) {
         {"1969-12-31 23:59:59.75", -1, 750'000, false},
         {"0001-01-01 00:00:00", -62'135'596'800, 0, false},
         {"9999-12-31 23:59:59.999999", 253'402'300'799, 999'999, false},
+        {"-62135596800", -62'135'596'800, 0, false},
         {"-1", -1, 0, false},
         {"-0.25", -1, 750'000, false},
         {"1386018900.000001", 1386018900, 1, false},

@@ -1,8 +1,10 @@
-#include "monitor/recording/ViewChoice.h"
+// Time labels, and the view of the graph page.
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+
+#include "monitor/recording/ViewChoice.h"
 
 namespace kavlix::recording {
 namespace {
@@ -108,7 +110,7 @@ TEST(ViewChoice, BarsOfVisibleSamplesAreAPixelWide) {
         for (std::size_t series = 1; series <= kMaxSeries; ++series) {
             const std::size_t capacity = BarCapacity(width, series);
             ASSERT_GE(capacity, 1u);
-            // The control's arithmetic: the plot is divided by the samples, a slot by the bars and one gap.
+            // The control divides the plot by the samples, and each part by the bars and one gap.
             const int bar = width / static_cast<int>(capacity) / static_cast<int>(series + 1);
             EXPECT_TRUE(capacity == 1 || bar >= 30) << width << ' ' << series;
         }

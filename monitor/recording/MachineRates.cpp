@@ -1,15 +1,16 @@
-#include "monitor/MachineCounters.h"
+// Differences of counters by the time that passed, and their units.
+
+#include "monitor/recording/MachineRates.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 
-namespace kavlix::monitor {
-
+namespace kavlix::recording {
 namespace {
 
-constexpr double kHighestShown = 100;
+constexpr double kHighestShown = 100; // of a rate in its unit, as of percents
 constexpr std::array<const char*, 5> kPrefixes = {"", "k", "M", "G", "T"};
 
 std::optional<double> ProcessorPercent(const MachineCounters& before, const MachineCounters& now) {
@@ -66,7 +67,7 @@ RateUnit ChooseRateUnit(double highestBytesPerSecond) {
 std::string FormatRate(double bytesPerSecond) {
     double value = std::isfinite(bytesPerSecond) ? std::max(bytesPerSecond, 0.0) : 0.0;
     std::size_t prefix = 0;
-    // 999.95 would be printed as 1000.0: the next prefix takes over where the rounding does.
+    // From 999.5 on, rounding would print 1000: take the next prefix.
     while (value >= 999.5 && prefix + 1 < kPrefixes.size()) {
         value /= 1000;
         ++prefix;
@@ -77,4 +78,4 @@ std::string FormatRate(double bytesPerSecond) {
     return text;
 }
 
-} // namespace kavlix::monitor
+} // namespace kavlix::recording

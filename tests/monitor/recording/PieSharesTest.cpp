@@ -1,11 +1,14 @@
-#include "monitor/recording/Division.h"
-#include "monitor/recording/MemoryParts.h"
+// Shares of a whole, values at a row of joined files, and parts of the memory.
 
 #include <gtest/gtest.h>
 
 #include <cfloat>
 #include <cmath>
 #include <tuple>
+
+#include "monitor/recording/JoinedSamples.h"
+#include "monitor/recording/MemoryParts.h"
+#include "monitor/recording/PieShares.h"
 
 namespace kavlix::recording {
 namespace {
@@ -14,7 +17,7 @@ constexpr double kGap = NAN;
 constexpr double kHuge = DBL_MAX;
 constexpr double kTiny = DBL_TRUE_MIN;
 
-TEST(Division, TakesPartsOfAWholeAndNamesTheRest) {
+TEST(PieShares, TakesPartsOfAWholeAndNamesTheRest) {
     struct {
         std::vector<double> values;
         std::vector<std::size_t> parts;
@@ -34,19 +37,19 @@ TEST(Division, TakesPartsOfAWholeAndNamesTheRest) {
     };
     for (const auto& given : cases) {
         SCOPED_TRACE(testing::PrintToString(given.values));
-        const Division division = Divide(given.values);
-        ASSERT_EQ(division.parts.size(), given.parts.size());
+        const PieShares shares = SharesOf(given.values);
+        ASSERT_EQ(shares.parts.size(), given.parts.size());
         for (std::size_t i = 0; i < given.parts.size(); ++i) {
-            EXPECT_EQ(division.parts[i].index, given.parts[i]);
-            EXPECT_EQ(division.parts[i].value, given.values[given.parts[i]]);
-            EXPECT_DOUBLE_EQ(division.parts[i].share, given.shares[i]);
+            EXPECT_EQ(shares.parts[i].index, given.parts[i]);
+            EXPECT_EQ(shares.parts[i].value, given.values[given.parts[i]]);
+            EXPECT_DOUBLE_EQ(shares.parts[i].share, given.shares[i]);
         }
-        EXPECT_EQ(division.total, given.total);
-        EXPECT_EQ(LeftOutText(division, {"a", "b", "c", "d", "e"}), given.leftOut);
+        EXPECT_EQ(shares.total, given.total);
+        EXPECT_EQ(LeftOutText(shares, {"a", "b", "c", "d", "e"}), given.leftOut);
     }
 }
 
-TEST(Division, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval) {
+TEST(PieShares, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval) {
     Recording recording;
     recording.times = {0, 20, 60, 80, 300, 320};
     recording.series = {{"even", 0, {1, kGap, 2, kGap, 3, kGap}}, {"odd", 1, {kGap, 5, kGap, 6, kGap, 7}}};
@@ -59,11 +62,11 @@ TEST(Division, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval) 
     EXPECT_TRUE(std::isnan(ValuesAt(recording, 3)[0])) << "a whole interval away is another row's";
     for (FileSummary& file : recording.files)
         file.interval = 60;
-    EXPECT_EQ(LastRow(recording), 5u);
+    EXPECT_EQ(LastFullRow(recording), 5u);
     recording.times = {0, 20, 60, 80, 300, 400};
-    EXPECT_EQ(LastRow(recording), 3u) << "the last with both";
+    EXPECT_EQ(LastFullRow(recording), 3u) << "the last with both";
     recording.files.resize(1);
-    EXPECT_EQ(LastRow(recording), 5u);
+    EXPECT_EQ(LastFullRow(recording), 5u);
     EXPECT_TRUE(std::isnan(ValuesAt(recording, 0)[1])) << "a gap within one file stays one";
 }
 

@@ -1,9 +1,11 @@
-#include "monitor/recording/Pairing.h"
+// The points of one series against another, in single and in joined files.
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdio>
+
+#include "monitor/recording/ChartPoints.h"
 
 namespace kavlix::recording {
 namespace {
@@ -12,9 +14,9 @@ constexpr double kGap = NAN;
 constexpr Time kMinute = kMicrosPerMinute;
 
 /// `row:x,y` of every point; `row:-` of a gap.
-std::string TextOf(const std::vector<PairedPoint>& points) {
+std::string TextOf(const std::vector<ChartPoint>& points) {
     std::string text;
-    for (const PairedPoint& point : points) {
+    for (const ChartPoint& point : points) {
         char part[64];
         if (std::isnan(point.x) || std::isnan(point.y))
             std::snprintf(part, sizeof part, "%zu:- ", point.row);
@@ -25,25 +27,25 @@ std::string TextOf(const std::vector<PairedPoint>& points) {
     return text;
 }
 
-TEST(Pairing, OfOneFileMakesARowAPointAndAMissingValueAGap) {
+TEST(ChartPoints, OfOneFileMakesARowAPointAndAMissingValueAGap) {
     Recording recording;
     for (int row = 0; row < 5; ++row)
         recording.times.push_back(row * kMinute);
     recording.series = {{"a", 0, {1, 2, kGap, 4, 5}}, {"b", 0, {10, kGap, 30, 40, 50}}};
     recording.files.resize(1);
     const struct {
-        PairChoice choice;
+        ChartChoice choice;
         const char* points;
-    } cases[] = {{{PairKind::Series, 0, 1}, "0:1,10 1:- 2:- 3:4,40 4:5,50 "},
-                 {{PairKind::Series, 1, 0}, "0:10,1 1:- 2:- 3:40,4 4:50,5 "},
-                 {{PairKind::Predecessor, 0, 0}, "0:- 1:1,2 2:- 3:- 4:4,5 "},
-                 {{PairKind::Time, 0, 1}, "0:0,10 1:- 2:2,30 3:3,40 4:4,50 "}};
+    } cases[] = {{{ChartX::Series, 0, 1}, "0:1,10 1:- 2:- 3:4,40 4:5,50 "},
+                 {{ChartX::Series, 1, 0}, "0:10,1 1:- 2:- 3:40,4 4:50,5 "},
+                 {{ChartX::Predecessor, 0, 0}, "0:- 1:1,2 2:- 3:- 4:4,5 "},
+                 {{ChartX::Time, 0, 1}, "0:0,10 1:- 2:2,30 3:3,40 4:4,50 "}};
     for (const auto& given : cases)
-        EXPECT_EQ(TextOf(PairSeries(recording, given.choice)), given.points);
-    EXPECT_TRUE(PairSeries(Recording{{}, {{"a", 0, {}}}, {}, false, 0}, {PairKind::Time, 0, 0}).empty());
+        EXPECT_EQ(TextOf(ChartPointsOf(recording, given.choice)), given.points);
+    EXPECT_TRUE(ChartPointsOf(Recording{{}, {{"a", 0, {}}}, {}, false, 0}, {ChartX::Time, 0, 0}).empty());
 }
 
-TEST(Pairing, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
+TEST(ChartPoints, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
     Recording recording;
     // a at 0, 10, 20, 90, 100 minutes, b at 4, 14, 93 minutes.
     for (const int minute : {0, 4, 10, 14, 20, 90, 93, 100})
@@ -52,19 +54,19 @@ TEST(Pairing, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
                         {"b", 1, {kGap, 40, kGap, 50, kGap, kGap, 90, kGap}}};
     recording.files.resize(2);
     recording.files[0].interval = recording.files[1].interval = 10 * kMinute;
-    EXPECT_EQ(TextOf(PairSeries(recording, {PairKind::Series, 0, 1})),
+    EXPECT_EQ(TextOf(ChartPointsOf(recording, {ChartX::Series, 0, 1})),
               "0:1,40 2:2,50 4:3,50 5:- 5:9,90 7:10,90 ")
         << "as near before as behind: the earlier; a pause breaks the line";
-    EXPECT_EQ(TextOf(PairSeries(recording, {PairKind::Predecessor, 0, 0})),
+    EXPECT_EQ(TextOf(ChartPointsOf(recording, {ChartX::Predecessor, 0, 0})),
               "0:- 2:1,2 4:2,3 5:- 5:- 7:9,10 ");
     recording.files[1].interval = 5 * kMinute;
-    EXPECT_EQ(TextOf(PairSeries(recording, {PairKind::Series, 0, 1})), "0:1,40 2:2,50 4:- 5:- 5:9,90 7:- ");
+    EXPECT_EQ(TextOf(ChartPointsOf(recording, {ChartX::Series, 0, 1})), "0:1,40 2:2,50 4:- 5:- 5:9,90 7:- ");
 }
 
-TEST(Pairing, ChoosesWhatThereIsAndUnitsOfPeoplesSize) {
-    EXPECT_EQ(DefaultPair({2, 5, 6}), (PairChoice{PairKind::Series, 2, 5}));
-    EXPECT_EQ(DefaultPair({3}), (PairChoice{PairKind::Predecessor, 0, 3}));
-    EXPECT_EQ(DefaultPair({}), (PairChoice{PairKind::Predecessor, 0, 0}));
+TEST(ChartPoints, ChoosesWhatThereIsAndUnitsOfPeoplesSize) {
+    EXPECT_EQ(DefaultChartChoice({2, 5, 6}), (ChartChoice{ChartX::Series, 2, 5}));
+    EXPECT_EQ(DefaultChartChoice({3}), (ChartChoice{ChartX::Predecessor, 0, 3}));
+    EXPECT_EQ(DefaultChartChoice({}), (ChartChoice{ChartX::Predecessor, 0, 0}));
     const std::pair<Time, std::string> units[] = {{0, "seconds"},
                                                   {2 * kMinute - 1, "seconds"},
                                                   {2 * kMinute, "minutes"},

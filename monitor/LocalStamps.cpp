@@ -1,4 +1,6 @@
-#include "monitor/StripClock.h"
+// Finds the offset from local time to UTC.
+
+#include "monitor/LocalStamps.h"
 
 #include <afxwin.h>
 
@@ -7,34 +9,29 @@
 #include <limits>
 
 namespace kavlix::monitor {
-
 namespace {
 
+using recording::FloorTo;
 using recording::kMicrosPerDay;
 using recording::kMicrosPerSecond;
 using recording::Time;
 
-Time FloorTo(Time time, Time unit) {
-    const Time rest = time % unit;
-    return time - (rest < 0 ? rest + unit : rest);
-}
-
-/// Seconds from local time to the machine's, at a local time.
+/// Seconds from local time to UTC at a local time.
 Time OffsetAt(Time time) {
     const recording::CivilTime civil = recording::ToCivil(time);
     const CTime stamp(civil.year, civil.month, civil.day, civil.hour, civil.minute, civil.second);
     const Time offset = stamp.GetTime() - FloorTo(time, kMicrosPerSecond) / kMicrosPerSecond;
-    // No zone is farther away than a day: then there is no such time.
+    // An offset above a day is CTime's answer to an invalid time.
     return std::abs(offset) * kMicrosPerSecond > kMicrosPerDay ? 0 : offset;
 }
 
 } // namespace
 
-void StripClock::FindSpan(Time time) {
-    // Zones change their offset at most once in a week, and seldom: asking costs more than all else. The last
-    // unit holds one offset in any case.
-    constexpr Time units[] = {7 * kMicrosPerDay, kMicrosPerDay, kMicrosPerDay / 24, 60 * kMicrosPerSecond,
-                              kMicrosPerSecond};
+void LocalStamps::FindSpan(Time time) {
+    // Asking CTime is slow, so find a long span in which the offset is the same: a zone changes its offset at
+    // most once in a week. A second is always such a span.
+    constexpr Time units[] = {7 * kMicrosPerDay, kMicrosPerDay, recording::kMicrosPerHour,
+                              recording::kMicrosPerMinute, kMicrosPerSecond};
     for (const Time unit : units) {
         m_begin = FloorTo(time, unit);
         m_end = m_begin + unit;
@@ -44,7 +41,7 @@ void StripClock::FindSpan(Time time) {
     }
 }
 
-long StripClock::Stamp(Time time) {
+long LocalStamps::Stamp(Time time) {
     if (time < m_begin || time >= m_end)
         FindSpan(time);
     const Time seconds = FloorTo(time, kMicrosPerSecond) / kMicrosPerSecond + m_offset;

@@ -1,20 +1,14 @@
-#include "monitor/Reduction.h"
+// Replaces runs of samples by their lowest and highest value, or by their mean.
+
+#include "monitor/recording/Reduction.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
-namespace kavlix::monitor {
-
-using recording::Recording;
-using recording::Series;
-using recording::VisibleRange;
-
+namespace kavlix::recording {
 namespace {
 
-constexpr double kNoValue = std::numeric_limits<double>::quiet_NaN();
-
-/// The samples of the source from `begin` to `end`, the end excluded.
+/// Samples from `begin` to `end`, `end` excluded.
 struct Span {
     std::size_t begin = 0;
     std::size_t end = 0;
@@ -45,13 +39,13 @@ std::vector<double> Part(const std::vector<double>& values, Span span) {
     return std::vector<double>(begin, begin + static_cast<std::ptrdiff_t>(span.Size()));
 }
 
-/// Values of a series as a line connects them: see ReduceForLines.
+/// The values of a series with those of the connecting line where ReduceForLines wants them.
 std::vector<double> Connected(const Recording& source, const Series& series, Span span) {
     std::vector<double> values = Part(series.values, span);
     if (source.files.size() < 2 || series.file >= source.files.size())
         return values;
-    const recording::Time farthest = source.files[series.file].interval / 2 * 3;
-    const recording::Time* const times = source.times.data() + span.begin;
+    const Time farthest = LongestStep(source.files[series.file].interval);
+    const Time* const times = source.times.data() + span.begin;
     std::size_t last = values.size();
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (std::isnan(values[i]))
@@ -68,9 +62,9 @@ std::vector<double> Connected(const Recording& source, const Series& series, Spa
     return values;
 }
 
-std::vector<recording::Time> TimesOf(const Recording& source, Span span) {
+std::vector<Time> TimesOf(const Recording& source, Span span) {
     const auto begin = source.times.begin() + static_cast<std::ptrdiff_t>(span.begin);
-    return std::vector<recording::Time>(begin, begin + static_cast<std::ptrdiff_t>(span.Size()));
+    return std::vector<Time>(begin, begin + static_cast<std::ptrdiff_t>(span.Size()));
 }
 
 std::size_t DivideUp(std::size_t value, std::size_t divisor) {
@@ -103,14 +97,14 @@ double Mean(const std::vector<double>& values, Span run) {
         if (std::isnan(values[i]))
             continue;
         ++count;
-        // Running mean: a sum of values near the end of the double range would overflow.
+        // Running mean: the sum of the values may exceed the range of a double.
         const double n = static_cast<double>(count);
         mean = mean * ((n - 1) / n) + values[i] / n;
     }
     return count == 0 ? kNoValue : mean;
 }
 
-/// Where the second sample shown of a run stands in it.
+/// Position within a run of the sample whose time the run's second shown sample gets.
 std::size_t SecondOf(std::size_t runSize) {
     return runSize / 2;
 }
@@ -181,4 +175,4 @@ ShownSamples ReduceForBars(const Recording& source, VisibleRange range, std::siz
     return shown;
 }
 
-} // namespace kavlix::monitor
+} // namespace kavlix::recording

@@ -1,12 +1,13 @@
-// How recordings are laid out over whole seconds for the scrolling graph.
-
-#include "monitor/recording/Strip.h"
-#include "monitor/recording/SpanIndex.h"
+// Recordings as rows of whole seconds, and the choices of the scroll page.
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <random>
+
+#include "monitor/recording/ScrollChoice.h"
+#include "monitor/recording/ScrollRows.h"
+#include "monitor/recording/SpanIndex.h"
 
 namespace kavlix::recording {
 namespace {
@@ -22,24 +23,24 @@ Recording At(std::vector<Time> times, Time interval) {
     return recording;
 }
 
-std::vector<StripRow> RowsOf(const Recording& recording, const StripPlan& plan, std::size_t slice) {
-    std::vector<StripRow> rows;
+std::vector<ScrollRow> RowsOf(const Recording& recording, const ScrollPlan& plan, std::size_t slice) {
+    std::vector<ScrollRow> rows;
     for (std::size_t sample = plan.first; sample < recording.times.size();)
         AppendRows(recording, plan, sample, slice, rows);
     return rows;
 }
 
-TEST(Strip, RowsAreWholeSecondsAndGapsAreFilledWhateverTheSlice) {
+TEST(ScrollRows, RowsAreWholeSecondsAndGapsAreFilledWhateverTheSlice) {
     // Before 1970 too; three in one second; a gap of five intervals; then regular ones.
     std::vector<Time> times = {-1 * S - 1, S, S + 1, S + S / 2, 2 * S, 3 * S};
     for (Time i = 8; i < 40; ++i)
         times.push_back(i * S);
     const Recording recording = At(times, S);
-    const StripPlan plan = PlanStrip(recording);
+    const ScrollPlan plan = PlanScrollRows(recording);
     EXPECT_EQ(plan.interval, S);
     EXPECT_FALSE(plan.wholeSeconds) << "one second of many";
     for (const std::size_t slice : {1u, 2u, 1000u}) {
-        const std::vector<StripRow> rows = RowsOf(recording, plan, slice);
+        const std::vector<ScrollRow> rows = RowsOf(recording, plan, slice);
         ASSERT_EQ(rows.size(), 1 + 2 + 3 + 4 + 32u) << slice;
         EXPECT_EQ(rows[0].time, -2 * S);
         EXPECT_EQ(rows[0].count, 1u);
@@ -52,46 +53,46 @@ TEST(Strip, RowsAreWholeSecondsAndGapsAreFilledWhateverTheSlice) {
     }
 }
 
-TEST(Strip, GapsThatAreUsualOrEndlessStayBounded) {
+TEST(ScrollRows, GapsThatAreUsualOrEndlessStayBounded) {
     std::vector<Time> bursts;
     for (Time i = 0; i < 100; ++i)
         bursts.push_back((i / 2 * 60 + i % 2) * S);
-    EXPECT_EQ(PlanStrip(At(bursts, S)).interval, 0) << "gaps are usual here";
-    std::vector<StripRow> rows;
-    AppendGap(0, 100'000'000 * S, S, 7, rows);
+    EXPECT_EQ(PlanScrollRows(At(bursts, S)).interval, 0) << "gaps are usual here";
+    std::vector<ScrollRow> rows;
+    AppendGapRows(0, 100'000'000 * S, S, 7, rows);
     EXPECT_LE(rows.size(), 1001u);
     EXPECT_GE(rows.size(), 900u);
     rows.clear();
-    AppendGap(0, 3 * S, 2 * S, 7, rows);
+    AppendGapRows(0, 3 * S, 2 * S, 7, rows);
     EXPECT_TRUE(rows.empty()) << "one and a half intervals are no gap";
 }
 
-TEST(Strip, TheTimeLineTakesTheLatestItHasRoomFor) {
+TEST(ScrollRows, TheTimeLineTakesTheLatestItHasRoomFor) {
     const Time year = 31'536'000 * S;
-    EXPECT_EQ(PlanStrip(At({0, year, 2 * year, 3 * year, 4 * year}, year)).first, 1u);
-    EXPECT_EQ(PlanStrip(At({-100 * year, 0, year}, year)).first, 1u) << "not before 1901";
+    EXPECT_EQ(PlanScrollRows(At({0, year, 2 * year, 3 * year, 4 * year}, year)).first, 1u);
+    EXPECT_EQ(PlanScrollRows(At({-100 * year, 0, year}, year)).first, 1u) << "not before 1901";
     const Recording future = At({100 * year, 101 * year}, year);
-    EXPECT_EQ(PlanStrip(future).first, 2u);
-    EXPECT_TRUE(RowsOf(future, PlanStrip(future), 10).empty());
-    EXPECT_EQ(PlanStrip(At({}, 0)).first, 0u);
+    EXPECT_EQ(PlanScrollRows(future).first, 2u);
+    EXPECT_TRUE(RowsOf(future, PlanScrollRows(future), 10).empty());
+    EXPECT_EQ(PlanScrollRows(At({}, 0)).first, 0u);
 }
 
-TEST(Strip, OfSeveralValuesThePeakIsShown) {
+TEST(ScrollRows, OfSeveralValuesThePeakIsShown) {
     const std::vector<double> values = {1, kNone, 9, 2, -3};
-    EXPECT_EQ(StripValue(values, {0, 0, 4}, 2), 9);
-    EXPECT_EQ(StripValue(values, {0, 0, 5}, 8), -3);
-    EXPECT_EQ(StripValue(values, {0, 0, 5}, kNone), 1) << "nothing before";
-    EXPECT_TRUE(std::isnan(StripValue(values, {0, 1, 1}, 2)));
-    EXPECT_TRUE(std::isnan(StripValue(values, {0, 2, 0}, 2))) << "a gap";
+    EXPECT_EQ(PeakValue(values, {0, 0, 4}, 2), 9);
+    EXPECT_EQ(PeakValue(values, {0, 0, 5}, 8), -3);
+    EXPECT_EQ(PeakValue(values, {0, 0, 5}, kNone), 1) << "nothing before";
+    EXPECT_TRUE(std::isnan(PeakValue(values, {0, 1, 1}, 2)));
+    EXPECT_TRUE(std::isnan(PeakValue(values, {0, 2, 0}, 2))) << "a gap";
 }
 
-TEST(Strip, SeriesAreSharedOutByMagnitude) {
+TEST(ScrollRows, SeriesAreSharedOutByMagnitude) {
     const auto share = [](std::vector<double> magnitudes) {
         std::vector<ValueSpan> spans;
         for (const double magnitude : magnitudes)
             spans.push_back({true, -magnitude / 2, magnitude});
         std::string text;
-        for (const bool below : ShareOut(spans))
+        for (const bool below : DivideByMagnitude(spans))
             text += below ? 'v' : '^';
         return text;
     };
@@ -102,12 +103,12 @@ TEST(Strip, SeriesAreSharedOutByMagnitude) {
     EXPECT_EQ(share({0, 0, 1}), "^^v");
 }
 
-TEST(Strip, RangeFollowsFromTheLength) {
+TEST(ScrollRows, RangeFollowsFromTheLength) {
     const std::pair<Time, std::size_t> cases[] = {{0, 0},       {60, 0},         {61, 0},     {150, 1},
                                                   {900, 2},     {86'400, 5},     {90'000, 5}, {300'000, 6},
                                                   {604'800, 6}, {100'000'000, 6}};
     for (const auto& [seconds, range] : cases)
-        EXPECT_EQ(ChooseStripRange(seconds * S), range) << seconds;
+        EXPECT_EQ(ChooseViewRange(seconds * S), range) << seconds;
 }
 
 TEST(SpanIndex, FindsWhatLookingAtEveryValueFinds) {

@@ -1,18 +1,18 @@
-#include "monitor/recording/Join.h"
+// Joins tables on time and makes the names of their series distinct.
 
-#include "monitor/recording/NumberText.h"
+#include "monitor/recording/TableJoin.h"
 
 #include <algorithm>
-#include <limits>
 #include <set>
 #include <utility>
+
+#include "monitor/recording/NumberText.h"
 
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
-
-/// A name that several files have is told apart by the file: by its name alone when that says enough.
+/// The series' name, unless another file has the same one. Then the file's stem comes in front; the stem
+/// alone is enough for a file with one series.
 std::string NameInFile(const std::vector<Table>& tables, std::size_t file, const std::string& name,
                        const std::string& path) {
     for (std::size_t other = 0; other < tables.size(); ++other) {
@@ -46,14 +46,14 @@ void NameSeries(const std::vector<Table>& tables, Recording& recording) {
     }
 }
 
-/// Walks several tables in the order of time. Every step takes the rows of the next time, one a table at
-/// most, so that equal times within a table stay rows of their own.
+/// Walks through several tables in the order of time. Every step takes the rows of the earliest time that is
+/// left, at most one from each table, so that equal times within a table stay separate rows.
 class Merge {
 public:
     explicit Merge(const std::vector<Table>& tables)
         : m_tables(tables), m_next(tables.size(), 0), m_taken(tables.size()) {}
 
-    /// @return false at the end.
+    /// Takes the next rows and returns their time in `time`; false when no row is left.
     bool Step(Time& time) {
         bool any = false;
         for (std::size_t file = 0; file < m_tables.size(); ++file) {
@@ -69,9 +69,9 @@ public:
         return any;
     }
 
-    /// The value of the current step.
+    /// The value in the current step's row; kNoValue when the step took no row from the file.
     double Value(std::size_t file, std::size_t column) const {
-        return m_taken[file] ? m_tables[file].columns[column][m_next[file] - 1] : kGap;
+        return m_taken[file] ? m_tables[file].columns[column][m_next[file] - 1] : kNoValue;
     }
 
 private:

@@ -1,0 +1,23 @@
+// What the scroll page chooses for a recording: which series share a graph, and the width of the view.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "monitor/recording/Recording.h"
+
+namespace kavlix::recording {
+
+/// Divides series among an upper and a lower graph by their spans. The lower graph gets the series whose
+/// magnitude differs from the first one's; when there is none, it gets all but the first. Returns for each
+/// series whether it is in the lower graph.
+std::vector<bool> DivideByMagnitude(const std::vector<ValueSpan>& spans);
+
+/// The widths of the view that a person can choose, in seconds.
+inline constexpr int kViewRanges[] = {60, 300, 900, 3600, 21'600, 86'400, 604'800};
+
+/// The best width for a recording of this length, as an index into kViewRanges: the shortest width that
+/// covers the recording, or the next shorter one when the recording would fill less than a third of it.
+std::size_t ChooseViewRange(Time length);
+
+} // namespace kavlix::recording

@@ -5,8 +5,8 @@
 
 namespace kavlix {
 
-/// Adds a sample when it or the last one lies outside the pixel table, so that its pixel is unknown. GDI
-/// converts many such points in one call, in PaintFar.
+/// Adds a sample when this sample or the last one lies outside the pixel table, so that a pixel is unknown.
+/// PaintFar has GDI convert all these points in one call.
 void DirectLine::GoFar(double value, const PixelColumn& column, int row) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return from == to && !edges.HasPixel(from);

@@ -42,7 +42,7 @@ void CGraphCtrl::OnPaint() {
     CDC& dc = picture->Dc();
     SetMapModeAnisotropic(dc);
     {
-        SavedDcGuard restored(dc); // derived classes may leave objects selected, and the DC is used again
+        SavedDcGuard restored(dc); // the DC is kept, and derived classes may leave objects selected
         DrawGraph(dc);
     }
     const CRect copied = ToLogical(paintDc, LessOnePixel(client));

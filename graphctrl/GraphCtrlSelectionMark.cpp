@@ -1,4 +1,4 @@
-// CGraphCtrl: moves the selection mark and reports the move. The painters of datasets draw it.
+// CGraphCtrl: moves the selection mark and reports the move. LinePainter and BarPainter draw it.
 #include <kavlix/GraphCtrl.h>
 
 void CGraphCtrl::SetSelectionMarkPos(int nPos) {

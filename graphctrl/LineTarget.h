@@ -18,7 +18,7 @@ struct LineTarget {
     const LinearMap& yMap; ///< values to logical units
 };
 
-/// Points that a line collects at most before it draws them. Bounds the memory of a line.
+/// Largest number of points that a line collects before it draws them, which bounds the memory of a line.
 constexpr std::size_t kMaxPendingPoints = 8192;
 
 } // namespace kavlix

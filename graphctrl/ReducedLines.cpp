@@ -336,8 +336,8 @@ bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMa
         draw(range.first, range.last, false);
         return true;
     }
-    // The selection mark covers the strokes up to the marked sample; the strokes from there on
-    // cover the mark.
+    // The selection mark covers the strokes up to the marked sample; the strokes from there on cover
+    // the selection mark.
     draw(range.first, marked - 1, false);
     DrawSelectionMark(m_dc, selectionMark, pen, *markX);
     draw(marked, range.last, marked > range.first);

@@ -20,7 +20,7 @@ struct WideStroke {
     POINT from;
     POINT to;
 
-    /// Moves far ends nearer in such a way that the stroke paints the same pixels of `view`, and returns the
+    /// Moves far ends nearer without a change to the pixels that the stroke paints in `view`. Returns the
     /// kind of the stroke. `view` in device units: the clip region, enlarged by the reach of the pen.
     Kind Shorten(CDC& dc, const Rect& view, int penPixels);
     /// Draws the stroke with the selected pen.

@@ -434,27 +434,43 @@ private:
     std::unique_ptr<kavlix::Offscreen> m_Picture; ///< the bitmap that WM_PAINT reuses from paint to paint
     bool m_MaximizeNotified = false;              ///< GCN_MAXIMIZE of the current press has been sent
 
+    /// Removes the samples of `dataset` and the selection mark.
     void ClearSamples(CDataset& dataset);
 
     void MakeFonts();
+    /// Computes the layout for the client area `client` (logical units) and stores it in
+    /// the m_rect... members.
     kavlix::GraphLayout LayOut(const CRect& client);
+    /// Draws the texts beside the axes, not the tick labels.
     void DrawAxisLabels(CDC& dc, const kavlix::GraphLayout& layout);
+    /// Draws the legend with its board. `right` is the right edge of the client area in logical units.
     void DrawLegendArea(CDC& dc, int right, CRgn& clientClip);
+    /// Draws ticks and tick labels of the X axis in the line styles. `axisPen` is selected.
     void DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,
                        const kavlix::TickRoom& room);
+    /// Draws ticks and tick labels of the X axis in the bar style with the selected pen.
     void DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, const kavlix::TickRoom& room);
+    /// Draws X tick label `nIndex` below a tick at `x`.
     void DrawTickLabel(CDC& dc, const CRect& rectLabel, int x, int nIndex);
+    /// Draws the datasets of the bar style and the selection mark.
     void DrawBars(CDC& dc);
 
+    /// The map from sample indices to X positions.
     kavlix::LinearMap XMap() const;
+    /// The map from the values of dataset `nDataset` to Y positions.
     kavlix::LinearMap YMapOf(int nDataset) const;
     CPoint ToLogicalPoint(CPoint point);
     CPoint ToClientPoint(CPoint logical);
+    /// Dataset whose legend row holds `point` (logical units), -1 for none.
     int LegendRowAt(CPoint point) const;
 
+    /// Paints the maximize icon at once, without WM_PAINT.
     void RepaintIcon();
+    /// Ends the press of the maximize icon. No repaint.
     void EndPress();
+    /// Sets the selection mark, calls RedrawData and notifies the parent. The result is that of Notify.
     bool MoveSelectionMark(int nPos);
+    /// Sends GCN_SELCHANGE. The result is that of Notify.
     bool NotifySelChange();
 };
 

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kRows = 2;                 // level labels may alternate between two rows
 constexpr double kWorthShortening = 0.6; // labels that keep this part of their width are cut, not left out
-constexpr int kFewCharacters = 4;        // with less room left of the plot, labels stand inside the plot
+constexpr int kFewCharacters = 4;        // with room for fewer left of the plot, labels stand inside
 
 /// The labels of all series, cut to the room that each has.
 struct FittedLabels {

@@ -93,12 +93,11 @@ void PaintPoints(GraphPass& pass) {
 }
 
 void PaintRibbons(GraphPass& pass) {
-    constexpr double kLoneRibbon =
-        0.2;                        // half the length of a ribbon without neighbours, as a fraction of a slot
-    constexpr double kThinnest = 4; // pixels; width of a ribbon that is seen from its edge
+    constexpr double kLoneRibbon = 0.2; // half of a lone ribbon's length, as a fraction of a slot
+    constexpr double kThinnest = 4;     // pixels; width of a ribbon that is seen from its edge
     const auto lines = GroupLines(pass.data);
     for (auto entry = lines.rbegin(); entry != lines.rend(); ++entry) {
-        const int group = entry->first; // the last group stands farthest behind and comes first
+        const int group = entry->first; // the last group is the farthest, so it comes first
         const GroupLine& line = entry->second;
         const COLORREF colour = pass.data.Colour(group);
         const auto draw = [&](PlanePoint from, PlanePoint to) {

@@ -14,11 +14,10 @@ using kavlix::GraphFont;
 
 namespace {
 
-constexpr double kTickGap = 4;      // pixels between two ticks
-constexpr double kWideLabel = 1.5;  // label widths per label: room to move a label away from the edge
-constexpr double kHighLabel = 1.25; // label heights per label above each other
-constexpr int kSmallestNumbers =
-    10; // pixels; smaller numbers stand inside the plot, unless the host sets them
+constexpr double kTickGap = 4;       // pixels between two ticks
+constexpr double kWideLabel = 1.5;   // label widths per label: room to move a label away from the edge
+constexpr double kHighLabel = 1.25;  // label heights per label above each other
+constexpr int kSmallestNumbers = 10; // pixels; numbers shrink to this size, then they stand inside the plot
 
 CString Number(std::int64_t value) {
     CString text;

@@ -1,10 +1,11 @@
+// Median, quartiles and whiskers of a sample.
 #pragma once
 
 #include <vector>
 
 namespace kavlix {
 
-/// What a box-and-whisker drawing shows of a sample.
+/// The figures of a sample that a box-and-whisker drawing shows.
 struct BoxStatistics {
     double lowerQuartile = 0;
     double median = 0;
@@ -16,9 +17,9 @@ struct BoxStatistics {
     bool IsOutlier(int value) const { return value < lowerWhisker || value > upperWhisker; }
 };
 
-/// Quartiles by linear interpolation between the neighbours in rank: with the n values in order and counted
-/// from 0, the quartile p lies at rank p * (n - 1), its fraction between the two values on either side. One
-/// value is all five numbers; of two values the box spans the middle half. False when there is no value.
+/// Computes `statistics` of `values`. With n values in ascending order, counted from 0, quartile p lies at
+/// rank p * (n - 1). At a fractional rank the quartile is interpolated between the two neighbouring values. A
+/// single value is all five figures. False when there are no values.
 bool ComputeBoxStatistics(std::vector<int> values, BoxStatistics& statistics);
 
 } // namespace kavlix

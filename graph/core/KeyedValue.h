@@ -1,16 +1,18 @@
+// A value of a series with its key.
 #pragma once
 
 #include <vector>
 
 namespace kavlix {
 
-/// A value of a series under its key: a group's index, or an X value.
+/// A value of a series. The key is a group, or an X value.
 struct KeyedValue {
     int key = 0;
     int value = 0;
 };
 
-/// The values of the groups 0 to `groups` - 1 in a list that ascends by key; of equal keys the first.
+/// The values of the groups 0 to `groups` - 1. `values` ascends by key; of several values with the same key
+/// the first one counts.
 inline std::vector<KeyedValue> GroupValues(const std::vector<KeyedValue>& values, int groups) {
     std::vector<KeyedValue> result;
     for (const KeyedValue& item : values)

@@ -1,29 +1,27 @@
+// Geometry of turned labels.
 #include "graph/core/LabelPlacement.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "plot/Numeric.h"
+#include "graph/core/Degrees.h"
 
 namespace kavlix {
 namespace {
 
-constexpr int kFullTurn = 360;
-constexpr int kHalfTurn = 180;
-
-/// Sine and cosine of a turn, exact where they are whole.
+/// Sine and cosine of an angle in degrees. Exactly 0 at multiples of 90 degrees where they should be.
 struct Turn {
     explicit Turn(int angle) {
         const int turned = NormalAngle(angle);
-        const double radians = turned * kPi / kHalfTurn;
-        sin = turned % kHalfTurn == 0 ? 0 : std::sin(radians);
-        cos = turned % kHalfTurn == kHalfTurn / 2 ? 0 : std::cos(radians);
+        sin = turned % kHalfTurn == 0 ? 0 : std::sin(Radians(turned));
+        cos = turned % kHalfTurn == kQuarterTurn ? 0 : std::cos(Radians(turned));
     }
     double sin;
     double cos;
 };
 
-/// A place relative to the text's upper left corner: `along` the text and `below` its top.
+/// The offset, from the upper left corner of a turned text, of the point `along` the text and
+/// `below` its top.
 PlanePoint Inside(const Turn& turn, double along, double below) {
     return {along * turn.cos + below * turn.sin, -along * turn.sin + below * turn.cos};
 }
@@ -40,8 +38,9 @@ PlaneRect BoxAt(const Turn& turn, LabelSize size, PlanePoint origin) {
     return box;
 }
 
+/// The smallest stride of ticks `distance` apart that gives each label the room it needs.
 std::int64_t Every(double needed, double distance) {
-    constexpr double kMost = 1e12;
+    constexpr double kMost = 1e12; // more than any axis has ticks
     if (!(distance > 0))
         return static_cast<std::int64_t>(kMost);
     return std::max<std::int64_t>(1,
@@ -82,7 +81,7 @@ double LongestText(double height, int angle, double across, double down) {
     const Turn turn(angle);
     const double sin = std::abs(turn.sin);
     const double cos = std::abs(turn.cos);
-    constexpr double kUnlimited = 1e9;
+    constexpr double kUnlimited = 1e9; // longer than any text
     const double byWidth = cos > 0 ? (across - height * sin) / cos : across >= height ? kUnlimited : 0;
     const double byHeight = sin > 0 ? (down - height * cos) / sin : down >= height ? kUnlimited : 0;
     return std::max(0.0, std::min(byWidth, byHeight));
@@ -96,7 +95,7 @@ LabelSpread SpreadBelow(LabelSize size, int angle, double distance, double gap, 
                 return {1, row};
         return {Every(size.width + gap, distance), 1};
     }
-    // Two parallel texts keep clear when one passes below the other, or one ends before the other begins.
+    // Parallel texts do not overlap when one lies below the other, or when one ends before the other begins.
     const double passing = (size.height + gap) / std::abs(turn.sin);
     const double following =
         turn.cos == 0 ? passing : (size.width + size.height * std::abs(turn.sin) + gap) / std::abs(turn.cos);

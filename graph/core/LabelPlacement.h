@@ -1,3 +1,4 @@
+// Where turned labels stand beside an axis, and how many of them have room.
 #pragma once
 
 #include <cstdint>
@@ -7,52 +8,55 @@
 
 namespace kavlix {
 
-/// A text's size before it is turned.
+/// The size of a text before the text is turned.
 struct LabelSize {
     double width = 0;
     double height = 0;
 };
 
-/// Where a turned label goes: the text's own upper left corner, and the upright box around all of it.
+/// The place of a turned label: the upper left corner of the text itself, and the upright box around
+/// the turned text.
 struct LabelPlace {
     PlanePoint origin;
     PlaneRect box;
 };
 
-/// The upright box around a text that is turned by `angle` degrees counter-clockwise; its own upper left
-/// corner is at `origin`.
+/// The upright box around a text that is turned by `angle` degrees counter-clockwise around its own upper
+/// left corner, which is at `origin`.
 PlaneRect BoxOf(LabelSize size, int angle, PlanePoint origin);
 
-/// `angle` in whole degrees brought to 0..359.
+/// The same direction as `angle`, from 0 to 359 degrees.
 int NormalAngle(int angle);
 
-/// A label below an axis, turned by `angle` degrees counter-clockwise, for the tick at `x`; nothing of it
-/// lies above `top`. A level one, or one on its head, stands with its middle under the tick; a rising one
-/// (1 to 179 degrees) ends there, and a falling one (181 to 359) begins there, so that no angle brings it
+/// Places a label below an axis, turned by `angle` degrees counter-clockwise, for the tick at `x`. The box of
+/// the label begins at `top`. At 0 and 180 degrees the middle of the text is below the tick. At 1 to 179
+/// degrees the text ends at the tick, at 181 to 359 degrees the text begins there, so the label never reaches
 /// into the plot.
 LabelPlace PlaceBelow(LabelSize size, int angle, double x, double top);
 
-/// A label left of an axis: nothing of it lies right of `right`, and its middle is at `y`.
+/// Places a label left of an axis: the right edge of its box is at `right`, the middle of the box at `y`.
 LabelPlace PlaceLeft(LabelSize size, int angle, double right, double y);
 
-/// The longest text, turned by `angle`, that needs no more than `across` to the side and `down` in height.
+/// The width of the longest text whose box, turned by `angle`, is at most `across` wide and `down` high.
+/// `height` is the height of the text. 0 when no text fits.
 double LongestText(double height, int angle, double across, double down);
 
-/// How labels along an axis keep clear of each other.
+/// Which labels along an axis are drawn, so that none overlap.
 struct LabelSpread {
-    std::int64_t every = 1; ///< one label in so many is drawn
-    int rows = 1;           ///< neighbours stand alternately in so many rows
+    std::int64_t every = 1; ///< every 1st, 2nd, 3rd ... label is drawn
+    int rows = 1;           ///< neighbouring labels stand in this number of rows in turn
 };
 
-/// For labels of at most `size`, turned by `angle`, whose ticks stand `distance` apart along a level axis.
-/// `gap` is what must stay free between two. Level labels may take up to `rows` rows.
+/// The spread of labels of at most `size`, turned by `angle`, along a level axis. Their ticks are `distance`
+/// apart, and `gap` stays free between two labels. Only level labels use more than one row, at most `rows`.
 LabelSpread SpreadBelow(LabelSize size, int angle, double distance, double gap, int rows);
 
-/// The same along an upright axis, in one column.
+/// The spread of labels along an upright axis.
 LabelSpread SpreadLeft(LabelSize size, int angle, double distance, double gap);
 
-/// Moves the middles of labels of height `height`, which come in ascending order, as little as it takes to
-/// keep them from overlapping, within [top, bottom]. False when there is no room for all.
+/// Moves labels along an upright line until none overlap and all lie within [top, bottom]. `middles` holds
+/// the y of their middles, ascending; all labels are `height` high. Keeps the order. False, without any
+/// change, when there is no room for all.
 bool SpreadMiddles(std::vector<double>& middles, double height, double top, double bottom);
 
 } // namespace kavlix

@@ -1,3 +1,4 @@
+// Geometry of sectors and rims.
 #include "graph/core/PieShapes.h"
 
 #include <algorithm>
@@ -5,20 +6,16 @@
 #include <cstdint>
 #include <limits>
 
-#include "plot/Numeric.h"
+#include "graph/core/Degrees.h"
 
 namespace kavlix {
 namespace {
 
-constexpr double kFullCircle = 360;
-constexpr double kThreeOClock = 90;
-constexpr double kNineOClock = 270;
-
-/// Points of the arc from `start` on, close enough together to look round at any resolution.
+/// Points of an arc, so close together that their polygon looks round.
 std::vector<PlanePoint> ArcPoints(const PieOutline& pie, double start, double sweep) {
-    constexpr double kMostOff = 0.1; // units between the arc and the line from one point to the next
-    constexpr double kLongestStep = 15;
-    const double step = 2 * std::acos(1 - kMostOff / std::max(pie.radiusX, 1.0)) * 180 / kPi;
+    constexpr double kMostOff = 0.1;    // units from the arc to the line between two points
+    constexpr double kLongestStep = 15; // degrees
+    const double step = DegreesOf(2 * std::acos(1 - kMostOff / std::max(pie.radiusX, 1.0)));
     const int steps = std::max(1, static_cast<int>(std::ceil(sweep / std::min(step, kLongestStep))));
     std::vector<PlanePoint> points;
     for (int i = 0; i <= steps; ++i)
@@ -37,35 +34,35 @@ std::vector<Sector> MakeSectors(const std::vector<KeyedValue>& values) {
     for (const KeyedValue& item : values) {
         if (item.value <= 0)
             continue;
-        const double whole = static_cast<double>(total);
-        sectors.push_back({item.key, kFullCircle * static_cast<double>(before) / whole,
-                           kFullCircle * item.value / whole, 100.0 * item.value / whole});
+        const auto whole = static_cast<double>(total);
+        sectors.push_back({item.key, kFullTurn * static_cast<double>(before) / whole,
+                           double{kFullTurn} * item.value / whole, 100.0 * item.value / whole});
         before += item.value;
     }
     return sectors;
 }
 
 bool Sector::Holds(double angle) const {
-    const double turned = std::fmod(angle - start, kFullCircle);
-    return (turned < 0 ? turned + kFullCircle : turned) <= sweep;
+    const double turned = std::fmod(angle - start, kFullTurn);
+    return (turned < 0 ? turned + kFullTurn : turned) <= sweep;
 }
 
 PlanePoint PieOutline::At(double angle, double reach) const {
-    const double radians = angle * kPi / 180;
+    const double radians = Radians(angle);
     return {centre.x + reach * radiusX * std::sin(radians), centre.y - reach * radiusY * std::cos(radians)};
 }
 
 double PieOutline::ArcLength(const Sector& sector) const {
-    return sector.sweep * kPi / 180 * radiusX;
+    return Radians(sector.sweep) * radiusX;
 }
 
 bool PieOutline::Holds(const Sector& sector, const PlaneRect& box) const {
-    constexpr double kClear = 0.97; // of the radius
+    constexpr double kClear = 0.97; // as a fraction of the radius
     for (const PlanePoint& corner : {PlanePoint{box.left, box.top}, PlanePoint{box.right, box.top},
                                      PlanePoint{box.left, box.bottom}, PlanePoint{box.right, box.bottom}}) {
         const double x = (corner.x - centre.x) / radiusX;
         const double y = (centre.y - corner.y) / radiusY;
-        if (std::hypot(x, y) > kClear || !sector.Holds(std::atan2(x, y) * 180 / kPi))
+        if (std::hypot(x, y) > kClear || !sector.Holds(DegreesOf(std::atan2(x, y))))
             return false;
     }
     return true;
@@ -73,17 +70,17 @@ bool PieOutline::Holds(const Sector& sector, const PlaneRect& box) const {
 
 std::vector<PlanePoint> SectorCorners(const PieOutline& pie, double start, double sweep) {
     std::vector<PlanePoint> corners = ArcPoints(pie, start, sweep);
-    if (sweep < kFullCircle)
+    if (sweep < kFullTurn)
         corners.push_back(pie.centre);
     return corners;
 }
 
 std::vector<RimArc> VisibleRim(double start, double sweep) {
     std::vector<RimArc> arcs;
-    // A sector may run past twelve o'clock and show its rim again on the second round.
-    for (const double round : {0.0, kFullCircle}) {
-        const double from = std::max(start, kThreeOClock + round);
-        const double to = std::min(start + sweep, kNineOClock + round);
+    // A sector may run past twelve o'clock, up to three o'clock of the next turn and beyond.
+    for (const int turn : {0, kFullTurn}) {
+        const double from = std::max(start, 1.0 * kQuarterTurn + turn);
+        const double to = std::min(start + sweep, 1.0 * kHalfTurn + kQuarterTurn + turn);
         if (to > from)
             arcs.push_back({from, to - from});
     }

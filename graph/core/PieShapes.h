@@ -1,3 +1,4 @@
+// Sectors, rims and the arrangement of pies.
 #pragma once
 
 #include <functional>
@@ -8,7 +9,7 @@
 
 namespace kavlix {
 
-/// One group's sector of a pie. Angles in degrees, 0 at twelve o'clock, clockwise.
+/// The sector of one group. Angles are in degrees clockwise; 0 is twelve o'clock.
 struct Sector {
     int group = 0;
     double start = 0;
@@ -16,54 +17,54 @@ struct Sector {
     double percent = 0;
 
     double Middle() const { return start + sweep / 2; }
-    /// Whether the angle, whatever its round, lies within.
+    /// Whether `angle` lies in the sector. Full turns make no difference.
     bool Holds(double angle) const;
 };
 
-/// Sectors in the order given, together 360 degrees. Values of 0 and below have none; the result is empty
-/// when no group has one.
+/// The sectors of `values`, in the same order, 360 degrees together. Values of 0 and below have no sector.
 std::vector<Sector> MakeSectors(const std::vector<KeyedValue>& values);
 
-/// A pie's outline: an ellipse, wide as `radiusX`, high as `radiusY`.
+/// The outline of a pie: an ellipse. `radiusX` is half its width, `radiusY` half its height.
 struct PieOutline {
     PlanePoint centre;
     double radiusX = 0;
     double radiusY = 0;
 
-    /// The place at `angle`, `reach` outlines away from the centre.
+    /// The place at `angle`. `reach` is the distance from the centre as a multiple of the radius.
     PlanePoint At(double angle, double reach = 1) const;
-    /// The length of a sector's rim, as if the pie were not tilted.
+    /// The length of a sector's arc, as in a pie that is not tilted.
     double ArcLength(const Sector& sector) const;
-    /// Whether the corners of `box` all lie in the sector, and clear of the outline. A box round a point of
-    /// the sector then lies in it whole.
+    /// Whether `box` lies in the sector, and a little inside the outline. Checks the corners only, so the
+    /// middle of the box must lie in the sector.
     bool Holds(const Sector& sector, const PlaneRect& box) const;
 };
 
-/// The corners of a sector: its arc, then the centre; of a whole circle the arc alone.
+/// The corners of a sector as a polygon: points of its arc, then the centre. A whole circle has
+/// no centre point.
 std::vector<PlanePoint> SectorCorners(const PieOutline& pie, double start, double sweep);
 
-/// A stretch of a pie's rim.
+/// A part of a pie's rim, in degrees clockwise from twelve o'clock.
 struct RimArc {
     double start = 0;
     double sweep = 0;
 };
 
-/// The parts of a sector's rim that face the viewer of a pie tilted towards him: those between three and nine
+/// The parts of a sector's rim that the viewer of a tilted pie sees: the parts between three and nine
 /// o'clock. None, one or two.
 std::vector<RimArc> VisibleRim(double start, double sweep);
 
-/// The corners of a stretch of rim that hangs down by `height`.
+/// The corners of a part of the rim as a polygon. The rim is `height` high, and hangs down from the arc.
 std::vector<PlanePoint> RimCorners(const PieOutline& pie, const RimArc& arc, double height);
 
-/// How many equal boxes fit side by side and below each other.
+/// An arrangement of equal boxes in columns and rows.
 struct PieGrid {
     int columns = 1;
     int rows = 1;
 };
 
-/// The grid of `count` boxes in a room of `width` x `height` in which `radius`, the size of a pie in a box of
-/// a width and a height, is largest. Fewer boxes than asked for when each would be smaller than `smallest`
-/// wide or high.
+/// Arranges `count` boxes in a room of `width` x `height` so that the pies become as large as possible.
+/// `radius` gives the radius of a pie in a box of a width and a height. A box is at least `smallest` wide and
+/// high; when there is no room for all boxes, the grid has fewer than `count`.
 PieGrid ArrangePies(int count, double width, double height, double smallest,
                     const std::function<double(double, double)>& radius);
 

@@ -1,3 +1,4 @@
+// Cutting strokes at a rectangle.
 #include "graph/core/PlanePoint.h"
 
 #include <algorithm>

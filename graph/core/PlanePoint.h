@@ -1,14 +1,15 @@
+// Points and rectangles of a picture, with fractions of a unit.
 #pragma once
 
 namespace kavlix {
 
-/// A place in a picture, in the units of its canvas: x to the right, y downwards.
+/// A place in a picture, in logical units of the canvas: x to the right, y downwards.
 struct PlanePoint {
     double x = 0;
     double y = 0;
 };
 
-/// A rectangle in a picture, in the units of its canvas.
+/// A rectangle in a picture, in logical units of the canvas.
 struct PlaneRect {
     double left = 0;
     double top = 0;
@@ -19,7 +20,8 @@ struct PlaneRect {
     double Height() const { return bottom - top; }
 };
 
-/// Cuts the stroke from `a` to `b` to the part inside `area`, edges included. False when none is.
+/// Cuts the stroke from `a` to `b` to its part inside `area`. The edges are inside. False when no
+/// part is inside.
 bool ClipStroke(const PlaneRect& area, PlanePoint& a, PlanePoint& b);
 
 } // namespace kavlix

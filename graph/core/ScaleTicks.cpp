@@ -1,3 +1,4 @@
+// Choosing strides of 1, 2 or 5 times a power of ten.
 #include "graph/core/ScaleTicks.h"
 
 #include <algorithm>
@@ -6,9 +7,9 @@
 namespace kavlix {
 namespace {
 
-constexpr std::int64_t kLongestStride = 1'000'000'000'000; // longer than any axis of whole numbers
+constexpr std::int64_t kLongestStride = 1'000'000'000'000; // more than the range of any axis
 
-/// The smallest of 1, 2, 5, 10, 20 ... that makes `distance` reach `gap`.
+/// The smallest of 1, 2, 5, 10, 20 ... whose product with `distance` is at least `gap`.
 std::int64_t Stride(double distance, double gap) {
     if (!(distance > 0))
         return kLongestStride;

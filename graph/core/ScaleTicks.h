@@ -1,12 +1,13 @@
+// Ticks and round limits of an axis of whole numbers.
 #pragma once
 
 #include <cstdint>
 
 namespace kavlix {
 
-/// The ticks of an axis with whole numbers: anchor + i * step, for i from `first` to `last` in strides of
-/// `every`; those at strides of `labelEvery` carry a label. Both strides count from the anchor, so that a 0
-/// on the axis keeps its label however much is thinned out.
+/// The ticks of an axis of whole numbers. Tick i has the value anchor + i * step. The axis has the ticks
+/// `first` to `last` in strides of `every`. Ticks whose i is a multiple of `labelEvery` have a label, so the
+/// tick at the anchor keeps its label however few labels there are.
 struct ScaleTicks {
     std::int64_t anchor = 0;
     std::int64_t step = 1;
@@ -19,24 +20,25 @@ struct ScaleTicks {
     bool HasLabel(std::int64_t i) const { return i % labelEvery == 0; }
 };
 
-/// Chooses the ticks of an axis from `min` to `max` (in either order) in steps of `step`, whose sign is of no
-/// account; 0 stands for a tenth of the range.
+/// Chooses the ticks of an axis from `min` to `max`, in either order, in steps of `step`. The sign of `step`
+/// is ignored; 0 stands for a tenth of the range.
 ///
-/// `extent` is the axis' length; ticks stand at least `tickGap` apart and labels `labelGap`, in the same
-/// unit: where they would be closer, only every 2nd, 5th, 10th, 20th ... stays. Costs the same for any range.
-/// Ticks count from `min`; with `fromZero` from 0.
+/// `extent` is the length of the axis. Ticks are at least `tickGap` apart and labels at least `labelGap`, in
+/// the unit of `extent`. Where they would be closer, only every 2nd, 5th, 10th, 20th ... remains. Ticks count
+/// from `min`. They count from 0 when `fromZero`, or when a tick counted from `min` falls on 0. The time does
+/// not depend on the range.
 ScaleTicks ChooseTicks(std::int64_t min, std::int64_t max, std::int64_t step, double extent, double tickGap,
                        double labelGap, bool fromZero = false);
 
-/// Limits and step of an axis that nobody has chosen limits for.
+/// Limits and step of an axis whose limits follow from the data.
 struct RoundLimits {
     std::int64_t min = 0;
     std::int64_t max = 1;
     std::int64_t step = 1;
 };
 
-/// Round limits around the whole numbers from `low` to `high`, with about `steps` steps of 1, 2 or 5 times a
-/// power of ten.
+/// Limits that enclose the numbers from `low` to `high`, as multiples of the step. The step is 1, 2 or 5
+/// times a power of ten, and there are about `steps` of them.
 RoundLimits ChooseLimits(std::int64_t low, std::int64_t high, int steps);
 
 } // namespace kavlix

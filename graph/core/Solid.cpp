@@ -1,3 +1,4 @@
+// Geometry and shading of boxes and ribbons.
 #include "graph/core/Solid.h"
 
 #include <algorithm>
@@ -8,8 +9,8 @@
 namespace kavlix {
 namespace {
 
-constexpr double kMostOfPlot = 0.5;
-constexpr double kDepthSlope = 0.6; // how much depth rises for each unit it leads to the right
+constexpr double kMostOfPlot = 0.5; // greatest depth, as a fraction of the plot
+constexpr double kDepthSlope = 0.6; // units up for each unit to the right
 
 } // namespace
 
@@ -56,7 +57,7 @@ Face MakeRibbon(PlanePoint a, PlanePoint b, Depth depth, double thinnest) {
     Face face = {{a, b, {b.x + depth.x, b.y - depth.y}, {a.x + depth.x, a.y - depth.y}}};
     if (!(length > 0))
         return face;
-    // How far the depth leads away from the line, to its right when positive.
+    // The width of the ribbon, measured across the line; positive to the right of the line.
     const double width = (-depth.y * along.x - depth.x * along.y) / length;
     const double missing = thinnest - std::abs(width);
     if (missing > 0) {

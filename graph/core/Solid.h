@@ -1,3 +1,4 @@
+// Solid boxes and ribbons on paper: depth, faces and light.
 #pragma once
 
 #include <array>
@@ -8,37 +9,40 @@
 
 namespace kavlix {
 
-/// Where depth leads on paper: to the right by `x` and up by `y`. The viewer thus sees front, top
-/// and right side.
+/// The offset on paper from the front of a solid to its back: `x` to the right and `y` up. The viewer sees
+/// the front, the top and the right side.
 struct Depth {
     double x = 0;
     double y = 0;
 };
 
-/// The depth of a plot of `width` x `height`, `ratio` of its width deep. At most half of the plot's width and
-/// of its height is given to it; a negative ratio, or one that is no number, makes none.
+/// The depth of a plot of `width` x `height`. `ratio` is the depth to the right as a fraction of `width`. The
+/// depth is limited to half of the width and half of the height. A negative ratio, or NaN, gives no depth.
 Depth DepthOfPlot(double ratio, double width, double height);
 
-/// `depth` cut down, direction kept, to what DepthOfPlot would give at most; negative parts count as 0.
+/// `depth`, shortened in its direction to at most half of `width` and half of `height`. Negative parts
+/// count as 0.
 Depth LimitDepth(Depth depth, double width, double height);
 
 using Face = std::array<PlanePoint, 4>;
 
-/// The three faces of a box that can be seen.
+/// The visible faces of a box.
 struct SolidFaces {
     Face front;
     Face top;
     Face side;
 };
 
+/// The faces of a box with this front.
 SolidFaces MakeSolid(const PlaneRect& front, Depth depth);
 
-/// How much light a face gets, as a factor of its colour.
+// Light on a face, for Shade.
 constexpr double kFrontLight = 1.0;
 constexpr double kTopLight = 1.25;
 constexpr double kSideLight = 0.7;
 
-/// `colour` (0x00BBGGRR) under light: darker below 1; above 1 it moves towards white by the excess.
+/// `colour` (0x00BBGGRR) in a light. A light below 1 darkens by that factor. A light above 1 moves the colour
+/// towards white by the part above 1.
 std::uint32_t Shade(std::uint32_t colour, double light);
 
 /// The outline of a shape of `colour`.
@@ -47,11 +51,11 @@ inline std::uint32_t OutlineOf(std::uint32_t colour) {
     return Shade(colour, kOutlineLight);
 }
 
-/// The strip between two points of a line, drawn out into the depth. Where the line runs nearly along the
-/// depth, the strip is thickened to be `thinnest` wide.
+/// The ribbon that a line from `a` to `b` makes in the depth. A ribbon that is seen nearly from its edge is
+/// widened to `thinnest`.
 Face MakeRibbon(PlanePoint a, PlanePoint b, Depth depth, double thinnest = 0);
 
-/// The light on a ribbon: the steeper it falls away from the light at the upper left, the less.
+/// The light on a ribbon: a rising ribbon is lighter, a falling one darker than a level one.
 double RibbonLight(PlanePoint a, PlanePoint b);
 
 } // namespace kavlix

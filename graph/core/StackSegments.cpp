@@ -1,3 +1,4 @@
+// Stacking upwards and downwards from 0.
 #include "graph/core/StackSegments.h"
 
 #include <algorithm>

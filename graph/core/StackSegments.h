@@ -1,3 +1,4 @@
+// Stacks of positive and negative values.
 #pragma once
 
 #include <cstdint>
@@ -7,15 +8,15 @@
 
 namespace kavlix {
 
-/// One group's part of a stack: from the lower to the upper end, in values.
+/// The part of a stack that one group has, from value `low` to value `high`.
 struct StackSegment {
     int group = 0;
     std::int64_t low = 0;
     std::int64_t high = 0;
 };
 
-/// Stacks the values of groups: positive ones upwards from 0, negative ones downwards from 0, each side in
-/// the order given; values of 0 take no part. The result runs from the lowest segment to the highest.
+/// Stacks the values of groups in the order given: positive values upwards from 0, negative values downwards
+/// from 0. A value of 0 has no segment. The result runs from the lowest segment to the highest.
 std::vector<StackSegment> StackValues(const std::vector<KeyedValue>& values);
 
 } // namespace kavlix

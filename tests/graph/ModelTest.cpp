@@ -1,3 +1,4 @@
+// Settings, lists and ownership, and the rule that operations happen whole or not at all.
 #include "tests/graph/MultiGraphTest.h"
 
 #include "tests/support/MemoryRule.h"

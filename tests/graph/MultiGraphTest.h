@@ -1,3 +1,4 @@
+// What the tests of CGraph share: a graph in a window, and its drawings.
 #pragma once
 
 #include <kavlix/Graph.h>
@@ -87,25 +88,7 @@ protected:
         recorder->Close();
         return recorder;
     }
-    /// Where a value lies on the value axis after a drawing, in pixels.
-    double At(double value) const {
-        const double part = (value - graph->minTick) / (graph->maxTick - graph->minTick);
-        return graph->graphAlignment != 0 ? graph->yApexPoint - part * graph->yAxisHeight
-                                          : graph->xApexPoint + part * graph->xAxisWidth;
-    }
-    /// The middle of slot `slot` of `count` on the other axis.
-    double Slot(int slot, int count) const {
-        const double part = (slot + 0.5) / count;
-        return graph->graphAlignment != 0 ? graph->xApexPoint + part * graph->xAxisWidth
-                                          : graph->yApexPoint - graph->yAxisHeight * (1 - part);
-    }
-
     CWnd window;
     CSize size;
     std::unique_ptr<OpenMultiGraph> graph;
 };
-
-/// A pixel row or column that a double position falls on.
-inline int Pixel(double position) {
-    return static_cast<int>(position + 0.5);
-}

@@ -1,3 +1,4 @@
+// Printing against the picture on the screen.
 #include "tests/graph/MultiGraphTest.h"
 
 #include <afxdlgs.h>
@@ -30,8 +31,8 @@ TEST_F(GraphPrintTest, TheSamePictureInTwipsForEveryType) {
         paper.Close();
         EXPECT_EQ(paper.ObjectFaults(), "") << type;
         EXPECT_EQ(graph->printBottom, -720 - 5760);
-        // Text is measured anew at the finer resolution, so shapes are compared; they agree to a pixel or
-        // two.
+        // Text is measured anew at the finer resolution, so shapes are compared; they agree to a
+        // pixel or two.
         const auto shapes = [](const testkit::MetafileRecorder& recorder) {
             std::vector<testkit::MetafileRecord> found;
             for (const auto& record : recorder.Records())

@@ -1,3 +1,4 @@
+// Extreme settings, sizes and numbers of series, and device contexts of all kinds.
 #include "tests/graph/MultiGraphTest.h"
 
 #include "tests/support/GdiCounter.h"

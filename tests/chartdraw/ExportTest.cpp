@@ -44,14 +44,13 @@ HANDLE WINAPI DeniedW(LPCWSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD
     return INVALID_HANDLE_VALUE;
 }
 int g_live_blocks = 0;
-bool g_no_memory = false;
 HGLOBAL WINAPI CountAlloc(UINT flags, SIZE_T bytes) {
     const HGLOBAL block = ::GlobalAlloc(flags, bytes);
     g_live_blocks += block != nullptr;
     return block;
 }
-HGLOBAL WINAPI MaybeRealloc(HGLOBAL block, SIZE_T bytes, UINT flags) {
-    return g_no_memory ? nullptr : ::GlobalReAlloc(block, bytes, flags);
+HGLOBAL WINAPI NoRealloc(HGLOBAL, SIZE_T, UINT) {
+    return nullptr;
 }
 HGLOBAL WINAPI CountFree(HGLOBAL block) {
     --g_live_blocks;
@@ -226,9 +225,7 @@ TEST_F(ChartExportTest, WhatCannotBeMadeWritesNothing) {
     };
     refused("Kavlix.dll", "GetDIBits", Address(&NoBits));
     refused("Kavlix.dll", "GlobalLock", Address(&NoLock));
-    g_no_memory = true;
-    refused("Kavlix.dll", "GlobalReAlloc", Address(&MaybeRealloc));
-    g_no_memory = false;
+    refused("Kavlix.dll", "GlobalReAlloc", Address(&NoRealloc));
     refused("KavlixMfc.dll", "CreateFileA", Address(&DeniedA)); // a folder that is read-only
     {
         const testkit::ImportHook hook("Kavlix.dll", "CreateFileW", Address(&DeniedW));
@@ -326,6 +323,13 @@ TEST_F(ChartExportTest, ExportsShowTheDataOfNow) {
     double min, max, step;
     chart.GetXScale(min, max, step);
     EXPECT_EQ(max, 1000);
+    for (const bool isAuto : {false, true}) {
+        chart.CalcDatas();
+        isAuto ? chart.SetAutoYScale() : void(chart.SetYScale(0, 5));
+        EXPECT_TRUE(chart.SaveImage(folder.Path("now.png").c_str()));
+        chart.GetYScale(min, max, step);
+        EXPECT_EQ(max, isAuto ? 1000 : 5);
+    }
     Resize(200, 100);
     EXPECT_TRUE(chart.CopyToFile(folder.Path("now.bmp").c_str()));
     EXPECT_EQ(FileBytes(folder.Path("now.bmp")).size(), 54u + 200 * 100 * 4);

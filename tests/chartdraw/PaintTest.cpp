@@ -244,7 +244,7 @@ TEST_F(ChartPaintTest, MarkersOfManyPointsAreThoseOfEachPoint) {
     std::mt19937 random(29);
     std::vector<double> xs, ys;
     for (int i = 0; i < 4000; ++i) {
-        xs.push_back(i / 400 * 400); // markers of neighbours keep apart
+        xs.push_back(i / 400 * 400 + (i % 16 == 15 ? 200 : 0)); // two columns, the second of few points
         ys.push_back(i % 97 == 96 ? odd[random() % std::size(odd)] : i < 2000 ? random() % 20 : 20 + i / 400);
     }
     chart.SetXScale(200, 4000);
@@ -286,18 +286,19 @@ TEST_F(ChartPaintTest, AMarkerStandsRoundItsPoint) {
     chart.replaced = "axes";
     const int dataset = chart.AddDataset();
     chart.SetColor(dataset, kRed);
-    chart.AddData(dataset, 3, 3);
-    for (const int type : {int(CDataset::MarkerSquare), 99}) {
-        chart.SetMarkerType(dataset, static_cast<CDataset::MarkerType>(type));
-        testkit::DibSurface surface(300, 200);
-        PaintInto(surface);
-        const CRect& plot = chart.m_rectPlot;
-        const CRect place(plot.left + (plot.Width() - 1) * 3 / 10,
-                          static_cast<int>(plot.bottom - 1 - (plot.Height() - 1) * 0.3), 0, 0);
-        const CRect square(place.left - 3, place.top - 3, place.left + 4, place.top + 4);
-        EXPECT_EQ(testkit::BoxText(surface.Bounds(kRed)),
-                  testkit::BoxText(type == 99 ? CRect(0, 0, 0, 0) : square));
-    }
+    for (const int value : {0, 3, 10}) // also in the corners of the plot
+        for (const int type : {int(CDataset::MarkerSquare), 99}) {
+            chart.SetMarkerType(dataset, static_cast<CDataset::MarkerType>(type));
+            const double values[] = {double(value)};
+            chart.SetData(dataset, values, values, 1);
+            testkit::DibSurface surface(300, 200);
+            PaintInto(surface);
+            const CRect& plot = chart.m_rectPlot;
+            const int x = plot.left + (plot.Width() - 1) * value / 10;
+            const int y = static_cast<int>(plot.bottom - 1 - (plot.Height() - 1) * value / 10.0);
+            const CRect square = type == 99 ? CRect(0, 0, 0, 0) : CRect(x - 3, y - 3, x + 4, y + 4);
+            EXPECT_EQ(testkit::BoxText(surface.Bounds(kRed)), testkit::BoxText(square)) << value;
+        }
 }
 
 TEST_F(ChartPaintTest, SmallWindowsLeaveOutWhatHasNoRoom) {

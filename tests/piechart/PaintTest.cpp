@@ -100,6 +100,9 @@ TEST_F(PiePaintTest, Messages) {
     EXPECT_NEAR(text.CenterPoint().y, 100, 5);
     Add({100});
     EXPECT_EQ(Texts(), (Strings{"100.0% 000000", "Wait here 000000"})) << "the chart stays";
+    const Strings boxes = Record()->Lines(testkit::kRectangle);
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_NE(boxes[0].find("pen solid 1 000000 brush FFFFFF"), std::string::npos) << boxes[0];
     pie.Wait("Wait here", 0);
     EXPECT_EQ(Texts(), Strings{"100.0% 000000"});
     pie.Reset();
@@ -151,6 +154,7 @@ TEST_F(PiePaintTest, OnePictureForEveryDestination) {
     EXPECT_EQ(moved.At(60 + 40, 100 + 50), picture->At(60, 100));
     EXPECT_EQ(::GetTextColor(moved.Dc()), COLORREF(RGB(7, 7, 7)));
     EXPECT_EQ(selected(), before);
+    EXPECT_EQ(::GetBkMode(moved.Dc()), OPAQUE);
 }
 
 TEST_F(PiePaintTest, SavesThePictureOfTheWindow) {

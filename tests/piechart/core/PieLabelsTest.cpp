@@ -101,6 +101,8 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
         const std::vector<Point>*& last = lastLeader[hasLeader && leader.back().x >= centre.x];
         const std::pair<bool, const char*> faults[] = {
             {!hasBox && hasLabel, "label without box"},
+            {!label.outside && hasBox && label.box.Width() != std::max(text.label, text.percent) + 4,
+             "odd padding"},
             {hasLabel && !Within(label.label, label.box), "label leaves its box"},
             {inBox && !Within(label.percent, label.box), "percentage leaves its box"},
             {Meet(label.label, label.percent), "label on percentage"},

@@ -194,8 +194,8 @@ TEST_F(GraphClipboardTest, AnotherProcessFindsThePictureOfTheWindow) {
         EXPECT_EQ(Text(bounds | CRect(0, 0, client.right - 1, client.bottom - 1)), Text(bounds));
         EXPECT_GE(header.nDescription, 13u) << "one zero ends the text, one the texts";
 
-        // In the frame's own unit a pixel of the reference device becomes a pixel exactly. The player computes
-        // positions in another arithmetic: what lies half-way between two pixels may go either way.
+        // In the frame's own unit a pixel of the reference device becomes a pixel exactly. The player rounds
+        // positions half-way between two pixels in another way than the control's mapping.
         testkit::DibSurface played(client.right, client.bottom);
         ::SetMapMode(played.Dc(), MM_ANISOTROPIC);
         ::SetWindowExtEx(played.Dc(), header.szlMillimeters.cx * 100, header.szlMillimeters.cy * 100,

@@ -1,3 +1,4 @@
+// The fixture of the graph control, and its default look.
 #pragma once
 
 #include "tests/support/GraphFixture.h"

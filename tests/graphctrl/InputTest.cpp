@@ -1,3 +1,5 @@
+// Notes what the control does with input.
+
 #include "tests/graphctrl/InputTest.h"
 
 #include <sstream>

@@ -1,3 +1,4 @@
+// The harness of tests of mouse, keyboard and menu: all traffic in order.
 #pragma once
 
 #include "tests/graphctrl/GraphTest.h"

@@ -124,12 +124,10 @@ TEST_F(GraphKeyboardTest, WithoutAParentTheMouseDoesNothingAndKeysMoveTheMark) {
     alone.SetSelectionMarkPos(2);
     alone.SendMessage(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK);
     EXPECT_EQ(alone.m_SelectionMarkPos, -1);
-    {
-        testkit::MessageBoxWatcher watcher(IDYES);
-        alone.SetSelectionMarkPos(2);
-        alone.SendMessage(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
-        EXPECT_EQ(alone.GetDatasetSize(0), 1);
-    }
+    const testkit::MessageBoxWatcher watcher(IDYES);
+    alone.SetSelectionMarkPos(2);
+    alone.SendMessage(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
+    EXPECT_EQ(alone.GetDatasetSize(0), 1);
     alone.SendSelchangeNotifyMessage();
     alone.SendRemoveDataNotifyMessage(0, 1);
     testkit::Pump();

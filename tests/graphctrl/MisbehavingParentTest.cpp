@@ -1,12 +1,11 @@
+// A parent that destroys or changes the control while the control waits for it.
+
 #include "tests/graphctrl/GraphTest.h"
 #include "tests/support/ForbiddenPages.h"
 #include "tests/support/GdiCounter.h"
 
 #include <algorithm>
 #include <functional>
-
-// What a parent may do while the control waits for it, in the handling of a notification or while its menu or
-// message box is open. Whatever that is, the control must find out what is left of it afterwards.
 
 namespace {
 

@@ -108,7 +108,8 @@ protected:
         EXPECT_EQ(Text(UpdateRect()), "0,0,0,0") << "a property or a sample repaints";
     }
 
-    /// What is drawn inside the control, in order. Of lines the pixels are compared: their strokes are reduced.
+    /// What is drawn inside the control, in order. Without the lines of datasets: the control draws fewer
+    /// strokes for the same pixels.
     Strings Lines(const testkit::MetafileRecorder& picture, const PlainGraph& plain) {
         const bool hasLines = graph.m_GraphStyle == 0 || graph.m_GraphStyle == 2;
         const CRect plot = ToDevice(plain.plot) & CRect(0, 0, size.cx - 2, size.cy - 2);
@@ -182,7 +183,7 @@ protected:
         EXPECT_EQ(Text(UpdateRect()), Text(data & CRect({0, 0}, size)));
     }
 
-    /// Paints in one of the ways that there are: into a bitmap, to the screen, or as a parent prints children.
+    /// Paints into a bitmap (way 0), into the window (1) or as a parent prints its children (2).
     void ComparePixels(PlainGraph& plain, int way) {
         const CPoint origin = way == 2 ? CPoint(numbers.Below(90), numbers.Below(60)) : CPoint(0, 0);
         testkit::DibSurface drawn(size.cx + origin.x, size.cy + origin.y);

@@ -5,17 +5,9 @@
 
 #include <algorithm>
 #include <climits>
-#include <cmath>
-#include <cstdio>
 #include <cstdlib>
 
 namespace {
-
-std::string Formatted(double value, int decimals) {
-    char text[1000];
-    std::snprintf(text, sizeof text, "%.*f", decimals, value);
-    return text;
-}
 
 bool IsBeginning(const std::string& part, const std::string& whole) {
     return !part.empty() && whole.compare(0, part.size(), part) == 0;
@@ -53,30 +45,22 @@ protected:
 
 TEST_F(GraphRobustnessTest, NumberTextsOfAnyLength) {
     const struct {
-        double min, max;
+        double max;
         int exponent, decimals;
-        double second; ///< what the second label says, the first being min / 10^exponent
-    } cases[] = {
-        {0, 100, 0, 400, 25},     {0, 100, 300, 0, 0},     {0, 100, -300, 0, 25 / 1e-300},
-        {0, 100, 400, 2, 0},      {0, 100, -400, 0, 25},   {-1e300, 1e300, 0, 100, -5e299},
-        {0, 100, INT_MIN, 1, 25}, {0, 100, INT_MAX, 1, 0}, {0, 1e308, 0, 300, 2.5e307},
-    };
+        double second; ///< what the second label says; the first one is 0
+    } cases[] = {{100, 0, 400, 25},     {100, 300, 0, 0},     {100, -300, 0, 25 / 1e-300},
+                 {100, 400, 2, 0},      {100, -400, 0, 25},   {1e308, 0, 300, 2.5e307},
+                 {100, INT_MIN, 1, 25}, {100, INT_MAX, 1, 0}, {100, 0, 100000, 25},
+                 {100, 0, INT_MAX, 25}, {100, 0, INT_MIN, 25}};
     for (const auto& each : cases) {
-        SCOPED_TRACE(each.exponent);
-        graph.SetYVisibleMin(each.min);
         graph.SetYVisibleMax(each.max);
         graph.SetYUnit("u", each.exponent, each.decimals);
         const Strings labels = YLabels();
         ASSERT_EQ(labels.size(), 5u);
-        const std::string second = Formatted(each.second, each.decimals);
-        EXPECT_TRUE(labels[1].size() == second.size() || labels[1].size() > 200) << labels[1].size();
-        EXPECT_DOUBLE_EQ(std::atof(labels[1].substr(0, 10).c_str()), std::atof(second.substr(0, 10).c_str()));
-    }
-    for (const int decimals : {100000, INT_MAX, INT_MIN}) {
-        graph.SetYVisibleMin(0);
-        graph.SetYVisibleMax(100);
-        graph.SetYUnit("", 0, decimals);
-        EXPECT_EQ(YLabels().size(), 5u) << decimals;
+        // Of a number of thousands of digits only its end is drawn.
+        if (labels[1].size() < 1000) {
+            EXPECT_NEAR(std::atof(labels[1].c_str()) - each.second, 0, each.second * 1e-9) << each.exponent;
+        }
     }
 }
 

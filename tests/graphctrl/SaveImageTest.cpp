@@ -1,3 +1,5 @@
+// The saved picture. Formats and failures are tested with the chart, which shares the code.
+
 #include "tests/graphctrl/GraphTest.h"
 #include "tests/support/TempFolder.h"
 

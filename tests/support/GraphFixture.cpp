@@ -1,3 +1,5 @@
+// How notifications, menus and rectangles read as text.
+
 #include "tests/support/GraphFixture.h"
 
 #include <kavlix/GraphNotify.h>

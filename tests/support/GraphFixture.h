@@ -1,3 +1,4 @@
+// The fixture that the tests of both graph controls share.
 #pragma once
 
 #include "tests/support/DibSurface.h"

@@ -1,3 +1,4 @@
+// A graph control with everything protected open, and its virtual calls noted.
 #pragma once
 
 #include <afxwin.h>

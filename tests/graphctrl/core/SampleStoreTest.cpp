@@ -63,7 +63,8 @@ void CompareRange(const SampleStore& store, const Model& model, int first, int l
     ASSERT_LE(walked, last - first + 1);
 }
 
-/// Compares some ranges, half of them with ends at the edges of blocks; `dropped` values went before the first.
+/// Compares some ranges, half of them with ends at the edges of blocks. `dropped` values were removed from
+/// the head.
 void CompareRanges(const SampleStore& store, const Model& model, std::int64_t dropped, std::mt19937& random) {
     const int size = store.Size();
     const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cwchar>
+#include <random>
 
 #include "monitor/ScrollPage.h"
 #include "tests/monitor/FrameWithPage.h"
@@ -170,49 +171,82 @@ protected:
     PageContent m_content;
     Page m_page;
     CMonitorScrollGraph* m_graph[2];
-    std::size_t m_removed = 0;
     std::string m_said;
     bool m_filled = false;
+    std::size_t m_removed = 0;
     int m_taken = 0;
 };
 
-TEST_F(ScrollPage, FollowsTheNewestUntilThePersonScrollsBack) {
+// Random actions of the person among live readings, against what must hold after each.
+TEST_F(ScrollPage, LiveReadingsStayCompleteAndInPlaceWhateverThePersonDoes) {
+    std::mt19937 random(14);
     BeginLive();
-    Live(600);
-    const double width = 300 * kX;
-    EXPECT_EQ(Inside::Width(*m_graph[1]), width);
-    EXPECT_NEAR(Position(), 599 * kX - 0.9 * width, kX);
-    EXPECT_EQ(Position(1), Position());
-    Scroll(1, SB_PAGELEFT);
-    Scroll(1, SB_PAGELEFT);
-    const double back = Position();
-    EXPECT_LT(back, 599 * kX - width);
-    Live(50);
-    EXPECT_EQ(Position(), back);
-    EXPECT_EQ(Position(1), back);
-    Command(ID_SCROLL_NEWEST);
-    Live(10);
-    EXPECT_NEAR(Position(), 659 * kX - 0.9 * width, kX);
-    EXPECT_EQ(Position(1), Position());
-    EXPECT_EQ(Inside::Low(*m_graph[0]), 0);
-    EXPECT_EQ(Inside::High(*m_graph[0]), 100) << "percents";
-    EXPECT_GE(Inside::High(*m_graph[1]), 659'000) << "what is in view fits";
+    Live(400);
+    EXPECT_EQ(Inside::Width(*m_graph[1]), 300 * kX);
+    const CMonitorScrollGraph& graph = *m_graph[0];
+    std::uint64_t first = 0; // the oldest reading in the graphs
+    std::uint64_t end = 400; // and the number behind the newest one
+    bool paused = false;
+    const auto reading = [&](int row) { return row < 0 ? -1 : static_cast<long>(first) + row; };
+    for (int step = 0; step < 300; ++step) {
+        const unsigned action = random() % 12;
+        const int side = static_cast<int>(random() % 2);
+        SCOPED_TRACE(std::to_string(step) + ": " + std::to_string(action));
+        const bool following = graph.ShowsNewest();
+        const long view = reading(graph.FirstVisible());
+        const long mark = reading(graph.MarkedRow());
+        const double position = Position();
+        m_page.scrolled = 0;
+        if (action < 3) {
+            Live(1 + static_cast<int>(random() % 60));
+        } else if (action == 3) {
+            Command(ID_SCROLL_PAUSE);
+            paused = !paused;
+        } else if (action == 4) {
+            KeepAtMost(350 + random() % 800);
+        } else if (action == 5) {
+            Command(ID_SCROLL_NEWEST);
+            const double last = graph.GetXOffset(graph.Rows() - 1) * kX;
+            ASSERT_NEAR(Position(), std::max(last - 0.9 * 300 * kX, 0.0), kX);
+        } else if (action == 6) {
+            Click(side, graph.FirstVisible() + 3 + static_cast<int>(random() % 5));
+        } else {
+            const UINT codes[] = {SB_PAGELEFT, SB_LINELEFT, SB_LINERIGHT, SB_THUMBTRACK};
+            Scroll(side, codes[random() % 4], random() % 400);
+            ASSERT_TRUE(m_page.scrolled == 1 || Position() == position) << "told once";
+        }
+        first = paused ? first : m_content.live->First();
+        end = paused ? end : m_content.live->End();
+
+        for (const CMonitorScrollGraph* each : m_graph) {
+            ASSERT_EQ(each->Rows(), static_cast<int>(end - first));
+            ASSERT_EQ(each->ScrollPosition(), Position());
+            ASSERT_EQ(each->ScrollPosition(), each->GetXOffset(each->FirstVisible()) * kX)
+                << "begins at a sample";
+            ASSERT_EQ(each->MarkedRow(), graph.MarkedRow());
+        }
+        for (int row = 0; row < graph.Rows(); row += 7) {
+            ASSERT_EQ(m_graph[0]->ValueOf(0, row), reading(row) % 100);
+            ASSERT_EQ(m_graph[1]->ValueOf(0, row), 1000 * reading(row));
+        }
+        ASSERT_EQ(Inside::Low(*m_graph[0]), 0);
+        ASSERT_EQ(Inside::High(*m_graph[0]), 100) << "percents";
+        ASSERT_GE(Inside::High(*m_graph[1]), 1000 * reading(graph.LastVisible())) << "what is in view fits";
+        ASSERT_EQ(m_page.ViewTexts()[0].find("Paused: ") == 0, paused);
+        if (action < 5) {
+            ASSERT_EQ(graph.ShowsNewest(), following);
+            ASSERT_TRUE(following ||
+                        reading(graph.FirstVisible()) == std::max(view, static_cast<long>(first)));
+        }
+        const long left = mark < static_cast<long>(first) ? -1 : mark;
+        ASSERT_TRUE(action == 6 || reading(graph.MarkedRow()) == left);
+    }
 }
 
-TEST_F(ScrollPage, GraphsScrollTogetherAndTellItOnce) {
+TEST_F(ScrollPage, TheWheelMovesBothGraphs) {
     BeginLive();
     Live(1000);
-    for (const int graph : {0, 1}) {
-        for (const UINT code : {SB_PAGELEFT, SB_LINELEFT, SB_LINERIGHT, SB_THUMBTRACK}) {
-            m_page.scrolled = 0;
-            const double before = Position(graph);
-            Scroll(graph, code, 500);
-            EXPECT_NE(Position(graph), before) << code;
-            EXPECT_EQ(Position(0), Position(1)) << code;
-            EXPECT_EQ(m_page.scrolled, 1) << code;
-        }
-    }
-    m_page.scrolled = 0;
+    Command(ID_VIEW_EARLIER);
     const double before = Position();
     // The wheel reaches the page from either graph. A rotation of less than a step waits for the rest.
     m_graph[1]->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20), 0);
@@ -222,57 +256,6 @@ TEST_F(ScrollPage, GraphsScrollTogetherAndTellItOnce) {
     m_page.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
     EXPECT_EQ(Position(), before + 0.02 * Inside::Width(*m_graph[0]));
     EXPECT_EQ(Position(1), Position());
-    EXPECT_EQ(m_page.scrolled, 0);
-}
-
-TEST_F(ScrollPage, APauseLosesNoReading) {
-    BeginLive();
-    Live(400);
-    Command(ID_SCROLL_PAUSE);
-    const double position = Position();
-    Live(250);
-    EXPECT_EQ(m_graph[0]->Rows(), 400) << "the pictures stand still";
-    EXPECT_EQ(Position(), position);
-    EXPECT_EQ(m_page.ViewTexts()[0].substr(0, 26), "Paused: 250 readings wait ");
-    Command(ID_SCROLL_PAUSE);
-    for (const CMonitorScrollGraph* graph : m_graph)
-        ASSERT_EQ(graph->Rows(), 650);
-    for (int row = 0; row < 650; ++row) {
-        ASSERT_EQ(m_graph[0]->ValueOf(0, row), row % 100);
-        ASSERT_EQ(m_graph[1]->ValueOf(0, row), 1000 * row);
-    }
-    EXPECT_TRUE(m_graph[0]->ShowsNewest() && m_graph[1]->ShowsNewest());
-    Command(ID_SCROLL_PAUSE);
-    KeepAtMost(100);
-    Live(120);
-    EXPECT_EQ(m_graph[0]->Rows(), 650);
-    Command(ID_SCROLL_PAUSE);
-    EXPECT_EQ(m_graph[1]->Rows(), 100);
-    EXPECT_EQ(m_graph[1]->ValueOf(0, 0), 670'000);
-}
-
-TEST_F(ScrollPage, OldReadingsGoWithoutMovingTheViewOrTheMark) {
-    BeginLive();
-    Live(1000);
-    Scroll(0, SB_THUMBTRACK, 700);
-    const long first = m_graph[0]->GetTimeInfo(m_graph[0]->FirstVisible());
-    m_graph[0]->SetSelectionMarkPos(m_graph[0]->FirstVisible() + 20);
-    m_graph[0]->SendMessage(WM_KEYDOWN, VK_RIGHT, 1);
-    const long marked = m_graph[0]->GetTimeInfo(m_graph[0]->MarkedRow());
-    KeepAtMost(800);
-    Live(100);
-    for (const CMonitorScrollGraph* graph : m_graph) {
-        EXPECT_EQ(graph->Rows(), 800);
-        EXPECT_EQ(graph->GetTimeInfo(graph->FirstVisible()), first);
-        EXPECT_EQ(graph->GetTimeInfo(graph->MarkedRow()), marked);
-        EXPECT_EQ(graph->ScrollPosition(), graph->GetXOffset(graph->FirstVisible()) * kX);
-    }
-    KeepAtMost(50);
-    EXPECT_EQ(m_graph[1]->MarkedRow(), -1) << "its reading went";
-    EXPECT_EQ(m_graph[1]->Rows(), 50);
-    EXPECT_EQ(Position(), 0);
-    Live(20);
-    EXPECT_TRUE(m_graph[0]->ShowsNewest());
 }
 
 TEST_F(ScrollPage, RangesKeepWhatThePersonLooksAt) {

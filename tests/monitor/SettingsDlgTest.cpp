@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <memory>
 #include <random>
 
@@ -72,53 +73,30 @@ TEST_F(SettingsDlg, EveryChangeReachesThePreviewAndNothingElse) {
     GraphSettings expected = SettingsOf(Waves(3));
     std::size_t chosen = 0;
     std::mt19937 random(12);
+    const auto flip = [this](bool& value, int button) {
+        value = !value;
+        Click(button);
+    };
     for (int step = 0; step < 200; ++step) {
         SCOPED_TRACE(step);
         monitor::SeriesSettings& series = expected.series[chosen];
-        const int choice = static_cast<int>(random() % 3);
-        switch (random() % 10) {
-        case 0:
-            expected.title = "Title " + std::to_string(step);
-            m_dialog->SetDlgItemText(IDC_TITLE, expected.title.c_str());
-            break;
-        case 1:
-            expected.style = static_cast<CGraphCtrl::GraphStyle>(choice);
-            Choose(IDC_STYLE, choice);
-            break;
-        case 2:
-            expected.titleStyle = static_cast<CGraphCtrl::TitleStyle>(choice % 2);
-            Choose(IDC_TITLE_STYLE, choice % 2);
-            break;
-        case 3:
-            if (expected.style == CGraphCtrl::GraphStyleTwoAxis)
-                break; // two axes have no legend to switch
-            expected.legend = !expected.legend;
-            Click(IDC_LEGEND);
-            break;
-        case 4:
-            expected.gridX = !expected.gridX;
-            Click(IDC_GRID_X);
-            break;
-        case 5:
-            expected.gridY = !expected.gridY;
-            Click(IDC_GRID_Y);
-            break;
-        case 6:
-            chosen = static_cast<std::size_t>(choice);
-            Choose(IDC_SERIES, choice);
-            break;
-        case 7:
-            series.lineSize = monitor::LineSizeChoices()[static_cast<std::size_t>(choice)].size;
-            Choose(IDC_LINE_SIZE, choice);
-            break;
-        case 8:
-            series.marker = monitor::MarkerChoices()[static_cast<std::size_t>(choice)].type;
-            Choose(IDC_MARKER, choice);
-            break;
-        default:
-            series.visible = !series.visible;
-            Click(IDC_SHOW_SERIES);
-        }
+        const std::size_t choice = random() % 3;
+        const int item = static_cast<int>(choice);
+        const std::function<void()> changes[] = {
+            [&] { m_dialog->SetDlgItemText(IDC_TITLE, (expected.title = std::to_string(step)).c_str()); },
+            [&] { Choose(IDC_STYLE, expected.style = static_cast<CGraphCtrl::GraphStyle>(item)); },
+            [&] {
+                Choose(IDC_TITLE_STYLE, expected.titleStyle = static_cast<CGraphCtrl::TitleStyle>(item % 2));
+            },
+            [&] { flip(expected.gridX, IDC_GRID_X); },
+            [&] { flip(expected.gridY, IDC_GRID_Y); },
+            [&] { flip(series.visible, IDC_SHOW_SERIES); },
+            [&] { Choose(IDC_SERIES, static_cast<int>(chosen = choice)); },
+            [&] { series.lineSize = monitor::LineSizeChoices()[choice].size, Choose(IDC_LINE_SIZE, item); },
+            [&] { series.marker = monitor::MarkerChoices()[choice].type, Choose(IDC_MARKER, item); },
+            [&] { flip(expected.legend, IDC_LEGEND); }};
+        const bool twoAxes = expected.style == CGraphCtrl::GraphStyleTwoAxis; // has no legend to switch
+        changes[random() % (std::size(changes) - (twoAxes ? 1 : 0))]();
         ASSERT_TRUE(Now() == expected);
         ASSERT_EQ(m_dialog->Preview().GetGraphStyle(), expected.style);
         ASSERT_EQ(m_dialog->Preview().GetTitleStyle(), expected.titleStyle);

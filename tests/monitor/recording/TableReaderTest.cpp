@@ -179,24 +179,6 @@ TEST(TableReader, NamesEverySeries) {
                                                           "C"}));
 }
 
-TEST(TableReader, SummarizesTimesAndGaps) {
-    const Read read = ReadTable("t,a,b\n0,1,\n10,NaN,\n20,,5\n30,-4,\n70,2,6\n80,3,7\n");
-    EXPECT_EQ(read.summary.interval, 10 * kMicrosPerSecond);
-    EXPECT_EQ(read.summary.timeGaps, 1u);
-    EXPECT_EQ(read.summary.longestGap, 40 * kMicrosPerSecond);
-    EXPECT_EQ(read.summary.first, 0);
-    EXPECT_EQ(read.summary.last, 80 * kMicrosPerSecond);
-    ASSERT_EQ(read.summary.series.size(), 2u);
-    EXPECT_EQ(read.summary.series[0].values, 4u);
-    EXPECT_EQ(read.summary.series[0].absent, 2u);
-    EXPECT_EQ(read.summary.series[0].gaps, 1u);
-    EXPECT_EQ(read.summary.series[0].min, -4);
-    EXPECT_EQ(read.summary.series[0].max, 3);
-    EXPECT_EQ(read.summary.series[1].gaps, 2u);
-    EXPECT_TRUE(ReadTable("t,a\n1970-01-01T00:00:00Z,1\n").summary.zoned);
-    EXPECT_FALSE(ReadTable("t,a\n1970-01-01T00:00:00,1\n").summary.zoned);
-}
-
 TEST(TableReader, LeavesOutALineBeyondTheLimit) {
     const Read read = ReadTable("t,a\n10,1\n20," + std::string(CsvReader::kLineLimit, '7') + "\n30,3\n");
     EXPECT_EQ(read.Messages(),

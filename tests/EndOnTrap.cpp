@@ -1,6 +1,4 @@
-// Ends a test program at its first fault. Wine drops faults in code that the system has called (WM_PAINT,
-// WM_CREATE, hooks) and goes on as if the call had returned: a trapped paint would be repeated for ever.
-
+// Ends a test program at the first trap or access violation in it.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -10,6 +8,8 @@
 
 namespace {
 
+// Wine ignores faults in code that the system calls (WM_PAINT, WM_CREATE, hooks) and continues as if the call
+// had returned. A paint that traps would then be repeated for ever.
 constexpr struct {
     DWORD code;
     const char* name;
@@ -19,7 +19,8 @@ constexpr struct {
                {EXCEPTION_INT_DIVIDE_BY_ZERO, "division by zero"},
                {EXCEPTION_INT_OVERFLOW, "division overflow"}};
 
-// System libraries probe foreign pointers and handle the fault themselves; the C runtime does not.
+/// Whether a fault in `module` is handled by the system itself: its libraries test unknown pointers by
+/// reading them. Faults in the C run time are not handled.
 bool IsHandledBySystem(HMODULE module) {
     char system[MAX_PATH] = "", path[MAX_PATH] = "";
     const UINT length = ::GetSystemDirectoryA(system, MAX_PATH);

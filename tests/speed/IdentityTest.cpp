@@ -1,6 +1,5 @@
-// What the shortcuts draw against what a walk over every sample draws, in random views. KAVLIX_VIEWS sets the
-// number of views.
-
+// Compares the pictures of all painting shortcuts with those of a plain walk over every sample, in random
+// views.
 #include "tests/speed/PlainWalk.h"
 #include "tests/support/DibSurface.h"
 #include "tests/support/MetafileRecorder.h"
@@ -13,12 +12,11 @@
 #include <cstdlib>
 #include <limits>
 #include <random>
-#include <sstream>
 #include <string>
 
 namespace {
 
-constexpr int kDefaultViews = 1600;
+constexpr int kDefaultViews = 1600; // unless the environment variable KAVLIX_VIEWS sets another number
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 int Views() {
@@ -26,7 +24,7 @@ int Views() {
     return wanted != nullptr ? std::atoi(wanted) : kDefaultViews;
 }
 
-/// Random choices, the same on every machine.
+/// A random sequence that is the same on every machine.
 class Dice {
 public:
     explicit Dice(unsigned seed) : m_engine(seed) {}
@@ -34,7 +32,7 @@ public:
     bool OneIn(int n) { return UpTo(n - 1) == 0; }
     double Share() { return m_engine() / 4294967296.0; }
     double Within(double low, double high) { return low + (high - low) * Share(); }
-    /// 1 to `most`, small ones as likely as large ones.
+    /// 1 to `most`; each order of magnitude is equally likely.
     int Size(int most) { return static_cast<int>(std::exp(Within(0, std::log(most + 0.999)))); }
 
 private:
@@ -61,14 +59,14 @@ double Sample(Shape shape, int index, double& state, Dice& dice) {
         return dice.OneIn(30)   ? (dice.OneIn(2) ? kInfinity : -kInfinity)
                : dice.OneIn(30) ? 1e300
                                 : dice.Within(0, 100);
-    case Faraway: // both ends of each stroke
+    case Faraway: // both ends of each stroke lie outside the view
         return (index % 2 == 0 ? 1 : -1) * dice.Within(3e4, 1e5);
     default:
         return Sample(static_cast<Shape>(index / 97 % Mixed), index, state, dice);
     }
 }
 
-/// What makes a view slow for the plain walk.
+/// The properties of a view that make the plain walk slow, and limits for the number of samples.
 struct Cost {
     bool isLong, isWide;
 
@@ -76,18 +74,18 @@ struct Cost {
     int Samples(Dice& dice) const {
         return !isLong ? dice.Size(2000) : isWide ? 5000 + dice.UpTo(5000) : 20000 + dice.UpTo(80000);
     }
-    /// A wide stroke from far away is slow to draw.
+    /// GDI is slow with wide strokes from far away, so such views get fewer samples.
     int Fewer(int samples, Shape shape) const {
         return isWide && shape >= Infinities ? std::min(samples, shape == Faraway ? 30 : 12) : samples;
     }
 };
 
-/// Plays a metafile's records in the mapping that `dc` has, in which GDI computes as for the screen.
+/// Plays the records of a metafile in the mapping of `dc`, so that GDI rounds as on the screen.
 void Replay(HENHMETAFILE picture, HDC dc) {
     const auto play = [](HDC, HANDLETABLE* table, const ENHMETARECORD* record, int handles, LPARAM to) {
         const HDC target = reinterpret_cast<HDC>(to);
         if (record->iType == EMR_EXTSELECTCLIPRGN && ::GetMapMode(target) == MM_TEXT)
-            return 1; // the picture is enlarged, its clip regions are not
+            return 1; // in an enlarged picture the clip regions keep their size
         if (record->iType == EMR_EXTSELECTCLIPRGN) {
             const auto* clip = reinterpret_cast<const EMREXTSELECTCLIPRGN*>(record);
             const HRGN region = clip->cbRgnData == 0
@@ -97,7 +95,7 @@ void Replay(HENHMETAFILE picture, HDC dc) {
             ::ExtSelectClipRgn(target, region, static_cast<int>(clip->iMode));
             ::DeleteObject(region);
         } else if (record->iType == EMR_RECTANGLE ||
-                   record->iType == EMR_ELLIPSE) { // without right and bottom edge
+                   record->iType == EMR_ELLIPSE) { // recorded without right and bottom edge
             const RECTL& box = reinterpret_cast<const EMRRECTANGLE*>(record)->rclBox;
             (record->iType == EMR_ELLIPSE ? ::Ellipse : ::Rectangle)(target, box.left, box.top, box.right + 1,
                                                                      box.bottom + 1);
@@ -118,7 +116,8 @@ template <class Graph> HENHMETAFILE Record(Graph& graph) {
     return ::CloseEnhMetaFile(recording);
 }
 
-/// Pictures of one size: what is compared, and the DC of a bitmap without pixels in reach.
+/// Pictures of one size that are compared, and a DC whose bitmap is not a DIB section: all strokes on it go
+/// through GDI.
 class Pictures {
 public:
     Pictures(int width, int height)
@@ -136,7 +135,8 @@ public:
         ::ReleaseDC(nullptr, m_screen);
     }
 
-    /// Empty when the shortcuts' pictures, by pixels, by GDI and from a metafile, are the plain one.
+    /// Compares the plain picture with those of the shortcuts: painted directly, by GDI, and from a metafile.
+    /// Empty when all are equal.
     template <class Graph> std::string Compare(Graph& graph) {
         graph.isPlain = true;
         graph.Paint(slow.Dc());
@@ -160,12 +160,12 @@ private:
     template <class Graph> std::string MetafileFaults(Graph& graph) {
         const HENHMETAFILE metafile = Record(graph);
         Replay(metafile, fast.Dc());
-        CRect plot = graph.m_rectPlot; // texts have pixels of their own
+        CRect plot = graph.m_rectPlot; // the pixels of texts may differ
         ::LPtoDP(fast.Dc(), reinterpret_cast<POINT*>(&plot), 2);
         ENHMETAHEADER header = {};
         ::GetEnhMetaFileHeader(metafile, sizeof header, &header);
         ::DeleteEnhMetaFile(metafile);
-        // Where a wide stroke from far away is cut, its edges may be rounded otherwise.
+        // In metafiles the edges of shortened wide strokes may be rounded differently.
         const std::string records =
             graph.ReachesFarWithAWidePen() ? "" : testkit::Difference(fast, slow, plot);
         CRect most(CPoint(0, 0), m_size), frame(reinterpret_cast<const RECT&>(header.rclBounds));
@@ -181,9 +181,9 @@ private:
     HGDIOBJ m_before;
 };
 
-/// Pen, marker, visibility, colours, ranges and mark at random, told in the result.
-template <class Graph> std::string Dress(Graph& graph, Dice& dice, int longest, Cost cost) {
-    std::ostringstream told;
+/// Sets pens, markers, visibility, ranges and the selection mark at random. A description of them.
+template <class Graph> testing::Message Dress(Graph& graph, Dice& dice, int longest, Cost cost) {
+    testing::Message told;
     static constexpr int kThinPens[] = {0, 15, 30, 44};
     static constexpr int kWidePens[] = {45, 60, 75, 90, 120, 300, 1000};
     const bool twoAxis = dice.OneIn(4);
@@ -208,7 +208,7 @@ template <class Graph> std::string Dress(Graph& graph, Dice& dice, int longest, 
     graph.m_SelectionMarkPos = dice.OneIn(2) ? dice.UpTo(std::max(longest - 1, 0)) : -1;
     told << " y " << y[0] << ".." << y[1] << " mark " << graph.m_SelectionMarkPos
          << (twoAxis ? " two axes" : "");
-    return told.str();
+    return told;
 }
 
 class IdentityTest : public testing::Test {
@@ -225,19 +225,21 @@ protected:
         graph.SetLegendWidth(300);
     }
 
-    /// Compares `views` pictures of a graph that `dress(graph, dice)` has filled at random; it tells with
-    /// what.
+    /// Compares `views` pictures of a graph. For each one, `dress(graph, dice, view)` adds data, sets
+    /// properties, and returns a description for failure messages.
     template <class Control, class DressGraph>
     void CompareViews(CSize size, int views, unsigned seed, DressGraph dress) {
         plain::Graph<Control> graph;
         ASSERT_NO_FATAL_FAILURE(Open(graph, size));
         Pictures pictures(size.cx, size.cy);
+        graph.Paint(pictures.fast.Dc()); // computes the layout
         int shown = 0;
         for (int view = 0; view < views; ++view) {
             Dice dice(seed + static_cast<unsigned>(view));
             graph.ResetAll();
-            const std::string told = dress(graph, dice, view);
-            ASSERT_EQ(pictures.Compare(graph), "") << "view " << view << " of " << size.cx << ": " << told;
+            const testing::Message description = dress(graph, dice, view);
+            ASSERT_EQ(pictures.Compare(graph), "")
+                << "view " << view << " of " << size.cx << ": " << description;
             shown += pictures.fast.Count(graph.m_Datasets[0].m_Color) > 0;
         }
         graph.DestroyWindow();
@@ -254,7 +256,7 @@ TEST_F(IdentityTest, GraphsLookAsIfEverySampleWereDrawn) {
         const Cost cost(view, dice);
         const int count = cost.Samples(dice);
         const int datasets = cost.isLong ? 1 : 1 + dice.UpTo(2);
-        std::ostringstream told;
+        testing::Message told;
         told << count << " samples";
         int longest = 0;
         for (int i = 0; i < datasets; ++i) {
@@ -267,7 +269,7 @@ TEST_F(IdentityTest, GraphsLookAsIfEverySampleWereDrawn) {
             longest = std::max(longest, samples);
             told << " shape " << shape;
         }
-        if (dice.OneIn(3) && longest > 4) { // heads that end within blocks
+        if (dice.OneIn(3) && longest > 4) { // remove samples up to the middle of a storage block
             const int head = dice.UpTo(longest / 2);
             graph.RemoveHeadData(head);
             longest -= head;
@@ -286,7 +288,7 @@ TEST_F(IdentityTest, GraphsLookAsIfEverySampleWereDrawn) {
         graph.SetXVisibleMin(x[0]);
         graph.SetXVisibleMax(x[1]);
         told << " x " << x[0] << ".." << x[1];
-        return told.str();
+        return told;
     };
     CompareViews<CGraphCtrl>(CSize(230, 190), Views() * 3 / 8, 0, dress);
     CompareViews<CGraphCtrl>(CSize(420, 300), Views() * 3 / 8, 2000000, dress);
@@ -297,7 +299,7 @@ TEST_F(IdentityTest, ScrollingGraphsToo) {
         CSize(260, 200), Views() / 4, 5000000, [](auto& graph, Dice& dice, int view) {
             const Cost cost(view, dice);
             const int count = cost.Samples(dice);
-            // Equal steps, uneven ones with repetitions, and now and then a step back.
+            // Equal time steps, uneven ones with repetitions, and some steps back.
             const int kind = dice.UpTo(5);
             long time = 1700000000;
             for (int k = 0; k < count; ++k) {
@@ -306,7 +308,7 @@ TEST_F(IdentityTest, ScrollingGraphsToo) {
                 if (kind == 5 && dice.OneIn(100))
                     time -= dice.UpTo(30);
             }
-            std::ostringstream told;
+            testing::Message told;
             told << count << " samples, times " << kind;
             for (int i = 0; i < 1 + view % 2; ++i) {
                 const Shape shape = static_cast<Shape>(dice.UpTo(cost.isWide ? Gaps : Mixed));
@@ -319,7 +321,7 @@ TEST_F(IdentityTest, ScrollingGraphsToo) {
             if (dice.OneIn(2))
                 graph.ViewPos() = dice.Within(-0.2, 1.1) * count * 20;
             told << Dress(graph, dice, count, cost) << " from " << graph.ViewPos();
-            return told.str();
+            return told;
         });
 }
 
@@ -332,74 +334,78 @@ TEST_F(IdentityTest, BarsTooHoweverTheyAreFilled) {
             for (int k = 0; k < count; ++k)
                 graph.AddData(i, Sample(shape, k, state, dice), nullptr);
         }
-        std::ostringstream told;
+        testing::Message told;
         told << count << " samples, shape " << shape << Dress(graph, dice, count, Cost(1, dice));
         graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);
         graph.SetXVisibleMin(dice.OneIn(2) ? 0 : dice.Within(-0.2, 1) * count);
         graph.SetXVisibleMax(dice.Within(0, 1.3) * count);
-        return told.str();
+        return told;
     });
 }
 
 TEST_F(IdentityTest, LinesOfManyPoints) {
-    // So wide that a line is drawn in several parts, of points inside and far outside the view.
-    plain::Graph<CGraphCtrl> graph;
-    const CSize size(2600, 160);
-    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
-    Pictures pictures(size.cx, size.cy);
-    graph.Paint(pictures.fast.Dc()); // lays out
-    // In dataset 0 each pixel column stands apart from the next, so that the strokes between them show; in
-    // dataset 1 many strokes of a column come from far away.
-    constexpr int kPerColumn = 8;
-    const int count = graph.m_rectPlot.Width() / 30 * kPerColumn;
-    Dice dice(1);
-    for (int k = 0; k < count; ++k) {
-        const int column = (graph.m_rectPlot.left + k * 30 / kPerColumn + 15) / 30;
-        graph.AddData(0, (column % 2 != 0 ? 80 : 20) + dice.Within(-9, 9), nullptr);
-        graph.AddData(1, dice.Within(0, 100), nullptr);
-    }
-    graph.SetXVisibleMin(0);
-    graph.SetXVisibleMax(count);
-    for (const int shown : {0, 1}) {
-        graph.ShowDataset(shown, TRUE);
-        graph.ShowDataset(1 - shown, FALSE);
-        for (const int pen : {0, 60}) {
-            for (const double half : {50.0, 5.0, 0.1}) {
-                graph.SetLineSize(shown, pen);
-                graph.SetYVisibleMin(50 - half);
-                graph.SetYVisibleMax(50 + half);
-                EXPECT_EQ(pictures.Compare(graph), "")
-                    << "dataset " << shown << " pen " << pen << " y 50 +- " << half;
-            }
+    // So wide that GDI draws a line in several parts, with points inside and far outside the view.
+    CompareViews<CGraphCtrl>(CSize(2600, 160), 12, 0, [](auto& graph, Dice& dice, int view) {
+        constexpr int kPerColumn = 8;
+        constexpr double kHalves[] = {50, 5, 0.1};
+        const bool isNoise = view % 2 != 0;
+        const int pen = view / 2 % 2 * 60;
+        const double half = kHalves[view / 4];
+        const int count = graph.m_rectPlot.Width() / 30 * kPerColumn;
+        for (int k = 0; k < count; ++k) {
+            // Either each pixel column is far from the next one, so that the strokes between them show, or
+            // many strokes of a column come from far away.
+            const int column = (graph.m_rectPlot.left + k * 30 / kPerColumn + 15) / 30;
+            const double middle = column % 2 != 0 ? 80 : 20;
+            graph.AddData(0, isNoise ? dice.Within(0, 100) : middle + dice.Within(-9, 9), nullptr);
         }
-    }
-    graph.DestroyWindow();
+        graph.SetXVisibleMin(0);
+        graph.SetXVisibleMax(count);
+        graph.SetLineSize(0, pen);
+        graph.SetYVisibleMin(50 - half);
+        graph.SetYVisibleMax(50 + half);
+        return testing::Message() << "noise " << isNoise << " pen " << pen << " y 50 +- " << half;
+    });
 }
 
 TEST_F(IdentityTest, MarkersOfManySamples) {
-    plain::Graph<CGraphCtrl> graph;
-    const CSize size(230, 190);
-    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
-    Pictures pictures(size.cx, size.cy);
-    constexpr int kSamples = 10000;
-    for (const Shape shape : {Walk, Steps, Spikes, Constant, Gaps}) {
-        for (int marker = CDataset::MarkerSquare; marker < CDataset::MarkerTypeCount; ++marker) {
-            graph.ResetAll();
-            Dice dice(static_cast<unsigned>(marker));
-            double state = 50;
-            for (int k = 0; k < kSamples; ++k)
-                graph.AddData(0, Sample(shape, k, state, dice), nullptr);
-            graph.SetMarkerType(0, static_cast<CDataset::MarkerType>(marker));
-            graph.SetXVisibleMin(0);
-            graph.SetXVisibleMax(kSamples);
-            EXPECT_EQ(pictures.Compare(graph), "") << "shape " << shape << " marker " << marker;
+    CompareViews<CGraphCtrl>(CSize(230, 190), 25, 0, [](auto& graph, Dice& dice, int view) {
+        constexpr int kSamples = 10000;
+        constexpr Shape kShapes[] = {Walk, Steps, Spikes, Constant, Gaps};
+        double state = 50;
+        for (int k = 0; k < kSamples; ++k)
+            graph.AddData(0, Sample(kShapes[view / 5], k, state, dice), nullptr);
+        graph.SetMarkerType(0, static_cast<CDataset::MarkerType>(CDataset::MarkerSquare + view % 5));
+        graph.SetXVisibleMin(0);
+        graph.SetXVisibleMax(kSamples);
+        return testing::Message() << "shape " << kShapes[view / 5] << " marker " << view % 5;
+    });
+}
+
+TEST_F(IdentityTest, LinesEndBeforeGapsAndMarks) {
+    // The last samples before a gap or the mark, one or many, lie alone on their row, and the gap begins with
+    // a pixel column.
+    CompareViews<CGraphCtrl>(CSize(230, 190), 60, 0, [](auto& graph, Dice& dice, int view) {
+        const int perColumn = 5 + dice.UpTo(view % 4 == 3 ? 200 : 60);
+        const int flat = view % 2 == 0 ? 1 : 1 + perColumn * 2 / 3;
+        const int plotColumns = graph.m_rectPlot.Width() / 30;
+        const int count = plotColumns * perColumn;
+        const int phase = dice.UpTo(perColumn - 1);
+        for (int i = 0; i < count; ++i) {
+            const bool isGap = view % 3 != 0 && (i + phase) % perColumn == 0;
+            const double before = flat > 1 ? 10 : dice.Within(80, 99), other = dice.Within(20, 70);
+            const bool isBefore = (i + flat + phase) % perColumn < flat;
+            graph.AddData(0, isGap ? std::nan("") : isBefore ? before : other, nullptr);
         }
-    }
-    graph.DestroyWindow();
+        graph.SetXVisibleMin(0);
+        graph.SetXVisibleMax(count);
+        graph.m_SelectionMarkPos = (1 + dice.UpTo(plotColumns - 2)) * perColumn - phase;
+        return testing::Message() << perColumn << " samples a column";
+    });
 }
 
 TEST_F(IdentityTest, EnlargedMetafilesToo) {
-    // A pixel for each logical unit.
+    // Enlarged to one pixel per logical unit.
     plain::Graph<CGraphCtrl> graph;
     const CSize size(110, 90);
     ASSERT_NO_FATAL_FAILURE(Open(graph, size));
@@ -441,7 +447,7 @@ TEST_F(IdentityTest, EnlargedMetafilesToo) {
         ::DeleteEnhMetaFile(shortened);
         ::DeleteEnhMetaFile(whole);
     }
-    // 60,000 samples with markers on about a thousand places.
+    // 60,000 samples whose markers have about a thousand different positions.
     graph.ResetAll();
     for (int k = 0; k < 60000; ++k)
         graph.AddData(0, k * 7 % 40, nullptr);
@@ -451,37 +457,5 @@ TEST_F(IdentityTest, EnlargedMetafilesToo) {
     const HENHMETAFILE dense = Record(graph);
     EXPECT_LT(::GetEnhMetaFileBits(dense, 0, nullptr), 200000u);
     ::DeleteEnhMetaFile(dense);
-    graph.DestroyWindow();
-}
-
-TEST_F(IdentityTest, LinesEndWhereTheyShouldBeforeGapsAndMarks) {
-    // The last samples before a gap or the mark, one or many, stand alone on their row, and the gap begins
-    // with a pixel column.
-    plain::Graph<CGraphCtrl> graph;
-    const CSize size(230, 190);
-    ASSERT_NO_FATAL_FAILURE(Open(graph, size));
-    Pictures pictures(size.cx, size.cy);
-    graph.Paint(pictures.fast.Dc()); // lays out
-    for (unsigned seed = 0; seed < 60; ++seed) {
-        Dice dice(seed);
-        graph.ResetAll();
-        const int perColumn = 5 + dice.UpTo(seed % 4 == 3 ? 200 : 60);
-        const int flat = seed % 2 == 0 ? 1 : 1 + perColumn * 2 / 3;
-        const int plotColumns = graph.m_rectPlot.Width() / 30;
-        const int count = plotColumns * perColumn;
-        const int phase = dice.UpTo(perColumn - 1);
-        for (int i = 0; i < count; ++i) {
-            const bool isGap = (i + phase) % perColumn == 0, isBefore = (i + flat + phase) % perColumn < flat;
-            graph.AddData(0,
-                          isGap && seed % 3 != 0 ? std::nan("")
-                          : isBefore             ? (flat > 1 ? 10 : dice.Within(80, 99))
-                                                 : dice.Within(20, 70),
-                          nullptr);
-        }
-        graph.SetXVisibleMin(0);
-        graph.SetXVisibleMax(count);
-        graph.m_SelectionMarkPos = (1 + dice.UpTo(plotColumns - 2)) * perColumn - phase;
-        ASSERT_EQ(pictures.Compare(graph), "") << "seed " << seed << ", " << perColumn << " samples a column";
-    }
     graph.DestroyWindow();
 }

@@ -1,3 +1,4 @@
+// Draws lines, markers and the selection mark sample by sample.
 #include "tests/speed/PlainWalk.h"
 
 #include <algorithm>
@@ -7,7 +8,7 @@
 namespace plain {
 
 std::optional<int> Scale::Place(double value) const {
-    constexpr double kFarthest = 1 << 27; // what GDI takes
+    constexpr double kFarthest = 1 << 27; // limit of GDI coordinates
     if (max - min == 0)
         return std::nullopt;
     const double place = (value - min) * extent / (max - min) + edge;
@@ -65,7 +66,7 @@ void DrawMarkAt(HDC dc, const Mark& mark, int x) {
 
 template <class Place>
 void DrawLine(HDC dc, const Series& series, int first, int last, const Mark& mark, Place place) {
-    // Positions first, turned into pixels all at once; each sample is then drawn by itself.
+    // All positions are converted to pixels in one call, then each sample is drawn.
     std::vector<std::optional<POINT>> places;
     std::vector<POINT> pixels;
     for (int i = first; i <= last; ++i) {

@@ -1,3 +1,4 @@
+// The reference picture of a graph's lines, drawn without any shortcut.
 #pragma once
 
 #include <afxwin.h>
@@ -6,11 +7,11 @@
 
 #include <optional>
 
-/// How a graph's lines are drawn sample by sample: the measure for every shortcut. Written from the rules of
-/// the picture alone, it shares no arithmetic with the control.
+/// Draws the lines of a graph sample by sample. This code follows the described picture and shares no
+/// arithmetic with the control.
 namespace plain {
 
-/// Where values stand: at `edge` for `min`, at `edge` + `extent` for `max`.
+/// Converts values to positions: `min` lies at `edge`, `max` at `edge` + `extent`.
 struct Scale {
     double min, max;
     int edge, extent;
@@ -35,7 +36,7 @@ void DrawLine(HDC dc, const Series& series, int first, int last, const Mark& mar
 void DrawMarkerShape(HDC dc, int type, int x, int y);
 void DrawMarkAt(HDC dc, const Mark& mark, int x);
 
-/// A control that draws its lines either way. `Control` is CGraphCtrl or CScrollGraphCtrl.
+/// A control that draws its lines itself or by the plain walk. `Control` is CGraphCtrl or CScrollGraphCtrl.
 template <class Control> class Graph : public Control {
 public:
     using CGraphCtrl::m_Datasets;
@@ -49,7 +50,7 @@ public:
     using CGraphCtrl::m_YVisibleMax;
     using CGraphCtrl::m_YVisibleMin;
 
-    bool isPlain = false; ///< whether the lines are walked plainly
+    bool isPlain = false; ///< whether lines are drawn by the plain walk
 
     /// Paints the whole picture.
     void Paint(HDC handle) {
@@ -61,7 +62,7 @@ public:
     /// Whether a sample that is drawn with a wide pen lies more than 30 pixels beyond the plot.
     bool ReachesFarWithAWidePen() const;
 
-    /// Where the scrolling graph's view begins, x units.
+    /// The left end of the scrolling graph's view, in x units.
     double& ViewPos();
 
 protected:
@@ -74,8 +75,9 @@ protected:
 
 private:
     void Walk(CDC& dc);
-    /// The samples to draw and their places.
+    /// The samples to draw.
     void Range(int size, int& first, int& last) const;
+    /// The position of a sample along the X axis.
     std::optional<int> PlaceOf(int index) const;
 };
 

@@ -1,4 +1,4 @@
-# Shared by ./run and ./test (bash): packages, the display, Wine, and ending what was started.
+# Functions for the scripts (bash): packages, the display, Wine, builds, and the end of started processes.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$root/build
@@ -6,7 +6,7 @@ build=$root/build
 say() { printf '%s\n' "$*" >&2; }
 die() { say "$(basename "$0"): $*"; exit 1; }
 
-# need_packages NAME...: installs the Debian packages that are missing; silent when none is.
+# need_packages NAME...: installs those of the Debian packages that are missing.
 need_packages() {
     local missing=() name
     for name in "$@"; do
@@ -29,7 +29,7 @@ need_packages() {
     }
 }
 
-# What was started here, and only that, is ended however the script ends.
+# Ends the processes that this script has started, and no others, at every end of the script.
 xvfb_pid= wine_prefix= program_pid=
 clean_up() {
     trap - EXIT INT TERM HUP
@@ -54,7 +54,7 @@ trap 'end_with 130' INT
 trap 'end_with 143' TERM
 trap 'end_with 129' HUP
 
-# start_xvfb WIDTHxHEIGHT: a display of our own, on the first free number.
+# start_xvfb WIDTHxHEIGHT: starts an X display of the script's own, on the first free number.
 start_xvfb() {
     local numbers
     numbers=$(mktemp)
@@ -71,39 +71,39 @@ start_xvfb() {
     rm -f "$numbers"
 }
 
-# use_wine NAME [unmanaged]: the Wine prefix of that name in the build folder, made when there is none yet;
-# unmanaged for displays of our own, on which no window manager runs.
+# use_wine NAME [unmanaged]: uses the Wine prefix NAME in the build folder, and makes it when it does not exist.
+# unmanaged is for displays of start_xvfb, which have no window manager.
 use_wine() {
-    # Wine names files in the characters of the locale: without UTF-8 it cannot make most names.
+    # Wine encodes file names in the locale's character set, and only UTF-8 can encode all names.
     [ "$(locale charmap 2>/dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
     export WINEPREFIX=$build/$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
-    local mark=$WINEPREFIX/.made-2 # the number grows with what stands below, so that older prefixes are made anew
+    local mark=$WINEPREFIX/.made-2 # raise the number with a change below: older prefixes are then made again
     [ ! -e "$mark" ] || return 0
     say "Making the Wine prefix ..."
     rm -rf "$WINEPREFIX"
     mkdir -p "$build"
     wine wineboot --init >"$build/wineboot.log" 2>&1 || die "Wine could not make its prefix (log: $build/wineboot.log)"
-    # Arial is not there, and the closest by family would have serifs; these letters have its widths.
+    # Arial is not installed. Liberation Sans has letters of the same widths.
     wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v Arial /d 'Liberation Sans' /f >>"$build/wineboot.log" 2>&1
-    # Without a window manager to wait for, windows show at once and get the frame that Wine draws.
+    # Without this setting Wine waits for a window manager when it shows a window.
     [ "${2-}" != unmanaged ] ||
         wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >>"$build/wineboot.log" 2>&1
     wineserver -w
     touch "$mark"
 }
 
-# keep_wine: one server for the whole run, ended with it; it saves each program the 2.5 seconds of starting
-# one. Only for a prefix that take_turn guards, and after the display is there: a server keeps what it started with.
+# keep_wine: starts a wineserver for the whole run, so that no program waits 2.5 seconds for a new one. Call take_turn
+# for the prefix and start_xvfb before: a server keeps the display that it started with.
 keep_wine() {
     wineserver -k >/dev/null 2>&1
     wineserver -w
     wineserver -p >/dev/null 2>&1
     wine_prefix=$WINEPREFIX
-    # The first program starts Wine's own services, which keep its output open: nobody must wait for that to end.
+    # The first program starts Wine's services. They keep the program's output open, so a pipe would never end.
     wine wineboot >/dev/null 2>&1 </dev/null
 }
 
-# take_turn NAME: waits until no other run of this checkout uses the prefix of that name.
+# take_turn NAME: waits until no other run of this checkout uses the prefix NAME.
 take_turn() {
     mkdir -p "$build"
     exec 9>"$build/$1.lock"
@@ -113,7 +113,7 @@ take_turn() {
     }
 }
 
-# build_preset PRESET [TARGET]: configures when needed and builds; quiet unless something goes wrong.
+# build_preset PRESET [TARGET]: configures the preset when needed and builds it. Prints errors only.
 build_preset() {
     local preset=$1 log=$build/$1.log
     shift
@@ -130,7 +130,7 @@ build_preset() {
     }
 }
 
-# Debian packages by name: what building and showing the program takes, and what only the tests take.
+# Debian packages: for building and showing the program, for pictures of it, and for the tests.
 run_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-liberation fonts-wine)
 picture_packages=(xvfb xdotool imagemagick)
 test_packages=("${run_packages[@]}" xvfb g++ clang clang-format-14 g++-mingw-w64-i686-posix googletest tzdata imagemagick)

@@ -11,14 +11,6 @@ using OpenGraph = testkit::OpenGraphOf<CGraphCtrl>;
 using testkit::MenuItems;
 using testkit::Text;
 
-/// The plot of a control of 300 x 200 pixels with default settings, logical units.
-constexpr int kPlotLeft = 2230, kPlotTop = 1100, kPlotRight = 5600, kPlotBottom = 3800;
-constexpr int kPlotWidth = kPlotRight - kPlotLeft, kPlotHeight = kPlotBottom - kPlotTop;
-/// Default colours of datasets 0, 1 and 2, as the recorder writes them.
-constexpr const char* kColour0 = "F000B1";
-constexpr const char* kColour1 = "7D7DA9";
-constexpr const char* kColour2 = "99CC00";
-
 /// The fonts that live with a control, as the recorder writes them: a recording does not see their end.
 inline const Strings kControlFonts = {"Arial 350", "Arial 300 @900", "Arial 450", "Arial 350"};
 

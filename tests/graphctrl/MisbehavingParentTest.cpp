@@ -1,7 +1,7 @@
 // A parent that destroys or changes the control while the control waits for it.
 
+#include "tests/support/MisbehavingParent.h"
 #include "tests/graphctrl/GraphTest.h"
-#include "tests/support/ForbiddenPages.h"
 #include "tests/support/GdiCounter.h"
 
 #include <algorithm>
@@ -9,23 +9,12 @@
 
 namespace {
 
-using PagedGraph = testkit::Paged<OpenGraph>;
-
-constexpr int kControlId = 77;
-
-/// A parent with a control, and what the parent does in the middle.
-class Scene {
+/// A control in use, and what the parent does in the middle.
+class Scene : public testkit::MisbehavingScene<OpenGraph> {
 public:
     Scene() {
         s_current = this;
         m_hook = ::SetWindowsHookEx(WH_CALLWNDPROCRET, &Scene::OnReturned, nullptr, ::GetCurrentThreadId());
-        parent.SetRecordSize(sizeof(NMGRAPHCTRL));
-        EXPECT_TRUE(parent.CreateVisible(400, 300));
-        EXPECT_TRUE(other.CreateVisible(400, 300));
-        graph = new PagedGraph;
-        EXPECT_TRUE(graph->Create("MFCGraphCtrl", "text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200),
-                                  &parent, kControlId));
-        window = graph->m_hWnd;
         for (int i = 0; i < 20; ++i) {
             graph->AddData(0, i * 5, nullptr);
             graph->AddData(1, 50, nullptr);
@@ -38,16 +27,7 @@ public:
         testkit::Pump();
         parent.Forget();
     }
-    Scene(const Scene&) = delete;
-    Scene& operator=(const Scene&) = delete;
     ~Scene() {
-        action = nullptr;
-        parent.onNoted = nullptr;
-        delete graph;
-        if (parent.m_hWnd != nullptr)
-            parent.DestroyWindow();
-        other.DestroyWindow();
-        testkit::Pump();
         ::UnhookWindowsHookEx(m_hook);
         s_current = nullptr;
     }
@@ -77,10 +57,6 @@ public:
         toldBefore = Notifications();
     }
 
-    testkit::RecordingParent parent;
-    testkit::RecordingParent other;
-    PagedGraph* graph = nullptr;
-    HWND window = nullptr;
     std::function<void(Scene&)> action;
     std::function<void(Scene&)> trigger;
     bool inDialog = false; ///< the action's turn is while the message box is open
@@ -148,26 +124,9 @@ const struct Occasion {
      [](Scene& s) { s.Send(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(s.window), -1); }},
 };
 
-const struct Misdeed {
-    const char* name;
-    bool destroys; ///< the control has no window after it
-    std::function<void(Scene&)> action;
-} kMisdeeds[] = {
-    {"destroys the control's window", true, [](Scene& s) { s.graph->DestroyWindow(); }},
-    {"deletes the control", true,
-     [](Scene& s) {
-         delete s.graph;
-         s.graph = nullptr;
-     }},
-    {"replaces the control", true,
-     [](Scene& s) {
-         delete s.graph;
-         s.graph = new PagedGraph;
-         ASSERT_TRUE(s.graph->Create("MFCGraphCtrl", "new", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200),
-                                     &s.parent, kControlId));
-         s.graph->AddData(0, 1, nullptr);
-     }},
-    {"destroys itself", true, [](Scene& s) { s.parent.DestroyWindow(); }},
+using Misdeed = testkit::Misdeed<Scene>;
+
+const std::vector<Misdeed> kMisdeeds = testkit::Misdeeds<Scene>({
     {"resets all", false,
      [](Scene& s) {
          s.graph->ResetAll();
@@ -202,9 +161,7 @@ const struct Misdeed {
          s.graph->UpdateWindow();
      }},
     {"causes the same again", false, [](Scene& s) { s.trigger(s); }},
-    {"gives the control away", false, [](Scene& s) { s.graph->SetParent(&s.other); }},
-    {"sets the control free", false, [](Scene& s) { s.graph->SetParent(nullptr); }},
-};
+});
 
 void Play(const Occasion& occasion, const Misdeed& misdeed) {
     SCOPED_TRACE(std::string(occasion.name) + ": the parent " + misdeed.name);
@@ -212,7 +169,7 @@ void Play(const Occasion& occasion, const Misdeed& misdeed) {
     if (occasion.tracking)
         scene.Send(WM_LBUTTONDOWN, MK_LBUTTON, Scene::Middle(scene.graph->m_rectIconMaximize));
     EXPECT_EQ(::GetCapture() == scene.window, occasion.tracking);
-    scene.action = misdeed.action;
+    scene.action = misdeed.act;
     scene.trigger = occasion.trigger;
     scene.parent.onNoted = [&](const testkit::RecordingParent::Entry& entry) {
         if (entry.message == WM_NOTIFY && entry.code == occasion.code)
@@ -242,7 +199,7 @@ void Play(const Occasion& occasion, const Misdeed& misdeed) {
 
 TEST(GraphMisbehavingParentTest, TheGuardSeesATouch) {
     const testkit::ForbiddenPages pages;
-    auto* const graph = new PagedGraph;
+    auto* const graph = new testkit::Paged<OpenGraph>;
     auto* const mark = &graph->m_SelectionMarkPos;
     delete graph;
     *static_cast<volatile int*>(mark) = 1;
@@ -256,7 +213,7 @@ TEST(GraphMisbehavingParentTest, NothingBreaksAndNothingIsSentAfterTheEnd) {
             before = testkit::CountObjects();
         for (const Occasion& occasion : kOccasions) {
             for (const Misdeed& misdeed : kMisdeeds) {
-                const bool warms = &misdeed == kMisdeeds || &occasion == kOccasions || occasion.code == 0;
+                const bool warms = &misdeed == &kMisdeeds[0] || &occasion == kOccasions || occasion.code == 0;
                 if (round == 0 && !warms)
                     continue;
                 const testkit::ForbiddenPages pages;

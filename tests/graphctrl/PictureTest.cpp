@@ -278,7 +278,7 @@ protected:
 } // namespace
 
 TEST_F(GraphPictureTest, EqualsThePlainPainters) {
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 250; ++round) {
         SCOPED_TRACE(round);
         ASSERT_NO_FATAL_FAILURE(ChooseAll());
         graph.m_IconMaximizePressed = Flag();

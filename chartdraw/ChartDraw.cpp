@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "chartdraw/ChartDrawDataset.h"
-#include "chartdraw/core/RoundScale.h"
 #include "gdi/Offscreen.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

@@ -6,7 +6,7 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/DibBlock.h"
 #include "chartdraw/core/DibLayout.h"
-#include "chartdraw/core/RoundScale.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

@@ -8,11 +8,11 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/DibBlock.h"
-#include "chartdraw/core/RoundScale.h"
 #include "gdi/Guards.h"
 #include "gdi/OutOfMemory.h"
 #include "gdi/PictureClipboard.h"
 #include "gdi/PictureFile.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

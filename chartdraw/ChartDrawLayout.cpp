@@ -6,8 +6,8 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartText.h"
-#include "chartdraw/core/RoundScale.h"
 #include "gdi/Guards.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "chartdraw/ChartText.h"
-#include "chartdraw/core/RoundScale.h"
 #include "gdi/Guards.h"
 #include "gdi/Offscreen.h"
 #include "plot/LinearMap.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "graphctrl/LineTarget.h"
-#include "graphctrl/core/PixelColumns.h"
-#include "graphctrl/core/PixelRows.h"
+#include "plot/PixelColumns.h"
 #include "plot/PixelRaster.h"
+#include "plot/PixelRows.h"
 #include "plot/ThinLine.h"
 
 namespace kavlix {

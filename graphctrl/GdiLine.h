@@ -8,7 +8,7 @@
 
 #include "graphctrl/LineTarget.h"
 #include "graphctrl/WideStroke.h"
-#include "graphctrl/core/PixelColumns.h"
+#include "plot/PixelColumns.h"
 
 namespace kavlix {
 

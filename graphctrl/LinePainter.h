@@ -6,7 +6,7 @@
 #include <kavlix/Dataset.h>
 
 #include "graphctrl/XPositions.h"
-#include "graphctrl/core/IndexRange.h"
+#include "plot/IndexRange.h"
 #include "plot/LinearMap.h"
 
 namespace kavlix {

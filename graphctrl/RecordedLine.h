@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "graphctrl/LineTarget.h"
-#include "graphctrl/core/PixelColumns.h"
-#include "graphctrl/core/PixelRows.h"
 #include "graphctrl/core/SampleStore.h"
+#include "plot/PixelColumns.h"
+#include "plot/PixelRows.h"
 #include "plot/Shapes.h"
 
 namespace kavlix {

@@ -8,7 +8,7 @@
 
 #include "gdi/DirectPaint.h"
 #include "graphctrl/LinePainter.h"
-#include "graphctrl/core/PixelColumns.h"
+#include "plot/PixelColumns.h"
 
 namespace kavlix {
 

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "graphctrl/core/IndexRange.h"
+#include "plot/IndexRange.h"
 #include "plot/LinearMap.h"
 
 namespace kavlix {

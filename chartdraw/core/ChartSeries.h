@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "chartdraw/core/PointBoxTree.h"
-#include "chartdraw/core/ValueBounds.h"
+#include "plot/ValueBounds.h"
 
 namespace kavlix {
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "graphctrl/core/IndexRange.h"
+#include "plot/IndexRange.h"
 
 namespace kavlix {
 

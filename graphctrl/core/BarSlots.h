@@ -1,7 +1,7 @@
 // The division of the plot's width among bars.
 #pragma once
 
-#include "graphctrl/core/IndexRange.h"
+#include "plot/IndexRange.h"
 #include "plot/Shapes.h"
 
 namespace kavlix {

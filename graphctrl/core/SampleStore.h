@@ -7,7 +7,7 @@
 #include <memory>
 #include <new>
 
-#include "graphctrl/core/Extremes.h"
+#include "plot/Extremes.h"
 
 namespace kavlix {
 

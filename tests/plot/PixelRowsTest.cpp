@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "graphctrl/core/PixelRows.h"
+#include "plot/PixelRows.h"
 
 namespace kavlix {
 namespace {

@@ -1,5 +1,5 @@
 // IndexRange against the comparison of every index.
-#include "graphctrl/core/IndexRange.h"
+#include "plot/IndexRange.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "graphctrl/core/IndexRange.h"
+#include "plot/IndexRange.h"
 #include "plot/PixelEdges.h"
 
 namespace kavlix {

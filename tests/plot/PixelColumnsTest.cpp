@@ -6,7 +6,7 @@
 #include <tuple>
 #include <vector>
 
-#include "graphctrl/core/PixelColumns.h"
+#include "plot/PixelColumns.h"
 
 namespace kavlix {
 namespace {

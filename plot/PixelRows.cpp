@@ -1,5 +1,5 @@
 // Pixel rows by one multiplication per value, two values at a time where the processor allows it.
-#include "graphctrl/core/PixelRows.h"
+#include "plot/PixelRows.h"
 
 #include <algorithm>
 #include <cmath>

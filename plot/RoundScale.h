@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "chartdraw/core/ValueBounds.h"
+#include "plot/ValueBounds.h"
 
 namespace kavlix {
 

@@ -1,5 +1,5 @@
 // The choice of round axis steps, and the texts of tick labels.
-#include "chartdraw/core/RoundScale.h"
+#include "plot/RoundScale.h"
 
 #include <algorithm>
 #include <cmath>

@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "chartdraw/core/RoundScale.h"
+#include "plot/RoundScale.h"
 
 namespace kavlix {
 namespace {

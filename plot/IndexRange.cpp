@@ -1,5 +1,5 @@
 // Index ranges of samples, found from bounds of X and from the visible positions.
-#include "graphctrl/core/IndexRange.h"
+#include "plot/IndexRange.h"
 
 #include <algorithm>
 #include <cmath>

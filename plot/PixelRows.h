@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "graphctrl/core/Extremes.h"
+#include "plot/Extremes.h"
 #include "plot/LinearMap.h"
 #include "plot/PixelEdges.h"
 

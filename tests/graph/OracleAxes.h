@@ -107,7 +107,8 @@ private:
             TickLine(places.Middle(i), !vertical);
     }
 
-    /// The longest turned text in a room of a width and a height.
+    /// The width of the longest text of a height that fits, turned, into a room `across` wide
+    /// and `down` high.
     static double Longest(const Turned& turn, double height, double across, double down) {
         const double sin = std::abs(turn.sin), cos = std::abs(turn.cos);
         const double byWidth = cos > 0 ? (across - height * sin) / cos : across >= height ? 1e9 : 0;
@@ -115,7 +116,7 @@ private:
         return std::max(0.0, std::min(byWidth, byHeight));
     }
 
-    /// Cuts the labels of the series; returns the size that holds each.
+    /// Cuts the labels of the series to `room(i)`. Returns the size that holds each of them.
     template <class Room> Size CutLabels(Room room) {
         Size largest{0, Average(f.labelFont, FW_NORMAL).height};
         labels.clear();
@@ -133,7 +134,7 @@ private:
         const bool level = turn.sin == 0;
         const double height = Average(f.labelFont, FW_NORMAL).height, distance = std::abs(places.Width());
         const double right = left + plotWidth;
-        // The side to which a text extends from its tick. An upright text needs room on the left.
+        // The side to which a text extends from its tick. Upright texts are checked for room on the left.
         const bool toTheLeft = turn.cos == 0 || turn.sin * turn.cos > 0;
         const Size size = CutLabels([&](int i) {
             const double aside = toTheLeft ? places.Middle(i) - leftEdge : f.width - places.Middle(i);

@@ -44,6 +44,7 @@ inline Whole Stride(double distance, double gap) {
                 return power * factor;
 }
 
+/// Members are named as the graph's: lengths and positions in pixels.
 class Frame : public Paper {
 public:
     using Paper::Paper;
@@ -61,7 +62,7 @@ public:
     }
 
     bool HasPlot() const { return frontRight - left >= 1 && bottom - frontTop >= 1; }
-    /// Origin and extent of the plot, and the legend's width.
+    /// xApexPoint, yApexPoint, xAxisWidth, yAxisHeight and legendWidth of the graph.
     std::vector<int> Layout() const {
         return {left + (mirrored ? plotWidth / 2 : 0), bottom - (centred ? plotHeight / 2 : 0), plotWidth,
                 plotHeight, legendWidth};
@@ -95,7 +96,7 @@ protected:
         plotWidth = width - left - 5;
     }
 
-    /// Returns the left edge of the legend.
+    /// Draws the legend and returns its left edge.
     int Legend() {
         int longest = 0;
         for (const std::string& text : f.legend)

@@ -1,4 +1,5 @@
-// The paper of the plain painter: its properties, and the records of what it draws.
+// The plain painter's paper: the facts of a graph, and the records of what is drawn. The painter is slow and
+// plain: OracleFrame.h, OracleAxes.h and OracleSeries.h each add a layer.
 #pragma once
 
 #include "tests/graph/MultiGraphTest.h"
@@ -60,7 +61,7 @@ inline int Normal(int angle) {
     return (angle % 360 + 360) % 360;
 }
 
-/// A turned text around its own upper left corner.
+/// The box of a turned text, relative to the upper left corner of the text itself.
 struct Turned {
     Turned(Size size, int angle) {
         const int turn = Normal(angle);
@@ -91,14 +92,13 @@ inline Strings VisibleLines(const std::vector<Record>& records, int width, int h
                 top = std::min(top, point.y), bottom = std::max(bottom, point.y);
             }
         }
-        // Whether a text that begins outside is drawn depends on the text's size, which the record
-        // does not tell.
+        // Texts that begin outside the picture are compared only when they are sure to show.
         const bool text = record.kind == testkit::kText,
                    turned = record.state.font.find('@') != std::string::npos;
         const int cell = text ? std::stoi(record.state.font.substr(6)) : 0;
         const int length = cell * static_cast<int>(record.text.size()) / 2,
                   beyond = text && turned ? length : 0;
-        // GDI records no empty box, and a box of one pixel is filled, which is another kind of record.
+        // An empty box leaves no record, and a box of one pixel is filled, which is another kind of record.
         const bool dot = record.kind == testkit::kOther ||
                          (record.kind == testkit::kRectangle && (right - left) * (bottom - top) <= 1);
         if (!dot && !(text && record.text.empty()) && left <= width + beyond && right >= -length &&
@@ -108,7 +108,7 @@ inline Strings VisibleLines(const std::vector<Record>& records, int width, int h
     return lines;
 }
 
-/// Draws into a list of records. Places are rounded last.
+/// Draws into a list of records. Places are rounded when they are recorded.
 class Paper {
 public:
     explicit Paper(const GraphFacts& facts) : f(facts) { dc.CreateCompatibleDC(nullptr); }

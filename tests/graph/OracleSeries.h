@@ -9,15 +9,17 @@ class Series : public Axes {
 public:
     using Axes::Axes;
 
-    /// False when the series of this type are not painted here.
+    /// False for a type whose series are not painted here. A code that is no type has no series.
     bool DrawShapes() {
-        static const std::map<int, void (Series::*)()> kSeriess = {
+        static const std::map<int, void (Series::*)()> kPainters = {
             {0, &Series::Bars},  {1, &Series::Lines},    {3, &Series::Points}, {4, &Series::Boxes},
             {20, &Series::Bars}, {21, &Series::XYLines}, {30, &Series::Bars},  {320, &Series::Bars}};
-        const auto painter = kSeriess.find(f.type);
-        if (painter != kSeriess.end())
+        const auto painter = kPainters.find(f.type);
+        if (painter != kPainters.end())
             (this->*painter->second)();
-        return painter != kSeriess.end() || !Is({2, 31, 32});
+        const bool isType =
+            std::find(std::begin(kAllTypes), std::end(kAllTypes), f.type) != std::end(kAllTypes);
+        return painter != kPainters.end() || !isType;
     }
 
 private:
@@ -70,7 +72,7 @@ private:
         return parts;
     }
 
-    /// Whether `next` hides `part` of the same stack: both lie in one row of pixels.
+    /// Whether `next` hides `part` of the same stack, because both lie in one row of pixels.
     bool Hides(const Part& next, const Part& part) const {
         const auto row = [&](double value) { return Rounded({values.At(values.Inside(value)), 0}).x; };
         return values.Inside(next.foot) != values.Inside(next.tip) && row(next.tip) == row(next.foot) &&
@@ -100,7 +102,7 @@ private:
         double foot = values.At(part.foot), tip = values.At(part.tip);
         const double shift = tip > foot ? 1 : 0, from = std::min(part.from, part.to),
                      to = std::max(part.from, part.to);
-        foot += shift, tip += shift; // the tip's pixel belongs to the bar
+        foot += shift, tip += shift; // the pixel of the tip belongs to the bar
         if (std::abs(tip - foot) < 0.5)
             foot = tip + (tip > foot ? -1 : 1);
         const bool outlined = to - from >= 4;
@@ -140,7 +142,8 @@ private:
         for (std::size_t i = 1; i < points.size(); ++i) {
             const Place a = points[i - 1], b = points[i];
             const double from = vertical ? a.y : a.x, to = vertical ? b.y : b.x;
-            // Where the stroke enters and leaves the axis; a level one does neither.
+            // The fractions of the stroke at which it enters and leaves the axis. A stroke across the axis is
+            // inside or not.
             double enter = from == to && (from < low || from > high) ? 2 : 0, leave = 1;
             if (from != to) {
                 enter = std::max(0.0, ((to > from ? low : high) - from) / (to - from));

@@ -1,4 +1,4 @@
-// Random graphs against the plain painter.
+// Random graphs, compared with the plain painter of OracleSeries.h.
 #include "tests/graph/OracleSeries.h"
 
 #include <algorithm>

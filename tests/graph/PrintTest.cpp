@@ -22,6 +22,7 @@ TEST_F(GraphPrintTest, TheSamePictureInTwipsForEveryType) {
     for (const int type : kAllTypes) {
         Make(type).SetGraphTitle("Title");
         graph->SetXAxisLabel("across");
+        graph->SetYAxisLabel("beside");
         graph->SetLegend(0, "row");
         Fill({{40, 30, 20}, {20, 60, 80}});
         graph->SetMargins(-700, -15000, 1440, 1440 + 7500, -720);
@@ -56,6 +57,17 @@ TEST_F(GraphPrintTest, TheSamePictureInTwipsForEveryType) {
                 << type << " " << i;
         }
         EXPECT_EQ(paper.Texts().front(), "Title");
+        // A turned text is recorded with y growing downwards.
+        const auto caption = [](const testkit::MetafileRecorder& recorder) {
+            for (const auto& record : recorder.Records())
+                if (record.text == "beside")
+                    return record.points.front();
+            return POINT{0, 0};
+        };
+        if (type != 2 && type != 32) {
+            EXPECT_NEAR(caption(paper).x, 1440 + 15 * caption(*screen).x, 40) << type;
+            EXPECT_NEAR(caption(paper).y, 720 + 15 * caption(*screen).y, 60) << type;
+        }
     }
 }
 

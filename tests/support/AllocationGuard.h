@@ -1,34 +1,47 @@
+// Memory of the code under test: failing allocations, leaks, and writes behind a block.
 #pragma once
 
-#include <cstddef>
+#include "tests/support/ImportHook.h"
+
+#include <list>
 
 namespace testkit {
 
-/// The test program replaces `operator new`. While a guard lives, every block asked for by code that is
-/// linked into the program itself gets guard bytes behind it, which are checked when the block is given back
-/// and when the guard ends. Code inside a DLL has an `operator new` of its own and is not reached: link its
-/// objects statically, or use FailingAllocations.
+/// Watches the allocations of the test program, the C++ run-time library and the DLLs under test. The guard
+/// replaces the C run time's allocation functions in their import tables. When an allocation fails, `new`
+/// calls the new-handler, which throws CMemoryException*, as in any host.
 ///
-/// One guard at a time, on one thread.
+/// Every block gets guard bytes behind it, which are checked when the block is freed.
+///
+/// Only one guard may exist at a time. Blocks of other threads than the guard's are not watched. MemoryRule.h
+/// tries whole operations at every allocation.
 class AllocationGuard {
 public:
-    AllocationGuard();
+    /// With `failsInTest` false, `new` in the test program itself never fails. Texts of its long std::strings
+    /// can fail all the same, because the C++ run-time library allocates them.
+    explicit AllocationGuard(bool failsInTest = true);
     AllocationGuard(const AllocationGuard&) = delete;
     AllocationGuard& operator=(const AllocationGuard&) = delete;
     ~AllocationGuard();
 
-    /// Lets the n-th allocation from now on (1 = the next) fail, once: the new-handler throws, as in any
-    /// host, CMemoryException*. 0 calls it off.
-    void FailAt(int n);
-    /// Whether the allocation that FailAt() named was reached.
-    bool Failed() const;
+    /// Whether the C++ run-time library's allocations are watched.
+    bool Installed() const { return m_installed; }
+    /// Lets the `n`-th allocation from now on fail (1: the next one), alone or, `forGood`, with all that
+    /// follow. With 0 no allocation fails.
+    void FailAt(int n, bool forGood = false);
+    /// Allocations that have failed since the last call of FailAt.
+    int Failed() const;
 
-    /// Allocations since the guard began.
-    int Count() const;
-    /// Blocks made since the guard began that are still alive.
+    /// Blocks allocated since the guard began, minus blocks freed since then.
     int Live() const;
-    /// Blocks found with overwritten guard bytes so far, the living ones looked at now.
+    /// Blocks whose guard bytes were overwritten, existing ones and freed ones.
     int Damaged() const;
+
+private:
+    void Hook(const std::string& module, bool fails);
+
+    std::list<ImportHook> m_hooks;
+    bool m_installed = false;
 };
 
 } // namespace testkit

@@ -1,3 +1,4 @@
+// Pixels of memory pictures: reading, counting and comparing them.
 #include "tests/support/DibSurface.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Pictures in memory whose pixels tests read and compare.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +8,7 @@
 
 namespace testkit {
 
-/// A picture in memory: a 32-bit bitmap, selected into a memory DC, whose pixels can be read at once.
+/// A picture in memory: a 32-bit DIB section that is selected into a memory DC.
 class DibSurface {
 public:
     /// `width` and `height` in pixels, at least 1 each. Every pixel starts as `fill`.
@@ -23,7 +24,7 @@ public:
 
     /// The colour of a pixel; CLR_INVALID outside the picture.
     COLORREF At(int x, int y) const;
-    /// Whether size and all pixels are alike.
+    /// Whether both pictures have the same size and the same pixels.
     bool IsSameAs(const DibSurface& other) const;
     /// How many pixels of `area` (device units, right and bottom not included) have exactly this colour.
     int Count(COLORREF colour, const RECT& area) const;
@@ -49,14 +50,14 @@ private:
     DWORD* m_bits = nullptr;
 };
 
-/// Compares two pictures inside `area`. Empty when every pixel is alike; otherwise a sentence with the count
-/// of differing pixels, the rectangle they lie in and the first of them.
+/// Compares two pictures inside `area`. Empty when all pixels are equal; otherwise a sentence with the number
+/// of different pixels, their bounding box and the first of them.
 std::string Difference(const DibSurface& a, const DibSurface& b, const RECT& area);
 std::string Difference(const DibSurface& a, const DibSurface& b);
 
-/// How many pixels inside `area` show a colour that the other picture shows nowhere within `distance` pixels
-/// of that place, counted both ways: 0 for pictures that differ only in how positions between two pixels were
-/// rounded.
+/// The number of pixels inside `area` whose colour the other picture does not show within `distance` pixels
+/// of the same place, counted in both directions. 0 for pictures that differ only in the rounding of
+/// positions.
 int Displaced(const DibSurface& a, const DibSurface& b, const RECT& area, int distance);
 
 } // namespace testkit

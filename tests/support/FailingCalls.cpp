@@ -1,4 +1,4 @@
-// Makes imported calls of the modules under test fail.
+// Writes a small machine-code function for each import, which either fails or calls the original.
 #include "tests/support/FailingCalls.h"
 
 #include <algorithm>
@@ -11,17 +11,17 @@ namespace {
 constexpr std::size_t kCodeBytes = 1 << 18;
 
 const char* const kLeftAlone[] = {
-    // They give back.
+    // Functions that release something.
     "CloseClipboard", "CloseEnhMetaFile", "CloseMetaFile", "DeleteDC", "DeleteEnhMetaFile", "DeleteMetaFile",
     "DeleteObject", "DestroyMenu", "DestroyWindow", "EndPaint", "GdipDisposeImage", "GdipFree",
     "GdiplusShutdown", "ReleaseCapture", "ReleaseDC", "UnhookWindowsHookEx",
-    // They carry messages, of the test too.
+    // Functions that deliver messages, those of the test included.
     "CallNextHookEx", "CallWindowProcA", "DefWindowProcA", "DispatchMessageA", "GetMessageA", "PeekMessageA",
     "PostMessageA", "SendMessageA", "UpdateWindow",
-    // Its answer is a pointer, not a status.
+    // Returns a pointer, not a status.
     "GdipAlloc"};
 
-// What the code below reads and writes.
+// Variables that the generated code reads and writes.
 int callsLeft = 0;
 int callsFailed = 0;
 int lastFailed = 0;
@@ -75,7 +75,8 @@ void FailingCalls::Replace(const char* module, const char* library, int failure)
         m_hooks.emplace_back(module, name, code);
         m_functions.push_back(std::make_unique<Function>());
         m_functions.back()->name = std::string(module) + " " + name;
-        // Arguments lie in other registers and on the stack, untouched.
+        // The generated code changes only r11 and eax, so the arguments reach the original function
+        // unchanged.
         Writer writer(code);
         writer.R11(&callsLeft).Bytes({0x41, 0xFF, 0x0B});                        // dec dword [r11]
         writer.Bytes({0x74, 29});                                                // jz fail

@@ -1,4 +1,4 @@
-// Calls into the system's libraries that fail inside the DLLs under test.
+// Lets calls into the system's libraries fail inside the DLLs under test.
 #pragma once
 
 #include "tests/support/ImportHook.h"
@@ -10,10 +10,10 @@
 
 namespace testkit {
 
-/// While it lives, every function that Kavlix.dll and KavlixMfc.dll import from GDI32, USER32, GDI+ and OLE32
-/// can be made to fail without having done anything: it answers 0, one of GDI+ and OLE32 an error. Left alone
-/// are those that give something back (DeleteObject, EndPaint ...), whose failure is a leak by itself, and
-/// those that carry messages. 64-bit programs only; one at a time.
+/// While this object exists, each function that Kavlix.dll and KavlixMfc.dll import from GDI32, USER32, GDI+
+/// and OLE32 can fail without doing anything. It then returns 0; functions of GDI+ and OLE32 return an error
+/// code. Functions that release something (DeleteObject, EndPaint ...) never fail, because their failure is a
+/// leak in itself; nor do functions that deliver messages. Only for 64-bit programs; one object at a time.
 class FailingCalls {
 public:
     FailingCalls();
@@ -21,14 +21,14 @@ public:
     FailingCalls& operator=(const FailingCalls&) = delete;
     ~FailingCalls();
 
-    /// Lets the `n`-th call from now on fail, once; 0 calls it off.
+    /// Lets the `n`-th call from now on fail, once. With 0 no call fails.
     void FailAt(int n);
-    /// Lets every call of function `index` fail; -1 calls it off.
+    /// Lets every call of function `index` fail. With -1 no function fails always.
     void FailAlways(int index);
-    /// "KavlixMfc.dll BeginPaint"
+    /// Module and name of a function, such as "KavlixMfc.dll BeginPaint".
     const std::string& Name(int index) const { return m_functions[static_cast<std::size_t>(index)]->name; }
 
-    /// Calls that have failed so far, and the function of the last one.
+    /// The number of calls that have failed, and the function of the last one.
     int Failed() const;
     int LastFailed() const;
 
@@ -43,7 +43,7 @@ private:
     std::vector<std::unique_ptr<Function>> m_functions;
     unsigned char* m_code;
     unsigned char* m_codeEnd;
-    std::list<ImportHook> m_hooks; // taken back before the code goes
+    std::list<ImportHook> m_hooks; // removed before the generated code is freed
 };
 
 } // namespace testkit

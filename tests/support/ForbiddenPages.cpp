@@ -1,3 +1,4 @@
+// The exception handler that counts accesses.
 #include "tests/support/ForbiddenPages.h"
 
 namespace testkit {

@@ -1,3 +1,4 @@
+// Detects accesses to objects after their deletion.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +8,7 @@
 
 namespace testkit {
 
-/// Memory that nobody may touch any more; who does is let through and counted.
+/// Memory pages without access rights. The first access to a block is counted, and then allowed to continue.
 class ForbiddenPages {
 public:
     ForbiddenPages() {
@@ -22,12 +23,13 @@ public:
             ::VirtualFree(block.begin, 0, MEM_RELEASE);
         s_blocks.clear();
     }
+    /// The number of blocks that were accessed.
     static int Touched() { return s_touched; }
 
     static void* Take(std::size_t size) {
         return ::VirtualAlloc(nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     }
-    /// Until the object ends, the pages are not given to anybody else.
+    /// Forbids access to `memory`. The pages are freed only with this object, so they are not reused before.
     static void Forbid(void* memory, std::size_t size) {
         DWORD former = 0;
         ::VirtualProtect(memory, size, PAGE_NOACCESS, &former);
@@ -46,7 +48,7 @@ private:
     void* m_handler;
 };
 
-/// A `Base` whose memory is forbidden once it is deleted.
+/// A `Base` whose memory must not be accessed after its deletion.
 template <class Base> class Paged : public Base {
 public:
     static void* operator new(std::size_t size) { return ForbiddenPages::Take(size); }

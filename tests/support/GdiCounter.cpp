@@ -1,3 +1,4 @@
+// Reads the process's table of GDI objects, and enumerates its windows and menus.
 #include "tests/support/GdiCounter.h"
 
 #include <windows.h>
@@ -10,18 +11,18 @@
 namespace testkit {
 namespace {
 
-/// One entry of the table by which the system finds the GDI objects of a process.
+/// One entry of the table in which the system keeps the GDI objects of a process.
 struct GdiEntry {
     std::uint64_t object;
     std::uint32_t owner;
-    std::uint16_t upper; ///< upper half of the handle; its low seven bits name the kind
+    std::uint16_t upper; ///< upper half of the handle; the low seven bits are the kind
     std::uint8_t type;   ///< 0 when the entry is free
     std::uint8_t flags;
     std::uint64_t user;
 };
 static_assert(sizeof(GdiEntry) == 24, "the table's entries are 24 bytes");
 
-/// What the low bits of a handle's upper half say; the last row stands for all other kinds.
+/// The kinds of GDI objects by the low bits of `upper`. The last row stands for all other kinds.
 constexpr struct {
     unsigned code;
     int ObjectCounts::*count;
@@ -92,7 +93,7 @@ void CountUser(ObjectCounts& counts) {
     HWND silent = nullptr;
     while ((silent = FindWindowEx(HWND_MESSAGE, silent, nullptr, nullptr)) != nullptr)
         CountTopLevel(silent, reinterpret_cast<LPARAM>(&counts.windows));
-    // Menus cannot be enumerated, but their handles lie in a range small enough to ask for each.
+    // Menus cannot be enumerated. Their handles lie in a small range, so each possible handle is tried.
     for (UINT_PTR value = 2; value <= kLastUserHandle; value += 2)
         counts.menus += IsMenu(reinterpret_cast<HMENU>(value)) != FALSE;
 }

@@ -1,3 +1,4 @@
+// Counts the system objects of this process, to find leaks.
 #pragma once
 
 #include <iosfwd>
@@ -5,8 +6,8 @@
 
 namespace testkit {
 
-/// How many system objects this process holds at a moment. Two values are compared to show that an
-/// operation leaks nothing; GetGuiResources cannot be used for that, as it answers 0 under Wine.
+/// The numbers of system objects that this process holds. A test compares the counts before and after an
+/// operation. GetGuiResources cannot serve for that: it returns 0 under Wine.
 struct ObjectCounts {
     int pens = 0;
     int brushes = 0;
@@ -23,15 +24,15 @@ struct ObjectCounts {
     bool operator==(const ObjectCounts& other) const;
 };
 
-/// Writes the counts by kind, so that a failed comparison names what leaked.
+/// Writes the counts by kind, so that the message of a failed comparison names the leaked kind.
 std::ostream& operator<<(std::ostream& out, const ObjectCounts& counts);
 
-/// Counts what is alive now. The system makes some objects with the first DC and the first window of a
-/// process: let those come into being before the first count.
+/// Counts the existing objects. The system makes some objects with the first DC and the first window of a
+/// process, so a test makes both before its first count.
 ObjectCounts CountObjects();
 
-/// Whether the process's GDI table can be read on this system (64-bit only). Where it cannot, the GDI counts
-/// are all 0 and a test of them must skip itself.
+/// Whether the GDI table of the process can be read (64-bit only). Otherwise all GDI counts are 0, and tests
+/// of them skip themselves.
 bool CanCountGdiObjects();
 
 } // namespace testkit

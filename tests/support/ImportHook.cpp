@@ -1,3 +1,4 @@
+// Walks the import and export tables of loaded modules.
 #include "tests/support/ImportHook.h"
 
 namespace testkit {

@@ -1,3 +1,4 @@
+// Replaces imported functions of a loaded module.
 #pragma once
 
 #include <windows.h>
@@ -7,19 +8,19 @@
 
 namespace testkit {
 
-/// Replaces a function that one loaded module imports, for that module only, until the hook ends. So a system
-/// call inside a DLL under test can be made to fail, or be counted, without any change to the DLL.
+/// Replaces a function that one loaded module imports, for that module only, while the hook exists. So a test
+/// can count the system calls of a DLL or let them fail, without any change to the DLL.
 class ImportHook {
 public:
-    /// `module` is the importing DLL ("Kavlix.dll"), `function` the imported name ("CreateCompatibleBitmap"),
-    /// from whichever library it comes. Installed() tells whether such an import was found.
+    /// `module` is the importing DLL ("Kavlix.dll"), `function` the imported name ("CreateCompatibleBitmap");
+    /// the library that exports it does not matter. Installed tells whether the import was found.
     ImportHook(const std::string& module, const std::string& function, void* replacement);
     ImportHook(const ImportHook&) = delete;
     ImportHook& operator=(const ImportHook&) = delete;
     ~ImportHook();
 
     bool Installed() const { return !m_slots.empty(); }
-    /// The function that stood there before; nullptr when not installed.
+    /// The original function; null when not installed.
     void* Original() const { return m_original; }
 
 private:

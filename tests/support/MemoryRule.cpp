@@ -1,7 +1,7 @@
-// Runs a table of operations under failing allocations and checks each outcome.
+// Runs the operations of a table with failing allocations, and checks each outcome.
 #include "tests/support/MemoryRule.h"
 
-#include "tests/support/FailingAllocations.h"
+#include "tests/support/AllocationGuard.h"
 #include "tests/support/GdiCounter.h"
 #include "tests/support/RecordingParent.h"
 
@@ -27,45 +27,45 @@ struct Outcome {
     bool refused = false;
 };
 
-/// `after` below 0: with all the memory there is.
-Outcome Run(MemoryTrial& trial, FailingAllocations& memory, int after, bool forGood) {
+/// Runs the operation with allocation `failAt` failing; with 0 none fails.
+Outcome Run(MemoryTrial& trial, AllocationGuard& memory, int failAt, bool forGood) {
     Outcome outcome;
-    const int refused = memory.Refused();
+    const auto note = [&] {
+        outcome.refused = memory.Failed() > 0;
+        memory.FailAt(0);
+    };
     boxes = 0;
     try {
-        memory.FailAfter(after, forGood);
+        memory.FailAt(failAt, forGood);
         outcome.result = trial.Run();
-        memory.FailAfter(-1);
-    } catch (CMemoryException* exception) {
-        memory.FailAfter(-1);
-        exception->Delete();
-        outcome.threw = true;
-    } catch (CResourceException* exception) {
-        memory.FailAfter(-1);
+        note();
+    } catch (CException* exception) {
+        note();
+        EXPECT_TRUE(exception->IsKindOf(RUNTIME_CLASS(CMemoryException)) ||
+                    exception->IsKindOf(RUNTIME_CLASS(CResourceException)));
         exception->Delete();
         outcome.threw = true;
     } catch (...) {
-        memory.FailAfter(-1);
-        ADD_FAILURE() << "hosts catch the class library's exceptions alone";
+        note();
+        ADD_FAILURE() << "hosts catch only exceptions of the class library";
         outcome.threw = true;
     }
-    outcome.refused = memory.Refused() != refused;
     return outcome;
 }
 
-/// Leaves nothing in the queue and no temporary object.
+/// Handles all messages and deletes the class library's temporary objects.
 void Rest() {
     Pump();
     AfxGetThread()->OnIdle(0);
     AfxGetThread()->OnIdle(1);
 }
 
-/// Of the running test so far.
+/// The failures of the running test.
 int Failures() {
     return testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
 }
 
-void Check(MemoryTrial& trial, FailingAllocations& memory, const Outcome& outcome, OnFailure onFailure,
+void Check(MemoryTrial& trial, AllocationGuard& memory, const Outcome& outcome, OnFailure onFailure,
            const std::string& before, const std::string& done) {
     const bool failed = outcome.threw || !outcome.result;
     EXPECT_FALSE(failed && onFailure == OnFailure::Never)
@@ -80,7 +80,7 @@ void Check(MemoryTrial& trial, FailingAllocations& memory, const Outcome& outcom
     }
     if (!failed || onFailure == OnFailure::Message)
         return;
-    EXPECT_TRUE(Run(trial, memory, -1, false).result) << "memory is back";
+    EXPECT_TRUE(Run(trial, memory, 0, false).result) << "memory is back";
     EXPECT_EQ(trial.State(), done) << "memory is back";
 }
 
@@ -90,27 +90,27 @@ int TryEveryAllocation(const char* name, OnFailure onFailure, bool keepsPart,
                        const std::function<std::unique_ptr<MemoryTrial>()>& make) {
     SCOPED_TRACE(name);
     const int failuresBefore = Failures();
-    FailingAllocations memory;
+    AllocationGuard memory(false);
     const ImportHook box("KavlixMfc.dll", "MessageBoxA", reinterpret_cast<void*>(&CountedBox));
     EXPECT_TRUE(memory.Installed() && box.Installed());
     std::string before, done;
-    for (int warm = 0; warm < 2; ++warm) { // the first makes what the platform keeps for itself
+    for (int warm = 0; warm < 2; ++warm) { // the first run makes objects that the system keeps
         const auto trial = make();
         before = trial->State();
-        EXPECT_TRUE(Run(*trial, memory, -1, false).result) << "with memory";
+        EXPECT_TRUE(Run(*trial, memory, 0, false).result) << "with memory";
         done = trial->State();
     }
     Rest();
     const ObjectCounts objects = CountObjects();
     int failures = 0;
     for (const bool forGood : {false, true}) {
-        for (int after = 0;; ++after) {
-            SCOPED_TRACE((forGood ? "from allocation " : "at allocation ") + std::to_string(after + 1));
+        for (int failAt = 1;; ++failAt) {
+            SCOPED_TRACE((forGood ? "from allocation " : "at allocation ") + std::to_string(failAt));
             const int live = memory.Live();
             bool refused = false;
             {
                 const auto trial = make();
-                const Outcome outcome = Run(*trial, memory, after, forGood);
+                const Outcome outcome = Run(*trial, memory, failAt, forGood);
                 refused = outcome.refused;
                 failures += refused;
                 if (keepsPart)
@@ -119,12 +119,12 @@ int TryEveryAllocation(const char* name, OnFailure onFailure, bool keepsPart,
                     Check(*trial, memory, outcome, onFailure, before, done);
             }
             Rest();
-            if (Failures() != failuresBefore) // whose record takes memory too
+            if (Failures() != failuresBefore) // the failure messages are allocated memory
                 return failures;
             EXPECT_EQ(memory.Live(), live) << "blocks leaked";
             if (!refused)
                 break;
-            if (after == kMostAllocations) {
+            if (failAt == kMostAllocations) {
                 ADD_FAILURE() << "without end";
                 return failures;
             }

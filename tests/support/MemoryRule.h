@@ -1,8 +1,16 @@
-// What every public operation keeps when memory runs out, tried at each of its allocations: it happens whole
-// or not at all, tells its caller as documented, leaks nothing, and succeeds when memory is back.
+// The rule for operations that run out of memory, checked at each of their allocations.
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <string>
+
+// A public operation that runs out of memory changes nothing, reports the failure as documented, leaks
+// nothing, and succeeds when memory is available again.
 //
-// How to use it: a struct makes the object under test, fed, in its constructor and tells in State() all that
-// a host can read of it. Then a row an operation:
+// How to use it: a struct makes the object under test in its constructor and adds data. Its State() returns
+// all that a host can read of the object as text. The table has a row for each operation:
 //
 //     struct FedGraph {
 //         FedGraph() { graph.AddData(0, 1, nullptr); }
@@ -15,36 +23,30 @@
 //         {"ResetData", OnFailure::Never, [](FedGraph& s) { return s.graph.ResetData(0), true; }},
 //     });
 //
-// An operation returns its documented result, true when it has none. Texts up to 15 characters need no
-// memory: take longer ones. What the operation calls in the test (a parent's handler, say) must not make any.
-// A visible top-level window costs 25 ms: let the controls share one that stays.
-#pragma once
-
-#include <functional>
-#include <initializer_list>
-#include <memory>
-#include <string>
-
+// The function of a row returns the operation's documented result, or true when there is none. It must not
+// allocate memory of its own, nor may handlers of the test that the operation calls. Use texts of more than
+// 15 characters: shorter ones need no memory. A visible top-level window takes 25 ms, so the controls of a
+// table share one.
 namespace testkit {
 
-/// What a failed operation tells its caller. In every case but the first the state is as before.
+/// How an operation reports a failed allocation. Except for Never, the state is unchanged afterwards.
 enum class OnFailure {
-    Never,   ///< it does not fail: removals, and what repaints at the most
+    Never,   ///< it does not fail: removals, and operations that only repaint
     Reports, ///< a message box and the result false
-    False,   ///< the result false alone
-    Throws,  ///< CMemoryException*, from operations that have no result
-    Message, ///< a window message: nothing leaves, the class library may show a message box
+    False,   ///< the result false without a message box
+    Throws,  ///< CMemoryException*, for operations without a result
+    Message, ///< a window message: no exception; the class library may show a message box
 };
 
 template <class Subject> struct MemoryOperation {
     const char* name;
     OnFailure onFailure;
     std::function<bool(Subject&)> run;
-    /// What was stored before the failure stays: only that nothing else leaves, leaks or breaks is looked at.
+    /// The operation may keep what it stored before the failure. Only exceptions and leaks are checked then.
     bool keepsPart = false;
 };
 
-/// An operation on an object of its own.
+/// One operation and the object that it works on.
 class MemoryTrial {
 public:
     virtual ~MemoryTrial() = default;
@@ -52,12 +54,12 @@ public:
     virtual std::string State() = 0;
 };
 
-/// Runs the operation with its first, second, third ... allocation failing, once and from then on, until it
-/// passes without. Returns the number of failures.
+/// Runs the operation again and again: with its first allocation failing, with its second one, and so on,
+/// until no allocation fails. Does the same with all later allocations failing too. The number of failures.
 int TryEveryAllocation(const char* name, OnFailure onFailure, bool keepsPart,
                        const std::function<std::unique_ptr<MemoryTrial>()>& make);
 
-/// The same for all `operations`, each on a new `Subject`.
+/// The same for all `operations`, each time on a new `Subject`.
 template <class Subject> int ExpectMemoryRule(std::initializer_list<MemoryOperation<Subject>> operations) {
     struct Trial : MemoryTrial {
         explicit Trial(const MemoryOperation<Subject>& operation) : operation(operation) {}

@@ -1,3 +1,4 @@
+// The hook that finds message boxes, reads their texts and ends them.
 #include "tests/support/MessageBoxWatcher.h"
 
 #include <algorithm>
@@ -77,7 +78,7 @@ void MessageBoxWatcher::Answer(HWND dialog) {
     }
     std::sort(box.buttons.begin(), box.buttons.end());
     m_boxes.push_back(box);
-    // Ended here, the box never comes to the screen.
+    // The dialog is ended while it is initialized, so it never appears on the screen.
     EndDialog(dialog, m_answer);
 }
 

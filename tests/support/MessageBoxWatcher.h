@@ -1,3 +1,4 @@
+// Answers the message boxes of the code under test.
 #pragma once
 
 #include <windows.h>
@@ -7,9 +8,9 @@
 
 namespace testkit {
 
-/// Answers the message boxes that the code under test shows on this thread, and notes what they said. Without
-/// one, a message box would wait for a person. One watcher at a time; it works from construction to
-/// destruction, and takes every dialog that opens meanwhile for a message box.
+/// Answers the message boxes that the code under test shows on this thread, and records their contents.
+/// Without a watcher, a message box waits for a user. Only one watcher may exist at a time. The watcher
+/// treats every dialog that opens as a message box.
 class MessageBoxWatcher {
 public:
     struct Box {
@@ -20,14 +21,14 @@ public:
         UINT icon = 0;            ///< MB_ICONHAND, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONASTERISK or 0
     };
 
-    /// Every box is answered as if the button `answer` (IDOK, IDYES, IDNO ...) were pressed.
+    /// `answer` is the button (IDOK, IDYES, IDNO ...) that all boxes are answered with.
     explicit MessageBoxWatcher(int answer = IDOK);
     MessageBoxWatcher(const MessageBoxWatcher&) = delete;
     MessageBoxWatcher& operator=(const MessageBoxWatcher&) = delete;
     ~MessageBoxWatcher();
 
     void SetAnswer(int answer) { m_answer = answer; }
-    /// The boxes seen so far, oldest first.
+    /// The boxes in the order of their appearance.
     const std::vector<Box>& Boxes() const { return m_boxes; }
 
 private:

@@ -1,5 +1,4 @@
-// How one record reads.
-
+// The text form of one metafile record.
 #include "tests/support/MetafileRecorder.h"
 
 #include <cstdio>

@@ -1,16 +1,17 @@
+// Reads the records of a metafile, and keeps track of the DC's state and of the objects in use.
 #include "tests/support/MetafileRecorder.h"
 
 #include <algorithm>
 #include <functional>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace testkit {
 namespace {
 
 constexpr DWORD kStockObject = 0x80000000;
-constexpr DWORD kSmallTextOut = 108;
-/// State that no test looks at.
+/// Records of state that no test reads.
 constexpr DWORD kUnread[] = {EMR_SETBKCOLOR,        EMR_SETROP2,        EMR_SETPOLYFILLMODE,
                              EMR_SETSTRETCHBLTMODE, EMR_SETWINDOWORGEX, EMR_SETVIEWPORTORGEX,
                              EMR_SETBRUSHORGEX,     EMR_SETMITERLIMIT,  EMR_SETLAYOUT};
@@ -58,12 +59,16 @@ std::string Narrow(const WCHAR* text, UINT length) {
     return narrow;
 }
 
+POINT ToPoint(const POINTL& point) {
+    return {point.x, point.y};
+}
+
 RECT ToRect(const RECTL& box) {
     return {box.left, box.top, box.right, box.bottom};
 }
 
-/// Boxes are recorded without their right and bottom edge, as the code under test's DC is in the compatible
-/// graphics mode.
+/// The code under test draws in the compatible graphics mode, so GDI records boxes without their right and
+/// bottom edges.
 RECT FullBox(const RECTL& box) {
     return {box.left, box.top, box.right + 1, box.bottom + 1};
 }
@@ -72,7 +77,7 @@ RECT RegionBounds(const BYTE* data) {
     return reinterpret_cast<const RGNDATA*>(data)->rdh.rcBound;
 }
 
-/// `first` is a pointer, as the record's array is declared with one element and holds more.
+/// `first` points to the first element of an array that is declared with one element and holds more.
 template <class Point> std::vector<POINT> PointsOf(const Point* first, DWORD count) {
     std::vector<POINT> points;
     for (const Point* point = first; point != first + count; ++point)
@@ -162,11 +167,56 @@ int CALLBACK MetafileRecorder::Enumerate(HDC, HANDLETABLE*, const ENHMETARECORD*
 void MetafileRecorder::Read(const Header& record) {
     if (record.iType == EMR_HEADER || record.iType == EMR_EOF || record.iType == EMR_GDICOMMENT)
         return;
-    if (ReadObject(record))
+    const DWORD lastMade = std::exchange(m_lastMade, 0);
+    switch (record.iType) {
+    case EMR_CREATEPEN: {
+        const LOGPEN& pen = As<EMRCREATEPEN>(record).lopn;
+        return Make(record, 'p', PenText(pen.lopnStyle, pen.lopnWidth.x, pen.lopnColor));
+    }
+    case EMR_EXTCREATEPEN: {
+        const auto& pen = As<EMREXTCREATEPEN>(record).elp;
+        return Make(record, 'p', PenText(pen.elpPenStyle, static_cast<int>(pen.elpWidth), pen.elpColor));
+    }
+    case EMR_CREATEBRUSHINDIRECT: {
+        const auto& brush = As<EMRCREATEBRUSHINDIRECT>(record).lb;
+        return Make(record, 'b', BrushText(brush.lbStyle, brush.lbColor));
+    }
+    case EMR_EXTCREATEFONTINDIRECTW:
+        return Make(record, 'f', FontText(As<EMREXTCREATEFONTINDIRECTW>(record).elfw.elfLogFont));
+    case EMR_SELECTOBJECT:
+        return Select(As<EMRSELECTOBJECT>(record).ihObject);
+    case EMR_DELETEOBJECT:
+        return Delete(As<EMRDELETEOBJECT>(record).ihObject);
+    case EMR_SETTEXTCOLOR:
+        m_state.textColor = As<EMRSETTEXTCOLOR>(record).crColor;
         return;
-    if (!ReadState(record) && !ReadShape(record))
-        Add(kOther).text = std::to_string(record.iType);
-    m_lastMade = 0;
+    case EMR_SETTEXTALIGN:
+        m_state.textAlign = As<EMRSETTEXTALIGN>(record).iMode;
+        return;
+    case EMR_SETBKMODE:
+        m_state.bkMode = static_cast<int>(As<EMRSETBKMODE>(record).iMode);
+        return;
+    case EMR_SETMAPMODE:
+        m_state.mapMode = static_cast<int>(As<EMRSETMAPMODE>(record).iMode);
+        return;
+    case EMR_SETWINDOWEXTEX:
+        m_state.windowExt = As<EMRSETWINDOWEXTEX>(record).szlExtent;
+        return;
+    case EMR_SETVIEWPORTEXTEX:
+        m_state.viewportExt = As<EMRSETVIEWPORTEXTEX>(record).szlExtent;
+        return;
+    case EMR_SAVEDC:
+        return m_saved.push_back(m_state);
+    case EMR_RESTOREDC:
+        return Restore(As<EMRRESTOREDC>(record).iRelative);
+    case EMR_EXTSELECTCLIPRGN:
+    case EMR_INTERSECTCLIPRECT:
+    case EMR_EXCLUDECLIPRECT:
+    case EMR_OFFSETCLIPRGN:
+        return ReadClip(record);
+    default:
+        ReadShape(record, lastMade);
+    }
 }
 
 MetafileRecord& MetafileRecorder::Add(RecordKind kind) {
@@ -176,43 +226,8 @@ MetafileRecord& MetafileRecorder::Add(RecordKind kind) {
     return m_records.back();
 }
 
-bool MetafileRecorder::ReadObject(const Header& record) {
-    switch (record.iType) {
-    case EMR_CREATEPEN: {
-        const auto& pen = As<EMRCREATEPEN>(record);
-        Make(pen.ihPen, 'p', PenText(pen.lopn.lopnStyle, pen.lopn.lopnWidth.x, pen.lopn.lopnColor));
-        return true;
-    }
-    case EMR_EXTCREATEPEN: {
-        const auto& pen = As<EMREXTCREATEPEN>(record);
-        Make(pen.ihPen, 'p',
-             PenText(pen.elp.elpPenStyle, static_cast<int>(pen.elp.elpWidth), pen.elp.elpColor));
-        return true;
-    }
-    case EMR_CREATEBRUSHINDIRECT: {
-        const auto& brush = As<EMRCREATEBRUSHINDIRECT>(record);
-        Make(brush.ihBrush, 'b', BrushText(brush.lb.lbStyle, brush.lb.lbColor));
-        return true;
-    }
-    case EMR_EXTCREATEFONTINDIRECTW: {
-        const auto& font = As<EMREXTCREATEFONTINDIRECTW>(record);
-        Make(font.ihFont, 'f', FontText(font.elfw.elfLogFont));
-        return true;
-    }
-    case EMR_SELECTOBJECT:
-        Select(As<EMRSELECTOBJECT>(record).ihObject);
-        m_lastMade = 0;
-        return true;
-    case EMR_DELETEOBJECT:
-        Delete(As<EMRDELETEOBJECT>(record).ihObject);
-        m_lastMade = 0;
-        return true;
-    default:
-        return false;
-    }
-}
-
-void MetafileRecorder::Make(DWORD handle, char kind, const std::string& value) {
+void MetafileRecorder::Make(const Header& record, char kind, const std::string& value) {
+    const DWORD handle = As<EMRSELECTOBJECT>(record).ihObject; // all records of objects begin with the handle
     m_objects[handle] = {kind, value};
     m_lastMade = handle;
     ++m_objectsMade;
@@ -268,54 +283,15 @@ void MetafileRecorder::SelectStock(DWORD index) {
     }
 }
 
-bool MetafileRecorder::ReadState(const Header& record) {
-    switch (record.iType) {
-    case EMR_SETTEXTCOLOR:
-        m_state.textColor = As<EMRSETTEXTCOLOR>(record).crColor;
-        return true;
-    case EMR_SETTEXTALIGN:
-        m_state.textAlign = As<EMRSETTEXTALIGN>(record).iMode;
-        return true;
-    case EMR_SETBKMODE:
-        m_state.bkMode = static_cast<int>(As<EMRSETBKMODE>(record).iMode);
-        return true;
-    case EMR_SETMAPMODE:
-        m_state.mapMode = static_cast<int>(As<EMRSETMAPMODE>(record).iMode);
-        return true;
-    case EMR_SETWINDOWEXTEX: {
-        const SIZEL& size = As<EMRSETWINDOWEXTEX>(record).szlExtent;
-        m_state.windowExt = {size.cx, size.cy};
-        return true;
-    }
-    case EMR_SETVIEWPORTEXTEX: {
-        const SIZEL& size = As<EMRSETVIEWPORTEXTEX>(record).szlExtent;
-        m_state.viewportExt = {size.cx, size.cy};
-        return true;
-    }
-    case EMR_SAVEDC:
-        m_saved.push_back(m_state);
-        return true;
-    case EMR_RESTOREDC: {
-        const LONG level = As<EMRRESTOREDC>(record).iRelative;
-        const auto depth = static_cast<LONG>(m_saved.size());
-        const LONG target = level < 0 ? depth + level : level - 1;
-        if (target >= 0 && target < depth) {
-            m_state = m_saved[static_cast<std::size_t>(target)];
-            m_saved.resize(static_cast<std::size_t>(target));
-            // What is selected again is a value here; the objects of the inner level are no longer in use.
-            m_selected.clear();
-        }
-        return true;
-    }
-    case EMR_EXTSELECTCLIPRGN:
-    case EMR_INTERSECTCLIPRECT:
-    case EMR_EXCLUDECLIPRECT:
-    case EMR_OFFSETCLIPRGN:
-        ReadClip(record);
-        return true;
-    default:
-        return std::count(std::begin(kUnread), std::end(kUnread), record.iType) > 0;
-    }
+void MetafileRecorder::Restore(LONG level) {
+    const auto depth = static_cast<LONG>(m_saved.size());
+    const LONG target = level < 0 ? depth + level : level - 1;
+    if (target < 0 || target >= depth)
+        return;
+    m_state = m_saved[static_cast<std::size_t>(target)];
+    m_saved.resize(static_cast<std::size_t>(target));
+    // The restored state holds values. The objects selected since then are not in use any more.
+    m_selected.clear();
 }
 
 void MetafileRecorder::ReadClip(const Header& record) {
@@ -343,90 +319,74 @@ void MetafileRecorder::Stroke(const POINT& to) {
     m_state.position = to;
 }
 
-bool MetafileRecorder::ReadShape(const Header& record) {
+void MetafileRecorder::StrokePath(const std::vector<POINT>& points, bool isFromPosition) {
+    const POINT before = m_state.position;
+    for (const POINT& point : points) {
+        if (&point != &points.front() || isFromPosition)
+            Stroke(point);
+        m_state.position = point;
+    }
+    if (!isFromPosition)
+        m_state.position = before;
+}
+
+void MetafileRecorder::ReadShape(const Header& record, DWORD lastMade) {
+    const auto addBox = [&](RecordKind kind, const RECT& box) { Add(kind).box = box; };
+    const auto addPolygon = [&](std::vector<POINT> points) { Add(kPolygon).points = std::move(points); };
     switch (record.iType) {
-    case EMR_MOVETOEX: {
-        const POINTL& to = As<EMRMOVETOEX>(record).ptl;
-        m_state.position = {to.x, to.y};
-        return true;
-    }
-    case EMR_LINETO: {
-        const POINTL& to = As<EMRLINETO>(record).ptl;
-        Stroke({to.x, to.y});
-        return true;
-    }
+    case EMR_MOVETOEX:
+        m_state.position = ToPoint(As<EMRMOVETOEX>(record).ptl);
+        return;
+    case EMR_LINETO:
+        return Stroke(ToPoint(As<EMRLINETO>(record).ptl));
     case EMR_RECTANGLE:
-        Add(kRectangle).box = FullBox(As<EMRRECTANGLE>(record).rclBox);
-        return true;
+        return addBox(kRectangle, FullBox(As<EMRRECTANGLE>(record).rclBox));
     case EMR_ELLIPSE:
-        Add(kEllipse).box = FullBox(As<EMRELLIPSE>(record).rclBox);
-        return true;
+        return addBox(kEllipse, FullBox(As<EMRELLIPSE>(record).rclBox));
     case EMR_POLYGON:
-        Add(kPolygon).points = PointsOf(As<EMRPOLYGON>(record).aptl, As<EMRPOLYGON>(record).cptl);
-        return true;
+        return addPolygon(PointsOf(As<EMRPOLYGON>(record).aptl, As<EMRPOLYGON>(record).cptl));
     case EMR_POLYGON16:
-        Add(kPolygon).points = PointsOf(As<EMRPOLYGON16>(record).apts, As<EMRPOLYGON16>(record).cpts);
-        return true;
+        return addPolygon(PointsOf(As<EMRPOLYGON16>(record).apts, As<EMRPOLYGON16>(record).cpts));
     case EMR_POLYLINE:
     case EMR_POLYLINETO:
+        return StrokePath(PointsOf(As<EMRPOLYLINE>(record).aptl, As<EMRPOLYLINE>(record).cptl),
+                          record.iType == EMR_POLYLINETO);
     case EMR_POLYLINE16:
-    case EMR_POLYLINETO16: {
-        const bool small = record.iType == EMR_POLYLINE16 || record.iType == EMR_POLYLINETO16;
-        const auto points = small ? PointsOf(As<EMRPOLYLINE16>(record).apts, As<EMRPOLYLINE16>(record).cpts)
-                                  : PointsOf(As<EMRPOLYLINE>(record).aptl, As<EMRPOLYLINE>(record).cptl);
-        const bool from_here = record.iType == EMR_POLYLINETO || record.iType == EMR_POLYLINETO16;
-        const POINT before = m_state.position;
-        for (std::size_t i = 0; i < points.size(); ++i) {
-            if (i > 0 || from_here)
-                Stroke(points[i]);
-            else
-                m_state.position = points[i];
-        }
-        if (!from_here)
-            m_state.position = before;
-        return true;
-    }
+    case EMR_POLYLINETO16:
+        return StrokePath(PointsOf(As<EMRPOLYLINE16>(record).apts, As<EMRPOLYLINE16>(record).cpts),
+                          record.iType == EMR_POLYLINETO16);
     case EMR_FILLRGN: {
         const auto& fill = As<EMRFILLRGN>(record);
-        MetafileRecord& region = Add(kRegion);
-        region.box = RegionBounds(fill.RgnData);
+        addBox(kRegion, RegionBounds(fill.RgnData));
         const auto brush = m_objects.find(fill.ihBrush);
-        region.brush = brush == m_objects.end() ? "unknown" : brush->second.value;
-        // The platform enters a brush of its own for each fill and does not take it out again.
-        if (brush != m_objects.end() && fill.ihBrush == m_lastMade) {
+        m_records.back().brush = brush == m_objects.end() ? "unknown" : brush->second.value;
+        // GDI records a brush of its own for each fill and does not delete this brush.
+        if (brush != m_objects.end() && fill.ihBrush == lastMade) {
             m_objects.erase(brush);
             --m_objectsMade;
         }
-        return true;
+        return;
     }
-    case EMR_PAINTRGN: {
-        MetafileRecord& region = Add(kRegion);
-        region.box = RegionBounds(As<EMRINVERTRGN>(record).RgnData);
-        region.brush = m_state.brush;
-        return true;
-    }
+    case EMR_PAINTRGN:
+        addBox(kRegion, RegionBounds(As<EMRINVERTRGN>(record).RgnData));
+        m_records.back().brush = m_state.brush;
+        return;
     case EMR_EXTTEXTOUTA:
     case EMR_EXTTEXTOUTW:
-    case kSmallTextOut:
-        ReadText(record);
-        return true;
+        return ReadText(record);
     default:
-        return false;
+        if (std::count(std::begin(kUnread), std::end(kUnread), record.iType) == 0)
+            Add(kOther).text = std::to_string(record.iType);
     }
 }
 
 void MetafileRecorder::ReadText(const Header& record) {
     MetafileRecord& text = Add(kText);
-    if (record.iType == kSmallTextOut) {
-        text.text = "(small text record)";
-        return;
-    }
-    const auto& out = As<EMREXTTEXTOUTW>(record);
-    const auto* letters = reinterpret_cast<const char*>(&record) + out.emrtext.offString;
-    text.points = {{out.emrtext.ptlReference.x, out.emrtext.ptlReference.y}};
-    text.text = record.iType == EMR_EXTTEXTOUTW
-                    ? Narrow(reinterpret_cast<const WCHAR*>(letters), out.emrtext.nChars)
-                    : std::string(letters, out.emrtext.nChars);
+    const auto& out = As<EMREXTTEXTOUTW>(record).emrtext;
+    const auto* letters = reinterpret_cast<const char*>(&record) + out.offString;
+    text.points = {ToPoint(out.ptlReference)};
+    text.text = record.iType == EMR_EXTTEXTOUTW ? Narrow(reinterpret_cast<const WCHAR*>(letters), out.nChars)
+                                                : std::string(letters, out.nChars);
 }
 
 } // namespace testkit

@@ -1,10 +1,11 @@
+// Random numbers for tests.
 #pragma once
 
 #include <cstdint>
 
 namespace testkit {
 
-/// The same numbers on every machine and in every run.
+/// A random sequence that is the same on every machine and in every run (xorshift).
 class Numbers {
 public:
     explicit Numbers(std::uint32_t seed) : m_state(seed) {}

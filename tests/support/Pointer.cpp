@@ -1,4 +1,4 @@
-// The real mouse pointer, moved and pressed through the window system.
+// Mouse input through SetCursorPos and SendInput.
 #include "tests/support/Pointer.h"
 
 #include "tests/support/RecordingParent.h"

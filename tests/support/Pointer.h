@@ -5,11 +5,11 @@
 
 namespace testkit {
 
-/// Moves the pointer into the screen's last corner, away from the windows of the tests: a window that comes
-/// up under it gets a mouse move.
+/// Moves the pointer into the bottom right corner of the screen, away from the windows of the tests: a window
+/// that appears under the pointer gets a mouse move message.
 void ParkPointer();
-/// Moves the pointer to a place of `window`'s client area, presses and lets go the left button there, and
-/// handles the messages that follow. The pointer is parked again.
+/// Moves the pointer to `client` in the client area of `window`, presses and releases the left button, and
+/// handles the messages. Then moves the pointer back into the corner.
 void ClickWithPointer(HWND window, POINT client);
 
 } // namespace testkit

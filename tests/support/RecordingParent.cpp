@@ -1,3 +1,4 @@
+// What the parent window records, and the message pump of the tests.
 #include "tests/support/RecordingParent.h"
 
 #include "tests/support/Pointer.h"
@@ -9,7 +10,7 @@
 namespace testkit {
 
 namespace {
-const MSG* g_dispatched = nullptr; // by Pump(), until it has reached its window procedure
+const MSG* g_dispatched = nullptr; // the message that Pump() dispatches, until its window procedure gets it
 } // namespace
 
 RecordingParent::~RecordingParent() {

@@ -1,3 +1,4 @@
+// The main function of the test programs that use windows.
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
@@ -6,7 +7,7 @@
 
 namespace {
 
-/// The application object that window code expects; it has no main window and no message loop of its own.
+/// The application object that the class library needs. It has no main window and no message loop.
 class CTestApp : public CWinApp {
 public:
     CTestApp() : CWinApp("Kavlix tests") {}

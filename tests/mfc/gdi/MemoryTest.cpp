@@ -1,7 +1,7 @@
 // Handles when memory runs out: none is lost, none stays selected or taken.
 
 #include "tests/mfc/Refusal.h"
-#include "tests/support/FailingAllocations.h"
+#include "tests/support/AllocationGuard.h"
 #include "tests/support/MemoryRule.h"
 
 #include <afxwin.h>
@@ -73,8 +73,8 @@ TEST(HandleMemory, NoHandleIsLost) {
 TEST(HandleMemory, LettingGoNeedsNone) {
     auto pen = std::make_unique<CPen>(PS_SOLID, 1, RGB(0, 0, 0));
     std::thread([&] { // which has no maps of its own
-        testkit::FailingAllocations memory;
-        memory.FailAfter(0, true);
+        testkit::AllocationGuard memory;
+        memory.FailAt(1, true);
         pen.reset();
     })
         .join();

@@ -19,8 +19,8 @@
 
 using Strings = std::vector<std::string>;
 
-/// The chart as a derived class sees it. It notes the drawing members' calls, and replaces the one that
-/// `replaced` names by a rectangle with a null pen and a brush of its own.
+/// The chart with its protected members made public. It records the calls of the drawing members. The member
+/// that `replaced` names only fills a small rectangle.
 class OpenChart : public CChartDraw {
 public:
     using CChartDraw::CalcDatas;
@@ -62,7 +62,7 @@ private:
     }
 };
 
-/// The order in which every picture is drawn.
+/// The order of the drawing members in every picture.
 inline const Strings kSequence = {"bkgnd", "title", "grid", "datasets", "axes", "yscale", "xscale"};
 
 /// A chart of 300 x 200 pixels in a visible parent.
@@ -74,7 +74,7 @@ protected:
     }
     void TearDown() override { parent.DestroyWindow(); }
 
-    /// A dataset with these points, X being the index.
+    /// Adds a dataset with these values of y; x is the index. Returns the dataset.
     int Add(const std::vector<double>& values) {
         const int dataset = chart.AddDataset();
         chart.SetData(dataset, nullptr, values.data(), static_cast<int>(values.size()));
@@ -83,13 +83,13 @@ protected:
     void Resize(int width, int height) {
         chart.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOMOVE);
     }
-    /// Texts as white as the background.
+    /// Makes all texts white, as the background.
     void HideTexts() {
         for (auto set : {&CChartDraw::SetTitleColor, &CChartDraw::SetXLabelColor, &CChartDraw::SetYLabelColor,
                          &CChartDraw::SetXTickLabelColor, &CChartDraw::SetYTickLabelColor})
             (chart.*set)(RGB(255, 255, 255));
     }
-    /// The chart as pixels.
+    /// Draws the chart into `surface`.
     void PaintInto(testkit::DibSurface& surface) {
         chart.CalcDatas();
         CDC dc;
@@ -97,7 +97,7 @@ protected:
         chart.DrawChart(dc);
         dc.Detach();
     }
-    /// What one member draws, as records.
+    /// Records what `draw` draws.
     template <class Draw> void Record(testkit::MetafileRecorder& recorder, Draw draw) {
         chart.CalcDatas();
         CDC dc;
@@ -111,10 +111,10 @@ protected:
     OpenChart chart;
 };
 
-/// A folder for the files of a test.
+/// A temporary folder that lists its files.
 class TempFolder : public testkit::TempFolder {
 public:
-    /// The names of its files, sorted.
+    /// The names of the files, sorted.
     Strings Names() const;
 };
 
@@ -133,7 +133,7 @@ private:
     unsigned char* m_rows = nullptr;
 };
 
-/// All bytes of a file; none when it cannot be read.
+/// All bytes of a file; empty when it cannot be read.
 std::vector<unsigned char> FileBytes(const std::string& path);
-/// Handles that this process has open.
+/// The number of handles that this process has open.
 DWORD OpenHandles();

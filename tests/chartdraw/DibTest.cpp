@@ -24,7 +24,7 @@ Bytes BlockBytes(HANDLE block) {
     return copy;
 }
 
-/// A bitmap of this size and depth whose stored rows, top row first, are `Row()`.
+/// A bitmap whose row y, counted from the top, holds the bytes Row(y).
 class Pattern : public DibBitmap {
 public:
     Pattern(int width, int height, int bits) : DibBitmap(width, height, bits), m_width(width), m_bits(bits) {
@@ -32,7 +32,7 @@ public:
             SetRow(y, Row(y));
     }
     int UsedBytes() const { return (m_width * m_bits + 7) / 8; }
-    /// The bytes of a row that hold pixels; bits behind the last pixel are 0.
+    /// The bytes of a row without padding. Bits after the last pixel are 0.
     Bytes Row(int y) const {
         Bytes row(static_cast<std::size_t>(UsedBytes()));
         for (std::size_t i = 0; i < row.size(); ++i)
@@ -100,7 +100,7 @@ TEST(DibTest, BlockAndFileByteByByte) {
             EXPECT_EQ(Number(saved, 2, 4), saved.size());
             EXPECT_EQ(Number(saved, 6, 4), 0u);
             EXPECT_EQ(Number(saved, 10, 4), 54 + table);
-            // At 32 bits the unused entry comes first and the last pixel is missing.
+            // With 32 bits the unused entry stands in the file too, so the last pixel is missing.
             EXPECT_TRUE(std::equal(saved.begin() + 14, saved.end(), bytes.begin()));
             ::GlobalFree(block);
         }

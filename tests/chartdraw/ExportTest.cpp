@@ -68,13 +68,14 @@ protected:
         chart.SetXLabel("East");
         chart.SetTitle("Title");
         const TempFolder folder;
-        for (const char* name : {"w.bmp", "w.png", "w.emf"}) // what the system loads once
+        for (const char* name :
+             {"w.bmp", "w.png", "w.emf"}) // the system loads its encoders now, before handles are counted
             chart.SaveImage(folder.Path(name).c_str());
         chart.CopyToFile(folder.Path("w2.bmp").c_str());
         chart.CopyToClipboard();
     }
 
-    /// Runs `save` with every block counted: no block, handle or GDI object is left by it.
+    /// Runs `save` and checks that it leaves no memory block, handle or GDI object behind.
     void ExpectNothingLeft(const std::function<void()>& save) {
         const testkit::ImportHook alloc("Kavlix.dll", "GlobalAlloc", Address(&CountAlloc));
         const testkit::ImportHook free("Kavlix.dll", "GlobalFree", Address(&CountFree));
@@ -89,7 +90,8 @@ protected:
     }
 };
 
-/// What the file dialog is asked for, and its answer: a name, or Cancel when it is empty.
+/// What the chart asks the file dialog for, and the dialog's answer: a name, or Cancel if
+/// `g_answer` is empty.
 DWORD g_flags = 0;
 std::string g_proposed, g_filter, g_extension, g_answer;
 BOOL WINAPI AnswerDialog(LPOPENFILENAMEA dialog) {
@@ -121,7 +123,7 @@ TEST_F(ChartExportTest, TheFileHoldsThePictureOfTheScreen) {
     int wrong = 0;
     for (int y = 0; y < 200; ++y)
         for (int x = 0; x < 300; ++x) {
-            // Four bytes late, rows from the bottom; the last pixel is the one that is lost.
+            // The pixels stand 4 bytes too late, the bottom row first. The last pixel is missing.
             const std::size_t at =
                 54 + 4 + (static_cast<std::size_t>(199 - y) * 300 + static_cast<std::size_t>(x)) * 4;
             if (at + 4 <= bytes.size())
@@ -226,7 +228,7 @@ TEST_F(ChartExportTest, WhatCannotBeMadeWritesNothing) {
     refused("Kavlix.dll", "GetDIBits", Address(&NoBits));
     refused("Kavlix.dll", "GlobalLock", Address(&NoLock));
     refused("Kavlix.dll", "GlobalReAlloc", Address(&NoRealloc));
-    refused("KavlixMfc.dll", "CreateFileA", Address(&DeniedA)); // a folder that is read-only
+    refused("KavlixMfc.dll", "CreateFileA", Address(&DeniedA)); // as in a folder that is read-only
     {
         const testkit::ImportHook hook("Kavlix.dll", "CreateFileW", Address(&DeniedW));
         ASSERT_TRUE(hook.Installed());
@@ -306,7 +308,7 @@ TEST_F(ChartExportTest, ThePictureOnTheClipboard) {
         };
         EXPECT_EQ(kinds(picture), kinds(expected.Handle())) << "the chart's own records and no mapping mode";
         ::CloseClipboard();
-        // A step that is replaced is replaced in the picture too.
+        // The picture contains what an override draws.
         const CString grid = "E4E4E4";
         int gridLines = 0;
         for (const auto& record : expected.Records())

@@ -1,4 +1,4 @@
-// The chart when memory runs out: every operation, at each of its allocations.
+// Every operation of the chart when each of its allocations fails.
 
 #include "tests/chartdraw/ChartTest.h"
 #include "tests/support/MemoryRule.h"
@@ -10,7 +10,7 @@ using testkit::OnFailure;
 std::string g_path;
 constexpr char kLongText[] = "A text that needs memory of its own, wherever it is kept";
 
-/// A chart that has been calculated. The next point of its first dataset makes pieces and boxes of all sizes.
+/// A chart after CalcDatas. The next point of its first dataset completes a box on two levels.
 struct FedChart {
     FedChart() {
         parent.CreateVisible(120, 100);
@@ -34,7 +34,7 @@ struct FedChart {
         return state;
     }
 
-    /// A name that asks for no memory.
+    /// A CString made beforehand, so that the name needs no allocation during the operation.
     CString NextPath() { return std::move(m_paths[--m_left]); }
 
     testkit::RecordingParent parent;

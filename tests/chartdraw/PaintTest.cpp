@@ -21,8 +21,8 @@ BOOL WINAPI NoRestore(HDC, int) {
     return FALSE;
 }
 
-/// Draws a dataset on top of a picture the plain way: one stroke from each point to the next, and a dot where
-/// all points of a line are on one pixel.
+/// The literal painter: draws one stroke from each point of a dataset to the next, and a dot where all points
+/// of a line are on one pixel.
 void WalkPlainly(OpenChart& chart, const testkit::DibSurface& surface, int dataset, int width) {
     double xMin, xMax, yMin, yMax, step;
     chart.GetXScale(xMin, xMax, step);
@@ -40,7 +40,7 @@ void WalkPlainly(OpenChart& chart, const testkit::DibSurface& surface, int datas
     bool started = false, isLone = false;
     CPoint first;
     for (int i = 0; i <= chart.GetDatasetSize(dataset); ++i) {
-        double x = kNaN, y = kNaN; // behind the last
+        double x = kNaN, y = kNaN; // a gap after the last point ends the line
         chart.GetData(dataset, i, x, y);
         const auto px = xMap.Position(x), py = yMap.Position(y);
         if (px && py && started) {
@@ -67,10 +67,10 @@ void WalkPlainly(OpenChart& chart, const testkit::DibSurface& surface, int datas
 
 class ChartPaintTest : public ChartTest {
 protected:
-    /// The chart's picture against the plain walk over dataset 0.
+    /// Compares the chart's picture with one in which the literal painter draws the line of dataset 0.
     std::string AgainstPlainWalk(int width) {
         testkit::DibSurface reduced(300, 200), plain(300, 200);
-        chart.replaced = "axes"; // in the plain picture the line comes last: nothing may lie on it
+        chart.replaced = "axes"; // the literal painter draws the line last, so nothing may cover it
         chart.ShowLine(0, TRUE);
         PaintInto(reduced);
         chart.ShowLine(0, FALSE);
@@ -200,7 +200,7 @@ TEST_F(ChartPaintTest, RandomViewsEqualThePlainWalk) {
             y += (unit() - 0.5) * noise;
             xs.push_back(isRandom ? unit() * 10 : x);
             ys.push_back(unit() < gaps ? kNaN : y);
-            if (round % 5 == 2) { // the same pixel again and again
+            if (round % 5 == 2) { // several points on the same pixel
                 xs.resize(xs.size() + random() % 9, xs.back());
                 ys.resize(xs.size(), ys.back());
             }
@@ -209,7 +209,7 @@ TEST_F(ChartPaintTest, RandomViewsEqualThePlainWalk) {
         chart.SetData(0, xs.data(), ys.data(), static_cast<int>(xs.size()));
         chart.SetAutoXScale();
         chart.SetAutoYScale();
-        if (round % 2 == 0) { // somewhere inside, up to a thousand times larger
+        if (round % 2 == 0) { // a part of the data, magnified up to a thousand times
             const auto at = static_cast<std::size_t>(unit() * static_cast<double>(xs.size()));
             const double xRange = std::pow(10, unit() * 3 - 2), yRange = noise * std::pow(10, unit() * 3 - 2);
             chart.SetXScale(xs[at] - xRange * unit(), xs[at] + xRange);
@@ -229,7 +229,7 @@ TEST_F(ChartPaintTest, WideStrokesToFarPlacesEndNearThePlot) {
     chart.SetYScale(0, 1);
     testkit::MetafileRecorder recorder;
     Record(recorder, [&](CDC& dc) { chart.DrawDatasets(dc); });
-    int reach = 0; // GDI takes for a stroke what its length takes
+    int reach = 0; // the farthest coordinate: GDI's time grows with the length of a stroke
     for (const testkit::MetafileRecord& record : recorder.Records())
         for (const POINT& point : record.points)
             reach =
@@ -248,7 +248,7 @@ TEST_F(ChartPaintTest, MarkersOfManyPointsAreThoseOfEachPoint) {
         ys.push_back(i % 97 == 96 ? odd[random() % std::size(odd)] : i < 2000 ? random() % 20 : 20 + i / 400);
     }
     chart.SetXScale(200, 4000);
-    chart.SetYScale(-5, 145); // a pixel each
+    chart.SetYScale(-5, 145); // one pixel for each unit
     for (int type = CDataset::MarkerSquare; type <= CDataset::MarkerCross; ++type) {
         const auto add = [&](std::size_t first, int count) {
             const int dataset = chart.AddDataset();
@@ -261,8 +261,8 @@ TEST_F(ChartPaintTest, MarkersOfManyPointsAreThoseOfEachPoint) {
         chart.RemoveAllDatasets();
         add(0, 4000);
         PaintInto(whole);
-        // The same points in datasets so small that each is looked at, in a mapping in which
-        // GDI draws markers.
+        // The same points in datasets so small that no boxes exist, in a mapping mode in which GDI
+        // draws each marker.
         constexpr int kFew = 25;
         chart.RemoveAllDatasets();
         for (std::size_t first = 0; first < 4000; first += kFew)

@@ -13,8 +13,8 @@ template <class At> void WritePixels(const std::string& base, CSize size, At at)
                 pixels << static_cast<char>(at(x, y) >> shift);
 }
 
-/// Writes the chart as a bitmap file of this depth, made by the chart's own members, and its pixels as plain
-/// red, green and blue bytes beside it.
+/// Writes two files: the chart as a bitmap file of this depth by DDBToDIB and SaveDIB, and the same pixels as
+/// plain red, green and blue bytes.
 void WriteDepth(OpenChart& chart, int bits, const std::string& base) {
     const CSize size = chart.m_rectChart.Size();
     DibBitmap picture(size.cx, size.cy, bits);
@@ -35,7 +35,7 @@ void WriteDepth(OpenChart& chart, int bits, const std::string& base) {
 
 } // namespace
 
-/// What stands in the files is compared by another program, which compare-pictures asks.
+/// Writes the files. The script compare-pictures has another program compare them.
 TEST_F(ChartTest, PicturesForAnotherProgram) {
     char program[MAX_PATH] = "";
     ::GetModuleFileNameA(nullptr, program, MAX_PATH);

@@ -45,14 +45,14 @@ TEST_F(PieClickTest, EdgesBelongToThePieceBefore) {
     Click(CPoint(160, 80), MK_LBUTTON | MK_SHIFT | MK_CONTROL);
     EXPECT_EQ(*reinterpret_cast<const HWND*>(parent.Entries()[0].record), pie.m_hWnd);
     EXPECT_EQ(Log(), Strings{"notify -2 id 77 flags 13 piece 0"});
-    pie.m_rcPie.SetRectEmpty(); // as before the first paint
+    pie.m_rcPie.SetRectEmpty(); // its value before the first paint
     Click(CPoint(0, 0));
     EXPECT_TRUE(Log().empty());
 }
 
 TEST_F(PieClickTest, SearchClearsEverySelection) {
     Add({25, 25, 25});
-    pie.m_nStartAngle = 180; // the search knows none
+    pie.m_nStartAngle = 180; // the search counts from 0 degrees all the same
     const struct {
         double angle;
         int index;

@@ -81,7 +81,7 @@ TEST_F(PieDataTest, PiecesAndTheirColours) {
 }
 
 TEST_F(PieDataTest, WorksWithoutAWindow) {
-    // A null window would mean every window on the screen.
+    // InvalidateRect with a null handle would invalidate all windows, also this one.
     Settle();
     OpenPie loose;
     loose.AddPiece(1, 2, 4, 1, "x");
@@ -115,7 +115,7 @@ struct FedPie {
             text += pie.At(i).m_strLabel + (pie.At(i).m_bSelected ? "*" : " ");
         return text;
     }
-    bool Saves(const char* shortName) { // the call's own argument needs no memory
+    bool Saves(const char* shortName) { // a short name needs no allocation when it becomes a CString
         const bool saved = pie.SaveImage(shortName);
         ::DeleteFile(shortName);
         return saved;

@@ -18,7 +18,7 @@ HRGN WINAPI NoRegion(const RECT*) {
 
 class PiePaintTest : public PieTest {
 protected:
-    /// The texts painted, each with its colour: "25.0% 000000".
+    /// The texts that a paint draws, each followed by its colour, for example "25.0% 000000".
     Strings Texts() {
         Strings texts;
         const auto picture = Record();
@@ -47,7 +47,7 @@ TEST_F(PiePaintTest, TextsAndTheirColours) {
     pie.At(2).m_bSelected = TRUE;
     EXPECT_EQ(Texts(), (Strings{"In FFFF00", "60.0% FFFF00", "Two FFFFFF", "36.0% FFFFFF", "White FFFFFF",
                                 "4.0% FFFFFF"}));
-    // Beside the pie white stands on the selection's colour.
+    // Beside the pie, the white texts of a selected piece stand on a box of the selection's colour.
     const auto picture = Paint();
     const CRect plate = pie.At(2).m_rcItem;
     EXPECT_EQ(picture->At(plate.left, plate.top), pie.m_crSelected);
@@ -129,7 +129,7 @@ TEST_F(PiePaintTest, OnePictureForEveryDestination) {
     for (const bool paired : {true, false}) {
         testkit::MetafileRecorder output;
         testkit::DibSurface answers(1, 1);
-        CDC dc; // as a print preview or a recording has it
+        CDC dc; // output and attribute DC differ, as in a print preview
         dc.SetOutputDC(output.Dc());
         dc.SetAttribDC(paired ? answers.Dc() : nullptr);
         pie.DrawPie(dc);

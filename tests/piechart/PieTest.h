@@ -16,7 +16,7 @@
 
 using Strings = std::vector<std::string>;
 
-/// The control as a derived class sees it.
+/// The control with its protected members made public. It records messages that reach the default procedure.
 class OpenPie : public CPieChartCtrl {
 public:
     using CPieChartCtrl::DrawPie;
@@ -33,7 +33,7 @@ public:
 
     CPieChartPiece& At(int index) { return *static_cast<CPieChartPiece*>(m_arrPieces.GetAt(index)); }
     int Selected() const;
-    Strings defaulted; ///< messages handed on to the default procedure: "button"
+    Strings defaulted; ///< "button" for each WM_LBUTTONDOWN that reached the default window procedure
 
 protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -42,7 +42,7 @@ protected:
 /// The fill colour of piece `index` in the tests; the first forty differ.
 COLORREF PieceColour(int index);
 
-/// A control in a visible parent; its window has no frame.
+/// A control of 300 x 200 pixels without a frame, in a visible parent.
 class PieTest : public testing::Test {
 protected:
     static constexpr int kControlId = 77;
@@ -51,7 +51,7 @@ protected:
     void TearDown() override;
 
     void Resize(int width, int height);
-    /// Pieces with these values of 100, piece i in PieceColour(i), without label texts.
+    /// Adds pieces of `values` percent without label texts, piece i in PieceColour(i).
     void Add(std::initializer_list<double> values);
 
     std::unique_ptr<testkit::DibSurface> Paint();
@@ -60,7 +60,7 @@ protected:
     CRect UpdateRect();
     void Click(CPoint point, WPARAM flags = MK_LBUTTON);
     CRect Client();
-    /// The point of the picture at an angle and a part of the radius.
+    /// The pixel at an angle from twelve o'clock, `part` radii from the centre.
     CPoint At(double angle, double part);
 
     testkit::RecordingParent parent;

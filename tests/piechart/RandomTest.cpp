@@ -46,9 +46,10 @@ struct LiteralPie {
         return piece < 0 ? back : piece == selected ? selection : PieceColour(piece);
     }
 
-    /// Whether a pixel may have this colour: exact inside a sector, any of the colours that meet on a line.
+    /// Whether a pixel may have this colour. Inside a sector only the sector's colour is allowed; on a line
+    /// and on the rim, all colours that meet there.
     bool Allows(CPoint pixel, COLORREF colour, bool hasLeaders) const {
-        constexpr double kUnsure = 2; // pixels to either side of a line, and of the rim
+        constexpr double kUnsure = 2; // pixels on both sides of a line and of the rim
         const double distance = Distance(pixel);
         if (!HasRoom() || distance > Radius() + kUnsure)
             return colour == back || (hasLeaders && colour == outline);
@@ -67,7 +68,7 @@ struct LiteralPie {
         for (int step = -8; step <= 8; ++step)
             if (colour == Colour(PaintedAt(angle + step * turn / 8)))
                 return true;
-        return turn > 1; // thin slivers lie between two steps
+        return turn > 1; // close to the centre, a thin sector can lie between two of these steps
     }
 };
 
@@ -79,7 +80,7 @@ protected:
 
     unsigned Below(unsigned limit) { return random() % limit; }
 
-    /// A chart of random size, pieces and colours; `literal` becomes the same.
+    /// Gives the control a random size, pieces and colours, and `literal` the same.
     void Draw(bool isOdd) {
         const double odd[] = {0, -20, NAN, INFINITY, -INFINITY, 1e308, 5e-324};
         const CString texts[] = {
@@ -108,14 +109,15 @@ protected:
         pie.UpdateWindow();
     }
 
-    /// Compares the control's picture with the literal one, and the window with the picture.
+    /// Compares the pixels of the control with the literal pie, and the window on the
+    /// screen with a new paint.
     void Compare() {
         const auto picture = Paint();
         testkit::DibSurface shown(picture->Width(), picture->Height());
         shown.Grab(pie.m_hWnd);
         EXPECT_EQ(testkit::Difference(*picture, shown), "") << "what must change has been repainted";
         EXPECT_EQ(pie.m_rcPie, literal.square);
-        bool isMessage = true; // "No Data" has no place among the literal pixels
+        bool isMessage = true; // without a visible piece "No Data" is shown: pixels are not compared
         for (int angle = 1; angle < 360; ++angle)
             isMessage = isMessage && literal.PieceAt(angle) < 0;
         std::vector<CRect> boxes;
@@ -147,7 +149,7 @@ protected:
         CompareLines(*picture);
     }
 
-    /// Where two wide sectors meet there is a line of the outline's colour, and one round every wide sector.
+    /// Two wide sectors must have a line of the outline's colour between them, and one on their rim.
     void CompareLines(const testkit::DibSurface& picture) {
         const auto hasOutline = [&](CPoint at) {
             for (int dx = -1; dx <= 1; ++dx)
@@ -173,7 +175,7 @@ protected:
         }
     }
 
-    /// Clicks at a random place and compares selection and notification with those that the place must cause.
+    /// Clicks at a random place. Selection and notification must be those of the literal pie.
     void ClickSomewhere() {
         const CRect client = Client();
         const CPoint place(static_cast<int>(Below(static_cast<unsigned>(client.right))),

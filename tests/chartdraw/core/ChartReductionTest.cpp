@@ -17,9 +17,9 @@ constexpr int kWidth = 60;
 constexpr int kHeight = 40;
 constexpr std::uint32_t kInk = 1;
 const Rect kFrame{0, 0, kWidth, kHeight};
-const Rect kView{-2, -2, kWidth + 2, kHeight + 2}; // what a thin pen reaches
+const Rect kView{-2, -2, kWidth + 2, kHeight + 2}; // a thin pen reaches 2 pixels into the frame from outside
 
-/// A picture whose lines are GDI's: the last pixel is left out.
+/// A picture in which strokes leave out their last pixel, as GDI does.
 struct Canvas {
     std::vector<std::uint32_t> pixels = std::vector<std::uint32_t>(kWidth * kHeight);
     PixelRaster raster{pixels.data(), kWidth, kFrame};
@@ -74,7 +74,7 @@ TEST(ChartReduction, DrawsWhatTheWholeLineDraws) {
     const auto unit = [&] { return random() / 4294967296.0; };
     for (int round = 0; round < 3000; ++round) {
         const int count = 1 + static_cast<int>(std::pow(unit(), 3) * 9000);
-        // From steep noise to steps that stay on a row for long; in order, or back and forth.
+        // From steep noise to long runs in one row, with x in order or back and forth.
         const double rows = std::pow(10, unit() * 2.5);
         const double step = std::pow(10, unit() * 4 - 3);
         const double gaps = round % 12 == 0 ? 0.4 : round % 4 == 0 ? 0.003 : 0;
@@ -131,7 +131,7 @@ TEST(ChartReduction, PointsFarAwayAndWithoutAPlaceBreakNothing) {
                                   LinearMap(-1e308, 1e308, 0, kWidth - 1), LinearMap(3, 3, 0, kWidth - 1)}) {
         Canvas reduced, straight;
         WalkReduced(series, xMap, kWholeY, reduced);
-        // The same line point by point.
+        // The same line without the reduction.
         ReducedPath path(kView, [&](const Point* points, int count) { straight.Draw(points, count); });
         ChartLine line(path, straight.lone);
         for (int i = 0; i < series.Size(); ++i)

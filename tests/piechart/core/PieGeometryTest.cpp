@@ -12,7 +12,8 @@
 namespace kavlix {
 namespace {
 
-/// Whether `value` is `exact`, truncated toward zero; next to a whole number either neighbour will do.
+/// Whether `value` is `exact` truncated toward zero. If `exact` is nearly a whole number,
+/// rounding may decide.
 bool IsTruncated(int value, double exact) {
     return value == std::trunc(exact + 1e-6) || value == std::trunc(exact - 1e-6);
 }
@@ -46,7 +47,7 @@ TEST(PieGeometryTest, RandomPiesFollowTheFormulas) {
         EXPECT_TRUE(IsTruncated(found.x, (pie.left + pie.right) / 2.0 + std::sin(radians) * radius));
         EXPECT_TRUE(IsTruncated(found.y, (pie.top + pie.bottom) / 2.0 - std::cos(radians) * radius));
     }
-    // Exact, because the edges of pieces are often there.
+    // These must be exact, because the edges of pieces often have these angles.
     const Rect pie{55, 20, 215, 180};
     EXPECT_EQ(AngleOfPoint(pie, {136, 100}), 90.0);
     EXPECT_EQ(AngleOfPoint(pie, {135, 101}), 180.0);

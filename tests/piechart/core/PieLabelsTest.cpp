@@ -24,7 +24,7 @@ PieLabelArea Area(int width, int height, double startAngle = 0) {
     return area;
 }
 
-/// Pieces of these parts of 1, all with the same texts.
+/// Pieces that take these parts of the circle, all with the same texts.
 std::vector<PieLabelRequest> Pieces(const std::vector<double>& parts, PieText text) {
     text.narrowest = kNarrowest;
     std::vector<PieLabelRequest> requests;
@@ -59,7 +59,7 @@ std::vector<Point> Pixels(const std::vector<Point>& line) {
     return pixels;
 }
 
-/// Pixels of a line that touch another.
+/// How many pixels of `line` touch `other`.
 std::ptrdiff_t Together(const std::vector<Point>& line, const std::vector<Point>& other) {
     const std::vector<Point> ones = Pixels(line), others = Pixels(other);
     return std::count_if(ones.begin(), ones.end(), [&](Point a) {
@@ -68,7 +68,7 @@ std::ptrdiff_t Together(const std::vector<Point>& line, const std::vector<Point>
     });
 }
 
-/// What must hold of every layout; empty, or what does not.
+/// Checks what must hold of every layout. Empty, or the first rule that is broken.
 std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& requests,
                   const std::vector<PieLabel>& labels) {
     const Point centre = PieCentre(area.pie);
@@ -86,7 +86,7 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
         return true;
     };
     std::vector<Rect> taken;
-    const std::vector<Point>* lastLeader[2] = {}; // of the left side, of the right one
+    const std::vector<Point>* lastLeader[2] = {}; // the last leader on the left and on the right side
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const PieLabel& label = labels[i];
         const PieText& text = requests[i].text;
@@ -150,8 +150,8 @@ TEST(PieLabelsTest, EveryTextHasAPlaceOfItsOwn) {
         int width, height;
         std::vector<double> parts;
         PieText text;
-        int boxes;   ///< pieces with a label or percentage, at least
-        int outside; ///< of them beside the pie, exactly
+        int boxes;   ///< least number of pieces with a label or percentage
+        int outside; ///< exact number of labels beside the pie; -1: any
     } cases[] = {
         {"whole", 400, 300, {1}, {65, 45, 40}, 1, 0},
         {"two large, three small", 400, 300, {0.6, 0.3, 0.03, 0.03, 0.04}, {65, 45, 40}, 5, 3},

@@ -33,6 +33,7 @@ public:
     explicit TestFrame(Log& log) : m_log(log) {}
     CWnd pane;
     bool withPane = false;
+    BOOL radioOn = TRUE;
     HMENU updatedParent = nullptr;
     UINT updatedIndexMax = 0;
 
@@ -51,7 +52,7 @@ protected:
     void OnTicked() {}
     void OnUpdateTicked(CCmdUI* ui) { ui->SetCheck(1); }
     void OnUpdateRadio(CCmdUI* ui) {
-        ui->SetRadio(TRUE);
+        ui->SetRadio(radioOn);
         ui->Enable();
     }
     void OnUpdateRenamed(CCmdUI* ui) { ui->SetText("renamed"); }
@@ -131,10 +132,12 @@ TEST_F(FrameTest, OpeningAMenuBringsItUpToDate) {
     EXPECT_EQ(frame->updatedIndexMax, 11u);
 
     frame->m_bAutoMenuEnable = FALSE;
+    frame->radioOn = FALSE;
     for (const UINT id : Items(MF_GRAYED))
         ::EnableMenuItem(popup, id, MF_BYCOMMAND | MF_ENABLED);
     OpenMenu();
     EXPECT_EQ(Items(MF_GRAYED), std::set<UINT>{ID_BARRED}) << "only handlers decide";
+    EXPECT_EQ(Items(MF_CHECKED), std::set<UINT>{ID_TICKED});
 }
 
 TEST_F(FrameTest, CommandsGoToTheFrameAndThenToTheApplication) {

@@ -76,7 +76,7 @@ endfunction()
 
 # Fails when a source of the project belongs to no target. A new folder needs a place in a list of sources.
 function(kavlix_check_all_sources_are_compiled)
-    file(GLOB top LIST_DIRECTORIES true ${PROJECT_SOURCE_DIR}/*)
+    file(GLOB top CONFIGURE_DEPENDS LIST_DIRECTORIES true ${PROJECT_SOURCE_DIR}/*)
     list(FILTER top EXCLUDE REGEX "/build[^/]*$")
     foreach(folder ${top})
         if(IS_DIRECTORY ${folder})

@@ -148,7 +148,8 @@ std::wstring ToWide(const char* text) {
     return wide;
 }
 
-/// Creates a file with an unused name in the folder of `path`. `name` receives its name.
+/// Creates a new file in the folder of `path`, under a name that no file has yet, and stores its path in
+/// `name`. INVALID_HANDLE_VALUE on failure.
 HANDLE MakeFileBeside(const std::wstring& path, std::wstring& name) {
     constexpr unsigned kMostTries = 1000;
     const std::size_t folderEnd = path.find_last_of(L"\\/:");

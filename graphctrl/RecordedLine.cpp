@@ -47,7 +47,7 @@ bool RecordedLine::IsSameFarPixel(const Sample& a, const Sample& b) const {
     return ToPixel(m_target.dc, from) == ToPixel(m_target.dc, to);
 }
 
-/// The sample from which on all samples up to `last` fall on the pixel of sample `last`; not before `first`.
+/// The lowest index, not below `first`, from which all samples up to `last` lie on one pixel.
 int RecordedLine::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first,
                                int last) const {
     const double value = values[last];
@@ -64,8 +64,8 @@ int RecordedLine::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& 
            1;
 }
 
-/// Adds the samples of a column, an array of `count` values, by reading each. False, with nothing added, when
-/// a value is NaN or lies outside the pixel table.
+/// Adds the `count` samples of a column, looking at every value (AddSearched does not). False, with nothing
+/// added, when a value is NaN or lies outside the pixel table.
 bool RecordedLine::AddRead(const double* values, int count) {
     if (!m_target.columns.HasPixel(m_pixel))
         return false;
@@ -80,7 +80,7 @@ bool RecordedLine::AddRead(const double* values, int count) {
             firstRow = rowOf(first);
     if (first == count)
         return true;
-    // The sample from which on all samples up to `i` fall on row `row`.
+    // The lowest index from which all samples up to `i` lie in row `row`.
     const auto beginOfPixel = [&](int i, int row) {
         while (i > first && rowOf(i - 1) == row)
             --i;
@@ -157,7 +157,8 @@ void RecordedLine::Covered::Add(const Covered& other) {
 }
 
 /// Whether the strokes of the current column cover the stroke between two of its values, both in pixels and
-/// in logical units. If they do not, the stroke is added to the covered ranges: the caller draws it.
+/// in logical units. If they do not, the result is false and the caller must draw the stroke, so the stroke
+/// is added to the covered ranges. Strokes that leave the pixel table are never covered.
 bool RecordedLine::IsCovered(double from, double to) {
     if (m_x != m_coveredX) {
         m_coveredX = m_x;
@@ -268,8 +269,8 @@ void RecordedLine::To(const Point& point) {
     }
 }
 
-/// Cuts the stroke from m_end to `point`, at least one of which lies outside the pixel table, and
-/// adds what remains.
+/// Cuts the stroke from m_end to `point`, at least one of which lies outside the pixel table, and adds what
+/// remains.
 void RecordedLine::ToFar(const Point& point) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return (from < edges.Begin() && to < edges.Begin()) || (from >= edges.End() && to >= edges.End());

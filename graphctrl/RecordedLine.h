@@ -30,8 +30,8 @@ public:
     /// covers the window and kMargin pixels round it.
     ///
     /// With markers, each stroke begins at the previous sample, even if the pixel rule has left that sample
-    /// out, because drawing its marker moves the current position there. The strokes are then drawn one by
-    /// one, except for those that the strokes of the same column cover already.
+    /// out, because drawing that sample's marker moves GDI's current position to it. The strokes are then
+    /// drawn one by one, except for those that the strokes of the same column cover already.
     RecordedLine(const LineTarget& target, const Rect& window, int penPixels, bool hasMarkers)
         : m_target(target), m_rows(target.yMap, target.rows), m_window(window), m_isThin(penPixels == 1),
           m_hasMarkers(hasMarkers) {}

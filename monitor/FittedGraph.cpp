@@ -13,7 +13,7 @@ namespace {
 
 // Logical units.
 constexpr int kLegendGap = 450;     // on the right of the text of a legend row
-constexpr int kMinLegendText = 600; // room for the texts at least
+constexpr int kMinLegendText = 600; // smallest width of the column of legend texts
 
 constexpr int kLegendShare = 3;    // the texts of the legend take at most a third of the window's width
 constexpr int kCaptionSize = 90;   // tenths of a point

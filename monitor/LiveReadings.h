@@ -25,7 +25,7 @@ public:
     static constexpr std::size_t kHistory = 300;
     /// Number of readings that are kept by default: those of a week.
     static constexpr std::size_t kKept = 604'800;
-    /// Number of readings for which the time axis has room at least.
+    /// The time axis always has room for at least this many readings.
     static constexpr std::size_t kShownAtLeast = 10;
 
     /// The values that the axis always covers: 0 to 100.
@@ -35,8 +35,9 @@ public:
 
     /// The effect of a change on the recording.
     struct Change {
-        std::size_t removed = 0;  ///< number of samples removed at the recording's head
-        bool unitChanged = false; ///< the network series have another unit
+        std::size_t removed = 0; ///< number of samples removed at the recording's head
+        bool unitChanged =
+            false; ///< whether the network series have changed to another unit, such as from KB/s to MB/s
     };
 
     /// Adds a reading of the local time `now`. `rates` are those since the previous reading.

@@ -17,7 +17,7 @@ struct GraphSource {
     std::shared_ptr<const recording::Recording> recording; ///< null: nothing
     recording::ValueSpan axisCovers;                       ///< values that the value axis always covers
     std::string valueLabel;         ///< text along the value axis when several series share it
-    std::size_t samplesAtLeast = 0; ///< number of samples for which the time axis has room at least
+    std::size_t samplesAtLeast = 0; ///< the time axis has room for at least this many samples
 };
 
 /// The graph control with a recording. The graph chooses everything that follows from the data and the
@@ -128,7 +128,7 @@ private:
     std::string m_timeTitle;
     bool m_fed = false;         ///< the control holds m_shown
     bool m_fedBars = false;     ///< m_shown was reduced for bars
-    std::size_t m_fedLimit = 0; ///< the limit of that reduction
+    std::size_t m_fedLimit = 0; ///< greatest number of samples of the reduction that made m_shown
     HeldMark m_heldMark;
     std::optional<std::size_t> m_markToKeep; ///< sample to mark after the next FeedAll
 };

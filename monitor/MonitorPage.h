@@ -54,7 +54,7 @@ public:
     /// The mouse pointer has moved: the host asks the page for its PointerTexts.
     virtual void ShowPointer() = 0;
 
-    /// Shows a notice for a short time, at most until ShowSelection.
+    /// Shows a notice for a short time. A call of ShowSelection ends it earlier.
     virtual void Say(const std::string& notice) = 0;
 
     /// Whether the page fills the whole client area, without menu bar and status bar.
@@ -97,8 +97,8 @@ public:
 
     // ---- What the main window's own commands need ----
 
-    /// The sample that the next page receives as PageContent::marked. By default the one that this
-    /// page received.
+    /// The sample that the next page receives as PageContent::marked. By default the one that this page
+    /// received.
     virtual std::optional<std::size_t> MarkedSample() { return Content().MarkedSample(); }
 
     /// Whether there is a mark, which Escape removes before it ends the filled state of the window.

@@ -1,4 +1,4 @@
-// Makes metafiles, and checks that the clipboard took them.
+// Copies a picture to the clipboard as a metafile, and checks whether a copy has reached the clipboard.
 
 #include "monitor/PictureCopy.h"
 

@@ -23,7 +23,8 @@ public:
     /// Whether the steps, or the moves, go towards smaller coordinates.
     bool StepsDown() const { return m_stepsDown; }
     bool MovesDown() const { return m_movesDown; }
-    /// 0 when the line moves exactly halfway between two pixels, 1 when it moves only after that.
+    /// Where the line passes exactly halfway between two pixels: 0 if it moves there, 1 if it moves one step
+    /// later.
     std::int64_t AtHalf() const { return m_movesDown ? 0 : 1; }
 
     /// Moves made at `step`.

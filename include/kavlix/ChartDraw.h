@@ -53,16 +53,16 @@ public:
     /// Removes a dataset. The indices of the later datasets decrease by one.
     BOOL RemoveDataset(int nDataset);
     void RemoveAllDatasets();
-    /// Appends a point. FALSE when there is no such dataset, and when memory runs out; a
-    /// message box then says so.
+    /// Appends a point. FALSE when there is no such dataset, and when memory runs out; a message box then
+    /// says so.
     BOOL AddData(int nDataset, double x, double y);
     /// Replaces all points of a dataset by `nCount` points, copied from `pX` and `pY`. If `pX` is null, each
     /// point's x is its index. FALSE, with nothing changed, when there is no such dataset, when `nCount` is
     /// negative, when `pY` is null and `nCount` positive, and when memory runs out; a message box reports
     /// only the last case.
     BOOL SetData(int nDataset, const double* pX, const double* pY, int nCount);
-    /// Removes all points of a dataset and keeps its attributes. Needs no memory. FALSE when there
-    /// is no such dataset.
+    /// Removes all points of a dataset and keeps its attributes. Needs no memory. FALSE when there is no such
+    /// dataset.
     BOOL ResetData(int nDataset);
     /// Number of points, or -1 when there is no such dataset.
     int GetDatasetSize(int nDataset) const;
@@ -106,8 +106,8 @@ public:
     void SetYLabel(CString text);
     /// Whether lines cross the plot at the ticks of each scale; default both TRUE.
     void SetGrid(BOOL bGridX, BOOL bGridY);
-    /// Font of all texts. `nSize` is in tenths of a point, clamped to 10..720. The title is a
-    /// third larger and bold.
+    /// Font of all texts. `nSize` is in tenths of a point, clamped to 10..720. The title is a third larger
+    /// and bold.
     void SetTextFont(int nSize, const char* pszFace);
     void SetBkColor(COLORREF color) { m_BkColor = color; }
     void SetTitleColor(COLORREF color) { m_TitleColor = color; }
@@ -244,10 +244,10 @@ private:
     COLORREF m_ZeroLineColor = RGB(176, 176, 176);
 
     // Results of the last CalcDatas.
-    bool m_Changed = true;  ///< data or properties have changed since then
+    bool m_Changed = true;  ///< data or properties have changed since the last CalcDatas
     CSize m_CalcSize{0, 0}; ///< size of the client area at that time
     int m_FontPixels = 0;   ///< character height of the texts' font
-    int m_TextHeight = 0;   ///< line height of that font, pixels
+    int m_TextHeight = 0;   ///< line height of the texts' font, pixels
     int m_TitleHeight = 0;  ///< line height of the title's font, pixels
     bool m_ShowTitle = false;
     bool m_ShowCaptions = false;

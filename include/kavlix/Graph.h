@@ -67,8 +67,8 @@ private:
     CObList* legends = nullptr;
 };
 
-/// A graph of whole numbers in one of eleven types. The host paints it into any device context,
-/// and prints it.
+/// A graph of whole numbers in one of eleven types. The host paints it into any device context, and prints
+/// it.
 ///
 /// A CGraph needs no window of its own and handles no messages. Setters only store; the next DrawGraph or
 /// PrintGraph shows what they stored. The host adds series (CGraphSeries), group colours and legend texts.
@@ -139,10 +139,11 @@ public:
     /// Depth of the 3D types as a fraction of the plot's width (default 0.05). Drawing limits the depth to
     /// half of the plot. A negative ratio, or NaN, gives no depth.
     void Set3DDepthRatio(double ratio) { depthRatio = ratio; }
-    /// Chooses the quadrants of a bar graph; ignored for other types. 1: values and keys from 0 up; 2:
-    /// negative keys too; 3: negative values too; 4: both. Any other number sets 1, and DrawGraph goes on
-    /// choosing the quadrants if it did before. With 3 and 4 the zero line lies in the middle of the value
-    /// axis, and each half reaches to the tick limit with the larger magnitude.
+    /// Chooses the quadrants of a bar graph; ignored for other types. The graph shows negative keys with
+    /// types 2 and 4, and negative values with types 3 and 4; type 1 shows neither. Until the host has set
+    /// one of these, DrawGraph chooses the type. Any other number sets 1 and does not end that choice. With 3
+    /// and 4 the zero line lies in the middle of the value axis, and each half reaches to the limit of
+    /// SetTickLimits with the larger absolute value.
     void SetGraphQuadType(int type);
     /// How far each ribbon of a 3D line graph reaches into the depth, in pixels to the right and up. 0, 0
     /// (the default): the ribbons share the depth of Set3DDepthRatio. All ribbons together reach at most over

@@ -302,10 +302,10 @@ protected:
     void GetSizes(int (&sizes)[DatasetCount]) const;
     /// Sets the selection mark and sends the event for assistive tools. No repaint, no notification.
     void StoreSelectionMark(int nPos);
-    /// State flags of menu items that need a selection mark: grayed without one.
+    /// MF_ flags of a menu item that needs a selection mark: grayed while there is no mark.
     UINT SelectionMarkItemState() const;
-    /// The result of GetPtFromIndex for sample `nIndex`, whose X position is `x` (logical units), if
-    /// it has one.
+    /// The result of GetPtFromIndex for sample `nIndex`. `x` is the sample's X position in logical units;
+    /// none if it has no position.
     CPoint PtOfSample(int nIndex, std::optional<int> x);
     /// Draws the datasets of the line styles and the selection mark. `xPositions` holds the X positions of
     /// the samples. `rangeOf(dataset)` is the range of samples that is drawn of a dataset.
@@ -352,8 +352,8 @@ protected:
     kavlix::LabelStore m_XTickLabelDown;
     BOOL m_ShowBorder = FALSE;
 
-    // Layout, in logical units unless said otherwise. Every paint sets it; before the first paint
-    // it is empty.
+    // Layout, in logical units unless said otherwise. Every paint sets it; before the first paint it is
+    // empty.
     CRect m_rectPlot;         ///< the data area
     CRect m_rectLegend;       ///< the legend board
     CRect m_rectTitle;        ///< the title area
@@ -438,8 +438,8 @@ private:
     void ClearSamples(CDataset& dataset);
 
     void MakeFonts();
-    /// Computes the layout for the client area `client` (logical units) and stores it in
-    /// the m_rect... members.
+    /// Computes the layout for the client area `client` (logical units) and stores it in the m_rect...
+    /// members.
     kavlix::GraphLayout LayOut(const CRect& client);
     /// Draws the texts beside the axes, not the tick labels.
     void DrawAxisLabels(CDC& dc, const kavlix::GraphLayout& layout);

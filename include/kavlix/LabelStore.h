@@ -82,8 +82,8 @@ public:
         const std::size_t before = m_texts.Size();
         const std::size_t gap = at > before ? at - before : 0;
         AddOrNone(gap + copies, [&](std::size_t i) { return i < gap ? CString() : copy; });
-        // The copies were appended. Swap each text behind `at` with the copy that stands
-        // `copies` places later.
+        // The copies now stand at the end. From the last old text back to the one at `at`, swap each with the
+        // copy that stands `copies` places later.
         for (std::size_t i = before; i-- > at;)
             std::swap(m_texts[i], m_texts[i + copies]);
     }

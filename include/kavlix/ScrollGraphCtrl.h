@@ -113,7 +113,8 @@ public:
     void SetTindroMode(bool bOn) { m_bTindroMode = bOn; }
     /// The time text that the menu command exported last; empty before the first export.
     CString GetTimeInfoFromSelectionMark() const { return m_strSelectionMarkTime; }
-    /// Sends WM_GRAPH_SELMARKTIME with that text to the parent, if the control has a parent.
+    /// Sends WM_GRAPH_SELMARKTIME with the text of GetTimeInfoFromSelectionMark to the parent, if the control
+    /// has a parent.
     void SendSelectionMarkTime();
 
     void InsertGraphMenu(CMenu& menu) override;
@@ -144,11 +145,11 @@ protected:
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
     /// Draws the upright label of the tick at `x`; the texts end at `y`. An empty `date` means the clock time
     /// `time` alone, otherwise `date` ("MM/DD") and `time` stand side by side. The caller has selected font
-    /// and colour. The text alignment is the one that the previous label has left.
+    /// and colour. A label without a date uses the text alignment that the label before it has set.
     virtual void DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time);
     void DrawGraphData(CDC& dc) override;
-    /// Line styles: of the samples of the last paint the one nearest in x; -1 outside the plot. Bar style: as
-    /// CGraphCtrl.
+    /// In the line styles, the sample nearest in x of those drawn at the last paint; -1 for a point outside
+    /// the plot. In the bar style, the result of CGraphCtrl.
     int GetIndexFromPt(CPoint point) override;
     CPoint GetPtFromIndex(int nIndex) override;
 
@@ -169,9 +170,9 @@ private:
     std::unique_ptr<kavlix::ZoneRules> m_zoneRules; ///< the system's rules of local time, kept for the labels
 
 protected:
-    // In x units.
+    // In x units, m_nUnitsPerSecond to a second.
     double m_dScrollPos = 0;      ///< left edge of the view
-    double m_dScrollMax = 1200.0; ///< right end of the scroll range
+    double m_dScrollMax = 1200.0; ///< right end of the scroll range, at first one minute
     double m_dScrollMin = 0;      ///< left end of the scroll range
     double m_dViewWidth = 1200.0; ///< width of the view: one minute
 

@@ -5,14 +5,15 @@ namespace kavlix::recording {
 
 /// Widths of a status bar's panes in pixels, from the left.
 struct PaneWidths {
-    int text = 0;    ///< the marked sample, or what is shown
+    int text = 0;    ///< the marked sample; without a mark, what the view shows
     int pointer = 0; ///< the sample under the mouse pointer
-    int summary = 0; ///< what was read
+    int summary = 0; ///< summary of the files that were read
 };
 
-/// Divides `width` among panes that want the widths `wanted`. The text pane gets what is left over. When
-/// there is not enough room, the summary shrinks first, and disappears below half of its wanted width. After
-/// that, neither of the other two gets more than half the bar while the other one lacks room.
+/// Divides `width`, the width of the status bar, among its three panes; `wanted` is what each pane needs. If
+/// there is room to spare, the text pane gets it. If there is too little, the summary pane shrinks first; it
+/// gets nothing if it would be narrower than half of what it needs. If the text and pointer panes still do
+/// not fit, a pane gets more than half of the bar only if the other one needs less than half.
 PaneWidths SharePanes(int width, PaneWidths wanted);
 
 } // namespace kavlix::recording

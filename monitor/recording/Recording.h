@@ -44,9 +44,9 @@ struct FileSummary {
     bool zoned = false;            ///< the file's times name a time zone: they were converted to UTC
     Time first = 0;                ///< earliest and latest time; meaningless when `rows` is 0
     Time last = 0;
-    Time interval = 0;          ///< median distance of neighbouring rows; 0 with fewer than two
+    Time interval = 0;          ///< median time between neighbouring rows; 0 with fewer than two rows
     std::uint64_t timeGaps = 0; ///< number of neighbouring rows farther apart than LongestStep(interval)
-    Time longestGap = 0;        ///< the greatest of their distances
+    Time longestGap = 0;        ///< the longest time between two such rows
     std::vector<SeriesSummary> series;
     MessageLog log;
 };

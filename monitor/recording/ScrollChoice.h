@@ -8,9 +8,10 @@
 
 namespace kavlix::recording {
 
-/// Divides series among an upper and a lower graph by their spans. The lower graph gets the series whose
-/// magnitude differs from the first one's; when there is none, it gets all but the first. Returns for each
-/// series whether it is in the lower graph.
+/// Divides series between an upper and a lower graph. The magnitude of a series is the larger absolute value
+/// of its two limits. A series goes to the lower graph if its magnitude is more than 4 times, or less than a
+/// quarter of, that of the first series. If no series does, all but the first go to the lower graph. The
+/// result says for each series whether it is in the lower graph.
 std::vector<bool> DivideByMagnitude(const std::vector<ValueSpan>& spans);
 
 /// The widths of the view that a person can choose, in seconds.

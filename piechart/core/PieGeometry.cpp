@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kPieControlPi = 3.1415926535; // hosts rely on angles computed with this value
 constexpr double kHalfCircle = 180.0;
-constexpr double kHalfCircleInverse = 0.005555555555555556; // a product rounds differently from a quotient
+constexpr double kHalfCircleInverse = 0.005555555555555556; // 1 / 180: hosts rely on this product's rounding
 constexpr double kRightwards = 90.0;
 constexpr double kLeftwards = 270.0;
 constexpr double kInnerCircle = 0.6000000000000001; // radius of the label circle, in radii of the pie

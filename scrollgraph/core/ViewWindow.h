@@ -12,7 +12,7 @@ struct ViewWindow {
     double pos = 0;   ///< left edge of the view
     double max = 0;   ///< right end of the scroll range
     double min = 0;   ///< left end of the scroll range
-    double width = 0; ///< of the view
+    double width = 0; ///< width of the view
 
     static constexpr double kInitialMax = 1200.0;      ///< right end of the range after a rewind
     static constexpr int kBarRange = 1200;             ///< range of the scroll bar
@@ -24,10 +24,11 @@ struct ViewWindow {
 
     /// Moves the view to 0 and gives the range its initial right end.
     void Rewind();
-    /// Moves the view to the right where the newest sample, at `xLast`, stands beyond nine tenths of its
-    /// width.
+    /// If the newest sample, at `xLast`, lies beyond nine tenths of the view's width, moves the view to the
+    /// right until the sample lies there.
     void Follow(double xLast);
-    /// Moves the view's left edge into the range, and the range's right end out to the view's right edge.
+    /// If the view begins left of the range, moves it to the range's left end. If the view then ends right of
+    /// the range, extends the range to the view's right edge.
     void Normalize();
 
     struct Arrival {

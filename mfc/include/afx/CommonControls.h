@@ -41,7 +41,8 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
 };
 
 /// A progress bar. The initial range is 0 to 100, the initial step 10.
@@ -66,7 +67,8 @@ public:
     int SetStep(int nStep) { return afx_control::Ask(m_hWnd, PBM_SETSTEP, Param(nStep)); }
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
 
@@ -111,7 +113,8 @@ public:
     void GetThumbRect(LPRECT lprc) const;
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
 };
 
 /// An up-down control, often next to an edit control (its buddy).
@@ -147,7 +150,8 @@ public:
     UINT GetAccel(int nAccel, UDACCEL* pAccel) const;
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
 };
 
 /// A tooltip window for the controls of a window. The program relays mouse messages, usually in
@@ -188,5 +192,6 @@ public:
     void Pop() { afx_control::Ask(m_hWnd, TTM_POP); }
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
 };

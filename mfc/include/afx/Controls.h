@@ -46,7 +46,8 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
     LRESULT SetImage(UINT kind, HANDLE image);
     LRESULT GetImage(UINT kind) const;
 };
@@ -86,7 +87,8 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
 };
 
 /// An edit control with one line or several lines. Character positions count from 0 through the whole text.
@@ -165,7 +167,8 @@ public:
     void Paste() { afx_control::Ask(m_hWnd, WM_PASTE); }
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
     static WPARAM Position(int index) { return static_cast<WPARAM>(static_cast<INT_PTR>(index)); }
 };
 
@@ -198,7 +201,8 @@ public:
     int GetScrollLimit();
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
 };
 
 #include "afx/ListControls.h"

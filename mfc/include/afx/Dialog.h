@@ -75,7 +75,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    using CWnd::Create; // hidden, not overridden: the dialog has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this dialog has its own.
+    using CWnd::Create;
 
     BOOL CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner);
     LPCDLGTEMPLATE FindTemplate();

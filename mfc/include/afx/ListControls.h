@@ -103,7 +103,8 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
 
@@ -156,8 +157,8 @@ public:
     int SetItemDataPtr(int nIndex, void* pData) {
         return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
     }
-    /// The buffer needs GetLBTextLen() characters and a zero. Returns the length; CB_ERR for an
-    /// invalid index.
+    /// The buffer needs GetLBTextLen() characters and a zero. Returns the length; CB_ERR for an invalid
+    /// index.
     int GetLBText(int nIndex, LPTSTR lpszText) const;
     /// The text is empty for an invalid index.
     void GetLBText(int nIndex, CString& rString) const;
@@ -208,6 +209,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    using CWnd::Create; // hidden, not overridden: the control has a window class of its own
+    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };

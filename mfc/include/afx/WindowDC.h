@@ -47,8 +47,8 @@ protected:
     HWND m_hWnd = nullptr;
 };
 
-/// A DC that records drawing. Questions about a device have answers only after SetAttribDC(). The destructor
-/// discards a recording that was not closed.
+/// A DC that records drawing. GetDeviceCaps() and other functions that read from a device work only after
+/// SetAttribDC(). The destructor discards a recording that was not closed.
 class MFC_API CMetaFileDC : public CDC {
     DECLARE_DYNAMIC(CMetaFileDC)
 

@@ -39,8 +39,8 @@ struct ViewWindow {
     /// there is one (`any`).
     Arrival Arrive(bool any, double xLast, double xNext);
 
-    /// Executes a command of the scroll bar; only ThumbTo reads `thumb` (0 to kBarRange). False for LineLeft
-    /// at the left end, which does nothing.
+    /// Executes a command of the scroll bar; only ThumbTo reads `thumb` (0 to kBarRange). LineLeft does nothing
+    /// and returns false when the view begins before x = 1.
     bool Step(ScrollStep step, unsigned thumb);
     /// Moves the view by one notch of the wheel, to older samples when `delta` is not negative. True when the
     /// view moved.

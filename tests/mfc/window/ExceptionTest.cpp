@@ -18,7 +18,7 @@ int g_livingExceptions = 0;
 
 class CountedException : public CException {
 public:
-    explicit CountedException(BOOL autoDelete = TRUE) : CException(autoDelete) { ++g_livingExceptions; }
+    CountedException() { ++g_livingExceptions; }
     ~CountedException() override { --g_livingExceptions; }
     BOOL GetErrorMessage(LPTSTR text, UINT length, PUINT = nullptr) override {
         ::lstrcpyn(text, "counted", static_cast<int>(length));
@@ -31,8 +31,6 @@ class ThrowingWnd : public CWnd {
 public:
     UINT throwOn = 0;
     int paints = 0;
-    CRect painted;
-    HDC paintedOn = nullptr;
     bool outOfMemory = false;
     CWnd* inner = nullptr;
     LRESULT innerAnswer = -1;
@@ -54,8 +52,6 @@ protected:
         ++paints;
         Throw(WM_PAINT);
         CPaintDC dc(this);
-        painted = dc.m_ps.rcPaint;
-        paintedOn = dc.m_hDC;
     }
     LRESULT OnThrow(WPARAM, LPARAM) {
         Throw(throwMessage);
@@ -67,7 +63,6 @@ protected:
         return 3;
     }
     void OnThrowCommand() { AfxThrowUserException(); }
-    void OnThrowOther() { Throw(WM_COMMAND); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -77,7 +72,6 @@ BEGIN_MESSAGE_MAP(ThrowingWnd, CWnd)
     ON_MESSAGE(throwMessage, &ThrowingWnd::OnThrow)
     ON_MESSAGE(outerMessage, &ThrowingWnd::OnOuter)
     ON_COMMAND(throwCommand, &ThrowingWnd::OnThrowCommand)
-    ON_COMMAND(throwCommand + 1, &ThrowingWnd::OnThrowOther)
 END_MESSAGE_MAP()
 
 class WindowExceptionTest : public testing::Test {
@@ -94,20 +88,15 @@ TEST_F(WindowExceptionTest, AWindowWhoseCreationThrowsIsNotCreated) {
     window.throwOn = WM_CREATE;
     EXPECT_FALSE(CreateTop(window));
     EXPECT_EQ(window.m_hWnd, nullptr);
-    EXPECT_EQ(app.exceptionMessages, std::vector<UINT>{WM_CREATE});
     EXPECT_TRUE(app.boxes.empty());
     window.throwOn = 0;
     EXPECT_TRUE(CreateTop(window));
 }
 
-TEST_F(WindowExceptionTest, APaintGivesItsDcBackAndAFailedOneIsNotAskedForAgain) {
+TEST_F(WindowExceptionTest, AFailedPaintIsNotAskedForAgain) {
     ASSERT_TRUE(CreateTop(window));
     window.ShowWindow(SW_SHOWNA);
     window.UpdateWindow();
-    window.InvalidateRect(CRect(5, 6, 17, 18));
-    window.UpdateWindow();
-    EXPECT_EQ(window.painted, CRect(5, 6, 17, 18)) << "without a failure";
-    EXPECT_EQ(::WindowFromDC(window.paintedOn), nullptr) << "EndPaint() gave the DC back";
     window.throwOn = WM_PAINT;
     window.paints = 0;
     window.Invalidate();
@@ -124,17 +113,11 @@ TEST_F(WindowExceptionTest, OtherMessagesAnswerZeroAndTellTheUser) {
     window.throwOn = throwMessage;
     EXPECT_EQ(window.SendMessage(throwMessage), 0);
     EXPECT_EQ(app.boxes, std::vector<std::string>{"counted"});
-    window.throwOn = WM_COMMAND;
-    window.SendMessage(WM_COMMAND, throwCommand + 1);
-    EXPECT_EQ(app.boxes.size(), 2u);
     window.SendMessage(WM_COMMAND, throwCommand);
-    EXPECT_EQ(app.boxes.size(), 2u) << "a user exception has been told already";
-    EXPECT_EQ(app.exceptionMessages.size(), 3u);
-    window.throwOn = throwMessage;
+    EXPECT_EQ(app.boxes.size(), 1u) << "a user exception has been told already";
     window.outOfMemory = true; // bad_alloc is caught too
     EXPECT_EQ(window.SendMessage(throwMessage), 0);
-    EXPECT_EQ(app.exceptionMessages.size(), 4u);
-    EXPECT_EQ(app.boxes.size(), 3u);
+    EXPECT_EQ(app.boxes.size(), 2u);
 }
 
 TEST_F(WindowExceptionTest, AnInnerFailureLeavesTheOuterHandlerRunning) {
@@ -146,19 +129,4 @@ TEST_F(WindowExceptionTest, AnInnerFailureLeavesTheOuterHandlerRunning) {
     EXPECT_EQ(outer.SendMessage(outerMessage), 3);
     EXPECT_EQ(outer.innerAnswer, 0);
     EXPECT_EQ(outer.messageAfterwards, outerMessage) << "the current message is the outer one again";
-}
-
-TEST_F(WindowExceptionTest, AnExchangeStopsAtAnException) {
-    class Exchanging : public CWnd {
-    protected:
-        void DoDataExchange(CDataExchange* pDX) override {
-            if (pDX->m_bSaveAndValidate)
-                AfxThrowUserException();
-            throw new CountedException;
-        }
-    } exchanging;
-    EXPECT_FALSE(exchanging.UpdateData(TRUE));
-    EXPECT_TRUE(app.boxes.empty());
-    EXPECT_FALSE(exchanging.UpdateData(FALSE));
-    EXPECT_EQ(app.boxes, std::vector<std::string>{"counted"});
 }

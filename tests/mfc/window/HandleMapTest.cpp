@@ -47,16 +47,13 @@ protected:
 } // namespace
 
 TEST_F(HandleMapTest, TemporaryObjectsAreSharedAndEndWhenIdle) {
-    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(window.foreign), nullptr);
     EXPECT_EQ(MapCounts::Now().temporary, 0u);
 
     CWnd* const temporary = window.GetDlgItem(5);
-    ASSERT_NE(temporary, nullptr);
     EXPECT_EQ(temporary->m_hWnd, window.foreign);
     EXPECT_EQ(CWnd::FromHandle(window.foreign), temporary);
     EXPECT_EQ(CWnd::FromHandlePermanent(window.foreign), nullptr);
-    EXPECT_EQ(temporary->GetParent(), &window) << "an attached window is found as itself";
     EXPECT_EQ(MapCounts::Now().temporary, 1u);
 
     windowkit::RunIdle();
@@ -71,8 +68,6 @@ TEST_F(HandleMapTest, AnObjectAttachedLaterTakesTheTemporarysPlace) {
     EXPECT_EQ(CWnd::FromHandle(window.foreign), &object);
     EXPECT_EQ(temporary->m_hWnd, window.foreign) << "who holds the temporary one can go on";
     object.Detach();
-    CWnd::FromHandle(window.foreign)->Detach();
-    EXPECT_EQ(CWnd::FromHandle(window.foreign)->m_hWnd, window.foreign);
 }
 
 TEST_F(HandleMapTest, TemporaryObjectsOutliveTheLoopsOfTheHandlerThatHoldsThem) {
@@ -89,11 +84,4 @@ TEST_F(HandleMapTest, EachThreadHasMapsOfItsOwn) {
         EXPECT_EQ(MapCounts::Now().temporary, 1u);
     }).join();
     EXPECT_EQ(MapCounts::Now().temporary, 0u);
-}
-
-TEST_F(HandleMapTest, PlacementConstantsAreNotWindows) {
-    for (const CWnd* const place : {&CWnd::wndTopMost, &CWnd::wndNoTopMost}) {
-        EXPECT_TRUE(window.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
-        EXPECT_EQ((window.GetExStyle() & WS_EX_TOPMOST) != 0, place == &CWnd::wndTopMost);
-    }
 }

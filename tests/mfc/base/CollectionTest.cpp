@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "tests/mfc/Refusal.h"
-#include "tests/support/AllocationGuard.h"
 
 namespace {
 
@@ -68,16 +67,6 @@ TEST(List, PositionsSurviveChangesElsewhere) {
     EXPECT_EQ("12aD12", Join(list));
     list.RemoveAll();
     EXPECT_TRUE(list.IsEmpty());
-}
-
-TEST(List, FindsBehindAPosition) {
-    CList<int, int> list;
-    for (const int value : {5, 6, 5, 7})
-        list.AddTail(value);
-    const POSITION first = list.Find(5);
-    EXPECT_EQ(list.FindIndex(0), first);
-    EXPECT_EQ(list.FindIndex(2), list.Find(5, first));
-    EXPECT_EQ(nullptr, list.FindIndex(4));
 }
 
 TEST(List, WalkMayRemoveWhatItHasPassed) {
@@ -157,27 +146,6 @@ TEST(Map, TextKeysCompareByCharacters) {
     EXPECT_TRUE(map.Lookup(CString("key"), value));
     EXPECT_STREQ("two", value);
     EXPECT_FALSE(map.Lookup("Key", value));
-
-    CTypedPtrMap<CMapStringToOb, CString, CMapStringToString*> typed;
-    typed.SetAt("map", &map);
-    CMapStringToString* found = nullptr;
-    EXPECT_TRUE(typed.Lookup("map", found));
-    EXPECT_EQ(&map, found);
-}
-
-TEST(Map, StaysAsItWasWhenMemoryRunsOut) {
-    for (int n = 1;; ++n) {
-        CMap<int, int, int, int> map;
-        testkit::AllocationGuard guard;
-        guard.FailAt(n);
-        if (!Throws<CMemoryException>([&] { map.SetAt(1, 2); })) {
-            EXPECT_GT(n, 2) << "table and element";
-            break;
-        }
-        int value = 0;
-        EXPECT_FALSE(map.Lookup(1, value));
-        EXPECT_EQ(0, map.GetCount());
-    }
 }
 
 } // namespace

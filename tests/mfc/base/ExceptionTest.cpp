@@ -70,31 +70,6 @@ TEST(ExceptionMacros, TheFirstFittingBlockCatchesAndDeletes) {
     EXPECT_EQ(0, CCountedException::alive) << "the macro deletes it";
 }
 
-// clang-format off
-TEST(ExceptionMacros, ThrowLastPassesTheSameObjectOn) {
-    CException* first = nullptr;
-    CException* second = nullptr;
-    TRY {
-        TRY {
-            THROW(new CSpecialException);
-        }
-        CATCH(CSpecialException, e) {
-            first = e;
-            THROW_LAST();
-        }
-        END_CATCH
-    }
-    CATCH_ALL(e) {
-        second = e;
-        EXPECT_EQ(1, CCountedException::alive);
-    }
-    END_CATCH_ALL
-    EXPECT_NE(nullptr, first);
-    EXPECT_EQ(first, second);
-    EXPECT_EQ(0, CCountedException::alive);
-}
-// clang-format on
-
 TEST(Exception, MessagesAreCutToTheirBuffer) {
     CFileException file(CFileException::fileNotFound, -1, "C:\\data.csv");
     EXPECT_EQ("C:\\data.csv was not found.", MessageOf(std::move(file)));

@@ -152,27 +152,6 @@ TEST_F(File, ShareFlagsKeepOthersOut) {
     }
 }
 
-TEST_F(File, StatusIsReadAndSet) {
-    m_folder.Write("s.txt", "12345");
-    CFileStatus status;
-    ASSERT_TRUE(CFile::GetStatus(Path("s.txt"), status));
-    EXPECT_EQ(5u, status.m_size);
-    EXPECT_TRUE(Path("s.txt") == status.m_szFullName);
-    status.m_mtime = CTime(1000000000);
-    status.m_attribute = CFile::readOnly | CFile::hidden;
-    CFile::SetStatus(Path("s.txt"), status);
-    CFileStatus changed;
-    ASSERT_TRUE(CFile::GetStatus(Path("s.txt"), changed));
-    EXPECT_EQ(1000000000, changed.m_mtime.GetTime());
-    EXPECT_NE(0, changed.m_attribute & CFile::readOnly);
-    changed.m_attribute = CFile::normal;
-    CFile::SetStatus(Path("s.txt"), changed);
-    CFile::Rename(Path("s.txt"), Path("t.txt"));
-    CFile file(Path("t.txt"), CFile::modeReadWrite);
-    ASSERT_TRUE(file.GetStatus(changed));
-    EXPECT_EQ(5u, changed.m_size);
-}
-
 TEST_F(File, TextFilesHaveOneLineEndInMemory) {
     {
         CStdioFile file(Path("t.txt"), CFile::modeCreate | CFile::modeWrite | CFile::typeText);

@@ -209,16 +209,6 @@ TEST(String, NothingAndTooMuchAreTakenWell) {
     EXPECT_REFUSED(text.SetAt(-1, 'x'));
 }
 
-TEST(String, MovingLeavesAnEmptyStringAndCopiesNothing) {
-    CString source('m', 1000);
-    const LPCTSTR characters = source;
-    CString target(std::move(source));
-    EXPECT_EQ(characters, static_cast<LPCTSTR>(target));
-    EXPECT_TRUE(source.IsEmpty());
-    source = std::move(target);
-    EXPECT_EQ(characters, static_cast<LPCTSTR>(source));
-}
-
 TEST(String, OrdersBytesAndFollowsTheCodePage) {
     EXPECT_TRUE(CString("\xE9") > "z") << "bytes are unsigned";
     EXPECT_EQ(-1, CString("_").CompareNoCase("A"))

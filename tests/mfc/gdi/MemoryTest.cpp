@@ -8,9 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <thread>
-
 namespace {
 
 using testkit::OnFailure;
@@ -53,10 +50,8 @@ TEST(HandleMemory, NoHandleIsLost) {
         {"DC", OnFailure::False, [](Handles& s) { return s.made.CreateCompatibleDC(nullptr) != 0; }},
         {"recording", OnFailure::False,
          [](Handles& s) { return s.recorder.CreateEnhanced(nullptr, nullptr, nullptr, nullptr) != 0; }},
-        {"old recording", OnFailure::False, [](Handles& s) { return s.recorder.Create() != 0; }},
         {"menu", OnFailure::False, [](Handles& s) { return s.menu.CreatePopupMenu() != 0; }},
         {"window's DC", OnFailure::False, [](Handles& s) { return s.Takes<CClientDC>(); }},
-        {"whole window's DC", OnFailure::False, [](Handles& s) { return s.Takes<CWindowDC>(); }},
         {"paint's DC", OnFailure::False, [](Handles& s) { return s.Takes<CPaintDC>(); }},
         {"wrapped DC", OnFailure::False, [](Handles& s) { return s.Releases(s.window.GetDC()); }},
         {"select", OnFailure::False, [](Handles& s) { return s.dc.SelectObject(&s.brush) != nullptr; }},
@@ -68,16 +63,6 @@ TEST(HandleMemory, NoHandleIsLost) {
          [](Handles& s) { return s.child.Attach(::GetDesktopWindow()) && s.child.Detach() != nullptr; }},
     });
     EXPECT_GE(failures, 30);
-}
-
-TEST(HandleMemory, LettingGoNeedsNone) {
-    auto pen = std::make_unique<CPen>(PS_SOLID, 1, RGB(0, 0, 0));
-    std::thread([&] { // which has no maps of its own
-        testkit::AllocationGuard memory;
-        memory.FailAt(1, true);
-        pen.reset();
-    })
-        .join();
 }
 
 } // namespace

@@ -1,8 +1,6 @@
-// Temporary window objects: when they are shared, replaced and deleted, and that each thread has its own.
+// Temporary window objects: when they are shared, replaced and deleted.
 
 #include <gtest/gtest.h>
-
-#include <thread>
 
 #include "tests/mfc/window/WindowKit.h"
 
@@ -74,14 +72,5 @@ TEST_F(HandleMapTest, TemporaryObjectsOutliveTheLoopsOfTheHandlerThatHoldsThem) 
     window.SendMessage(loopMessage);
     EXPECT_TRUE(window.survivedLoop);
     AfxGetThread()->OnIdle(0);
-    EXPECT_EQ(MapCounts::Now().temporary, 0u);
-}
-
-TEST_F(HandleMapTest, EachThreadHasMapsOfItsOwn) {
-    std::thread([&] {
-        EXPECT_EQ(CWnd::FromHandlePermanent(window.m_hWnd), nullptr);
-        EXPECT_NE(CWnd::FromHandle(window.m_hWnd), nullptr);
-        EXPECT_EQ(MapCounts::Now().temporary, 1u);
-    }).join();
     EXPECT_EQ(MapCounts::Now().temporary, 0u);
 }

@@ -193,26 +193,7 @@ TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
         EXPECT_EQ(window.m_hWnd, nullptr);
     }
     EXPECT_TRUE(::IsWindow(given));
-    {
-        LoggedWnd window(log);
-        window.Attach(given);
-        window.SendMessage(dieMessage);
-        EXPECT_TRUE(::IsWindow(given) && log.empty()) << "attaching does not route messages";
-        EXPECT_TRUE(window.DestroyWindow());
-        EXPECT_EQ(window.m_hWnd, nullptr);
-    }
-    EXPECT_FALSE(::IsWindow(given));
-}
-
-TEST_F(LifetimeTest, TheMainWindowEndsTheMessageLoop) {
-    windowkit::ScopedApp app;
-    LoggedWnd main(log);
-    ASSERT_TRUE(CreateTop(main));
-    app.m_pMainWnd = &main;
-    EXPECT_EQ(AfxGetMainWnd(), &main);
-    main.DestroyWindow();
-    EXPECT_EQ(app.m_pMainWnd, nullptr);
-    EXPECT_TRUE(windowkit::TakeQuit());
+    ::DestroyWindow(given);
 }
 
 TEST_F(LifetimeTest, AFrameDeletesItselfAlsoWhenItsCreationFails) {

@@ -58,21 +58,6 @@ TEST_F(ModuleTest, TheResourceModuleComesFirst) {
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDR_FRAME), RT_MENU), program);
 }
 
-TEST_F(ModuleTest, LinksAreSearchedLastFirstAndSystemOnesAtTheEnd) {
-    const HINSTANCE user = ::GetModuleHandle("user32.dll");
-    const HINSTANCE gdi = ::GetModuleHandle("gdi32.dll");
-    ASSERT_EQ(VersionOwner(), kavlix) << "the test program has none of its own";
-    auto* const first = new CDynLinkLibrary(user, user);
-    EXPECT_EQ(VersionOwner(), user);
-    auto* const second = new CDynLinkLibrary(gdi, gdi);
-    EXPECT_EQ(VersionOwner(), gdi);
-    second->m_bSystem = TRUE;
-    EXPECT_EQ(VersionOwner(), user);
-    delete first;
-    EXPECT_EQ(VersionOwner(), kavlix);
-    delete second;
-}
-
 TEST_F(ModuleTest, AnExtensionModulesLinksAndClassesEndWithIt) {
     AFX_EXTENSION_MODULE module{};
     const HINSTANCE dll = ::GetModuleHandle("gdi32.dll");

@@ -10,9 +10,7 @@ namespace {
 
 class ApiWnd : public CWnd {
 public:
-    CScrollBar* bar = nullptr; ///< stands in the place of the window's own horizontal bar
     int changes = 0;
-    CScrollBar* GetScrollBarCtrl(int which) const override { return which == SB_HORZ ? bar : nullptr; }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override {
@@ -54,21 +52,6 @@ TEST_F(WindowApiTest, CenteringKeepsTheWindowInsideItsArea) {
     EXPECT_EQ(centred().left, 0) << "too wide: the left edge stays in sight";
 }
 
-TEST_F(WindowApiTest, AScrollBarControlStandsInForTheWindowsBar) {
-    CScrollBar bar;
-    ASSERT_TRUE(bar.Create(WS_CHILD | SBS_HORZ, CRect(0, 0, 100, 16), &window, 3));
-    window.bar = &bar;
-    window.SetScrollRange(SB_HORZ, 10, 90, FALSE);
-    window.SetScrollPos(SB_HORZ, 40, FALSE);
-    EXPECT_EQ(::GetScrollPos(bar.m_hWnd, SB_CTL), 40);
-    EXPECT_EQ(window.GetScrollPos(SB_HORZ), 40);
-    SCROLLINFO info{};
-    info.fMask = SIF_PAGE;
-    info.nPage = 21;
-    EXPECT_TRUE(window.SetScrollInfo(SB_HORZ, &info, FALSE));
-    EXPECT_EQ(window.GetScrollLimit(SB_HORZ), 70);
-}
-
 TEST_F(WindowApiTest, AnExchangeIsNotTakenForTheUsersInput) {
     ASSERT_NE(windowkit::CreateForeign("EDIT", &window, 4), nullptr);
     ASSERT_TRUE(window.UpdateData(FALSE));
@@ -78,28 +61,4 @@ TEST_F(WindowApiTest, AnExchangeIsNotTakenForTheUsersInput) {
     EXPECT_EQ(window.changes, 0);
     window.SetDlgItemText(4, "set by hand");
     EXPECT_EQ(window.changes, 1);
-}
-
-TEST_F(WindowApiTest, OwnerDrawnMenusDrawThemselves) {
-    class DrawnMenu : public CMenu {
-    public:
-        std::string log;
-        void MeasureItem(LPMEASUREITEMSTRUCT item) override {
-            log += "measure " + std::to_string(item->itemID);
-        }
-        void DrawItem(LPDRAWITEMSTRUCT item) override { log += " draw " + std::to_string(item->itemID); }
-    } menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_OWNERDRAW, 61, "x");
-    window.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu));
-    MEASUREITEMSTRUCT measure{};
-    measure.CtlType = ODT_MENU;
-    measure.itemID = 61;
-    window.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
-    DRAWITEMSTRUCT draw{};
-    draw.CtlType = ODT_MENU;
-    draw.itemID = 61;
-    draw.hwndItem = reinterpret_cast<HWND>(menu.m_hMenu);
-    window.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
-    EXPECT_EQ(menu.log, "measure 61 draw 61");
 }

@@ -65,37 +65,26 @@ struct FormerApp {
     CWinApp* former = AfxGetModuleState()->m_pCurrentWinApp;
 };
 
-/// Replaces the test program's application while the object exists. Logs message boxes, which are not shown,
-/// and uncaught exceptions.
+/// Replaces the test program's application while the object exists. Logs message boxes, which are not shown.
 class ScopedApp : private FormerApp, public CWinApp {
 public:
     ScopedApp() : CWinApp("Scoped") { m_hInstance = AfxGetInstanceHandle(); }
     ~ScopedApp() override { AfxGetModuleState()->m_pCurrentWinApp = former; }
 
-    std::vector<std::string> boxes;      ///< texts of message boxes
-    std::vector<UINT> exceptionMessages; ///< messages whose handlers let an exception out
+    std::vector<std::string> boxes; ///< texts of message boxes
     int DoMessageBox(LPCTSTR prompt, UINT, UINT) override {
         boxes.emplace_back(prompt);
         return IDOK;
     }
-    LRESULT ProcessWndProcException(CException* e, const MSG* message) override {
-        exceptionMessages.push_back(message->message);
-        return CWinApp::ProcessWndProcException(e, message);
-    }
 };
 
-/// Removes WM_QUIT from the queue; false if there is none.
-inline bool TakeQuit(int* status = nullptr) {
+/// Removes every message from the queue; whether WM_QUIT was among them.
+inline bool TakeQuit() {
     MSG message{};
     bool found = false;
     while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
-        if (message.message == WM_QUIT) {
-            found = true;
-            if (status != nullptr)
-                *status = static_cast<int>(message.wParam);
-        } else {
-            ::DispatchMessage(&message);
-        }
+        found = found || message.message == WM_QUIT;
+        ::DispatchMessage(&message);
     }
     return found;
 }

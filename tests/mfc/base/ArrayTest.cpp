@@ -1,4 +1,4 @@
-// CArray and the arrays made of it: random calls against std::vector, growth, and memory that runs out.
+// CArray and the arrays made of it: random calls against std::vector, and memory that runs out.
 
 #include <afxtempl.h>
 

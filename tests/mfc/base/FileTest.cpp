@@ -1,4 +1,4 @@
-// CFile, CStdioFile and CMemFile: random calls against a text, names, modes, sharing and status.
+// CFile, CStdioFile and CMemFile: random calls against a text, names, modes and sharing.
 
 #include <afx.h>
 

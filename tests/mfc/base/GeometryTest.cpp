@@ -1,4 +1,4 @@
-// CPoint, CSize and CRect: their own arithmetic, and which system function stands behind which operator.
+// CPoint, CSize and CRect: the arithmetic of their members and operators.
 
 #include <afx.h>
 

@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
-#include "tests/mfc/Refusal.h"
 #include "tests/mfc/base/BaseTestIds.h"
 
 namespace {

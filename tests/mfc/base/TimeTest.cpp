@@ -8,7 +8,6 @@
 #include <string>
 #include <tuple>
 
-#include "tests/mfc/Refusal.h"
 #include "tests/support/ImportHook.h"
 
 namespace {

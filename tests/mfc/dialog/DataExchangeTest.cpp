@@ -1,4 +1,4 @@
-// Data exchange between members and controls: every DDX_ and DDV_ routine, and what the user is shown.
+// Data exchange between members and controls: the DDX_ and DDV_ routines, and what the user is shown.
 
 #include <afxcmn.h>
 #include <afxwin.h>

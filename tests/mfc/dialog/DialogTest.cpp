@@ -1,4 +1,4 @@
-// CDialog: modal and modeless life, owners, keys, places, lists from resources, and templates in memory.
+// CDialog: modal and modeless life, owners, keys, places, lists from resources, and a template in memory.
 
 #include <afxwin.h>
 

@@ -1,4 +1,4 @@
-// CDC: selected objects, output and attributes in two DCs, mapping, clips, fills and texts.
+// CDC: selected objects, output and attributes in two DCs, mapping, clips and fills.
 
 #include <afxwin.h>
 

@@ -1,4 +1,4 @@
-// CFrameWnd: resources of its ID, menus brought up to date, command routing, the pane.
+// CFrameWnd: menus brought up to date, command routing, the pane.
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include "tests/mfc/window/WindowKit.h"
 #include "tests/mfc/window/window_ids.h"
 
-using windowkit::Log, windowkit::Taken;
+using windowkit::Log;
 
 namespace {
 class FrameApp : public windowkit::ScopedApp {

@@ -38,8 +38,7 @@ TEST(ChartDataTest, IndicesOutsideTheirRangeChangeNothing) {
     EXPECT_EQ(chart.GetDatasetCount(), 1);
     chart.RemoveAllDatasets();
     EXPECT_EQ(chart.GetDatasetCount(), 0);
-    EXPECT_FALSE(chart.CopyToClipboard() || chart.CopyToFile("x.bmp") || chart.SaveImage("x.png"))
-        << "without a window";
+    EXPECT_FALSE(chart.CopyToClipboard() || chart.CopyToFile("x.bmp") || chart.SaveImage("x.png"));
 }
 
 TEST_F(ChartTest, ScalesFollowWhatIsShownOrWhatIsSet) {

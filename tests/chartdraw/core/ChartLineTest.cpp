@@ -38,17 +38,13 @@ TEST(ChartLineTest, FarStrokesKeepTheirDirection) {
         std::vector<std::pair<double, double>> positions;
         std::vector<double> crossings; ///< of column 400
     } cases[] = {
-        {"near", {{0, 0}, {800, 600}}, {300}},
         {"to far right", {{0, 100}, {1e9, 100 + 5e8}}, {300}},
         {"from far left", {{-1e12, 3e12 + 100}, {800, 100 - 2400}}, {100 - 1200}},
         {"beyond all digits", {{0, 100}, {1e200, 5e199}}, {300}},
-        {"back from there", {{1e200, 5e199}, {0, 100}}, {300}},
-        {"through, from far to far", {{-4e8 + 400, 300}, {4e8 + 400, 300}}, {300}},
         {"aslant, from far to far", {{-4e8 + 400, -2e8 + 300}, {4e8 + 400, 2e8 + 300}}, {300}},
         {"past it", {{-1e9, 1e8}, {1e9, 1e9}}, {}},
         {"out and back", {{0, 300}, {1e10, 300}, {0, 300}}, {300, 300}},
         {"out, round a corner far away, back", {{0, 300}, {1e10, 300}, {1e10, 1e11}, {-1e10, 1e11}}, {300}},
-        {"infinite", {{0, 250}, {INFINITY, 250}}, {250}},
         {"infinite both ways", {{-INFINITY, INFINITY}, {INFINITY, INFINITY}, {-INFINITY, -INFINITY}}, {}},
         {"a gap", {{0, 10}, {NAN, 10}, {800, 10}, {0, NAN}, {0, 20}, {800, 20}}, {20}},
     };

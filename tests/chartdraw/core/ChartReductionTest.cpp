@@ -122,21 +122,3 @@ TEST(ChartReduction, HandsOnWhatThePixelsTake) {
         EXPECT_LE(canvas.handedOn, view.most) << view.name;
     }
 }
-
-TEST(ChartReduction, PointsFarAwayAndWithoutAPlaceBreakNothing) {
-    ChartSeries series;
-    for (int i = 0; i < 200; ++i)
-        series.Append(i % 50 == 49 ? INFINITY : i % 31 == 30 ? -1e308 : i, i % 40 == 39 ? -INFINITY : i % 7);
-    for (const LinearMap& xMap : {LinearMap(0, 200, 0, kWidth - 1), LinearMap(0, 200, 0, 0),
-                                  LinearMap(-1e308, 1e308, 0, kWidth - 1), LinearMap(3, 3, 0, kWidth - 1)}) {
-        Canvas reduced, straight;
-        WalkReduced(series, xMap, kWholeY, reduced);
-        // The same line without the reduction.
-        ReducedPath path(kView, [&](const Point* points, int count) { straight.Draw(points, count); });
-        ChartLine line(path, straight.lone);
-        for (int i = 0; i < series.Size(); ++i)
-            line.Add(xMap.ExactPosition(series[i].x), kWholeY.ExactPosition(series[i].y));
-        line.End();
-        EXPECT_EQ(reduced.pixels, straight.pixels);
-    }
-}

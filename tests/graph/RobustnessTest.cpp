@@ -6,28 +6,6 @@
 #include <climits>
 #include <cmath>
 
-namespace {
-
-/// Calls members that hosts cannot.
-template <auto... Steps> struct OpenSteps {
-    friend void RunSteps(CGraph& graph, CDC* dc) { ((graph.*Steps)(dc), ...); }
-};
-void RunSteps(CGraph& graph, CDC* dc);
-template struct OpenSteps<&CGraph::DrawAxis, &CGraph::DrawLegend, &CGraph::DrawSeries, &CGraph::DrawBarSeries,
-                          &CGraph::DrawLineSeries, &CGraph::DrawPieSeries, &CGraph::DrawScatterSeries,
-                          &CGraph::DrawBoxWhiskerSeries, &CGraph::DrawStackedBarSeries,
-                          &CGraph::DrawXYLineSeries, &CGraph::Draw3DBarSeries, &CGraph::Draw3DLineSeries,
-                          &CGraph::Draw3DPieSeries, &CGraph::Draw3DStackedBarSeries>;
-
-} // namespace
-
-TEST_F(MultiGraphTest, StepsOutsideADrawingDoNothing) {
-    Make(0);
-    Fill({{50, 20}});
-    RunSteps(*graph, nullptr);
-    EXPECT_EQ(graph->xAxisWidth, 0);
-}
-
 TEST_F(MultiGraphTest, AnAttributeDcChangesNoPixel) {
     // Such a DC gets every shape and text by plain calls, measured where the host says.
     for (const int type : kAllTypes)

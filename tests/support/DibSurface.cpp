@@ -83,13 +83,6 @@ RECT DibSurface::Bounds(COLORREF colour) const {
     return bounds.right == 0 ? RECT{0, 0, 0, 0} : bounds;
 }
 
-int DibSurface::Columns(COLORREF colour, int left, int right) const {
-    int columns = 0;
-    for (int x = left; x < right; ++x)
-        columns += Count(colour, {x, 0, x + 1, m_height}) > 0;
-    return columns;
-}
-
 void DibSurface::Copy(HDC source) {
     const int saved = SaveDC(m_dc);
     SetMapMode(m_dc, MM_TEXT);

@@ -31,8 +31,6 @@ public:
     int Count(COLORREF colour) const;
     /// The smallest rectangle that holds every pixel of the colour; empty when there is none.
     RECT Bounds(COLORREF colour) const;
-    /// How many of the pixel columns [left, right) hold the colour.
-    int Columns(COLORREF colour, int left, int right) const;
 
     /// Copies what a window's DC shows into this picture, from (0, 0) on.
     void Grab(HWND window);

@@ -100,10 +100,6 @@ void CountUser(ObjectCounts& counts) {
 
 } // namespace
 
-int ObjectCounts::Gdi() const {
-    return pens + brushes + fonts + bitmaps + regions + dcs + otherGdi;
-}
-
 bool ObjectCounts::operator==(const ObjectCounts& other) const {
     return pens == other.pens && brushes == other.brushes && fonts == other.fonts &&
            bitmaps == other.bitmaps && regions == other.regions && dcs == other.dcs &&

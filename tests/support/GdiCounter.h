@@ -19,8 +19,6 @@ struct ObjectCounts {
     int windows = 0;
     int menus = 0;
 
-    /// All GDI objects together.
-    int Gdi() const;
     bool operator==(const ObjectCounts& other) const;
 };
 

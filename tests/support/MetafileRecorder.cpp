@@ -14,7 +14,8 @@ constexpr DWORD kStockObject = 0x80000000;
 /// Records of state that no test reads.
 constexpr DWORD kUnread[] = {EMR_SETBKCOLOR,        EMR_SETROP2,        EMR_SETPOLYFILLMODE,
                              EMR_SETSTRETCHBLTMODE, EMR_SETWINDOWORGEX, EMR_SETVIEWPORTORGEX,
-                             EMR_SETBRUSHORGEX,     EMR_SETMITERLIMIT,  EMR_SETLAYOUT};
+                             EMR_SETBRUSHORGEX,     EMR_SETMITERLIMIT,  EMR_SETLAYOUT,
+                             EMR_SETBKMODE,         EMR_SETWINDOWEXTEX, EMR_SETVIEWPORTEXTEX};
 
 template <class T> const T& As(const ENHMETARECORD& record) {
     return reinterpret_cast<const T&>(record);
@@ -193,17 +194,8 @@ void MetafileRecorder::Read(const Header& record) {
     case EMR_SETTEXTALIGN:
         m_state.textAlign = As<EMRSETTEXTALIGN>(record).iMode;
         return;
-    case EMR_SETBKMODE:
-        m_state.bkMode = static_cast<int>(As<EMRSETBKMODE>(record).iMode);
-        return;
     case EMR_SETMAPMODE:
         m_state.mapMode = static_cast<int>(As<EMRSETMAPMODE>(record).iMode);
-        return;
-    case EMR_SETWINDOWEXTEX:
-        m_state.windowExt = As<EMRSETWINDOWEXTEX>(record).szlExtent;
-        return;
-    case EMR_SETVIEWPORTEXTEX:
-        m_state.viewportExt = As<EMRSETVIEWPORTEXTEX>(record).szlExtent;
         return;
     case EMR_SAVEDC:
         return m_saved.push_back(m_state);
@@ -230,7 +222,6 @@ void MetafileRecorder::Make(const Header& record, char kind, const std::string& 
     const DWORD handle = As<EMRSELECTOBJECT>(record).ihObject; // all records of objects begin with the handle
     m_objects[handle] = {kind, value};
     m_lastMade = handle;
-    ++m_objectsMade;
 }
 
 void MetafileRecorder::Delete(DWORD handle) {
@@ -361,10 +352,8 @@ void MetafileRecorder::ReadShape(const Header& record, DWORD lastMade) {
         const auto brush = m_objects.find(fill.ihBrush);
         m_records.back().brush = brush == m_objects.end() ? "unknown" : brush->second.value;
         // GDI records a brush of its own for each fill and does not delete this brush.
-        if (brush != m_objects.end() && fill.ihBrush == lastMade) {
+        if (brush != m_objects.end() && fill.ihBrush == lastMade)
             m_objects.erase(brush);
-            --m_objectsMade;
-        }
         return;
     }
     case EMR_PAINTRGN:

@@ -30,10 +30,7 @@ struct MetafileState {
     std::string font = "stock";         ///< face, height, "bold" from weight 700, "@" escapement when not 0
     COLORREF textColor = RGB(0, 0, 0);
     UINT textAlign = TA_LEFT | TA_TOP;
-    int bkMode = OPAQUE;
     int mapMode = MM_TEXT;
-    SIZE windowExt = {1, 1};
-    SIZE viewportExt = {1, 1};
     POINT position = {0, 0};
     bool clipped = false;
     RECT clip = {0, 0, 0, 0}; ///< bounds of the clip region in device units, when clipped
@@ -98,8 +95,6 @@ public:
     /// selected, and none is selected at the end. Empty when this is so, otherwise a text for each fault.
     /// `lasting` holds the text forms of objects that may outlive the recording, one for each object.
     std::string ObjectFaults(std::vector<std::string> lasting = {}) const;
-    /// The number of pens, brushes and fonts made during the recording.
-    int ObjectsMade() const { return m_objectsMade; }
 
     /// The closed metafile. Owned by the recorder.
     HENHMETAFILE Handle() const { return m_metafile; }
@@ -134,7 +129,6 @@ private:
     std::map<DWORD, Object> m_objects;
     std::map<char, DWORD> m_selected;
     std::string m_faults;
-    int m_objectsMade = 0;
     DWORD m_lastMade = 0; ///< the object that the previous record made; 0 for none
 };
 

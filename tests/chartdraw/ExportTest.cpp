@@ -100,41 +100,42 @@ TEST_F(ChartExportTest, TheFileHoldsThePictureOfTheScreen) {
     EXPECT_EQ(wrong, 0);
 }
 
+TEST_F(ChartExportTest, AScreenOfManyColoursNeedsNoPalette) {
+    class Seen : public OpenChart {
+    public:
+        HGDIOBJ seen = ::GetStockObject(NULL_PEN);
+        HANDLE DDBToDIB(CBitmap&, DWORD, CPalette* palette) override {
+            seen = palette->GetSafeHandle();
+            return nullptr;
+        }
+    } other;
+    ASSERT_TRUE(other.Create(WS_CHILD, CRect(0, 0, 20, 20), &parent, 6));
+    EXPECT_FALSE(other.CopyToFile(TempFolder().Path("none.bmp").c_str()));
+    EXPECT_EQ(other.seen, nullptr);
+}
+
 TEST_F(ChartExportTest, EveryFailureHasItsResultAndLeavesNothing) {
     const TempFolder folder;
-    const std::string umlaut = ::GetACP() == CP_UTF8 ? "\xC3\xA4\xC3\xB6.png" : "\xE4\xF6.png";
-    const struct {
-        const char* name;
-        std::string path;
-        bool saved;
-    } cases[] = {{"umlauts", folder.Path(umlaut.substr(0, umlaut.size() - 4)), true},
-                 {"existing", folder.Path("existing"), true},
-                 {"a name of 5000 characters", folder.Path(std::string(5000, 'n')), false},
-                 {"no such folder", folder.Path("none\\chart"), false}};
-    for (const char* extension : {".BMP", ".png", ".emf", ".gif", ""}) {
-        const std::string name = extension;
-        const bool known = name != ".gif" && !name.empty();
-        for (const auto& each : cases) {
-            SCOPED_TRACE(std::string(each.name) + name);
-            const std::string path = each.path + name;
-            const bool prepared = each.path == folder.Path("existing");
-            if (prepared) {
+    const std::string umlauts = ::GetACP() == CP_UTF8 ? "\xC3\xA4\xC3\xB6" : "\xE4\xF6";
+    const std::pair<std::string, bool> cases[] = {{folder.Path(umlauts), true},
+                                                  {folder.Path("existing"), true},
+                                                  {folder.Path(std::string(5000, 'n')), false},
+                                                  {folder.Path("none\\chart"), false}};
+    for (const std::string extension : {".BMP", ".png", ".emf", ".gif", ""})
+        for (const auto& [name, saved] : cases) {
+            const std::string path = name + extension;
+            SCOPED_TRACE(path.substr(0, 200) + extension);
+            const bool isPicture = saved && extension != ".gif" && !extension.empty();
+            if (name == folder.Path("existing"))
                 std::ofstream(path, std::ios::binary) << std::string(900000, 'x');
-            }
             const Strings before = folder.Names();
-            ExpectNothingLeft([&] { EXPECT_EQ(chart.SaveImage(path.c_str()), each.saved && known); });
-            if (!(each.saved && known)) {
-                EXPECT_EQ(folder.Names(), before) << "nothing half-written";
-            }
-            if (prepared) {
-                EXPECT_EQ(FileBytes(path).size() == 900000, !(each.saved && known));
-            }
-            ExpectNothingLeft([&] { EXPECT_EQ(chart.CopyToFile(path.c_str()), each.saved); });
-            if (each.saved) {
-                EXPECT_EQ(FileBytes(path).size(), 54u + 300 * 200 * 4) << "an existing file is cut";
-            }
+            const std::size_t size = FileBytes(path).size();
+            ExpectNothingLeft([&] { EXPECT_EQ(chart.SaveImage(path.c_str()), isPicture); });
+            EXPECT_EQ(isPicture, FileBytes(path).size() != size);
+            EXPECT_TRUE(isPicture || folder.Names() == before) << "nothing half-written";
+            ExpectNothingLeft([&] { EXPECT_EQ(chart.CopyToFile(path.c_str()), saved); });
+            EXPECT_EQ(saved, FileBytes(path).size() == 54 + 300 * 200 * 4) << "an existing file is cut";
         }
-    }
 }
 
 TEST_F(ChartExportTest, AFullDiskIsReported) {
@@ -242,6 +243,13 @@ TEST_F(ChartExportTest, ExportsShowTheDataOfNow) {
     double min, max, step;
     chart.GetXScale(min, max, step);
     EXPECT_EQ(max, 1000);
+    for (const bool isAuto : {false, true}) {
+        chart.CalcDatas();
+        isAuto ? chart.SetAutoYScale() : void(chart.SetYScale(0, 5));
+        EXPECT_TRUE(chart.SaveImage(folder.Path("now.png").c_str()));
+        chart.GetYScale(min, max, step);
+        EXPECT_EQ(max, isAuto ? 1000 : 5);
+    }
     Resize(200, 100);
     EXPECT_TRUE(chart.CopyToFile(folder.Path("now.bmp").c_str()));
     EXPECT_EQ(FileBytes(folder.Path("now.bmp")).size(), 54u + 200 * 100 * 4);

@@ -44,10 +44,6 @@ TEST_F(GraphSeriesTest, PiesShareTheCircle) {
     for (int s = 0; s < 300; ++s)
         Add("pie", {{0, 1}});
     EXPECT_EQ(Record()->Texts().back().substr(0, 2), "+ ") << "tells how many pies found no room";
-    Resize(110, 150);
-    Make(2);
-    Fill({{1}, {1}, {1}, {1}});
-    EXPECT_EQ(Record()->Texts().back(), "s0  + 3 more") << "in the only room";
     Make(2);
     Fill({{0, -5}});
     EXPECT_EQ(Record()->LinesFrom("polygon").size(), 1u) << "an empty outline";

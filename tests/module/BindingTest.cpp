@@ -67,16 +67,12 @@ template <class Graph> void PlayAnItemOf(const char* windowClass, DWORD style) {
     EXPECT_EQ(isIntact(), "");
     ::MoveWindow(item, 5, 5, 270, 180, TRUE);
     EXPECT_EQ(isIntact(), "") << "grown";
-    ::MoveWindow(item, 5, 5, 260, 140, TRUE);
-    EXPECT_EQ(isIntact(), "") << "shrunk";
-    for (const BOOL enabled : {FALSE, TRUE}) {
-        ::EnableWindow(item, enabled);
-        EXPECT_EQ(isIntact(), "") << "enabled: " << enabled;
-    }
+    ::EnableWindow(item, FALSE);
+    EXPECT_EQ(isIntact(), "") << "disabled";
+    ::EnableWindow(item, TRUE);
     ::SetWindowText(item, "another text");
-    EXPECT_EQ(isIntact(), "") << "another text";
     ::SendMessage(item, WM_CHAR, 'x', 1);
-    EXPECT_EQ(isIntact(), "") << "a character";
+    EXPECT_EQ(isIntact(), "") << "another text and a character";
     CString text;
     graph.GetWindowText(text);
     EXPECT_EQ(text, "another text");

@@ -1,4 +1,4 @@
-// Walks the import and export tables of loaded modules.
+// Walks the import tables of loaded modules.
 #include "tests/support/ImportHook.h"
 
 namespace testkit {
@@ -6,12 +6,6 @@ namespace {
 
 template <class T> const T* At(HMODULE module, DWORD offset) {
     return reinterpret_cast<const T*>(reinterpret_cast<const unsigned char*>(module) + offset);
-}
-
-const IMAGE_DATA_DIRECTORY& Directory(HMODULE module, int index) {
-    const auto* dos = At<IMAGE_DOS_HEADER>(module, 0);
-    return At<IMAGE_NT_HEADERS>(module, static_cast<DWORD>(dos->e_lfanew))
-        ->OptionalHeader.DataDirectory[index];
 }
 
 void Write(void** slot, void* value) {
@@ -27,7 +21,9 @@ template <class Visit> void VisitImports(const std::string& module, Visit visit)
     const HMODULE base = GetModuleHandleA(module.c_str());
     if (base == nullptr)
         return;
-    const IMAGE_DATA_DIRECTORY& directory = Directory(base, IMAGE_DIRECTORY_ENTRY_IMPORT);
+    const auto* dos = At<IMAGE_DOS_HEADER>(base, 0);
+    const IMAGE_DATA_DIRECTORY& directory = At<IMAGE_NT_HEADERS>(base, static_cast<DWORD>(dos->e_lfanew))
+                                                ->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
     if (directory.VirtualAddress == 0)
         return;
     const auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(base, directory.VirtualAddress);
@@ -67,18 +63,6 @@ std::vector<std::string> ImportedNames(const std::string& module, const std::str
         if (_stricmp(from, library.c_str()) == 0)
             names.emplace_back(name);
     });
-    return names;
-}
-
-std::vector<std::string> ExportedNames(HMODULE module) {
-    std::vector<std::string> names;
-    const IMAGE_DATA_DIRECTORY& directory = Directory(module, IMAGE_DIRECTORY_ENTRY_EXPORT);
-    if (directory.VirtualAddress == 0)
-        return names;
-    const auto* exports = At<IMAGE_EXPORT_DIRECTORY>(module, directory.VirtualAddress);
-    const auto* offsets = At<DWORD>(module, exports->AddressOfNames);
-    for (DWORD i = 0; i < exports->NumberOfNames; ++i)
-        names.emplace_back(At<char>(module, offsets[i]));
     return names;
 }
 

@@ -30,7 +30,5 @@ private:
 
 /// The functions that a loaded DLL imports from `library` by name.
 std::vector<std::string> ImportedNames(const std::string& module, const std::string& library);
-/// The names that a loaded DLL exports, sorted as its table has them.
-std::vector<std::string> ExportedNames(HMODULE module);
 
 } // namespace testkit

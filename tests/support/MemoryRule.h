@@ -10,18 +10,8 @@
 // nothing, and succeeds when memory is available again.
 //
 // How to use it: a struct makes the object under test in its constructor and adds data. Its State() returns
-// all that a host can read of the object as text. The table has a row for each operation:
-//
-//     struct FedGraph {
-//         FedGraph() { graph.AddData(0, 1, nullptr); }
-//         std::string State() { return std::to_string(graph.GetDatasetSize(0)); }
-//         OpenGraph graph;
-//     };
-//     testkit::ExpectMemoryRule<FedGraph>({
-//         {"AddData", OnFailure::Reports, [](FedGraph& s) { return s.graph.AddData(0, 2, nullptr) != 0; }},
-//         {"SetTitle", OnFailure::Throws, [](FedGraph& s) { return s.graph.SetTitle(kLongText), true; }},
-//         {"ResetData", OnFailure::Never, [](FedGraph& s) { return s.graph.ResetData(0), true; }},
-//     });
+// all that a host can read of the object as text. The table has a row for each operation, for example
+//     {"AddData", OnFailure::Reports, [](FedGraph& s) { return s.graph.AddData(0, 2, nullptr) != 0; }}
 //
 // The function of a row returns the operation's documented result, or true when there is none. It must not
 // allocate memory of its own, nor may handlers of the test that the operation calls. Use texts of more than

@@ -85,6 +85,7 @@ TEST_F(PiePaintTest, Messages) {
     EXPECT_NEAR(text.CenterPoint().y, 100, 5);
     Add({100});
     EXPECT_EQ(Texts(), (Strings{"100.0% 000000", "Wait here 000000"})) << "the chart stays";
+    EXPECT_NE(Record()->Lines(testkit::kRectangle).at(0).find("pen solid 1 000000"), std::string::npos);
     pie.Wait("Wait here", 0);
     EXPECT_EQ(Texts(), Strings{"100.0% 000000"});
     pie.Reset();
@@ -112,6 +113,7 @@ TEST_F(PiePaintTest, OnePictureForEveryDestination) {
     EXPECT_EQ(moved.Count(RGB(9, 9, 9)), 340 * 250 - 100 * 200) << "the clip holds";
     EXPECT_EQ(moved.At(60 + 40, 100 + 50), picture->At(60, 100));
     EXPECT_EQ(::GetTextColor(moved.Dc()), COLORREF(RGB(7, 7, 7)));
+    EXPECT_EQ(::GetBkMode(moved.Dc()), OPAQUE);
 }
 
 TEST_F(PiePaintTest, SavesThePictureOfTheWindow) {
@@ -122,6 +124,7 @@ TEST_F(PiePaintTest, SavesThePictureOfTheWindow) {
     ASSERT_NE(::GetTempFileNameA(folder, "kvx", 0, path), 0u);
     EXPECT_FALSE(pie.SaveImage(path));
     const std::string picture = std::string(path) + ".bmp";
+    EXPECT_FALSE(OpenPie().SaveImage(picture.c_str())) << "without a window";
     ASSERT_TRUE(pie.SaveImage(picture.c_str()));
     testkit::DibSurface saved(161, 120);
     EXPECT_TRUE(saved.Load(picture.c_str()));

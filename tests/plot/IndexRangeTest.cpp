@@ -1,4 +1,4 @@
-// IndexRange against the comparison of every index.
+// The indices to draw against the segments that touch the window.
 #include "plot/IndexRange.h"
 
 #include <gtest/gtest.h>
@@ -10,24 +10,6 @@
 
 namespace kavlix {
 namespace {
-
-TEST(IndexRangeTest, BetweenMatchesTheComparisonOfEveryIndex) {
-    const double bounds[] = {-INFINITY, -1e300, -3, -0.5,  0,    0.001,    1,
-                             2.5,       8.999,  9,  9.001, 1e10, INFINITY, NAN};
-    for (const int count : {0, 1, 10})
-        for (const double min : bounds)
-            for (const double max : bounds) {
-                const IndexRange range = IndicesBetween(min, max, count);
-                int inside = 0;
-                for (int i = 0; i < count; ++i) {
-                    const bool expected = min <= i && i <= max;
-                    inside += expected;
-                    EXPECT_EQ(expected, !range.IsEmpty() && range.first <= i && i <= range.last)
-                        << min << " <= " << i << " <= " << max;
-                }
-                EXPECT_EQ(range.Count(), inside);
-            }
-}
 
 // Leaving samples out must be invisible: every sample whose own line reaches the window is kept.
 TEST(IndexRangeTest, DrawnIndicesHoldEverySegmentThatTouchesTheWindow) {

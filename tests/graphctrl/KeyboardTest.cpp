@@ -1,7 +1,6 @@
 // Keys, what a dialog is told about them, and a control that has no parent.
 
 #include "tests/graphctrl/InputTest.h"
-#include "tests/support/MessageBoxWatcher.h"
 
 namespace {
 
@@ -18,20 +17,12 @@ TEST_F(GraphKeyboardTest, KeysMoveTheMarkByOneAndTellWhatChanged) {
         LPARAM details = 1; ///< repeat count and flags of the message
     } cases[] = {
         {"Right without a mark", 3, -1, VK_RIGHT, 0},
-        {"Right to the last", 3, 1, VK_RIGHT, 2},
         {"Right at the last", 3, 2, VK_RIGHT, 2},
         {"Right, repeated", 3, 0, VK_RIGHT, 1, 0x40000005},
-        {"Right in an empty control", 0, -1, VK_RIGHT, -1},
         {"Left without a mark", 3, -1, VK_LEFT, -1},
-        {"Left, repeated", 3, 2, VK_LEFT, 1, 0x40000005},
-        {"Left to the first", 3, 1, VK_LEFT, 0},
         {"Left at the first", 3, 0, VK_LEFT, 0},
         {"Escape", 3, 0, VK_ESCAPE, -1},
-        {"Escape without a mark", 3, -1, VK_ESCAPE, -1},
-        {"Up", 3, 1, VK_UP, 1},
         {"End", 3, 1, VK_END, 1},
-        {"a letter", 3, 1, 'C', 1},
-        {"no such key", 3, 1, 0xFFFF, 1},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
@@ -60,11 +51,9 @@ TEST_F(GraphKeyboardTest, DialogsAreToldWhichKeysTheControlWants) {
         WPARAM key;
         bool wanted;
     } cases[] = {{-1, 0, 0, false},
-                 {1, 0, 0, false},
                  {-1, WM_KEYDOWN, VK_ESCAPE, false},
                  {0, WM_KEYDOWN, VK_ESCAPE, true},
-                 {1, WM_KEYDOWN, VK_TAB, false},
-                 {1, WM_KEYUP, VK_ESCAPE, false}};
+                 {1, WM_KEYDOWN, VK_TAB, false}};
     for (const auto& each : cases) {
         Mark(each.mark);
         const MSG asked = {nullptr, each.message, each.key, 0, 0, {0, 0}};
@@ -102,18 +91,12 @@ TEST_F(GraphKeyboardTest, WithoutAParentTheMouseDoesNothingAndKeysMoveTheMark) {
             alone.SendMessage(message, MK_LBUTTON, MAKELPARAM(point.x, point.y));
             EXPECT_EQ(alone.m_SelectionMarkPos, -1);
             EXPECT_FALSE(alone.m_IconMaximizeTracking);
-            EXPECT_EQ(::GetFocus(), parent.m_hWnd) << "not even the focus";
+            EXPECT_EQ(::GetFocus(), parent.m_hWnd);
             EXPECT_EQ(::GetCapture(), nullptr);
         }
     EXPECT_EQ(handedOn, Strings());
     alone.SendMessage(WM_LBUTTONUP, 0, 0);
     EXPECT_EQ(handedOn, Strings{std::to_string(WM_LBUTTONUP)});
-    // A press from the time when there was a parent.
-    alone.m_IconMaximizeTracking = alone.m_IconMaximizePressed = TRUE;
-    alone.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(131, 80));
-    EXPECT_TRUE(alone.m_IconMaximizePressed);
-    alone.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(icon.x, icon.y));
-    EXPECT_FALSE(alone.m_IconMaximizeTracking || alone.m_IconMaximizePressed);
     ::ValidateRect(alone.m_hWnd, nullptr);
 
     handedOn.clear();
@@ -121,17 +104,8 @@ TEST_F(GraphKeyboardTest, WithoutAParentTheMouseDoesNothingAndKeysMoveTheMark) {
     EXPECT_EQ(alone.m_SelectionMarkPos, 0);
     EXPECT_TRUE(::GetUpdateRect(alone.m_hWnd, nullptr, FALSE));
     EXPECT_EQ(handedOn, Strings{std::to_string(WM_KEYDOWN)});
-    alone.SetSelectionMarkPos(2);
-    alone.SendMessage(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK);
-    EXPECT_EQ(alone.m_SelectionMarkPos, -1);
-    const testkit::MessageBoxWatcher watcher(IDYES);
-    alone.SetSelectionMarkPos(2);
-    alone.SendMessage(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK);
-    EXPECT_EQ(alone.GetDatasetSize(0), 1);
-    alone.SendSelchangeNotifyMessage();
-    alone.SendRemoveDataNotifyMessage(0, 1);
     testkit::Pump();
-    EXPECT_EQ(parent.Log(), Strings()) << "nobody is told";
+    EXPECT_EQ(parent.Log(), Strings());
     alone.DestroyWindow();
 }
 

@@ -48,10 +48,11 @@ TEST_F(GraphRobustnessTest, NumberTextsOfAnyLength) {
         double max;
         int exponent, decimals;
         double second; ///< what the second label says; the first one is 0
-    } cases[] = {{100, 0, 400, 25},     {100, 300, 0, 0},     {100, -300, 0, 25 / 1e-300},
-                 {100, 400, 2, 0},      {100, -400, 0, 25},   {1e308, 0, 300, 2.5e307},
-                 {100, INT_MIN, 1, 25}, {100, INT_MAX, 1, 0}, {100, 0, 100000, 25},
-                 {100, 0, INT_MAX, 25}, {100, 0, INT_MIN, 25}};
+    } cases[] = {{100, 0, 400, 25},
+                 {100, -300, 0, 25 / 1e-300},
+                 {1e308, 0, 300, 2.5e307},
+                 {100, INT_MIN, 1, 25},
+                 {100, INT_MAX, INT_MAX, 0}};
     for (const auto& each : cases) {
         graph.SetYVisibleMax(each.max);
         graph.SetYUnit("u", each.exponent, each.decimals);
@@ -74,11 +75,8 @@ TEST_F(GraphRobustnessTest, NoTextIsCutWithinACharacter) {
         const char* text;
         std::wstring first, second; ///< the lines; the second is empty where one holds the text
     } labels[] = {
-        {"abc", L"abc", L""},
         {"abcd", L"abc", L"d"},
-        {"\xC3\xA9\xC3\xA8\xC3\xA0", L"\u00E9\u00E8\u00E0", L""},
         {"\xC3\xA9\xC3\xA8\xC3\xA0\xC3\xB9", L"\u00E9\u00E8\u00E0", L"\u00F9"},
-        {"ab\xE6\xB8\xA9\xE5\xBA\xA6", L"ab\u6E29", L"\u5EA6"},
         {"ab\xF0\x9F\x8C\xA1z", L"ab\xD83C\xDF21", L"z"},
         {"abe\xCC\x81z", L"abe\u0301", L"z"}, // a letter and its mark are one character
         {"ab\xC3", L"ab\xFFFD", L""},         // bytes that are no character count one by one
@@ -123,12 +121,12 @@ TEST_F(GraphRobustnessTest, TextsOfAMillionCharacters) {
         const auto picture = Record();
         const Strings texts = picture->Texts();
         EXPECT_TRUE(IsBeginning(texts[0], million)) << texts[0].size();
-        EXPECT_GE(texts[0].size(), 300u) << "more than the width shows";
+        EXPECT_GE(texts[0].size(), 300u);
         EXPECT_EQ(picture->ObjectFaults(kControlFonts), "");
         graph.Redraw();
         graph.UpdateWindow();
     }
-    EXPECT_STREQ(graph.m_Title, text) << "kept whole, whatever is drawn";
+    EXPECT_STREQ(graph.m_Title, text);
 }
 
 TEST_F(GraphRobustnessTest, APictureTooWideForABitmap) {

@@ -97,9 +97,7 @@ TEST(TickThinningTest, EqualsTheWalkOverEveryPoint) {
         made.erase(made.begin(), std::find_if(made.begin(), made.end(), [&](const auto& tick) {
                        return Column(tick.second) > Column(room.from);
                    }));
-        ASSERT_EQ(made, WalkedTicks(count, room, xOf))
-            << count << " points from " << start << " every " << spacing << ", gap " << room.minGap
-            << " from " << room.left << ", seen from " << room.from << " to " << room.to;
+        ASSERT_EQ(made, WalkedTicks(count, room, xOf));
         for (std::size_t i = 1; i < made.size(); ++i)
             crowded += made[i].second - made[i - 1].second < kPixel;
     }
@@ -121,12 +119,6 @@ TEST(TickThinningTest, MillionsOfPointsGiveNoMoreTicksThanPixels) {
     EXPECT_LE(ThinnedTicks(INT_MAX, {2000, 800, 60000, 60300}, crowded).size(), 12u);
     EXPECT_LT(visited, 2000) << "what is not seen is not visited";
 
-    for (const int gap : {0, -500, INT_MIN, INT_MAX}) {
-        const Ticks odd = ThinnedTicks(1000000, {0, gap, 0, INT_MAX}, [](int i) { return i / 1000; });
-        EXPECT_GE(odd.size(), 1u);
-        EXPECT_LE(odd.size(), 40u);
-    }
-    EXPECT_EQ(ThinnedTicks(1000000, {0, 800, 0, 100}, [](int) { return 0; }).size(), 1u);
     EXPECT_TRUE(ThinnedTicks(0, {0, 800, 0, 100}, [](int) { return 0; }).empty());
 }
 

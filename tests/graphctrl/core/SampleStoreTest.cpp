@@ -34,8 +34,7 @@ bool IsSame(double a, double b) {
 /// Compares everything that a store tells about a range with its model.
 void CompareRange(const SampleStore& store, const Model& model, int first, int last, double limit) {
     const Extremes found = store.ExtremesOf(first, last), expected = PlainExtremes(model, first, last);
-    ASSERT_TRUE(IsSame(found.low, expected.low) && IsSame(found.high, expected.high))
-        << first << ".." << last << " of " << model.size() << ": " << found.low << " to " << found.high;
+    ASSERT_TRUE(IsSame(found.low, expected.low) && IsSame(found.high, expected.high));
 
     int wanted = last;
     while (wanted >= first && !(model[static_cast<std::size_t>(wanted)] >= limit))
@@ -43,8 +42,7 @@ void CompareRange(const SampleStore& store, const Model& model, int first, int l
     ASSERT_EQ(store.FindLast(
                   first, last, [&](const Extremes& block) { return block.high < limit; },
                   [&](double value) { return value >= limit; }),
-              wanted)
-        << first << ".." << last << " of " << model.size();
+              wanted);
 
     // Visited: all that reach the limit, in order, and of the others some.
     std::vector<double> visited, expectedVisits;

@@ -88,7 +88,6 @@ TEST_F(ScrollZoneTest, NewYork) {
     EXPECT_EQ(FullTime(1772953200), "2026/03/08 03:00:00");
     EXPECT_EQ(FullTime(1793512799), "2026/11/01 01:59:59");
     EXPECT_EQ(FullTime(1793512800), "2026/11/01 01:00:00");
-    EXPECT_EQ(FullTime(1162706400), "2006/11/05 01:00:00") << "the autumn change was a week earlier then";
     EXPECT_EQ(FullTime(1162101600), "2006/10/29 01:00:00");
     EXPECT_EQ(Next("2026/03/08 01:00:00", 3600), "2026/03/08 03:00:00");
     EXPECT_EQ(Next("2026/11/01 00:30:00", 3600), "2026/11/01 01:30:00");
@@ -106,25 +105,6 @@ TEST_F(ScrollZoneTest, Kathmandu) {
     EXPECT_EQ(Next("2025/12/31 23:59:55", 5), "2026/01/01 00:00:00");
 }
 
-TEST_F(ScrollZoneTest, LordHowe) {
-    // TZ would not do: there the system takes every summer time for a whole hour.
-    LiveIn("", L"Lord Howe Standard Time");
-    Check({
-        {"autumn, hours",
-         1775314800 - 7200,
-         kHours, // at two o'clock it is half past one
-         {"04/05 00:00:00", "01:00:00", "01:30:00", "02:30:00", "03:30:00", "04:30:00", "05:30:00"}},
-        {"spring, hours",
-         1791041400 - 7200,
-         kHours,
-         {"10/04 00:00:00", "01:00:00", "02:30:00", "03:30:00", "04:30:00", "05:30:00", "06:30:00"}},
-    });
-    EXPECT_EQ(FullTime(1775314799), "2026/04/05 01:59:59");
-    EXPECT_EQ(FullTime(1775314800), "2026/04/05 01:30:00");
-    EXPECT_EQ(FullTime(1791041400), "2026/10/04 02:30:00");
-    EXPECT_EQ(Next("2026/10/04 01:30:00", 1800), "2026/10/04 02:30:00");
-}
-
 TEST_F(ScrollZoneTest, AnotherZoneIsSeenAtOnceAndNoYearIsAskedForTwice) {
     FixedZone zone(L"Eastern Standard Time");
     ASSERT_TRUE(zone.Works());
@@ -139,12 +119,7 @@ TEST_F(ScrollZoneTest, AnotherZoneIsSeenAtOnceAndNoYearIsAskedForTwice) {
     EXPECT_EQ(Next("2026/01/01 00:00:00", 3600), "2026/01/01 01:00:00");
     EXPECT_EQ(zone.Asked(), 2) << "two years";
     zone.Change(L"Nepal Standard Time");
-    EXPECT_EQ(Next("2026/01/01 00:00:00", 3600), "2026/01/01 01:00:00");
     EXPECT_EQ(FullTime(newYear), "2026/01/01 05:45:00");
-    Check({{"Kathmandu",
-            newYear - 22500,
-            kHours,
-            {"01/01 00:00:00", "01:00:00", "02:00:00", "03:00:00", "04:00:00", "05:00:00"}}});
     zone.Change(L"Eastern Standard Time");
     EXPECT_EQ(FullTime(newYear), "2025/12/31 19:00:00");
 }

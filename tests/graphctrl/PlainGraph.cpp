@@ -40,16 +40,6 @@ CString LabelAt(const kavlix::LabelStore& labels, int index) {
 
 } // namespace
 
-std::optional<int> PlainGraph::Range::Place(double value) const {
-    constexpr double kFarthest = 1 << 27; // what GDI takes
-    if (max - min == 0)
-        return std::nullopt;
-    const double place = (value - min) * extent / (max - min) + edge;
-    if (std::isnan(place))
-        return std::nullopt;
-    return static_cast<int>(std::clamp(place, -kFarthest, kFarthest));
-}
-
 PlainGraph::PlainGraph(const OpenGraph& graph, CSize pixels)
     : g(graph), size(pixels), R(30 * pixels.cx), B(30 * pixels.cy) {
     LayOut();
@@ -114,11 +104,11 @@ PlainGraph::Slots PlainGraph::CountSlots() const {
     return count;
 }
 
-PlainGraph::Range PlainGraph::XRange() const {
+testkit::PlainScale PlainGraph::XRange() const {
     return {g.m_XVisibleMin, g.m_XVisibleMax, plot.left, plot.Width()};
 }
 
-PlainGraph::Range PlainGraph::YRange(int dataset) const {
+testkit::PlainScale PlainGraph::YRange(int dataset) const {
     if (g.m_GraphStyle == 2 && dataset == 1)
         return {g.m_Y2VisibleMin, g.m_Y2VisibleMax, plot.bottom, -plot.Height()};
     return {g.m_YVisibleMin, g.m_YVisibleMax, plot.bottom, -plot.Height()};
@@ -406,69 +396,14 @@ void PlainGraph::Lines() {
 void PlainGraph::Line(int index) {
     const CDataset& dataset = g.m_Datasets[index];
     Pen(dataset.GetColor(), PS_SOLID, dataset.GetLineSize());
-    std::optional<CPoint> lastPixel;
+    std::vector<testkit::PlainSample> samples;
     for (int i = 0; i < dataset.GetSize(); ++i) {
         double value = 0;
         dataset.GetYData(i, value);
-        const auto x = XRange().Place(i), y = YRange(index).Place(value);
-        if (x && i == g.m_SelectionMarkPos && !std::isnan(value))
-            SelectionMark(*x);
-        if (!x || !y) {
-            lastPixel.reset();
-            continue;
-        }
-        POINT pixel = {*x, *y};
-        ::LPtoDP(m_dc, &pixel, 1);
-        if (!lastPixel)
-            ::MoveToEx(m_dc, *x, *y, nullptr);
-        else if (*lastPixel != pixel)
-            ::LineTo(m_dc, *x, *y);
-        lastPixel = pixel;
-        Marker(dataset.GetMarkerType(), *x, *y);
+        samples.push_back(
+            {XRange().Place(i), YRange(index).Place(value), i == g.m_SelectionMarkPos && !std::isnan(value)});
     }
-}
-
-void PlainGraph::Marker(int type, int x, int y) {
-    const auto path = [this](std::initializer_list<POINT> points) {
-        ::MoveToEx(m_dc, points.begin()->x, points.begin()->y, nullptr);
-        for (auto point = points.begin() + 1; point != points.end(); ++point)
-            ::LineTo(m_dc, point->x, point->y);
-    };
-    switch (type) {
-    case CDataset::MarkerSquare:
-        Box({x - 90, y - 90, x + 90, y + 90});
-        break;
-    case CDataset::MarkerDiamond:
-        path({{x, y - 90}, {x + 90, y}, {x, y + 90}, {x - 90, y}, {x, y - 90}});
-        break;
-    case CDataset::MarkerTriangle:
-        path({{x, y - 90}, {x - 90, y + 60}, {x + 90, y + 60}, {x, y - 90}});
-        break;
-    case CDataset::MarkerCircle:
-        ::Ellipse(m_dc, x - 90, y - 90, x + 90, y + 90);
-        break;
-    case CDataset::MarkerCross:
-        path({{x, y - 90}, {x, y + 90}});
-        path({{x - 90, y}, {x + 90, y}});
-        break;
-    default:
-        return;
-    }
-    ::MoveToEx(m_dc, x, y, nullptr);
-}
-
-void PlainGraph::SelectionMark(int x) {
-    const int saved = ::SaveDC(m_dc);
-    const POINT triangle[] = {{x + 10, plot.top + 180}, {x + 90, plot.top}, {x - 70, plot.top}};
-    const HRGN region = ::CreatePolygonRgn(triangle, 3, ALTERNATE);
-    const HBRUSH red = ::CreateSolidBrush(RGB(255, 0, 0));
-    const HPEN dots = ::CreatePen(PS_DOT, 0, g.m_LineCursorColor);
-    ::FillRgn(m_dc, region, red);
-    ::SelectObject(m_dc, dots);
-    Stroke(x, plot.bottom, x, plot.top);
-    ::RestoreDC(m_dc, saved);
-    for (const HGDIOBJ object : {HGDIOBJ(region), HGDIOBJ(red), HGDIOBJ(dots)})
-        ::DeleteObject(object);
+    testkit::DrawPlainLine(m_dc, samples, dataset.GetMarkerType(), plot, g.m_LineCursorColor);
 }
 
 void PlainGraph::Bars() {

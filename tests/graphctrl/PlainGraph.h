@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/graphctrl/GraphTest.h"
+#include "tests/support/PlainLines.h"
 
 #include <optional>
 
@@ -38,18 +39,12 @@ public:
     } slots;
 
 private:
-    /// A visible range and the edge of the plot along which it runs.
-    struct Range {
-        double min, max;
-        int edge, extent;
-        std::optional<int> Place(double value) const;
-    };
     static bool IsLarge(const CRect& rect) { return rect.Width() >= 51 && rect.Height() >= 51; }
 
     void LayOut();
     Slots CountSlots() const;
-    Range XRange() const;
-    Range YRange(int dataset) const;
+    testkit::PlainScale XRange() const;
+    testkit::PlainScale YRange(int dataset) const;
     std::optional<int> MiddleOfBars(int index) const;
 
     // Painters of the parts.
@@ -63,8 +58,6 @@ private:
     void TickLabel(int index, int x);
     void Lines();
     void Line(int index);
-    void Marker(int type, int x, int y);
-    void SelectionMark(int x);
     void Bars();
     void Legend();
 

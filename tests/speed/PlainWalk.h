@@ -1,40 +1,17 @@
 // The reference picture of a graph's lines, drawn without any shortcut.
 #pragma once
 
+#include "tests/support/PlainLines.h"
+
 #include <afxwin.h>
 
 #include <kavlix/ScrollGraphCtrl.h>
 
 #include <optional>
 
-/// Draws the lines of a graph sample by sample. This code follows the described picture and shares no
+/// Graphs whose lines are drawn sample by sample. This code follows the described picture and shares no
 /// arithmetic with the control.
 namespace plain {
-
-/// Converts values to positions: `min` lies at `edge`, `max` at `edge` + `extent`.
-struct Scale {
-    double min, max;
-    int edge, extent;
-    std::optional<int> Place(double value) const;
-};
-
-struct Series {
-    const CDataset* dataset;
-    Scale scale;
-};
-
-struct Mark {
-    int index;
-    COLORREF lineColour;
-    int top, bottom;
-};
-
-/// Draws the samples `first` to `last`; `place(i)` is the position of sample i along the X axis.
-template <class Place>
-void DrawLine(HDC dc, const Series& series, int first, int last, const Mark& mark, Place place);
-
-void DrawMarkerShape(HDC dc, int type, int x, int y);
-void DrawMarkAt(HDC dc, const Mark& mark, int x);
 
 /// A control that draws its lines itself or by the plain walk. `Control` is CGraphCtrl or CScrollGraphCtrl.
 template <class Control> class Graph : public Control {
@@ -77,6 +54,8 @@ private:
     void Walk(CDC& dc);
     /// The samples to draw.
     void Range(int size, int& first, int& last) const;
+    /// The Y range of a dataset, in the plot.
+    testkit::PlainScale YScale(int dataset) const;
     /// The position of a sample along the X axis.
     std::optional<int> PlaceOf(int index) const;
 };

@@ -61,17 +61,10 @@ void GraphInputTest::Mark(int index) {
     Settle();
 }
 
-std::string GraphInputTest::Told(UINT code, int index, int count) {
-    std::ostringstream text;
-    text << "notify " << code << " id " << kControlId << " flags 0 at 0,0 index " << index << " count "
-         << count;
-    return text.str();
-}
-
-std::string GraphInputTest::ToldMouse(UINT code, UINT flags, CPoint point, int index) {
+std::string GraphInputTest::ToldMouse(UINT code, UINT flags, CPoint point, int index, int count) {
     std::ostringstream text;
     text << "notify " << code << " id " << kControlId << " flags " << flags << " at " << point.x << ","
-         << point.y << " index " << index << " count 0";
+         << point.y << " index " << index << " count " << count;
     return text.str();
 }
 

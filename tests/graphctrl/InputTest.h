@@ -19,9 +19,11 @@ protected:
     void Mark(int index);
 
     /// The line of a notification that writes `index` and `count` only.
-    static std::string Told(UINT code, int index, int count = 0);
+    static std::string Told(UINT code, int index, int count = 0) {
+        return ToldMouse(code, 0, CPoint(0, 0), index, count);
+    }
     /// The line of a mouse notification.
-    static std::string ToldMouse(UINT code, UINT flags, CPoint point, int index = 0);
+    static std::string ToldMouse(UINT code, UINT flags, CPoint point, int index = 0, int count = 0);
     /// The line of the posted message that the mark is at `index`.
     static std::string PostedMark(int index);
     /// What screen readers hear when the mark goes to `index`.

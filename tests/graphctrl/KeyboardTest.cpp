@@ -108,13 +108,3 @@ TEST_F(GraphKeyboardTest, WithoutAParentTheMouseDoesNothingAndKeysMoveTheMark) {
     EXPECT_EQ(parent.Log(), Strings());
     alone.DestroyWindow();
 }
-
-TEST_F(GraphKeyboardTest, AnOwnerIsToldLikeAParent) {
-    OpenGraph owned;
-    ASSERT_TRUE(owned.CreateEx(0, "MFCGraphCtrl", "", WS_POPUP | WS_VISIBLE, 0, 210, 300, 200, parent.m_hWnd,
-                               nullptr));
-    owned.AddData(0, 1, nullptr);
-    EXPECT_EQ(Traffic([&] { owned.SendMessage(WM_KEYDOWN, VK_RIGHT, 1); }),
-              (Strings{"notify 1254 id 0 of another window flags 0 at 0,0 index 0 count 0", PostedMark(0)}));
-    owned.DestroyWindow();
-}

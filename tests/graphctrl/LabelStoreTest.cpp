@@ -104,22 +104,4 @@ TEST(LabelStoreTest, ARefusedChangeChangesNothing) {
     EXPECT_GT(refused, 10);
 }
 
-TEST(LabelStoreTest, IndicesOutsideThrow) {
-    kavlix::LabelStore store;
-    store.Add("a");
-    const auto throws = [&](auto action) {
-        try {
-            action();
-        } catch (CInvalidArgException* exception) {
-            exception->Delete();
-            return true;
-        }
-        return false;
-    };
-    EXPECT_TRUE(throws([&] { store.GetAt(1); }));
-    EXPECT_TRUE(throws([&] { store[-1] = "x"; }));
-    EXPECT_TRUE(throws([&] { store.RemoveAt(1, 1); }));
-    EXPECT_EQ(Told(store), "1:a,");
-}
-
 } // namespace

@@ -127,12 +127,9 @@ TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
              return s.graph.GetXData(3, up, down) != 0;
          }},
         {"SetLegend", OnFailure::Never, [](F& s) { return s.graph.SetLegend(1, s.Text()) != 0; }},
-        {"SetTitle", OnFailure::Never, [](F& s) { return s.graph.SetTitle(s.Text()), true; }},
         {"SetYUnit", OnFailure::Never, [](F& s) { return s.graph.SetYUnit(s.Text(), 2, 3), true; }},
         {"SetCaptionFont", OnFailure::Throws, [](F& s) { return s.graph.SetCaptionFont(99, kLong), true; }},
         {"ResetData", OnFailure::Never, [](F& s) { return s.graph.ResetData(0), true; }},
-        {"ResetXTickLabel", OnFailure::Never, [](F& s) { return s.graph.ResetXTickLabel(), true; }},
-        {"ResetLegend", OnFailure::Never, [](F& s) { return s.graph.ResetLegend(), true; }},
         {"ResetAll", OnFailure::Never, [](F& s) { return s.graph.ResetAll(), true; }},
         {"RemoveHeadData", OnFailure::Never, [](F& s) { return s.graph.RemoveHeadData(3), true; }},
     });
@@ -147,7 +144,6 @@ TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
     using S = ShownGraph;
     const int shownFailures = testkit::ExpectMemoryRule<S>({
         {"RemoveHeadData", OnFailure::Never, [](S& s) { return s.graph.RemoveHeadData(3), true; }},
-        {"SetSelectionMarkPos", OnFailure::Never, [](S& s) { return s.graph.SetSelectionMarkPos(8), true; }},
         {"ResetAll", OnFailure::Never, [](S& s) { return s.graph.ResetAll(), true; }},
         {"SaveImage .png", OnFailure::False, [](S& s) { return s.Save(0); }},
         {"SaveImage .bmp", OnFailure::False, [](S& s) { return s.Save(1); }},
@@ -158,8 +154,6 @@ TEST(GraphMemoryTest, OperationsHappenWholeOrNotAtAll) {
         {"click", OnFailure::Message,
          [](S& s) { return s.Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(150, 80)); }},
         {"key", OnFailure::Message, [](S& s) { return s.Send(WM_KEYDOWN, VK_RIGHT); }},
-        {"clear mark", OnFailure::Message,
-         [](S& s) { return s.Send(WM_COMMAND, ID_GRAPH_CLEAR_SELECTION_MARK); }},
         {"remove data", OnFailure::Message,
          [](S& s) { return s.Send(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK); }},
         {"move", OnFailure::Message, [](S& s) { return s.Send(WM_MOUSEMOVE, 0, MAKELPARAM(150, 80)); }},
@@ -182,12 +176,6 @@ TEST(GraphFailureTest, EveryPlatformCallMayFail) {
         int step = 1;
     } operations[] = {
         {"paint", Paints, [](S& s) { return s.graph.Redraw(), s.graph.UpdateWindow(), true; }},
-        {"paint of another size", Paints,
-         [](S& s) {
-             ::MoveWindow(s.graph.m_hWnd, 0, 0, 290, 190, TRUE);
-             ::MoveWindow(s.graph.m_hWnd, 0, 0, 300, 200, TRUE);
-             return s.graph.UpdateWindow(), true;
-         }},
         {"bars", Paints,
          [](S& s) {
              s.graph.SetGraphStyle(CGraphCtrl::GraphStyleBar);

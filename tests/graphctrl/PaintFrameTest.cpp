@@ -45,15 +45,10 @@ protected:
 
 } // namespace
 
-TEST_F(GraphPaintFrameTest, RedrawInvalidatesTheClientAndRedrawDataTheRegionOfTheLastPaint) {
+TEST_F(GraphPaintFrameTest, RedrawRepaintsTheClientWithoutErasing) {
     graph.Redraw();
     EXPECT_EQ(Text(UpdateRect()), "0,0,300,200");
-    Settle();
-    graph.SetGraphStyle(CGraphCtrl::GraphStyleTwoAxis);
-    graph.RedrawData();
-    EXPECT_EQ(Text(UpdateRect()), "20,17,218,181");
     graph.erased = 0;
-    graph.Redraw();
     graph.UpdateWindow();
     EXPECT_EQ(graph.erased, 0);
 }

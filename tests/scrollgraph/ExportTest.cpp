@@ -2,7 +2,6 @@
 
 #include "tests/scrollgraph/FixedZone.h"
 #include "tests/scrollgraph/ScrollTest.h"
-#include "tests/support/MessageBoxWatcher.h"
 
 namespace {
 
@@ -85,26 +84,4 @@ TEST_F(ScrollExportTest, TheMarksTimeIsSent) {
     Traffic([&] { graph.SendSelectionMarkTime(); });
     EXPECT_EQ(texts, Strings{"2023/11/14 22:13:29"});
     EXPECT_STREQ(graph.GetTimeInfoFromSelectionMark(), "2023/11/14 22:13:29");
-}
-
-TEST_F(ScrollExportTest, WithoutAParentTheTextIsKept) {
-    OpenScrollGraph top;
-    ASSERT_TRUE(top.CreateEx(0, "MFCGraphCtrl", "", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0));
-    top.AddXTickLabel(kSomeTime);
-    top.m_SelectionMarkPos = 0;
-    EXPECT_EQ(Traffic([&] { top.SendMessage(WM_COMMAND, ID_GRAPH_SEND_SELECTION_MARK); }), Strings());
-    EXPECT_STREQ(top.GetTimeInfoFromSelectionMark(), "2023/11/14 22:13:20");
-    top.DestroyWindow();
-}
-
-TEST_F(ScrollExportTest, RemovingByMenuMovesTheOriginToTheMark) {
-    graph.SetSelectionMarkPos(4);
-    testkit::MessageBoxWatcher yes(IDYES);
-    EXPECT_EQ(Send(WM_COMMAND, ID_GRAPH_REMOVE_DATA_BEFORE_MARK, 0),
-              Strings{"notify 1255 id 77 flags 0 at 0,0 index 0 count 4"});
-    CString text;
-    ASSERT_TRUE(graph.GetFullTime(0, text));
-    EXPECT_STREQ(text, "2023/11/14 22:13:24");
-    graph.ResetAll();
-    EXPECT_EQ(graph.GetCurDataIndex(), 0) << "time stamps are the tick labels";
 }

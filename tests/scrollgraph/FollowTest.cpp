@@ -86,18 +86,3 @@ TEST_F(ScrollFollowTest, ArraysAreCutToOneElement) {
     EXPECT_EQ(graph.GetCurDataIndex(), 0);
     EXPECT_EQ(graph.GetDatasetSize(7), 1);
 }
-
-TEST_F(ScrollFollowTest, WithoutAWindowEverythingButTheBarWorks) {
-    OpenScrollGraph alone;
-    for (int i = 0; i < 100; ++i) {
-        ASSERT_EQ(alone.AddXTickLabel(kSomeTime + i), 1);
-        ASSERT_EQ(alone.AddData(0, i, nullptr), 1);
-    }
-    EXPECT_EQ(alone.m_dScrollPos, 900);
-    alone.SetHorzRange(0.5);
-    alone.ProcessMouseWheel(1);
-    EXPECT_EQ(alone.m_dScrollPos, 1440 - 6);
-    alone.RemoveHeadData(10);
-    alone.UpdateScrollInfo();
-    EXPECT_EQ(alone.m_dScrollPos, 89 * 20 - 540);
-}

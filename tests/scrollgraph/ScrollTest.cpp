@@ -67,10 +67,6 @@ Strings ScrollTest::LabelsFrom(long start, double minutes, int ticks) {
     return Labels(ticks);
 }
 
-Strings ScrollTest::Strokes() {
-    return Record()->Strokes("solid 0 F000B1");
-}
-
 CRect ScrollTest::BarUpdateRect() {
     CRect rect(0, 0, 0, 0);
     ::GetUpdateRect(graph.m_wndScrollBar.m_hWnd, &rect, FALSE);

@@ -49,8 +49,6 @@ protected:
     Strings Labels(int ticks);
     /// The labels of an axis `minutes` wide with a sample at `start` at its left edge.
     Strings LabelsFrom(long start, double minutes, int ticks);
-    /// The lines of dataset 0, in order.
-    Strings Strokes();
     /// The part of the scroll bar that waits for repainting.
     CRect BarUpdateRect();
 };

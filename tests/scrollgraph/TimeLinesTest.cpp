@@ -50,7 +50,7 @@ TEST_F(ScrollLinesTest, DatasetsShorterAndLongerThanTheTimeStamps) {
               testkit::Text(CRect(X(20), Y(30), X(20), Y(30))));
     EXPECT_EQ(graph.GetPtFromIndex(6), graph.m_rectPlot.CenterPoint());
     graph.InitData();
-    EXPECT_EQ(Strokes(), Strings());
+    EXPECT_EQ(Record()->Strokes(kPen0), Strings());
     EXPECT_EQ(Drawn(), "0 to -1");
     EXPECT_EQ(Hit(X(10)), -1);
 }

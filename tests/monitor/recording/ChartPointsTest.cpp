@@ -17,12 +17,10 @@ constexpr Time kMinute = kMicrosPerMinute;
 std::string TextOf(const std::vector<ChartPoint>& points) {
     std::string text;
     for (const ChartPoint& point : points) {
-        char part[64];
-        if (std::isnan(point.x) || std::isnan(point.y))
-            std::snprintf(part, sizeof part, "%zu:- ", point.row);
-        else
-            std::snprintf(part, sizeof part, "%zu:%g,%g ", point.row, point.x, point.y);
-        text += part;
+        char part[64] = "- ";
+        if (!std::isnan(point.x) && !std::isnan(point.y))
+            std::snprintf(part, sizeof part, "%g,%g ", point.x, point.y);
+        text += std::to_string(point.row) + ':' + part;
     }
     return text;
 }
@@ -37,12 +35,10 @@ TEST(ChartPoints, OfOneFileMakesARowAPointAndAMissingValueAGap) {
         ChartChoice choice;
         const char* points;
     } cases[] = {{{ChartX::Series, 0, 1}, "0:1,10 1:- 2:- 3:4,40 4:5,50 "},
-                 {{ChartX::Series, 1, 0}, "0:10,1 1:- 2:- 3:40,4 4:50,5 "},
                  {{ChartX::Predecessor, 0, 0}, "0:- 1:1,2 2:- 3:- 4:4,5 "},
                  {{ChartX::Time, 0, 1}, "0:0,10 1:- 2:2,30 3:3,40 4:4,50 "}};
     for (const auto& given : cases)
         EXPECT_EQ(TextOf(ChartPointsOf(recording, given.choice)), given.points);
-    EXPECT_TRUE(ChartPointsOf(Recording{{}, {{"a", 0, {}}}, {}, false, 0}, {ChartX::Time, 0, 0}).empty());
 }
 
 TEST(ChartPoints, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
@@ -55,8 +51,7 @@ TEST(ChartPoints, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
     recording.files.resize(2);
     recording.files[0].interval = recording.files[1].interval = 10 * kMinute;
     EXPECT_EQ(TextOf(ChartPointsOf(recording, {ChartX::Series, 0, 1})),
-              "0:1,40 2:2,50 4:3,50 5:- 5:9,90 7:10,90 ")
-        << "as near before as behind: the earlier; a pause breaks the line";
+              "0:1,40 2:2,50 4:3,50 5:- 5:9,90 7:10,90 ");
     EXPECT_EQ(TextOf(ChartPointsOf(recording, {ChartX::Predecessor, 0, 0})),
               "0:- 2:1,2 4:2,3 5:- 5:- 7:9,10 ");
     recording.files[1].interval = 5 * kMinute;
@@ -67,13 +62,9 @@ TEST(ChartPoints, ChoosesWhatThereIsAndUnitsOfPeoplesSize) {
     EXPECT_EQ(DefaultChartChoice({2, 5, 6}), (ChartChoice{ChartX::Series, 2, 5}));
     EXPECT_EQ(DefaultChartChoice({3}), (ChartChoice{ChartX::Predecessor, 0, 3}));
     EXPECT_EQ(DefaultChartChoice({}), (ChartChoice{ChartX::Predecessor, 0, 0}));
-    const std::pair<Time, std::string> units[] = {{0, "seconds"},
-                                                  {2 * kMinute - 1, "seconds"},
-                                                  {2 * kMinute, "minutes"},
-                                                  {120 * kMinute, "hours"},
-                                                  {2 * kMicrosPerDay, "days"}};
-    for (const auto& [span, name] : units)
-        EXPECT_EQ(TimeUnitOf(span).name, name);
+    EXPECT_STREQ(TimeUnitOf(2 * kMinute - 1).name, "seconds");
+    EXPECT_STREQ(TimeUnitOf(2 * kMinute).name, "minutes");
+    EXPECT_STREQ(TimeUnitOf(120 * kMinute).name, "hours");
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numeric>
 #include <random>
 
@@ -111,17 +110,6 @@ TEST(Reduction, EqualsALiteralOneAndTellsWhereSamplesComeFrom) {
         for (std::size_t sample = 0; sample < count; ++sample)
             ASSERT_EQ(shown.RunOf(shown.ShownFor(sample, count)), sample / each * each);
     }
-}
-
-TEST(Reduction, HoldsTheLargestNumbersAndNothing) {
-    constexpr double huge = std::numeric_limits<double>::max();
-    Recording source;
-    EXPECT_TRUE(ReduceForBars(source, {0, 0}, 10).recording.times.empty());
-    EXPECT_TRUE(ReduceForLines(source, {0, 0}, 10).recording.times.empty());
-    source.times = {0, 1, 2, 3};
-    source.series = {{"s", 0, {huge, huge, huge, huge}}};
-    EXPECT_DOUBLE_EQ(ReduceForBars(source, {0, 3}, 1).recording.series[0].values.at(0), huge);
-    EXPECT_TRUE(ReduceForLines(source, {7, 99}, 10).recording.times.empty()) << "a range behind the end";
 }
 
 } // namespace

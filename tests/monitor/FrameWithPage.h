@@ -10,7 +10,7 @@
 
 #include "monitor/MainFrame.h"
 #include "monitor/resource.h"
-#include "tests/monitor/MonitorProcess.h"
+#include "tests/support/TempFolder.h"
 
 namespace kavlix::test {
 
@@ -73,7 +73,7 @@ protected:
         return dynamic_cast<Control&>(*m_frame->Page().GetDlgItem(static_cast<int>(id)));
     }
 
-    TempFolder m_folder;
+    testkit::TempFolder m_folder;
     int m_exitStatus = 0;
     Frame* m_frame = nullptr; ///< deletes itself with its window
 };

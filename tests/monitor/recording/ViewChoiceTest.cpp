@@ -77,7 +77,6 @@ TEST(ViewChoice, EveryStyleGetsItsRanges) {
     EXPECT_LE(two.y.max, 120);
     EXPECT_EQ(two.y.min, 40);
     EXPECT_GE(two.y2.max, 5000);
-    EXPECT_GE(two.y2.min, 1000);
 
     request.style = ViewStyle::Bar;
     request.plotWidth = 12'000;

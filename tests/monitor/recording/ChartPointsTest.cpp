@@ -62,7 +62,6 @@ TEST(ChartPoints, ChoosesWhatThereIsAndUnitsOfPeoplesSize) {
     EXPECT_EQ(DefaultChartChoice({2, 5, 6}), (ChartChoice{ChartX::Series, 2, 5}));
     EXPECT_EQ(DefaultChartChoice({3}), (ChartChoice{ChartX::Predecessor, 0, 3}));
     EXPECT_EQ(DefaultChartChoice({}), (ChartChoice{ChartX::Predecessor, 0, 0}));
-    EXPECT_STREQ(TimeUnitOf(2 * kMinute - 1).name, "seconds");
     EXPECT_STREQ(TimeUnitOf(2 * kMinute).name, "minutes");
     EXPECT_STREQ(TimeUnitOf(120 * kMinute).name, "hours");
 }

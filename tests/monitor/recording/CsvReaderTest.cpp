@@ -95,6 +95,7 @@ TEST(CsvReader, SkipsLinesBeyondTheLimit) {
         EXPECT_EQ(LogOf("a" + end + longest + "x" + end + "b" + end, 4096),
                   "1 [a]@1:1 end 1:2\nfault 1@2:1048577\n3 [b]@3:1 end 3:2\n");
     }
+    EXPECT_EQ(LogOf(longest), "1 [" + longest + "]@1:1 end 1:1048577\n");
     EXPECT_EQ(LogOf("\"" + longest + longest + "\nb"), "fault 1@1:1048577\n2 [b]@2:1 end 2:2\n");
 }
 

@@ -78,6 +78,7 @@ TEST(WholeScale, TakesAPowerOfTenThatKeepsValuesApart) {
         int high;
         int step;
     } cases[] = {{0, 174, true, "", 0, 200, 50},
+                 {100, 5.2e7, true, " (x 10000)", 0, 6000, 1000},
                  {0.02, 0.074, true, " (x 0.0001)", 0, 800, 200},
                  {-3, 6, true, " (x 0.01)", -400, 600, 200},
                  {7, 7, false, " (x 0.01)", 700, 701, 1},

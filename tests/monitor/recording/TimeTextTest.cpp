@@ -67,7 +67,6 @@ TEST(CivilTime, EveryDayOfTenThousandYearsFollowsTheOneBefore) {
             }
         }
     }
-    EXPECT_EQ(civil.year, 10'000);
     EXPECT_EQ(FormatExact(INT64_MAX), "9999-12-31 23:59:59.999999");
 }
 

@@ -1,3 +1,4 @@
+// Lets the controls live in a time zone that a test chooses.
 #pragma once
 
 #include "tests/support/ImportHook.h"

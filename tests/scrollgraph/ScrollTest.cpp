@@ -1,3 +1,4 @@
+// The fixture of the scrolling graph's tests.
 #include "tests/scrollgraph/ScrollTest.h"
 
 #include <sstream>

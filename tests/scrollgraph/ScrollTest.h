@@ -1,3 +1,4 @@
+// The fixture of the scrolling graph's tests.
 #pragma once
 
 #include "tests/support/GraphFixture.h"

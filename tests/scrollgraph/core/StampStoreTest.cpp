@@ -1,3 +1,4 @@
+// StampStore beside a vector.
 #include "scrollgraph/core/StampStore.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Time stamps, searches among them and positions.
 #include "scrollgraph/core/TimeLine.h"
 
 #include "scrollgraph/core/TimeMap.h"

@@ -1,3 +1,4 @@
+// Labels of the time axis in zones with changes of the clock.
 #include "scrollgraph/core/TimeTicks.h"
 
 #include "monitor/recording/TimeText.h"

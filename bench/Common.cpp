@@ -35,7 +35,9 @@ Holdings Count() {
     memory.cb = sizeof(memory);
     ::GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof(memory));
     constexpr SIZE_T kibi = 1024;
-    return {counts.Gdi(), counts.windows + counts.menus, static_cast<long>(memory.PagefileUsage / kibi)};
+    const int gdi = counts.pens + counts.brushes + counts.fonts + counts.bitmaps + counts.regions +
+                    counts.dcs + counts.otherGdi;
+    return {gdi, counts.windows + counts.menus, static_cast<long>(memory.PagefileUsage / kibi)};
 }
 
 Row::Row(const std::string& name) : m_text("{\"row\": \"" + name + "\"") {

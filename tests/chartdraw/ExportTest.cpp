@@ -122,7 +122,9 @@ TEST_F(ChartExportTest, EveryFailureHasItsResultAndLeavesNothing) {
                                                   {folder.Path(std::string(5000, 'n')), false},
                                                   {folder.Path("none\\chart"), false}};
     for (const std::string extension : {".BMP", ".png", ".emf", ".gif", ""})
-        for (const auto& [name, saved] : cases) {
+        for (const auto& each : cases) {
+            const std::string& name = each.first;
+            const bool saved = each.second;
             const std::string path = name + extension;
             SCOPED_TRACE(path.substr(0, 200) + extension);
             const bool isPicture = saved && extension != ".gif" && !extension.empty();

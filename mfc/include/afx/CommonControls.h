@@ -41,7 +41,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
 };
 
@@ -67,7 +67,7 @@ public:
     int SetStep(int nStep) { return afx_control::Ask(m_hWnd, PBM_SETSTEP, Param(nStep)); }
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
@@ -113,7 +113,7 @@ public:
     void GetThumbRect(LPRECT lprc) const;
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
 };
 
@@ -150,7 +150,7 @@ public:
     UINT GetAccel(int nAccel, UDACCEL* pAccel) const;
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
 };
 
@@ -192,6 +192,6 @@ public:
     void Pop() { afx_control::Ask(m_hWnd, TTM_POP); }
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
 };

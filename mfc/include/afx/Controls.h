@@ -46,7 +46,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
     LRESULT SetImage(UINT kind, HANDLE image);
     LRESULT GetImage(UINT kind) const;
@@ -87,7 +87,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
 };
 
@@ -167,7 +167,7 @@ public:
     void Paste() { afx_control::Ask(m_hWnd, WM_PASTE); }
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
     static WPARAM Position(int index) { return static_cast<WPARAM>(static_cast<INT_PTR>(index)); }
 };
@@ -201,7 +201,7 @@ public:
     int GetScrollLimit();
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
 };
 

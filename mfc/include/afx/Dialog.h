@@ -75,7 +75,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this dialog has its own.
+    // Private, against calls of the base's Create with another window class: this dialog has its own.
     using CWnd::Create;
 
     BOOL CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner);

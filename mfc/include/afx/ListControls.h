@@ -103,7 +103,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
@@ -209,7 +209,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, so that nobody calls the base's Create with another window class: this control has its own.
+    // Private, against calls of the base's Create with another window class: a control has its own.
     using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };

@@ -13,8 +13,8 @@
 namespace kavlix {
 namespace {
 
-constexpr int kLongest = 255;  // rows of a cached stroke
-constexpr int kDirections = 3; // to the previous column, the same, and the next one
+constexpr int kLongest = 255;  // largest distance in rows between the ends of a cached stroke
+constexpr int kDirections = 3; // to the column on the left, within the column, and to the column on the right
 constexpr int kLengths = 2 * kLongest + 1;
 
 bool IsFar(const Point& point, const Rect& view) {
@@ -42,10 +42,10 @@ WideStrokes::WideStrokes(CDC& dc, int width, const Rect& view, const std::option
 
 WideStrokes::~WideStrokes() = default;
 
-// The cache is shared by all charts and never shrinks: there are few widths, and a shape takes
-// some hundred bytes.
+/// All charts of a thread share the cache. It never shrinks: a line has at most 100 different widths, and a
+/// shape takes some hundred bytes.
 WideStrokes::Shapes& WideStrokes::ShapesOf(int width) {
-    static std::map<int, std::unique_ptr<Shapes>> all;
+    thread_local std::map<int, std::unique_ptr<Shapes>> all;
     std::unique_ptr<Shapes>& shapes = all[width];
     if (!shapes)
         shapes = std::make_unique<Shapes>();
@@ -68,8 +68,8 @@ void WideStrokes::Draw(const Point* points, int count) {
     }
 }
 
-// GDI's time grows with a stroke's length, visible or not. So an end far outside the view is replaced by a
-// nearer point that leaves the visible pixels the same.
+/// GDI's time grows with a stroke's length, visible or not. So an end far outside the view is replaced by a
+/// nearer point, with which the stroke has the same visible pixels.
 void WideStrokes::DrawByGdi(Point from, Point to) {
     if (!BringFarEndsNearer(from, to, IsFar(from, m_view), IsFar(to, m_view), m_view, m_width))
         return;
@@ -77,7 +77,7 @@ void WideStrokes::DrawByGdi(Point from, Point to) {
     m_dc.LineTo(to.x, to.y);
 }
 
-// The cached shape of the stroke from (0, 0) to (`dx`, `dy`); null when GDI has to draw the stroke.
+/// The cached shape of the stroke from (0, 0) to (`dx`, `dy`); null when GDI has to draw the stroke.
 const WideStrokes::Shape* WideStrokes::Find(int dx, int dy) {
     if (std::abs(dx) > 1 || std::abs(dy) > kLongest)
         return nullptr;
@@ -87,7 +87,7 @@ const WideStrokes::Shape* WideStrokes::Find(int dx, int dy) {
     return entry.isKnown ? &entry.shape : nullptr;
 }
 
-// Lets GDI draw a stroke into the scratch picture and reads its pixels back. False when that is impossible.
+/// Lets GDI draw a stroke into the scratch picture and reads its pixels back. False when that is impossible.
 bool WideStrokes::Learn(int dx, int dy, Shape& shape) {
     const int margin = m_width + 2;
     if (!m_scratch)

@@ -1,4 +1,4 @@
-// Finds the memory behind a DC, and checks once that the direct strokes have GDI's own pixels.
+// Finds the pixels in memory that a DC paints into, and checks once that PixelRaster paints as GDI does.
 #include "gdi/DirectPaint.h"
 
 #include <algorithm>
@@ -11,15 +11,14 @@
 #include "plot/ThinLine.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr int kBits = 32;
-constexpr COLORREF kColourBits = 0x00FFFFFF; // of a COLORREF: red, green and blue
+constexpr COLORREF kColourBits = 0x00FFFFFF; // the red, green and blue bits of a COLORREF or pixel
 
 struct Pixels {
-    std::uint32_t* memory; ///< the row that comes first in memory
-    std::ptrdiff_t stride;
+    std::uint32_t* memory; ///< first pixel of the row that comes first in memory
+    std::ptrdiff_t stride; ///< pixels from one row to the next one in memory
     Rect bounds;
 };
 
@@ -34,10 +33,13 @@ std::optional<Pixels> PixelsOf(HBITMAP bitmap) {
                   {0, 0, static_cast<int>(section.dsBm.bmWidth), static_cast<int>(section.dsBm.bmHeight)}};
 }
 
-/// The pixel (0, 0); null when it cannot be found. GDI does not tell whether the top or the bottom row comes
-/// first in memory. So this function changes a pixel in memory, reads it through GDI, and restores it.
+/// The address of the pixel (0, 0), the top left one; null when it cannot be found. GDI does not tell whether
+/// the top or the bottom row comes first in memory. So this function changes a pixel in memory, reads it
+/// through GDI, and restores it.
 std::uint32_t* FindOrigin(HDC dc, const Pixels& pixels, const Rect& clip) {
-    const POINT probe = {clip.left, clip.top};
+    // In the middle row of an odd number of rows a pixel has the same place in both orders of rows.
+    const bool isMiddle = 2 * clip.top + 1 == pixels.bounds.Height();
+    const POINT probe = {clip.left, isMiddle && clip.top + 1 < clip.bottom ? clip.top + 1 : clip.top};
     POINT logical = probe;
     ::DPtoLP(dc, &logical, 1);
     POINT back = logical;
@@ -52,7 +54,8 @@ std::uint32_t* FindOrigin(HDC dc, const Pixels& pixels, const Rect& clip) {
     return isTopFirst ? pixels.memory : pixels.memory + pixels.stride * (pixels.bounds.Height() - 1);
 }
 
-/// Limits `clip`, in device pixels, to the DC's clip region. False when this region is not a rectangle.
+/// Limits `clip`, in device pixels, to the DC's clip region. False when this region is not a rectangle or
+/// cannot be read, and when the DC has a meta region too.
 bool IntersectWithClip(HDC dc, Rect& clip) {
     CRgn region;
     if (!region.CreateRectRgn(0, 0, 0, 0) || ::GetMetaRgn(dc, region) == 1)
@@ -74,7 +77,7 @@ class Comparison {
 public:
     bool PaintsAlike() {
         Scratch scratch(kSide);
-        // All these pens are one pixel wide: their widths are 0, 2/3 of a pixel and 4/3 of a pixel.
+        // GDI draws pens of width 0, 2/3 of a pixel and 4/3 of a pixel all one pixel wide.
         CPen pens[kPens];
         CBrush brush;
         for (int i = 0; i < kPens; ++i)
@@ -97,7 +100,8 @@ private:
         std::vector<std::uint32_t> own(kSide * kSide);
         PixelRaster raster(own.data(), kSide, {0, 0, kSide, kSide});
         const std::uint32_t colour = *DirectColour(kColour);
-        // Ends inside and outside the picture, on and between pixel positions, in all directions.
+        // Strokes in all directions, with ends inside and outside the picture, on and between pixel
+        // positions.
         for (int i = 0; i < 96; ++i) {
             POINT ends[2] = {{kUnitsPerPixel * 24 + i % 5 * 4, kUnitsPerPixel * 24 - i % 7 * 3},
                              {kUnitsPerPixel * (24 + (i * 37 + 5) % 61 - 30) + i % 3 * 7,
@@ -156,7 +160,7 @@ std::optional<PixelRaster> DirectRaster(const CDC& dc) {
         return std::nullopt;
     if (clip.left >= clip.right || clip.top >= clip.bottom)
         return PixelRaster(pixels->memory, pixels->stride, {0, 0, 0, 0});
-    ::GdiFlush(); // earlier GDI calls must reach the memory first
+    ::GdiFlush(); // GDI may have queued earlier calls: they must reach the memory first
     std::uint32_t* origin = FindOrigin(handle, *pixels, clip);
     if (origin == nullptr)
         return std::nullopt;
@@ -171,8 +175,9 @@ std::optional<std::uint32_t> DirectColour(COLORREF colour) {
 }
 
 bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, PixelEdges& rows) {
-    // A pixel begins half a pixel before its position. GDI may round this border by one logical unit in
-    // either direction, so three candidates are converted for each border.
+    // GDI rounds a position to the nearest pixel, so the positions of a pixel begin half a pixel before the
+    // pixel's own position. The rounding may move this border by one logical unit in either direction, so
+    // three candidates are converted for each border.
     constexpr int kCandidates = 3;
     const CPoint origin = dc.GetViewportOrg();
     const int count = std::max(device.Width(), device.Height()) + 1;
@@ -212,8 +217,8 @@ bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, Pix
 }
 
 Rect FilledByRectangle(const POINT& corner, const POINT& opposite) {
-    // The right and bottom edges belong to the outline. The null pen does not draw the outline, and the
-    // interior ends one pixel before it.
+    // GDI leaves out the column and the row of the right and bottom coordinates. The column and the row
+    // before them belong to the outline, which the null pen does not draw.
     return {static_cast<int>(std::min(corner.x, opposite.x)),
             static_cast<int>(std::min(corner.y, opposite.y)),
             static_cast<int>(std::max(corner.x, opposite.x)) - 1,

@@ -11,8 +11,9 @@ namespace {
 constexpr double kStackWidth = 0.6; // as a fraction of a slot
 constexpr double kOutlined = 4;     // pixels; the outline would hide a thinner bar
 
-/// A bar from the value `foot` to the value `tip`. The pixel of the tip belongs to the bar and that of the
-/// foot does not. So the base line stays visible, and stacked bars do not overlap.
+/// Draws a bar from the value `foot` to the value `tip`. The row or column of pixels at the tip belongs to
+/// the bar, the one at the foot does not. So the base line stays visible, and stacked bars do not overlap. A
+/// bar shorter than a pixel fills the pixel of the tip, even when the foot lies in the same pixel.
 void DrawBar(GraphPass& pass, Span along, double foot, double tip, COLORREF colour) {
     foot = pass.values.Clamp(foot);
     tip = pass.values.Clamp(tip);
@@ -23,7 +24,7 @@ void DrawBar(GraphPass& pass, Span along, double foot, double tip, COLORREF colo
     Span value{pass.values.Position(foot), pass.values.Position(tip)};
     if (value.to > value.from)
         value = {value.from + pixel, value.to + pixel};
-    if (std::abs(value.to - value.from) < pixel / 2)
+    if (std::abs(value.to - value.from) < pixel)
         value.from = value.to + (value.to > value.from ? -pixel : pixel);
     if (along.to < along.from)
         std::swap(along.from, along.to);

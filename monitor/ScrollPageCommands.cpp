@@ -47,7 +47,8 @@ void CScrollPage::OnDataRemoved(UINT, NMHDR* pNMHDR, LRESULT* pResult) {
         const std::uint64_t first = Content().live ? Content().live->First() : Content().lost;
         const std::uint64_t left = m_rows.front().sample;
         // During a pause, the content may have lost these readings already.
-        Host().RemoveHead(left > first ? static_cast<std::size_t>(left - first) : 0);
+        if (left > first)
+            Host().RemoveHead(static_cast<std::size_t>(left - first));
     }
     ViewChanged();
 }

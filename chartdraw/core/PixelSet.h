@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "plot/PixelRaster.h"
@@ -41,26 +42,23 @@ public:
         for (int row = 0; row < m_area.Height(); ++row) {
             const std::uint64_t* words = &m_words[static_cast<std::size_t>(row) * m_rowWords];
             const int y = m_area.top + row;
-            int begin = -1; // of the run that is open, or -1
+            std::optional<int> begin; // x of the open run's first pixel
             for (std::size_t i = 0; i < m_rowWords; ++i) {
                 const int left = m_area.left + static_cast<int>(i * kBits);
                 std::uint64_t changes =
-                    words[i] ^ (words[i] << 1 | (begin < 0 ? 0 : 1)); // bits that differ from the bit before
+                    words[i] ^ (words[i] << 1 | (begin ? 1 : 0)); // bits that differ from the bit before
                 for (; changes != 0; changes &= changes - 1) {
                     const int x = left + LowestBit(changes);
-                    if (begin < 0) {
-                        begin = x;
-                    } else {
-                        take(Rect{begin, y, x, y + 1});
-                        begin = -1;
-                    }
+                    if (begin)
+                        take(Rect{*begin, y, x, y + 1});
+                    begin = begin ? std::nullopt : std::optional(x);
                 }
             }
-            if (begin >= 0)
-                take(Rect{begin, y, m_area.right, y + 1});
+            if (begin)
+                take(Rect{*begin, y, m_area.right, y + 1});
         }
     }
-    /// The set of all pixels that `shape` covers when its centre stands on each pixel of this set. `shape`
+    /// The set of all pixels that `shape` covers when its centre is placed on each pixel of this set. `shape`
     /// holds offsets from the centre, at most `reach` in each direction.
     PixelSet Stamped(const std::vector<Point>& shape, int reach) const;
 

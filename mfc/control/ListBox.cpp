@@ -31,8 +31,7 @@ int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem) {
 }
 
 int CListBox::SetCaretIndex(int nIndex, BOOL bScroll) {
-    // LB_SETCARETINDEX takes the opposite flag: TRUE means that a partly visible item is not scrolled.
-    return afx_control::Ask(m_hWnd, LB_SETCARETINDEX, Param(nIndex), MAKELPARAM(!bScroll, 0));
+    return afx_control::Ask(m_hWnd, LB_SETCARETINDEX, Param(nIndex), MAKELPARAM(bScroll, 0));
 }
 
 int CListBox::GetItemRect(int nIndex, LPRECT lpRect) const {

@@ -103,7 +103,7 @@ private:
         const double shift = tip > foot ? 1 : 0, from = std::min(part.from, part.to),
                      to = std::max(part.from, part.to);
         foot += shift, tip += shift; // the pixel of the tip belongs to the bar
-        if (std::abs(tip - foot) < 0.5)
+        if (std::abs(tip - foot) < 1)
             foot = tip + (tip > foot ? -1 : 1);
         const bool outlined = to - from >= 4;
         Pen(1, outlined ? Outline(part.colour) : part.colour);

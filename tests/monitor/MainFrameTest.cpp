@@ -3,6 +3,8 @@
 #include <afxres.h>
 
 #include <functional>
+#include <future>
+#include <thread>
 
 #include "monitor/MonitorGraph.h"
 #include "tests/monitor/FrameWithPage.h"
@@ -278,6 +280,20 @@ TEST_F(MainFrame, CopyReachesTheClipboard) {
     EXPECT_EQ(Pane(kTextPane).substr(0, 6), "Copied");
     Press(VK_RIGHT);
     EXPECT_EQ(Pane(kTextPane), "1970-01-01 00:00:00   up: 0   down: 100") << "until something changes";
+
+    // The system treats another thread as it treats another program.
+    std::promise<void> opened, release;
+    std::thread holder([&] {
+        EXPECT_TRUE(::OpenClipboard(nullptr));
+        opened.set_value();
+        release.get_future().wait();
+        ::CloseClipboard();
+    });
+    opened.get_future().wait();
+    Command(ID_EDIT_COPY);
+    EXPECT_EQ(Pane(kTextPane), "Not copied: another program holds the clipboard. Try again");
+    release.set_value();
+    holder.join();
 }
 
 } // namespace

@@ -33,10 +33,10 @@ public:
 
     /// The selected item of a single-selection list box; LB_ERR if none.
     int GetCurSel() const { return afx_control::Ask(m_hWnd, LB_GETCURSEL); }
-    /// -1 removes the selection; that call also returns LB_ERR.
+    /// `nSelect` -1 removes the selection; the call then returns LB_ERR although it has succeeded.
     int SetCurSel(int nSelect) { return afx_control::Ask(m_hWnd, LB_SETCURSEL, Param(nSelect)); }
 
-    /// Multiple selection.
+    /// Members for list boxes with multiple selection.
     int GetSel(int nIndex) const { return afx_control::Ask(m_hWnd, LB_GETSEL, Param(nIndex)); }
     int SetSel(int nIndex, BOOL bSelect = TRUE) {
         return afx_control::Ask(m_hWnd, LB_SETSEL, static_cast<WPARAM>(bSelect), nIndex);
@@ -46,10 +46,11 @@ public:
     int SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem);
     void SetAnchorIndex(int nIndex) { afx_control::Ask(m_hWnd, LB_SETANCHORINDEX, Param(nIndex)); }
     int GetAnchorIndex() const { return afx_control::Ask(m_hWnd, LB_GETANCHORINDEX); }
+    /// `bScroll` FALSE scrolls until the item is fully visible, TRUE until it is at least partly visible.
     int SetCaretIndex(int nIndex, BOOL bScroll = TRUE);
     int GetCaretIndex() const { return afx_control::Ask(m_hWnd, LB_GETCARETINDEX); }
 
-    /// A value of the program for each item.
+    /// A value that the program stores with an item, for its own use.
     DWORD_PTR GetItemData(int nIndex) const {
         return static_cast<DWORD_PTR>(::SendMessage(m_hWnd, LB_GETITEMDATA, Param(nIndex), 0));
     }
@@ -61,7 +62,7 @@ public:
         return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
     }
     int GetItemRect(int nIndex, LPRECT lpRect) const;
-    /// The buffer needs GetTextLen() characters and a zero. Returns the length; LB_ERR for an invalid index.
+    /// The buffer needs GetTextLen() + 1 characters. Returns the length; LB_ERR for an invalid index.
     int GetText(int nIndex, LPTSTR lpszBuffer) const;
     /// The text is empty for an invalid index.
     void GetText(int nIndex, CString& rString) const;
@@ -78,12 +79,13 @@ public:
     /// Items. Functions that add return the new index; DeleteString() returns the number of remaining items.
     int AddString(LPCTSTR lpszItem);
     int DeleteString(UINT nIndex) { return afx_control::Ask(m_hWnd, LB_DELETESTRING, nIndex); }
-    /// Inserts without sorting; -1 appends.
+    /// Inserts without sorting; `nIndex` -1 appends.
     int InsertString(int nIndex, LPCTSTR lpszItem);
     void ResetContent() { afx_control::Ask(m_hWnd, LB_RESETCONTENT); }
     int Dir(UINT attr, LPCTSTR lpszWildCard);
-    /// The first item that begins with the text. The search starts after `nStartAfter` (-1: at the top) and
-    /// continues from the top.
+    /// Return the index of the first item that begins with the text (FindStringExact: that equals the text).
+    /// The search starts after item `nStartAfter` (-1: at the top) and after the last item continues at the
+    /// top. SelectString() also selects the item.
     int FindString(int nStartAfter, LPCTSTR lpszItem) const;
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const;
     int SelectString(int nStartAfter, LPCTSTR lpszItem);
@@ -103,7 +105,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
@@ -146,7 +148,7 @@ public:
     }
     BOOL LimitText(int nMaxChars) { return afx_control::Ask(m_hWnd, CB_LIMITTEXT, Param(nMaxChars)); }
 
-    /// A value of the program for each item.
+    /// A value that the program stores with an item, for its own use.
     DWORD_PTR GetItemData(int nIndex) const {
         return static_cast<DWORD_PTR>(::SendMessage(m_hWnd, CB_GETITEMDATA, Param(nIndex), 0));
     }
@@ -157,8 +159,7 @@ public:
     int SetItemDataPtr(int nIndex, void* pData) {
         return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
     }
-    /// The buffer needs GetLBTextLen() characters and a zero. Returns the length; CB_ERR for an invalid
-    /// index.
+    /// The buffer needs GetLBTextLen() + 1 characters. Returns the length; CB_ERR for an invalid index.
     int GetLBText(int nIndex, LPTSTR lpszText) const;
     /// The text is empty for an invalid index.
     void GetLBText(int nIndex, CString& rString) const;
@@ -182,12 +183,13 @@ public:
     /// Items. Functions that add return the new index; DeleteString() returns the number of remaining items.
     int AddString(LPCTSTR lpszString);
     int DeleteString(UINT nIndex) { return afx_control::Ask(m_hWnd, CB_DELETESTRING, nIndex); }
-    /// Inserts without sorting; -1 appends.
+    /// Inserts without sorting; `nIndex` -1 appends.
     int InsertString(int nIndex, LPCTSTR lpszString);
     void ResetContent() { afx_control::Ask(m_hWnd, CB_RESETCONTENT); }
     int Dir(UINT attr, LPCTSTR lpszWildCard);
-    /// The first item that begins with the text. The search starts after `nStartAfter` (-1: at the top) and
-    /// continues from the top.
+    /// Return the index of the first item that begins with the text (FindStringExact: that equals the text).
+    /// The search starts after item `nStartAfter` (-1: at the top) and after the last item continues at the
+    /// top. SelectString() also selects the item.
     int FindString(int nStartAfter, LPCTSTR lpszString) const;
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const;
     int SelectString(int nStartAfter, LPCTSTR lpszString);
@@ -209,7 +211,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };

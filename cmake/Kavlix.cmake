@@ -27,7 +27,7 @@ endfunction()
 function(kavlix_resources target script)
     target_sources(${target} PRIVATE ${script})
     file(GLOB included CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/module/*.rc ${PROJECT_SOURCE_DIR}/gdi/StringIds.h
-         ${PROJECT_SOURCE_DIR}/monitor/*.rc ${PROJECT_SOURCE_DIR}/monitor/*.manifest
+         ${PROJECT_SOURCE_DIR}/monitor/*.rc ${PROJECT_BINARY_DIR}/generated/Monitor.manifest
          ${PROJECT_SOURCE_DIR}/monitor/resource.h ${PROJECT_SOURCE_DIR}/include/kavlix/GraphNotify.h)
     set_source_files_properties(
         ${script} PROPERTIES INCLUDE_DIRECTORIES
@@ -78,6 +78,7 @@ endfunction()
 function(kavlix_check_all_sources_are_compiled)
     file(GLOB top CONFIGURE_DEPENDS LIST_DIRECTORIES true ${PROJECT_SOURCE_DIR}/*)
     list(FILTER top EXCLUDE REGEX "/build[^/]*$")
+    set(patterns)
     foreach(folder ${top})
         if(IS_DIRECTORY ${folder})
             list(APPEND patterns ${folder}/*.cpp)

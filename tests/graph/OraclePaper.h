@@ -10,6 +10,8 @@
 #include <map>
 #include <tuple>
 
+#include "plot/Numeric.h"
+
 namespace oracle {
 
 /// The properties and contents of a graph, as a host sets them.
@@ -65,8 +67,8 @@ inline int Normal(int angle) {
 struct Turned {
     Turned(Size size, int angle) {
         const int turn = Normal(angle);
-        sin = turn % 180 == 0 ? 0 : std::sin(turn * 3.14159265358979323846 / 180);
-        cos = turn % 180 == 90 ? 0 : std::cos(turn * 3.14159265358979323846 / 180);
+        sin = turn % 180 == 0 ? 0 : std::sin(turn * kavlix::kPi / 180);
+        cos = turn % 180 == 90 ? 0 : std::cos(turn * kavlix::kPi / 180);
         for (const Place p : {At(0, 0), At(size.width, 0), At(0, size.height), At(size.width, size.height)}) {
             left = std::min(left, p.x), right = std::max(right, p.x);
             top = std::min(top, p.y), bottom = std::max(bottom, p.y);

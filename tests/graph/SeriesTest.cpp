@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "plot/Numeric.h"
+
 namespace {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
@@ -23,7 +25,7 @@ TEST_F(GraphSeriesTest, PiesShareTheCircle) {
         const RECT box = surface->Bounds(kColours[0]); // the first quarter
         const int cx = box.left, cy = box.bottom, rx = box.right - box.left, ry = box.bottom - box.top;
         const auto at = [&](double degrees, double reach) {
-            const double a = degrees * 3.14159265 / 180;
+            const double a = degrees * kavlix::kPi / 180;
             return surface->At(Pixel(cx + rx * reach * std::sin(a)), Pixel(cy - ry * reach * std::cos(a)));
         };
         EXPECT_EQ(at(3, 0.9), kColours[0]);

@@ -96,13 +96,7 @@ protected:
         graph.SetXTickLabelUpStringMaxLength(numbers.Below(20) - 3);
         graph.m_LegendMargin = numbers.Below(200);
         graph.m_LegendItemHeight = numbers.Below(500);
-        for (auto set :
-             {&CGraphCtrl::SetGridColor, &CGraphCtrl::SetBkColor, &CGraphCtrl::SetTitleColor,
-              &CGraphCtrl::SetXLabelColor, &CGraphCtrl::SetYLabelColor, &CGraphCtrl::SetY2LabelColor,
-              &CGraphCtrl::SetAxisColor, &CGraphCtrl::SetXTickLabelColor, &CGraphCtrl::SetYTickLabelColor,
-              &CGraphCtrl::SetY2TickLabelColor, &CGraphCtrl::SetLegendColor, &CGraphCtrl::SetLegendTextColor,
-              &CGraphCtrl::SetCaptionColor, &CGraphCtrl::SetCaptionTextColor, &CGraphCtrl::SetLineCursorColor,
-              &CGraphCtrl::SetBoxCursorColor})
+        for (auto set : kColorSetters)
             (graph.*set)(Colour());
         ChooseData();
         EXPECT_EQ(Text(UpdateRect()), "0,0,0,0") << "a property or a sample repaints";

@@ -96,13 +96,7 @@ TEST(GraphPropertiesTest, EachSetterChangesWhatItNames) {
     OpenGraph graph;
     Strings before = Properties(graph);
     int next = 20;
-    for (auto set :
-         {&CGraphCtrl::SetGridColor, &CGraphCtrl::SetBkColor, &CGraphCtrl::SetTitleColor,
-          &CGraphCtrl::SetXLabelColor, &CGraphCtrl::SetYLabelColor, &CGraphCtrl::SetY2LabelColor,
-          &CGraphCtrl::SetAxisColor, &CGraphCtrl::SetXTickLabelColor, &CGraphCtrl::SetYTickLabelColor,
-          &CGraphCtrl::SetY2TickLabelColor, &CGraphCtrl::SetLegendColor, &CGraphCtrl::SetLegendTextColor,
-          &CGraphCtrl::SetCaptionColor, &CGraphCtrl::SetCaptionTextColor, &CGraphCtrl::SetLineCursorColor,
-          &CGraphCtrl::SetBoxCursorColor})
+    for (auto set : kColorSetters)
         (graph.*set)(next++);
     for (auto set : {&CGraphCtrl::SetLegendWidth, &CGraphCtrl::SetXTickLabelHeight,
                      &CGraphCtrl::SetXTickLabelUpStringMaxLength, &CGraphCtrl::SetYTickLabelWidth,

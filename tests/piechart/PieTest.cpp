@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "plot/Numeric.h"
+
 int OpenPie::Selected() const {
     int selected = -1;
     for (int i = 0; i < m_arrPieces.GetSize(); ++i)
@@ -94,7 +96,7 @@ CRect PieTest::Client() {
 }
 
 CPoint PieTest::At(double angle, double part) {
-    const double radians = angle * 3.14159265358979 / 180;
+    const double radians = angle * kavlix::kPi / 180;
     const double radius = pie.m_rcPie.Height() / 2.0 * part;
     return CPoint(static_cast<int>(
                       std::lround((pie.m_rcPie.left + pie.m_rcPie.right) / 2 + std::sin(radians) * radius)),

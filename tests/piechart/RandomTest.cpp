@@ -5,9 +5,11 @@
 #include <cmath>
 #include <random>
 
+#include "plot/Numeric.h"
+
 namespace {
 
-constexpr double kPi = 3.14159265358979;
+using kavlix::kPi;
 
 /// A pie as the literal painter sees it. The texts inside sectors have the sectors' colours, so that no text
 /// hides a pixel there, except the white texts of a selected piece.

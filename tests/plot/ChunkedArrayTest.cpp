@@ -9,7 +9,7 @@
 
 using kavlix::ChunkedArray;
 
-TEST(ChunkedArray, HoldWhatADequeHolds) {
+TEST(ChunkedArrayTest, HoldWhatADequeHolds) {
     std::mt19937 random(3);
     for (int round = 0; round < 200; ++round) {
         ChunkedArray<std::string, 8> pieces;

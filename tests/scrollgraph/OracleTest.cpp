@@ -1,5 +1,5 @@
 // The scrolling graph beside a plain model: random feeding, scrolling and sizes; view, scroll bar, notifications, drawn
-// samples, hits and the whole time axis are compared. tests/speed compares the pixels of the lines.
+// samples, hits and the whole time axis are compared. tests/identity compares the pixels of the lines.
 
 #include "tests/scrollgraph/FixedZone.h"
 #include "tests/scrollgraph/ScrollTest.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What the control is described to hold, in plain vectors and with plain walks.
+/// What the header promises that the control holds, in plain vectors and with plain walks.
 class PlainScroll {
 public:
     explicit PlainScroll(const OpenScrollGraph& graph) : g(graph) {}

@@ -10,7 +10,7 @@
 namespace kavlix {
 namespace {
 
-TEST(PieGeometryTest, PiesAreArrangedToBecomeLarge) {
+TEST(GraphShapesTest, PiesAreArrangedToBecomeLarge) {
     std::function<double(double, double)> radius = [](double w, double h) { return std::min(w, h) / 2; };
     const auto grid = [&](int count, double width, double height) {
         const PieGrid g = ArrangePies(count, width, height, 50, radius);
@@ -25,7 +25,7 @@ TEST(PieGeometryTest, PiesAreArrangedToBecomeLarge) {
     EXPECT_EQ(grid(3, 480, 300), "2x2") << "texts on both sides take more of narrow boxes";
 }
 
-TEST(PieGeometryTest, ABoxLiesInItsSectorWholeOrNot) {
+TEST(GraphShapesTest, ABoxLiesInItsSectorWholeOrNot) {
     const PieOutline pie{{100, 100}, 50, 25};
     struct Case {
         Sector sector;

@@ -8,7 +8,6 @@
 #include "plot/Numeric.h"
 
 namespace kavlix {
-
 namespace {
 
 LayoutInput Defaults(int widthPixels, int heightPixels) {

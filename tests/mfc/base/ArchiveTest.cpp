@@ -13,7 +13,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "tests/mfc/Refusal.h"
+#include "tests/support/Refusal.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include <random>
 #include <vector>
 
-#include "tests/mfc/Refusal.h"
 #include "tests/support/AllocationGuard.h"
+#include "tests/support/Refusal.h"
 
 namespace {
 

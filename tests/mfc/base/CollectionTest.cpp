@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "tests/mfc/Refusal.h"
+#include "tests/support/Refusal.h"
 
 namespace {
 

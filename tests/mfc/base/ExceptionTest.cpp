@@ -7,9 +7,9 @@
 
 #include <string>
 
-#include "tests/mfc/Refusal.h"
 #include "tests/mfc/base/BaseTestIds.h"
 #include "tests/support/MessageBoxWatcher.h"
+#include "tests/support/Refusal.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <random>
 #include <string>
 
-#include "tests/mfc/Refusal.h"
+#include "tests/support/Refusal.h"
 #include "tests/support/TempFolder.h"
 
 namespace {

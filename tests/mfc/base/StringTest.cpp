@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/mfc/Refusal.h"
+#include "tests/support/Refusal.h"
 
 namespace {
 

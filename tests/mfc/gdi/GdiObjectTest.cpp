@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "tests/mfc/Refusal.h"
+#include "tests/support/Refusal.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Handles when memory runs out: none is lost, none stays selected or taken.
 
-#include "tests/mfc/Refusal.h"
 #include "tests/support/AllocationGuard.h"
 #include "tests/support/MemoryRule.h"
+#include "tests/support/Refusal.h"
 
 #include <afxwin.h>
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "piechart/core/PieGeometry.h"
+#include "plot/Numeric.h"
 
 namespace kavlix {
 namespace {
@@ -19,7 +20,6 @@ bool IsTruncated(int value, double exact) {
 }
 
 TEST(PieGeometryTest, RandomPiesFollowTheFormulas) {
-    constexpr double kPi = 3.14159265358979;
     std::mt19937 random(3);
     const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
     for (int run = 0; run < 5000; ++run) {

@@ -9,8 +9,7 @@
 
 #include <optional>
 
-/// Graphs whose lines are drawn sample by sample. This code follows the described picture and shares no
-/// arithmetic with the control.
+/// Graphs whose lines are drawn sample by sample. The code shares no arithmetic with the control.
 namespace plain {
 
 /// A control that draws its lines itself or by the plain walk. `Control` is CGraphCtrl or CScrollGraphCtrl.

@@ -1,5 +1,5 @@
 // Which samples of a graph are drawn, and where.
-#include "tests/speed/PlainWalk.h"
+#include "tests/identity/PlainWalk.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // Compares the pictures of all painting shortcuts with those of a plain walk over every sample, in random
 // views.
-#include "tests/speed/PlainWalk.h"
+#include "tests/identity/PlainWalk.h"
 #include "tests/support/DibSurface.h"
 #include "tests/support/MetafileRecorder.h"
 #include "tests/support/RecordingParent.h"
@@ -323,6 +323,42 @@ TEST_F(IdentityTest, BarsTooHoweverTheyAreFilled) {
         graph.SetXVisibleMin(dice.OneIn(2) ? 0 : dice.Within(-0.2, 1) * count);
         graph.SetXVisibleMax(dice.Within(0, 1.3) * count);
     });
+}
+
+TEST_F(IdentityTest, BitmapsWithTheLowestRowFirst) {
+    plain::Graph<CGraphCtrl> graph;
+    ASSERT_NO_FATAL_FAILURE(Open(graph, CSize(230, 190)));
+    Dice dice(1);
+    for (int i = 0; i < 300; ++i)
+        graph.AddData(0, dice.Within(0, 100), nullptr);
+    graph.SetXVisibleMax(299);
+    graph.SetYVisibleMax(100);
+    // Each number of rows: the plot's first row may be the middle row of the bitmap.
+    for (int rows = 50; rows < 120; ++rows) {
+        testkit::DibSurface topFirst(230, rows), copied(230, rows);
+        CDC bottomFirst;
+        ASSERT_TRUE(bottomFirst.CreateCompatibleDC(nullptr));
+        BITMAPINFO info = {};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = 230;
+        info.bmiHeader.biHeight = rows;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        void* pixels = nullptr;
+        CBitmap bitmap;
+        ASSERT_TRUE(bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0)));
+        CBitmap* const before = bottomFirst.SelectObject(&bitmap);
+        bottomFirst.PatBlt(0, 0, 230, rows, WHITENESS);
+        for (const HDC dc : {topFirst.Dc(), bottomFirst.m_hDC}) {
+            const int saved = ::SaveDC(dc);
+            graph.Paint(dc);
+            ::RestoreDC(dc, saved);
+        }
+        ::BitBlt(copied.Dc(), 0, 0, 230, rows, bottomFirst, 0, 0, SRCCOPY);
+        bottomFirst.SelectObject(before);
+        ASSERT_EQ(testkit::Difference(topFirst, copied), "") << rows << " rows";
+    }
+    graph.DestroyWindow();
 }
 
 TEST_F(IdentityTest, LinesOfManyPoints) {

@@ -128,7 +128,7 @@ BOOL WINAPI CChartDraw::SaveDIB(HDIB hDib, CFile& file) {
     const std::uint64_t imageBytes =
         runLengths ? header.biSizeImage : ImageBytes(header.biWidth, header.biHeight, header.biBitCount);
     const std::uint64_t dibBytes = bitsAt + imageBytes;
-    // A header that claims more than the block holds must not make the file contain foreign memory.
+    // A header can claim more bytes than the block holds. The file must not contain memory behind the block.
     if (dibBytes > blockBytes || dibBytes > MAXDWORD - kFileHeaderBytes)
         return FALSE;
     header.biSizeImage = static_cast<DWORD>(imageBytes);

@@ -89,7 +89,7 @@ bool CChartDraw::WriteBitmapFile(const CString& name) {
     CFile file;
     if (block.Get() == nullptr || !file.Open(name, CFile::modeCreate | CFile::modeWrite))
         return false;
-    SaveDIB(block.Get(), file);
+    SaveDIB(block.Get(), file); // the result is true even if an override writes nothing: hosts rely on that
     return true;
 }
 

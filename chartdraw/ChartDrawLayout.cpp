@@ -15,9 +15,9 @@ namespace {
 
 // Distances in text heights.
 constexpr double kCaptionGap = 0.3; // between a caption and the scale beside it
-constexpr double kYLabelRoom = 2.5; // from the top of a Y label to the top of the next
+constexpr double kYLabelRoom = 2.5; // least distance from the top of a Y label to the top of the next
 constexpr double kXLabelGap = 1.2;  // least distance between two X labels
-constexpr double kSmallestPlot = 4; // a lower or narrower plot takes the room of captions, title and scales
+constexpr double kSmallestPlot = 4; // least plot size; a smaller plot lets captions, title, scales give way
 
 constexpr int kTenthsOfPointPerInch = 720;
 constexpr int kMostTicks = 100;
@@ -29,7 +29,7 @@ int WidestLabel(CDC& dc, const RoundScale& scale) {
     return widest;
 }
 
-// How many steps of `room` pixels fit into `length`, within the limits of a scale.
+/// Number of steps of `room` pixels that fit into `length` pixels, limited to 2 to kMostTicks.
 int StepsIn(int length, double room) {
     return std::clamp(static_cast<int>(length / std::max(room, 1.0)), 2, kMostTicks);
 }

@@ -22,7 +22,7 @@ void DrawStroke(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.LineTo(x2, y2);
 }
 
-/// Calls `draw(tick, position)` for every tick of a scale that `map` gives a position.
+/// Calls `draw(tick, position)` for every tick of a scale that has a position on `map`.
 template <class Draw> void ForTicks(const RoundScale& scale, const LinearMap& map, Draw draw) {
     for (int i = 0; i < scale.TickCount(); ++i)
         if (const auto position = map.Position(scale.Tick(i)))

@@ -47,8 +47,8 @@ void DrawThin(CDC& dc, const Point* points, int count) {
     dc.Polyline(stroke.data(), count);
 }
 
-/// The dot that shows a point without neighbours: as wide as the line, and square if a circle would
-/// be too small to see.
+/// The dot that shows a point without neighbours: as wide as the line, at least 3 pixels, and square when a
+/// circle would be too small to be seen as one.
 StampShape DotOf(int lineSize) {
     constexpr int kSmallest = 3;
     constexpr int kSmallestRound = 5;
@@ -122,8 +122,8 @@ void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
     PixelSet places(plot);
     const LinearMap xMap = XMap();
     const LinearMap yMap = YMap();
-    // Whether a block of points cannot add a pixel: it lies outside the plot, or all its
-    // pixels are in the set.
+    // Whether a block of points cannot add a pixel to the set: the block lies outside the plot, or all its
+    // pixels are in the set already.
     const auto addsNothing = [&](const PointBox& box, int first, int last) {
         const auto left = xMap.Position(box.left);
         const auto right = xMap.Position(box.right);
@@ -143,8 +143,8 @@ void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
     dataset.points.Boxes().Visit(0, dataset.points.Size(), addsNothing, [&](int first, int behind) {
         const ChartPoint* points = &dataset.points[first];
         for (int i = 0; i < behind - first; ++i) {
-            // The comparisons are false for NaN and keep both numbers in the range of an int. The set ignores
-            // pixels outside the plot.
+            // For NaN the comparisons are false. For all other numbers that pass them, both casts are
+            // defined. The set ignores pixels outside the plot.
             const double x = xMap.ExactPosition(points[i].x);
             const double y = yMap.ExactPosition(points[i].y);
             if (x > plot.left - 1 && x < plot.right && y > plot.top - 1 && y < plot.bottom)

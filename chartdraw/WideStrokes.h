@@ -15,11 +15,11 @@ namespace kavlix {
 
 class Scratch;
 
-/// Draws strokes with a solid pen wider than a pixel. GDI makes a region of each such stroke, which
-/// takes as long as painting a hundred pixels. In a line with many points nearly all strokes lead to the
-/// same column or the next one. So if the pixels of the DC lie in memory, GDI draws each such stroke
-/// once into a scratch picture; its shape is cached, and later strokes of the same direction and length
-/// are painted from the cache.
+/// Draws strokes with a solid pen wider than a pixel. GDI makes a region for each stroke of this width, which
+/// takes as long as painting a hundred pixels. In a line with many points, nearly all strokes stay in a
+/// column or lead to a neighbouring column. So if the pixels of the DC lie in memory, GDI draws one such
+/// stroke of each direction and length into a scratch picture. The shape found there is cached, and later
+/// strokes of the same direction and length are painted from the cache.
 class WideStrokes {
 public:
     /// A solid pen of `width` pixels and of the colour `colour` must be selected into `dc`. Pixels outside
@@ -31,7 +31,7 @@ public:
     WideStrokes(const WideStrokes&) = delete;
     WideStrokes& operator=(const WideStrokes&) = delete;
 
-    /// Draws the strokes from each of the points to the next.
+    /// Draws a stroke from each of the points to the next point.
     void Draw(const Point* points, int count);
 
 private:

@@ -12,30 +12,32 @@ namespace kavlix {
 
 /// How a DC treats strokes.
 enum class StrokeKind {
-    Pixels,   ///< it paints pixels at once: strokes that change no pixel may be left out
-    Recorded, ///< a metafile or printer stores them, in units finer than a pixel
-    Mixed     ///< a raster operation or transform is set: every stroke must be drawn
+    Pixels,   ///< the DC paints pixels immediately: strokes that change no pixel may be left out
+    Recorded, ///< a metafile or printer stores the strokes, in units finer than a pixel
+    Mixed     ///< raster operation other than R2_COPYPEN, or advanced graphics mode: draw every stroke
 };
 StrokeKind KindOfStrokes(const CDC& dc);
 
-/// Whether `dc` paints pixels at once: a screen or memory DC without world transform. Any mapping mode and
-/// raster operation may be set.
+/// Whether `dc` paints pixels immediately: a screen or memory DC that is not in the advanced graphics mode,
+/// in which a world transform may be set. Any mapping mode and raster operation may be set.
 bool PaintsPixels(const CDC& dc);
 
 /// The pixels that `dc` paints into, limited to its clip region. Empty when the caller must paint through
-/// GDI: for bitmaps whose pixels are not in memory or do not have 32 bits, for clip regions that are not a
-/// rectangle, for DCs whose kind is not StrokeKind::Pixels, and on systems that paint other pixels than
-/// PixelRaster.
+/// GDI: when the pixels are not in memory or do not have 32 bits, when the clip region is not a rectangle,
+/// when the DC is mirrored or its kind is not StrokeKind::Pixels, and on systems where GDI paints other
+/// pixels than PixelRaster.
 std::optional<PixelRaster> DirectRaster(const CDC& dc);
 
 /// `colour` as a 32-bit pixel stores it. Empty for palette colours, which are not plain red, green and blue.
 std::optional<std::uint32_t> DirectColour(COLORREF colour);
 
-/// Finds the borders of the pixels of `device` in logical units, with the rounding that `dc` uses. False when
-/// the DC does not have the controls' own mapping; see SetControlMapping.
+/// Finds the borders, in logical units, of the pixel columns and pixel rows of `device`, with the rounding
+/// that `dc` uses. `device` is in device pixels. False when `device` is empty, and when the DC does not have
+/// the controls' own mapping (see SetControlMapping); only the viewport origin may differ.
 bool FindPixelEdges(const CDC& dc, const CRect& device, PixelEdges& columns, PixelEdges& rows);
 
-/// The pixels that CDC::Rectangle fills between two corners, in device pixels, with the null pen selected.
+/// The device pixels that CDC::Rectangle fills, with the null pen selected, between two corners in device
+/// pixels.
 Rect FilledByRectangle(const POINT& corner, const POINT& opposite);
 
 } // namespace kavlix

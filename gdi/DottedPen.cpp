@@ -9,7 +9,6 @@
 #include "gdi/ShapeConversion.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr int kSide = 64;
@@ -26,7 +25,7 @@ const TrialLine kTrials[] = {
     {{10, 60}, {0, -1}, 57}, {{13, 2}, {0, 1}, 60},   {{19, 90}, {0, -1}, 95}, {{23, -8}, {0, 1}, 95},
 };
 
-/// The shortest sequence that `dots` consists of repetitions of; empty when there is none.
+/// The shortest sequence whose repetition gives `dots`; empty when it is longer than kLongestPeriod pixels.
 std::vector<bool> PeriodOf(std::vector<bool> dots) {
     for (int period = 1; period <= kLongestPeriod; ++period) {
         if (std::equal(dots.begin() + period, dots.end(), dots.begin())) {
@@ -37,8 +36,8 @@ std::vector<bool> PeriodOf(std::vector<bool> dots) {
     return {};
 }
 
-/// One period of GDI's dotted pen, from the first pixel of a line on; true for painted pixels. Empty when the
-/// trial lines do not all show the same period.
+/// One period of GDI's dotted pen, from the first pixel of a line on; true for painted pixels. Empty when GDI
+/// cannot draw the trial lines, or when these do not all show the same period.
 std::vector<bool> LearnDots() {
     Scratch scratch(kSide);
     CPen pen;
@@ -98,7 +97,7 @@ bool DottedPen::Draw(const CPoint& from, const CPoint& to) const {
     m_dc.LPtoDP(ends, 2);
     if (ends[0].x != ends[1].x && ends[0].y != ends[1].y)
         return false;
-    ::GdiFlush(); // earlier GDI calls must reach the memory first
+    ::GdiFlush(); // GDI may have queued earlier calls: they must reach the memory first
     m_raster->Dots(ToPoint(ends[0]), ToPoint(ends[1]), m_dots, *m_colour);
     return true;
 }

@@ -24,8 +24,8 @@ inline void Select(CDC& dc, const CGdiObject& object) {
     Select(dc, object.GetSafeHandle());
 }
 
-/// Selects an object, and at the end the previous one. A null object changes nothing: when GDI cannot make a
-/// pen or font, painting continues with the selected one.
+/// Selects an object, and at the end of the scope the previous object again. A null object changes nothing:
+/// when GDI cannot make a pen or font, painting continues with the selected one.
 class SelectGuard {
 public:
     SelectGuard(CDC& dc, HGDIOBJ object)
@@ -70,7 +70,8 @@ private:
     int m_stockObject;
 };
 
-/// Makes the output DC of a CDC its attribute DC when there is none, as in a CMetaFileDC.
+/// Gives a CDC without an attribute DC, such as a CMetaFileDC, its output DC as attribute DC until the end of
+/// the scope.
 class AttribDcGuard {
 public:
     explicit AttribDcGuard(CDC& dc) : m_dc(dc), m_isAdded(dc.m_hAttribDC == nullptr) {
@@ -89,7 +90,7 @@ private:
     bool m_isAdded;
 };
 
-/// Saves the whole state of a DC, and restores it at the end.
+/// Saves the whole state of a DC, and restores it at the end of the scope.
 class SavedDcGuard {
 public:
     explicit SavedDcGuard(CDC& dc) : m_dc(dc), m_state(dc.SaveDC()) {}
@@ -105,7 +106,7 @@ private:
     int m_state;
 };
 
-/// Restores background mode, text colour and text alignment.
+/// Restores background mode, text colour and text alignment at the end of the scope.
 class TextSettingsGuard {
 public:
     explicit TextSettingsGuard(CDC& dc)
@@ -125,7 +126,8 @@ private:
     UINT m_align;
 };
 
-/// Clips to the part of a rectangle, in device pixels, that lies inside `outer`; at the end to `outer` again.
+/// Clips to the part of `device`, in device pixels, that lies inside `outer`, and at the end of the scope to
+/// `outer` again. A region object without a handle stands for no clip region.
 class ClipGuard {
 public:
     ClipGuard(CDC& dc, const CRect& device, CRgn& outer) : m_dc(dc), m_outer(outer) {

@@ -19,8 +19,8 @@ inline void SetControlMapping(CDC& dc) {
     dc.SetViewportOrg(0, 0);
 }
 
-/// Converts coordinates with a window's DC in the controls' own mapping. This class allocates no memory, so
-/// operations that only repaint cannot fail here.
+/// Converts between device pixels and logical units with a window's DC in the controls' own mapping. This
+/// class allocates no memory, so an operation that only causes a repaint cannot run out of memory here.
 class WindowUnits {
 public:
     explicit WindowUnits(HWND window) : m_window(window), m_dc(::GetDC(window)) {
@@ -70,8 +70,9 @@ inline CRect ToDeviceWithEdges(const CDC& dc, const CRect& logical) {
     return device;
 }
 
-/// The first position to the right of `x` in another pixel column, in logical units. At most kUnitsPerPixel +
-/// 1 units away, also when a pixel of the DC is larger.
+/// The first position to the right of `x`, in logical units, that lies in another pixel column. If the next
+/// kUnitsPerPixel positions lie in the column of `x`, because the DC has larger pixels, the result is `x` +
+/// kUnitsPerPixel + 1.
 inline int NextColumn(const CDC& dc, int x) {
     POINT places[kUnitsPerPixel + 2];
     int count = 0;

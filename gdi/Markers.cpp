@@ -4,7 +4,6 @@
 #include <initializer_list>
 
 namespace kavlix {
-
 namespace {
 
 void DrawPath(CDC& dc, std::initializer_list<CPoint> points) {
@@ -21,7 +20,7 @@ bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y, int half, int 
     const int top = y - half;
     const int right = x + half;
     const int bottom = y + half;
-    const int base = y + half * 2 / 3; // the data point lies in the middle of the triangle
+    const int base = y + half * 2 / 3; // places the data point near the triangle's middle
     switch (type) {
     case CDataset::MarkerSquare:
         dc.Rectangle(left, top, right + beyond, bottom + beyond);

@@ -7,21 +7,15 @@
 
 namespace kavlix {
 
-/// Makes a DIB section with `bits` (24 or 32) per pixel and the top row first. False when GDI cannot make it.
-/// `pixels` receives the address of the pixels if it is not null.
-bool MakeDirectBitmap(CBitmap& bitmap, HDC dc, CSize size, void** pixels = nullptr, WORD bits = 32);
-/// Attaches the new handle `made` to `object`. False when `made` is null. When attaching throws because
-/// memory runs out, the handle is deleted and the exception leaves.
-bool Own(CGdiObject& object, HGDIOBJ made);
-
 /// A memory DC with a bitmap. A control paints into it and copies the finished picture to the screen, which
 /// avoids flicker. The first content of the bitmap is undefined. A control that paints often keeps its
-/// surface while the size stays the same: a new bitmap and the fonts of a new DC take longer than the
-/// painting. When the colour depth of the screen changes, the copy converts the pixels.
+/// surface while the size stays the same: making a bitmap, and selecting fonts into a new DC, takes longer
+/// than the painting. When the colour depth of the screen changes, the kept surface stays usable: GDI
+/// converts the pixels while it copies them.
 class Offscreen {
 public:
-    /// `size` in pixels. The bitmap has the colour depth of `target`; with 32 bits it is a DIB section, which
-    /// allows direct painting.
+    /// `size` in pixels. The bitmap has the colour depth of `target`. With 32 bits it is a DIB section if GDI
+    /// can make one, so that DirectRaster can give access to its pixels.
     Offscreen(CDC& target, CSize size);
     ~Offscreen();
     Offscreen(const Offscreen&) = delete;

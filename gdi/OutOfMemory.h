@@ -1,4 +1,4 @@
-// Turns exceptions for lack of memory into results, for operations that return one to their host.
+// Turns exceptions for lack of memory or GDI objects into results that an operation can return to its host.
 #pragma once
 
 #include <afxwin.h>
@@ -8,8 +8,8 @@
 
 namespace kavlix {
 
-/// Runs `action`. False when memory or GDI objects run out in it: the class library throws CMemoryException*
-/// and CResourceException* then, and the C++ library its own exceptions. This function catches all of them.
+/// Runs `action`. False when memory or GDI objects run out meanwhile: this function catches CMemoryException
+/// and CResourceException of the class library, and std::bad_alloc and std::length_error.
 template <class Action> bool WithinResources(Action action) {
     try {
         action();
@@ -24,14 +24,14 @@ template <class Action> bool WithinResources(Action action) {
     return false;
 }
 
-/// Runs `action` and returns its result. False when memory or GDI objects run out in it.
+/// Runs `action` and returns its result. False when memory or GDI objects run out meanwhile.
 template <class Action> bool UnlessRefused(Action action) {
     bool result = false;
     return WithinResources([&] { result = action(); }) && result;
 }
 
-/// Runs `append`. When memory runs out in it, shows the class library's message box about that and returns
-/// FALSE.
+/// Runs `append`. When memory or GDI objects run out meanwhile, shows the class library's message box for
+/// lack of memory and returns FALSE.
 template <class Append> BOOL ReportingExhaustion(Append append) {
     if (WithinResources(append))
         return TRUE;

@@ -7,8 +7,8 @@
 
 namespace kavlix {
 
-/// The description string of the controls' metafiles: the program's name, an empty picture name, and the zero
-/// that ends the list. The literal's own zero is the third one.
+/// The description of the controls' metafiles, which hosts read: a name and an empty picture name, each ended
+/// by a zero, and a further zero at the end, which the compiler adds to the literal.
 constexpr char kPictureDescription[] = "Ruvex Trace\0\0";
 
 /// An enhanced metafile with the description above. The destructor deletes the metafile, unless Release has
@@ -22,8 +22,8 @@ public:
     MetafilePicture(const MetafilePicture&) = delete;
     MetafilePicture& operator=(const MetafilePicture&) = delete;
 
-    /// Calls `draw` with the metafile's DC, once. False when GDI cannot make the metafile. Exceptions of
-    /// `draw` leave this function.
+    /// Calls `draw` with the metafile's DC, once. False when GDI cannot make the metafile. Exceptions
+    /// that `draw` throws pass on to the caller.
     bool Draw(const std::function<void(CDC&)>& draw);
     /// The finished metafile, which this object owns; null before Draw.
     HENHMETAFILE Get() const { return m_picture; }
@@ -35,8 +35,9 @@ private:
     HENHMETAFILE m_picture = nullptr;
 };
 
-/// Draws a metafile and puts it on the clipboard. False, and the clipboard unchanged, when memory or GDI
-/// objects run out. True also when another program holds the clipboard open and refuses the picture.
+/// Draws a metafile and puts it on the clipboard; `frame` as for MetafilePicture. False, with the clipboard
+/// unchanged, when memory or GDI objects run out. True also when the clipboard does not take the picture, for
+/// example because another program holds it open.
 bool CopyPicture(CWnd& owner, const RECT* frame, const std::function<void(CDC&)>& draw);
 
 /// Replaces the content of the clipboard by `picture`. Deletes `picture` when the clipboard does not take it.

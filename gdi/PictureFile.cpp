@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-// The GDI+ headers call min and max without a namespace.
+// The GDI+ headers call min and max without a namespace, and windows.h does not define them as macros here.
 #include <objidl.h>
 namespace Gdiplus {
 using std::max;
@@ -14,18 +14,17 @@ using std::min;
 } // namespace Gdiplus
 #include <gdiplus.h>
 
+#include "gdi/Bitmap.h"
 #include "gdi/Guards.h"
-#include "gdi/Offscreen.h"
 #include "gdi/OutOfMemory.h"
 #include "gdi/PictureClipboard.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr WORD kBitsPerPixel = 24;
 
-/// Starts GDI+, and shuts it down at the end.
+/// Starts GDI+; the destructor shuts it down.
 class GdiPlus {
 public:
     GdiPlus() {

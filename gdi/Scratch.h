@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "gdi/Offscreen.h"
+#include "gdi/Bitmap.h"
 
 namespace kavlix {
 

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <string>
 
-#include "plot/Numeric.h"
-
 namespace kavlix {
 
 BOOL MakeFont(CFont& font, int height, int escapement, int weight) {
@@ -28,11 +26,11 @@ bool IsMark(wchar_t unit) {
 
 struct CodePoint {
     int bytes;
-    wchar_t unit; ///< its first UTF-16 unit; 0 for a byte that is no character
+    wchar_t unit; ///< the code point's first UTF-16 unit; 0 for an invalid byte
 };
 
-/// The first code point of `text`. The number of its bytes depends on the code page, so all numbers are
-/// tried.
+/// The first code point of `text`. Its number of bytes depends on the code page, so all numbers up to
+/// kMostBytesPerCharacter are tried.
 CodePoint FirstCodePoint(const char* text, int length) {
     if (static_cast<unsigned char>(*text) < 0x80)
         return {1, static_cast<wchar_t>(*text)};
@@ -43,7 +41,7 @@ CodePoint FirstCodePoint(const char* text, int length) {
     return {1, 0};
 }
 
-/// The bytes of the first character of `text`, its combining marks included.
+/// Number of bytes of the first character of `text`, its combining marks included.
 int FirstCharacter(const char* text, int length) {
     int bytes = FirstCodePoint(text, length).bytes;
     while (bytes < length) {
@@ -55,7 +53,8 @@ int FirstCharacter(const char* text, int length) {
     return bytes;
 }
 
-/// The units of `text` that GDI draws: at most kLongestText, without cutting the last character.
+/// Number of UTF-16 units of `text` that are drawn: at most kLongestText, and no character is cut unless the
+/// first one is longer.
 std::size_t DrawnUnits(const std::wstring& text) {
     if (text.size() <= kLongestText)
         return text.size();
@@ -114,6 +113,31 @@ CSize MeasureText(const CDC& dc, const char* text, int length) {
     CSize size(0, 0);
     ::GetTextExtentPoint32W(dc.m_hAttribDC, wide.c_str(), static_cast<int>(wide.size()), &size);
     return size;
+}
+
+int TextHeight(const CDC& dc) {
+    TEXTMETRIC metrics = {};
+    dc.GetTextMetrics(&metrics);
+    return std::max(static_cast<int>(metrics.tmHeight), 1);
+}
+
+int FittingBytes(const CString& text, int bytes, const std::function<bool(int bytes)>& fits) {
+    const int length = text.GetLength();
+    int most = 0;
+    for (int tooMany = std::min(bytes, length) + 1; tooMany - most > 1;) {
+        const int middle = most + (tooMany - most) / 2;
+        (fits(WholeCharacters(text, length, middle)) ? most : tooMany) = middle;
+    }
+    return WholeCharacters(text, length, most);
+}
+
+CString Shortened(const CDC& dc, const CString& text, double room) {
+    if (MeasureText(dc, text).cx <= room)
+        return text;
+    const auto withDots = [&text](int bytes) { return text.Left(bytes) + "..."; };
+    const int bytes = FittingBytes(text, text.GetLength() - 1,
+                                   [&](int bytes) { return MeasureText(dc, withDots(bytes)).cx <= room; });
+    return bytes > 0 ? withDots(bytes) : CString();
 }
 
 CRect TextBox(const CDC& dc, int length) {

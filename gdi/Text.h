@@ -3,6 +3,10 @@
 
 #include <afxwin.h>
 
+#include <functional>
+
+#include "plot/Numeric.h"
+
 namespace kavlix {
 
 /// Makes the font of the controls' texts: Arial, TrueType, not italic. `height` in logical units,
@@ -10,15 +14,12 @@ namespace kavlix {
 /// the font.
 BOOL MakeFont(CFont& font, int height, int escapement, int weight);
 
-/// The bytes of the first `characters` characters of `text`, which has `length` bytes; `length` when the text
-/// has fewer characters. A character takes several bytes in double-byte code pages and in UTF-8. A combining
-/// mark belongs to the character before it. A byte that is no character counts as one.
+/// Number of bytes of the first `characters` characters of `text`, which has `length` bytes; `length` when
+/// the text has fewer characters. A character takes several bytes in double-byte code pages and in UTF-8. A
+/// combining mark belongs to the character before it. An invalid byte counts as one character.
 int BytesOfCharacters(const char* text, int length, int characters);
 /// The largest number of bytes, at most `bytes`, at which `text` can be cut without cutting a character.
 int WholeCharacters(const char* text, int length, int bytes);
-
-/// The largest number of UTF-16 units that GDI draws in one call.
-constexpr int kLongestText = 8192;
 
 /// Draws `length` bytes of `text` at the reference point `x`, `y`, which the DC's text alignment refers to.
 /// At most kLongestText UTF-16 units are drawn; no character is cut.
@@ -39,12 +40,24 @@ inline CSize MeasureText(const CDC& dc, const CString& text) {
     return MeasureText(dc, text, text.GetLength());
 }
 
+/// Height of a line of text in the DC's font, in logical units, at least 1.
+int TextHeight(const CDC& dc);
+
+/// The most bytes of the beginning of `text`, at most `bytes`, that end between two characters and for which
+/// `fits` is true. `fits` must be true up to some number of bytes and false beyond. 0 when not even one
+/// character fits.
+int FittingBytes(const CString& text, int bytes, const std::function<bool(int bytes)>& fits);
+
+/// `text` shortened to `room` logical units in the DC's font: the whole text if it fits, otherwise its
+/// beginning and dots. Empty when not even one character and the dots fit. No character is cut.
+CString Shortened(const CDC& dc, const CString& text, double room);
+
 /// A box that contains every text of `length` bytes drawn at (0, 0) with the DC's font and text alignment, in
 /// logical units. Faster than measuring a text, and larger than necessary.
 CRect TextBox(const CDC& dc, int length);
 
 /// Width and height of `text` when DrawTextIn draws it into `width` logical units with the same flags. The
-/// result is wider than `width` when one word is.
+/// result is wider than `width` when a single word is wider.
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format);
 
 /// The break of a text into two lines.

@@ -10,13 +10,13 @@
 #include "graph/OwningList.h"
 #include "graph/core/PrintedBottom.h"
 
-using kavlix::kListBlock;
+using namespace kavlix;
 
 BEGIN_MESSAGE_MAP(CGraph, CStatic)
 END_MESSAGE_MAP()
 
-// The constructors keep a list only when nothing after it can throw: no destructor runs for an object
-// whose constructor throws.
+/// A constructor stores a list in its member only when nothing after that can throw: when a constructor
+/// throws, the destructor does not run, and the list would leak.
 CGraph::CGraph() {
     seriesList = new CObList(kListBlock);
 }
@@ -80,14 +80,14 @@ void CGraph::SetMargins(int top, int bottom, int left, int right, int graphTop) 
     printLeft = left;
     printRight = right;
     printTop = graphTop;
-    printBottom = kavlix::PrintedBottom(graphTop, bottom);
+    printBottom = PrintedBottom(graphTop, bottom);
 }
 
 void CGraph::SetColor(int group, COLORREF color) {
     auto record = std::make_unique<CGraphValue>(group, static_cast<int>(color));
     if (colorList == nullptr)
         colorList = new CObList(kListBlock);
-    kavlix::Append(*colorList, std::move(record));
+    Append(*colorList, std::move(record));
 }
 
 void CGraph::SetLegend(int group, CString text) {
@@ -101,7 +101,7 @@ void CGraph::SetLegend(int group, CString text) {
 void CGraph::AddSeries(CGraphSeries* series) {
     if (series == nullptr || seriesList->Find(series) != nullptr)
         return;
-    kavlix::Append(*seriesList, std::unique_ptr<CGraphSeries>(series));
+    Append(*seriesList, std::unique_ptr<CGraphSeries>(series));
     seriesSize = std::max(seriesSize, series->GetDataCount());
 }
 
@@ -119,7 +119,7 @@ void CGraph::RemoveSeries(CString label) {
 
 void CGraph::RemoveColor(int index) {
     if (colorList != nullptr)
-        kavlix::DeleteAt(*colorList, index);
+        DeleteAt(*colorList, index);
 }
 
 void CGraph::RemoveLegend(int index) {
@@ -127,12 +127,12 @@ void CGraph::RemoveLegend(int index) {
 }
 
 void CGraph::RemoveAllSeries() {
-    kavlix::DeleteAll(*seriesList);
+    DeleteAll(*seriesList);
 }
 
 void CGraph::RemoveAllColors() {
     if (colorList != nullptr)
-        kavlix::DeleteAll(*colorList);
+        DeleteAll(*colorList);
 }
 
 void CGraph::RemoveAllLegends() {
@@ -163,7 +163,7 @@ CGraphLegendList::~CGraphLegendList() {
 }
 
 void CGraphLegendList::Add(int index, const CString& text) {
-    kavlix::Append(*legends, std::make_unique<CGraphLegendText>(index, text));
+    Append(*legends, std::make_unique<CGraphLegendText>(index, text));
     legendMaxLength = std::max(legendMaxLength, text.GetLength());
 }
 
@@ -174,9 +174,9 @@ CString CGraphLegendList::TextAt(int position) const {
 }
 
 void CGraphLegendList::RemoveAt(int position) {
-    kavlix::DeleteAt(*legends, position);
+    DeleteAt(*legends, position);
 }
 
 void CGraphLegendList::RemoveAll() {
-    kavlix::DeleteAll(*legends);
+    DeleteAll(*legends);
 }

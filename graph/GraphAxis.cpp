@@ -9,13 +9,13 @@
 #include "graph/GraphPass.h"
 #include "graph/GraphStyle.h"
 
-using kavlix::PlanePoint;
+using namespace kavlix;
 
 namespace {
 
 constexpr double kTickLength = 4; // pixels
-constexpr double kGridGap = 10;   // pixels; closer grid lines are drawn at numbers only
-constexpr double kBesidePlot = 8; // pixels that a number may reach beyond the plot's right end
+constexpr double kGridGap = 10;   // pixels; where ticks are closer, only ticks with a number have grid lines
+constexpr double kBesidePlot = 8; // pixels that a number may reach beyond the plot, towards the legend
 
 constexpr COLORREF kFrame = RGB(176, 176, 176);
 constexpr COLORREF kBackWall = RGB(248, 248, 248);
@@ -27,14 +27,14 @@ constexpr COLORREF kFloor = RGB(226, 226, 226);
 void CGraph::DrawAxis(CDC*) {
     if (pass == nullptr || !pass->HasPlot())
         return;
-    kavlix::GraphPass& p = *pass;
+    GraphPass& p = *pass;
     Draw3DFrame();
-    if (p.type.Has(kavlix::kScaledKeys))
+    if (p.type.Has(kScaledKeys))
         DrawScale(p.keys, p.keyTicks, p.horizontal);
     DrawScale(p.values, p.valueTicks, !p.horizontal);
     DrawAxisLines();
-    if (!p.type.Has(kavlix::kScaledKeys)) {
-        for (const kavlix::SeriesSlots* slots : {&p.slots, &p.mirroredSlots}) {
+    if (!p.type.Has(kScaledKeys)) {
+        for (const SeriesSlots* slots : {&p.slots, &p.mirroredSlots}) {
             if (slots->count == 0)
                 continue;
             DrawSeriesTicks(*slots);
@@ -48,34 +48,34 @@ void CGraph::DrawAxis(CDC*) {
 }
 
 void CGraph::Draw3DFrame() {
-    kavlix::GraphPass& p = *pass;
+    GraphPass& p = *pass;
     if (p.depth.x <= 0 && p.depth.y <= 0)
         return;
-    const kavlix::PlaneRect& f = p.front;
+    const PlaneRect& f = p.front;
     const auto back = [&](double x, double y) { return PlanePoint{x + p.depth.x, y - p.depth.y}; };
     p.canvas.SetLine(kFrame);
     p.canvas.SetFill(kBackWall);
-    p.canvas.Polygon(kavlix::Face{
-        {back(f.left, f.top), back(f.right, f.top), back(f.right, f.bottom), back(f.left, f.bottom)}});
+    p.canvas.Polygon(
+        Face{{back(f.left, f.top), back(f.right, f.top), back(f.right, f.bottom), back(f.left, f.bottom)}});
     p.canvas.SetFill(kSideWall);
     p.canvas.Polygon(
-        kavlix::Face{{{f.left, f.top}, back(f.left, f.top), back(f.left, f.bottom), {f.left, f.bottom}}});
+        Face{{{f.left, f.top}, back(f.left, f.top), back(f.left, f.bottom), {f.left, f.bottom}}});
     p.canvas.SetFill(kFloor);
-    p.canvas.Polygon(kavlix::Face{
-        {{f.left, f.bottom}, back(f.left, f.bottom), back(f.right, f.bottom), {f.right, f.bottom}}});
+    p.canvas.Polygon(
+        Face{{{f.left, f.bottom}, back(f.left, f.bottom), back(f.right, f.bottom), {f.right, f.bottom}}});
 }
 
 /// Grid lines, ticks and numbers of a scale along the plot's left side or along its bottom.
-void CGraph::DrawScale(const kavlix::PlotScale& scale, const kavlix::ScaleTicks& ticks, bool left) {
-    kavlix::GraphPass& p = *pass;
-    const kavlix::PlaneRect& f = p.front;
+void CGraph::DrawScale(const PlotScale& scale, const ScaleTicks& ticks, bool left) {
+    GraphPass& p = *pass;
+    const PlaneRect& f = p.front;
     const double length = kTickLength * p.canvas.Pixel();
     const auto eachTick = [&](auto emit) {
         for (std::int64_t i = ticks.first; i <= ticks.last; i += ticks.every)
             emit(i, scale.Position(static_cast<double>(ticks.Value(i))));
     };
     if (graphHasGridLines) {
-        p.canvas.SetLine(kavlix::kGrey);
+        p.canvas.SetLine(kGrey);
         const double distance = std::abs(scale.Position(static_cast<double>(ticks.Value(ticks.every))) -
                                          scale.Position(static_cast<double>(ticks.Value(0))));
         const bool open = distance >= kGridGap * p.canvas.Pixel();
@@ -92,14 +92,14 @@ void CGraph::DrawScale(const kavlix::PlotScale& scale, const kavlix::ScaleTicks&
                 p.canvas.Line(start, end);
         });
     }
-    p.canvas.SetLine(kavlix::kInk);
+    p.canvas.SetLine(kInk);
     eachTick([&](std::int64_t, double at) {
         if (left)
             p.canvas.Line({f.left - length, at}, {f.left, at});
         else
             p.canvas.Line({at, f.bottom}, {at, f.bottom + length + p.canvas.Pixel()});
     });
-    const kavlix::GraphFont font(p.canvas, left && p.leftFont > 0 ? p.leftFont : yTickFontSize);
+    const GraphFont font(p.canvas, left && p.leftFont > 0 ? p.leftFont : yTickFontSize);
     eachTick([&](std::int64_t i, double at) {
         if (!ticks.HasLabel(i)) {
             axisLabelsCut = 1;
@@ -112,18 +112,16 @@ void CGraph::DrawScale(const kavlix::PlotScale& scale, const kavlix::ScaleTicks&
 }
 
 void CGraph::DrawNumber(const CString& text, double position, bool left) {
-    kavlix::GraphPass& p = *pass;
+    GraphPass& p = *pass;
     const double pixel = p.canvas.Pixel();
-    const kavlix::LabelSize size = p.canvas.Measure(text);
+    const LabelSize size = p.canvas.Measure(text);
     if (!left) {
         const double rightmost =
-            graphHasLegend ? p.plot.right + kBesidePlot * pixel : p.canvas.Width() - kavlix::kEdge * pixel;
-        const double x =
-            std::max(std::min(position - size.width / 2, rightmost - size.width), kavlix::kEdge * pixel);
-        p.canvas.Text({x, p.plot.bottom + kavlix::kLabelDistance * pixel}, text);
+            graphHasLegend ? p.plot.right + kBesidePlot * pixel : p.canvas.Width() - kEdge * pixel;
+        const double x = std::max(std::min(position - size.width / 2, rightmost - size.width), kEdge * pixel);
+        p.canvas.Text({x, p.plot.bottom + kLabelDistance * pixel}, text);
     } else if (p.leftFont > 0) {
-        p.canvas.Text({p.plot.left - kavlix::kLabelDistance * pixel - size.width, position - size.height / 2},
-                      text);
+        p.canvas.Text({p.plot.left - kLabelDistance * pixel - size.width, position - size.height / 2}, text);
     } else {
         const double y = std::min(position - size.height / 2, p.plot.bottom - size.height - pixel);
         p.overlayLabels.push_back(
@@ -131,13 +129,13 @@ void CGraph::DrawNumber(const CString& text, double position, bool left) {
     }
 }
 
-/// The two axes, and the zero lines that are no axis.
+/// Draws the two axes, and a line at 0 of each scale if 0 lies between its limits and not on an axis.
 void CGraph::DrawAxisLines() {
-    kavlix::GraphPass& p = *pass;
-    const kavlix::PlaneRect& f = p.front;
+    GraphPass& p = *pass;
+    const PlaneRect& f = p.front;
     const double first = p.horizontal ? f.top : f.left;
     const double last = p.horizontal ? f.bottom : f.right;
-    p.canvas.SetLine(kavlix::kInk);
+    p.canvas.SetLine(kInk);
     const double valueLine = p.mirrored ? p.slots.from : p.horizontal ? f.bottom : f.left;
     p.canvas.Line(p.At(valueLine, p.values.From()), p.At(valueLine, p.values.To()));
     const double base = p.BaseLine();
@@ -146,20 +144,20 @@ void CGraph::DrawAxisLines() {
         const double zero = p.values.Position(0);
         p.canvas.Line(p.At(first, zero), p.At(last, zero));
     }
-    if (p.type.Has(kavlix::kScaledKeys) && p.keys.CrossesZero()) {
-        p.canvas.SetLine(kavlix::kGrey);
+    if (p.type.Has(kScaledKeys) && p.keys.CrossesZero()) {
+        p.canvas.SetLine(kGrey);
         const double zero = p.keys.Position(0);
         p.canvas.Line(p.At(zero, p.values.From()), p.At(zero, p.values.To()));
     }
 }
 
-void CGraph::DrawSeriesTicks(const kavlix::SeriesSlots& slots) {
-    kavlix::GraphPass& p = *pass;
+void CGraph::DrawSeriesTicks(const SeriesSlots& slots) {
+    GraphPass& p = *pass;
     const double pixel = p.canvas.Pixel();
     const double length = kTickLength * pixel;
     if (std::abs(slots.Width()) < 2 * length)
         return;
-    p.canvas.SetLine(kavlix::kInk);
+    p.canvas.SetLine(kInk);
     for (int i = 0; i < slots.count; ++i) {
         const double at = slots.Middle(i);
         if (p.horizontal)

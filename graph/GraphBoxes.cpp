@@ -11,10 +11,10 @@ namespace kavlix {
 namespace {
 
 constexpr double kBoxWidth = 0.5;    // as a fraction of a slot
-constexpr double kCapWidth = 0.25;   // of a whisker, as a fraction of a slot
+constexpr double kCapWidth = 0.25;   // of the stroke at a whisker's end, as a fraction of a slot
 constexpr double kMedianWidth = 2;   // pixels
 constexpr double kOutlierRadius = 3; // pixels
-constexpr double kBoxLight = 1.55;   // the box is paler than its median, so that the median shows
+constexpr double kBoxLight = 1.55;   // for Shade: the box is paler than its median, so that the median shows
 
 class BoxPainter {
 public:
@@ -50,7 +50,7 @@ private:
     bool Shows(double low, double high) const {
         return high >= m_pass.values.Low() && low <= m_pass.values.High();
     }
-    /// A stroke across the slot at `value`; nothing when the value is not on the scale.
+    /// Draws a stroke at `value`, `width` slots long. Draws nothing when the value lies outside the scale.
     void Across(double value, double width) const {
         if (!m_pass.values.Contains(value))
             return;

@@ -1,4 +1,4 @@
-// Drawing with GDI: rounding, the tools of a picture, and the faster of two calls that draw the same pixels.
+// Drawing with GDI: rounding, pens, brushes and fonts, and the faster of two calls that draw the same pixels.
 #include "graph/GraphCanvas.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 namespace kavlix {
 namespace {
 
-constexpr std::size_t kMostTools = 256; // pens, and brushes, that exist at a time
+constexpr std::size_t kMostTools = 256; // greatest number of pens, and of brushes, that are kept
 
 } // namespace
 
@@ -80,7 +80,7 @@ void GraphCanvas::HostTools() {
 }
 
 void GraphCanvas::Line(PlanePoint from, PlanePoint to) {
-    const double aside = m_penWidth; // half of the pen, and a unit of rounding
+    const double aside = m_penWidth; // covers half the width of the pen, and the rounding to whole units
     if (std::max(from.x, to.x) < m_visible.left - aside || std::min(from.x, to.x) > m_visible.right + aside ||
         std::max(from.y, to.y) < m_visible.top - aside || std::min(from.y, to.y) > m_visible.bottom + aside)
         return;
@@ -99,7 +99,7 @@ void GraphCanvas::Polyline(const std::vector<PlanePoint>& points) {
         return;
     const std::vector<POINT>& places = At(points.data(), points.size());
     if (m_penWidth > 1) {
-        // With a wide pen Polyline draws the same pixels and takes eight times as long.
+        // With a wide pen GDI's Polyline draws the same pixels as LineTo and takes eight times as long.
         m_dc.MoveTo(places.front());
         for (std::size_t i = 1; i < places.size(); ++i)
             m_dc.LineTo(places[i]);
@@ -122,8 +122,8 @@ void GraphCanvas::FillPixels(const CRect& area, COLORREF colour) {
 
 void GraphCanvas::Box(const PlaneRect& area, COLORREF fill, COLORREF outline) {
     CRect pixels(X(area.left), Y(area.top), X(area.right), Y(area.bottom));
-    // Two fills are faster than Rectangle: GDI takes as long for the upright lines of a border as for a fill.
-    // Rectangle draws nothing when the area is a single pixel.
+    // Two fills are faster than GDI's Rectangle, which takes as long for the vertical lines of a border as
+    // for a fill. And Rectangle draws nothing when the area is a single logical unit.
     if (m_pixels || pixels.Size() == CSize(1, 1)) {
         FillPixels(pixels, outline);
         pixels.DeflateRect(1, 1);
@@ -156,8 +156,8 @@ void GraphCanvas::Text(PlanePoint place, const CString& text) {
         DrawTextAt(m_dc, X(place.x), Y(place.y), text);
         return;
     }
-    // Systems differ in the direction in which a font turns where y grows upwards. So the text is drawn with
-    // the same scale and y growing downwards, where they agree.
+    // Where y grows upwards, implementations of GDI differ in the direction in which they turn a text. So the
+    // mapping is changed to the same scale with y growing downwards, where all turn in the same direction.
     const SavedDcGuard saved(m_dc);
     CPoint at(X(place.x), Y(place.y));
     m_dc.LPtoDP(&at);
@@ -176,18 +176,7 @@ LabelSize GraphCanvas::Measure(const CString& text) const {
 }
 
 CString GraphCanvas::Shorten(const CString& text, double room) const {
-    if (Measure(text).width <= room)
-        return text;
-    const auto cut = [&](int length) {
-        length = WholeCharacters(text, text.GetLength(), length);
-        return length > 0 ? text.Left(length) + "..." : CString();
-    };
-    int fits = 0;
-    for (int tooLong = text.GetLength(); tooLong - fits > 1;) {
-        const int length = fits + (tooLong - fits) / 2;
-        (Measure(cut(length)).width <= room ? fits : tooLong) = length;
-    }
-    return cut(fits);
+    return Shortened(m_dc, text, room);
 }
 
 LabelSize GraphCanvas::Character() const {

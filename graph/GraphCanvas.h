@@ -26,7 +26,7 @@ struct GraphFrame {
     int top = 0;
     int width = 0;
     int height = 0;
-    int pixel = 1;   ///< logical units per pixel of a screen with 96 dots to the inch
+    int pixel = 1;   ///< logical units per pixel: 1 on the screen, 15 twips on paper (96 pixels to the inch)
     bool up = false; ///< whether the DC's y grows upwards
 };
 
@@ -34,7 +34,7 @@ struct GraphFrame {
 ///
 /// Places are in logical units from the picture's upper left corner, x to the right and y downwards, also in
 /// a DC whose y grows upwards. The canvas rounds places to whole units and limits them to what GDI can draw.
-/// Texts are drawn without a ground, in the DC's text colour. The destructor restores the DC's state.
+/// Texts have a transparent background and the DC's text colour. The destructor restores the DC's state.
 class GraphCanvas {
 public:
     GraphCanvas(CDC& dc, const GraphFrame& frame);
@@ -66,26 +66,27 @@ public:
     template <class Points> void Polygon(const Points& points) { Polygon(points.data(), points.size()); }
     /// The right and bottom edges are not part of the rectangle.
     void Rectangle(const PlaneRect& area);
-    /// A rectangle filled with `fill`, with a border one pixel wide in `outline`. Pen and brush change.
+    /// Draws a rectangle filled with `fill`, with a border one pixel wide in `outline`. Afterwards another
+    /// pen or brush may be selected.
     void Box(const PlaneRect& area, COLORREF fill, COLORREF outline);
     void Circle(PlanePoint centre, double radius);
 
     /// The text colour that the DC had when the canvas was made.
     COLORREF HostInk() const { return m_hostInk; }
-    /// `place` is the upper left corner of the text itself, before it is turned. A text that cannot reach the
-    /// visible part of the picture is not drawn.
+    /// Draws a text in the selected font. `place` is the upper left corner of the text; a turned font turns
+    /// the text around this corner. A text that cannot reach the visible part of the picture is not drawn.
     void Text(PlanePoint place, const CString& text);
-    /// The size of a text in the font selected, before the text is turned.
+    /// The size of a text in the selected font, before the text is turned.
     LabelSize Measure(const CString& text) const;
-    /// `text`, or its beginning and three dots when `text` is wider than `room`. Empty when one character and
-    /// the dots are wider than `room`.
+    /// `text`, or its beginning and three dots when `text` is wider than `room` logical units. Empty when one
+    /// character and the dots are wider than `room`.
     CString Shorten(const CString& text, double room) const;
-    /// The average width and the height of a character in the font selected.
+    /// The average width and the height of a character in the selected font.
     LabelSize Character() const;
 
 private:
     friend class GraphFont;
-    /// Height in logical units and turn in degrees of the font selected.
+    /// Height in logical units and angle in degrees of the selected font.
     struct FontShape {
         double height = 0;
         int angle = 0;
@@ -99,12 +100,12 @@ private:
     SavedDcGuard m_saved;
     CDC& m_dc;
     GraphFrame m_frame;
-    PlaneRect m_visible; ///< the part of the picture that the clip box shows; all of it when not known
-    bool m_pixels;       ///< a logical unit is a pixel, and drawing replaces pixels
+    PlaneRect m_visible; ///< with m_pixels the part of the picture inside the clip box; else all of it
+    bool m_pixels;       ///< the DC paints pixels at once, one for each logical unit; see StrokeKind::Pixels
     HGDIOBJ m_hostPen;
     HGDIOBJ m_hostBrush;
     COLORREF m_hostInk;
-    // Pens and brushes live as long as the canvas: every series of a bar graph uses the same few colours.
+    // Pens and brushes are kept for reuse: every series of a bar graph uses the same few colours.
     std::map<std::pair<COLORREF, int>, CPen> m_pens; ///< by colour, and width in logical units
     std::map<COLORREF, CBrush> m_brushes;
     int m_penWidth = 1;
@@ -116,7 +117,7 @@ private:
 /// that was selected before.
 class GraphFont {
 public:
-    static constexpr int kLargest = 1000; ///< pixels
+    static constexpr int kLargest = 1000; ///< greatest height, pixels
 
     /// `pixels` is the height of a character cell; below 1 it counts as 1, above kLargest as kLargest.
     /// `angle` is in degrees counter-clockwise.

@@ -7,8 +7,7 @@
 #include "graph/GraphPass.h"
 #include "plot/Numeric.h"
 
-using kavlix::GraphFont;
-using kavlix::ToCoordinate;
+using namespace kavlix;
 
 int CGraph::LegendRows() const {
     return pass->bySeries ? pass->data.SeriesCount() : seriesSize;
@@ -26,24 +25,24 @@ int CGraph::DrawLegend(CDC*) {
     constexpr int kSwatchRoom = 25;
     constexpr int kSwatchGap = 10;
     constexpr int kSwatchHeight = 12;
-    constexpr double kCharacterWidth = 0.66; // of the font's height
+    constexpr double kCharacterWidth = 0.66; // as a fraction of the font's height
 
     if (pass == nullptr)
         return 0;
-    kavlix::GraphCanvas& canvas = pass->canvas;
-    const int size = kavlix::FontHeight(legendFontSize);
+    GraphCanvas& canvas = pass->canvas;
+    const int size = FontHeight(legendFontSize);
     const std::int64_t pixel = static_cast<std::int64_t>(canvas.Pixel());
     const int rows = LegendRows();
     const std::int64_t height = (std::int64_t{rows} * kRowHeight + kHeadingRoom) * pixel;
     const std::int64_t right = maxWidth - kMargin * pixel;
     const std::int64_t top = maxHeight / 2 - height / 2;
-    const std::int64_t characterWidth = kavlix::TruncateToInt(size * kCharacterWidth);
+    const std::int64_t characterWidth = TruncateToInt(size * kCharacterWidth);
     const std::int64_t left =
         ToCoordinate(right - (graphLegend.GetMaxLength() * characterWidth + kSwatchRoom) * pixel);
     legendWidth = ToCoordinate(right - left);
 
     const auto place = [](std::int64_t x, std::int64_t y) {
-        return kavlix::PlanePoint{static_cast<double>(x), static_cast<double>(y)};
+        return PlanePoint{static_cast<double>(x), static_cast<double>(y)};
     };
     const auto box = [&](std::int64_t l, std::int64_t t, std::int64_t r, std::int64_t b) {
         canvas.Rectangle(

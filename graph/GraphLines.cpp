@@ -12,7 +12,7 @@ namespace kavlix {
 namespace {
 
 constexpr double kLineWidth = 2;   // pixels
-constexpr double kMarkerRoom = 10; // pixels between two markers of a line
+constexpr double kMarkerRoom = 10; // least distance between two markers of a line, pixels
 
 /// The values of one group in order of the series. Each `key` is the index of a series.
 using GroupLine = std::vector<KeyedValue>;
@@ -93,11 +93,11 @@ void PaintPoints(GraphPass& pass) {
 }
 
 void PaintRibbons(GraphPass& pass) {
-    constexpr double kLoneRibbon = 0.2; // half of a lone ribbon's length, as a fraction of a slot
-    constexpr double kThinnest = 4;     // pixels; width of a ribbon that is seen from its edge
+    constexpr double kLoneRibbon = 0.2; // half the length of a lone value's ribbon, as a fraction of a slot
+    constexpr double kThinnest = 4;     // least width of a ribbon, pixels
     const auto lines = GroupLines(pass.data);
     for (auto entry = lines.rbegin(); entry != lines.rend(); ++entry) {
-        const int group = entry->first; // the last group is the farthest, so it comes first
+        const int group = entry->first; // the last group is the farthest, so it is drawn first
         const GroupLine& line = entry->second;
         const COLORREF colour = pass.data.Colour(group);
         const auto draw = [&](PlanePoint from, PlanePoint to) {

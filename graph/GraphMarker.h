@@ -5,8 +5,8 @@
 
 namespace kavlix {
 
-/// Draws a filled marker, about seven pixels wide. `index`, from 0, chooses one of six shapes in rotation, so
-/// that lines of the same colour can be told apart.
+/// Draws a filled marker, nine to twelve pixels wide. `index`, from 0, chooses one of six shapes in rotation,
+/// so that lines of the same colour can be told apart.
 void DrawMarker(GraphCanvas& canvas, PlanePoint centre, int index, COLORREF colour);
 
 } // namespace kavlix

@@ -1,4 +1,4 @@
-// One drawing, step by step: background, title, the room of the plot, quadrants, series.
+// One drawing, step by step: background, title, layout, quadrants, series.
 #include <kavlix/Graph.h>
 
 #include <algorithm>
@@ -8,10 +8,7 @@
 #include "graph/GraphStyle.h"
 #include "plot/Numeric.h"
 
-using kavlix::GraphFont;
-using kavlix::GraphFrame;
-using kavlix::GraphPass;
-using kavlix::ToCoordinate;
+using namespace kavlix;
 
 namespace {
 
@@ -20,8 +17,8 @@ constexpr int kMarginBelow = 20;
 constexpr int kMarginRight = 5;
 constexpr int kPlotTop = 40;
 
-/// The height, from `size` down in steps of 2, at which `length` characters of half that width
-/// fit into `room`.
+/// The greatest height, from `size` down in steps of 2, at which `length` characters fit into the width
+/// `room`; at least 1. A character counts as half as wide as it is high. Heights and widths are pixels.
 int FitSize(int size, int length, std::int64_t room) {
     while (size > 1 && std::int64_t{size / 2} * length > room)
         size -= 2;
@@ -54,14 +51,14 @@ void CGraph::DrawGraph(CDC* pDC) {
 }
 
 void CGraph::DrawPicture(CDC& dc, const GraphFrame& frame) {
-    GraphPass shared(dc, frame, {*seriesList, colorList, seriesSize}, kavlix::GraphTypeOf(graphType));
-    shared.bySeries = legendBySeries && shared.type.Has(kavlix::kColourBySeries);
+    GraphPass shared(dc, frame, {*seriesList, colorList, seriesSize}, GraphTypeOf(graphType));
+    shared.bySeries = legendBySeries && shared.type.Has(kColourBySeries);
     shared.labelFont = xTickFontSize;
     shared.depthRatio = depthRatio;
     const PassGuard guard(pass, shared);
-    kavlix::GraphCanvas& canvas = shared.canvas;
+    GraphCanvas& canvas = shared.canvas;
 
-    canvas.SetFill(kavlix::kPaper);
+    canvas.SetFill(kPaper);
     canvas.Rectangle({0, 0, canvas.Width(), canvas.Height()});
     canvas.HostTools();
 
@@ -79,7 +76,7 @@ void CGraph::DrawPicture(CDC& dc, const GraphFrame& frame) {
         xApexPoint += xAxisWidth / 2;
     if (shared.centred)
         yApexPoint -= yAxisHeight / 2;
-    if (!shared.type.Has(kavlix::kPie)) {
+    if (!shared.type.Has(kPie)) {
         axisLabelsCut = 0;
         DrawAxis(&dc);
     }
@@ -90,7 +87,7 @@ void CGraph::DrawPicture(CDC& dc, const GraphFrame& frame) {
 void CGraph::DrawTitle() {
     constexpr int kTitleSize = 24; // pixels
     constexpr int kTitleTop = 10;  // pixels
-    kavlix::GraphCanvas& canvas = pass->canvas;
+    GraphCanvas& canvas = pass->canvas;
     const int pixel = static_cast<int>(canvas.Pixel());
     const int length = graphTitle.GetLength();
     const int size = FitSize(kTitleSize, length, maxWidth / pixel);
@@ -101,9 +98,9 @@ void CGraph::DrawTitle() {
 }
 
 void CGraph::ComputeLayout() {
-    kavlix::GraphCanvas& canvas = pass->canvas;
+    GraphCanvas& canvas = pass->canvas;
     const int pixel = static_cast<int>(canvas.Pixel());
-    if (pass->type.Has(kavlix::kPie)) {
+    if (pass->type.Has(kPie)) {
         constexpr int kPieMargin = 5; // pixels
         constexpr int kPieTop = 50;   // pixels
         xApexPoint = kPieMargin * pixel;
@@ -117,22 +114,22 @@ void CGraph::ComputeLayout() {
     const bool wide = maxHeight < maxWidth;
     pass->captionFont = FitSize(kCaptionSize, (wide ? axisYLabel : axisXLabel).GetLength(),
                                 (wide ? maxHeight : maxWidth) / pixel);
-    kavlix::LabelSize character;
+    LabelSize character;
     {
-        const GraphFont rotated(canvas, pass->captionFont, kavlix::kUpwards, FW_BOLD);
+        const GraphFont rotated(canvas, pass->captionFont, kUpwards, FW_BOLD);
         character = canvas.Character();
     }
     const auto characterWidth = static_cast<std::int64_t>(character.width);
     const auto characterHeight = static_cast<std::int64_t>(character.height);
 
-    if (graphAlignment != 0 && !pass->type.Has(kavlix::kHorizontalRoom)) {
+    if (graphAlignment != 0 && !pass->type.Has(kHorizontalRoom)) {
         constexpr int kLeftOfPlot = 50; // pixels
         constexpr int kBelowPlot = 50;
         constexpr int kBelowTurnedLabels = 15;
         CString highest;
         highest.Format("%d", maxTick);
-        const std::int64_t halfNumber = kavlix::FontHeight(yTickFontSize) / 2;
-        const std::int64_t halfLabel = kavlix::FontHeight(xTickFontSize) / 2;
+        const std::int64_t halfNumber = FontHeight(yTickFontSize) / 2;
+        const std::int64_t halfLabel = FontHeight(xTickFontSize) / 2;
         xApexPoint = ToCoordinate((halfNumber * highest.GetLength() + kLeftOfPlot) * pixel);
         const std::int64_t below =
             xAxisAlign == 0 ? std::int64_t{kBelowPlot} : halfLabel * xAxisLabelLength + kBelowTurnedLabels;
@@ -151,9 +148,10 @@ void CGraph::ComputeLayout() {
     xAxisWidth = maxWidth - xApexPoint - kMarginRight * pixel;
 }
 
-/// Only the first record of each series decides, so the choice does not depend on the number of values.
+/// Chooses the quadrants unless the host has. Only the first record of each series decides, so the running
+/// time does not depend on the number of values.
 void CGraph::ChooseQuadrants() {
-    if (quadSetManually || !pass->type.Has(kavlix::kQuadrants))
+    if (quadSetManually || !pass->type.Has(kQuadrants))
         return;
     int lowestKey = 0;
     int lowestValue = 0;

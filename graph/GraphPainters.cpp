@@ -1,12 +1,14 @@
-// The painters as members of CGraph: each paints the series as its own type shows them.
+// The painters as members of CGraph: each paints the series as one graph type, whatever type is set.
 #include <kavlix/Graph.h>
 
 #include "graph/GraphPass.h"
 #include "graph/GraphTypes.h"
 
+using namespace kavlix;
+
 namespace {
 
-void PaintDuring(kavlix::GraphPass* pass, kavlix::SeriesPainter paint) {
+void PaintDuring(GraphPass* pass, SeriesPainter paint) {
     if (pass != nullptr)
         paint(*pass);
 }
@@ -14,45 +16,45 @@ void PaintDuring(kavlix::GraphPass* pass, kavlix::SeriesPainter paint) {
 } // namespace
 
 void CGraph::DrawBarSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintBars);
+    PaintDuring(pass, PaintBars);
 }
 
 void CGraph::DrawLineSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintLines);
+    PaintDuring(pass, PaintLines);
 }
 
 void CGraph::DrawPieSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintPies);
+    PaintDuring(pass, PaintPies);
 }
 
 void CGraph::DrawScatterSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintPoints);
+    PaintDuring(pass, PaintPoints);
 }
 
 void CGraph::DrawBoxWhiskerSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintBoxes);
+    PaintDuring(pass, PaintBoxes);
 }
 
 void CGraph::DrawStackedBarSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintStackedBars);
+    PaintDuring(pass, PaintStackedBars);
 }
 
 void CGraph::DrawXYLineSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintXYLines);
+    PaintDuring(pass, PaintXYLines);
 }
 
 void CGraph::Draw3DBarSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintSolidBars);
+    PaintDuring(pass, PaintSolidBars);
 }
 
 void CGraph::Draw3DLineSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintRibbons);
+    PaintDuring(pass, PaintRibbons);
 }
 
 void CGraph::Draw3DPieSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintSolidPies);
+    PaintDuring(pass, PaintSolidPies);
 }
 
 void CGraph::Draw3DStackedBarSeries(CDC*) {
-    PaintDuring(pass, kavlix::PaintSolidStackedBars);
+    PaintDuring(pass, PaintSolidStackedBars);
 }

@@ -17,16 +17,17 @@
 
 namespace kavlix {
 
-/// A text that has no room beside the plot. The text is drawn after the series, on a white ground.
+/// A text that has no room beside the plot. The text is drawn after the series, on a white background.
 struct OverlayLabel {
-    PlanePoint place; ///< the upper left corner of the text itself
+    PlanePoint place; ///< the upper left corner of the text; the text is turned around it
     CString text;
     int fontSize = 0; ///< pixels
     int angle = 0;    ///< degrees counter-clockwise
     int weight = FW_NORMAL;
 };
 
-/// Lengths and places are in the units of the canvas, fonts in pixels.
+/// What the steps of one drawing share: canvas, data and layout. Lengths and positions are in logical units
+/// of the canvas, font heights in pixels.
 struct GraphPass {
     GraphPass(CDC& dc, const GraphFrame& frame, GraphSnapshot contents, const GraphTypeRow& graphType)
         : canvas(dc, frame), data(std::move(contents)), type(graphType) {}
@@ -35,19 +36,19 @@ struct GraphPass {
     GraphSnapshot data;
     const GraphTypeRow& type;
     bool bySeries = false;   ///< points and legend rows have the colour of their series, not of their group
-    int labelFont = 0;       ///< height of the series labels
-    double depthRatio = 0;   ///< as CGraph::Set3DDepthRatio has it
-    PlaneRect plot;          ///< the whole plot, with the depth of the 3D types
+    int labelFont = 0;       ///< height of a pie's name and shares: that of the series labels
+    double depthRatio = 0;   ///< the value of CGraph::Set3DDepthRatio
+    PlaneRect plot;          ///< the whole plot, including the depth of the 3D types
     PlaneRect front;         ///< where values are drawn: the plot without the depth
-    Depth depth;             ///< of the 3D types; else 0
-    Depth depthPerGroup;     ///< the part of `depth` that one group has
-    bool horizontal = false; ///< values grow to the right
-    bool mirrored = false;   ///< negative keys are shown as well
+    Depth depth;             ///< from `front` to the wall behind the shapes; 0 without kDepth
+    Depth depthPerGroup;     ///< with kDepthPerGroup: the part of `depth` that one group has
+    bool horizontal = false; ///< the value axis runs from left to right; otherwise from the bottom up
+    bool mirrored = false;   ///< negative keys are shown too, on the other side of the value axis
     bool centred = false;    ///< the zero line lies in the middle of the value axis
     PlotScale values;        ///< values to y, or to x when horizontal
     ScaleTicks valueTicks;
     int captionFont = 0;   ///< height of the axis captions
-    double leftEdge = 0;   ///< the x right of the Y caption, where labels may begin
+    double leftEdge = 0;   ///< least x of the labels, to the right of the Y caption
     double leftRoom = 0;   ///< width for labels between the Y caption and the plot
     double bottomRoom = 0; ///< height for labels between the plot and the X caption
     int leftFont = 0;      ///< height of the numbers left of the plot; 0: they stand inside the plot
@@ -57,7 +58,7 @@ struct GraphPass {
     SeriesSlots mirroredSlots; ///< the places of the series' negative keys, when mirrored
     std::vector<OverlayLabel> overlayLabels;
 
-    /// The colour of the value under `key` in series number `s`.
+    /// The colour of the value with the key `key` in the series at index `s`.
     COLORREF PointColour(int s, int key) const { return data.Colour(bySeries ? s : key); }
     /// Whether the plot is large enough to draw in.
     bool HasPlot() const { return front.Width() >= 1 && front.Height() >= 1; }
@@ -68,11 +69,11 @@ struct GraphPass {
     /// The rectangle that spans `along` on the series' axis and `value` on the value axis.
     /// Both are positions.
     PlaneRect Between(Span along, Span value) const;
-    /// The position on the value axis of the line that the series stand on: its middle when centred, else
-    /// its first end.
+    /// The position of the line that the series stand on: the middle of the value axis when centred,
+    /// otherwise the beginning of the value axis.
     double BaseLine() const { return centred ? values.Position(0) : values.From(); }
-    /// Whether `earlier` need not be drawn: both parts of a stack lie in one pixel, and `later`
-    /// is drawn there.
+    /// Whether `later` hides `earlier`, so that `earlier` need not be drawn: both parts of a stack lie within
+    /// the same logical unit of the value axis, and `later` is drawn.
     bool Covers(const StackSegment& later, const StackSegment& earlier) const;
 };
 

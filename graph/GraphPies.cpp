@@ -14,24 +14,24 @@ namespace kavlix {
 namespace {
 
 // Lengths in pixels.
-constexpr double kSmallestPie = 48;      // side of the smallest room that a pie gets
+constexpr double kSmallestPie = 48;      // least width and height of a pie's box, without its name
 constexpr double kSmallestLabelled = 28; // radius; smaller pies have no shares beside them
 constexpr double kNameGap = 6;           // between a pie and its name
-constexpr double kPieMargin = 6;         // of a pie without shares beside it, both sides together
-constexpr double kLeader = 10;           // from the rim to the bend of a leader line
-constexpr double kLeaderEnd = 6;         // from the bend to the end
+constexpr double kPieMargin = 6;         // free space of a pie without shares beside it, both sides together
+constexpr double kLeader = 10;           // from the pie to the bend of a leader line
+constexpr double kLeaderEnd = 6;         // from the bend to the end of a leader line
 constexpr double kTextGap = 3;           // from the end of a leader line to the share
-constexpr double kThinSector = 3;        // length of the rim; the outline would hide a shorter sector
+constexpr double kThinSector = 3;        // length of the arc; a white outline would hide a shorter sector
 
 constexpr double kTilt = 0.5;      // height of a tilted pie, as a fraction of its width
-constexpr double kMostRim = 0.25;  // height of a rim, as a fraction of the room's height
-constexpr double kRimLight = 0.65; // factor of the sector's colour
+constexpr double kMostRim = 0.25;  // greatest height of a rim, as a fraction of the height of the pie's room
+constexpr double kRimLight = 0.65; // light on the rim, for Shade
 // Distances from the centre, as fractions of the radius, where a share's middle is tried inside its sector.
 constexpr double kInsideReaches[] = {0.66, 0.58, 0.74};
 
 /// A share as it is written: with one decimal place, unless the share is nearly a whole number.
 CString ShareText(double percent) {
-    constexpr double kShown = 0.05; // percent; less rounds to nothing
+    constexpr double kShown = 0.05; // percent; less rounds to 0.0
     CString text;
     if (percent < kShown)
         text = "<0.1%";
@@ -42,17 +42,17 @@ CString ShareText(double percent) {
 
 /// Black or white, whichever is easier to read on `ground`.
 COLORREF InkOn(COLORREF ground) {
-    constexpr int kMiddle = 140; // brightness, of 255
+    constexpr int kMiddle = 140; // brightness from 0 to 255; darker colours get white text
     const int light = (GetRValue(ground) * 30 + GetGValue(ground) * 59 + GetBValue(ground) * 11) / 100;
     return light < kMiddle ? kPaper : kInk;
 }
 
-/// What all pies of a picture have in common.
+/// What all pies of a picture have in common. Lengths are in logical units.
 struct PieStyle {
     double pixel = 1;
     double tilt = 1;     ///< height of a pie, as a fraction of its width
     double rim = 0;      ///< greatest height of the rim
-    LabelSize share;     ///< holds the text of any share
+    LabelSize share;     ///< large enough for the text of any share
     bool beside = false; ///< whether shares may stand beside the pies
 
     /// The height of the rim in a room of this height.
@@ -66,7 +66,7 @@ struct PieStyle {
     }
 };
 
-/// One pie in its room: sectors, rim and shares.
+/// One pie in its room, the rectangle that this pie has for its sectors, rim and shares.
 class PiePainter {
 public:
     PiePainter(const GraphPass& pass, GraphCanvas& canvas, const PlaneRect& room, const PieStyle& style)
@@ -87,12 +87,12 @@ public:
                 return FindInside(sector, m_canvas.Measure(ShareText(sector.percent)), place);
             });
     }
-    /// The y below everything that Draw has drawn.
+    /// The y of the lower edge of what Draw has drawn.
     double Lowest() const { return m_lowest; }
 
     void Draw(const std::vector<Sector>& sectors) {
-        // The tops cover the far parts of the rims, so the rims come first. The outlines of wide sectors
-        // would cover their thin neighbours, so thin sectors come last.
+        // The outlines of the sectors cover the upper edges of the rims, so the rims are drawn first. The
+        // outlines of wide sectors would cover thin neighbours, so thin sectors are drawn last.
         for (const bool thin : {false, true})
             for (const Sector& sector : sectors)
                 if (m_rim > 0 && IsThin(sector) == thin)
@@ -142,7 +142,7 @@ private:
         for (const Sector& sector : sectors) {
             CString text;
             PlanePoint place;
-            // Measuring text is slow, and a sector narrower than half a line of text holds none.
+            // Measuring text is slow, and no text fits into a sector with an arc below half a line's height.
             bool inside = m_pie.ArcLength(sector) >= m_style.share.height / 2;
             if (inside) {
                 text = ShareText(sector.percent);
@@ -166,7 +166,8 @@ private:
         return a->percent != b->percent ? a->percent > b->percent : a->start > b->start;
     }
 
-    /// The place `reach` outside the middle of a sector's outline; at the front below the rim.
+    /// The point `reach` logical units outside the middle of a sector's arc. On the front half of the pie
+    /// `reach` counts from the lower edge of the rim.
     PlanePoint RimPoint(const Sector& sector, double reach) const {
         PlanePoint point = m_pie.At(sector.Middle(), 1);
         if (sector.Middle() > kQuarterTurn && sector.Middle() < kHalfTurn + kQuarterTurn)
@@ -178,8 +179,8 @@ private:
         return {point.x + x / length * reach, point.y + y / length * reach};
     }
 
-    /// Draws the shares beside the pie, from the top down, each with a leader line to its sector. `side` is 1
-    /// for the right side and -1 for the left one. Without room for all, the smallest shares are left out.
+    /// Draws the shares on one side of the pie, from the top down, each with a leader line to its sector.
+    /// `side` is 1 for the right side, -1 for the left. If not all have room, the smallest ones are left out.
     void DrawOutside(std::vector<const Sector*> sectors, double side) {
         const double pixel = m_canvas.Pixel();
         const double most = std::max(std::floor(m_room.Height() / m_style.share.height), 0.0);
@@ -212,8 +213,8 @@ private:
         }
     }
 
-    /// The distance from the centre, to the side, at which a share with its middle at `y` does not touch the
-    /// pie or its rim.
+    /// The horizontal distance from the pie's centre at which a leader line's bend at `y`, and the share
+    /// beside it, do not touch the pie or its rim.
     double Beside(double y) const {
         const double lowest = m_pie.centre.y + m_rim;
         const double half = m_style.share.height / 2;

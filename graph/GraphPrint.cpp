@@ -1,4 +1,4 @@
-// Printing: the picture of DrawGraph in twips, cut by margins and page.
+// Printing: the picture of DrawGraph, laid out in twips between the margins and on the page.
 #include <kavlix/Graph.h>
 
 #include <afxext.h>
@@ -11,7 +11,7 @@
 #include "graph/core/PrintedBottom.h"
 #include "plot/Numeric.h"
 
-using kavlix::ToCoordinate;
+using namespace kavlix;
 
 namespace {
 
@@ -28,7 +28,7 @@ int PageBottom(CDC& dc, CRect area) {
 void CGraph::PrintGraph(CDC* pDC, CPrintInfo* pInfo) {
     if (pDC == nullptr || pDC->GetSafeHdc() == nullptr)
         return;
-    const kavlix::SavedDcGuard saved(*pDC);
+    const SavedDcGuard saved(*pDC);
     CRect page(0, 0, pDC->GetDeviceCaps(HORZRES), pDC->GetDeviceCaps(VERTRES));
     if (pInfo != nullptr && pInfo->m_rectDraw.Width() != 0 && pInfo->m_rectDraw.Height() != 0) {
         page = pInfo->m_rectDraw;
@@ -37,8 +37,8 @@ void CGraph::PrintGraph(CDC* pDC, CPrintInfo* pInfo) {
     pDC->SetMapMode(MM_TWIPS);
     pDC->SetWindowOrg(0, 0);
 
-    printBottom = std::max(kavlix::PrintedBottom(printTop, bottomMargin), PageBottom(*pDC, page));
-    kavlix::GraphFrame frame;
+    printBottom = std::max(PrintedBottom(printTop, bottomMargin), PageBottom(*pDC, page));
+    GraphFrame frame;
     frame.left = printLeft;
     frame.top = printTop;
     frame.width = ToCoordinate(std::int64_t{printRight} - printLeft);

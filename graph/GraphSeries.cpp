@@ -6,13 +6,15 @@
 
 #include "graph/OwningList.h"
 
+using namespace kavlix;
+
 CGraphValue::~CGraphValue() = default;
 
-CGraphSeries::CGraphSeries() : dataValues(new CObList(kavlix::kListBlock)) {
+CGraphSeries::CGraphSeries() : dataValues(new CObList(kListBlock)) {
 }
 
 CGraphSeries::~CGraphSeries() {
-    kavlix::DeleteAll(*dataValues);
+    DeleteAll(*dataValues);
     delete dataValues;
 }
 
@@ -28,7 +30,7 @@ void CGraphSeries::AddPoint(int x, int y) {
     auto record = std::make_unique<CGraphValue>(x, y);
     const auto [entry, isFirst] = firstRecords.try_emplace(x, record.get());
     try {
-        kavlix::Append(*dataValues, std::move(record));
+        Append(*dataValues, std::move(record));
     } catch (...) {
         if (isFirst)
             firstRecords.erase(entry);

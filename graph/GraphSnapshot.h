@@ -25,9 +25,9 @@ struct GraphSnapshot {
     int SeriesCount() const { return static_cast<int>(series.size()); }
     /// The series at `index`, from 0 to SeriesCount() - 1.
     const SeriesPoints& Series(int index) const { return series[static_cast<std::size_t>(index)]; }
-    /// The values of the drawn groups of a series, ascending by group, one a group.
+    /// The values of the drawn groups in a series, ascending by group. At most one value for each group.
     std::vector<KeyedValue> Groups(int index) const { return GroupValues(Series(index).values, groups); }
-    /// Black where the list has no entry.
+    /// The colour at position `index` of the colour list; black where the list has no entry.
     COLORREF Colour(int index) const {
         return index >= 0 && index < static_cast<int>(colours.size()) ? colours[index] : RGB(0, 0, 0);
     }

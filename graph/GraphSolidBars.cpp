@@ -16,8 +16,8 @@ void DrawFace(GraphCanvas& canvas, const Face& face, COLORREF colour, double lig
     canvas.Polygon(face);
 }
 
-/// A box that is a few pixels wide, drawn as upright rectangles without outlines. GDI takes several times as
-/// long for slanted faces, and at this width the slant is a pixel or two.
+/// Draws a box less than kSlanted pixels wide as upright rectangles without outlines. GDI takes several times
+/// as long for slanted faces, and at this width the slant is only a few pixels.
 void DrawThinSolid(GraphCanvas& canvas, const PlaneRect& front, Depth depth, COLORREF colour) {
     const double pixel = canvas.Pixel();
     const double right = std::max(front.right, front.left + pixel);
@@ -38,7 +38,7 @@ Depth DepthOf(const GraphPass& pass, Span along) {
     return {pass.depth.x * factor, pass.depth.y * factor};
 }
 
-/// A box from the value `foot` to the value `tip`.
+/// Draws a box from the value `foot` to the value `tip`.
 void DrawSolid(GraphPass& pass, Span along, double foot, double tip, COLORREF colour) {
     foot = pass.values.Clamp(foot);
     tip = pass.values.Clamp(tip);
@@ -58,8 +58,8 @@ void DrawSolid(GraphPass& pass, Span along, double foot, double tip, COLORREF co
     DrawFace(pass.canvas, faces.front, colour, kFrontLight);
 }
 
-/// Calls `draw(i)` for 0 to `count` - 1, the farthest from the viewer first: from left to right, or in a
-/// horizontal graph from the bottom up.
+/// Calls `draw(i)` for 0 to `count` - 1, in the order in which a later box may cover the side or top of an
+/// earlier one: from left to right, or in a horizontal graph from the bottom up.
 template <class Draw> void BackToFront(const GraphPass& pass, int count, Draw draw) {
     for (int i = 0; i < count; ++i)
         draw(pass.horizontal ? count - 1 - i : i);
@@ -85,7 +85,9 @@ void PaintSolidStackedBars(GraphPass& pass) {
         [&](int s) {
             const auto values = pass.data.Groups(s);
             auto parts = StackValues(values);
-            // A part that lies higher, or farther to the right, covers the part that it stands on.
+            // Parts are drawn from the bottom up, or from left to right: each hides the top or side face of
+            // the part before. The parts ascend by value, so they are reversed when values grow downwards or
+            // to the left.
             if ((pass.values.Position(1) < pass.values.Position(0)) == pass.horizontal)
                 std::reverse(parts.begin(), parts.end());
             for (std::size_t i = 0; i < parts.size(); ++i)

@@ -24,19 +24,19 @@ void PaintSolidStackedBars(GraphPass& pass);
 
 /// What several graph types have in common. Bits, so that a row can combine traits.
 enum GraphTrait : unsigned {
-    kPie = 1,              ///< sectors fill the plot; no axes
+    kPie = 1,              ///< pies fill the plot; no axes
     kDepth = 2,            ///< the shapes are solid, and a wall stands behind them
     kDepthPerGroup = 4,    ///< the groups stand behind each other, each in an equal part of the depth
     kScaledKeys = 8,       ///< keys are X values on a second scale
-    kUpright = 16,         ///< values grow upwards, whatever the alignment
-    kHorizontalRoom = 32,  ///< the room around the plot is that of a horizontal graph in both alignments
+    kUpright = 16,         ///< the value axis is vertical, whatever CGraph::SetGraphAlignment has set
+    kHorizontalRoom = 32,  ///< the margins around the plot are those of a horizontal graph in both alignments
     kQuadrants = 64,       ///< CGraph::SetGraphQuadType applies
     kColourBySeries = 128, ///< CGraph::SetLegendBySeries applies
 };
 
 struct GraphTypeRow {
     int type;            ///< a GraphType code
-    SeriesPainter paint; ///< nullptr: the type has no series to show
+    SeriesPainter paint; ///< nullptr: no series are drawn
     unsigned traits;     ///< GraphTrait bits
 
     bool Has(GraphTrait trait) const { return (traits & trait) != 0; }

@@ -12,7 +12,6 @@
 #include "graphctrl/core/SampleStore.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr int kBeyondPlot = 3 * kUnitsPerPixel; // bars end at most this far above or below the plot

@@ -5,8 +5,9 @@
 
 namespace kavlix {
 
-/// Adds a sample when this sample or the last one lies outside the pixel table, so that a pixel is unknown.
-/// PaintFar has GDI convert all these points in one call.
+/// Adds a sample whose stroke from the previous sample has an end outside the pixel table. The pixel of that
+/// end is unknown, so the stroke is stored in logical units, unless both ends lie beyond the same edge.
+/// PaintFar lets GDI convert all stored strokes in one call.
 void DirectLine::GoFar(double value, const PixelColumn& column, int row) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return from == to && !edges.HasPixel(from);

@@ -51,7 +51,7 @@ private:
     std::uint32_t m_colour;
     ThinLine m_line;
     bool m_isOpen = false;
-    bool m_isNear = false;    ///< the last sample lies inside the pixel table
+    bool m_isNear = false;    ///< whether the last sample lies inside the pixel table
     Place m_last = {};        ///< the last sample
     std::vector<POINT> m_far; ///< pending strokes that leave the pixel table: two ends each, logical units
 };

@@ -18,7 +18,8 @@ void GdiLine::Add(double value, const PixelColumn& column) {
         m_far.push_back(0);
     }
     const int y = m_target.yMap.Position(value).value_or(0);
-    // Inside the pixel table the pixel is looked up. GDI converts all other points in one call later.
+    // The pixel of a point inside the pixel table is looked up. DrawPart lets GDI convert all other points in
+    // one call.
     if (m_target.columns.HasPixel(column.pixel) && m_target.rows.Holds(y)) {
         m_pixels.push_back({column.pixel, m_target.rows.PixelOf(y)});
     } else {
@@ -68,8 +69,9 @@ void GdiLine::DrawPart() {
     m_far.clear();
 }
 
-/// Draws stroke by stroke, since GDI builds a region for a wide polyline, which takes longer. Neighbouring
-/// bands are collected: DrawBands covers their area with fewer strokes.
+/// Draws a wide line stroke by stroke, since GDI builds a region for a wide polyline, which takes longer.
+/// Bands (WideStroke::Band) that overlap or touch are collected: DrawBands covers their area with fewer
+/// strokes.
 void GdiLine::DrawWide(const Rect& view, const Point* points, int count) {
     CDC& dc = m_target.dc;
     const int width = m_penPixels * kUnitsPerPixel;
@@ -96,7 +98,7 @@ void GdiLine::DrawWide(const Rect& view, const Point* points, int count) {
     }
 }
 
-/// Draws bands one pen width apart, from the first pending band to the last.
+/// Draws bands one pen width apart, from the leftmost pending band to the rightmost.
 void GdiLine::DrawBands() {
     while (m_hasBand) {
         m_firstBand.Draw(m_target.dc);

@@ -16,7 +16,7 @@ namespace kavlix {
 /// are left out.
 class GdiLine {
 public:
-    /// `plot` in device units, edges included: the visible part of the line.
+    /// `plot`: the area in which the line is visible, in device pixels, edges included.
     GdiLine(const LineTarget& target, const CRect& plot, int penPixels)
         : m_target(target), m_plot(plot), m_penPixels(penPixels) {}
 
@@ -33,10 +33,10 @@ private:
     LineTarget m_target;
     CRect m_plot;
     int m_penPixels;
-    // Pending bands, which are vertical strokes that overlap or touch: the leftmost, and the rightmost's X.
-    bool m_hasBand = false;
-    WideStroke m_firstBand = {};
-    int m_lastBand = 0;             ///< logical units
+    // Pending bands (WideStroke::Band), which overlap or touch.
+    bool m_hasBand = false;         ///< whether a band is pending
+    WideStroke m_firstBand = {};    ///< the leftmost pending band
+    int m_lastBand = 0;             ///< X of the rightmost pending band, logical units
     std::vector<Point> m_points;    ///< pending points, logical units
     std::vector<Point> m_pixels;    ///< the pixel of each point
     std::vector<std::size_t> m_far; ///< indices of the points whose pixels are still unknown

@@ -7,7 +7,7 @@ namespace {
 
 constexpr char kWindowClass[] = "MFCGraphCtrl";
 
-// The last two datasets have the same colour on purpose.
+// The last two datasets have the same colour, which hosts rely on.
 constexpr COLORREF kDatasetColors[CGraphCtrl::DatasetCount] = {
     RGB(240, 0, 177),  RGB(125, 125, 169), RGB(153, 204, 0), RGB(255, 102, 0), RGB(204, 204, 255),
     RGB(203, 59, 59),  RGB(132, 130, 130), RGB(0, 135, 162), RGB(54, 0, 162),  RGB(50, 50, 50),

@@ -1,4 +1,5 @@
-// CGraphCtrl: the axes with ticks, tick labels, unit texts and grid. XTickPainter draws a single X tick.
+// CGraphCtrl: the axes with ticks, tick labels, unit texts and grid. XTickPainter draws X tick labels, and
+// the X ticks that grid lines continue.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
@@ -19,9 +20,10 @@ using namespace kavlix;
 namespace {
 
 // Logical units.
-constexpr int kTickLabelGap = 100;   // between the strip of tick marks and the tick labels
 constexpr int kTickLabelRaise = 150; // from a Y tick up to the top of its label
-constexpr int kUnitOverlap = 50;     // from the right edge of the tick strip to the unit text
+// From the right edge of a tick strip: to the left for the beginning of the Y unit text, to the right for the
+// end of the Y2 unit text.
+constexpr int kUnitOverlap = 50;
 
 constexpr UINT kUnitAlignY = TA_LEFT | TA_BOTTOM;
 constexpr UINT kUnitAlignY2 = TA_RIGHT | TA_BOTTOM;
@@ -31,9 +33,9 @@ void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.LineTo(x2, y2);
 }
 
-/// The part of a long number that may lie in `clip`: the end of a right-aligned text, else its beginning.
-/// `at` is the reference point of the text. Other texts are returned whole. GDI is slow at texts of
-/// thousands of digits.
+/// Cuts a number of more than 1024 characters to the part that can lie in `clip`, because GDI is slow at
+/// texts of thousands of digits: the end of a right-aligned text, else its beginning. Other texts, and texts
+/// whose cut part would not reach across `clip`, are returned whole. `at` is the reference point of the text.
 std::string VisiblePart(const CDC& dc, const std::string& text, bool isRightAligned, const CPoint& at,
                         const CRect& clip) {
     constexpr std::size_t kLongNumber = 1024;

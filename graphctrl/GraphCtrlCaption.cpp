@@ -39,8 +39,8 @@ void FillBody(CDC& dc, const CRect& rect) {
 void CGraphCtrl::DrawCaption(CDC& dc) {
     if (m_hWnd == nullptr)
         return;
-    // CreatePointFont takes a size on the screen. Scaling the size to logical units first makes the font as
-    // large under the control's mapping.
+    // CreatePointFont makes a font for a DC whose logical units are pixels, so the size is first scaled to
+    // the control's logical units.
     CSize size(0, std::clamp(m_CaptionFontSize, -kLargestFontSize, kLargestFontSize));
     dc.DPtoLP(&size);
     CFont captionFont;

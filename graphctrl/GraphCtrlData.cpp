@@ -10,7 +10,8 @@ using namespace kavlix;
 
 namespace {
 
-// The automatic X range ends this far behind the newest sample, so that the sample lies inside.
+// The automatic X range ends this far to the right of the newest sample, in sample indices, so that the
+// sample lies inside.
 constexpr double kBehindNewest = 0.001;
 
 void RemoveLabels(LabelStore& labels, int count) {

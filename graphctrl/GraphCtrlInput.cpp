@@ -12,7 +12,7 @@ void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
         m_IconMaximizeTracking = TRUE;
         m_IconMaximizePressed = TRUE;
         m_MaximizeNotified = false;
-        // SetCapture sends WM_CAPTURECHANGED to the window that had the capture. Its handler may
+        // SetCapture sends WM_CAPTURECHANGED to the window that had the capture. The message's handler may
         // delete this control.
         const HWND window = m_hWnd;
         ::SetCapture(window);
@@ -20,7 +20,8 @@ void CGraphCtrl::OnLButtonDown(UINT, CPoint point) {
             return;
         RepaintIcon();
     }
-    // The focus moves last: the handlers of the notifications above still see the old one.
+    // The focus moves last: while the parent handles the notifications above, the previous window still has
+    // the focus.
     ::SetFocus(m_hWnd);
 }
 

@@ -12,7 +12,7 @@ using namespace kavlix;
 
 namespace {
 
-constexpr int kShadowOffset = 100;  // of the board's shadow, logical units
+constexpr int kShadowOffset = 100;  // from the board to its shadow, right and down, logical units
 constexpr int kLegendClipInset = 3; // the clip region ends this many pixels left of the board's right edge
 
 } // namespace
@@ -69,7 +69,8 @@ void CGraphCtrl::DrawLegend(CDC& dc) {
 }
 
 int CGraphCtrl::LegendRowAt(CPoint point) const {
-    // Every dataset counts as one row here, although DrawLegend leaves out datasets without a legend text.
+    // Every dataset counts as one row here, although DrawLegend draws no row for a dataset without a legend
+    // text. Hosts rely on this numbering.
     const std::int64_t rowHeight = std::int64_t{m_LegendMargin} + m_LegendItemHeight;
     std::int64_t top = std::int64_t{m_rectLegend.top} + m_LegendMargin / 2;
     for (int i = 0; i < DatasetCount; ++i, top += rowHeight)

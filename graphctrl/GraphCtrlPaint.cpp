@@ -15,8 +15,8 @@ using namespace kavlix;
 namespace {
 
 // Logical units.
-constexpr int kDataRegionAbove = 600;  // room of the unit texts above the Y axes
-constexpr int kDataRegionBeside = 900; // X tick labels may extend beyond the right end of their band
+constexpr int kDataRegionAbove = 600;  // height for the unit texts above the Y axes
+constexpr int kDataRegionBeside = 900; // width for X tick labels that extend beyond their band at the right
 
 /// `device` without its last column and row of pixels.
 CRect LessOnePixel(const CRect& device) {

@@ -8,7 +8,7 @@ void CGraphCtrl::SetSelectionMarkPos(int nPos) {
     RedrawData();
 }
 
-// The only function that writes m_SelectionMarkPos, so that assistive tools get an event at every change.
+/// The only function that writes m_SelectionMarkPos, so that assistive tools get an event at every change.
 void CGraphCtrl::StoreSelectionMark(int nPos) {
     if (nPos == m_SelectionMarkPos)
         return;

@@ -3,7 +3,7 @@
 
 namespace {
 
-/// Whether Windows invalidates the whole window when its size changes, as the style of its class asks for.
+/// Whether the class style of `window` makes Windows invalidate the whole window when its size changes.
 bool RepaintsOnSize(HWND window) {
     constexpr ULONG_PTR kBoth = CS_HREDRAW | CS_VREDRAW;
     return (::GetClassLongPtr(window, GCL_STYLE) & kBoth) == kBoth;

@@ -15,12 +15,11 @@
 #include "plot/SeriesReduction.h"
 
 namespace kavlix {
-
 namespace {
 
 // Logical units.
-constexpr int kMarkerHalf = 3 * kUnitsPerPixel; // from the centre of a marker to its edges
-constexpr int kRoundingReach = 2 * kUnitsPerPixel;
+constexpr int kMarkerHalf = 3 * kUnitsPerPixel;    // farthest that a marker extends from its sample
+constexpr int kRoundingReach = 2 * kUnitsPerPixel; // added because GDI rounds positions to pixels
 // The triangle of the selection mark; its corners are given by their distance right of the dotted line.
 constexpr int kTriangleHeight = 180;
 constexpr int kTriangleTip = 10;

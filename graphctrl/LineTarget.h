@@ -1,4 +1,4 @@
-// Where a line is drawn: the DC, the pixels of its surroundings, and the map of its values.
+// Where a line is drawn: the DC, the pixel table, and the map from values to positions.
 #pragma once
 
 #include <afxwin.h>
@@ -10,12 +10,13 @@
 
 namespace kavlix {
 
-/// What DirectLine, GdiLine and RecordedLine draw with. All references must outlive the line.
+/// What DirectLine, GdiLine and RecordedLine draw with. All references must outlive the line. The pixel table
+/// is the part of the device whose pixels have known edges, in logical units.
 struct LineTarget {
     CDC& dc;
-    const PixelEdges& columns; ///< the pixel table: columns and rows whose edges are known in logical units
-    const PixelEdges& rows;
-    const LinearMap& yMap; ///< values to logical units
+    const PixelEdges& columns; ///< edges of the pixel table's columns
+    const PixelEdges& rows;    ///< edges of the pixel table's rows
+    const LinearMap& yMap;     ///< values to logical units
 };
 
 /// Largest number of points that a line collects before it draws them, which bounds the memory of a line.

@@ -10,7 +10,6 @@
 #include "plot/StrokeCut.h"
 
 namespace kavlix {
-
 namespace {
 
 /// Smallest distance of a cut from the edges of its pixel, in logical units. Programs that play a metafile
@@ -64,8 +63,8 @@ int RecordedLine::BeginOfPixel(const SampleStore& samples, SampleStore::Reader& 
            1;
 }
 
-/// Adds the `count` samples of a column, looking at every value (AddSearched does not). False, with nothing
-/// added, when a value is NaN or lies outside the pixel table.
+/// Adds the `count` samples of a column and reads every value (AddSearched does not). False, with nothing
+/// added, when a value is NaN or lies outside the pixel table, and when PixelRows cannot find all rows fast.
 bool RecordedLine::AddRead(const double* values, int count) {
     if (!m_target.columns.HasPixel(m_pixel))
         return false;
@@ -108,9 +107,9 @@ bool RecordedLine::AddRead(const double* values, int count) {
     return true;
 }
 
-/// Adds the samples of a column without reading each: the first and the last two samples that the pixel rule
-/// keeps, and the lowest and highest. False, with nothing added, when a value is NaN, and when the pixel rule
-/// may leave out the lowest or highest.
+/// Adds the samples of a column without reading every value: the first and the last two samples that the
+/// pixel rule keeps, and the lowest and highest. False, with nothing added, when a value is NaN, and when the
+/// pixel rule may leave out the lowest or highest.
 bool RecordedLine::AddSearched(const SampleStore& samples, SampleStore::Reader& values, int first, int last) {
     const Extremes extremes = samples.ExtremesOf(first, last);
     if (extremes.HasGap())
@@ -156,9 +155,9 @@ void RecordedLine::Covered::Add(const Covered& other) {
     }
 }
 
-/// Whether the strokes of the current column cover the stroke between two of its values, both in pixels and
-/// in logical units. If they do not, the result is false and the caller must draw the stroke, so the stroke
-/// is added to the covered ranges. Strokes that leave the pixel table are never covered.
+/// Whether earlier strokes of the current column cover the stroke between the values `from` and `to`, both in
+/// pixels and in logical units. If not, the caller draws the stroke, so the covered ranges grow by it. A
+/// stroke that leaves the pixel table is never covered.
 bool RecordedLine::IsCovered(double from, double to) {
     if (m_x != m_coveredX) {
         m_coveredX = m_x;
@@ -210,9 +209,9 @@ void RecordedLine::Keep(double value, int row) {
     m_isOpen = true;
 }
 
-/// Draws the pending samples of the column. With `isEnd`, the last stroke of the line keeps its beginning,
-/// the last but one sample: GDI leaves out the last pixel of a line, so the painted pixels depend on the
-/// direction of the last stroke.
+/// Draws the pending samples of the column. With `isEnd`, the line may end here, and the last but one sample
+/// is drawn too, as the beginning of the last stroke: GDI leaves out the last pixel of a line, so the painted
+/// pixels depend on the direction of the last stroke.
 void RecordedLine::DrawColumn(bool isEnd) {
     if (m_count == 0)
         return;
@@ -252,7 +251,7 @@ void RecordedLine::From(const Point& point) {
     To(point);
 }
 
-/// Draws a stroke to `point`, or begins the line there.
+/// Draws a stroke to `point`; without a previous point, begins a line at `point`.
 void RecordedLine::To(const Point& point) {
     const bool isNear = IsNear(point);
     if (m_hasEnd && point == m_end)
@@ -269,8 +268,8 @@ void RecordedLine::To(const Point& point) {
     }
 }
 
-/// Cuts the stroke from m_end to `point`, at least one of which lies outside the pixel table, and adds what
-/// remains.
+/// Cuts the stroke from m_end to `point`, at least one of which lies outside the pixel table, and adds the
+/// remaining part to the pending polyline.
 void RecordedLine::ToFar(const Point& point) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return (from < edges.Begin() && to < edges.Begin()) || (from >= edges.End() && to >= edges.End());
@@ -296,8 +295,8 @@ void RecordedLine::ToFar(const Point& point) {
         DrawPart();
 }
 
-/// The point of `pixel` on the line between `from` and `to`, or near the line. `from`, `to` and the result
-/// in logical units.
+/// A point inside `pixel` that lies on the line between `from` and `to`, or near the line where the line
+/// misses the pixel. `from`, `to` and the result in logical units.
 Point RecordedLine::OnLine(const Point& from, const Point& to, const Point& pixel) const {
     const double dx = static_cast<double>(to.x) - from.x;
     const double dy = static_cast<double>(to.y) - from.y;
@@ -308,9 +307,9 @@ Point RecordedLine::OnLine(const Point& from, const Point& to, const Point& pixe
     return {x, Into(m_target.rows, pixel.y, from.y + (x - from.x) * dy / dx)};
 }
 
-/// Stores the visible part of a stroke, given in pixels, in m_cut. For a wide pen with one end in the pixel
-/// table, NearerEnd finds a cut that keeps the pixels of the stroke's edges, if such a cut lies in the pixel
-/// table. Every other cut of a wide stroke may move its edges by a pixel.
+/// Stores the visible part of a stroke in m_cut; all points in pixels. For a wide stroke with one end in the
+/// pixel table, NearerEnd finds a cut that keeps the pixels of the stroke's edges. It is used if it lies in
+/// the pixel table. Every other cut of a wide stroke may move the stroke's edges by a pixel.
 void RecordedLine::Cut(const Point& begin, const Point& end) {
     const bool comesFromFar = !HasPixel(begin.x, begin.y);
     if (!m_isThin && comesFromFar != !HasPixel(end.x, end.y)) {

@@ -14,20 +14,20 @@
 
 namespace kavlix {
 
-/// Draws one or more lines with the selected pen on a DC that records strokes. The number of strokes is
+/// Draws one or more lines with the selected pen on a metafile or printer DC. The number of strokes is
 /// bounded by the width of the plot, and the recorded picture may be enlarged.
 ///
 /// Two rules choose the samples. Pixel rule: a sample on the same pixel as the sample before it is left out.
-/// Column rule: of the samples that the pixel rule keeps in one column of one logical unit, only the first,
-/// lowest, highest and last are drawn. Strokes are cut near the plot, because the frame of a metafile
-/// includes everything that is drawn.
+/// Column rule: of the samples that the pixel rule keeps in one column, which is one logical unit wide, only
+/// the first, lowest, highest and last are drawn, and at the end of a line the last but one. Strokes are cut
+/// near the plot, because the frame of a metafile includes everything that is drawn.
 class RecordedLine {
 public:
-    /// Strokes are cut this many pixels outside the visible area.
+    /// Strokes are cut at most this many pixels outside the window that the constructor takes.
     static constexpr int kMargin = 32;
 
-    /// `window` in pixels: the visible area, enlarged by the reach of the pen. The pixel table of `target`
-    /// covers the window and kMargin pixels round it.
+    /// `window` in pixels: the visible area, enlarged by the reach of pens and markers. The pixel table of
+    /// `target` covers the window and kMargin pixels round it.
     ///
     /// With markers, each stroke begins at the previous sample, even if the pixel rule has left that sample
     /// out, because drawing that sample's marker moves GDI's current position to it. The strokes are then
@@ -63,10 +63,10 @@ public:
     void End();
 
 private:
-    /// Columns with at least this many samples are reduced before the rules are applied to each sample.
+    /// AddColumn uses AddRead or AddSearched only for columns with at least this many samples.
     static constexpr int kReducedColumn = 8;
-    /// Of these, columns of at most this many samples are read sample by sample, which is faster than a
-    /// search for their extremes.
+    /// AddColumn uses AddRead for columns with at most this many samples: reading all of them is faster than
+    /// a search for their extremes.
     static constexpr int kReadColumn = 256;
 
     struct Sample {
@@ -97,7 +97,7 @@ private:
         m_x = x;
         m_pixel = m_target.columns.PixelOrSide(x);
     }
-    /// Applies the pixel rule to a sample of the current column. Whether the sample was kept.
+    /// Applies the pixel rule to a sample of the current column. True if the sample was kept.
     bool KeepUnlessOnKeptPixel(double value) {
         const int row = m_rows.Of(value);
         const bool isSame = m_isOpen && m_pixel == m_keptPixel && row == m_keptRow &&
@@ -111,7 +111,7 @@ private:
     bool AddSearched(const SampleStore& samples, SampleStore::Reader& values, int first, int last);
     int BeginOfPixel(const SampleStore& samples, SampleStore::Reader& values, int first, int last) const;
     bool IsSameFarPixel(const Sample& a, const Sample& b) const;
-    /// Whether two samples of the current column fall on one pixel.
+    /// Whether two samples of the current column, given by their values, fall on one pixel.
     bool IsSamePixel(double a, double b) const {
         const int row = m_rows.Of(a);
         return row == m_rows.Of(b) && (HasPixel(m_pixel, row) || IsSameFarPixel({m_x, a}, {m_x, b}));
@@ -136,26 +136,25 @@ private:
     int m_x = kCoordinateLimit + 1;        ///< current column: position of the last sample, logical units
     int m_pixel = 0;                       ///< pixel column of m_x
     Sample m_sample = {};                  ///< the last sample, kept or not; used with markers only
-    int m_coveredX = kCoordinateLimit + 1; ///< column of the two covered ranges; used with markers only
+    int m_coveredX = kCoordinateLimit + 1; ///< X of m_coveredUnits and m_coveredRows; used with markers only
     Covered m_coveredUnits;
     Covered m_coveredRows;
     bool m_isOpen = false;
-    // The pending samples of the column m_keptX: how many, the first, the lowest and highest of all but the
-    // last, the last but one, and the last.
-    int m_count = 0;
-    int m_keptX = 0;
-    double m_first = 0;
-    Kept m_low = {};
-    Kept m_high = {};
-    double m_before = 0;
-    double m_last = 0;
-    int m_keptPixel = 0; ///< pixel column of the last one
-    int m_keptRow = 0;
+    // The pending samples: values of the kept samples of one column that are not drawn yet.
+    int m_count = 0;     ///< number of pending samples
+    int m_keptX = 0;     ///< X of the last kept sample, logical units
+    double m_first = 0;  ///< first pending sample
+    Kept m_low = {};     ///< lowest pending sample, the last one excluded
+    Kept m_high = {};    ///< highest pending sample, the last one excluded
+    double m_before = 0; ///< last but one pending sample
+    double m_last = 0;   ///< last kept sample
+    int m_keptPixel = 0; ///< pixel column of the last kept sample
+    int m_keptRow = 0;   ///< pixel row of the last kept sample
 
     bool m_hasEnd = false;
     Point m_end;                 ///< end of the last stroke, logical units
     std::vector<POINT> m_points; ///< pending polyline, logical units
-    std::vector<Point> m_cut;    ///< what ToFar keeps of a stroke
+    std::vector<Point> m_cut;    ///< points of the stroke that ToFar has cut
 };
 
 } // namespace kavlix

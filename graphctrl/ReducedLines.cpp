@@ -17,7 +17,6 @@
 #include "graphctrl/core/SampleStore.h"
 
 namespace kavlix {
-
 namespace {
 
 /// Columns of at most this many samples are drawn without a search for their extremes.
@@ -36,8 +35,8 @@ bool IsInside(const Rect& rect, const CRect& outer) {
            rect.bottom <= outer.bottom;
 }
 
-/// One edge per logical unit, from the beginning of pixel `first` to the beginning of pixel `end` of
-/// `pixels`, which are counted from 0.
+/// One edge per logical unit, from the beginning of pixel `first` to the beginning of pixel `end`. Both are
+/// indices in `pixels`, from 0.
 PixelEdges UnitsOf(const PixelEdges& pixels, int first, int end) {
     std::vector<int> edges(static_cast<std::size_t>(pixels.Edge(end) - pixels.Edge(first)) + 1);
     std::iota(edges.begin(), edges.end(), pixels.Edge(first));
@@ -76,7 +75,9 @@ public:
             ForColumns(first, last, [this](const PixelColumn& column) { DrawMarkers(column); });
     }
 
-    /// Draws samples whose positions are not monotonic, on a DC that records strokes.
+    /// Draws the samples one by one into a metafile or printer DC. Used when the samples cannot be grouped by
+    /// column (m_columns is empty), and when the value axis is not monotonic (see LinearMap::IsMonotonic),
+    /// because then the extremes of a column cannot be used.
     void RecordInAnyOrder(int first, int last) {
         const auto isVisible = [&](int x, int y) {
             return m_lines.m_groupColumns.Holds(x) && m_lines.m_groupRows.Holds(y);
@@ -101,8 +102,8 @@ private:
 
     LineTarget Target() const { return {m_dc, m_lines.m_columnEdges, m_lines.m_rowEdges, m_yMap}; }
 
-    /// Calls `visit(column)` for each column with samples of `first` to `last`. The column holds
-    /// these samples only.
+    /// Calls `visit(column)` for each column that holds any of the samples `first` to `last`. Other samples
+    /// are left out of the column.
     template <class Visit> void ForColumns(int first, int last, Visit visit) const {
         const Columns end = m_lines.m_columns.end();
         for (Columns column = ColumnOf(first); column != end && column->first <= last; ++column)
@@ -158,9 +159,9 @@ private:
             AddWithoutGap(sink, column, end, extremes);
     }
 
-    /// Adds a column that has gaps, part by part.
+    /// Adds a column that has gaps: the samples between two gaps are added like a column of their own.
     template <class Sink> void AddBetweenGaps(Sink& sink, const PixelColumn& column, int end) {
-        std::vector<int> gaps; // the last gap first
+        std::vector<int> gaps; // indices of the gaps, the last gap first
         for (int last = column.last; last >= column.first; --last) {
             last = m_samples.FindLast(
                 column.first, last, [](const Extremes& block) { return !block.HasGap(); },
@@ -228,8 +229,8 @@ private:
         const PixelEdges& rows = m_lines.m_groupRows;
         const int count = rows.Count();
         m_rowDone.assign(static_cast<std::size_t>(count), false);
-        // The first and last row that a block of values covers. Rows outside the table are left out, since
-        // their markers are invisible.
+        // The first row of a block of values whose smallest position is `y`, and the last row of a block
+        // whose largest position is `y`. Rows outside the table are left out: their markers are invisible.
         const auto firstRow = [&](int y) {
             return y < rows.Begin() ? 0 : y >= rows.End() ? count : rows.Find(y);
         };
@@ -314,8 +315,8 @@ bool ReducedLines::Draw(const CDataset& dataset, CPen& pen, const LinearMap& yMa
     if (m_kind == StrokeKind::Mixed || !(isInOrder || isRecorded) || range.IsEmpty() || range.first < 0 ||
         range.last >= CountOf(dataset) || pen.GetSafeHandle() == nullptr)
         return false;
-    // Samples on one pixel share one marker, whose shape is the same for all of them only if all pixels
-    // are equally large.
+    // One marker is drawn for all samples on a pixel. Markers of their own would have the same shape only if
+    // all pixels are equally large.
     if (!isRecorded && HasShape(dataset.GetMarkerType()) &&
         (!m_columnEdges.IsRegular() || !m_rowEdges.IsRegular()))
         return false;

@@ -13,14 +13,14 @@
 namespace kavlix {
 
 /// Draws the lines of one paint. On DCs that paint pixels, the result equals that of DrawSeriesLine in every
-/// pixel: of the samples in one pixel column only the first, lowest, highest and last can change a pixel. For
-/// metafiles and printers RecordedLine chooses the samples. Where neither is possible, Draw does nothing, and
-/// the caller draws the line with DrawSeriesLine.
+/// pixel: of the samples in one pixel column only the first, lowest, highest and last, and the beginning of a
+/// line's last stroke, can change a pixel. For metafiles and printers RecordedLine chooses the samples. Where
+/// neither is possible, Draw does nothing, and the caller draws the line with DrawSeriesLine.
 class ReducedLines {
 public:
-    /// Groups the samples of all lines by pixel column. `plot` in logical units; `dc` is clipped to it.
-    /// `reach` is the largest LineReach of the lines. `ranges` holds the range of samples of each of `count`
-    /// lines; empty ranges are ignored. All references must outlive this object.
+    /// Groups the samples of all lines by pixel column. `plot` is the part of the plot inside the clip region
+    /// of `dc`, in logical units. `reach` is the largest LineReach of the lines. `ranges` holds the range of
+    /// samples of each of `count` lines; empty ranges are ignored. All references must outlive this object.
     ReducedLines(CDC& dc, const CRect& plot, int reach, const XPositions& xPositions,
                  const IndexRange* ranges, int count);
 
@@ -38,12 +38,12 @@ private:
     CRect m_plotWithReach; ///< device units: the plot, enlarged by the reach of lines and markers
     StrokeKind m_kind;
     std::optional<PixelRaster> m_raster; ///< the pixels of the DC, if they can be written directly
-    PixelEdges m_columnEdges;            ///< the pixel table
-    PixelEdges m_rowEdges;
+    PixelEdges m_columnEdges;            ///< edges of the pixel table's columns; see LineTarget
+    PixelEdges m_rowEdges;               ///< edges of the pixel table's rows
     // The columns and rows that samples are grouped by: pixels, or logical units for metafiles and printers.
     PixelEdges m_groupColumns;
     PixelEdges m_groupRows;
-    std::vector<PixelColumn> m_columns; ///< the samples by column; empty if X positions are not monotonic
+    std::vector<PixelColumn> m_columns; ///< the samples by column; empty if XPositions::RunEnd fails
 };
 
 } // namespace kavlix

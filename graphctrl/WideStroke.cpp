@@ -8,7 +8,8 @@
 namespace kavlix {
 
 WideStroke::Kind WideStroke::Shorten(CDC& dc, const Rect& view, int penPixels) {
-    // The test is made in logical units, so that the common stroke near the view needs no conversion.
+    // The test compares logical units, so that strokes near the view, the usual ones, need no conversion to
+    // pixels.
     const auto isBeyond = [](int place, int begin, int end) {
         return place < (begin - kFarFromView) * kUnitsPerPixel ||
                place > (end + kFarFromView) * kUnitsPerPixel;

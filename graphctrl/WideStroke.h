@@ -13,7 +13,7 @@ namespace kavlix {
 struct WideStroke {
     enum Kind {
         Invisible, ///< paints no pixel of the view
-        Band,      ///< vertical, and both ends lie outside the view
+        Band,      ///< vertical after both ends were moved; both lie outside the view
         Other
     };
 
@@ -21,7 +21,8 @@ struct WideStroke {
     POINT to;
 
     /// Moves far ends nearer without a change to the pixels that the stroke paints in `view`. Returns the
-    /// kind of the stroke. `view` in device units: the clip region, enlarged by the reach of the pen.
+    /// kind of the stroke. `view` in device pixels: the clip region, enlarged by the reach of the pen, which
+    /// is `penPixels` wide.
     Kind Shorten(CDC& dc, const Rect& view, int penPixels);
     /// Draws the stroke with the selected pen.
     void Draw(CDC& dc) const {

@@ -14,9 +14,9 @@ public:
     virtual ~XPositions() = default;
     /// Position of sample `index` in logical units; none for a sample without a position.
     virtual std::optional<int> At(int index) const = 0;
-    /// The last sample of the monotonic run that begins with the first sample of `range`: from there to the
-    /// returned sample, positions never change direction. None when a sample may have no position, and when
-    /// finding the end would need a look at every sample.
+    /// The last sample of the monotonic run that begins with the first sample of `range`: between these two
+    /// samples, positions never change direction. None when a sample may have no position, and when only a
+    /// look at every sample could find the end.
     virtual std::optional<int> RunEnd(IndexRange range) const = 0;
 };
 

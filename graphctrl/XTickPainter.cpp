@@ -6,12 +6,6 @@
 
 namespace kavlix {
 
-namespace {
-
-constexpr int kUpperLineShift = 70; // logical units from the tick to the upper line of two
-
-} // namespace
-
 void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop) {
     if (gridPen != nullptr)
         Select(dc, axisPen);
@@ -23,21 +17,22 @@ void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* 
     }
 }
 
+void DrawTwoLines(CDC& dc, int x, int y, const CString& upper, const CString& lower) {
+    dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
+    DrawTextAt(dc, x + kUpperLineShift, y, upper);
+    dc.SetTextAlign(TA_RIGHT);
+    DrawTextAt(dc, x, y, lower);
+}
+
 void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest) {
-    const auto drawTwo = [&](const CString& first, const CString& second) {
-        dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
-        DrawTextAt(dc, x + kUpperLineShift, y, first);
-        dc.SetTextAlign(TA_RIGHT);
-        DrawTextAt(dc, x, y, second);
-    };
     if (!down.IsEmpty()) {
-        drawTwo(up, down);
+        DrawTwoLines(dc, x, y, up, down);
     } else if (const int cut = BytesOfCharacters(up, up.GetLength(), longest); cut < up.GetLength()) {
         CString first = up.Left(cut);
         CString second = up.Mid(cut);
         first.TrimRight();
         second.TrimLeft();
-        drawTwo(first, second);
+        DrawTwoLines(dc, x, y, first, second);
     } else {
         dc.SetTextAlign(TA_RIGHT | TA_BASELINE);
         DrawTextAt(dc, x + kSingleLineShift, y, up);

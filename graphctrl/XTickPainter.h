@@ -7,16 +7,25 @@
 
 namespace kavlix {
 
-/// From a tick to the baseline of a label of one line, logical units.
+/// Distance from the top of the X label band, or from the inner edge of a Y tick strip, to the labels, logical
+/// units.
+constexpr int kTickLabelGap = 100;
+/// Distance from a tick to the right edge of the upper line of a label of two lines, logical units.
+constexpr int kUpperLineShift = 70;
+/// Distance from a tick to the baseline of a label of one line, logical units.
 constexpr int kSingleLineShift = 100;
 
 /// Draws an X tick at `x` with `axisPen`, which the caller has selected before the first tick. A `gridPen`
 /// that is not null continues the tick as a grid line up to `plotTop`. Either pen may be selected afterwards.
 void DrawXTick(CDC& dc, int x, const CRect& rectAxis, CPen& axisPen, DottedPen* gridPen, int plotTop);
 
-/// Draws the label of an X tick, which runs upwards and ends at `y` below the tick at `x`: the lines `up` and
-/// `down` side by side. With an empty `down`, an `up` of more than `longest` characters is broken into two
-/// lines. The caller has selected font and text colour.
+/// Draws a label of two lines for the X tick at `x`. The text runs upwards and ends at `y`. The caller has
+/// selected font and text colour. Afterwards the text alignment is TA_RIGHT.
+void DrawTwoLines(CDC& dc, int x, int y, const CString& upper, const CString& lower);
+
+/// Draws the label of the X tick at `x`: the lines `up` and `down` side by side. The text runs upwards and
+/// ends at `y` below the tick. With an empty `down`, an `up` of more than `longest` characters is broken into
+/// two lines. The caller has selected font and text colour.
 void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest);
 
 } // namespace kavlix

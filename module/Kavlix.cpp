@@ -10,7 +10,8 @@ namespace {
 AFX_EXTENSION_MODULE g_module = {};
 
 /// Adds the module's resources and classes to the chain of modules that the host searches. The class library
-/// owns the new link and deletes it. When memory runs out, the controls work without their texts.
+/// owns the CDynLinkLibrary object and deletes it. When memory runs out, the controls work without the texts
+/// of their resources.
 void JoinResourceChain() {
     try {
         new CDynLinkLibrary(g_module, FALSE);

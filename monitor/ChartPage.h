@@ -48,14 +48,14 @@ private:
 
     CMonitorChart m_chart;
     recording::ChartChoice m_choice;
-    std::optional<ChartStyle> m_style; ///< the person's choice
+    std::optional<ChartStyle> m_style; ///< the style that the person chose; none: the default
 
     // The content that the last Update showed.
     unsigned m_generation = 0;
     std::shared_ptr<const recording::Recording> m_recording;
     GraphSettings m_settings;
     std::optional<std::uint64_t> m_contentMark; ///< PageContent::marked
-    std::optional<std::uint64_t> m_mark;        ///< the mark on this page, counted as PageContent::marked
+    std::optional<std::uint64_t> m_mark; ///< this page's marked sample, counted like PageContent::marked
 };
 
 } // namespace kavlix::monitor

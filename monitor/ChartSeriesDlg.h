@@ -16,7 +16,7 @@ class CChartSeriesDlg : public CDialog {
 public:
     enum { IDD = IDD_CHART_SERIES };
 
-    /// `names` are those of all series, at least one.
+    /// `names` holds the name of every series; there is at least one.
     CChartSeriesDlg(std::vector<std::string> names, recording::ChartChoice choice, CWnd* parent = nullptr);
 
     /// The person's choice, once DoModal has returned IDOK.
@@ -28,8 +28,8 @@ protected:
 
 private:
     std::vector<std::string> m_names;
-    int m_x; ///< index into the box: the series, then predecessor, then time
-    int m_y;
+    int m_x; ///< index in the X box: the series, then the previous value, then time
+    int m_y; ///< index in the Y box: the series
 };
 
 } // namespace kavlix::monitor

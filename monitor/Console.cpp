@@ -1,4 +1,4 @@
-// Finds the standard handles of a program with windows, and writes to them.
+// Finds the standard handles of a GUI program, and writes to them.
 
 #include "monitor/Console.h"
 
@@ -9,8 +9,8 @@
 namespace kavlix::monitor {
 namespace {
 
-/// The handle that the program was started with, or the parent process's console: a program with windows has
-/// none of its own.
+/// The handle that the program was started with, or else the parent process's console: a GUI program has no
+/// console of its own. Null when there is neither.
 HANDLE FindHandle(DWORD which) {
     const HANDLE handle = GetStdHandle(which);
     if (handle && handle != INVALID_HANDLE_VALUE && GetFileType(handle) != FILE_TYPE_UNKNOWN)

@@ -5,11 +5,11 @@
 
 namespace kavlix::monitor {
 
-/// Writes UTF-8 text to standard output: the file or pipe of that name, or the console of the parent process.
-/// Returns false when there is neither.
+/// Writes UTF-8 text to the standard output that the program was started with (a file, a pipe or a console),
+/// or else to the console of the parent process. Returns false when there is neither, or when writing fails.
 bool WriteOutput(const std::string& text);
 
-/// The same for standard error.
+/// Writes UTF-8 text to standard error; otherwise as WriteOutput.
 bool WriteError(const std::string& text);
 
 } // namespace kavlix::monitor

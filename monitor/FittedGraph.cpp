@@ -12,10 +12,10 @@ namespace kavlix::monitor {
 namespace {
 
 // Logical units.
-constexpr int kLegendGap = 450;     // on the right of the text of a legend row
+constexpr int kLegendGap = 450;     // space on the right of the text of a legend row
 constexpr int kMinLegendText = 600; // smallest width of the column of legend texts
 
-constexpr int kLegendShare = 3;    // the texts of the legend take at most a third of the window's width
+constexpr int kLegendShare = 3;    // the legend's texts take at most 1/kLegendShare of the window's width
 constexpr int kCaptionSize = 90;   // tenths of a point
 constexpr int kCaptionMargin = 10; // pixels beside the caption's text
 
@@ -118,7 +118,7 @@ template <class Control> void CFittedGraph<Control>::FitCaption(const std::vecto
     CFont* const old = dc.SelectObject(&font);
     CRect client;
     this->GetClientRect(&client);
-    // The text is centred in the band, so the icon at the right end costs the same room on the left.
+    // The text is centred in the band, so the icon at the right end takes the same width away on the left.
     const LONG icon = this->m_ShowIconMaximize ? this->m_rectIconMaximize.Width() / kPixel : 0;
     const LONG room = client.Width() - 2 * (kCaptionMargin + icon);
     const auto fits = [&](const std::string& text) { return dc.GetTextExtent(text.c_str()).cx <= room; };

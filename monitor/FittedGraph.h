@@ -1,4 +1,4 @@
-// The base of the Monitor's two graphs.
+// The base of CMonitorGraph and CMonitorScrollGraph.
 #pragma once
 
 #include <kavlix/GraphCtrl.h>
@@ -29,12 +29,12 @@ public:
 
 protected:
     static constexpr int kPixel = recording::kUnitsPerPixel;
-    static constexpr int kTickFontHeight = 350; ///< font of the value axes' labels and of the legend
-    static constexpr int kTickLabelGap = 200;   ///< room on the left of the tick labels
+    static constexpr int kTickFontHeight = 350; ///< height of the font of value labels and legend
+    static constexpr int kTickLabelGap = 200;   ///< space on the left of the tick labels
 
-    /// A series' sample counts as under the pointer up to this distance along the time axis,
+    /// Largest distance along the time axis at which a series' sample counts as under the pointer.
     static constexpr int kPointerReach = 10 * kPixel;
-    /// and up to this number of samples, which bounds the time of the search.
+    /// Most samples that the search for this sample visits on either side, which bounds its time.
     static constexpr int kPointerSamples = 1000;
 
     struct Layout {
@@ -42,8 +42,7 @@ protected:
         CSize plot;         ///< size of the plot
     };
 
-    /// Sets style, switches and colours of the graph, and the look of each dataset from the series of
-    /// its index.
+    /// Sets style, grid, legend and colours of the graph, and the look of each dataset i from `series[i]`.
     void ApplyLook(const GraphSettings& settings, const std::vector<SeriesSettings>& series);
 
     /// Computes the layout of the next paint.
@@ -53,10 +52,10 @@ protected:
     /// the legend needs.
     int FitLegend(const std::vector<SeriesSettings>& series);
 
-    /// The room that the labels of a scale need beside the axis.
+    /// The width that the labels of a scale need beside the axis.
     int TickLabelWidth(const recording::ValueScale& scale);
 
-    /// The text, cut to fit into `room` in a font of this height and weight.
+    /// The text, cut to be at most `room` wide in a font of this height and weight.
     std::string FitText(const std::string& text, int room, int height, int weight);
 
     /// Sets the caption band's text: the first of `texts` that fits, or the last one cut.
@@ -64,9 +63,10 @@ protected:
 
     CSize TextSize(const std::string& text, int height, int weight);
 
-    /// Asks for WM_MOUSELEAVE. The derived class calls it for every mouse move, and PointerLeft for
-    /// WM_MOUSELEAVE, which sends MGN_MOUSELEAVE to the parent.
+    /// Asks Windows for WM_MOUSELEAVE. The derived class calls this function for every mouse move.
     void WatchPointer();
+
+    /// Sends MGN_MOUSELEAVE to the parent. The derived class calls this function for WM_MOUSELEAVE.
     void PointerLeft();
 
     /// Copies the picture to the clipboard and sends MGN_COPIED or MGN_NOTCOPIED to the parent.
@@ -76,7 +76,7 @@ protected:
     void DrawGraphData(CDC& dc) override;
 
 private:
-    bool m_watchingLeave = false; ///< the system will send WM_MOUSELEAVE
+    bool m_watchingLeave = false; ///< Windows will send WM_MOUSELEAVE
     bool m_measuring = false;     ///< the current paint only computes the layout
 };
 

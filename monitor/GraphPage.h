@@ -10,7 +10,7 @@
 
 namespace kavlix::monitor {
 
-/// Shows one graph: lines, bars or two axes over the samples of the recording or of the last minutes.
+/// Shows one graph, with lines, bars or two axes: of the recording, or of the last minutes of live readings.
 class CGraphPage : public CMonitorPage {
 public:
     using CMonitorPage::CMonitorPage;

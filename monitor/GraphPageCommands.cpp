@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t kFewestShown = 8; // samples in view at the greatest zoom
 
-/// The range moved by a number of samples, at most to an end of the recording's `count` samples.
+/// The range, moved by `by` samples but not beyond an end of the recording, which has `count` samples.
 VisibleRange Moved(VisibleRange range, std::ptrdiff_t by, std::size_t count) {
     const std::size_t size = range.last - range.first + 1;
     const std::size_t end = count - std::min(size, count);
@@ -28,7 +28,7 @@ VisibleRange Moved(VisibleRange range, std::ptrdiff_t by, std::size_t count) {
     return range;
 }
 
-/// A range of `size` samples with `middle` in the middle, moved as far as the recording's ends require.
+/// A range of `size` samples with `middle` in the middle, or as near to it as the recording's ends allow.
 VisibleRange Around(std::size_t middle, std::size_t size, std::size_t count) {
     size = std::min(size, count);
     const std::size_t first = std::min(middle - std::min(middle, size / 2), count - size);

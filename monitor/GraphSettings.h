@@ -43,15 +43,18 @@ COLORREF DefaultSeriesColor(std::size_t index);
 GraphSettings DefaultSettings(std::string title, const std::vector<std::string>& seriesNames,
                               std::size_t samples, CGraphCtrl::GraphStyle style);
 
-/// A marker and a line width as the settings dialog offers them.
+/// A marker that the settings dialog offers.
 struct MarkerChoice {
     CDataset::MarkerType type;
     const char* name;
 };
+
+/// A line width that the settings dialog offers.
 struct LineSizeChoice {
     int size; ///< logical units; 0: one pixel
     const char* name;
 };
+
 const std::vector<MarkerChoice>& MarkerChoices();
 const std::vector<LineSizeChoice>& LineSizeChoices();
 

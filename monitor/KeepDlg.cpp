@@ -6,7 +6,7 @@ namespace kavlix::monitor {
 namespace {
 
 constexpr UINT kFewest = 10;
-constexpr UINT kMost = 10'000'000; // four months of one reading a second
+constexpr UINT kMost = 10'000'000; // about four months of one reading a second
 
 } // namespace
 

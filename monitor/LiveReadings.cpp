@@ -13,7 +13,7 @@ namespace {
 
 using recording::MachineRates;
 
-// The series.
+// One entry for each series.
 constexpr std::optional<double> MachineRates::*kReadings[] = {
     &MachineRates::processorPercent, &MachineRates::memoryPercent, &MachineRates::bytesInPerSecond,
     &MachineRates::bytesOutPerSecond};
@@ -68,7 +68,7 @@ LiveReadings::Change LiveReadings::KeepAtMost(std::size_t count) {
     return Trim(m_times.size() - std::min(m_times.size(), m_most));
 }
 
-/// Removes the oldest readings, and chooses the history and its unit anew.
+/// Removes the `removed` oldest readings, and chooses the history and the unit of its rates anew.
 LiveReadings::Change LiveReadings::Trim(std::size_t removed) {
     m_times.erase(m_times.begin(), m_times.begin() + static_cast<std::ptrdiff_t>(removed));
     m_values.erase(m_values.begin(), m_values.begin() + static_cast<std::ptrdiff_t>(removed));

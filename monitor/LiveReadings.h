@@ -21,7 +21,7 @@ class LiveReadings {
 public:
     /// Series: processor, memory, network in, network out.
     static constexpr std::size_t kSeries = 4;
-    /// Number of readings in the recording.
+    /// Largest number of readings in History().
     static constexpr std::size_t kHistory = 300;
     /// Number of readings that are kept by default: those of a week.
     static constexpr std::size_t kKept = 604'800;
@@ -33,14 +33,13 @@ public:
 
     LiveReadings();
 
-    /// The effect of a change on the recording.
+    /// The effect of a change on the recording that History() returns.
     struct Change {
-        std::size_t removed = 0; ///< number of samples removed at the recording's head
-        bool unitChanged =
-            false; ///< whether the network series have changed to another unit, such as from KB/s to MB/s
+        std::size_t removed = 0;  ///< number of samples removed at the recording's head
+        bool unitChanged = false; ///< the network series now have another unit, as `10 kB/s` after `kB/s`
     };
 
-    /// Adds a reading of the local time `now`. `rates` are those since the previous reading.
+    /// Adds the reading taken at local time `now`. `rates` are those since the previous reading.
     Change Add(recording::Time now, const recording::MachineRates& rates);
 
     /// Removes the oldest `count` readings; the latest reading always stays.
@@ -52,8 +51,10 @@ public:
 
     // ---- Single readings. Their numbers count from the first reading that was ever added. ----
 
-    /// The oldest kept reading, and the number behind the latest one.
+    /// Number of the oldest kept reading.
     std::uint64_t First() const { return m_first; }
+
+    /// Number of the latest reading plus one.
     std::uint64_t End() const { return m_first + m_times.size(); }
 
     recording::Time TimeOf(std::uint64_t reading) const { return m_times[Index(reading)]; }
@@ -71,13 +72,14 @@ public:
 
     // ---- The last minutes ----
 
-    /// Number of kept readings before those of the history.
+    /// Number of kept readings that are older than the first sample of History().
     std::size_t CountBeforeHistory() const { return Index(m_historyFirst); }
 
-    /// The history. The first call after a change makes a new object.
+    /// The latest readings, at most kHistory, as a recording. Calls return the same object until a change.
     std::shared_ptr<const recording::Recording> History() const;
 
-    /// Names of the series with their units. A series that never had a value has `(not available)` instead.
+    /// Names of the series with their units. After the first reading, a series that never had a value has
+    /// `(not available)` instead of the unit.
     std::vector<std::string> SeriesNames() const;
 
     /// The latest reading as text.
@@ -95,7 +97,7 @@ private:
 
     std::deque<recording::Time> m_times;
     std::deque<Values> m_values;
-    std::array<bool, kSeries> m_had{}; ///< the series has had a value
+    std::array<bool, kSeries> m_had{}; ///< whether the series has ever had a value
     std::uint64_t m_first = 0;
     std::size_t m_most = kKept;
     std::uint64_t m_historyFirst = 0; ///< number of the history's oldest reading

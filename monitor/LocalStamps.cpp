@@ -16,20 +16,21 @@ using recording::kMicrosPerDay;
 using recording::kMicrosPerSecond;
 using recording::Time;
 
-/// Seconds from local time to UTC at a local time.
+/// Seconds to add to the local time `time` to get UTC.
 Time OffsetAt(Time time) {
     const recording::CivilTime civil = recording::ToCivil(time);
     const CTime stamp(civil.year, civil.month, civil.day, civil.hour, civil.minute, civil.second);
     const Time offset = stamp.GetTime() - FloorTo(time, kMicrosPerSecond) / kMicrosPerSecond;
-    // An offset above a day is CTime's answer to an invalid time.
+    // CTime holds a fixed invalid value for a time that it cannot convert: the offset then exceeds a day.
     return std::abs(offset) * kMicrosPerSecond > kMicrosPerDay ? 0 : offset;
 }
 
 } // namespace
 
 void LocalStamps::FindSpan(Time time) {
-    // Asking CTime is slow, so find a long span in which the offset is the same: a zone changes its offset at
-    // most once in a week. A second is always such a span.
+    // Asking CTime is slow, so find a long span in which the offset is the same. A zone changes its offset at
+    // most once in a week, so the offset is the same in the whole span if it is the same at both ends. A span
+    // of one second needs no such test.
     constexpr Time units[] = {7 * kMicrosPerDay, kMicrosPerDay, recording::kMicrosPerHour,
                               recording::kMicrosPerMinute, kMicrosPerSecond};
     for (const Time unit : units) {

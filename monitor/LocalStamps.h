@@ -5,26 +5,27 @@
 
 namespace kavlix::monitor {
 
-/// Converts the times of a recording into the time stamps of the scrolling graph. The graph converts its
-/// stamps to the machine's local time; these stamps are the ones for which its labels show the recording's
-/// own times. An hour that local time skips shows as the hour beside it. The stamps never decrease.
+/// Converts the times of a recording into time stamps for the scrolling graph. The graph's labels show stamps
+/// in the machine's local time. This class chooses each stamp so that the label shows the recording's own
+/// time. Only a time in an hour that local time skips appears as a time of the hour beside it. The stamps
+/// never decrease.
 class LocalStamps {
 public:
     /// Seconds since 1970 whose local time is `time`. The times must ascend, and lie between kFirstStampTime
     /// and kLastStampTime.
     long Stamp(recording::Time time);
 
-    /// Lets the next stamp be less than the last one.
+    /// Forgets the last stamp, so that the next one may be less.
     void Reset() { *this = LocalStamps(); }
 
 private:
     void FindSpan(recording::Time time);
 
-    recording::Time m_begin = 0;  ///< m_offset applies from here
-    recording::Time m_end = 0;    ///< to here
-    recording::Time m_offset = 0; ///< seconds from local time to UTC
+    recording::Time m_begin = 0;  ///< first time to which m_offset applies
+    recording::Time m_end = 0;    ///< end of the times to which m_offset applies, excluded
+    recording::Time m_offset = 0; ///< seconds to add to local time to get UTC
     bool m_any = false;           ///< m_last is valid
-    long m_last = 0;
+    long m_last = 0;              ///< the last stamp
 };
 
 } // namespace kavlix::monitor

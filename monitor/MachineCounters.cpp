@@ -43,7 +43,8 @@ std::optional<double> ReadMemoryPercent() {
 }
 
 #ifdef _WIN64
-// A callback of EnumPageFiles. Headers disagree on its calling convention; 64-bit Windows has only one.
+// A callback of EnumPageFiles, for 64-bit builds only: headers disagree on its calling convention, of which
+// 64-bit Windows has only one.
 BOOL AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCSTR) {
     // Both counts are in pages.
     SYSTEM_INFO system;

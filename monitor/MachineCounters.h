@@ -8,7 +8,7 @@
 
 namespace kavlix::monitor {
 
-/// Reads the counters behind the rates of the live readings.
+/// Reads the counters from which the rates of the live readings are computed.
 recording::MachineCounters ReadMachineCounters();
 
 /// Reads the counters of the memory; nothing when the system does not give them.

@@ -127,13 +127,13 @@ BOOL CMainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
-/// The page of the content until the person chooses one.
+/// Index of the page that shows new content until the person chooses a page.
 std::size_t CMainFrame::DefaultPage() const {
     return m_options.page.value_or(m_content.live ? recording::kScrollPage : recording::kGraphPage);
 }
 
-/// Makes a page the current one and updates it. False: its window could not be created, and nothing
-/// has changed.
+/// Makes a page the current one and updates it. Returns false, and changes nothing, when the page's window
+/// cannot be created.
 bool CMainFrame::ShowPage(std::size_t index) {
     std::unique_ptr<CMonitorPage>& page = m_pages[index];
     if (!page) {

@@ -21,7 +21,8 @@ public:
     /// `exitStatus` receives the program's exit status and must outlive the window.
     CMainFrame(recording::Options options, int& exitStatus);
 
-    /// Creates the window in the size of the options. The object deletes itself with its window.
+    /// Creates the window in the size of the options or a default size. The object deletes itself with its
+    /// window.
     bool CreateMainWindow();
 
     /// Begins reading the files of the command line, or live readings. The window must be visible.
@@ -108,8 +109,8 @@ private:
     bool m_pictureDue = false;      ///< save the picture once all idle work is done
 
     PageContent m_content;
-    std::vector<std::unique_ptr<CMonitorPage>>
-        m_pages;                    ///< in the order of recording::kPageNames; created when first shown
+    /// The pages in the order of recording::kPageNames; each is created when it is first shown.
+    std::vector<std::unique_ptr<CMonitorPage>> m_pages;
     CMonitorPage* m_page = nullptr; ///< the current page
     bool m_pageChosen = false;      ///< the person has chosen a page
 
@@ -117,12 +118,12 @@ private:
     HMENU m_menuWhileFilled = nullptr; ///< the menu that was removed while a page fills the window
     CStatusPanes m_status;
     StatusTexts m_texts;                    ///< the texts of the status bar without the notice
-    std::string m_notice;                   ///< replaces the first text for a short time; empty: none
-    std::string m_title = "Kavlix Monitor"; ///< the window's title while no page fills it
+    std::string m_notice;                   ///< replaces StatusTexts::text for a short time; empty: none
+    std::string m_title = "Kavlix Monitor"; ///< window title, unless a page fills the window and has texts
 
     std::unique_ptr<recording::RecordingLoader> m_loader; ///< not null while files are being read
     std::vector<std::string> m_paths;                     ///< the files of the content
-    recording::MachineCounters m_counters;                ///< of the last live reading
+    recording::MachineCounters m_counters;                ///< counters at the last live reading
 };
 
 } // namespace kavlix::monitor

@@ -22,7 +22,7 @@ namespace {
 constexpr UINT kLiveInterval = 1000;      // milliseconds
 constexpr double kLivePictureSeconds = 3; // time before a picture of live readings without --seconds
 constexpr double kMillisPerSecond = 1000;
-constexpr std::size_t kNamedFiles = 2;       // titles name at most this number of files, and count more
+constexpr std::size_t kNamedFiles = 2;       // most files that a title names; otherwise only their number
 constexpr double kLongestTimer = 0x7FFFFFFF; // milliseconds, the limit of SetTimer
 
 std::string BaseName(const std::string& path) {
@@ -109,7 +109,7 @@ void CMainFrame::CancelReading() {
     ShowRecording(loader->Take());
 }
 
-/// Shows content that has been replaced.
+/// Shows the new content after the caller has replaced the old one.
 void CMainFrame::ShowOtherContent() {
     ++m_content.generation;
     m_content.lost = 0;

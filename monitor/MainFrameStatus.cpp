@@ -11,7 +11,7 @@ namespace kavlix::monitor {
 namespace {
 
 constexpr UINT kNoticeTime = 4000; // milliseconds
-constexpr int kTitleButtons = 5;   // icon, three buttons and their distances, in widths of a button
+constexpr int kTitleButtons = 5;   // width of icon, three buttons and their distances, in button widths
 
 bool FitsTitleBar(CWnd& frame, const std::string& title) {
     NONCLIENTMETRICS metrics{};
@@ -31,7 +31,7 @@ bool FitsTitleBar(CWnd& frame, const std::string& title) {
 
 } // namespace
 
-/// Sets the window's title for other content, and clears the texts of the old one.
+/// Sets the window's title for new content, and clears the notice and the pointer text of the old content.
 void CMainFrame::NameSource(const std::string& title) {
     m_title = title;
     m_notice.clear();

@@ -18,7 +18,7 @@ void CMessagesDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CMessagesDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    // The edit control would select its whole text when it gets the focus.
+    // Focus the button: otherwise the edit control gets the focus, and its whole text is selected.
     GetDlgItem(IDOK)->SetFocus();
     return FALSE;
 }

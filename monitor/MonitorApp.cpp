@@ -57,7 +57,8 @@ BOOL CMonitorApp::InitInstance() {
         return FALSE;
     }
 
-    // A minimized window has no picture: ignore the parent's wish for one.
+    // No picture can be taken of a minimized window: with --shot, ignore how the parent process wants the
+    // window shown.
     const int show = options.shot.empty() ? m_nCmdShow : SW_SHOWNORMAL;
     m_frame = new CMainFrame(std::move(options), m_exitStatus);
     if (!m_frame->CreateMainWindow()) {

@@ -21,8 +21,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CMainFrame* m_frame =
-        nullptr; ///< deletes itself when its window is destroyed, which ends the message loop
+    /// The main window. The object deletes itself when its window is destroyed, which ends the message loop.
+    CMainFrame* m_frame = nullptr;
     int m_exitStatus = 0;
 };
 

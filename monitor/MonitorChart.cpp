@@ -74,7 +74,7 @@ void CMonitorChart::Mark(std::optional<std::size_t> row) {
     m_marked.reset();
     const std::vector<ChartPoint>& points = m_picture.points;
     if (row) {
-        // A row with a point may also have a gap in front of it.
+        // A row may have two entries: a gap, then its point.
         const auto found = std::find_if(
             std::lower_bound(points.begin(), points.end(), *row,
                              [](const ChartPoint& point, std::size_t wanted) { return point.row < wanted; }),
@@ -201,7 +201,8 @@ UINT CMonitorChart::OnGetDlgCode() {
     return DLGC_WANTARROWS;
 }
 
-/// Moves the mark to the next point in this direction. Without a mark, marks the first or the last point.
+/// Moves the mark to the next point (`direction` 1) or the previous one (-1). Without a mark, marks the first
+/// or the last point.
 void CMonitorChart::Step(int direction) {
     const auto count = static_cast<std::ptrdiff_t>(m_picture.points.size());
     std::ptrdiff_t at = direction > 0 ? -1 : count;

@@ -22,8 +22,8 @@ struct ChartPicture {
     std::string yLabel;
     COLORREF color = RGB(0, 0, 0);
     ChartStyle style = ChartStyle::Both;
-    recording::ValueSpan xCovers; ///< fixed ends of the scale; none: the scale follows the points
-    recording::ValueSpan yCovers;
+    recording::ValueSpan xCovers; ///< fixed ends of the X scale; none: the scale follows the points
+    recording::ValueSpan yCovers; ///< fixed ends of the Y scale; none: the scale follows the points
 };
 
 /// The chart control with the samples of a recording. One sample may be marked: by a click near it, by the
@@ -33,7 +33,7 @@ public:
     /// Creates the control as a child window that takes part in the tab order.
     bool CreateChild(CWnd& parent, UINT id);
 
-    /// Shows another picture. The mark stays on its row if that has a point. Repaints.
+    /// Shows another picture. The mark stays on its row if the new picture has a point for it. Repaints.
     void Show(ChartPicture picture);
     const ChartPicture& Picture() const { return m_picture; }
 
@@ -50,7 +50,8 @@ public:
     /// are more than 12 pixels away.
     std::optional<std::size_t> PointUnder(CPoint position) const;
 
-    /// Where a point is painted, in client pixels. None for a gap, and before the first paint.
+    /// Where a point is painted, in client pixels. None for a gap, for a place beyond the largest coordinate
+    /// of a window (32,767), and before the first paint.
     std::optional<CPoint> PlaceOf(const recording::ChartPoint& point) const;
 
 protected:
@@ -71,7 +72,7 @@ private:
     ChartPicture m_picture;
     std::optional<std::size_t> m_marked;  ///< index into the points
     std::optional<std::size_t> m_pointed; ///< index into the points
-    bool m_watchingLeave = false;         ///< the system will send WM_MOUSELEAVE
+    bool m_watchingLeave = false;         ///< Windows will send WM_MOUSELEAVE
 };
 
 } // namespace kavlix::monitor

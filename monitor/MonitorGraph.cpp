@@ -204,7 +204,8 @@ void CMonitorGraph::FeedTail(std::size_t first) {
     }
     for (std::size_t i = first; i < shown.times.size(); ++i)
         AddXTickLabel(recording::MakeTimeLabel(m_labels, shown.times[i]).c_str(), CString());
-    // The recording's own times: the last bar's time is before the last sample's.
+    // Take the times of the recording, not of m_shown. A bar has the time of its run's first sample, so the
+    // last bar's time is before the last sample's.
     const std::vector<recording::Time>* const times =
         m_source.recording ? &m_source.recording->times : nullptr;
     std::vector<recording::Time> ends;

@@ -29,7 +29,8 @@ public:
         int index = -1; ///< the control's sample; -1: no mark
         recording::Time time = 0;
         std::vector<double> values; ///< one for each series; NaN: no value
-        /// The time of each value. In joined files it may differ from the mark's time; see SampleBeside.
+        /// The time of each value. When the recording joins several files, the time of a value may differ
+        /// from `time`; see recording::SampleBeside.
         std::vector<recording::Time> times;
     };
 
@@ -44,8 +45,8 @@ public:
     void Show(GraphSource source, GraphSettings settings);
 
     /// Shows the same series after `removed` samples were removed at the head and others were added at the
-    /// end. The selection mark stays on its sample while that exists. With `changed` the settings change too,
-    /// and the values of the remaining samples may differ. Repaints.
+    /// end. The selection mark stays on its sample while that sample exists. `changed` holds new settings, if
+    /// any; with them, the values of the remaining samples may differ too. Repaints.
     void ShowGrown(GraphSource source, std::size_t removed, std::optional<GraphSettings> changed = {});
 
     /// Shows the same recording after `removed` samples were removed at the head. The visible samples that
@@ -58,7 +59,7 @@ public:
 
     const GraphSource& Source() const { return m_source; }
 
-    /// Sets the visible part of the recording. The selection mark stays on its sample while that is
+    /// Sets the visible part of the recording. The selection mark stays on its sample if that sample is
     /// visible. Repaints.
     void SetVisible(recording::VisibleRange range);
     recording::VisibleRange Visible() const { return m_visible; }
@@ -69,16 +70,16 @@ public:
 
     Mark SelectionMark() const;
 
-    /// The recording's sample at the selection mark.
+    /// The recording's sample at the selection mark; none without a mark.
     std::optional<std::size_t> MarkedSample() const;
 
-    /// The first sample of the recording that a sample of the control stands for.
+    /// The first sample of the recording that the control's sample `index` stands for.
     std::size_t FirstSampleOf(int index) const;
 
-    /// The sample under a point (client pixels). Of the sample nearest in time, the result is the nearest
-    /// series: with lines, the one whose value is the least distance above or below; with bars, the one whose
-    /// bar is nearest. Hidden series, and series without a value near the point, do not count. None outside
-    /// the plot. Takes the same time for any number of samples.
+    /// The sample under a point (client pixels). The sample is the nearest one in time. The series is the
+    /// nearest one there: with lines, the series whose value is the least distance above or below the point;
+    /// with bars, the series whose bar is nearest. Hidden series, and series without a value near the point,
+    /// do not count. None outside the plot. Takes the same time for any number of samples.
     std::optional<Pointed> SampleUnder(CPoint point);
 
 protected:
@@ -122,13 +123,13 @@ private:
     GraphSource m_source;
     GraphSettings m_settings;
     recording::VisibleRange m_visible;
-    recording::ShownSamples m_shown; ///< the samples for the control
+    recording::ShownSamples m_shown; ///< the samples that the control gets
     recording::TimeLabelStyle m_labels;
     int m_timeLabels = 1; ///< number of labels for which the time axis has room
     std::string m_timeTitle;
     bool m_fed = false;         ///< the control holds m_shown
     bool m_fedBars = false;     ///< m_shown was reduced for bars
-    std::size_t m_fedLimit = 0; ///< greatest number of samples of the reduction that made m_shown
+    std::size_t m_fedLimit = 0; ///< the sample limit of the reduction that made m_shown
     HeldMark m_heldMark;
     std::optional<std::size_t> m_markToKeep; ///< sample to mark after the next FeedAll
 };

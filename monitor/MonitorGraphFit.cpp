@@ -103,8 +103,8 @@ CMonitorGraph::AxisTexts CMonitorGraph::ChooseAxisTexts() {
     texts.x.push_back(m_timeTitle);
 
     // The control's axis labels grow with the window, as its text title does. The caption band stays small
-    // and contains the text of the X label, so the labels are hidden with it. Two value axes need their
-    // labels in any case.
+    // and contains the text of the X label, so a graph with a caption band has no axis labels. Only two value
+    // axes need their labels in any case.
     const bool labels = m_settings.titleStyle == TitleStyleText && GetTitleTextHeight() >= kMinLabelUnit;
     ShowXLabel(labels);
     ShowYLabel((labels || twoAxes) && !texts.y.empty());

@@ -18,7 +18,7 @@ namespace kavlix::monitor {
 
 /// The content of the pages: a recording, live readings, or only a title.
 struct PageContent {
-    unsigned generation = 0; ///< changes when other content begins
+    unsigned generation = 0; ///< increases when new content replaces the old
     unsigned cuts = 0;       ///< number of times the person removed samples at the head
     std::uint64_t lost = 0;  ///< number of samples removed at the head in this generation
     std::shared_ptr<const recording::Recording> recording; ///< null without files
@@ -33,7 +33,7 @@ struct PageContent {
     GraphSource Source() const;
 };
 
-/// What a page may ask of the window around it.
+/// What a page may ask of its host, the main window.
 class PageHost {
 public:
     virtual const PageContent& Content() const = 0;
@@ -42,19 +42,20 @@ public:
     virtual void ChangeSettings(GraphSettings settings) = 0;
 
     /// Removes the oldest `count` samples of the recording or of the kept live readings. Updates the page,
-    /// even for 0.
+    /// even when `count` is 0.
     virtual void RemoveHead(std::size_t count) = 0;
 
     /// Sets the number of live readings to keep and updates the page.
     virtual void KeepAtMost(std::size_t count) = 0;
 
-    /// The view or the mark has changed: the host asks the page for all its texts.
+    /// The page calls this when the view or the mark has changed. The host then asks the page for all texts.
     virtual void ShowSelection() = 0;
 
-    /// The mouse pointer has moved: the host asks the page for its PointerTexts.
+    /// The page calls this when the mouse pointer has moved. The host then asks the page for its
+    /// PointerTexts.
     virtual void ShowPointer() = 0;
 
-    /// Shows a notice for a short time. A call of ShowSelection ends it earlier.
+    /// Shows a notice for a short time. A call of ShowSelection removes the notice earlier.
     virtual void Say(const std::string& notice) = 0;
 
     /// Whether the page fills the whole client area, without menu bar and status bar.
@@ -77,8 +78,9 @@ public:
     /// Creates the window, hidden.
     bool CreatePage(CWnd& frame, UINT id);
 
-    /// Shows the current Content(). The host calls it when the content or its settings have changed, and when
-    /// the page becomes the current one. It is not called while the page is hidden.
+    /// Shows the current Content(). The host calls Update when the content or its settings have changed, and
+    /// when the page becomes the current one. The host does not call it while another page is the current
+    /// one.
     virtual void Update() = 0;
 
     /// Does one piece of idle work. Returns whether work remains; `--shot` waits until none does.
@@ -92,22 +94,24 @@ public:
     /// The sample under the mouse pointer; empty without one.
     virtual std::vector<std::string> PointerTexts() { return {}; }
 
-    /// The text without a mark. By default the latest live reading, or the recording's first and last time.
+    /// The text to show when there is no mark. By default the latest live reading, or the recording's first
+    /// and last time.
     virtual std::vector<std::string> ViewTexts();
 
     // ---- What the main window's own commands need ----
 
-    /// The sample that the next page receives as PageContent::marked. By default the one that this page
-    /// received.
+    /// The sample that is marked on this page, as an index into Source().recording. The next page receives it
+    /// as PageContent::marked. By default the sample that this page received.
     virtual std::optional<std::size_t> MarkedSample() { return Content().MarkedSample(); }
 
-    /// Whether there is a mark, which Escape removes before it ends the filled state of the window.
+    /// Whether there is a mark. If so, Escape removes the mark; if not, Escape ends the filled state of the
+    /// window.
     virtual bool HasMark() { return false; }
 
     /// Whether the page may fill the window.
     virtual bool CanFill() { return true; }
 
-    /// Called when the page begins or ends to fill the window.
+    /// Called when the page starts or stops filling the window.
     virtual void ShowFilling(bool) {}
 
     /// The visible samples of Source().recording, for the preview of the settings dialog.

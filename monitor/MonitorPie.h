@@ -26,12 +26,14 @@ public:
     /// Creates the control as a child window that takes part in the tab order.
     bool CreateChild(CWnd& parent, UINT id);
 
-    /// Shows the pieces, or `message` without any. The selection stays while the number of pieces does.
-    /// Repaints, without erasing, only when something has changed.
+    /// Shows the pieces, or `message` when there are none. The selection stays if the number of pieces is the
+    /// same as before. Repaints, without erasing, only when something has changed.
     void Show(const std::vector<PieceSettings>& pieces, const std::string& message);
 
     /// Index of the selected piece; -1: none.
     int Selected() const;
+
+    /// Selects one piece; -1: none. Repaints.
     void Select(int piece);
 
     /// Paints the whole picture.

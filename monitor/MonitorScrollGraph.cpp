@@ -15,7 +15,7 @@ using recording::ValueSpan;
 
 namespace {
 
-constexpr double kRoomBehind = 0.1; // empty part of the view behind the newest row
+constexpr double kRoomBehind = 0.1; // share of the view that stays empty behind the newest row
 constexpr int kSecondsPerMinute = 60;
 
 // Logical units.
@@ -23,7 +23,7 @@ constexpr int kTimeFontHeight = 300;  // font of the time labels
 constexpr int kTimeLabelMargin = 200; // above and below the time labels
 constexpr int kScrollBarRoom = 280; // height of the scroll bar beyond the room that the control leaves for it
 constexpr int kMinLegendPlot = 3000; // width that a legend must leave for the plot
-constexpr int kDateShift = 10;       // from the tick to the right: keeps the date apart from the clock time
+constexpr int kDateShift = 10;       // shift of the date to the right of its tick, away from the clock time
 
 } // namespace
 
@@ -153,8 +153,8 @@ void CMonitorScrollGraph::Clamp() {
     m_dScrollPos = std::max(std::min(m_dScrollPos, m_dScrollMax - m_dViewWidth), m_dScrollMin);
 }
 
-/// Moves the beginning of the view to a sample: the next one in the direction of the movement since `before`,
-/// but within the scroll range.
+/// Moves the left edge of the view to a sample. `before` is the left edge before the last movement: the
+/// result is the next sample in the direction of this movement, if that lies within the scroll range.
 void CMonitorScrollGraph::Settle(double before) {
     if (Rows() == 0)
         return;
@@ -313,9 +313,9 @@ CMonitorScrollGraph::Room CMonitorScrollGraph::FitAndMeasure() {
     room.legend = FitLegend(m_series);
     CRect client;
     GetClientRect(&client);
-    // The scroll bar covers the lowest part of the window. An empty X label reserves that part below the
-    // legend. Without a legend, or when a label is lower than the scroll bar, the band of the time labels
-    // includes the room instead.
+    // The scroll bar covers the lowest part of the window. With a legend, an empty X label keeps this part
+    // free. Without a legend, a higher band of the time labels keeps it free. In a window so small that the X
+    // label would be less high than the scroll bar, the legend is hidden.
     const bool legend = m_settings.legend && !m_series.empty() && GetTitleTextHeight() >= kScrollBarRoom &&
                         client.Width() * kPixel - room.legend >= kMinLegendPlot;
     ShowLegend(legend);

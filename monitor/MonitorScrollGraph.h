@@ -21,8 +21,8 @@ public:
         std::string unit;            ///< `%`, `B/s`
     };
 
-    /// Widths beside the plot, in logical units. All graphs of the page use the same, so that their times
-    /// line up.
+    /// Widths beside the plot, in logical units. All graphs of the page use the same widths, so that their
+    /// time axes line up.
     struct Room {
         int tickLabels = 0;
         int legend = 0;
@@ -34,7 +34,8 @@ public:
         std::size_t series = 0; ///< index within this graph
     };
 
-    /// Removes all samples and begins with these series. SetLook must not change their number.
+    /// Removes all samples and begins with these series. The series of a later SetLook must have the same
+    /// number.
     void Begin(const GraphSettings& settings, std::vector<SeriesSettings> series, Axis axis);
     void SetLook(const GraphSettings& settings, std::vector<SeriesSettings> series);
 
@@ -47,16 +48,16 @@ public:
     /// last row.
     void AppendOffline(long stamp, const std::vector<double>& values);
 
-    /// Removes the oldest rows. View and mark stay on their rows while those exist.
+    /// Removes the oldest rows. View and mark stay on their rows while these rows exist.
     void TrimHead(int rows);
 
-    /// Removes the oldest rows as the control's command does: the mark is removed, the view stays.
+    /// Removes the oldest rows and the mark, as the control's menu command does. The view stays on its rows.
     void RemoveHeadData(int nCount) override;
 
     int Rows() const { return GetCurDataIndex(); }
     double ValueOf(std::size_t series, int row) const;
 
-    // ---- View. The functions that change it repaint and do not notify the parent. ----
+    // ---- View. The functions that change the view repaint; they do not notify the parent. ----
 
     bool ShowsNewest() const;
 
@@ -70,6 +71,8 @@ public:
     /// Changes the width of the view. A view that shows the newest row keeps doing so. Otherwise the marked
     /// row, if visible, or the middle of the view keeps its place.
     void SetRange(int seconds);
+
+    /// Moves the left edge of the view to about `position`, in units of 1/20 s from the oldest row.
     void ScrollTo(double position);
     double ScrollPosition() const { return m_dScrollPos; }
 
@@ -84,7 +87,8 @@ public:
 
     int MarkedRow() const;
 
-    /// The sample under a point (client pixels): of the row nearest in time, the series nearest in height.
+    /// The sample under a point (client pixels): first the row nearest in time, then the series whose value
+    /// there is nearest in height. None outside the plot.
     std::optional<Pointed> SampleUnder(CPoint point);
 
     // ---- Fitting into the window ----
@@ -93,10 +97,11 @@ public:
     /// call FitAndMeasure and TakeRoom.
     bool FollowValues();
 
-    /// Sets everything that does not depend on the room, and returns the room that this graph needs.
+    /// Sets everything that does not depend on the widths in Room, and returns the widths that this graph
+    /// needs.
     Room FitAndMeasure();
 
-    /// Sets the room and everything that depends on it. Repaints.
+    /// Sets the widths, and everything that depends on them. Repaints.
     void TakeRoom(const Room& room);
 
 protected:

@@ -99,9 +99,9 @@ void AddSeries(CGraph& graph, const std::string& label, const std::vector<double
     graph.AddSeries(series.release());
 }
 
-/// Makes the graph count `groups` groups. The graph takes the number from the longest series that was
-/// ever added, but a period may lack some of its values. A complete series, added and removed again, sets
-/// the number.
+/// Makes the graph count `groups` groups. The graph takes the number of groups from the longest series that
+/// was ever added, but each series of a period may lack values. So this function adds a series with `groups`
+/// values and removes it again.
 void CountGroups(CGraph& graph, std::size_t groups) {
     const CString name; // the added series has no label
     auto fullest = std::make_unique<CGraphSeries>();

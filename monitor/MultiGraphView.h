@@ -15,7 +15,7 @@ namespace kavlix::monitor {
 
 /// A type of graph as the panel offers it.
 struct GraphTypeChoice {
-    int type; ///< GraphTypeBar and the like
+    int type; ///< a graph type of CGraph, such as GraphTypeBar
     const char* name;
 };
 const std::vector<GraphTypeChoice>& GraphTypeChoices();
@@ -28,14 +28,15 @@ struct MultiOptions {
     bool horizontal = false;
     bool grid = true;
     int labelAngle = 0;  ///< degrees
-    double depth = 0.05; ///< of 3D types, as a share of the plot's width
+    double depth = 0.05; ///< depth of the 3D types, as a share of the plot's width
 };
 
 /// Shows the statistics of a recording's periods in a multi-type graph.
 ///
-/// Bars, lines and pies have a group for each statistic, and in it an element for each period. The
-/// box-whisker type has a box for each period of a series, or for each series when all are shown. Scatter and
-/// XY line have the period's number along X.
+/// Bars, lines and pies have a group for each statistic of the chosen series, or for the mean of each series
+/// when all are shown. Each group has an element for each period. The box-whisker type has a box for each
+/// period of a series, or for each series when all are shown. Scatter and XY line have the period's number
+/// along X.
 class CMultiGraphView : public CWnd {
 public:
     bool CreateChild(CWnd& parent, UINT id);

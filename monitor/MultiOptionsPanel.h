@@ -17,7 +17,7 @@ class CMultiOptionsPanel : public CDialog {
 public:
     enum { IDD = IDD_MULTI_OPTIONS };
 
-    /// Creates the panel as a child window. It calls `changed` when the person changes a choice.
+    /// Creates the panel as a child window. The panel calls `changed` when the person changes a choice.
     bool CreateChild(CWnd& parent, std::function<void()> changed);
 
     /// Offers these series. The chosen one stays chosen if the number of series does not change.

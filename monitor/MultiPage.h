@@ -36,7 +36,7 @@ private:
     CMultiGraphView m_view;
     int m_panelWidth = 0; ///< pixels
     bool m_filling = false;
-    std::shared_ptr<const recording::Recording> m_recording; ///< the one shown
+    std::shared_ptr<const recording::Recording> m_recording; ///< the recording that the graph shows
     GraphSettings m_settings;
 };
 

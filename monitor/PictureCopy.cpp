@@ -5,7 +5,7 @@
 namespace kavlix::monitor {
 namespace {
 
-constexpr int kFrameUnits = 100; // units of a metafile's frame in a millimetre
+constexpr int kFrameUnits = 100; // units in a millimetre: a metafile's frame is in 0.01 mm
 
 } // namespace
 

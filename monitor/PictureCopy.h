@@ -8,8 +8,8 @@
 
 namespace kavlix::monitor {
 
-/// Calls `copy`, which must put something on the clipboard as `owner`. Returns whether that succeeded: `copy`
-/// returned true, the window owns the clipboard, and the clipboard's content has changed.
+/// Calls `copy`, which must open the clipboard for `owner` and fill it. Returns whether that succeeded:
+/// `copy` returned true, the window owns the clipboard, and the clipboard's content has changed.
 bool CopyReaches(const CWnd& owner, const std::function<bool()>& copy);
 
 /// Puts a picture of the window's client area on the clipboard as an enhanced metafile. `draw` paints the

@@ -31,7 +31,7 @@ constexpr int kTitleHeight = 18;
 constexpr int kNoteHeight = 14;
 constexpr int kMargin = 6;
 
-/// In the order of MemoryPart::Kind.
+/// Colours of the memory's parts, in the order of MemoryPart::Kind.
 constexpr COLORREF kMemoryColors[] = {RGB(20, 90, 180),   RGB(215, 85, 0),  RGB(115, 65, 175),
                                       RGB(190, 215, 190), RGB(135, 85, 50), RGB(225, 215, 200)};
 

@@ -1,4 +1,4 @@
-// The scroll page's content: makes rows of samples. View and commands have files of their own.
+// The scroll page's content: turns samples into rows. View and commands have files of their own.
 
 #include "monitor/ScrollPage.h"
 
@@ -25,7 +25,7 @@ namespace {
 
 constexpr std::size_t kSlice = 50'000; // rows that one piece of idle work hands to the graphs
 
-/// More new rows than this are added without following each one.
+/// When more new rows than this are added together, the view follows only after the last one.
 constexpr std::size_t kFollowedRows = 100;
 
 /// The interval of live readings for AppendGapRows: longer than a second, so that a late reading is no gap.
@@ -115,7 +115,7 @@ void CScrollPage::Update() {
         ViewMoved();
 }
 
-/// Begins with other content.
+/// Discards the rows of the previous content and begins to show the current content.
 void CScrollPage::Begin() {
     const PageContent& content = Content();
     m_generation = content.generation;
@@ -191,7 +191,7 @@ std::vector<SeriesSettings> CScrollPage::SeriesOf(std::size_t graph) const {
     return series;
 }
 
-/// The name in the legend. Live readings have an axis in plain units here, so the name is without the unit.
+/// The name in the legend. For live readings it has no unit, because the axes show `%` and `B/s` here.
 std::string CScrollPage::SeriesName(std::size_t series) const {
     const std::string& name = m_settings.series[series].name;
     const bool available = name.find("(not available)") == std::string::npos;
@@ -259,7 +259,7 @@ void CScrollPage::EndFeeding() {
     Host().ShowSelection();
 }
 
-/// Adds rows to the graphs. The rows' sample numbers count from `base`.
+/// Adds rows to the graphs. Sample 0 of the rows is number `base` of the content.
 void CScrollPage::AddRows(const std::vector<ScrollRow>& rows, std::uint64_t base, bool offline) {
     if (rows.empty())
         return;

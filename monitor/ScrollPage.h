@@ -16,8 +16,8 @@
 namespace kavlix::monitor {
 
 /// Shows two graphs over time, one above the other, which scroll together and share their mark. Of live
-/// readings the upper graph shows percents and the lower one rates. The series of a recording are divided by
-/// magnitude. A single series has one graph.
+/// readings the upper graph shows percents and the lower one rates. DivideByMagnitude divides the series of a
+/// recording between the graphs. For a single series there is one graph.
 class CScrollPage : public CMonitorPage {
 public:
     explicit CScrollPage(PageHost& host) : CMonitorPage(host) {}
@@ -108,7 +108,7 @@ private:
     std::string SeriesName(std::size_t series) const;
 
     CMonitorScrollGraph m_graphs[kGraphs];
-    std::size_t m_inUse = 1;              ///< number of graphs with series
+    std::size_t m_inUse = 1;              ///< number of graphs in use: 1 or 2
     std::size_t m_active = 0;             ///< the graph that gets the focus
     std::optional<std::size_t> m_filling; ///< the graph that fills the window
     std::optional<Pointer> m_pointer;
@@ -121,13 +121,13 @@ private:
     // Sample numbers count from the first sample that the content ever had.
     std::deque<recording::ScrollRow> m_rows; ///< the rows that the graphs hold
     LocalStamps m_stamps;
-    std::uint64_t m_next = 0; ///< the next sample without a row
+    std::uint64_t m_next = 0; ///< number of the next sample without a row
 
     // A recording while its rows are handed to the graphs.
     std::shared_ptr<const recording::Recording> m_feeding; ///< null: all rows were handed over
     std::uint64_t m_feedingFrom = 0;                       ///< number of the recording's first sample
     recording::ScrollPlan m_plan;
-    std::vector<double> m_before; ///< last value of each series
+    std::vector<double> m_before; ///< last value of each series handed over; NaN: none yet
 
     // The content that the last Update showed.
     unsigned m_generation = 0;

@@ -21,7 +21,7 @@ using recording::ScrollRow;
 
 namespace {
 
-constexpr int kWheelStep = WHEEL_DELTA / 3; // a notch of the wheel is three steps of a hundredth of the view
+constexpr int kWheelStep = WHEEL_DELTA / 3; // wheel rotation that moves the view by 1/100 of its width
 
 std::string LiveValueText(std::size_t series, double value) {
     if (LiveReadings::IsRate(series))
@@ -155,7 +155,7 @@ recording::ValueDigits CScrollPage::Digits() const {
                                                  : recording::ValueDigits::AsRead;
 }
 
-/// The row's sample as an index into the recording.
+/// The row's first sample as an index into the recording.
 std::size_t CScrollPage::SampleOf(int row) const {
     return m_rows[static_cast<std::size_t>(row)].sample - static_cast<std::size_t>(Content().lost);
 }

@@ -13,9 +13,9 @@ namespace kavlix::monitor {
 
 /// The texts of the status bar. A text may have several forms, the longest first.
 struct StatusTexts {
-    std::vector<std::string> text;    ///< the marked sample, or what is shown
+    std::vector<std::string> text;    ///< the marked sample; without a mark, what the view shows
     std::vector<std::string> pointer; ///< the sample under the mouse pointer; empty: the pane takes no room
-    std::string summary;              ///< what was read
+    std::string summary;              ///< summary of the files that were read
 };
 
 /// A status bar of three panes, whose widths follow from the longest forms of their texts. A pane shows the
@@ -26,8 +26,8 @@ public:
     /// Creates the bar at the parent's lower edge.
     bool CreateBar(CWnd& parent, UINT id);
 
-    /// Shows the texts and paints the changed panes. The caller calls it again when the bar's width
-    /// has changed.
+    /// Shows the texts and paints the changed panes. The caller calls Show again when the bar's
+    /// width has changed.
     void Show(const StatusTexts& texts);
 
     /// Resets the width of the pointer pane, for other data. Until then the width only grows, so that the

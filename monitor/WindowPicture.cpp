@@ -6,7 +6,7 @@
 #include <cstring>
 #include <vector>
 
-// The headers of GDI+ expect the macros min and max.
+// The headers of GDI+ use the macros min and max, which NOMINMAX removes: give GDI+ the functions instead.
 #include <objidl.h>
 namespace Gdiplus {
 using std::max;
@@ -20,7 +20,7 @@ namespace {
 constexpr int kBitsPerPixel = 24;
 constexpr int kSizingAttempts = 3;
 
-/// GDI+, from construction to destruction.
+/// Starts GDI+ on construction and shuts it down on destruction.
 class GdiPlus {
 public:
     GdiPlus() {

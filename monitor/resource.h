@@ -11,7 +11,7 @@
 
 #define IDC_GRAPH 1000
 #define IDC_STATUS 1001
-#define IDC_PAGE_FIRST 1002 // to 1009: the windows of the pages
+#define IDC_PAGE_FIRST 1002 // 1002 to 1009: the windows of the pages
 #define IDC_PREVIEW 1010
 #define IDC_TITLE 1011
 #define IDC_STYLE 1012

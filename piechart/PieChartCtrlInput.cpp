@@ -32,8 +32,8 @@ int CPieChartCtrl::GetPieceIndex(double dAngle) {
             clear(i);
             continue;
         }
-        // The found piece is cleared too: only OnLButtonDown selects it again, other callers just search.
-        Piece(i).m_bSelected = TRUE;
+        // No piece stays selected, not even the found one: OnLButtonDown selects it afterwards, and other
+        // callers only search.
         for (INT_PTR k = i; k < count; ++k)
             clear(k);
         return static_cast<int>(i);
@@ -41,8 +41,8 @@ int CPieChartCtrl::GetPieceIndex(double dAngle) {
     return -1;
 }
 
-// Sends NM_CLICK to the parent. False when the parent has destroyed the window, or deleted the control, while
-// it handled the notification: the caller must not touch the control then.
+/// Sends NM_CLICK to the parent. False when the parent has destroyed the window, or deleted the control, while
+/// it handled the notification: the caller must not touch the control then.
 bool CPieChartCtrl::NotifyClick(UINT nFlags, int nIndex) {
     const HWND window = m_hWnd;
     const HWND parent = ::GetParent(window);
@@ -69,8 +69,8 @@ void CPieChartCtrl::OnLButtonDown(UINT nFlags, CPoint point) {
             const int index = GetPieceIndex(angle);
             if (index >= 0)
                 Piece(index).m_bSelected = TRUE;
-            // GetPieceIndex has invalidated the labels only. Sectors change colour too, also when a click
-            // into the gap has only removed a selection.
+            // GetPieceIndex has invalidated the labels only, but sectors change colour too: also when a click
+            // on a part of the circle without a piece has only removed a selection.
             if (index >= 0 || wasSelected)
                 InvalidateRgn(&region, TRUE);
             if (index >= 0 && !NotifyClick(nFlags, index))
@@ -81,7 +81,8 @@ void CPieChartCtrl::OnLButtonDown(UINT nFlags, CPoint point) {
 }
 
 BOOL CPieChartCtrl::OnSetCursor(CWnd*, UINT nHitTest, UINT) {
-    // The window class has no cursor: without this call the cursor of the window left before would stay.
+    // The window class that Create registers has no cursor. Without SetCursor the cursor of the window that
+    // the mouse has left would stay.
     if (Default() != 0)
         return TRUE;
     if (nHitTest != HTCLIENT)

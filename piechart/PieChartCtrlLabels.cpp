@@ -1,4 +1,4 @@
-// CPieChartCtrl: draws labels, percentages and leader lines. PieLabels decides where they stand.
+// CPieChartCtrl: draws labels, percentages and leader lines. PlaceLabels decides where they stand.
 #include <kavlix/PieChartCtrl.h>
 
 #include <algorithm>
@@ -76,7 +76,7 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
     for (std::size_t i = 0; i < labels.size(); ++i) {
         CPieChartPiece& piece = Piece(shown[i]);
         piece.m_rcItem = ToCRect(labels[i].box);
-        // A text that the message's band covers in part is left out: its rest would not be readable.
+        // A text that the message's band covers, even in part, is left out: the rest would not be readable.
         CRect hidden;
         PieLabel visible = labels[i];
         if (hidden.IntersectRect(ToCRect(visible.label), band))
@@ -93,7 +93,7 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
 void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLabel& label,
                               const CString& strText, int nBreak) {
     const COLORREF inside = piece.m_bSelected ? kSelectedText : piece.m_crText;
-    COLORREF beside = inside;
+    COLORREF beside = inside; // differs only for a label beside the pie
     if (label.outside && piece.m_bSelected) {
         CBrush plate;
         plate.CreateSolidBrush(m_crSelected);
@@ -108,7 +108,7 @@ void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLab
                         : label.box.left < m_rcPie.left + m_rcPie.Width() / 2 ? DT_RIGHT
                                                                               : DT_LEFT;
     CRect place = ToCRect(label.label);
-    dc.SetTextColor(label.outside ? beside : inside);
+    dc.SetTextColor(beside);
     if (label.broken && !place.IsRectEmpty()) {
         const int line = place.Height() / 2;
         const CRect lower(place.left, place.top + line, place.right, place.bottom);
@@ -122,6 +122,6 @@ void CPieChartCtrl::DrawLabel(CDC& dc, const CPieChartPiece& piece, const PieLab
     if (place.IsRectEmpty())
         return;
     const bool inBox = CRect().IntersectRect(ToCRect(label.box), place) != 0;
-    dc.SetTextColor(label.outside && inBox ? beside : inside);
+    dc.SetTextColor(inBox ? beside : inside);
     DrawTextIn(dc, place, PercentText(piece), kLine | (inBox ? facing : DT_CENTER));
 }

@@ -22,13 +22,13 @@ constexpr char kNoData[] = "No Data";
 // Lengths are pixels.
 constexpr int kOutlineWidth = 1;
 constexpr int kSelectionWidth = 2;      // of the line that marks a selected sector
-constexpr double kSelectionInset = 4.0; // from that line to the sector's boundary
-// Sectors are polygons whose corners lie this many radii from the centre, clipped to the circle. At such a
-// distance rounding the corners to whole pixels does not turn a boundary visibly.
+constexpr double kSelectionInset = 4.0; // from the line that marks a selected sector to the sector's boundary
+// A sector is a polygon, clipped to the circle: the centre, and outer corners this many radii from the
+// centre. At this distance rounding the outer corners to whole pixels does not visibly turn a boundary.
 constexpr double kCornerDistance = 8.0;
-// Degrees between two corners of such a polygon, small enough that all edges stay outside the circle.
+// Degrees between two outer corners, small enough that the edges between them stay outside the circle.
 constexpr double kWidestCorner = 90.0;
-// Least distance between two boundary lines, along the rim. Closer lines are left out.
+// Least distance between two boundary lines, along the circle. Closer lines are left out.
 constexpr double kLeastLineDistance = 3.0;
 // The boundary lines of many thin sectors would blacken the centre. So a line begins at the distance from the
 // centre where the wider of its two sectors is kLeastWidthBetweenLines wide. If that distance is not longer
@@ -131,7 +131,8 @@ void CPieChartCtrl::DrawPie(CDC& dc) {
 }
 
 void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) {
-    // An elliptic region covers one column and one row less than the ellipse that DrawOutline draws.
+    // An elliptic region covers one column and one row less than the ellipse that DrawOutline draws, so the
+    // rectangle of the region is one pixel larger.
     CRect device = ToDeviceWithEdges(dc, m_rcPie);
     CRgn circle;
     if (!circle.CreateEllipticRgnIndirect(&device))
@@ -154,7 +155,8 @@ void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) 
             dc.FillRect(&m_rcPie, &fill);
             continue;
         }
-        // Neighbouring polygons share their corners, so every pixel belongs to exactly one of them.
+        // The polygons of neighbouring sectors share the corners of their common boundary, so GDI paints each
+        // pixel there exactly once.
         corners.assign(1, ToCPoint(PieCentre(pie)));
         const int steps = static_cast<int>(std::ceil(sector.Span() / kWidestCorner));
         for (int step = 0; step <= steps; ++step) {
@@ -167,8 +169,8 @@ void CPieChartCtrl::DrawSectors(CDC& dc, const std::vector<PieSector>& sectors) 
     DrawSelection(dc, sectors);
 }
 
-// Marks the selected sectors by a line if any piece looks like the selection, because then the fill colour
-// alone does not show what is selected.
+/// Marks the selected sectors by a line if the colour of any visible piece is similar to the selection's
+/// colour: then the fill colour alone does not show what is selected.
 void CPieChartCtrl::DrawSelection(CDC& dc, const std::vector<PieSector>& sectors) {
     bool isAmbiguous = false;
     for (std::size_t i = 0; i < sectors.size(); ++i)
@@ -231,7 +233,8 @@ void CPieChartCtrl::DrawOutline(CDC& dc, const std::vector<PieSector>& sectors) 
         dc.MoveTo(ToCPoint(PointAround(pie, start + angle, inner)));
         dc.LineTo(ToCPoint(PointAround(pie, start + angle, corner)));
     };
-    // A gap in the circle counts as a sector: its span decides too where the lines at its edges begin.
+    // The part of the circle without pieces counts as a sector here: the lines at its edges begin at the
+    // distance that its span requires, if it is the wider one.
     double last = 0;
     line(0, std::max(visible.front().Span(), whole ? visible.back().Span() : kFullCircle - covered));
     for (std::size_t i = 1; i < visible.size(); ++i) {
@@ -247,7 +250,7 @@ void CPieChartCtrl::DrawOutline(CDC& dc, const std::vector<PieSector>& sectors) 
         line(covered, std::max(visible.back().Span(), kFullCircle - covered));
 }
 
-// The box of the message in the middle of the window; empty without a message.
+/// The box of the message in the middle of the window. Empty without a message, or if it does not fit.
 CRect CPieChartCtrl::PlaceMessage(CDC& dc, const CRect& client, const CString& text) {
     SelectGuard font(dc, m_fontLarge);
     CRect room = client;

@@ -11,7 +11,7 @@ namespace {
 constexpr char kDots[] = "...";
 constexpr int kLeastCharacters = 2; // at the beginning of an abbreviation
 
-// Bytes of the common beginning, without half a character.
+/// The number of bytes at the beginning of `a` that `b` begins with too, without cutting a character.
 int CommonBytes(const CString& a, const CString& b) {
     int bytes = 0;
     while (bytes < std::min(a.GetLength(), b.GetLength()) && a[bytes] == b[bytes])
@@ -19,26 +19,19 @@ int CommonBytes(const CString& a, const CString& b) {
     return WholeCharacters(a, a.GetLength(), bytes);
 }
 
-// The first `bytes` bytes of the label, dots, and `tail`.
+/// The first `bytes` bytes of the label, dots, and `tail`.
 CString Cut(const CString& label, int bytes, const CString& tail) {
     CString cut = label.Left(bytes);
     cut.TrimRight();
     return cut + kDots + tail;
 }
 
-// The most bytes of the label's beginning with which Cut() stays within `width`; 0 when no character fits.
+/// The most bytes of the label's beginning with which Cut() stays within `width`; 0 when no character fits.
 int FittingBytes(const CDC& dc, const CString& label, const CString& tail, int width) {
-    const int length = label.GetLength();
-    int fits = 0;
-    constexpr int kMostBytesPerUnit = 4; // of text width; no character has more than 4 bytes
-    for (int beyond = std::min(length, kMostBytesPerUnit * width) + 1; fits + 1 < beyond;) {
-        const int middle = fits + (beyond - fits) / 2;
-        if (MeasureText(dc, Cut(label, WholeCharacters(label, length, middle), tail)).cx <= width)
-            fits = middle;
-        else
-            beyond = middle;
-    }
-    return WholeCharacters(label, length, fits);
+    constexpr int kMostBytesPerUnit = 4; // per logical unit of text width: the most bytes of a code point
+    return kavlix::FittingBytes(label, kMostBytesPerUnit * width, [&](int bytes) {
+        return MeasureText(dc, Cut(label, bytes, tail)).cx <= width;
+    });
 }
 
 } // namespace

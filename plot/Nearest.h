@@ -7,8 +7,8 @@
 namespace kavlix {
 
 /// The item among `first` to `last` whose position is nearest to `x`; the first one of equally near items.
-/// The range holds at least one item. `at(i)` is the position of item `i`. The positions never decrease when
-/// `ascending`, and never increase otherwise. Two binary searches.
+/// There is at least one item. `at(i)` is the position of item `i`. The positions never decrease when
+/// `ascending`, and never increase otherwise. Takes two binary searches.
 template <class Position>
 int NearestInOrder(int first, int last, bool ascending, std::int64_t x, Position at) {
     const auto firstNotBefore = [&](std::int64_t wanted) {
@@ -29,7 +29,7 @@ int NearestInOrder(int first, int last, bool ascending, std::int64_t x, Position
     const int after = firstNotBefore(x);
     if (after == first)
         return first;
-    // Several items may share this position: take the first one.
+    // Several items may share the position of the item before `after`: take the first of them.
     const int before = firstNotBefore(at(after - 1));
     return after > last || distance(before) <= distance(after) ? before : after;
 }

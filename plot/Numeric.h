@@ -1,4 +1,4 @@
-// Conversions from double to int that are defined for every value, and the limit of GDI coordinates.
+// Pi, the limits of GDI, and conversions from double to int that are defined for every value.
 #pragma once
 
 #include <algorithm>
@@ -13,8 +13,11 @@ constexpr double kPi = 3.14159265358979323846;
 /// marker sizes and margins can be added without overflow.
 constexpr int kCoordinateLimit = 1 << 27;
 
-/// `value` truncated toward zero and limited to [low, high]; 0 for NaN. All conversions from double to int
-/// use this function, because a cast is undefined for values out of range.
+/// The largest number of UTF-16 units that GDI draws in one call.
+constexpr int kLongestText = 8192;
+
+/// `value` truncated toward zero and limited to [low, high]; 0 for NaN. Use this function unless `value` is
+/// known to be in the range of an int: for other values a cast is undefined.
 inline int TruncateToInt(double value, int low = std::numeric_limits<int>::min(),
                          int high = std::numeric_limits<int>::max()) {
     if (value >= high)

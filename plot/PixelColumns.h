@@ -16,14 +16,14 @@ namespace kavlix {
 struct PixelColumn {
     int first;
     int last;
-    int position; ///< of the first sample, logical units
+    int position; ///< position of sample `first`, logical units
     int pixel;    ///< number of the column; PixelEdges::Before or Behind for a sample beyond the edges
 };
 
 /// Groups the samples of `range` by the pixel columns of `edges`. `at(i)` is the position of sample i in
-/// logical units. The positions are in ascending or in descending order. Of the samples beyond the edges,
-/// only the one before and the one behind the visible samples are kept, each as a column of its own. Reads a
-/// few positions per column.
+/// logical units. The positions are in ascending or in descending order. Samples outside `edges` are left
+/// out, except the last one before and the first one after the samples inside; each of these two is a column
+/// of its own. Reads a few positions per column.
 template <class Position>
 std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges, Position at) {
     std::vector<PixelColumn> columns;
@@ -64,8 +64,9 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
             const int place = at(static_cast<int>(index));
             return place >= low && place < high;
         };
-        // Find the column's last sample. The guess is the size of the previous column. Steps of growing size
-        // enclose the end of the column, then a binary search finds it.
+        // Find the column's last sample. The first guess is that the column has as many samples as the
+        // previous column. Steps of growing size enclose the end of the column, then a binary search finds
+        // it.
         std::int64_t inside = next;
         std::int64_t outside = std::int64_t{range.last} + 1;
         std::int64_t probe = next + guess - 1;
@@ -103,10 +104,11 @@ std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges
     return columns;
 }
 
-/// The same for positions whose order changes between ascending and descending. `runEnd(rest)` is the last
-/// sample of `rest` up to which the positions keep one order; empty when that is unknown, and then the result
-/// is empty too. At a change of order the samples beyond the edges are kept as well, because the stroke
-/// between them may cross the visible columns.
+/// Groups samples as GroupByColumn does, also when their positions change between ascending and descending
+/// order. `runEnd(rest)` is the last sample of `rest` up to which the positions keep one order; empty when
+/// that is unknown, and then the result is empty too. At each change of order, the last sample before the
+/// change and the first one after it are kept even outside `edges`, because the stroke between them may cross
+/// the visible columns.
 template <class RunEnd, class Position> std::vector<PixelColumn>
 GroupRunsByColumn(IndexRange range, const PixelEdges& edges, RunEnd runEnd, Position at) {
     std::vector<PixelColumn> columns;

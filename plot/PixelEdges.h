@@ -29,17 +29,19 @@ public:
             ++k;
         return static_cast<int>(k);
     }
-    /// The number of that pixel: its index plus `first`.
+    /// The number of the pixel that covers `position`: its index plus `first`. Holds(position) must be true.
     int PixelOf(int position) const { return m_first + Find(position); }
-    /// The same for any position: Before() or Behind() for positions that no pixel covers.
+    /// The number of the pixel that covers `position`; Before() or Behind() when no pixel covers it.
     int PixelOrSide(int position) const {
         return position < Begin() ? Before() : position >= End() ? Behind() : PixelOf(position);
     }
+    /// The numbers that come before the first pixel's and after the last pixel's number.
     int Before() const { return m_first - 1; }
     int Behind() const { return m_first + Count(); }
     bool HasPixel(int pixel) const { return pixel > Before() && pixel < Behind(); }
     int Edge(int k) const { return m_edges[static_cast<std::size_t>(k)]; }
-    /// Whether all pixels have the same size. Then a shape that moves by whole pixels keeps its pixels.
+    /// Whether all pixels have the same size. Then a shape that is moved by whole pixels covers the same
+    /// pattern of pixels.
     bool IsRegular() const;
 
 private:

@@ -17,10 +17,11 @@ PixelLine::PixelLine(const Point& from, const Point& to) : m_from(from) {
 }
 
 bool PixelLine::FindInside(const Rect& area, std::int64_t& first, std::int64_t& end) const {
-    // First limit the steps by the position along the longer side, then by the position across it.
+    // First limit the steps by the line's position along the longer side, then by its position along the
+    // shorter side.
     const std::int64_t start = m_isSteep ? m_from.y : m_from.x;
     const std::int64_t low = m_isSteep ? area.top : area.left;
-    const std::int64_t high = m_isSteep ? area.bottom : area.right; // not inside
+    const std::int64_t high = m_isSteep ? area.bottom : area.right; // the first position behind the area
     first = std::max<std::int64_t>(m_stepsDown ? start - high + 1 : low - start, 0);
     end = std::min(m_stepsDown ? start - low + 1 : high - start, m_along);
 

@@ -21,9 +21,9 @@ struct DotPattern {
 /// clip are not changed. For lines of many points use ThinLine, which is faster.
 class PixelRaster {
 public:
-    /// `origin` is the pixel (0, 0), `stride` the distance in pixels from a row to the row below it, negative
-    /// for pictures whose bottom row comes first in memory. `clip` lies inside the picture. The caller owns
-    /// the pixels and keeps them alive.
+    /// `origin` points to the pixel (0, 0). `stride` is the distance in pixels from a row to the row below
+    /// it, negative for pictures whose bottom row comes first in memory. `clip` lies inside the picture. The
+    /// caller owns the pixels and keeps them alive.
     PixelRaster(std::uint32_t* origin, std::ptrdiff_t stride, const Rect& clip);
 
     const Rect& Clip() const { return m_clip; }

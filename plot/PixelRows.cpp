@@ -11,11 +11,10 @@
 #endif
 
 namespace kavlix {
-
 namespace {
 
-// For ranges between these limits, neither the exact nor the fast computation overflows or loses digits: the
-// error of both is less than a billionth of a row.
+// For axis ranges between these limits, neither the exact nor the fast computation overflows or loses digits:
+// the error of both is less than a billionth of a row.
 constexpr double kSmallestRange = 1e-280;
 constexpr double kLargestRange = 1e280;
 
@@ -32,7 +31,8 @@ PixelRows::PixelRows(const LinearMap& map, const PixelEdges& edges) : m_map(map)
     m_min = map.Min();
     m_rowsPerValue = map.Slope() / height;
     m_rowOfMin = (map.Edge() - edges.Begin()) / height;
-    // The fast way is valid for positions above 0: truncation rounds negative positions upwards.
+    // LinearMap::Position truncates toward zero, which rounds negative positions upwards. So the fast way is
+    // used only for rows at positions above 0.
     m_begin = edges.Begin() > 0 ? 0 : std::ceil((1 - edges.Begin()) / height);
     m_end = edges.Count();
 }

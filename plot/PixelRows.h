@@ -11,12 +11,12 @@ namespace kavlix {
 
 /// The pixel rows of values. The result is always the row of LinearMap::Position.
 ///
-/// Position divides, truncates, and the result is looked up in PixelEdges. When all rows have the same
-/// height, one multiplication gives the same row, except for values next to a row's edge: there the last bits
-/// of the division decide, so the exact way is taken.
+/// The exact way divides and truncates in LinearMap::Position and looks the position up in PixelEdges. When
+/// all rows have the same height, the fast way finds the same row with one multiplication. Next to a row's
+/// edge rounding errors decide about the row, so there the exact way is taken.
 class PixelRows {
 public:
-    /// `map` must be monotonic. Both must outlive this object.
+    /// `map` must be monotonic. `map` and `edges` must outlive this object.
     PixelRows(const LinearMap& map, const PixelEdges& edges);
 
     /// Row of `value`, which must not be NaN; PixelEdges::Before or Behind for a value beyond the edges.
@@ -31,15 +31,16 @@ public:
         return Exact(value);
     }
 
-    /// Lowest and highest of those of the `count` values at `values` that lie on another row than the value
-    /// before them; values[-1] must exist. When all lie on one row, `low` is greater than `high`. Empty when
-    /// the fast way cannot find all rows: for values beyond the edges or next to an edge, and for NaN.
+    /// Compares each of the `count` values at `values` with the value before it; values[-1] must exist. The
+    /// result is the lowest and the highest of the values that lie on another row than the value before. When
+    /// there is no such value, `low` is greater than `high`. Empty when the fast way cannot find all rows:
+    /// for values beyond the edges or next to an edge, and for NaN.
     std::optional<Extremes> ExtremesOfMoves(const double* values, int count) const;
 
 private:
     int Exact(double value) const;
 
-    static constexpr double kNearEdge = 1e-6; ///< rows; closer to an edge the exact way is taken
+    static constexpr double kNearEdge = 1e-6; ///< in rows; nearer to a row's edge the exact way is taken
 
     const LinearMap& m_map;
     const PixelEdges& m_edges;
@@ -47,8 +48,10 @@ private:
     double m_min = 0;
     double m_rowsPerValue = 0;
     double m_rowOfMin = 0;
+    // The fast way is valid from row m_begin to before row m_end, counted from the first row of `edges`. When
+    // m_end is not greater than m_begin, the fast way is valid for no row.
     double m_begin = 0;
-    double m_end = 0; ///< not greater than m_begin when only the exact way is valid
+    double m_end = 0;
 };
 
 } // namespace kavlix

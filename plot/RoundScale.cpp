@@ -6,23 +6,24 @@
 #include <cstdio>
 
 namespace kavlix {
-
 namespace {
 
 constexpr double kMantissas[] = {10, 20, 25, 50};
 /// Larger values are limited to this one: sums and products in this file then stay finite.
 constexpr double kLargestValue = 1e300;
 constexpr double kSmallestRange = 1e-290;
-/// The narrowest range as a share of its largest value: a double has too few digits for ticks in between.
+/// The narrowest range, as a share of the largest absolute value in it. In a narrower range a double has too
+/// few digits for the ticks.
 constexpr double kNarrowestRange = 1e-12;
-constexpr double kMostParts = 1e15; // host's steps between two ticks; with more a double loses digits
-constexpr double kRoomAround = 0.5; // space on both sides of a single value, as a share of this value
-/// Tolerance for rounding errors, as a share of a step: an end this close to a multiple counts as one.
+constexpr double kMostParts = 1e15; // largest multiple of the host's step; beyond it a double loses digits
+constexpr double kRoomAround = 0.5; // space on each side of a single value, as a share of this value
+/// Tolerance for rounding errors, as a share of a step: a number this close to a multiple of the step counts
+/// as this multiple.
 constexpr double kRounding = 1e-9;
 constexpr int kMostDecimals = 12;
 constexpr std::size_t kLongestPlainLabel = 8;
 
-/// `value` * 10^`exponent`, without overflow in between.
+/// `value` * 10^`exponent`. The intermediate results do not overflow.
 double Shift(double value, int exponent) {
     constexpr int kSafe = 300;
     if (exponent < -kSafe)
@@ -63,7 +64,7 @@ RoundScale RoundScale::Around(const ValueBounds& values, int mostSteps) {
 
     RoundScale scale;
     scale.m_found = true;
-    // A range across 0 needs two steps of any size.
+    // A range from below 0 to above 0 needs two steps, however large a step is.
     const int most = std::max(mostSteps, 2);
     // Start one power of ten too low: the first step that fits is the finest one.
     scale.m_exponent = ExponentOf((max - min) / most) - 2;
@@ -166,7 +167,8 @@ std::string RoundScale::PowerLabel(double value) const {
         return "0";
     constexpr int kMostDigits = 15;
     int exponent = ExponentOf(value);
-    // As many digits as the step needs. Rounding can carry 9.99 to 10.0, which takes the next exponent.
+    // As many digits as the step needs. Rounding can turn 9.99 into 10.0, which must become 1 with the next
+    // exponent.
     const int stepEnd = m_found ? m_exponent + (m_mantissa != 25 ? 1 : 0) : -m_decimals;
     const int digits = std::clamp(exponent - stepEnd, 0, kMostDigits);
     std::string mantissa = Plain(Shift(value, -exponent), digits);

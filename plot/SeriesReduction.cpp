@@ -5,10 +5,9 @@
 #include <utility>
 
 namespace kavlix {
-
 namespace {
 
-constexpr std::size_t kLongestPart = 64; // for wide pens GDI's time grows with the square of the points
+constexpr std::size_t kLongestPart = 64; // for wide pens GDI's time grows with the square of this number
 constexpr unsigned kLeft = 1;
 constexpr unsigned kRight = 2;
 constexpr unsigned kAbove = 4;
@@ -56,8 +55,9 @@ void SeriesReduction::Add(const Point& pixel, const Point& position) {
         m_sides &= sides;
         if (!(pixel == m_last.pixel))
             m_arrived = entry.order;
-        // Of several points on one pixel the first is kept. The last pixel of a line is not painted, so an
-        // earlier visit of the same pixel must stay in the line.
+        // Strict comparisons: of several points on the lowest or highest pixel the first is kept. GDI leaves
+        // out the last pixel of a line, so when the line ends on this pixel, only the earlier point paints
+        // it.
         if (Key(pixel) < Key(m_low.pixel))
             m_low = entry;
         if (Key(pixel) > Key(m_high.pixel))
@@ -77,7 +77,9 @@ void SeriesReduction::FlushRun() {
         for (const Entry* entry : {&earlier, &later})
             if (entry->order > 0 && entry->order < m_last.order)
                 Append(*entry);
-        // The run ends on a pixel that it has visited and left before: the earlier visit paints this pixel.
+        // The run ends on a pixel that it visited before and left in between. GDI leaves out the last pixel
+        // of a line, so the earlier visit must paint this pixel: lead the line away to the run's first point
+        // and back.
         if (later.pixel == m_last.pixel && later.order > 0 && later.order < m_arrived)
             Append(m_first);
     }

@@ -12,10 +12,10 @@ namespace kavlix {
 /// draws a few strokes per pixel column instead of one per sample.
 ///
 /// The picture is the same as that of the whole line, for any solid pen. Of successive points in one pixel
-/// column or row, the first, lowest, highest and last point are passed on: their strokes cover the same
-/// pixels. Of successive points beyond the same edge of the view, the first and last point are passed on. All
-/// other points are passed on unchanged, so a line that goes back and forth across the view keeps all its
-/// points.
+/// column, the first, lowest, highest and last point are passed on, and of successive points in one pixel
+/// row, the first, leftmost, rightmost and last point: their strokes cover the same pixels. Of successive
+/// points beyond the same edge of the view, the first and last point are passed on. All other points are
+/// passed on unchanged, so a line that goes back and forth across the view keeps all its points.
 ///
 /// The points may come in any order of x. The memory in use does not depend on their number.
 class SeriesReduction {
@@ -24,8 +24,8 @@ public:
     /// with the last point of the previous part.
     using Sink = std::function<void(const Point* points, int count)>;
 
-    /// `view` in device pixels, as Add takes them: the visible area, enlarged on all sides by Reach of the
-    /// pen. Points outside it must not show.
+    /// `view` is the visible area, enlarged on all sides by Reach of the pen, in device pixels as Add takes
+    /// them. A pen at a point outside `view` must not paint a visible pixel.
     SeriesReduction(const Rect& view, Sink sink);
     /// Passes nothing on: call End when the line is complete.
     ~SeriesReduction() = default;
@@ -39,10 +39,11 @@ public:
     void Add(const Point& pixel, const Point& position);
     /// Ends the line and passes on the rest of it. The next point begins another line.
     void Break();
-    /// The same after the last line.
+    /// Ends the last line, as Break does.
     void End() { Break(); }
 
-    /// The distance from which a pen of `width` pixels can still paint inside the visible area, pixels.
+    /// The largest distance, in pixels, from which a pen of `width` pixels can still paint inside the visible
+    /// area.
     static int Reach(int width) { return width / 2 + 2; }
 
 private:
@@ -63,7 +64,8 @@ private:
     Sink m_sink;
     std::vector<Point> m_part;
 
-    // The current run of points, of which only the first, lowest, highest and last are kept.
+    // The current run: successive points in one column, in one row or beyond one edge. Only its first, lowest
+    // (or leftmost), highest (or rightmost) and last points are kept.
     int m_count = 0;
     bool m_sameColumn = false;
     bool m_sameRow = false;
@@ -72,7 +74,7 @@ private:
     Entry m_low;
     Entry m_high;
     Entry m_last;
-    int m_arrived = 0; ///< index of the point from which on all points of the run share the last pixel
+    int m_arrived = 0; ///< index of the first of the points at the run's end that all lie on its last pixel
 };
 
 } // namespace kavlix

@@ -9,7 +9,7 @@ struct Point {
     int y = 0;
 };
 
-/// A rectangle, in the same units. Its right and bottom edges do not belong to it.
+/// A rectangle, in logical units or in device pixels. Its right and bottom edges do not belong to it.
 struct Rect {
     int left = 0;
     int top = 0;

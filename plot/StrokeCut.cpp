@@ -5,7 +5,6 @@
 #include <cstdlib>
 
 namespace kavlix {
-
 namespace {
 
 /// The direction of a stroke: `moves` pixels across while it takes `steps` steps along its longer side.
@@ -23,7 +22,7 @@ bool operator<(const Slope& a, const Slope& b) {
 std::int64_t FarthestStep(const PixelLine& line, std::int64_t start, std::int64_t enough, std::int64_t last) {
     const std::int64_t startMoves = line.MovesAt(start);
     const std::int64_t atHalf = line.AtHalf();
-    // Bounds of the stroke's slope. Each move of the line narrows them.
+    // Bounds of the new stroke's slope. Each move of the line narrows them.
     Slope least{0, 1};
     Slope most{1, 0};
     std::int64_t farthest = start;
@@ -47,8 +46,8 @@ std::int64_t FarthestStep(const PixelLine& line, std::int64_t start, std::int64_
     }
 }
 
-/// A simple slope near that of `line`: for `steps` steps, no pixel position lies between lines of the two
-/// slopes from the same point.
+/// A slope of small numbers near the slope of `line`. Between two lines of these slopes that begin at the
+/// same pixel position, no pixel position lies within `steps` steps.
 Slope SimpleSlope(const PixelLine& line, std::int64_t steps) {
     const Slope wanted{line.Moves(), line.Steps()};
     Slope below{0, 1};
@@ -57,8 +56,9 @@ Slope SimpleSlope(const PixelLine& line, std::int64_t steps) {
         return wanted.moves == 0 ? below : above;
     if (wanted < Slope{1, steps})
         return {1, steps + 1};
-    // Descend the tree of fractions (Stern-Brocot). A line meets a pixel position within the steps exactly
-    // when the denominator of its slope is not above `steps`, so the search passes all such slopes.
+    // Descend the tree of fractions (Stern-Brocot) towards `wanted`. A line that begins at a pixel position
+    // meets another pixel position within `steps` steps exactly when the denominator of its slope is at most
+    // `steps`. So the search ends at the first larger denominator, or at `wanted` itself.
     Slope slope{1, 2};
     while (slope.steps <= steps) {
         if (slope < wanted)
@@ -73,11 +73,13 @@ Slope SimpleSlope(const PixelLine& line, std::int64_t steps) {
 }
 
 /// Brings both ends of a stroke of any width nearer to `window`. The ends lie outside the window, which holds
-/// the view and the pen's reach around it. Inside the window the edges of the new stroke pass between the
-/// same pixels. False when the stroke misses the window. Ends that are not far enough away stay.
+/// the view and the pen's reach around it. Inside the window each edge of the new stroke has the same pixels
+/// on either side as the edge of the old stroke. False when the stroke misses the window. Ends that are not
+/// far enough away stay.
 ///
-/// GDI gives a pixel position on an edge to the right side of the edge. So the stroke may be shifted onto the
-/// nearest pixel position on its right, and turned around this position until it meets another one.
+/// GDI treats a pixel position exactly on an edge as lying to the right of the edge. So the stroke may be
+/// shifted onto the nearest pixel position on its right, and turned around this position until it meets
+/// another pixel position.
 bool BringEndsNearer(Point& from, Point& to, const Rect& window) {
     const PixelLine line(from, to);
     std::int64_t first = 0;
@@ -104,8 +106,9 @@ bool BringEndsNearer(Point& from, Point& to, const Rect& window) {
             nearestMoves = moves;
         }
     }
-    // In the window the stroke stays between two columns: a vertical stroke has the same edges there.
-    constexpr std::int64_t kUpright = 128; // steps a move; steeper strokes have edges as of vertical ones
+    // A stroke that stays between two neighbouring columns in the whole window has the same edges there as a
+    // vertical stroke.
+    constexpr std::int64_t kUpright = 128; // steps per move; only steeper strokes can become vertical
     const auto isAtNearest = [&](std::int64_t step) {
         const std::int64_t ahead = step * line.Moves() - nearestMoves * line.Steps();
         return (isBefore ? ahead : -ahead) >= 0 && std::llabs(ahead) < line.Steps();

@@ -42,7 +42,7 @@ public:
         Paint();
         Begin(x, y);
     }
-    /// The line ends at the last point.
+    /// Ends the line at the last point.
     void End() {
         if (m_isOpen)
             Paint();
@@ -62,8 +62,8 @@ private:
         m_bottom = std::max(m_bottom, bottom);
     }
     void Paint() const { m_raster.Run(m_x, m_top, m_bottom, m_colour); }
-    /// One half of such a stroke lies in the old column, the other half in the new one. A pixel exactly
-    /// halfway belongs to the smaller coordinate, as in PixelLine.
+    /// Draws a stroke to a neighbouring column: one half lies in the old column, the other half in the new
+    /// one. A pixel exactly halfway belongs to the smaller coordinate, as in PixelLine.
     void ToNextColumn(int x, int y) {
         const int from = m_y;
         const int length = std::max(std::abs(y - from), 1);

@@ -1,7 +1,7 @@
 // The scrolling graph's message map, creation, and the window of its scroll bar.
 #include <kavlix/ScrollGraphCtrl.h>
 
-#include "scrollgraph/ScrollGraphCtrlClock.h"
+#include "scrollgraph/SystemClock.h"
 #include "scrollgraph/core/TimeLine.h"
 
 using namespace kavlix;
@@ -10,8 +10,8 @@ namespace {
 
 constexpr UINT kScrollBarId = 100;
 
-// The scroll bar lies along the bottom edge; pixels.
-constexpr int kBarLeft = 30;
+// Place of the scroll bar along the bottom edge of the client area, pixels.
+constexpr int kBarLeft = 30;  // from the left edge
 constexpr int kBarRight = 80; // from the right edge
 constexpr int kBarTop = 15;   // from the bottom edge
 constexpr int kBarHeight = 14;
@@ -35,7 +35,7 @@ CScrollGraphCtrl::CScrollGraphCtrl()
 }
 
 CScrollGraphCtrl::~CScrollGraphCtrl() {
-    // The scroll bar must still exist when the window is destroyed.
+    // Destroy the window while m_wndScrollBar still exists. The base class would destroy the window too late.
     DestroyWindow();
 }
 
@@ -60,7 +60,7 @@ void CScrollGraphCtrl::OnSize(UINT nType, int cx, int cy) {
     UpdateScrollInfo();
 }
 
-// The control paints its whole client area, the scroll bar's too, so the bar must be drawn again on top.
+/// The control paints its whole client area, the scroll bar's too, so the bar must be drawn again on top.
 void CScrollGraphCtrl::RaiseScrollBar() {
     if (!::IsWindow(m_wndScrollBar.m_hWnd))
         return;

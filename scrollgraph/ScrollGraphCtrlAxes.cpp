@@ -12,21 +12,15 @@
 #include "graphctrl/XTickPainter.h"
 #include "graphctrl/core/AxisTicks.h"
 #include "plot/Numeric.h"
-#include "scrollgraph/ScrollGraphCtrlClock.h"
+#include "scrollgraph/SystemClock.h"
 #include "scrollgraph/core/TimeLine.h"
+#include "scrollgraph/core/TimeTicks.h"
 
 using namespace kavlix;
 
 namespace {
 
-// Logical units.
-constexpr int kLabelGap = 100; // between axis strip and tick labels
-
-/// Height of an upright text in the DC's font.
-int TextHeight(const CDC& dc) {
-    TEXTMETRIC metrics = {};
-    return dc.GetTextMetrics(&metrics) ? static_cast<int>(metrics.tmHeight) : 0;
-}
+static_assert(kDateShift == kUpperLineShift, "TimeTicks and DrawTwoLines place dates alike");
 
 } // namespace
 
@@ -118,8 +112,8 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     const std::int64_t begin =
         std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
     const auto place = [&](std::int64_t tick) { return begin + tick * spacing; };
-    // Only ticks within the window are drawn; `reach` allows for labels that begin outside it. Without a
-    // spacing there is one tick.
+    // Only ticks are drawn that can be visible, or whose labels can: those in the client area and up to
+    // `reach` logical units outside. With a spacing of 0 there is one tick.
     const std::int64_t reach = 2 * std::int64_t{height};
     const auto ticksBefore = [&](std::int64_t x) {
         return x <= begin ? 0 : spacing > 0 ? (x - begin + spacing - 1) / spacing : 1;
@@ -146,7 +140,7 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
             gridColumns.push_back(static_cast<int>(pixel->x));
         if (tick != ticks.Tick())
             continue;
-        DrawTimeLabel(dc, x, rectLabel.top + kLabelGap,
+        DrawTimeLabel(dc, x, rectLabel.top + kTickLabelGap,
                       ticks.ShowsDate() ? ticks.Date().c_str() + kMonthAt : "", ticks.Clock().c_str());
         ticks.Next();
     }
@@ -159,8 +153,5 @@ void CScrollGraphCtrl::DrawTimeLabel(CDC& dc, int x, int y, const CString& date,
         DrawTextAt(dc, x - kClockShift, y, time);
         return;
     }
-    dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
-    DrawTextAt(dc, x + kDateShift, y, date);
-    dc.SetTextAlign(TA_RIGHT);
-    DrawTextAt(dc, x, y, time);
+    DrawTwoLines(dc, x, y, date, time);
 }

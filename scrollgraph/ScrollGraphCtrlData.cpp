@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "gdi/OutOfMemory.h"
-#include "scrollgraph/ScrollGraphCtrlClock.h"
+#include "scrollgraph/SystemClock.h"
 #include "scrollgraph/core/TimeLine.h"
 #include "scrollgraph/core/ViewWindow.h"
 
@@ -35,14 +35,15 @@ int CScrollGraphCtrl::AddData(int nDataset, double y, double*) {
     ViewWindow view = GetView();
     const ViewWindow::Arrival arrival =
         view.Arrive(size > 0, m_arrTime->X(size - 1), size > 0 ? m_arrTime->X(size) : 0);
-    SetView(view);
-    m_bFollowed = arrival.followed;
     if (!dataset.AddYData(y))
         return 0;
-    if (arrival.changed) {
+    m_bFollowed = arrival.followed;
+    if (arrival.changed)
         view.Normalize();
-        SetView(view);
-        // GetScrollInfo takes longer than storing 13 samples, so the values passed last are compared first.
+    SetView(view);
+    if (arrival.changed) {
+        // UpdateScrollInfo calls GetScrollInfo, which takes longer than storing 13 samples. So compare first
+        // with the values that the scroll bar received last.
         if (view.BarPosition() != m_nToldPos || view.BarPage() != m_nToldPage)
             UpdateScrollInfo();
     }
@@ -57,7 +58,8 @@ int CScrollGraphCtrl::AddDataForOffline(int nDataset, double y, double*) {
 }
 
 void CScrollGraphCtrl::SetArraySize(int) {
-    // An empty dataset needs memory for its 0. Allocate first: nothing is cut if the allocation fails.
+    // An empty dataset gets a single 0, which needs memory. Allocate this memory before samples are removed,
+    // so that a failure removes none.
     const bool hadTime = m_arrTime->Size() > 0;
     int sizes[DatasetCount];
     GetSizes(sizes);

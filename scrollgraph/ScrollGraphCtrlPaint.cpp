@@ -58,7 +58,7 @@ int CScrollGraphCtrl::GetIndexFromPt(CPoint point) {
         return CGraphCtrl::GetIndexFromPt(point);
     if (!m_rectPlot.PtInRect(point))
         return -1;
-    // Samples of the last paint may have been removed since, and a time stamp can lack a sample.
+    // The host may have removed samples since the last paint, and a time stamp can lack a sample.
     int sizes[DatasetCount];
     GetSizes(sizes);
     const int longest = *std::max_element(std::begin(sizes), std::end(sizes));

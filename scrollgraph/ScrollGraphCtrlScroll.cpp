@@ -39,7 +39,7 @@ bool Holds(const CScrollBar& bar, const SCROLLINFO& wanted) {
     held.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     if (!::GetScrollInfo(bar.m_hWnd, SB_CTL, &held))
         return false;
-    // Windows limits page and position so.
+    // Windows limits page and position in this way when they are set.
     const UINT page = std::min(wanted.nPage, static_cast<UINT>(wanted.nMax - wanted.nMin + 1));
     const int lastPos = wanted.nMax - std::max(static_cast<int>(page) - 1, 0);
     return held.nMin == wanted.nMin && held.nMax == wanted.nMax && held.nPage == page &&

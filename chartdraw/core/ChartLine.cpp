@@ -9,7 +9,7 @@
 namespace kavlix {
 namespace {
 
-// Pixels. The difference of two such positions is still finite.
+// Positions are limited to this many pixels from 0. The difference of two limited positions is still finite.
 constexpr double kFarthest = 1e300;
 
 Point ToPixel(double x, double y) {
@@ -18,8 +18,9 @@ Point ToPixel(double x, double y) {
 
 } // namespace
 
-// Along the stroke one coordinate is start + part * step, with part from 0 to 1. Narrows the range `from` to
-// `to` of the part to where this coordinate is near. `from` > `to` afterwards: the stroke is nowhere near.
+/// A coordinate of the stroke, x or y, is start + part * step, with `part` from 0 to 1. Narrows the range of
+/// `part`, from `from` to `to`, to the parts at which this coordinate is near (see IsNear). When there are
+/// none, `from` > `to` afterwards.
 void ChartLine::Narrow(double start, double step, double& from, double& to) {
     if (step == 0) {
         if (std::abs(start) > kNear)
@@ -32,7 +33,7 @@ void ChartLine::Narrow(double start, double step, double& from, double& to) {
     to = std::min(to, std::max(a, b));
 }
 
-// The coordinate at `part` of a stroke, held within the near range against rounding.
+/// The coordinate at `part` of a stroke, limited to the near range because rounding can lead out of it.
 double ChartLine::Along(double start, double step, double part) {
     return std::clamp(start + part * step, -kNear, kNear);
 }
@@ -58,8 +59,9 @@ void ChartLine::Add(double x, double y) {
 }
 
 void ChartLine::AddCut(const Place& to) {
-    // Count the parts from the near end, if there is one: from a very large far end, rounding would lose the
-    // near one. The near end keeps the pixel that it has in a line without cuts.
+    // Count `part` from the near end, if the stroke has one: counted from a very large far end, rounding
+    // would lose the position of the near end. So the near end keeps the pixel that it has in a line without
+    // cuts.
     const bool backwards = IsNear(to);
     const Place& start = backwards ? to : m_last;
     const Place& other = backwards ? m_last : to;

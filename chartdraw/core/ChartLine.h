@@ -24,8 +24,8 @@ public:
 
     /// Adds the next point; `x` and `y` are in pixels.
     void Add(double x, double y);
-    /// Adds a pixel that the line visits between the last point and the next one. Both must be
-    /// near, see IsNear().
+    /// Adds a pixel that the line visits between the last point and the next point. Both points must be near,
+    /// see IsNear.
     void AddBetween(const Point& pixel) {
         m_isLone = m_isLone && pixel == m_first;
         m_path.Add(pixel);
@@ -33,8 +33,8 @@ public:
     /// Ends the line; the next point begins another line.
     void End();
 
-    /// Whether a coordinate is in the range that GDI can draw: it then becomes the pixel to
-    /// which it truncates.
+    /// Whether a coordinate, in pixels, is in the range that GDI can draw. A near coordinate becomes the
+    /// pixel to which it truncates.
     static bool IsNear(double position) { return std::abs(position) <= kNear; }
 
 private:
@@ -43,7 +43,8 @@ private:
         double y = 0;
     };
 
-    /// The farthest coordinate that is passed on. GDI draws strokes between such points exactly.
+    /// The largest coordinate, in pixels, that is passed on. GDI draws strokes between points in this range
+    /// exactly.
     static constexpr double kNear = 1 << 22;
 
     static bool IsNear(const Place& place) { return IsNear(place.x) && IsNear(place.y); }

@@ -22,7 +22,8 @@ void ChartReduction::Run() {
     m_line.End();
 }
 
-// Whether a block of points is dealt with as a whole. If not, its parts are tried.
+/// Deals with a block of points as a whole if possible. False otherwise: the parts of the block are then tried
+/// one by one.
 bool ChartReduction::TakeBox(const PointBox& box, int first, int last) {
     if (box.HasGap())
         return false;
@@ -47,8 +48,7 @@ bool ChartReduction::TakeBox(const PointBox& box, int first, int last) {
     return true;
 }
 
-// Whether a block lies completely beyond one edge of the view. A position that is not a
-// number is never beyond.
+/// Whether a block lies completely beyond one edge of the view. A NaN position counts as not beyond.
 bool ChartReduction::IsBeyond(double left, double right, const PointBox& box) const {
     if (std::isnan(left) || std::isnan(right))
         return false;
@@ -96,8 +96,8 @@ void ChartReduction::TakePoint(int i, const ChartPoint& point) {
     Add(i);
 }
 
-// Adds the points `first` to `last`, which lie between the values `low` and `high`, to the open column if
-// that is `column`. Otherwise opens `column` with these points.
+/// Adds the points `first` to `last`, whose y lie between `low` and `high`, to the open column if this is
+/// column `column`. Otherwise closes the open column and opens `column` with these points.
 void ChartReduction::Extend(int column, int first, int last, double low, double high) {
     if (m_first <= m_last && m_column == column) {
         m_last = last;
@@ -106,8 +106,9 @@ void ChartReduction::Extend(int column, int first, int last, double low, double 
         return;
     }
     FlushColumn();
-    // Single points are only read near the border between two columns. Assume that the next columns have as
-    // many points as the last one, and prefetch the points near a later border.
+    // Points are read one by one only near the border between two columns. Assume that the next columns have
+    // as many points as the last column, and prefetch the points near the border that is kAhead columns
+    // ahead.
     constexpr std::int64_t kAhead = 3; // columns
     PointBoxTree::Prefetch(m_series.Values(), first + kAhead * (std::int64_t{first} - m_first));
     m_first = first;
@@ -117,18 +118,20 @@ void ChartReduction::Extend(int column, int first, int last, double low, double 
     if (m_column == column)
         return;
     m_column = column;
-    // The certain values keep a distance from the column's edges that is larger than rounding errors.
+    // Values from m_columnBegin to m_columnEnd keep a distance from the column's edges that is larger than
+    // rounding errors.
     constexpr double kNearEdge = 1e-6; // pixels
     constexpr double kRounding = 4 * std::numeric_limits<double>::epsilon();
     const double a = m_xMap.Value(column + kNearEdge);
     const double b = m_xMap.Value(column + 1 - kNearEdge);
     const double rounding = kRounding * std::max(std::abs(a), std::abs(b));
     m_columnBegin = std::min(a, b) + rounding;
-    // Positions truncate toward zero, so the columns up to 0 have other borders: no value is certain there.
+    // Positions truncate toward zero, so the columns up to column 0 have other borders. For these columns no
+    // value of x counts as certain.
     m_columnEnd = column > 0 ? std::max(a, b) - rounding : m_columnBegin;
 }
 
-// Passes on the points of the open column and closes it.
+/// Passes on the points of the open column and closes it.
 void ChartReduction::FlushColumn() {
     const double low = m_yMap.ExactPosition(m_low);
     const double high = m_yMap.ExactPosition(m_high);
@@ -141,15 +144,16 @@ void ChartReduction::FlushColumn() {
     m_last = m_first - 1;
 }
 
-// Passes on the first point of the open column, its two extreme pixels, and its last point.
+/// Passes on the first point of the open column, its two extreme pixels, and its last point.
 void ChartReduction::AddColumn(int bottom, int top) {
     const int last = Row(m_series[m_last].y);
     int before = -1;
     Add(m_first);
     if (last == top || last == bottom) {
-        // The line may end at the column's last point, and the last pixel of a line is not painted. The pixel
-        // is painted nevertheless if the line visits that row earlier and leaves it. So take the extremes
-        // only of the points up to the last one in another row.
+        // The line may end at the column's last point, and GDI does not paint the last pixel of a line. The
+        // unreduced line paints this pixel only if an earlier point lies in the same row and the line then
+        // leaves the row. To do the same, take the extremes only of the points up to the last one in another
+        // row.
         before = LastElsewhere(last);
         if (before < m_first) {
             Add(m_last); // a wide pen draws a stroke without length as a dot
@@ -176,7 +180,7 @@ void ChartReduction::AddColumn(int bottom, int top) {
     Add(m_last);
 }
 
-// The last point of the open column in a row other than `row`; m_first - 1 when there is none.
+/// The last point of the open column in a row other than `row`; m_first - 1 when there is none.
 int ChartReduction::LastElsewhere(int row) const {
     return m_series.Boxes().FindLast(
         m_first, m_last + 1,

@@ -14,8 +14,8 @@ namespace kavlix {
 /// on point by point.
 class ChartReduction {
 public:
-    /// Everything outside `view` is invisible, also to the line's pen. All references must
-    /// outlive this object.
+    /// A pen at a point outside `view` must not paint a visible pixel. All references must outlive this
+    /// object.
     ChartReduction(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, const Rect& view,
                    ChartLine& line)
         : m_series(series), m_xMap(xMap), m_yMap(yMap), m_view(view), m_line(line) {}
@@ -50,8 +50,8 @@ private:
     int m_last = -1; ///< index of the last point; less than m_first when there is no open column
     double m_low = 0;
     double m_high = 0;
-    // Values of x between these two certainly lie in m_column. Without such values the begin is
-    // not below the end.
+    // Values of x between m_columnBegin and m_columnEnd certainly lie in m_column. When there are no such
+    // values, m_columnBegin is not below m_columnEnd.
     double m_columnBegin = 0;
     double m_columnEnd = 0;
 };

@@ -1,4 +1,4 @@
-// The arithmetic of packed device-independent bitmaps and of bitmap files. Sizes are bytes.
+// The arithmetic of packed device-independent bitmaps and of bitmap files. Sizes are in bytes.
 #pragma once
 
 #include <array>
@@ -14,26 +14,28 @@ constexpr std::uint32_t kCoreColorBytes = 3; ///< colour table entry after a cor
 constexpr std::uint32_t kRunLengths8 = 1;    ///< value of biCompression: run lengths, 8 bits per pixel
 constexpr std::uint32_t kRunLengths4 = 2;    ///< value of biCompression: run lengths, 4 bits per pixel
 
-/// Size of a row of pixels, padded to a multiple of 4; 0 for a width below 1.
+/// Size of a row of pixels, padded to a multiple of 4; 0 for a width below 1. `bitCount` is in bits per
+/// pixel.
 std::uint64_t RowBytes(std::int64_t width, std::uint32_t bitCount);
 
-/// Larger than any block, and small enough to add sizes to without overflow.
+/// Larger than any block of memory, and small enough to add sizes to without overflow.
 constexpr std::uint64_t kTooManyBytes = std::uint64_t{1} << 62;
 
 /// Size of all rows, at most kTooManyBytes. A negative height, which means that the top row comes first,
 /// counts as its absolute value.
 std::uint64_t ImageBytes(std::int64_t width, std::int64_t height, std::uint32_t bitCount);
 
-/// Size to reserve for an image whose size GDI does not report. A compressed image gets half as much again,
-/// because compression can enlarge an image.
+/// Size to reserve for an image whose size GDI does not report. For a compressed image the size is one and a
+/// half times ImageBytes, because compression can enlarge an image.
 std::uint64_t ImageRoom(std::int64_t width, std::int64_t height, std::uint32_t bitCount, bool compressed);
 
-/// Colour table entries that a new block of this depth reserves: 2, 16 and 256 for 1, 4 and 8 bits, none for
-/// 16 and 24. A block of 32 bits reserves one entry, because 1 << 32 is computed as 1 << (32 modulo 32).
-/// Hosts rely on this place of the pixels.
+/// Number of colour table entries that a new packed DIB block reserves between its header and its pixels: 2,
+/// 16 and 256 for 1, 4 and 8 bits per pixel, none for 16 and 24. For 32 bits per pixel the number is 1,
+/// because the shift 1 << 32 uses only the low five bits of 32. Hosts rely on the resulting pixel offset.
 std::uint32_t RoomForColors(std::uint32_t bitCount);
 
-/// Colour table entries that belong to a depth: 2, 16 or 256 for 1, 4 or 8 bits, 0 for all other depths.
+/// Number of colour table entries that belong to a colour depth: 2, 16 or 256 for 1, 4 or 8 bits per pixel, 0
+/// for all other depths.
 std::uint16_t ColorsOfDepth(std::uint32_t bitCount);
 
 /// The header of a bitmap file of `fileBytes` bytes whose pixels begin at `bitsOffset`.

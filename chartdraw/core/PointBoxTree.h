@@ -19,7 +19,7 @@ struct ChartPoint {
     bool IsGap() const { return x != x || y != y; } // NaN
 };
 
-constexpr std::size_t kPointsPerChunk = 256; ///< points that lie one behind another in memory
+constexpr std::size_t kPointsPerChunk = 256; ///< points of a chunk, which are contiguous in memory
 using ChartPoints = ChunkedArray<ChartPoint, kPointsPerChunk>;
 
 /// The bounding box of some points. All values are NaN when one of the points is a gap.
@@ -35,8 +35,8 @@ struct PointBox {
 };
 
 /// The bounding boxes of every 32 points of a series, of every 32 of those boxes, and so on. A painter uses
-/// them to skip points that cannot change a pixel. A block is what one box contains. The points after the
-/// last complete block have no box. The boxes take about one byte for each point.
+/// them to skip points that cannot change a pixel. The points inside one box form a block. The points after
+/// the last complete block have no box. The boxes take about one byte for each point.
 class PointBoxTree {
 public:
     /// Call this after each point that is added to `points`. Throws std::bad_alloc, with nothing changed,
@@ -60,9 +60,9 @@ public:
     }
 
     /// Visits the points from `begin` to before `end` in order. `takeBox(box, first, last)` is called for the
-    /// largest blocks first; the result true means that the whole block is dealt with. Otherwise the blocks
-    /// inside it are tried. `takePoints(first, behind)` is called for the points of a lowest block that are
-    /// left, from `first` to before `behind`; these lie one behind another in memory.
+    /// largest blocks first. The result true means that the whole block is dealt with; otherwise the blocks
+    /// inside it are tried. The points of a block of 32 that remain are passed to `takePoints(first,
+    /// behind)`, from `first` to before `behind`; these points are contiguous in memory.
     template <class TakeBox, class TakePoints>
     void Visit(int begin, int end, TakeBox takeBox, TakePoints takePoints) const {
         std::size_t next = static_cast<std::size_t>(begin);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kBlock = 32;   // columns
 constexpr int kLongJump = 8; // columns; shorter strokes go to ThinLine without a look at painted rows
-constexpr double kUnknown = std::numeric_limits<double>::infinity(); // of Block::top
+constexpr double kUnknown = std::numeric_limits<double>::infinity(); // value of Block::top: must be found
 
 } // namespace
 
@@ -43,8 +43,9 @@ void RasterPath::PaintStroke(const Point& from, const Point& to) {
         m_columns.resize(static_cast<std::size_t>(m_clip.Width()));
         m_blocks.resize(static_cast<std::size_t>((m_clip.Width() + kBlock - 1) / kBlock));
     }
-    // From column a to column b, the stroke's pixels differ by at most one row from the straight line between
-    // the left edge of column a and the right edge of column b.
+    // `a` and `b` are rows of the exact straight line: at the left edge of a block's first column and at the
+    // right edge of its last column. Between them the stroke's pixels differ from the line by at most one
+    // row.
     const double slope = static_cast<double>(to.y - from.y) / (to.x - from.x);
     const auto rowAt = [&](int column) { return from.y + (column + 0.5 - from.x) * slope; };
     double a = rowAt(first - 1);
@@ -86,8 +87,8 @@ void RasterPath::FindCommonRows(std::size_t block) {
     m_blocks[block].bottom = common.bottom == m_clip.bottom - 1 ? kUnknown : common.bottom;
 }
 
-// Paints the same pixels as PixelRaster::Stroke, but only in the columns from `first` to `last`. The stroke
-// must cross these columns.
+/// Paints the same pixels as PixelRaster::Stroke, but only in the columns from `first` to `last`. The stroke
+/// must cross these columns.
 void RasterPath::PaintColumns(const Point& from, const Point& to, int first, int last) {
     const bool isLeftwards = to.x < from.x;
     const bool isUpwards = to.y < from.y;

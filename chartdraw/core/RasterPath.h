@@ -30,8 +30,9 @@ private:
         int top = 0;
         int bottom = -1;
     };
-    /// The rows that are painted in all columns of a block. A range that reaches an edge of the clip counts
-    /// as infinite there. `top` is infinite when a column has changed since the rows were found.
+    /// The rows that are painted in all columns of a block. A range that reaches the top or bottom edge of
+    /// the clip extends to minus or plus infinity there. A `top` of plus infinity means that a column has
+    /// changed since the rows were found, so they must be found again.
     struct Block {
         double top = std::numeric_limits<double>::infinity();
         double bottom = 0;
@@ -48,7 +49,7 @@ private:
     ThinLine m_line;
     bool m_isOpen = false;
     Point m_last;
-    std::vector<Rows> m_columns; ///< of the clip; empty until the first long stroke
+    std::vector<Rows> m_columns; ///< painted rows of each clip column; empty until the first long stroke
     std::vector<Block> m_blocks;
 };
 

@@ -1,25 +1,25 @@
-// Median, quartiles and whiskers of a sample.
+// Median, quartiles and whiskers of a set of values.
 #pragma once
 
 #include <vector>
 
 namespace kavlix {
 
-/// The figures of a sample that a box-and-whisker drawing shows.
+/// The figures of a set of values that a box-and-whisker drawing shows.
 struct BoxStatistics {
     double lowerQuartile = 0;
     double median = 0;
     double upperQuartile = 0;
-    int lowerWhisker = 0; ///< the lowest value within 1.5 interquartile ranges below the lower quartile
-    int upperWhisker = 0; ///< the highest value within 1.5 interquartile ranges above the upper quartile
+    int lowerWhisker = 0; ///< the lowest value at most 1.5 interquartile ranges below the lower quartile
+    int upperWhisker = 0; ///< the highest value at most 1.5 interquartile ranges above the upper quartile
 
-    /// Whether a value of the sample lies beyond the whiskers.
+    /// Whether a value lies beyond the whiskers.
     bool IsOutlier(int value) const { return value < lowerWhisker || value > upperWhisker; }
 };
 
 /// Computes `statistics` of `values`. With n values in ascending order, counted from 0, quartile p lies at
-/// rank p * (n - 1). At a fractional rank the quartile is interpolated between the two neighbouring values. A
-/// single value is all five figures. False when there are no values.
+/// rank p * (n - 1). At a fractional rank the quartile is interpolated between the two neighbouring values.
+/// All five figures of a single value are equal to the value. False when there are no values.
 bool ComputeBoxStatistics(std::vector<int> values, BoxStatistics& statistics);
 
 } // namespace kavlix

@@ -9,7 +9,7 @@
 namespace kavlix {
 namespace {
 
-/// Sine and cosine of an angle in degrees. Exactly 0 at multiples of 90 degrees where they should be.
+/// Sine and cosine of an angle in degrees. At multiples of 90 degrees a sine or cosine of 0 is exactly 0.
 struct Turn {
     explicit Turn(int angle) {
         const int turned = NormalAngle(angle);
@@ -20,8 +20,8 @@ struct Turn {
     double cos;
 };
 
-/// The offset, from the upper left corner of a turned text, of the point `along` the text and
-/// `below` its top.
+/// The offset of a point in a turned text from the text's upper left corner. Measured in the unturned text,
+/// the point is `along` to the right of this corner and `below` under it.
 PlanePoint Inside(const Turn& turn, double along, double below) {
     return {along * turn.cos + below * turn.sin, -along * turn.sin + below * turn.cos};
 }
@@ -38,9 +38,9 @@ PlaneRect BoxAt(const Turn& turn, LabelSize size, PlanePoint origin) {
     return box;
 }
 
-/// The smallest stride of ticks `distance` apart that gives each label the room it needs.
+/// Ticks are `distance` apart. The smallest n such that labels at every n-th tick are `needed` apart or more.
 std::int64_t Every(double needed, double distance) {
-    constexpr double kMost = 1e12; // more than any axis has ticks
+    constexpr double kMost = 1e12; // more ticks than any axis has
     if (!(distance > 0))
         return static_cast<std::int64_t>(kMost);
     return std::max<std::int64_t>(1,
@@ -95,7 +95,8 @@ LabelSpread SpreadBelow(LabelSize size, int angle, double distance, double gap, 
                 return {1, row};
         return {Every(size.width + gap, distance), 1};
     }
-    // Parallel texts do not overlap when one lies below the other, or when one ends before the other begins.
+    // Two turned texts do not overlap when, seen in the direction of the texts, one lies below the other
+    // (`passing`) or ends before the other begins (`following`).
     const double passing = (size.height + gap) / std::abs(turn.sin);
     const double following =
         turn.cos == 0 ? passing : (size.width + size.height * std::abs(turn.sin) + gap) / std::abs(turn.cos);

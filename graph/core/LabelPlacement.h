@@ -28,35 +28,36 @@ PlaneRect BoxOf(LabelSize size, int angle, PlanePoint origin);
 /// The same direction as `angle`, from 0 to 359 degrees.
 int NormalAngle(int angle);
 
-/// Places a label below an axis, turned by `angle` degrees counter-clockwise, for the tick at `x`. The box of
-/// the label begins at `top`. At 0 and 180 degrees the middle of the text is below the tick. At 1 to 179
-/// degrees the text ends at the tick, at 181 to 359 degrees the text begins there, so the label never reaches
-/// into the plot.
+/// Places a label below an axis, turned by `angle` degrees counter-clockwise, for the tick at `x`. The top of
+/// the label's box is at `top`. At 0 and 180 degrees the middle of the text is below the tick. At other
+/// angles the higher end of the text is below the tick: the end of the text at 1 to 179 degrees, its
+/// beginning at 181 to 359 degrees.
 LabelPlace PlaceBelow(LabelSize size, int angle, double x, double top);
 
 /// Places a label left of an axis: the right edge of its box is at `right`, the middle of the box at `y`.
 LabelPlace PlaceLeft(LabelSize size, int angle, double right, double y);
 
-/// The width of the longest text whose box, turned by `angle`, is at most `across` wide and `down` high.
-/// `height` is the height of the text. 0 when no text fits.
+/// The greatest width of a text of this `height` such that the upright box around the text, turned by `angle`
+/// degrees, is at most `across` wide and `down` high. 0 when no text fits.
 double LongestText(double height, int angle, double across, double down);
 
 /// Which labels along an axis are drawn, so that none overlap.
 struct LabelSpread {
     std::int64_t every = 1; ///< every 1st, 2nd, 3rd ... label is drawn
-    int rows = 1;           ///< neighbouring labels stand in this number of rows in turn
+    int rows = 1;           ///< number of rows; neighbouring labels stand in different rows
 };
 
-/// The spread of labels of at most `size`, turned by `angle`, along a level axis. Their ticks are `distance`
-/// apart, and `gap` stays free between two labels. Only level labels use more than one row, at most `rows`.
+/// The spread of labels of at most `size`, turned by `angle`, along a horizontal axis. The ticks are
+/// `distance` apart, and `gap` stays free between two labels. Only labels at 0 and 180 degrees use more than
+/// one row, at most `rows`.
 LabelSpread SpreadBelow(LabelSize size, int angle, double distance, double gap, int rows);
 
-/// The spread of labels along an upright axis.
+/// The spread of labels along a vertical axis, with parameters as in SpreadBelow.
 LabelSpread SpreadLeft(LabelSize size, int angle, double distance, double gap);
 
-/// Moves labels along an upright line until none overlap and all lie within [top, bottom]. `middles` holds
-/// the y of their middles, ascending; all labels are `height` high. Keeps the order. False, without any
-/// change, when there is no room for all.
+/// Moves labels up or down until none overlap and all lie within [top, bottom]. `middles` holds the y of the
+/// labels' middles, ascending; all labels are `height` high. Keeps the order. False, without any change, when
+/// there is no room for all.
 bool SpreadMiddles(std::vector<double>& middles, double height, double top, double bottom);
 
 } // namespace kavlix

@@ -13,8 +13,8 @@ namespace {
 
 /// Points of an arc, so close together that their polygon looks round.
 std::vector<PlanePoint> ArcPoints(const PieOutline& pie, double start, double sweep) {
-    constexpr double kMostOff = 0.1;    // units from the arc to the line between two points
-    constexpr double kLongestStep = 15; // degrees
+    constexpr double kMostOff = 0.1;    // logical units; greatest distance from the arc to an edge
+    constexpr double kLongestStep = 15; // degrees between two points
     const double step = DegreesOf(2 * std::acos(1 - kMostOff / std::max(pie.radiusX, 1.0)));
     const int steps = std::max(1, static_cast<int>(std::ceil(sweep / std::min(step, kLongestStep))));
     std::vector<PlanePoint> points;
@@ -57,7 +57,7 @@ double PieOutline::ArcLength(const Sector& sector) const {
 }
 
 bool PieOutline::Holds(const Sector& sector, const PlaneRect& box) const {
-    constexpr double kClear = 0.97; // as a fraction of the radius
+    constexpr double kClear = 0.97; // greatest distance of a corner from the centre, in radii
     for (const PlanePoint& corner : {PlanePoint{box.left, box.top}, PlanePoint{box.right, box.top},
                                      PlanePoint{box.left, box.bottom}, PlanePoint{box.right, box.bottom}}) {
         const double x = (corner.x - centre.x) / radiusX;
@@ -77,7 +77,8 @@ std::vector<PlanePoint> SectorCorners(const PieOutline& pie, double start, doubl
 
 std::vector<RimArc> VisibleRim(double start, double sweep) {
     std::vector<RimArc> arcs;
-    // A sector may run past twelve o'clock, up to three o'clock of the next turn and beyond.
+    // `start` + `sweep` may exceed 360 degrees, so the part of the next turn between three and nine o'clock
+    // is tested too.
     for (const int turn : {0, kFullTurn}) {
         const double from = std::max(start, 1.0 * kQuarterTurn + turn);
         const double to = std::min(start + sweep, 1.0 * kHalfTurn + kQuarterTurn + turn);

@@ -1,4 +1,4 @@
-// Sectors, rims and the arrangement of pies.
+// Sectors, rims and the arrangement of pies. The rim is the side wall of a tilted pie.
 #pragma once
 
 #include <functional>
@@ -32,10 +32,10 @@ struct PieOutline {
 
     /// The place at `angle`. `reach` is the distance from the centre as a multiple of the radius.
     PlanePoint At(double angle, double reach = 1) const;
-    /// The length of a sector's arc, as in a pie that is not tilted.
+    /// The length of a sector's arc on a circle of radius `radiusX`: as if the pie were not tilted.
     double ArcLength(const Sector& sector) const;
-    /// Whether `box` lies in the sector, and a little inside the outline. Checks the corners only, so the
-    /// middle of the box must lie in the sector.
+    /// Whether `box` lies in the sector, and a little inside the outline. Checks the corners only: the caller
+    /// makes sure that the middle of the box lies in the sector.
     bool Holds(const Sector& sector, const PlaneRect& box) const;
 };
 
@@ -63,8 +63,8 @@ struct PieGrid {
 };
 
 /// Arranges `count` boxes in a room of `width` x `height` so that the pies become as large as possible.
-/// `radius` gives the radius of a pie in a box of a width and a height. A box is at least `smallest` wide and
-/// high; when there is no room for all boxes, the grid has fewer than `count`.
+/// `radius(w, h)` is the radius of a pie in a box of width w and height h. A box is at least `smallest` wide
+/// and high, unless the room is smaller. When not all boxes have room, the grid has fewer than `count`.
 PieGrid ArrangePies(int count, double width, double height, double smallest,
                     const std::function<double(double, double)>& radius);
 

@@ -6,7 +6,8 @@
 namespace kavlix {
 namespace {
 
-/// Narrows [enter, leave] to where start + t * delta lies within [low, high].
+/// Narrows the range [enter, leave] of t to the part where start + t * delta lies within [low, high]. False
+/// when no part remains.
 bool Narrow(double start, double delta, double low, double high, double& enter, double& leave) {
     if (delta == 0)
         return start >= low && start <= high;

@@ -1,4 +1,4 @@
-// Points and rectangles of a picture, with fractions of a unit.
+// Points and rectangles of a picture, with fractional coordinates.
 #pragma once
 
 namespace kavlix {
@@ -20,8 +20,8 @@ struct PlaneRect {
     double Height() const { return bottom - top; }
 };
 
-/// Cuts the stroke from `a` to `b` to its part inside `area`. The edges are inside. False when no
-/// part is inside.
+/// Cuts the stroke from `a` to `b` to its part inside `area`. The edges of `area` count as inside. False when
+/// no part is inside.
 bool ClipStroke(const PlaneRect& area, PlanePoint& a, PlanePoint& b);
 
 } // namespace kavlix

@@ -21,12 +21,12 @@ struct ScaleTicks {
 };
 
 /// Chooses the ticks of an axis from `min` to `max`, in either order, in steps of `step`. The sign of `step`
-/// is ignored; 0 stands for a tenth of the range.
+/// is ignored; 0 stands for a tenth of the range, at least 1.
 ///
 /// `extent` is the length of the axis. Ticks are at least `tickGap` apart and labels at least `labelGap`, in
-/// the unit of `extent`. Where they would be closer, only every 2nd, 5th, 10th, 20th ... remains. Ticks count
-/// from `min`. They count from 0 when `fromZero`, or when a tick counted from `min` falls on 0. The time does
-/// not depend on the range.
+/// the unit of `extent`. Where they would be closer, only every 2nd, 5th, 10th, 20th ... remains. The anchor
+/// is 0 when `fromZero` is true or when a tick counted from `min` falls on 0; otherwise the anchor is `min`.
+/// The running time does not depend on the range.
 ScaleTicks ChooseTicks(std::int64_t min, std::int64_t max, std::int64_t step, double extent, double tickGap,
                        double labelGap, bool fromZero = false);
 
@@ -37,8 +37,8 @@ struct RoundLimits {
     std::int64_t step = 1;
 };
 
-/// Limits that enclose the numbers from `low` to `high`, as multiples of the step. The step is 1, 2 or 5
-/// times a power of ten, and there are about `steps` of them.
+/// Limits that enclose the numbers from `low` to `high` and are multiples of the step. The step is 1, 2 or 5
+/// times a power of ten, so large that the axis has about `steps` steps or fewer.
 RoundLimits ChooseLimits(std::int64_t low, std::int64_t high, int steps);
 
 } // namespace kavlix

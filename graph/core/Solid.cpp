@@ -9,7 +9,7 @@
 namespace kavlix {
 namespace {
 
-constexpr double kMostOfPlot = 0.5; // greatest depth, as a fraction of the plot
+constexpr double kMostOfPlot = 0.5; // greatest depth, as a fraction of the plot's width or height
 constexpr double kDepthSlope = 0.6; // units up for each unit to the right
 
 } // namespace
@@ -57,7 +57,8 @@ Face MakeRibbon(PlanePoint a, PlanePoint b, Depth depth, double thinnest) {
     Face face = {{a, b, {b.x + depth.x, b.y - depth.y}, {a.x + depth.x, a.y - depth.y}}};
     if (!(length > 0))
         return face;
-    // The width of the ribbon, measured across the line; positive to the right of the line.
+    // The width of the ribbon, at right angles to the line from `a` to `b`. Positive when the ribbon lies to
+    // the right of the line, seen from `a` towards `b`.
     const double width = (-depth.y * along.x - depth.x * along.y) / length;
     const double missing = thinnest - std::abs(width);
     if (missing > 0) {

@@ -1,8 +1,11 @@
 // The values and texts of a value axis' ticks.
 #include "graphctrl/core/AxisTicks.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
+
+#include "plot/Numeric.h"
 
 namespace kavlix {
 
@@ -17,11 +20,9 @@ ValueTicks::ValueTicks(double min, double max, int ticks, int exponent)
 
 namespace {
 
-/// GDI draws at most 8192 characters of a text, so more decimal places are useless.
-constexpr int kMostDecimals = 8192;
-
+/// More decimal places than GDI draws characters are useless.
 int Precision(int decimals) {
-    return std::clamp(decimals, 0, kMostDecimals);
+    return std::clamp(decimals, 0, kLongestText);
 }
 
 } // namespace

@@ -10,7 +10,8 @@
 namespace kavlix {
 
 /// The values of the ticks of a value axis from bottom to top: the range in equal steps, divided by a power
-/// of ten. Each value is the last one plus a step, so rounding errors add up: the labels show that.
+/// of ten. Each value is the previous value plus the step. So rounding errors add up, and labels with many
+/// decimal places show them.
 class ValueTicks {
 public:
     /// `ticks` is the number of ticks, at least 2. The values are divided by 10 to the power of `exponent`,
@@ -34,17 +35,17 @@ int LongestTick(int decimals);
 /// Where labelled ticks may stand along the X axis, in logical units.
 struct TickRoom {
     int left = 0;   ///< where the axis begins
-    int minGap = 0; ///< between the first two ticks
-    int from = 0;   ///< left end of the visible part; ticks left of here are not made
+    int minGap = 0; ///< least distance from `left` to the second tick
+    int from = 0;   ///< left end of the visible part; ticks further left are not made
     int to = 0;     ///< right end of the visible part
 };
 
 /// Chooses which of many points along the X axis get a labelled tick.
 ///
 /// The first tick stands at the first point at or right of `room.left`, the second at the first point at
-/// least `room.minGap` right of `room.left`. The index of the second point is the interval of all further
-/// ticks. Of several ticks in one device column only the first is made. The points of ticks are found by
-/// binary search, so the cost grows with the number of ticks and not of points.
+/// least `room.minGap` right of `room.left`. If the second tick stands at point k, each further tick stands k
+/// points after the tick before it. Of several ticks in one device column only the first is made. The points
+/// of ticks are found by binary search, so the cost grows with the number of ticks and not of points.
 ///
 /// The positions `xOf(0)`, `xOf(1)`, ... of the `count` points never decrease. `nextColumn(x)` is the first
 /// position right of `x` in another device column. `emit(k, x)` is called for each visible tick.

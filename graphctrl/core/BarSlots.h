@@ -24,12 +24,12 @@ struct BarSlots {
 };
 
 /// Divides `plotWidth` (logical units) among the samples with `min` <= X <= `max`. The number of slots is the
-/// number of visible samples of the first dataset that has any. `sizes` holds the number of samples of each
+/// number of visible samples of the first dataset that has one. `sizes` holds the number of samples of each
 /// of `sizeCount` datasets. False, with `slots` unchanged, when no sample is visible.
 bool ComputeBarSlots(const int* sizes, int sizeCount, double min, double max, int plotWidth, BarSlots& slots);
 
-/// The samples that have a slot, of a dataset with `size` samples. Slot 0 belongs to the first sample with X
-/// >= `min`, each further slot to the next sample.
+/// Those samples of a dataset with `size` samples that have a slot. Slot 0 belongs to the first sample with
+/// X >= `min`, slot 1 to the sample after it, and so on.
 IndexRange IndicesInSlots(int size, double min, const BarSlots& slots);
 
 } // namespace kavlix

@@ -6,7 +6,6 @@
 #include "plot/Numeric.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr int kLabelRows = 15; // a label row is 1/15 of the client area's height

@@ -8,7 +8,7 @@ namespace kavlix {
 /// What the layout of a graph control depends on. Lengths in logical units; the host may have set any number.
 struct LayoutInput {
     Rect client;           ///< the client area
-    bool bars = false;     ///< the bar style or an unknown style, in which an X tick takes more room
+    bool bars = false;     ///< the bar style or an unknown style: X ticks stand farther apart
     bool twoAxis = false;  ///< the Y2 axis is shown
     bool caption = false;  ///< a caption band is shown instead of the title
     int captionBottom = 0; ///< bottom of the caption band, whose height follows from its font

@@ -7,19 +7,18 @@
 #include "plot/Nearest.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr long long kTooFar = 1000000; // logical units
 
-/// Stores the slots, and the samples of the first dataset with samples that have a slot. False when there
-/// is no bar.
+/// Stores the slots in `slots`, and in `indices` those samples of the first dataset with samples that have a
+/// slot. False when there is no bar.
 bool FindGroups(const int* sizes, int sizeCount, double min, double max, const Rect& plot, BarSlots& slots,
                 IndexRange& indices) {
     if (!ComputeBarSlots(sizes, sizeCount, min, max, plot.Width(), slots) || slots.barWidth == 0)
         return false;
     int dataset = 0;
-    while (sizes[dataset] <= 0) // ends: where there are slots, a dataset has samples
+    while (sizes[dataset] <= 0) // ends, because slots exist only if a dataset has samples
         ++dataset;
     indices = IndicesInSlots(sizes[dataset], min, slots);
     return true;

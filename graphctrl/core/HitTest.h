@@ -6,13 +6,14 @@
 
 namespace kavlix {
 
-/// The sample of the samples 0 to `count` - 1 whose position is nearest to `x`; of equally near ones the
-/// first. Stores the distance in `distance`. -1, with `distance` unchanged, when there is no sample or the
-/// samples have no positions. The search is binary.
+/// The index, 0 to `count` - 1, of the sample whose position is nearest to `x`; of equally near samples the
+/// first. Stores the distance from `x` in `distance`, in logical units. -1, with `distance` unchanged, when
+/// there is no sample or the samples have no positions. A binary search.
 int NearestIndex(const LinearMap& xMap, int count, int x, long long& distance);
 
-/// The nearest sample of the first dataset whose nearest sample is less than 1,000,000 logical units away
-/// from `x`; -1 if there is none. `sizes` holds the number of samples of each of `sizeCount` datasets.
+/// The same for several datasets: takes the first dataset whose nearest sample is less than 1,000,000 logical
+/// units away from `x`. -1 if no dataset has such a sample. `sizes` holds the number of samples of each of
+/// `sizeCount` datasets.
 int NearestIndex(const LinearMap& xMap, const int* sizes, int sizeCount, int x);
 
 /// The sample whose group of bars, widened by half a bar on either side, holds `point` (logical units);

@@ -12,7 +12,6 @@
 #endif
 
 namespace kavlix {
-
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -21,7 +20,7 @@ constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 #ifdef KAVLIX_TWO_AT_ONCE
 
 /// Finds the lowest and highest of many values, two values per instruction. The processor's minimum of a NaN
-/// and a number may be either, so NaNs are recorded apart.
+/// and a number may be the NaN or the number, so m_gaps records whether there was any NaN.
 class ExtremesAccumulator {
 public:
     void Add(const double* values, std::int64_t count) {

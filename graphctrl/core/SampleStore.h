@@ -15,12 +15,12 @@ namespace kavlix {
 /// takes time in proportion to the number of values removed.
 ///
 /// Values lie in chunks of a fixed size; the first chunks are smaller. The store keeps the extremes (lowest
-/// and highest) of every block of 32 values, of every half chunk, and of every chunk, so that the extremes of
-/// a long range are found without reading all values. The extremes lie apart from the values, so that such a
-/// search touches little memory.
+/// and highest) of every block of 32 values, of every half and of the whole of every chunk of full size, so
+/// that the extremes of a long range are found without reading all values. The extremes lie apart from the
+/// values, so that a search for extremes touches little memory.
 ///
-/// A value's number counts the values since the last Clear; removing from the head does not change the
-/// numbers. Blocks, halves and chunks are aligned to these numbers.
+/// Besides its index, every value has a number. The first value after a Clear has the number 0. Removing from
+/// the head changes the indices but not the numbers. Blocks, halves and chunks are aligned to the numbers.
 class SampleStore {
     struct Chunk;
 
@@ -39,8 +39,8 @@ public:
     /// Whether there is a value `i`.
     bool Has(int i) const { return i >= 0 && i < Size(); }
 
-    /// Reads values near one another faster than the store's operator does, because it keeps the last chunk.
-    /// The store must not change during the reader's lifetime.
+    /// Reads values near one another faster than the store's operator does, because the reader remembers the
+    /// last chunk. The store must not change during the reader's lifetime.
     class Reader {
     public:
         explicit Reader(const SampleStore& store) : m_store(store) {}
@@ -109,8 +109,9 @@ public:
     /// Prefetches the memory that ExtremesOf reads around value `i`, which must exist.
     void Prefetch(int i) const;
 
-    /// The last of the values `first` to `last` for which `isWanted(value)`; `first` - 1 if there is none.
-    /// When `isUnwanted(extremes)` returns true for a block or half, the search skips all its values.
+    /// Index of the last of the values `first` to `last` for which `isWanted(value)` is true; `first` - 1 if
+    /// there is none. The search skips every block or half for whose extremes `isUnwanted(extremes)` is true:
+    /// none of its values may be a wanted one.
     template <class IsUnwanted, class IsWanted>
     int FindLast(int first, int last, IsUnwanted isUnwanted, IsWanted isWanted) const {
         std::int64_t end = m_begin + last + 1;
@@ -252,7 +253,7 @@ private:
     void SummarizeBlock(std::int64_t blockStart);
 
     std::int64_t m_begin = 0;          ///< number of value 0
-    double* m_next = nullptr;          ///< place of the next value
+    double* m_next = nullptr;          ///< where the next value will be stored
     double* m_blockEnd = nullptr;      ///< end of the last block
     std::int64_t m_blockEndNumber = 0; ///< number of the first value behind the last block
     std::int64_t m_summarized = 0;     ///< extremes of blocks, halves and chunks are valid up to this number

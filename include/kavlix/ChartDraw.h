@@ -3,12 +3,12 @@
 
 #include <afxwin.h>
 
+#include <kavlix/Dataset.h>
+#include <kavlix/Export.h>
+
 #include <functional>
 #include <memory>
 #include <vector>
-
-#include <kavlix/Dataset.h>
-#include <kavlix/Export.h>
 
 namespace kavlix {
 class ChartSeries;
@@ -40,7 +40,7 @@ public:
 
     using CWnd::Create;
     /// Creates the window, a child of `pParentWnd` if `dwStyle` contains WS_CHILD. FALSE when the window
-    /// cannot be created. Throws CResourceException when the window class cannot be registered.
+    /// cannot be created. Throws CResourceException* when the window class cannot be registered.
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     // ---- Data. With an invalid index an operation fails and changes nothing. None of them repaints. ----
@@ -75,25 +75,26 @@ public:
     /// Width of the line in pixels, clamped to 0..100; 0 and 1 both draw one pixel.
     BOOL SetLineSize(int nDataset, int nSize);
     /// Whether a line joins the points; default TRUE. In a dataset without markers, a point between two gaps,
-    /// and a line that falls on a single pixel, appear as a dot of the line's width, at least 3 pixels.
+    /// and a line that falls on a single pixel, appear as a dot: as wide as the line, but at least 3 pixels.
     BOOL ShowLine(int nDataset, BOOL bShow);
-    /// Marker at each point inside the plot, reaching 3 pixels to every side; default none.
+    /// Marker at each point inside the plot; default none. A marker extends 3 pixels from its point to every
+    /// side, a triangle only 2 pixels downwards.
     BOOL SetMarkerType(int nDataset, CDataset::MarkerType type);
     /// Whether the dataset is drawn and influences the scales; default TRUE.
     BOOL ShowDataset(int nDataset, BOOL bShow);
 
     // ---- Scales. None of them repaints. ----
 
-    /// Lets CalcDatas find the scale from the points: a range with round ends that holds all points, in steps
-    /// of 1, 2, 2.5 or 5 times a power of ten. This is the default.
+    /// Lets CalcDatas find the scale from the points: a range with round ends that holds all points of the
+    /// visible datasets, in steps of 1, 2, 2.5 or 5 times a power of ten. This is the default.
     void SetAutoXScale();
     void SetAutoYScale();
-    /// Fixes a scale. Points outside it are clipped. Ticks stand at the multiples of `dStep`; some of them
-    /// are left out if their labels have no room. If `dStep` is 0, CalcDatas finds a round step. FALSE, with
-    /// nothing changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
+    /// Fixes a scale. Points outside the scale are clipped. Ticks stand at the multiples of `dStep`; if their
+    /// labels need more room, a multiple of `dStep` is the step. If `dStep` is 0, CalcDatas finds a round
+    /// step. FALSE, with nothing changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
     BOOL SetXScale(double dMin, double dMax, double dStep = 0);
     BOOL SetYScale(double dMin, double dMax, double dStep = 0);
-    /// The scale that CalcDatas found last; 0 to 1 in steps of 0.2 before its first call.
+    /// The scale at the last CalcDatas; 0 to 1 in steps of 0.2 before the first CalcDatas.
     void GetXScale(double& dMin, double& dMax, double& dStep) const;
     void GetYScale(double& dMin, double& dMax, double& dStep) const;
 
@@ -124,12 +125,13 @@ public:
 
     /// Invalidates the whole window without erase. Does nothing without a window.
     void Redraw();
-    /// Draws the chart on any DC, in logical units, with the chart's corner at (0, 0). Calls PaintBkGnd,
-    /// DrawTitle, DrawGrid, DrawDatasets, DrawAxes, DrawYScale and DrawXScale in this order. CalcDatas
-    /// must have run before.
+    /// Draws the chart on any DC, one logical unit to a pixel, with the chart's upper left corner at (0, 0).
+    /// Calls PaintBkGnd, DrawTitle, DrawGrid, DrawDatasets, DrawAxes, DrawYScale and DrawXScale in this
+    /// order. CalcDatas must have run before.
     void DrawChart(CDC& dc);
 
-    // ---- Image export. Calls CalcDatas first if data, properties or the window's size have changed. ----
+    // ---- Image export. CopyToClipboard, CopyToFile and SaveImage first call CalcDatas if data, properties
+    // or the window's size have changed. ----
 
     /// Puts the chart on the clipboard as an enhanced metafile of the chart's size with the description
     /// "Ruvex Trace". False, with the clipboard unchanged, without a window, when memory runs out, or when
@@ -140,9 +142,9 @@ public:
     virtual bool CopyToFile();
     /// Saves the chart as a bitmap file in the screen's colour depth and replaces an existing file. False
     /// without a window, for an empty client area, when memory runs out, or when the file cannot be created.
-    /// Throws CFileException when writing fails; the file then stays incomplete. On a 32-bit screen all
-    /// pixels in the file are shifted by 4 bytes, which hosts rely on: use SaveImage for a file that every
-    /// program shows correctly.
+    /// Throws CFileException when writing fails; the file then stays incomplete. On a 32-bit screen the
+    /// file's pixels begin 4 bytes (one pixel) after the place that the file's header gives. Hosts rely on
+    /// this offset. Use SaveImage for a file that every program shows correctly.
     virtual bool CopyToFile(CString strFileName);
     /// Copies a bitmap's pixels to a new packed DIB block. The caller frees the block with GlobalFree.
     /// `bitmap` must not be selected into a DC; `pPal` may be null. A block of 32 bits per pixel has one
@@ -152,7 +154,7 @@ public:
     /// Size in bytes of a DIB's colour table. `lpbi` points to a BITMAPINFOHEADER or BITMAPCOREHEADER.
     virtual WORD WINAPI PaletteSize(LPSTR lpbi);
     /// Number of entries in a DIB's colour table: the header's biClrUsed, or if that is 0 or missing, the
-    /// number that belongs to the colour depth. `lpbi` as above.
+    /// number that belongs to the colour depth. `lpbi` as in PaletteSize.
     virtual WORD WINAPI DIBNumColors(LPSTR lpbi);
     /// Writes a packed DIB block to `file` as a bitmap file. The caller keeps the block; its biSizeImage is
     /// updated. FALSE, with nothing written, when `hDib` is no valid block, has no BITMAPINFOHEADER, or is
@@ -189,15 +191,15 @@ protected:
 
 protected:
     CRect m_rectChart{0, 0, 0, 0}; ///< the client rectangle at the last CalcDatas
-    CRect m_rectPlot{0, 0, 0, 0};  ///< the part in which data is drawn; right and bottom lie outside
+    CRect m_rectPlot{0, 0, 0, 0};  ///< the part of m_rectChart in which data is drawn
 
 private:
     struct Dataset;
     struct FixedScale {
-        bool fixed = false; ///< false: the scale is found from the points, and the other members mean nothing
+        bool fixed = false; ///< false: CalcDatas finds the scale and ignores the other members
         double min = 0;
         double max = 0;
-        double step = 0; ///< 0: a round step is found
+        double step = 0; ///< 0: CalcDatas finds a round step
     };
 
     bool IsDataset(int nDataset) const { return nDataset >= 0 && nDataset < GetDatasetCount(); }
@@ -219,9 +221,9 @@ private:
     void DrawLine(CDC& dc, const Dataset& dataset) const;
     void DrawMarkers(CDC& dc, const Dataset& dataset) const;
 
-    std::unique_ptr<kavlix::Offscreen> m_Picture; ///< WM_PAINT composes here; kept for the next paint
+    std::unique_ptr<kavlix::Offscreen> m_Picture; ///< WM_PAINT draws into this bitmap and keeps it
     std::vector<std::unique_ptr<Dataset>> m_Datasets;
-    std::size_t m_NextColor = 0; ///< index of the next dataset's colour
+    std::size_t m_NextColor = 0; ///< index of the colour that AddDataset takes next
     FixedScale m_XFixed;
     FixedScale m_YFixed;
     std::unique_ptr<kavlix::RoundScale> m_XScale;
@@ -244,9 +246,10 @@ private:
     COLORREF m_ZeroLineColor = RGB(176, 176, 176);
 
     // Results of the last CalcDatas.
-    bool m_Changed = true;  ///< data or properties have changed since the last CalcDatas
-    CSize m_CalcSize{0, 0}; ///< size of the client area at that time
-    int m_FontPixels = 0;   ///< character height of the texts' font
+    bool m_Changed =
+        true; ///< data, or a property that the layout depends on, have changed since the last CalcDatas
+    CSize m_CalcSize{0, 0}; ///< size of the client area at the last CalcDatas
+    int m_FontPixels = 0;   ///< character height of the texts' font, pixels
     int m_TextHeight = 0;   ///< line height of the texts' font, pixels
     int m_TitleHeight = 0;  ///< line height of the title's font, pixels
     bool m_ShowTitle = false;

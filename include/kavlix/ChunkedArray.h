@@ -37,7 +37,7 @@ public:
     /// The newest element, which must exist.
     const T& Back() const { return (*this)[m_size - 1]; }
 
-    /// Appends `value`. When an allocation fails, its exception leaves and nothing has changed.
+    /// Appends `value`. When an allocation fails, nothing has changed and the exception passes on.
     void Add(T value) {
         const std::size_t place = m_head + m_size;
         if (!m_chunks)

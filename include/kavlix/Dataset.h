@@ -15,11 +15,11 @@ class SampleStore;
 /// One series of a graph control: its samples in order of arrival and how they are drawn. A sample's X is its
 /// index 0, 1, 2, ... and takes no memory.
 ///
-/// The control owns its datasets, a fixed array. Nothing here repaints.
+/// A graph control owns a fixed array of datasets. No member of this class repaints.
 class KAVLIX_API CDataset : public CObject {
 public:
-    /// Marker drawn at each point of a line, 90 logical units (3 pixels) to every side. Other
-    /// values draw none.
+    /// Marker at each point of a line. A marker extends 90 logical units (3 pixels) from its point to every
+    /// side, a triangle only 60 downwards. Values not listed draw none.
     enum MarkerType : int {
         MarkerNone = 0,
         MarkerSquare = 1,   ///< outline of a square
@@ -30,7 +30,7 @@ public:
         MarkerTypeCount     ///< number of values above; draws no marker
     };
 
-    /// Line widths that are drawn: 0 to MaxLineSize logical units of 1/30 pixel.
+    /// The widest line that is drawn, in logical units (1/30 pixel). Larger line sizes draw this width.
     static constexpr int MaxLineSize = 1000;
 
     /// An empty series.
@@ -40,7 +40,7 @@ public:
     CDataset& operator=(const CDataset&) = delete;
 
     /// Appends the sample `y`. `*pX` receives the sample's X unless `pX` is null. Result 1. Result 0, after a
-    /// message box, when memory ran out: nothing is stored, `*pX` is not written, and no exception leaves.
+    /// message box, when memory ran out: nothing is stored and `*pX` is not written. Never throws.
     BOOL AddData(double y, double* pX);
     /// Appends the sample `y`. Results as those of AddData.
     BOOL AddYData(double y);
@@ -55,7 +55,8 @@ public:
     /// the end, a count below 1 none. Result 0 when there is no sample `i`. Removing from the head takes time
     /// in proportion to `count`, however many samples remain.
     BOOL RemoveYData(int i, int count);
-    /// Removes all samples but the first. An empty series gets one sample 0, which can fail as AddData does.
+    /// Removes all samples but the first. An empty series gets one sample of the value 0. Result 1. Result 0,
+    /// after a message box, when memory ran out for this sample.
     BOOL KeepOne();
     /// Removes all samples and frees their memory. Colour, marker, line size, legend and visibility stay.
     void RemoveAll();

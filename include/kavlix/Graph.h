@@ -3,10 +3,10 @@
 
 #include <afxwin.h>
 
-#include <cstdint>
-
 #include <kavlix/Export.h>
 #include <kavlix/GraphSeries.h>
+
+#include <cstdint>
 
 struct CPrintInfo;
 
@@ -39,7 +39,7 @@ public:
     CGraphLegendText(int index, const CString& text) : legendIndex(index), legendText(text) {}
     ~CGraphLegendText() override;
 
-    int legendIndex; ///< the group that the host named; lookups go by position in the list
+    int legendIndex; ///< the group that the host named; not used to find texts: see CGraph::SetLegend
     CString legendText;
 };
 
@@ -73,24 +73,26 @@ private:
 /// A CGraph needs no window of its own and handles no messages. Setters only store; the next DrawGraph or
 /// PrintGraph shows what they stored. The host adds series (CGraphSeries), group colours and legend texts.
 ///
-/// A group is a key of the series. Group j has the colour at position j of the colour list, and row j of the
-/// legend. Texts have the text colour of the DC; a share inside a pie is black or white. The types are:
-/// - Bar, 3D bar: each series has a slot with a bar for each group, from the zero line to the value.
+/// Every value of a series has a key, its group. Group j has the colour at position j of the colour list, and
+/// row j of the legend. Texts have the text colour of the DC; a percentage inside a pie is black or white.
+/// The types are:
+/// - Bar, 3D bar: each series has an equal part of the axis, with a bar for each group, from the zero line to
+///   the value.
 /// - Stacked bar, 3D stacked bar: the groups of a series stand on top of each other. Negative values hang
 ///   below the zero line.
-/// - Line, 3D line: each group has a line (a ribbon) across the series. A missing value is a gap.
+/// - Line, 3D line: each group has a line (in 3D a ribbon) across the series. A missing value is a gap.
 /// - Pie, 3D pie: each series has a pie, with a sector for each group and its share in percent. Values
-///   of 0 and below have no sector. Without room for all pies the first ones are shown, and the number
-///   of the others.
+///   of 0 and below have no sector. If there is no room for all pies, the first ones are shown, and a text
+///   tells how many are left out.
 /// - XY line, scatter: each series is a set of points: keys are X values, values are Y values. Each series
-///   has a marker shape of its own. XY line joins the points in ascending order of X. A point has the colour
-///   of its group, a line has the colour at the position of its series. With SetLegendBySeries points have
-///   the colour of their series too.
+///   has a marker shape of its own. XY line joins the points in ascending order of X. In the colour
+///   list, a point has the colour at the position of its key, and a line the colour at the position of its
+///   series. With SetLegendBySeries points have the colour of their series too.
 /// - Box-whisker: each series has a box from the lower to the upper quartile of its values, with the median
 ///   as a line in the box. The whiskers reach to the last value within 1.5 interquartile ranges of the box.
-///   Values beyond are circles. Quartile p of n values in order, counted from 0, lies at rank p * (n - 1),
-///   interpolated between the two neighbouring values. A box is grey, and a circle has the colour of its
-///   group. With SetLegendBySeries both have the colour of their series.
+///   Values beyond are circles. Quartile p (0.25, 0.5 or 0.75) of n ascending values lies at index
+///   p * (n - 1), interpolated between the two neighbouring values. A box is grey, a circle has the colour
+///   of its group. With SetLegendBySeries both have the colour of their series.
 ///
 /// The value axis runs from the lower to the upper tick limit. Shapes beyond the limits are cut at the plot's
 /// edge. Labels that would overlap stand in two rows, or some are left out. A label too long for its room
@@ -99,32 +101,34 @@ class KAVLIX_API CGraph : public CStatic {
 public:
     /// A bar graph without a colour list: every group is black until SetColor creates the list.
     CGraph();
-    /// `type` is one of the GraphType codes. The graph keeps any other code, and draws axes without series. A
-    /// type other than 0 counts as a choice of the quadrant type, also when the type changes later.
+    /// `type` is one of the GraphType codes. With any other code the graph draws axes without series. After
+    /// a `type` other than GraphTypeBar, DrawGraph never chooses the quadrant type (SetGraphQuadType) itself,
+    /// also if the host makes the graph a bar graph later.
     explicit CGraph(int type);
     /// Deletes all series, colours and legend texts.
     ~CGraph() override;
     CGraph(const CGraph&) = delete;
     CGraph& operator=(const CGraph&) = delete;
 
-    /// @name Settings: setters store and repaint nothing
-    /// @{
+    // ---- Settings. Setters store their arguments and repaint nothing. The default of a setting is the
+    // initial value of its data member below. ----
+
     void SetGraphType(int type) { graphType = type; }
     /// Angle of the series labels in degrees, counter-clockwise. Full turns make no difference.
     void SetXAxisAlignment(int degrees) { xAxisAlign = degrees; }
     void SetGraphTitle(CString title) { graphTitle = title; }
-    /// Caption below the plot. The number of its characters also sets the room for turned series labels below
-    /// the plot, and in horizontal and scatter graphs the room for the labels on the left.
+    /// Caption below the plot. The number of characters in the caption also sets the height for turned series
+    /// labels below the plot, and in horizontal and scatter graphs the width for the labels on the left.
     void SetXAxisLabel(CString label);
     /// Caption left of the plot. The caption reads upwards.
     void SetYAxisLabel(CString label);
-    /// Height of the series labels in pixels (default 12). Sizes below 1 count as 1.
+    /// Height of the series labels in pixels. Sizes below 1 count as 1.
     void SetXTickFontSize(int size) { xTickFontSize = size; }
-    /// Height of the numbers at the axes in pixels (default 12). Sizes below 1 count as 1.
+    /// Height of the numbers at the axes in pixels. Sizes below 1 count as 1.
     void SetYTickFontSize(int size) { yTickFontSize = size; }
-    /// Height of the legend texts in pixels (default 12). Sizes below 1 count as 1.
+    /// Height of the legend texts in pixels. Sizes below 1 count as 1.
     void SetLegendFontSize(int size) { legendFontSize = size; }
-    /// FALSE (the default): the legend has a row for each group. TRUE: in XY line, scatter and box-whisker
+    /// FALSE: the legend has a row for each group. TRUE: in XY line, scatter and box-whisker
     /// graphs the legend has a row for each series, and all points of a series have the colour of that row.
     /// Other types have rows for groups in either case. The rows' texts are always those of SetLegend.
     void SetLegendBySeries(BOOL bySeries) { legendBySeries = bySeries; }
@@ -133,48 +137,48 @@ public:
     /// Pies look the same for both; in a scatter graph values always grow upwards.
     void SetGraphAlignment(int alignment) { graphAlignment = graphType == GraphType3DLine ? 1 : alignment; }
     /// Limits of the value axis, and the step between two ticks. The number of intervals is the range divided
-    /// by the step, rounded up. A step of 0 leaves all three unchanged. Drawing ignores the sign of the step,
-    /// draws an axis that runs down when `max` is below `min`, and takes equal limits as a range of 1.
+    /// by the step, rounded up. A step of 0 leaves all three unchanged. Drawing ignores the sign of the step.
+    /// If `max` is below `min`, values grow the other way. If both are equal, the axis ends at `min` + 1.
     void SetTickLimits(int min, int max, int step);
-    /// Depth of the 3D types as a fraction of the plot's width (default 0.05). Drawing limits the depth to
+    /// Depth of the 3D types as a fraction of the plot's width. Drawing limits the depth to
     /// half of the plot. A negative ratio, or NaN, gives no depth.
     void Set3DDepthRatio(double ratio) { depthRatio = ratio; }
-    /// Chooses the quadrants of a bar graph; ignored for other types. The graph shows negative keys with
-    /// types 2 and 4, and negative values with types 3 and 4; type 1 shows neither. Until the host has set
-    /// one of these, DrawGraph chooses the type. Any other number sets 1 and does not end that choice. With 3
-    /// and 4 the zero line lies in the middle of the value axis, and each half reaches to the limit of
-    /// SetTickLimits with the larger absolute value.
+    /// Chooses the quadrants of a bar graph; ignored for other graph types. 2 and 4 add the quadrants of
+    /// negative keys, 3 and 4 those of negative values; 1 adds none. Until the host has set one of these
+    /// numbers, every drawing chooses one from the data. Any other number sets 1, and drawings still choose.
+    /// With 3 and 4 the zero line lies in the middle of the value axis, and each half reaches to the limit
+    /// of SetTickLimits with the larger absolute value.
     void SetGraphQuadType(int type);
-    /// How far each ribbon of a 3D line graph reaches into the depth, in pixels to the right and up. 0, 0
-    /// (the default): the ribbons share the depth of Set3DDepthRatio. All ribbons together reach at most over
+    /// How far each ribbon of a 3D line graph reaches into the depth, in pixels to the right and up. 0, 0:
+    /// the ribbons share the depth of Set3DDepthRatio. All ribbons together reach at most over
     /// half of the plot.
     void Set3DLineBase(int x, int y);
     /// The rectangle to print into, in twips (1/1440 inch); y grows upwards from the page's top. The printed
     /// graph reaches from `left` to `right`, and from `graphTop` down four inches, or to `bottom` if
-    /// `bottom` is higher.
+    /// `bottom` is higher. `top` is stored only.
     void SetMargins(int top, int bottom, int left, int right, int graphTop);
     /// Appends a colour to the list. Drawing finds colours by position in the list, not by `group`. When
     /// memory runs out, the list is unchanged and the exception passes on.
     void SetColor(int group, COLORREF color);
-    /// Appends a legend text; ignored for a scatter graph. Drawing finds texts by position in the list. The
-    /// legend's width follows from GetLength() of the longest text. If a text is wider than its length
-    /// suggests, the colour beside it covers its end, and above short texts the heading may be wider than the
-    /// box. When memory runs out, the list is unchanged and the exception passes on.
+    /// Appends a legend text; ignored for a scatter graph. Drawing finds texts by position in the list, not
+    /// by `group`. The legend's width is estimated from GetLength() of the longest text. If a text is wider
+    /// than estimated, its colour box covers its end. If all texts are short, the heading may be wider than
+    /// the legend. When memory runs out, the list is unchanged and the exception passes on.
     void SetLegend(int group, CString text);
-    /// @}
 
-    /// @name Contents
-    /// @{
+    // ---- Contents ----
+
     /// Takes ownership of a series. The number of groups becomes the largest number of values that any added
-    /// series had; values stored later do not change it. NULL, and a series added before, are ignored. When
-    /// memory runs out, the series is deleted and the exception passes on.
+    /// series had; values stored later do not change it. NULL, and a series that the graph holds already, are
+    /// ignored. When memory runs out, the series is deleted and the exception passes on.
     void AddSeries(CGraphSeries* series);
     /// Deletes the first series with this label, case-sensitive. Without a match nothing changes. The number
     /// of groups stays.
     void RemoveSeries(CString label);
     /// Removes the colour at position `index`, from 0. An index that the list does not have changes nothing.
     void RemoveColor(int index);
-    /// Removes the legend text at position `index` in the same way.
+    /// Removes the legend text at position `index`, from 0. An index that the list does not have changes
+    /// nothing.
     void RemoveLegend(int index);
     /// Empties the list of series. The number of groups stays.
     void RemoveAllSeries();
@@ -183,22 +187,20 @@ public:
     void RemoveAllLegends();
     /// Removes all series, legend texts and colours.
     void RemoveAllData();
-    /// @}
 
-    /// @name Drawing
-    /// @{
+    // ---- Drawing ----
+
     /// Paints the graph with its upper left corner at (0, 0), in the size of `parentWindow`'s client area.
-    /// The DC should be in MM_TEXT: a logical unit is taken as a pixel. Frames have the DC's pen; the legend
-    /// box has its pen and brush. Restores the DC's state. Does nothing without a DC or a window. When memory
-    /// runs out, the picture is incomplete and the exception passes on.
+    /// The DC should be in MM_TEXT: a logical unit is taken as a pixel. Frames are drawn with the DC's pen,
+    /// the legend box with the DC's pen and brush. Restores the DC's state. Does nothing without a DC or a
+    /// window. When memory runs out, the picture is incomplete and the exception passes on.
     void DrawGraph(CDC* pDC);
     /// Paints the same picture in MM_TWIPS into the rectangle of SetMargins, at the DC's own resolution.
-    /// Fonts and line widths are those of a screen with 96 dots to the inch. The rectangle ends where the
-    /// page does: the page is `pInfo`'s drawing rectangle or, without `pInfo`, the size that the DC reports.
+    /// Fonts and line widths are those of a screen with 96 dots to the inch. The picture ends at the lower
+    /// edge of the page at the latest. The page is `pInfo`'s drawing rectangle, else the size of the DC.
     /// Restores the DC's state. Does nothing without a DC, or when the rectangle is empty. When memory runs
     /// out, the picture is incomplete and the exception passes on.
     void PrintGraph(CDC* pDC, CPrintInfo* pInfo);
-    /// @}
 
 private:
     int GetXAxisAlignment() const { return xAxisAlign; }
@@ -244,8 +246,8 @@ private:
     void Draw3DStackedBarSeries(CDC* pDC);
 
 protected:
-    /// @name State. Lengths are in logical units of the DC. A drawing sets the layout fields anew.
-    /// @{
+    // ---- State. Lengths are in logical units of the DC. Each drawing computes the graph's layout anew ----
+
     int tickSpace = 10;
     CObList* seriesList = nullptr;
     int graphType = GraphTypeBar;
@@ -255,8 +257,8 @@ protected:
     CObList* colorList = nullptr;
     CString axisYLabel;
     CString axisXLabel;
-    int yApexPoint = 0; ///< with xApexPoint the place where the axes meet; after printing on the page
-    int xApexPoint = 0;
+    int yApexPoint = 0; ///< y of the point where the axes meet; after PrintGraph in twips on the page
+    int xApexPoint = 0; ///< x of the same point
     int yAxisHeight = 0;
     int xAxisWidth = 0;
     int yTickFontSize = 12;
@@ -290,7 +292,6 @@ protected:
     int printBottom = 0;
     int printRight = 0;
     BOOL legendBySeries = FALSE;
-    /// @}
 
 public:
     /// The window whose client area DrawGraph fills; set by the host, not owned. NULL draws nothing.

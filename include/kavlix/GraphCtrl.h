@@ -40,14 +40,15 @@ struct TickRoom;
 /// RedrawData after adding samples. Without a window everything works except painting.
 ///
 /// Values without a position: a NaN sample leaves a gap in its line and gets no bar. An infinite sample is
-/// drawn far outside the plot. Datasets whose visible range has the width 0 are not drawn. A range with its
-/// minimum above its maximum turns a value axis upside down; such an X range shows neither ticks nor bars.
+/// drawn far outside the plot. Datasets whose visible range has the width 0 are not drawn. A value axis whose
+/// minimum is above its maximum is upside down. An X range whose minimum is above its maximum shows neither
+/// ticks nor bars.
 class KAVLIX_API CGraphCtrl : public CWnd {
 public:
     /// How the datasets are drawn. With other values the control draws frame, axes and labels, but no data.
     enum GraphStyle : int {
         GraphStyleLine = 0, ///< every visible dataset is a line with markers against the Y axis
-        GraphStyleBar = 1,  ///< one group of bars per sample, one bar per dataset, against the Y axis
+        GraphStyleBar = 1,  ///< one group of bars per sample index, one bar per dataset, against the Y axis
         GraphStyleTwoAxis =
             2 ///< dataset 0 is a line against the Y axis, dataset 1 against the Y2 axis; no legend
     };
@@ -75,9 +76,10 @@ public:
     /// 1. Result 0, with nothing changed, if there is no dataset `nDataset` or, after a message box, when
     /// memory ran out.
     BOOL AddData(int nDataset, double y, double* pX);
-    /// Appends the next X tick label: label i belongs to sample index i. With an empty `down`, a long `up` is
-    /// broken into two lines (SetXTickLabelUpStringMaxLength). Result 1. Result 0, after a message box, when
-    /// memory ran out: neither text is stored then.
+    /// Appends the next X tick label: label i belongs to sample index i. `up` is the label's upper line,
+    /// `down` its lower line. With an empty `down`, a long `up` is broken into two lines
+    /// (SetXTickLabelUpStringMaxLength). Result 1. Result 0, after a message box, when memory ran out:
+    /// neither text is stored then.
     BOOL AddXTickLabel(CString up, CString down);
     /// Removes all samples of a dataset and the selection mark. Colour, marker, line size, legend text
     /// and visibility stay.
@@ -92,8 +94,8 @@ public:
 
     // ---- Attributes of a dataset. Result 1; 0 if there is no dataset `nDataset`. No repaint. ----
 
-    /// Colour of line, bars, markers and legend swatch. In the two-axis style the colour of dataset 0 is also
-    /// that of the Y label and the Y tick labels, and the colour of dataset 1 that of the Y2 ones.
+    /// Colour of line, bars, markers and legend swatch. In the two-axis style the Y label and the Y tick
+    /// labels get the colour of dataset 0 too, the Y2 label and the Y2 tick labels that of dataset 1.
     BOOL SetColor(int nDataset, COLORREF color);
     /// Line width in logical units, clamped to 0..CDataset::MaxLineSize; 0 draws one pixel.
     BOOL SetLineSize(int nDataset, int nSize);
@@ -154,20 +156,20 @@ public:
     /// Whether dotted grid lines are drawn at the X ticks (line styles only) and at the Y ticks.
     void SetGrid(BOOL bGridX, BOOL bGridY);
 
-    /// Room for the X tick labels, whose text runs upwards, in logical units.
+    /// Height of the band of X tick labels, whose text runs upwards, in logical units.
     void SetXTickLabelHeight(int nHeight) { m_XTickLabelHeight = nHeight; }
     /// Longest line of an X tick label without a lower text, in characters of the process code page; a
     /// longer text is broken into two lines. A character of several bytes counts once, as does a letter with
     /// its combining marks.
     void SetXTickLabelUpStringMaxLength(int nLength) { m_XTickLabelUpStringMaxLength = nLength; }
-    /// Room for the Y and Y2 tick labels in logical units.
+    /// Width of the bands of Y and Y2 tick labels in logical units.
     void SetYTickLabelWidth(int nWidth) { m_YTickLabelWidth = nWidth; }
     void SetY2TickLabelWidth(int nWidth) { m_Y2TickLabelWidth = nWidth; }
     /// Decimal places of the Y and Y2 tick labels; negative numbers count as 0, numbers above 8192 as 8192.
     void SetYTickLabelScale(int nDecimals) { m_YTickLabelScale = nDecimals; }
     void SetY2TickLabelScale(int nDecimals) { m_Y2TickLabelScale = nDecimals; }
-    /// Sets the unit text above the axis, the power of ten that tick values are divided by before they are
-    /// printed, and the decimal places of the tick labels.
+    /// Sets the unit text above the axis and the decimal places of the tick labels. Tick values are divided
+    /// by 10 to the power of `nExponent` before they are printed.
     void SetYUnit(CString unit, int nExponent, int nDecimals);
     void SetY2Unit(CString unit, int nExponent, int nDecimals);
 
@@ -193,7 +195,7 @@ public:
     /// Colour of the legend's board.
     void SetLegendColor(COLORREF color) { m_LegendColor = color; }
     void SetLegendTextColor(COLORREF color) { m_LegendTextColor = color; }
-    /// Colour of the selection mark in the line styles, a dotted line.
+    /// Colour of the selection mark's dotted line in the line styles; its triangle is always red.
     void SetLineCursorColor(COLORREF color) { m_LineCursorColor = color; }
     /// Colour of the selection mark in the bar style, a band behind the group of bars.
     void SetBoxCursorColor(COLORREF color) { m_BoxCursorColor = color; }
@@ -224,10 +226,10 @@ public:
     /// Whether `menu` already holds a command `nID`.
     bool IsMenuItem(CMenu& menu, UINT nID);
 
-    // ---- Virtual operations. Their order is that of their slots in the virtual table. ----
+    // ---- Virtual operations. Their order sets their slots in the virtual table, which hosts rely on. ----
 
     /// Stores the texts of X tick label `nIndex` in `up` and `down`. A text that was never added leaves its
-    /// output unchanged. Always 1.
+    /// output unchanged. The result is always 1.
     virtual BOOL GetXData(int nIndex, CString& up, CString& down);
     /// Removes the `nCount` oldest samples of every dataset, the `nCount` oldest tick labels, and the
     /// selection mark. The automatic X range then ends at the newest sample of dataset 0. Calls RedrawData. A
@@ -251,10 +253,10 @@ protected:
     /// Sample that belongs to `point` (logical units), -1 for none. Line styles: the sample nearest in X, at
     /// any distance below 1,000,000 logical units. Bar style: the sample whose group of bars holds the point.
     virtual int GetIndexFromPt(CPoint point);
-    /// Position of sample `nIndex` in logical units, moved into the plot where it lies outside. Line styles:
-    /// on the line of the first visible dataset that has the sample. Bar style: at the same height, in the
-    /// middle of the group of bars. The centre of the plot when there is no such sample or it has no
-    /// position. The context menu opens there when the user asks for it by keyboard.
+    /// Position of sample `nIndex` in logical units, moved into the plot where it lies outside. Y is taken
+    /// from the first visible dataset in which the sample has a position. X is the sample's own or, in the
+    /// bar style, the middle of the group of bars. Without X or Y the result is the centre of the plot. The
+    /// context menu opens at the marked sample's position when the user asks for the menu by keyboard.
     virtual CPoint GetPtFromIndex(int nIndex);
 
     // ---- Painting. Screen, printer, metafile and memory DC get the same calls. ----
@@ -264,11 +266,11 @@ protected:
     static BOOL RegisterWindowClass();
     /// Gives `dc` the mapping of 30 logical units per pixel with all origins 0.
     void SetMapModeAnisotropic(CDC& dc);
-    /// Lays out and paints everything into `dc`, which must have the mapping above. The viewport origin of
-    /// `dc` may be anywhere and places the picture. Afterwards `dc` has no clip region, and the same objects
-    /// and text settings as before.
+    /// Lays out and paints everything into `dc`, which must have the mapping of SetMapModeAnisotropic. The
+    /// viewport origin of `dc` may be anywhere and places the picture. Afterwards `dc` has no clip region,
+    /// and the same objects and text settings as before.
     void DrawGraph(CDC& dc);
-    /// Draws the title at the top of m_rectTitle with a bold font of the height `nHeight`.
+    /// Draws the title at the top of m_rectTitle in a bold font, `nHeight` logical units high.
     void DrawTitle(CDC& dc, int nHeight);
     /// Draws the caption band with its text and icon; sets m_rectCaption and m_rectIconMaximize.
     void DrawCaption(CDC& dc);
@@ -281,7 +283,7 @@ protected:
     /// Draws the legend rows into m_rectLegend.
     void DrawLegend(CDC& dc);
     /// Stores the width of one bar in logical units, the number of datasets with samples, and the number of
-    /// visible sample indices. Result 0, outputs unchanged, when there is nothing to draw.
+    /// visible sample indices. Result 0, outputs unchanged, when no sample lies in the visible X range.
     BOOL CalcBarSize(int& nBarWidth, int& nDatasets, int& nVisiblePoints);
 
     // ---- Notifications. Without a parent nothing is sent. ----
@@ -305,10 +307,10 @@ protected:
     /// MF_ flags of a menu item that needs a selection mark: grayed while there is no mark.
     UINT SelectionMarkItemState() const;
     /// The result of GetPtFromIndex for sample `nIndex`. `x` is the sample's X position in logical units;
-    /// none if it has no position.
+    /// none for a sample without a position.
     CPoint PtOfSample(int nIndex, std::optional<int> x);
     /// Draws the datasets of the line styles and the selection mark. `xPositions` holds the X positions of
-    /// the samples. `rangeOf(dataset)` is the range of samples that is drawn of a dataset.
+    /// the samples. `rangeOf(dataset)` is the range of the dataset's samples to draw.
     void DrawLines(CDC& dc, const kavlix::XPositions& xPositions,
                    const std::function<kavlix::IndexRange(const CDataset&)>& rangeOf);
 
@@ -352,19 +354,19 @@ protected:
     kavlix::LabelStore m_XTickLabelDown;
     BOOL m_ShowBorder = FALSE;
 
-    // Layout, in logical units unless said otherwise. Every paint sets it; before the first paint it is
-    // empty.
+    // Layout, in logical units unless said otherwise. Every paint sets these rectangles; before the first
+    // paint they are empty.
     CRect m_rectPlot;         ///< the data area
     CRect m_rectLegend;       ///< the legend board
     CRect m_rectTitle;        ///< the title area
     CRect m_rectXAxis;        ///< strip of the X tick marks, under the plot
     CRect m_rectYAxis;        ///< strip of the Y tick marks, left of the plot
-    CRect m_rectY2Axis;       ///< strip of the Y2 tick marks, right of the plot; width 0 in other styles
+    CRect m_rectY2Axis;       ///< strip of the Y2 tick marks, right of the plot; width 0 without a Y2 axis
     CRect m_rectXTickLabel;   ///< band of the X tick labels
     CRect m_rectYTickLabel;   ///< band of the Y tick labels
-    CRect m_rectY2TickLabel;  ///< band of the Y2 tick labels; width 0 in other styles
+    CRect m_rectY2TickLabel;  ///< band of the Y2 tick labels; width 0 without a Y2 axis
     CRect m_rectIconMaximize; ///< the maximize icon; empty when it is not shown
-    CRect m_rectCaption;      ///< the caption band; empty in the other title style
+    CRect m_rectCaption;      ///< the caption band; empty unless TitleStyleCaption is set
     CRect m_rectClient;       ///< the client rectangle, pixels
     CRect m_rectClientInner;  ///< the client rectangle without its last column and row of pixels, pixels
 
@@ -377,7 +379,7 @@ protected:
     double m_Y2VisibleMax = 100;
     double m_ReservedValue = 1; ///< kept for derived classes; the control does not read it
     BOOL m_IconMaximizeTracking =
-        FALSE;                          ///< from the press of the icon until the GCN_MAXIMIZE handler returns
+        FALSE; ///< TRUE from the press of the icon until the GCN_MAXIMIZE handler returns or the press ends
     BOOL m_IconMaximizePressed = FALSE; ///< the icon is drawn pressed
     BOOL m_GridY = TRUE;
     BOOL m_GridX = FALSE;
@@ -445,12 +447,12 @@ private:
     void DrawAxisLabels(CDC& dc, const kavlix::GraphLayout& layout);
     /// Draws the legend with its board. `right` is the right edge of the client area in logical units.
     void DrawLegendArea(CDC& dc, int right, CRgn& clientClip);
-    /// Draws ticks and tick labels of the X axis in the line styles. `axisPen` is selected.
+    /// Draws ticks and tick labels of the X axis in the line styles. The caller has selected `axisPen`.
     void DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,
                        const kavlix::TickRoom& room);
     /// Draws ticks and tick labels of the X axis in the bar style with the selected pen.
     void DrawBarTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, const kavlix::TickRoom& room);
-    /// Draws X tick label `nIndex` below a tick at `x`.
+    /// Draws X tick label `nIndex` below a tick at `x` (logical units).
     void DrawTickLabel(CDC& dc, const CRect& rectLabel, int x, int nIndex);
     /// Draws the datasets of the bar style and the selection mark.
     void DrawBars(CDC& dc);
@@ -461,7 +463,7 @@ private:
     kavlix::LinearMap YMapOf(int nDataset) const;
     CPoint ToLogicalPoint(CPoint point);
     CPoint ToClientPoint(CPoint logical);
-    /// Dataset whose legend row holds `point` (logical units), -1 for none.
+    /// Dataset whose legend row lies at the height of `point` (logical units), -1 for none.
     int LegendRowAt(CPoint point) const;
 
     /// Paints the maximize icon at once, without WM_PAINT.

@@ -17,15 +17,16 @@
 
 /// Posted to the parent when a click, a key or the menu changes the selection mark. wParam: the index of the
 /// marked sample as an int, -1 for none; lParam: 0. The control posts this message before it sends
-/// GCN_SELCHANGE, but a posted message arrives after the sent one.
+/// GCN_SELCHANGE, but the parent receives GCN_SELCHANGE first, because a sent message does not wait in the
+/// queue.
 constexpr UINT WM_GRAPH_SELMARK = WM_USER + 100;
 
 /// Sent to the parent when the scrolling graph exports the time of the selection mark. wParam: 0; lParam: the
 /// time text "YYYY/MM/DD hh:mm:ss", a zero-terminated string that is valid only during the call.
 constexpr UINT WM_GRAPH_SELMARKTIME = 1327;
 
-// Codes of the WM_NOTIFY messages with an NMGRAPHCTRL record, and the fields that each sets. wParam is the
-// control's dialog identifier.
+// Codes of the WM_NOTIFY messages with an NMGRAPHCTRL record: when the parent gets each, and the record's
+// fields that are set besides `hdr`. wParam is the control's dialog identifier.
 constexpr UINT GCN_DBLCLK = 1224; ///< double-click outside caption and legend; nFlags, pt, nIndex = -1
 constexpr UINT GCN_DBLCLK_CAPTION = 1225; ///< double-click in the caption band; nFlags, pt, nIndex = -1
 constexpr UINT GCN_DBLCLK_LEGEND = 1226;  ///< double-click in the legend; nFlags, pt, nIndex = dataset or -1
@@ -33,7 +34,7 @@ constexpr UINT GCN_MAXIMIZE = 1234;       ///< button released over the pressed 
 constexpr UINT GCN_MOUSEMOVE = 1244;      ///< every mouse move; nFlags, pt
 constexpr UINT GCN_SELCHANGE = 1254;      ///< the user moved the selection mark; nIndex = sample or -1
 constexpr UINT GCN_REMOVEDATA = 1255;     ///< menu removed samples; nIndex = first one, nCount = number
-constexpr UINT GCN_SCROLL = 1264;         ///< scrolling graph moved its view; nIndex = position in x units
+constexpr UINT GCN_SCROLL = 1264;         ///< scroll bar moved (SetScrollSync); nIndex = left edge in x units
 
 /// Record of every notification of a graph control. The control owns it and keeps it only during the call:
 /// copy the fields that are needed later. Fields that a code does not list are zero.

@@ -3,9 +3,9 @@
 
 #include <afxwin.h>
 
-#include <unordered_map>
-
 #include <kavlix/Export.h>
+
+#include <unordered_map>
 
 /// A number with a key: the value of a series for a group, or the colour of a group.
 class KAVLIX_API CGraphValue : public CStatic {
@@ -27,7 +27,7 @@ public:
 /// line, and has no part in a stack.
 class KAVLIX_API CGraphSeries : public CStatic {
 public:
-    /// The label and the values are empty.
+    /// A series without label and values.
     CGraphSeries();
     /// Deletes the values.
     ~CGraphSeries() override;
@@ -42,8 +42,8 @@ public:
     /// Takes constant time on average. When memory runs out, nothing changes and the exception passes on.
     void SetData(int group, int value);
     /// Appends a point, also when the series has one with the same X. XY line, scatter and box-whisker graphs
-    /// use every point. GetData, SetData and the other types use the first point with a key. When memory runs
-    /// out, nothing changes and the exception passes on.
+    /// use every point. GetData, SetData and the other graph types use only the first of several points with
+    /// the same X. When memory runs out, nothing changes and the exception passes on.
     void AddPoint(int x, int y);
     /// The first value of `group`; 0 when `group` has none.
     int GetData(int group) const;

@@ -38,8 +38,8 @@ public:
             InsertAt(index, text);
     }
 
-    /// Appends empty texts or removes texts at the end until there are `size`. The second parameter exists
-    /// for callers of CStringArray and has no effect.
+    /// Appends empty texts or removes texts at the end until there are `size` texts. The second parameter
+    /// exists for code written for CStringArray and has no effect.
     void SetSize(INT_PTR size, INT_PTR /*growBy*/ = -1) {
         const std::size_t count = Checked(size);
         if (count < m_texts.Size())
@@ -82,12 +82,12 @@ public:
         const std::size_t before = m_texts.Size();
         const std::size_t gap = at > before ? at - before : 0;
         AddOrNone(gap + copies, [&](std::size_t i) { return i < gap ? CString() : copy; });
-        // The copies now stand at the end. From the last old text back to the one at `at`, swap each with the
-        // copy that stands `copies` places later.
+        // The copies now stand at the end. From the last old text back to the text at `at`, swap each text
+        // with the copy that stands `copies` places later.
         for (std::size_t i = before; i-- > at;)
             std::swap(m_texts[i], m_texts[i + copies]);
     }
-    /// Removes `count` texts, the first of which is the one at `index`.
+    /// Removes `count` texts, beginning with the text at `index`.
     void RemoveAt(INT_PTR index, INT_PTR count = 1) {
         Checked(index, GetSize());
         Checked(count, GetSize() - index);

@@ -38,11 +38,12 @@ public:
 /// Angles are degrees, 0 at twelve o'clock, growing clockwise on the screen. Positions are client pixels.
 ///
 /// Sectors: the pieces follow one another clockwise in list order. A running sum adds up the spans of the
-/// pieces. A piece takes the part of the circle by which it raises the highest sum so far; nothing is shown
-/// beyond 360 degrees. Pieces that sum to less than a full circle leave a gap. A negative piece has no sector
-/// and lowers the sum, so the next sector begins where the sum exceeds its highest value again. A piece with
-/// total 0 and a positive value takes the rest of the circle. A piece whose span is not a number hides itself
-/// and all pieces after it. A piece of exactly 0 has no sector, but a label where its sector would be.
+/// pieces. A sector begins at the highest sum before its piece and ends at the sum with its piece; nothing is
+/// shown beyond 360 degrees. Pieces that sum to less than a full circle leave a gap. A negative piece has no
+/// sector and lowers the sum; later pieces have no sector until the sum exceeds its highest value again. A
+/// piece with total 0 and a positive value takes the rest of the circle. A piece whose span is not a number
+/// hides itself and all pieces after it. A piece of exactly 0 has no sector, but a label where its sector
+/// would be.
 ///
 /// Texts: label and percentage stand inside the sector if they fit, in the piece's text colour. Otherwise
 /// they stand beside the pie, and a leader line connects them with the sector; black or white replaces the
@@ -63,13 +64,13 @@ public:
 
     /// Registers the window class "PIE_CHART_CTRL" for all modules of the process. The constructor does the
     /// same. Call this function before you create a dialog with an item of the class if no control object
-    /// exists yet. FALSE when registration fails, which includes a class that is already registered.
+    /// exists yet. FALSE when registration fails, also because the class is registered already.
     static BOOL RegisterWndClass(HINSTANCE hInstance);
 
     using CWnd::Create;
     /// Creates the control's window with a sunken edge and shows the arrow cursor. `rect` is in the parent's
     /// client pixels, `nID` is the child window's identifier. FALSE when the window cannot be created. Throws
-    /// CResourceException when the window class cannot be registered.
+    /// CResourceException* when the window class cannot be registered.
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID);
 
     // ---- Data ----
@@ -123,21 +124,22 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
     /// Selects the piece under `point` and sends NM_CLICK with an NMPIECHART to the parent window, if the
-    /// control has one. A click on the centre, or on the line from there to twelve o'clock, selects nothing.
+    /// control has one. A click on the centre, or on the line from the centre to twelve o'clock, selects
+    /// nothing.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 protected:
     int m_nWaitMode = 0; ///< 0 while not waiting; see Wait
     CString m_strWait;
-    int m_nStartAngle = 0; ///< angle at which painting begins the first piece; clicks count from 0 degrees
+    int m_nStartAngle = 0; ///< degrees at which a paint begins the first piece; the hit test begins at 0
     COLORREF m_crBack = RGB(255, 255, 255);
     COLORREF m_crOutline = RGB(0, 0, 0);
     COLORREF m_crSelected = RGB(255, 0, 0);
     CObArray m_arrPieces;      ///< the CPieChartPiece objects, owned
     CFont m_fontLarge;         ///< font of the wait text and "No Data"
     CFont m_fontSmall;         ///< font of labels and percentages
-    CRect m_rcPie{0, 0, 0, 0}; ///< square of the pie, written by every paint; empty before the first paint
+    CRect m_rcPie{0, 0, 0, 0}; ///< the pie's square at the last paint, client pixels; empty before
 
 private:
     CPieChartPiece& Piece(INT_PTR nIndex) const;

@@ -1,9 +1,9 @@
 // CScrollGraphCtrl: the graph over time.
 #pragma once
 
-#include <memory>
-
 #include <kavlix/GraphCtrl.h>
+
+#include <memory>
 
 namespace kavlix {
 class TimeLine;
@@ -24,9 +24,9 @@ struct ViewWindow;
 /// are twentieths of a second from the first time stamp, as 32-bit numbers, which wrap round 3.4 years after
 /// the first time stamp. A sample without a time stamp stands at the first time stamp.
 ///
-/// The line styles draw the samples in view, at most as many as the view has seconds: of a dataset with more
-/// than one sample a second the remaining samples are not drawn. The bar style is that of CGraphCtrl, over
-/// sample indices.
+/// The line styles draw the samples in view and one neighbour on either side. Of the samples in view only
+/// the first ones are drawn, as many as the view's width has seconds: a dataset with more than one sample a
+/// second does not fill the view. The bar style is that of CGraphCtrl, over sample indices.
 ///
 /// The control does not handle the mouse wheel; the host calls ProcessMouseWheel.
 class KAVLIX_API CScrollGraphCtrl : public CGraphCtrl {
@@ -44,16 +44,16 @@ public:
     /// Appends the time stamp of the next sample index. Result 1; 0, after a message box, when memory ran
     /// out.
     int AddXTickLabel(long time);
-    /// Appends a sample; the host adds its time stamp first. While the newest sample is in view, the view
-    /// moves so that the new sample stands at nine tenths of the view's width. Otherwise the scroll range
-    /// grows. `pReserved` is not used. Result 0 when `nDataset` is outside 0..12 or, after a message box,
-    /// when memory ran out.
+    /// Appends a sample; the host adds its time stamp first. If the previous sample is in view and the new
+    /// sample lies beyond nine tenths of the view's width, the view moves until the new sample stands there.
+    /// Otherwise the scroll range grows if it does not hold the sample. `pReserved` is not used. Result 1;
+    /// 0 when `nDataset` is outside 0..12 or, after a message box, when memory ran out.
     int AddData(int nDataset, double y, double* pReserved);
     /// Appends a sample without moving the view, to load recorded data. Results as those of AddData.
     int AddDataForOffline(int nDataset, double y, double* pReserved);
-    /// Keeps only the first time stamp and the first sample of every dataset; an empty dataset gets a single
-    /// 0. `nGrowBy` has no effect: the storage chooses its own growth. When memory runs out, a message box
-    /// appears and nothing changes.
+    /// Keeps only the first time stamp and the first sample of every dataset. An empty dataset gets a sample
+    /// of the value 0, an empty list of time stamps the stamp 0. `nGrowBy` has no effect: the storage chooses
+    /// its own growth. When memory runs out, a message box appears and nothing changes.
     void SetArraySize(int nGrowBy);
 
     /// Texts of sample `nIndex` in local time: "MM/DD" and "hh:mm:ss". Result 0, outputs unchanged, when the
@@ -66,37 +66,38 @@ public:
     long GetXOffset(int nIndex) const;
     /// Time stamp of sample `nIndex`; 0 when the sample has none.
     long GetTimeInfo(int nIndex) const;
-    /// Removes the `nCount` oldest samples of every dataset and as many time stamps. The oldest remaining
-    /// time stamp becomes the origin of the x units. Clears the selection mark, rewinds the scroll range,
-    /// shows the newest sample and repaints the data.
+    /// Removes the `nCount` oldest samples of every dataset and the `nCount` oldest time stamps. The oldest
+    /// remaining time stamp becomes the origin of the x units. Removes the selection mark and calls
+    /// UpdateScrollByRemove, which repaints the data.
     void RemoveHeadData(int nCount) override;
     /// Does the same as InitData.
     void ResetXTickLabel() override;
 
     // ---- View ----
 
-    /// Sets the width of the view to `minutes`. The newest sample stands at nine tenths of the view. Repaints
-    /// the data.
+    /// Sets the width of the view to `minutes` and calls UpdateScrollByRemove, which repaints the data.
     void SetHorzRange(double minutes);
-    /// Moves the view to the beginning and gives the scroll range its initial end. Updates the scroll bar; no
-    /// repaint of the graph.
+    /// Moves the view to x = 0, makes the scroll range 0 to 1200 x units (one minute) and calls
+    /// UpdateScrollInfo. No repaint of the graph.
     void InitScrollInfo();
     /// Passes position, page and range to the scroll bar when one of them has changed; the bar then redraws
     /// itself.
     void UpdateScrollInfo();
-    /// Moves the view's left edge into the scroll range, and the range's right end out to the view's right
-    /// edge. No repaint.
+    /// Moves a view that begins before the scroll range to the range's left end. If the view then ends after
+    /// the range, extends the range to the view's right edge. No repaint.
     void Normalize();
-    /// Rewinds the scroll range and moves the view to the newest sample of dataset 0. The caller then calls
-    /// Normalize, UpdateScrollInfo and RedrawData.
+    /// Moves the view to the newest sample of dataset 0. First sets the view to x = 0 and the right end of
+    /// the scroll range to 1200 x units. If the sample then lies beyond nine tenths of the view's width,
+    /// moves the view until the sample stands there. The caller then calls Normalize, UpdateScrollInfo and
+    /// RedrawData.
     void SetScrollLastPos();
-    /// Does what SetScrollLastPos and the three calls after it do: shows the newest sample of dataset 0 and
-    /// repaints the data.
+    /// Shows the newest sample of dataset 0 and repaints the data: calls SetScrollLastPos, Normalize,
+    /// RedrawData and UpdateScrollInfo.
     void UpdateScrollByRemove();
     /// Moves the view by a hundredth of its width, to older samples when `delta` is not negative. Repaints
     /// the data if the view moved. Sends no notification.
     void ProcessMouseWheel(short delta);
-    /// Whether GCN_SCROLL is sent to the parent when the user scrolls; default off.
+    /// Whether GCN_SCROLL is sent to the parent when the user moves the scroll bar.
     void SetScrollSync(int bSync) { m_bScrollSync = bSync; }
     /// Sends GCN_SCROLL with `position`, in x units, to the parent, independent of SetScrollSync.
     void SendScrollInfo(double position);
@@ -109,7 +110,7 @@ public:
 
     // ---- Export of the selection mark's time ----
 
-    /// Whether the menu offers "Send Selection Mark info to Tindro"; default off.
+    /// Whether the menu offers "Send Selection Mark info to Tindro".
     void SetTindroMode(bool bOn) { m_bTindroMode = bOn; }
     /// The time text that the menu command exported last; empty before the first export.
     CString GetTimeInfoFromSelectionMark() const { return m_strSelectionMarkTime; }
@@ -121,31 +122,33 @@ public:
 
     // ---- Time ticks ----
 
-    /// The tick step in seconds for a view with at most `nTicks` ticks. `spacing` receives the distance
-    /// between two ticks in logical units.
+    /// The shortest round tick step, in seconds, that divides the view into at most `nTicks` + 1 whole steps;
+    /// 3 hours if none does. `spacing` receives the distance between two ticks in logical units.
     int SelectTickUnit(int nTicks, double& spacing) const;
     /// Distance of the first tick from the plot's left edge in logical units, as if sample `nIndex` stood at
     /// that edge. `nUnit` is the tick step in seconds; the result is 0 when `nUnit` is below 1. `spacing`
-    /// receives the distance between two ticks, `fullTime` the first tick's text.
+    /// receives the distance between two ticks in logical units, `fullTime` the first tick's time as text.
     int ComputeFirstTickPos(int nIndex, int nUnit, int& spacing, CString& fullTime) const;
-    /// The distance of the first tick, as above, for a step in seconds, in minutes and in hours.
+    /// The distance of the first tick as in ComputeFirstTickPos, for a step in seconds, minutes or hours.
     int SecondTickPos(int nIndex, int nSeconds, CString& fullTime) const;
     int MinuteTickPos(int nIndex, int nMinutes, CString& fullTime) const;
     int HourTickPos(int nIndex, int nHours, CString& fullTime) const;
     /// Full time text of the moment `nUnit` seconds after the local time `date` ("YYYY/MM/DD") `time`
-    /// ("hh:mm:ss"). A text that cannot be read is returned unchanged. When clocks go back, one hour of local
-    /// time occurs twice, and the text does not say which of the two is meant: repeated steps of up to an
-    /// hour never leave that hour. To walk over time, add seconds to a time stamp instead.
+    /// ("hh:mm:ss"). If these are no valid time, the result is both texts, unchanged, with a blank between.
+    /// When clocks go back, one hour of local time occurs twice, and the text does not say which of the two
+    /// is meant: repeated steps of up to an hour never leave that hour. To walk over time, add seconds to a
+    /// time stamp instead.
     CString GetNextTickTime(int nUnit, CString& date, CString& time) const;
 
 protected:
     /// Draws the time axis. The distance between two ticks is truncated to logical units, so in long views
     /// ticks drift to the left of their times. Of several ticks in one device column only the first is drawn.
-    /// Where labels would touch, only ticks at longer round times have one.
+    /// If the labels of all ticks would touch, only the ticks at multiples of a longer step have labels.
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
-    /// Draws the upright label of the tick at `x`; the texts end at `y`. An empty `date` means the clock time
-    /// `time` alone, otherwise `date` ("MM/DD") and `time` stand side by side. The caller has selected font
-    /// and colour. A label without a date uses the text alignment that the label before it has set.
+    /// Draws the label of the tick at `x`. Its texts run upwards and end at `y` (both logical units). With an
+    /// empty `date` the label is the clock time `time` alone, otherwise `date` ("MM/DD") and `time` side by
+    /// side. The caller has selected font and colour. A label without a date uses the text alignment that the
+    /// label before it has set.
     virtual void DrawTimeLabel(CDC& dc, int x, int y, const CString& date, const CString& time);
     void DrawGraphData(CDC& dc) override;
     /// In the line styles, the sample nearest in x of those drawn at the last paint; -1 for a point outside
@@ -170,23 +173,23 @@ private:
     std::unique_ptr<kavlix::ZoneRules> m_zoneRules; ///< the system's rules of local time, kept for the labels
 
 protected:
-    // In x units, m_nUnitsPerSecond to a second.
+    // In x units (1/20 second).
     double m_dScrollPos = 0;      ///< left edge of the view
     double m_dScrollMax = 1200.0; ///< right end of the scroll range, at first one minute
     double m_dScrollMin = 0;      ///< left end of the scroll range
     double m_dViewWidth = 1200.0; ///< width of the view: one minute
 
-    int m_nUnitsPerSecond = 20; ///< x units a second; SetHorzRange and SelectTickUnit read the member
+    int m_nUnitsPerSecond = 20; ///< x units a second in SetHorzRange and SelectTickUnit; elsewhere always 20
     bool m_bTindroMode = false;
     CString m_strSelectionMarkTime;
     int m_bScrollSync = FALSE;
     int m_bFollowed = FALSE; ///< whether the last AddData moved the view
-    int m_nDrawFirst = -1;   ///< first and last sample of the last paint
-    int m_nDrawLast = -1;
+    int m_nDrawFirst = -1;   ///< first sample that the last paint drew; -1 before the first paint
+    int m_nDrawLast = -1;    ///< last sample that the last paint drew; -1 before the first paint
 
 private:
-    int m_nToldPos = -1; ///< position and page that UpdateScrollInfo passed to the scroll bar last
-    int m_nToldPage = -1;
+    int m_nToldPos = -1;  ///< position that UpdateScrollInfo passed to the scroll bar last
+    int m_nToldPage = -1; ///< page that UpdateScrollInfo passed to the scroll bar last
 
     kavlix::ViewWindow GetView() const;
     void SetView(const kavlix::ViewWindow& view);

@@ -12,7 +12,8 @@ namespace {
 
 constexpr UINT smallestBuffer = 128;
 
-// Prefix of a stored text: one byte with the length; or mark8 and a WORD; or mark8, mark16 and a DWORD.
+// The length before a stored text: one byte; or mark8 and a WORD; or mark8, mark16 and a DWORD. Counts
+// (WriteCount) use mark16 and mark32 in the same way.
 constexpr BYTE mark8 = 0xFF;
 constexpr WORD mark16 = 0xFFFF;
 constexpr WORD wideMark16 = 0xFFFE; // reserved for texts in UTF-16
@@ -212,7 +213,7 @@ CArchive& operator>>(CArchive& ar, CString& text) {
         if (middle == mark16)
             ar >> length;
     }
-    // Reading in pieces: a damaged length fails at the end of the file before its memory is allocated.
+    // Reads in pieces, so that a damaged length fails at the end of the file before much memory is allocated.
     CString loaded;
     char piece[4096];
     while (length > 0) {

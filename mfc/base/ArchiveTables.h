@@ -17,7 +17,8 @@ struct CArchive::Tables {
 
     /// For storing: the index of each class or object, by address.
     std::unordered_map<const void*, DWORD> stored;
-    /// For loading: the class or object with index i + 1. An entry with a null class is an object.
+    /// For loading: element i is the class or object with index i + 1. An element with a null class is an
+    /// object.
     std::vector<Loaded> loaded;
     DWORD count = 0;
 };

@@ -65,7 +65,7 @@ constexpr DWORD kSettableAttributes = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_H
                                       FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_DIRECTORY |
                                       FILE_ATTRIBUTE_ARCHIVE;
 
-/// Copies times, size and attributes. The system has two record types with the same field names.
+/// Copies times, size and attributes. A template, because Windows has two record types with the same fields.
 template <class Info> void TakeInfo(CFileStatus& status, const Info& info) {
     status.m_ctime = CTime(info.ftCreationTime);
     status.m_mtime = CTime(info.ftLastWriteTime);
@@ -141,7 +141,7 @@ void CFile::Abort() {
 
 CFile* CFile::Duplicate() const {
     ASSERT(m_hFile != hFileNull);
-    auto file = std::make_unique<CFile>(); // allocated before the handle, which an exception would leak
+    auto file = std::make_unique<CFile>(); // before the handle is duplicated: an exception would leak it
     file->m_strFileName = m_strFileName;
     HANDLE copy = nullptr;
     if (!::DuplicateHandle(::GetCurrentProcess(), m_hFile, ::GetCurrentProcess(), &copy, 0, FALSE,

@@ -3,10 +3,10 @@
 
 #include "mfc/base/FileTime.h"
 
-// The C library's conversions are not used: they read the TZ variable in another format and fail for times
-// before 1970.
+// The C library's conversions are not used: if the TZ variable is set, they read it in a format of their own,
+// and they fail for times before 1970.
 
-/// The zone's rules of a year. Returns false if the system has none.
+/// Gets the zone's daylight-saving rules for a year, else its present rules. Returns false on failure.
 inline bool ZoneOfYear(WORD year, TIME_ZONE_INFORMATION& zone) {
     return ::GetTimeZoneInformationForYear(year, nullptr, &zone) != 0 ||
            ::GetTimeZoneInformation(&zone) != TIME_ZONE_ID_INVALID;

@@ -67,7 +67,7 @@ void CMemFile::Write(const void* buffer, UINT count) {
     const SIZE_T after = m_nPosition + count;
     if (after > m_nBufferSize)
         GrowFile(after);
-    if (m_nPosition > m_nFileSize) // Seek() left a gap
+    if (m_nPosition > m_nFileSize) // Seek() went beyond the end: fill the bytes between with zeros
         std::memset(m_lpBuffer + m_nFileSize, 0, m_nPosition - m_nFileSize);
     Memcpy(m_lpBuffer + m_nPosition, static_cast<const BYTE*>(buffer), count);
     m_nPosition = after;

@@ -11,7 +11,7 @@ CRuntimeClass CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObjec
 
 namespace {
 
-// Any thread can load and unload modules.
+// Locked by a mutex, because any thread can load and unload modules.
 struct ClassList {
     std::mutex mutex;
     CRuntimeClass* first = nullptr;

@@ -3,5 +3,5 @@
 
 #include <afxwin.h>
 
-/// Copies a text, cut to `maxLength` bytes with the terminating zero.
+/// Copies a text, cut to `maxLength` bytes including the terminating zero.
 void AfxCopyMessage(LPTSTR text, UINT maxLength, LPCTSTR message);

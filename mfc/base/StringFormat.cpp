@@ -27,14 +27,15 @@ BOOL CString::LoadResource(UINT id) {
 void CString::AppendFormatted(std::size_t keep, LPCTSTR format, va_list args) {
     if (format == nullptr)
         AfxThrowInvalidArgException();
-    // The arguments may point into this string, so the string changes only after the text is complete.
+    // The arguments may point into this string, so the string changes only after the new text is complete.
     char brief[256];
     va_list measured;
     va_copy(measured, args);
     const int length = std::vsnprintf(brief, sizeof brief, format, measured);
     va_end(measured);
     if (length < 0) {
-        // The format failed: a wide text has no form in the code page, or the text is longer than INT_MAX.
+        // Formatting failed: a UTF-16 argument cannot be converted to the code page, or the text is longer
+        // than INT_MAX.
         m_text.resize(keep);
         return;
     }

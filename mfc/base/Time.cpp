@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr __time64_t kLastSecond = 910692730085; // the last second of a FILETIME that has a date
+// Seconds since 1970. FileTimeToSystemTime() refuses later times, because their FILETIME needs 64 bits.
+constexpr __time64_t kLastSecond = 910692730085;
 constexpr __time64_t kNoTime = -1;
 
 bool UtcFromTime(__time64_t time, SYSTEMTIME& utc) {

@@ -49,7 +49,8 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const {
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const {
     if (nMaxLength <= 0)
         return 0;
-    // EM_GETLINE reads the buffer's size from its first word. A caller's buffer may be smaller than a WORD.
+    // EM_GETLINE reads the buffer's size from the buffer's first WORD. The caller's buffer may be smaller
+    // than a WORD, so the control copies into a vector.
     const WORD limit = static_cast<WORD>(std::min<int>(nMaxLength, 0xFFFF));
     std::vector<TCHAR> line(std::max<std::size_t>(limit, sizeof(limit)));
     std::memcpy(line.data(), &limit, sizeof(limit));

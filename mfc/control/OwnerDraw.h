@@ -3,8 +3,8 @@
 
 #include <windows.h>
 
-/// Calls the control's member for an owner-draw message that the parent has handed back. Returns FALSE for other
-/// messages.
+/// Calls the control's member for an owner-draw message that the parent has handed back. Returns FALSE for
+/// other messages.
 template <class Control> BOOL CallOwnerDraw(Control& control, UINT message, LPARAM lParam, LRESULT* pResult) {
     switch (message) {
     case WM_DRAWITEM:

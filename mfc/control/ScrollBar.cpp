@@ -16,7 +16,7 @@ BOOL CScrollBar::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT 
 
 BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw) {
     lpScrollInfo->cbSize = sizeof(SCROLLINFO);
-    ::SetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo, bRedraw); // the function returns a position, which may be 0
+    ::SetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo, bRedraw); // returns a position, not success
     return TRUE;
 }
 

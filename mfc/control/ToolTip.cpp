@@ -8,8 +8,9 @@ IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
 namespace {
 
-/// The record of a tool: a part of the window with a number, or (with `id` 0) the whole window as a child of
-/// its parent. The record points to `text`.
+/// The record of a tool. With `id` 0, the tool is the whole of `window`, and messages about the tool go to
+/// the parent. Else the tool is a part of `window`, whose rectangle the caller sets. The record points to
+/// `text`.
 TOOLINFO ToolOf(const CWnd& window, UINT_PTR id, LPCTSTR text = nullptr) {
     TOOLINFO tool{};
     tool.cbSize = sizeof(tool);
@@ -29,7 +30,7 @@ LRESULT Tell(HWND tooltip, UINT message, TOOLINFO& tool) {
     return ::SendMessage(tooltip, message, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-constexpr int kMaxTipText = 1024; // characters; the buffer for tool texts
+constexpr int kMaxTipText = 1024; // size in characters of the buffer for the text of a tool
 
 } // namespace
 

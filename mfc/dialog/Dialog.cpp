@@ -17,10 +17,10 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr UINT kFirstCommandId = 0x8000; // smaller numbers are IDs of controls, for their dialog only
+constexpr UINT kFirstCommandId = 0x8000; // smaller IDs belong to controls; only their dialog handles them
 constexpr UINT kFirstSystemId = 0xF000;
 
-/// Dialog procedure for the system's dialog manager. CDialog's message map has handled the messages before.
+/// A dialog procedure that handles nothing: AfxWndProc() has already passed the message to the message map.
 INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
@@ -44,8 +44,8 @@ private:
     HWND m_window;
 };
 
-/// Destroys the window of a modal dialog, whichever way the loop ends. The owners must be enabled before:
-/// otherwise the system would activate a window of another program.
+/// Destroys the window of a modal dialog, also when an exception ends the loop. The owners must be enabled
+/// before the window is destroyed or hidden: otherwise Windows would activate a window of another program.
 class ModalWindow {
 public:
     ModalWindow(CDialog& dialog, HWND owner) : m_dialog(dialog), m_owner(owner) {}
@@ -95,7 +95,7 @@ BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
     const LPCDLGTEMPLATE dialogTemplate = LoadDialogTemplate(module, lpszTemplateName);
     if (dialogTemplate == nullptr)
         return FALSE;
-    m_lpszTemplateName = lpszTemplateName; // list data may be stored under the same name
+    m_lpszTemplateName = lpszTemplateName; // FillLists() looks for list data under this name
     const BOOL created = CreateIndirect(dialogTemplate, pParentWnd);
     m_lpszTemplateName = nullptr;
     return created;

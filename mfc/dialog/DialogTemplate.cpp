@@ -33,7 +33,7 @@ struct ListEntry {
 };
 #pragma pack(pop)
 
-// Message numbers in list data, which are those of 16-bit Windows.
+// List data use the message numbers of 16-bit Windows.
 constexpr WORD kAddToListBox = 0x0401;
 constexpr WORD kAddToComboBox = 0x0403;
 

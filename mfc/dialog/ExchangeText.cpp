@@ -18,8 +18,8 @@ namespace {
 
 constexpr LPCTSTR kBlanks = _T(" \t\r\n");
 
-/// Sets the text of a control unless the control has it already. Setting an equal text would flicker and move
-/// the caret.
+/// Sets the text of a control, unless the control already shows the text: setting an equal text would make
+/// the control flicker and move the caret.
 void ShowText(HWND control, LPCTSTR text) {
     if (ControlText(control) != text)
         ::SetWindowText(control, text);
@@ -151,7 +151,8 @@ void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars) {
     }
     if (pDX->m_hWndLastControl == nullptr || !pDX->m_bEditLastControl)
         return;
-    // A combo box has its own message. The number of that message means something else to an edit control.
+    // A combo box needs CB_LIMITTEXT. An edit control needs EM_LIMITTEXT and could take the number of
+    // CB_LIMITTEXT for another message.
     TCHAR className[16] = {};
     ::GetClassName(pDX->m_hWndLastControl, className, _countof(className));
     const UINT message = ::lstrcmpi(className, _T("COMBOBOX")) == 0 ? CB_LIMITTEXT : EM_LIMITTEXT;

@@ -9,5 +9,6 @@ class CWnd;
 /// window that was active last, else the main window, else NULL.
 HWND ModalOwner(const CWnd* parent);
 
-/// The last window in the chain of owners, often the main window. A modal dialog disables it too.
+/// The last window in the chain of owners of `window`, often the main window; `window` itself if it has no
+/// owner. A modal dialog also disables this window.
 HWND TopmostOwner(HWND window);

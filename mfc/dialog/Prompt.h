@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-/// Shows a message about wrong input and ends the exchange. `id` is a string of the resource chain or of the
-/// library; %1 and %2 stand for the two texts.
+/// Shows a message about wrong input and ends the exchange. `id` is the ID of a string resource (or of a text
+/// of the library), in which %1 stands for `first` and %2 for `second`.
 [[noreturn]] void FailWithPrompt(CDataExchange* pDX, UINT id, LPCTSTR first = _T(""),
                                  LPCTSTR second = _T(""));

@@ -27,7 +27,7 @@ CDC::~CDC() {
 CDC* PASCAL CDC::FromHandle(HDC hDC) {
     ThreadGdiMaps* const maps = GdiMaps();
     CDC* const dc = maps == nullptr ? nullptr : maps->dcs.FromHandle(hDC);
-    if (dc != nullptr && dc->m_hDC != hDC) { // a program has detached the handle through the wrapper
+    if (dc != nullptr && dc->m_hDC != hDC) { // a program has called Detach() on the wrapper
         dc->m_hDC = hDC;
         dc->m_hAttribDC = hDC;
     }
@@ -40,7 +40,8 @@ void PASCAL CDC::DeleteTempMap() {
 }
 
 HDC CDC::GetSafeHdc() const {
-    const CDC* volatile self = this; // the call is allowed on a NULL object
+    // The call is allowed on a NULL object. `volatile` keeps the compiler from removing the test.
+    const CDC* volatile self = this;
     return self == nullptr ? nullptr : m_hDC;
 }
 

@@ -107,8 +107,9 @@ UINT CDC::SetBoundsRect(LPCRECT lpRectBounds, UINT flags) {
 BOOL CDC::SelectClipPath(int nMode) {
     if (m_hAttribDC == nullptr || m_hAttribDC == m_hDC)
         return ::SelectClipPath(m_hDC, nMode);
-    // The path exists in the output DC only. The attribute DC gets the same region, so that questions about
-    // the clip have the same answers.
+    // The path exists in the output DC only. The attribute DC gets the path as a region, so that both DCs
+    // have the same clip. Converting the path discards it, so the code converts between SaveDC() and
+    // RestoreDC().
     ::SaveDC(m_hDC);
     CRgn region;
     const BOOL known = region.CreateFromPath(this);

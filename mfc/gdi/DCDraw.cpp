@@ -5,8 +5,8 @@
 
 namespace {
 
-/// Drawing moves the position of the output DC. The position of the attribute DC, which GetCurrentPosition()
-/// returns, follows.
+/// Copies the current position of the output DC, which drawing has moved, to the attribute DC, which
+/// GetCurrentPosition() asks. Returns `drawn`.
 BOOL WithPosition(const CDC& dc, BOOL drawn) {
     POINT position{};
     if (dc.m_hAttribDC != nullptr && dc.m_hAttribDC != dc.m_hDC &&

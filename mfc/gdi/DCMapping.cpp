@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kHimetricPerInch = 2540; // one HIMETRIC unit is 0.01 mm
 
-/// Whether GDI defines the length of a unit in the mode.
+/// Whether a unit of the mode has a fixed physical length (metric, English and twips modes).
 bool HasFixedUnits(int mapMode) {
     return mapMode != 0 && mapMode != MM_TEXT && mapMode != MM_ISOTROPIC && mapMode != MM_ANISOTROPIC;
 }

@@ -7,8 +7,9 @@
 
 namespace {
 
-/// Calls `select` with the handle for each DC that is not NULL. Returns `wrap` of the former handle of the
-/// last DC. If memory runs out, selects the former handles again and returns NULL.
+/// Calls `select` with the handle for each DC that is not NULL. Returns `wrap` of the handle that was
+/// selected into the last DC before, or into the first DC if the last one gave none. If memory runs out,
+/// selects the former handles again and returns NULL.
 template <class Select, class Wrap> auto SelectInto(std::initializer_list<HDC> dcs, HGDIOBJ handle,
                                                     Select select, Wrap wrap) -> decltype(wrap(handle)) {
     HGDIOBJ formers[2] = {};

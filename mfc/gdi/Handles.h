@@ -1,4 +1,4 @@
-// Handles of objects that may be NULL, and new handles while memory runs out.
+// Handles of objects that may be NULL, calls that may run out of memory, and settings of both DCs of a CDC.
 #pragma once
 
 #include "afx/DC.h"

@@ -38,7 +38,7 @@ CMenu* PASCAL CMenu::FromHandle(HMENU hMenu) {
     ThreadGdiMaps* const maps = GdiMaps();
     CMenu* const menu = maps == nullptr ? nullptr : maps->menus.FromHandle(hMenu);
     if (menu != nullptr)
-        menu->m_hMenu = hMenu; // a program may have detached or destroyed the menu through the wrapper
+        menu->m_hMenu = hMenu; // a program may have called Detach() or DestroyMenu() on the wrapper
     return menu;
 }
 
@@ -53,7 +53,8 @@ void PASCAL CMenu::DeleteTempMap() {
 }
 
 HMENU CMenu::GetSafeHmenu() const {
-    const CMenu* volatile self = this; // the call is allowed on a NULL object
+    // The call is allowed on a NULL object. `volatile` keeps the compiler from removing the test.
+    const CMenu* volatile self = this;
     return self == nullptr ? nullptr : m_hMenu;
 }
 

@@ -9,7 +9,8 @@
 #include <array>
 #include <memory>
 
-/// Create a temporary wrapper for a handle, and clear the wrapper's handle without destroying it.
+/// Wrap() creates a temporary wrapper for a handle. Unwrap() clears the wrapper's handle; the DC, menu or GDI
+/// object stays valid.
 struct DCTraits {
     static std::unique_ptr<CDC> Wrap(HDC handle);
     static void Unwrap(CDC& dc);
@@ -32,16 +33,17 @@ template <class Object> struct GdiTraits {
 /// The wrappers of a thread's GDI handles.
 ///
 /// Each class has its own map of temporary wrappers. GDI may reuse the number of a deleted handle for an
-/// object of another kind, and such a handle must not get the old wrapper.
+/// object of another kind, and the new object must not get the old wrapper.
 class GdiObjectMap {
 public:
     CGdiObject* Permanent(HGDIOBJ handle) const { return m_permanent.Permanent(handle); }
     void SetPermanent(HGDIOBJ handle, CGdiObject* object) { m_permanent.SetPermanent(handle, object); }
-    /// Removes the entry of `handle` if it is `object`. Another object may own the handle meanwhile.
+    /// Removes the permanent entry of `handle` if the entry is `object`. By now, another object may have
+    /// attached the same handle.
     void Remove(HGDIOBJ handle, const CGdiObject* object);
 
-    /// The wrapper of class `Object` for a handle of that kind. The attached object, if it has that class;
-    /// else a temporary one.
+    /// The object of class `Object` for a handle of the same kind: the attached object if it has the class
+    /// `Object`, else a temporary one.
     template <class Object> Object* Find(HGDIOBJ handle) {
         if (auto* const permanent = dynamic_cast<Object*>(Permanent(handle)))
             return permanent;
@@ -56,7 +58,7 @@ private:
     template <class Map> static CGdiObject* Temporary(Map& map, HGDIOBJ handle) {
         CGdiObject* const object = map.FromHandle(handle);
         if (object != nullptr)
-            object->m_hObject = handle; // a program may have detached the handle through the wrapper
+            object->m_hObject = handle; // a program may have called Detach() on the wrapper
         return object;
     }
     Temporaries<CPen>& TemporariesOf(const CPen*) { return m_pens; }
@@ -67,7 +69,7 @@ private:
     Temporaries<CRgn>& TemporariesOf(const CRgn*) { return m_regions; }
     Temporaries<CGdiObject>& TemporariesOf(const CGdiObject*) { return m_others; }
 
-    Temporaries<CGdiObject> m_permanent; // only the permanent entries are used
+    Temporaries<CGdiObject> m_permanent; // permanent entries of all classes; no temporary ones
     Temporaries<CPen> m_pens;
     Temporaries<CBrush> m_brushes;
     Temporaries<CFont> m_fonts;

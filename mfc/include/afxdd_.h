@@ -12,8 +12,8 @@ class CComboBox;
 /// the member's type, the routine shows a message and throws CUserException*. CWnd::UpdateData() catches that
 /// exception and returns FALSE.
 
-/// Text of a control. Numbers are decimal, and blanks may surround them. Real numbers show 6 digits (float)
-/// or 15 (double).
+/// Text of a control. Numbers are decimal, and blanks may surround them. Real numbers are shown with at most
+/// 6 (float) or 15 (double) significant digits.
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value);
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value);
 void MFC_API AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value);
@@ -36,7 +36,8 @@ void MFC_API AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
 void MFC_API AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index);
-/// Text of a combo box. If no item begins with the text, the text goes into the edit field.
+/// Text of a combo box. If no item begins with the text (Exact: equals the text), the text goes into the edit
+/// field.
 void MFC_API AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value);
 

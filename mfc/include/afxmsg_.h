@@ -5,7 +5,7 @@
 
 // A row ON_WM_X() ties the message WM_X to the member function OnX, whose declaration stands in CWnd.
 
-/// Row for the handler `name` of the class whose map the source defines.
+/// A row that maps `message` to the member function `name` of the class in BEGIN_MESSAGE_MAP.
 #define AFX_ON_WM(message, sig, result, name, args)                                                          \
     {message, 0, 0, 0, AfxSig::sig, static_cast<result(CWnd::*) args>(&AfxMapNames::Class::name)},
 

@@ -95,13 +95,13 @@
 #define AFX_IDI_STD_MDIFRAME 0x7801
 #define AFX_IDI_STD_FRAME 0x7802
 
-// Strings. An application may define the first one; the library has English texts for the others
+// Strings. An application may define them. The library has an English text for AFX_IDS_IDLEMESSAGE only
 #define AFX_IDS_APP_TITLE 0xE000
 #define AFX_IDS_IDLEMESSAGE 0xE001
 #define AFX_IDS_HELPMODEMESSAGE 0xE002
 
-// Prompts. The library has English texts. A string with the same ID in the application replaces the
-// library's text.
+// Prompts. The library has English texts for all except AFX_IDP_USER_BREAK. A string with the same ID in the
+// application replaces the library's text.
 #define AFX_IDP_NO_ERROR_AVAILABLE 0xF020
 #define AFX_IDP_INTERNAL_FAILURE 0xF021
 #define AFX_IDP_COMMAND_FAILURE 0xF022

@@ -18,13 +18,14 @@ END_MESSAGE_MAP()
 
 namespace {
 
-/// Replaces a name of the application, which is a block of malloc().
+/// Replaces a name of the application. Names are allocated with malloc().
 void SetName(LPCTSTR& name, const std::string& text) {
     std::free(const_cast<char*>(name));
     name = _strdup(text.c_str());
 }
 
-/// The owner of a message box, and the top-level window that the box disables.
+/// The owner of a message box. MessageBox() disables the owner only, so the object disables the topmost
+/// window above the owner and enables that window again when the box is closed.
 struct BoxOwner {
     HWND owner = nullptr;
     HWND disabled = nullptr;

@@ -6,7 +6,7 @@
 
 #include <process.h>
 
-/// The function of a new thread, and the ways to start it.
+/// The function that a new thread runs, and the functions that start a thread.
 struct AfxThreadStart {
     static unsigned __stdcall Run(void* parameter) {
         CWinThread* const thread = static_cast<CWinThread*>(parameter);

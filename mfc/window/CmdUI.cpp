@@ -8,8 +8,8 @@
 namespace {
 
 bool IsItem(const CCmdUI& item) {
-    // An item that opens a popup uses the command of the popup's first item. It gets neither the check mark
-    // nor the text of that command.
+    // An item that opens a popup is updated with the command of the popup's first item, but must not get the
+    // state, check mark or text of that command.
     return item.m_pMenu != nullptr && item.m_pSubMenu == nullptr;
 }
 

@@ -30,7 +30,7 @@ namespace {
 constexpr UINT frameClassStyle = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
 constexpr UINT firstSystemCommand = 0xF000;
 
-/// The first module of the chain with this resource; NULL if none has it.
+/// The first module in the resource chain that has the resource; NULL if no module has it.
 HINSTANCE ModuleWith(LPCTSTR name, LPCTSTR type) {
     const HINSTANCE module = AfxFindResourceHandle(name, type);
     return ::FindResource(module, name, type) != nullptr ? module : nullptr;
@@ -229,14 +229,15 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu) {
                 continue; // separator
             state.DoUpdate(this, m_bAutoMenuEnable && state.m_nID < firstSystemCommand);
         } else {
-            // The state of a popup follows its first command. The handler of that command may also fill the
-            // popup, for example with a list of files.
+            // An item that opens a popup is updated by the handler of the popup's first command. The handler
+            // may fill the popup, for example with a list of files.
             state.m_nID = ::GetMenuItemID(state.m_pSubMenu->m_hMenu, 0);
             if (state.m_nID == 0 || state.m_nID == static_cast<UINT>(-1))
                 continue;
             state.DoUpdate(this, FALSE);
         }
-        // The handler may have added or removed items. The loop continues after the item of the handler.
+        // The handler may have added or removed items. After a removal, the loop steps back by the number of
+        // removed items and then skips items with the command of the handler.
         const UINT count = static_cast<UINT>(::GetMenuItemCount(pMenu->m_hMenu));
         if (count < state.m_nIndexMax) {
             state.m_nIndex -= std::min(state.m_nIndexMax - count, state.m_nIndex);

@@ -168,7 +168,7 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
 LRESULT AnswerUncaughtException(CException* exception, const MSG& message) {
     if (CWinThread* const thread = AfxGetThread())
         return thread->ProcessWndProcException(exception, &message);
-    // A thread without a CWinThread object uses the base versions.
+    // A thread without a CWinThread object uses the base class's ProcessWndProcException().
     CWinThread plain;
     return plain.ProcessWndProcException(exception, &message);
 }

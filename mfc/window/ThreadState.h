@@ -8,7 +8,8 @@
 
 #include <memory>
 
-/// A temporary window object refers to a window and never destroys it.
+/// Wrap() creates a temporary window object. Unwrap() clears its handle, so that its destructor does not
+/// destroy the window.
 struct AfxWndMapTraits {
     static std::unique_ptr<CWnd> Wrap(HWND handle) { return std::unique_ptr<CWnd>(new CWnd(handle)); }
     static void Unwrap(CWnd& window) { window.m_hWnd = nullptr; }
@@ -24,7 +25,7 @@ struct ThreadState {
     int creationHookDepth = 0;
     HHOOK messageFilterHook = nullptr;
     HWND exchangingWindow = nullptr; ///< window inside UpdateData(); its controls' notifications are ignored
-    HMENU popupMenu = nullptr;       ///< the popup that opened last, for finding owner-drawn items
+    HMENU popupMenu = nullptr;       ///< the popup that opened last; may contain an owner-drawn item
     CWinThread* thread = nullptr;    ///< NULL in the main thread, where the application is the thread object
     AFX_MODULE_STATE* moduleState = nullptr;
     char className[96] = ""; ///< result buffer of AfxRegisterWndClass()

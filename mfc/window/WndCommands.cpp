@@ -62,7 +62,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (control == nullptr) { // menu or accelerator
         if (id == 0)
             return FALSE;
-        // TranslateAccelerator() does not check whether the command is enabled.
+        // The command of an accelerator may be disabled, so its update handler is asked first.
         EnabledProbe probe;
         probe.m_nID = id;
         OnCmdMsg(id, CN_UPDATE_COMMAND_UI, &probe, nullptr);

@@ -55,9 +55,9 @@ HWND WindowOf(LPARAM lParam) {
     return reinterpret_cast<HWND>(lParam);
 }
 
-/// The object of a control's window, as a pointer to the class in the handler's declaration. Programs compare
-/// the pointer with their own control of any class. A temporary object is a plain CWnd; the control classes
-/// have no data members of their own.
+/// The object of a control's window, cast to the class in the handler's declaration. The cast is not checked:
+/// programs compare the pointer with their own control, which may be of any class. A temporary object is a
+/// plain CWnd, but the control classes have no data members of their own.
 template <class Control> Control* ControlOf(LPARAM lParam) {
     return reinterpret_cast<Control*>(CWnd::FromHandle(WindowOf(lParam)));
 }
@@ -210,7 +210,8 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         (this->*call.v_up)(word, PointOf(lParam));
         break;
     case AfxSig::b_wheel:
-        // A handler that returns FALSE has called Default(), which has sent the message to the parent.
+        // FALSE too means "handled" here. A handler that leaves the message to the parent returns the result
+        // of the base, whose Default() has already sent the message on.
         result = (this->*call.b_wheel)(wLow, static_cast<short>(wHigh), PointOf(lParam));
         return TRUE;
     case AfxSig::v_wheel:

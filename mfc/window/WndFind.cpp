@@ -138,7 +138,7 @@ void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPAR
                                     BOOL bOnlyPerm) {
     HWND next = nullptr;
     for (HWND child = ::GetTopWindow(hWnd); child != nullptr; child = next) {
-        next = ::GetWindow(child, GW_HWNDNEXT); // the receiver may destroy itself
+        next = ::GetWindow(child, GW_HWNDNEXT); // before the call: the receiver may destroy itself
         if (!bOnlyPerm)
             ::SendMessage(child, message, wParam, lParam);
         else if (CWnd* const window = FromHandlePermanent(child))

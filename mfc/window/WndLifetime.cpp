@@ -28,7 +28,8 @@ CWnd::~CWnd() {
 }
 
 HWND CWnd::GetSafeHwnd() const {
-    const CWnd* volatile self = this; // `volatile`: allowed on NULL objects, see CGdiObject
+    // The call is allowed on a NULL object. `volatile` keeps the compiler from removing the test.
+    const CWnd* volatile self = this;
     return self == nullptr ? nullptr : m_hWnd;
 }
 

@@ -32,17 +32,20 @@ struct ChartPoint {
     double y = 0;
 };
 
-/// The points of a choice, in the order of time. With ChartX::Time, x counts from the recording's first time
-/// in units of TimeUnitOf.
+/// The points of a choice, in the order of time. With ChartX::Time, x is the time since the recording's first
+/// time, in the unit that TimeUnitOf gives for the recording's length.
 ///
-/// In a single file every row is a point, and a row without both values is a gap. A row of joined files holds
-/// values of one file only. There the rows with a value of the series along X are points (with other kinds,
-/// of the series along Y). The other series' value is the nearest one in time, if that is less than one
-/// interval of its file away. Rows farther apart than LongestStep of their file have a gap between them.
+/// In a single file every row is a point. The point is a gap when either of its two values is missing.
+///
+/// In joined files a row usually holds values of one file only. There a point is made for every row with a
+/// value of the leading series: with ChartX::Series the one along X, otherwise the one along Y. With
+/// ChartX::Series, y is the value of the Y series that is nearest in time, or NaN when no value is less than
+/// one median interval of that series' file away. A gap separates neighbouring points that are farther apart
+/// than LongestStep of the leading series' file.
 std::vector<ChartPoint> ChartPointsOf(const Recording& recording, const ChartChoice& choice);
 
-/// The choice that the chart begins with: of the given series (indices) the second against the first; a
-/// single series against its predecessor.
+/// The choice that the chart begins with. `series` are indices: the second series is along Y, the first along
+/// X. A single series is shown against its previous value.
 ChartChoice DefaultChartChoice(const std::vector<std::size_t>& series);
 
 /// A unit of time for the labels of an axis.

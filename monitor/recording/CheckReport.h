@@ -11,7 +11,7 @@ namespace kavlix::recording {
 /// range, its messages, and the number of rows left out. Then a line on the joined recording.
 std::string CheckReport(const Recording& recording);
 
-/// Only the messages, one a line, then the number of rows left out. Empty when nothing was wrong.
+/// Only the messages, one on each line, then the number of rows left out. Empty when nothing was wrong.
 std::string MessageReport(const Recording& recording);
 
 /// A summary of one line for the status bar: `22,695 rows, 1 series; 3 rows left out; 2 messages`.

@@ -90,7 +90,8 @@ void CsvReader::SetSeparator(std::string_view firstLine) {
         if (!quoted && found != std::end(kSeparators)) {
             const std::size_t index = static_cast<std::size_t>(found - std::begin(kSeparators));
             ++counts[index];
-            // Of equal counts the first one wins: it follows the time column's name.
+            // Of equal counts, the separator that reaches the count first wins. With one of each, that is the
+            // one behind the time column's name.
             best = best == std::size(kSeparators) || counts[index] > counts[best] ? index : best;
         }
     }
@@ -175,8 +176,9 @@ bool CsvReader::FindRowEnd(bool atEnd) {
     return false;
 }
 
-/// Scans the current row again after an open quote was not closed before `until`. Every quote before `until`
-/// now ends with its line, so the following rows are not lost, and no byte is scanned more than twice.
+/// Scans the current row again, because a quote spans lines and the row is too long or ends within a quote. A
+/// line end before `until` now closes every quote, so the following rows are not lost, and no byte is scanned
+/// more than twice.
 void CsvReader::RestartLineByLine(std::size_t until) {
     m_plainUntil = until;
     m_scanned = m_begin;

@@ -14,14 +14,14 @@ namespace kavlix::recording {
 struct CsvCell {
     std::string_view text;    ///< without the quotes around it; doubled quotes are single
     std::uint32_t line = 0;   ///< line where the cell begins, counted from the row's first line, which is 0
-    std::uint32_t column = 1; ///< byte position in that line, from 1
+    std::uint32_t column = 1; ///< byte position where the cell begins in its line, from 1
 };
 
 /// One row of at least one cell. An empty line is a row of one empty cell.
 struct CsvRow {
     std::uint64_t line = 1;      ///< line of the file where the row begins, from 1
     std::uint64_t endLine = 1;   ///< line where the row ends
-    std::uint32_t endColumn = 1; ///< byte position behind the row's last byte in that line
+    std::uint32_t endColumn = 1; ///< byte position behind the row's last byte in line `endLine`, from 1
     std::vector<CsvCell> cells;
 };
 
@@ -48,11 +48,12 @@ public:
 /// Reads comma-separated text that the caller feeds in pieces. The rows do not depend on the size of the
 /// pieces. Quoting follows RFC 4180. Lines end with CRLF, LF or CR. A UTF-8 byte order mark is skipped. The
 /// separator is the one of comma, semicolon and tab that is most frequent in the first line outside quotes.
-/// Memory stays below about twice kLineLimit for any input.
+/// For any input, the text in memory stays below about twice kLineLimit; a row also needs one CsvCell for
+/// each of its cells.
 class CsvReader {
 public:
-    /// Longest row in bytes. A longer row is skipped. When the row is long because a quote is open across
-    /// lines, its lines are read one by one instead.
+    /// Longest row in bytes. A longer row that has line breaks within quotes is read again, one line at a
+    /// time. Any other longer row is skipped.
     static constexpr std::size_t kLineLimit = std::size_t{1} << 20;
 
     /// `sink` is called from Feed and Finish, and must outlive the reader.
@@ -93,25 +94,25 @@ private:
     bool IsSpecial(char c) const { return m_special[static_cast<unsigned char>(c)]; }
 
     CsvSink& m_sink;
-    std::string m_pending;        ///< bytes not yet delivered: at most kLineLimit and one piece
+    std::string m_pending;        ///< bytes not yet delivered: at most about kLineLimit + 64 KB
     std::size_t m_begin = 0;      ///< where the current row begins in m_pending
     std::size_t m_scanned = 0;    ///< end of the bytes that were scanned for the row's end
-    std::size_t m_plainUntil = 0; ///< before this position a quote ends with its line; see RestartLineByLine
+    std::size_t m_plainUntil = 0; ///< before this position, a line end closes an open quote
     Scan m_scan = Scan::CellStart;
     bool m_rowHasBreaks = false; ///< the current row has a line break within quotes
     std::uint64_t m_line = 1;    ///< line where the current row begins
     bool m_started = false;      ///< the byte order mark and the separator are known
     bool m_skipping = false;     ///< the reader is inside a line beyond the limit
-    bool m_skipLf = false;       ///< the last row ended with CR: an LF right behind belongs to that line end
+    bool m_skipLf = false;       ///< the last row ended with CR: an LF right behind the CR is skipped
     bool m_stopped = false;
     char m_separator = ',';
-    std::array<bool, 256> m_special{}; ///< bytes that end a cell without quotes
+    std::array<bool, 256> m_special{}; ///< whether a byte ends an unquoted cell
 
     // State of Deliver.
     CsvRow m_row;
     std::string m_unquoted;      ///< texts of the quoted cells
-    std::uint32_t m_rowLine = 0; ///< line within the row, from 0
-    std::size_t m_lineStart = 0; ///< where that line begins in the row
+    std::uint32_t m_rowLine = 0; ///< the current line within the row, from 0
+    std::size_t m_lineStart = 0; ///< position in the row where line m_rowLine begins
 };
 
 } // namespace kavlix::recording

@@ -1,4 +1,4 @@
-// Values at a row of joined recordings, whose series have their samples at different times.
+// Values at a row of joined files, whose series have their samples at different times.
 #pragma once
 
 #include <cstddef>
@@ -8,18 +8,19 @@
 
 namespace kavlix::recording {
 
-/// The sample that holds the value of `series` at `sample`. A row of joined files holds values of one file
-/// only, so another file's series has its value in a neighbouring row. The result is the nearest row in
-/// `visible` with a value of the series, if that row is less than one interval of the series' file away.
-/// Otherwise the result is `sample` itself, whose value may be NaN.
+/// The row with the value to show for `series` at row `sample`. In joined files a row usually holds values of
+/// one file only, so a series of another file has its value in a neighbouring row. The result is the nearest
+/// row in `visible` with a value of the series, if that row is less than one median interval of the series'
+/// file away. Otherwise, and always in a single file, the result is `sample` itself, whose value may be NaN.
 std::size_t SampleBeside(const Recording& recording, const VisibleRange& visible, std::size_t series,
                          std::size_t sample);
 
 /// The values of all series at `row`, each from the row that SampleBeside finds.
 std::vector<double> ValuesAt(const Recording& recording, std::size_t row);
 
-/// The row that shows how the recording ends. Of a single file: the last row. Of joined files, which may end
-/// at different times: of the last 100 rows the one with most values, the latest of equal ones.
+/// The row that shows how the recording ends. In a single file: the last row. Joined files may end at
+/// different times: there the result is the row, among the last 100, for which ValuesAt finds the most
+/// values; of several such rows the latest.
 std::size_t LastFullRow(const Recording& recording);
 
 } // namespace kavlix::recording

@@ -10,7 +10,7 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr double kHighestShown = 100; // of a rate in its unit, as of percents
+constexpr double kHighestShown = 100; // most units of a rate: the axis of the percents ends at 100
 constexpr std::array<const char*, 5> kPrefixes = {"", "k", "M", "G", "T"};
 
 std::optional<double> ProcessorPercent(const MachineCounters& before, const MachineCounters& now) {

@@ -23,7 +23,7 @@ struct MachineCounters {
         std::uint64_t total = 0;
     };
 
-    double seconds = 0; ///< a clock that never goes back
+    double seconds = 0; ///< time of a clock that never goes back
     std::optional<Processor> processor;
     std::optional<double> memoryPercent;                      ///< physical memory in use
     std::optional<std::vector<InterfaceCounters>> interfaces; ///< hardware only: no loopback, no filters

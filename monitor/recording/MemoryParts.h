@@ -25,8 +25,9 @@ struct MemoryPart {
     std::uint64_t bytes = 0;
 };
 
-/// Divides memory and page files into parts that add up to the whole. A counter that the system does not give
-/// has no part: its bytes count as Others. Where counters contradict one another, later parts are cut.
+/// Divides memory and page files into parts that add up to `total` + `pageFile`. A counter that the system
+/// does not give has no part: its bytes count as Others. If Available, Own and Kernel together exceed
+/// `total`, Kernel is cut first, then Own, then Available. PageFileUsed is cut to `pageFile`.
 std::vector<MemoryPart> PartsOf(const MachineMemory& memory);
 
 /// The name that the pie shows for a part.

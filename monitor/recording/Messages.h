@@ -9,11 +9,11 @@
 
 namespace kavlix::recording {
 
-/// What a message is about. The number of messages of each kind is limited.
+/// What a message is about. MessageLog keeps a limited number of messages of each kind.
 enum class Complaint {
-    File,          ///< the file cannot be opened, is empty, is no text, has no series
-    Header,        ///< no header row, or a name in it
-    Line,          ///< a line beyond the limit
+    File,          ///< the file cannot be read, is no text, or has no rows of data
+    Header,        ///< no header row, or one without series
+    Line,          ///< a line longer than CsvReader::kLineLimit
     Quote,         ///< an open quote, or text behind a closing one
     Time,          ///< an unreadable time
     TimeBackwards, ///< a time before the previous row's
@@ -29,8 +29,8 @@ enum class Complaint {
 struct Message {
     Complaint complaint = Complaint::File;
     std::string file;
-    std::uint64_t line = 0;   ///< from 1; 0 when the message is about the whole file
-    std::uint64_t column = 0; ///< byte position in the line, from 1; 0 when it is about the whole line
+    std::uint64_t line = 0;   ///< from 1; 0: the message is about the whole file
+    std::uint64_t column = 0; ///< byte position in the line, from 1; 0: the message is about the whole line
     std::string text;         ///< what was expected and what was found
 
     /// `FILE:LINE:COLUMN: text`, without the parts that are 0.
@@ -60,7 +60,8 @@ public:
     /// Number of messages of all kinds, including those that were not kept.
     std::uint64_t Total() const;
 
-    /// The text of each kept message, then a line for each kind of which messages were not kept.
+    /// The text of each kept message. Then, for each kind with more messages than kLimit, a line with the
+    /// number of those that were not kept.
     std::vector<std::string> Lines() const;
 
 private:

@@ -17,7 +17,8 @@ struct AxisRange {
 /// axis' minimum and 1 at its maximum. NaN when the value is not finite or the axis has no length.
 double AxisDistance(double value, AxisRange axis, double place);
 
-/// Index of the least distance, the first of equal ones. NaN entries do not count. None without any other.
+/// Index of the least distance, the first of equal ones. NaN entries do not count. None when every entry is
+/// NaN.
 std::optional<std::size_t> Nearest(const std::vector<double>& distances);
 
 /// Index of the value nearest to `index` that is not NaN, at most `reach` places away; of two equally near

@@ -38,7 +38,7 @@ bool IsAbsent(std::string_view text) {
 
 /// Whether a number outside the range of a double is too small, not too large.
 bool IsUnderflow(std::string_view digits) {
-    constexpr long long kFar = 1'000'000'000; // exponents are cut to this
+    constexpr long long kFar = 1'000'000'000; // larger exponents are cut to this
     const std::size_t mark = digits.find_first_of("eE");
     const std::string_view mantissa = digits.substr(0, mark);
     long long exponent = 0;
@@ -79,7 +79,7 @@ NumberKind ParsePlain(std::string_view text, double& value) {
     return NumberKind::Value;
 }
 
-/// Length of the UTF-8 sequence at the front of the text; 0 when the bytes are no such sequence.
+/// Length of the UTF-8 sequence at the front of the text in bytes; 0 when the text begins with none.
 std::size_t SequenceLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char lead = byte(0);
@@ -91,7 +91,7 @@ std::size_t SequenceLength(std::string_view text) {
     for (std::size_t i = 1; i < length; ++i)
         if ((byte(i) & 0xC0) != 0x80)
             return 0;
-    // Overlong forms, surrogates, and numbers above the last code point.
+    // Reject overlong forms, surrogates, and numbers above the last code point.
     if ((lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xED && byte(1) > 0x9F) ||
         (lead == 0xF0 && byte(1) < 0x90) || (lead == 0xF4 && byte(1) > 0x8F))
         return 0;

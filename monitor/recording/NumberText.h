@@ -15,10 +15,10 @@ enum class NumberKind {
     Bad     ///< anything else
 };
 
-/// Reads a cell: an optional sign, digits with a decimal point, an optional exponent. Blanks around the text
-/// are ignored. Infinities and numbers beyond the range of a double are Bad. A number too small for a double
-/// is read as 0. `value` receives the number, or NaN unless the result is Value. With `decimalComma` the
-/// decimal point may also be a comma, as in files whose separator is the semicolon.
+/// Reads a cell: an optional sign, digits, an optional decimal point, an optional exponent. Blanks around the
+/// text are ignored. Infinities and numbers beyond the range of a double are Bad. A number too small for a
+/// double is read as 0. `value` receives the number, or NaN unless the result is Value. With `decimalComma`
+/// the decimal point may also be a comma, as in files whose separator is the semicolon.
 NumberKind ParseNumber(std::string_view text, double& value, bool decimalComma = false);
 
 /// What ParseNumber expects, in words for a message.

@@ -12,7 +12,7 @@
 
 namespace kavlix::recording {
 
-/// Size of the window's client area in pixels.
+/// Size of the window's client area and menu bar together, in pixels.
 struct WindowSize {
     int width = 0;
     int height = 0;

@@ -52,7 +52,7 @@ Periods::Periods(const std::vector<Time>& times) {
 }
 
 std::string Periods::Label(std::size_t period) const {
-    // Ends of the parts of `YYYY-MM-DD HH:MM:SS`.
+    // Positions behind the year, month, day and minute in `YYYY-MM-DD HH:MM:SS`.
     constexpr std::size_t year = 4, month = 7, day = 10, minute = 16;
     const std::string text = FormatDateTime(Begin(period), TimePrecision::Seconds);
     if (m_length < kMinute)

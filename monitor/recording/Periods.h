@@ -21,7 +21,7 @@ public:
     std::size_t Count() const { return m_count; }
     Time Length() const { return m_length; }
 
-    /// The period of a time that is not before the recording's first and not behind its last.
+    /// Index of the period that holds `time`, which must lie within the recording.
     std::size_t Of(Time time) const { return static_cast<std::size_t>((time - m_first) / m_length); }
     Time Begin(std::size_t period) const { return m_first + static_cast<Time>(period) * m_length; }
 
@@ -50,7 +50,7 @@ PeriodStatistics StatisticsOf(const Recording& recording, std::size_t series, co
 std::vector<double> RankedOf(std::vector<double> values);
 inline constexpr std::size_t kMostRanked = 401;
 
-/// RankedOf a series' values in each period.
+/// For each period, RankedOf the series' values in that period.
 std::vector<std::vector<double>> RankedValues(const Recording& recording, std::size_t series,
                                               const Periods& periods);
 

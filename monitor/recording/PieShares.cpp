@@ -1,4 +1,4 @@
-// Divides a sum among its values.
+// Computes the shares of values in their sum.
 
 #include "monitor/recording/PieShares.h"
 

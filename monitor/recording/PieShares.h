@@ -7,7 +7,7 @@
 
 namespace kavlix::recording {
 
-/// The sum of some values, divided among them.
+/// The values that are parts of a pie, with their shares of the sum, and the values that cannot be parts.
 struct PieShares {
     struct Part {
         std::size_t index = 0; ///< index of the value
@@ -20,7 +20,7 @@ struct PieShares {
     std::vector<std::size_t> missing;  ///< indices of NaN and infinities
 };
 
-/// Divides the sum of `values` among them.
+/// Computes the share of each value in the sum of all values that are finite and not negative.
 PieShares SharesOf(const std::vector<double>& values);
 
 /// Names the values without a share and says why: `Left out: a, b (negative), c (no value)`. `names` has one

@@ -31,22 +31,22 @@ struct FileSummary {
         std::string name;         ///< as in Series
         std::uint64_t values = 0; ///< number of samples with a value
         std::uint64_t absent = 0; ///< number of rows without a value
-        std::uint64_t gaps = 0;   ///< number of runs of such rows
-        double min = 0;           ///< lowest and highest value; meaningless when `values` is 0
-        double max = 0;
+        std::uint64_t gaps = 0;   ///< number of runs of rows without a value
+        double min = 0;           ///< lowest value; meaningless when `values` is 0
+        double max = 0;           ///< highest value; meaningless when `values` is 0
     };
 
     std::string path;
     std::uint64_t bytes = 0;       ///< number of bytes read
     std::uint64_t rows = 0;        ///< number of rows kept
-    std::uint64_t rowsLeftOut = 0; ///< number of rows, without the header, that were left out
+    std::uint64_t rowsLeftOut = 0; ///< data rows left out; all rows lost for lack of memory count as one
     bool leftOut = false;          ///< the whole file was left out
     bool zoned = false;            ///< the file's times name a time zone: they were converted to UTC
-    Time first = 0;                ///< earliest and latest time; meaningless when `rows` is 0
-    Time last = 0;
-    Time interval = 0;          ///< median time between neighbouring rows; 0 with fewer than two rows
-    std::uint64_t timeGaps = 0; ///< number of neighbouring rows farther apart than LongestStep(interval)
-    Time longestGap = 0;        ///< the longest time between two such rows
+    Time first = 0;                ///< earliest time; meaningless when `rows` is 0
+    Time last = 0;                 ///< latest time; meaningless when `rows` is 0
+    Time interval = 0;             ///< median time between neighbouring rows; 0 with fewer than two rows
+    std::uint64_t timeGaps = 0;    ///< number of pairs of neighbouring rows farther apart than LongestStep
+    Time longestGap = 0;           ///< length of the longest time gap; 0: there are no time gaps
     std::vector<SeriesSummary> series;
     MessageLog log;
 };
@@ -54,16 +54,16 @@ struct FileSummary {
 /// The result of reading. The numbers are the program's exit status.
 enum class Status {
     Fine = 0,    ///< every row of every file is shown
-    LeftOut = 1, ///< a row or a whole file was left out
+    LeftOut = 1, ///< a row or a whole file was left out, or reading was cancelled
     Nothing = 2  ///< there is nothing to show
 };
 
-/// Several files, joined on time.
+/// One file, or several files joined on time.
 ///
 /// The times are those of all files, in ascending order. Rows of several files with the same time become one
-/// row. A time that occurs several times within one file stays several rows, in the file's order: the first
-/// pairs with the first row of that time in the other files, the second with the second. A row whose time is
-/// before the previous row's (a clock was set back) causes a message and is sorted by its time.
+/// row. Rows with the same time within one file stay separate rows, in the file's order: the first is joined
+/// with the first row of that time in the other files, the second with the second. A row whose time is before
+/// the previous row's (a clock was set back) causes a message and is sorted by its time.
 struct Recording {
     std::vector<Time> times;
     std::vector<Series> series;     ///< at most kMaxSeries, in the order of the files and their columns
@@ -93,7 +93,7 @@ struct VisibleRange {
 /// were read.
 Recording WithoutHead(const Recording& source, std::size_t count);
 
-/// Lowest and highest finite value.
+/// Lowest and highest of some values. Only finite values count.
 struct ValueSpan {
     bool any = false; ///< false: there is no value, and min and max are 0
     double min = 0;
@@ -110,8 +110,8 @@ ValueSpan SpanOf(const std::vector<double>& values, std::size_t first = 0, std::
 /// Median distance of neighbouring times; 0 with fewer than two times. The times must ascend.
 Time MedianInterval(const std::vector<Time>& times);
 
-/// The longest distance between rows of a file that still follow one another: 1.5 intervals. A longer
-/// distance is a gap in time.
+/// The longest time between neighbouring rows of a file that is no time gap: 1.5 times the file's median
+/// interval.
 inline Time LongestStep(Time interval) {
     return interval + interval / 2;
 }

@@ -19,7 +19,7 @@ struct Progress {
     std::uint64_t rows = 0;       ///< rows kept of all files
     bool finished = false;
 
-    /// The share of the bytes that is done, 0 to 100. Only a finished loader returns 100.
+    /// The share of the bytes that were read, in percent. Only a finished loader returns 100.
     int Percent() const;
 };
 
@@ -32,7 +32,7 @@ struct Progress {
 /// Missing files and wrong contents never throw: they cause messages in the file's summary.
 class RecordingLoader {
 public:
-    /// Bytes of a slice that takes a few milliseconds.
+    /// Size of a slice in bytes. Reading a slice takes a few milliseconds.
     static constexpr std::size_t kSlice = std::size_t{1} << 20;
 
     /// `paths` are file names in the process code page. Messages show them as given.
@@ -42,7 +42,7 @@ public:
     RecordingLoader(const RecordingLoader&) = delete;
     RecordingLoader& operator=(const RecordingLoader&) = delete;
 
-    /// Reads about `budgetBytes` more, at least one byte. The last step also joins the files. Does nothing
+    /// Reads about `budgetBytes` more bytes; 0 counts as 1. The last step also joins the files. Does nothing
     /// once loading has finished.
     Progress Step(std::size_t budgetBytes);
 
@@ -52,10 +52,11 @@ public:
     /// Ends loading and keeps what was read. The remaining files are left out.
     void Cancel();
 
-    /// Hands over the recording; the loader is empty afterwards. Before the end of loading, cancels first.
+    /// Hands over the recording; the loader is empty afterwards. If loading has not finished, calls Cancel
+    /// first.
     Recording Take();
 
-    /// Reads all files at once.
+    /// Reads all files in a single call.
     static Recording Load(std::vector<std::string> paths);
 
 private:

@@ -39,7 +39,8 @@ std::vector<double> Part(const std::vector<double>& values, Span span) {
     return std::vector<double>(begin, begin + static_cast<std::ptrdiff_t>(span.Size()));
 }
 
-/// The values of a series with those of the connecting line where ReduceForLines wants them.
+/// The values of a series in `span`. In joined files, rows of other files get values on the straight line
+/// between the series' own values, as ReduceForLines describes.
 std::vector<double> Connected(const Recording& source, const Series& series, Span span) {
     std::vector<double> values = Part(series.values, span);
     if (source.files.size() < 2 || series.file >= source.files.size())
@@ -104,7 +105,8 @@ double Mean(const std::vector<double>& values, Span run) {
     return count == 0 ? kNoValue : mean;
 }
 
-/// Position within a run of the sample whose time the run's second shown sample gets.
+/// The second shown sample of a run gets the time of one of the run's samples. Returns the position of that
+/// sample within the run.
 std::size_t SecondOf(std::size_t runSize) {
     return runSize / 2;
 }

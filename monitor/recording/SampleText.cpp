@@ -12,7 +12,7 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr std::size_t kNameBytes[] = {32, 10, 0}; // longest name in each form; 0: no names
+constexpr std::size_t kNameBytes[] = {32, 10, 0}; // longest name in each form, in bytes; 0: no names
 constexpr std::size_t kDateBytes = 11;            // `YYYY-MM-DD` and a blank
 
 std::string ValueText(double value, ValueDigits digits) {

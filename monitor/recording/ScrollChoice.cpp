@@ -12,7 +12,7 @@ namespace {
 /// Series share a graph when the larger magnitude is at most this multiple of the smaller one.
 constexpr double kSameMagnitude = 4;
 
-/// A recording that fills less than one part in this number of a view gets the next shorter view.
+/// A recording that fills less than 1/kFilledPart of a view gets the next shorter view.
 constexpr int kFilledPart = 3;
 
 double Magnitude(const ValueSpan& span) {

@@ -9,9 +9,10 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr Time kMostGapRows = 1000; // rows of one gap
+constexpr Time kMostGapRows = 1000; // about the most rows for one gap
 
-/// Gaps, and seconds with several samples, are normal when they occur at more than one row in this number.
+/// Gaps, and samples in the same second as the previous sample, are normal in a recording when more than one
+/// sample in kUsualOf has them.
 constexpr std::size_t kUsualOf = 10;
 
 Time WholeSecond(Time time) {

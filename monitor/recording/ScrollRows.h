@@ -23,11 +23,12 @@ struct ScrollPlan {
     bool wholeSeconds = false; ///< more than a tenth of the samples share a second with their predecessor
 };
 
-/// The longest time line: the scrolling graph counts time units in 32 bits.
+/// Length of the longest time line: the scrolling graph counts its time units in 32 bits.
 inline constexpr Time kLongestTimeLine = 107'000'000 * kMicrosPerSecond;
 static_assert(kLongestTimeLine / kMicrosPerSecond * kTimeUnitsPerSecond <= 2'147'483'647);
 
-/// The first and last time stamp: the graph counts seconds in 32 bits, in any time zone.
+/// The first and last time that becomes a time stamp. The graph counts the seconds since 1970 in 32 bits; the
+/// limits leave room for the offset of any time zone.
 inline constexpr Time kFirstStampTime = -2'147'300'000 * kMicrosPerSecond;
 inline constexpr Time kLastStampTime = 2'147'300'000 * kMicrosPerSecond;
 
@@ -36,18 +37,22 @@ inline constexpr Time kLastStampTime = 2'147'300'000 * kMicrosPerSecond;
 /// followed by a gap, gaps are normal in this recording, and the interval is 0.
 ScrollPlan PlanScrollRows(const Recording& recording);
 
-/// Appends rows without values for the gap between two neighbouring rows, an interval apart, at most about
-/// 1000. `sample` is the first sample behind the gap. Appends nothing when the times are not farther apart
-/// than LongestStep(interval).
+/// Appends rows without values for the gap between the neighbouring rows at `from` and `to`. The new rows are
+/// one `interval` apart, or more in a long gap: a gap gets at most about 1000 rows. `sample` is the first
+/// sample behind the gap. Appends nothing when `from` and `to` are not farther apart than
+/// LongestStep(interval).
 void AppendGapRows(Time from, Time to, Time interval, std::size_t sample, std::vector<ScrollRow>& rows);
 
-/// Appends the rows of the next samples, with the gaps between them. `sample` is the next sample without a
-/// row, and moves forward by `most` samples, or by more to complete the last second.
+/// Appends the rows of the next samples, with rows for the gaps between them. On entry, `sample` is the next
+/// sample without a row. The function moves it forward by `most` samples, by more if that completes the last
+/// second, or to the end of the recording. Samples after kLastStampTime get no rows.
 void AppendRows(const Recording& recording, const ScrollPlan& plan, std::size_t& sample, std::size_t most,
                 std::vector<ScrollRow>& rows);
 
-/// The value that a row shows of a series. Of several values: the one farthest from `before`, the value of
-/// the previous row, so that no peak is lost. NaN without any value.
+/// The value that a row shows of the series with these `values`. Of several values in the row, the result is
+/// the one farthest from `before`, so that a peak stays visible. `before` is the value that the series had
+/// last before the row; NaN: there is none, and the row's first value is the result. NaN when the row has no
+/// value of the series.
 double PeakValue(const std::vector<double>& values, const ScrollRow& row, double before);
 
 } // namespace kavlix::recording

@@ -11,8 +11,8 @@
 namespace kavlix::recording {
 namespace {
 
-/// The series' name, unless another file has the same one. Then the file's stem comes in front; the stem
-/// alone is enough for a file with one series.
+/// The series' name. If another file has a series of the same name: the name with the file's stem (FileStem)
+/// in front, or the stem alone for a file with one series.
 std::string NameInFile(const std::vector<Table>& tables, std::size_t file, const std::string& name,
                        const std::string& path) {
     for (std::size_t other = 0; other < tables.size(); ++other) {

@@ -16,7 +16,8 @@ bool IsBlankRow(const CsvRow& row) {
     return row.cells.size() == 1 && TrimBlanks(row.cells.front().text).empty();
 }
 
-/// Number of cells without blank ones at the end, which come from trailing separators.
+/// Number of cells up to the last one that is not blank. Trailing separators make blank cells at the row's
+/// end.
 std::size_t CountFilledCells(const CsvRow& row) {
     std::size_t count = row.cells.size();
     while (count > 0 && TrimBlanks(row.cells[count - 1].text).empty())

@@ -23,8 +23,8 @@ struct Table {
 /// - The header names the series. When the first row is data, the reader makes up names and keeps the row.
 /// - A row with an unreadable time is left out. A row with too many cells is left out too, because their
 ///   series are unknown.
-/// - A cell that is no number is a gap. A cell missing at the end of the row is a gap too. When no value of
-///   the row remains, the row is left out and counted.
+/// - A cell that is no number is a gap. A cell missing at the end of the row is a gap too. A row with bad
+///   or missing cells and without any value is left out. A complete row of empty cells is kept.
 /// - A time before the previous row's causes a message. The row is kept, and sorted by time at the end.
 class TableReader final : public CsvSink {
 public:
@@ -66,9 +66,9 @@ private:
     Table m_table;
     std::size_t m_cellCount = 0;  ///< cells of a complete row, including the time
     std::vector<double> m_values; ///< the current row's values
-    std::uint64_t m_endLine = 1;  ///< line behind the last row
+    std::uint64_t m_endLine = 1;  ///< number of the line after the last row
     bool m_headerSeen = false;
-    bool m_unsorted = false; ///< a time was before the previous row's
+    bool m_unsorted = false; ///< a row's time was before the previous row's
 };
 
 } // namespace kavlix::recording

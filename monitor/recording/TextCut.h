@@ -1,4 +1,4 @@
-// Cuts UTF-8 text to the room there is.
+// Shortens UTF-8 text until it fits.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 namespace kavlix::recording {
 
-/// The greatest number of bytes, at most `bytes`, that can be cut off the front of `text` without dividing a
+/// Length in bytes of the longest beginning of `text` that has at most `bytes` bytes and ends with a whole
 /// UTF-8 character.
 inline std::size_t WholeCharacters(const std::string& text, std::size_t bytes) {
     bytes = std::min(bytes, text.size());

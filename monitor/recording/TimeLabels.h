@@ -8,15 +8,15 @@
 
 namespace kavlix::recording {
 
-/// How the samples' times are written along the X axis. The labels use the control's form of one line, drawn
-/// upwards: in the form of two lines, neighbouring labels would touch.
+/// How the samples' times are written along the X axis. The control draws the labels upwards. Each label has
+/// one line: with two lines, neighbouring labels would touch.
 struct TimeLabelStyle {
     enum class Form {
         Clock,       ///< `14:05:00`: all times within one day
-        DayAndClock, ///< `12-02 21:15`
+        DayAndClock, ///< `12-02 21:15`: all other times
         Date,        ///< `2013-12-02`: the labels are a day or more apart, or every time is midnight
-        Month,       ///< `2013-12`: every time is midnight of the first of a month
-        Year         ///< `2013`: every time is midnight of 1 January
+        Month,       ///< `2013-12`: at least two times, and each is midnight of the first of a month
+        Year         ///< `2013`: at least two times, and each is midnight of 1 January
     };
 
     Form form = Form::Clock;

@@ -80,10 +80,12 @@ std::string FormatClock(Time time, TimePrecision precision);
 /// Date and time of day with one blank between.
 std::string FormatDateTime(Time time, TimePrecision precision);
 
-/// Date and time of day, to the second or as much finer as the moment needs. ParseTime reads the same moment.
+/// Date and time of day to the second, or to the millisecond or microsecond if the moment needs more digits.
+/// ParseTime reads the text as the same moment.
 std::string FormatExact(Time time);
 
-/// A length of time in its two largest units: `5 min`, `2 d 3 h`, `250 ms`. The sign is dropped.
+/// A length of time in its largest unit and, unless 0, the next smaller one: `5 min`, `2 d 3 h`, `250 ms`.
+/// The sign is dropped.
 std::string FormatDuration(Time duration);
 
 } // namespace kavlix::recording

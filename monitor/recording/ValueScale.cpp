@@ -25,8 +25,10 @@ constexpr double kZeroShare = 1.0 / 3.0;
 /// Tolerance of a division, as a share of a step: without it, rounding errors would cost a whole step.
 constexpr double kRoundingSlack = 1e-9;
 constexpr double kFinerByFar = 2.5; // a new range this number of times shorter replaces the old one
-constexpr double kPlainFrom = 1e-2; // labels from here
-constexpr double kPlainBelow = 1e4; // to here need no unit
+
+// An axis needs no unit when its largest absolute value is in this range.
+constexpr double kPlainFrom = 1e-2;
+constexpr double kPlainBelow = 1e4; // excluded
 
 /// A step of mantissa * 10^exponent.
 struct Step {
@@ -35,8 +37,8 @@ struct Step {
     double value = 1;
 };
 
-/// The round steps, as tenths of a power of ten. The penalty of the less round ones lets ChooseStep prefer
-/// them only where they make the range shorter.
+/// The round steps, as tenths of a power of ten. The penalty makes ChooseStep prefer a less round step only
+/// to a rounder one that is more than 1.2 times as long.
 struct Mantissa {
     std::int64_t tenths;
     double penalty;
@@ -44,7 +46,7 @@ struct Mantissa {
 constexpr Mantissa kMantissas[] = {{10, 1.0}, {15, 1.2}, {20, 1.0}, {25, 1.0}, {30, 1.2},
                                    {40, 1.2}, {50, 1.0}, {60, 1.2}, {80, 1.2}};
 
-/// multiple * step, with one rounding where the power of ten is exact: 3 * 0.1 gives 0.3.
+/// multiple * step, rounded only once where the power of ten is exact, so that 3 * 0.1 gives 0.3.
 double Multiple(std::int64_t multiple, const Step& step) {
     const double whole = static_cast<double>(multiple * step.mantissa);
     return step.exponent >= 0 ? whole * std::pow(10.0, step.exponent)

@@ -15,17 +15,18 @@ struct ValueScale {
     double max = 1;
     double step = 1;      ///< distance of neighbouring ticks
     int ticks = 2;        ///< number of ticks
-    int unitExponent = 0; ///< the labels are divided by this power of ten, a multiple of 3
+    int unitExponent = 0; ///< the labels show values / 10^unitExponent; a multiple of 3
     int decimals = 0;     ///< number of decimals of the labels
-    std::string unit;     ///< `k`, `M`, `m`, `10^27`, ...; empty for exponent 0
+    std::string unit;     ///< text for 10^unitExponent: `k`, `M`, `m`, `10^27`, ...; empty for 0
 };
 
 /// Values beyond this limit are cut to it, so that arithmetic with the range cannot overflow.
 inline constexpr double kScaleLimit = 1e300;
 
-/// Chooses the range for the values and a number of ticks (cut to 2 to 1000). The range covers the values. It
-/// begins (or ends) at 0 when the values come near 0. Values that are all the same get room on both sides.
-/// Without values the range begins at 0 and ends at 1 or a little above.
+/// Chooses the range for the values and a number of ticks (cut to 2 to 1000). The range covers the values. If
+/// all values have the same sign and the value nearest to 0 is at most a third of the farthest one, the range
+/// begins or ends at 0. Values that are all the same get room on both sides. Without values the range begins
+/// at 0 and ends at 1 or a little above.
 ValueScale ChooseValueScale(const ValueSpan& span, int ticks);
 
 /// Chooses the scale anew when the values no longer fit, when the number of ticks differs, or when a new

@@ -13,7 +13,7 @@ namespace kavlix::recording {
 /// The style of the picture. The numbers are those of CGraphCtrl::GraphStyle.
 enum class ViewStyle { Line = 0, Bar = 1, TwoAxis = 2 };
 
-/// What a view is chosen for.
+/// What ChooseView needs to know about the graph.
 struct ViewRequest {
     ViewStyle style = ViewStyle::Line;
     int valueTicks = 5;    ///< number of ticks of the value axis
@@ -22,17 +22,18 @@ struct ViewRequest {
 
 /// Settings for the graph control that suit a recording.
 struct ViewChoice {
-    ValueScale y;  ///< for all visible values, and 0 with bars; in the two-axis style for series 0
-    ValueScale y2; ///< in the two-axis style for series 1, on the right; otherwise equal to `y`
+    ValueScale y; ///< left axis: for all visible values, and 0 with bars; in the two-axis style for series 0
+    /// Right axis: in the two-axis style for series 1, if that series has values; otherwise equal to `y`.
+    ValueScale y2;
     TimeLabelStyle labels;
     std::string timeTitle; ///< for SetXLabel
-    VisibleRange visible;  ///< all samples; with bars the last ones whose bars are at least a pixel wide
+    VisibleRange visible;  ///< all samples; with bars, as many of the last ones as BarCapacity gives
 };
 
-/// Chooses the settings. An empty recording gets ranges from 0 to 1.
+/// Chooses the settings. Ranges of an empty recording begin at 0 and end at 1 or a little above.
 ViewChoice ChooseView(const Recording& recording, const ViewRequest& request);
 
-/// The number of samples whose bars are at least a pixel wide in a plot of this width; at least 1.
+/// The most samples whose bars are at least a pixel wide in a plot of this width (logical units); at least 1.
 std::size_t BarCapacity(int plotWidth, std::size_t seriesCount);
 
 } // namespace kavlix::recording

@@ -9,10 +9,10 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr double kFewestUnits = 100;  // between lowest and highest value, so that values differ
-constexpr double kMostUnits = 9999;   // of the largest value, unless that leaves fewer than kFewestUnits
-constexpr double kLargest = 99999999; // of the largest value in any case
-constexpr int kLargestPower = 300;    // of ten: the power and its inverse are doubles
+constexpr double kFewestUnits = 100;  // least units between lowest and highest value, so that values differ
+constexpr double kMostUnits = 9999;   // most units of a value if the span then keeps kFewestUnits
+constexpr double kLargest = 99999999; // most units of a value in any case
+constexpr int kLargestPower = 300;    // exponent of ten: 10^300 and its inverse are within a double's range
 constexpr double kWantedTicks = 7;
 
 /// The least of 1, 2 and 5 times a power of ten that is not below `least`.
@@ -45,8 +45,8 @@ WholeScale ChooseWholeScale(const ValueSpan& values, bool fromZero) {
     const double largest = std::max(std::abs(low), std::abs(high));
     if (!values.any || largest == 0)
         return scale;
-    // Half the span, because the whole span may exceed the range of a double. All values equal: their
-    // distance from 0 counts.
+    // Half the span, because the whole span may exceed the range of a double. If all values are equal, their
+    // distance from 0 stands in for the span.
     const double range = high > low ? high / 2 - low / 2 : largest / 2;
     const auto units = [](double value, int power) { return value * std::pow(10, power); };
     int power = 0;

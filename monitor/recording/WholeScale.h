@@ -7,22 +7,23 @@
 
 namespace kavlix::recording {
 
-/// A factor from values to whole units, and a value axis in these units.
+/// A factor that turns values into whole units, and a value axis in these units.
 struct WholeScale {
     double factor = 1; ///< a power of ten
-    int min = 0;       ///< ends of the axis: multiples of the step around all values
-    int max = 10;
-    int step = 2; ///< distance of the ticks
+    int min = 0;       ///< lower end of the axis, a multiple of `step`; no value is below it
+    int max = 10;      ///< upper end of the axis, a multiple of `step`; no value is above it
+    int step = 2;      ///< distance of the ticks
 
-    /// A value in whole units, saturated. The value must not be NaN.
+    /// A value in whole units, cut to -1e9 to 1e9. The value must not be NaN.
     int ToWhole(double value) const;
 
     /// What one unit stands for: empty for 1, ` (x 0.01)` for a hundredth.
     std::string UnitText() const;
 };
 
-/// Chooses the power of ten nearest to 1 for which the values span enough units to differ, and have few
-/// digits. With `fromZero` the axis includes 0.
+/// Chooses the power of ten nearest to 1 for which the values span at least 100 units, so that they differ,
+/// and, if possible, have at most four digits. They have at most eight digits in any case, even if they then
+/// span fewer units. With `fromZero` the axis includes 0.
 WholeScale ChooseWholeScale(const ValueSpan& values, bool fromZero);
 
 } // namespace kavlix::recording

@@ -9,11 +9,11 @@ namespace kavlix {
 namespace {
 
 // Leaders of neighbouring tiny sectors begin side by side, so two leaders may lie closer than kTogether for
-// up to kMostTogether pixels. Both are pixels.
+// a length of up to kMostTogether. Both constants are pixels.
 constexpr double kTogether = 2.0;
 constexpr int kMostTogether = 10;
 
-// Whether the strokes a-b and c-d cross. Strokes that only touch do not cross.
+/// Whether the strokes a-b and c-d cross. Strokes that only touch do not cross.
 bool Cross(Point a, Point b, Point c, Point d) {
     const auto side = [](Point from, Point to, Point point) {
         const double turn = (double{1} * to.x - from.x) * (double{1} * point.y - from.y) -
@@ -38,7 +38,7 @@ bool IsCloserThan(Point from, Point to, double x, double y, double distance) {
 
 bool RunTogether(const std::vector<Point>& line, const std::vector<Point>& other) {
     constexpr int kStep = 2; // pixels between the tested points of `line`
-    int together = 0;        // pixels of `line`
+    int together = 0;        // pixels of `line` that lie close to `other`
     for (std::size_t i = 1; i < line.size(); ++i) {
         const int dx = line[i].x - line[i - 1].x;
         const int dy = line[i].y - line[i - 1].y;

@@ -12,7 +12,7 @@ int Channel(std::uint32_t color, int shift) {
     return static_cast<int>((color >> shift) & 0xFF);
 }
 
-// Relative luminance as WCAG defines it, 0 to 1.
+/// Relative luminance as WCAG defines it, 0 to 1.
 double Luminance(std::uint32_t color) {
     const auto linear = [&](int shift) {
         const double part = Channel(color, shift) / 255.0;
@@ -21,7 +21,7 @@ double Luminance(std::uint32_t color) {
     return 0.2126 * linear(0) + 0.7152 * linear(8) + 0.0722 * linear(16);
 }
 
-// Contrast ratio as WCAG defines it, 1 to 21.
+/// Contrast ratio as WCAG defines it, 1 to 21.
 double Contrast(std::uint32_t a, std::uint32_t b) {
     constexpr double kGlare = 0.05; // luminance that the screen reflects
     const double first = Luminance(a) + kGlare;
@@ -41,7 +41,7 @@ std::uint32_t LegibleOn(std::uint32_t back, std::uint32_t text) {
 }
 
 bool LookAlike(std::uint32_t a, std::uint32_t b) {
-    constexpr int kHardlyDifferent = 128; // sum over the three channels
+    constexpr int kHardlyDifferent = 128; // sum of the three channels' differences; smaller sums look alike
     int difference = 0;
     for (const int shift : {0, 8, 16})
         difference += std::abs(Channel(a, shift) - Channel(b, shift));

@@ -20,7 +20,7 @@ constexpr double kInnerCircle = 0.6000000000000001; // radius of the label circl
 constexpr int kMargins = 40;     // pixels, of both sides together
 constexpr int kShiftToLeft = 15; // pixels
 
-// The mean, truncated toward zero.
+/// The mean, truncated toward zero.
 int Middle(int a, int b) {
     return static_cast<int>((std::int64_t{a} + b) / 2);
 }
@@ -74,13 +74,14 @@ Point PointAround(const Rect& pie, double angle, double distance) {
 }
 
 std::vector<Point> LineInSector(const Rect& pie, double begin, double end, double inset) {
-    constexpr double kLeastRoom = 4;    // from the line's tip to its arc, in multiples of `inset`
+    constexpr double kLeastRoom = 4;    // from the line's inner tip to its arc, in multiples of `inset`
     constexpr double kDegreesAStep = 2; // between two points of the arc
-    constexpr double kLongestTip = 2; // from the centre in a sector of over 180 degrees, multiples of `inset`
+    // Greatest distance from the centre to the tip in a sector of over 180 degrees, in multiples of `inset`.
+    constexpr double kLongestTip = 2;
     const double radius = (static_cast<double>(pie.bottom) - pie.top) / 2 - inset;
     const double half = (end - begin) / 2;
     const bool whole = end - begin >= kFullCircle;
-    double tip = 0;    // distance from the centre to the line
+    double tip = 0;    // distance from the centre to the line's tip
     double beside = 0; // degrees between the boundary and the line, at the arc
     if (!whole) {
         tip = inset / std::sin(PieRadians(half));

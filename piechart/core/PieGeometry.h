@@ -17,7 +17,9 @@ double PieDegrees(double radians);
 struct PieSector {
     double begin = 0;
     double end = 0;
-    bool hasPlace = false; ///< the piece can have a label: it is visible, or exactly 0 and within the circle
+    /// The piece can have a label: its sector is visible, or its share is exactly 0 and the running sum is
+    /// the highest so far, at most 360 degrees.
+    bool hasPlace = false;
 
     bool IsVisible() const { return end > begin; }
     double Span() const { return end - begin; }
@@ -35,7 +37,7 @@ public:
 
 private:
     double m_sum = 0;
-    double m_covered = 0; ///< the highest sum so far, at most kFullCircle
+    double m_covered = 0; ///< the highest sum so far, limited to kFullCircle
 };
 
 /// The pie's square in a client area. Without room for a pie its width and height are 0 or negative.

@@ -16,7 +16,8 @@ constexpr int kSampleStep = 2;  // pixels between the tested points on the edges
 
 constexpr double kQuarterCircle = 90.0;
 
-// Places tried for a text inside: distances from the label circle, outwards, in radii.
+// Places tried for the texts inside a sector: distances from the label circle, in radii of the pie; negative
+// distances are towards the centre.
 constexpr double kInsideShifts[] = {0.0, 0.06, 0.12, -0.08, -0.16};
 
 /// One run of PlaceLabels().
@@ -164,7 +165,7 @@ std::vector<int> WidestSectors(const std::vector<PieSector>& sectors, int count)
 }
 
 int LabelCapacity(const PieLabelArea& area) {
-    // Beside the pie there is room for one label in each line on either side; inside for fewer.
+    // Each line has room for one label on either side of the pie. Inside the pie there is room for fewer.
     return 2 * (std::max(area.client.Height(), 0) / std::max(area.lineHeight, 1));
 }
 

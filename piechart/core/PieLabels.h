@@ -23,11 +23,11 @@ struct PieLabelRequest {
     PieText text;
 };
 
-/// Where a piece's texts stand. All rectangles are empty when there is no room. A `label` narrower than the
-/// label's text means that the text has to be abbreviated.
+/// Where a piece's texts stand. All rectangles are empty when there is no room. Unless `broken`, a `label`
+/// narrower than the label's text means that the text has to be abbreviated.
 struct PieLabel {
     Rect box;                  ///< the label, a percentage that stands with it, and kPieTextPadding
-    Rect label;                ///< one line, or two when it is broken
+    Rect label;                ///< one line, or two when the label is broken
     Rect percent;              ///< one line, in the box or alone inside the sector
     bool broken = false;       ///< the label takes two lines
     bool outside = false;      ///< the box stands beside the pie
@@ -42,7 +42,7 @@ struct PieLabelArea {
     int lineHeight = 1;    ///< pixels
 };
 
-/// Indices of the `count` widest sectors that have a place, in list order. Of equally wide sectors the
+/// Indices of the `count` widest sectors whose `hasPlace` is true, in list order. Of equally wide sectors the
 /// first ones are taken.
 std::vector<int> WidestSectors(const std::vector<PieSector>& sectors, int count);
 

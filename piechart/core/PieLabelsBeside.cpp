@@ -22,7 +22,7 @@ constexpr int kMostLines = 3;    // of a block
 // A leader that cannot run straight to its block follows the rim in a lane: a circle round the pie. Every
 // lane is kLaneWidth farther out than the lane before it. Lane 0 is the closest to the pie.
 constexpr int kLaneWidth = 3;
-constexpr int kMostLanes = 6;                // outside lane 0
+constexpr int kMostLanes = 6;                // greatest number of lanes outside lane 0
 constexpr int kLanesAStep = 2;               // lanes that PlaceBeside adds at once
 constexpr double kDegreesBetweenBends = 6.0; // of a leader in its lane
 constexpr int kMostBends = 6;                // longer leaders are hard to follow
@@ -35,8 +35,8 @@ public:
           m_centre(PieCentre(area.pie)), m_radius((static_cast<double>(area.pie.bottom) - area.pie.top) / 2) {
     }
 
-    /// Removes the blocks of the smallest sectors until all others fit and have distinct leaders. Gives those
-    /// blocks their places and leaders.
+    /// Removes the blocks of the smallest sectors until the remaining blocks fit and have distinct leaders.
+    /// Gives the remaining blocks their places and leaders.
     void Place() {
         const int top = m_area.client.top + kWindowMargin;
         const int bottom = m_area.client.bottom - kWindowMargin;
@@ -79,17 +79,17 @@ private:
 
     static bool IsSmaller(const PieBlock& a, const PieBlock& b) { return a.span < b.span; }
 
-    // How far below the top a sector lies on its side of the pie: 0 to 180 degrees.
+    // Degrees from twelve o'clock to a sector's middle, on the column's side of the pie: 0 to 180.
     double DegreesFromTop(const PieBlock& block) const {
         return m_right ? block.angle : kFullCircle - block.angle;
     }
 
     int Height(const PieBlock& block) const { return block.lines * m_area.lineHeight; }
 
-    // The radius of the circle that blocks must not enter, because leaders run in its lanes.
+    // The radius of the circle that blocks must not enter: the lanes of the leaders lie inside the circle.
     double ClearRadius() const { return m_radius + kLeaderStart + m_lanes * kLaneWidth + 1; }
 
-    // The free rectangle between the pie and the window's edge in the rows from `top` to before `bottom`.
+    // The free rectangle between the pie and the window's edge, in the rows from `top` to `bottom` - 1.
     Rect FreeRoom(int top, int bottom) const {
         const int away = top > m_centre.y ? top - m_centre.y : bottom < m_centre.y ? m_centre.y - bottom : 0;
         const double half =
@@ -101,13 +101,14 @@ private:
 
     Rect Room(const PieBlock& block) const { return FreeRoom(block.top, block.top + Height(block)); }
 
-    // Chooses the number of lines for a block that stands beside its sector, at most `maxLines`. More lines
-    // change the block's place and so its width, so the number grows until the texts fit.
+    // Chooses `wanted` and `lines`, at most `maxLines`, for a block that stands beside its sector. A higher
+    // block has another place and so another width, so the number of lines grows until the texts fit. 0 lines
+    // when no text fits.
     void Measure(PieBlock& block, int maxLines) const {
         const Point sector = PointAround(m_area.pie, block.angle, m_radius + kPieGap);
         for (block.lines = 1;; ++block.lines) {
-            // The block ends at the sector's height above the pie, is centred beside the pie, and begins at
-            // the sector's height below the pie. The cosine blends these cases.
+            // At the top of the pie the block's lower edge is level with the sector, at the side of the pie
+            // the block's middle, at the bottom its upper edge. The cosine blends these cases.
             const double half = Height(block) / 2.0;
             block.wanted = sector.y - ToCoordinate(half + half * std::cos(PieRadians(block.angle)));
             const Rect room = FreeRoom(block.wanted, block.wanted + Height(block));
@@ -131,7 +132,7 @@ private:
     // the mean of what its blocks want. The blocks must be sorted and fit.
     void Spread(int top, int bottom) {
         struct Cluster {
-            double sum = 0; // of the wanted tops, each minus the height of all blocks above it
+            double sum = 0; // of the wanted tops, each minus the height of all blocks and gaps above it
             int count = 0;  // of blocks
             double Mean() const { return sum / count; }
         };
@@ -174,13 +175,13 @@ private:
         return grown;
     }
 
-    // Gives every block a leader that differs clearly from those of its neighbours. The result is the first
-    // block for which no lane allows that, or the end.
+    // Gives every block a leader that differs clearly from the leaders of the neighbouring blocks. The result
+    // is the first block found for which no lane gives such a leader, or the end.
     Iterator Connect() {
         for (PieBlock& block : m_blocks)
             block.leader.clear();
-        // A leader that goes down passes outside the leaders that begin below it, so those need the inner
-        // lanes and choose first. The same holds upwards in the opposite order.
+        // A leader that goes down passes outside the leaders that begin below it. So the lower leaders need
+        // the inner lanes and choose first. Among the leaders that go up, the higher ones choose first.
         for (auto block = m_blocks.end(); block != m_blocks.begin();)
             if (LeadsDown(*--block) && !Connect(block))
                 return block;
@@ -190,7 +191,8 @@ private:
         return m_blocks.end();
     }
 
-    // Tries the lanes from the inside out.
+    // Gives a block a leader in the innermost lane where the leader differs clearly from those of the
+    // neighbouring blocks. False when there is no such lane.
     bool Connect(Iterator block) {
         for (int lane = 0; lane <= m_lanes; ++lane) {
             std::vector<Point> leader = Leader(*block, lane);
@@ -231,8 +233,9 @@ private:
         return (m_right ? end : kFullCircle - end) > DegreesFromTop(block);
     }
 
-    // The leader from the rim into its lane, along the lane until the rest does not cross the pie, and to the
-    // box. Empty when that takes too many bends.
+    // The leader from the rim into its lane, along the lane until a straight line to the box passes outside
+    // the pie and the inner lanes, then to the box. Empty when the leader would have more than kMostBends
+    // bends in the lane.
     std::vector<Point> Leader(const PieBlock& block, int lane) const {
         std::vector<Point> points{PointOnPie(m_area.pie, block.angle, false), LeaderStart(block, lane)};
         const Point to = LeaderEnd(block);
@@ -273,7 +276,8 @@ private:
         label.box = Box(block, shape);
         label.leader = block.leader;
 
-        // Each text is aligned to the side of the box that faces the pie.
+        // Texts in separate lines are aligned to the side of the box that faces the pie. Texts in one line
+        // stand at both sides of the box.
         const int line = m_area.lineHeight;
         const int left = label.box.left + kPieTextPadding;
         const int right = label.box.right - kPieTextPadding;
@@ -298,7 +302,7 @@ private:
     const PieLabelArea& m_area;
     std::vector<PieBlock> m_blocks;
     bool m_right; ///< the column stands to the right of the pie
-    int m_lanes;  ///< outside lane 0
+    int m_lanes;  ///< number of lanes outside lane 0
     Point m_centre;
     double m_radius;
 };
@@ -307,7 +311,7 @@ private:
 
 void PlaceBeside(const PieLabelArea& area, const std::vector<PieBlock>& blocks, bool right,
                  std::vector<PieLabel>& labels) {
-    // Lanes take width from the texts, so a wider set of lanes must place more labels to be chosen.
+    // Lanes take width from the texts, so more lanes are chosen only if they place more labels.
     std::optional<Column> best;
     for (int lanes = 0; lanes <= kMostLanes; lanes += kLanesAStep) {
         Column column(area, blocks, right, lanes);

@@ -8,19 +8,20 @@ namespace kavlix {
 /// The texts of one piece that stand beside the pie.
 struct PieBlock {
     // Input.
-    std::size_t index = 0; ///< of the piece's entry in the labels
+    std::size_t index = 0; ///< of the piece's entry in the `labels` of PlaceBeside
     double angle = 0;      ///< of the sector's middle, 0 to 360 degrees from twelve o'clock
     double span = 0;       ///< of the sector in degrees; blocks of the smallest spans are left out first
     PieText text;          ///< widths of the texts, 0 for a text that already stands inside the sector
     // Found by PlaceBeside.
-    int lines = 0;
+    int lines = 0;  ///< number of text lines
     int wanted = 0; ///< top edge that puts the block beside its sector
     int top = 0;    ///< top edge
     std::vector<Point> leader;
 };
 
-/// Places `blocks` on the right or left side of the pie. Writes the places to the entries of `labels`; the
-/// entry of a block without room stays unchanged.
+/// Places `blocks` on the right or left side of the pie. Writes the places to the entries of `labels`. Blocks
+/// without room are left out, and so are blocks until all leaders can be told apart: the entries of these
+/// blocks stay unchanged.
 void PlaceBeside(const PieLabelArea& area, const std::vector<PieBlock>& blocks, bool right,
                  std::vector<PieLabel>& labels);
 

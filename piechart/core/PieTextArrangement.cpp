@@ -31,7 +31,8 @@ PieTextArrangement ArrangeTexts(const PieText& text, int boxWidth, int maxLines)
         result.width = std::max(text.broken, result.percent ? text.percent : 0);
         result.lines = 2 + result.percent;
     } else if (width >= text.narrowest) {
-        // The percentage joins an abbreviated label if the label stays wide enough to be read.
+        // The percentage goes into a second line if there may be one. Otherwise it stands beside the
+        // abbreviated label if the label stays wide enough to be read.
         const int beside = width - kWordGap - text.percent;
         result.labelWidth = std::min(text.label, width);
         result.width = result.labelWidth;

@@ -9,7 +9,7 @@ namespace kavlix {
 struct PieTextArrangement {
     int lines = 0;         ///< 0 when not even one text fits
     int width = 0;         ///< of the box without its padding
-    int labelWidth = 0;    ///< 0 when the label is left out; less than the label for an abbreviation
+    int labelWidth = 0;    ///< 0 when the label is left out; narrower than the label if abbreviated or broken
     bool broken = false;   ///< the label takes two lines
     bool percent = false;  ///< the percentage is shown
     bool sameLine = false; ///< label and percentage stand in one line

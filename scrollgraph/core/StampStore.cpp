@@ -5,7 +5,8 @@
 
 namespace kavlix {
 
-/// The caller sets the stamps of a chunk in order.
+/// Stores stamp `k` of the chunk; the caller stores them in order. At the first stamp that is too far from
+/// the even pace, the chunk changes to four bytes a stamp.
 void StampStore::Chunk::Set(std::size_t k, std::int32_t stamp) {
     if (narrow) {
         if (k == 1)
@@ -52,7 +53,7 @@ void StampStore::KeepOne() {
 }
 
 void StampStore::Clear() {
-    m_chunks.clear(); // shrink_to_fit would allocate
+    m_chunks.clear(); // without shrink_to_fit, which would allocate memory
     m_head = m_size = 0;
 }
 

@@ -8,9 +8,10 @@
 
 namespace kavlix {
 
-/// Time stamps in order of arrival. Readings usually arrive at an even pace, so a stamp takes one byte: its
-/// difference from the even pace of its chunk. In a chunk without an even pace a stamp takes four bytes.
-/// Adding moves at most one chunk, and removing the oldest stamps costs time in proportion to their number.
+/// Time stamps in order of arrival, stored in chunks. Readings usually arrive at an even pace, so a stamp
+/// takes one byte: its difference from the stamp that the chunk's even pace predicts. In a chunk without an
+/// even pace a stamp takes four bytes. Adding a stamp converts at most one chunk, and removing the oldest
+/// stamps costs time in proportion to their number.
 class StampStore {
 public:
     std::size_t Size() const { return m_size; }
@@ -33,10 +34,10 @@ public:
     void Clear();
 
 private:
-    static constexpr std::size_t kChunk = 1024;
+    static constexpr std::size_t kChunk = 1024; ///< stamps in a chunk
 
     struct Narrow {
-        std::int8_t away[kChunk];
+        std::int8_t away[kChunk]; ///< each stamp minus the stamp that the even pace predicts
     };
     struct Wide {
         std::int32_t stamps[kChunk];

@@ -8,7 +8,6 @@
 #include "plot/Numeric.h"
 
 namespace kavlix {
-
 namespace {
 
 constexpr double kSecondsPerXUnit = 1.0 / kXUnitsPerSecond;

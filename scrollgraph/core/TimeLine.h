@@ -24,10 +24,10 @@ public:
     bool Has(int index) const { return index >= 0 && index < Size(); }
     /// Stamp `index`; 0 when there is none.
     std::int32_t At(int index) const { return Has(index) ? Stamp(index) : 0; }
-    /// Seconds from stamp 0 to stamp `index`, on 32 bits; 0 when there is no such stamp.
+    /// Seconds from stamp 0 to stamp `index`, modulo 2^32; 0 when there is no such stamp.
     std::int32_t Offset(int index) const;
-    /// X of sample `index` in x units; 0 when there is no such stamp. The product has 32 bits and wraps round
-    /// 3.4 years from the origin.
+    /// X of sample `index` in x units; 0 when there is no such stamp. X is computed with 32 bits, so it wraps
+    /// round 3.4 years from stamp 0.
     double X(int index) const;
 
     /// Throws std::bad_alloc and changes nothing when memory or the range of an int is exhausted.
@@ -39,25 +39,25 @@ public:
     /// Removes all stamps but the first, which must exist.
     void KeepOne();
 
-    /// The first sample whose x is not below `x`. The search excludes the last stamp: the result is at most
-    /// Size() - 1, and 0 when there are fewer than two stamps.
+    /// The first sample, of all but the last one, whose x is not below `x`; the last sample when there is
+    /// none. 0 when there are fewer than two stamps.
     int LowerBound(double x) const;
-    /// The last sample of a view `viewWidth` x units wide that begins at sample `first`, as if there were one
-    /// sample a second. Hosts rely on the odd limit: when the view ends exactly behind the last sample, the
-    /// result is Size(), not Size() - 1.
+    /// The last sample of a view `viewWidth` x units wide that begins at sample `first`, computed as if there
+    /// were one sample a second. Hosts rely on an odd limit: a computed index of Size(), one behind the last
+    /// sample, is returned unchanged; larger ones become Size() - 1.
     int UpperBound(int first, double viewWidth) const;
-    /// The end of the run of ascending x that begins at sample `first`: the sample before the next stamp that
-    /// steps back, at most `last`. None where x wraps round within the run. Both samples must exist, `first`
-    /// not behind `last`. A binary search among the stamps that step back.
+    /// The last sample of the run of ascending x that begins at sample `first`: the sample before the next
+    /// stamp that is earlier than its predecessor, but at most `last`. None where x wraps round within the
+    /// run. Both samples must exist, `first` not behind `last`. Takes one binary search.
     std::optional<int> RunEnd(int first, int last) const;
 
 private:
     std::int32_t Stamp(int index) const { return m_times[static_cast<std::size_t>(index)]; }
 
     StampStore m_times;
-    std::int64_t m_removed = 0; ///< number of stamps removed from the head so far
-    /// Indices of the stamps that are earlier than their predecessors, ascending, counted as if no stamp had
-    /// been removed.
+    std::int64_t m_removed = 0; ///< number of stamps that RemoveHead has removed so far
+    /// Numbers of the stamps that are earlier than their predecessors, ascending. A stamp's number is its
+    /// index plus m_removed.
     std::deque<std::int64_t> m_stepsBack;
 };
 

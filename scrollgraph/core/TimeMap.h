@@ -1,4 +1,4 @@
-// From time stamps to positions in the plot, and back by search.
+// Converts time stamps to positions in the plot, and finds the sample nearest to a position.
 #pragma once
 
 #include <optional>
@@ -15,18 +15,19 @@ public:
     TimeMap(const TimeLine& times, double viewPos, double viewWidth, int plotLeft, int plotWidth)
         : m_times(times), m_viewPos(viewPos), m_viewWidth(viewWidth), m_left(plotLeft), m_width(plotWidth) {}
 
-    /// Position of sample `index` in logical units; none in a view without width. The whole calculation is in
-    /// doubles, with one truncation at the end, and saturates.
+    /// Position of sample `index` in logical units, computed in double, truncated once and limited to
+    /// kCoordinateLimit. None in a view without width, and where the result is NaN.
     std::optional<int> Position(int index) const;
 
-    /// The last sample of `first` to `last` up to which positions from `first` on only ascend, or only
-    /// descend; none where only a walk over the samples could find the end. Both samples must have a time
-    /// stamp.
+    /// The last sample of the run that begins at `first`, at most `last`: the positions of a run only ascend
+    /// or only descend. None when x wraps round within the run, when one of the two samples has no time
+    /// stamp, and when position or width of the view is not finite or the width is 0.
     std::optional<int> RunEnd(int first, int last) const;
 
-    /// The sample of `first` to `last` whose position is nearest to `x`, the first of equally near ones; -1
-    /// when samples have no position. Both samples must have a time stamp. A binary search in each run of
-    /// ascending time; a walk over the samples where x wraps round.
+    /// The sample of `first` to `last` whose position is nearest to `x`, the first of equally near ones. -1
+    /// when `first` is behind `last`, and when position or width of the view is not finite or the width is 0.
+    /// Both samples must have a time stamp. Takes a binary search in each run of ascending time, and visits
+    /// every sample where x wraps round.
     int Nearest(int first, int last, int x) const;
 
 private:

@@ -2,11 +2,9 @@
 #include "scrollgraph/core/TimeTicks.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 
 namespace kavlix {
-
 namespace {
 
 constexpr int kMinute = 60;
@@ -22,7 +20,8 @@ int ToNextMultiple(int value, int step) {
     return (value / step + 1) * step - value;
 }
 
-/// The next longer round duration after `seconds`. It is a multiple of every shorter one that divides a day.
+/// The next longer round duration after `seconds`: from kSteps, then 3, 6 and 12 hours, 1 and 2 days, 1 week,
+/// and from there each twice as long as the one before.
 std::int64_t LongerRoundTime(std::int64_t seconds) {
     const auto longer = std::upper_bound(std::begin(kSteps), std::end(kSteps), seconds);
     if (longer != std::end(kSteps))
@@ -30,17 +29,17 @@ std::int64_t LongerRoundTime(std::int64_t seconds) {
     return seconds < kLongestStep ? kLongestStep : seconds == 2 * kDay ? kWeek : 2 * seconds;
 }
 
-/// The smallest distance between ticks at which neighbouring labels do not touch. `allDated`: every label has
-/// a date; otherwise labels with and without dates are neighbours.
+/// The smallest distance, in logical units, between ticks at which neighbouring labels do not touch.
+/// `allDated`: every label has a date; otherwise labels with and without dates are neighbours.
 int LabelDistance(bool allDated, int textHeight) {
     const int left = kDateShift - textHeight; // left edge of a date, relative to the tick
     return allDated ? textHeight - left : std::max(textHeight - kClockShift - left, textHeight + kClockShift);
 }
 
-/// Seconds between two labels.
+/// Seconds between two labels. `spacing` of two ticks and `textHeight` are in logical units.
 std::int64_t LabelStep(int step, int spacing, int textHeight) {
-    // Steps of the table need no longer distance, because few labels have dates. With the longest step every
-    // eighth label has a date.
+    // Between ticks of a step in kSteps the height of a text is distance enough, because few of their labels
+    // have dates. With the longest step every eighth label has a date.
     if (spacing <= 0 || (step < kLongestStep && spacing >= textHeight))
         return step;
     const auto fits = [=](std::int64_t seconds) {
@@ -53,13 +52,6 @@ std::int64_t LabelStep(int step, int spacing, int textHeight) {
 }
 
 } // namespace
-
-std::string FullTimeText(const CalendarTime& time) {
-    char text[80];
-    std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d", time.year, time.month, time.day,
-                  time.hour, time.minute, time.second);
-    return text;
-}
 
 int SelectTickStep(int secondsInView, int maxTicks) {
     const auto fits = [=](int step) { return secondsInView / step <= std::int64_t{maxTicks} + 1; };
@@ -98,8 +90,8 @@ TimeTicks::TimeTicks(const LocalClock& clock, std::int64_t start, int step, int 
     Show(m_every > 1 ? SecondsToRoundTime(clock.ToLocal(m_time), m_round) / step : 0);
 }
 
-/// Sets the label of `tick`. After a change of the local clock another tick can be the one at the round time;
-/// then the label moves to that tick.
+/// Moves to the label of `tick`. After daylight saving begins or ends, a tick other than `tick` can stand at
+/// the round time; the label then moves to that other tick.
 void TimeTicks::Show(std::int64_t tick) {
     m_tick = tick;
     CalendarTime local = m_clock.ToLocal(m_time + m_tick * m_step);
@@ -120,8 +112,8 @@ void TimeTicks::Next() {
 }
 
 void TimeTicks::GoTo(std::int64_t tick) {
-    // Skip most labels at once. A change of the local clock moves a label by less than the distance of two
-    // labels.
+    // Skip most labels at once. A change of the local clock moves a label by less than the distance between
+    // two labels.
     if (tick - m_tick > 3 * m_every)
         Show(m_tick + ((tick - m_tick) / m_every - 2) * m_every);
     while (m_tick < tick)

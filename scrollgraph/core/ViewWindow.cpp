@@ -6,16 +6,15 @@
 #include "plot/Numeric.h"
 
 namespace kavlix {
-
 namespace {
 
-// Parts of the view's width.
+// Shares of the view's width.
 constexpr double kFollowAt = 0.9;   // position of the newest sample while the view follows
-constexpr double kRoomBehind = 0.1; // between the newest sample and the end of the range
-constexpr double kLineShare = 0.01; // a line of the scroll bar, a notch of the wheel
-constexpr double kPageShare = 0.5;  // a page of the scroll bar
+constexpr double kRoomBehind = 0.1; // added behind the newest sample when the range grows
+constexpr double kLineShare = 0.01; // moved by a line command of the scroll bar or a notch of the wheel
+constexpr double kPageShare = 0.5;  // moved by a page command of the scroll bar
 
-constexpr double kAtLeftEnd = 1.0; // x units: a view nearer to 0 does not move a line to the left
+constexpr double kAtLeftEnd = 1.0; // x units: a view that begins before this x ignores line steps to the left
 constexpr double kPerBarUnit = 0.0008333333333333334; // 1 / 1200; hosts rely on the rounding of this literal
 
 int ToBarUnits(double share) {

@@ -15,8 +15,8 @@ struct ViewWindow {
     double width = 0; ///< width of the view
 
     static constexpr double kInitialMax = 1200.0;      ///< right end of the range after a rewind
-    static constexpr int kBarRange = 1200;             ///< range of the scroll bar
-    static constexpr int kLargestPage = kBarRange - 3; ///< smaller than the range, so that the thumb can move
+    static constexpr int kBarRange = 1200;             ///< the scroll bar's range is 0 to this value
+    static constexpr int kLargestPage = kBarRange - 3; ///< below the bar's range, so that the thumb can move
 
     /// Position and page of the scroll bar, whose range is 0 to kBarRange.
     int BarPosition() const;
@@ -25,7 +25,7 @@ struct ViewWindow {
     /// Moves the view to 0 and gives the range its initial right end.
     void Rewind();
     /// If the newest sample, at `xLast`, lies beyond nine tenths of the view's width, moves the view to the
-    /// right until the sample lies there.
+    /// right until the sample lies at nine tenths.
     void Follow(double xLast);
     /// If the view begins left of the range, moves it to the range's left end. If the view then ends right of
     /// the range, extends the range to the view's right edge.
@@ -35,12 +35,12 @@ struct ViewWindow {
         bool followed; ///< the view moved with the samples
         bool changed;  ///< view or range changed, so the scroll bar must be updated once the sample is stored
     };
-    /// Adapts view and range to a new sample at `xNext`. `xLast` is the x of the newest sample so far, if
-    /// there is one (`any`).
+    /// Adapts view and range to a new sample at `xNext`. `any` tells whether there are samples already;
+    /// `xLast` is the x of the newest of them.
     Arrival Arrive(bool any, double xLast, double xNext);
 
-    /// Executes a command of the scroll bar; only ThumbTo reads `thumb` (0 to kBarRange). LineLeft does nothing
-    /// and returns false when the view begins before x = 1.
+    /// Executes a command of the scroll bar; only ThumbTo reads `thumb` (0 to kBarRange). LineLeft does
+    /// nothing and returns false when the view begins before x = 1.
     bool Step(ScrollStep step, unsigned thumb);
     /// Moves the view by one notch of the wheel, to older samples when `delta` is not negative. True when the
     /// view moved.

@@ -19,8 +19,8 @@ public:
     CString m_strDriverName;
     CString m_strPortName;
 
-    /// Evaluates one argument. `bFlag`: the argument began with - or /, which is already removed. `bLast`:
-    /// the argument is the last one.
+    /// Evaluates one argument of the command line. `bFlag` TRUE: the argument began with '-' or '/', and
+    /// `pszParam` is the text after this character. `bLast` TRUE: the argument is the last one.
     virtual void ParseParam(LPCTSTR pszParam, BOOL bFlag, BOOL bLast);
 
 protected:
@@ -43,15 +43,15 @@ public:
     HINSTANCE m_hInstance = nullptr;
     HINSTANCE m_hPrevInstance = nullptr; ///< always NULL
     LPTSTR m_lpCmdLine = nullptr;        ///< the command line after the program's name
-    int m_nCmdShow = SW_SHOWNORMAL;      ///< argument of the first ShowWindow()
+    int m_nCmdShow = SW_SHOWNORMAL;      ///< SW_ code for the first ShowWindow() of the main window
 
-    // The names are blocks of malloc(), freed by the destructor. To change a name, free the old block and
-    // assign the result of _strdup().
+    // The names are allocated with malloc(); the destructor frees them. To change a name, free the old one
+    // with free() and assign the result of _strdup().
     LPCTSTR m_pszAppName = nullptr;
     LPCTSTR m_pszExeName = nullptr;      ///< file name without folder and extension
     LPCTSTR m_pszHelpFilePath = nullptr; ///< the program's path with .HLP
-    LPCTSTR m_pszProfileName = nullptr;  ///< INI file, or key of the application below m_pszRegistryKey
-    LPCTSTR m_pszRegistryKey = nullptr;  ///< company's registry key; NULL: profile data are in the INI file
+    LPCTSTR m_pszProfileName = nullptr;  ///< name of the INI file, or of the registry key of the program
+    LPCTSTR m_pszRegistryKey = nullptr;  ///< name of the registry key of the company; NULL: INI file
 
     LPCTSTR GetAppName() const { return m_pszAppName; }
 
@@ -69,10 +69,11 @@ public:
     // ---- Profile data ----
 
     /// Keeps profile data in HKEY_CURRENT_USER\Software\<company>\<application> instead of an INI file.
+    /// `lpszRegistryKey` is the company's name; m_pszAppName is the application's name.
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
-    /// The registry key of the application, and the key of a section. The caller closes the key. NULL on
-    /// failure, and NULL before SetRegistryKey().
+    /// Open the registry key of the application or of a section, and create a key that does not exist. The
+    /// caller closes the key. NULL on failure, and NULL before SetRegistryKey().
     HKEY GetAppRegistryKey();
     HKEY GetSectionKey(LPCTSTR lpszSection);
     UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
@@ -88,13 +89,13 @@ public:
     // ---- Behaviour ----
 
     void ParseCommandLine(CCommandLineInfo& rCmdInfo);
-    /// Shows a message box for AfxMessageBox(). The active window owns the box. If `nType` names no icon, the
-    /// function adds one.
+    /// Shows a message box for AfxMessageBox(). The main window, or its popup that was active last, owns the
+    /// box. If `nType` names no icon, boxes with Yes and No show a question mark, others an exclamation mark.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
-    /// `nCode` 1 shows the hourglass, -1 undoes one call with 1, and 0 shows the hourglass again if a call
-    /// with 1 is still open.
+    /// `nCode` 1 shows the hourglass, and -1 undoes one call with 1. 0 shows the hourglass again if a call
+    /// with 1 is not undone yet.
     virtual void DoWaitCursor(int nCode);
-    /// Disables or enables the main window while a system-modal dialog is open.
+    /// Enables or disables the main window, for programs that show a modal window of another library.
     void EnableModeless(BOOL bEnable);
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
     BOOL Enable3dControls() { return TRUE; }
@@ -109,7 +110,8 @@ public:
 
     /// Closes the main window (ID_APP_EXIT).
     afx_msg void OnAppExit();
-    /// Shows the help file. The function is not in the message map; a program adds it for ID_HELP.
+    /// The four functions show the help file. CWinApp's message map has no rows for them; a program adds the
+    /// rows that it needs, for example for ID_HELP.
     afx_msg void OnHelp();
     afx_msg void OnHelpIndex();
     afx_msg void OnHelpFinder();

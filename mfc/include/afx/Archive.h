@@ -15,7 +15,8 @@ class CDocument;
 /// Exceptions of the file pass through.
 ///
 /// The first pointer to an object stores the object, with the name and schema of its class. Further pointers
-/// store references. Loading creates one object and sets all pointers to it.
+/// to the object store a reference: the number of the object in the archive. Loading creates one object and
+/// sets all pointers to it.
 class MFC_API CArchive {
 public:
     enum Mode { store = 0, load = 1, bNoFlushOnDelete = 2, bNoByteSwap = 4 };
@@ -53,28 +54,31 @@ public:
 
     /// Writes the characters without their terminating zero.
     void WriteString(LPCTSTR text);
-    /// Loads a line without its line end. The first form stops after `maxCount` characters, appends a zero,
-    /// and returns null at the end of the file. The second form returns FALSE at the end of the file.
+    /// Loads a line without its line end. The first form loads at most `maxCount` characters and appends a
+    /// zero, so `text` needs `maxCount` + 1 characters. At the end of the file, the first form returns null
+    /// and the second form returns FALSE.
     LPTSTR ReadString(LPTSTR text, UINT maxCount);
     BOOL ReadString(CString& text);
 
-    /// An element count. It takes 2 bytes below 0xFFFF, 6 bytes below 0xFFFFFFFF, else 14 bytes.
+    /// Store or load an element count. A count below 0xFFFF takes 2 bytes, a count below 0xFFFFFFFF takes
+    /// 6 bytes, a larger count takes 14 bytes.
     void WriteCount(DWORD_PTR count);
     DWORD_PTR ReadCount();
 
-    /// Null is stored as null. Throws CNotSupportedException* if the object's class is not serialisable.
+    /// Stores an object, or a reference if the archive has stored the object before. `object` may be null.
+    /// Throws CNotSupportedException* if the object's class is not serialisable.
     void WriteObject(const CObject* object);
     /// Returns a new object that the caller owns, an object that was loaded before, or null. Throws badClass
     /// if the object is not of `runtimeClass` or a class derived from it (null allows any class), and
     /// badSchema if the schemas do not match.
     CObject* ReadObject(const CRuntimeClass* runtimeClass);
-    /// Numbers an object that WriteObject() did not store, so that pointers to the object can be stored. The
-    /// loading side must call MapObject() at the same place for its own object.
+    /// Gives a number to an object that WriteObject() did not store, so that references to the object can be
+    /// stored. Loading must call MapObject() for its own object at the same place in the archive.
     void MapObject(const CObject* object);
     void WriteClass(const CRuntimeClass* runtimeClass);
-    /// Loads a class. `*schema` receives the stored schema. If a reference to an object follows instead of a
-    /// class, `*objectTag` receives the reference and the result is null; without `objectTag` such a
-    /// reference throws badIndex.
+    /// Loads a class. `*schema` receives the stored schema; without `schema`, GetObjectSchema() returns it.
+    /// If a reference to an object follows instead of a class, `*objectTag` receives the reference and the
+    /// result is null. Without `objectTag`, a reference throws badIndex.
     CRuntimeClass* ReadClass(const CRuntimeClass* requested = nullptr, UINT* schema = nullptr,
                              DWORD* objectTag = nullptr);
     void SerializeClass(const CRuntimeClass* runtimeClass);
@@ -84,8 +88,8 @@ public:
     UINT GetObjectSchema();
     void SetObjectSchema(UINT schema);
 
-    /// Initial size of the table of objects; for storing, of its hash table. Only calls before the first
-    /// object have an effect.
+    /// Set the initial capacity of the table of objects, in entries: `growBy` for loading, `hashSize` for
+    /// storing. The archive ignores `blockSize`. Only a call before the first object has an effect.
     void SetLoadParams(UINT growBy = 1024);
     void SetStoreParams(UINT hashSize = 2053, UINT blockSize = 128);
 

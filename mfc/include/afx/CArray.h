@@ -5,12 +5,14 @@
 
 /// An array that grows as needed.
 ///
-/// Growth: an array without free room allocates room for `growBy` more elements (see SetSize). If `growBy` is
-/// 0, the array chooses an eighth of its size, at least 4 and at most 1024. New elements are zeroed and
-/// default-constructed. Growing moves the elements, so their addresses are valid only until the size changes.
+/// Growth: when its memory is full, the array allocates memory for at least `growBy` more elements (see
+/// SetSize). If `growBy` is 0, the array chooses an eighth of its size, at least 4 and at most 1024. New
+/// elements are zeroed and default-constructed. Growing moves the elements, so their addresses are valid only
+/// until the size changes.
 ///
 /// An index outside the array asserts in debug builds and throws CInvalidArgException* in other builds. If
-/// memory runs out, members throw CMemoryException* and the array stays unchanged.
+/// memory runs out, members throw CMemoryException*. Copy(), RemoveAt() and Serialize() may then have changed
+/// a part of the array; the other members leave the array unchanged.
 template <class TYPE, class ARG_TYPE = const TYPE&> class CArray : public CObject {
 public:
     CArray() = default;
@@ -65,11 +67,11 @@ public:
     }
     TYPE& operator[](INT_PTR index) { return ElementAt(index); }
     const TYPE& operator[](INT_PTR index) const { return ElementAt(index); }
-    /// The elements in one block; null if the array never had an element.
+    /// The elements in one block; null while the array has no memory, for example after RemoveAll().
     TYPE* GetData() { return m_pData; }
     const TYPE* GetData() const { return m_pData; }
 
-    /// Sets an element. An index behind the end first extends the array.
+    /// Sets an element. If `index` is beyond the end, first extends the array.
     void SetAtGrow(INT_PTR index, ARG_TYPE newElement) {
         Require(index >= 0);
         if (index < m_nSize)
@@ -117,8 +119,8 @@ public:
         CopyElements<TYPE>(m_pData, source.m_pData, m_nSize);
     }
 
-    /// Inserts `count` copies before the element at `index`. If `index` is behind the end, new elements fill
-    /// the gap.
+    /// Inserts `count` copies before the element at `index`. If `index` is beyond the end, new default
+    /// elements fill the positions between.
     void InsertAt(INT_PTR index, ARG_TYPE newElement, INT_PTR count = 1) {
         Require(index >= 0 && count > 0 && count <= MaxSize - index);
         if (index >= m_nSize)
@@ -126,7 +128,7 @@ public:
         else
             InsertFilled(index, count, newElement, count);
     }
-    /// Inserts copies of another array's elements.
+    /// Inserts copies of another array's elements before the element at `start`.
     void InsertAt(INT_PTR start, const CArray* source) {
         Require(source != nullptr && source != this && start >= 0 && source->m_nSize <= MaxSize - start);
         const INT_PTR count = source->m_nSize;
@@ -262,8 +264,8 @@ private:
         return count > m_nMaxSize - m_nSize || (!Elements::CannotFail && index < m_nSize);
     }
 
-    /// Makes room for `count` elements before `index`, constructs the elements and calls `fill` to set them.
-    /// Until all steps have succeeded, the old elements stay in their places or are moved back.
+    /// Inserts `count` elements before `index`: constructs the elements and calls `fill` to set them. If a
+    /// step throws, the old elements are still, or again, in their old places.
     template <class FILL> void InsertWith(INT_PTR index, INT_PTR count, FILL fill) {
         if (count > MaxSize - m_nSize)
             AfxThrowMemoryException();

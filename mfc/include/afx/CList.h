@@ -5,8 +5,8 @@
 
 /// A doubly linked list. A POSITION stays valid until its element is removed. A null POSITION where an
 /// element is needed, and GetHead() or GetTail() of an empty list, assert in debug builds and throw
-/// CInvalidArgException* in other builds. If memory runs out, members throw CMemoryException* and the list
-/// stays unchanged.
+/// CInvalidArgException* in other builds. If memory runs out, members throw CMemoryException*. Members that
+/// add several elements may then have added some; the other members leave the list unchanged.
 template <class TYPE, class ARG_TYPE = const TYPE&> class CList : public CObject {
 public:
     /// `blockSize` exists for compatibility; the list ignores it.
@@ -49,8 +49,8 @@ public:
     POSITION GetHeadPosition() const { return Position(m_pHead); }
     POSITION GetTailPosition() const { return Position(m_pTail); }
 
-    /// The element at `position`. The call sets `position` to the next (previous) element, or to null after
-    /// the last one.
+    /// Return the element at `position`. GetNext() then sets `position` to the next element, GetPrev() to the
+    /// previous element; `position` becomes null if there is no further element.
     TYPE& GetNext(POSITION& position) {
         Node* const node = At(position);
         position = Position(node->next);

@@ -4,8 +4,8 @@
 #include <afx/Templates.h>
 
 /// A hash table of unique keys, each with a value. HashKey<ARG_KEY> and CompareElements find a key. The
-/// order of enumeration is arbitrary. If memory runs out, members throw CMemoryException* and the map
-/// stays unchanged.
+/// order of enumeration is arbitrary. If memory runs out, members throw CMemoryException*. Serialize() may
+/// then have loaded some elements; the other members leave the map unchanged.
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE> class CMap : public CObject {
 public:
     /// A key with its value. PLookup(), PGetFirstAssoc() and PGetNextAssoc() return pointers to pairs inside

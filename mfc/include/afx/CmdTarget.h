@@ -3,10 +3,10 @@
 
 #include "afx/MessageMap.h"
 
-/// Result of CCmdTarget::OnCmdMsg() when the caller asks for the handler instead of calling it.
+/// Receives the handler when a caller of CCmdTarget::OnCmdMsg() only asks which handler exists.
 struct AFX_CMDHANDLERINFO {
     CCmdTarget* pTarget;       ///< object with the handler
-    void (CCmdTarget::*pmf)(); ///< the handler, if it has no arguments; else NULL
+    void (CCmdTarget::*pmf)(); ///< the handler of a row like ON_COMMAND, of type void(); NULL for other rows
 };
 
 /// `pExtra` of CCmdTarget::OnCmdMsg() for a WM_NOTIFY notification.
@@ -24,10 +24,10 @@ public:
 
     /// Routes a command or notification to a handler. The base searches the message map of this object;
     /// overrides also ask other objects. `nID` is the ID of the command or control. `nCode` is CN_COMMAND,
-    /// CN_UPDATE_COMMAND_UI or a notification code of the control. `pExtra` is a CCmdUI* for updates, an
-    /// AFX_NOTIFY* for WM_NOTIFY notifications, else NULL. If `pHandlerInfo` is not NULL, the function
-    /// fills in the handler and does not call it. Returns nonzero if a handler exists and did not refuse
-    /// the command.
+    /// CN_UPDATE_COMMAND_UI or a notification code of the control; for a WM_NOTIFY notification, the code is
+    /// the low word and WM_NOTIFY the high word. `pExtra` is a CCmdUI* for updates, an AFX_NOTIFY* for
+    /// WM_NOTIFY notifications, else NULL. If `pHandlerInfo` is not NULL, the function fills in the handler
+    /// and does not call it. Returns nonzero if a handler exists and did not refuse the command.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
     /// Shows the hourglass until the matching EndWaitCursor(). Calls can be nested.
@@ -66,7 +66,7 @@ public:
     UINT m_nIndex = 0;              ///< position of the item in the menu or bar
     CMenu* m_pMenu = nullptr;       ///< the menu that contains the item; NULL if the item is not a menu item
     CMenu* m_pSubMenu = nullptr;    ///< the popup that the item opens; NULL if the item opens none
-    CMenu* m_pParentMenu = nullptr; ///< the menu that contains m_pMenu, for popups of a menu bar
+    CMenu* m_pParentMenu = nullptr; ///< the menu in the frame's menu that opens m_pMenu, or NULL
     CWnd* m_pOther = nullptr;       ///< the window that is or contains the item; NULL for menu items
     BOOL m_bEnableChanged = FALSE;  ///< whether a handler called Enable()
     BOOL m_bContinueRouting = FALSE;
@@ -74,12 +74,13 @@ public:
 
     /// Enables or greys the item.
     virtual void Enable(BOOL bOn = TRUE);
-    /// 0 unchecked, 1 checked, 2 undetermined (visible on buttons only).
+    /// 0 unchecked, 1 checked, 2 undetermined. A menu item shows 2 as checked.
     virtual void SetCheck(int nCheck = 1);
-    /// Like SetCheck(), but the mark is the dot of a radio button.
+    /// Like SetCheck(), but the mark of a menu item is a dot.
     virtual void SetRadio(BOOL bOn = TRUE);
     virtual void SetText(LPCTSTR lpszText);
-    /// Makes the framework ask the next object of the route, as if this handler did not exist.
+    /// A handler calls the function to pass the update on to the next object, as if the handler did not
+    /// exist.
     void ContinueRouting() { m_bContinueRouting = TRUE; }
 
     /// Asks `pTarget` to update the item. With `bDisableIfNoHndler`, the function greys the item if no update

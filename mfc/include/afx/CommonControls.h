@@ -41,7 +41,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
 };
 
@@ -59,7 +59,7 @@ public:
     void SetRange32(int nLower, int nUpper);
     void GetRange(int& nLower, int& nUpper) const;
     int GetPos() const { return afx_control::Ask(m_hWnd, PBM_GETPOS); }
-    /// The three functions return the former position.
+    /// SetPos(), OffsetPos() and StepIt() return the former position.
     int SetPos(int nPos) { return afx_control::Ask(m_hWnd, PBM_SETPOS, Param(nPos)); }
     int OffsetPos(int nPos) { return afx_control::Ask(m_hWnd, PBM_DELTAPOS, Param(nPos)); }
     int StepIt() { return afx_control::Ask(m_hWnd, PBM_STEPIT); }
@@ -67,7 +67,7 @@ public:
     int SetStep(int nStep) { return afx_control::Ask(m_hWnd, PBM_SETSTEP, Param(nStep)); }
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
@@ -94,7 +94,7 @@ public:
     void GetSelection(int& nMin, int& nMax) const;
     void SetSelection(int nMin, int nMax);
     int GetPos() const { return afx_control::Ask(m_hWnd, TBM_GETPOS); }
-    /// Positions outside the range are moved into it. The control repaints itself.
+    /// A position outside the range becomes the nearest limit. The control repaints itself.
     void SetPos(int nPos) { afx_control::Ask(m_hWnd, TBM_SETPOS, TRUE, nPos); }
     UINT GetNumTics() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, TBM_GETNUMTICS)); }
     int GetTic(int nTic) const { return afx_control::Ask(m_hWnd, TBM_GETTIC, static_cast<WPARAM>(nTic)); }
@@ -113,7 +113,7 @@ public:
     void GetThumbRect(LPRECT lprc) const;
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
 };
 
@@ -143,19 +143,19 @@ public:
     /// Sets the base, 10 or 16. Returns the former base, or 0 if `nBase` is another number.
     int SetBase(int nBase) { return afx_control::Ask(m_hWnd, UDM_SETBASE, static_cast<WPARAM>(nBase)); }
     UINT GetBase() const { return static_cast<UINT>(afx_control::Ask(m_hWnd, UDM_GETBASE)); }
-    /// Both functions may return temporary objects, and NULL if there is no buddy.
+    /// SetBuddy() returns the former buddy. The result may be a temporary object; NULL means no buddy.
     CWnd* SetBuddy(CWnd* pWndBuddy);
     CWnd* GetBuddy() const;
     BOOL SetAccel(int nAccel, UDACCEL* pAccel);
     UINT GetAccel(int nAccel, UDACCEL* pAccel) const;
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
 };
 
-/// A tooltip window for the controls of a window. The program relays mouse messages, usually in
-/// CWnd::PreTranslateMessage(), or adds its tools with TTF_SUBCLASS.
+/// A tooltip window for the controls of a window. The program passes mouse messages to RelayEvent(), usually
+/// in CWnd::PreTranslateMessage(), or adds its tools with TTM_ADDTOOL and the flag TTF_SUBCLASS.
 class MFC_API CToolTipCtrl : public CWnd {
     DECLARE_DYNAMIC(CToolTipCtrl)
 
@@ -166,7 +166,8 @@ public:
 
     void Activate(BOOL bActivate) { afx_control::Ask(m_hWnd, TTM_ACTIVATE, static_cast<WPARAM>(bActivate)); }
     /// Adds a tool: the whole of `pWnd` if `nIDTool` is 0, else the part `lpRectTool` of its client area.
-    /// LPSTR_TEXTCALLBACK makes the tooltip ask the window for the text.
+    /// For LPSTR_TEXTCALLBACK, the tooltip requests the text with TTN_NEEDTEXT: from the parent of `pWnd` if
+    /// `nIDTool` is 0, else from `pWnd`.
     BOOL AddTool(CWnd* pWnd, LPCTSTR lpszText = LPSTR_TEXTCALLBACK, LPCRECT lpRectTool = nullptr,
                  UINT_PTR nIDTool = 0);
     /// The text is a string of the resource chain.
@@ -192,6 +193,6 @@ public:
     void Pop() { afx_control::Ask(m_hWnd, TTM_POP); }
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
 };

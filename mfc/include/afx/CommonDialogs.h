@@ -16,7 +16,8 @@ public:
     ~CCommonDialog() override;
 
 protected:
-    /// The owner's window: the parent from the constructor, else the main window, else NULL.
+    /// The owner of the dialog: the top-level window of the constructor's parent. Without a parent, the popup
+    /// of the main window that was active last, else the main window, else NULL.
     HWND OwnerWindow() const;
     /// The system's dialog procedure ends these dialogs, so OnOK() and OnCancel() neither exchange data nor
     /// call EndDialog().
@@ -31,16 +32,16 @@ class MFC_API CFileDialog : public CCommonDialog {
 
 public:
     /// `bOpenFileDialog` TRUE makes the Open dialog, FALSE the Save As dialog. `lpszDefExt` is the extension,
-    /// without period, that the dialog adds to a name without one; NULL adds none. `lpszFileName` is the
-    /// initial name, `dwFlags` are OFN_ flags. `lpszFilter` holds pairs "Text (*.txt)|*.txt|" and ends with
-    /// one more '|'.
+    /// without its period, that the dialog adds to a name without an extension; NULL adds nothing.
+    /// `lpszFileName` is the initial name, `dwFlags` are OFN_ flags. `lpszFilter` holds pairs "Text
+    /// (*.txt)|*.txt|" and ends with one more '|'.
     explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr, LPCTSTR lpszFileName = nullptr,
                          DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCTSTR lpszFilter = nullptr,
                          CWnd* pParentWnd = nullptr);
     ~CFileDialog() override;
 
-    /// The system's record. Change it between construction and DoModal(). OFN_ALLOWMULTISELECT needs a larger
-    /// buffer of the program in lpstrFile and nMaxFile.
+    /// The system's record. Change it between construction and DoModal(). With OFN_ALLOWMULTISELECT, the
+    /// program supplies a larger buffer: the address in lpstrFile, the size in characters in nMaxFile.
     OPENFILENAME m_ofn{};
 
     INT_PTR DoModal() override;
@@ -55,12 +56,12 @@ public:
     CString GetFileTitle() const;
     BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
 
-    /// The chosen files as full paths. GetNextPathName() sets the position to NULL after the last one.
+    /// Enumerate the chosen files as full paths. GetNextPathName() sets `pos` to NULL after the last file.
     POSITION GetStartPosition() const;
     CString GetNextPathName(POSITION& pos) const;
 
 protected:
-    /// Return 0 to accept the name, 1 to keep the dialog open. The override shows the reason to the user.
+    /// Return 0 to accept the name, 1 to keep the dialog open. An override that returns 1 tells the user why.
     virtual BOOL OnFileNameOK();
     /// Return OFN_SHAREFALLTHROUGH to accept the file, OFN_SHARENOWARN to refuse it without a message,
     /// OFN_SHAREWARN to refuse it with a message.
@@ -92,7 +93,7 @@ public:
     CHOOSECOLOR m_cc{};
 
     INT_PTR DoModal() override;
-    /// The chosen colour; while the dialog is open, the colour it shows.
+    /// The chosen colour. Until the user presses OK, the initial colour.
     COLORREF GetColor() const { return m_cc.rgbResult; }
     /// Selects a colour in the open dialog.
     void SetCurrentColor(COLORREF clr);
@@ -119,7 +120,7 @@ public:
     CHOOSEFONT m_cf{};
 
     INT_PTR DoModal() override;
-    /// The chosen font; while the dialog is open, the font it shows.
+    /// Copies the chosen font to `*lplf`; while the dialog is open, the font that the dialog shows.
     void GetCurrentFont(LPLOGFONT lplf);
     CString GetFaceName() const { return m_lf.lfFaceName; }
     CString GetStyleName() const { return m_szStyleName; }

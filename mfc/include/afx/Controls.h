@@ -10,7 +10,7 @@
 /// the window must exist.
 
 namespace afx_control {
-/// A control's answer as an int. Counts, indices and flags fit into an int.
+/// Sends a message to a control. Returns the answer as an int: counts, indices and flags fit into an int.
 inline int Ask(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessage(control, message, wParam, lParam));
 }
@@ -46,7 +46,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
     LRESULT SetImage(UINT kind, HANDLE image);
     LRESULT GetImage(UINT kind) const;
@@ -87,7 +87,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
 };
 
@@ -124,8 +124,9 @@ public:
     CPoint PosFromChar(UINT nChar) const;
     /// Low word: character index; high word: line.
     int CharFromPos(CPoint pt) const;
-    /// Copies line `nIndex`, counted from 0, without a terminating zero. The first form reads the buffer's
-    /// size from its first word. Returns the number of characters; 0 if the line does not exist.
+    /// Copies line `nIndex`, counted from 0, without a terminating zero. For the first form, the caller
+    /// stores the size of the buffer, in characters, in the first WORD of the buffer. Returns the number of
+    /// characters; 0 if the line does not exist.
     int GetLine(int nIndex, LPTSTR lpszBuffer) const;
     int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
     void EmptyUndoBuffer() { afx_control::Ask(m_hWnd, EM_EMPTYUNDOBUFFER); }
@@ -133,12 +134,14 @@ public:
         return afx_control::Ask(m_hWnd, EM_FMTLINES, static_cast<WPARAM>(bAddEOL));
     }
     void LimitText(int nChars = 0) { afx_control::Ask(m_hWnd, EM_LIMITTEXT, static_cast<WPARAM>(nChars)); }
-    /// The line of a character; -1 stands for the start of the selection.
+    /// The index of the line that contains character `nIndex`; -1 stands for the start of the selection.
     int LineFromChar(int nIndex = -1) const {
         return afx_control::Ask(m_hWnd, EM_LINEFROMCHAR, Position(nIndex));
     }
-    /// The first character of a line; -1 stands for the line with the caret.
+    /// The index of the first character of line `nLine`; -1 stands for the line with the caret.
     int LineIndex(int nLine = -1) const { return afx_control::Ask(m_hWnd, EM_LINEINDEX, Position(nLine)); }
+    /// The length, in characters, of the line that contains character `nLine`. -1 counts the characters
+    /// outside the selection in the selected lines.
     int LineLength(int nLine = -1) const { return afx_control::Ask(m_hWnd, EM_LINELENGTH, Position(nLine)); }
     void LineScroll(int nLines, int nChars = 0) {
         afx_control::Ask(m_hWnd, EM_LINESCROLL, Position(nChars), nLines);
@@ -167,7 +170,7 @@ public:
     void Paste() { afx_control::Ask(m_hWnd, WM_PASTE); }
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
     static WPARAM Position(int index) { return static_cast<WPARAM>(static_cast<INT_PTR>(index)); }
 };
@@ -194,14 +197,14 @@ public:
     BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH) {
         return ::EnableScrollBar(m_hWnd, SB_CTL, nArrowFlags);
     }
-    /// The function fills in cbSize.
+    /// Both functions fill in lpScrollInfo->cbSize; GetScrollInfo() also fills in fMask.
     BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    /// The largest position that the user can reach: the end of the range minus the page.
+    /// The largest position that the user can reach: nMax - (nPage - 1), or nMax if nPage is 0.
     int GetScrollLimit();
 
 private:
-    // Private, against calls of the base's Create with another window class: a control has its own.
+    // Private: CWnd::Create() takes a window class, but this control always has its own class.
     using CWnd::Create;
 };
 

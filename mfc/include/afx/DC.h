@@ -8,19 +8,19 @@
 class CWnd;
 
 /// Deletes the temporary DC, GDI object and menu wrappers of the calling thread. The message loop calls the
-/// function when it is idle.
+/// function while no message waits.
 void MFC_API AfxDeleteTempGdiMaps();
 
 /// A device context with two handles. Output goes to m_hDC, and m_hAttribDC answers questions; usually both
 /// are the same handle. Setters change both DCs and return the former value of m_hAttribDC, or of m_hDC if
-/// m_hAttribDC is NULL. Coordinates are logical units if the comment does not name another unit. On failure,
-/// drawing members return FALSE or GDI's error value; they do not throw.
+/// m_hAttribDC is NULL. Coordinates are units of the DC's mapping mode (logical units) unless the comment
+/// names another unit. On failure, drawing members return FALSE or GDI's error value; they do not throw.
 class MFC_API CDC : public CObject {
     DECLARE_DYNCREATE(CDC)
 
 public:
-    HDC m_hDC = nullptr;       ///< output
-    HDC m_hAttribDC = nullptr; ///< attributes
+    HDC m_hDC = nullptr;       ///< receives the output
+    HDC m_hAttribDC = nullptr; ///< answers questions about attributes; usually equal to m_hDC
 
     CDC() = default;
     /// Deletes the output DC that the object owns.
@@ -35,8 +35,8 @@ public:
     HDC GetSafeHdc() const;
     /// The window of the DC; NULL for memory, printer and metafile DCs.
     CWnd* GetWindow() const;
-    /// Sets both handles to `hDC`; the object owns it from now on. FALSE for NULL. Throws CMemoryException*
-    /// if memory runs out; the caller then keeps the DC.
+    /// Sets both handles to `hDC`; the object owns it from now on. FALSE for a NULL handle. Throws
+    /// CMemoryException* if memory runs out; the caller then keeps the DC.
     BOOL Attach(HDC hDC);
     /// Clears both handles. The caller deletes or releases the result.
     HDC Detach();
@@ -52,11 +52,12 @@ public:
     BOOL CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput, const void* lpInitData);
     /// A memory DC. A NULL `pDC` stands for the screen.
     BOOL CreateCompatibleDC(CDC* pDC);
-    /// Deletes a DC that a Create function made. Classes of window DCs release theirs instead.
+    /// Deletes a DC that a Create function made. Do not call the function for a CPaintDC, CClientDC or
+    /// CWindowDC: their destructors release the DC.
     BOOL DeleteDC();
     BOOL ResetDC(const DEVMODE* lpDevMode);
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
-    /// Saves both DCs. Returns the number for RestoreDC(), 0 on failure.
+    /// Saves the state of both DCs. Returns the argument for RestoreDC(), 0 on failure.
     virtual int SaveDC();
     /// `nSavedDC` is the result of SaveDC(), or a negative number that counts back from the latest save.
     virtual BOOL RestoreDC(int nSavedDC);
@@ -70,8 +71,8 @@ public:
     CBitmap* SelectObject(CBitmap* pBitmap);
     /// Like SelectClipRgn(): returns the kind of the clip region.
     int SelectObject(CRgn* pRgn);
-    /// For an object of unknown class. After a region the result is NULL, because GDI does not return the
-    /// former region.
+    /// For an object of unknown class. For a region the result is always NULL, because GDI does not return
+    /// the former region.
     CGdiObject* SelectObject(CGdiObject* pObject);
     CPen* GetCurrentPen() const;
     CBrush* GetCurrentBrush() const;
@@ -186,7 +187,7 @@ public:
         return ArcTo(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom, ptStart.x, ptStart.y, ptEnd.x,
                      ptEnd.y);
     }
-    /// Angles are degrees, counter-clockwise.
+    /// Angles are in degrees, counter-clockwise from the direction to the right.
     BOOL AngleArc(int x, int y, int nRadius, float fStartAngle, float fSweepAngle);
     BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     BOOL PolylineTo(const POINT* lpPoints, int nCount);
@@ -250,8 +251,7 @@ public:
     }
     BOOL DrawIcon(int x, int y, HICON hIcon) { return ::DrawIcon(m_hDC, x, y, hIcon); }
     BOOL DrawIcon(POINT point, HICON hIcon) { return ::DrawIcon(m_hDC, point.x, point.y, hIcon); }
-    /// Draws a picture or a text in a state such as disabled (DSS_ flags). The overload selects bitmap, icon
-    /// or text.
+    /// Draw a bitmap, an icon or a text in a state such as disabled (DSS_ flags).
     BOOL DrawState(CPoint pt, CSize size, HBITMAP hBitmap, UINT nFlags, HBRUSH hBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, CBitmap* pBitmap, UINT nFlags, CBrush* pBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, HBRUSH hBrush = nullptr);
@@ -333,8 +333,8 @@ public:
     int GetTextFace(CString& rString) const;
     BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hAttribDC, lpMetrics); }
     BOOL GetOutputTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hDC, lpMetrics); }
-    /// Distributes `nBreakExtra` units over the break characters of the following texts. Returns 1
-    /// on success.
+    /// Sets the extra space of texts drawn later: GDI distributes `nBreakExtra` units over `nBreakCount`
+    /// break characters (usually blanks). Returns 1 on success.
     int SetTextJustification(int nBreakExtra, int nBreakCount);
     int GetTextCharacterExtra() const { return ::GetTextCharacterExtra(m_hAttribDC); }
     int SetTextCharacterExtra(int nCharExtra);

@@ -18,7 +18,8 @@ public:
     CWnd* m_pDlgWnd;
     /// The control of the latest Prepare call. Fail() sets the focus to it.
     HWND m_hWndLastControl = nullptr;
-    /// Whether that control is an edit control. Fail() then selects its text.
+    /// Whether the latest Prepare call was PrepareEditCtrl(). Fail() then also selects the text of an edit
+    /// control.
     BOOL m_bEditLastControl = FALSE;
 
     /// Returns the window of the control and stores it for Fail(). Throws CNotSupportedException* if the
@@ -26,7 +27,7 @@ public:
     HWND PrepareCtrl(int nIDC);
     /// Like PrepareCtrl(), for an edit control or for a combo box with an edit field.
     HWND PrepareEditCtrl(int nIDC);
-    /// Sets the focus to the stored control, selects the text of an edit control, and throws CUserException*.
-    /// The caller has shown the message before.
+    /// Throws CUserException*. While saving, first sets the focus to the stored control and selects the text
+    /// of an edit control. The caller shows the message to the user before the call.
     [[noreturn]] void Fail();
 };

@@ -60,7 +60,7 @@ MFC_API BOOL AfxIsValidString(LPCSTR text, int length = -1);
 /// Ends the process with status 3 and without clean-up.
 [[noreturn]] MFC_API void AfxAbort();
 
-/// Writes formatted text to the debugger. The arguments must be plain C types; see TRACE.
+/// Writes formatted text to the debugger. The arguments must be plain C types; AfxTrace() also takes CString.
 MFC_API void AfxTraceFormatted(LPCTSTR format, ...);
 
 /// Converts an argument for a C variadic function. An overload converts a CString to its characters. The
@@ -76,7 +76,7 @@ template <class... Args> void AfxTrace(LPCTSTR format, Args... args) {
 }
 
 /// ASSERT(f): in debug builds (_DEBUG) a false `f` ends the program; other builds do not evaluate `f`.
-/// VERIFY(f): the same, but every build evaluates `f`. TRACE(format, ...): debug builds write to the
+/// VERIFY(f): like ASSERT(f), but every build evaluates `f`. TRACE(format, ...): debug builds write to the
 /// debugger; other builds do not evaluate the arguments.
 #ifdef _DEBUG
 #define ASSERT(f) ((f) ? (void)0 : ::AfxAssertFailed(#f, THIS_FILE, __LINE__))
@@ -106,8 +106,8 @@ template <class... Args> void AfxTrace(LPCTSTR format, Args... args) {
 /// In debug builds, asserts that `object` is of class `class_name` or of a class derived from it.
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))
 
-/// The operators behind DEBUG_NEW. File and line are visible in a debugger's stack. The ordinary operators
-/// new and delete manage the memory.
+/// The operators behind DEBUG_NEW. A debugger shows file and line as arguments on the call stack. The
+/// ordinary operators new and delete manage the memory.
 inline void* operator new(std::size_t bytes, LPCSTR, int) {
     return ::operator new(bytes);
 }

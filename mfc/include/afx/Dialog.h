@@ -21,7 +21,7 @@ public:
     ~CDialog() override;
 
     /// Creates a modeless dialog. The dialog is visible at once only if the template has the style
-    /// WS_VISIBLE. FALSE if the template or the window cannot be created.
+    /// WS_VISIBLE. FALSE if the template does not exist or the window cannot be created.
     BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr) {
         return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
@@ -30,8 +30,8 @@ public:
                         void* lpDialogInit = nullptr);
     BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
 
-    /// Sets the template for DoModal(). The template must outlive the dialog. `lpDialogInit` holds list data
-    /// in the format of RT_DLGINIT resources.
+    /// Sets the template for DoModal(). The template must exist until DoModal() returns. `lpDialogInit` holds
+    /// the items of list boxes and combo boxes, in the format of RT_DLGINIT resources.
     BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
                            void* lpDialogInit = nullptr);
     BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
@@ -62,10 +62,11 @@ public:
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
 protected:
-    /// The OK button. The base copies the controls to the members and ends with IDOK; if the exchange fails,
-    /// the dialog stays open.
+    /// Called for the OK button. The base copies the controls to the members and ends the dialog with IDOK.
+    /// If the exchange fails, the dialog stays open.
     virtual void OnOK();
-    /// The Cancel button, the Escape key and the close box. The base ends with IDCANCEL.
+    /// Called for the Cancel button, the Escape key and the close box. The base ends the dialog with
+    /// IDCANCEL.
     virtual void OnCancel();
     /// Called when WM_INITDIALOG arrives, before OnInitDialog().
     virtual void PreInitDialog();
@@ -75,7 +76,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // Private, against calls of the base's Create with another window class: this dialog has its own.
+    // Private: CWnd::Create() takes a window class, but a dialog is created from a template.
     using CWnd::Create;
 
     BOOL CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner);

@@ -17,7 +17,7 @@ public:
     /// Deletes the object, unless the constructor received `autoDelete` FALSE.
     void Delete();
 
-    /// Copies the message for the user, cut to `maxLength` bytes with the terminating zero, and sets
+    /// Copies the message for the user, cut to `maxLength` bytes including the terminating zero, and sets
     /// `*helpContext` to 0. Without a message, returns FALSE and copies an empty text. `text` may be null
     /// only if `maxLength` is 0.
     virtual BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr);
@@ -130,11 +130,11 @@ public:
 
     explicit CFileException(int cause = none, LONG osError = -1, LPCTSTR fileName = nullptr);
 
-    /// The cause for an error number of the system, or of the C library.
+    /// The cause for an error number of Windows (GetLastError()) or of the C library (errno).
     static int OsErrorToException(LONG osError);
     static int ErrnoToException(int errorNumber);
 
-    /// Throw a CFileException* for an error number of the system, or of the C library.
+    /// Throw a CFileException* for an error number of Windows or of the C library.
     [[noreturn]] static void ThrowOsError(LONG osError, LPCTSTR fileName = nullptr);
     [[noreturn]] static void ThrowErrno(int errorNumber, LPCTSTR fileName = nullptr);
 
@@ -142,7 +142,7 @@ public:
 
     /// One of the enumerators above.
     int m_cause;
-    /// Error number of the system, -1 if unknown.
+    /// Error number of Windows, -1 if unknown.
     LONG m_lOsError;
     CString m_strFileName;
 };

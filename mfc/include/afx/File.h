@@ -21,8 +21,8 @@ struct CFileStatus {
     TCHAR m_szFullName[MAX_PATH];
 };
 
-/// A binary file without a buffer. Members throw CFileException* on failure if the comment does not name
-/// another result.
+/// A binary file without a buffer. On failure, members throw CFileException* unless the comment names another
+/// result.
 class MFC_API CFile : public CObject {
     DECLARE_DYNAMIC(CFile)
 public:
@@ -41,7 +41,7 @@ public:
         /// keeps its content.
         modeCreate = OF_CREATE,
         modeNoTruncate = 0x2000,
-        /// For derived classes.
+        /// Text or binary mode of CStdioFile. CFile ignores the two flags.
         typeText = 0x4000,
         typeBinary = 0x8000
     };
@@ -90,7 +90,8 @@ public:
     ULONGLONG SeekToEnd() { return Seek(0, end); }
     virtual ULONGLONG GetPosition() const;
     virtual ULONGLONG GetLength() const;
-    /// Truncates the file or extends it with undefined bytes. CFile and CStdioFile then stand at the new end.
+    /// Truncates the file or extends it with undefined bytes. CFile and CStdioFile also move the position to
+    /// the new end.
     virtual void SetLength(ULONGLONG length);
     virtual void LockRange(ULONGLONG position, ULONGLONG count);
     virtual void UnlockRange(ULONGLONG position, ULONGLONG count);
@@ -99,7 +100,8 @@ public:
     virtual CString GetFileName() const;
     virtual CString GetFileTitle() const;
     virtual CString GetFilePath() const;
-    /// Changes the results of the three functions above. The file on the disk keeps its name.
+    /// Changes the results of GetFileName(), GetFileTitle() and GetFilePath(). The file on the disk keeps its
+    /// name.
     virtual void SetFilePath(LPCTSTR path);
     operator HANDLE() const { return m_hFile; }
 
@@ -174,8 +176,8 @@ public:
     /// caller keeps the buffer. Otherwise the file starts empty, the buffer must come from malloc, and the
     /// file frees it.
     void Attach(BYTE* buffer, UINT size, UINT growBytes = 0);
-    /// Returns the memory to the caller, who calls free(), and empties the file. Null if the file has
-    /// no memory.
+    /// Empties the file and returns its memory; null if the file has none. The caller frees the memory with
+    /// free(), unless the memory is a buffer that the caller attached with `growBytes` 0.
     BYTE* Detach();
 
     void Close() override;
@@ -198,7 +200,7 @@ protected:
     virtual BYTE* Realloc(BYTE* block, SIZE_T bytes);
     virtual BYTE* Memcpy(BYTE* target, const BYTE* source, SIZE_T bytes);
     virtual void Free(BYTE* block);
-    /// Makes room for `length` bytes.
+    /// Makes the memory at least `length` bytes large.
     virtual void GrowFile(SIZE_T length);
 
     SIZE_T m_nGrowBytes = 0;

@@ -4,8 +4,8 @@
 #include "afx/Wnd.h"
 #include "afxres.h"
 
-/// Style for frame windows that show a document's name in their title. The library has no documents, so the
-/// style has no effect.
+/// Styles for frame windows that show a document's name in their title. The library has no documents, so
+/// neither style has an effect.
 #define FWS_ADDTOTITLE 0x00008000L
 #define FWS_PREFIXTITLE 0x00004000L
 /// Style of a child window that fills a frame. The child's ID is AFX_IDW_PANE_FIRST.
@@ -23,8 +23,7 @@ public:
     /// Argument of Create() that lets the system choose position and size.
     static const CRect rectDefault;
 
-    /// TRUE greys menu items whose command has no handler. Set FALSE before the window is created to leave
-    /// such items enabled.
+    /// TRUE greys menu items whose command has no handler; FALSE leaves them enabled.
     BOOL m_bAutoMenuEnable = TRUE;
 
     /// Creates the window. A NULL class name stands for the framework's frame class. On failure, returns
@@ -61,7 +60,8 @@ protected:
 
     /// Called during creation of the window, for example to create children. FALSE makes the creation fail.
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
-    /// Registers a window class with the frame's icon and returns the name of the class.
+    /// Registers a window class with the icon `nIDResource` and returns the name of the class. NULL if the
+    /// icon does not exist.
     LPCTSTR GetIconWndClass(DWORD dwDefaultStyle, UINT nIDResource);
     void PostNcDestroy() override;
 

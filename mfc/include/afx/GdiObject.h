@@ -10,8 +10,8 @@ class CBitmap;
 /// A GDI object and the handle that it owns.
 ///
 /// The destructor deletes the handle, unless Detach() was called before. FromHandle() returns a temporary
-/// object for a handle that no CGdiObject owns. The message loop deletes temporary objects when it is idle;
-/// their handles stay valid.
+/// object for a handle that no CGdiObject owns. The message loop deletes temporary objects while no message
+/// waits; their handles stay valid.
 class MFC_API CGdiObject : public CObject {
     DECLARE_DYNCREATE(CGdiObject)
 
@@ -33,7 +33,7 @@ public:
     /// The handle. The call is allowed on a NULL object and then returns NULL.
     HGDIOBJ GetSafeHandle() const;
 
-    /// Takes ownership of `hObject`. The object must not own a handle yet. FALSE for NULL. Throws
+    /// Takes ownership of `hObject`. The object must not own a handle yet. FALSE for a NULL handle. Throws
     /// CMemoryException* if memory runs out; the caller then keeps the handle.
     BOOL Attach(HGDIOBJ hObject);
     /// Releases ownership: the caller deletes the handle.
@@ -115,7 +115,7 @@ public:
     BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
         return AttachNew(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
     }
-    /// The brush of a system colour (COLOR_WINDOW ...). The system keeps ownership.
+    /// Attaches the brush of a system colour (COLOR_WINDOW ...). GDI ignores a later deletion.
     BOOL CreateSysColorBrush(int nIndex) { return AttachNew(::GetSysColorBrush(nIndex)); }
     int GetLogBrush(LOGBRUSH* pLogBrush) const { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
 };

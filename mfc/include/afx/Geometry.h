@@ -107,8 +107,8 @@ inline CPoint CSize::operator-(POINT point) const {
     return CPoint(AfxMinus(cx, point.x), AfxMinus(cy, point.y));
 }
 
-/// A rectangle. The right and the bottom edge lie outside it. Members that shrink, join or cut rectangles
-/// expect normalized ones: left <= right and top <= bottom.
+/// A rectangle. The right and the bottom edge do not belong to the rectangle. Members that shrink, join,
+/// intersect or subtract rectangles expect normalized rectangles: left <= right and top <= bottom.
 class CRect : public tagRECT {
 public:
     CRect() : CRect(0, 0, 0, 0) {}
@@ -185,8 +185,8 @@ public:
     }
 
     /// Set this rectangle to the intersection, to the smallest rectangle around both, or to the part of
-    /// `first` that `second` does not cover. SubtractRect leaves `first` unchanged unless `second` covers a
-    /// whole side of it. FALSE if the result is empty. The arguments may be this rectangle.
+    /// `first` that `second` does not cover. If that part is not a rectangle, SubtractRect() sets this
+    /// rectangle to `first`. FALSE if the result is empty. The arguments may be this rectangle.
     BOOL IntersectRect(LPCRECT first, LPCRECT second) { return ::IntersectRect(this, first, second); }
     BOOL UnionRect(LPCRECT first, LPCRECT second) { return ::UnionRect(this, first, second); }
     BOOL SubtractRect(LPCRECT first, LPCRECT second) { return ::SubtractRect(this, first, second); }
@@ -243,8 +243,8 @@ public:
         result |= rect;
         return result;
     }
-    /// Each coordinate times `multiplier` divided by `divisor`, rounded to the nearest integer; -1 if the
-    /// division is impossible.
+    /// Each coordinate times `multiplier` divided by `divisor`, rounded to the nearest integer. A coordinate
+    /// becomes -1 if its result exceeds an int or if `divisor` is 0.
     CRect MulDiv(int multiplier, int divisor) const {
         return CRect(::MulDiv(left, multiplier, divisor), ::MulDiv(top, multiplier, divisor),
                      ::MulDiv(right, multiplier, divisor), ::MulDiv(bottom, multiplier, divisor));

@@ -8,13 +8,13 @@
 ///
 /// Permanent entries are objects that a program attached to a handle; the map never deletes these objects.
 /// Temporary entries are wrappers that the map created because FromHandle() got a handle without a permanent
-/// entry. DeleteTemporaries() deletes the wrappers and leaves their handles valid; the message loop calls it
-/// when it is idle.
+/// entry. DeleteTemporaries() deletes the wrappers and leaves their handles valid; the message loop calls the
+/// function while no message waits.
 ///
 /// `Traits` supplies two static functions. Wrap(Handle) returns a std::unique_ptr<Object> that refers to the
 /// handle and does not own it. Unwrap(Object&) clears the handle of a wrapper before the wrapper is deleted.
 ///
-/// One thread uses a map, so a map belongs into thread-local storage.
+/// A map is not locked, so each thread has its own map, in thread-local storage.
 template <class Object, class Handle, class Traits> class HandleMap {
 public:
     HandleMap() = default;
@@ -28,7 +28,7 @@ public:
         return found == m_permanent.end() ? nullptr : found->second;
     }
 
-    /// The attached object, else the temporary wrapper. The function creates the wrapper at the first call;
+    /// The object attached to `handle`, else its temporary wrapper, which the function creates if necessary.
     /// nullptr for a null handle.
     Object* FromHandle(Handle handle) {
         if (handle == nullptr)

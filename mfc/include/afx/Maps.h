@@ -3,8 +3,8 @@
 
 #include <afx/CMap.h>
 
-// The maps do not own the targets of pointers. Maps of void pointers are not serialisable: Serialize
-// throws CNotSupportedException*.
+// The maps do not own the targets of pointers. Maps with void pointers as keys or values are not
+// serialisable: Serialize throws CNotSupportedException*.
 
 class MFC_API CMapWordToPtr : public CMap<WORD, WORD, void*, void*> {
     DECLARE_DYNAMIC(CMapWordToPtr)

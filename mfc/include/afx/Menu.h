@@ -33,8 +33,8 @@ public:
     /// The handle. The call is allowed on a NULL object and then returns NULL.
     HMENU GetSafeHmenu() const;
 
-    /// Takes ownership of `hMenu`. FALSE for NULL. Throws CMemoryException* if memory runs out; the caller
-    /// then keeps the menu.
+    /// Takes ownership of `hMenu`. FALSE for a NULL handle. Throws CMemoryException* if memory runs out; the
+    /// caller then keeps the menu.
     BOOL Attach(HMENU hMenu);
     /// Releases ownership: the caller destroys the menu.
     HMENU Detach();
@@ -112,7 +112,7 @@ public:
     }
     DWORD GetMenuContextHelpId() const { return ::GetMenuContextHelpId(m_hMenu); }
 
-    /// Shows a popup menu at the screen position (x, y). The command goes to `pWnd`. With TPM_RETURNCMD the
+    /// Shows a popup menu at the screen position (x, y). `pWnd` receives the command. With TPM_RETURNCMD the
     /// result is the chosen command, else nonzero for success. Windows ignores `lpRect`.
     BOOL TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = nullptr);
 

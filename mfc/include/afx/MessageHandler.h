@@ -13,13 +13,14 @@ class CScrollBar;
 class CWinThread;
 class CWnd;
 
-// AfxHandler keeps the handler with its own type, so no function pointer is cast to another type.
+// AfxHandler keeps each handler with the handler's own signature, so no handler is cast to another signature.
 
 // clang-format off
 
 /// How the parameters of a message become the arguments of its handler. The letters before the underscore
 /// name the result, the letters after it the arguments: v none, b BOOL, i int, u UINT, w CWnd*, d CDC*, p
-/// CPoint, l LPARAM. `Lo` and `Hi` name the word that an argument comes from.
+/// CPoint, l LPARAM (as result: LRESULT). `L`, `Lo` and `Hi`: the argument comes from lParam, from its low
+/// word or from its high word.
 enum class AfxSig : UINT {
     End,              // last row of a table
     Command,          // void()
@@ -99,7 +100,7 @@ enum class AfxSig : UINT {
     v_timerUint,      // void(UINT)
 };
 
-/// The types of handlers: X(class, name, result, arguments).
+/// Expands the macro X(class, name, result, arguments) once for each type of handler.
 #define AFX_HANDLER_TYPES(X) \
     X(CCmdTarget, command, void, ()) \
     X(CCmdTarget, commandRange, void, (UINT)) \
@@ -176,8 +177,8 @@ enum class AfxSig : UINT {
 #define AFX_HANDLER_CONSTRUCTOR(owner, name, result, arguments) \
     constexpr AfxHandler(result (owner::*function) arguments) : name(function) {}
 
-/// A member function of a command target, a window or a thread. The row's AfxSig names the member of the
-/// union that is set.
+/// A handler: a member function of a command target, a window or a thread. The AfxSig of the row tells which
+/// member of the union is set.
 union AfxHandler {
     constexpr AfxHandler() : command(nullptr) {}
     AFX_HANDLER_TYPES(AFX_DECLARE_HANDLER)

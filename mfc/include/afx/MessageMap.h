@@ -7,7 +7,7 @@
 /// the message.
 #define WM_REFLECT_BASE (WM_USER + 0x1C00)
 
-/// The number that maps use for all messages from WM_CTLCOLORMSGBOX to WM_CTLCOLORSTATIC.
+/// The number that message maps use for all messages from WM_CTLCOLORMSGBOX to WM_CTLCOLORSTATIC.
 #ifndef WM_CTLCOLOR
 #define WM_CTLCOLOR 0x0019
 #endif
@@ -20,13 +20,12 @@
 /// One row of a message map.
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage;  ///< message; WM_COMMAND or WM_NOTIFY for commands; AFX_REGISTERED if pnRegistered is set
-                    ///< pnRegistered
     UINT nCode;     ///< notification code, CN_COMMAND or CN_UPDATE_COMMAND_UI; 0 for window messages
     UINT nID;       ///< first control or command ID; 0 for window messages
     UINT nLastID;   ///< last control or command ID
     AfxSig nSig;    ///< how the handler is called
     AfxHandler pfn; ///< the handler
-    const UINT* pnRegistered = nullptr; ///< variable with the number of a registered message
+    const UINT* pnRegistered = nullptr; ///< variable with the number of a registered message, or NULL
 };
 
 /// nMessage of the rows of ON_REGISTERED_MESSAGE.
@@ -35,7 +34,7 @@ struct AFX_MSGMAP_ENTRY {
 /// The message map of a class. A function of the class returns the base class's map, so that the table is
 /// constant data even if the base class is in another module.
 struct AFX_MSGMAP {
-    const AFX_MSGMAP* (*pfnGetBaseMap)(); ///< NULL for the root class
+    const AFX_MSGMAP* (*pfnGetBaseMap)(); ///< returns the base class's map; NULL for CCmdTarget
     const AFX_MSGMAP_ENTRY* lpEntries;    ///< the rows; the last one is AfxSig::End
 };
 
@@ -79,8 +78,8 @@ private:
     }                                                                                                        \
     ;
 
-// Rows for commands: `void OnFoo()`, `BOOL OnFoo(UINT id)`, `void OnFoo(UINT id)`. FALSE lets the command go
-// on to the next object.
+// Rows for commands. ON_COMMAND: `void OnFoo()`. ON_COMMAND_RANGE: `void OnFoo(UINT id)`. ON_COMMAND_EX:
+// `BOOL OnFoo(UINT id)`; the result FALSE passes the command on to the next object.
 
 #define ON_COMMAND(id, memberFxn)                                                                            \
     {WM_COMMAND,                                                                                             \
@@ -173,7 +172,7 @@ private:
      static_cast<WORD>(idLast),                                                                              \
      AfxSig::NotifyRange,                                                                                    \
      static_cast<void (CCmdTarget::*)(UINT, NMHDR*, LRESULT*)>(memberFxn)},
-/// `BOOL OnFoo(UINT id, NMHDR*, LRESULT*)`. FALSE lets the notification go on to the next object.
+/// `BOOL OnFoo(UINT id, NMHDR*, LRESULT*)`. The result FALSE passes the notification on to the next object.
 #define ON_NOTIFY_EX(wNotifyCode, id, memberFxn) ON_NOTIFY_EX_RANGE(wNotifyCode, id, id, memberFxn)
 #define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                               \
     {WM_NOTIFY,                                                                                              \

@@ -7,7 +7,7 @@
 class CWinApp;
 class CDynLinkLibrary;
 
-/// Data about an extension DLL. The DLL defines one such object, initially zero, for its whole lifetime.
+/// Data about an extension DLL. The DLL defines one static object of this type, initially zero.
 struct AFX_EXTENSION_MODULE {
     BOOL bInitialized;
     HMODULE hModule;
@@ -16,20 +16,21 @@ struct AFX_EXTENSION_MODULE {
     void* pFirstSharedFactory;        ///< unused
 };
 
-/// An extension DLL calls the function when it is attached to the process. FALSE makes the load fail.
+/// An extension DLL calls the function in DllMain() when the DLL is attached to the process. If the result is
+/// FALSE, DllMain() returns FALSE too, and the DLL is not loaded.
 MFC_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
-/// An extension DLL calls the function when it is detached. The function deletes the DLL's CDynLinkLibrary
-/// objects and unregisters the window classes that AfxRegisterClass() registered for the DLL. `bAll` extends
-/// both to all extension DLLs.
+/// An extension DLL calls the function when the DLL is detached. The function deletes the DLL's
+/// CDynLinkLibrary objects and unregisters the window classes that AfxRegisterClass() registered for the DLL.
+/// `bAll` TRUE does both for all extension DLLs.
 MFC_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
 
-/// A link in the chain of modules with resources. An extension DLL makes the link with `new` when it is
-/// attached; AfxTermExtensionModule() deletes the link.
+/// A link in the resource chain (see AfxFindResourceHandle()). An extension DLL makes the link with `new`
+/// when the DLL is attached; AfxTermExtensionModule() deletes the link.
 class MFC_API CDynLinkLibrary : public CCmdTarget {
     DECLARE_DYNAMIC(CDynLinkLibrary)
 
 public:
-    /// The chain searches links with `bSystem` TRUE after all others.
+    /// Links with `bSystem` TRUE are searched after all other links.
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource);
     ~CDynLinkLibrary() override;
@@ -39,7 +40,7 @@ public:
     BOOL m_bSystem;
 };
 
-/// State that a program shares with its libraries.
+/// State of a module: of the program, or of a DLL that uses AFX_MANAGE_STATE.
 struct AFX_MODULE_STATE {
     HINSTANCE m_hCurrentInstanceHandle = nullptr;
     HINSTANCE m_hCurrentResourceHandle = nullptr;
@@ -48,13 +49,13 @@ struct AFX_MODULE_STATE {
     BYTE m_bDLL = FALSE; ///< whether this is the state of a DLL
 };
 
-/// The current state of the calling thread: the program's state, unless AFX_MANAGE_STATE set another one.
+/// The current state of the calling thread: the program's state, unless AFX_MANAGE_STATE set another state.
 MFC_API AFX_MODULE_STATE* AfxGetModuleState();
 /// The state of the module `hInstance`. For the program, the program's state; for a DLL, a state with the
 /// DLL's instance and resources.
 MFC_API AFX_MODULE_STATE* AfxStateOfModule(HINSTANCE hInstance);
-/// Sets the current state of the calling thread; NULL stands for the program's state. Returns the
-/// former argument.
+/// Sets the current state of the calling thread; NULL stands for the program's state. Returns the argument of
+/// the thread's previous call, NULL before the first call.
 MFC_API AFX_MODULE_STATE* AfxSetModuleState(AFX_MODULE_STATE* pNewState);
 
 extern "C" IMAGE_DOS_HEADER __ImageBase;
@@ -75,27 +76,28 @@ public:
 private:
     AFX_MODULE_STATE* m_pPrevious;
 };
-/// The first line of a function that a regular DLL exports. The DLL's resources come first until the
+/// The first line of a function that a regular DLL exports. The DLL's resources are searched first until the
 /// function returns.
 #define AFX_MANAGE_STATE(p) AFX_MAINTAIN_STATE _ctlState(p);
 
-/// The instance of the program, also for calls inside extension DLLs.
+/// The instance of the current state: the program, unless AFX_MANAGE_STATE set the state of a DLL. Calls from
+/// extension DLLs get the program too.
 MFC_API HINSTANCE AfxGetInstanceHandle();
-/// The module whose resources are searched first: the program, unless AfxSetResourceHandle() set
-/// another module.
+/// The module whose resources are searched first: the program, unless AfxSetResourceHandle() or
+/// AFX_MANAGE_STATE set another module.
 MFC_API HINSTANCE AfxGetResourceHandle();
 MFC_API void AfxSetResourceHandle(HINSTANCE hInstResource);
 
-/// The first module with a resource. The order is: resource module, program, extension DLLs (the last link
-/// first, system links last), this library. If no module has the resource, returns the resource module.
-/// Never NULL.
+/// The first module in the resource chain that has the resource. The resource chain is: the module of
+/// AfxGetResourceHandle(), the program, the extension DLLs (the latest link first, but links with m_bSystem
+/// last), this library. If no module has the resource, returns AfxGetResourceHandle().
 MFC_API HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
-/// The first module with the string; NULL if none has it. AfxFindResourceHandle() cannot find single strings,
-/// because a string resource is a block of 16 strings.
+/// The first module in the resource chain that has the string; NULL if no module has it.
+/// AfxFindResourceHandle() cannot find single strings, because a string resource is a block of 16 strings.
 MFC_API HINSTANCE AfxFindStringResourceHandle(UINT nID);
-/// Copies a string resource, cut to `nMaxBuf` bytes with the terminating zero, and returns its length without
-/// the zero. If the string does not exist, the text is empty and the result 0. The library has English texts
-/// for its own prompts (afxres.h).
+/// Copies a string resource, cut to `nMaxBuf` bytes including the terminating zero, and returns the length
+/// without the zero. If the string does not exist, the text is empty and the result 0. The library has
+/// English texts for its own prompts (afxres.h).
 MFC_API int AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf = 256);
 
 /// Load and free an extension DLL at run time.
@@ -105,9 +107,9 @@ MFC_API BOOL AfxFreeLibrary(HINSTANCE hInstLib);
 /// Registers a window class. Returns TRUE also if the class is already registered. AfxTermExtensionModule()
 /// unregisters the classes of a DLL.
 MFC_API BOOL AfxRegisterClass(WNDCLASS* lpWndClass);
-/// Registers a window class with these properties at the first call, and returns its name in a buffer
-/// that is valid until the thread's next call. Without a brush, the window's background is not erased.
-/// Throws CResourceException*.
+/// Returns the name of a window class with these properties, and registers the class if necessary. The name
+/// is valid until the thread's next call. Without a brush, the window's background is not erased. Throws
+/// CResourceException* if the class cannot be registered.
 MFC_API LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
                                     HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 

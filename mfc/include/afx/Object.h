@@ -15,13 +15,13 @@ class CArchive;
 #define AFX_EXT_DATA AFX_EXT_CLASS
 #endif
 
-/// Flag for the schema number of IMPLEMENT_SERIAL. The class also reads older schemas and calls
-/// CArchive::GetObjectSchema() to get the stored schema.
+/// Flag for the schema number of IMPLEMENT_SERIAL. A class with the flag also loads objects with another
+/// schema; its Serialize() calls CArchive::GetObjectSchema() to get the stored schema.
 #define VERSIONABLE_SCHEMA (0x80000000)
 
 /// Run-time information about a class with DECLARE_DYNAMIC, DECLARE_DYNCREATE or DECLARE_SERIAL. The
-/// IMPLEMENT_ macros define the objects as constant data. A function returns the base class, so that no
-/// initialisation across DLLs is needed.
+/// IMPLEMENT_ macros define the objects with constant initialisers. m_pfnGetBaseClass is a function, because
+/// the address of a base class in another DLL is not a constant.
 struct MFC_API CRuntimeClass {
     LPCSTR m_lpszClassName;
     /// Size of an object in bytes.
@@ -45,7 +45,7 @@ struct MFC_API CRuntimeClass {
     /// The class with this name in the loaded modules; null if there is none.
     static CRuntimeClass* FromName(LPCSTR className);
 
-    /// CreateObject() of the class with this name; null if there is none.
+    /// Calls CreateObject() of the class with this name; null if there is no such class.
     static CObject* CreateObject(LPCSTR className);
 };
 
@@ -125,9 +125,9 @@ public:                                                                         
         return RUNTIME_CLASS(class_name);                                                                    \
     }
 
-/// The macros stand once in a source file. IMPLEMENT_DYNCREATE and IMPLEMENT_SERIAL need a default
-/// constructor, which may be protected. IMPLEMENT_SERIAL takes a schema number of 0 or more; change the
-/// number when the stored form changes.
+/// Write one of the macros for each class, in a source file. IMPLEMENT_DYNCREATE and IMPLEMENT_SERIAL need a
+/// default constructor, which may be protected. IMPLEMENT_SERIAL takes a schema number of 0 or more; change
+/// the number when the stored form changes.
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
 

@@ -36,7 +36,8 @@ public:
     /// -1 if the user chose no range of pages.
     int GetFromPage() const { return PrintRange() ? m_pd.nFromPage : -1; }
     int GetToPage() const { return PrintRange() ? m_pd.nToPage : -1; }
-    /// The locked settings; the caller unlocks m_pd.hDevMode. NULL if there are no settings.
+    /// Locks m_pd.hDevMode and returns the settings; the caller unlocks m_pd.hDevMode with GlobalUnlock().
+    /// NULL if there are no settings.
     LPDEVMODE GetDevMode() const;
     /// The names are empty if there is no printer.
     CString GetDriverName() const;

@@ -21,7 +21,7 @@ struct MFC_API CPrintInfo {
     BOOL m_bContinuePrinting = TRUE; ///< FALSE ends the job
     UINT m_nCurPage = 1;             ///< number of the current page
     UINT m_nNumPreviewPages = 0;     ///< pages shown side by side in a preview
-    CString m_strPageDesc;           ///< format of page numbers
+    CString m_strPageDesc;           ///< page-number formats for one and for two pages
     LPVOID m_lpUserData = nullptr;   ///< for the program's use
     CRect m_rectDraw;                ///< drawing area of the page in logical units
 
@@ -30,7 +30,7 @@ struct MFC_API CPrintInfo {
     void SetMaxPage(UINT nMaxPage);
     UINT GetMinPage() const;
     UINT GetMaxPage() const;
-    /// The range from the dialog.
+    /// The first and the last page that the user chose in the dialog.
     UINT GetFromPage() const;
     UINT GetToPage() const;
 };

@@ -8,10 +8,10 @@
 class CArchive;
 
 /// Text in the code page of the process. Copies have their own characters; a move transfers them. Positions
-/// and lengths count bytes. If memory runs out, or if the text would exceed INT_MAX characters, members throw
-/// CMemoryException* and the string stays unchanged. A position outside the string asserts in debug builds
-/// and throws CInvalidArgException* in other builds. A count beyond the end means "up to the end"; a negative
-/// count means 0.
+/// and lengths count bytes. If memory runs out, or if the text would exceed INT_MAX - 1 bytes, members throw
+/// CMemoryException* and the string stays unchanged. In GetAt(), SetAt() and operator[], a position outside
+/// the string asserts in debug builds and throws CInvalidArgException* in other builds. A count beyond the
+/// end means "up to the end"; a negative count means 0.
 class MFC_API CString {
 public:
     CString() noexcept;
@@ -65,7 +65,8 @@ public:
     CString Mid(int first, int count) const;
     CString Left(int count) const;
     CString Right(int count) const;
-    /// The longest beginning with characters of `set` only, or without any of them.
+    /// The longest beginning that has only characters of `set` (SpanIncluding), or that has no character of
+    /// `set` (SpanExcluding).
     CString SpanIncluding(LPCTSTR set) const;
     CString SpanExcluding(LPCTSTR set) const;
 
@@ -101,13 +102,15 @@ public:
     int Insert(int index, LPCTSTR text);
     int Delete(int index, int count = 1);
 
-    /// Returns the next piece between characters of `separators`, starting at `position`, and sets `position`
-    /// behind the piece. Empty pieces are skipped. At the end the result is empty and `position` is -1.
+    /// Returns the next piece between characters of `separators`. The search starts at `position`; the call
+    /// sets `position` to the start of the next search. Empty pieces are skipped. If no piece is left, the
+    /// result is empty and `position` is -1.
     CString Tokenize(LPCTSTR separators, int& position) const;
 
-    /// Replace the text (Append: extend it) with formatted text, as printf does. %s accepts CString
-    /// arguments. The result has no maximum length. With an `id`, the format is a string resource; if it does
-    /// not exist, the text stays unchanged.
+    /// Replace the text with formatted text (AppendFormat: append formatted text), as printf does. %s accepts
+    /// CString arguments. With an `id`, the format is a string resource; if the resource does not exist, the
+    /// text stays unchanged. If formatting fails, Format empties the text and AppendFormat leaves the text
+    /// unchanged.
     template <class... Args> void Format(LPCTSTR format, Args... args) {
         FormatPlain(format, AfxVariadicArgument(args)...);
     }
@@ -137,8 +140,8 @@ public:
             FormatMessagePlain(format.GetString(), AfxVariadicArgument(args)...);
     }
 
-    /// Loads a string resource from the chain of modules. If it does not exist, returns FALSE and empties
-    /// the string.
+    /// Loads a string resource from the resource chain. If the resource does not exist, returns FALSE and
+    /// empties the string.
     BOOL LoadString(UINT id) { return LoadResource(id); }
 
     /// A writable buffer for at least `minLength` characters and a terminating zero. Call ReleaseBuffer()
@@ -150,7 +153,8 @@ public:
     /// Ends the use of the buffer and sets the new length. -1 stands for the position of the first zero.
     void ReleaseBuffer(int newLength = -1);
     void FreeExtra();
-    /// Like GetBuffer() and ReleaseBuffer(). Strings never share their characters in this library.
+    /// LockBuffer() returns the writable buffer. UnlockBuffer() does nothing, because strings never share
+    /// their characters in this library.
     LPTSTR LockBuffer();
     void UnlockBuffer();
 
@@ -186,8 +190,8 @@ MFC_API CString operator+(LPCTSTR left, const CString& right);
 MFC_API CString operator+(const CString& left, TCHAR right);
 MFC_API CString operator+(TCHAR left, const CString& right);
 
-/// The operators compare like CString::Compare. Only the comparison of two CStrings includes characters after
-/// a zero.
+/// The operators compare like CString::Compare, which stops at a zero. Only == and != of two CStrings include
+/// the characters after a zero.
 MFC_API bool operator==(const CString& left, const CString& right);
 inline bool operator==(const CString& left, LPCTSTR right) {
     return left.Compare(right) == 0;
@@ -241,7 +245,8 @@ inline bool operator>=(LPCTSTR left, const CString& right) {
     return right.Compare(left) <= 0;
 }
 
-/// Stores the length and then the characters. The length takes 1 byte below 255, else 3 or 7 bytes.
+/// Stores the length and then the characters. A length below 255 takes 1 byte, a length below 65,534 takes
+/// 3 bytes, a larger length takes 7 bytes.
 MFC_API CArchive& operator<<(CArchive& ar, const CString& text);
 MFC_API CArchive& operator>>(CArchive& ar, CString& text);
 

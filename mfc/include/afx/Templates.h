@@ -54,7 +54,7 @@ template <class TYPE, class ARG_TYPE> BOOL AFXAPI CompareElements(const TYPE* le
 }
 
 /// Stores or loads elements as their bytes. A type that is not trivially copyable needs a specialisation;
-/// without one the function throws CNotSupportedException*.
+/// without a specialisation, the function throws CNotSupportedException*.
 template <class TYPE> void AFXAPI SerializeElements(CArchive& ar, TYPE* elements, INT_PTR count) {
     if constexpr (std::is_trivially_copyable_v<TYPE>) {
         constexpr std::size_t most = INT_MAX / sizeof(TYPE);
@@ -126,8 +126,8 @@ template <class Work> decltype(auto) AfxWithMemory(Work&& work) {
     }
 }
 
-/// Raw memory for `capacity` elements, the base of the collections. The destructor frees the memory unless
-/// Release() was called.
+/// Raw memory for `capacity` elements of a CArray. The destructor frees the memory unless Release() was
+/// called.
 template <class TYPE> class AfxBlock {
 public:
     /// Throws CMemoryException* if memory runs out, or if the size exceeds PTRDIFF_MAX bytes.
@@ -162,8 +162,8 @@ template <class TYPE> struct AfxElements {
     static constexpr bool CannotFail = IsBitwise || std::is_nothrow_move_constructible_v<TYPE>;
 
     /// Constructs `count` elements in raw memory from `source`. Elements are moved if moving cannot throw,
-    /// else copied. After an exception the target is raw memory again, and the sources are unchanged unless
-    /// they can only be moved.
+    /// else copied. After an exception the target is raw memory again. The sources are then unchanged, unless
+    /// TYPE cannot be copied.
     static void Make(TYPE* target, TYPE* source, INT_PTR count) {
         if (count <= 0)
             return;
@@ -189,7 +189,7 @@ template <class TYPE> struct AfxElements {
     }
 
     /// Moves `count` elements to raw memory at a lower address of the same block. `arrived` receives the
-    /// number of moved elements. After an exception the other elements are destroyed.
+    /// number of moved elements. After an exception, the elements that were not moved are destroyed.
     static void MoveDown(TYPE* target, TYPE* source, INT_PTR count, INT_PTR& arrived) {
         arrived = 0;
         if constexpr (IsBitwise) {

@@ -43,8 +43,9 @@ public:
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     /// Gets one message and dispatches it. FALSE for WM_QUIT.
     virtual BOOL PumpMessage();
-    /// Called while no message waits, with 0, 1, 2 ... until it returns FALSE. The base updates the user
-    /// interface at 0 and deletes temporary objects.
+    /// Called while no message waits. `lCount` is 0 at the first call, then 1, 2 and so on; the calls end
+    /// when the function returns FALSE. The base updates the user interface at 0 and deletes temporary
+    /// objects.
     virtual BOOL OnIdle(LONG lCount);
     /// Whether idle processing restarts after this message. FALSE for messages such as a mouse move to the
     /// same place.

@@ -62,8 +62,8 @@ public:
     CTime() : m_time(0) {}
     CTime(__time64_t time) : m_time(time) {}
     /// From local time. `isDst` is 0 for standard time, positive for daylight-saving time, -1 for the zone's
-    /// rules. Values outside their ranges (years start at 1900) assert in debug builds and make the time -1
-    /// in other builds.
+    /// rules. Values outside their ranges assert in debug builds and make the time -1 in other builds. Debug
+    /// builds accept years from 1900, other builds years from 1601.
     CTime(int year, int month, int day, int hour, int minute, int second, int isDst = -1);
     /// From local time in the DOS format, which has even seconds only.
     CTime(WORD dosDate, WORD dosTime, int isDst = -1);

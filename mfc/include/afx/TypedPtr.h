@@ -6,8 +6,8 @@
 #include <afx/Maps.h>
 
 /// Returns a reference to a stored CObject* or void* as a pointer of another type. The compiler may assume
-/// that objects of different pointer types do not overlap; the barrier keeps it from reordering their reads
-/// and writes.
+/// that objects of different pointer types do not overlap; the asm statement keeps the compiler from
+/// reordering their reads and writes.
 template <class TYPE, class POINTER> TYPE& AfxTypedPointer(POINTER& pointer) {
 #if defined(__GNUC__)
     __asm__ volatile("" ::: "memory");

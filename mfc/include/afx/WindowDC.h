@@ -5,7 +5,7 @@
 
 class CWnd;
 
-/// The DC of one WM_PAINT. The constructor calls BeginPaint(), the destructor EndPaint().
+/// The DC for one WM_PAINT message. The constructor calls BeginPaint(), the destructor EndPaint().
 class MFC_API CPaintDC : public CDC {
     DECLARE_DYNAMIC(CPaintDC)
 

@@ -18,7 +18,7 @@ struct CCreateContext;
 /// Flags of CWnd::RunModalLoop().
 #define MLF_NOIDLEMSG 0x0001  // no WM_ENTERIDLE to the parent
 #define MLF_NOKICKIDLE 0x0002 // no WM_KICKIDLE to the window
-#define MLF_SHOWONIDLE 0x0004 // shows a hidden window when the loop is idle for the first time
+#define MLF_SHOWONIDLE 0x0004 // shows a hidden window once the loop is idle, or after 100 ms without idling
 
 /// A window. The object and the window have separate lifetimes: Create() and SubclassWindow() attach the
 /// object to a window, WM_NCDESTROY of the window detaches it, and the destructor destroys a window that is
@@ -52,8 +52,8 @@ public:
     HWND GetSafeHwnd() const;
     DWORD GetStyle() const;
     DWORD GetExStyle() const;
-    /// Change style bits. With a nonzero `nFlags`, the function also calls SetWindowPos() with these flags
-    /// and keeps the size. FALSE if no bit changed.
+    /// Change style bits. With a nonzero `nFlags`, the function also calls SetWindowPos() with these flags;
+    /// size, position and Z order stay. FALSE if no bit changed.
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     static BOOL PASCAL ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
@@ -61,16 +61,16 @@ public:
 
     // ---- Handle maps (per thread) ----
 
-    /// The attached object of `hWnd`, else a temporary one that exists until the message loop is idle. NULL
-    /// for NULL.
+    /// The attached object of `hWnd`, else a temporary object, which the message loop deletes while no
+    /// message waits. NULL for a NULL handle.
     static CWnd* PASCAL FromHandle(HWND hWnd);
     /// The object attached to `hWnd`, or NULL.
     static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
     /// Deletes the temporary objects. Their windows stay valid.
     static void PASCAL DeleteTempMap();
     /// Attaches the object to a window without subclassing: messages do not reach the message map. The object
-    /// owns the window from now on (see the destructor). FALSE for NULL. Throws CMemoryException* if memory
-    /// runs out; the object then stays detached.
+    /// owns the window from now on (see the destructor). FALSE for a NULL handle. Throws CMemoryException* if
+    /// memory runs out; the object then stays detached.
     BOOL Attach(HWND hWndNew);
     /// Detaches the object. The window continues to exist.
     HWND Detach();
@@ -136,8 +136,8 @@ public:
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
-    /// Centres the window over `pAlternateOwner`, else over its owner (a child: over its parent), and keeps
-    /// the window inside the work area of the monitor.
+    /// Centres the window over `pAlternateOwner`, else over its owner (a child: over its parent). The window
+    /// stays inside the work area of the monitor (a child: inside the client area of its parent).
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
     void BringWindowToTop();
     UINT ArrangeIconicWindows();
@@ -153,7 +153,8 @@ public:
     void ScreenToClient(LPRECT lpRect) const;
     void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
     void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
-    /// Converts a client rectangle to the window rectangle around it.
+    /// Converts a client rectangle to the window rectangle around it. With `nAdjustType` 0, the border of
+    /// WS_EX_CLIENTEDGE is left out.
     virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = 0);
 
     // ---- Painting ----
@@ -206,12 +207,14 @@ public:
     CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     int DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType);
-    /// Copies values between controls and members: TRUE copies controls to members and validates. FALSE if a
-    /// value was refused; the user has then seen a message, and the control has the focus.
+    /// Copies values between controls and members. `bSaveAndValidate` TRUE copies controls to members and
+    /// validates the values; FALSE copies members to controls. Returns FALSE if a value was refused; the user
+    /// has then seen a message, and the control has the focus.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
     /// Override the function with the DDX_ and DDV_ calls of the window.
     virtual void DoDataExchange(CDataExchange* pDX);
-    /// Asks `pTarget` to update the buttons among the children (see CCmdUI).
+    /// Asks `pTarget` to update the child windows (see CCmdUI::DoUpdate()). `bDisableIfNoHndler` applies to
+    /// push buttons only.
     void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
     /// Does nothing, because the library has no ActiveX controls.
     void AttachControlSite(CWnd* /*pWnd*/) {}
@@ -224,7 +227,7 @@ public:
     void SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw = TRUE);
     BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    /// The largest position that the user can reach: the end of the range minus the page.
+    /// The largest position that the user can reach: nMax - (nPage - 1), or nMax if nPage is 0.
     int GetScrollLimit(int nBar);
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
     void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
@@ -270,13 +273,15 @@ public:
     CWnd* SetParent(CWnd* pWndNewParent);
     /// The window from SetOwner(), else the parent.
     CWnd* GetOwner() const;
-    /// Sets the window that gets commands and notifications instead of the parent.
+    /// Sets the result of GetOwner(); NULL stands for the parent. The library does not use the owner.
     void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd ? pOwnerWnd->m_hWnd : nullptr; }
     /// The nearest frame window above this window; NULL if there is none.
     CFrameWnd* GetParentFrame() const;
-    /// The topmost frame window above this window; NULL if there is none.
+    /// The topmost frame window above this window, or this window if it is a frame without a frame above it.
+    /// NULL if there is none.
     CFrameWnd* GetTopLevelFrame() const;
-    /// The topmost window above this window. Owners count as parents.
+    /// The topmost window above this window. Owners count as parents. A window without a parent returns
+    /// itself.
     CWnd* GetTopLevelParent() const;
     CWnd* GetTopLevelOwner() const;
     /// The nearest window above that is not a child. A window that is not a child returns itself.
@@ -327,7 +332,7 @@ protected:
 
     explicit CWnd(HWND hWnd) : m_hWnd(hWnd) {}
 
-    // ---- Message processing, from the outside in ----
+    // ---- Message processing: the functions between the window procedure and a handler ----
 
     /// Receives every message of the window. The base calls OnWndMsg() and, for a message without a
     /// handler, DefWindowProc().
@@ -337,7 +342,7 @@ protected:
     /// Handles WM_COMMAND. The base offers the message to the control and then calls OnCmdMsg(). Nonzero if a
     /// handler ran.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
-    /// Handles WM_NOTIFY in the same way.
+    /// Handles WM_NOTIFY as OnCommand() handles WM_COMMAND.
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     /// Called when the parent hands a message of this control back. TRUE ends the handling in the parent.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
@@ -355,7 +360,8 @@ protected:
     /// the object here.
     virtual void PostNcDestroy() {}
 
-    // ---- Handlers. The base versions call Default() and ignore their arguments. ----
+    // ---- Handlers. The base versions call Default() and ignore their arguments. Base versions with named
+    // arguments first offer the message to the control or menu that it is about. ----
 
     afx_msg int OnCreate(LPCREATESTRUCT) { return static_cast<int>(Default()); }
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return Default() != 0; }
@@ -389,7 +395,7 @@ protected:
     afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return Default() != 0; }
     afx_msg void OnIconEraseBkgnd(CDC*) { Default(); }
-    /// Offers the message to the control, then calls Default().
+    /// Offers the message to the control. If the control returns no brush, calls Default().
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
@@ -486,7 +492,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/// The window procedure of all windows with an attached object.
+/// The window procedure of all windows that a CWnd created or subclassed.
 MFC_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 /// Runs one message through `pWnd`: sets the current message, and catches exceptions of the handler.
 MFC_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam = 0, LPARAM lParam = 0);

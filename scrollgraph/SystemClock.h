@@ -1,4 +1,4 @@
-// The system's time zone behind the platform-free LocalClock.
+// LocalClock for the system's time zone, and a cache of the zone's rules.
 #pragma once
 
 #include <afxwin.h>
@@ -6,7 +6,7 @@
 #include <map>
 #include <optional>
 
-#include "scrollgraph/core/TimeTicks.h"
+#include "scrollgraph/core/LocalClock.h"
 
 namespace kavlix {
 

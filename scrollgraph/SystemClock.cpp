@@ -1,15 +1,14 @@
 // Local time by the rules of the system's time zone.
-#include "scrollgraph/ScrollGraphCtrlClock.h"
+#include "scrollgraph/SystemClock.h"
 
 #include <cstring>
 #include <cwchar>
 
 namespace kavlix {
-
 namespace {
 
-constexpr std::int64_t kTicksPerSecond = 10000000; // of a FILETIME
-constexpr std::int64_t kSecondsTo1970 = 11644473600;
+constexpr std::int64_t kTicksPerSecond = 10000000;   // of a FILETIME
+constexpr std::int64_t kSecondsTo1970 = 11644473600; // from 1601-01-01, where FILETIME begins
 
 bool AreEqual(const SYSTEMTIME& a, const SYSTEMTIME& b) {
     return std::memcmp(&a, &b, sizeof a) == 0; // eight WORDs without padding
@@ -23,7 +22,8 @@ bool AreEqual(const DYNAMIC_TIME_ZONE_INFORMATION& a, const DYNAMIC_TIME_ZONE_IN
            std::wcscmp(a.TimeZoneKeyName, b.TimeZoneKeyName) == 0;
 }
 
-/// The UTC calendar time; none before 1601, and none beyond the range of a FILETIME.
+/// The UTC calendar time of `time`, in seconds since 1970-01-01 00:00 UTC; none before 1601, and none beyond
+/// the range of a FILETIME.
 std::optional<SYSTEMTIME> UtcOf(std::int64_t time) {
     constexpr std::int64_t last = INT64_MAX / kTicksPerSecond - kSecondsTo1970;
     if (time < -kSecondsTo1970 || time > last)
@@ -78,8 +78,8 @@ CalendarTime SystemClock::ToLocal(std::int64_t time) const {
     SYSTEMTIME local = {};
     if (!utc || !::SystemTimeToTzSpecificLocalTime(&m_rules.OfYear(utc->wYear), &*utc, &local))
         return result;
-    // Around New Year the local date can lie in another year than the UTC date, and that year can have other
-    // rules.
+    // Around New Year the local date can lie in another year than the UTC date, and the rules of that year
+    // can differ.
     if (local.wYear != utc->wYear)
         ::SystemTimeToTzSpecificLocalTime(&m_rules.OfYear(local.wYear), &*utc, &local);
     result = {local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
@@ -94,8 +94,8 @@ std::optional<std::int64_t> SystemClock::FromLocal(const CalendarTime& local) co
     wall.wHour = static_cast<WORD>(local.hour);
     wall.wMinute = static_cast<WORD>(local.minute);
     wall.wSecond = static_cast<WORD>(local.second);
-    // Some systems accept the 30th of February and make it a day in March, so the day is compared after
-    // conversion.
+    // Some systems accept the 30th of February and make it a day in March. So convert the date and compare
+    // the day.
     const std::optional<std::int64_t> asUtc = TimeOf(wall);
     const std::optional<SYSTEMTIME> back = asUtc ? UtcOf(*asUtc) : std::nullopt;
     SYSTEMTIME utc = {};

@@ -1,7 +1,9 @@
 // The series that the plain painter leaves out: pies and ribbons.
 #include "tests/graph/MultiGraphTest.h"
 
+#include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "plot/Numeric.h"
 
@@ -49,6 +51,27 @@ TEST_F(GraphSeriesTest, PiesShareTheCircle) {
     Make(2);
     Fill({{0, -5}});
     EXPECT_EQ(Record()->LinesFrom("polygon").size(), 1u) << "an empty outline";
+}
+
+TEST_F(GraphSeriesTest, EachRowOfPiesStandsInTheMiddle) {
+    Make(2);
+    Fill({{1}, {1}, {1}, {1}, {1}});
+    std::map<LONG, std::vector<LONG>> rows; // the left and right ends of the pies, by their top
+    const auto recorder = Record();
+    for (const auto& record : recorder->Records()) {
+        if (record.kind != testkit::kPolygon)
+            continue;
+        const auto byX = [](const POINT& a, const POINT& b) { return a.x < b.x; };
+        const auto byY = [](const POINT& a, const POINT& b) { return a.y < b.y; };
+        const auto [left, right] = std::minmax_element(record.points.begin(), record.points.end(), byX);
+        auto& row = rows[std::min_element(record.points.begin(), record.points.end(), byY)->y];
+        row.insert(row.end(), {left->x, right->x});
+    }
+    ASSERT_EQ(rows.size(), 2u);
+    const auto &upper = rows.begin()->second, &lower = rows.rbegin()->second;
+    EXPECT_EQ(upper.size() + lower.size(), 10u);
+    EXPECT_NE(upper.size(), lower.size());
+    EXPECT_NEAR(upper.front() + upper.back(), lower.front() + lower.back(), 2);
 }
 
 TEST_F(GraphSeriesTest, RibbonsStandBehindEachOther) {

@@ -1,7 +1,10 @@
 // Texts, messages, destinations and failures of painting. RandomTest compares the pixels of the sectors.
 #include "tests/piechart/PieTest.h"
 
+#include <cmath>
 #include <set>
+
+#include "plot/Numeric.h"
 
 class PiePaintTest : public PieTest {
 protected:
@@ -48,13 +51,22 @@ TEST_F(PiePaintTest, TextsAndTheirColours) {
 TEST_F(PiePaintTest, ASelectionShowsBesidePiecesOfItsColour) {
     Add({30, 30, 40});
     pie.At(1).m_bSelected = TRUE;
-    const auto light = [&] { return Paint()->Count(RGB(255, 255, 255), pie.m_rcPie); };
-    const int plain = light();
+    const auto plain = Paint();
     for (const auto& [colour, isTold] : {std::pair(RGB(255, 0, 0), true), std::pair(RGB(230, 40, 30), true),
                                          std::pair(RGB(200, 90, 90), false)}) {
         pie.At(0).m_crColor = colour;
-        EXPECT_EQ(light() > plain + 150, isTold);
-        EXPECT_EQ(Paint()->At(At(160, 0.3).x, At(160, 0.3).y), pie.m_crSelected);
+        const auto told = Paint();
+        int light = 0;
+        for (int y = pie.m_rcPie.top; y < pie.m_rcPie.bottom; ++y)
+            for (int x = pie.m_rcPie.left; x < pie.m_rcPie.right; ++x)
+                if (told->At(x, y) == RGB(255, 255, 255) && plain->At(x, y) != told->At(x, y)) {
+                    ++light;
+                    const CPoint away = CPoint(x, y) - At(0, 0);
+                    const double angle = std::atan2(away.x, -away.y) * 180 / kavlix::kPi;
+                    EXPECT_TRUE(angle > 108 || angle < -144) << "outside the selected sector: " << angle;
+                }
+        EXPECT_EQ(light > 150, isTold);
+        EXPECT_EQ(told->At(At(160, 0.3).x, At(160, 0.3).y), pie.m_crSelected);
     }
 }
 

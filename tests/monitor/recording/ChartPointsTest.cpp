@@ -28,7 +28,7 @@ std::string TextOf(const std::vector<ChartPoint>& points) {
 TEST(ChartPoints, OfOneFileMakesARowAPointAndAMissingValueAGap) {
     Recording recording;
     for (int row = 0; row < 5; ++row)
-        recording.times.push_back(row * kMinute);
+        recording.times.push_back((row + 100) * kMinute);
     recording.series = {{"a", 0, {1, 2, kGap, 4, 5}}, {"b", 0, {10, kGap, 30, 40, 50}}};
     recording.files.resize(1);
     const struct {

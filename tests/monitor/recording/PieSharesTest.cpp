@@ -56,6 +56,8 @@ TEST(PieShares, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval)
     EXPECT_EQ(LastFullRow(recording), 5u);
     recording.times = {0, 20, 60, 80, 300, 400};
     EXPECT_EQ(LastFullRow(recording), 3u) << "the last with both";
+    recording.times = {0, 100, 200, 300, 400, 500};
+    EXPECT_EQ(LastFullRow(recording), 5u) << "no row has both";
 }
 
 TEST(MemoryParts, MakeUpTheWholeWhateverIsTold) {

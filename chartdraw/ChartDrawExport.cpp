@@ -1,5 +1,6 @@
 // CChartDraw: copies the picture to the clipboard and saves it to files.
 #include <kavlix/ChartDraw.h>
+#include <kavlix/PictureFile.h>
 
 #include <afxdlgs.h>
 
@@ -11,15 +12,14 @@
 #include "gdi/Guards.h"
 #include "gdi/OutOfMemory.h"
 #include "gdi/PictureClipboard.h"
-#include "gdi/PictureFile.h"
 #include "plot/RoundScale.h"
 
 using namespace kavlix;
 
 namespace {
 
-/// Makes a palette of the colours that the system shows now. The palette holds 255 colours instead of 256,
-/// which hosts rely on.
+/// Makes a palette of the colours that the system shows now. The palette holds at most 255 colours, not 256:
+/// hosts rely on that.
 void MakeSystemPalette(CDC& dc, CPalette& palette) {
     constexpr WORD kVersion = 0x300;
     constexpr UINT kEntriesAskedFor = 255;
@@ -89,7 +89,7 @@ bool CChartDraw::WriteBitmapFile(const CString& name) {
     CFile file;
     if (block.Get() == nullptr || !file.Open(name, CFile::modeCreate | CFile::modeWrite))
         return false;
-    SaveDIB(block.Get(), file); // the result is true even if an override writes nothing: hosts rely on that
+    SaveDIB(block.Get(), file); // the result is true even if SaveDIB writes nothing: hosts rely on that
     return true;
 }
 

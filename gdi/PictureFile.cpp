@@ -1,5 +1,5 @@
 // Encodes pictures by GDI+ or as metafiles, and writes them to a file.
-#include "gdi/PictureFile.h"
+#include <kavlix/PictureFile.h>
 
 #include <algorithm>
 #include <cwchar>

@@ -1,8 +1,8 @@
 // CGraphCtrl: the picture on the clipboard and in files.
 #include <kavlix/GraphCtrl.h>
+#include <kavlix/PictureFile.h>
 
 #include "gdi/PictureClipboard.h"
-#include "gdi/PictureFile.h"
 
 using namespace kavlix;
 

@@ -12,6 +12,7 @@
 #include "monitor/ChartSeriesDlg.h"
 #include "monitor/Notifications.h"
 #include "monitor/PictureCopy.h"
+#include "monitor/WindowPicture.h"
 #include "monitor/recording/NumberText.h"
 #include "monitor/recording/SampleText.h"
 #include "monitor/resource.h"
@@ -23,8 +24,6 @@ using recording::ChartX;
 namespace {
 
 constexpr std::size_t kPointsWithLines = 500; // with more points, the lines between them hide the picture
-constexpr const char* kChartFilter =
-    "PNG pictures (*.png)|*.png|Bitmaps (*.bmp)|*.bmp|Enhanced metafiles (*.emf)|*.emf||";
 
 } // namespace
 
@@ -175,7 +174,8 @@ void CChartPage::OnEditCopy() {
 }
 
 void CChartPage::OnSaveAs() {
-    CFileDialog dialog(FALSE, "png", "chart.png", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kChartFilter, this);
+    CFileDialog dialog(FALSE, "png", "chart.png", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kPictureFilter,
+                       this);
     if (dialog.DoModal() != IDOK)
         return;
     const CString path = dialog.GetPathName();

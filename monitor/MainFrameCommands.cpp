@@ -18,7 +18,6 @@ namespace {
 constexpr DWORD kFileNameRoom = 32768; // characters of the buffer for the names of all chosen files
 
 constexpr const char* kRecordingFilter = "Recordings (*.csv)|*.csv|All files (*.*)|*.*||";
-constexpr const char* kPictureFilter = "Pictures (*.png)|*.png||";
 
 } // namespace
 

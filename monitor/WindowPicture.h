@@ -7,6 +7,10 @@
 
 namespace kavlix::monitor {
 
+/// The file types of pictures, for the dialog that asks for a file name.
+constexpr char kPictureFilter[] =
+    "PNG pictures (*.png)|*.png|Bitmaps (*.bmp)|*.bmp|Enhanced metafiles (*.emf)|*.emf||";
+
 /// The area of the picture: menu bar and client area of the frame, in screen coordinates.
 CRect PictureArea(const CWnd& frame);
 
@@ -14,9 +18,9 @@ CRect PictureArea(const CWnd& frame);
 /// the frame allows that in WM_GETMINMAXINFO.
 void SizePictureArea(CWnd& frame, CSize size);
 
-/// Saves the PictureArea of a visible window as a PNG file, copied from the screen. When the window exceeds
-/// the screen, it is moved to copy one part after another, and moved back. `path` is in the process code
-/// page. Returns an empty text, or a description of the failure.
+/// Saves the PictureArea of a visible window, copied from the screen, as a .png, .bmp or .emf file. When the
+/// window exceeds the screen, it is moved to copy one part after another, and moved back. `path` is in the
+/// process code page. Returns an empty text, or a description of the failure.
 std::string SavePicture(CWnd& frame, const std::string& path);
 
 } // namespace kavlix::monitor

@@ -1,4 +1,5 @@
 // CPieChartCtrl: paints sectors, outline and messages, on the screen and into picture files.
+#include <kavlix/PictureFile.h>
 #include <kavlix/PieChartCtrl.h>
 
 #include <algorithm>
@@ -7,7 +8,6 @@
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
 #include "gdi/Offscreen.h"
-#include "gdi/PictureFile.h"
 #include "gdi/ShapeConversion.h"
 #include "gdi/Text.h"
 #include "piechart/core/PieColors.h"
@@ -21,18 +21,20 @@ constexpr char kNoData[] = "No Data";
 
 // Lengths are pixels.
 constexpr int kOutlineWidth = 1;
-constexpr int kSelectionWidth = 2;      // of the line that marks a selected sector
-constexpr double kSelectionInset = 4.0; // from the line that marks a selected sector to the sector's boundary
+constexpr int kSelectionWidth = 2;      // pixels; width of the line that marks a selected sector
+constexpr double kSelectionInset = 4.0; // pixels from the line in a selected sector to the sector's boundary
 // A sector is a polygon, clipped to the circle: the centre, and outer corners this many radii from the
 // centre. At this distance rounding the outer corners to whole pixels does not visibly turn a boundary.
 constexpr double kCornerDistance = 8.0;
 // Degrees between two outer corners, small enough that the edges between them stay outside the circle.
 constexpr double kWidestCorner = 90.0;
-// Least distance between two boundary lines, along the circle. Closer lines are left out.
+// In pixels along the circle. A boundary line is left out if both its sectors are narrower, or if it is
+// closer to the line before it or to the full circle's end. The lines at the beginning of the first sector
+// and at the end of the last sector are always drawn.
 constexpr double kLeastLineDistance = 3.0;
 // The boundary lines of many thin sectors would blacken the centre. So a line begins at the distance from the
-// centre where the wider of its two sectors is kLeastWidthBetweenLines wide. If that distance is not longer
-// than kShortestGapInLine, the line begins at the centre.
+// centre where the wider of its two sectors is kLeastWidthBetweenLines pixels wide. If that distance is not
+// longer than kShortestGapInLine pixels, the line begins at the centre.
 constexpr double kLeastWidthBetweenLines = 2.0;
 constexpr double kShortestGapInLine = 4.0;
 constexpr int kMessagePaddingX = 10;

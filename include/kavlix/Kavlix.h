@@ -8,5 +8,6 @@
 #include <kavlix/GraphCtrl.h>
 #include <kavlix/GraphNotify.h>
 #include <kavlix/GraphSeries.h>
+#include <kavlix/PictureFile.h>
 #include <kavlix/PieChartCtrl.h>
 #include <kavlix/ScrollGraphCtrl.h>

@@ -20,7 +20,7 @@ constexpr std::string_view kUsage =
     "seconds since 1970), each further column a series. Several files join on time; up to\n"
     "13 series are shown. Without a file the readings are live, once a second.\n"
     "\n"
-    "  --shot OUT.png    paint, save the window's picture and end\n"
+    "  --shot PICTURE    paint, save the window's picture (.png, .bmp or .emf) and end\n"
     "  --seconds N       end after N seconds\n"
     "  --size WxH        size of the window's inside in pixels, such as 800x500\n"
     "  --style STYLE     line, bar or twoaxis\n";

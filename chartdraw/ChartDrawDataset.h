@@ -9,7 +9,7 @@
 struct CChartDraw::Dataset {
     kavlix::ChartSeries points;
     COLORREF color = RGB(0, 0, 0);
-    int lineSize = 1; ///< pixels
+    int lineSize = 1; ///< width of the line, pixels; 0 and 1 both draw one pixel
     CDataset::MarkerType markerType = CDataset::MarkerNone;
     bool showLine = true;
     bool visible = true;

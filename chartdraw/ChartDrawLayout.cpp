@@ -13,11 +13,11 @@ using namespace kavlix;
 
 namespace {
 
-// Distances in text heights.
-constexpr double kCaptionGap = 0.3; // between a caption and the scale beside it
-constexpr double kYLabelRoom = 2.5; // least distance from the top of a Y label to the top of the next
-constexpr double kXLabelGap = 1.2;  // least distance between two X labels
-constexpr double kSmallestPlot = 4; // least plot size; a smaller plot lets captions, title, scales give way
+constexpr double kCaptionGap = 0.3; // text heights between a caption and the scale beside it
+constexpr double kYLabelRoom = 2.5; // text heights from a Y label's top to the next one's, if possible
+constexpr double kXLabelGap = 1.2;  // text heights between two X labels, if possible
+// Text heights: if the plot is narrower or lower, captions, title and scales are left out, in this order.
+constexpr double kSmallestPlot = 4;
 
 constexpr int kTenthsOfPointPerInch = 720;
 constexpr int kMostTicks = 100;

@@ -20,7 +20,7 @@ using namespace kavlix;
 
 namespace {
 
-constexpr int kMarkerHalf = 3; // pixels from a marker's centre to its edge
+constexpr int kMarkerHalf = 3; // pixels from a marker's centre to its edges; 2 to a triangle's bottom edge
 constexpr int kPixelSize = 1;  // logical units in a pixel
 
 /// Paints a line whose points are in logical units of one pixel. `origin` is the device point of
@@ -111,7 +111,8 @@ void CChartDraw::DrawLine(CDC& dc, const Dataset& dataset) const {
         ReducedPath path(ToRect(view), [&](const Point* points, int count) { DrawThin(dc, points, count); });
         walk(path);
     }
-    // A point without neighbours has no stroke. If it has no marker either, a dot shows it.
+    // A line that falls on a single pixel, such as a point between two gaps, has no stroke. If it has no
+    // marker either, a dot shows it.
     if (dataset.markerType == CDataset::MarkerNone)
         DrawStamps(dc, lonePixels, dataset.color, DotOf(dataset.lineSize));
 }

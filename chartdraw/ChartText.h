@@ -11,9 +11,9 @@ namespace kavlix {
 
 constexpr int kTickLength = 5;       ///< pixels
 constexpr int kTickLabelGap = 3;     ///< pixels between a tick and its label
-constexpr double kChartMargin = 0.6; ///< between the chart's edge and its content, in text heights
+constexpr double kChartMargin = 0.6; ///< text heights between the chart's edge and its content
 
-/// Width of a text in the font that is selected into `dc`.
+/// Width in pixels of a text in the font that is selected into `dc`.
 inline int TextWidth(CDC& dc, const std::string& text) {
     return static_cast<int>(MeasureText(dc, text.c_str(), static_cast<int>(text.size())).cx);
 }

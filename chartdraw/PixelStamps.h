@@ -17,8 +17,8 @@ struct StampShape {
     std::function<void(CDC&, int x, int y)> draw;
 };
 
-/// Draws the shape at each of the places. If the pixels of `dc` lie in memory, GDI draws the shape only once,
-/// into a scratch picture; the pixels found there are then painted at all places in one pass.
+/// Draws the shape at each of the places. If the pixels of `dc` can be painted directly, GDI draws the shape
+/// only once, into a scratch picture; the pixels found there are then painted at all places in one pass.
 void DrawStamps(CDC& dc, const PixelSet& places, COLORREF colour, const StampShape& shape);
 
 } // namespace kavlix

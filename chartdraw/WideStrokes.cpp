@@ -42,8 +42,8 @@ WideStrokes::WideStrokes(CDC& dc, int width, const Rect& view, const std::option
 
 WideStrokes::~WideStrokes() = default;
 
-/// All charts of a thread share the cache. It never shrinks: a line has at most 100 different widths, and a
-/// shape takes some hundred bytes.
+/// All charts of a thread share the cache. It never shrinks: there are at most 100 line widths, and a shape
+/// takes some hundred bytes.
 WideStrokes::Shapes& WideStrokes::ShapesOf(int width) {
     thread_local std::map<int, std::unique_ptr<Shapes>> all;
     std::unique_ptr<Shapes>& shapes = all[width];

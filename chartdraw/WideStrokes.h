@@ -22,9 +22,10 @@ class Scratch;
 /// strokes of the same direction and length are painted from the cache.
 class WideStrokes {
 public:
-    /// A solid pen of `width` pixels and of the colour `colour` must be selected into `dc`. Pixels outside
-    /// `view` are never visible. If the pixels of `dc` lie in memory, `raster` gives access to them; logical
-    /// units are then pixels, and `origin` is the device point of the logical origin.
+    /// A solid pen of `width` pixels must be selected into `dc`. Pixels outside `view` are never visible.
+    /// `raster` gives access to the pixels of `dc`; without it GDI draws all strokes, and `colour` and
+    /// `origin` are not used. `colour` is the pen's colour as a pixel stores it, `origin` the device point of
+    /// the logical origin. With a raster, logical units must be pixels.
     WideStrokes(CDC& dc, int width, const Rect& view, const std::optional<PixelRaster>& raster,
                 std::uint32_t colour, const POINT& origin);
     ~WideStrokes();

@@ -1,4 +1,4 @@
-// DIB sections whose pixels can be reached, and the ownership of new GDI objects.
+// DIB sections (bitmaps whose pixels lie in the process's memory), and the ownership of new GDI objects.
 #pragma once
 
 #include <afxwin.h>

@@ -37,7 +37,8 @@ std::optional<Pixels> PixelsOf(HBITMAP bitmap) {
 /// the top or the bottom row comes first in memory. So this function changes a pixel in memory, reads it
 /// through GDI, and restores it.
 std::uint32_t* FindOrigin(HDC dc, const Pixels& pixels, const Rect& clip) {
-    // In the middle row of an odd number of rows a pixel has the same place in both orders of rows.
+    // With an odd number of rows, the middle row has the same place in memory in both orders of rows. So use
+    // another row if the clip has one.
     const bool isMiddle = 2 * clip.top + 1 == pixels.bounds.Height();
     const POINT probe = {clip.left, isMiddle && clip.top + 1 < clip.bottom ? clip.top + 1 : clip.top};
     POINT logical = probe;
@@ -55,7 +56,7 @@ std::uint32_t* FindOrigin(HDC dc, const Pixels& pixels, const Rect& clip) {
 }
 
 /// Limits `clip`, in device pixels, to the DC's clip region. False when this region is not a rectangle or
-/// cannot be read, and when the DC has a meta region too.
+/// cannot be read, and when the DC has a meta region.
 bool IntersectWithClip(HDC dc, Rect& clip) {
     CRgn region;
     if (!region.CreateRectRgn(0, 0, 0, 0) || ::GetMetaRgn(dc, region) == 1)

@@ -13,19 +13,20 @@ namespace kavlix {
 /// How a DC treats strokes.
 enum class StrokeKind {
     Pixels,   ///< the DC paints pixels immediately: strokes that change no pixel may be left out
-    Recorded, ///< a metafile or printer stores the strokes, in units finer than a pixel
+    Recorded, ///< metafile, printer or separate attribute DC: may store strokes in units finer than a pixel
     Mixed     ///< raster operation other than R2_COPYPEN, or advanced graphics mode: draw every stroke
 };
 StrokeKind KindOfStrokes(const CDC& dc);
 
-/// Whether `dc` paints pixels immediately: a screen or memory DC that is not in the advanced graphics mode,
-/// in which a world transform may be set. Any mapping mode and raster operation may be set.
+/// Whether `dc` paints pixels immediately: a screen or memory DC without a separate attribute DC, and not in
+/// the advanced graphics mode, in which a world transform may be set. Mapping mode and raster operation do
+/// not matter.
 bool PaintsPixels(const CDC& dc);
 
 /// The pixels that `dc` paints into, limited to its clip region. Empty when the caller must paint through
-/// GDI: when the pixels are not in memory or do not have 32 bits, when the clip region is not a rectangle,
-/// when the DC is mirrored or its kind is not StrokeKind::Pixels, and on systems where GDI paints other
-/// pixels than PixelRaster.
+/// GDI, for example when the pixels are not in memory or do not have 32 bits, when the clip region is not a
+/// rectangle, when the DC is mirrored or its kind is not StrokeKind::Pixels, and on systems where GDI paints
+/// other pixels than PixelRaster.
 std::optional<PixelRaster> DirectRaster(const CDC& dc);
 
 /// `colour` as a 32-bit pixel stores it. Empty for palette colours, which are not plain red, green and blue.

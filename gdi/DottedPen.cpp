@@ -19,7 +19,8 @@ struct TrialLine {
     CPoint step;
     int length;
 };
-// Lines in all four directions. Some begin outside the picture. The first line lies inside it completely.
+// Lines in all four directions. Some begin outside the picture. The first line lies inside it completely:
+// LearnDots finds the period from this line.
 const TrialLine kTrials[] = {
     {{3, 7}, {1, 0}, 60},    {{60, 10}, {-1, 0}, 57}, {{-7, 13}, {1, 0}, 90},  {{80, 15}, {-1, 0}, 90},
     {{10, 60}, {0, -1}, 57}, {{13, 2}, {0, 1}, 60},   {{19, 90}, {0, -1}, 95}, {{23, -8}, {0, 1}, 95},
@@ -37,7 +38,8 @@ std::vector<bool> PeriodOf(std::vector<bool> dots) {
 }
 
 /// One period of GDI's dotted pen, from the first pixel of a line on; true for painted pixels. Empty when GDI
-/// cannot draw the trial lines, or when these do not all show the same period.
+/// cannot draw the trial lines, when the period is longer than kLongestPeriod pixels, or when the trial lines
+/// do not all show the same dots.
 std::vector<bool> LearnDots() {
     Scratch scratch(kSide);
     CPen pen;

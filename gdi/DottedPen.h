@@ -10,9 +10,10 @@
 
 namespace kavlix {
 
-/// The pen of grid lines: dotted, one pixel wide, transparent between the dots. GDI draws dotted
-/// lines slowly: with GDI the grid takes a third of the time of painting an empty graph. So vertical and
-/// horizontal lines are painted directly into the pixels where that is possible, with the same dots.
+/// The pen of grid lines: dotted, one pixel wide. The pixels between the dots stay unchanged if the DC's
+/// background mode is TRANSPARENT. GDI draws dotted lines slowly: with GDI the grid takes a third of the time
+/// of painting an empty graph. So vertical and horizontal lines are painted directly into the pixels where
+/// that is possible, with the same dots.
 class DottedPen {
 public:
     /// A pen for lines on `dc`. The DC must outlive this object and keep its clip region and mapping.

@@ -3,9 +3,9 @@
 
 #include <afxwin.h>
 
-/// Each guard makes one change to a DC and undoes this change at the end of the scope, also after an
-/// exception. Declare a guard after the objects that it selects: then no object is deleted while it is
-/// selected.
+/// Each guard restores a part of a DC's state at the end of the scope, also after an exception; only
+/// StockAfterGuard selects a stock object instead. Declare a guard after the objects that are selected: then
+/// no object is deleted while it is selected.
 namespace kavlix {
 
 /// Selects an object into `dc`; does nothing for a null object. A CDC can hold two DCs: for print previews
@@ -25,7 +25,7 @@ inline void Select(CDC& dc, const CGdiObject& object) {
 }
 
 /// Selects an object, and at the end of the scope the previous object again. A null object changes nothing:
-/// when GDI cannot make a pen or font, painting continues with the selected one.
+/// when GDI cannot make a pen or font, painting continues with the previous one.
 class SelectGuard {
 public:
     SelectGuard(CDC& dc, HGDIOBJ object)

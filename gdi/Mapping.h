@@ -85,7 +85,8 @@ inline int NextColumn(const CDC& dc, int x) {
     return x + next;
 }
 
-/// The bounding box of the selected clip region, in logical units; a very large box without a clip region.
+/// The bounding box of the selected clip region, in logical units; a very large box when there is none or GDI
+/// cannot return it.
 inline CRect ClipBounds(const CDC& dc) {
     constexpr int kFar = 1 << 29;
     CRgn region;

@@ -13,9 +13,10 @@ inline bool HasShape(CDataset::MarkerType type) {
 }
 
 /// Draws a marker around the point `x`, `y` with the selected pen. The marker extends `half` logical units to
-/// every side; a triangle extends only two thirds of `half` below the point. GDI does not draw the last pixel
-/// of a box or stroke at the right and bottom: pass the size of a pixel as `beyond` to draw it, 0 otherwise.
-/// The caller has selected NULL_BRUSH. False, and nothing drawn, when `type` has no shape.
+/// every side; a triangle extends only two thirds of `half` below the point. At the right and bottom GDI
+/// leaves out the last pixel of squares, circles and crosses. If this pixel must be drawn too, `beyond` is
+/// the size of a pixel in logical units, otherwise 0. The caller has selected NULL_BRUSH. False, and nothing
+/// drawn, when `type` has no shape.
 bool DrawMarker(CDC& dc, CDataset::MarkerType type, int x, int y, int half, int beyond);
 
 } // namespace kavlix

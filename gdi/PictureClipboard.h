@@ -25,7 +25,7 @@ public:
     /// Calls `draw` with the metafile's DC, once. False when GDI cannot make the metafile. Exceptions
     /// that `draw` throws pass on to the caller.
     bool Draw(const std::function<void(CDC&)>& draw);
-    /// The finished metafile, which this object owns; null before Draw.
+    /// The finished metafile, which this object owns; null before Draw and after Release.
     HENHMETAFILE Get() const { return m_picture; }
     /// The finished metafile, which the caller owns from now on.
     HENHMETAFILE Release();

@@ -15,8 +15,8 @@ namespace kavlix {
 BOOL MakeFont(CFont& font, int height, int escapement, int weight);
 
 /// Number of bytes of the first `characters` characters of `text`, which has `length` bytes; `length` when
-/// the text has fewer characters. A character takes several bytes in double-byte code pages and in UTF-8. A
-/// combining mark belongs to the character before it. An invalid byte counts as one character.
+/// the text has fewer characters. A character can take several bytes in double-byte code pages and in UTF-8.
+/// A combining mark belongs to the character before it. An invalid byte counts as one character.
 int BytesOfCharacters(const char* text, int length, int characters);
 /// The largest number of bytes, at most `bytes`, at which `text` can be cut without cutting a character.
 int WholeCharacters(const char* text, int length, int bytes);
@@ -43,27 +43,29 @@ inline CSize MeasureText(const CDC& dc, const CString& text) {
 /// Height of a line of text in the DC's font, in logical units, at least 1.
 int TextHeight(const CDC& dc);
 
-/// The most bytes of the beginning of `text`, at most `bytes`, that end between two characters and for which
-/// `fits` is true. `fits` must be true up to some number of bytes and false beyond. 0 when not even one
-/// character fits.
+/// The largest number of bytes, at most `bytes`, at which `text` can be cut without cutting a character and
+/// for which `fits` is true. `fits` must be true up to some number of bytes and false beyond. 0 when not even
+/// one character fits.
 int FittingBytes(const CString& text, int bytes, const std::function<bool(int bytes)>& fits);
 
 /// `text` shortened to `room` logical units in the DC's font: the whole text if it fits, otherwise its
-/// beginning and dots. Empty when not even one character and the dots fit. No character is cut.
+/// beginning and three dots. Empty when not even one character and the dots fit. No character is cut.
 CString Shortened(const CDC& dc, const CString& text, double room);
 
 /// A box that contains every text of `length` bytes drawn at (0, 0) with the DC's font and text alignment, in
 /// logical units. Faster than measuring a text, and larger than necessary.
 CRect TextBox(const CDC& dc, int length);
 
-/// Width and height of `text` when DrawTextIn draws it into `width` logical units with the same flags. The
-/// result is wider than `width` when a single word is wider.
+/// Width and height of `text` when DrawTextIn draws it into `width` logical units with the same flags. With
+/// DT_WORDBREAK the result is wider than `width` only when a single word is wider.
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format);
 
 /// The break of a text into two lines.
 struct TextBreak {
-    int width = 0; ///< of the wider line, logical units; 0 when the text has no blank to break at
-    int at = 0;    ///< index of the blank at the break, which belongs to neither line
+    /// Width of the wider line, logical units; 0 when there is no blank between the first and the last
+    /// character of the text.
+    int width = 0;
+    int at = 0; ///< index of the blank at the break, which belongs to neither line
 };
 
 /// The break that makes the wider line as narrow as possible.

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double kTickLength = 4; // pixels
 constexpr double kGridGap = 10;   // pixels; where ticks are closer, only ticks with a number have grid lines
-constexpr double kBesidePlot = 8; // pixels that a number may reach beyond the plot, towards the legend
+constexpr double kBesidePlot = 8; // pixels by which a number may exceed the plot's right edge before a legend
 
 constexpr COLORREF kFrame = RGB(176, 176, 176);
 constexpr COLORREF kBackWall = RGB(248, 248, 248);
@@ -65,7 +65,7 @@ void CGraph::Draw3DFrame() {
         Face{{{f.left, f.bottom}, back(f.left, f.bottom), back(f.right, f.bottom), {f.right, f.bottom}}});
 }
 
-/// Grid lines, ticks and numbers of a scale along the plot's left side or along its bottom.
+/// Draws grid lines, ticks and numbers of a scale along the plot's left side or along its bottom.
 void CGraph::DrawScale(const PlotScale& scale, const ScaleTicks& ticks, bool left) {
     GraphPass& p = *pass;
     const PlaneRect& f = p.front;

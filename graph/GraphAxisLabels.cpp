@@ -15,11 +15,11 @@ using namespace kavlix;
 
 namespace {
 
-constexpr int kRows = 2; // labels at 0 or 180 degrees may alternate between two rows
-// Labels that do not fit are cut if the widest label keeps at least this part of its width. Otherwise some
-// labels are left out.
+constexpr int kRows = 2; // most rows below the plot; labels at 0 or 180 degrees may alternate between rows
+// Labels at 0 or 180 degrees that do not fit below the plot are cut if the widest label keeps at least this
+// part of its width. Otherwise some labels are left out.
 constexpr double kWorthShortening = 0.6;
-constexpr int kFewCharacters = 4; // labels stand inside the plot if fewer characters fit to its left
+constexpr int kFewCharacters = 4; // labels stand inside the plot if fewer average characters fit to its left
 
 /// The labels of all series, cut to the width that each may have.
 struct FittedLabels {
@@ -61,7 +61,8 @@ void CGraph::DrawLabelsBelow(const SeriesSlots& slots) {
     {
         const GraphFont font(canvas, xTickFontSize); // not turned, for measuring
         rowHeight = canvas.Character().height;
-        // A turned label extends from its tick to one side, up to the Y caption or the picture's right edge.
+        // A turned label extends from its tick to one side, at most to the Y caption or the picture's right
+        // edge.
         const bool toTheLeft = (angle < kHalfTurn) == (std::cos(Radians(angle)) > 0);
         const auto room = [&](int slot) {
             const double x = slots.Middle(slot);
@@ -107,8 +108,8 @@ void CGraph::DrawLabelsLeft(const SeriesSlots& slots) {
     int angle = NormalAngle(GetXAxisAlignment());
     const GraphFont level(canvas, xTickFontSize);
     const LabelSize character = canvas.Character();
-    // Labels without room to the left of the plot stand inside the plot: above the bars if the slot is high
-    // enough, otherwise on them.
+    // Labels without room to the left of the plot stand inside the plot: directly above the edge where the
+    // slot's first bar begins if the slot is high enough, otherwise in the middle of the slot.
     const bool inside = p.leftRoom < character.width * kFewCharacters;
     if (inside)
         angle = 0;
@@ -118,8 +119,8 @@ void CGraph::DrawLabelsLeft(const SeriesSlots& slots) {
         p, slots.count, [&](int) { return LongestText(character.height, angle, across, p.plot.Height()); });
     const LabelSpread spread = SpreadLeft(labels.largest, angle, distance, pixel);
     const GraphFont turned(canvas, xTickFontSize, angle);
-    // When some turned labels are left out, the others begin and end half a stride from the plot's ends, or
-    // stand in its middle if the stride is longer than the plot. So no label reaches beyond the plot.
+    // When some turned labels are left out, the others keep at least half a stride from the plot's ends, so
+    // that they do not reach beyond the plot. If no slot is so far from both ends, a middle slot has a label.
     const std::int64_t first = angle != 0 ? std::min<std::int64_t>(spread.every, slots.count - 1) / 2 : 0;
     for (std::int64_t i = first; i + first < slots.count; i += spread.every) {
         const int slot = static_cast<int>(i);
@@ -177,7 +178,7 @@ void CGraph::DrawCaptions() {
 void CGraph::DrawOverlayLabels() {
     GraphCanvas& canvas = pass->canvas;
     for (const OverlayLabel& label : pass->overlayLabels) {
-        // The canvas draws texts with a transparent background, so a box is the white background.
+        // The canvas draws texts with a transparent background, so a white box is drawn first.
         {
             const GraphFont level(canvas, label.fontSize, 0, label.weight);
             canvas.Box(BoxOf(canvas.Measure(label.text), label.angle, label.place), kPaper, kPaper);

@@ -9,7 +9,7 @@ namespace kavlix {
 namespace {
 
 constexpr double kStackWidth = 0.6; // as a fraction of a slot
-constexpr double kOutlined = 4;     // pixels; the outline would hide a thinner bar
+constexpr double kOutlined = 4;     // pixels; thinner bars have no outline: it would hide the fill
 
 /// Draws a bar from the value `foot` to the value `tip`. The row or column of pixels at the tip belongs to
 /// the bar, the one at the foot does not. So the base line stays visible, and stacked bars do not overlap. A

@@ -11,7 +11,7 @@ namespace kavlix {
 namespace {
 
 constexpr double kBoxWidth = 0.5;    // as a fraction of a slot
-constexpr double kCapWidth = 0.25;   // of the stroke at a whisker's end, as a fraction of a slot
+constexpr double kCapWidth = 0.25;   // length of the stroke at a whisker's end, as a fraction of a slot
 constexpr double kMedianWidth = 2;   // pixels
 constexpr double kOutlierRadius = 3; // pixels
 constexpr double kBoxLight = 1.55;   // for Shade: the box is paler than its median, so that the median shows

@@ -66,8 +66,8 @@ public:
     template <class Points> void Polygon(const Points& points) { Polygon(points.data(), points.size()); }
     /// The right and bottom edges are not part of the rectangle.
     void Rectangle(const PlaneRect& area);
-    /// Draws a rectangle filled with `fill`, with a border one pixel wide in `outline`. Afterwards another
-    /// pen or brush may be selected.
+    /// Draws a rectangle filled with `fill`, with a border one pixel wide in `outline`. May select another
+    /// pen and brush.
     void Box(const PlaneRect& area, COLORREF fill, COLORREF outline);
     void Circle(PlanePoint centre, double radius);
 
@@ -78,8 +78,8 @@ public:
     void Text(PlanePoint place, const CString& text);
     /// The size of a text in the selected font, before the text is turned.
     LabelSize Measure(const CString& text) const;
-    /// `text`, or its beginning and three dots when `text` is wider than `room` logical units. Empty when one
-    /// character and the dots are wider than `room`.
+    /// `text` if it is at most `room` logical units wide, otherwise its beginning and three dots. Empty when
+    /// not even one character and the dots fit.
     CString Shorten(const CString& text, double room) const;
     /// The average width and the height of a character in the selected font.
     LabelSize Character() const;
@@ -100,8 +100,8 @@ private:
     SavedDcGuard m_saved;
     CDC& m_dc;
     GraphFrame m_frame;
-    PlaneRect m_visible; ///< with m_pixels the part of the picture inside the clip box; else all of it
-    bool m_pixels;       ///< the DC paints pixels at once, one for each logical unit; see StrokeKind::Pixels
+    PlaneRect m_visible; ///< if m_pixels, the picture's part in the DC's clip box; otherwise all of it
+    bool m_pixels;       ///< the DC paints pixels immediately (StrokeKind::Pixels); 1 logical unit is 1 pixel
     HGDIOBJ m_hostPen;
     HGDIOBJ m_hostBrush;
     COLORREF m_hostInk;

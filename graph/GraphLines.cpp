@@ -11,8 +11,10 @@
 namespace kavlix {
 namespace {
 
-constexpr double kLineWidth = 2;   // pixels
-constexpr double kMarkerRoom = 10; // least distance between two markers of a line, pixels
+constexpr double kLineWidth = 2; // pixels
+// Least distance between two markers of a line along the axis, pixels. A value without neighbours has a
+// marker in any case.
+constexpr double kMarkerRoom = 10;
 
 /// The values of one group in order of the series. Each `key` is the index of a series.
 using GroupLine = std::vector<KeyedValue>;

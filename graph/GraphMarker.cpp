@@ -10,7 +10,7 @@ namespace kavlix {
 void DrawMarker(GraphCanvas& canvas, PlanePoint centre, int index, COLORREF colour) {
     constexpr int kShapes = 6;
     constexpr double kRadius = 4; // pixels
-    constexpr double kArm = 1.5;  // pixels; half the width of the cross's arms; added to the diamond's radius
+    constexpr double kArm = 1.5;  // pixels; half the width of the cross's arms; the diamond's extra radius
     const double r = kRadius * canvas.Pixel();
     const double a = kArm * canvas.Pixel();
     const double x = centre.x;

@@ -148,8 +148,8 @@ void CGraph::ComputeLayout() {
     xAxisWidth = maxWidth - xApexPoint - kMarginRight * pixel;
 }
 
-/// Chooses the quadrants unless the host has. Only the first record of each series decides, so the running
-/// time does not depend on the number of values.
+/// Chooses the quadrants of a bar graph unless `quadSetManually`. Only the first value of each series
+/// decides, so the running time does not depend on the number of values.
 void CGraph::ChooseQuadrants() {
     if (quadSetManually || !pass->type.Has(kQuadrants))
         return;

@@ -36,7 +36,7 @@ struct GraphPass {
     GraphSnapshot data;
     const GraphTypeRow& type;
     bool bySeries = false;   ///< points and legend rows have the colour of their series, not of their group
-    int labelFont = 0;       ///< height of a pie's name and shares: that of the series labels
+    int labelFont = 0;       ///< font height of the pies' names and percentages, pixels; as for series labels
     double depthRatio = 0;   ///< the value of CGraph::Set3DDepthRatio
     PlaneRect plot;          ///< the whole plot, including the depth of the 3D types
     PlaneRect front;         ///< where values are drawn: the plot without the depth
@@ -45,14 +45,14 @@ struct GraphPass {
     bool horizontal = false; ///< the value axis runs from left to right; otherwise from the bottom up
     bool mirrored = false;   ///< negative keys are shown too, on the other side of the value axis
     bool centred = false;    ///< the zero line lies in the middle of the value axis
-    PlotScale values;        ///< values to y, or to x when horizontal
+    PlotScale values;        ///< maps values to y, or to x when horizontal
     ScaleTicks valueTicks;
-    int captionFont = 0;   ///< height of the axis captions
-    double leftEdge = 0;   ///< least x of the labels, to the right of the Y caption
-    double leftRoom = 0;   ///< width for labels between the Y caption and the plot
-    double bottomRoom = 0; ///< height for labels between the plot and the X caption
-    int leftFont = 0;      ///< height of the numbers left of the plot; 0: they stand inside the plot
-    PlotScale keys;        ///< with kScaledKeys: X values to x, or to y when horizontal
+    int captionFont = 0;   ///< font height of the axis captions, pixels
+    double leftEdge = 0;   ///< least x of the labels: right of the Y caption, or at the picture's edge
+    double leftRoom = 0;   ///< width for labels left of the plot, logical units; may be negative
+    double bottomRoom = 0; ///< height for labels below the plot, logical units; may be negative
+    int leftFont = 0;      ///< font height of the numbers left of the plot, pixels; 0: they stand inside
+    PlotScale keys;        ///< with kScaledKeys: maps X values to x, or to y when horizontal
     ScaleTicks keyTicks;
     SeriesSlots slots;         ///< without kScaledKeys: the places of the series
     SeriesSlots mirroredSlots; ///< the places of the series' negative keys, when mirrored
@@ -62,15 +62,14 @@ struct GraphPass {
     COLORREF PointColour(int s, int key) const { return data.Colour(bySeries ? s : key); }
     /// Whether the plot is large enough to draw in.
     bool HasPlot() const { return front.Width() >= 1 && front.Height() >= 1; }
-    /// The place at `along` on the series' axis and `value` on the value axis. Both are positions.
+    /// The place at the position `value` on the value axis and the position `along` on the other axis.
     PlanePoint At(double along, double value) const {
         return horizontal ? PlanePoint{value, along} : PlanePoint{along, value};
     }
-    /// The rectangle that spans `along` on the series' axis and `value` on the value axis.
-    /// Both are positions.
+    /// The rectangle that spans the positions `value` on the value axis and `along` on the other axis.
     PlaneRect Between(Span along, Span value) const;
-    /// The position of the line that the series stand on: the middle of the value axis when centred,
-    /// otherwise the beginning of the value axis.
+    /// The position on the value axis where the other axis crosses it: the middle when centred, otherwise
+    /// the beginning.
     double BaseLine() const { return centred ? values.Position(0) : values.From(); }
     /// Whether `later` hides `earlier`, so that `earlier` need not be drawn: both parts of a stack lie within
     /// the same logical unit of the value axis, and `later` is drawn.

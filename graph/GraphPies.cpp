@@ -13,25 +13,26 @@
 namespace kavlix {
 namespace {
 
-// Lengths in pixels.
-constexpr double kSmallestPie = 48;      // least width and height of a pie's box, without its name
-constexpr double kSmallestLabelled = 28; // radius; smaller pies have no shares beside them
-constexpr double kNameGap = 6;           // between a pie and its name
-constexpr double kPieMargin = 6;         // free space of a pie without shares beside it, both sides together
-constexpr double kLeader = 10;           // from the pie to the bend of a leader line
-constexpr double kLeaderEnd = 6;         // from the bend to the end of a leader line
-constexpr double kTextGap = 3;           // from the end of a leader line to the share
-constexpr double kThinSector = 3;        // length of the arc; a white outline would hide a shorter sector
+constexpr double kSmallestPie = 48;      // pixels; least width and height of a pie's box, without its name
+constexpr double kSmallestLabelled = 28; // pixels; smaller radius: no shares beside the pie
+constexpr double kNameGap = 6;           // pixels reserved between a pie and its name
+constexpr double kPieMargin = 6;         // pixels; both margins together of a pie without shares beside it
+constexpr double kLeader = 10;           // pixels from the pie to the bend of a leader line
+constexpr double kLeaderEnd = 6;         // pixels from the bend to the end of a leader line
+constexpr double kTextGap = 3;           // pixels from the end of a leader line to the share
+constexpr double kThinSector = 3;        // pixels; shorter arc: no white outline, which would hide the sector
 
 constexpr double kTilt = 0.5;      // height of a tilted pie, as a fraction of its width
-constexpr double kMostRim = 0.25;  // greatest height of a rim, as a fraction of the height of the pie's room
+constexpr double kMostRim = 0.25;  // greatest height of a rim, as a fraction of the height of the pie's box
 constexpr double kRimLight = 0.65; // light on the rim, for Shade
-// Distances from the centre, as fractions of the radius, where a share's middle is tried inside its sector.
+// Distances from the centre, as fractions of the radius, where the middle of a share's text is tried inside
+// the sector.
 constexpr double kInsideReaches[] = {0.66, 0.58, 0.74};
 
-/// A share as it is written: with one decimal place, unless the share is nearly a whole number.
+/// The text of a share: with one decimal place, or with none if that place would be 0. "<0.1%" if the share
+/// would round to 0.0%.
 CString ShareText(double percent) {
-    constexpr double kShown = 0.05; // percent; less rounds to 0.0
+    constexpr double kShown = 0.05; // percent; half of 0.1, the last place shown
     CString text;
     if (percent < kShown)
         text = "<0.1%";
@@ -52,7 +53,7 @@ struct PieStyle {
     double pixel = 1;
     double tilt = 1;     ///< height of a pie, as a fraction of its width
     double rim = 0;      ///< greatest height of the rim
-    LabelSize share;     ///< large enough for the text of any share
+    LabelSize share;     ///< size of the text "88.8%", about the widest of a share
     bool beside = false; ///< whether shares may stand beside the pies
 
     /// The height of the rim in a room of this height.
@@ -91,8 +92,8 @@ public:
     double Lowest() const { return m_lowest; }
 
     void Draw(const std::vector<Sector>& sectors) {
-        // The outlines of the sectors cover the upper edges of the rims, so the rims are drawn first. The
-        // outlines of wide sectors would cover thin neighbours, so thin sectors are drawn last.
+        // The rims are drawn first, so that the sectors' outlines cover the upper edges of the rims. Thin
+        // sectors are drawn last, so that the outlines of wide neighbours do not cover them.
         for (const bool thin : {false, true})
             for (const Sector& sector : sectors)
                 if (m_rim > 0 && IsThin(sector) == thin)
@@ -214,7 +215,7 @@ private:
     }
 
     /// The horizontal distance from the pie's centre at which a leader line's bend at `y`, and the share
-    /// beside it, do not touch the pie or its rim.
+    /// beside it, do not touch the pie or its rim. 0 if the share lies wholly above the pie or below the rim.
     double Beside(double y) const {
         const double lowest = m_pie.centre.y + m_rim;
         const double half = m_style.share.height / 2;

@@ -15,8 +15,9 @@ using namespace kavlix;
 namespace {
 
 constexpr double kTickGap = 4; // least distance between two ticks, pixels
-// Least distance between the middles of two numbers: below the plot in widths of the wider limit, left of the
-// plot in heights of a character. The additional width lets a number move away from the picture's edge.
+// Least distance between the middles of two numbers: below the plot in widths of the wider limit, plus
+// kLabelGap; left of the plot in heights of a character. With the additional half width a number can move
+// away from the picture's edge.
 constexpr double kWideLabel = 1.5;
 constexpr double kHighLabel = 1.25;
 constexpr int kSmallestNumbers = 10; // pixels; numbers that do not fit at this height stand inside the plot

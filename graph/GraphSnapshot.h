@@ -12,13 +12,13 @@ namespace kavlix {
 /// A series as the painters read it.
 struct SeriesPoints {
     CString label;
-    std::vector<KeyedValue> values; ///< ascending by key; records with the same key in order of arrival
+    std::vector<KeyedValue> values; ///< ascending by key; equal keys in the order of the series' list
 };
 
 struct GraphSnapshot {
     std::vector<SeriesPoints> series;
     std::vector<COLORREF> colours;
-    int groups = 0; ///< the groups 0 to `groups` - 1 are drawn
+    int groups = 0; ///< groups 0 to `groups` - 1 are drawn; XY line, scatter, box-whisker: all keys
 
     /// `seriesList` holds CGraphSeries, `colorList` (nullptr for none) CGraphValue.
     GraphSnapshot(const CObList& seriesList, const CObList* colorList, int groupCount);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kStackWidth = 0.55; // as a fraction of a slot
 constexpr double kMostDepth = 2.5;   // as a multiple of a box's width; a deeper box would hide its neighbours
-constexpr double kSlanted = 3;       // pixels; a thinner box is drawn with upright faces
+constexpr double kSlanted = 3;       // pixels; a thinner box is drawn as upright rectangles
 
 void DrawFace(GraphCanvas& canvas, const Face& face, COLORREF colour, double light) {
     canvas.SetFill(Shade(colour, light));

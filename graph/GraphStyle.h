@@ -5,12 +5,12 @@
 
 namespace kavlix {
 
-// Lengths in pixels of the screen.
-constexpr double kEdge = 2;          ///< stays free between a text and the picture's edge
-constexpr double kLabelDistance = 6; ///< between the plot and the labels beside it
-constexpr double kLabelGap = 6;      ///< between two labels
-constexpr double kCaptionLeft = 5;   ///< between the picture's left edge and the Y caption
-constexpr double kCaptionBottom = 7; ///< between the X caption and the picture's lower edge
+// A pixel is a screen pixel, on paper too: see GraphFrame.
+constexpr double kEdge = 2;          ///< pixels kept free between a text and the picture's edge or a caption
+constexpr double kLabelDistance = 6; ///< pixels between the plot and the labels beside it
+constexpr double kLabelGap = 6;      ///< least number of pixels between two labels below the plot
+constexpr double kCaptionLeft = 5;   ///< pixels between the picture's left edge and the Y caption
+constexpr double kCaptionBottom = 7; ///< pixels between the X caption and the picture's lower edge
 
 constexpr int kUpwards = 90; ///< degrees: the turn of a text that reads upwards
 

@@ -56,7 +56,8 @@ inline constexpr GraphTypeRow kGraphTypes[] = {
     {GraphType3DStackedBar, PaintSolidStackedBars, kDepth},
 };
 
-/// The row of a type code. An unknown code has axes, and neither a painter nor a trait.
+/// The row of a type code. The row of an unknown code has neither a painter nor a trait: the graph has axes
+/// but no series.
 inline const GraphTypeRow& GraphTypeOf(int type) {
     static constexpr GraphTypeRow kUnknown{-1, nullptr, 0};
     for (const GraphTypeRow& row : kGraphTypes)

@@ -14,7 +14,8 @@
 namespace kavlix {
 namespace {
 
-constexpr int kBeyondPlot = 3 * kUnitsPerPixel; // bars end at most this far above or below the plot
+// A bar extends at most this far above or below the plot, logical units.
+constexpr int kBeyondPlot = 3 * kUnitsPerPixel;
 
 } // namespace
 

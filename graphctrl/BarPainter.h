@@ -17,9 +17,9 @@ struct BarSelectionMark {
 };
 
 /// Draws the samples `range` of a dataset as bars in the slots 0, 1, 2, ..., each `offset` logical units
-/// right of the left edge of its slot. `selectionMark` is drawn too, unless it is null; a hidden dataset
-/// draws the selection mark only. The caller has selected the null pen; `brush`, which fills the bars,
-/// is selected afterwards.
+/// right of the left edge of its slot. Also draws the selection mark if `selectionMark` is not null and the
+/// marked sample lies in `range` and is no gap; of a hidden dataset only the selection mark is drawn. The
+/// caller has selected the null pen; `brush`, which fills the bars, is selected afterwards.
 void DrawSeriesBars(CDC& dc, const CDataset& dataset, CBrush& brush, const BarSlots& slots, int offset,
                     IndexRange range, const Rect& plot, const LinearMap& yMap,
                     const BarSelectionMark* selectionMark);

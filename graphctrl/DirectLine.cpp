@@ -5,9 +5,9 @@
 
 namespace kavlix {
 
-/// Adds a sample whose stroke from the previous sample has an end outside the pixel table. The pixel of that
-/// end is unknown, so the stroke is stored in logical units, unless both ends lie beyond the same edge.
-/// PaintFar lets GDI convert all stored strokes in one call.
+/// Adds a sample whose stroke from the previous sample has an end outside the pixel table. A stroke with both
+/// ends beyond the same edge is invisible and left out. Any other stroke is stored in logical units, because
+/// the pixel of an end is unknown. PaintFar lets GDI convert all stored strokes in one call.
 void DirectLine::GoFar(double value, const PixelColumn& column, int row) {
     const auto isBeyond = [](const PixelEdges& edges, int from, int to) {
         return from == to && !edges.HasPixel(from);

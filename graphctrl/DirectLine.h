@@ -37,8 +37,8 @@ public:
 private:
     struct Place {
         double value;
-        int position; ///< logical units
-        int pixel;    ///< column of pixels
+        int position; ///< X position, logical units
+        int pixel;    ///< number of the pixel column
         int row;
     };
 

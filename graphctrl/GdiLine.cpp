@@ -98,7 +98,8 @@ void GdiLine::DrawWide(const Rect& view, const Point* points, int count) {
     }
 }
 
-/// Draws bands one pen width apart, from the leftmost pending band to the rightmost.
+/// Draws bands from the leftmost to the rightmost pending band, one pen width apart; the last gap may be
+/// narrower.
 void GdiLine::DrawBands() {
     while (m_hasBand) {
         m_firstBand.Draw(m_target.dc);

@@ -1,4 +1,4 @@
-// Draws a line on a DC that paints pixels, by calls of GDI.
+// Draws a line on a screen or memory DC, by calls of GDI.
 #pragma once
 
 #include <afxwin.h>
@@ -12,8 +12,8 @@
 
 namespace kavlix {
 
-/// Draws one or more lines with the selected pen, which is `penPixels` wide. Samples that paint no new pixel
-/// are left out.
+/// Draws one or more lines with the selected pen, which is `penPixels` wide. Leaves out most samples that
+/// paint no new pixel.
 class GdiLine {
 public:
     /// `plot`: the area in which the line is visible, in device pixels, edges included.

@@ -1,5 +1,5 @@
-// CGraphCtrl: the axes with ticks, tick labels, unit texts and grid. XTickPainter draws X tick labels, and
-// the X ticks that grid lines continue.
+// CGraphCtrl: the axes with ticks, tick labels, unit texts and grid. XTickPainter draws the X tick labels,
+// and the X ticks of the line styles with their grid lines.
 #include <kavlix/GraphCtrl.h>
 
 #include <algorithm>
@@ -19,10 +19,9 @@ using namespace kavlix;
 
 namespace {
 
-// Logical units.
-constexpr int kTickLabelRaise = 150; // from a Y tick up to the top of its label
-// From the right edge of a tick strip: to the left for the beginning of the Y unit text, to the right for the
-// end of the Y2 unit text.
+constexpr int kTickLabelRaise = 150; // from a Y tick up to the top of its label, logical units
+// The Y unit text begins this far left of its tick strip's right edge; the Y2 unit text ends this far right
+// of its tick strip's right edge. Logical units.
 constexpr int kUnitOverlap = 50;
 
 constexpr UINT kUnitAlignY = TA_LEFT | TA_BOTTOM;

@@ -13,15 +13,16 @@ using namespace kavlix;
 
 namespace {
 
-// Logical units.
-constexpr int kCaptionPadding = 120; // the band's height beyond the height of its font
-constexpr int kIconTop = 50;         // distances of the icon from the edges of the band
-constexpr int kIconBottom = 70;
-constexpr int kIconRight = 50;
-constexpr int kIconExtraWidth = 50; // the icon is this much wider than high
+constexpr int kCaptionPadding = 120; // the band's height beyond the height of its font, logical units
+constexpr int kIconTop = 50;         // from the band's top edge down to the icon, logical units
+constexpr int kIconBottom = 70;      // from the icon down to the band's bottom edge, logical units
+constexpr int kIconRight = 50;       // from the icon to the band's right edge, logical units
+constexpr int kIconExtraWidth = 50;  // the icon is this much wider than high, logical units
+// A font at least this high, in logical units, is drawn only if the control is more than half as high.
 constexpr int kHugeFont = 1000 * kUnitsPerPixel;
 
-// Largest font size, in tenths of a point, that still fits an int when it is scaled to logical units.
+// Limit of the font size, in tenths of a point, so that the size fits an int when it is scaled to logical
+// units.
 constexpr int kLargestFontSize = 1 << 22;
 
 void FillBar(CDC& dc, const CRect& rect, const CBrush& brush) {

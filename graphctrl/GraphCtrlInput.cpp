@@ -60,7 +60,7 @@ void CGraphCtrl::OnLButtonUp(UINT nFlags, CPoint point) {
             // The icon stays pressed during the notification, since the parent may paint the control.
             if (!Notify(record, GCN_MAXIMIZE))
                 return;
-            isPressedAgain = !m_MaximizeNotified; // OnLButtonDown clears this flag
+            isPressedAgain = !m_MaximizeNotified; // a new press of the icon clears this member
         }
         if (!isPressedAgain) {
             EndPress();

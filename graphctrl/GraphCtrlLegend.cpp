@@ -13,7 +13,7 @@ using namespace kavlix;
 namespace {
 
 constexpr int kShadowOffset = 100;  // from the board to its shadow, right and down, logical units
-constexpr int kLegendClipInset = 3; // the clip region ends this many pixels left of the board's right edge
+constexpr int kLegendClipInset = 3; // pixels by which the clip region of the rows is narrowed on the right
 
 } // namespace
 

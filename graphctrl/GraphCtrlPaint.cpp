@@ -14,9 +14,9 @@ using namespace kavlix;
 
 namespace {
 
-// Logical units.
-constexpr int kDataRegionAbove = 600;  // height for the unit texts above the Y axes
-constexpr int kDataRegionBeside = 900; // width for X tick labels that extend beyond their band at the right
+// Margins of the data region, which RedrawData invalidates; logical units.
+constexpr int kDataRegionAbove = 600;  // above the plot, for the unit texts
+constexpr int kDataRegionBeside = 900; // right of the plot, for X tick labels that extend beyond their band
 
 /// `device` without its last column and row of pixels.
 CRect LessOnePixel(const CRect& device) {

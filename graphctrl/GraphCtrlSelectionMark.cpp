@@ -1,4 +1,4 @@
-// CGraphCtrl: moves the selection mark and reports the move. LinePainter and BarPainter draw it.
+// CGraphCtrl: moves the selection mark and reports the move. LinePainter and BarPainter draw the mark.
 #include <kavlix/GraphCtrl.h>
 
 void CGraphCtrl::SetSelectionMarkPos(int nPos) {

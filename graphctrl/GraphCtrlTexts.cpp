@@ -16,7 +16,7 @@ constexpr int kYTickLabelFontHeight = 350;
 constexpr int kXTickLabelFontHeight = 300;
 constexpr int kUnitFontHeight = 450;
 constexpr int kLegendFontHeight = 350;
-constexpr int kLabelFontInset = 50; // an axis label's font is this much lower than a label row
+constexpr int kLabelFontInset = 50; // height of a label row minus that of an axis label's font, logical units
 
 // Directions of text, in tenths of a degree.
 constexpr int kHorizontal = 0;

@@ -17,14 +17,15 @@
 namespace kavlix {
 namespace {
 
-// Logical units.
-constexpr int kMarkerHalf = 3 * kUnitsPerPixel;    // farthest that a marker extends from its sample
-constexpr int kRoundingReach = 2 * kUnitsPerPixel; // added because GDI rounds positions to pixels
-// The triangle of the selection mark; its corners are given by their distance right of the dotted line.
-constexpr int kTriangleHeight = 180;
-constexpr int kTriangleTip = 10;
-constexpr int kTriangleRight = 90;
-constexpr int kTriangleLeft = -70;
+// Farthest that a marker extends from its sample, logical units.
+constexpr int kMarkerHalf = 3 * kUnitsPerPixel;
+// Added to distances because GDI rounds positions to pixels, logical units.
+constexpr int kRoundingReach = 2 * kUnitsPerPixel;
+// The triangle of the selection mark, in logical units. The tip points down.
+constexpr int kTriangleHeight = 180; // from the plot's top edge down to the tip
+constexpr int kTriangleTip = 10;     // X of the tip, counted to the right from the dotted line
+constexpr int kTriangleRight = 90;   // X of the right corner, counted to the right from the dotted line
+constexpr int kTriangleLeft = -70;   // X of the left corner, counted to the right from the dotted line
 
 } // namespace
 

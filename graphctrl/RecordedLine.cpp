@@ -22,7 +22,7 @@ Point ToPixel(const CDC& dc, const Point& point) {
     return ToPoint(pixel);
 }
 
-/// `position` in logical units, moved into `pixel` if it lies outside.
+/// `position` in logical units, rounded, and moved to at least kEdgeInset inside the edges of `pixel`.
 int Into(const PixelEdges& edges, int pixel, double position) {
     const int k = pixel - edges.Before() - 1;
     return TruncateToInt(std::round(position), edges.Edge(k) + kEdgeInset,
@@ -108,8 +108,9 @@ bool RecordedLine::AddRead(const double* values, int count) {
 }
 
 /// Adds the samples of a column without reading every value: the first and the last two samples that the
-/// pixel rule keeps, and the lowest and highest. False, with nothing added, when a value is NaN, and when the
-/// pixel rule may leave out the lowest or highest.
+/// pixel rule keeps, and the lowest and highest. False, with nothing added, when a value is NaN, when all
+/// samples lie on one pixel that has no kept sample yet, and when the pixel rule may leave out the lowest or
+/// highest.
 bool RecordedLine::AddSearched(const SampleStore& samples, SampleStore::Reader& values, int first, int last) {
     const Extremes extremes = samples.ExtremesOf(first, last);
     if (extremes.HasGap())
@@ -308,8 +309,8 @@ Point RecordedLine::OnLine(const Point& from, const Point& to, const Point& pixe
 }
 
 /// Stores the visible part of a stroke in m_cut; all points in pixels. For a wide stroke with one end in the
-/// pixel table, NearerEnd finds a cut that keeps the pixels of the stroke's edges. It is used if it lies in
-/// the pixel table. Every other cut of a wide stroke may move the stroke's edges by a pixel.
+/// pixel table, NearerEnd finds a cut that keeps the pixels of the stroke's edges. This cut is used if it
+/// lies in the pixel table. Every other cut of a wide stroke may move the stroke's edges by a pixel.
 void RecordedLine::Cut(const Point& begin, const Point& end) {
     const bool comesFromFar = !HasPixel(begin.x, begin.y);
     if (!m_isThin && comesFromFar != !HasPixel(end.x, end.y)) {

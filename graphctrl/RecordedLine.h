@@ -14,13 +14,14 @@
 
 namespace kavlix {
 
-/// Draws one or more lines with the selected pen on a metafile or printer DC. The number of strokes is
-/// bounded by the width of the plot, and the recorded picture may be enlarged.
+/// Draws one or more lines with the selected pen on a metafile or printer DC. For samples without markers, in
+/// order of X, the number of strokes is bounded by the plot's width in logical units. Columns are one logical
+/// unit wide instead of one pixel, so an enlarged picture keeps more detail.
 ///
 /// Two rules choose the samples. Pixel rule: a sample on the same pixel as the sample before it is left out.
-/// Column rule: of the samples that the pixel rule keeps in one column, which is one logical unit wide, only
-/// the first, lowest, highest and last are drawn, and at the end of a line the last but one. Strokes are cut
-/// near the plot, because the frame of a metafile includes everything that is drawn.
+/// Column rule: of the samples that the pixel rule keeps in one column, only the first, lowest, highest and
+/// last are drawn, and at the end of a line the last but one. Strokes are cut near the plot, because the
+/// frame of a metafile includes everything that is drawn.
 class RecordedLine {
 public:
     /// Strokes are cut at most this many pixels outside the window that the constructor takes.
@@ -136,7 +137,7 @@ private:
     int m_x = kCoordinateLimit + 1;        ///< current column: position of the last sample, logical units
     int m_pixel = 0;                       ///< pixel column of m_x
     Sample m_sample = {};                  ///< the last sample, kept or not; used with markers only
-    int m_coveredX = kCoordinateLimit + 1; ///< X of m_coveredUnits and m_coveredRows; used with markers only
+    int m_coveredX = kCoordinateLimit + 1; ///< X of the covered ranges, logical units; used with markers only
     Covered m_coveredUnits;
     Covered m_coveredRows;
     bool m_isOpen = false;
@@ -154,7 +155,7 @@ private:
     bool m_hasEnd = false;
     Point m_end;                 ///< end of the last stroke, logical units
     std::vector<POINT> m_points; ///< pending polyline, logical units
-    std::vector<Point> m_cut;    ///< points of the stroke that ToFar has cut
+    std::vector<Point> m_cut;    ///< points of a stroke that ToFar cuts: first pixels, then logical units
 };
 
 } // namespace kavlix

@@ -12,7 +12,7 @@
 
 namespace kavlix {
 
-/// Draws the lines of one paint. On DCs that paint pixels, the result equals that of DrawSeriesLine in every
+/// Draws the lines of one paint. On screen and memory DCs the result equals that of DrawSeriesLine in every
 /// pixel: of the samples in one pixel column only the first, lowest, highest and last, and the beginning of a
 /// line's last stroke, can change a pixel. For metafiles and printers RecordedLine chooses the samples. Where
 /// neither is possible, Draw does nothing, and the caller draws the line with DrawSeriesLine.

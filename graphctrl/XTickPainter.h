@@ -7,12 +7,12 @@
 
 namespace kavlix {
 
-/// Distance from the top of the X label band, or from the inner edge of a Y tick strip, to the labels, logical
-/// units.
+/// Distance from the top of the X label band down to the labels, and from the right edge of a value axis'
+/// tick strip to its labels, leftwards for Y and rightwards for Y2; logical units.
 constexpr int kTickLabelGap = 100;
-/// Distance from a tick to the right edge of the upper line of a label of two lines, logical units.
+/// Distance from a tick rightwards to the right edge of a two-line label's upper line, logical units.
 constexpr int kUpperLineShift = 70;
-/// Distance from a tick to the baseline of a label of one line, logical units.
+/// Distance from a tick rightwards to the baseline of a label of one line, logical units.
 constexpr int kSingleLineShift = 100;
 
 /// Draws an X tick at `x` with `axisPen`, which the caller has selected before the first tick. A `gridPen`

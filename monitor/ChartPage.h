@@ -54,7 +54,7 @@ private:
     unsigned m_generation = 0;
     std::shared_ptr<const recording::Recording> m_recording;
     GraphSettings m_settings;
-    std::optional<std::uint64_t> m_contentMark; ///< PageContent::marked
+    std::optional<std::uint64_t> m_contentMark; ///< PageContent::marked at the last Update
     std::optional<std::uint64_t> m_mark; ///< this page's marked sample, counted like PageContent::marked
 };
 

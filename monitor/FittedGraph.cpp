@@ -11,13 +11,12 @@
 namespace kavlix::monitor {
 namespace {
 
-// Logical units.
-constexpr int kLegendGap = 450;     // space on the right of the text of a legend row
-constexpr int kMinLegendText = 600; // smallest width of the column of legend texts
+constexpr int kLegendGap = 450;     // logical units on the right of the text of a legend row
+constexpr int kMinLegendText = 600; // least width of the column of legend texts, in logical units
 
 constexpr int kLegendShare = 3;    // the legend's texts take at most 1/kLegendShare of the window's width
-constexpr int kCaptionSize = 90;   // tenths of a point
-constexpr int kCaptionMargin = 10; // pixels beside the caption's text
+constexpr int kCaptionSize = 90;   // size of the caption font, in tenths of a point
+constexpr int kCaptionMargin = 10; // pixels on each side of the caption's text
 
 } // namespace
 

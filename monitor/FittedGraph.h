@@ -14,7 +14,7 @@
 namespace kavlix::monitor {
 
 /// The common part of the Monitor's graphs: colours, texts cut to the available room, and notifications
-/// beyond the control's own. Only Redraw and the functions that say so repaint. Lengths are in logical units
+/// beyond the control's own. A function repaints only if its comment says so. Lengths are in logical units
 /// (1/30 pixel).
 template <class Control> class CFittedGraph : public Control {
 public:
@@ -29,17 +29,17 @@ public:
 
 protected:
     static constexpr int kPixel = recording::kUnitsPerPixel;
-    static constexpr int kTickFontHeight = 350; ///< height of the font of value labels and legend
-    static constexpr int kTickLabelGap = 200;   ///< space on the left of the tick labels
+    static constexpr int kTickFontHeight = 350; ///< logical units: font height of value labels and legend
+    static constexpr int kTickLabelGap = 200;   ///< logical units: space on the left of the tick labels
 
-    /// Largest distance along the time axis at which a series' sample counts as under the pointer.
+    /// Largest distance in logical units, along the time axis, at which a sample counts as under the pointer.
     static constexpr int kPointerReach = 10 * kPixel;
-    /// Most samples that the search for this sample visits on either side, which bounds its time.
+    /// Most samples on either side of the pointer among which a series' nearest value is searched.
     static constexpr int kPointerSamples = 1000;
 
     struct Layout {
         int valueTicks = 0; ///< number of ticks of the value axes
-        CSize plot;         ///< size of the plot
+        CSize plot;         ///< size of the plot in logical units
     };
 
     /// Sets style, grid, legend and colours of the graph, and the look of each dataset i from `series[i]`.

@@ -8,7 +8,7 @@
 
 namespace kavlix::monitor {
 
-/// The font of all texts.
+/// The font face of the pages' texts.
 constexpr const char* kFontFace = "Arial";
 
 /// How one series is drawn.

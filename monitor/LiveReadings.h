@@ -105,7 +105,7 @@ private:
     mutable std::shared_ptr<const recording::Recording> m_recording; ///< null: not made since the last change
 };
 
-/// The machine's local time in the form of a recording's times.
+/// The machine's local time in whole seconds, in the form of a recording's times.
 recording::Time LocalTimeNow();
 
 } // namespace kavlix::monitor

@@ -7,8 +7,9 @@ namespace kavlix::monitor {
 
 /// Converts the times of a recording into time stamps for the scrolling graph. The graph's labels show stamps
 /// in the machine's local time. This class chooses each stamp so that the label shows the recording's own
-/// time. Only a time in an hour that local time skips appears as a time of the hour beside it. The stamps
-/// never decrease.
+/// time. Exceptions: a time in an hour that local time skips appears as a time of an hour beside it; because
+/// stamps never decrease, times soon after it may repeat its stamp; a time that CTime cannot convert is taken
+/// as UTC.
 class LocalStamps {
 public:
     /// Seconds since 1970 whose local time is `time`. The times must ascend, and lie between kFirstStampTime

@@ -28,7 +28,7 @@ public:
     /// Begins reading the files of the command line, or live readings. The window must be visible.
     void Start();
 
-    /// Does one piece of idle work: reading, filling a page, or saving the picture. Returns whether
+    /// Does one piece of idle work: reading, filling a page, or saving the picture. Returns false when no
     /// work remains.
     bool WorkInIdle();
 
@@ -68,7 +68,7 @@ protected:
 private:
     enum Timer : UINT_PTR {
         kLiveTimer = 1, ///< takes the next live reading
-        kEndTimer,      ///< ends the program, for `--seconds`
+        kEndTimer,      ///< saves the picture of `--shot`, if any, and ends the program
         kNoticeTimer    ///< removes the notice from the status bar
     };
 

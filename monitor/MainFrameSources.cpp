@@ -19,7 +19,7 @@ using recording::RecordingLoader;
 
 namespace {
 
-constexpr UINT kLiveInterval = 1000;      // milliseconds
+constexpr UINT kLiveInterval = 1000;      // milliseconds between live readings
 constexpr double kLivePictureSeconds = 3; // time before a picture of live readings without --seconds
 constexpr double kMillisPerSecond = 1000;
 constexpr std::size_t kNamedFiles = 2;       // most files that a title names; otherwise only their number

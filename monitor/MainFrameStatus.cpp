@@ -10,7 +10,7 @@
 namespace kavlix::monitor {
 namespace {
 
-constexpr UINT kNoticeTime = 4000; // milliseconds
+constexpr UINT kNoticeTime = 4000; // longest time of a notice, in milliseconds
 constexpr int kTitleButtons = 5;   // width of icon, three buttons and their distances, in button widths
 
 bool FitsTitleBar(CWnd& frame, const std::string& title) {

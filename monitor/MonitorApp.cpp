@@ -23,7 +23,7 @@ std::vector<std::string> Arguments() {
     return std::vector<std::string>(__argv + (__argc > 0 ? 1 : 0), __argv + __argc);
 }
 
-/// Shows an error on standard error, or in a message box when there is no standard error.
+/// Writes an error to standard error or, when that fails, shows it in a message box.
 void Tell(const std::string& text) {
     if (!WriteError(text + "\n"))
         AfxMessageBox(text.c_str(), MB_OK | MB_ICONEXCLAMATION);

@@ -7,7 +7,8 @@ namespace kavlix::monitor {
 
 class CMainFrame;
 
-/// The application object. With `--check` or `--help` it prints and ends; otherwise it opens the main window.
+/// The application object. With `--check` or `--help`, or after a wrong command line, it writes a text and
+/// ends; otherwise it opens the main window.
 class CMonitorApp : public CWinApp {
 public:
     CMonitorApp();

@@ -18,7 +18,7 @@ namespace {
 constexpr COLORREF kMarkColor = RGB(200, 0, 0);
 constexpr int kMarkHalf = 4;  // pixels from the mark's centre to its edge
 constexpr int kReach = 12;    // pixels from the pointer to the farthest point that counts as under it
-constexpr int kFontSize = 90; // tenths of a point
+constexpr int kFontSize = 90; // size of the texts, in tenths of a point
 
 bool IsPoint(const ChartPoint& point) {
     return std::isfinite(point.x) && std::isfinite(point.y);

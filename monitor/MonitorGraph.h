@@ -79,7 +79,7 @@ public:
     /// The sample under a point (client pixels). The sample is the nearest one in time. The series is the
     /// nearest one there: with lines, the series whose value is the least distance above or below the point;
     /// with bars, the series whose bar is nearest. Hidden series, and series without a value near the point,
-    /// do not count. None outside the plot. Takes the same time for any number of samples.
+    /// do not count. None outside the plot. The time it takes is bounded for any number of samples.
     std::optional<Pointed> SampleUnder(CPoint point);
 
 protected:

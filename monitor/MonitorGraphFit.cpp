@@ -13,10 +13,9 @@ using recording::ValueSpan;
 
 namespace {
 
-// Logical units.
-constexpr int kMarkerRoom = 150;   // half a marker and a margin
-constexpr int kLabelFontLess = 50; // difference between the label height and the height of the labels' font
-constexpr int kMinLabelUnit = 300; // smaller axis labels are illegible
+constexpr int kMarkerRoom = 150;   // logical units: half a marker and a margin
+constexpr int kLabelFontLess = 50; // logical units by which a label's font is less high than the label
+constexpr int kMinLabelUnit = 300; // least height of a label in logical units: smaller ones are illegible
 
 CString ToText(const std::string& text) {
     return CString(text.c_str());
@@ -81,7 +80,7 @@ void CMonitorGraph::FitTimeRange() {
         SetXVisibleMin(-pad);
         SetXVisibleMax(last + pad);
     } else {
-        // A single sample: a point in the middle, or a bar over the whole width.
+        // At most one sample: a point in the middle, or a bar over the whole width.
         SetXVisibleMin(-1);
         SetXVisibleMax(m_settings.style == GraphStyleBar ? 0 : 1);
     }

@@ -33,9 +33,9 @@ std::optional<CMonitorGraph::Pointed> CMonitorGraph::SampleUnder(CPoint point) {
     return Pointed{m_shown.recording.times[indices[*series]], *series, ValueOf(*series, indices[*series])};
 }
 
-/// For every series, the distance of its sample at or near `index` from the point `logical`; NaN when there
-/// is no such sample. With bars the distance is horizontal, in logical units; otherwise vertical, as a share
-/// of the plot's height. `indices` receives the index of each series' sample.
+/// For every series, the distance of its sample at or near `index` from the point `logical`; NaN when the
+/// series is not shown or has no value there. With bars the distance is horizontal, in logical units;
+/// otherwise vertical, as a share of the plot's height. `indices` receives the index of each series' sample.
 std::vector<double> CMonitorGraph::DistancesFrom(CPoint logical, std::size_t index,
                                                  std::vector<std::size_t>& indices) {
     const std::size_t drawn = std::min(m_shown.recording.series.size(), m_settings.series.size());

@@ -19,17 +19,19 @@ namespace kavlix::monitor {
 /// The content of the pages: a recording, live readings, or only a title.
 struct PageContent {
     unsigned generation = 0; ///< increases when new content replaces the old
-    unsigned cuts = 0;       ///< number of times the person removed samples at the head
-    std::uint64_t lost = 0;  ///< number of samples removed at the head in this generation
-    std::shared_ptr<const recording::Recording> recording; ///< null without files
-    std::unique_ptr<LiveReadings> live;                    ///< null with files
+    unsigned cuts = 0;       ///< number of calls of PageHost::RemoveHead
+    std::uint64_t lost = 0;  ///< number of samples removed from Source().recording's head in this generation
+    std::shared_ptr<const recording::Recording> recording; ///< null with live readings and during reading
+    std::unique_ptr<LiveReadings> live;                    ///< null unless the content is live readings
     GraphSettings settings;                                ///< shared by all pages
-    std::optional<std::uint64_t> marked; ///< the marked sample, counted from the generation's first sample
+    /// The sample that was marked when the person last chose a page, counted from the generation's first one.
+    std::optional<std::uint64_t> marked;
 
-    /// Index of the marked sample in Source().recording; none when it was removed.
+    /// Index of the sample `marked` in Source().recording; none when there is no mark or it was removed.
     std::optional<std::size_t> MarkedSample() const;
 
-    /// The recording, or the live readings of the last minutes as a recording.
+    /// The recording, or the live readings of the last minutes as a recording. GraphSource::recording is null
+    /// when there is nothing to show.
     GraphSource Source() const;
 };
 
@@ -48,10 +50,11 @@ public:
     /// Sets the number of live readings to keep and updates the page.
     virtual void KeepAtMost(std::size_t count) = 0;
 
-    /// The page calls this when the view or the mark has changed. The host then asks the page for all texts.
+    /// The page calls this when the view or the mark has changed. The host then asks the page for all
+    /// texts, except while files are being read.
     virtual void ShowSelection() = 0;
 
-    /// The page calls this when the mouse pointer has moved. The host then asks the page for its
+    /// The page calls this when the mouse pointer has moved or has left. The host then asks the page for its
     /// PointerTexts.
     virtual void ShowPointer() = 0;
 
@@ -69,8 +72,8 @@ protected:
 /// One way to show the content: a child window above the status bar. The main window shows one page at a time
 /// and routes every command to that page first. A page handles its own commands in its message map.
 ///
-/// A new page needs a class, a name in recording::kPageNames, a line in the table of Pages.cpp, and a
-/// command, a key and a menu in Monitor.rc.
+/// A new page needs a class, a name in recording::kPageNames, a line in the table of Pages.cpp, a command in
+/// resource.h, and a key and a menu in Monitor.rc.
 class CMonitorPage : public CWnd {
 public:
     explicit CMonitorPage(PageHost& host) : m_host(host) {}
@@ -83,7 +86,7 @@ public:
     /// one.
     virtual void Update() = 0;
 
-    /// Does one piece of idle work. Returns whether work remains; `--shot` waits until none does.
+    /// Does one piece of idle work. Returns false when there was none to do; `--shot` waits for that.
     virtual bool WorkInIdle() { return false; }
 
     // ---- Texts for the status bar, in several forms, the longest first ----
@@ -111,14 +114,15 @@ public:
     /// Whether the page may fill the window.
     virtual bool CanFill() { return true; }
 
-    /// Called when the page starts or stops filling the window.
+    /// Tells the page whether it fills the window. The host calls this when that changes, and when the page
+    /// becomes the current one or is no longer.
     virtual void ShowFilling(bool) {}
 
     /// The visible samples of Source().recording, for the preview of the settings dialog.
     virtual recording::VisibleRange VisibleSamples();
 
 protected:
-    /// Moves the page's child windows.
+    /// Moves the page's child windows into a client area of `size` pixels.
     virtual void LayOut(CSize size) = 0;
 
     /// The child window that gets the focus.

@@ -9,11 +9,11 @@
 namespace kavlix::monitor {
 namespace {
 
-constexpr COLORREF kSelectedColor = RGB(55, 65, 80); // differs from every series colour
+constexpr COLORREF kSelectedColor = RGB(55, 65, 80); // differs from the default colour of every series
 constexpr int kBrightest = 255 * 1000;               // brightness of white in TextColorOn
-constexpr int kWaiting = 1;                          // any wait mode other than 0 shows the message
+constexpr int kWaiting = 1;                          // mode for Wait: any mode other than 0 shows the message
 
-/// Black or white, the one with more contrast to the colour.
+/// Black for text on bright colours, white on dark ones.
 COLORREF TextColorOn(COLORREF color) {
     const int brightness = 299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color);
     return brightness > kBrightest / 2 ? RGB(0, 0, 0) : RGB(255, 255, 255);

@@ -15,15 +15,16 @@ using recording::ValueSpan;
 
 namespace {
 
-constexpr double kRoomBehind = 0.1; // share of the view that stays empty behind the newest row
+constexpr double kRoomBehind = 0.1; // share of the view's width: scroll range behind the newest row
 constexpr int kSecondsPerMinute = 60;
 
-// Logical units.
-constexpr int kTimeFontHeight = 300;  // font of the time labels
-constexpr int kTimeLabelMargin = 200; // above and below the time labels
-constexpr int kScrollBarRoom = 280; // height of the scroll bar beyond the room that the control leaves for it
-constexpr int kMinLegendPlot = 3000; // width that a legend must leave for the plot
-constexpr int kDateShift = 10;       // shift of the date to the right of its tick, away from the clock time
+constexpr int kTimeFontHeight = 300;  // logical units, height of the time labels' font
+constexpr int kTimeLabelMargin = 200; // logical units above and below the time labels, together
+/// Height of the scroll bar beyond the room that the control leaves for it, in logical units.
+constexpr int kScrollBarRoom = 280;
+constexpr int kMinLegendPlot = 3000; // logical units of width that a legend must leave for the plot
+/// Logical units by which a date is shifted to the right of its tick, away from the clock time.
+constexpr int kDateShift = 10;
 
 } // namespace
 
@@ -241,7 +242,8 @@ void CMonitorScrollGraph::OnCopy() {
     CopyAndTell();
 }
 
-/// The row nearest to `row`, from `first` to `last`, that has a value of the series.
+/// The row nearest to `row` that has a value of the series, from `first` to `last` and at most
+/// kPointerSamples away.
 std::optional<int> CMonitorScrollGraph::RowWithValue(std::size_t series, int row, int first, int last) const {
     for (int away = 0; away <= kPointerSamples && (row - away >= first || row + away <= last); ++away) {
         if (row - away >= first && !std::isnan(ValueOf(series, row - away)))

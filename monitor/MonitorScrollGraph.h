@@ -18,7 +18,7 @@ public:
     /// Properties of the value axis that do not follow from the samples.
     struct Axis {
         recording::ValueSpan covers; ///< values that the axis always covers
-        std::string unit;            ///< `%`, `B/s`
+        std::string unit;            ///< unit of the values, `%` or `B/s`; empty: none
     };
 
     /// Widths beside the plot, in logical units. All graphs of the page use the same widths, so that their
@@ -34,8 +34,7 @@ public:
         std::size_t series = 0; ///< index within this graph
     };
 
-    /// Removes all samples and begins with these series. The series of a later SetLook must have the same
-    /// number.
+    /// Removes all samples and begins with these series. A later SetLook must have the same number of series.
     void Begin(const GraphSettings& settings, std::vector<SeriesSettings> series, Axis axis);
     void SetLook(const GraphSettings& settings, std::vector<SeriesSettings> series);
 
@@ -48,10 +47,12 @@ public:
     /// last row.
     void AppendOffline(long stamp, const std::vector<double>& values);
 
-    /// Removes the oldest rows. View and mark stay on their rows while these rows exist.
+    /// Removes the oldest rows. The view moves as with RemoveHeadData; the mark stays on its row while the
+    /// row exists. Repaints.
     void TrimHead(int rows);
 
-    /// Removes the oldest rows and the mark, as the control's menu command does. The view stays on its rows.
+    /// Removes the oldest rows and the mark, as the control's menu command does. A view that shows the newest
+    /// row goes on showing it; any other view stays on its rows while these rows exist. Repaints.
     void RemoveHeadData(int nCount) override;
 
     int Rows() const { return GetCurDataIndex(); }
@@ -61,15 +62,16 @@ public:
 
     bool ShowsNewest() const;
 
-    /// Shows the newest row a tenth of the view before the plot's right edge.
+    /// Shows the newest row about a tenth of the view before the plot's right edge. A time line that is too
+    /// short for this begins at the left edge.
     void ShowNewest();
     void ShowOldest();
 
-    /// Extends the scroll range to the newest row.
+    /// Extends the scroll range to the newest row and a tenth of the view beyond.
     void ReachNewest();
 
-    /// Changes the width of the view. A view that shows the newest row keeps doing so. Otherwise the marked
-    /// row, if visible, or the middle of the view keeps its place.
+    /// Changes the width of the view, in seconds. A view that shows the newest row keeps doing so. Otherwise
+    /// the marked row, if visible, or the middle of the view keeps its place.
     void SetRange(int seconds);
 
     /// Moves the left edge of the view to about `position`, in units of 1/20 s from the oldest row.
@@ -87,8 +89,8 @@ public:
 
     int MarkedRow() const;
 
-    /// The sample under a point (client pixels): first the row nearest in time, then the series whose value
-    /// there is nearest in height. None outside the plot.
+    /// The sample under a point (client pixels). Of each visible series, the value at or near the row that is
+    /// nearest in time counts; the result is the value nearest in height. None outside the plot.
     std::optional<Pointed> SampleUnder(CPoint point);
 
     // ---- Fitting into the window ----

@@ -19,7 +19,7 @@ namespace {
 constexpr COLORREF kLowestColor = RGB(80, 155, 230);
 constexpr COLORREF kMeanColor = RGB(25, 135, 60);
 constexpr COLORREF kHighestColor = RGB(215, 85, 0);
-constexpr int kPrintMargin = 720; // twips
+constexpr int kPrintMargin = 720; // margin of a printed page in twips
 
 /// One statistic, or the mean of one series, over all periods.
 struct Row {

@@ -27,7 +27,7 @@ struct MultiOptions {
     std::optional<std::size_t> series;
     bool horizontal = false;
     bool grid = true;
-    int labelAngle = 0;  ///< degrees
+    int labelAngle = 0;  ///< angle of the graph's series labels in degrees, counter-clockwise
     double depth = 0.05; ///< depth of the 3D types, as a share of the plot's width
 };
 

@@ -9,9 +9,9 @@
 namespace kavlix::monitor {
 namespace {
 
-constexpr int kAngles[] = {0, 30, 45, 60, 90, 135, 180, 270, 315};
-constexpr int kDepths[] = {0, 2, 5, 10, 20, 40}; // percent of the plot's width
-constexpr std::size_t kDefaultDepth = 2;         // index into kDepths
+constexpr int kAngles[] = {0, 30, 45, 60, 90, 135, 180, 270, 315}; // degrees
+constexpr int kDepths[] = {0, 2, 5, 10, 20, 40};                   // percent of the plot's width
+constexpr std::size_t kDefaultDepth = 2;                           // index into kDepths
 constexpr const char* kAllSeries = "(means of all series)";
 
 } // namespace

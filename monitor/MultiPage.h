@@ -34,7 +34,7 @@ private:
 
     CMultiOptionsPanel m_panel;
     CMultiGraphView m_view;
-    int m_panelWidth = 0; ///< pixels
+    int m_panelWidth = 0; ///< width of the panel in pixels
     bool m_filling = false;
     std::shared_ptr<const recording::Recording> m_recording; ///< the recording that the graph shows
     GraphSettings m_settings;

@@ -11,7 +11,7 @@
 namespace kavlix::monitor {
 
 /// Shows a pie: the parts of the machine's memory, or the shares of the series in one sample of the
-/// recording. The sample is the one marked on another page, or else the last one.
+/// recording. The sample is the one marked on another page, or else the one of LastFullRow.
 class CPiePage : public CMonitorPage {
 public:
     using CMonitorPage::CMonitorPage;

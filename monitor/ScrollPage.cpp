@@ -23,7 +23,7 @@ using recording::ValueSpan;
 
 namespace {
 
-constexpr std::size_t kSlice = 50'000; // rows that one piece of idle work hands to the graphs
+constexpr std::size_t kSlice = 50'000; // samples that one piece of idle work hands to the graphs as rows
 
 /// When more new rows than this are added together, the view follows only after the last one.
 constexpr std::size_t kFollowedRows = 100;
@@ -304,7 +304,7 @@ std::vector<double> CScrollPage::ValuesOf(const ScrollRow& row) {
     return values;
 }
 
-/// Removes the rows of the samples before `sample`.
+/// Removes the rows whose first sample is before `sample`, and the gap right before `sample`.
 void CScrollPage::TrimTo(std::uint64_t sample) {
     const auto gone = [sample](const ScrollRow& row) {
         return row.count == 0 ? row.sample <= sample : row.sample < sample;

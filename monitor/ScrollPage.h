@@ -109,8 +109,8 @@ private:
 
     CMonitorScrollGraph m_graphs[kGraphs];
     std::size_t m_inUse = 1;              ///< number of graphs in use: 1 or 2
-    std::size_t m_active = 0;             ///< the graph that gets the focus
-    std::optional<std::size_t> m_filling; ///< the graph that fills the window
+    std::size_t m_active = 0;             ///< index of the graph that gets the focus
+    std::optional<std::size_t> m_filling; ///< index of the graph that fills the window
     std::optional<Pointer> m_pointer;
     std::vector<Place> m_places; ///< one for each series of the content
     int m_wheel = 0;             ///< rotation of the mouse wheel that is not yet a whole step

@@ -21,7 +21,7 @@ using recording::ScrollRow;
 
 namespace {
 
-constexpr int kWheelStep = WHEEL_DELTA / 3; // wheel rotation that moves the view by 1/100 of its width
+constexpr int kWheelStep = WHEEL_DELTA / 3; // wheel rotation that moves the view by about 1/100 of its width
 
 std::string LiveValueText(std::size_t series, double value) {
     if (LiveReadings::IsRate(series))

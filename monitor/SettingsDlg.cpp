@@ -15,7 +15,7 @@ namespace {
 
 constexpr const char* kStyleNames[] = {"Lines", "Bars", "Two axes"};
 constexpr const char* kTitleStyleNames[] = {"Text", "Caption band"};
-constexpr int kSwatchMargin = 4; // pixels
+constexpr int kSwatchMargin = 4; // pixels from the button's edge to its colour
 
 template <class Choices, class Predicate> int IndexOf(const Choices& choices, Predicate predicate) {
     const auto found = std::find_if(choices.begin(), choices.end(), predicate);

@@ -12,7 +12,7 @@ using recording::PaneWidths;
 
 namespace {
 
-constexpr int kTextMargin = 16; // pixels around the text of a pane
+constexpr int kTextMargin = 16; // pixels on the left and right of a pane's text, together
 constexpr int kGripRoom = 16;   // pixels of the sizing grip in the last pane
 constexpr int kPanes = 3;
 

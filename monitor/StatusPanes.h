@@ -18,9 +18,9 @@ struct StatusTexts {
     std::string summary;              ///< summary of the files that were read
 };
 
-/// A status bar of three panes, whose widths follow from the longest forms of their texts. A pane shows the
-/// first form that fits, or the last one cut. Only panes whose text changes are written, so that the others
-/// do not flicker.
+/// A status bar of three panes (two without a summary), whose widths follow from the longest forms of their
+/// texts. A pane shows the first form that fits, or the last one cut. Only panes whose text changes are
+/// written, so that the others do not flicker.
 class CStatusPanes : public CStatusBarCtrl {
 public:
     /// Creates the bar at the parent's lower edge.
@@ -30,12 +30,12 @@ public:
     /// width has changed.
     void Show(const StatusTexts& texts);
 
-    /// Resets the width of the pointer pane, for other data. Until then the width only grows, so that the
-    /// panes do not move with every text.
+    /// Resets the width of the pointer pane, for other data. Until then, the width that the pane wants for
+    /// its texts only grows, so that the panes do not move with every text.
     void ForgetPointerRoom() { m_pointerRoom = 0; }
 
 private:
-    int m_pointerRoom = 0; ///< width that the pointer pane wants, in pixels
+    int m_pointerRoom = 0; ///< width that the pointer pane wants when it has a text, in pixels
     recording::PaneWidths m_widths;
     std::string m_shown[3]; ///< the panes' current texts
 };

@@ -41,8 +41,8 @@ int CPieChartCtrl::GetPieceIndex(double dAngle) {
     return -1;
 }
 
-/// Sends NM_CLICK to the parent. False when the parent has destroyed the window, or deleted the control, while
-/// it handled the notification: the caller must not touch the control then.
+/// Sends NM_CLICK to the parent. False when the parent has destroyed the window, or deleted the control,
+/// while it handled the notification: the caller must not touch the control then.
 bool CPieChartCtrl::NotifyClick(UINT nFlags, int nIndex) {
     const HWND window = m_hWnd;
     const HWND parent = ::GetParent(window);

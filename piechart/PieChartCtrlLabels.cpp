@@ -21,7 +21,7 @@ constexpr int kLeaderWidth = 1;
 
 CString PercentText(const CPieChartPiece& piece) {
     constexpr double kPercent = 100.0;
-    constexpr double kHighest = 1e9; // a higher percentage could have hundreds of digits
+    constexpr double kHighest = 1e9; // higher percentages have no text: it could have hundreds of digits
     const double percent = piece.m_dValue / piece.m_dTotal * kPercent;
     if (!(std::fabs(percent) <= kHighest))
         return CString();

@@ -9,7 +9,7 @@ namespace kavlix {
 namespace {
 
 constexpr char kDots[] = "...";
-constexpr int kLeastCharacters = 2; // at the beginning of an abbreviation
+constexpr int kLeastCharacters = 2; // least number before the dots of an abbreviation worth reading
 
 /// The number of bytes at the beginning of `a` that `b` begins with too, without cutting a character.
 int CommonBytes(const CString& a, const CString& b) {
@@ -19,7 +19,7 @@ int CommonBytes(const CString& a, const CString& b) {
     return WholeCharacters(a, a.GetLength(), bytes);
 }
 
-/// The first `bytes` bytes of the label, dots, and `tail`.
+/// The first `bytes` bytes of the label without blanks at their end, dots, and `tail`.
 CString Cut(const CString& label, int bytes, const CString& tail) {
     CString cut = label.Left(bytes);
     cut.TrimRight();
@@ -28,7 +28,8 @@ CString Cut(const CString& label, int bytes, const CString& tail) {
 
 /// The most bytes of the label's beginning with which Cut() stays within `width`; 0 when no character fits.
 int FittingBytes(const CDC& dc, const CString& label, const CString& tail, int width) {
-    constexpr int kMostBytesPerUnit = 4; // per logical unit of text width: the most bytes of a code point
+    // A code point has at most 4 bytes, and counts as at least one logical unit wide.
+    constexpr int kMostBytesPerUnit = 4;
     return kavlix::FittingBytes(label, kMostBytesPerUnit * width, [&](int bytes) {
         return MeasureText(dc, Cut(label, bytes, tail)).cx <= width;
     });

@@ -22,8 +22,8 @@ std::vector<SharedBeginning> FindSharedBeginnings(const std::vector<CString>& la
 /// differs from all other labels, otherwise "Depar...17". Empty when no such text fits. No character is cut.
 CString AbbreviateLabel(const CDC& dc, const CString& label, const SharedBeginning& shared, int width);
 
-/// The least width, in logical units, at which AbbreviateLabel() gives a text worth reading: one with at
-/// least two characters before the dots that differs from all other labels.
+/// The least width, in logical units, at which AbbreviateLabel() gives an abbreviation worth reading: one
+/// with at least two characters before the dots that differs from all other labels.
 int NarrowestLabel(const CDC& dc, const CString& label, const SharedBeginning& shared);
 
 } // namespace kavlix

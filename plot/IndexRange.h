@@ -23,7 +23,8 @@ IndexRange IndicesBetween(double min, double max, int count);
 /// Those of `count` samples that a line needs to look complete between the positions `from` and `to`, in
 /// logical units: the samples with a position in this range and at least one neighbour on either side, so
 /// that the line enters and leaves the range in the right direction. The caller widens the range by the reach
-/// of pens and markers. All samples when `xMap` is not monotonic.
+/// of pens and markers. All samples when `xMap` is not monotonic, and when it gives `from` or `to` no finite
+/// value.
 IndexRange IndicesToDraw(const LinearMap& xMap, int from, int to, int count);
 
 } // namespace kavlix

@@ -8,7 +8,8 @@
 
 namespace kavlix {
 
-/// Converts the values of a visible range into positions along a plot edge, in logical units.
+/// Converts the values of a visible range into positions along a plot edge, in logical units; in CChartDraw
+/// in pixels.
 ///
 /// `min` lies at the position `edge`, `max` at `edge` + `extent`. An axis that grows upwards has its edge at
 /// the plot's bottom and a negative extent. Values outside the range get positions outside the plot.
@@ -26,8 +27,8 @@ public:
         return ToCoordinate(position);
     }
 
-    /// Position of `value`, neither truncated nor limited. NaN for NaN, for a range of 0, and where an
-    /// infinite range leaves the position undefined.
+    /// Position of `value`, neither truncated nor limited. NaN for NaN, for a range of 0, and where infinite
+    /// numbers leave the position undefined.
     double ExactPosition(double value) const {
         return m_range == 0 ? std::nan("") : (value - m_min) * m_extent / m_range + m_edge;
     }
@@ -47,7 +48,7 @@ public:
     int Edge() const { return m_edge; }
     double Min() const { return m_min; }
     double Range() const { return m_range; }
-    /// Logical units per unit of value.
+    /// Change of the position per unit of value.
     double Slope() const { return m_extent / m_range; }
 
 private:

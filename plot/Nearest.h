@@ -8,7 +8,7 @@ namespace kavlix {
 
 /// The item among `first` to `last` whose position is nearest to `x`; the first one of equally near items.
 /// There is at least one item. `at(i)` is the position of item `i`. The positions never decrease when
-/// `ascending`, and never increase otherwise. Takes two binary searches.
+/// `ascending`, and never increase otherwise. Takes at most two binary searches.
 template <class Position>
 int NearestInOrder(int first, int last, bool ascending, std::int64_t x, Position at) {
     const auto firstNotBefore = [&](std::int64_t wanted) {

@@ -9,8 +9,8 @@ namespace kavlix {
 
 constexpr double kPi = 3.14159265358979323846;
 
-/// The largest coordinate, in either direction, that is given to GDI. Positions are limited to this value, so
-/// marker sizes and margins can be added without overflow.
+/// Positions are limited to this value, in both directions, before GDI gets them. So marker sizes and margins
+/// can be added to them without overflow.
 constexpr int kCoordinateLimit = 1 << 27;
 
 /// The largest number of UTF-16 units that GDI draws in one call.

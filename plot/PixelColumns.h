@@ -21,9 +21,9 @@ struct PixelColumn {
 };
 
 /// Groups the samples of `range` by the pixel columns of `edges`. `at(i)` is the position of sample i in
-/// logical units. The positions are in ascending or in descending order. Samples outside `edges` are left
-/// out, except the last one before and the first one after the samples inside; each of these two is a column
-/// of its own. Reads a few positions per column.
+/// logical units. The positions are in ascending or in descending order. Of the samples outside `edges` only
+/// two are kept, each as a column of its own: the last one that comes before the pixels of `edges`, and the
+/// first one that comes after them. Reads a few positions per column.
 template <class Position>
 std::vector<PixelColumn> GroupByColumn(IndexRange range, const PixelEdges& edges, Position at) {
     std::vector<PixelColumn> columns;

@@ -11,7 +11,8 @@ namespace kavlix {
 class PixelEdges {
 public:
     PixelEdges() = default;
-    /// `edges` are in ascending order, one more than there are pixels.
+    /// `first` is the number of the first pixel. `edges` are in ascending order, one more than there are
+    /// pixels.
     PixelEdges(int first, std::vector<int> edges);
 
     bool IsEmpty() const { return m_edges.size() < 2; }

@@ -10,12 +10,13 @@ namespace kavlix {
 /// The pixels that GDI paints for a stroke with a pen one pixel wide. A step goes one pixel along the longer
 /// side of the stroke's bounding box, a move one pixel along the shorter side. Each step leads to a new
 /// pixel. The line also moves when the pixel in the next row or column is nearer to the exact line. Halfway
-/// between two pixels, it takes the smaller coordinate, whatever the stroke's direction. The pixel of the end
-/// point is not painted.
+/// between two pixels, the line takes the one with the smaller coordinate, whatever the stroke's direction.
+/// The pixel of the end point is not painted.
 class PixelLine {
 public:
     PixelLine(const Point& from, const Point& to);
 
+    /// Whether the steps go along y.
     bool IsSteep() const { return m_isSteep; }
     /// Number of steps from the start to the end point.
     std::int64_t Steps() const { return m_along; }

@@ -17,8 +17,9 @@ struct DotPattern {
 };
 
 /// Paints into the 32-bit pixels of a picture: strokes as of a solid GDI pen one pixel wide, areas as of a
-/// solid GDI brush. The pixels are the same as GDI's for coordinates of up to 28 bits. Pixels outside the
-/// clip are not changed. For lines of many points use ThinLine, which is faster.
+/// solid GDI brush. For coordinates of up to 28 bits the pixels are the same as GDI's on most systems; see
+/// DirectRaster, which checks this. Pixels outside the clip are not changed. For lines of many points use
+/// ThinLine, which is faster.
 class PixelRaster {
 public:
     /// `origin` points to the pixel (0, 0). `stride` is the distance in pixels from a row to the row below

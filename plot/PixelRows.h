@@ -12,8 +12,8 @@ namespace kavlix {
 /// The pixel rows of values. The result is always the row of LinearMap::Position.
 ///
 /// The exact way divides and truncates in LinearMap::Position and looks the position up in PixelEdges. When
-/// all rows have the same height, the fast way finds the same row with one multiplication. Next to a row's
-/// edge rounding errors decide about the row, so there the exact way is taken.
+/// all rows have the same height, the fast way finds the row of most values with one multiplication. Next to
+/// a row's edge rounding errors decide about the row, so there the exact way is taken.
 class PixelRows {
 public:
     /// `map` must be monotonic. `map` and `edges` must outlive this object.
@@ -33,14 +33,14 @@ public:
 
     /// Compares each of the `count` values at `values` with the value before it; values[-1] must exist. The
     /// result is the lowest and the highest of the values that lie on another row than the value before. When
-    /// there is no such value, `low` is greater than `high`. Empty when the fast way cannot find all rows:
-    /// for values beyond the edges or next to an edge, and for NaN.
+    /// there is no such value, `low` is greater than `high`. Empty for NaN and for values beyond the edges.
+    /// May also be empty where the exact way is needed, for example next to a row's edge.
     std::optional<Extremes> ExtremesOfMoves(const double* values, int count) const;
 
 private:
     int Exact(double value) const;
 
-    static constexpr double kNearEdge = 1e-6; ///< in rows; nearer to a row's edge the exact way is taken
+    static constexpr double kNearEdge = 1e-6; ///< rows; values closer to a row's edge take the exact way
 
     const LinearMap& m_map;
     const PixelEdges& m_edges;

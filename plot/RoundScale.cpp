@@ -21,7 +21,7 @@ constexpr double kRoomAround = 0.5; // space on each side of a single value, as 
 /// as this multiple.
 constexpr double kRounding = 1e-9;
 constexpr int kMostDecimals = 12;
-constexpr std::size_t kLongestPlainLabel = 8;
+constexpr std::size_t kLongestPlainLabel = 8; // characters
 
 /// `value` * 10^`exponent`. The intermediate results do not overflow.
 double Shift(double value, int exponent) {

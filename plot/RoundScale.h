@@ -14,15 +14,15 @@ public:
     /// 0 to 1 in steps of 0.2.
     RoundScale() = default;
 
-    /// A scale for `values`. Its step is the finest round step that divides the range into at most
-    /// `mostSteps` parts; its range is widened to multiples of the step. A `mostSteps` below 2 counts as 2.
+    /// A scale for `values`. Its range is widened to multiples of the step. The step is the finest round step
+    /// that divides the widened range into at most `mostSteps` parts. A `mostSteps` below 2 counts as 2.
     /// Without values the range is 0 to 1. A single value, or a range too narrow for ticks in between, gets
     /// space on both sides.
     static RoundScale Around(const ValueBounds& values, int mostSteps);
     /// A scale with the range that the host sets: `min` < `max`, both finite. A positive `step` is kept if it
     /// divides the range into at most `mostSteps` parts; otherwise a multiple of `step` is used. A `step` of
     /// 0, or one that is far too small for the range, is replaced by a round step as in Around. `step` must
-    /// not be negative. A range too narrow for ticks in between gets space on both sides.
+    /// not be negative. A range too narrow for ticks in between is replaced by a wider one as in Around.
     static RoundScale Fixed(double min, double max, double step, int mostSteps);
 
     double Min() const { return m_min; }
@@ -31,7 +31,7 @@ public:
     int TickCount() const { return m_count; }
     /// Value of tick `i`, 0 to TickCount() - 1, ascending.
     double Tick(int i) const;
-    /// Number of decimal places with which all tick labels differ.
+    /// Number of decimal places that the step needs; for the host's step, or a multiple of it, at most 12.
     int Decimals() const { return m_decimals; }
     /// The label of tick `i`: a number with Decimals() places. When such labels are long, a number with a
     /// power of ten such as "2.5e9" is used if it is shorter.

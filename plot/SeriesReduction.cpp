@@ -7,7 +7,8 @@
 namespace kavlix {
 namespace {
 
-constexpr std::size_t kLongestPart = 64; // for wide pens GDI's time grows with the square of this number
+// Points in a part. For wide pens GDI's time grows with the square of this number.
+constexpr std::size_t kLongestPart = 64;
 constexpr unsigned kLeft = 1;
 constexpr unsigned kRight = 2;
 constexpr unsigned kAbove = 4;

@@ -20,8 +20,8 @@ namespace kavlix {
 /// The points may come in any order of x. The memory in use does not depend on their number.
 class SeriesReduction {
 public:
-    /// Receives a part of the line, at least 2 points. When a line comes in several parts, each part begins
-    /// with the last point of the previous part.
+    /// Receives a part of the line, at least 2 points. A line of a single point is not passed on. When a line
+    /// comes in several parts, each part begins with the last point of the previous part.
     using Sink = std::function<void(const Point* points, int count)>;
 
     /// `view` is the visible area, enlarged on all sides by Reach of the pen, in device pixels as Add takes

@@ -74,8 +74,8 @@ Slope SimpleSlope(const PixelLine& line, std::int64_t steps) {
 
 /// Brings both ends of a stroke of any width nearer to `window`. The ends lie outside the window, which holds
 /// the view and the pen's reach around it. Inside the window each edge of the new stroke has the same pixels
-/// on either side as the edge of the old stroke. False when the stroke misses the window. Ends that are not
-/// far enough away stay.
+/// on either side as the edge of the old stroke. False when the stroke misses the window. Both ends stay when
+/// one of them is not far enough away.
 ///
 /// GDI treats a pixel position exactly on an edge as lying to the right of the edge. So the stroke may be
 /// shifted onto the nearest pixel position on its right, and turned around this position until it meets

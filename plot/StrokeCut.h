@@ -29,7 +29,8 @@ Point NearerEnd(const Point& from, const Point& to, std::int64_t steps);
 /// Brings the far ends of a wide stroke nearer to `view`: GDI needs time for the whole length of a stroke,
 /// also where it is clipped. A pen of `penPixels` paints the same pixels of `view` as before. All positions
 /// are device pixels. `isFromFar` and `isToFar` tell which ends are far; an end that is not far stays. False,
-/// with both ends unchanged, when both ends are far and the stroke misses the view.
+/// with both ends unchanged, when both ends are far and the stroke misses the view by more than twice
+/// `penPixels`; it then paints no pixel of the view.
 bool BringFarEndsNearer(Point& from, Point& to, bool isFromFar, bool isToFar, const Rect& view,
                         int penPixels);
 

@@ -10,8 +10,9 @@
 namespace kavlix {
 
 /// Paints a line one pixel wide through points that come one by one. The pixels are those of single strokes
-/// from point to point: the pixel of the last point is not painted. The rows that the line covers in one
-/// pixel column are collected and painted together, so the time depends on the pixels, not on the points.
+/// from point to point: the pixel of the last point is not painted. The rows that successive strokes cover in
+/// one pixel column are collected and painted together, so where these strokes overlap, a pixel is painted
+/// only once.
 class ThinLine {
 public:
     ThinLine(const PixelRaster& raster, std::uint32_t colour) : m_raster(raster), m_colour(colour) {}
@@ -63,7 +64,7 @@ private:
     }
     void Paint() const { m_raster.Run(m_x, m_top, m_bottom, m_colour); }
     /// Draws a stroke to a neighbouring column: one half lies in the old column, the other half in the new
-    /// one. A pixel exactly halfway belongs to the smaller coordinate, as in PixelLine.
+    /// one. A pixel exactly halfway is painted in the left column, as PixelLine takes the smaller coordinate.
     void ToNextColumn(int x, int y) {
         const int from = m_y;
         const int length = std::max(std::abs(y - from), 1);

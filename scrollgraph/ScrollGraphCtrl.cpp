@@ -10,11 +10,11 @@ namespace {
 
 constexpr UINT kScrollBarId = 100;
 
-// Place of the scroll bar along the bottom edge of the client area, pixels.
-constexpr int kBarLeft = 30;  // from the left edge
-constexpr int kBarRight = 80; // from the right edge
-constexpr int kBarTop = 15;   // from the bottom edge
-constexpr int kBarHeight = 14;
+// Place of the scroll bar along the bottom edge of the client area.
+constexpr int kBarLeft = 30;   // pixels from the client area's left edge to the bar's left edge
+constexpr int kBarRight = 80;  // pixels from the bar's right edge to the client area's right edge
+constexpr int kBarTop = 15;    // pixels from the bar's top edge to the client area's bottom edge
+constexpr int kBarHeight = 14; // pixels
 
 } // namespace
 
@@ -60,7 +60,7 @@ void CScrollGraphCtrl::OnSize(UINT nType, int cx, int cy) {
     UpdateScrollInfo();
 }
 
-/// The control paints its whole client area, the scroll bar's too, so the bar must be drawn again on top.
+/// The control paints its whole client area, also over the scroll bar. So the bar must be drawn again.
 void CScrollGraphCtrl::RaiseScrollBar() {
     if (!::IsWindow(m_wndScrollBar.m_hWnd))
         return;

@@ -112,8 +112,9 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
     const std::int64_t begin =
         std::int64_t{m_rectPlot.left} + ToCoordinate(UnitsPerSecond() * ticks.FirstOffset());
     const auto place = [&](std::int64_t tick) { return begin + tick * spacing; };
-    // Only ticks are drawn that can be visible, or whose labels can: those in the client area and up to
-    // `reach` logical units outside. With a spacing of 0 there is one tick.
+    // Draw only ticks that can be visible or whose labels can: those up to the plot's right edge that lie in
+    // the client area or at most `reach` logical units outside. With a spacing of 0 there is at most one
+    // tick.
     const std::int64_t reach = 2 * std::int64_t{height};
     const auto ticksBefore = [&](std::int64_t x) {
         return x <= begin ? 0 : spacing > 0 ? (x - begin + spacing - 1) / spacing : 1;

@@ -32,6 +32,7 @@ public:
     /// `rules` must outlive the clock. Several clocks may use the same rules, one after the other.
     explicit SystemClock(ZoneRules& rules) : m_rules(rules) { m_rules.Refresh(); }
 
+    /// 1970-01-01 00:00:00 for a time that the system cannot convert.
     CalendarTime ToLocal(std::int64_t time) const override;
     /// Seconds since 1970-01-01 00:00 UTC at a local time; none when the calendar has no such day or the
     /// clock no such time. For a time that daylight saving skips or repeats, the system chooses the moment.

@@ -56,7 +56,7 @@ private:
     PixelSet& m_lonePixels;
     Place m_last;
     Point m_first;          ///< pixel of the line's first point
-    bool m_isLone = false;  ///< all points of the line so far fall on m_first
+    bool m_isLone = false;  ///< the line has points, and all of them fall on m_first
     bool m_started = false; ///< the line has a point
 };
 

@@ -9,7 +9,7 @@
 namespace kavlix {
 namespace {
 
-constexpr int kFewPoints = 4; // in a column; up to this number all points are passed on
+constexpr int kFewPoints = 4; // a column with at most this number of points passes on all of them
 
 } // namespace
 
@@ -22,8 +22,8 @@ void ChartReduction::Run() {
     m_line.End();
 }
 
-/// Deals with a block of points as a whole if possible. False otherwise: the parts of the block are then tried
-/// one by one.
+/// Deals with a block of points as a whole if possible. False otherwise: the parts of the block are then
+/// tried one by one.
 bool ChartReduction::TakeBox(const PointBox& box, int first, int last) {
     if (box.HasGap())
         return false;

@@ -7,11 +7,11 @@
 
 namespace kavlix {
 
-/// Passes the points of a series to a ChartLine, at a cost that grows with the pixels and not with the
-/// points. Of consecutive points in one pixel column only those that can change a pixel are passed on; of
-/// consecutive points beyond the same edge of the view, only the first and the last. The picture is the
-/// same, pixel for pixel, as that of all points. Lines that go back and forth between columns are passed
-/// on point by point.
+/// Passes the points of a series to a ChartLine and leaves out points that change no pixel. The picture is
+/// the same, pixel for pixel, as that of all points. For many consecutive points in one pixel column, only a
+/// few points are passed on, among them the extremes; for a block of points (see PointBoxTree) beyond one
+/// edge of the view, only the first and the last. So where x ascends, the cost grows with the pixels and not
+/// with the points. Lines that go back and forth between columns are passed on point by point.
 class ChartReduction {
 public:
     /// A pen at a point outside `view` must not paint a visible pixel. All references must outlive this

@@ -19,7 +19,7 @@ struct ChartPoint {
     bool IsGap() const { return x != x || y != y; } // NaN
 };
 
-constexpr std::size_t kPointsPerChunk = 256; ///< points of a chunk, which are contiguous in memory
+constexpr std::size_t kPointsPerChunk = 256; ///< number of points in a chunk, contiguous in memory
 using ChartPoints = ChunkedArray<ChartPoint, kPointsPerChunk>;
 
 /// The bounding box of some points. All values are NaN when one of the points is a gap.
@@ -61,8 +61,9 @@ public:
 
     /// Visits the points from `begin` to before `end` in order. `takeBox(box, first, last)` is called for the
     /// largest blocks first. The result true means that the whole block is dealt with; otherwise the blocks
-    /// inside it are tried. The points of a block of 32 that remain are passed to `takePoints(first,
-    /// behind)`, from `first` to before `behind`; these points are contiguous in memory.
+    /// inside it are tried. All points outside the blocks that are dealt with are passed to
+    /// `takePoints(first, behind)`, at most 32 at a time, from `first` to before `behind`; these points are
+    /// contiguous in memory.
     template <class TakeBox, class TakePoints>
     void Visit(int begin, int end, TakeBox takeBox, TakePoints takePoints) const {
         std::size_t next = static_cast<std::size_t>(begin);

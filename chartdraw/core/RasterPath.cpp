@@ -8,9 +8,10 @@
 namespace kavlix {
 namespace {
 
-constexpr int kBlock = 32;   // columns
-constexpr int kLongJump = 8; // columns; shorter strokes go to ThinLine without a look at painted rows
-constexpr double kUnknown = std::numeric_limits<double>::infinity(); // value of Block::top: must be found
+constexpr int kBlock = 32;   // columns in a block
+constexpr int kLongJump = 8; // columns; ThinLine paints shorter strokes without a look at painted rows
+// Value of Block::top while the block's common rows must be found again.
+constexpr double kUnknown = std::numeric_limits<double>::infinity();
 
 } // namespace
 

@@ -16,7 +16,7 @@ namespace kavlix {
 ///
 /// A line whose points come in random order of x covers the same pixels many times. So this class remembers a
 /// range of painted rows for each pixel column, and for each block of columns the rows that are painted in
-/// all of its columns. A stroke is painted only in blocks where it may leave those rows.
+/// all of its columns. A long stroke is painted only in the blocks where it may leave these rows.
 class RasterPath : public PixelPath {
 public:
     RasterPath(const PixelRaster& raster, std::uint32_t colour);

@@ -10,16 +10,17 @@ struct BoxStatistics {
     double lowerQuartile = 0;
     double median = 0;
     double upperQuartile = 0;
-    int lowerWhisker = 0; ///< the lowest value at most 1.5 interquartile ranges below the lower quartile
-    int upperWhisker = 0; ///< the highest value at most 1.5 interquartile ranges above the upper quartile
+    int lowerWhisker = 0; ///< lowest value >= lowerQuartile - 1.5 * (upperQuartile - lowerQuartile)
+    int upperWhisker = 0; ///< highest value <= upperQuartile + 1.5 * (upperQuartile - lowerQuartile)
 
     /// Whether a value lies beyond the whiskers.
     bool IsOutlier(int value) const { return value < lowerWhisker || value > upperWhisker; }
 };
 
-/// Computes `statistics` of `values`. With n values in ascending order, counted from 0, quartile p lies at
-/// rank p * (n - 1). At a fractional rank the quartile is interpolated between the two neighbouring values.
-/// All five figures of a single value are equal to the value. False when there are no values.
+/// Computes `statistics` of `values`. With n values in ascending order, counted from 0, quartile p (0.25, 0.5
+/// or 0.75) lies at rank p * (n - 1). At a fractional rank the quartile is interpolated between the two
+/// neighbouring values. All five figures of a single value are equal to the value. False, and `statistics`
+/// unchanged, when there are no values.
 bool ComputeBoxStatistics(std::vector<int> values, BoxStatistics& statistics);
 
 } // namespace kavlix

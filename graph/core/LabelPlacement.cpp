@@ -95,8 +95,8 @@ LabelSpread SpreadBelow(LabelSize size, int angle, double distance, double gap, 
                 return {1, row};
         return {Every(size.width + gap, distance), 1};
     }
-    // Two turned texts do not overlap when, seen in the direction of the texts, one lies below the other
-    // (`passing`) or ends before the other begins (`following`).
+    // Two turned texts do not overlap if, seen in the direction of the texts, one lies below the other or
+    // ends before the other begins. `passing` and `following` are distances between ticks that ensure this.
     const double passing = (size.height + gap) / std::abs(turn.sin);
     const double following =
         turn.cos == 0 ? passing : (size.width + size.height * std::abs(turn.sin) + gap) / std::abs(turn.cos);

@@ -43,13 +43,14 @@ double LongestText(double height, int angle, double across, double down);
 
 /// Which labels along an axis are drawn, so that none overlap.
 struct LabelSpread {
-    std::int64_t every = 1; ///< every 1st, 2nd, 3rd ... label is drawn
-    int rows = 1;           ///< number of rows; neighbouring labels stand in different rows
+    std::int64_t every = 1; ///< 1: all labels are drawn; n: every n-th label
+    int rows = 1;           ///< number of rows; if 2 or more, neighbouring labels stand in different rows
 };
 
 /// The spread of labels of at most `size`, turned by `angle`, along a horizontal axis. The ticks are
-/// `distance` apart, and `gap` stays free between two labels. Only labels at 0 and 180 degrees use more than
-/// one row, at most `rows`.
+/// `distance` apart, and at least `gap` stays free between two labels of a row. Labels at 0 and 180 degrees
+/// take up to `rows` rows if all of them fit in these rows. In all other cases there is one row, and labels
+/// that would overlap are left out.
 LabelSpread SpreadBelow(LabelSize size, int angle, double distance, double gap, int rows);
 
 /// The spread of labels along a vertical axis, with parameters as in SpreadBelow.

@@ -13,7 +13,7 @@ namespace {
 
 /// Points of an arc, so close together that their polygon looks round.
 std::vector<PlanePoint> ArcPoints(const PieOutline& pie, double start, double sweep) {
-    constexpr double kMostOff = 0.1;    // logical units; greatest distance from the arc to an edge
+    constexpr double kMostOff = 0.1;    // logical units; greatest distance from the arc to the polygon
     constexpr double kLongestStep = 15; // degrees between two points
     const double step = DegreesOf(2 * std::acos(1 - kMostOff / std::max(pie.radiusX, 1.0)));
     const int steps = std::max(1, static_cast<int>(std::ceil(sweep / std::min(step, kLongestStep))));

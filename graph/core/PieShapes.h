@@ -21,10 +21,11 @@ struct Sector {
     bool Holds(double angle) const;
 };
 
-/// The sectors of `values`, in the same order, 360 degrees together. Values of 0 and below have no sector.
+/// A sector for each positive value, in the same order. Together the sectors, if any, have 360 degrees.
 std::vector<Sector> MakeSectors(const std::vector<KeyedValue>& values);
 
-/// The outline of a pie: an ellipse. `radiusX` is half its width, `radiusY` half its height.
+/// The outline of a pie: an ellipse. `radiusX` is half its width, `radiusY` half its height. Angles are those
+/// of the circle before it is tilted.
 struct PieOutline {
     PlanePoint centre;
     double radiusX = 0;
@@ -34,8 +35,8 @@ struct PieOutline {
     PlanePoint At(double angle, double reach = 1) const;
     /// The length of a sector's arc on a circle of radius `radiusX`: as if the pie were not tilted.
     double ArcLength(const Sector& sector) const;
-    /// Whether `box` lies in the sector, and a little inside the outline. Checks the corners only: the caller
-    /// makes sure that the middle of the box lies in the sector.
+    /// Whether `box` lies in the sector and keeps a small distance from the outline. Checks the corners only:
+    /// the caller makes sure that the middle of the box lies in the sector.
     bool Holds(const Sector& sector, const PlaneRect& box) const;
 };
 
@@ -62,9 +63,9 @@ struct PieGrid {
     int rows = 1;
 };
 
-/// Arranges `count` boxes in a room of `width` x `height` so that the pies become as large as possible.
+/// Arranges `count` boxes in an area of `width` x `height` so that the pies become as large as possible.
 /// `radius(w, h)` is the radius of a pie in a box of width w and height h. A box is at least `smallest` wide
-/// and high, unless the room is smaller. When not all boxes have room, the grid has fewer than `count`.
+/// and high, unless the area is smaller. If fewer than `count` boxes fit, the grid has as many as fit.
 PieGrid ArrangePies(int count, double width, double height, double smallest,
                     const std::function<double(double, double)>& radius);
 

@@ -23,7 +23,7 @@ public:
     double High() const { return std::max(m_first, m_second); }
     double Clamp(double value) const { return std::clamp(value, Low(), High()); }
     bool Contains(double value) const { return value >= Low() && value <= High(); }
-    /// The value that bars start from: 0, or the limit nearest to 0.
+    /// The value that bars start from: 0, or the limit nearest to 0 if 0 lies outside the limits.
     double Base() const { return Clamp(0); }
     /// Whether 0 lies between the limits; a limit of 0 does not count.
     bool CrossesZero() const { return Low() < 0 && High() > 0; }

@@ -7,8 +7,8 @@
 
 namespace kavlix {
 
-/// The lower edge of a graph that is printed from `top` down: four inches below, or `bottom` if that is
-/// higher. In twips, y grows upwards.
+/// The lower edge of a graph that is printed from `top` down: four inches below `top`, or `bottom` if
+/// `bottom` is higher. All in twips; y grows upwards.
 inline int PrintedBottom(int top, int bottom) {
     constexpr std::int64_t kFourInches = 4 * 1440;
     return static_cast<int>(

@@ -7,7 +7,7 @@ namespace kavlix {
 
 /// The ticks of an axis of whole numbers. Tick i has the value anchor + i * step. The axis has the ticks
 /// `first` to `last` in strides of `every`. Ticks whose i is a multiple of `labelEvery` have a label, so the
-/// tick at the anchor keeps its label however few labels there are.
+/// tick at the anchor (i = 0) has one however few labels there are.
 struct ScaleTicks {
     std::int64_t anchor = 0;
     std::int64_t step = 1;
@@ -21,12 +21,13 @@ struct ScaleTicks {
 };
 
 /// Chooses the ticks of an axis from `min` to `max`, in either order, in steps of `step`. The sign of `step`
-/// is ignored; 0 stands for a tenth of the range, at least 1.
+/// is ignored; 0 stands for a tenth of the range, rounded down, at least 1.
 ///
 /// `extent` is the length of the axis. Ticks are at least `tickGap` apart and labels at least `labelGap`, in
-/// the unit of `extent`. Where they would be closer, only every 2nd, 5th, 10th, 20th ... remains. The anchor
-/// is 0 when `fromZero` is true or when a tick counted from `min` falls on 0; otherwise the anchor is `min`.
-/// The running time does not depend on the range.
+/// the unit of `extent`. Where ticks would be closer, only every 2nd, 5th, 10th, 20th ... tick remains. Where
+/// labels would be closer, only every 2nd, 5th, 10th, 20th ... remaining tick has a label. The anchor is 0
+/// when `fromZero` is true, or when a tick counted from `min` falls on 0 and 0 is neither limit; otherwise
+/// the anchor is `min`. The running time does not depend on the range.
 ScaleTicks ChooseTicks(std::int64_t min, std::int64_t max, std::int64_t step, double extent, double tickGap,
                        double labelGap, bool fromZero = false);
 
@@ -37,8 +38,9 @@ struct RoundLimits {
     std::int64_t step = 1;
 };
 
-/// Limits that enclose the numbers from `low` to `high` and are multiples of the step. The step is 1, 2 or 5
-/// times a power of ten, so large that the axis has about `steps` steps or fewer.
+/// Limits that enclose the numbers from `low` to `high` and are multiples of the step. The step is the
+/// smallest of 1, 2, 5, 10, 20 ... that fits at most `steps` times into the range from `low` to `high`. If
+/// `low` equals `high`, the range is first widened by 1 at each end.
 RoundLimits ChooseLimits(std::int64_t low, std::int64_t high, int steps);
 
 } // namespace kavlix

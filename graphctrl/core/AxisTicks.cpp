@@ -28,7 +28,7 @@ int Precision(int decimals) {
 } // namespace
 
 std::string FormatTick(double value, int decimals) {
-    // A double has at most this many decimal places that are not 0. The rest is appended as zeros.
+    // The exact value of a double has at most this many decimal places. Further places are appended as zeros.
     constexpr int kRealDecimals = 1074;
     const int precision = std::min(Precision(decimals), kRealDecimals);
     const int length = std::snprintf(nullptr, 0, "%.*f", precision, value);

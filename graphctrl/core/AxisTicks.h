@@ -29,15 +29,15 @@ private:
 /// above 8192 as 8192.
 std::string FormatTick(double value, int decimals);
 
-/// Largest number of characters that FormatTick returns for `decimals` decimal places.
+/// A number of characters that no result of FormatTick for `decimals` decimal places exceeds.
 int LongestTick(int decimals);
 
-/// Where labelled ticks may stand along the X axis, in logical units.
+/// Where labelled ticks may stand along the X axis.
 struct TickRoom {
-    int left = 0;   ///< where the axis begins
-    int minGap = 0; ///< least distance from `left` to the second tick
-    int from = 0;   ///< left end of the visible part; ticks further left are not made
-    int to = 0;     ///< right end of the visible part
+    int left = 0;   ///< where the axis begins, logical units
+    int minGap = 0; ///< least distance from `left` to the second tick, logical units
+    int from = 0;   ///< left end of the part where ticks or labels can be visible, logical units
+    int to = 0;     ///< right end of the part where ticks or labels can be visible, logical units
 };
 
 /// Chooses which of many points along the X axis get a labelled tick.
@@ -48,7 +48,8 @@ struct TickRoom {
 /// of ticks are found by binary search, so the cost grows with the number of ticks and not of points.
 ///
 /// The positions `xOf(0)`, `xOf(1)`, ... of the `count` points never decrease. `nextColumn(x)` is the first
-/// position right of `x` in another device column. `emit(k, x)` is called for each visible tick.
+/// position right of `x` in another device column. `emit(k, x)` is called for each tick from `room.from` to
+/// `room.to`.
 template <class Position, class NextColumn, class Emit>
 void ThinTicks(int count, const TickRoom& room, Position xOf, NextColumn nextColumn, Emit emit) {
     const auto firstFrom = [&](std::int64_t begin, std::int64_t x) {

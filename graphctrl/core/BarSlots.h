@@ -9,7 +9,7 @@ namespace kavlix {
 /// The places of bars: one slot per visible sample index. A slot holds one bar per dataset with samples, side
 /// by side, and then a gap of one bar's width.
 struct BarSlots {
-    int barWidth = 0; ///< logical units
+    int barWidth = 0; ///< width of a bar, logical units
     int datasets = 0; ///< number of datasets with samples, hidden ones included
     int visible = 0;  ///< number of slots
 
@@ -23,9 +23,10 @@ struct BarSlots {
     Rect Band(int slot, const Rect& plot) const;
 };
 
-/// Divides `plotWidth` (logical units) among the samples with `min` <= X <= `max`. The number of slots is the
-/// number of visible samples of the first dataset that has one. `sizes` holds the number of samples of each
-/// of `sizeCount` datasets. False, with `slots` unchanged, when no sample is visible.
+/// Makes one slot for each visible sample (`min` <= X <= `max`) of the first dataset that has one. The slots
+/// share the part of the plot from its left edge to the last visible sample's X. `plotWidth` in logical units
+/// is the distance from `min` to `max`. `sizes` holds the number of samples of each of `sizeCount` datasets.
+/// False, with `slots` unchanged, when no sample is visible.
 bool ComputeBarSlots(const int* sizes, int sizeCount, double min, double max, int plotWidth, BarSlots& slots);
 
 /// Those samples of a dataset with `size` samples that have a slot. Slot 0 belongs to the first sample with

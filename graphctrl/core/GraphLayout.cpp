@@ -8,19 +8,18 @@
 namespace kavlix {
 namespace {
 
-constexpr int kLabelRows = 15; // a label row is 1/15 of the client area's height
-// Lengths in logical units.
-constexpr int kEdgeMargin = 200;    // from the edge of the client area to title, labels and legend
-constexpr int kTitleGap = 500;      // under the title
-constexpr int kCaptionGap = 400;    // under the caption band
-constexpr int kPlotBottomGap = 300; // the X axis' strip of tick marks and the margin at the bottom
-constexpr int kAxisStrip = 100;     // width of a strip of tick marks
-constexpr int kLegendGap = 400;     // the margins left and right of the legend together
-constexpr int kPlotInset = 30;      // width of the Y axis' line
-constexpr int kLineTickRoom = 800;  // width of the plot per X tick in the line styles
-constexpr int kBarTickRoom = 1000;  // width of the plot per X tick in the bar style
-constexpr int kValueTickRoom = 500; // height of the plot per Y tick
-constexpr int kSmallestSide = 51;   // smallest side of a plot or legend that is drawn
+constexpr int kLabelRows = 15;      // a label row is 1/15 of the client area's height
+constexpr int kEdgeMargin = 200;    // from the client area's edge to title, labels and legend, logical units
+constexpr int kTitleGap = 500;      // from the title's row down to the plot, logical units
+constexpr int kCaptionGap = 400;    // from the caption band down to the plot, logical units
+constexpr int kPlotBottomGap = 300; // X axis' strip of tick marks plus margin at the bottom, logical units
+constexpr int kAxisStrip = 100;     // width of a strip of tick marks, logical units
+constexpr int kLegendGap = 400;     // the margins left and right of the legend together, logical units
+constexpr int kPlotInset = 30;      // from the Y axis' strip of tick marks to the plot, logical units
+constexpr int kLineTickRoom = 800;  // width of the plot per X tick in the line styles, logical units
+constexpr int kBarTickRoom = 1000;  // width of the plot per X tick in the bar style, logical units
+constexpr int kValueTickRoom = 500; // height of the plot per tick of a value axis, logical units
+constexpr int kSmallestSide = 51;   // smallest side of a plot or legend that is drawn, logical units
 
 // Type of sums: a host may set any int as a length. The sums saturate when they become coordinates.
 using Wide = std::int64_t;

@@ -12,7 +12,7 @@ namespace {
 constexpr long long kTooFar = 1000000; // logical units
 
 /// Stores the slots in `slots`, and in `indices` those samples of the first dataset with samples that have a
-/// slot. False when there is no bar.
+/// slot. False when no sample is visible, and when bars have the width 0.
 bool FindGroups(const int* sizes, int sizeCount, double min, double max, const Rect& plot, BarSlots& slots,
                 IndexRange& indices) {
     if (!ComputeBarSlots(sizes, sizeCount, min, max, plot.Width(), slots) || slots.barWidth == 0)

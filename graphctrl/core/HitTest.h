@@ -11,9 +11,9 @@ namespace kavlix {
 /// there is no sample or the samples have no positions. A binary search.
 int NearestIndex(const LinearMap& xMap, int count, int x, long long& distance);
 
-/// The same for several datasets: takes the first dataset whose nearest sample is less than 1,000,000 logical
-/// units away from `x`. -1 if no dataset has such a sample. `sizes` holds the number of samples of each of
-/// `sizeCount` datasets.
+/// Takes the first dataset with a sample less than 1,000,000 logical units away from `x`. The result is the
+/// sample of this dataset that is nearest to `x`; -1 if there is no such dataset. `sizes` holds the number of
+/// samples of each of `sizeCount` datasets.
 int NearestIndex(const LinearMap& xMap, const int* sizes, int sizeCount, int x);
 
 /// The sample whose group of bars, widened by half a bar on either side, holds `point` (logical units);

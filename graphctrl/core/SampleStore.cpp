@@ -148,8 +148,8 @@ void SampleStore::AppendToNextBlock(double value) {
     const bool isBlockHere = !m_chunks.empty();
     if (!isBlockHere || LastChunk().End() == end)
         AddChunk(end);
-    // Appending within a block does not update its extremes. They are computed once, when the
-    // next block begins.
+    // Appending within a block does not update the block's extremes. They are computed when the next block
+    // begins.
     if (isBlockHere && m_summarized < end)
         SummarizeBlock(end - kBlock);
     m_summarized = end;

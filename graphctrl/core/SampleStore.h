@@ -15,7 +15,7 @@ namespace kavlix {
 /// takes time in proportion to the number of values removed.
 ///
 /// Values lie in chunks of a fixed size; the first chunks are smaller. The store keeps the extremes (lowest
-/// and highest) of every block of 32 values, of every half and of the whole of every chunk of full size, so
+/// and highest) of full blocks of 32 values, and of the full halves and the whole of chunks of full size, so
 /// that the extremes of a long range are found without reading all values. The extremes lie apart from the
 /// values, so that a search for extremes touches little memory.
 ///
@@ -75,13 +75,15 @@ public:
         std::uint64_t m_size = 0;
     };
 
-    /// Appends a value. Throws std::bad_alloc and changes nothing when memory runs out, and when the number
-    /// of values would exceed the range of an int.
+    /// Appends a value. When memory runs out, nothing changes and the exception of operator new passes on.
+    /// When another block of values could exceed the range of an int, throws std::bad_alloc and changes
+    /// nothing.
     void Append(double value) {
         if (!TryAppend(value))
             AppendToNextBlock(value);
     }
-    /// Appends a value if the last block has room. False, with nothing stored, when the block is full.
+    /// Appends a value if the last block has room. False, with nothing stored, when that block is full or
+    /// there is no block.
     bool TryAppend(double value) {
         if (m_next == m_blockEnd)
             return false;
@@ -110,8 +112,8 @@ public:
     void Prefetch(int i) const;
 
     /// Index of the last of the values `first` to `last` for which `isWanted(value)` is true; `first` - 1 if
-    /// there is none. The search skips every block or half for whose extremes `isUnwanted(extremes)` is true:
-    /// none of its values may be a wanted one.
+    /// there is none. The search skips blocks and halves for whose extremes `isUnwanted(extremes)` is true:
+    /// `isUnwanted` may be true only where no value is wanted.
     template <class IsUnwanted, class IsWanted>
     int FindLast(int first, int last, IsUnwanted isUnwanted, IsWanted isWanted) const {
         std::int64_t end = m_begin + last + 1;
@@ -165,7 +167,8 @@ private:
     static constexpr std::int64_t kBlock = 32;   ///< values of a block
     static constexpr std::int64_t kHalf = 512;   ///< values of half a chunk
     static constexpr std::int64_t kChunk = 1024; ///< values of a chunk
-    /// The first 1024 values lie in small chunks of 32, 32, 64, 128, 256 and 512 values, numbered 0 to 5.
+    /// The values with numbers below 1024 lie in small chunks of 32, 32, 64, 128, 256 and 512 values. These
+    /// chunks have the numbers 0 to 5.
     static constexpr std::int64_t kLastSmallChunk = 5;
     static constexpr std::int64_t kHalvesPerChunk = kChunk / kHalf;
     static constexpr std::int64_t kChunksPerSummary = 16;
@@ -175,8 +178,8 @@ private:
         void operator()(void* memory) const { ::operator delete(memory); }
     };
     using Values = std::unique_ptr<double, Release>;
-    /// The memory of a chunk. A small chunk has the extremes of its blocks behind its values; those of a
-    /// large chunk lie in a summary.
+    /// The memory of a chunk. A small chunk has the extremes of its blocks behind its values; the extremes of
+    /// a large chunk lie in a summary.
     struct Memory {
         Values values;
         Extremes* blocks; ///< extremes of the blocks
@@ -253,7 +256,7 @@ private:
     void SummarizeBlock(std::int64_t blockStart);
 
     std::int64_t m_begin = 0;          ///< number of value 0
-    double* m_next = nullptr;          ///< where the next value will be stored
+    double* m_next = nullptr;          ///< place of the next value, if the last block has room
     double* m_blockEnd = nullptr;      ///< end of the last block
     std::int64_t m_blockEndNumber = 0; ///< number of the first value behind the last block
     std::int64_t m_summarized = 0;     ///< extremes of blocks, halves and chunks are valid up to this number

@@ -39,7 +39,7 @@ public:
     CChartDraw& operator=(const CChartDraw&) = delete;
 
     using CWnd::Create;
-    /// Creates the window, a child of `pParentWnd` if `dwStyle` contains WS_CHILD. FALSE when the window
+    /// Creates the window as a child of `pParentWnd`; WS_CHILD is added to `dwStyle`. FALSE when the window
     /// cannot be created. Throws CResourceException* when the window class cannot be registered.
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
@@ -74,8 +74,9 @@ public:
     BOOL SetColor(int nDataset, COLORREF color);
     /// Width of the line in pixels, clamped to 0..100; 0 and 1 both draw one pixel.
     BOOL SetLineSize(int nDataset, int nSize);
-    /// Whether a line joins the points; default TRUE. In a dataset without markers, a point between two gaps,
-    /// and a line that falls on a single pixel, appear as a dot: as wide as the line, but at least 3 pixels.
+    /// Whether a line joins the points; default TRUE. In a dataset with a line and without markers, a point
+    /// between two gaps, and a line that falls on a single pixel, appear as a dot: as wide as the line, but
+    /// at least 3 pixels.
     BOOL ShowLine(int nDataset, BOOL bShow);
     /// Marker at each point inside the plot; default none. A marker extends 3 pixels from its point to every
     /// side, a triangle only 2 pixels downwards.
@@ -85,13 +86,14 @@ public:
 
     // ---- Scales. None of them repaints. ----
 
-    /// Lets CalcDatas find the scale from the points: a range with round ends that holds all points of the
-    /// visible datasets, in steps of 1, 2, 2.5 or 5 times a power of ten. This is the default.
+    /// Lets CalcDatas find the scale from the points: a range with round ends that holds all finite points of
+    /// the visible datasets, in steps of 1, 2, 2.5 or 5 times a power of ten. This is the default.
     void SetAutoXScale();
     void SetAutoYScale();
     /// Fixes a scale. Points outside the scale are clipped. Ticks stand at the multiples of `dStep`; if their
-    /// labels need more room, a multiple of `dStep` is the step. If `dStep` is 0, CalcDatas finds a round
-    /// step. FALSE, with nothing changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
+    /// labels need more room, a multiple of `dStep` is the step. If `dStep` is 0 or far too small for the
+    /// range, CalcDatas finds a round step. CalcDatas widens a range that is too narrow for ticks. FALSE,
+    /// with nothing changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
     BOOL SetXScale(double dMin, double dMax, double dStep = 0);
     BOOL SetYScale(double dMin, double dMax, double dStep = 0);
     /// The scale at the last CalcDatas; 0 to 1 in steps of 0.2 before the first CalcDatas.
@@ -123,7 +125,7 @@ public:
 
     // ---- View ----
 
-    /// Invalidates the whole window without erase. Does nothing without a window.
+    /// Invalidates the whole client area without erase. Does nothing without a window.
     void Redraw();
     /// Draws the chart on any DC, one logical unit to a pixel, with the chart's upper left corner at (0, 0).
     /// Calls PaintBkGnd, DrawTitle, DrawGrid, DrawDatasets, DrawAxes, DrawYScale and DrawXScale in this
@@ -131,7 +133,7 @@ public:
     void DrawChart(CDC& dc);
 
     // ---- Image export. CopyToClipboard, CopyToFile and SaveImage first call CalcDatas if data, properties
-    // or the window's size have changed. ----
+    // or the window's size have changed since the last CalcDatas. ----
 
     /// Puts the chart on the clipboard as an enhanced metafile of the chart's size with the description
     /// "Ruvex Trace". False, with the clipboard unchanged, without a window, when memory runs out, or when
@@ -162,8 +164,9 @@ public:
     virtual BOOL WINAPI SaveDIB(HDIB hDib, CFile& file);
 
     /// Saves the chart's picture. The extension of the name (.png, .bmp or .emf) selects the format. False
-    /// without a window, for an empty client area, for any other extension, when memory runs out, or when the
-    /// file cannot be written. After a failure an existing file is unchanged, and no incomplete file is left.
+    /// without a window, for any other extension, when the client area is empty or a side is longer than
+    /// 32,767 pixels, when memory runs out, or when the file cannot be written. After a failure an existing
+    /// file is unchanged, and no incomplete file is left.
     bool SaveImage(CString strFileName);
 
 protected:
@@ -190,8 +193,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 protected:
-    CRect m_rectChart{0, 0, 0, 0}; ///< the client rectangle at the last CalcDatas
-    CRect m_rectPlot{0, 0, 0, 0};  ///< the part of m_rectChart in which data is drawn
+    CRect m_rectChart{0, 0, 0, 0}; ///< the client rectangle at the last CalcDatas, pixels
+    CRect m_rectPlot{0, 0, 0, 0};  ///< the part of m_rectChart in which data is drawn, pixels
 
 private:
     struct Dataset;
@@ -248,7 +251,7 @@ private:
     // Results of the last CalcDatas.
     bool m_Changed =
         true; ///< data, or a property that the layout depends on, have changed since the last CalcDatas
-    CSize m_CalcSize{0, 0}; ///< size of the client area at the last CalcDatas
+    CSize m_CalcSize{0, 0}; ///< size of the client area at the last CalcDatas, pixels
     int m_FontPixels = 0;   ///< character height of the texts' font, pixels
     int m_TextHeight = 0;   ///< line height of the texts' font, pixels
     int m_TitleHeight = 0;  ///< line height of the title's font, pixels

@@ -13,7 +13,7 @@ namespace kavlix {
 /// std::deque, larger chunks keep the table of chunks short: a growing std::deque copies its table, which
 /// takes milliseconds at ten million elements.
 ///
-/// Only adding allocates memory, and an empty object holds none. Removing, clearing, moving and
+/// Only adding allocates memory, and a new or cleared object holds none. Removing, clearing, moving and
 /// swapping cannot fail.
 template <class T, std::size_t ChunkSize> class ChunkedArray {
 public:
@@ -85,7 +85,7 @@ private:
 
     using Table = std::deque<std::unique_ptr<Chunk>>;
 
-    std::unique_ptr<Table> m_chunks; ///< null while empty, since even an empty std::deque allocates memory
+    std::unique_ptr<Table> m_chunks; ///< null before Add and after Clear: an empty std::deque takes memory
     std::size_t m_head = 0;          ///< number of elements removed from the first chunk
     std::size_t m_size = 0;
 };

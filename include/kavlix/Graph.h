@@ -33,13 +33,13 @@ enum GraphType : int {
     GraphType3DStackedBar = 320
 };
 
-/// The legend text of one group.
+/// The text of one legend row.
 class KAVLIX_API CGraphLegendText : public CStatic {
 public:
     CGraphLegendText(int index, const CString& text) : legendIndex(index), legendText(text) {}
     ~CGraphLegendText() override;
 
-    int legendIndex; ///< the group that the host named; not used to find texts: see CGraph::SetLegend
+    int legendIndex; ///< the `group` of CGraph::SetLegend; texts are found by position, not by this number
     CString legendText;
 };
 
@@ -59,7 +59,7 @@ public:
     void RemoveAt(int position);
     void RemoveAll();
     int GetCount() const { return static_cast<int>(legends->GetCount()); }
-    /// The length of the longest text added so far, in characters. Removing texts does not reduce it.
+    /// GetLength() of the longest text added so far. Removing texts does not reduce the result.
     int GetMaxLength() const { return legendMaxLength; }
 
 private:
@@ -81,29 +81,29 @@ private:
 /// - Stacked bar, 3D stacked bar: the groups of a series stand on top of each other. Negative values hang
 ///   below the zero line.
 /// - Line, 3D line: each group has a line (in 3D a ribbon) across the series. A missing value is a gap.
-/// - Pie, 3D pie: each series has a pie, with a sector for each group and its share in percent. Values
-///   of 0 and below have no sector. If there is no room for all pies, the first ones are shown, and a text
-///   tells how many are left out.
+/// - Pie, 3D pie: each series has a pie, with a sector for each group and, where there is room, the group's
+///   share in percent. Values of 0 and below have no sector. If there is no room for all pies, the first ones
+///   are shown, and a text tells how many are left out.
 /// - XY line, scatter: each series is a set of points: keys are X values, values are Y values. Each series
 ///   has a marker shape of its own. XY line joins the points in ascending order of X. In the colour
 ///   list, a point has the colour at the position of its key, and a line the colour at the position of its
 ///   series. With SetLegendBySeries points have the colour of their series too.
 /// - Box-whisker: each series has a box from the lower to the upper quartile of its values, with the median
-///   as a line in the box. The whiskers reach to the last value within 1.5 interquartile ranges of the box.
-///   Values beyond are circles. Quartile p (0.25, 0.5 or 0.75) of n ascending values lies at index
+///   as a line in the box. A whisker reaches to the farthest value within 1.5 interquartile ranges of the
+///   box. Values beyond are circles. Quartile p (0.25, 0.5 or 0.75) of n ascending values lies at index
 ///   p * (n - 1), interpolated between the two neighbouring values. A box is grey, a circle has the colour
 ///   of its group. With SetLegendBySeries both have the colour of their series.
 ///
-/// The value axis runs from the lower to the upper tick limit. Shapes beyond the limits are cut at the plot's
-/// edge. Labels that would overlap stand in two rows, or some are left out. A label too long for its room
-/// ends in three dots.
+/// The value axis runs from the lower to the upper tick limit, except with the quadrant types 3 and 4 (see
+/// SetGraphQuadType). Shapes beyond its ends are cut at the plot's edge. Labels that would overlap stand in
+/// two rows, or some are left out. A label too long for its room ends in three dots.
 class KAVLIX_API CGraph : public CStatic {
 public:
     /// A bar graph without a colour list: every group is black until SetColor creates the list.
     CGraph();
     /// `type` is one of the GraphType codes. With any other code the graph draws axes without series. After
-    /// a `type` other than GraphTypeBar, DrawGraph never chooses the quadrant type (SetGraphQuadType) itself,
-    /// also if the host makes the graph a bar graph later.
+    /// a `type` other than GraphTypeBar, drawings never choose the quadrant type (SetGraphQuadType), also if
+    /// the host makes the graph a bar graph later.
     explicit CGraph(int type);
     /// Deletes all series, colours and legend texts.
     ~CGraph() override;
@@ -114,13 +114,15 @@ public:
     // initial value of its data member below. ----
 
     void SetGraphType(int type) { graphType = type; }
-    /// Angle of the series labels in degrees, counter-clockwise. Full turns make no difference.
+    /// Angle of the series labels in degrees, counter-clockwise. Full turns do not change the direction. But
+    /// with any angle except 0, so also with 360, SetXAxisLabel sets the height for labels below the plot.
     void SetXAxisAlignment(int degrees) { xAxisAlign = degrees; }
     void SetGraphTitle(CString title) { graphTitle = title; }
-    /// Caption below the plot. The number of characters in the caption also sets the height for turned series
-    /// labels below the plot, and in horizontal and scatter graphs the width for the labels on the left.
+    /// Caption below the plot. The caption's GetLength() also sets the height for series labels below the
+    /// plot if their angle is not 0, and in horizontal and scatter graphs the width for the labels on the
+    /// left.
     void SetXAxisLabel(CString label);
-    /// Caption left of the plot. The caption reads upwards.
+    /// Caption left of the plot, or inside the plot if there is no room on the left. Reads upwards.
     void SetYAxisLabel(CString label);
     /// Height of the series labels in pixels. Sizes below 1 count as 1.
     void SetXTickFontSize(int size) { xTickFontSize = size; }
@@ -136,22 +138,23 @@ public:
     /// 1: values grow upwards. 0: values grow to the right. A 3D line graph stores 1 whatever `alignment` is.
     /// Pies look the same for both; in a scatter graph values always grow upwards.
     void SetGraphAlignment(int alignment) { graphAlignment = graphType == GraphType3DLine ? 1 : alignment; }
-    /// Limits of the value axis, and the step between two ticks. The number of intervals is the range divided
-    /// by the step, rounded up. A step of 0 leaves all three unchanged. Drawing ignores the sign of the step.
-    /// If `max` is below `min`, values grow the other way. If both are equal, the axis ends at `min` + 1.
+    /// Limits of the value axis, and the step between two ticks. With a step of 0 the call changes nothing.
+    /// Drawing ignores the sign of the step and leaves out ticks that would stand too close. If `max` is
+    /// below `min`, values grow the other way. If both are equal, the axis ends at `min` + 1.
     void SetTickLimits(int min, int max, int step);
-    /// Depth of the 3D types as a fraction of the plot's width. Drawing limits the depth to
-    /// half of the plot. A negative ratio, or NaN, gives no depth.
+    /// Depth of the 3D types as a fraction of the plot's width, limited to half of the plot. In 3D pies the
+    /// height of the rim, limited to a quarter of the height that a pie has. A ratio of 0 or below, or NaN,
+    /// gives no depth.
     void Set3DDepthRatio(double ratio) { depthRatio = ratio; }
     /// Chooses the quadrants of a bar graph; ignored for other graph types. 2 and 4 add the quadrants of
     /// negative keys, 3 and 4 those of negative values; 1 adds none. Until the host has set one of these
-    /// numbers, every drawing chooses one from the data. Any other number sets 1, and drawings still choose.
-    /// With 3 and 4 the zero line lies in the middle of the value axis, and each half reaches to the limit
-    /// of SetTickLimits with the larger absolute value.
+    /// numbers, every drawing chooses one from the first value of each series. Any other number sets 1 and
+    /// does not change whether drawings choose. With 3 and 4 the zero line lies in the middle of the value
+    /// axis, and each half reaches to the limit of SetTickLimits with the larger absolute value.
     void SetGraphQuadType(int type);
-    /// How far each ribbon of a 3D line graph reaches into the depth, in pixels to the right and up. 0, 0:
-    /// the ribbons share the depth of Set3DDepthRatio. All ribbons together reach at most over
-    /// half of the plot.
+    /// How far each ribbon of a 3D line graph reaches into the depth, in pixels to the right and up. If
+    /// neither is above 0, the ribbons share the depth of Set3DDepthRatio. All ribbons together reach at most
+    /// over half of the plot.
     void Set3DLineBase(int x, int y);
     /// The rectangle to print into, in twips (1/1440 inch); y grows upwards from the page's top. The printed
     /// graph reaches from `left` to `right`, and from `graphTop` down four inches, or to `bottom` if
@@ -180,7 +183,7 @@ public:
     /// Removes the legend text at position `index`, from 0. An index that the list does not have changes
     /// nothing.
     void RemoveLegend(int index);
-    /// Empties the list of series. The number of groups stays.
+    /// Deletes all series. The number of groups stays.
     void RemoveAllSeries();
     void RemoveAllColors();
     /// Empties the list of legend texts. The legend keeps its width and is still drawn.
@@ -191,9 +194,10 @@ public:
     // ---- Drawing ----
 
     /// Paints the graph with its upper left corner at (0, 0), in the size of `parentWindow`'s client area.
-    /// The DC should be in MM_TEXT: a logical unit is taken as a pixel. Frames are drawn with the DC's pen,
-    /// the legend box with the DC's pen and brush. Restores the DC's state. Does nothing without a DC or a
-    /// window. When memory runs out, the picture is incomplete and the exception passes on.
+    /// The DC should be in MM_TEXT: a logical unit is taken as a pixel. The DC's pen draws the edges of the
+    /// picture, the legend box and the legend's colour boxes; the DC's brush fills the legend box. Restores
+    /// the DC's state. Does nothing without a DC or a window. When memory runs out, the picture is incomplete
+    /// and the exception passes on.
     void DrawGraph(CDC* pDC);
     /// Paints the same picture in MM_TWIPS into the rectangle of SetMargins, at the DC's own resolution.
     /// Fonts and line widths are those of a screen with 96 dots to the inch. The picture ends at the lower
@@ -218,9 +222,10 @@ private:
     int FitNumbers(const CString& a, const CString& b);
     kavlix::ScaleTicks PlanTicks(std::int64_t min, std::int64_t max, std::int64_t step, bool left,
                                  bool fromZero);
-    /// The steps of a drawing. Outside DrawGraph and PrintGraph the members with a CDC* do nothing, and
-    /// DrawLegend returns 0. Otherwise DrawLegend returns the left edge of the legend box.
+    // The steps of a drawing. Outside DrawGraph and PrintGraph the members with a CDC* do nothing.
+
     void DrawSeries(CDC* pDC);
+    /// The result is the left edge of the legend box in logical units; 0 outside DrawGraph and PrintGraph.
     int DrawLegend(CDC* pDC);
     void DrawAxis(CDC* pDC);
     void Draw3DFrame();
@@ -246,7 +251,8 @@ private:
     void Draw3DStackedBarSeries(CDC* pDC);
 
 protected:
-    // ---- State. Lengths are in logical units of the DC. Each drawing computes the graph's layout anew ----
+    // ---- State. Each drawing computes the layout anew, in logical units of the DC. Font sizes are in
+    // pixels, margins in twips. ----
 
     int tickSpace = 10;
     CObList* seriesList = nullptr;
@@ -264,7 +270,7 @@ protected:
     int yTickFontSize = 12;
     int xTickFontSize = 12;
     int legendFontSize = 12;
-    int numTicks = 10;
+    int numTicks = 10; ///< range of SetTickLimits divided by the step, rounded up if both are above 0
     int minTick = 0;
     int maxTick = 100;
     int seriesSize = 0;
@@ -280,7 +286,7 @@ protected:
     double depthRatio = 0.05;
     int graphQuadType = 1;
     BOOL quadSetManually = FALSE;
-    int axisLabelsCut = 0; ///< 1 when the last drawing cut or left out an axis label
+    int axisLabelsCut = 0; ///< 1 when the last drawing with axes cut or left out an axis label
     int line3DXBase = 0;
     int line3DYBase = 0;
     int topMargin = 0;
@@ -294,7 +300,8 @@ protected:
     BOOL legendBySeries = FALSE;
 
 public:
-    /// The window whose client area DrawGraph fills; set by the host, not owned. NULL draws nothing.
+    /// The window whose client area DrawGraph fills; set by the host, not owned. With NULL DrawGraph draws
+    /// nothing.
     CWnd* parentWindow = nullptr;
 
 private:

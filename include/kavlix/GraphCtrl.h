@@ -37,18 +37,18 @@ struct TickRoom;
 ///
 /// Repainting: the setters and the operations on data store their arguments and invalidate nothing.
 /// RemoveHeadData and SetSelectionMarkPos are the exceptions. Call Redraw after changing properties and
-/// RedrawData after adding samples. Without a window everything works except painting.
+/// RedrawData after adding samples. Data and properties can be set and read without a window.
 ///
-/// Values without a position: a NaN sample leaves a gap in its line and gets no bar. An infinite sample is
-/// drawn far outside the plot. Datasets whose visible range has the width 0 are not drawn. A value axis whose
+/// Values without a position: a NaN sample leaves a gap in its line and gets no bar. An infinite sample lies
+/// far outside the plot. Datasets whose visible range has the width 0 are not drawn. A value axis whose
 /// minimum is above its maximum is upside down. An X range whose minimum is above its maximum shows neither
 /// ticks nor bars.
 class KAVLIX_API CGraphCtrl : public CWnd {
 public:
-    /// How the datasets are drawn. With other values the control draws frame, axes and labels, but no data.
+    /// How the datasets are drawn. With any other value neither data nor X ticks are drawn.
     enum GraphStyle : int {
         GraphStyleLine = 0, ///< every visible dataset is a line with markers against the Y axis
-        GraphStyleBar = 1,  ///< one group of bars per sample index, one bar per dataset, against the Y axis
+        GraphStyleBar = 1,  ///< a group of bars per sample index: one bar per dataset with samples
         GraphStyleTwoAxis =
             2 ///< dataset 0 is a line against the Y axis, dataset 1 against the Y2 axis; no legend
     };
@@ -126,7 +126,7 @@ public:
         m_ShowMenuRemoveDataBeforeSelectionMark = bShow;
     }
 
-    /// Automatic X range: whether AddData moves the right end of the visible X range to the newest sample.
+    /// Automatic X range: whether AddData and RemoveHeadData move the right end of the visible X range.
     void SetAutoXVisible(BOOL bAuto) { m_AutoXVisible = bAuto; }
     /// Ends of the visible ranges, in values of their axis. On the X axis these are sample indices.
     void SetXVisibleMin(double x) { m_XVisibleMin = x; }
@@ -136,7 +136,7 @@ public:
     void SetY2VisibleMin(double y) { m_Y2VisibleMin = y; }
     void SetY2VisibleMax(double y) { m_Y2VisibleMax = y; }
 
-    /// Texts. At most the first 8192 characters of a text are drawn, since GDI takes no more in one call.
+    /// Texts. At most the first 8192 UTF-16 units of a text are drawn, since GDI takes no more in one call.
     void SetTitle(CString text) { m_Title = std::move(text); }
     void SetXLabel(CString text) { m_XLabel = std::move(text); }
     void SetYLabel(CString text) { m_YLabel = std::move(text); }
@@ -158,9 +158,9 @@ public:
 
     /// Height of the band of X tick labels, whose text runs upwards, in logical units.
     void SetXTickLabelHeight(int nHeight) { m_XTickLabelHeight = nHeight; }
-    /// Longest line of an X tick label without a lower text, in characters of the process code page; a
-    /// longer text is broken into two lines. A character of several bytes counts once, as does a letter with
-    /// its combining marks.
+    /// Length up to which an X tick label without a lower text stays one line, in characters of the process
+    /// code page. Of a longer text, the characters beyond this length become the lower line. A character of
+    /// several bytes counts once, as does a letter with its combining marks.
     void SetXTickLabelUpStringMaxLength(int nLength) { m_XTickLabelUpStringMaxLength = nLength; }
     /// Width of the bands of Y and Y2 tick labels in logical units.
     void SetYTickLabelWidth(int nWidth) { m_YTickLabelWidth = nWidth; }
@@ -207,38 +207,39 @@ public:
 
     /// Invalidates the whole client area, without erasing. Nothing happens without a window.
     void Redraw();
-    /// Invalidates the data region (plot, tick labels and a margin) in the layout of the last paint, without
-    /// erasing. Nothing happens without a window.
+    /// Invalidates the data region (plot, X and Y tick labels and a margin) in the layout of the last paint,
+    /// without erasing. Nothing happens without a window.
     void RedrawData();
     /// Puts the selection mark on sample `nPos`, or removes it for -1, and calls RedrawData. Ignores an
     /// `nPos` below -1 or beyond the last sample of dataset 0. The parent gets no notification. Assistive
-    /// tools get an event, as at every change of the selection mark: sample i is child i + 1 of the
-    /// control's client object.
+    /// tools get an event whenever the selection mark changes: sample i is child i + 1 of the control's
+    /// client object.
     void SetSelectionMarkPos(int nPos);
     /// Puts the picture on the clipboard as an enhanced metafile. Result 1; 0 when there is no window or
     /// memory, or when GDI cannot make the metafile. The result does not tell whether another program
     /// holds the clipboard.
     int CopyToClipboard();
     /// Saves the picture as PNG, BMP or EMF, as the extension of the name says. False for another extension,
-    /// without a window, with an empty client area, without memory, and when the file cannot be written. An
-    /// existing file is then unchanged, and no incomplete file is left.
+    /// without a window, when the client area is empty or a side is longer than 32,767 pixels, when memory or
+    /// GDI objects run out, and when the file cannot be written. An existing file is then unchanged, and no
+    /// incomplete file is left.
     bool SaveImage(CString strFileName);
     /// Whether `menu` already holds a command `nID`.
     bool IsMenuItem(CMenu& menu, UINT nID);
 
     // ---- Virtual operations. Their order sets their slots in the virtual table, which hosts rely on. ----
 
-    /// Stores the texts of X tick label `nIndex` in `up` and `down`. A text that was never added leaves its
-    /// output unchanged. The result is always 1.
+    /// Stores the texts of X tick label `nIndex` in `up` and `down`. Without such a label both stay
+    /// unchanged. The result is 1 in either case; CScrollGraphCtrl has results of its own.
     virtual BOOL GetXData(int nIndex, CString& up, CString& down);
     /// Removes the `nCount` oldest samples of every dataset, the `nCount` oldest tick labels, and the
-    /// selection mark. The automatic X range then ends at the newest sample of dataset 0. Calls RedrawData. A
-    /// negative count counts as 0. The parent gets no notification.
+    /// selection mark. With the automatic X range, the visible range then ends 0.001 right of the newest
+    /// sample of dataset 0. Calls RedrawData. A negative count counts as 0. The parent gets no notification.
     virtual void RemoveHeadData(int nCount);
     /// Removes all X tick labels.
     virtual void ResetXTickLabel();
-    /// Shows the context menu at `point` (client pixels) and returns when it is closed. The user's choice
-    /// arrives as WM_COMMAND.
+    /// Shows the context menu at `point` (client pixels) and returns when the menu is closed. The control
+    /// receives the user's choice as WM_COMMAND.
     virtual void OnContextGraphMenu(CPoint point);
     /// Inserts this control's items at the top of `menu`, except for commands that `menu` already holds. A
     /// separator is inserted in any case.
@@ -246,12 +247,14 @@ public:
 
 protected:
     /// Draws axis line, ticks and tick labels of the X axis. `rectLabel` and `rectAxis` are the bands of
-    /// labels and tick marks in logical units; `nTicks` is the largest number of labelled ticks.
+    /// labels and tick marks in logical units; `nTicks` is about the largest number of labelled ticks. Below
+    /// 2 only the axis line is drawn.
     virtual void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks);
     /// Draws the datasets and the selection mark into the plot, to which the caller has clipped `dc`.
     virtual void DrawGraphData(CDC& dc);
     /// Sample that belongs to `point` (logical units), -1 for none. Line styles: the sample nearest in X, at
-    /// any distance below 1,000,000 logical units. Bar style: the sample whose group of bars holds the point.
+    /// any distance below 1,000,000 logical units. Bar style: the sample whose group of bars, widened by half
+    /// a bar on either side, has the point in its part of the plot.
     virtual int GetIndexFromPt(CPoint point);
     /// Position of sample `nIndex` in logical units, moved into the plot where it lies outside. Y is taken
     /// from the first visible dataset in which the sample has a position. X is the sample's own or, in the
@@ -268,22 +271,26 @@ protected:
     void SetMapModeAnisotropic(CDC& dc);
     /// Lays out and paints everything into `dc`, which must have the mapping of SetMapModeAnisotropic. The
     /// viewport origin of `dc` may be anywhere and places the picture. Afterwards `dc` has no clip region,
-    /// and the same objects and text settings as before.
+    /// and the same objects and text settings as before. Does nothing without a window.
     void DrawGraph(CDC& dc);
     /// Draws the title at the top of m_rectTitle in a bold font, `nHeight` logical units high.
     void DrawTitle(CDC& dc, int nHeight);
-    /// Draws the caption band with its text and icon; sets m_rectCaption and m_rectIconMaximize.
+    /// Draws the caption band with its text, and the maximize icon if it is switched on. Sets m_rectCaption
+    /// and, with the icon, m_rectIconMaximize.
     void DrawCaption(CDC& dc);
     /// Draws the maximize icon into m_rectIconMaximize.
     void DrawIconMaximize(CDC& dc);
     /// Height of a label row, 1/15 of the client area's height, in logical units; 0 without a window.
     int GetTitleTextHeight();
-    /// Draws a value axis with `nTicks` ticks, tick labels, unit text and grid. `nAxis` is 0 for Y, 1 for Y2.
+    /// Draws a value axis with `nTicks` ticks, their labels and the unit text, and for the Y axis the grid.
+    /// With fewer than 2 ticks only the axis line is drawn. `nAxis` is 0 for Y, 1 for Y2; the Y2 axis is
+    /// drawn in the two-axis style only.
     void DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks, int nAxis);
     /// Draws the legend rows into m_rectLegend.
     void DrawLegend(CDC& dc);
     /// Stores the width of one bar in logical units, the number of datasets with samples, and the number of
-    /// visible sample indices. Result 0, outputs unchanged, when no sample lies in the visible X range.
+    /// visible samples of the first dataset that has one. Result 0, outputs unchanged, when no sample lies in
+    /// the visible X range.
     BOOL CalcBarSize(int& nBarWidth, int& nDatasets, int& nVisiblePoints);
 
     // ---- Notifications. Without a parent nothing is sent. ----
@@ -316,7 +323,7 @@ protected:
 
     void PreSubclassWindow() override;
     /// Passes messages that the control does not handle to the system's default window procedure, also in a
-    /// window of another class.
+    /// window of another class: that class's procedure gets only the messages of creation and destruction.
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnPaint();
@@ -340,7 +347,7 @@ private:
     static constexpr COLORREF kAxisLabelColor = RGB(126, 162, 226);
     static constexpr COLORREF kAxisColor = RGB(185, 221, 193);
     static constexpr COLORREF kTickLabelColor = RGB(63, 127, 77);
-    static constexpr int kTickLabelRoom = 1500; // logical units
+    static constexpr int kTickLabelRoom = 1500; // default size of a band of tick labels, logical units
     // Defaults that ResetAll restores.
     static constexpr char kDefaultTitle[] = "Graph Title";
     static constexpr char kDefaultXLabel[] = "X Label";
@@ -354,10 +361,10 @@ protected:
     kavlix::LabelStore m_XTickLabelDown;
     BOOL m_ShowBorder = FALSE;
 
-    // Layout, in logical units unless said otherwise. Every paint sets these rectangles; before the first
+    // Layout, in logical units except for the last two. Every paint sets these rectangles; before the first
     // paint they are empty.
     CRect m_rectPlot;         ///< the data area
-    CRect m_rectLegend;       ///< the legend board
+    CRect m_rectLegend;       ///< place of the legend board, also while the legend is hidden
     CRect m_rectTitle;        ///< the title area
     CRect m_rectXAxis;        ///< strip of the X tick marks, under the plot
     CRect m_rectYAxis;        ///< strip of the Y tick marks, left of the plot
@@ -443,9 +450,11 @@ private:
     /// Computes the layout for the client area `client` (logical units) and stores it in the m_rect...
     /// members.
     kavlix::GraphLayout LayOut(const CRect& client);
-    /// Draws the texts beside the axes, not the tick labels.
+    /// Draws the X label, the Y label and, in the two-axis style, the Y2 label.
     void DrawAxisLabels(CDC& dc, const kavlix::GraphLayout& layout);
-    /// Draws the legend with its board. `right` is the right edge of the client area in logical units.
+    /// Draws the legend and, if it is switched on, the legend's board. `right` is the right edge of the
+    /// client area in logical units. `clientClip` is the clip region of `dc`, which is selected again
+    /// afterwards.
     void DrawLegendArea(CDC& dc, int right, CRgn& clientClip);
     /// Draws ticks and tick labels of the X axis in the line styles. The caller has selected `axisPen`.
     void DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,
@@ -463,10 +472,11 @@ private:
     kavlix::LinearMap YMapOf(int nDataset) const;
     CPoint ToLogicalPoint(CPoint point);
     CPoint ToClientPoint(CPoint logical);
-    /// Dataset whose legend row lies at the height of `point` (logical units), -1 for none.
+    /// Dataset whose legend row lies at the height of `point` (logical units), -1 for none. Rows are counted
+    /// as if every dataset had one.
     int LegendRowAt(CPoint point) const;
 
-    /// Paints the maximize icon at once, without WM_PAINT.
+    /// Paints the maximize icon at once, without WM_PAINT. Calls Redraw if memory or GDI objects run out.
     void RepaintIcon();
     /// Ends the press of the maximize icon. No repaint.
     void EndPress();

@@ -15,26 +15,36 @@
 
 #include <cstddef>
 
-/// Posted to the parent when a click, a key or the menu changes the selection mark. wParam: the index of the
+/// Posted to the parent at a click into the plot, even if the selection mark stays in its place, and when a
+/// key or the menu command ID_GRAPH_CLEAR_SELECTION_MARK changes the selection mark. wParam: the index of the
 /// marked sample as an int, -1 for none; lParam: 0. The control posts this message before it sends
 /// GCN_SELCHANGE, but the parent receives GCN_SELCHANGE first, because a sent message does not wait in the
 /// queue.
 constexpr UINT WM_GRAPH_SELMARK = WM_USER + 100;
 
 /// Sent to the parent when the scrolling graph exports the time of the selection mark. wParam: 0; lParam: the
-/// time text "YYYY/MM/DD hh:mm:ss", a zero-terminated string that is valid only during the call.
+/// time text "YYYY/MM/DD hh:mm:ss" of the last sample exported, empty if there was none; a zero-terminated
+/// string that is valid only during the call.
 constexpr UINT WM_GRAPH_SELMARKTIME = 1327;
 
 // Codes of the WM_NOTIFY messages with an NMGRAPHCTRL record: when the parent gets each, and the record's
 // fields that are set besides `hdr`. wParam is the control's dialog identifier.
 constexpr UINT GCN_DBLCLK = 1224; ///< double-click outside caption and legend; nFlags, pt, nIndex = -1
 constexpr UINT GCN_DBLCLK_CAPTION = 1225; ///< double-click in the caption band; nFlags, pt, nIndex = -1
-constexpr UINT GCN_DBLCLK_LEGEND = 1226;  ///< double-click in the legend; nFlags, pt, nIndex = dataset or -1
-constexpr UINT GCN_MAXIMIZE = 1234;       ///< button released over the pressed maximize icon; nFlags, pt
-constexpr UINT GCN_MOUSEMOVE = 1244;      ///< every mouse move; nFlags, pt
-constexpr UINT GCN_SELCHANGE = 1254;      ///< the user moved the selection mark; nIndex = sample or -1
-constexpr UINT GCN_REMOVEDATA = 1255;     ///< menu removed samples; nIndex = first one, nCount = number
-constexpr UINT GCN_SCROLL = 1264;         ///< scroll bar moved (SetScrollSync); nIndex = left edge in x units
+/// Double-click in the legend's rectangle, also while the legend is hidden; nFlags, pt. nIndex is the dataset
+/// whose row has the height of the mouse, as if every dataset had a row; -1 for none, and for a dataset with
+/// an empty legend text.
+constexpr UINT GCN_DBLCLK_LEGEND = 1226;
+constexpr UINT GCN_MAXIMIZE = 1234;  ///< button released over the pressed maximize icon; nFlags, pt
+constexpr UINT GCN_MOUSEMOVE = 1244; ///< every mouse move; nFlags, pt
+/// Sent on the occasions of WM_GRAPH_SELMARK. nIndex is the index of the marked sample, -1 for none.
+constexpr UINT GCN_SELCHANGE = 1254;
+/// The user removed samples by the menu. nIndex is the index of the first removed sample, nCount the number
+/// of samples removed from dataset 0.
+constexpr UINT GCN_REMOVEDATA = 1255;
+/// The user moved the scroll bar while SetScrollSync is on, or the host called SendScrollInfo. nIndex is the
+/// left edge of the view, or the host's position, in x units.
+constexpr UINT GCN_SCROLL = 1264;
 
 /// Record of every notification of a graph control. The control owns it and keeps it only during the call:
 /// copy the fields that are needed later. Fields that a code does not list are zero.

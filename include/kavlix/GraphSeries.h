@@ -13,7 +13,7 @@ public:
     CGraphValue(int aKey, int aValue) : key(aKey), value(aValue) {}
     ~CGraphValue() override;
 
-    int key;   ///< the group
+    int key;   ///< the group, or the X value of a point
     int value; ///< the data value; for a colour the COLORREF 0x00BBGGRR
 };
 

@@ -10,9 +10,9 @@
 
 namespace kavlix {
 
-/// Texts in order of arrival, with the members of CStringArray except GetData and Serialize, which need texts
-/// in one block of memory. Adding never moves stored texts. Removing from the head takes time in proportion
-/// to the number of texts removed.
+/// Texts in order of arrival, with most members of CStringArray. GetData and Serialize are missing, because
+/// they need the texts in one block of memory. Adding never moves stored texts. Removing from the head takes
+/// time in proportion to the number of texts removed.
 ///
 /// An index outside the array throws CInvalidArgException*. A failed allocation throws CMemoryException* and
 /// leaves the array unchanged.

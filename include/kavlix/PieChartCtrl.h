@@ -33,7 +33,7 @@ public:
 /// notifies the parent.
 ///
 /// Create the control with Create, or subclass a dialog item of class "PIE_CHART_CTRL". Use the control on
-/// the thread that owns its window. Without a window everything works except painting and clicking.
+/// the thread that owns its window. Pieces can be added and read without a window.
 ///
 /// Angles are degrees, 0 at twelve o'clock, growing clockwise on the screen. Positions are client pixels.
 ///
@@ -42,8 +42,8 @@ public:
 /// shown beyond 360 degrees. Pieces that sum to less than a full circle leave a gap. A negative piece has no
 /// sector and lowers the sum; later pieces have no sector until the sum exceeds its highest value again. A
 /// piece with total 0 and a positive value takes the rest of the circle. A piece whose span is not a number
-/// hides itself and all pieces after it. A piece of exactly 0 has no sector, but a label where its sector
-/// would be.
+/// hides itself and all pieces after it. A piece of exactly 0 has no sector, but usually a label where its
+/// sector would be.
 ///
 /// Texts: label and percentage stand inside the sector if they fit, in the piece's text colour. Otherwise
 /// they stand beside the pie, and a leader line connects them with the sector; black or white replaces the
@@ -51,8 +51,8 @@ public:
 /// two lines or abbreviated. Labels that begin alike are abbreviated in the middle. If there is no room, the
 /// texts of the smallest pieces are left out. A pie that is hardly higher than a line of text has no texts.
 ///
-/// Selection: the sector has the selection's colour, and its texts are white. If any piece has nearly the
-/// selection's colour itself, a light line inside the sector marks the selection, unless the sector is too
+/// Selection: the sector has the selection's colour, and its texts are white. If any visible piece has nearly
+/// the selection's colour itself, a line inside the sector marks the selection, unless the sector is too
 /// narrow for the line.
 class KAVLIX_API CPieChartCtrl : public CWnd {
 public:
@@ -87,14 +87,16 @@ public:
     // ---- View ----
 
     /// Stores the wait text and mode, and invalidates the window with erase. Mode 0 ends waiting, as Reset
-    /// does. In any other mode the text stands in the middle of the window: in place of "No Data" if there
-    /// are no pieces, otherwise on a band in front of the chart. Clicks keep working while the control waits.
+    /// does. In any other mode the text stands in the middle of the window: in place of "No Data" if no
+    /// piece has a sector, otherwise on a band in front of the chart. A text too large for the window is left
+    /// out. Clicks keep working while the control waits.
     void Wait(const char* pszText, int nMode);
     /// Invalidates the window with erase.
     void Refresh();
 
     /// Saves the picture of the client area. The extension of the name (.png, .bmp or .emf) selects the
-    /// format. False without a window, for any other extension, or when the file cannot be written; an
+    /// format. False without a window, for any other extension, when the client area is empty or a side is
+    /// longer than 32,767 pixels, when memory or GDI objects run out, or when the file cannot be written; an
     /// existing file of that name then stays unchanged.
     bool SaveImage(CString strFileName);
 
@@ -124,8 +126,8 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
     /// Selects the piece under `point` and sends NM_CLICK with an NMPIECHART to the parent window, if the
-    /// control has one. A click on the centre, or on the line from the centre to twelve o'clock, selects
-    /// nothing.
+    /// control has one. A click on the centre, or on the line from the centre to twelve o'clock, changes
+    /// nothing. A click on a part of the circle without a piece removes the selection.
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 

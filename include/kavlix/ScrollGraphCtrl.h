@@ -15,7 +15,7 @@ struct ViewWindow;
 
 /// A graph over time. Every sample index has a time stamp, which all datasets share. The plot shows a view of
 /// fixed width on the time line, and a scroll bar under the plot moves the view. While the newest sample is
-/// in view, the view follows the samples. A view that the user has scrolled back stays where it is.
+/// in view, the view follows the samples. Otherwise new samples do not move the view.
 ///
 /// Feeding: the host calls InitData and SetHorzRange once, then for each instant AddXTickLabel(time), AddData
 /// for every dataset, and RedrawData. Old samples stay until the host calls RemoveHeadData.
@@ -26,7 +26,8 @@ struct ViewWindow;
 ///
 /// The line styles draw the samples in view and one neighbour on either side. Of the samples in view only
 /// the first ones are drawn, as many as the view's width has seconds: a dataset with more than one sample a
-/// second does not fill the view. The bar style is that of CGraphCtrl, over sample indices.
+/// second does not fill the view. The bar style is that of CGraphCtrl, over sample indices, but without X
+/// ticks.
 ///
 /// The control does not handle the mouse wheel; the host calls ProcessMouseWheel.
 class KAVLIX_API CScrollGraphCtrl : public CGraphCtrl {
@@ -35,7 +36,7 @@ public:
     CScrollGraphCtrl();
     ~CScrollGraphCtrl() override;
 
-    // ---- Samples and time stamps. Only RemoveHeadData repaints. ----
+    // ---- Samples and time stamps. Only RemoveHeadData repaints the graph. ----
 
     /// Removes all time stamps; datasets keep their samples.
     void InitData();
@@ -44,12 +45,13 @@ public:
     /// Appends the time stamp of the next sample index. Result 1; 0, after a message box, when memory ran
     /// out.
     int AddXTickLabel(long time);
-    /// Appends a sample; the host adds its time stamp first. If the previous sample is in view and the new
-    /// sample lies beyond nine tenths of the view's width, the view moves until the new sample stands there.
-    /// Otherwise the scroll range grows if it does not hold the sample. `pReserved` is not used. Result 1;
-    /// 0 when `nDataset` is outside 0..12 or, after a message box, when memory ran out.
+    /// Appends a sample; the host adds its time stamp first. If the dataset's previous sample is in view and
+    /// the new sample lies beyond nine tenths of the view's width, the view moves until the new sample stands
+    /// there. Otherwise the scroll range may grow to hold the sample. `pReserved` is not used. Result 1; 0
+    /// when `nDataset` is outside 0..12 or, after a message box, when memory ran out.
     int AddData(int nDataset, double y, double* pReserved);
-    /// Appends a sample without moving the view, to load recorded data. Results as those of AddData.
+    /// Appends a sample without a change to view and scroll range, to load recorded data. Results as those of
+    /// AddData.
     int AddDataForOffline(int nDataset, double y, double* pReserved);
     /// Keeps only the first time stamp and the first sample of every dataset. An empty dataset gets a sample
     /// of the value 0, an empty list of time stamps the stamp 0. `nGrowBy` has no effect: the storage chooses
@@ -94,15 +96,15 @@ public:
     /// Shows the newest sample of dataset 0 and repaints the data: calls SetScrollLastPos, Normalize,
     /// RedrawData and UpdateScrollInfo.
     void UpdateScrollByRemove();
-    /// Moves the view by a hundredth of its width, to older samples when `delta` is not negative. Repaints
-    /// the data if the view moved. Sends no notification.
+    /// Moves the view by a hundredth of its width within the scroll range, to older samples when `delta` is
+    /// not negative. Repaints the data if the view moved. Sends no notification.
     void ProcessMouseWheel(short delta);
     /// Whether GCN_SCROLL is sent to the parent when the user moves the scroll bar.
     void SetScrollSync(int bSync) { m_bScrollSync = bSync; }
-    /// Sends GCN_SCROLL with `position`, in x units, to the parent, independent of SetScrollSync.
+    /// Sends GCN_SCROLL with `position`, in whole x units, to the parent, independent of SetScrollSync.
     void SendScrollInfo(double position);
     /// The first sample whose x is not below `x`, by binary search over all samples but the last; the last
-    /// sample when there is no such sample.
+    /// sample when there is no such sample; 0 without samples.
     int LowerBound(double x) const;
     /// The last sample of a view that begins at sample `nFirst`, as if there were one sample a second.
     /// `reserved` is not used. The result can be one past the last sample.
@@ -134,16 +136,17 @@ public:
     int MinuteTickPos(int nIndex, int nMinutes, CString& fullTime) const;
     int HourTickPos(int nIndex, int nHours, CString& fullTime) const;
     /// Full time text of the moment `nUnit` seconds after the local time `date` ("YYYY/MM/DD") `time`
-    /// ("hh:mm:ss"). If these are no valid time, the result is both texts, unchanged, with a blank between.
-    /// When clocks go back, one hour of local time occurs twice, and the text does not say which of the two
-    /// is meant: repeated steps of up to an hour never leave that hour. To walk over time, add seconds to a
-    /// time stamp instead.
+    /// ("hh:mm:ss"). If these are no valid time of the years 1900 to 9999, the result is both texts,
+    /// unchanged, with a blank between. When clocks go back, one hour of local time occurs twice, and the
+    /// text does not say which of the two is meant: repeated steps of up to an hour may never leave that
+    /// hour. To walk over time, add seconds to a time stamp instead.
     CString GetNextTickTime(int nUnit, CString& date, CString& time) const;
 
 protected:
-    /// Draws the time axis. The distance between two ticks is truncated to logical units, so in long views
-    /// ticks drift to the left of their times. Of several ticks in one device column only the first is drawn.
-    /// If the labels of all ticks would touch, only the ticks at multiples of a longer step have labels.
+    /// Draws the time axis; in the bar style the axis line only. The distance between two ticks is truncated
+    /// to logical units, so in long views ticks drift to the left of their times. Of several ticks in one
+    /// device column only the first is drawn. If the labels of all ticks would touch, only the ticks at
+    /// multiples of a longer step have labels.
     void DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks) override;
     /// Draws the label of the tick at `x`. Its texts run upwards and end at `y` (both logical units). With an
     /// empty `date` the label is the clock time `time` alone, otherwise `date` ("MM/DD") and `time` side by
@@ -173,19 +176,19 @@ private:
     std::unique_ptr<kavlix::ZoneRules> m_zoneRules; ///< the system's rules of local time, kept for the labels
 
 protected:
-    // In x units (1/20 second).
-    double m_dScrollPos = 0;      ///< left edge of the view
-    double m_dScrollMax = 1200.0; ///< right end of the scroll range, at first one minute
-    double m_dScrollMin = 0;      ///< left end of the scroll range
-    double m_dViewWidth = 1200.0; ///< width of the view: one minute
+    // An x unit is 1/20 second.
+    double m_dScrollPos = 0;      ///< left edge of the view, x units
+    double m_dScrollMax = 1200.0; ///< right end of the scroll range, x units
+    double m_dScrollMin = 0;      ///< left end of the scroll range, x units
+    double m_dViewWidth = 1200.0; ///< width of the view, x units
 
     int m_nUnitsPerSecond = 20; ///< x units a second in SetHorzRange and SelectTickUnit; elsewhere always 20
     bool m_bTindroMode = false;
     CString m_strSelectionMarkTime;
     int m_bScrollSync = FALSE;
     int m_bFollowed = FALSE; ///< whether the last AddData moved the view
-    int m_nDrawFirst = -1;   ///< first sample that the last paint drew; -1 before the first paint
-    int m_nDrawLast = -1;    ///< last sample that the last paint drew; -1 before the first paint
+    int m_nDrawFirst = -1;   ///< first sample drawn at the last paint in a line style; -1 before that paint
+    int m_nDrawLast = -1;    ///< last sample drawn at the last paint in a line style; -1 for none
 
 private:
     int m_nToldPos = -1;  ///< position that UpdateScrollInfo passed to the scroll bar last

@@ -141,7 +141,7 @@ void CFile::Abort() {
 
 CFile* CFile::Duplicate() const {
     ASSERT(m_hFile != hFileNull);
-    auto file = std::make_unique<CFile>(); // before the handle is duplicated: an exception would leak it
+    auto file = std::make_unique<CFile>(); // first: an exception after DuplicateHandle() would leak `copy`
     file->m_strFileName = m_strFileName;
     HANDLE copy = nullptr;
     if (!::DuplicateHandle(::GetCurrentProcess(), m_hFile, ::GetCurrentProcess(), &copy, 0, FALSE,

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t longestText = INT_MAX - 1;
 
-// Every function that makes a text longer calls RequireLength first.
+// Throws CMemoryException* for a text that is too long.
 void RequireLength(std::size_t length) {
     if (length > longestText)
         AfxThrowMemoryException();

@@ -11,7 +11,8 @@
 
 namespace {
 
-// Seconds since 1970. FileTimeToSystemTime() refuses later times, because their FILETIME needs 64 bits.
+// Seconds since 1970. FileTimeToSystemTime() refuses later times, because the highest bit of their FILETIME
+// is set.
 constexpr __time64_t kLastSecond = 910692730085;
 constexpr __time64_t kNoTime = -1;
 

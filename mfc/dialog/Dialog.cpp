@@ -17,7 +17,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr UINT kFirstCommandId = 0x8000; // smaller IDs belong to controls; only their dialog handles them
+constexpr UINT kFirstCommandId = 0x8000; // smaller IDs belong to controls and are not routed further
 constexpr UINT kFirstSystemId = 0xF000;
 
 /// A dialog procedure that handles nothing: AfxWndProc() has already passed the message to the message map.

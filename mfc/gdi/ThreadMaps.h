@@ -89,5 +89,6 @@ struct ThreadGdiMaps {
 /// The maps of the calling thread. The first call creates them. NULL at the end of the thread, because global
 /// objects that own handles may be destroyed after the maps.
 ThreadGdiMaps* GdiMaps();
-/// The maps of the calling thread if they exist, else NULL. Removing an entry must not allocate memory.
+/// The maps of the calling thread if they exist, else NULL. For code that only removes entries, and so must
+/// not allocate memory.
 ThreadGdiMaps* MadeGdiMaps();

@@ -31,7 +31,7 @@ void MFC_API AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
 void MFC_API AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
 
 /// Selection of a list box or combo box: the index (-1 for none), the first item that begins with the text,
-/// or the item that equals the text.
+/// or the item that equals the text. Searches for a text ignore the case.
 void MFC_API AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
 void MFC_API AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value);
 void MFC_API AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value);
@@ -61,6 +61,6 @@ void MFC_API AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVa
 void MFC_API AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal);
 void MFC_API AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal);
 void MFC_API AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
-/// Validation of a length. While loading, the routine also limits the number of characters that the user
-/// can type.
+/// Validation of a length in bytes. While saving, a longer text shows a message and throws CUserException*.
+/// While loading, the routine limits the number of characters that the user can type.
 void MFC_API AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);

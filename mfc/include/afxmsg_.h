@@ -4,6 +4,7 @@
 #include "afx/CmdTarget.h"
 
 // A row ON_WM_X() ties the message WM_X to the member function OnX, whose declaration stands in CWnd.
+// ON_WM_HELPINFO() ties WM_HELP to OnHelpInfo.
 
 /// A row that maps `message` to the member function `name` of the class in BEGIN_MESSAGE_MAP.
 #define AFX_ON_WM(message, sig, result, name, args)                                                          \

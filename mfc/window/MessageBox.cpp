@@ -11,7 +11,7 @@ int AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
 
 int AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
     CString text;
-    const int longest = 4096; // characters, the maximum for a string resource
+    const int longest = 4096; // in bytes; a longer prompt is cut
     AfxLoadString(nIDPrompt, text.GetBuffer(longest), longest + 1);
     text.ReleaseBuffer();
     return AfxMessageBox(text, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);

@@ -72,7 +72,7 @@ void AfxSetResourceHandle(HINSTANCE hInstResource) {
 }
 
 CWinApp* AfxGetApp() {
-    // The state of a DLL changes the resources only. The application is always the program's.
+    // The state of a DLL changes the instance and the resources. The application is always the program's.
     return StateOfProgram().m_pCurrentWinApp;
 }
 

@@ -26,7 +26,7 @@ struct ThreadState {
     HHOOK messageFilterHook = nullptr;
     HWND exchangingWindow = nullptr; ///< window inside UpdateData(); its controls' notifications are ignored
     HMENU popupMenu = nullptr;       ///< the popup that opened last; may contain an owner-drawn item
-    CWinThread* thread = nullptr;    ///< NULL in the main thread, where the application is the thread object
+    CWinThread* thread = nullptr;    ///< object of the thread; NULL in the main thread, see AfxGetThread()
     AFX_MODULE_STATE* moduleState = nullptr;
     char className[96] = ""; ///< result buffer of AfxRegisterWndClass()
 };

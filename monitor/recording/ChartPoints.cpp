@@ -14,8 +14,9 @@ Time IntervalOf(const Recording& recording, std::size_t series) {
     return file < recording.files.size() ? recording.files[file].interval : 0;
 }
 
-/// For every row, the value of the series that is nearest in time, the earlier of two equally near ones; NaN
-/// when no value is less than one interval of the series' file away. One pass forwards and one backwards.
+/// For every row, its own value of the series or, without one, the value nearest in time, the earlier of two
+/// equally near ones; NaN when no value is less than one median interval of the series' file away. One pass
+/// forwards and one backwards.
 std::vector<double> ValuesBeside(const Recording& recording, std::size_t series) {
     const std::vector<double>& values = recording.series[series].values;
     const std::size_t count = values.size();
@@ -88,7 +89,7 @@ ChartChoice DefaultChartChoice(const std::vector<std::size_t>& series) {
 }
 
 TimeUnit TimeUnitOf(Time span) {
-    constexpr int enough = 2; // units in a span
+    constexpr int enough = 2; // least number of units in a span
     if (span < enough * kMicrosPerMinute)
         return {kMicrosPerSecond, "seconds"};
     if (span < enough * kMicrosPerHour)

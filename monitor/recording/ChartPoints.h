@@ -39,9 +39,9 @@ struct ChartPoint {
 ///
 /// In joined files a row usually holds values of one file only. There a point is made for every row with a
 /// value of the leading series: with ChartX::Series the one along X, otherwise the one along Y. With
-/// ChartX::Series, y is the value of the Y series that is nearest in time, or NaN when no value is less than
-/// one median interval of that series' file away. A gap separates neighbouring points that are farther apart
-/// than LongestStep of the leading series' file.
+/// ChartX::Series, y is the row's own value of the Y series or, without one, the value nearest in time; NaN
+/// when no value is less than one median interval of the Y series' file away. A gap separates neighbouring
+/// points that are farther apart than LongestStep of the leading series' file.
 std::vector<ChartPoint> ChartPointsOf(const Recording& recording, const ChartChoice& choice);
 
 /// The choice that the chart begins with. `series` are indices: the second series is along Y, the first along

@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view kUtf16Marks[] = {"\xFF\xFE", "\xFE\xFF"};
 constexpr char kSeparators[] = {',', ';', '\t'};
-constexpr std::size_t kPiece = std::size_t{1} << 16;
+constexpr std::size_t kPiece = std::size_t{1} << 16; // most bytes added to m_pending at once
 
 bool IsLineEnd(char c) {
     return c == '\n' || c == '\r';
@@ -122,7 +122,8 @@ void CsvReader::EndRow(std::size_t end) {
     m_rowHasBreaks = false;
 }
 
-/// Looks for the end of the current row and delivers the row; false when more bytes are needed.
+/// Scans the current row to its end and delivers it, or begins to skip it or to read it line by line. Returns
+/// false when more bytes are needed or the text has ended.
 bool CsvReader::FindRowEnd(bool atEnd) {
     // The scan stops at the same byte whatever the size of the pieces. One byte behind the limit may be the
     // line end of a row of exactly kLineLimit bytes.
@@ -176,9 +177,9 @@ bool CsvReader::FindRowEnd(bool atEnd) {
     return false;
 }
 
-/// Scans the current row again, because a quote spans lines and the row is too long or ends within a quote. A
-/// line end before `until` now closes every quote, so the following rows are not lost, and no byte is scanned
-/// more than twice.
+/// Begins to scan the current row again, because a quote spans lines and the row is too long or the text ends
+/// within the quote. From now on, a line end before `until` closes an open quote, so that the following rows
+/// are not lost and no byte is scanned more than a few times.
 void CsvReader::RestartLineByLine(std::size_t until) {
     m_plainUntil = until;
     m_scanned = m_begin;

@@ -29,7 +29,7 @@ struct CsvRow {
 enum class CsvFault {
     Utf16,       ///< the file begins with a UTF-16 byte order mark: the reader delivers nothing
     LineTooLong, ///< the line exceeds kLineLimit: the reader skips the line
-    OpenQuote,   ///< a quote is never closed: the reader closes it at the end of its line
+    OpenQuote,   ///< no closing quote is found: the reader closes the quote at the end of its line
     AfterQuote   ///< text follows a closing quote: the reader keeps the text as part of the cell
 };
 
@@ -47,9 +47,9 @@ public:
 
 /// Reads comma-separated text that the caller feeds in pieces. The rows do not depend on the size of the
 /// pieces. Quoting follows RFC 4180. Lines end with CRLF, LF or CR. A UTF-8 byte order mark is skipped. The
-/// separator is the one of comma, semicolon and tab that is most frequent in the first line outside quotes.
-/// For any input, the text in memory stays below about twice kLineLimit; a row also needs one CsvCell for
-/// each of its cells.
+/// separator is the most frequent of comma, semicolon and tab outside quotes in the first line; a comma when
+/// the line has none of them. For any input, the text in memory stays below about twice kLineLimit; a row
+/// also needs one CsvCell for each of its cells.
 class CsvReader {
 public:
     /// Longest row in bytes. A longer row that has line breaks within quotes is read again, one line at a
@@ -74,7 +74,7 @@ public:
     /// The separator of the first line; a comma until that line has been read.
     char Separator() const { return m_separator; }
 
-    /// Whether reading has stopped: by the sink, by Stop, or because the file is UTF-16.
+    /// Whether reading has stopped: by the sink, by Stop or Finish, or because the file is UTF-16.
     bool Stopped() const { return m_stopped; }
 
 private:
@@ -96,8 +96,8 @@ private:
     CsvSink& m_sink;
     std::string m_pending;        ///< bytes not yet delivered: at most about kLineLimit + 64 KB
     std::size_t m_begin = 0;      ///< where the current row begins in m_pending
-    std::size_t m_scanned = 0;    ///< end of the bytes that were scanned for the row's end
-    std::size_t m_plainUntil = 0; ///< before this position, a line end closes an open quote
+    std::size_t m_scanned = 0;    ///< position in m_pending where the search for the row's end continues
+    std::size_t m_plainUntil = 0; ///< position in m_pending: a line end before it closes an open quote
     Scan m_scan = Scan::CellStart;
     bool m_rowHasBreaks = false; ///< the current row has a line break within quotes
     std::uint64_t m_line = 1;    ///< line where the current row begins

@@ -9,9 +9,10 @@
 namespace kavlix::recording {
 
 /// The row with the value to show for `series` at row `sample`. In joined files a row usually holds values of
-/// one file only, so a series of another file has its value in a neighbouring row. The result is the nearest
-/// row in `visible` with a value of the series, if that row is less than one median interval of the series'
-/// file away. Otherwise, and always in a single file, the result is `sample` itself, whose value may be NaN.
+/// one file only, so a series of another file has its value in a neighbouring row. The result is the row in
+/// `visible` with a value of the series that is the fewest rows away, at most 1000, if its time is less than
+/// one median interval of the series' file away. Otherwise, and always in a single file, the result is
+/// `sample` itself, whose value may be NaN.
 std::size_t SampleBeside(const Recording& recording, const VisibleRange& visible, std::size_t series,
                          std::size_t sample);
 

@@ -1,4 +1,4 @@
-// Differences of counters by the time that passed, and their units.
+// Divides differences of counters by the time that passed, and chooses units for the rates.
 
 #include "monitor/recording/MachineRates.h"
 
@@ -10,7 +10,7 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr double kHighestShown = 100; // most units of a rate: the axis of the percents ends at 100
+constexpr double kHighestShown = 100; // highest rate, in its unit: the axis shared with percents ends at 100
 constexpr std::array<const char*, 5> kPrefixes = {"", "k", "M", "G", "T"};
 
 std::optional<double> ProcessorPercent(const MachineCounters& before, const MachineCounters& now) {

@@ -23,9 +23,9 @@ struct MachineCounters {
         std::uint64_t total = 0;
     };
 
-    double seconds = 0; ///< time of a clock that never goes back
+    double seconds = 0; ///< when the counters were read, by a clock that never goes back
     std::optional<Processor> processor;
-    std::optional<double> memoryPercent;                      ///< physical memory in use
+    std::optional<double> memoryPercent; ///< percentage of the physical memory that is in use
     std::optional<std::vector<InterfaceCounters>> interfaces; ///< hardware only: no loopback, no filters
 };
 
@@ -37,8 +37,9 @@ struct MachineRates {
     std::optional<double> bytesOutPerSecond;
 };
 
-/// Computes the rates between two readings. An interface that exists in only one of them counts as 0; so does
-/// a counter that went backwards, because its interface was reset.
+/// Computes the rates between two readings; the memory's percentage is that of `now`. An interface that
+/// exists in only one reading adds nothing to the network rates, nor does a byte counter that went backwards
+/// because its interface was reset.
 MachineRates RatesBetween(const MachineCounters& before, const MachineCounters& now);
 
 /// The unit of network rates on the axis that they share with percents.
@@ -49,7 +50,8 @@ struct RateUnit {
     bool operator==(const RateUnit& other) const { return bytesPerSecond == other.bytesPerSecond; }
 };
 
-/// The smallest unit, from kB/s on, in which the highest rate is at most 100. NaN counts as 0.
+/// The smallest unit, from kB/s to 100 TB/s, in which the highest rate is at most 100; 100 TB/s for still
+/// higher rates. NaN counts as 0.
 RateUnit ChooseRateUnit(double highestBytesPerSecond);
 
 /// A rate as text: `812 B/s`, `3.4 kB/s`, `120 MB/s`.

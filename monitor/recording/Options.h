@@ -18,19 +18,19 @@ struct WindowSize {
     int height = 0;
 };
 
-inline constexpr int kMinWindowSide = 100;    // pixels
-inline constexpr int kMaxWindowSide = 10'000; // pixels
+inline constexpr int kMinWindowSide = 100;    // least width and height for `--size`, in pixels
+inline constexpr int kMaxWindowSide = 10'000; // greatest width and height for `--size`, in pixels
 inline constexpr double kMaxSeconds = 1e6;
 
 /// The pages' names for `--page`, in the order of the menu.
 inline constexpr std::array<std::string_view, 5> kPageNames = {"graph", "scroll", "pie", "chart", "multi"};
-inline constexpr std::size_t kGraphPage = 0;  ///< the default page of recordings
-inline constexpr std::size_t kScrollPage = 1; ///< the default page of live readings
+inline constexpr std::size_t kGraphPage = 0;  ///< index into kPageNames: the default page of recordings
+inline constexpr std::size_t kScrollPage = 1; ///< index into kPageNames: the default page of live readings
 
 /// What the command line asks for.
 struct Options {
-    std::vector<std::string> files; ///< recordings; none: live readings
-    std::string shot;               ///< PNG file to save before the program ends; empty: none
+    std::vector<std::string> files; ///< recordings to show; empty: live readings are shown
+    std::string shot;               ///< picture file to save before the program ends; empty: none
     std::optional<double> seconds;  ///< the program ends after this time
     std::optional<WindowSize> size;
     std::optional<ViewStyle> style;
@@ -38,7 +38,7 @@ struct Options {
     bool check = false;              ///< read the files, print the report and end
     bool help = false;               ///< print HelpText and end
 
-    /// What is wrong with the command line, as text for a person; empty when nothing is.
+    /// What is wrong with the command line, as text for a person; empty when nothing is wrong.
     std::string error;
 };
 

@@ -5,9 +5,9 @@ namespace kavlix::recording {
 
 /// Widths of a status bar's panes in pixels, from the left.
 struct PaneWidths {
-    int text = 0;    ///< the marked sample; without a mark, what the view shows
-    int pointer = 0; ///< the sample under the mouse pointer
-    int summary = 0; ///< summary of the files that were read
+    int text = 0;    ///< width of the pane for the marked sample or, without a mark, for what the view shows
+    int pointer = 0; ///< width of the pane for the sample under the mouse pointer
+    int summary = 0; ///< width of the pane for the summary of the files that were read
 };
 
 /// Divides `width`, the width of the status bar, among its three panes; `wanted` is what each pane needs. If

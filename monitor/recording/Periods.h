@@ -13,7 +13,7 @@ namespace kavlix::recording {
 /// even without times.
 class Periods {
 public:
-    /// The most periods that a picture can show legibly.
+    /// Largest Count(): a picture cannot show more periods legibly.
     static constexpr std::size_t kMost = 16;
 
     explicit Periods(const std::vector<Time>& times);
@@ -46,7 +46,7 @@ struct PeriodStatistics {
 PeriodStatistics StatisticsOf(const Recording& recording, std::size_t series, const Periods& periods);
 
 /// The values in ascending order. Of more than kMostRanked values: the lowest, the highest, and others at
-/// equal distances in rank.
+/// about equal distances in rank.
 std::vector<double> RankedOf(std::vector<double> values);
 inline constexpr std::size_t kMostRanked = 401;
 

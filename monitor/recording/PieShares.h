@@ -15,7 +15,7 @@ struct PieShares {
         double share = 0;      ///< share of the total, 0 to 1; 0 for all parts when the total is 0
     };
     std::vector<Part> parts;           ///< in the order of the values
-    double total = 0;                  ///< infinite when the sum exceeds the range of a double
+    double total = 0;                  ///< sum of the parts' values; infinite beyond the range of a double
     std::vector<std::size_t> negative; ///< indices of values below 0, which have no share
     std::vector<std::size_t> missing;  ///< indices of NaN and infinities
 };

@@ -41,7 +41,7 @@ struct FileSummary {
     std::uint64_t rows = 0;        ///< number of rows kept
     std::uint64_t rowsLeftOut = 0; ///< data rows left out; all rows lost for lack of memory count as one
     bool leftOut = false;          ///< the whole file was left out
-    bool zoned = false;            ///< the file's times name a time zone: they were converted to UTC
+    bool zoned = false;            ///< some times name a time zone: these were converted to UTC
     Time first = 0;                ///< earliest time; meaningless when `rows` is 0
     Time last = 0;                 ///< latest time; meaningless when `rows` is 0
     Time interval = 0;             ///< median time between neighbouring rows; 0 with fewer than two rows
@@ -53,9 +53,9 @@ struct FileSummary {
 
 /// The result of reading. The numbers are the program's exit status.
 enum class Status {
-    Fine = 0,    ///< every row of every file is shown
+    Fine = 0,    ///< no data row and no file was left out, and reading was not cancelled
     LeftOut = 1, ///< a row or a whole file was left out, or reading was cancelled
-    Nothing = 2  ///< there is nothing to show
+    Nothing = 2  ///< there is no value to show
 };
 
 /// One file, or several files joined on time.
@@ -74,12 +74,12 @@ struct Recording {
     /// Whether there is no value at all.
     bool Empty() const;
 
-    /// Number of rows left out, of all files.
+    /// Sum of FileSummary::rowsLeftOut over all files.
     std::uint64_t RowsLeftOut() const;
 
     Status GetStatus() const;
 
-    /// Whether the times of any file name a time zone.
+    /// Whether any file has a time that names a time zone.
     bool Zoned() const;
 };
 

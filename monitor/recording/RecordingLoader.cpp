@@ -16,7 +16,7 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr std::size_t kBufferSize = std::size_t{1} << 18; // bytes
+constexpr std::size_t kBufferSize = std::size_t{1} << 18; // most bytes read from a file at once
 
 std::string LastSystemError() {
     const int error = errno;
@@ -51,12 +51,12 @@ struct RecordingLoader::State {
     std::ifstream stream;
     std::unique_ptr<TableReader> reader;
     Progress progress;
-    std::uint64_t bytesBefore = 0; ///< size of the files that were read to their end
+    std::uint64_t bytesBefore = 0; ///< size of the files before the current one, in bytes
     std::size_t seriesTaken = 0;
 
     FileSummary& File() { return recording.files[progress.file]; }
 
-    /// Opens the current file; false when it cannot be read.
+    /// Opens the current file; false, with a message, when it cannot be opened.
     bool Open() {
         FileSummary& file = File();
         reader = std::make_unique<TableReader>(file, kMaxSeries - seriesTaken);
@@ -74,7 +74,8 @@ struct RecordingLoader::State {
             File().log.Add(Complaint::File, 0, 0, text);
     }
 
-    /// Reads at most `most` bytes of the current file into the buffer. Returns their number, 0 at the end.
+    /// Reads at most `most` bytes of the current file into the buffer. Returns their number; 0 at the end, on
+    /// a read error, and when the reader has stopped.
     std::size_t ReadPiece(std::size_t most) {
         if (reader->Stopped())
             return 0;
@@ -110,7 +111,8 @@ struct RecordingLoader::State {
         progress.rows += reader->Rows() - rowsBefore;
     }
 
-    /// Reads and parses the next piece of the current file. Returns the number of bytes read.
+    /// Reads and parses the next piece of the current file. Returns the number of bytes read, or 0 when there
+    /// is no more and this function has ended the file.
     std::size_t ReadSome(std::size_t budget) {
         if (!reader && !Open()) {
             EndFile();

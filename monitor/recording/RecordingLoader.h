@@ -14,9 +14,9 @@ namespace kavlix::recording {
 /// How far a RecordingLoader is.
 struct Progress {
     std::uint64_t bytesDone = 0;
-    std::uint64_t bytesTotal = 0; ///< size of all files when loading began; never less than bytesDone
+    std::uint64_t bytesTotal = 0; ///< size of all files when loading began, or bytesDone if that is more
     std::size_t file = 0;         ///< index of the current file
-    std::uint64_t rows = 0;       ///< rows kept of all files
+    std::uint64_t rows = 0;       ///< rows kept so far, without a file's last row if that has no line end
     bool finished = false;
 
     /// The share of the bytes that were read, in percent. Only a finished loader returns 100.
@@ -42,8 +42,8 @@ public:
     RecordingLoader(const RecordingLoader&) = delete;
     RecordingLoader& operator=(const RecordingLoader&) = delete;
 
-    /// Reads about `budgetBytes` more bytes; 0 counts as 1. The last step also joins the files. Does nothing
-    /// once loading has finished.
+    /// Reads at most `budgetBytes` more bytes; 0 counts as 1. The last step also joins the files. Does
+    /// nothing once loading has finished.
     Progress Step(std::size_t budgetBytes);
 
     /// How far loading is, without reading.

@@ -8,12 +8,13 @@
 namespace kavlix::recording {
 
 /// The samples that are handed to the graph control: the shown samples. They are made from a part of a source
-/// recording. The samples of this part are divided into runs of equal length, and each run becomes one or two
-/// shown samples. The functions count the source's samples from the first one of the part.
+/// recording. The samples of this part are divided into runs of equal length (the last run may be shorter),
+/// and each run becomes one or two shown samples. The functions count the source's samples from the first one
+/// of the part.
 struct ShownSamples {
     Recording recording;         ///< times and series; of the files only what the time axis needs
     std::size_t samplesEach = 1; ///< samples of the source in each run
-    std::size_t pointsEach = 1;  ///< shown samples for each run: 2 for reduced lines
+    std::size_t pointsEach = 1;  ///< shown samples for each run: 2 for reduced lines, otherwise 1
 
     /// The source's first sample in the run that a shown sample stands for.
     std::size_t RunOf(std::size_t shown) const { return shown / pointsEach * samplesEach; }
@@ -23,8 +24,8 @@ struct ShownSamples {
     std::size_t SampleOf(std::size_t shown, std::size_t count) const;
 
     /// The shown sample that stands for the run with the source's `sample`. Of two shown samples, the second
-    /// one if the run has several samples and the second's time is not after the sample's; otherwise the
-    /// first.
+    /// one if the run has several samples and `sample` is the sample that gives the second its time, or a
+    /// later one; otherwise the first.
     std::size_t ShownFor(std::size_t sample, std::size_t count) const;
 };
 

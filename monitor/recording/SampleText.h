@@ -13,19 +13,19 @@ namespace kavlix::recording {
 struct NamedValue {
     std::string name;
     double value = 0;              ///< NaN: the series has no value at that time
-    std::optional<Time> time = {}; ///< the value's own time, where it may differ from the sample's
+    std::optional<Time> time = {}; ///< the value's own time; none: the time of the sample
 };
 
 /// Number of digits of a value.
 enum class ValueDigits {
     AsRead,  ///< as many as FormatNumber writes: the text reads back as the same number
-    Computed ///< six: more digits of a mean or of a converted reading have no meaning
+    Computed ///< six significant: more have no meaning in a mean or a converted reading
 };
 
-/// Texts of a sample in three forms, the longest first: the time with name and value of every series that has
-/// a value; the same with shortened names; the time with values only, in six digits. In the first two forms a
-/// value whose own time differs from `time` is followed by its time, without the date when the date is the
-/// same.
+/// Texts of a sample in three forms, the longest first: the time with name (cut to 32 bytes) and value of
+/// every series that has a value; the same with names cut to 10 bytes; the time with values only, in six
+/// significant digits. In the first two forms a value whose own time differs from `time` is followed by its
+/// time, without the date when the date is the same.
 std::vector<std::string> SampleTexts(Time time, const std::vector<NamedValue>& values, ValueDigits digits);
 
 } // namespace kavlix::recording

@@ -19,7 +19,7 @@ inline constexpr int kViewRanges[] = {60, 300, 900, 3600, 21'600, 86'400, 604'80
 
 /// The best width for a recording of this length, as an index into kViewRanges. This is the shortest width
 /// that covers the recording; but if the recording fills less than a third of that width, the next shorter
-/// one. If no width covers the recording: the longest width.
+/// one, if any. If no width covers the recording: the longest width.
 std::size_t ChooseViewRange(Time length);
 
 } // namespace kavlix::recording

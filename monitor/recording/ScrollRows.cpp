@@ -9,7 +9,7 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr Time kMostGapRows = 1000; // about the most rows for one gap
+constexpr Time kMostGapRows = 1000; // one gap gets fewer than twice this number of rows
 
 /// Gaps, and samples in the same second as the previous sample, are normal in a recording when more than one
 /// sample in kUsualOf has them.

@@ -11,7 +11,7 @@ namespace kavlix::recording {
 
 /// One row of the scrolling graph.
 struct ScrollRow {
-    Time time = 0;          ///< a whole second
+    Time time = 0;          ///< time of the row, always a whole second
     std::size_t sample = 0; ///< first sample of the row; in a gap, the first sample behind the gap
     std::size_t count = 0;  ///< number of samples in the row; 0: the row is part of a gap
 };
@@ -38,9 +38,9 @@ inline constexpr Time kLastStampTime = 2'147'300'000 * kMicrosPerSecond;
 ScrollPlan PlanScrollRows(const Recording& recording);
 
 /// Appends rows without values for the gap between the neighbouring rows at `from` and `to`. The new rows are
-/// one `interval` apart, or more in a long gap: a gap gets at most about 1000 rows. `sample` is the first
-/// sample behind the gap. Appends nothing when `from` and `to` are not farther apart than
-/// LongestStep(interval).
+/// one `interval` apart, in whole seconds, or more in a long gap: a gap gets fewer than 2000 rows. `sample`
+/// is the first sample behind the gap. Appends nothing when `interval` is 0, or `from` and `to` are not
+/// farther apart than LongestStep(interval).
 void AppendGapRows(Time from, Time to, Time interval, std::size_t sample, std::vector<ScrollRow>& rows);
 
 /// Appends the rows of the next samples, with rows for the gaps between them. On entry, `sample` is the next

@@ -14,15 +14,16 @@ namespace kavlix::recording {
 /// The rows kept of one file.
 struct Table {
     std::vector<Time> times;
-    std::vector<std::string> names;           ///< of the series, from the header; not yet distinct
+    std::vector<std::string> names;           ///< of the series, from the header or made up; not yet distinct
     std::vector<std::vector<double>> columns; ///< one for each name, as long as `times`; NaN is a gap
 };
 
 /// Makes a table of one file's rows, and a message for everything that is wrong. The rules:
 ///
 /// - The header names the series. When the first row is data, the reader makes up names and keeps the row.
+/// - Blank lines are skipped.
 /// - A row with an unreadable time is left out. A row with too many cells is left out too, because their
-///   series are unknown.
+///   series are unknown; blank cells at the row's end do not count.
 /// - A cell that is no number is a gap. A cell missing at the end of the row is a gap too. A row with bad
 ///   or missing cells and without any value is left out. A complete row of empty cells is kept.
 /// - A time before the previous row's causes a message. The row is kept, and sorted by time at the end.

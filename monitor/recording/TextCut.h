@@ -15,8 +15,9 @@ inline std::size_t WholeCharacters(const std::string& text, std::size_t bytes) {
     return bytes;
 }
 
-/// The text, or the longest beginning of it that fits with `...` behind it; empty when not even one character
-/// fits. `fits` returns whether there is room for a text; a shorter text must not need more room.
+/// The text, or the longest beginning of it that fits with `...` behind it; empty or only `...` when not even
+/// one character fits. `fits` returns whether there is room for a text; a shorter text must not need more
+/// room.
 template <class Fits> std::string CutToFit(const std::string& text, Fits fits) {
     if (fits(text))
         return text;

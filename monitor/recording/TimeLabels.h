@@ -12,17 +12,17 @@ namespace kavlix::recording {
 /// one line: with two lines, neighbouring labels would touch.
 struct TimeLabelStyle {
     enum class Form {
-        Clock,       ///< `14:05:00`: all times within one day
+        Clock,       ///< `14:05:00`: all times on one day, and not all midnight
         DayAndClock, ///< `12-02 21:15`: all other times
-        Date,        ///< `2013-12-02`: the labels are a day or more apart, or every time is midnight
-        Month,       ///< `2013-12`: at least two times, and each is midnight of the first of a month
-        Year         ///< `2013`: at least two times, and each is midnight of 1 January
+        Date, ///< `2013-12-02`: labels a day or more apart, or every time midnight, unless Month or Year fits
+        Month, ///< `2013-12`: two or more times, each midnight of a month's first day, unless Year fits
+        Year   ///< `2013`: two or more times, each midnight of 1 January
     };
 
     Form form = Form::Clock;
     TimePrecision precision = TimePrecision::Seconds;
-    int chars = 8;         ///< length of the labels, for SetXTickLabelUpStringMaxLength
-    int bandHeight = 1500; ///< height for SetXTickLabelHeight, in logical units
+    int chars = 8;         ///< characters in a label, for SetXTickLabelUpStringMaxLength
+    int bandHeight = 1500; ///< height of the labels' band in logical units, for SetXTickLabelHeight
 
     bool operator==(const TimeLabelStyle& other) const {
         return form == other.form && precision == other.precision;
@@ -35,7 +35,8 @@ TimeLabelStyle ChooseTimeLabels(const std::vector<Time>& times, int labels);
 /// The label of one sample, for AddXTickLabel.
 std::string MakeTimeLabel(const TimeLabelStyle& style, Time time);
 
-/// The title of the X axis: the day, or the first and the last time; with ` (UTC)` when `zoned`.
+/// The title of the X axis: with Form::Clock the day, otherwise the first and the last time, or one of them
+/// if both read the same. When `zoned`, ` (UTC)` follows. Without times, the title is `Time`.
 std::string TimeAxisTitle(const std::vector<Time>& times, const TimeLabelStyle& style, bool zoned);
 
 } // namespace kavlix::recording

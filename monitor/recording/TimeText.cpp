@@ -90,7 +90,8 @@ bool ReadClock(Cursor& cursor, CivilTime& civil, bool& leap) {
     return true;
 }
 
-/// Reads `Z`, `+HH`, `+HHMM` or `+HH:MM` and returns the offset from UTC.
+/// Reads `Z`, or `+HH`, `+HHMM` or `+HH:MM` with plus or minus. `offset` receives the offset from UTC in
+/// microseconds, positive in the east.
 bool ReadZone(Cursor& cursor, Time& offset) {
     if (cursor.Read('Z') || cursor.Read('z')) {
         offset = 0;
@@ -138,7 +139,8 @@ bool ParseCalendar(std::string_view text, ParsedTime& result) {
     return true;
 }
 
-/// Reads digits with an optional decimal part. They are read exactly: a double would round microseconds.
+/// Reads seconds written as digits, with an optional minus sign and decimal part. Uses no double, which would
+/// round microseconds.
 bool ParsePlainSeconds(std::string_view text, Time& time) {
     constexpr Time kMostSeconds = 1'000'000'000'000;
     const bool negative = !text.empty() && text.front() == '-';

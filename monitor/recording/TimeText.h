@@ -53,10 +53,11 @@ struct ParsedTime {
 };
 
 /// Reads a time in one of these forms: `YYYY-MM-DD HH:MM[:SS[.fraction]]`; the same with `T` between date and
-/// time of day; a date, which means its midnight; seconds since 1970, whole or decimal, also negative. A time
-/// of day may be followed by a zone: `Z`, `+HH:MM`, `-HHMM` or `+HH`. Blanks around the text are ignored.
-/// Second 60 (a leap second) is read as the next second. Digits beyond microseconds are dropped. Returns
-/// false, and leaves `result` unchanged, when the text has another form or lies outside years 1 to 9999.
+/// time of day; a date, which means its midnight; seconds since 1970, whole or decimal, also negative or with
+/// an exponent. A time of day may be followed by a zone: `Z`, `+HH:MM`, `-HHMM` or `+HH`. Blanks around the
+/// text are ignored. Second 60 (a leap second) is read as the next second. Digits beyond microseconds are
+/// dropped, except that seconds with an exponent or a plus sign are rounded to microseconds. Returns false,
+/// and leaves `result` unchanged, when the text has another form or lies outside years 1 to 9999.
 bool ParseTime(std::string_view text, ParsedTime& result);
 
 /// What ParseTime expects, in words for a message.

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kMinTicks = 2;
 constexpr int kMaxTicks = 1000;
-constexpr double kSmallest = 1e-300; // values nearer to 0 are shown as 0
+constexpr double kSmallest = 1e-300; // values that are all nearer to 0 count as 0
 
 /// Values whose span is at most this share of their magnitude count as equal: labels could not show the span.
 constexpr double kConstantShare = 1e-9;
@@ -24,7 +24,7 @@ constexpr double kZeroShare = 1.0 / 3.0;
 
 /// Tolerance of a division, as a share of a step: without it, rounding errors would cost a whole step.
 constexpr double kRoundingSlack = 1e-9;
-constexpr double kFinerByFar = 2.5; // a new range this number of times shorter replaces the old one
+constexpr double kFinerByFar = 2.5; // a new range at least this number of times shorter replaces the old one
 
 // An axis needs no unit when its largest absolute value is in this range.
 constexpr double kPlainFrom = 1e-2;
@@ -114,8 +114,8 @@ Step ChooseStep(const ValueSpan& span, std::int64_t intervals, double wanted) {
 }
 
 /// The multiple of the step at which the axis begins. A span that begins or ends at 0 keeps 0 as an end of
-/// the axis; any other span is centred. Centring cannot reach across 0, because SpanToShow extends spans
-/// near 0.
+/// the axis; any other span is centred. With values of one sign, centring cannot reach across 0, because
+/// SpanToShow extends spans near 0.
 std::int64_t FirstMultiple(const ValueSpan& span, const Step& step, std::int64_t intervals) {
     const std::int64_t low = FloorSteps(span.min, step);
     const std::int64_t high = CeilSteps(span.max, step);

@@ -25,8 +25,8 @@ inline constexpr double kScaleLimit = 1e300;
 
 /// Chooses the range for the values and a number of ticks (cut to 2 to 1000). The range covers the values. If
 /// all values have the same sign and the value nearest to 0 is at most a third of the farthest one, the range
-/// begins or ends at 0. Values that are all the same get room on both sides. Without values the range begins
-/// at 0 and ends at 1 or a little above.
+/// begins or ends at 0. Equal values other than 0 get room on both sides. Without values, or with zeros only,
+/// the range begins at 0 and ends at 1 or a little above.
 ValueScale ChooseValueScale(const ValueSpan& span, int ticks);
 
 /// Chooses the scale anew when the values no longer fit, when the number of ticks differs, or when a new

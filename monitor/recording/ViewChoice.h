@@ -22,8 +22,8 @@ struct ViewRequest {
 
 /// Settings for the graph control that suit a recording.
 struct ViewChoice {
-    ValueScale y; ///< left axis: for all visible values, and 0 with bars; in the two-axis style for series 0
-    /// Right axis: in the two-axis style for series 1, if that series has values; otherwise equal to `y`.
+    ValueScale y; ///< left axis: covers all values in `visible`, and 0 with bars; with two axes only series 0
+    /// Right axis: in the two-axis style for series 1, if it has values in `visible`; otherwise equal to `y`.
     ValueScale y2;
     TimeLabelStyle labels;
     std::string timeTitle; ///< for SetXLabel

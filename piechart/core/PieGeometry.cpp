@@ -12,13 +12,14 @@ namespace {
 
 constexpr double kPieControlPi = 3.1415926535; // hosts rely on angles computed with this value
 constexpr double kHalfCircle = 180.0;
-constexpr double kHalfCircleInverse = 0.005555555555555556; // 1 / 180: hosts rely on this product's rounding
+// 1 / 180. Hosts rely on the rounding of a multiplication; a division by 180 rounds differently.
+constexpr double kHalfCircleInverse = 0.005555555555555556;
 constexpr double kRightwards = 90.0;
 constexpr double kLeftwards = 270.0;
 constexpr double kInnerCircle = 0.6000000000000001; // radius of the label circle, in radii of the pie
 
-constexpr int kMargins = 40;     // pixels, of both sides together
-constexpr int kShiftToLeft = 15; // pixels
+constexpr int kMargins = 40;     // pixels; both margins together in the client area's shorter direction
+constexpr int kShiftToLeft = 15; // pixels from the middle of the client area
 
 /// The mean, truncated toward zero.
 int Middle(int a, int b) {

@@ -27,7 +27,7 @@ struct PieSector {
 };
 
 /// The running sum of the pieces' spans. Painting and the search for a clicked piece use the same sum, so a
-/// click on a sector finds the sector's piece.
+/// click on a sector finds the sector's piece as long as the first piece begins at twelve o'clock.
 class PieRunningSum {
 public:
     /// Adds the next piece in list order and returns its sector.
@@ -52,8 +52,8 @@ Point PointOnPie(const Rect& pie, double angle, bool inner);
 /// The point at `angle` and `distance` pixels from the centre, rounded to the nearest pixel.
 Point PointAround(const Rect& pie, double angle, double distance);
 
-/// A closed line inside the sector from `begin` to `end`, `inset` pixels from the sector's boundary. Empty
-/// when the sector is too small for the line.
+/// A closed line inside the sector from `begin` to `end`, about `inset` pixels from the sector's boundary.
+/// Empty when the sector is too small for the line.
 std::vector<Point> LineInSector(const Rect& pie, double begin, double end, double inset);
 
 /// The direction from the centre to `point`, 0 <= angle < 360; -1 for the centre itself.

@@ -165,7 +165,8 @@ std::vector<int> WidestSectors(const std::vector<PieSector>& sectors, int count)
 }
 
 int LabelCapacity(const PieLabelArea& area) {
-    // Each line has room for one label on either side of the pie. Inside the pie there is room for fewer.
+    // Each line has room for one label on either side of the pie. Labels inside the pie count too, although
+    // they need no room beside it.
     return 2 * (std::max(area.client.Height(), 0) / std::max(area.lineHeight, 1));
 }
 

@@ -12,7 +12,7 @@ constexpr int kPieTextPadding = 2; ///< pixels to the left and right of the text
 /// Widths of a piece's texts in pixels; 0 for a text that is not shown.
 struct PieText {
     int label = 0;
-    int broken = 0; ///< of the label broken into two lines; 0 when the label cannot be broken
+    int broken = 0; ///< of the wider line of the label broken into two; 0 when it has no blank to break at
     int percent = 0;
     int narrowest = 0; ///< least width of an abbreviation of the label
 };
@@ -26,12 +26,12 @@ struct PieLabelRequest {
 /// Where a piece's texts stand. All rectangles are empty when there is no room. Unless `broken`, a `label`
 /// narrower than the label's text means that the text has to be abbreviated.
 struct PieLabel {
-    Rect box;                  ///< the label, a percentage that stands with it, and kPieTextPadding
+    Rect box;                  ///< the texts and kPieTextPadding; not a percentage alone inside the sector
     Rect label;                ///< one line, or two when the label is broken
     Rect percent;              ///< one line, in the box or alone inside the sector
     bool broken = false;       ///< the label takes two lines
     bool outside = false;      ///< the box stands beside the pie
-    std::vector<Point> leader; ///< from the rim to a box beside the pie
+    std::vector<Point> leader; ///< points from the rim to a box beside the pie
 };
 
 /// What the places of the texts depend on besides the pieces.
@@ -46,7 +46,8 @@ struct PieLabelArea {
 /// first ones are taken.
 std::vector<int> WidestSectors(const std::vector<PieSector>& sectors, int count);
 
-/// The most pieces that can have a label in `area`.
+/// The greatest number of pieces that may have a label: twice the number of text lines in the client area's
+/// height.
 int LabelCapacity(const PieLabelArea& area);
 
 /// Places the texts of `requests`, which must be in list order. Entry i of the result belongs to request i.

@@ -12,20 +12,19 @@
 namespace kavlix {
 namespace {
 
-// Lengths are pixels.
-constexpr int kRowGap = 2;       // between blocks one above the other
-constexpr int kWindowMargin = 1; // between blocks and the window's edge
-constexpr int kPieGap = 6;       // between the pie and a block
-constexpr int kLeaderStart = 4;  // length of a leader's first stroke, which leaves the rim at a right angle
-constexpr int kMostLines = 3;    // of a block
+constexpr int kRowGap = 2;       // least number of pixels between two blocks one above the other
+constexpr int kWindowMargin = 1; // least number of pixels between a block and the window's edge
+constexpr int kPieGap = 6;       // pixels between the pie and a block; lanes add to them
+constexpr int kLeaderStart = 4;  // pixels from the rim to lane 0, at a right angle to the rim
+constexpr int kMostLines = 3;    // greatest number of text lines of a block
 
 // A leader that cannot run straight to its block follows the rim in a lane: a circle round the pie. Every
-// lane is kLaneWidth farther out than the lane before it. Lane 0 is the closest to the pie.
+// lane is kLaneWidth pixels farther out than the lane before it. Lane 0 is the closest to the pie.
 constexpr int kLaneWidth = 3;
 constexpr int kMostLanes = 6;                // greatest number of lanes outside lane 0
 constexpr int kLanesAStep = 2;               // lanes that PlaceBeside adds at once
-constexpr double kDegreesBetweenBends = 6.0; // of a leader in its lane
-constexpr int kMostBends = 6;                // longer leaders are hard to follow
+constexpr double kDegreesBetweenBends = 6.0; // between two bends of a leader in its lane
+constexpr int kMostBends = 6;                // greatest number in the lane; longer leaders are hard to follow
 
 /// The text blocks on one side of the pie, from top to bottom.
 class Column {
@@ -35,8 +34,8 @@ public:
           m_centre(PieCentre(area.pie)), m_radius((static_cast<double>(area.pie.bottom) - area.pie.top) / 2) {
     }
 
-    /// Removes the blocks of the smallest sectors until the remaining blocks fit and have distinct leaders.
-    /// Gives the remaining blocks their places and leaders.
+    /// Removes blocks whose texts do not fit, and blocks of small sectors, until the remaining blocks fit and
+    /// have distinct leaders. Gives the remaining blocks their places and leaders.
     void Place() {
         const int top = m_area.client.top + kWindowMargin;
         const int bottom = m_area.client.bottom - kWindowMargin;
@@ -101,7 +100,7 @@ private:
 
     Rect Room(const PieBlock& block) const { return FreeRoom(block.top, block.top + Height(block)); }
 
-    // Chooses `wanted` and `lines`, at most `maxLines`, for a block that stands beside its sector. A higher
+    // Chooses `wanted` and `lines`, at most `maxLines`, for a block that stands beside its sector. A taller
     // block has another place and so another width, so the number of lines grows until the texts fit. 0 lines
     // when no text fits.
     void Measure(PieBlock& block, int maxLines) const {
@@ -176,7 +175,7 @@ private:
     }
 
     // Gives every block a leader that differs clearly from the leaders of the neighbouring blocks. The result
-    // is the first block found for which no lane gives such a leader, or the end.
+    // is the first block found for which no lane gives such a leader, or m_blocks.end() if all have leaders.
     Iterator Connect() {
         for (PieBlock& block : m_blocks)
             block.leader.clear();
@@ -276,8 +275,8 @@ private:
         label.box = Box(block, shape);
         label.leader = block.leader;
 
-        // Texts in separate lines are aligned to the side of the box that faces the pie. Texts in one line
-        // stand at both sides of the box.
+        // Texts in separate lines are aligned to the side of the box that faces the pie. In one line, the
+        // label stands at the left end of the box and the percentage at the right end.
         const int line = m_area.lineHeight;
         const int left = label.box.left + kPieTextPadding;
         const int right = label.box.right - kPieTextPadding;

@@ -25,8 +25,8 @@ public:
 
 /// The full time text, "YYYY/MM/DD hh:mm:ss".
 std::string FullTimeText(const CalendarTime& time);
-inline constexpr int kDateLength = 10; ///< of "YYYY/MM/DD" in a full time text
-inline constexpr int kClockLength = 8; ///< of "hh:mm:ss" in a full time text
+inline constexpr int kDateLength = 10; ///< characters of "YYYY/MM/DD" in a full time text
+inline constexpr int kClockLength = 8; ///< characters of "hh:mm:ss" in a full time text
 inline constexpr int kMonthAt = 5;     ///< index of "MM/DD" in a full time text
 
 } // namespace kavlix

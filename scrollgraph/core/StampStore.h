@@ -8,9 +8,9 @@
 
 namespace kavlix {
 
-/// Time stamps in order of arrival, stored in chunks. Readings usually arrive at an even pace, so a stamp
-/// takes one byte: its difference from the stamp that the chunk's even pace predicts. In a chunk without an
-/// even pace a stamp takes four bytes. Adding a stamp converts at most one chunk, and removing the oldest
+/// Time stamps in order of arrival, stored in chunks. Readings usually arrive at an even pace. In a chunk
+/// with an even pace a stamp takes one byte: its difference from the stamp that the pace predicts. In any
+/// other chunk a stamp takes four bytes. Adding a stamp converts at most one chunk, and removing the oldest
 /// stamps costs time in proportion to their number.
 class StampStore {
 public:

@@ -16,7 +16,7 @@ inline constexpr int kXUnitsPerSecond = 20;
 /// The time stamps of a scrolling graph, one per sample index, in seconds since 1970-01-01 00:00 UTC. Stamp 0
 /// is the origin of the x units. Removing the oldest stamps costs time in proportion to their number.
 ///
-/// The binary searches assume ascending stamps; where stamps do not ascend, the result is some valid index.
+/// LowerBound assumes ascending stamps; where stamps do not ascend, its result is some valid index.
 class TimeLine {
 public:
     /// Number of stamps; never above what an int counts.
@@ -47,8 +47,9 @@ public:
     /// sample, is returned unchanged; larger ones become Size() - 1.
     int UpperBound(int first, double viewWidth) const;
     /// The last sample of the run of ascending x that begins at sample `first`: the sample before the next
-    /// stamp that is earlier than its predecessor, but at most `last`. None where x wraps round within the
-    /// run. Both samples must exist, `first` not behind `last`. Takes one binary search.
+    /// stamp that is earlier than its predecessor, but at most `last`. None when the run contains a sample
+    /// more than 3.4 years from stamp 0, whose x has wrapped round. Both samples must exist, `first` not
+    /// behind `last`. Takes one binary search.
     std::optional<int> RunEnd(int first, int last) const;
 
 private:

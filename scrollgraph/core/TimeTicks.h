@@ -14,26 +14,30 @@ int SelectTickStep(int secondsInView, int maxTicks);
 
 /// Seconds from a local time to the next multiple of `step`; 0 when the time is a multiple. Multiples are
 /// counted from the start of the minute for a `step` below a minute, from the start of the hour for a `step`
-/// below an hour, and from the start of the day for a longer one. `step` is above 0, in seconds.
+/// below an hour, and from the start of the day for a longer one. `step` is above 0, in seconds; from a
+/// minute on it is truncated to whole minutes, from an hour on to whole hours.
 int SecondsToRoundTime(const CalendarTime& time, int step);
-/// As SecondsToRoundTime, for a step that is given in seconds, in minutes, or in hours.
+/// The three cases of SecondsToRoundTime: a step in seconds, counted from the start of the minute; in
+/// minutes, from the start of the hour; in hours, from the start of the day.
 int SecondsToRoundSecond(const CalendarTime& time, int seconds);
 int SecondsToRoundMinute(const CalendarTime& time, int minutes);
 int SecondsToRoundHour(const CalendarTime& time, int hours);
 
-// Places of the texts of a time label, which run upwards; logical units. A label with a date has its clock
-// time at the tick.
-inline constexpr int kClockShift = 110; ///< from the left edge of a clock time without a date to its tick
-inline constexpr int kDateShift = 70;   ///< from the tick to the right edge of a date
+// The texts of a time label run upwards. In a label with a date the clock time stands at the tick.
+
+/// Logical units from a tick leftwards to the left edge of its clock time, in a label without a date.
+inline constexpr int kClockShift = 110;
+/// Logical units from a tick rightwards to the right edge of its date.
+inline constexpr int kDateShift = 70;
 
 /// Iterates over the labels of a time axis, left to right. Ticks are counted from 0 and stand at equal
 /// distances in true time, whatever the local clock does: at the end of daylight saving the labels show the
 /// repeated hour twice.
 ///
-/// If the labels of neighbouring ticks do not touch, every tick has a label. Otherwise only ticks at
+/// If the ticks are far enough apart for their labels, every tick has a label. Otherwise only ticks at
 /// multiples, in local time, of a longer round duration have a label: a duration of two steps or more, up to
-/// whole days and weeks. If no tick stands exactly at a multiple, the first tick after the multiple has the
-/// label.
+/// whole days and weeks. Durations above a day are counted from the midnight of the first label. If no tick
+/// stands exactly at a multiple, the first tick after the multiple has the label.
 class TimeTicks {
 public:
     /// `clock` must outlive the ticks. Tick 0 is the first round time from `start` (seconds since 1970) on.
@@ -63,7 +67,7 @@ private:
     void Show(std::int64_t tick);
 
     const LocalClock& m_clock;
-    std::int64_t m_step;
+    std::int64_t m_step; ///< seconds between two ticks
     /// Seconds. When not every tick has a label, labels stand at multiples of this duration in local time.
     int m_round = 1;
     int m_firstOffset;

@@ -8,14 +8,16 @@
 namespace kavlix {
 namespace {
 
-// Shares of the view's width.
-constexpr double kFollowAt = 0.9;   // position of the newest sample while the view follows
-constexpr double kRoomBehind = 0.1; // added behind the newest sample when the range grows
-constexpr double kLineShare = 0.01; // moved by a line command of the scroll bar or a notch of the wheel
-constexpr double kPageShare = 0.5;  // moved by a page command of the scroll bar
+constexpr double kFollowAt = 0.9;   // share of the view's width to the left of the sample that it follows
+constexpr double kRoomBehind = 0.1; // share of the view's width by which a range grows beyond a new sample
+constexpr double kLineShare = 0.01; // share of the view's width that a line command or wheel notch moves
+constexpr double kPageShare = 0.5;  // share of the view's width that a page command moves
 
-constexpr double kAtLeftEnd = 1.0; // x units: a view that begins before this x ignores line steps to the left
-constexpr double kPerBarUnit = 0.0008333333333333334; // 1 / 1200; hosts rely on the rounding of this literal
+// X units. A view that begins before this x ignores line commands and wheel notches to the left.
+constexpr double kAtLeftEnd = 1.0;
+// Share of the scroll range for each unit of the thumb's position: 1 / kBarRange. Hosts rely on the rounding
+// of this literal.
+constexpr double kPerBarUnit = 0.0008333333333333334;
 
 int ToBarUnits(double share) {
     return ToCoordinate(share * ViewWindow::kBarRange);
@@ -64,7 +66,7 @@ ViewWindow::Arrival ViewWindow::Arrive(bool any, double xLast, double xNext) {
 }
 
 void ViewWindow::Clamp() {
-    // Where the range is narrower than the view, the left end decides.
+    // Where the range is narrower than the view, the range's left end decides.
     if (pos > max - width)
         pos = max - width;
     if (pos < min)

@@ -9,14 +9,14 @@ enum class ScrollStep { LineLeft, LineRight, PageLeft, PageRight, ThumbTo };
 /// The view on the time line and the range that it can be scrolled over, in x units. Hosts rely on the
 /// resulting positions, so the order of the comparisons and clamps matters.
 struct ViewWindow {
-    double pos = 0;   ///< left edge of the view
-    double max = 0;   ///< right end of the scroll range
-    double min = 0;   ///< left end of the scroll range
-    double width = 0; ///< width of the view
+    double pos = 0;   ///< left edge of the view, x units
+    double max = 0;   ///< right end of the scroll range, x units
+    double min = 0;   ///< left end of the scroll range, x units
+    double width = 0; ///< width of the view, x units
 
-    static constexpr double kInitialMax = 1200.0;      ///< right end of the range after a rewind
+    static constexpr double kInitialMax = 1200.0;      ///< right end of the range after Rewind, x units
     static constexpr int kBarRange = 1200;             ///< the scroll bar's range is 0 to this value
-    static constexpr int kLargestPage = kBarRange - 3; ///< below the bar's range, so that the thumb can move
+    static constexpr int kLargestPage = kBarRange - 3; ///< smaller than the bar's range: the thumb can move
 
     /// Position and page of the scroll bar, whose range is 0 to kBarRange.
     int BarPosition() const;
@@ -40,10 +40,10 @@ struct ViewWindow {
     Arrival Arrive(bool any, double xLast, double xNext);
 
     /// Executes a command of the scroll bar; only ThumbTo reads `thumb` (0 to kBarRange). LineLeft does
-    /// nothing and returns false when the view begins before x = 1.
+    /// nothing and returns false when the view begins before x = 1; otherwise the result is true.
     bool Step(ScrollStep step, unsigned thumb);
-    /// Moves the view by one notch of the wheel, to older samples when `delta` is not negative. True when the
-    /// view moved.
+    /// Moves the view by a hundredth of its width, to older samples when `delta` is not negative. True when
+    /// the view moved.
     bool Wheel(int delta);
 
 private:

@@ -41,17 +41,17 @@ public:
     ~CWinApp() override;
 
     HINSTANCE m_hInstance = nullptr;
-    HINSTANCE m_hPrevInstance = nullptr; ///< always NULL
-    LPTSTR m_lpCmdLine = nullptr;        ///< the command line after the program's name
+    HINSTANCE m_hPrevInstance = nullptr; ///< from WinMain(), where it is always NULL
+    LPTSTR m_lpCmdLine = nullptr;        ///< the command line; from WinMain() without the program's name
     int m_nCmdShow = SW_SHOWNORMAL;      ///< SW_ code for the first ShowWindow() of the main window
 
     // The names are allocated with malloc(); the destructor frees them. To change a name, free the old one
     // with free() and assign the result of _strdup().
     LPCTSTR m_pszAppName = nullptr;
-    LPCTSTR m_pszExeName = nullptr;      ///< file name without folder and extension
-    LPCTSTR m_pszHelpFilePath = nullptr; ///< the program's path with .HLP
+    LPCTSTR m_pszExeName = nullptr;      ///< file name of the program without folder and extension
+    LPCTSTR m_pszHelpFilePath = nullptr; ///< path of the help file: the program's path with .HLP
     LPCTSTR m_pszProfileName = nullptr;  ///< name of the INI file, or of the registry key of the program
-    LPCTSTR m_pszRegistryKey = nullptr;  ///< name of the registry key of the company; NULL: INI file
+    LPCTSTR m_pszRegistryKey = nullptr;  ///< registry key of the company; NULL: profile data in an INI file
 
     LPCTSTR GetAppName() const { return m_pszAppName; }
 
@@ -81,8 +81,8 @@ public:
     CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
     /// A NULL value deletes the entry. A NULL entry deletes the whole section.
     BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
-    /// Allocates the data with new BYTE[]; the caller deletes the block. If the entry does not exist, returns
-    /// FALSE and allocates nothing.
+    /// Allocates the data with new BYTE[]; the caller deletes the block. If the entry does not exist or
+    /// is not binary, returns FALSE and allocates nothing.
     BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 

@@ -11,19 +11,19 @@ class CDocument;
 
 /// Stores objects and values in a file, or loads them, through a buffer. Values are stored as their bytes,
 /// the least significant byte first. Members throw CArchiveException*: writeOnly and readOnly for the wrong
-/// direction, endOfFile when the file ends too early, other causes for bytes that are not an archive.
-/// Exceptions of the file pass through.
+/// direction, endOfFile when the file ends too early, genericException after Close() or Abort(), other causes
+/// for content that does not fit the program. Exceptions of the file pass through.
 ///
-/// The first pointer to an object stores the object, with the name and schema of its class. Further pointers
-/// to the object store a reference: the number of the object in the archive. Loading creates one object and
-/// sets all pointers to it.
+/// The first pointer to an object stores the object and its class: name and schema with the first object of
+/// the class, later a number. Further pointers to the object store a reference: the number of the object in
+/// the archive. Loading creates one object and sets all pointers to it.
 class MFC_API CArchive {
 public:
     enum Mode { store = 0, load = 1, bNoFlushOnDelete = 2, bNoByteSwap = 4 };
 
-    /// `file` must stay open while the archive exists, and its open mode must allow the direction. The
-    /// archive uses the first `bufferSize` bytes of `buffer`; the caller owns the buffer. Without a buffer
-    /// the archive allocates at least 128 bytes.
+    /// `file` must stay open until the archive is closed, and its open mode must allow the direction. The
+    /// archive uses the first `bufferSize` bytes of `buffer`; the caller owns the buffer. If `buffer` is null
+    /// or `bufferSize` is 0, the archive allocates a buffer of `bufferSize` bytes, but at least 128 bytes.
     CArchive(CFile* file, UINT mode, int bufferSize = 4096, void* buffer = nullptr);
     /// Closes the archive, unless the mode contains bNoFlushOnDelete. The destructor ignores errors; call
     /// Close() to get them.
@@ -69,16 +69,17 @@ public:
     /// Throws CNotSupportedException* if the object's class is not serialisable.
     void WriteObject(const CObject* object);
     /// Returns a new object that the caller owns, an object that was loaded before, or null. Throws badClass
-    /// if the object is not of `runtimeClass` or a class derived from it (null allows any class), and
-    /// badSchema if the schemas do not match.
+    /// if the program does not know the object's class, or if the object is not of `runtimeClass` or a class
+    /// derived from it (null allows any class). Throws badSchema if the schema in the archive differs from
+    /// the schema of a class without VERSIONABLE_SCHEMA.
     CObject* ReadObject(const CRuntimeClass* runtimeClass);
     /// Gives a number to an object that WriteObject() did not store, so that references to the object can be
     /// stored. Loading must call MapObject() for its own object at the same place in the archive.
     void MapObject(const CObject* object);
     void WriteClass(const CRuntimeClass* runtimeClass);
     /// Loads a class. `*schema` receives the stored schema; without `schema`, GetObjectSchema() returns it.
-    /// If a reference to an object follows instead of a class, `*objectTag` receives the reference and the
-    /// result is null. Without `objectTag`, a reference throws badIndex.
+    /// If a reference to an object follows instead of a class, `*objectTag` receives the number of the object
+    /// (0 for a null pointer) and the result is null. Without `objectTag`, a reference throws badIndex.
     CRuntimeClass* ReadClass(const CRuntimeClass* requested = nullptr, UINT* schema = nullptr,
                              DWORD* objectTag = nullptr);
     void SerializeClass(const CRuntimeClass* runtimeClass);
@@ -180,7 +181,7 @@ inline CArchive& operator>>(CArchive& ar, const CObject*& object) {
     return ar;
 }
 
-/// Each coordinate takes 4 bytes.
+/// Store or load each member of the structure in 4 bytes.
 MFC_API CArchive& operator<<(CArchive& ar, SIZE size);
 MFC_API CArchive& operator<<(CArchive& ar, POINT point);
 MFC_API CArchive& operator<<(CArchive& ar, const RECT& rect);

@@ -100,8 +100,9 @@ public:
     CPair* PGetNextAssoc(const CPair* pair) { return NextNode(CheckedNode(pair)); }
 
     UINT GetHashTableSize() const { return m_nBuckets; }
-    /// Sets the size of the hash table before the first element is added. Good sizes are prime numbers about
-    /// a fifth larger than the expected number of elements. `allocateNow` allocates the table at once.
+    /// Sets the size of the hash table, 1 or more; the map must be empty. Good sizes are prime numbers about
+    /// a fifth larger than the expected number of elements. `allocateNow` TRUE allocates the table at once,
+    /// FALSE with the first element.
     void InitHashTable(UINT hashSize, BOOL allocateNow = TRUE) {
         Require(m_nCount == 0 && hashSize > 0);
         m_buckets.reset();

@@ -66,7 +66,7 @@ public:
     UINT m_nIndex = 0;              ///< position of the item in the menu or bar
     CMenu* m_pMenu = nullptr;       ///< the menu that contains the item; NULL if the item is not a menu item
     CMenu* m_pSubMenu = nullptr;    ///< the popup that the item opens; NULL if the item opens none
-    CMenu* m_pParentMenu = nullptr; ///< the menu in the frame's menu that opens m_pMenu, or NULL
+    CMenu* m_pParentMenu = nullptr; ///< the menu or menu bar whose item opens m_pMenu; NULL if there is none
     CWnd* m_pOther = nullptr;       ///< the window that is or contains the item; NULL for menu items
     BOOL m_bEnableChanged = FALSE;  ///< whether a handler called Enable()
     BOOL m_bContinueRouting = FALSE;
@@ -83,7 +83,8 @@ public:
     /// exist.
     void ContinueRouting() { m_bContinueRouting = TRUE; }
 
-    /// Asks `pTarget` to update the item. With `bDisableIfNoHndler`, the function greys the item if no update
-    /// handler called Enable() and no object has a handler for the command.
+    /// Asks the item's window or, if the window has no handler, `pTarget` to update the item. With
+    /// `bDisableIfNoHndler`, if no update handler called Enable(), the function enables the item if `pTarget`
+    /// has a handler for the command, and greys the item otherwise.
     BOOL DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
 };

@@ -8,13 +8,15 @@
 class CWnd;
 
 /// Deletes the temporary DC, GDI object and menu wrappers of the calling thread. The message loop calls the
-/// function while no message waits.
+/// function while no message waits and no message handler runs.
 void MFC_API AfxDeleteTempGdiMaps();
 
 /// A device context with two handles. Output goes to m_hDC, and m_hAttribDC answers questions; usually both
-/// are the same handle. Setters change both DCs and return the former value of m_hAttribDC, or of m_hDC if
-/// m_hAttribDC is NULL. Coordinates are units of the DC's mapping mode (logical units) unless the comment
-/// names another unit. On failure, drawing members return FALSE or GDI's error value; they do not throw.
+/// are the same handle. Most setters change both DCs and return the former value of m_hAttribDC, or of m_hDC
+/// if m_hAttribDC is NULL; SetBrushOrg(), SetBoundsRect(), SetMiterLimit(), SelectPalette() and the selection
+/// of a bitmap change the output DC only. Coordinates are units of the DC's mapping mode (logical units)
+/// unless the comment names another unit. On failure, drawing members return FALSE or GDI's error value; they
+/// do not throw.
 class MFC_API CDC : public CObject {
     DECLARE_DYNCREATE(CDC)
 
@@ -91,7 +93,7 @@ public:
     /// A brush that sets every second pixel. The library owns the brush.
     static CBrush* PASCAL GetHalftoneBrush();
 
-    // Drawing attributes. Setters return the former value.
+    // Drawing attributes. Setters return the former value; SetColorAdjustment() returns FALSE on failure.
     COLORREF GetBkColor() const { return ::GetBkColor(m_hAttribDC); }
     int GetBkMode() const { return ::GetBkMode(m_hAttribDC); }
     int GetPolyFillMode() const { return ::GetPolyFillMode(m_hAttribDC); }
@@ -146,8 +148,8 @@ public:
     void LPtoHIMETRIC(LPSIZE lpSize) const;
     void HIMETRICtoLP(LPSIZE lpSize) const;
 
-    // Clipping. Regions are in device units, and the DC copies them. Results are ERROR, NULLREGION,
-    // SIMPLEREGION or COMPLEXREGION.
+    // Clipping. Regions are in device units, and the DC copies them. Results of type int are ERROR,
+    // NULLREGION, SIMPLEREGION or COMPLEXREGION.
     virtual int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hAttribDC, lpRect); }
     virtual BOOL PtVisible(int x, int y) const { return ::PtVisible(m_hAttribDC, x, y); }
     BOOL PtVisible(POINT point) const { return PtVisible(point.x, point.y); }

@@ -27,8 +27,8 @@ class CString;
 #define AFX_DATADEF
 #define afx_msg
 
-/// The file name in messages of ASSERT and DEBUG_NEW. A source may define its own array instead: `#undef
-/// THIS_FILE` and `static char THIS_FILE[] = __FILE__;`.
+/// The file name that ASSERT, ASSERT_VALID and DEBUG_NEW pass on. A source may define its own array instead:
+/// `#undef THIS_FILE` and `static char THIS_FILE[] = __FILE__;`.
 #define THIS_FILE __FILE__
 
 // clang warns if some overrides of a class use `override` and others do not. A macro cannot know what the
@@ -129,7 +129,8 @@ public:
     CDumpContext(const CDumpContext&) = delete;
     CDumpContext& operator=(const CDumpContext&) = delete;
 
-    /// With depth 0 a collection does not dump its elements; with a greater depth it does.
+    /// With depth 0, arrays and lists do not dump their elements; with a greater depth they do. Maps never
+    /// dump their elements.
     int GetDepth() const { return m_nDepth; }
     void SetDepth(int depth) { m_nDepth = depth; }
 

@@ -15,7 +15,8 @@ class MFC_API CDialog : public CWnd {
 public:
     /// For a modeless dialog, or for InitModalIndirect().
     CDialog();
-    /// For DoModal(). Without a parent, the main window of the program owns the dialog.
+    /// For DoModal(). Without a parent, the owner of the dialog is the popup of the main window that was
+    /// active last, else the main window.
     explicit CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     ~CDialog() override;
@@ -36,7 +37,7 @@ public:
                            void* lpDialogInit = nullptr);
     BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
     /// Runs the dialog until EndDialog(). Returns the argument of EndDialog(), or -1 if the dialog could not
-    /// be created.
+    /// be created or ended without EndDialog().
     virtual INT_PTR DoModal();
 
     /// Converts dialog units to pixels.
@@ -55,7 +56,8 @@ public:
     /// Called before the dialog becomes visible. The base copies the members to the controls. Return FALSE if
     /// the override has set the focus.
     virtual BOOL OnInitDialog();
-    /// Called before the controls are created. `pFont` is the font of the controls.
+    /// Called before the controls are created if the template names a font. `pFont` is the font of the
+    /// controls.
     virtual void OnSetFont(CFont* pFont);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;

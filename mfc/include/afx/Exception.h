@@ -41,7 +41,8 @@ public:
     BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) override;
 
 protected:
-    /// The message if the constructor received no string resource; null for none.
+    /// The message if the constructor received no string resource, or if the resource does not exist. Null
+    /// means that the exception has no message.
     virtual LPCTSTR DefaultMessage() const;
 
 private:
@@ -84,7 +85,8 @@ protected:
     LPCTSTR DefaultMessage() const override;
 };
 
-/// Ends an operation after the user has seen a message. The exception has no message.
+/// Ends an operation after the user has seen a message. The exception has no message of its own, unless the
+/// constructor receives a string resource.
 class MFC_API CUserException : public CSimpleException {
     DECLARE_DYNAMIC(CUserException)
 public:

@@ -17,7 +17,7 @@ struct CFileStatus {
     ULONGLONG m_size;
     /// Flags of CFile::Attribute.
     BYTE m_attribute;
-    /// Full path; empty if the name of an open file is unknown.
+    /// Full path, cut to MAX_PATH - 1 characters; empty if the name of an open file is unknown.
     TCHAR m_szFullName[MAX_PATH];
 };
 
@@ -71,7 +71,8 @@ public:
     virtual BOOL Open(LPCTSTR fileName, UINT openFlags, CFileException* error = nullptr);
     /// Closes the file, which must be open.
     virtual void Close();
-    /// Closes the file if one is open. Ignores errors.
+    /// Closes the file if one is open. Ignores errors. CStdioFile does not close a stream that its
+    /// constructor received.
     virtual void Abort();
     /// Returns a second object for the same open file; the caller owns it. CMemFile and CStdioFile do not
     /// support the function.
@@ -105,7 +106,8 @@ public:
     virtual void SetFilePath(LPCTSTR path);
     operator HANDLE() const { return m_hFile; }
 
-    /// Fills `status` for the open file or for a file name. FALSE on failure.
+    /// Fills `status` for the open file or for a file name. FALSE on failure. Without an open file, the first
+    /// form fills in the name only.
     BOOL GetStatus(CFileStatus& status) const;
     static BOOL GetStatus(LPCTSTR fileName, CFileStatus& status);
     /// Sets attributes and times. A time of 0 leaves the file's time unchanged. The size is not set.

@@ -43,7 +43,8 @@ public:
     virtual void ActivateFrame(int nCmdShow = -1);
     /// The active frame. A CFrameWnd without child frames returns itself.
     virtual CFrameWnd* GetActiveFrame() { return this; }
-    /// Moves the child AFX_IDW_PANE_FIRST to fill the client area. Called after each change of size.
+    /// Moves the child AFX_IDW_PANE_FIRST to fill the client area. Called at creation and after each change
+    /// of size except minimising.
     virtual void RecalcLayout(BOOL bNotify = TRUE);
     CString GetTitle() const { return m_strTitle; }
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }

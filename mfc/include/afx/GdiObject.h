@@ -11,7 +11,7 @@ class CBitmap;
 ///
 /// The destructor deletes the handle, unless Detach() was called before. FromHandle() returns a temporary
 /// object for a handle that no CGdiObject owns. The message loop deletes temporary objects while no message
-/// waits; their handles stay valid.
+/// waits and no message handler runs; their handles stay valid.
 class MFC_API CGdiObject : public CObject {
     DECLARE_DYNCREATE(CGdiObject)
 

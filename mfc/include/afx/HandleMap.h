@@ -9,7 +9,7 @@
 /// Permanent entries are objects that a program attached to a handle; the map never deletes these objects.
 /// Temporary entries are wrappers that the map created because FromHandle() got a handle without a permanent
 /// entry. DeleteTemporaries() deletes the wrappers and leaves their handles valid; the message loop calls the
-/// function while no message waits.
+/// function while no message waits and no message handler runs.
 ///
 /// `Traits` supplies two static functions. Wrap(Handle) returns a std::unique_ptr<Object> that refers to the
 /// handle and does not own it. Unwrap(Object&) clears the handle of a wrapper before the wrapper is deleted.

@@ -19,7 +19,7 @@
 
 /// One row of a message map.
 struct AFX_MSGMAP_ENTRY {
-    UINT nMessage;  ///< message; WM_COMMAND or WM_NOTIFY for commands; AFX_REGISTERED if pnRegistered is set
+    UINT nMessage;  ///< message; for commands and notifications WM_COMMAND or WM_NOTIFY; or AFX_REGISTERED
     UINT nCode;     ///< notification code, CN_COMMAND or CN_UPDATE_COMMAND_UI; 0 for window messages
     UINT nID;       ///< first control or command ID; 0 for window messages
     UINT nLastID;   ///< last control or command ID

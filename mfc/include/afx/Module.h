@@ -89,15 +89,16 @@ MFC_API HINSTANCE AfxGetResourceHandle();
 MFC_API void AfxSetResourceHandle(HINSTANCE hInstResource);
 
 /// The first module in the resource chain that has the resource. The resource chain is: the module of
-/// AfxGetResourceHandle(), the program, the extension DLLs (the latest link first, but links with m_bSystem
-/// last), this library. If no module has the resource, returns AfxGetResourceHandle().
+/// AfxGetResourceHandle(), the module that the program set with AfxSetResourceHandle(), the program, the
+/// extension DLLs (the latest link first, but links with m_bSystem last), this library. If no module has the
+/// resource, returns AfxGetResourceHandle().
 MFC_API HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
 /// The first module in the resource chain that has the string; NULL if no module has it.
 /// AfxFindResourceHandle() cannot find single strings, because a string resource is a block of 16 strings.
 MFC_API HINSTANCE AfxFindStringResourceHandle(UINT nID);
 /// Copies a string resource, cut to `nMaxBuf` bytes including the terminating zero, and returns the length
-/// without the zero. If the string does not exist, the text is empty and the result 0. The library has
-/// English texts for its own prompts (afxres.h).
+/// without the zero. For some IDs of afxres.h, mainly its prompts, the library has an English text that
+/// is used if no module has the string. Without any text, the copy is empty and the result 0.
 MFC_API int AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf = 256);
 
 /// Load and free an extension DLL at run time.

@@ -81,10 +81,10 @@ public:
     /// Stores the object in the archive or loads it from there. The base does nothing.
     virtual void Serialize(CArchive& ar);
 
-    /// Asserts that the object's members are consistent.
+    /// An override asserts that the object's members are consistent. The base does nothing.
     virtual void AssertValid() const;
 
-    /// Writes the class name and address to the context.
+    /// Writes a description of the object to the context; the base writes the class name and the address.
     virtual void Dump(CDumpContext& dc) const;
 
     static CRuntimeClass classCObject;
@@ -125,9 +125,10 @@ public:                                                                         
         return RUNTIME_CLASS(class_name);                                                                    \
     }
 
-/// Write one of the macros for each class, in a source file. IMPLEMENT_DYNCREATE and IMPLEMENT_SERIAL need a
-/// default constructor, which may be protected. IMPLEMENT_SERIAL takes a schema number of 0 or more; change
-/// the number when the stored form changes.
+/// For each class with one of the DECLARE_ macros above, a source file contains the IMPLEMENT_ macro with the
+/// same ending. IMPLEMENT_DYNCREATE and IMPLEMENT_SERIAL need a default constructor, which may be protected.
+/// IMPLEMENT_SERIAL takes a schema number from 0 to 0xFFFE, with or without VERSIONABLE_SCHEMA; change the
+/// number when the stored form changes.
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
@@ -152,7 +153,8 @@ public:                                                                         
 /// null object.
 MFC_API CObject* AfxDynamicDownCast(CRuntimeClass* runtimeClass, CObject* object);
 
-/// Returns `object`. A debug build asserts that it is null or of the given class.
+/// Returns `object`. A debug build asserts that the object is null, of the given class or of a class derived
+/// from it.
 MFC_API CObject* AfxStaticDownCast(CRuntimeClass* runtimeClass, CObject* object);
 
 #define DYNAMIC_DOWNCAST(class_name, object)                                                                 \

@@ -30,7 +30,7 @@ struct MFC_API CPrintInfo {
     void SetMaxPage(UINT nMaxPage);
     UINT GetMinPage() const;
     UINT GetMaxPage() const;
-    /// The first and the last page that the user chose in the dialog.
+    /// The first and the last page in the dialog, if the user chose a range of pages.
     UINT GetFromPage() const;
     UINT GetToPage() const;
 };

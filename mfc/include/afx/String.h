@@ -25,7 +25,7 @@ public:
     CString(const unsigned char* text);
     /// The first `length` characters; zeros among them are copied too.
     CString(LPCTSTR text, int length);
-    /// Converts from UTF-16.
+    /// Converts from UTF-16; `length` counts UTF-16 code units. If the conversion fails, the string is empty.
     CString(LPCWSTR text);
     CString(LPCWSTR text, int length);
     ~CString();
@@ -74,7 +74,8 @@ public:
     CString& MakeLower();
     CString& MakeReverse();
 
-    /// Remove white space, one character, or the characters of a set, at the left, the right or both ends.
+    /// Remove the white space, the characters equal to `target`, or the characters that are in `targets`, at
+    /// the left, the right or both ends.
     CString& TrimLeft();
     CString& TrimLeft(TCHAR target);
     CString& TrimLeft(LPCTSTR targets);
@@ -85,15 +86,15 @@ public:
     CString& Trim(TCHAR target);
     CString& Trim(LPCTSTR targets);
 
-    /// Position of the first match at or after `start`; -1 if there is none, or if `start` is outside
-    /// the string.
+    /// Position of the first match at or after `start`; -1 if there is none, or if `start` is outside the
+    /// string. ReverseFind() returns the last match, FindOneOf() the first character that is in `set`.
     int Find(TCHAR ch, int start = 0) const;
     int Find(LPCTSTR sub, int start = 0) const;
     int ReverseFind(TCHAR ch) const;
     int FindOneOf(LPCTSTR set) const;
 
-    /// Return the number of replacements. An empty or null `oldText` matches nothing; a null `newText` counts
-    /// as empty.
+    /// Return the number of replacements (Remove: of removed characters). An empty or null `oldText` matches
+    /// nothing; a null `newText` counts as empty.
     int Replace(TCHAR oldChar, TCHAR newChar);
     int Replace(LPCTSTR oldText, LPCTSTR newText);
     int Remove(TCHAR ch);
@@ -104,7 +105,7 @@ public:
 
     /// Returns the next piece between characters of `separators`. The search starts at `position`; the call
     /// sets `position` to the start of the next search. Empty pieces are skipped. If no piece is left, the
-    /// result is empty and `position` is -1.
+    /// result is empty and `position` is -1. Without separators, the rest of the text is one piece.
     CString Tokenize(LPCTSTR separators, int& position) const;
 
     /// Replace the text with formatted text (AppendFormat: append formatted text), as printf does. %s accepts
@@ -140,8 +141,8 @@ public:
             FormatMessagePlain(format.GetString(), AfxVariadicArgument(args)...);
     }
 
-    /// Loads a string resource from the resource chain. If the resource does not exist, returns FALSE and
-    /// empties the string.
+    /// Loads a string resource from the resource chain, or a text of the library (see AfxLoadString()). If
+    /// neither exists, returns FALSE and empties the string.
     BOOL LoadString(UINT id) { return LoadResource(id); }
 
     /// A writable buffer for at least `minLength` characters and a terminating zero. Call ReleaseBuffer()

@@ -42,7 +42,8 @@ template <class TYPE> void AFXAPI DestructElements(TYPE* elements, INT_PTR count
         std::destroy_n(elements, static_cast<std::size_t>(count));
 }
 
-/// Assigns the elements one by one, for Append and Copy.
+/// Assigns the elements one by one. CArray uses the function in Append, Copy and the InsertAt that takes
+/// an array.
 template <class TYPE> void AFXAPI CopyElements(TYPE* target, const TYPE* source, INT_PTR count) {
     for (INT_PTR i = 0; i < count; ++i)
         target[i] = source[i];
@@ -89,8 +90,8 @@ template <> inline void AFXAPI SerializeElements<CObject*>(CArchive& ar, CObject
             ar >> elements[i];
 }
 
-/// Writes the bytes of the elements. Collections call the function if CDumpContext::GetDepth() is greater
-/// than 0.
+/// Writes the bytes of the elements. Arrays and lists call the function in Dump() if
+/// CDumpContext::GetDepth() is greater than 0.
 template <class TYPE> void AFXAPI DumpElements(CDumpContext& dc, const TYPE* elements, INT_PTR count) {
     dc.HexDump(" ", reinterpret_cast<const BYTE*>(elements),
                count < INT_MAX / static_cast<INT_PTR>(sizeof(TYPE)) ? static_cast<int>(count * sizeof(TYPE))
@@ -161,9 +162,9 @@ template <class TYPE> struct AfxElements {
     static constexpr bool IsMovable = std::is_move_constructible_v<TYPE>;
     static constexpr bool CannotFail = IsBitwise || std::is_nothrow_move_constructible_v<TYPE>;
 
-    /// Constructs `count` elements in raw memory from `source`. Elements are moved if moving cannot throw,
-    /// else copied. After an exception the target is raw memory again. The sources are then unchanged, unless
-    /// TYPE cannot be copied.
+    /// Constructs `count` elements in raw memory from `source`. Elements are moved if moving cannot throw or
+    /// TYPE cannot be copied, else copied. After an exception the target is raw memory again. The sources are
+    /// then unchanged, unless TYPE cannot be copied.
     static void Make(TYPE* target, TYPE* source, INT_PTR count) {
         if (count <= 0)
             return;
@@ -182,7 +183,7 @@ template <class TYPE> struct AfxElements {
         }
     }
 
-    /// Destroys the source elements of a move.
+    /// Destroys `count` elements, for example the sources of a move.
     static void End(TYPE* elements, INT_PTR count) {
         if (!IsBitwise && count > 0)
             std::destroy_n(elements, static_cast<std::size_t>(count));

@@ -13,12 +13,12 @@ public:
     CWinThread();
     ~CWinThread() override;
 
-    CWnd* m_pMainWnd = nullptr;   ///< the message loop ends when this window is destroyed
+    CWnd* m_pMainWnd = nullptr;   ///< main window; the message loop ends when the window is destroyed
     CWnd* m_pActiveWnd = nullptr; ///< if not NULL, GetMainWnd() returns this window instead of m_pMainWnd
     BOOL m_bAutoDelete = TRUE;    ///< TRUE: the object deletes itself when its thread ends
-    HANDLE m_hThread = nullptr;   ///< owned by the object; NULL for the main thread
+    HANDLE m_hThread = nullptr;   ///< handle of the thread, owned by the object; NULL for the main thread
     DWORD m_nThreadID = 0;
-    MSG m_msgCur{}; ///< the latest message of PumpMessage()
+    MSG m_msgCur{}; ///< the latest message that the message loop has read
 
     operator HANDLE() const { return m_hThread; }
 
@@ -43,9 +43,9 @@ public:
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     /// Gets one message and dispatches it. FALSE for WM_QUIT.
     virtual BOOL PumpMessage();
-    /// Called while no message waits. `lCount` is 0 at the first call, then 1, 2 and so on; the calls end
-    /// when the function returns FALSE. The base updates the user interface at 0 and deletes temporary
-    /// objects.
+    /// Run() calls the function while no message waits. `lCount` is 0 at the first call, then 1, 2 and so on.
+    /// The calls end when the function returns FALSE, and start again at 0 after a message that
+    /// IsIdleMessage() accepts. The base updates the user interface at 0 and deletes temporary objects.
     virtual BOOL OnIdle(LONG lCount);
     /// Whether idle processing restarts after this message. FALSE for messages such as a mouse move to the
     /// same place.

@@ -27,8 +27,9 @@ public:
     LONGLONG GetTotalSeconds() const { return m_nSpan; }
     LONGLONG GetTimeSpan() const { return m_nSpan; }
 
-    /// Formats the span: %D whole days; %H hours, %M minutes and %S seconds with two digits; %% a percent
-    /// sign. With an `id`, the format is a string resource.
+    /// Formats the span: %D whole days; %H hours, %M minutes and %S seconds, filled with 0 to two characters
+    /// (a minus counts as one); %% a percent sign. Another code asserts in debug builds and is copied in
+    /// other builds. With an `id`, the format is a string resource.
     CString Format(LPCTSTR format) const;
     CString Format(UINT id) const;
 
@@ -62,8 +63,9 @@ public:
     CTime() : m_time(0) {}
     CTime(__time64_t time) : m_time(time) {}
     /// From local time. `isDst` is 0 for standard time, positive for daylight-saving time, -1 for the zone's
-    /// rules. Values outside their ranges assert in debug builds and make the time -1 in other builds. Debug
-    /// builds accept years from 1900, other builds years from 1601.
+    /// rules. Values outside their ranges assert in debug builds and make the time -1 in other builds. A day
+    /// that the month does not have makes the time -1. Debug builds accept years from 1900, other builds
+    /// years from 1601.
     CTime(int year, int month, int day, int hour, int minute, int second, int isDst = -1);
     /// From local time in the DOS format, which has even seconds only.
     CTime(WORD dosDate, WORD dosTime, int isDst = -1);
@@ -89,8 +91,9 @@ public:
     /// Local time. FALSE if the time has no date.
     bool GetAsSystemTime(SYSTEMTIME& local) const;
 
-    /// Formats local time (FormatGmt: UTC) as strftime does. Codes that strftime does not know are copied.
-    /// With an `id`, the format is a string resource.
+    /// Formats local time (FormatGmt: UTC) with the codes of strftime: %a %A %b %B %c %d %H %I %j %m %M %p %S
+    /// %U %w %W %x %X %y %Y %z %Z %%, also with '#' after the '%'. Other codes are copied. With an `id`, the
+    /// format is a string resource.
     CString Format(LPCTSTR format) const;
     CString Format(UINT id) const;
     CString FormatGmt(LPCTSTR format) const;

@@ -47,8 +47,9 @@ protected:
     HWND m_hWnd = nullptr;
 };
 
-/// A DC that records drawing. GetDeviceCaps() and other functions that read from a device work only after
-/// SetAttribDC(). The destructor discards a recording that was not closed.
+/// A DC that records drawing. m_hAttribDC is NULL after creation, so GetDeviceCaps() and other functions that
+/// read attributes work only after SetAttribDC(). The destructor ends a recording that was not closed; a
+/// recording in memory is lost, a recording in a file stays.
 class MFC_API CMetaFileDC : public CDC {
     DECLARE_DYNAMIC(CMetaFileDC)
 

@@ -16,8 +16,8 @@ struct CCreateContext;
 #undef SubclassWindow
 
 /// Flags of CWnd::RunModalLoop().
-#define MLF_NOIDLEMSG 0x0001  // no WM_ENTERIDLE to the parent
-#define MLF_NOKICKIDLE 0x0002 // no WM_KICKIDLE to the window
+#define MLF_NOIDLEMSG 0x0001  // the loop does not send WM_ENTERIDLE to the parent
+#define MLF_NOKICKIDLE 0x0002 // the loop does not send WM_KICKIDLE to the window
 #define MLF_SHOWONIDLE 0x0004 // shows a hidden window once the loop is idle, or after 100 ms without idling
 
 /// A window. The object and the window have separate lifetimes: Create() and SubclassWindow() attach the
@@ -62,7 +62,7 @@ public:
     // ---- Handle maps (per thread) ----
 
     /// The attached object of `hWnd`, else a temporary object, which the message loop deletes while no
-    /// message waits. NULL for a NULL handle.
+    /// message waits and no message handler runs. NULL for a NULL handle.
     static CWnd* PASCAL FromHandle(HWND hWnd);
     /// The object attached to `hWnd`, or NULL.
     static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
@@ -136,8 +136,9 @@ public:
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
-    /// Centres the window over `pAlternateOwner`, else over its owner (a child: over its parent). The window
-    /// stays inside the work area of the monitor (a child: inside the client area of its parent).
+    /// Centres the window over `pAlternateOwner`, else over its owner, and keeps the window inside the work
+    /// area of the monitor. If the owner is NULL, hidden or minimised, centres the window in the work area. A
+    /// child is centred over its parent and kept inside the parent's client area.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
     void BringWindowToTop();
     UINT ArrangeIconicWindows();
@@ -208,8 +209,8 @@ public:
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     int DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType);
     /// Copies values between controls and members. `bSaveAndValidate` TRUE copies controls to members and
-    /// validates the values; FALSE copies members to controls. Returns FALSE if a value was refused; the user
-    /// has then seen a message, and the control has the focus.
+    /// validates the values; FALSE copies members to controls. Returns FALSE if the exchange failed; the user
+    /// has then seen a message. If a value was refused, its control has the focus.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
     /// Override the function with the DDX_ and DDV_ calls of the window.
     virtual void DoDataExchange(CDataExchange* pDX);
@@ -219,15 +220,18 @@ public:
     /// Does nothing, because the library has no ActiveX controls.
     void AttachControlSite(CWnd* /*pWnd*/) {}
 
-    // ---- Scrolling ----
+    // ---- Scrolling. The functions with `nBar` use the control of GetScrollBarCtrl(), if there is one. ----
 
     int GetScrollPos(int nBar) const;
     void GetScrollRange(int nBar, LPINT lpMinPos, LPINT lpMaxPos) const;
     int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE);
     void SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw = TRUE);
+    /// Both functions fill in lpScrollInfo->cbSize; GetScrollInfo() also fills in fMask. SetScrollInfo()
+    /// returns TRUE.
     BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    /// The largest position that the user can reach: nMax - (nPage - 1), or nMax if nPage is 0.
+    /// The largest position that the user can reach: nMax - (nPage - 1), or nMax if nPage is 0; at least
+    /// nMin.
     int GetScrollLimit(int nBar);
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
     void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
@@ -283,6 +287,7 @@ public:
     /// The topmost window above this window. Owners count as parents. A window without a parent returns
     /// itself.
     CWnd* GetTopLevelParent() const;
+    /// The top-level window above this window, or the last window in that window's chain of owners.
     CWnd* GetTopLevelOwner() const;
     /// The nearest window above that is not a child. A window that is not a child returns itself.
     CWnd* GetParentOwner() const;
@@ -296,19 +301,22 @@ public:
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    /// Sends the message to all children; with `bDeep`, also to their children; with `bOnlyPerm`, only to
-    /// windows with an attached object.
+    /// Sends the message to all children; with `bDeep`, to all descendants; with `bOnlyPerm`, only to those
+    /// with an attached object.
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE,
                                   BOOL bOnlyPerm = FALSE);
     static void PASCAL SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam,
                                                 BOOL bDeep, BOOL bOnlyPerm);
+    /// Without a caption, the title is the name of the application.
     int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
     BOOL FlashWindow(BOOL bInvert);
     DWORD GetWindowContextHelpId() const;
     BOOL SetWindowContextHelpId(DWORD dwContextHelpId);
-    /// Called for every queued message before translation. TRUE discards the message.
+    /// Called before translation for queued messages of this window and of the windows below it (main window:
+    /// of every window of the thread). TRUE discards the message.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    /// Calls PreTranslateMessage() of the message's window and of its parents up to `hWndStop`.
+    /// Calls PreTranslateMessage() of the message's window and of its parents up to `hWndStop`, until a call
+    /// returns TRUE.
     static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
     /// Passes a keyboard or mouse message to ::IsDialogMessage().
     BOOL PreTranslateInput(LPMSG lpMsg);
@@ -317,7 +325,8 @@ public:
     /// handled the message.
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
 
-    /// Runs a message loop until EndModalLoop(). Returns the argument of EndModalLoop().
+    /// Runs a message loop until EndModalLoop() or the end of the window. Returns the argument of
+    /// EndModalLoop(); -1 after WM_QUIT.
     int RunModalLoop(DWORD dwFlags = 0);
     /// Whether the modal loop continues.
     virtual BOOL ContinueModal();
@@ -337,10 +346,12 @@ protected:
     /// Receives every message of the window. The base calls OnWndMsg() and, for a message without a
     /// handler, DefWindowProc().
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-    /// Searches the message map. FALSE if there is no handler.
+    /// Passes WM_COMMAND to OnCommand() and WM_NOTIFY to OnNotify(). For other messages, calls the handler in
+    /// the message map. FALSE if the message was not handled.
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    /// Handles WM_COMMAND. The base offers the message to the control and then calls OnCmdMsg(). Nonzero if a
-    /// handler ran.
+    /// Handles WM_COMMAND. The base offers the message to the control and then calls OnCmdMsg(). Nonzero if
+    /// the message was handled. The base also returns nonzero, without calling a handler, for a disabled
+    /// command, and for notifications of controls during UpdateData().
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     /// Handles WM_NOTIFY as OnCommand() handles WM_COMMAND.
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
@@ -356,12 +367,13 @@ protected:
     LRESULT Default();
     /// The current message. Call the function inside a handler only.
     static const MSG* PASCAL GetCurrentMessage();
-    /// Called when the window no longer exists and m_hWnd is NULL. A class with objects on the heap deletes
-    /// the object here.
+    /// Called at the end of WM_NCDESTROY, and when the creation of the window has failed. m_hWnd is NULL. A
+    /// class with objects on the heap deletes the object here.
     virtual void PostNcDestroy() {}
 
     // ---- Handlers. The base versions call Default() and ignore their arguments. Base versions with named
-    // arguments first offer the message to the control or menu that it is about. ----
+    // arguments first offer the message to its control or menu, and call Default() only if the control or
+    // menu does not handle the message. OnNcDestroy() also detaches the object. ----
 
     afx_msg int OnCreate(LPCREATESTRUCT) { return static_cast<int>(Default()); }
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return Default() != 0; }

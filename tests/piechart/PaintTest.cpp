@@ -1,6 +1,7 @@
 // Texts, messages, destinations and failures of painting. RandomTest compares the pixels of the sectors.
 #include "tests/piechart/PieTest.h"
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 
@@ -57,14 +58,20 @@ TEST_F(PiePaintTest, ASelectionShowsBesidePiecesOfItsColour) {
         pie.At(0).m_crColor = colour;
         const auto told = Paint();
         int light = 0;
+        double first = 360, last = 0;
         for (int y = pie.m_rcPie.top; y < pie.m_rcPie.bottom; ++y)
             for (int x = pie.m_rcPie.left; x < pie.m_rcPie.right; ++x)
                 if (told->At(x, y) == RGB(255, 255, 255) && plain->At(x, y) != told->At(x, y)) {
                     ++light;
                     const CPoint away = CPoint(x, y) - At(0, 0);
-                    const double angle = std::atan2(away.x, -away.y) * 180 / kavlix::kPi;
-                    EXPECT_TRUE(angle > 108 || angle < -144) << "outside the selected sector: " << angle;
+                    const double angle = 180 + std::atan2(-away.x, away.y) * 180 / kavlix::kPi;
+                    first = std::min(first, angle);
+                    last = std::max(last, angle);
                 }
+        if (isTold) {
+            EXPECT_NEAR(first, 114, 6) << "the line follows the edges of the selected sector";
+            EXPECT_NEAR(last, 210, 6);
+        }
         EXPECT_EQ(light > 150, isTold);
         EXPECT_EQ(told->At(At(160, 0.3).x, At(160, 0.3).y), pie.m_crSelected);
     }

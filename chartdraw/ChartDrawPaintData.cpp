@@ -123,8 +123,9 @@ void CChartDraw::DrawMarkers(CDC& dc, const Dataset& dataset) const {
     PixelSet places(plot);
     const LinearMap xMap = XMap();
     const LinearMap yMap = YMap();
-    // Whether a block of points cannot add a pixel to the set: the block lies outside the plot, or all its
-    // pixels are in the set already.
+    // True only if no point of a block can add a pixel to the set: the block lies outside the plot, or it
+    // lies in one pixel column of the plot and all pixels of its bounding box are in the set already. False
+    // does not mean that the block adds a pixel.
     const auto addsNothing = [&](const PointBox& box, int first, int last) {
         const auto left = xMap.Position(box.left);
         const auto right = xMap.Position(box.right);

@@ -44,8 +44,8 @@ void CopyVisible(CWnd& frame, CDC& picture) {
     GdiFlush();
 }
 
-/// Copies the whole area of the picture. A frame that exceeds the screen is moved to copy one part after
-/// another, and moved back.
+/// Copies the whole area of the picture. A frame whose area lies partly outside the screen is moved to copy
+/// one part after another, and moved back.
 void CopyWhole(CWnd& frame, CDC& picture) {
     const CRect screen = ScreenArea();
     const CRect area = PictureArea(frame);

@@ -18,9 +18,9 @@ CRect PictureArea(const CWnd& frame);
 /// the frame allows that in WM_GETMINMAXINFO.
 void SizePictureArea(CWnd& frame, CSize size);
 
-/// Saves the PictureArea of a visible window, copied from the screen, as a .png, .bmp or .emf file. When the
-/// window exceeds the screen, it is moved to copy one part after another, and moved back. `path` is in the
-/// process code page. Returns an empty text, or a description of the failure.
+/// Saves the PictureArea of a visible window, copied from the screen, as a .png, .bmp or .emf file. When part
+/// of the area lies outside the screen, the window is moved to copy one part after another, and moved back.
+/// `path` is in the process code page. Returns an empty text, or a description of the failure.
 std::string SavePicture(CWnd& frame, const std::string& path);
 
 } // namespace kavlix::monitor

@@ -14,8 +14,8 @@ namespace kavlix {
 /// with the points. Lines that go back and forth between columns are passed on point by point.
 class ChartReduction {
 public:
-    /// A pen at a point outside `view` must not paint a visible pixel. All references must outlive this
-    /// object.
+    /// A pen at a point outside `view` must not paint a visible pixel. The object copies `view`; all other
+    /// arguments must outlive the object.
     ChartReduction(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, const Rect& view,
                    ChartLine& line)
         : m_series(series), m_xMap(xMap), m_yMap(yMap), m_view(view), m_line(line) {}

@@ -111,8 +111,9 @@ struct RecordingLoader::State {
         progress.rows += reader->Rows() - rowsBefore;
     }
 
-    /// Reads and parses the next piece of the current file. Returns the number of bytes read, or 0 when there
-    /// is no more and this function has ended the file.
+    /// Reads and parses the next piece of the current file. Returns the number of bytes read. 0 when the file
+    /// has no more bytes, cannot be opened or read, or is not read further, and when memory runs out. This
+    /// function has then ended the file, and the next call goes on with the next file.
     std::size_t ReadSome(std::size_t budget) {
         if (!reader && !Open()) {
             EndFile();

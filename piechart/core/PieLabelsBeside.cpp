@@ -158,8 +158,8 @@ private:
         }
     }
 
-    // Gives more lines to blocks that Spread() has moved to a narrower place, if the window is high enough.
-    // False when no block has changed.
+    // Gives more lines to blocks whose texts take more lines at the place that Spread() has chosen than they
+    // have, if all blocks then still fit into `height`. False when no block has changed.
     bool Grow(int height, int maxLines) {
         bool grown = false;
         for (PieBlock& block : m_blocks) {

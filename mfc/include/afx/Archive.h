@@ -11,8 +11,9 @@ class CDocument;
 
 /// Stores objects and values in a file, or loads them, through a buffer. Values are stored as their bytes,
 /// the least significant byte first. Members throw CArchiveException*: writeOnly and readOnly for the wrong
-/// direction, endOfFile when the file ends too early, genericException after Close() or Abort(), other causes
-/// for content that does not fit the program. Exceptions of the file pass through.
+/// direction, endOfFile when the file ends too early, genericException after Close() or Abort() and for a
+/// text in UTF-16, other causes for other content that does not fit the program. Exceptions of the file pass
+/// through.
 ///
 /// The first pointer to an object stores the object and its class: name and schema with the first object of
 /// the class, later a number. Further pointers to the object store a reference: the number of the object in

@@ -189,7 +189,8 @@ public:
         return ArcTo(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom, ptStart.x, ptStart.y, ptEnd.x,
                      ptEnd.y);
     }
-    /// Angles are in degrees, counter-clockwise from the direction to the right.
+    /// Angles are in degrees, counter-clockwise: the start angle from the direction to the right, the sweep
+    /// angle from the start angle.
     BOOL AngleArc(int x, int y, int nRadius, float fStartAngle, float fSweepAngle);
     BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     BOOL PolylineTo(const POINT* lpPoints, int nCount);

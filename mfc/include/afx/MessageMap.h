@@ -156,7 +156,7 @@ private:
      static_cast<BOOL (CCmdTarget::*)()>(memberFxn)},
 
 // Rows for control notifications in WM_NOTIFY: `void OnFoo(NMHDR*, LRESULT*)`; ranges with the ID as
-// first argument.
+// first argument. Handlers of _EX rows return BOOL: FALSE passes the notification on.
 
 #define ON_NOTIFY(wNotifyCode, id, memberFxn)                                                                \
     {WM_NOTIFY,                                                                                              \

@@ -108,8 +108,8 @@ void CGraph::DrawLabelsLeft(const SeriesSlots& slots) {
     int angle = NormalAngle(GetXAxisAlignment());
     const GraphFont level(canvas, xTickFontSize);
     const LabelSize character = canvas.Character();
-    // Labels without room to the left of the plot stand inside the plot: directly above the edge where the
-    // slot's first bar begins if the slot is high enough, otherwise in the middle of the slot.
+    // Labels without room to the left of the plot stand inside the plot: in the free strip before the
+    // slot's first bar if the slot is high enough, otherwise in the middle of the slot.
     const bool inside = p.leftRoom < character.width * kFewCharacters;
     if (inside)
         angle = 0;
@@ -133,8 +133,11 @@ void CGraph::DrawLabelsLeft(const SeriesSlots& slots) {
             continue;
         }
         const Span bar = slots.Bar(slot, 0, std::max(p.data.groups, 1));
-        const bool above = std::abs(bar.to - bar.from) / 2 >= character.height;
-        const double y = above ? bar.from - character.height : slots.Middle(slot) - character.height / 2;
+        const bool fits = std::abs(bar.to - bar.from) / 2 >= character.height;
+        const bool upwards = bar.to < bar.from; // then the slot's free strip lies below the first bar
+        const double y = !fits     ? slots.Middle(slot) - character.height / 2
+                         : upwards ? bar.from
+                                   : bar.from - character.height;
         p.overlayLabels.push_back({{firstInside, y}, text, xTickFontSize});
     }
     if (labels.cut || spread.every > 1)

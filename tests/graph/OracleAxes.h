@@ -199,7 +199,9 @@ private:
             const double start = places.BarFrom(i, 0, std::max(groups, 1));
             const bool above = distance / (std::max(groups, 1) + 1) / 2 >= character.height;
             Over({std::max(left + 6.0, leftEdge),
-                  above ? start - character.height : middle - character.height / 2},
+                  !above               ? middle - character.height / 2
+                  : places.Width() < 0 ? start // the slots run upwards
+                                       : start - character.height},
                  labels[i], f.labelFont);
         }
         cut = cut || labelsCut || every > 1;

@@ -94,11 +94,21 @@ void SizePictureArea(CWnd& frame, CSize size) {
 }
 
 std::string SavePicture(CWnd& frame, const std::string& path) {
-    const CRect area = PictureArea(frame);
-    if (ScreenArea().IsRectEmpty() || area.IsRectEmpty())
+    const CSize size = PictureArea(frame).Size();
+    if (ScreenArea().IsRectEmpty() || size.cx <= 0 || size.cy <= 0)
         return "there is nothing to be seen of the window";
-    const bool saved =
-        kavlix::SavePicture(path.c_str(), area.Size(), [&](CDC& picture) { CopyWhole(frame, picture); });
+    // A metafile can store the pixels of a bitmap, but not those of a window.
+    CWindowDC screen(&frame);
+    CDC copy;
+    CBitmap pixels;
+    if (!copy.CreateCompatibleDC(&screen) || !pixels.CreateCompatibleBitmap(&screen, size.cx, size.cy))
+        return "there is not enough memory for a picture of this size";
+    CBitmap* const before = copy.SelectObject(&pixels);
+    CopyWhole(frame, copy);
+    const bool saved = kavlix::SavePicture(path.c_str(), size, [&](CDC& picture) {
+        picture.BitBlt(0, 0, size.cx, size.cy, &copy, 0, 0, SRCCOPY);
+    });
+    copy.SelectObject(before);
     return saved ? "" : path + ": cannot be written, or the name does not end in .png, .bmp or .emf";
 }
 

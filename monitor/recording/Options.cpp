@@ -44,7 +44,11 @@ bool ParseWhole(std::string_view text, int least, int most, int& value) {
 
 bool SetShot(Options& options, std::string_view value) {
     options.shot = std::string(value);
-    return !value.empty();
+    std::string ending =
+        options.shot.substr(options.shot.size() - std::min<std::size_t>(options.shot.size(), 4));
+    for (char& c : ending)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return ending == ".png" || ending == ".bmp" || ending == ".emf";
 }
 
 bool SetSeconds(Options& options, std::string_view value) {
@@ -103,7 +107,7 @@ struct ValueOption {
 };
 
 const ValueOption kValueOptions[] = {
-    {"--shot", SetShot, "a file name such as out.png"},
+    {"--shot", SetShot, "a file name that ends in .png, .bmp or .emf"},
     {"--seconds", SetSeconds, "a number of seconds, more than 0 and at most 1,000,000"},
     {"--size", SetSize, "WIDTHxHEIGHT in pixels, each from 100 to 10,000, such as 800x500"},
     {"--style", SetStyle, "line, bar or twoaxis"},

@@ -237,6 +237,9 @@ TEST_F(MonitorPicture, WhatIsWrongIsToldAndTheRestIsShown) {
     EXPECT_GT(Shot({m_folder.Path("none.csv")}, 2).width, 0) << "the window told it: a picture of that";
     m_run = RunMonitor({recording, "--shot", m_folder.Path("no such folder\\out.png")});
     EXPECT_EQ(m_run.status, 2u);
+    const std::string metafile = m_folder.Path("out.emf");
+    EXPECT_EQ(RunMonitor({recording, "--shot", metafile}).status, 1u);
+    EXPECT_GT(std::filesystem::file_size(metafile), 100'000u) << "the pixels of the window";
 }
 
 TEST_F(MonitorPicture, LiveReadingsRunAsLongAsAsked) {

@@ -31,7 +31,10 @@ TEST(Options, SaysWhatIsWrong) {
     const std::pair<std::vector<std::string>, const char*> cases[] = {
         {{}, ""},
         {{"--shots=x"}, "expected one of the options of --help, found \"--shots=x\""},
-        {{"--shot"}, "--shot: expected a file name such as out.png, found nothing"},
+        {{"--shot"}, "--shot: expected a file name that ends in .png, .bmp or .emf, found nothing"},
+        {{"--shot", "a.jpg"},
+         "--shot: expected a file name that ends in .png, .bmp or .emf, found \"a.jpg\""},
+        {{"--shot", "a.EMF"}, ""},
         {{"--style", "pie"}, "--style: expected line, bar or twoaxis, found \"pie\""},
         {{"--page", "Graph"}, "--page: expected graph, scroll, pie, chart or multi, found \"Graph\""},
         {{"--help=yes"}, "--help: expected no value"},

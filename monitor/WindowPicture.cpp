@@ -99,16 +99,15 @@ std::string SavePicture(CWnd& frame, const std::string& path) {
         return "there is nothing to be seen of the window";
     // A metafile can store the pixels of a bitmap, but not those of a window.
     CWindowDC screen(&frame);
+    CBitmap pixels; // lives longer than the DC that it is selected into
     CDC copy;
-    CBitmap pixels;
     if (!copy.CreateCompatibleDC(&screen) || !pixels.CreateCompatibleBitmap(&screen, size.cx, size.cy))
         return "there is not enough memory for a picture of this size";
-    CBitmap* const before = copy.SelectObject(&pixels);
+    copy.SelectObject(&pixels);
     CopyWhole(frame, copy);
     const bool saved = kavlix::SavePicture(path.c_str(), size, [&](CDC& picture) {
         picture.BitBlt(0, 0, size.cx, size.cy, &copy, 0, 0, SRCCOPY);
     });
-    copy.SelectObject(before);
     return saved ? "" : path + ": cannot be written, or the name does not end in .png, .bmp or .emf";
 }
 

@@ -22,6 +22,14 @@ function(kavlix_compile_options target)
     endif()
 endfunction()
 
+# The DLLs and what is linked with them exist for each character set: targets named without suffix are for char, targets
+# named with the suffix U are for UTF-16 (UNICODE). `set` is the suffix. Programs that link the target get the definitions.
+function(kavlix_character_set target set)
+    if(set STREQUAL "U")
+        target_compile_definitions(${target} PUBLIC UNICODE _UNICODE)
+    endif()
+endfunction()
+
 # Resource scripts are read by windres, which knows the include roots only when told, and does not tell what it has
 # included.
 function(kavlix_resources target script)

@@ -16,7 +16,7 @@ constexpr UINT smallestBuffer = 128;
 // (WriteCount) use mark16 and mark32 in the same way.
 constexpr BYTE mark8 = 0xFF;
 constexpr WORD mark16 = 0xFFFF;
-constexpr WORD wideMark16 = 0xFFFE; // reserved for texts in UTF-16
+constexpr WORD wideMark16 = 0xFFFE; // mark8 and wideMark16 precede the length of a text in UTF-16
 constexpr DWORD mark32 = 0xFFFFFFFF;
 
 } // namespace
@@ -128,13 +128,13 @@ void CArchive::Write(const void* buffer, UINT count) {
 
 void CArchive::WriteString(LPCTSTR text) {
     if (text != nullptr)
-        Write(text, static_cast<UINT>(std::strlen(text)));
+        Write(text, static_cast<UINT>(_tcslen(text) * sizeof(TCHAR)));
 }
 
 LPTSTR CArchive::ReadString(LPTSTR text, UINT maxCount) {
     UINT length = 0;
     bool any = false;
-    for (char ch; length < maxCount && Read(&ch, 1) == 1;) {
+    for (TCHAR ch; length < maxCount && Read(&ch, sizeof ch) == sizeof ch;) {
         any = true;
         if (ch == '\n') {
             if (length > 0 && text[length - 1] == '\r')
@@ -150,7 +150,7 @@ LPTSTR CArchive::ReadString(LPTSTR text, UINT maxCount) {
 BOOL CArchive::ReadString(CString& text) {
     text.Empty();
     bool any = false;
-    for (char ch; Read(&ch, 1) == 1;) {
+    for (TCHAR ch; Read(&ch, sizeof ch) == sizeof ch;) {
         any = true;
         if (ch == '\n') {
             if (!text.IsEmpty() && text[text.GetLength() - 1] == '\r')
@@ -190,40 +190,69 @@ DWORD_PTR CArchive::ReadCount() {
 
 CArchive& operator<<(CArchive& ar, const CString& text) {
     const DWORD length = static_cast<DWORD>(text.m_text.size());
+    if constexpr (sizeof(TCHAR) > 1)
+        ar << mark8 << wideMark16;
     if (length < mark8)
         ar << static_cast<BYTE>(length);
     else if (length < wideMark16)
         ar << mark8 << static_cast<WORD>(length);
     else
         ar << mark8 << mark16 << length;
-    ar.Write(text.m_text.data(), length);
+    // CString keeps a length below INT_MAX, so the number of bytes fits a UINT.
+    ar.Write(text.m_text.data(), length * UINT{sizeof(TCHAR)});
     return ar;
 }
 
-CArchive& operator>>(CArchive& ar, CString& text) {
+namespace {
+
+/// Reads the length before a stored text. `isWide` becomes true if the text is in UTF-16.
+DWORD ReadTextLength(CArchive& ar, bool& isWide) {
     BYTE brief = 0;
     ar >> brief;
-    DWORD length = brief;
-    if (brief == mark8) {
-        WORD middle = 0;
-        ar >> middle;
-        length = middle;
-        if (middle == wideMark16)
+    if (brief != mark8)
+        return brief;
+    WORD middle = 0;
+    ar >> middle;
+    if (middle == wideMark16) {
+        if (isWide)
             AfxThrowArchiveException(CArchiveException::genericException);
-        if (middle == mark16)
-            ar >> length;
+        isWide = true;
+        return ReadTextLength(ar, isWide);
     }
-    // Reads in pieces, so that a damaged length fails at the end of the file before much memory is allocated.
-    CString loaded;
-    char piece[4096];
+    DWORD length = middle;
+    if (middle == mark16)
+        ar >> length;
+    return length;
+}
+
+/// Reads in pieces, so that a damaged length fails at the end of the file before much memory is allocated.
+template <class Char> std::basic_string<Char> ReadCharacters(CArchive& ar, DWORD length) {
+    std::basic_string<Char> text;
+    Char piece[4096];
     while (length > 0) {
-        const UINT now = std::min<DWORD>(length, sizeof piece);
-        if (ar.Read(piece, now) != now)
+        const UINT now = std::min<DWORD>(length, _countof(piece));
+        if (ar.Read(piece, now * UINT{sizeof(Char)}) != now * sizeof(Char))
             AfxThrowArchiveException(CArchiveException::endOfFile);
-        loaded.Append(piece, static_cast<int>(now));
+        AfxWithMemory([&] { text.append(piece, now); });
         length -= now;
     }
-    text = std::move(loaded);
+    if (text.size() > INT_MAX - 1)
+        AfxThrowMemoryException();
+    return text;
+}
+
+} // namespace
+
+CArchive& operator>>(CArchive& ar, CString& text) {
+    bool isWide = false;
+    const DWORD length = ReadTextLength(ar, isWide);
+    if (isWide) {
+        const std::wstring loaded = ReadCharacters<wchar_t>(ar, length);
+        text = CString(loaded.data(), static_cast<int>(loaded.size()));
+    } else {
+        const std::string loaded = ReadCharacters<char>(ar, length);
+        text = CString(loaded.data(), static_cast<int>(loaded.size()));
+    }
     return ar;
 }
 

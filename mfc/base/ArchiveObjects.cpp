@@ -95,7 +95,7 @@ CRuntimeClass* CArchive::ReadNewClass(UINT& schema) {
     name[length] = 0;
     CRuntimeClass* const found = CRuntimeClass::FromName(name);
     if (found == nullptr) {
-        TRACE("%s is not a class of this program.\n", name);
+        TRACE(_T("%hs is not a class of this program.\n"), name);
         AfxThrowArchiveException(CArchiveException::badClass, FileName());
     }
     if (found->m_wSchema == 0xFFFF)

@@ -7,28 +7,39 @@
 
 namespace {
 
-bool IsAscii(char ch) {
-    return static_cast<unsigned char>(ch) < 0x80;
+bool IsAscii(TCHAR ch) {
+    return static_cast<_TUCHAR>(ch) < 0x80;
 }
 
-char AsciiWithCase(char ch, bool upper) {
+TCHAR AsciiWithCase(TCHAR ch, bool upper) {
     if (upper)
-        return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 'a' + 'A') : ch;
-    return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
+        return ch >= 'a' && ch <= 'z' ? static_cast<TCHAR>(ch - 'a' + 'A') : ch;
+    return ch >= 'A' && ch <= 'Z' ? static_cast<TCHAR>(ch - 'A' + 'a') : ch;
 }
 
+void ChangeCase(std::wstring& text, bool upper) {
+    if (upper)
+        CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
+    else
+        CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
+}
+
+#ifdef _UNICODE
+bool ConvertWide(const AfxText& text, bool upper, AfxText& result) {
+    result = text;
+    ChangeCase(result, upper);
+    return true;
+}
+#else
 // Converts through UTF-16. Returns false if the bytes are not valid in the code page.
-bool ConvertWide(const std::string& text, bool upper, std::string& result) {
+bool ConvertWide(const AfxText& text, bool upper, AfxText& result) {
     const int length = static_cast<int>(text.size());
     const int wideLength = MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), length, nullptr, 0);
     if (wideLength <= 0)
         return false;
     std::wstring wide(static_cast<std::size_t>(wideLength), L'\0');
     MultiByteToWideChar(CP_ACP, 0, text.data(), length, wide.data(), wideLength);
-    if (upper)
-        CharUpperBuffW(wide.data(), static_cast<DWORD>(wideLength));
-    else
-        CharLowerBuffW(wide.data(), static_cast<DWORD>(wideLength));
+    ChangeCase(wide, upper);
     const int bytes = WideCharToMultiByte(CP_ACP, 0, wide.data(), wideLength, nullptr, 0, nullptr, nullptr);
     if (bytes <= 0)
         return false;
@@ -36,20 +47,21 @@ bool ConvertWide(const std::string& text, bool upper, std::string& result) {
     WideCharToMultiByte(CP_ACP, 0, wide.data(), wideLength, result.data(), bytes, nullptr, nullptr);
     return true;
 }
+#endif
 
 } // namespace
 
-std::string AfxWithCase(const std::string& text, bool upper) {
-    std::string result;
+AfxText AfxWithCase(const AfxText& text, bool upper) {
+    AfxText result;
     if (!std::all_of(text.begin(), text.end(), IsAscii) && ConvertWide(text, upper, result))
         return result;
     result = text;
-    for (char& ch : result)
+    for (TCHAR& ch : result)
         ch = AsciiWithCase(ch, upper);
     return result;
 }
 
-int AfxCompareFolded(const char* left, const char* right) {
+int AfxCompareFolded(LPCTSTR left, LPCTSTR right) {
     while (*left != 0 && IsAscii(*left) && IsAscii(*right) &&
            AsciiWithCase(*left, false) == AsciiWithCase(*right, false)) {
         ++left;
@@ -59,6 +71,6 @@ int AfxCompareFolded(const char* left, const char* right) {
         const int order = AsciiWithCase(*left, false) - AsciiWithCase(*right, false);
         return (order > 0) - (order < 0);
     }
-    const int order = std::strcmp(AfxWithCase(left, false).c_str(), AfxWithCase(right, false).c_str());
+    const int order = _tcscmp(AfxWithCase(left, false).c_str(), AfxWithCase(right, false).c_str());
     return (order > 0) - (order < 0);
 }

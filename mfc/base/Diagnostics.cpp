@@ -4,6 +4,9 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string>
+
+#include "mfc/base/Resource.h"
 
 CDumpContext afxDump;
 
@@ -48,19 +51,28 @@ BOOL AfxIsValidAddress(const void* address, UINT_PTR bytes, BOOL readWrite) {
     return TRUE;
 }
 
-BOOL AfxIsValidString(LPCSTR text, int length) {
+template <class Char> static BOOL IsValidText(const Char* text, int length) {
     if (length >= 0)
-        return AfxIsValidAddress(text, static_cast<UINT_PTR>(length), FALSE);
+        return AfxIsValidAddress(text, static_cast<UINT_PTR>(length) * sizeof(Char), FALSE);
     constexpr UINT_PTR page = 4096;
     for (;;) {
         // Memory protection applies to whole pages, so one readable byte makes the rest of its page readable.
-        if (!AfxIsValidAddress(text, 1, FALSE))
+        if (!AfxIsValidAddress(text, sizeof(Char), FALSE))
             return FALSE;
-        const UINT_PTR left = page - reinterpret_cast<UINT_PTR>(text) % page;
-        if (std::memchr(text, 0, left) != nullptr)
+        // A character that crosses the page's end is part of neither page's rest.
+        const UINT_PTR rest = (page - reinterpret_cast<UINT_PTR>(text) % page) / sizeof(Char);
+        const UINT_PTR left = rest == 0 ? 1 : rest;
+        if (std::char_traits<Char>::find(text, left, Char{0}) != nullptr)
             return TRUE;
         text += left;
     }
+}
+
+BOOL AfxIsValidString(LPCSTR text, int length) {
+    return IsValidText(text, length);
+}
+BOOL AfxIsValidString(LPCWSTR text, int length) {
+    return IsValidText(text, length);
 }
 
 void AfxAssertValidObject(const CObject* object, LPCSTR file, int line) {
@@ -77,7 +89,7 @@ void AfxTraceFormatted(LPCTSTR format, ...) {
     va_start(args, format);
     text.FormatV(format, args);
     va_end(args);
-    OutputDebugStringA(text);
+    OutputDebugString(text);
 }
 
 CDumpContext::CDumpContext(CFile* file) : m_pFile(file) {
@@ -104,10 +116,10 @@ CDumpContext& CDumpContext::operator<<(LPCSTR text) {
 }
 
 CDumpContext& CDumpContext::operator<<(LPCWSTR text) {
-    return text == nullptr ? *this << static_cast<LPCSTR>(nullptr) : *this << CString(text);
+    return *this << (text == nullptr ? nullptr : AfxBytes(CString(text)).c_str());
 }
 CDumpContext& CDumpContext::operator<<(const CString& text) {
-    return *this << text.GetString();
+    return *this << AfxBytes(text).c_str();
 }
 CDumpContext& CDumpContext::operator<<(const void* pointer) {
     return Print("$%p", pointer);

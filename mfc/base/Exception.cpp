@@ -65,11 +65,11 @@ BOOL CException::GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext)
 int CException::ReportError(UINT type, UINT idFallback) {
     TCHAR message[512];
     UINT helpContext = 0;
-    if (GetErrorMessage(message, sizeof message, &helpContext))
+    if (GetErrorMessage(message, _countof(message), &helpContext))
         return AfxMessageBox(message, type, helpContext);
     CString fallback;
     if (idFallback == 0 || !fallback.LoadString(idFallback))
-        fallback = "No error message is available";
+        fallback = _T("No error message is available");
     return AfxMessageBox(fallback.GetString(), type, idFallback);
 }
 
@@ -103,7 +103,7 @@ CMemoryException::CMemoryException(BOOL autoDelete, UINT idMessage)
     : CSimpleException(autoDelete, idMessage) {
 }
 LPCTSTR CMemoryException::DefaultMessage() const {
-    return "Out of memory.";
+    return _T("Out of memory.");
 }
 
 CNotSupportedException::CNotSupportedException() = default;
@@ -113,7 +113,7 @@ CNotSupportedException::CNotSupportedException(BOOL autoDelete, UINT idMessage)
     : CSimpleException(autoDelete, idMessage) {
 }
 LPCTSTR CNotSupportedException::DefaultMessage() const {
-    return "The program attempted an operation that is not supported.";
+    return _T("The program attempted an operation that is not supported.");
 }
 
 CResourceException::CResourceException() = default;
@@ -123,7 +123,7 @@ CResourceException::CResourceException(BOOL autoDelete, UINT idMessage)
     : CSimpleException(autoDelete, idMessage) {
 }
 LPCTSTR CResourceException::DefaultMessage() const {
-    return "A resource that the program needs is not available.";
+    return _T("A resource that the program needs is not available.");
 }
 
 CUserException::CUserException() = default;
@@ -139,7 +139,7 @@ CInvalidArgException::CInvalidArgException(BOOL autoDelete, UINT idMessage)
     : CSimpleException(autoDelete, idMessage) {
 }
 LPCTSTR CInvalidArgException::DefaultMessage() const {
-    return "The program used an argument that is not valid.";
+    return _T("The program used an argument that is not valid.");
 }
 
 AfxCaughtException::~AfxCaughtException() {
@@ -149,5 +149,5 @@ AfxCaughtException::~AfxCaughtException() {
 
 void AfxCopyMessage(LPTSTR text, UINT maxLength, LPCTSTR message) {
     if (maxLength > 0)
-        lstrcpynA(text, message, maxLength > INT_MAX ? INT_MAX : static_cast<int>(maxLength));
+        lstrcpyn(text, message, maxLength > INT_MAX ? INT_MAX : static_cast<int>(maxLength));
 }

@@ -27,7 +27,7 @@ CString FullPath(LPCTSTR fileName) {
 
 CString LastPart(const CString& path) {
     const int slash =
-        path.FindOneOf("\\/") < 0 ? -1 : std::max(path.ReverseFind('\\'), path.ReverseFind('/'));
+        path.FindOneOf(_T("\\/")) < 0 ? -1 : std::max(path.ReverseFind('\\'), path.ReverseFind('/'));
     return path.Mid(slash + 1);
 }
 

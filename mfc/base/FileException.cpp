@@ -13,41 +13,41 @@ IMPLEMENT_DYNAMIC(CArchiveException, CException)
 namespace {
 
 // Messages by cause. %s is the file name.
-const char* const fileMessages[] = {
-    "No error occurred.",
-    "An error occurred while accessing %s.",
-    "%s was not found.",
-    "%s contains an incorrect path.",
-    "%s could not be opened because there are too many open files.",
-    "Access to %s was denied.",
-    "An incorrect file handle was associated with %s.",
-    "%s could not be removed because it is the current directory.",
-    "%s could not be created because the directory is full.",
-    "Seek failed on %s.",
-    "A hardware error occurred while accessing %s.",
-    "A sharing violation occurred while accessing %s.",
-    "A locking violation occurred while accessing %s.",
-    "The disk is full; %s could not be written.",
-    "An attempt was made to access %s past its end.",
+LPCTSTR const fileMessages[] = {
+    _T("No error occurred."),
+    _T("An error occurred while accessing %s."),
+    _T("%s was not found."),
+    _T("%s contains an incorrect path."),
+    _T("%s could not be opened because there are too many open files."),
+    _T("Access to %s was denied."),
+    _T("An incorrect file handle was associated with %s."),
+    _T("%s could not be removed because it is the current directory."),
+    _T("%s could not be created because the directory is full."),
+    _T("Seek failed on %s."),
+    _T("A hardware error occurred while accessing %s."),
+    _T("A sharing violation occurred while accessing %s."),
+    _T("A locking violation occurred while accessing %s."),
+    _T("The disk is full; %s could not be written."),
+    _T("An attempt was made to access %s past its end."),
 };
 
-const char* const archiveMessages[] = {
-    "No error occurred.",
-    "An error occurred while accessing %s.",
-    "An attempt was made to write to %s, which is being read.",
-    "An attempt was made to access %s past its end.",
-    "An attempt was made to read from %s, which is being written.",
-    "%s has a bad format.",
-    "%s contains an unexpected object.",
-    "%s contains an object of an incorrect version.",
+LPCTSTR const archiveMessages[] = {
+    _T("No error occurred."),
+    _T("An error occurred while accessing %s."),
+    _T("An attempt was made to write to %s, which is being read."),
+    _T("An attempt was made to access %s past its end."),
+    _T("An attempt was made to read from %s, which is being written."),
+    _T("%s has a bad format."),
+    _T("%s contains an unexpected object."),
+    _T("%s contains an object of an incorrect version."),
 };
 
-template <std::size_t COUNT> void FormatMessageOf(const char* const (&messages)[COUNT], int cause,
+template <std::size_t COUNT> void FormatMessageOf(LPCTSTR const (&messages)[COUNT], int cause,
                                                   const CString& fileName, LPTSTR text, UINT maxLength) {
     if (cause < 0 || static_cast<std::size_t>(cause) >= COUNT)
         cause = CFileException::genericException;
     CString message;
-    message.Format(messages[cause], fileName.IsEmpty() ? "an unnamed file" : fileName.GetString());
+    message.Format(messages[cause], fileName.IsEmpty() ? _T("an unnamed file") : fileName.GetString());
     AfxCopyMessage(text, maxLength, message);
 }
 

@@ -44,7 +44,7 @@ AfxClassRegistration::~AfxClassRegistration() {
 
 CObject* CRuntimeClass::CreateObject() const {
     if (m_pfnCreateObject == nullptr) {
-        TRACE("%s cannot be created dynamically.\n", m_lpszClassName);
+        TRACE(_T("%hs cannot be created dynamically.\n"), m_lpszClassName);
         return nullptr;
     }
     try {

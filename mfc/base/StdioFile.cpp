@@ -2,10 +2,14 @@
 
 #include <afx.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <io.h>
+#include <string>
+
+#include "mfc/base/Resource.h"
 
 IMPLEMENT_DYNAMIC(CStdioFile, CFile)
 
@@ -27,6 +31,43 @@ const char* ModeOf(UINT openFlags) {
         return binary ? "rb" : "rt";
     }
 }
+
+#ifdef _UNICODE
+/// Reads the rest of a character of which fgets() has read the first bytes.
+void ReadRestOfCharacter(FILE* stream, std::string& bytes) {
+    constexpr int mostBytesLeft = 3;
+    for (int i = 0; i < mostBytesLeft && !bytes.empty() && (bytes.back() & 0x80) != 0; ++i) {
+        const int length = static_cast<int>(bytes.size());
+        if (::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, bytes.data(), length, nullptr, 0) > 0)
+            return;
+        const int next = std::fgetc(stream);
+        if (next == EOF)
+            return;
+        bytes += static_cast<char>(next);
+    }
+}
+
+/// fgets() with the bytes converted from the code page of the process. A byte gives at most one UTF-16 unit, but the
+/// last character can be completed by bytes that were not counted, and give one more.
+LPWSTR ReadPiece(FILE* stream, LPWSTR text, int limit) {
+    if (limit <= 1) {
+        *text = 0;
+        return text;
+    }
+    std::string bytes(static_cast<std::size_t>(std::clamp(limit - 1, 2, 4096)), '\0');
+    if (std::fgets(bytes.data(), static_cast<int>(bytes.size()), stream) == nullptr)
+        return nullptr;
+    bytes.resize(std::strlen(bytes.c_str()));
+    ReadRestOfCharacter(stream, bytes);
+    const CString converted(bytes.c_str());
+    ::lstrcpyn(text, converted, limit);
+    return text;
+}
+#else
+LPSTR ReadPiece(FILE* stream, LPSTR text, int limit) {
+    return std::fgets(text, limit, stream);
+}
+#endif
 
 } // namespace
 
@@ -123,7 +164,7 @@ LPTSTR CStdioFile::ReadString(LPTSTR text, UINT maxCount) {
     if (maxCount == 0)
         return nullptr;
     const int limit = static_cast<int>(maxCount < 0x7FFFFFFF ? maxCount : 0x7FFFFFFF);
-    LPTSTR const result = std::fgets(text, limit, m_pStream);
+    LPTSTR const result = ReadPiece(m_pStream, text, limit);
     if (result == nullptr && std::ferror(m_pStream)) {
         std::clearerr(m_pStream);
         CFileException::ThrowErrno(errno, m_strFileName);
@@ -133,11 +174,11 @@ LPTSTR CStdioFile::ReadString(LPTSTR text, UINT maxCount) {
 
 BOOL CStdioFile::ReadString(CString& text) {
     text.Empty();
-    char piece[512];
+    TCHAR piece[512];
     bool any = false;
-    while (ReadString(piece, sizeof piece) != nullptr) {
+    while (ReadString(piece, _countof(piece)) != nullptr) {
         any = true;
-        const std::size_t length = std::strlen(piece);
+        const std::size_t length = _tcslen(piece);
         if (length > 0 && piece[length - 1] == '\n') {
             piece[length - 1] = '\0';
             text += piece;
@@ -150,7 +191,7 @@ BOOL CStdioFile::ReadString(CString& text) {
 
 void CStdioFile::WriteString(LPCTSTR text) {
     ASSERT(m_pStream != nullptr);
-    if (std::fputs(text, m_pStream) < 0)
+    if (std::fputs(AfxBytes(text).c_str(), m_pStream) < 0)
         CFileException::ThrowErrno(errno, m_strFileName);
 }
 

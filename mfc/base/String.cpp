@@ -10,6 +10,7 @@
 #include <afxtempl.h>
 
 #include "mfc/base/CaseFold.h"
+#include "mfc/base/Resource.h"
 
 namespace {
 
@@ -22,40 +23,51 @@ void RequireLength(std::size_t length) {
 }
 
 std::size_t LengthOf(LPCTSTR text) {
-    return text == nullptr ? 0 : std::strlen(text);
+    return text == nullptr ? 0 : _tcslen(text);
 }
 
 LPCTSTR OrEmpty(LPCTSTR text) {
-    return text == nullptr ? "" : text;
+    return text == nullptr ? _T("") : text;
 }
 
-std::string Assigned(const char* text, std::size_t length) {
+AfxText Assigned(LPCTSTR text, std::size_t length) {
     RequireLength(length);
-    return AfxWithMemory([&] { return std::string(text, length); });
+    return AfxWithMemory([&] { return AfxText(text, length); });
 }
 
-std::string FromWide(LPCWSTR text, int length) {
-    if (text == nullptr || length <= 0)
+#ifdef _UNICODE
+using OtherChar = char;
+int Convert(const char* text, int length, wchar_t* target, int room) {
+    return MultiByteToWideChar(CP_ACP, 0, text, length, target, room);
+}
+#else
+using OtherChar = wchar_t;
+int Convert(const wchar_t* text, int length, char* target, int room) {
+    return WideCharToMultiByte(CP_ACP, 0, text, length, target, room, nullptr, nullptr);
+}
+#endif
+
+/// A text of the other character set, converted. Empty if the conversion fails.
+AfxText Converted(const OtherChar* text, int length) {
+    const int room = text == nullptr || length <= 0 ? 0 : Convert(text, length, nullptr, 0);
+    if (room <= 0)
         return {};
-    const int bytes = WideCharToMultiByte(CP_ACP, 0, text, length, nullptr, 0, nullptr, nullptr);
-    if (bytes <= 0)
-        return {};
-    std::string result = AfxWithMemory([&] { return std::string(static_cast<std::size_t>(bytes), '\0'); });
-    WideCharToMultiByte(CP_ACP, 0, text, length, result.data(), bytes, nullptr, nullptr);
+    AfxText result = AfxWithMemory([&] { return AfxText(static_cast<std::size_t>(room), TCHAR{0}); });
+    Convert(text, length, result.data(), room);
     return result;
 }
 
-int LengthOfWide(LPCWSTR text) {
-    const std::size_t length = text == nullptr ? 0 : std::wcslen(text);
+AfxText Converted(const OtherChar* text) {
+    const std::size_t length = text == nullptr ? 0 : std::char_traits<OtherChar>::length(text);
     RequireLength(length);
-    return static_cast<int>(length);
+    return Converted(text, static_cast<int>(length));
 }
 
-std::string Joined(const char* left, std::size_t leftLength, const char* right, std::size_t rightLength) {
+AfxText Joined(LPCTSTR left, std::size_t leftLength, LPCTSTR right, std::size_t rightLength) {
     RequireLength(leftLength);
     RequireLength(leftLength + rightLength);
     return AfxWithMemory([&] {
-        std::string result;
+        AfxText result;
         result.reserve(leftLength + rightLength);
         result.append(left, leftLength).append(right, rightLength);
         return result;
@@ -86,15 +98,19 @@ CString::CString(LPCTSTR text) {
     else
         m_text = Assigned(OrEmpty(text), LengthOf(text));
 }
-CString::CString(const unsigned char* text) : CString(reinterpret_cast<LPCTSTR>(text)) {
+CString::CString(const OtherChar* text) {
+    if (text != nullptr && IS_INTRESOURCE(text))
+        LoadResource(LOWORD(reinterpret_cast<UINT_PTR>(text)));
+    else
+        m_text = Converted(text);
+}
+CString::CString(const unsigned char* text) : CString(reinterpret_cast<LPCSTR>(text)) {
 }
 CString::CString(LPCTSTR text, int length) {
     if (text != nullptr && length > 0)
         m_text = Assigned(text, static_cast<std::size_t>(length));
 }
-CString::CString(LPCWSTR text) : CString(text, LengthOfWide(text)) {
-}
-CString::CString(LPCWSTR text, int length) : m_text(FromWide(text, length)) {
+CString::CString(const OtherChar* text, int length) : m_text(Converted(text, length)) {
 }
 CString::~CString() = default;
 
@@ -111,16 +127,16 @@ CString& CString::operator=(CString&& other) noexcept {
     return *this;
 }
 CString& CString::operator=(LPCTSTR text) {
-    // `text` may be a part of this string; std::string supports that.
+    // `text` may be a part of this string; AfxText supports that.
     RequireLength(LengthOf(text));
     AfxWithMemory([&] { m_text.assign(OrEmpty(text)); });
     return *this;
 }
 CString& CString::operator=(const unsigned char* text) {
-    return *this = reinterpret_cast<LPCTSTR>(text);
+    return *this = reinterpret_cast<LPCSTR>(text);
 }
-CString& CString::operator=(LPCWSTR text) {
-    m_text = FromWide(text, LengthOfWide(text));
+CString& CString::operator=(const OtherChar* text) {
+    m_text = Converted(text);
     return *this;
 }
 CString& CString::operator=(TCHAR ch) {
@@ -128,7 +144,7 @@ CString& CString::operator=(TCHAR ch) {
     return *this;
 }
 
-void CString::Join(const char* text, std::size_t length) {
+void CString::Join(LPCTSTR text, std::size_t length) {
     RequireLength(length);
     RequireLength(m_text.size() + length);
     AfxWithMemory([&] { m_text.append(text, length); });
@@ -186,7 +202,7 @@ BOOL CString::IsEmpty() const {
     return m_text.empty();
 }
 void CString::Empty() {
-    std::string().swap(m_text);
+    AfxText().swap(m_text);
 }
 std::size_t CString::CheckedIndex(int index) const {
     ASSERT(index >= 0 && index < GetLength());
@@ -214,16 +230,16 @@ bool operator==(const CString& left, const CString& right) {
     return left.m_text == right.m_text;
 }
 int CString::Compare(LPCTSTR other) const {
-    return Sign(std::strcmp(m_text.c_str(), OrEmpty(other)));
+    return Sign(_tcscmp(m_text.c_str(), OrEmpty(other)));
 }
 int CString::CompareNoCase(LPCTSTR other) const {
     return AfxCompareFolded(m_text.c_str(), OrEmpty(other));
 }
 int CString::Collate(LPCTSTR other) const {
-    return CompareStringA(LOCALE_USER_DEFAULT, 0, m_text.c_str(), -1, OrEmpty(other), -1) - CSTR_EQUAL;
+    return CompareString(LOCALE_USER_DEFAULT, 0, m_text.c_str(), -1, OrEmpty(other), -1) - CSTR_EQUAL;
 }
 int CString::CollateNoCase(LPCTSTR other) const {
-    return CompareStringA(LOCALE_USER_DEFAULT, NORM_IGNORECASE, m_text.c_str(), -1, OrEmpty(other), -1) -
+    return CompareString(LOCALE_USER_DEFAULT, NORM_IGNORECASE, m_text.c_str(), -1, OrEmpty(other), -1) -
            CSTR_EQUAL;
 }
 
@@ -247,9 +263,8 @@ void CString::ReleaseBuffer(int newLength) {
     const std::size_t room = m_text.size();
     std::size_t length = static_cast<std::size_t>(std::max(newLength, 0));
     if (newLength < 0) {
-        const void* const end = std::memchr(m_text.data(), 0, room);
-        length =
-            end == nullptr ? room : static_cast<std::size_t>(static_cast<const char*>(end) - m_text.data());
+        const std::size_t end = m_text.find(TCHAR{0});
+        length = end == AfxText::npos ? room : end;
     }
     ASSERT(length <= room);
     m_text.resize(std::min(length, room));
@@ -264,9 +279,23 @@ LPTSTR CString::LockBuffer() {
 void CString::UnlockBuffer() {
 }
 
-UINT AfxHashText(LPCTSTR text) {
+std::string AfxBytes(const CString& text) {
+#ifdef _UNICODE
+    const int length = text.GetLength();
+    const int room = WideCharToMultiByte(CP_ACP, 0, text, length, nullptr, 0, nullptr, nullptr);
+    std::string bytes =
+        AfxWithMemory([&] { return std::string(static_cast<std::size_t>(std::max(room, 0)), '\0'); });
+    WideCharToMultiByte(CP_ACP, 0, text, length, bytes.data(), room, nullptr, nullptr);
+    return bytes;
+#else
+    return AfxWithMemory(
+        [&] { return std::string(text.GetString(), static_cast<std::size_t>(text.GetLength())); });
+#endif
+}
+
+UINT AfxHashText(LPCSTR text) {
     UINT hash = 2166136261u;
-    for (const char* at = OrEmpty(text); *at != 0; ++at)
+    for (const char* at = text == nullptr ? "" : text; *at != 0; ++at)
         hash = (hash ^ static_cast<BYTE>(*at)) * 16777619u;
     return hash;
 }

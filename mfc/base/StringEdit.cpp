@@ -9,17 +9,17 @@
 
 namespace {
 
-constexpr const char* whiteSpace = " \t\n\v\f\r";
+constexpr LPCTSTR whiteSpace = _T(" \t\n\v\f\r");
 
 int AsPosition(std::size_t found) {
-    return found == std::string::npos ? -1 : static_cast<int>(found);
+    return found == AfxText::npos ? -1 : static_cast<int>(found);
 }
 
 std::size_t NotNegative(int value) {
     return static_cast<std::size_t>(std::max(value, 0));
 }
 
-CString Part(const std::string& text, std::size_t first, std::size_t count) {
+CString Part(const AfxText& text, std::size_t first, std::size_t count) {
     first = std::min(first, text.size());
     return CString(text.data() + first, static_cast<int>(std::min(count, text.size() - first)));
 }
@@ -40,10 +40,10 @@ CString CString::Right(int count) const {
     return Part(m_text, m_text.size() - length, length);
 }
 CString CString::SpanIncluding(LPCTSTR set) const {
-    return Part(m_text, 0, m_text.find_first_not_of(set == nullptr ? "" : set));
+    return Part(m_text, 0, m_text.find_first_not_of(set == nullptr ? _T("") : set));
 }
 CString CString::SpanExcluding(LPCTSTR set) const {
-    return Part(m_text, 0, m_text.find_first_of(set == nullptr ? "" : set));
+    return Part(m_text, 0, m_text.find_first_of(set == nullptr ? _T("") : set));
 }
 
 CString& CString::MakeUpper() {
@@ -117,12 +117,12 @@ int CString::Replace(TCHAR oldChar, TCHAR newChar) {
 int CString::Replace(LPCTSTR oldText, LPCTSTR newText) {
     if (oldText == nullptr || *oldText == 0)
         return 0;
-    const std::size_t oldLength = std::strlen(oldText);
-    const std::size_t newLength = newText == nullptr ? 0 : std::strlen(newText);
+    const std::size_t oldLength = _tcslen(oldText);
+    const std::size_t newLength = newText == nullptr ? 0 : _tcslen(newText);
     int count = 0;
     CString result;
     std::size_t done = 0;
-    for (std::size_t at; (at = m_text.find(oldText, done, oldLength)) != std::string::npos; ++count) {
+    for (std::size_t at; (at = m_text.find(oldText, done, oldLength)) != AfxText::npos; ++count) {
         result.Join(m_text.data() + done, at - done);
         if (newLength > 0)
             result.Join(newText, newLength);
@@ -150,7 +150,7 @@ int CString::Insert(int index, LPCTSTR text) {
     if (text != nullptr && *text != 0) {
         const std::size_t at = std::min(NotNegative(index), m_text.size());
         CString result = Left(static_cast<int>(at));
-        result.Join(text, std::strlen(text));
+        result.Join(text, _tcslen(text));
         result.Join(m_text.data() + at, m_text.size() - at);
         m_text.swap(result.m_text);
     }
@@ -171,8 +171,8 @@ CString CString::Tokenize(LPCTSTR separators, int& position) const {
         return rest;
     }
     const std::size_t first =
-        position < 0 ? std::string::npos : m_text.find_first_not_of(separators, NotNegative(position));
-    if (first == std::string::npos) {
+        position < 0 ? AfxText::npos : m_text.find_first_not_of(separators, NotNegative(position));
+    if (first == AfxText::npos) {
         position = -1;
         return CString();
     }
@@ -183,9 +183,9 @@ CString CString::Tokenize(LPCTSTR separators, int& position) const {
 
 BOOL AfxExtractSubString(CString& part, LPCTSTR full, int index, TCHAR separator) {
     // `full` may point into `part`, so `part` changes last.
-    const char* begin = full;
+    LPCTSTR begin = full;
     for (; begin != nullptr && index > 0; --index) {
-        begin = std::strchr(begin, separator);
+        begin = _tcschr(begin, separator);
         if (begin != nullptr)
             ++begin;
     }
@@ -193,7 +193,7 @@ BOOL AfxExtractSubString(CString& part, LPCTSTR full, int index, TCHAR separator
         part.Empty();
         return FALSE;
     }
-    const char* const end = std::strchr(begin, separator);
+    LPCTSTR const end = _tcschr(begin, separator);
     part = end == nullptr ? CString(begin) : CString(begin, static_cast<int>(end - begin));
     return TRUE;
 }

@@ -6,6 +6,45 @@
 
 #include "mfc/base/Resource.h"
 
+namespace {
+
+#ifdef _UNICODE
+/// The format with the lengths of %s, %S, %c and %C written out. Windows and the C standard differ on their meaning in
+/// wide formats.
+std::wstring StandardFormat(LPCWSTR format) {
+    std::wstring result;
+    for (const wchar_t* at = format; *at != 0; ++at) {
+        result += *at;
+        if (*at != L'%')
+            continue;
+        bool hasLength = false;
+        while (at[1] != 0 && std::wcschr(L"-+ #0123456789.*hlLjztIw", at[1]) != nullptr) {
+            ++at;
+            hasLength = hasLength || std::wcschr(L"hlLw", *at) != nullptr;
+            result += *at == L'w' ? L'l' : *at;
+        }
+        if (at[1] == 0)
+            break;
+        ++at;
+        const bool isText = std::wcschr(L"sScC", *at) != nullptr;
+        if (isText && !hasLength)
+            result += *at == L's' || *at == L'c' ? L'l' : L'h';
+        result += *at == L'S' ? L's' : *at == L'C' ? L'c' : *at;
+    }
+    return result;
+}
+
+int Print(LPWSTR text, std::size_t room, LPCWSTR format, va_list args) {
+    return ::__mingw_vsnwprintf(text, room, StandardFormat(format).c_str(), args);
+}
+#else
+int Print(LPSTR text, std::size_t room, LPCSTR format, va_list args) {
+    return std::vsnprintf(text, room, format, args);
+}
+#endif
+
+} // namespace
+
 BOOL CString::LoadResource(UINT id) {
     const HINSTANCE module = AfxFindStringResourceHandle(id);
     if (module != nullptr) {
@@ -19,7 +58,7 @@ BOOL CString::LoadResource(UINT id) {
         }
     }
     TCHAR prompt[256];
-    const int length = AfxLoadString(id, prompt, sizeof prompt);
+    const int length = AfxLoadString(id, prompt, _countof(prompt));
     *this = CString(prompt, length);
     return length > 0;
 }
@@ -28,10 +67,10 @@ void CString::AppendFormatted(std::size_t keep, LPCTSTR format, va_list args) {
     if (format == nullptr)
         AfxThrowInvalidArgException();
     // The arguments may point into this string, so the string changes only after the new text is complete.
-    char brief[256];
+    TCHAR brief[256];
     va_list measured;
     va_copy(measured, args);
-    const int length = std::vsnprintf(brief, sizeof brief, format, measured);
+    const int length = Print(brief, _countof(brief), format, measured);
     va_end(measured);
     if (length < 0) {
         // Formatting failed: a UTF-16 argument cannot be converted to the code page, or the text is longer
@@ -40,11 +79,11 @@ void CString::AppendFormatted(std::size_t keep, LPCTSTR format, va_list args) {
         return;
     }
     CString made;
-    if (static_cast<std::size_t>(length) < sizeof brief) {
+    if (static_cast<std::size_t>(length) < _countof(brief)) {
         made = CString(brief, length);
     } else {
         LPTSTR const buffer = made.GetBuffer(length);
-        std::vsnprintf(buffer, static_cast<std::size_t>(length) + 1, format, args);
+        Print(buffer, static_cast<std::size_t>(length) + 1, format, args);
         made.ReleaseBuffer(length);
     }
     if (keep == 0)
@@ -78,15 +117,15 @@ void CString::AppendFormatPlain(LPCTSTR format, ...) {
 void CString::FormatMessagePlain(LPCTSTR format, ...) {
     va_list args;
     va_start(args, format);
-    char* message = nullptr;
+    LPTSTR message = nullptr;
     ::SetLastError(NO_ERROR);
-    const DWORD length = ::FormatMessageA(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, format,
-                                          0, 0, reinterpret_cast<LPSTR>(&message), 0, &args);
+    const DWORD length = ::FormatMessage(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, format,
+                                         0, 0, reinterpret_cast<LPTSTR>(&message), 0, &args);
     va_end(args);
     struct Free {
-        void operator()(char* block) const { ::LocalFree(block); }
+        void operator()(LPTSTR block) const { ::LocalFree(block); }
     };
-    const std::unique_ptr<char, Free> owner(message);
+    const std::unique_ptr<TCHAR, Free> owner(message);
     if (length == 0 && ::GetLastError() != NO_ERROR)
         AfxThrowMemoryException();
     *this = CString(message, static_cast<int>(length));

@@ -61,35 +61,35 @@ struct tm* Give(const struct tm& value, struct tm* result) {
     return result;
 }
 
-std::string OffsetText(int minutesEast) {
-    char text[16];
+CString OffsetText(int minutesEast) {
+    CString text;
     const int minutes = minutesEast < 0 ? -minutesEast : minutesEast;
-    std::snprintf(text, sizeof text, "%c%02d%02d", minutesEast < 0 ? '-' : '+', minutes / 60, minutes % 60);
+    text.Format(_T("%c%02d%02d"), minutesEast < 0 ? '-' : '+', minutes / 60, minutes % 60);
     return text;
 }
 
 /// Formats code by code with strftime. A single call of strftime would stop at an unknown code, and would use
 /// the zone of the C library.
-CString FormatTm(LPCTSTR format, const struct tm& value, const std::string& zoneName,
-                 const std::string& offset) {
+CString FormatTm(LPCTSTR format, const struct tm& value, const CString& zoneName, const CString& offset) {
     CString text;
     if (format == nullptr)
         return text;
-    for (const char* at = format; *at != '\0'; ++at) {
+    for (LPCTSTR at = format; *at != 0; ++at) {
         if (*at != '%') {
             text += *at;
             continue;
         }
-        const char* code = at + 1;
+        LPCTSTR code = at + 1;
         const bool alternate = *code == '#';
         if (alternate)
             ++code;
         if (*code == 'Z') {
-            text += zoneName.c_str();
+            text += zoneName;
         } else if (*code == 'z') {
-            text += offset.c_str();
-        } else if (*code != '\0' && std::strchr("aAbBcdHIjmMpSUwWxXyY%", *code) != nullptr) {
-            const char one[] = {'%', alternate ? '#' : *code, alternate ? *code : '\0', '\0'};
+            text += offset;
+        } else if (*code != 0 && _tcschr(_T("aAbBcdHIjmMpSUwWxXyY%"), *code) != nullptr) {
+            const char letter = static_cast<char>(*code);
+            const char one[] = {'%', alternate ? '#' : letter, alternate ? letter : '\0', '\0'};
             char part[256];
             const std::size_t length = std::strftime(part, sizeof part, one, &value);
             text += CString(part, static_cast<int>(length));
@@ -114,31 +114,31 @@ CString CTimeSpan::Format(LPCTSTR format) const {
     CString text;
     if (format == nullptr)
         return text;
-    for (const char* at = format; *at != '\0'; ++at) {
-        if (*at != '%' || at[1] == '\0') {
+    for (LPCTSTR at = format; *at != 0; ++at) {
+        if (*at != '%' || at[1] == 0) {
             text += *at;
             continue;
         }
         CString part;
         switch (*++at) {
         case 'D':
-            part.Format("%lld", static_cast<long long>(GetDays()));
+            part.Format(_T("%lld"), static_cast<long long>(GetDays()));
             break;
         case 'H':
-            part.Format("%02ld", static_cast<long>(GetHours()));
+            part.Format(_T("%02ld"), static_cast<long>(GetHours()));
             break;
         case 'M':
-            part.Format("%02ld", static_cast<long>(GetMinutes()));
+            part.Format(_T("%02ld"), static_cast<long>(GetMinutes()));
             break;
         case 'S':
-            part.Format("%02ld", static_cast<long>(GetSeconds()));
+            part.Format(_T("%02ld"), static_cast<long>(GetSeconds()));
             break;
         case '%':
-            part = "%";
+            part = _T("%");
             break;
         default:
             ASSERT(FALSE); // not a format code of a time span
-            part.Format("%%%c", *at);
+            part.Format(_T("%%%c"), *at);
             break;
         }
         text += part;
@@ -269,10 +269,7 @@ CString CTime::Format(LPCTSTR format) const {
     GetLocalTm(&local);
     TIME_ZONE_INFORMATION zone{};
     ZoneOfYear(static_cast<WORD>(std::clamp(local.tm_year + 1900, 1601, 30827)), zone);
-    char name[64] = "";
-    ::WideCharToMultiByte(CP_ACP, 0, local.tm_isdst ? zone.DaylightName : zone.StandardName, -1, name,
-                          sizeof name, nullptr, nullptr);
-    name[sizeof name - 1] = '\0';
+    const CString name = local.tm_isdst ? zone.DaylightName : zone.StandardName;
     const int bias = zone.Bias + (local.tm_isdst ? zone.DaylightBias : zone.StandardBias);
     return FormatTm(format, local, name, OffsetText(-bias));
 }
@@ -283,7 +280,7 @@ CString CTime::Format(UINT id) const {
 
 CString CTime::FormatGmt(LPCTSTR format) const {
     struct tm gmt;
-    return FormatTm(format, *GetGmtTm(&gmt), "GMT", "+0000");
+    return FormatTm(format, *GetGmtTm(&gmt), _T("GMT"), _T("+0000"));
 }
 
 CString CTime::FormatGmt(UINT id) const {

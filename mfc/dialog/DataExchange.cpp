@@ -9,7 +9,7 @@ CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
 HWND CDataExchange::PrepareCtrl(int nIDC) {
     HWND const control = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
     if (control == nullptr) {
-        TRACE("Data exchange: there is no control with the ID 0x%x.\n", nIDC);
+        TRACE(_T("Data exchange: there is no control with the ID 0x%x.\n"), nIDC);
         AfxThrowNotSupportedException();
     }
     m_hWndLastControl = control;

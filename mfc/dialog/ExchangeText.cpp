@@ -27,32 +27,32 @@ void ShowText(HWND control, LPCTSTR text) {
 
 /// Whether a number was read (`end` differs from `start`) and only blanks follow.
 bool IsWholeNumber(LPCTSTR start, LPCTSTR end) {
-    return end != start && end[std::strspn(end, kBlanks)] == 0;
+    return end != start && end[_tcsspn(end, kBlanks)] == 0;
 }
 
 bool ReadSigned(LPCTSTR text, long long lowest, long long highest, long long& value) {
-    char* end = nullptr;
+    LPTSTR end = nullptr;
     errno = 0;
-    value = std::strtoll(text, &end, 10);
+    value = _tcstoi64(text, &end, 10);
     return errno == 0 && IsWholeNumber(text, end) && value >= lowest && value <= highest;
 }
 
 /// strtoull accepts negative numbers and wraps them, so texts with '-' are refused first.
 bool ReadUnsigned(LPCTSTR text, unsigned long long highest, unsigned long long& value) {
-    if (std::strchr(text, '-') != nullptr)
+    if (_tcschr(text, '-') != nullptr)
         return false;
-    char* end = nullptr;
+    LPTSTR end = nullptr;
     errno = 0;
-    value = std::strtoull(text, &end, 10);
+    value = _tcstoui64(text, &end, 10);
     return errno == 0 && IsWholeNumber(text, end) && value <= highest;
 }
 
 /// Accepts decimal notation only: no "inf" or "nan", no hexadecimal numbers.
 bool ReadReal(LPCTSTR text, double largest, double& value) {
-    if (text[std::strspn(text, _T("0123456789+-.eE \t\r\n"))] != 0)
+    if (text[_tcsspn(text, _T("0123456789+-.eE \t\r\n"))] != 0)
         return false;
-    char* end = nullptr;
-    value = std::strtod(text, &end);
+    LPTSTR end = nullptr;
+    value = _tcstod(text, &end);
     return IsWholeNumber(text, end) && std::fabs(value) <= largest;
 }
 

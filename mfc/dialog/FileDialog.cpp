@@ -104,7 +104,7 @@ CString CFileDialog::GetNextPathName(POSITION& pos) const {
     if (path.Right(1) != _T("\\"))
         path += _T('\\');
     path += name;
-    const LPCTSTR next = name + std::strlen(name) + 1;
+    const LPCTSTR next = name + _tcslen(name) + 1;
     pos = *next == 0 ? nullptr : reinterpret_cast<POSITION>(const_cast<LPTSTR>(next));
     return path;
 }

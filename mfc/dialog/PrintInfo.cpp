@@ -12,7 +12,7 @@ constexpr WORD kUnknownLastPage = 0xFFFF;
 
 CPrintInfo::CPrintInfo()
     : m_pPD(new CPrintDialog(FALSE, PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOSELECTION)),
-      m_strPageDesc("Page %u\nPages %u-%u\n"), m_rectDraw(0, 0, 0, 0) {
+      m_strPageDesc(_T("Page %u\nPages %u-%u\n")), m_rectDraw(0, 0, 0, 0) {
     SetMinPage(kFirstPage);
     SetMaxPage(kUnknownLastPage);
 }

@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <string>
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
@@ -19,10 +20,14 @@ END_MESSAGE_MAP()
 namespace {
 
 /// Replaces a name of the application. Names are allocated with malloc().
-void SetName(LPCTSTR& name, const std::string& text) {
-    std::free(const_cast<char*>(name));
-    name = _strdup(text.c_str());
+void SetName(LPCTSTR& name, const AfxText& text) {
+    std::free(const_cast<LPTSTR>(name));
+    name = _tcsdup(text.c_str());
 }
+
+struct LocalFreer {
+    void operator()(LPWSTR* block) const { ::LocalFree(block); }
+};
 
 /// The owner of a message box. MessageBox() disables the owner only, so the object disables the topmost
 /// window above the owner and enables that window again when the box is closed.
@@ -69,30 +74,30 @@ CWinApp::~CWinApp() {
         state->m_lpszCurrentAppName = nullptr;
     for (const LPCTSTR name :
          {m_pszAppName, m_pszExeName, m_pszHelpFilePath, m_pszProfileName, m_pszRegistryKey})
-        std::free(const_cast<char*>(name));
+        std::free(const_cast<LPTSTR>(name));
 }
 
 void CWinApp::SetCurrentHandles() {
-    char path[MAX_PATH] = "";
-    ::GetModuleFileNameA(m_hInstance, path, static_cast<DWORD>(sizeof(path)));
-    const std::string program = path;
-    const std::size_t folderEnd = program.find_last_of("\\/");
-    const std::size_t nameStart = folderEnd == std::string::npos ? 0 : folderEnd + 1;
+    TCHAR path[MAX_PATH] = _T("");
+    ::GetModuleFileName(m_hInstance, path, _countof(path));
+    const AfxText program = path;
+    const std::size_t folderEnd = program.find_last_of(_T("\\/"));
+    const std::size_t nameStart = folderEnd == AfxText::npos ? 0 : folderEnd + 1;
     const std::size_t dot = program.find_last_of('.');
-    const std::size_t nameEnd = dot == std::string::npos || dot < nameStart ? program.size() : dot;
-    const std::string name = program.substr(nameStart, nameEnd - nameStart);
+    const std::size_t nameEnd = dot == AfxText::npos || dot < nameStart ? program.size() : dot;
+    const AfxText name = program.substr(nameStart, nameEnd - nameStart);
 
     if (m_pszExeName == nullptr)
         SetName(m_pszExeName, name);
     if (m_pszAppName == nullptr) {
-        char title[256] = "";
-        SetName(m_pszAppName, AfxLoadString(AFX_IDS_APP_TITLE, title, sizeof(title)) > 0 ? title : name);
+        TCHAR title[256] = _T("");
+        SetName(m_pszAppName, AfxLoadString(AFX_IDS_APP_TITLE, title, _countof(title)) > 0 ? title : name);
     }
     AfxStateOfModule(nullptr)->m_lpszCurrentAppName = m_pszAppName;
     if (m_pszHelpFilePath == nullptr)
-        SetName(m_pszHelpFilePath, program.substr(0, nameEnd) + ".HLP");
+        SetName(m_pszHelpFilePath, program.substr(0, nameEnd) + _T(".HLP"));
     if (m_pszProfileName == nullptr)
-        SetName(m_pszProfileName, name + ".INI");
+        SetName(m_pszProfileName, name + _T(".INI"));
 }
 
 BOOL CWinApp::InitInstance() {
@@ -183,10 +188,13 @@ void CWinApp::OnHelpUsing() {
 }
 
 void CWinApp::ParseCommandLine(CCommandLineInfo& rCmdInfo) {
-    for (int i = 1; i < __argc; ++i) {
-        LPCTSTR parameter = __argv[i];
+    int count = 0;
+    const std::unique_ptr<LPWSTR, LocalFreer> words(::CommandLineToArgvW(::GetCommandLineW(), &count));
+    for (int i = 1; i < count; ++i) {
+        const CString text = words.get()[i];
+        LPCTSTR parameter = text;
         const bool isFlag = parameter[0] == '-' || parameter[0] == '/';
-        rCmdInfo.ParseParam(isFlag ? parameter + 1 : parameter, isFlag, i + 1 == __argc);
+        rCmdInfo.ParseParam(isFlag ? parameter + 1 : parameter, isFlag, i + 1 == count);
     }
 }
 
@@ -227,7 +235,7 @@ int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, i
             status = app->Run();
         } else {
             if (app->m_pMainWnd != nullptr) {
-                TRACE("InitInstance failed and left a main window.\n");
+                TRACE(_T("InitInstance failed and left a main window.\n"));
                 app->m_pMainWnd->DestroyWindow();
             }
             status = app->ExitInstance();

@@ -109,8 +109,8 @@ LPCTSTR CFrameWnd::GetIconWndClass(DWORD, UINT nIDResource) {
 BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd,
                           CCreateContext* pContext) {
     m_nIDHelp = nIDResource;
-    char text[512] = "";
-    AfxLoadString(nIDResource, text, sizeof(text));
+    TCHAR text[512] = _T("");
+    AfxLoadString(nIDResource, text, _countof(text));
     CString title;
     AfxExtractSubString(title, text, 0);
 

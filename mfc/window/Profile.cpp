@@ -57,7 +57,7 @@ bool WriteValue(HKEY section, LPCTSTR entry, DWORD type, const void* data, std::
 }
 
 CString ReadIniText(LPCTSTR file, LPCTSTR section, LPCTSTR entry, LPCTSTR fallback) {
-    std::vector<char> text(4096);
+    std::vector<TCHAR> text(4096);
     for (;;) {
         const DWORD length = ::GetPrivateProfileString(section, entry, fallback, text.data(),
                                                        static_cast<DWORD>(text.size()), file);
@@ -71,15 +71,15 @@ CString ReadIniText(LPCTSTR file, LPCTSTR section, LPCTSTR entry, LPCTSTR fallba
 
 void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey) {
     ASSERT(lpszRegistryKey != nullptr && m_pszAppName != nullptr);
-    std::free(const_cast<char*>(m_pszRegistryKey));
-    m_pszRegistryKey = _strdup(lpszRegistryKey);
-    std::free(const_cast<char*>(m_pszProfileName));
-    m_pszProfileName = _strdup(m_pszAppName != nullptr ? m_pszAppName : "");
+    std::free(const_cast<LPTSTR>(m_pszRegistryKey));
+    m_pszRegistryKey = _tcsdup(lpszRegistryKey);
+    std::free(const_cast<LPTSTR>(m_pszProfileName));
+    m_pszProfileName = _tcsdup(m_pszAppName != nullptr ? m_pszAppName : _T(""));
 }
 
 void CWinApp::SetRegistryKey(UINT nIDRegistryKey) {
-    char key[256] = "";
-    AfxLoadString(nIDRegistryKey, key, sizeof(key));
+    TCHAR key[256] = _T("");
+    AfxLoadString(nIDRegistryKey, key, _countof(key));
     SetRegistryKey(key);
 }
 
@@ -108,9 +108,11 @@ UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault
 }
 
 BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue) {
-    if (m_pszRegistryKey == nullptr)
-        return ::WritePrivateProfileString(lpszSection, lpszEntry, std::to_string(nValue).c_str(),
-                                           m_pszProfileName);
+    if (m_pszRegistryKey == nullptr) {
+        CString value;
+        value.Format(_T("%d"), nValue);
+        return ::WritePrivateProfileString(lpszSection, lpszEntry, value, m_pszProfileName);
+    }
     const Key section(GetSectionKey(lpszSection));
     return WriteValue(section.Get(), lpszEntry, REG_DWORD, &nValue, sizeof(nValue));
 }
@@ -123,8 +125,8 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
     std::vector<BYTE> bytes;
     if (!ReadValue(section.Get(), lpszEntry, REG_SZ, bytes))
         return CString(fallback);
-    bytes.push_back(0); // a stored text may lack its terminating zero
-    return CString(reinterpret_cast<LPCSTR>(bytes.data()));
+    bytes.resize(bytes.size() + sizeof(TCHAR)); // a stored text may lack its terminating zero
+    return CString(reinterpret_cast<LPCTSTR>(bytes.data()));
 }
 
 BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue) {
@@ -141,7 +143,7 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
                                                      : static_cast<LONG>(ERROR_INVALID_HANDLE);
         return result == ERROR_SUCCESS || result == ERROR_FILE_NOT_FOUND;
     }
-    return WriteValue(section.Get(), lpszEntry, REG_SZ, lpszValue, std::strlen(lpszValue) + 1);
+    return WriteValue(section.Get(), lpszEntry, REG_SZ, lpszValue, (_tcslen(lpszValue) + 1) * sizeof(TCHAR));
 }
 
 // An INI file stores bytes as pairs of hexadecimal digits.
@@ -159,9 +161,9 @@ BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* p
         if (text.IsEmpty() || text.GetLength() % 2 != 0)
             return FALSE;
         for (int i = 0; i < text.GetLength(); i += 2) {
-            const char pair[] = {text[i], text[i + 1], '\0'};
-            char* end = nullptr;
-            bytes.push_back(static_cast<BYTE>(std::strtoul(pair, &end, 16)));
+            const TCHAR pair[] = {text[i], text[i + 1], 0};
+            LPTSTR end = nullptr;
+            bytes.push_back(static_cast<BYTE>(_tcstoul(pair, &end, 16)));
             if (end != pair + 2)
                 return FALSE;
         }
@@ -178,8 +180,8 @@ BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE 
         const Key section(GetSectionKey(lpszSection));
         return WriteValue(section.Get(), lpszEntry, REG_BINARY, pData, nBytes);
     }
-    const char digits[] = "0123456789ABCDEF";
-    std::string text;
+    const TCHAR digits[] = _T("0123456789ABCDEF");
+    AfxText text;
     for (UINT i = 0; i < nBytes; ++i) {
         text += digits[pData[i] >> 4];
         text += digits[pData[i] & 15];

@@ -26,7 +26,7 @@ std::vector<CDynLinkLibrary*>& Chain() {
 }
 
 struct RegisteredClass {
-    std::string name;
+    AfxText name;
     HINSTANCE instance;
 };
 
@@ -54,44 +54,44 @@ std::vector<HINSTANCE> ModulesToAsk() {
 }
 
 /// English texts of the library's prompts.
-LPCSTR OwnText(UINT id) {
+LPCTSTR OwnText(UINT id) {
     switch (id) {
     case AFX_IDS_IDLEMESSAGE:
-        return "Ready";
+        return _T("Ready");
     case AFX_IDP_NO_ERROR_AVAILABLE:
-        return "No error message is available.";
+        return _T("No error message is available.");
     case AFX_IDP_INTERNAL_FAILURE:
-        return "An internal error occurred.";
+        return _T("An internal error occurred.");
     case AFX_IDP_COMMAND_FAILURE:
-        return "The command failed.";
+        return _T("The command failed.");
     case AFX_IDP_FAILED_MEMORY_ALLOC:
-        return "Out of memory.";
+        return _T("Out of memory.");
     case AFX_IDP_NOT_SUPPORTED:
-        return "This operation is not supported.";
+        return _T("This operation is not supported.");
     case AFX_IDP_RESOURCE_FAILURE:
-        return "A required resource is not available.";
+        return _T("A required resource is not available.");
     case AFX_IDP_FAILED_TO_LAUNCH_HELP:
-        return "Help cannot be opened.";
+        return _T("Help cannot be opened.");
     case AFX_IDP_PARSE_INT:
-        return "Enter an integer.";
+        return _T("Enter an integer.");
     case AFX_IDP_PARSE_REAL:
-        return "Enter a number.";
+        return _T("Enter a number.");
     case AFX_IDP_PARSE_INT_RANGE:
-        return "Enter an integer between %1 and %2.";
+        return _T("Enter an integer between %1 and %2.");
     case AFX_IDP_PARSE_REAL_RANGE:
-        return "Enter a number between %1 and %2.";
+        return _T("Enter a number between %1 and %2.");
     case AFX_IDP_PARSE_STRING_SIZE:
-        return "Enter no more than %1 characters.";
+        return _T("Enter no more than %1 characters.");
     case AFX_IDP_PARSE_RADIO_BUTTON:
-        return "Select a button.";
+        return _T("Select a button.");
     case AFX_IDP_PARSE_BYTE:
-        return "Enter an integer between 0 and 255.";
+        return _T("Enter an integer between 0 and 255.");
     case AFX_IDP_PARSE_UINT:
-        return "Enter a positive integer.";
+        return _T("Enter a positive integer.");
     case AFX_IDP_PARSE_DATETIME:
-        return "Enter a date or a time.";
+        return _T("Enter a date or a time.");
     case AFX_IDP_PARSE_CURRENCY:
-        return "Enter an amount of money.";
+        return _T("Enter an amount of money.");
     default:
         return nullptr;
     }
@@ -146,7 +146,7 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
     for (CDynLinkLibrary* const library : leaving)
         delete library; // the destructor removes the link from the chain
     for (const RegisteredClass& entry : classes)
-        ::UnregisterClassA(entry.name.c_str(), entry.instance);
+        ::UnregisterClass(entry.name.c_str(), entry.instance);
     state.bInitialized = FALSE;
 }
 
@@ -158,9 +158,9 @@ HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
 }
 
 HINSTANCE AfxFindStringResourceHandle(UINT nID) {
-    char probe[2] = "";
+    TCHAR probe[2] = _T("");
     for (const HINSTANCE module : ModulesToAsk())
-        if (::LoadStringA(module, nID, probe, static_cast<int>(sizeof(probe))) > 0)
+        if (::LoadString(module, nID, probe, _countof(probe)) > 0)
             return module;
     return nullptr;
 }
@@ -171,7 +171,7 @@ int AfxLoadString(UINT nID, LPTSTR lpszBuf, UINT nMaxBuf) {
     lpszBuf[0] = '\0';
     if (const HINSTANCE module = AfxFindStringResourceHandle(nID))
         return ::LoadString(module, nID, lpszBuf, static_cast<int>(nMaxBuf));
-    if (const LPCSTR own = OwnText(nID)) {
+    if (const LPCTSTR own = OwnText(nID)) {
         ::lstrcpyn(lpszBuf, own, static_cast<int>(nMaxBuf));
         return ::lstrlen(lpszBuf);
     }
@@ -194,13 +194,15 @@ BOOL AfxRegisterClass(WNDCLASS* lpWndClass) {
 LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
     const auto hex = [](UINT_PTR value) {
         char digits[2 * sizeof(value)];
-        return std::string(digits, std::to_chars(digits, digits + sizeof(digits), value, 16).ptr);
+        return CString(
+            digits, static_cast<int>(std::to_chars(digits, digits + sizeof(digits), value, 16).ptr - digits));
     };
     const auto hexHandle = [&](const void* handle) { return hex(reinterpret_cast<UINT_PTR>(handle)); };
     const HINSTANCE instance = AfxGetInstanceHandle();
-    std::string name = "Afx:" + hexHandle(instance) + ":" + hex(nClassStyle);
+    CString name = _T("Afx:") + hexHandle(instance) + _T(":") + hex(nClassStyle);
     if (hCursor != nullptr || hbrBackground != nullptr || hIcon != nullptr)
-        name += ":" + hexHandle(hCursor) + ":" + hexHandle(hbrBackground) + ":" + hexHandle(hIcon);
+        name +=
+            _T(":") + hexHandle(hCursor) + _T(":") + hexHandle(hbrBackground) + _T(":") + hexHandle(hIcon);
 
     WNDCLASS windowClass{};
     windowClass.style = nClassStyle;
@@ -209,10 +211,10 @@ LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackgro
     windowClass.hCursor = hCursor;
     windowClass.hbrBackground = hbrBackground;
     windowClass.hIcon = hIcon;
-    windowClass.lpszClassName = name.c_str();
+    windowClass.lpszClassName = name;
     if (!AfxRegisterClass(&windowClass))
         AfxThrowResourceException();
     ThreadState& thread = CurrentThreadState();
-    ::lstrcpynA(thread.className, name.c_str(), static_cast<int>(sizeof(thread.className)));
+    ::lstrcpyn(thread.className, name, _countof(thread.className));
     return thread.className;
 }

@@ -28,7 +28,7 @@ struct ThreadState {
     HMENU popupMenu = nullptr;       ///< the popup that opened last; may contain an owner-drawn item
     CWinThread* thread = nullptr;    ///< object of the thread; NULL in the main thread, see AfxGetThread()
     AFX_MODULE_STATE* moduleState = nullptr;
-    char className[96] = ""; ///< result buffer of AfxRegisterWndClass()
+    TCHAR className[96] = _T(""); ///< result buffer of AfxRegisterWndClass()
 };
 
 /// The state of the calling thread. The first call creates it.

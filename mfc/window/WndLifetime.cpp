@@ -18,8 +18,8 @@ CWnd::~CWnd() {
     const bool isPlacement =
         this == &wndTop || this == &wndBottom || this == &wndTopMost || this == &wndNoTopMost;
     if (m_hWnd != nullptr && !isPlacement) {
-        TRACE(
-            "CWnd is deleted with its window: OnDestroy and PostNcDestroy of derived classes do not run.\n");
+        TRACE(_T("CWnd is deleted with its window: OnDestroy and PostNcDestroy of derived classes do not ")
+              _T("run.\n"));
         CWnd::DestroyWindow();
         // DestroyWindow() failed: the window belongs to another thread, or no longer exists.
         if (m_hWnd != nullptr)
@@ -130,9 +130,9 @@ LRESULT CALLBACK AfxCbtHook(int nCode, WPARAM wParam, LPARAM lParam) {
     if (nCode == HCBT_CREATEWND && object != nullptr) {
         const HWND window = reinterpret_cast<HWND>(wParam);
         // The system may create an input-method window before the requested window.
-        char className[8] = "";
-        ::GetClassNameA(window, className, static_cast<int>(sizeof(className)));
-        if (_stricmp(className, "ime") != 0) {
+        TCHAR className[8] = _T("");
+        ::GetClassName(window, className, _countof(className));
+        if (_tcsicmp(className, _T("ime")) != 0) {
             state.windowInCreation = nullptr;
             if (!Tie(*object, window)) {
                 state.windowInCreation = object; // AfxUnhookWindowCreate() then returns FALSE

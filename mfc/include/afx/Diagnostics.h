@@ -56,6 +56,7 @@ MFC_API BOOL AfxIsValidAddress(const void* address, UINT_PTR bytes, BOOL readWri
 /// TRUE if `text` is readable up to its terminating zero. With a `length` of 0 or more, TRUE if `length`
 /// characters are readable.
 MFC_API BOOL AfxIsValidString(LPCSTR text, int length = -1);
+MFC_API BOOL AfxIsValidString(LPCWSTR text, int length = -1);
 
 /// Ends the process with status 3 and without clean-up.
 [[noreturn]] MFC_API void AfxAbort();

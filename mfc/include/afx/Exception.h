@@ -17,7 +17,7 @@ public:
     /// Deletes the object, unless the constructor received `autoDelete` FALSE.
     void Delete();
 
-    /// Copies the message for the user, cut to `maxLength` bytes including the terminating zero, and sets
+    /// Copies the message for the user, cut to `maxLength` TCHARs including the terminating zero, and sets
     /// `*helpContext` to 0. Without a message, returns FALSE and copies an empty text. `text` may be null
     /// only if `maxLength` is 0.
     virtual BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr);

@@ -1,4 +1,4 @@
-// CString, text in the code page of the process.
+// CString, text in the code page of the process or, with UNICODE, in UTF-16.
 #pragma once
 
 #include <string>
@@ -7,8 +7,12 @@
 
 class CArchive;
 
-/// Text in the code page of the process. Copies have their own characters; a move transfers them. Positions
-/// and lengths count bytes. If memory runs out, or if the text would exceed INT_MAX - 1 bytes, members throw
+/// The characters of a CString.
+typedef std::basic_string<TCHAR> AfxText;
+
+/// Text in the code page of the process; with UNICODE, text in UTF-16. Copies have their own characters; a move
+/// transfers them. Positions and lengths count TCHARs: bytes or, with UNICODE, UTF-16 code units. If memory runs
+/// out, or if the text would exceed INT_MAX - 1 TCHARs, members throw
 /// CMemoryException* and the string stays unchanged. In GetAt(), SetAt() and operator[], a position outside
 /// the string asserts in debug builds and throws CInvalidArgException* in other builds. A count beyond the
 /// end means "up to the end"; a negative count means 0.
@@ -21,20 +25,21 @@ public:
     CString(TCHAR ch, int repeat = 1);
     /// Null makes an empty string. MAKEINTRESOURCE(id) loads the string resource; a missing resource makes an
     /// empty string.
-    CString(LPCTSTR text);
-    CString(const unsigned char* text);
-    /// The first `length` characters; zeros among them are copied too.
-    CString(LPCTSTR text, int length);
-    /// Converts from UTF-16; `length` counts UTF-16 code units. If the conversion fails, the string is empty.
+    /// A text in the other character set is converted. If the conversion fails, the string is empty.
+    CString(LPCSTR text);
     CString(LPCWSTR text);
+    CString(const unsigned char* text);
+    /// The first `length` characters; zeros among them are copied too. `length` counts bytes or UTF-16 code
+    /// units, as `text` has them.
+    CString(LPCSTR text, int length);
     CString(LPCWSTR text, int length);
     ~CString();
 
     CString& operator=(const CString& other);
     CString& operator=(CString&& other) noexcept;
-    CString& operator=(LPCTSTR text);
-    CString& operator=(const unsigned char* text);
+    CString& operator=(LPCSTR text);
     CString& operator=(LPCWSTR text);
+    CString& operator=(const unsigned char* text);
     CString& operator=(TCHAR ch);
 
     CString& operator+=(const CString& other);
@@ -54,8 +59,8 @@ public:
     operator LPCTSTR() const;
     LPCTSTR GetString() const;
 
-    /// The result is -1, 0 or 1. Compare orders by byte values, CompareNoCase by the byte values of the
-    /// lower-case texts, Collate and CollateNoCase by the user's locale. Null counts as an empty text.
+    /// The result is -1, 0 or 1. Compare orders by the values of the TCHARs, CompareNoCase by those of
+    /// the lower-case texts, Collate and CollateNoCase by the user's locale. Null counts as an empty text.
     int Compare(LPCTSTR other) const;
     int CompareNoCase(LPCTSTR other) const;
     int Collate(LPCTSTR other) const;
@@ -108,8 +113,9 @@ public:
     /// result is empty and `position` is -1. Without separators, the rest of the text is one piece.
     CString Tokenize(LPCTSTR separators, int& position) const;
 
-    /// Replace the text with formatted text (AppendFormat: append formatted text), as printf does. %s accepts
-    /// CString arguments. With an `id`, the format is a string resource; if the resource does not exist, the
+    /// Replace the text with formatted text (AppendFormat: append formatted text), as printf does. %s and %c take
+    /// TCHARs, %hs and %hc take char, %ls and %lc take wchar_t; %S and %C take the character type that TCHAR is not.
+    /// %s accepts CString arguments. With an `id`, the format is a string resource; if the resource does not exist, the
     /// text stays unchanged. If formatting fails, Format empties the text and AppendFormat leaves the text
     /// unchanged.
     template <class... Args> void Format(LPCTSTR format, Args... args) {
@@ -174,10 +180,10 @@ private:
     void AppendFormatPlain(LPCTSTR format, ...);
     void FormatMessagePlain(LPCTSTR format, ...);
     void AppendFormatted(std::size_t keep, LPCTSTR format, va_list args);
-    void Join(const char* text, std::size_t length);
+    void Join(LPCTSTR text, std::size_t length);
     std::size_t CheckedIndex(int index) const;
 
-    std::string m_text;
+    AfxText m_text;
 };
 
 /// Converts a CString for a variadic function. The characters are valid while the string exists.
@@ -247,7 +253,8 @@ inline bool operator>=(LPCTSTR left, const CString& right) {
 }
 
 /// Stores the length and then the characters. A length below 255 takes 1 byte, a length below 65,534 takes
-/// 3 bytes, a larger length takes 7 bytes.
+/// 3 bytes, a larger length takes 7 bytes. With UNICODE, three bytes before the length mark UTF-16 characters.
+/// Loading accepts both kinds and converts.
 MFC_API CArchive& operator<<(CArchive& ar, const CString& text);
 MFC_API CArchive& operator>>(CArchive& ar, CString& text);
 

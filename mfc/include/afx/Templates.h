@@ -93,21 +93,21 @@ template <> inline void AFXAPI SerializeElements<CObject*>(CArchive& ar, CObject
 /// Writes the bytes of the elements. Arrays and lists call the function in Dump() if
 /// CDumpContext::GetDepth() is greater than 0.
 template <class TYPE> void AFXAPI DumpElements(CDumpContext& dc, const TYPE* elements, INT_PTR count) {
-    dc.HexDump(" ", reinterpret_cast<const BYTE*>(elements),
+    dc.HexDump(_T(" "), reinterpret_cast<const BYTE*>(elements),
                count < INT_MAX / static_cast<INT_PTR>(sizeof(TYPE)) ? static_cast<int>(count * sizeof(TYPE))
                                                                     : 0,
                16);
 }
 
 /// Hash of a text's characters.
-MFC_API UINT AfxHashText(LPCTSTR text);
+MFC_API UINT AfxHashText(LPCSTR text);
 MFC_API UINT AfxHashText(LPCWSTR text);
 
 /// Hash of a map key. Texts use their characters; numbers, enumerations and pointers use their value.
 template <class ARG_KEY> UINT AFXAPI HashKey(ARG_KEY key) {
     using Key = std::remove_cv_t<std::remove_reference_t<ARG_KEY>>;
-    if constexpr (std::is_convertible_v<const Key&, LPCTSTR>) {
-        return AfxHashText(static_cast<LPCTSTR>(key));
+    if constexpr (std::is_convertible_v<const Key&, LPCSTR>) {
+        return AfxHashText(static_cast<LPCSTR>(key));
     } else if constexpr (std::is_convertible_v<const Key&, LPCWSTR>) {
         return AfxHashText(static_cast<LPCWSTR>(key));
     } else {

@@ -91,7 +91,7 @@ void CChartDraw::SetGrid(BOOL bGridX, BOOL bGridY) {
     m_GridY = bGridY;
 }
 
-void CChartDraw::SetTextFont(int nSize, const char* pszFace) {
+void CChartDraw::SetTextFont(int nSize, LPCTSTR pszFace) {
     constexpr int kSmallestSize = 10;
     constexpr int kLargestSize = 720;
     m_FontFace = pszFace; // first, because only this step can throw

@@ -58,8 +58,8 @@ bool CChartDraw::CopyToClipboard() {
 
 bool CChartDraw::CopyToFile() {
     return UnlessRefused([&] {
-        CFileDialog dialog(FALSE, "BMP", "Chart", OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                           "Bitmap |*.bmp|");
+        CFileDialog dialog(FALSE, _T("BMP"), _T("Chart"),
+                           OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, _T("Bitmap |*.bmp|"));
         return dialog.DoModal() == IDOK && CopyToFile(dialog.GetPathName());
     });
 }

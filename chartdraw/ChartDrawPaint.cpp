@@ -203,8 +203,7 @@ void CChartDraw::DrawXScale(CDC& dc) {
             const int half = TextWidth(dc, label) / 2;
             if (x - half < free || x + half > m_rectChart.right)
                 return;
-            DrawTextAt(dc, x, m_rectPlot.bottom + kTickLength + kTickLabelGap, label.c_str(),
-                       static_cast<int>(label.size()));
+            DrawTextAt(dc, x, m_rectPlot.bottom + kTickLength + kTickLabelGap, CString(label.c_str()));
             free = x + half + m_TextHeight / 2;
         });
     });
@@ -220,7 +219,7 @@ void CChartDraw::DrawYScale(CDC& dc) {
             if (top + m_TextHeight > free)
                 return;
             const std::string label = m_YScale->Label(tick);
-            DrawTextAt(dc, right - kTickLabelGap, top, label.c_str(), static_cast<int>(label.size()));
+            DrawTextAt(dc, right - kTickLabelGap, top, CString(label.c_str()));
             free = top;
         });
     });

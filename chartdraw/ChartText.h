@@ -15,7 +15,7 @@ constexpr double kChartMargin = 0.6; ///< text heights between the chart's edge 
 
 /// Width in pixels of a text in the font that is selected into `dc`.
 inline int TextWidth(CDC& dc, const std::string& text) {
-    return static_cast<int>(MeasureText(dc, text.c_str(), static_cast<int>(text.size())).cx);
+    return static_cast<int>(MeasureText(dc, CString(text.c_str())).cx);
 }
 
 } // namespace kavlix

@@ -9,7 +9,7 @@ namespace kavlix {
 
 /// The description of the controls' metafiles, which hosts read: a name and an empty picture name, each ended
 /// by a zero, and a further zero at the end, which the compiler adds to the literal.
-constexpr char kPictureDescription[] = "Ruvex Trace\0\0";
+constexpr TCHAR kPictureDescription[] = _T("Ruvex Trace\0\0");
 
 /// An enhanced metafile with the description above. The destructor deletes the metafile, unless Release has
 /// passed it to the caller.

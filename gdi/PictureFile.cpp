@@ -18,6 +18,7 @@ using std::min;
 #include "gdi/Guards.h"
 #include "gdi/OutOfMemory.h"
 #include "gdi/PictureClipboard.h"
+#include "gdi/Text.h"
 
 namespace kavlix {
 namespace {
@@ -123,7 +124,7 @@ std::vector<BYTE> EncodePixels(const WCHAR* mimeType, CSize size, const std::fun
 std::vector<BYTE> EncodeMetafile(CSize size, const std::function<void(CDC&)>& draw) {
     constexpr int kHundredthsPerMillimetre = 100;
     CDC screen;
-    if (!screen.CreateDC("DISPLAY", nullptr, nullptr, nullptr))
+    if (!screen.CreateDC(_T("DISPLAY"), nullptr, nullptr, nullptr))
         return {};
     const auto length = [&](int pixels, int millimetres, int resolution) {
         return ::MulDiv(pixels, screen.GetDeviceCaps(millimetres) * kHundredthsPerMillimetre,
@@ -137,14 +138,6 @@ std::vector<BYTE> EncodeMetafile(CSize size, const std::function<void(CDC&)>& dr
     if (::GetEnhMetaFileBits(picture.Get(), static_cast<UINT>(bytes.size()), bytes.data()) != bytes.size())
         return {};
     return bytes;
-}
-
-std::wstring ToWide(const char* text) {
-    const int length = ::MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0);
-    std::wstring wide(static_cast<std::size_t>(std::max(length, 1)), L'\0');
-    ::MultiByteToWideChar(CP_ACP, 0, text, -1, wide.data(), length);
-    wide.pop_back();
-    return wide;
 }
 
 /// Creates a new file in the folder of `path`, under a name that no file has yet, and stores its path in
@@ -183,7 +176,7 @@ bool PutInPlace(const std::wstring& path, const std::vector<BYTE>& bytes) {
 
 } // namespace
 
-bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& draw) {
+bool SavePicture(LPCTSTR path, CSize size, const std::function<void(CDC&)>& draw) {
     constexpr int kLongestSide = 32767; // pixels; GDI makes no larger bitmaps, and sizes in bytes fit 32 bits
     if (size.cx <= 0 || size.cy <= 0 || size.cx > kLongestSide || size.cy > kLongestSide)
         return false;
@@ -192,13 +185,13 @@ bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& 
         const int dot = name.ReverseFind('.');
         const CString extension = dot < 0 ? CString() : name.Mid(dot);
         std::vector<BYTE> bytes;
-        if (extension.CompareNoCase(".png") == 0)
+        if (extension.CompareNoCase(_T(".png")) == 0)
             bytes = EncodePixels(L"image/png", size, draw);
-        else if (extension.CompareNoCase(".bmp") == 0)
+        else if (extension.CompareNoCase(_T(".bmp")) == 0)
             bytes = EncodePixels(L"image/bmp", size, draw);
-        else if (extension.CompareNoCase(".emf") == 0)
+        else if (extension.CompareNoCase(_T(".emf")) == 0)
             bytes = EncodeMetafile(size, draw);
-        return !bytes.empty() && PutInPlace(ToWide(path), bytes);
+        return !bytes.empty() && PutInPlace(ToWide(name, name.GetLength()), bytes);
     });
 }
 

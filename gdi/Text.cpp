@@ -1,4 +1,4 @@
-// Texts in the process code page, converted to UTF-16 for GDI.
+// Texts, which GDI gets in UTF-16.
 #include "gdi/Text.h"
 
 #include <algorithm>
@@ -9,88 +9,79 @@ namespace kavlix {
 
 BOOL MakeFont(CFont& font, int height, int escapement, int weight) {
     return font.CreateFont(height, 0, escapement, 0, weight, FALSE, FALSE, FALSE, ANSI_CHARSET, OUT_TT_PRECIS,
-                           CLIP_LH_ANGLES, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, "Arial");
+                           CLIP_LH_ANGLES, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, _T("Arial"));
 }
 
 namespace {
 
-constexpr int kMostBytesPerCharacter = 4;
+struct CodePoint {
+    int length;     ///< TCHARs
+    char32_t value; ///< 0 for an invalid TCHAR
+};
 
-/// Whether a UTF-16 unit is a combining mark. Windows reports C3_NONSPACING for letters with a built-in
-/// accent too, but then together with C3_ALPHA.
-bool IsMark(wchar_t unit) {
+char32_t ValueOf(const wchar_t* units) {
+    constexpr char32_t kFirstBeyond = 0x10000; // the first code point that takes two UTF-16 units
+    if (IS_SURROGATE_PAIR(units[0], units[1]))
+        return kFirstBeyond + ((units[0] - HIGH_SURROGATE_START) << 10) + (units[1] - LOW_SURROGATE_START);
+    return units[0];
+}
+
+/// The first code point of a text in UTF-16.
+CodePoint FirstCodePoint(const wchar_t* text, int length) {
+    const bool isPair = length > 1 && IS_SURROGATE_PAIR(text[0], text[1]);
+    const wchar_t units[2] = {text[0], isPair ? text[1] : L'\0'};
+    return {isPair ? 2 : 1, ValueOf(units)};
+}
+
+#ifndef _UNICODE
+/// The first code point of a text in the process code page. Its number of bytes depends on the code page, so all
+/// numbers up to kMostBytesPerCodePoint are tried.
+CodePoint FirstCodePoint(const char* text, int length) {
+    constexpr int kMostBytesPerCodePoint = 4;
+    if (static_cast<unsigned char>(*text) < 0x80)
+        return {1, static_cast<char32_t>(*text)};
+    wchar_t units[2] = {};
+    for (int bytes = 1; bytes <= std::min(length, kMostBytesPerCodePoint); ++bytes)
+        if (::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text, bytes, units, 2) > 0)
+            return {bytes, ValueOf(units)};
+    return {1, 0};
+}
+#endif
+
+constexpr char32_t kZeroWidthJoiner = 0x200D;
+
+/// Whether a code point belongs to the character before it.
+bool IsMark(char32_t value) {
+    if (value < 0x80)
+        return false;
+    if (value == kZeroWidthJoiner || (value >= 0xFE00 && value <= 0xFE0F) || // variation selectors
+        (value >= 0x1F3FB && value <= 0x1F3FF) ||                            // skin tones
+        (value >= 0xE0100 && value <= 0xE01EF))                              // more variation selectors
+        return true;
+    const wchar_t unit = static_cast<wchar_t>(value);
     WORD type = 0;
-    return unit >= 0x80 && ::GetStringTypeW(CT_CTYPE3, &unit, 1, &type) &&
+    // Windows reports C3_NONSPACING for letters with a built-in accent too, but then together with C3_ALPHA.
+    return value <= 0xFFFF && ::GetStringTypeW(CT_CTYPE3, &unit, 1, &type) &&
            (type & (C3_NONSPACING | C3_ALPHA)) == C3_NONSPACING;
 }
 
-struct CodePoint {
-    int bytes;
-    wchar_t unit; ///< the code point's first UTF-16 unit; 0 for an invalid byte
-};
-
-/// The first code point of `text`. Its number of bytes depends on the code page, so all numbers up to
-/// kMostBytesPerCharacter are tried.
-CodePoint FirstCodePoint(const char* text, int length) {
-    if (static_cast<unsigned char>(*text) < 0x80)
-        return {1, static_cast<wchar_t>(*text)};
-    wchar_t units[2] = {};
-    for (int bytes = 1; bytes <= std::min(length, kMostBytesPerCharacter); ++bytes)
-        if (::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text, bytes, units, 2) > 0)
-            return {bytes, units[0]};
-    return {1, 0};
-}
-
-/// Number of bytes of the first character of `text`, its combining marks included.
-int FirstCharacter(const char* text, int length) {
-    int bytes = FirstCodePoint(text, length).bytes;
-    while (bytes < length) {
-        const CodePoint next = FirstCodePoint(text + bytes, length - bytes);
-        if (!IsMark(next.unit))
+/// Length of the first character of `text`.
+template <class Char> int FirstCharacter(const Char* text, int length) {
+    CodePoint last = FirstCodePoint(text, length);
+    int end = last.length;
+    while (end < length) {
+        const CodePoint next = FirstCodePoint(text + end, length - end);
+        if (!IsMark(next.value) && last.value != kZeroWidthJoiner)
             break;
-        bytes += next.bytes;
+        end += next.length;
+        last = next;
     }
-    return bytes;
+    return end;
 }
 
-/// Number of UTF-16 units of `text` that are drawn: at most kLongestText, and no character is cut unless the
-/// first one is longer.
-std::size_t DrawnUnits(const std::wstring& text) {
-    if (text.size() <= kLongestText)
-        return text.size();
-    std::size_t end = kLongestText;
-    while (end > 0 && (IS_LOW_SURROGATE(text[end]) || IsMark(text[end])))
-        --end;
-    return end > 0 ? end : kLongestText;
-}
-
-/// `text` in UTF-16. The ANSI functions of GDI would read the text in the character set of the font, but the
-/// text is in the process code page, which may be UTF-8.
-std::wstring Widen(const char* text, int length) {
-    const int bytes = std::min(length, (kLongestText + 1) * kMostBytesPerCharacter);
-    std::wstring wide(static_cast<std::size_t>(std::max(bytes, 0)), L'\0');
-    const int units = bytes > 0 ? ::MultiByteToWideChar(CP_ACP, 0, text, bytes, wide.data(), bytes) : 0;
-    wide.resize(static_cast<std::size_t>(units));
-    wide.resize(DrawnUnits(wide));
-    return wide;
-}
-
-std::wstring Widen(const CString& text) {
-    return Widen(text, text.GetLength());
-}
-
-} // namespace
-
-int BytesOfCharacters(const char* text, int length, int characters) {
-    int bytes = 0;
-    for (; characters > 0 && bytes < length; --characters)
-        bytes += FirstCharacter(text + bytes, length - bytes);
-    return bytes;
-}
-
-int WholeCharacters(const char* text, int length, int bytes) {
+template <class Char> int WholeLength(const Char* text, int length, int most) {
     int whole = 0;
-    for (int next = 0; next <= std::min(bytes, length); next += FirstCharacter(text + next, length - next)) {
+    for (int next = 0; next <= std::min(most, length); next += FirstCharacter(text + next, length - next)) {
         whole = next;
         if (next == length)
             break;
@@ -98,18 +89,59 @@ int WholeCharacters(const char* text, int length, int bytes) {
     return whole;
 }
 
-void DrawTextAt(CDC& dc, int x, int y, const char* text, int length) {
-    const std::wstring wide = Widen(text, length);
+/// The part of `text` that is drawn, in UTF-16: GDI's functions for char would read the text in the character set of
+/// the font, but the text is in the process code page, which may be UTF-8. At most kLongestText units, and no
+/// character is cut unless the first one is longer.
+std::wstring Drawn(LPCTSTR text, int length) {
+    constexpr int kMostPerUnit = 4; // TCHARs that make one UTF-16 unit
+    std::wstring wide = ToWide(text, std::min(length, (kLongestText + 1) * kMostPerUnit));
+    if (wide.size() > kLongestText) {
+        const int whole = WholeLength(wide.data(), static_cast<int>(wide.size()), kLongestText);
+        wide.resize(static_cast<std::size_t>(whole > 0 ? whole : kLongestText));
+    }
+    return wide;
+}
+
+std::wstring Drawn(const CString& text) {
+    return Drawn(text, text.GetLength());
+}
+
+} // namespace
+
+std::wstring ToWide(LPCTSTR text, int length) {
+#ifdef _UNICODE
+    return std::wstring(text, static_cast<std::size_t>(std::max(length, 0)));
+#else
+    std::wstring wide(static_cast<std::size_t>(std::max(length, 0)), L'\0');
+    const int units = length > 0 ? ::MultiByteToWideChar(CP_ACP, 0, text, length, wide.data(), length) : 0;
+    wide.resize(static_cast<std::size_t>(units));
+    return wide;
+#endif
+}
+
+int LengthOfCharacters(LPCTSTR text, int length, int characters) {
+    int end = 0;
+    for (; characters > 0 && end < length; --characters)
+        end += FirstCharacter(text + end, length - end);
+    return end;
+}
+
+int WholeCharacters(LPCTSTR text, int length, int most) {
+    return WholeLength(text, length, most);
+}
+
+void DrawTextAt(CDC& dc, int x, int y, LPCTSTR text, int length) {
+    const std::wstring wide = Drawn(text, length);
     ::TextOutW(dc.GetSafeHdc(), x, y, wide.c_str(), static_cast<int>(wide.size()));
 }
 
 void DrawTextIn(CDC& dc, CRect rect, const CString& text, UINT format) {
-    const std::wstring wide = Widen(text);
+    const std::wstring wide = Drawn(text);
     ::DrawTextW(dc.GetSafeHdc(), wide.c_str(), static_cast<int>(wide.size()), &rect, format);
 }
 
-CSize MeasureText(const CDC& dc, const char* text, int length) {
-    const std::wstring wide = Widen(text, length);
+CSize MeasureText(const CDC& dc, LPCTSTR text, int length) {
+    const std::wstring wide = Drawn(text, length);
     CSize size(0, 0);
     ::GetTextExtentPoint32W(dc.m_hAttribDC, wide.c_str(), static_cast<int>(wide.size()), &size);
     return size;
@@ -121,23 +153,23 @@ int TextHeight(const CDC& dc) {
     return std::max(static_cast<int>(metrics.tmHeight), 1);
 }
 
-int FittingBytes(const CString& text, int bytes, const std::function<bool(int bytes)>& fits) {
+int FittingLength(const CString& text, int most, const std::function<bool(int length)>& fits) {
     const int length = text.GetLength();
-    int most = 0;
-    for (int tooMany = std::min(bytes, length) + 1; tooMany - most > 1;) {
-        const int middle = most + (tooMany - most) / 2;
-        (fits(WholeCharacters(text, length, middle)) ? most : tooMany) = middle;
+    int fitting = 0;
+    for (int tooLong = std::min(most, length) + 1; tooLong - fitting > 1;) {
+        const int middle = fitting + (tooLong - fitting) / 2;
+        (fits(WholeCharacters(text, length, middle)) ? fitting : tooLong) = middle;
     }
-    return WholeCharacters(text, length, most);
+    return WholeCharacters(text, length, fitting);
 }
 
 CString Shortened(const CDC& dc, const CString& text, double room) {
     if (MeasureText(dc, text).cx <= room)
         return text;
-    const auto withDots = [&text](int bytes) { return text.Left(bytes) + "..."; };
-    const int bytes = FittingBytes(text, text.GetLength() - 1,
-                                   [&](int bytes) { return MeasureText(dc, withDots(bytes)).cx <= room; });
-    return bytes > 0 ? withDots(bytes) : CString();
+    const auto withDots = [&text](int length) { return text.Left(length) + _T("..."); };
+    const int length = FittingLength(
+        text, text.GetLength() - 1, [&](int length) { return MeasureText(dc, withDots(length)).cx <= room; });
+    return length > 0 ? withDots(length) : CString();
 }
 
 CRect TextBox(const CDC& dc, int length) {
@@ -163,7 +195,7 @@ CRect TextBox(const CDC& dc, int length) {
 }
 
 CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format) {
-    const std::wstring wide = Widen(text);
+    const std::wstring wide = Drawn(text);
     CRect rect(0, 0, width, 0);
     ::DrawTextW(dc.m_hAttribDC, wide.c_str(), static_cast<int>(wide.size()), &rect, format | DT_CALCRECT);
     return rect.Size();

@@ -1,9 +1,10 @@
-// Fonts and texts: drawing, measuring and cutting texts of the process code page.
+// Fonts and texts: drawing, measuring and cutting texts. Lengths of texts count TCHARs.
 #pragma once
 
 #include <afxwin.h>
 
 #include <functional>
+#include <string>
 
 #include "plot/Numeric.h"
 
@@ -14,16 +15,21 @@ namespace kavlix {
 /// the font.
 BOOL MakeFont(CFont& font, int height, int escapement, int weight);
 
-/// Number of bytes of the first `characters` characters of `text`, which has `length` bytes; `length` when
-/// the text has fewer characters. A character can take several bytes in double-byte code pages and in UTF-8.
-/// A combining mark belongs to the character before it. An invalid byte counts as one character.
-int BytesOfCharacters(const char* text, int length, int characters);
-/// The largest number of bytes, at most `bytes`, at which `text` can be cut without cutting a character.
-int WholeCharacters(const char* text, int length, int bytes);
+/// `text` in UTF-16.
+std::wstring ToWide(LPCTSTR text, int length);
 
-/// Draws `length` bytes of `text` at the reference point `x`, `y`, which the DC's text alignment refers to.
+/// Length of the first `characters` characters of `text`; `length` when the text has fewer characters. A
+/// character is what a reader takes for one: a code point with its combining marks, variation selectors and
+/// skin tones, and code points that are linked by zero-width joiners. A code point takes several bytes in
+/// double-byte code pages and in UTF-8, and beyond the basic plane two UTF-16 units. An invalid TCHAR counts
+/// as one character.
+int LengthOfCharacters(LPCTSTR text, int length, int characters);
+/// The largest length, at most `most`, at which `text` can be cut without cutting a character.
+int WholeCharacters(LPCTSTR text, int length, int most);
+
+/// Draws `length` TCHARs of `text` at the reference point `x`, `y`, which the DC's text alignment refers to.
 /// At most kLongestText UTF-16 units are drawn; no character is cut.
-void DrawTextAt(CDC& dc, int x, int y, const char* text, int length);
+void DrawTextAt(CDC& dc, int x, int y, LPCTSTR text, int length);
 
 inline void DrawTextAt(CDC& dc, int x, int y, const CString& text) {
     DrawTextAt(dc, x, y, text, text.GetLength());
@@ -34,7 +40,7 @@ void DrawTextIn(CDC& dc, CRect rect, const CString& text, UINT format);
 
 /// Width and height of a one-line text in the DC's font, in logical units. Long texts are cut as in
 /// DrawTextAt.
-CSize MeasureText(const CDC& dc, const char* text, int length);
+CSize MeasureText(const CDC& dc, LPCTSTR text, int length);
 
 inline CSize MeasureText(const CDC& dc, const CString& text) {
     return MeasureText(dc, text, text.GetLength());
@@ -43,16 +49,15 @@ inline CSize MeasureText(const CDC& dc, const CString& text) {
 /// Height of a line of text in the DC's font, in logical units, at least 1.
 int TextHeight(const CDC& dc);
 
-/// The largest number of bytes, at most `bytes`, at which `text` can be cut without cutting a character and
-/// for which `fits` is true. `fits` must be true up to some number of bytes and false beyond. 0 when not even
-/// one character fits.
-int FittingBytes(const CString& text, int bytes, const std::function<bool(int bytes)>& fits);
+/// The largest length, at most `most`, at which `text` can be cut without cutting a character and for which
+/// `fits` is true. `fits` must be true up to some length and false beyond. 0 when not even one character fits.
+int FittingLength(const CString& text, int most, const std::function<bool(int length)>& fits);
 
 /// `text` shortened to `room` logical units in the DC's font: the whole text if it fits, otherwise its
 /// beginning and three dots. Empty when not even one character and the dots fit. No character is cut.
 CString Shortened(const CDC& dc, const CString& text, double room);
 
-/// A box that contains every text of `length` bytes drawn at (0, 0) with the DC's font and text alignment, in
+/// A box that contains every text of `length` TCHARs drawn at (0, 0) with the DC's font and text alignment, in
 /// logical units. Faster than measuring a text, and larger than necessary.
 CRect TextBox(const CDC& dc, int length);
 

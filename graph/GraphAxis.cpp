@@ -106,7 +106,7 @@ void CGraph::DrawScale(const PlotScale& scale, const ScaleTicks& ticks, bool lef
             return;
         }
         CString text;
-        text.Format("%d", static_cast<int>(std::clamp<std::int64_t>(ticks.Value(i), INT_MIN, INT_MAX)));
+        text.Format(_T("%d"), static_cast<int>(std::clamp<std::int64_t>(ticks.Value(i), INT_MIN, INT_MAX)));
         DrawNumber(text, at, left);
     });
 }

@@ -196,7 +196,7 @@ HGDIOBJ GraphFont::Make(CFont& font, int height, int angle, int weight) {
     constexpr int kTenths = 10;
     constexpr BYTE kAnyPitchRoman = DEFAULT_PITCH | FF_ROMAN;
     font.CreateFont(height, 0, angle * kTenths, 0, weight, FALSE, FALSE, FALSE, ANSI_CHARSET,
-                    OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, kAnyPitchRoman, "Arial");
+                    OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, kAnyPitchRoman, _T("Arial"));
     return font.GetSafeHandle();
 }
 

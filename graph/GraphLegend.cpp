@@ -54,7 +54,7 @@ int CGraph::DrawLegend(CDC*) {
         const GraphFont heading(canvas, kHeadingSize, 0, FW_BOLD);
         const auto average = static_cast<std::int64_t>(canvas.Character().width);
         canvas.Text(place(left + legendWidth / 2 - kHalfHeading * average, top + kHeadingTop * pixel),
-                    "Legend");
+                    _T("Legend"));
     }
 
     const GraphFont font(canvas, size, 0, FW_BOLD);

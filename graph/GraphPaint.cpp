@@ -127,7 +127,7 @@ void CGraph::ComputeLayout() {
         constexpr int kBelowPlot = 50;
         constexpr int kBelowTurnedLabels = 15;
         CString highest;
-        highest.Format("%d", maxTick);
+        highest.Format(_T("%d"), maxTick);
         const std::int64_t halfNumber = FontHeight(yTickFontSize) / 2;
         const std::int64_t halfLabel = FontHeight(xTickFontSize) / 2;
         xApexPoint = ToCoordinate((halfNumber * highest.GetLength() + kLeftOfPlot) * pixel);

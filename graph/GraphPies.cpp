@@ -35,9 +35,9 @@ CString ShareText(double percent) {
     constexpr double kShown = 0.05; // percent; half of 0.1, the last place shown
     CString text;
     if (percent < kShown)
-        text = "<0.1%";
+        text = _T("<0.1%");
     else
-        text.Format(std::abs(percent - std::round(percent)) < kShown ? "%.0f%%" : "%.1f%%", percent);
+        text.Format(std::abs(percent - std::round(percent)) < kShown ? _T("%.0f%%") : _T("%.1f%%"), percent);
     return text;
 }
 
@@ -244,7 +244,7 @@ void DrawPies(GraphPass& pass, double tilt, double rim) {
     const GraphFont font(canvas, pass.labelFont);
     const double nameHeight = count > 1 ? canvas.Character().height + kNameGap * pixel : 0;
     const auto sectorsOf = [&](int s) { return MakeSectors(pass.data.Groups(s)); };
-    PieStyle style{pixel, tilt, rim, canvas.Measure("88.8%"), false};
+    PieStyle style{pixel, tilt, rim, canvas.Measure(_T("88.8%")), false};
     PieGrid grid;
     const auto arrange = [&](bool beside) {
         style.beside = beside;
@@ -277,7 +277,7 @@ void DrawPies(GraphPass& pass, double tilt, double rim) {
     const int pies = shown < count ? std::max(shown - 1, 1) : shown;
     CString more;
     if (pies < count)
-        more.Format("+ %d more", count - pies);
+        more.Format(_T("+ %d more"), count - pies);
     for (int s = 0; s < shown; ++s) {
         const PlaneRect room = roomOf(s);
         double bottom = room.bottom;
@@ -287,7 +287,7 @@ void DrawPies(GraphPass& pass, double tilt, double rim) {
             PiePainter painter(pass, canvas, room, style);
             painter.Draw(sectorsOf(s));
             bottom = std::min(bottom, painter.Lowest() + kNameGap * pixel);
-            const CString beside = s + 1 == shown && pies < count ? "  " + more : CString();
+            const CString beside = s + 1 == shown && pies < count ? _T("  ") + more : CString();
             const CString& name = pass.data.Series(s).label;
             text = canvas.Shorten(name, nameRoom - canvas.Measure(beside).width) + beside;
         } else {

@@ -24,7 +24,7 @@ constexpr int kSmallestNumbers = 10; // pixels; numbers that do not fit at this 
 
 CString Number(std::int64_t value) {
     CString text;
-    text.Format("%d", static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX)));
+    text.Format(_T("%d"), static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX)));
     return text;
 }
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr char kWindowClass[] = "MFCGraphCtrl";
+constexpr TCHAR kWindowClass[] = _T("MFCGraphCtrl");
 
 // The last two datasets have the same colour, which hosts rely on.
 constexpr COLORREF kDatasetColors[CGraphCtrl::DatasetCount] = {

@@ -43,7 +43,7 @@ std::string VisiblePart(const CDC& dc, const std::string& text, bool isRightAlig
     const std::string part = text.substr(isRightAligned ? text.size() - kLongNumber : 0, kLongNumber);
     const double farthest = std::hypot(std::max(std::abs(clip.left - at.x), std::abs(clip.right - at.x)),
                                        std::max(std::abs(clip.top - at.y), std::abs(clip.bottom - at.y)));
-    return MeasureText(dc, part.c_str(), static_cast<int>(part.size())).cx >= farthest ? part : text;
+    return MeasureText(dc, CString(part.c_str())).cx >= farthest ? part : text;
 }
 
 } // namespace
@@ -95,7 +95,7 @@ void CGraphCtrl::DrawYAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int nTicks,
             continue;
         const std::string text =
             VisiblePart(dc, FormatTick(values.Value(), decimals), !y2, CPoint(labelX, y), clip);
-        DrawTextAt(dc, labelX, y, text.c_str(), static_cast<int>(text.size()));
+        DrawTextAt(dc, labelX, y, CString(text.c_str()));
     }
 
     Select(dc, m_UnitFont);

@@ -50,7 +50,7 @@ void CGraphCtrl::DrawCaption(CDC& dc) {
     band.CreateSolidBrush(m_CaptionColor);
     StockAfterGuard brushAfter(dc, NULL_BRUSH);
     SelectGuard font(dc, captionFont);
-    const int height = ToCoordinate(static_cast<std::int64_t>(dc.GetTextExtent("Gg", 2).cy));
+    const int height = ToCoordinate(static_cast<std::int64_t>(dc.GetTextExtent(_T("Gg"), 2).cy));
 
     CRect client;
     GetClientRect(&client);

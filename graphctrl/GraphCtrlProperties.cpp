@@ -48,7 +48,7 @@ BOOL CGraphCtrl::SetLegend(int nDataset, CString text) {
 
 void CGraphCtrl::ResetLegend() {
     for (CDataset& dataset : m_Datasets)
-        dataset.SetLegend("");
+        dataset.SetLegend(_T(""));
 }
 
 void CGraphCtrl::SetGraphStyle(GraphStyle style) {
@@ -86,7 +86,7 @@ void CGraphCtrl::ShowIconMaximize(BOOL bShow, BOOL bMaximized) {
     m_IconMaximized = bMaximized;
 }
 
-void CGraphCtrl::SetCaptionFont(int nSize, const char* pszFace) {
+void CGraphCtrl::SetCaptionFont(int nSize, LPCTSTR pszFace) {
     m_CaptionFontFace = pszFace;
     m_CaptionFontSize = nSize;
 }

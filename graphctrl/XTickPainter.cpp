@@ -27,7 +27,7 @@ void DrawTwoLines(CDC& dc, int x, int y, const CString& upper, const CString& lo
 void DrawXTickLabel(CDC& dc, int x, int y, const CString& up, const CString& down, int longest) {
     if (!down.IsEmpty()) {
         DrawTwoLines(dc, x, y, up, down);
-    } else if (const int cut = BytesOfCharacters(up, up.GetLength(), longest); cut < up.GetLength()) {
+    } else if (const int cut = LengthOfCharacters(up, up.GetLength(), longest); cut < up.GetLength()) {
         CString first = up.Left(cut);
         CString second = up.Mid(cut);
         first.TrimRight();

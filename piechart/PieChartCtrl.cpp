@@ -12,13 +12,13 @@ using namespace kavlix;
 
 namespace {
 
-constexpr char kWindowClass[] = "PIE_CHART_CTRL";
+constexpr TCHAR kWindowClass[] = _T("PIE_CHART_CTRL");
 constexpr int kLargeFontHeight = 15; // pixels
 constexpr int kSmallFontHeight = 13; // pixels
 
 void MakePieFont(CFont& font, int height) {
     font.CreateFont(height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_CHARACTER_PRECIS,
-                    CLIP_CHARACTER_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, "Arial");
+                    CLIP_CHARACTER_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE, _T("Arial"));
 }
 
 } // namespace
@@ -108,7 +108,7 @@ void CPieChartCtrl::GetItemColor(int nIndex, DWORD& crColor) {
     crColor = index >= 0 ? Piece(index).m_crColor : 0;
 }
 
-void CPieChartCtrl::Wait(const char* pszText, int nMode) {
+void CPieChartCtrl::Wait(LPCTSTR pszText, int nMode) {
     m_strWait = pszText;
     m_nWaitMode = nMode;
     Refresh();

@@ -25,8 +25,8 @@ CString PercentText(const CPieChartPiece& piece) {
     const double percent = piece.m_dValue / piece.m_dTotal * kPercent;
     if (!(std::fabs(percent) <= kHighest))
         return CString();
-    char text[32];
-    std::snprintf(text, sizeof text, "%.1f%%", percent);
+    CString text;
+    text.Format(_T("%.1f%%"), percent);
     return text;
 }
 
@@ -39,7 +39,7 @@ void CPieChartCtrl::DrawLabels(CDC& dc, const CRect& client, const std::vector<P
     area.client = ToRect(client);
     area.pie = ToRect(m_rcPie);
     area.startAngle = m_nStartAngle % 360;
-    area.lineHeight = std::max<int>(MeasureText(dc, "W").cy, 1);
+    area.lineHeight = std::max<int>(MeasureText(dc, _T("W")).cy, 1);
 
     // Measuring text is slow, so only the pieces that can get a label are measured.
     const std::vector<int> shown = WidestSectors(sectors, LabelCapacity(area));

@@ -17,7 +17,7 @@ using namespace kavlix;
 
 namespace {
 
-constexpr char kNoData[] = "No Data";
+constexpr TCHAR kNoData[] = _T("No Data");
 
 // Lengths are pixels.
 constexpr int kOutlineWidth = 1;

@@ -7,7 +7,7 @@
 
 namespace kavlix {
 
-/// The beginning that a label shares with another label, in bytes.
+/// The beginning that a label shares with another label, in TCHARs.
 struct SharedBeginning {
     int length = 0; ///< of the longest common beginning with any other label
     /// Where the text after the last blank of the common beginning starts; without a blank, where the labels

@@ -71,16 +71,16 @@ CString CScrollGraphCtrl::GetNextTickTime(int nUnit, CString& date, CString& tim
     int second = 0;
     constexpr int firstYear = 1900;
     constexpr int lastYear = 9999;
-    const bool read = std::sscanf(date, "%d/%d/%d", &year, &month, &day) == 3 &&
-                      std::sscanf(time, "%d:%d:%d", &hour, &minute, &second) == 3;
+    const bool read = _stscanf(date, _T("%d/%d/%d"), &year, &month, &day) == 3 &&
+                      _stscanf(time, _T("%d:%d:%d"), &hour, &minute, &second) == 3;
     const auto within = [](int value, int low, int high) { return value >= low && value <= high; };
     if (!read || !within(year, firstYear, lastYear) || !within(month, 1, 12) || !within(day, 1, 31) ||
         !within(hour, 0, 23) || !within(minute, 0, 59) || !within(second, 0, 59))
-        return date + " " + time;
+        return date + _T(" ") + time;
     const SystemClock clock(*m_zoneRules);
     const auto start = clock.FromLocal({year, month, day, hour, minute, second});
     if (!start) // the month has no such day
-        return date + " " + time;
+        return date + _T(" ") + time;
     return FullTimeText(clock.ToLocal(*start + nUnit)).c_str();
 }
 
@@ -142,7 +142,8 @@ void CScrollGraphCtrl::DrawXAxis(CDC& dc, CRect rectLabel, CRect rectAxis, int n
         if (tick != ticks.Tick())
             continue;
         DrawTimeLabel(dc, x, rectLabel.top + kTickLabelGap,
-                      ticks.ShowsDate() ? ticks.Date().c_str() + kMonthAt : "", ticks.Clock().c_str());
+                      CString(ticks.ShowsDate() ? ticks.Date().c_str() + kMonthAt : ""),
+                      CString(ticks.Clock().c_str()));
         ticks.Next();
     }
     if (isGridLast)

@@ -95,8 +95,8 @@ BOOL CScrollGraphCtrl::GetXData(int nIndex, CString& date, CString& time) {
         const CalendarTime local = SystemClock(*m_zoneRules).ToLocal(m_arrTime->At(nIndex));
         CString day;
         CString clock;
-        day.Format("%02d/%02d", local.month, local.day);
-        clock.Format("%02d:%02d:%02d", local.hour, local.minute, local.second);
+        day.Format(_T("%02d/%02d"), local.month, local.day);
+        clock.Format(_T("%02d:%02d:%02d"), local.hour, local.minute, local.second);
         date = std::move(day);
         time = std::move(clock);
     });

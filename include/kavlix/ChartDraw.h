@@ -111,7 +111,7 @@ public:
     void SetGrid(BOOL bGridX, BOOL bGridY);
     /// Font of all texts. `nSize` is in tenths of a point, clamped to 10..720. The title is a third larger
     /// and bold.
-    void SetTextFont(int nSize, const char* pszFace);
+    void SetTextFont(int nSize, LPCTSTR pszFace);
     void SetBkColor(COLORREF color) { m_BkColor = color; }
     void SetTitleColor(COLORREF color) { m_TitleColor = color; }
     void SetXLabelColor(COLORREF color) { m_XLabelColor = color; }
@@ -237,7 +237,7 @@ private:
     BOOL m_GridX = TRUE;
     BOOL m_GridY = TRUE;
     int m_FontSize = 90; ///< tenths of a point
-    CString m_FontFace = "Arial";
+    CString m_FontFace = _T("Arial");
     COLORREF m_BkColor = RGB(255, 255, 255);
     COLORREF m_TitleColor = RGB(32, 32, 32);
     COLORREF m_XLabelColor = RGB(32, 32, 32);

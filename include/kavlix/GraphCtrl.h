@@ -179,7 +179,7 @@ public:
     /// Font of the caption band: size in tenths of a point on the screen, and face. The height of the band
     /// follows from the font. A font at least a thousand pixels high draws no text if it is also at least
     /// twice as high as the control.
-    void SetCaptionFont(int nSize, const char* pszFace);
+    void SetCaptionFont(int nSize, LPCTSTR pszFace);
 
     void SetBkColor(COLORREF color) { m_BkColor = color; }
     void SetTitleColor(COLORREF color) { m_TitleColor = color; }
@@ -349,9 +349,9 @@ private:
     static constexpr COLORREF kTickLabelColor = RGB(63, 127, 77);
     static constexpr int kTickLabelRoom = 1500; // default size of a band of tick labels, logical units
     // Defaults that ResetAll restores.
-    static constexpr char kDefaultTitle[] = "Graph Title";
-    static constexpr char kDefaultXLabel[] = "X Label";
-    static constexpr char kDefaultYLabel[] = "Y Label";
+    static constexpr TCHAR kDefaultTitle[] = _T("Graph Title");
+    static constexpr TCHAR kDefaultXLabel[] = _T("X Label");
+    static constexpr TCHAR kDefaultYLabel[] = _T("Y Label");
 
 protected:
     GraphStyle m_GraphStyle = GraphStyleLine;
@@ -427,12 +427,12 @@ protected:
     BOOL m_ShowY2Label = TRUE;
     BOOL m_ShowIconMaximize = FALSE;
     BOOL m_IconMaximized = FALSE;
-    CString m_CaptionFontFace = "Tahoma";
+    CString m_CaptionFontFace = _T("Tahoma");
     int m_CaptionFontSize = 80; ///< tenths of a point
     CString m_Title = kDefaultTitle;
     CString m_XLabel = kDefaultXLabel;
     CString m_YLabel = kDefaultYLabel;
-    CString m_Y2Label = "Y2 Label";
+    CString m_Y2Label = _T("Y2 Label");
     BOOL m_ShowMenuRemoveDataBeforeSelectionMark = TRUE;
     CFont m_YTickLabelFont; ///< Y and Y2 tick labels
     CFont m_XTickLabelFont; ///< X tick labels; text runs upwards

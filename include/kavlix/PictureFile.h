@@ -19,6 +19,6 @@ namespace kavlix {
 /// picture is first written to a temporary file in the same folder, which then replaces `path`. So a failure
 /// leaves an existing file unchanged. Exceptions of `draw` reach the caller, except those for exhausted memory
 /// or resources, which also give false.
-KAVLIX_API bool SavePicture(const char* path, CSize size, const std::function<void(CDC&)>& draw);
+KAVLIX_API bool SavePicture(LPCTSTR path, CSize size, const std::function<void(CDC&)>& draw);
 
 } // namespace kavlix

@@ -90,7 +90,7 @@ public:
     /// does. In any other mode the text stands in the middle of the window: in place of "No Data" if no
     /// piece has a sector, otherwise on a band in front of the chart. A text too large for the window is left
     /// out. Clicks keep working while the control waits.
-    void Wait(const char* pszText, int nMode);
+    void Wait(LPCTSTR pszText, int nMode);
     /// Invalidates the window with erase.
     void Refresh();
 

@@ -2,6 +2,8 @@
 
 #include "tests/support/GraphFixture.h"
 
+#include "tests/support/Utf8.h"
+
 #include <kavlix/GraphNotify.h>
 
 #include <cstring>
@@ -21,18 +23,18 @@ std::string RecordFields(const RecordingParent::Entry& entry) {
 Strings MenuItems(HMENU menu) {
     Strings items;
     for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
-        char text[100] = "";
+        TCHAR text[100] = _T("");
         MENUITEMINFO info = {};
         info.cbSize = sizeof info;
         info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING;
         info.dwTypeData = text;
-        info.cch = sizeof text;
+        info.cch = _countof(text);
         ::GetMenuItemInfo(menu, static_cast<UINT>(i), TRUE, &info);
         std::ostringstream line;
         if ((info.fType & MFT_SEPARATOR) != 0) {
             line << "-";
         } else {
-            line << info.wID << ((info.fState & MFS_GRAYED) != 0 ? " gray " : " ") << text;
+            line << info.wID << ((info.fState & MFS_GRAYED) != 0 ? " gray " : " ") << Utf8(text);
             if ((info.fState & ~static_cast<UINT>(MFS_GRAYED)) != 0)
                 line << " state " << info.fState;
         }

@@ -1,6 +1,8 @@
 // The hook that finds message boxes, reads their texts and ends them.
 #include "tests/support/MessageBoxWatcher.h"
 
+#include "tests/support/Utf8.h"
+
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
@@ -12,9 +14,9 @@ constexpr int kDialogClassAtom = 32770;
 constexpr int kLastStandardButton = IDCONTINUE;
 
 std::string TextOf(HWND window) {
-    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextA(window, &text[0], static_cast<int>(text.size()))));
-    return text;
+    std::wstring wide(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    wide.resize(static_cast<std::size_t>(GetWindowTextW(window, &wide[0], static_cast<int>(wide.size()))));
+    return Utf8(wide.c_str());
 }
 
 bool IsDialog(HWND window) {
@@ -23,12 +25,12 @@ bool IsDialog(HWND window) {
 
 UINT IconOf(HWND picture) {
     const auto shown = reinterpret_cast<HICON>(SendMessage(picture, STM_GETICON, 0, 0));
-    const std::pair<LPCSTR, UINT> icons[] = {{IDI_HAND, MB_ICONHAND},
-                                             {IDI_QUESTION, MB_ICONQUESTION},
-                                             {IDI_EXCLAMATION, MB_ICONEXCLAMATION},
-                                             {IDI_ASTERISK, MB_ICONASTERISK}};
+    const std::pair<LPCTSTR, UINT> icons[] = {{IDI_HAND, MB_ICONHAND},
+                                              {IDI_QUESTION, MB_ICONQUESTION},
+                                              {IDI_EXCLAMATION, MB_ICONEXCLAMATION},
+                                              {IDI_ASTERISK, MB_ICONASTERISK}};
     for (const auto& [name, icon] : icons)
-        if (shown != nullptr && shown == LoadIconA(nullptr, name))
+        if (shown != nullptr && shown == LoadIcon(nullptr, name))
             return icon;
     return 0;
 }

@@ -21,7 +21,7 @@ RecordingParent::~RecordingParent() {
 BOOL RecordingParent::CreateVisible(int width, int height) {
     const LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
                                              reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), nullptr);
-    if (!CreateEx(0, name, "parent", WS_POPUP | WS_CLIPCHILDREN, 0, 0, width, height, nullptr, nullptr))
+    if (!CreateEx(0, name, _T("parent"), WS_POPUP | WS_CLIPCHILDREN, 0, 0, width, height, nullptr, nullptr))
         return FALSE;
     ParkPointer();
     ShowWindow(SW_SHOW);

@@ -10,7 +10,7 @@ namespace {
 /// The application object that the class library needs. It has no main window and no message loop.
 class CTestApp : public CWinApp {
 public:
-    CTestApp() : CWinApp("Kavlix tests") {}
+    CTestApp() : CWinApp(_T("Kavlix tests")) {}
 };
 
 CTestApp theApp;

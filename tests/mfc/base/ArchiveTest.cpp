@@ -111,7 +111,7 @@ TEST(Archive, ObjectsKeepTheirIdentity) {
     for (int i = 2; i < count; ++i)
         links[i] = static_cast<int>(random() % static_cast<unsigned>(i + 1)) - 1;
     for (int i = 0; i < count; ++i) {
-        nodes[i].name.Format("%d", i);
+        nodes[i].name.Format(_T("%d"), i);
         nodes[i].next = links[i] < 0 ? nullptr : &nodes[links[i]];
         nodes[i].other = &list;
     }
@@ -133,7 +133,7 @@ TEST(Archive, ObjectsKeepTheirIdentity) {
             ar >> one >> loadedList >> schema;
             const std::unique_ptr<CStringArray> owner(loadedList);
             EXPECT_EQ(nullptr, one);
-            EXPECT_STREQ("element", loadedList->GetAt(0));
+            EXPECT_STREQ(_T("element"), loadedList->GetAt(0));
             for (int i = 0; i < count; ++i) {
                 ASSERT_TRUE(loaded[i]->name == nodes[i].name && loaded[i]->other == loadedList) << i;
                 ASSERT_EQ(links[i] < 0 ? nullptr : loaded[links[i]].get(), loaded[i]->next) << i;
@@ -149,7 +149,7 @@ TEST(Archive, CollectionsComeBackWhole) {
     CList<CString, const CString&> list;
     list.AddTail("one");
     CMap<int, int, CString, LPCTSTR> map;
-    map.SetAt(-2, "two");
+    map.SetAt(-2, _T("two"));
     Node shared;
     CObArray objects;
     objects.Add(&shared);
@@ -165,8 +165,8 @@ TEST(Archive, CollectionsComeBackWhole) {
                   serialize(ar, loadedNumbers, loadedList, loadedMap, loadedObjects);
                   ASSERT_EQ(70000, loadedNumbers.GetSize());
                   EXPECT_EQ(numbers[69999], loadedNumbers[69999]);
-                  EXPECT_STREQ("one", loadedList.GetHead());
-                  EXPECT_STREQ("two", loadedMap[-2]);
+                  EXPECT_STREQ(_T("one"), loadedList.GetHead());
+                  EXPECT_STREQ(_T("two"), loadedMap[-2]);
                   ASSERT_EQ(3, loadedObjects.GetSize());
                   EXPECT_EQ(loadedObjects[0], loadedObjects[2]);
                   EXPECT_EQ(nullptr, loadedObjects[1]);

@@ -190,7 +190,7 @@ TEST(Array, ReadyMadeArraysKeepTheirTypes) {
     typed.SetAtGrow(2, &texts);
     EXPECT_EQ(nullptr, typed[1]);
     typed[1] = typed.GetAt(0);
-    EXPECT_STREQ("a", typed[1]->GetAt(0));
+    EXPECT_STREQ(_T("a"), typed[1]->GetAt(0));
 }
 
 } // namespace

@@ -50,12 +50,12 @@ TEST(List, PositionsSurviveChangesElsewhere) {
     list.InsertBefore(nullptr, "0");
     EXPECT_EQ("0abcde", Join(list));
     list.RemoveAt(list.FindIndex(3));
-    EXPECT_STREQ("b", list.GetAt(b));
+    EXPECT_STREQ(_T("b"), list.GetAt(b));
     list.SetAt(d, "D");
     EXPECT_EQ("0abDe", Join(list));
     list.RemoveAt(b);
-    EXPECT_STREQ("0", list.RemoveHead());
-    EXPECT_STREQ("e", list.RemoveTail());
+    EXPECT_STREQ(_T("0"), list.RemoveHead());
+    EXPECT_STREQ(_T("e"), list.RemoveTail());
     EXPECT_EQ("aD", Join(list));
     EXPECT_EQ(2, list.GetCount());
 
@@ -109,7 +109,7 @@ TEST(Map, ActsLikeAMapUnderRandomCalls) {
             CString found("untouched");
             const auto expected = model.find(key);
             ASSERT_EQ(expected != model.end(), map.Lookup(key, found) != FALSE);
-            ASSERT_STREQ(expected == model.end() ? "untouched" : expected->second.c_str(), found);
+            ASSERT_STREQ(expected == model.end() ? _T("untouched") : expected->second.c_str(), found);
         }
         }
         ASSERT_EQ(static_cast<INT_PTR>(model.size()), map.GetCount());
@@ -144,7 +144,7 @@ TEST(Map, TextKeysCompareByCharacters) {
     EXPECT_EQ(1, map.GetCount());
     CString value;
     EXPECT_TRUE(map.Lookup(CString("key"), value));
-    EXPECT_STREQ("two", value);
+    EXPECT_STREQ(_T("two"), value);
     EXPECT_FALSE(map.Lookup("Key", value));
 }
 

@@ -39,11 +39,11 @@ TEST(Exception, CrossesTheDllBorderByItsOwnTypeAndByItsBases) {
     EXPECT_TRUE(Throws<CSimpleException>([] { AfxThrowResourceException(); }));
     EXPECT_TRUE(Throws<CException>([] { AfxThrowFileException(CFileException::diskFull); }));
     try {
-        AfxThrowArchiveException(CArchiveException::badClass, "name");
+        AfxThrowArchiveException(CArchiveException::badClass, _T("name"));
     } catch (CFileException*) {
         ADD_FAILURE() << "another type";
     } catch (CArchiveException* exception) {
-        EXPECT_STREQ("name", exception->m_strFileName);
+        EXPECT_STREQ(_T("name"), exception->m_strFileName);
         exception->Delete();
     }
 }
@@ -71,7 +71,7 @@ TEST(ExceptionMacros, TheFirstFittingBlockCatchesAndDeletes) {
 }
 
 TEST(Exception, MessagesAreCutToTheirBuffer) {
-    CFileException file(CFileException::fileNotFound, -1, "C:\\data.csv");
+    CFileException file(CFileException::fileNotFound, -1, _T("C:\\data.csv"));
     EXPECT_EQ("C:\\data.csv was not found.", MessageOf(std::move(file)));
     EXPECT_NE("(none)", MessageOf(CFileException(4711))) << "an unknown cause reads as the generic one";
     EXPECT_NE(std::string::npos,
@@ -85,7 +85,7 @@ TEST(Exception, MessagesAreCutToTheirBuffer) {
 
 TEST(Exception, ReportErrorShowsTheTextOrSaysThereIsNone) {
     testkit::MessageBoxWatcher watcher(IDYES);
-    CFileException file(CFileException::accessDenied, -1, "x.txt");
+    CFileException file(CFileException::accessDenied, -1, _T("x.txt"));
     EXPECT_EQ(IDYES, file.ReportError(MB_YESNO));
     CCountedException silent;
     silent.ReportError();

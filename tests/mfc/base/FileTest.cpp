@@ -91,9 +91,9 @@ void ActsLikeAText(CFile& file) {
 
 TEST_F(File, EveryKindActsLikeATextUnderRandomCalls) {
     constexpr UINT mode = CFile::modeCreate | CFile::modeReadWrite;
-    CFile file(Path("data.bin"), mode);
+    CFile file(Path(_T("data.bin")), mode);
     ActsLikeAText(file);
-    EXPECT_STREQ("data.bin|data|" + Path("data.bin"),
+    EXPECT_STREQ(_T("data.bin|data|") + Path(_T("data.bin")),
                  file.GetFileName() + "|" + file.GetFileTitle() + "|" + file.GetFilePath());
     const std::unique_ptr<CFile> second(file.Duplicate());
     file.Close();
@@ -101,7 +101,7 @@ TEST_F(File, EveryKindActsLikeATextUnderRandomCalls) {
     second->SetLength(4); // still open
     EXPECT_EQ(4u, second->GetLength());
 
-    CStdioFile stream(Path("stream.bin"), mode | CFile::typeBinary);
+    CStdioFile stream(Path(_T("stream.bin")), mode | CFile::typeBinary);
     ActsLikeAText(stream);
     CMemFile memory(16);
     ActsLikeAText(memory);
@@ -113,11 +113,11 @@ TEST_F(File, EveryKindActsLikeATextUnderRandomCalls) {
 
 TEST_F(File, ModesDecideWhatIsMadeAndKept) {
     m_folder.Write("a", "old");
-    { CFile kept(Path("a"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite); }
-    EXPECT_EQ("old", Content("a"));
-    { CFile emptied(Path("a"), CFile::modeCreate | CFile::modeWrite); }
-    EXPECT_EQ("", Content("a"));
-    CFile readOnly(Path("a"), CFile::modeRead);
+    { CFile kept(Path(_T("a")), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite); }
+    EXPECT_EQ(_T("old"), Content(_T("a")));
+    { CFile emptied(Path(_T("a")), CFile::modeCreate | CFile::modeWrite); }
+    EXPECT_EQ(_T(""), Content(_T("a")));
+    CFile readOnly(Path(_T("a")), CFile::modeRead);
     EXPECT_EQ(CFileException::accessDenied, CauseOf<CFileException>([&] { readOnly.Write("x", 1); }));
     readOnly.Write("", 0);
 }
@@ -125,13 +125,13 @@ TEST_F(File, ModesDecideWhatIsMadeAndKept) {
 TEST_F(File, FailuresTellCauseNumberAndName) {
     CFile file;
     CFileException error;
-    const CString missing = Path("missing.txt");
+    const CString missing = Path(_T("missing.txt"));
     EXPECT_FALSE(file.Open(missing, CFile::modeRead, &error));
     EXPECT_EQ(CFileException::fileNotFound, error.m_cause);
     EXPECT_EQ(ERROR_FILE_NOT_FOUND, error.m_lOsError);
     EXPECT_TRUE(error.m_strFileName == missing);
     EXPECT_EQ(CFile::hFileNull, file.m_hFile);
-    const auto make = [&] { CFile(Path("no folder\\x"), CFile::modeCreate | CFile::modeWrite); };
+    const auto make = [&] { CFile(Path(_T("no folder\\x")), CFile::modeCreate | CFile::modeWrite); };
     EXPECT_EQ(CFileException::badPath, CauseOf<CFileException>(make));
     EXPECT_EQ(CFileException::fileNotFound,
               CauseOf<CFileException>([&] { CStdioFile(missing, CFile::modeRead); }));
@@ -146,7 +146,7 @@ TEST_F(File, ShareFlagsKeepOthersOut) {
                  {CFile::shareDenyWrite, CFile::modeRead, -1},
                  {CFile::shareDenyNone, CFile::modeReadWrite, -1}};
     for (const auto& c : cases) {
-        CFile first(Path("shared"), CFile::modeCreate | CFile::modeReadWrite | c.share);
+        CFile first(Path(_T("shared")), CFile::modeCreate | CFile::modeReadWrite | c.share);
         EXPECT_EQ(c.cause,
                   CauseOf<CFileException>([&] { CFile(Path("shared"), c.second | CFile::shareDenyNone); }));
     }
@@ -154,11 +154,11 @@ TEST_F(File, ShareFlagsKeepOthersOut) {
 
 TEST_F(File, TextFilesHaveOneLineEndInMemory) {
     {
-        CStdioFile file(Path("t.txt"), CFile::modeCreate | CFile::modeWrite | CFile::typeText);
+        CStdioFile file(Path(_T("t.txt")), CFile::modeCreate | CFile::modeWrite | CFile::typeText);
         file.WriteString("first\n\n" + CString('x', 2000) + "\nno end");
     }
-    EXPECT_EQ("first\r\n\r\n" + std::string(2000, 'x') + "\r\nno end", Content("t.txt"));
-    CStdioFile file(Path("t.txt"), CFile::modeRead);
+    EXPECT_EQ(_T("first\r\n\r\n") + std::string(2000, 'x') + _T("\r\nno end"), Content(_T("t.txt")));
+    CStdioFile file(Path(_T("t.txt")), CFile::modeRead);
     CString line;
     for (const CString& expected : {CString("first"), CString(), CString('x', 2000)}) {
         EXPECT_TRUE(file.ReadString(line));
@@ -168,7 +168,7 @@ TEST_F(File, TextFilesHaveOneLineEndInMemory) {
     EXPECT_EQ(piece, file.ReadString(piece, 5));
     EXPECT_STREQ("no e", piece);
     EXPECT_TRUE(file.ReadString(line));
-    EXPECT_STREQ("nd", line);
+    EXPECT_STREQ(_T("nd"), line);
     EXPECT_FALSE(file.ReadString(line));
 }
 

@@ -15,28 +15,29 @@ constexpr UINT missingString = 64999;
 TEST(StringFormat, TakesStringsNumbersAndTheTargetItself) {
     const CString name("name");
     CString text;
-    text.Format("%s=%d|%-6s|%5.2f|%c|%x|%u", name, -7, CString("ab"), 3.14159, 'q', 255u, 4000000000u);
+    text.Format(_T("%s=%d|%-6s|%5.2f|%c|%x|%u"), name, -7, CString(_T("ab")), 3.14159, 'q', 255u,
+                4000000000u);
     EXPECT_TEXT("name=-7|ab    | 3.14|q|ff|4000000000", text);
-    text.Format("%s+%s", text, text);
+    text.Format(_T("%s+%s"), text, text);
     EXPECT_TEXT("name=-7|ab    | 3.14|q|ff|4000000000+name=-7|ab    | 3.14|q|ff|4000000000", text);
-    text.Format("%I64d %lld %p", LONGLONG{-9000000000}, LONGLONG{9000000000}, nullptr);
+    text.Format(_T("%I64d %lld %p"), LONGLONG{-9000000000}, LONGLONG{9000000000}, nullptr);
     EXPECT_EQ(0, text.Find("-9000000000 9000000000 "));
-    text.Format("%*d|%.*s|100%%", 5, 42, 2, "abc");
+    text.Format(_T("%*d|%.*s|100%%"), 5, 42, 2, _T("abc"));
     EXPECT_TEXT("   42|ab|100%", text);
-    text.Format("plain");
-    text.AppendFormat(" and %s", name);
-    text.AppendFormat("<%s>", text);
+    text.Format(_T("plain"));
+    text.AppendFormat(_T(" and %s"), name);
+    text.AppendFormat(_T("<%s>"), text);
     EXPECT_TEXT("plain and name<plain and name>", text);
 }
 
 TEST(StringFormat, HasNoLongestText) {
     CString text;
-    text.Format("%.400f", 1.0 / 3.0);
+    text.Format(_T("%.400f"), 1.0 / 3.0);
     EXPECT_EQ(402, text.GetLength());
     EXPECT_EQ(0, text.Find("0.333333333333333314829616256247"));
     // Lengths around the size of an internal buffer, where its terminating zero matters.
     for (int length = 200; length < 600; ++length) {
-        text.Format("%*d", length, 7);
+        text.Format(_T("%*d"), length, 7);
         ASSERT_EQ(length, text.GetLength());
         ASSERT_EQ('7', text[length - 1]);
     }
@@ -47,7 +48,7 @@ TEST(StringFormat, ResourcesAreTextsAndFormats) {
     EXPECT_TEXT("A text from the resources", CString(MAKEINTRESOURCE(IDS_BASE_PLAIN)));
     text.Format(IDS_BASE_FORMAT, CString("it"), 3);
     EXPECT_TEXT("it has 3 parts", text);
-    text.FormatMessage("%2 before %1, %3!d!", "first", CString("second"), 3);
+    text.FormatMessage(_T("%2 before %1, %3!d!"), _T("first"), CString(_T("second")), 3);
     EXPECT_TEXT("second before first, 3", text);
     text.FormatMessage(IDS_BASE_MESSAGE, "one", CString("two"));
     EXPECT_TEXT("two before one", text);

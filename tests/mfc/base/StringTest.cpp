@@ -115,10 +115,10 @@ TEST(String, ActsLikeAStdStringUnderRandomCalls) {
         for (const std::string& expected : Pieces(model)) {
             ASSERT_TRUE(AfxExtractSubString(piece, text, index++, ','));
             ASSERT_EQ(expected, Plain(piece));
-            ASSERT_EQ(expected, expected.empty() ? "" : Plain(text.Tokenize(",", position)));
+            ASSERT_EQ(expected, expected.empty() ? _T("") : Plain(text.Tokenize(_T(","), position)));
         }
         ASSERT_FALSE(AfxExtractSubString(piece, text, index, ',') || !piece.IsEmpty());
-        ASSERT_TRUE(position != -1 && text.Tokenize(",", position).IsEmpty() && position == -1);
+        ASSERT_TRUE(position != -1 && text.Tokenize(_T(","), position).IsEmpty() && position == -1);
 
         const auto [replaced, changes] = Replaced(model, part, one + part);
         const auto [exchanged, exchanges] = Replaced(model, one, std::string(1, other));
@@ -191,12 +191,12 @@ TEST(String, NothingAndTooMuchAreTakenWell) {
     EXPECT_TEXT("", CString(none));
     EXPECT_TEXT("", CString('x', -5));
     EXPECT_TEXT("xxx", CString('x', 3));
-    EXPECT_TEXT("abc", CString("abcdef", 3));
+    EXPECT_TEXT("abc", CString(_T("abcdef"), 3));
     EXPECT_TEXT("wi", CString(L"wide", 2));
     CString text("aa");
     text += none;
     EXPECT_TRUE(text != none && CString() == none && text.Find(none) == -1);
-    EXPECT_EQ(2, text.Replace("a", none));
+    EXPECT_EQ(2, text.Replace(_T("a"), none));
 
     const CString withZero("a\0b", 3);
     EXPECT_EQ(3, withZero.GetLength());
@@ -211,9 +211,9 @@ TEST(String, NothingAndTooMuchAreTakenWell) {
 
 TEST(String, OrdersBytesAndFollowsTheCodePage) {
     EXPECT_TRUE(CString("\xE9") > "z") << "bytes are unsigned";
-    EXPECT_EQ(-1, CString("_").CompareNoCase("A"))
+    EXPECT_EQ(-1, CString(_T("_")).CompareNoCase(_T("A")))
         << "letters compare as lower case, and '_' lies between the cases";
-    EXPECT_EQ(-1, CString("a").Collate("B"));
+    EXPECT_EQ(-1, CString(_T("a")).Collate(_T("B")));
     const CString upper(L"\x00C4\x00D6x");
     CString lower(L"\x00E4\x00F6X");
     if (upper.Find('?') < 0) { // a code page that knows the letters
@@ -225,7 +225,7 @@ TEST(String, OrdersBytesAndFollowsTheCodePage) {
 TEST(String, BufferIsWritableToItsLastByte) {
     CString text("old");
     LPTSTR buffer = text.GetBuffer(10);
-    EXPECT_STREQ("old", buffer);
+    EXPECT_STREQ(_T("old"), buffer);
     std::memcpy(buffer, "0123456789", 11);
     text.ReleaseBuffer();
     EXPECT_TEXT("0123456789", text);

@@ -16,11 +16,11 @@ constexpr __time64_t hour = 3600;
 constexpr __time64_t day = 24 * hour;
 
 std::string Local(CTime time) {
-    return time.Format("%Y-%m-%d %H:%M:%S").GetString();
+    return time.Format(_T("%Y-%m-%d %H:%M:%S")).GetString();
 }
 
 std::string Gmt(CTime time) {
-    return time.FormatGmt("%Y-%m-%d %H:%M:%S").GetString();
+    return time.FormatGmt(_T("%Y-%m-%d %H:%M:%S")).GetString();
 }
 
 /// Rules of zones in the format of the system: wDay is the number of the Sunday in the month, 5 the last.
@@ -100,9 +100,9 @@ TEST(Time, FollowsTheRulesOfTheZoneAndYear) {
     EXPECT_EQ("2006-03-20 07:00:00", Local(CTime(1142856000))) << "the rules of 2006, not of today";
     EXPECT_EQ(1721044800, CTime(2024, 7, 15, 8, 0, 0).GetTime()) << "the rules decide";
     EXPECT_EQ(1721044800 + hour, CTime(2024, 7, 15, 8, 0, 0, 0).GetTime()) << "standard time was asked for";
-    EXPECT_STREQ("-0400", CTime(1721044800).Format("%z"));
+    EXPECT_STREQ(_T("-0400"), CTime(1721044800).Format(_T("%z")));
     currentZone = "Asia/Kolkata";
-    EXPECT_STREQ("+0530", CTime(1721044800).Format("%z"));
+    EXPECT_STREQ(_T("+0530"), CTime(1721044800).Format(_T("%z")));
 }
 
 TEST(Time, ComesBackFromLocalTime) {
@@ -127,8 +127,9 @@ TEST(Time, TellsGmtOfAnyYear) {
 
 TEST(Time, FormatsEveryCodeAndCopiesWhatIsNone) {
     const CTime time(951827696); // 2000-02-29 12:34:56 UTC
-    EXPECT_STREQ("00 02 29|12:34:56|060|AM/PM PM|12", time.FormatGmt("%y %m %d|%H:%M:%S|%j|AM/PM %p|%I"));
-    EXPECT_STREQ("100% %Q %", time.FormatGmt("100%% %Q %"));
+    EXPECT_STREQ(_T("00 02 29|12:34:56|060|AM/PM PM|12"),
+                 time.FormatGmt(_T("%y %m %d|%H:%M:%S|%j|AM/PM %p|%I")));
+    EXPECT_STREQ(_T("100% %Q %"), time.FormatGmt(_T("100%% %Q %")));
     const CString padding('x', 5000);
     EXPECT_EQ(10004, time.FormatGmt(padding + "%Y" + padding).GetLength());
 }
@@ -152,7 +153,7 @@ TEST(Time, SpansAddAndCompare) {
     EXPECT_EQ(51, span.GetTotalHours());
     EXPECT_EQ(std::tuple(2, 3, 4, 5),
               std::tuple(span.GetDays(), span.GetHours(), span.GetMinutes(), span.GetSeconds()));
-    EXPECT_STREQ("2 days 03:04:05 100%", span.Format("%D days %H:%M:%S 100%%"));
+    EXPECT_STREQ(_T("2 days 03:04:05 100%"), span.Format(_T("%D days %H:%M:%S 100%%")));
     const CTime start(1000);
     const CTime time = start + span;
     EXPECT_TRUE(time > start && time - start == span && time - span == start && !(time <= start));

@@ -30,7 +30,7 @@ private:
 class CQuickSave : public CFileDialog {
 public:
     explicit CQuickSave(LPCTSTR name, LPCTSTR extension = nullptr)
-        : CFileDialog(FALSE, extension, name, OFN_HIDEREADONLY, "Text (*.txt)|*.txt|All (*.*)|*.*||") {}
+        : CFileDialog(FALSE, extension, name, OFN_HIDEREADONLY, _T("Text (*.txt)|*.txt|All (*.*)|*.*||")) {}
     int asked = 0;
     int refusals = 0;
 
@@ -52,22 +52,22 @@ TEST(FileDialog, TellsThePartsOfTheNameChosen) {
     const std::string name = std::string(folder) + "some.notes.txt";
     CQuickSave dialog(name.c_str());
     ASSERT_EQ(IDOK, dialog.DoModal());
-    EXPECT_STREQ("some.notes.txt|txt|some.notes",
+    EXPECT_STREQ(_T("some.notes.txt|txt|some.notes"),
                  dialog.GetFileName() + "|" + dialog.GetFileExt() + "|" + dialog.GetFileTitle());
     EXPECT_EQ(0, dialog.GetPathName().CompareNoCase(name.c_str()));
 
-    CQuickSave refusing("refused", "txt");
+    CQuickSave refusing(_T("refused"), _T("txt"));
     refusing.refusals = 2;
     EXPECT_EQ(IDCANCEL, refusing.DoModal());
     EXPECT_EQ(2, refusing.asked) << "the dialog stayed open after the first refusal";
 }
 
 TEST(FileDialog, FilterAndNamesAreKept) {
-    CFileDialog dialog(TRUE, "csv", "start.csv", 0, "Tables|*.csv|All|*.*");
+    CFileDialog dialog(TRUE, _T("csv"), _T("start.csv"), 0, _T("Tables|*.csv|All|*.*"));
     const char expected[] = "Tables\0*.csv\0All\0*.*\0\0";
     EXPECT_EQ(0, std::memcmp(expected, dialog.m_ofn.lpstrFilter, sizeof(expected) - 1))
         << "ends with two zeros";
-    EXPECT_STREQ("start.csv", dialog.m_ofn.lpstrFile);
+    EXPECT_STREQ(_T("start.csv"), dialog.m_ofn.lpstrFile);
 }
 
 TEST(FileDialog, SeveralFilesAreListedOneByOne) {

@@ -27,7 +27,7 @@ protected:
 TEST_F(Controls, EditTextSelectionAndLines) {
     CEdit edit;
     ASSERT_TRUE(edit.Create(kStyle | ES_MULTILINE, m_rect, &m_parent, 5));
-    edit.SetWindowText("first\r\nsecond line\r\n\r\nlast");
+    edit.SetWindowText(_T("first\r\nsecond line\r\n\r\nlast"));
     char line[32];
     EXPECT_EQ(11, edit.GetLine(1, line, sizeof(line)));
     EXPECT_EQ("second line", std::string(line, 11));
@@ -40,13 +40,13 @@ TEST_F(Controls, EditTextSelectionAndLines) {
 TEST_F(Controls, ListBoxItems) {
     CListBox list;
     ASSERT_TRUE(list.Create(kStyle | LBS_MULTIPLESEL, m_rect, &m_parent, 7));
-    for (LPCTSTR item : {"apple", "pear", "applause", "plum"})
+    for (LPCTSTR item : {_T("apple"), _T("pear"), _T("applause"), _T("plum")})
         list.AddString(item);
     CString text("unchanged");
     list.GetText(1, text);
-    EXPECT_STREQ("pear", text);
+    EXPECT_STREQ(_T("pear"), text);
     list.GetText(9, text);
-    EXPECT_STREQ("", text);
+    EXPECT_STREQ(_T(""), text);
     list.SetSel(3);
     list.SelItemRange(TRUE, 0, 1);
     int chosen[4] = {-1, -1, -1, -1};
@@ -58,15 +58,15 @@ TEST_F(Controls, ComboBoxItemsAndEditField) {
     CComboBox combo;
     ASSERT_TRUE(combo.Create(kStyle | CBS_DROPDOWN | CBS_AUTOHSCROLL, m_rect, &m_parent, 9));
     const CString longText('z', 500);
-    combo.AddString("one");
+    combo.AddString(_T("one"));
     combo.AddString(longText);
-    EXPECT_EQ(1, combo.InsertString(1, "two"));
+    EXPECT_EQ(1, combo.InsertString(1, _T("two")));
     CString text;
     combo.GetLBText(2, text);
     EXPECT_EQ(longText, text);
     combo.GetLBText(7, text);
-    EXPECT_STREQ("", text);
-    EXPECT_EQ(1, combo.SelectString(-1, "tw"));
+    EXPECT_STREQ(_T(""), text);
+    EXPECT_EQ(1, combo.SelectString(-1, _T("tw")));
     EXPECT_TRUE(combo.SetEditSel(1, 3));
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(1, 3)), combo.GetEditSel());
 }
@@ -109,12 +109,12 @@ TEST_F(Controls, CommonControls) {
 
     CToolTipCtrl tips;
     ASSERT_TRUE(tips.Create(&m_parent));
-    EXPECT_TRUE(tips.AddTool(&slider, "drag me"));
-    EXPECT_TRUE(tips.AddTool(&m_parent, "corner", CRect(0, 0, 10, 10), 77));
+    EXPECT_TRUE(tips.AddTool(&slider, _T("drag me")));
+    EXPECT_TRUE(tips.AddTool(&m_parent, _T("corner"), CRect(0, 0, 10, 10), 77));
     EXPECT_EQ(2, tips.GetToolCount());
     CString text;
     tips.GetText(text, &m_parent, 77);
-    EXPECT_STREQ("corner", text);
+    EXPECT_STREQ(_T("corner"), text);
 }
 
 } // namespace

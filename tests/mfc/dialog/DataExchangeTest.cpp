@@ -89,31 +89,35 @@ private:
 };
 
 TEST_F(DataExchange, IntegersOfEveryTypeAreShownReadAndRefused) {
-    ExpectShownAndRead<int>("-2147483648", INT_MIN);
-    ExpectShownAndRead<UINT>("4294967295", UINT_MAX);
-    ExpectShownAndRead<short>("-32768", SHRT_MIN);
-    ExpectShownAndRead<BYTE>("255", 255);
-    EXPECT_EQ(INT_MAX, Read<int>(" \t+2147483647 ", 0));
-    EXPECT_EQ(10, Read<int>("010", 0)) << "decimal, whatever it begins with";
+    ExpectShownAndRead<int>(_T("-2147483648"), INT_MIN);
+    ExpectShownAndRead<UINT>(_T("4294967295"), UINT_MAX);
+    ExpectShownAndRead<short>(_T("-32768"), SHRT_MIN);
+    ExpectShownAndRead<BYTE>(_T("255"), 255);
+    EXPECT_EQ(INT_MAX, Read<int>(_T(" \t+2147483647 "), 0));
+    EXPECT_EQ(10, Read<int>(_T("010"), 0)) << _T("decimal, whatever it begins with");
     const auto refused = [this](auto other, const char* prompt, std::initializer_list<LPCTSTR> texts) {
         for (LPCTSTR text : texts)
             EXPECT_EQ(other, Read(text, other)) << text;
         EXPECT_EQ(prompt, m_prompt);
     };
-    refused(-1, "Enter an integer.", {"", "  ", "x", "12x", "1 2", "1.5", "2147483648", "-2147483649"});
-    refused(1u, "Enter a positive integer.", {"-1", "4294967296", "- 1", "", "-18446744073709551615"});
-    refused(BYTE{9}, "Enter an integer between 0 and 255.", {"256", "-1", ""});
+    refused(
+        -1, _T("Enter an integer."),
+        {_T(""), _T("  "), _T("x"), _T("12x"), _T("1 2"), _T("1.5"), _T("2147483648"), _T("-2147483649")});
+    refused(1u, _T("Enter a positive integer."),
+            {_T("-1"), _T("4294967296"), _T("- 1"), _T(""), _T("-18446744073709551615")});
+    refused(BYTE{9}, _T("Enter an integer between 0 and 255."), {_T("256"), _T("-1"), _T("")});
 }
 
 TEST_F(DataExchange, RealNumbersKeepTheDigitsTheyHave) {
-    ExpectShownAndRead("0.1", 0.1);
-    ExpectShownAndRead("0.1", 0.1f);
-    ExpectShownAndRead("1e+300", 1e300);
-    EXPECT_EQ(-1.5e-7, Read<double>("-1.5e-7", 0));
-    for (LPCTSTR text : {"", "1,5", "nan", "inf", "0x10", "1e", "1e999", ".", "--1"})
+    ExpectShownAndRead(_T("0.1"), 0.1);
+    ExpectShownAndRead(_T("0.1"), 0.1f);
+    ExpectShownAndRead(_T("1e+300"), 1e300);
+    EXPECT_EQ(-1.5e-7, Read<double>(_T("-1.5e-7"), 0));
+    for (LPCTSTR text :
+         {_T(""), _T("1,5"), _T("nan"), _T("inf"), _T("0x10"), _T("1e"), _T("1e999"), _T("."), _T("--1")})
         EXPECT_EQ(-9.0, Read<double>(text, -9.0)) << text;
     EXPECT_EQ("Enter a number.", m_prompt);
-    EXPECT_EQ(-9.0f, Read<float>("1e39", -9.0f)) << "too large for the member";
+    EXPECT_EQ(-9.0f, Read<float>(_T("1e39"), -9.0f)) << _T("too large for the member");
 }
 
 TEST_F(DataExchange, TextIsSetOnlyWhenItDiffers) {
@@ -139,7 +143,7 @@ TEST_F(DataExchange, ChecksAndRadioGroups) {
 
 TEST_F(DataExchange, ListsByIndexByTextAndByExactText) {
     for (int id : {IDC_LIST, IDC_DROPLIST, IDC_COMBO})
-        for (LPCTSTR text : {"Green tea", "Green", "Red"})
+        for (LPCTSTR text : {_T("Green tea"), _T("Green"), _T("Red")})
             ::SendMessage(Item(id), id == IDC_LIST ? LB_ADDSTRING : CB_ADDSTRING, 0,
                           reinterpret_cast<LPARAM>(text));
     const struct {
@@ -147,10 +151,12 @@ TEST_F(DataExchange, ListsByIndexByTextAndByExactText) {
         int id;
         LPCTSTR text, read;
     } cases[] = {
-        {DDX_LBString, IDC_LIST, "gre", "Green tea"},     {DDX_LBStringExact, IDC_LIST, "green", "Green"},
-        {DDX_LBStringExact, IDC_LIST, "gre", "Green"}, // no exact match: the selection stays
-        {DDX_CBString, IDC_DROPLIST, "gre", "Green tea"}, {DDX_CBStringExact, IDC_DROPLIST, "Green", "Green"},
-        {DDX_CBString, IDC_COMBO, "Purple", "Purple"}, // goes into the edit field
+        {DDX_LBString, IDC_LIST, _T("gre"), _T("Green tea")},
+        {DDX_LBStringExact, IDC_LIST, _T("green"), _T("Green")},
+        {DDX_LBStringExact, IDC_LIST, _T("gre"), _T("Green")}, // no exact match: the selection stays
+        {DDX_CBString, IDC_DROPLIST, _T("gre"), _T("Green tea")},
+        {DDX_CBStringExact, IDC_DROPLIST, _T("Green"), _T("Green")},
+        {DDX_CBString, IDC_COMBO, _T("Purple"), _T("Purple")}, // goes into the edit field
     };
     for (const auto& c : cases)
         EXPECT_STREQ(c.read, ThereAndBack<CString>(c.ddx, c.id, c.text)) << c.id << " " << c.text;
@@ -175,8 +181,8 @@ TEST_F(DataExchange, RangesAreCheckedWhenSavingOnly) {
         DDV_MinMaxInt(pDX, value, -5, 10);
     };
     EXPECT_TRUE(Load(range)) << "a member out of range is shown all the same";
-    EXPECT_STREQ("50", m_dialog.Text());
-    for (LPCTSTR text : {"50", "-5", "10", "0", "-6"}) {
+    EXPECT_STREQ(_T("50"), m_dialog.Text());
+    for (LPCTSTR text : {_T("50"), _T("-5"), _T("10"), _T("0"), _T("-6")}) {
         m_dialog.SetText(text);
         EXPECT_EQ(atoi(text) >= -5 && atoi(text) <= 10, Save(range) != FALSE) << text;
     }
@@ -213,7 +219,7 @@ TEST_F(DataExchange, LengthLimitHoldsForTypingAndForSaving) {
     EXPECT_FALSE(Save(limited));
     ASSERT_EQ(1u, prompts.Boxes().size());
     EXPECT_EQ("Enter no more than 4 characters.", prompts.Boxes()[0].text);
-    m_dialog.SetText("abcd");
+    m_dialog.SetText(_T("abcd"));
     EXPECT_TRUE(Save(limited));
 }
 

@@ -63,7 +63,7 @@ protected:
 class COwner : public CWnd {
 public:
     COwner() {
-        CreateEx(0, AfxRegisterWndClass(0), "owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 300, 200, 400, 300,
+        CreateEx(0, AfxRegisterWndClass(0), _T("owner"), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 300, 200, 400, 300,
                  nullptr, nullptr);
     }
     ~COwner() override { DestroyWindow(); }
@@ -85,22 +85,22 @@ TEST(Dialog, OkTakesTheDataAndCancelLeavesIt) {
     ok.onInit = [](CTestDialog& dialog) {
         CString shown;
         dialog.GetDlgItemText(IDC_TEXT, shown);
-        EXPECT_STREQ("before", shown) << "members are shown before the dialog is";
+        EXPECT_STREQ(_T("before"), shown) << _T("members are shown before the dialog is");
         EXPECT_FALSE(dialog.IsWindowVisible());
-        dialog.SetDlgItemText(IDC_TEXT, "after");
+        dialog.SetDlgItemText(IDC_TEXT, _T("after"));
         dialog.Press(IDOK);
     };
     EXPECT_EQ(IDOK, ok.DoModal());
-    EXPECT_STREQ("after", ok.text);
+    EXPECT_STREQ(_T("after"), ok.text);
 
     CTestDialog cancel(IDD_DATA);
     cancel.text = "before";
     cancel.onInit = [](CTestDialog& dialog) {
-        dialog.SetDlgItemText(IDC_TEXT, "after");
+        dialog.SetDlgItemText(IDC_TEXT, _T("after"));
         dialog.Press(IDCANCEL);
     };
     EXPECT_EQ(IDCANCEL, cancel.DoModal());
-    EXPECT_STREQ("before", cancel.text);
+    EXPECT_STREQ(_T("before"), cancel.text);
 }
 
 TEST(Dialog, EndingItInOnInitDialogShowsNothing) {

@@ -40,7 +40,7 @@ TEST(DC, SelectingReturnsWhatWasThere) {
     CBrush brush(RGB(1, 2, 3));
     CFont font;
     CBitmap bitmap;
-    ASSERT_TRUE(font.CreatePointFont(120, "Arial") && bitmap.CreateBitmap(4, 4, 1, 32, nullptr));
+    ASSERT_TRUE(font.CreatePointFont(120, _T("Arial")) && bitmap.CreateBitmap(4, 4, 1, 32, nullptr));
     CBrush* const oldBrush = dc.SelectObject(&brush);
     CFont* const oldFont = dc.SelectObject(&font);
     CBitmap* const oldBitmap = dc.SelectObject(&bitmap);

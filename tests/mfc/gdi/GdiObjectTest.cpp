@@ -89,7 +89,7 @@ TEST(GdiObject, TemporariesAreOfTheHandlesRealClass) {
         HGDIOBJ const first = ::CreatePen(PS_SOLID, 1, 0);
         ASSERT_TRUE(CGdiObject::FromHandle(first)->IsKindOf(RUNTIME_CLASS(CPen)));
         ::DeleteObject(first);
-        HGDIOBJ const second = ::CreateFont(9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+        HGDIOBJ const second = ::CreateFont(9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, _T("Arial"));
         ASSERT_TRUE(CGdiObject::FromHandle(second)->IsKindOf(RUNTIME_CLASS(CFont)));
         ::DeleteObject(second);
     }
@@ -128,8 +128,9 @@ TEST(GdiObject, PointFontsAreMeasuredInTheUnitsOfTheirDC) {
         EXPECT_NE(0, font.GetLogFont(&record));
         return record.lfHeight;
     };
-    EXPECT_EQ(-pixels, height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, "Arial"); }));
-    EXPECT_STREQ("Arial", record.lfFaceName);
+    EXPECT_EQ(-pixels,
+              height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, _T("Arial")); }));
+    EXPECT_STREQ(_T("Arial"), record.lfFaceName);
 
     // Thirty logical units to a pixel, with y upwards and a moved origin: only the scale may count.
     dc.SetMapMode(MM_ANISOTROPIC);

@@ -16,7 +16,7 @@ struct Handles {
     Handles() {
         dc.CreateCompatibleDC(nullptr);
         brush.CreateSolidBrush(RGB(1, 2, 3));
-        window.CreateEx(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr);
+        window.CreateEx(0, _T("STATIC"), _T(""), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr);
     }
     /// What exists, and whether the brush is selected.
     std::string State() {
@@ -43,7 +43,7 @@ struct Handles {
 TEST(HandleMemory, NoHandleIsLost) {
     const int failures = testkit::ExpectMemoryRule<Handles>({
         {"pen", OnFailure::False, [](Handles& s) { return s.pen.CreatePen(PS_SOLID, 1, RGB(7, 7, 7)) != 0; }},
-        {"font", OnFailure::False, [](Handles& s) { return s.font.CreatePointFont(90, "Arial") != 0; }},
+        {"font", OnFailure::False, [](Handles& s) { return s.font.CreatePointFont(90, _T("Arial")) != 0; }},
         {"brush in its constructor", OnFailure::False,
          [](Handles&) { return !Throws<CResourceException>([] { CBrush made(RGB(4, 5, 6)); }); }},
         {"region", OnFailure::False, [](Handles& s) { return s.region.CreateEllipticRgn(0, 0, 9, 9) != 0; }},
@@ -58,7 +58,7 @@ TEST(HandleMemory, NoHandleIsLost) {
         {"attach", OnFailure::Throws,
          [](Handles& s) { return s.pen.Attach(::GetStockObject(BLACK_PEN)) != 0; }},
         {"create a window", OnFailure::False,
-         [](Handles& s) { return !!s.child.Create("STATIC", "", WS_CHILD, CRect(), &s.window, 1); }},
+         [](Handles& s) { return !!s.child.Create(_T("STATIC"), _T(""), WS_CHILD, CRect(), &s.window, 1); }},
         {"attach a window", OnFailure::Throws,
          [](Handles& s) { return s.child.Attach(::GetDesktopWindow()) && s.child.Detach() != nullptr; }},
     });

@@ -31,11 +31,11 @@ TEST(Menu, OwnsItsHandleUntilDetached) {
 TEST(Menu, TextsOfAnyLengthAreReadAndRemovedPopupsLive) {
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_STRING, kOpen, "&Open");
+    menu.AppendMenu(MF_STRING, kOpen, _T("&Open"));
     menu.InsertMenu(0, MF_BYPOSITION | MF_STRING, kSave, CString("&Save"));
     CString text("unchanged");
     EXPECT_EQ(5, menu.GetMenuString(0, text, MF_BYPOSITION));
-    EXPECT_STREQ("&Save", text);
+    EXPECT_STREQ(_T("&Save"), text);
     const CString longText('x', 3000);
     EXPECT_TRUE(menu.ModifyMenu(kSave, MF_BYCOMMAND | MF_STRING, kSave, longText));
     menu.GetMenuString(kSave, text, MF_BYCOMMAND);
@@ -43,8 +43,8 @@ TEST(Menu, TextsOfAnyLengthAreReadAndRemovedPopupsLive) {
 
     HMENU const removed = ::CreatePopupMenu();
     HMENU const deleted = ::CreatePopupMenu();
-    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(removed), "First");
-    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(deleted), "Second");
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(removed), _T("First"));
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(deleted), _T("Second"));
     EXPECT_TRUE(menu.RemoveMenu(2, MF_BYPOSITION));
     EXPECT_TRUE(menu.DeleteMenu(2, MF_BYPOSITION));
     EXPECT_TRUE(::IsMenu(removed));

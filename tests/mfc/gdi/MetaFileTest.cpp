@@ -10,7 +10,7 @@ namespace {
 
 TEST(MetaFileDC, RecordsWhatIsDrawnAndPlaysItBack) {
     CMetaFileDC recorder;
-    ASSERT_TRUE(recorder.CreateEnhanced(nullptr, nullptr, nullptr, "Kavlix\0test\0"));
+    ASSERT_TRUE(recorder.CreateEnhanced(nullptr, nullptr, nullptr, _T("Kavlix\0test\0")));
     recorder.FillSolidRect(10, 10, 20, 5, RGB(255, 0, 0));
     HENHMETAFILE const metafile = recorder.CloseEnhanced();
     ASSERT_NE(nullptr, metafile);
@@ -31,10 +31,10 @@ TEST(MetaFileDC, AnswersOnlyWithAnAttributeDC) {
     CClientDC screen(nullptr);
     CMetaFileDC recorder;
     ASSERT_TRUE(recorder.CreateEnhanced(&screen, nullptr, nullptr, nullptr));
-    EXPECT_EQ(CSize(0, 0), recorder.GetTextExtent("text", 4));
+    EXPECT_EQ(CSize(0, 0), recorder.GetTextExtent(_T("text"), 4));
 
     recorder.SetAttribDC(screen.m_hAttribDC);
-    EXPECT_EQ(screen.GetTextExtent("text", 4), recorder.GetTextExtent("text", 4));
+    EXPECT_EQ(screen.GetTextExtent(_T("text"), 4), recorder.GetTextExtent(_T("text"), 4));
     recorder.SetMapMode(MM_ANISOTROPIC);
     recorder.SetWindowExt(30, 30);
     EXPECT_EQ(CSize(30, 30), screen.GetWindowExt())

@@ -19,17 +19,17 @@ class ProfileTest : public testing::TestWithParam<bool> {
 protected:
     void SetUp() override {
         if (GetParam()) {
-            app.SetRegistryKey("Kavlix window tests");
-            EXPECT_STREQ(app.m_pszProfileName, "Scoped");
+            app.SetRegistryKey(_T("Kavlix window tests"));
+            EXPECT_STREQ(app.m_pszProfileName, _T("Scoped"));
         } else {
             SetName(app.m_pszProfileName, folder.Path("profile.ini").c_str());
         }
     }
     void TearDown() override {
         if (GetParam()) {
-            app.WriteProfileString("Section", nullptr, nullptr);
-            ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\Kavlix window tests\\Scoped");
-            ::RegDeleteKey(HKEY_CURRENT_USER, "Software\\Kavlix window tests");
+            app.WriteProfileString(_T("Section"), nullptr, nullptr);
+            ::RegDeleteKey(HKEY_CURRENT_USER, _T("Software\\Kavlix window tests\\Scoped"));
+            ::RegDeleteKey(HKEY_CURRENT_USER, _T("Software\\Kavlix window tests"));
         }
     }
 
@@ -42,31 +42,31 @@ INSTANTIATE_TEST_SUITE_P(Homes, ProfileTest, testing::Bool());
 } // namespace
 
 TEST_P(ProfileTest, ValuesComeBackAsTheyWereWritten) {
-    EXPECT_EQ(app.GetProfileInt("Section", "Number", 31), 31u);
-    EXPECT_TRUE(app.WriteProfileInt("Section", "Number", -5));
-    EXPECT_EQ(static_cast<int>(app.GetProfileInt("Section", "Number", 31)), -5);
+    EXPECT_EQ(app.GetProfileInt(_T("Section"), _T("Number"), 31), 31u);
+    EXPECT_TRUE(app.WriteProfileInt(_T("Section"), _T("Number"), -5));
+    EXPECT_EQ(static_cast<int>(app.GetProfileInt(_T("Section"), _T("Number"), 31)), -5);
 
-    EXPECT_STREQ(app.GetProfileString("Section", "Text", "fallback"), "fallback");
+    EXPECT_STREQ(app.GetProfileString(_T("Section"), _T("Text"), _T("fallback")), _T("fallback"));
     const std::string longText(9000, 'x');
-    EXPECT_TRUE(app.WriteProfileString("Section", "Text", longText.c_str()));
-    EXPECT_EQ(std::string(app.GetProfileString("Section", "Text", "fallback")), longText);
+    EXPECT_TRUE(app.WriteProfileString(_T("Section"), _T("Text"), longText.c_str()));
+    EXPECT_EQ(std::string(app.GetProfileString(_T("Section"), _T("Text"), _T("fallback"))), longText);
 
     BYTE bytes[] = {0, 1, 0x7F, 0x80, 0xFF};
-    EXPECT_TRUE(app.WriteProfileBinary("Section", "Bytes", bytes, sizeof(bytes)));
+    EXPECT_TRUE(app.WriteProfileBinary(_T("Section"), _T("Bytes"), bytes, sizeof(bytes)));
     LPBYTE read = nullptr;
     UINT count = 0;
-    ASSERT_TRUE(app.GetProfileBinary("Section", "Bytes", &read, &count));
+    ASSERT_TRUE(app.GetProfileBinary(_T("Section"), _T("Bytes"), &read, &count));
     EXPECT_EQ(std::vector<BYTE>(read, read + count), std::vector<BYTE>(bytes, bytes + sizeof(bytes)));
     delete[] read;
 }
 
 TEST_P(ProfileTest, NothingInThePlaceOfAValueOrNameDeletes) {
-    app.WriteProfileString("Section", "One", "1");
-    app.WriteProfileString("Section", "Two", "2");
-    EXPECT_TRUE(app.WriteProfileString("Section", "One", nullptr));
-    EXPECT_STREQ(app.GetProfileString("Section", "One", "gone"), "gone");
-    EXPECT_TRUE(app.WriteProfileString("Section", nullptr, nullptr));
-    EXPECT_STREQ(app.GetProfileString("Section", "Two", "gone"), "gone");
+    app.WriteProfileString(_T("Section"), _T("One"), _T("1"));
+    app.WriteProfileString(_T("Section"), _T("Two"), _T("2"));
+    EXPECT_TRUE(app.WriteProfileString(_T("Section"), _T("One"), nullptr));
+    EXPECT_STREQ(app.GetProfileString(_T("Section"), _T("One"), _T("gone")), _T("gone"));
+    EXPECT_TRUE(app.WriteProfileString(_T("Section"), nullptr, nullptr));
+    EXPECT_STREQ(app.GetProfileString(_T("Section"), _T("Two"), _T("gone")), _T("gone"));
 }
 
 TEST(CommandLineTest, FlagsAndNamesAreSorted) {
@@ -77,11 +77,11 @@ TEST(CommandLineTest, FlagsAndNamesAreSorted) {
     };
     CCommandLineInfo open, print;
     EXPECT_EQ(parsed(open, {{"a file.txt", FALSE}}), CCommandLineInfo::FileOpen);
-    EXPECT_STREQ(open.m_strFileName, "a file.txt");
+    EXPECT_STREQ(open.m_strFileName, _T("a file.txt"));
     EXPECT_EQ(
         parsed(print, {{"pt", TRUE}, {"f", FALSE}, {"printer", FALSE}, {"driver", FALSE}, {"port", FALSE}}),
         CCommandLineInfo::FilePrintTo);
-    EXPECT_STREQ(print.m_strFileName + "|" + print.m_strPrinterName + "|" + print.m_strPortName,
+    EXPECT_STREQ(print.m_strFileName + _T("|") + print.m_strPrinterName + _T("|") + print.m_strPortName,
                  "f|printer|port");
 }
 

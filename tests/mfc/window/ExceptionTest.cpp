@@ -20,7 +20,7 @@ public:
     CountedException() { ++g_livingExceptions; }
     ~CountedException() override { --g_livingExceptions; }
     BOOL GetErrorMessage(LPTSTR text, UINT length, PUINT = nullptr) override {
-        ::lstrcpyn(text, "counted", static_cast<int>(length));
+        ::lstrcpyn(text, _T("counted"), static_cast<int>(length));
         return TRUE;
     }
 };

@@ -17,7 +17,7 @@ public:
 protected:
     void OnOfApp() { log.push_back("app"); }
     void OnPassedOn() { log.push_back("app passed on"); }
-    void OnUpdatePassedOn(CCmdUI* ui) { ui->SetText("answered by the application"); }
+    void OnUpdatePassedOn(CCmdUI* ui) { ui->SetText(_T("answered by the application")); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -48,7 +48,7 @@ protected:
         ui->SetRadio(radioOn);
         ui->Enable();
     }
-    void OnUpdateRenamed(CCmdUI* ui) { ui->SetText("renamed"); }
+    void OnUpdateRenamed(CCmdUI* ui) { ui->SetText(_T("renamed")); }
     void OnUpdatePassedOn(CCmdUI* ui) { ui->ContinueRouting(); }
     DECLARE_MESSAGE_MAP()
 
@@ -162,7 +162,7 @@ TEST_F(FrameTest, TheExitCommandEndsTheProgram) {
 TEST_F(FrameTest, ThePaneFillsTheClientArea) {
     auto* const framed = new TestFrame(app.log);
     framed->withPane = true;
-    ASSERT_TRUE(framed->Create(nullptr, "with a pane", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200)));
+    ASSERT_TRUE(framed->Create(nullptr, _T("with a pane"), WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200)));
     const auto fills = [&] {
         CRect client;
         CRect pane;
@@ -178,9 +178,9 @@ TEST_F(FrameTest, ThePaneFillsTheClientArea) {
 }
 
 TEST_F(FrameTest, ButtonsFollowTheirCommandsToo) {
-    const HWND nobodys = windowkit::CreateForeign("BUTTON", frame, ID_NOBODYS, BS_PUSHBUTTON);
-    const HWND ticked = windowkit::CreateForeign("BUTTON", frame, ID_TICKED, BS_CHECKBOX);
-    const HWND unknownBox = windowkit::CreateForeign("BUTTON", frame, ID_NOBODYS + 100, BS_CHECKBOX);
+    const HWND nobodys = windowkit::CreateForeign(_T("BUTTON"), frame, ID_NOBODYS, BS_PUSHBUTTON);
+    const HWND ticked = windowkit::CreateForeign(_T("BUTTON"), frame, ID_TICKED, BS_CHECKBOX);
+    const HWND unknownBox = windowkit::CreateForeign(_T("BUTTON"), frame, ID_NOBODYS + 100, BS_CHECKBOX);
     frame->UpdateDialogControls(frame, TRUE);
     EXPECT_FALSE(::IsWindowEnabled(nobodys));
     EXPECT_EQ(::SendMessage(ticked, BM_GETCHECK, 0, 0), BST_CHECKED);

@@ -37,7 +37,7 @@ protected:
     void SetUp() override {
         CWnd::DeleteTempMap();
         ASSERT_TRUE(CreateTop(window));
-        window.foreign = windowkit::CreateForeign("BUTTON", &window, 5);
+        window.foreign = windowkit::CreateForeign(_T("BUTTON"), &window, 5);
     }
     AskingWnd window;
 };

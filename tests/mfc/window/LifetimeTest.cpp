@@ -169,7 +169,8 @@ TEST_F(LifetimeTest, AFailedCreationCleansUpOnceAndLeavesNothing) {
         log.clear();
         LoggedWnd window(log);
         prepare(window);
-        EXPECT_FALSE(window.CreateEx(0, className, "", WS_OVERLAPPEDWINDOW, 0, 0, 10, 10, nullptr, nullptr));
+        EXPECT_FALSE(
+            window.CreateEx(0, className, _T(""), WS_OVERLAPPEDWINDOW, 0, 0, 10, 10, nullptr, nullptr));
         EXPECT_EQ(window.m_hWnd, nullptr);
         // Systems differ in whether such a window gets a WM_DESTROY before the last message.
         log.erase(std::remove(log.begin(), log.end(), "destroy"), log.end());
@@ -184,7 +185,7 @@ TEST_F(LifetimeTest, AFailedCreationCleansUpOnceAndLeavesNothing) {
 }
 
 TEST_F(LifetimeTest, AttachedWindowsBelongToTheObjectUntilDetached) {
-    const HWND given = CreateForeign("STATIC");
+    const HWND given = CreateForeign(_T("STATIC"));
     {
         CWnd window;
         ASSERT_TRUE(window.Attach(given));
@@ -208,10 +209,10 @@ TEST_F(LifetimeTest, AFrameDeletesItselfAlsoWhenItsCreationFails) {
         bool m_fails;
     };
     auto* const frame = new Frame(log, false);
-    ASSERT_TRUE(frame->Create(nullptr, "frame"));
+    ASSERT_TRUE(frame->Create(nullptr, _T("frame")));
     EXPECT_TRUE(log.empty());
     frame->SendMessage(WM_CLOSE);
     EXPECT_EQ(Taken(log), Log{"deleted"});
-    EXPECT_FALSE((new Frame(log, true))->Create(nullptr, "frame"));
+    EXPECT_FALSE((new Frame(log, true))->Create(nullptr, _T("frame")));
     EXPECT_EQ(log, Log{"deleted"});
 }

@@ -96,7 +96,7 @@ END_MESSAGE_MAP()
 class MessageMapTest : public testing::Test {
 protected:
     void SetUp() override {
-        g_registered = ::RegisterWindowMessage("MessageMapTest");
+        g_registered = ::RegisterWindowMessage(_T("MessageMapTest"));
         for (CWnd* const window : {&other, static_cast<CWnd*>(&base), static_cast<CWnd*>(&derived)})
             ASSERT_TRUE(CreateTop(*window));
         base.other = derived.other = other.m_hWnd;

@@ -25,7 +25,7 @@ protected:
     /// The first module of the chain with a version resource. Each module in these tests has one.
     static HINSTANCE VersionOwner() { return AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION); }
     void SetUp() override {
-        kavlix = AfxLoadLibrary("Kavlix.dll");
+        kavlix = AfxLoadLibrary(_T("Kavlix.dll"));
         ASSERT_NE(kavlix, nullptr);
     }
     void TearDown() override {
@@ -60,7 +60,7 @@ TEST_F(ModuleTest, TheResourceModuleComesFirst) {
 
 TEST_F(ModuleTest, AnExtensionModulesLinksAndClassesEndWithIt) {
     AFX_EXTENSION_MODULE module{};
-    const HINSTANCE dll = ::GetModuleHandle("gdi32.dll");
+    const HINSTANCE dll = ::GetModuleHandle(_T("gdi32.dll"));
     ASSERT_TRUE(AfxInitExtensionModule(module, dll));
     new CDynLinkLibrary(module);
     EXPECT_EQ(VersionOwner(), dll);
@@ -68,12 +68,12 @@ TEST_F(ModuleTest, AnExtensionModulesLinksAndClassesEndWithIt) {
     WNDCLASS ofDll{};
     ofDll.lpfnWndProc = ::DefWindowProc;
     ofDll.hInstance = dll;
-    ofDll.lpszClassName = "ModuleTestOfDll";
+    ofDll.lpszClassName = _T("ModuleTestOfDll");
     EXPECT_TRUE(AfxRegisterClass(&ofDll));
     AfxTermExtensionModule(module);
     EXPECT_EQ(VersionOwner(), kavlix);
     WNDCLASS found{};
-    EXPECT_FALSE(::GetClassInfo(dll, "ModuleTestOfDll", &found));
+    EXPECT_FALSE(::GetClassInfo(dll, _T("ModuleTestOfDll"), &found));
 }
 
 TEST_F(ModuleTest, AManagedStateLendsItsResourcesForAScope) {
@@ -102,10 +102,10 @@ TEST_F(ModuleTest, TextsAreCutAndFilledIn) {
     EXPECT_STREQ(small, "the ");
 
     CString text;
-    AfxFormatString2(text, IDS_TEMPLATE, "first", "second");
-    EXPECT_STREQ(text, "first of second (first), %%");
-    AfxFormatString1(text, IDS_TEMPLATE, "%2");
-    EXPECT_STREQ(text, "%2 of  (%2), %%") << "inserted text is not looked through again";
+    AfxFormatString2(text, IDS_TEMPLATE, _T("first"), _T("second"));
+    EXPECT_STREQ(text, _T("first of second (first), %%"));
+    AfxFormatString1(text, IDS_TEMPLATE, _T("%2"));
+    EXPECT_STREQ(text, _T("%2 of  (%2), %%")) << _T("inserted text is not looked through again");
 
     EXPECT_EQ(Loaded(AFX_IDP_PARSE_INT), "Enter an integer.") << "the library's own";
     EXPECT_EQ(Loaded(AFX_IDP_PARSE_BYTE), "the program's wording") << "goes first";

@@ -58,10 +58,10 @@ protected:
         WNDCLASS windowClass{};
         windowClass.lpfnWndProc = OriginalProc;
         windowClass.hInstance = AfxGetInstanceHandle();
-        windowClass.lpszClassName = "SubclassTestWindow";
+        windowClass.lpszClassName = _T("SubclassTestWindow");
         ASSERT_TRUE(AfxRegisterClass(&windowClass));
         ASSERT_TRUE(parent.m_hWnd != nullptr || CreateTop(parent));
-        target = windowkit::CreateForeign("SubclassTestWindow", &parent, 9);
+        target = windowkit::CreateForeign(_T("SubclassTestWindow"), &parent, 9);
         ASSERT_NE(target, nullptr);
         g_original.clear();
     }

@@ -53,12 +53,12 @@ TEST_F(WindowApiTest, CenteringKeepsTheWindowInsideItsArea) {
 }
 
 TEST_F(WindowApiTest, AnExchangeIsNotTakenForTheUsersInput) {
-    ASSERT_NE(windowkit::CreateForeign("EDIT", &window, 4), nullptr);
+    ASSERT_NE(windowkit::CreateForeign(_T("EDIT"), &window, 4), nullptr);
     ASSERT_TRUE(window.UpdateData(FALSE));
     CString text;
     window.GetDlgItemText(4, text);
-    EXPECT_STREQ(text, "set by the exchange");
+    EXPECT_STREQ(text, _T("set by the exchange"));
     EXPECT_EQ(window.changes, 0);
-    window.SetDlgItemText(4, "set by hand");
+    window.SetDlgItemText(4, _T("set by hand"));
     EXPECT_EQ(window.changes, 1);
 }

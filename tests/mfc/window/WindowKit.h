@@ -27,19 +27,19 @@ inline Log Taken(Log& log) {
 }
 /// Makes a hidden popup window for `window`. Popups become visible without a window manager.
 inline BOOL CreateTop(CWnd& window) {
-    return window.CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), "top", WS_POPUP, 0, 0, 200, 100, nullptr,
+    return window.CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), _T("top"), WS_POPUP, 0, 0, 200, 100, nullptr,
                            nullptr);
 }
 
 /// Makes a child with the command ID `id`.
 inline BOOL CreateChild(CWnd& window, CWnd& parent, UINT id) {
-    return window.Create(nullptr, "child", WS_CHILD, CRect(0, 0, 50, 20), &parent, id);
+    return window.Create(nullptr, _T("child"), WS_CHILD, CRect(0, 0, 50, 20), &parent, id);
 }
 
 /// Makes a hidden window of a class of the system, without an object. With `parent`, the window is a child
 /// with the ID `id`.
 inline HWND CreateForeign(LPCTSTR className, CWnd* parent = nullptr, int id = 0, DWORD style = 0) {
-    return ::CreateWindow(className, "", style | (parent != nullptr ? WS_CHILD : 0), 0, 0, 10, 10,
+    return ::CreateWindow(className, _T(""), style | (parent != nullptr ? WS_CHILD : 0), 0, 0, 10, 10,
                           parent != nullptr ? parent->m_hWnd : nullptr,
                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), AfxGetInstanceHandle(), nullptr);
 }
@@ -68,7 +68,7 @@ struct FormerApp {
 /// Replaces the test program's application while the object exists. Logs message boxes, which are not shown.
 class ScopedApp : private FormerApp, public CWinApp {
 public:
-    ScopedApp() : CWinApp("Scoped") { m_hInstance = AfxGetInstanceHandle(); }
+    ScopedApp() : CWinApp(_T("Scoped")) { m_hInstance = AfxGetInstanceHandle(); }
     ~ScopedApp() override { AfxGetModuleState()->m_pCurrentWinApp = former; }
 
     std::vector<std::string> boxes; ///< texts of message boxes

@@ -6,12 +6,15 @@
 #include <utility>
 
 #include "chartdraw/ChartDrawDataset.h"
+#include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
 #include "plot/RoundScale.h"
 
 using namespace kavlix;
 
 BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
+    ON_WM_NCCREATE()
+
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
 END_MESSAGE_MAP()
@@ -26,6 +29,16 @@ BOOL CChartDraw::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT 
     const LPCTSTR windowClass =
         AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
     return CWnd::Create(windowClass, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CChartDraw::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    StopMirroring(*this);
+}
+
+BOOL CChartDraw::OnNcCreate(LPCREATESTRUCT) {
+    StopMirroring(*this);
+    return static_cast<BOOL>(Default());
 }
 
 void CChartDraw::Redraw() {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "gdi/Mirroring.h"
 #include "graph/GraphPass.h"
 #include "graph/GraphStyle.h"
 #include "plot/Numeric.h"
@@ -51,6 +52,7 @@ void CGraph::DrawGraph(CDC* pDC) {
 }
 
 void CGraph::DrawPicture(CDC& dc, const GraphFrame& frame) {
+    const UnmirroredGuard unmirrored(dc);
     GraphPass shared(dc, frame, {*seriesList, colorList, seriesSize}, GraphTypeOf(graphType));
     shared.bySeries = legendBySeries && shared.type.Has(kColourBySeries);
     shared.labelFont = xTickFontSize;

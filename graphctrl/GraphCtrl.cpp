@@ -16,6 +16,8 @@ constexpr COLORREF kDatasetColors[CGraphCtrl::DatasetCount] = {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CGraphCtrl, CWnd)
+    ON_WM_NCCREATE()
+
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CGraphCtrl::OnPrintClient)
 

@@ -1,5 +1,10 @@
-// CGraphCtrl in a window of another class, for example a dialog item: keeps the behaviour of that class out.
+// CGraphCtrl in a window of another class, for example a dialog item, or with a mirrored parent: keeps the behaviour of
+// that class and the mirroring out.
 #include <kavlix/GraphCtrl.h>
+
+#include "gdi/Mirroring.h"
+
+using namespace kavlix;
 
 namespace {
 
@@ -13,6 +18,7 @@ bool RepaintsOnSize(HWND window) {
 
 void CGraphCtrl::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
+    StopMirroring(*this);
     // Hide the child windows of a combo box, which would cover the picture and receive the mouse. Other child
     // windows belong to the host.
     COMBOBOXINFO combo = {};
@@ -22,6 +28,11 @@ void CGraphCtrl::PreSubclassWindow() {
     for (HWND part : {combo.hwndItem, combo.hwndList})
         if (part != m_hWnd && ::IsChild(m_hWnd, part))
             ::ShowWindow(part, SW_HIDE);
+}
+
+BOOL CGraphCtrl::OnNcCreate(LPCREATESTRUCT) {
+    StopMirroring(*this);
+    return static_cast<BOOL>(Default());
 }
 
 LRESULT CGraphCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <new>
 
+#include "gdi/Mirroring.h"
 #include "gdi/ShapeConversion.h"
 #include "piechart/core/PieGeometry.h"
 
@@ -24,6 +25,8 @@ void MakePieFont(CFont& font, int height) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPieChartCtrl, CWnd)
+    ON_WM_NCCREATE()
+
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CPieChartCtrl::OnPrintClient)
     ON_WM_ERASEBKGND()
@@ -46,6 +49,16 @@ CPieChartCtrl::CPieChartCtrl() {
 
 CPieChartCtrl::~CPieChartCtrl() {
     Reset();
+}
+
+void CPieChartCtrl::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    StopMirroring(*this);
+}
+
+BOOL CPieChartCtrl::OnNcCreate(LPCREATESTRUCT) {
+    StopMirroring(*this);
+    return static_cast<BOOL>(Default());
 }
 
 BOOL CPieChartCtrl::RegisterWndClass(HINSTANCE hInstance) {

@@ -30,6 +30,9 @@ typedef HANDLE HDIB;
 ///
 /// Data and properties can be set without a window. Setting them does not repaint: call Redraw. Use the chart
 /// on the thread that owns its window.
+///
+/// A mirrored parent window (WS_EX_LAYOUTRTL) does not mirror the control: picture and mouse positions run from
+/// left to right.
 class KAVLIX_API CChartDraw : public CWnd {
 public:
     /// An empty chart without a window.
@@ -188,6 +191,9 @@ protected:
     /// Draws the lines and markers of all visible datasets.
     virtual void DrawDatasets(CDC& dc);
 
+    void PreSubclassWindow() override;
+
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

@@ -196,8 +196,8 @@ public:
     /// Paints the graph with its upper left corner at (0, 0), in the size of `parentWindow`'s client area.
     /// The DC should be in MM_TEXT: a logical unit is taken as a pixel. The DC's pen draws the edges of the
     /// picture, the legend box and the legend's colour boxes; the DC's brush fills the legend box. Restores
-    /// the DC's state. Does nothing without a DC or a window. When memory runs out, the picture is incomplete
-    /// and the exception passes on.
+    /// the DC's state. A mirrored DC draws the same picture, unmirrored. Does nothing without a DC or a window.
+    /// When memory runs out, the picture is incomplete and the exception passes on.
     void DrawGraph(CDC* pDC);
     /// Paints the same picture in MM_TWIPS into the rectangle of SetMargins, at the DC's own resolution.
     /// Fonts and line widths are those of a screen with 96 dots to the inch. The picture ends at the lower

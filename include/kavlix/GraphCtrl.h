@@ -43,6 +43,9 @@ struct TickRoom;
 /// far outside the plot. Datasets whose visible range has the width 0 are not drawn. A value axis whose
 /// minimum is above its maximum is upside down. An X range whose minimum is above its maximum shows neither
 /// ticks nor bars.
+///
+/// A mirrored parent window (WS_EX_LAYOUTRTL) does not mirror the control: picture and mouse positions run from
+/// left to right.
 class KAVLIX_API CGraphCtrl : public CWnd {
 public:
     /// How the datasets are drawn. With any other value neither data nor X ticks are drawn.
@@ -326,6 +329,7 @@ protected:
     /// window of another class: that class's procedure gets only the messages of creation and destruction.
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);

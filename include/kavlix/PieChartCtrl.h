@@ -54,6 +54,9 @@ public:
 /// Selection: the sector has the selection's colour, and its texts are white. If any visible piece has nearly
 /// the selection's colour itself, a line inside the sector marks the selection, unless the sector is too
 /// narrow for the line.
+///
+/// A mirrored parent window (WS_EX_LAYOUTRTL) does not mirror the control: picture and mouse positions run from
+/// left to right.
 class KAVLIX_API CPieChartCtrl : public CWnd {
 public:
     /// Makes the fonts and tries to register the window class "PIE_CHART_CTRL". Creates no window.
@@ -120,6 +123,9 @@ protected:
     /// label boxes to the pieces' `m_rcItem`. Restores the DC's state. Does nothing without a window.
     void DrawPie(CDC& dc);
 
+    void PreSubclassWindow() override;
+
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);

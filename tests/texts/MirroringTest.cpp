@@ -14,7 +14,7 @@ using testkit::RecordingParent;
 
 namespace {
 
-constexpr CRect kPlace(0, 0, 320, 240);
+const CRect kPlace(0, 0, 320, 240);
 constexpr UINT kId = 7;
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE;
 
@@ -52,9 +52,9 @@ std::unique_ptr<CWnd> FilledChart() {
 /// Makes the control's window, or binds the control to a window of another class.
 BOOL Show(CWnd& control, CWnd& parent, bool isBound) {
     if (isBound)
-        return control.SubclassWindow(::CreateWindow(_T("STATIC"), _T(""), kStyle, 0, 0, kPlace.right, kPlace.bottom,
-                                                     parent.m_hWnd, reinterpret_cast<HMENU>(UINT_PTR{kId}),
-                                                     AfxGetInstanceHandle(), nullptr));
+        return control.SubclassWindow(
+            ::CreateWindow(_T("STATIC"), _T(""), kStyle, 0, 0, kPlace.right, kPlace.bottom, parent.m_hWnd,
+                           reinterpret_cast<HMENU>(UINT_PTR{kId}), AfxGetInstanceHandle(), nullptr));
     const LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW);
     return control.Create(name, _T(""), kStyle, kPlace, &parent, kId);
 }
@@ -115,7 +115,7 @@ TEST(Mirroring, ParentsDoNotMirrorTheirCharts) {
 TEST(Mirroring, AGraphOnAMirroredDcIsNotMirrored) {
     RecordingParent parent;
     ASSERT_TRUE(parent.CreateVisible(kPlace.right, kPlace.bottom)) << "no display";
-    CGraph graph(CGraph::GraphTypeBar);
+    CGraph graph(GraphTypeBar);
     graph.parentWindow = &parent;
     DibSurface plain(kPlace.right, kPlace.bottom);
     DibSurface mirrored(kPlace.right, kPlace.bottom);

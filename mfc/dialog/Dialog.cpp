@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include "mfc/control/CommonControlInit.h"
+#include "mfc/dialog/CommandRoute.h"
 #include "mfc/dialog/DialogTemplate.h"
 #include "mfc/dialog/ModalOwner.h"
 
@@ -17,32 +18,10 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr UINT kFirstCommandId = 0x8000; // smaller IDs belong to controls and are not routed further
-constexpr UINT kFirstSystemId = 0xF000;
-
 /// A dialog procedure that handles nothing: AfxWndProc() has already passed the message to the message map.
 INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
-
-/// Disables a window while the object exists.
-class DisabledWindow {
-public:
-    explicit DisabledWindow(HWND window)
-        : m_window(window != nullptr && ::IsWindowEnabled(window) ? window : nullptr) {
-        if (m_window != nullptr)
-            ::EnableWindow(m_window, FALSE);
-    }
-    ~DisabledWindow() {
-        if (m_window != nullptr)
-            ::EnableWindow(m_window, TRUE);
-    }
-    DisabledWindow(const DisabledWindow&) = delete;
-    DisabledWindow& operator=(const DisabledWindow&) = delete;
-
-private:
-    HWND m_window;
-};
 
 /// Destroys the window of a modal dialog, also when an exception ends the loop. The owners must be enabled
 /// before the window is destroyed or hidden: otherwise Windows would activate a window of another program.
@@ -53,17 +32,7 @@ public:
     ModalWindow(const ModalWindow&) = delete;
     ModalWindow& operator=(const ModalWindow&) = delete;
 
-    /// Hides the window and activates the owner.
-    void HandOver() {
-        HWND const window = m_dialog.m_hWnd;
-        if (window == nullptr)
-            return;
-        const bool wasActive = ::GetActiveWindow() == window;
-        ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
-                       SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-        if (wasActive && m_owner != nullptr)
-            ::SetActiveWindow(m_owner);
-    }
+    void HandOver() { ::HandOver(m_dialog.m_hWnd, m_owner); }
 
 private:
     CDialog& m_dialog;
@@ -262,14 +231,6 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
 }
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    const bool command = nCode == CN_COMMAND || nCode == static_cast<int>(CN_UPDATE_COMMAND_UI);
-    if (!command || nID < kFirstCommandId || nID >= kFirstSystemId)
-        return FALSE;
-    CWnd* const parent = GetParent();
-    if (parent != nullptr && parent->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    CWinThread* const thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           PassCommandOn(*this, nID, nCode, pExtra, pHandlerInfo);
 }

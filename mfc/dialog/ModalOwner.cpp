@@ -30,3 +30,13 @@ HWND TopmostOwner(HWND window) {
     }
     return window;
 }
+
+void HandOver(HWND window, HWND owner) {
+    if (window == nullptr)
+        return;
+    const bool wasActive = ::GetActiveWindow() == window;
+    ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                   SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    if (wasActive && owner != nullptr)
+        ::SetActiveWindow(owner);
+}

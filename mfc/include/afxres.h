@@ -35,6 +35,18 @@
 #define ID_FILE_MRU_FILE2 0xE111
 #define ID_FILE_MRU_FILE3 0xE112
 #define ID_FILE_MRU_FILE4 0xE113
+#define ID_FILE_MRU_FILE5 0xE114
+#define ID_FILE_MRU_FILE6 0xE115
+#define ID_FILE_MRU_FILE7 0xE116
+#define ID_FILE_MRU_FILE8 0xE117
+#define ID_FILE_MRU_FILE9 0xE118
+#define ID_FILE_MRU_FILE10 0xE119
+#define ID_FILE_MRU_FILE11 0xE11A
+#define ID_FILE_MRU_FILE12 0xE11B
+#define ID_FILE_MRU_FILE13 0xE11C
+#define ID_FILE_MRU_FILE14 0xE11D
+#define ID_FILE_MRU_FILE15 0xE11E
+#define ID_FILE_MRU_FILE16 0xE11F
 #define ID_FILE_MRU_LAST 0xE11F
 
 #define ID_EDIT_CLEAR 0xE120
@@ -95,10 +107,32 @@
 #define AFX_IDI_STD_MDIFRAME 0x7801
 #define AFX_IDI_STD_FRAME 0x7802
 
-// Strings. An application may define them. The library has an English text for AFX_IDS_IDLEMESSAGE only
+// Buttons of property sheets
+#define ID_APPLY_NOW 0x3021
+#define ID_WIZBACK 0x3023
+#define ID_WIZNEXT 0x3024
+#define ID_WIZFINISH 0x3025
+
+// Strings. An application may define them. The library has English texts for AFX_IDS_IDLEMESSAGE and for the
+// indicators ID_INDICATOR_... of the status bar
 #define AFX_IDS_APP_TITLE 0xE000
 #define AFX_IDS_IDLEMESSAGE 0xE001
 #define AFX_IDS_HELPMODEMESSAGE 0xE002
+
+// Messages of the status bar while an item of the system menu is selected: AFX_IDS_SCFIRST plus a sixteenth of the
+// difference between the command and SC_SIZE. An application may define them
+#define AFX_IDS_SCFIRST 0xEF00
+#define AFX_IDS_SCSIZE 0xEF00
+#define AFX_IDS_SCMOVE 0xEF01
+#define AFX_IDS_SCMINIMIZE 0xEF02
+#define AFX_IDS_SCMAXIMIZE 0xEF03
+#define AFX_IDS_SCNEXTWINDOW 0xEF04
+#define AFX_IDS_SCPREVWINDOW 0xEF05
+#define AFX_IDS_SCCLOSE 0xEF06
+#define AFX_IDS_SCRESTORE 0xEF12
+#define AFX_IDS_SCTASKLIST 0xEF13
+// Message for items that other programs add to the system menu
+#define AFX_IDS_DESKACCESSORY 0xEF1E
 
 // Prompts. The library has English texts for all except AFX_IDP_USER_BREAK. A string with the same ID in the
 // application replaces the library's text.

@@ -1,8 +1,9 @@
-// CWinApp, and the start and end of a program. The profile data are in Profile.cpp.
+// CWinApp, and the start and end of a program. The profile data are in Profile.cpp, recent files in RecentFiles.cpp.
 
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
+#include "afx/RecentFiles.h"
 #include "afxmsg_.h"
 #include "afxres.h"
 
@@ -15,6 +16,8 @@ IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
     ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+    ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
+    ON_COMMAND_EX_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE16, &CWinApp::OnOpenRecentFile)
 END_MESSAGE_MAP()
 
 namespace {
@@ -72,6 +75,7 @@ CWinApp::~CWinApp() {
         state->m_pCurrentWinApp = nullptr;
     if (state->m_lpszCurrentAppName == m_pszAppName)
         state->m_lpszCurrentAppName = nullptr;
+    delete m_pRecentFileList;
     for (const LPCTSTR name :
          {m_pszAppName, m_pszExeName, m_pszHelpFilePath, m_pszProfileName, m_pszRegistryKey})
         std::free(const_cast<LPTSTR>(name));
@@ -112,6 +116,7 @@ int CWinApp::Run() {
 }
 
 int CWinApp::ExitInstance() {
+    SaveStdProfileSettings();
     return CWinThread::ExitInstance();
 }
 

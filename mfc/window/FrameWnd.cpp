@@ -1,4 +1,4 @@
-// CFrameWnd.
+// CFrameWnd. What concerns its control bars and messages is in FrameBars.cpp.
 
 #include "mfc/window/ThreadState.h"
 
@@ -6,6 +6,7 @@
 #include "afx/FrameWnd.h"
 #include "afx/Menu.h"
 #include "afxmsg_.h"
+#include "afxpriv.h"
 
 #include <algorithm>
 
@@ -21,6 +22,15 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_SETFOCUS()
 
     ON_WM_INITMENUPOPUP()
+    ON_WM_MENUSELECT()
+    ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
+    ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnSetMessageString)
+
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, &CFrameWnd::OnUpdateKeyIndicator)
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -49,6 +59,14 @@ HMENU FindParentMenu(HMENU menu, HMENU popup) {
             return found;
     }
     return nullptr;
+}
+
+/// The position of the item with the command `id` in `menu` itself; -1 if there is none.
+int PositionOf(HMENU menu, UINT id) {
+    int position = ::GetMenuItemCount(menu) - 1;
+    while (position >= 0 && ::GetMenuItemID(menu, position) != id)
+        --position;
+    return position;
 }
 
 } // namespace
@@ -159,6 +177,8 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (!OnCreateClient(lpCreateStruct, static_cast<CCreateContext*>(lpCreateStruct->lpCreateParams)))
         return -1;
     RecalcLayout();
+    // Posted: a derived class creates its status bar after this call.
+    PostMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
     return 0;
 }
 
@@ -193,12 +213,11 @@ BOOL CFrameWnd::OnEraseBkgnd(CDC* pDC) {
 }
 
 void CFrameWnd::RecalcLayout(BOOL) {
-    const HWND pane = m_hWnd != nullptr ? ::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST) : nullptr;
-    if (pane == nullptr)
+    if (m_hWnd == nullptr || m_bLayingOut)
         return;
-    RECT client{};
-    ::GetClientRect(m_hWnd, &client);
-    ::SetWindowPos(pane, nullptr, 0, 0, client.right, client.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
+    m_bLayingOut = true;
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST);
+    m_bLayingOut = false;
 }
 
 void CFrameWnd::ActivateFrame(int nCmdShow) {
@@ -236,14 +255,14 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu) {
                 continue;
             state.DoUpdate(this, FALSE);
         }
-        // The handler may have added or removed items. After a removal, the loop steps back by the number of
-        // removed items and then skips items with the command of the handler.
+        // The handler may have added or removed items. After a removal, the loop goes on behind the item itself.
+        // If the handler removed the item too, some items may be updated twice, but none is left out.
         const UINT count = static_cast<UINT>(::GetMenuItemCount(pMenu->m_hMenu));
         if (count < state.m_nIndexMax) {
-            state.m_nIndex -= std::min(state.m_nIndexMax - count, state.m_nIndex);
-            while (state.m_nIndex < count &&
-                   ::GetMenuItemID(pMenu->m_hMenu, static_cast<int>(state.m_nIndex)) == state.m_nID)
-                ++state.m_nIndex;
+            const int present = PositionOf(pMenu->m_hMenu, state.m_nID);
+            const int removed = static_cast<int>(state.m_nIndexMax - count);
+            const int next = present >= 0 ? present + 1 : std::max(index + 1 - removed, 0);
+            state.m_nIndex = static_cast<UINT>(next - 1); // the loop adds 1
         }
         state.m_nIndexMax = count;
     }

@@ -58,6 +58,18 @@ LPCTSTR OwnText(UINT id) {
     switch (id) {
     case AFX_IDS_IDLEMESSAGE:
         return _T("Ready");
+    case ID_INDICATOR_EXT:
+        return _T("EXT");
+    case ID_INDICATOR_CAPS:
+        return _T("CAP");
+    case ID_INDICATOR_NUM:
+        return _T("NUM");
+    case ID_INDICATOR_SCRL:
+        return _T("SCRL");
+    case ID_INDICATOR_OVR:
+        return _T("OVR");
+    case ID_INDICATOR_REC:
+        return _T("REC");
     case AFX_IDP_NO_ERROR_AVAILABLE:
         return _T("No error message is available.");
     case AFX_IDP_INTERNAL_FAILURE:

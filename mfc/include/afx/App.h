@@ -3,6 +3,12 @@
 
 #include "afx/Thread.h"
 
+class CDocument;
+class CRecentFileList;
+
+/// Default number of recent files.
+#define _AFX_MRU_COUNT 4
+
 /// The command line's meaning, filled in by CWinApp::ParseCommandLine().
 class MFC_API CCommandLineInfo : public CObject {
 public:
@@ -86,6 +92,14 @@ public:
     BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
+    // ---- Recent files ----
+
+    /// Puts a file in the first place of the recent files. Does nothing before LoadStdProfileSettings().
+    virtual void AddToRecentFileList(LPCTSTR lpszPathName);
+    /// Opens a file, of the command line or of the recent files. The library has no documents, so the base opens
+    /// nothing and returns NULL, which stands for failure.
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName);
+
     // ---- Behaviour ----
 
     void ParseCommandLine(CCommandLineInfo& rCmdInfo);
@@ -118,6 +132,21 @@ public:
     afx_msg void OnHelpUsing();
 
 protected:
+    /// Reads the recent files, at most `nMaxMRU`, from the profile data. Call the function in InitInstance(), after
+    /// SetRegistryKey(). The menu item ID_FILE_MRU_FILE1 then shows the files. 0 keeps no recent files.
+    void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
+    /// Writes the recent files. ExitInstance() calls the function.
+    void SaveStdProfileSettings();
+    CRecentFileList* m_pRecentFileList =
+        nullptr; ///< NULL before LoadStdProfileSettings(); owned by the object
+
+    /// Shows the recent files in place of the menu item ID_FILE_MRU_FILE1.
+    afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
+    /// Passes the recent file of the command ID_FILE_MRU_FILE1 to ID_FILE_MRU_FILE16 to OpenDocumentFile(). Removes
+    /// the file from the list if it cannot be opened. Programs that open files without documents handle the
+    /// commands in their frame window (ON_COMMAND_EX_RANGE).
+    afx_msg BOOL OnOpenRecentFile(UINT nID);
+
     friend MFC_API BOOL AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
 
     void SetCurrentHandles();

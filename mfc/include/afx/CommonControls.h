@@ -39,10 +39,6 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-
-private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
 };
 
 /// A progress bar. The initial range is 0 to 100, the initial step 10.
@@ -67,8 +63,6 @@ public:
     int SetStep(int nStep) { return afx_control::Ask(m_hWnd, PBM_SETSTEP, Param(nStep)); }
 
 private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
 
@@ -111,10 +105,6 @@ public:
     }
     void GetChannelRect(LPRECT lprc) const;
     void GetThumbRect(LPRECT lprc) const;
-
-private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
 };
 
 /// An up-down control, often next to an edit control (its buddy).
@@ -148,10 +138,6 @@ public:
     CWnd* GetBuddy() const;
     BOOL SetAccel(int nAccel, UDACCEL* pAccel);
     UINT GetAccel(int nAccel, UDACCEL* pAccel) const;
-
-private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
 };
 
 /// A tooltip window for the controls of a window. The program passes mouse messages to RelayEvent(), usually
@@ -191,8 +177,4 @@ public:
     int SetMaxTipWidth(int iWidth) { return afx_control::Ask(m_hWnd, TTM_SETMAXTIPWIDTH, 0, iWidth); }
     int GetMaxTipWidth() const { return afx_control::Ask(m_hWnd, TTM_GETMAXTIPWIDTH); }
     void Pop() { afx_control::Ask(m_hWnd, TTM_POP); }
-
-private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
 };

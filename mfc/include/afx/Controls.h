@@ -46,8 +46,6 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
     LRESULT SetImage(UINT kind, HANDLE image);
     LRESULT GetImage(UINT kind) const;
 };
@@ -85,10 +83,6 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-
-private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
 };
 
 /// An edit control with one line or several lines. Character positions count from 0 through the whole text.
@@ -170,8 +164,6 @@ public:
     void Paste() { afx_control::Ask(m_hWnd, WM_PASTE); }
 
 private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
     static WPARAM Position(int index) { return static_cast<WPARAM>(static_cast<INT_PTR>(index)); }
 };
 
@@ -202,10 +194,6 @@ public:
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
     /// The largest position that the user can reach: nMax - (nPage - 1), or nMax if nPage is 0.
     int GetScrollLimit();
-
-private:
-    // Private: CWnd::Create() takes a window class, but this control always has its own class.
-    using CWnd::Create;
 };
 
 #include "afx/ListControls.h"

@@ -99,6 +99,18 @@ template <class... Args> void AfxTrace(LPCTSTR format, Args... args) {
 #define DEBUG_NEW new
 #endif
 
+/// Checks of arguments. Like ASSERT(f), and in every build a false `f` calls `exception`: an expression that throws,
+/// such as AfxThrowMemoryException(). ENSURE() and ENSURE_ARG() throw CInvalidArgException*.
+#define ENSURE_THROW(f, exception)                                                                           \
+    do {                                                                                                     \
+        const bool afxHolds = !!(f);                                                                         \
+        ASSERT(afxHolds&& #f);                                                                               \
+        if (!afxHolds)                                                                                       \
+            exception;                                                                                       \
+    } while (false)
+#define ENSURE(f) ENSURE_THROW(f, ::AfxThrowInvalidArgException())
+#define ENSURE_ARG(f) ENSURE(f)
+
 #define TRACE0(sz) TRACE(_T("%s"), _T(sz))
 #define TRACE1(sz, p1) TRACE(_T(sz), p1)
 #define TRACE2(sz, p1, p2) TRACE(_T(sz), p1, p2)

@@ -78,8 +78,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // Private: CWnd::Create() takes a window class, but a dialog is created from a template.
-    using CWnd::Create;
+    friend class CPropertyPage;
 
     BOOL CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner);
     LPCDLGTEMPLATE FindTemplate();

@@ -4,6 +4,8 @@
 #include "afx/Wnd.h"
 #include "afxres.h"
 
+class CControlBar;
+
 /// Styles for frame windows that show a document's name in their title. The library has no documents, so
 /// neither style has an effect.
 #define FWS_ADDTOTITLE 0x00008000L
@@ -43,9 +45,22 @@ public:
     virtual void ActivateFrame(int nCmdShow = -1);
     /// The active frame. A CFrameWnd without child frames returns itself.
     virtual CFrameWnd* GetActiveFrame() { return this; }
-    /// Moves the child AFX_IDW_PANE_FIRST to fill the client area. Called at creation and after each change
-    /// of size except minimising.
+    /// Moves the control bars to their edges, and the child AFX_IDW_PANE_FIRST into the rest of the client area.
+    /// Called at creation and after each change of size except minimising.
     virtual void RecalcLayout(BOOL bNotify = TRUE);
+
+    /// The control bar with this ID; NULL if there is none.
+    CControlBar* GetControlBar(UINT nID);
+    /// Shows or hides the bar and lays the frame out anew; with `bDelay` in the next idle time of the program.
+    void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
+    /// Sets the text of the message line, until the next menu or command shows its own.
+    void SetMessageText(LPCTSTR lpszText);
+    /// The text is the first line of a string resource.
+    void SetMessageText(UINT nID);
+    /// The window with the message line: the status bar; NULL if there is none.
+    virtual CWnd* GetMessageBar();
+    /// The message for a command: the first line of the string resource with its ID. Empty if there is none.
+    virtual void GetMessageString(UINT nID, CString& rMessage) const;
     CString GetTitle() const { return m_strTitle; }
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
     virtual HACCEL GetDefaultAccelerator() { return m_hAccelTable; }
@@ -72,11 +87,22 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
+    /// Show and hide the bar whose ID is that of the command, such as ID_VIEW_STATUS_BAR.
+    afx_msg BOOL OnBarCheck(UINT nID);
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
+    /// Enables the pane while its key is on.
+    afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
 
     HACCEL m_hAccelTable = nullptr;
     UINT m_nIDHelp = 0;
     CString m_strTitle;
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    UINT m_nIDLastMessage = 0; // the string that the message line shows; 0 for another text
+    bool m_bLayingOut = false;
 };

@@ -157,6 +157,14 @@ public:
     /// Converts a client rectangle to the window rectangle around it. With `nAdjustType` 0, the border of
     /// WS_EX_CLIENTEDGE is left out.
     virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = 0);
+    enum { reposDefault = 0, reposQuery = 1, reposExtra = 2 };
+    /// Moves the control bars among the children with IDs from `nIDFirst` to `nIDLast` to their edges of the client
+    /// area, or of `lpRectClient`. The child `nIDLeftOver` fills the room that is left; with reposExtra, less the
+    /// margins in `lpRectParam`. With reposQuery nothing moves, and `*lpRectParam` receives that room. `bStretch`
+    /// TRUE: bars are as wide as the client area; FALSE: they have their own width, and reposQuery answers their
+    /// size.
+    void RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlag = reposDefault,
+                        LPRECT lpRectParam = nullptr, LPCRECT lpRectClient = nullptr, BOOL bStretch = TRUE);
 
     // ---- Painting ----
 

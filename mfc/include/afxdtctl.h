@@ -1,0 +1,4 @@
+// What programs with date and time controls include. The library has the common controls of afxcmn.h only.
+#pragma once
+
+#include <afxcmn.h>

@@ -1,0 +1,6 @@
+// Objects that synchronise threads, and locks on them.
+#pragma once
+
+#include "afx/Locks.h"
+#include "afx/SyncObject.h"
+#include <afx.h>

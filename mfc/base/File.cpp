@@ -148,7 +148,7 @@ CFile* CFile::Duplicate() const {
                            DUPLICATE_SAME_ACCESS))
         CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), m_strFileName);
     file->m_hFile = copy;
-    file->m_bCloseOnDelete = m_bCloseOnDelete;
+    file->m_bCloseOnDelete = TRUE; // the copy is the new object's own, also of a borrowed handle
     return file.release();
 }
 

@@ -3,6 +3,7 @@
 #include "afx/Controls.h"
 
 #include <algorithm>
+#include <climits>
 
 IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 
@@ -30,5 +31,7 @@ int CScrollBar::GetScrollLimit() {
     SCROLLINFO info{};
     if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE))
         return 0;
-    return info.nMax - std::max(static_cast<int>(info.nPage) - 1, 0);
+    // A page larger than the range leaves only the lowest position.
+    const int page = static_cast<int>(std::min<UINT>(info.nPage, INT_MAX));
+    return page > info.nMax - info.nMin ? info.nMin : info.nMax - std::max(page - 1, 0);
 }

@@ -16,9 +16,9 @@ CString WithoutExtension(const CString& name) {
 } // namespace
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
-                         LPCTSTR lpszFilter, CWnd* pParentWnd)
+                         LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD dwSize, BOOL)
     : CCommonDialog(pParentWnd), m_bOpenFileDialog(bOpenFileDialog) {
-    m_ofn.lStructSize = sizeof(m_ofn);
+    m_ofn.lStructSize = dwSize != 0 ? dwSize : sizeof(m_ofn);
     m_ofn.lpstrFile = m_szFileName;
     m_ofn.nMaxFile = _countof(m_szFileName);
     m_ofn.lpstrFileTitle = m_szFileTitle;
@@ -49,9 +49,12 @@ INT_PTR CFileDialog::DoModal() {
     return accepted ? IDOK : IDCANCEL;
 }
 
-UINT_PTR CALLBACK CFileDialog::HookProc(HWND window, UINT message, WPARAM, LPARAM lParam) {
-    if (message != WM_INITDIALOG)
-        return FALSE;
+UINT_PTR CALLBACK CFileDialog::HookProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != WM_INITDIALOG) {
+        auto* const open = DYNAMIC_DOWNCAST(CFileDialog, CWnd::FromHandlePermanent(window));
+        return open != nullptr && !open->IsExplorer() ? open->AnswerOldDialog(message, wParam, lParam)
+                                                      : FALSE;
+    }
     auto* const dialog = reinterpret_cast<CFileDialog*>(reinterpret_cast<OPENFILENAME*>(lParam)->lCustData);
     return dialog->SubclassWindow(window) && dialog->OnInitDialog();
 }
@@ -63,12 +66,25 @@ CString CFileDialog::AskDialog(UINT message) const {
     return text;
 }
 
+UINT_PTR CFileDialog::AnswerOldDialog(UINT message, WPARAM wParam, LPARAM lParam) {
+    static const UINT fileOk = ::RegisterWindowMessage(FILEOKSTRING);
+    static const UINT shareViolation = ::RegisterWindowMessage(SHAREVISTRING);
+    static const UINT selectionChange = ::RegisterWindowMessage(LBSELCHSTRING);
+    if (message == fileOk)
+        return static_cast<UINT_PTR>(OnFileNameOK());
+    if (message == shareViolation)
+        return OnShareViolation(reinterpret_cast<LPCTSTR>(lParam));
+    if (message == selectionChange)
+        OnLBSelChangedNotify(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
+    return FALSE;
+}
+
 CString CFileDialog::GetPathName() const {
-    return m_hWnd != nullptr ? AskDialog(CDM_GETFILEPATH) : CString(m_ofn.lpstrFile);
+    return m_hWnd != nullptr && IsExplorer() ? AskDialog(CDM_GETFILEPATH) : CString(m_ofn.lpstrFile);
 }
 
 CString CFileDialog::GetFileName() const {
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr && IsExplorer())
         return AskDialog(CDM_GETSPEC);
     return m_ofn.lpstrFileTitle != nullptr && m_ofn.lpstrFileTitle[0] != 0
                ? CString(m_ofn.lpstrFileTitle)
@@ -115,6 +131,9 @@ BOOL CFileDialog::OnFileNameOK() {
 
 UINT CFileDialog::OnShareViolation(LPCTSTR) {
     return OFN_SHAREWARN;
+}
+
+void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT) {
 }
 
 void CFileDialog::OnInitDone() {

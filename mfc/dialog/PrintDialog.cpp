@@ -65,6 +65,8 @@ BOOL CPrintDialog::GetDefaults() {
     defaults.hDevNames = nullptr;
     if (!::PrintDlg(&defaults))
         return FALSE;
+    ::GlobalFree(m_pd.hDevMode);
+    ::GlobalFree(m_pd.hDevNames);
     m_pd.hDevMode = defaults.hDevMode;
     m_pd.hDevNames = defaults.hDevNames;
     return TRUE;

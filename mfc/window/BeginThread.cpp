@@ -3,23 +3,33 @@
 #include "mfc/window/ThreadState.h"
 
 #include "afx/App.h"
+#include "afxres.h"
 
 #include <process.h>
 
 /// The function that a new thread runs, and the functions that start a thread.
 struct AfxThreadStart {
+    static unsigned RunProcedure(CWinThread& thread) {
+        if (thread.m_pfnThreadProc != nullptr)
+            return thread.m_pfnThreadProc(thread.m_pThreadParams);
+        HookMessageFilter();
+        return static_cast<unsigned>(thread.InitInstance() ? thread.Run() : thread.ExitInstance());
+    }
+
     static unsigned __stdcall Run(void* parameter) {
         CWinThread* const thread = static_cast<CWinThread*>(parameter);
         ThreadState& state = CurrentThreadState();
         state.thread = thread;
         unsigned status = 0;
-        if (thread->m_pfnThreadProc != nullptr) {
-            status = thread->m_pfnThreadProc(thread->m_pThreadParams);
-        } else {
-            HookMessageFilter();
-            status = static_cast<unsigned>(thread->InitInstance() ? thread->Run() : thread->ExitInstance());
-            UnhookMessageFilter();
+        try {
+            status = RunProcedure(*thread);
+        } catch (CException* exception) {
+            // The C library's frames below must not be unwound.
+            exception->ReportError(MB_ICONSTOP, AFX_IDP_INTERNAL_FAILURE);
+            exception->Delete();
+            status = static_cast<unsigned>(-1);
         }
+        UnhookMessageFilter();
         state.windows.DeleteTemporaries();
         state.thread = nullptr;
         thread->Delete();

@@ -109,10 +109,15 @@ BOOL CWinThread::DispatchThreadMessage(MSG* pMsg) {
     for (const AFX_MSGMAP* map = GetMessageMap(); map != nullptr;
          map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr) {
         const AFX_MSGMAP_ENTRY* const entry = AfxFindMessageEntry(map->lpEntries, pMsg->message, 0, 0);
-        if (entry != nullptr && entry->nSig == AfxSig::ThreadMessage) {
+        if (entry == nullptr || entry->nSig != AfxSig::ThreadMessage)
+            continue;
+        try {
             (this->*entry->pfn.threadMessage)(pMsg->wParam, pMsg->lParam);
-            return TRUE;
+        } catch (CException* exception) {
+            ProcessWndProcException(exception, pMsg);
+            exception->Delete();
         }
+        return TRUE;
     }
     return FALSE;
 }

@@ -34,10 +34,12 @@ public:
     /// `bOpenFileDialog` TRUE makes the Open dialog, FALSE the Save As dialog. `lpszDefExt` is the extension,
     /// without its period, that the dialog adds to a name without an extension; NULL adds nothing.
     /// `lpszFileName` is the initial name, `dwFlags` are OFN_ flags. `lpszFilter` holds pairs "Text
-    /// (*.txt)|*.txt|" and ends with one more '|'.
+    /// (*.txt)|*.txt|" and ends with one more '|'. `dwSize` is the size of the system's record; 0 stands for the
+    /// whole record. The dialog is the system's Explorer-style dialog, also with `bVistaStyle` TRUE; a program that
+    /// removes OFN_EXPLORER from the flags gets the old dialog.
     explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr, LPCTSTR lpszFileName = nullptr,
                          DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCTSTR lpszFilter = nullptr,
-                         CWnd* pParentWnd = nullptr);
+                         CWnd* pParentWnd = nullptr, DWORD dwSize = 0, BOOL bVistaStyle = TRUE);
     ~CFileDialog() override;
 
     /// The system's record. Change it between construction and DoModal(). With OFN_ALLOWMULTISELECT, the
@@ -66,6 +68,10 @@ protected:
     /// Return OFN_SHAREFALLTHROUGH to accept the file, OFN_SHARENOWARN to refuse it without a message,
     /// OFN_SHAREWARN to refuse it with a message.
     virtual UINT OnShareViolation(LPCTSTR lpszPathName);
+    /// The selection of a list in the old dialog changes. `nIDBox` is the ID of the list or combo box, `iCurSel` the
+    /// index, `nCode` CD_LBSELCHANGE, CD_LBSELSUB, CD_LBSELADD or CD_LBSELNOITEMS.
+    virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
+    /// The Explorer-style dialog is initialised, or its name, folder or type changes.
     virtual void OnInitDone();
     virtual void OnFileNameChange();
     virtual void OnFolderChange();
@@ -74,6 +80,8 @@ protected:
 
 private:
     static UINT_PTR CALLBACK HookProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    bool IsExplorer() const { return (m_ofn.Flags & OFN_EXPLORER) != 0; }
+    UINT_PTR AnswerOldDialog(UINT message, WPARAM wParam, LPARAM lParam);
     CString AskDialog(UINT message) const;
 
     BOOL m_bOpenFileDialog;

@@ -7,7 +7,7 @@
 /// The "Print" and "Print Setup" dialogs.
 ///
 /// The caller owns the memory of the printer's settings (m_pd.hDevMode and m_pd.hDevNames) and frees it with
-/// GlobalFree(). The object never frees the memory.
+/// GlobalFree(). The object frees memory only in GetDefaults().
 class MFC_API CPrintDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CPrintDialog)
 
@@ -24,7 +24,8 @@ public:
     ~CPrintDialog() override;
 
     INT_PTR DoModal() override;
-    /// Reads the settings of the default printer without a dialog. FALSE if there is no printer.
+    /// Reads the settings of the default printer without a dialog, and frees those that it replaces. FALSE if there
+    /// is no printer.
     BOOL GetDefaults();
 
     /// Results of DoModal() and GetDefaults().

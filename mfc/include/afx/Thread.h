@@ -52,7 +52,7 @@ public:
     virtual BOOL IsIdleMessage(MSG* pMsg);
     /// Cleans up and returns the exit status. The base returns the status of WM_QUIT.
     virtual int ExitInstance();
-    /// Called for an exception that no handler caught. Returns the message's result. The base returns -1
+    /// Called for an exception that no message handler caught. Returns the message's result. The base returns -1
     /// for WM_CREATE, validates the window for WM_PAINT, ignores CUserException, and shows a message for
     /// other exceptions.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
@@ -75,7 +75,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-/// Starts a worker thread. The object deletes itself when `pfnThreadProc` returns, unless the program sets
+/// Starts a worker thread. An exception that `pfnThreadProc` does not catch is shown to the user, and ends the thread
+/// with the status (UINT)-1. The object deletes itself when `pfnThreadProc` returns, unless the program sets
 /// m_bAutoDelete to FALSE while the thread is suspended. NULL on failure.
 MFC_API CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
                                    int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,

@@ -131,6 +131,26 @@ void CArchive::WriteString(LPCTSTR text) {
         Write(text, static_cast<UINT>(_tcslen(text) * sizeof(TCHAR)));
 }
 
+UINT CArchive::SkipLineEnd() {
+    constexpr UINT longest = 2 * sizeof(TCHAR);
+    const UINT left = m_nFilled - m_nPosition;
+    if (left < longest && m_nBufferSize >= longest) {
+        std::memmove(m_pBuffer, m_pBuffer + m_nPosition, left);
+        m_nPosition = 0;
+        m_nFilled = left;
+        m_nFilled += m_pFile->Read(m_pBuffer + left, m_nBufferSize - left);
+    }
+    TCHAR next[2] = {};
+    std::memcpy(next, m_pBuffer + m_nPosition, std::min(m_nFilled - m_nPosition, longest));
+    UINT length = 0;
+    if (next[0] == '\n')
+        length = 1;
+    else if (next[0] == '\r' && next[1] == '\n')
+        length = 2;
+    m_nPosition += length * sizeof(TCHAR);
+    return length;
+}
+
 LPTSTR CArchive::ReadString(LPTSTR text, UINT maxCount) {
     UINT length = 0;
     bool any = false;
@@ -142,6 +162,9 @@ LPTSTR CArchive::ReadString(LPTSTR text, UINT maxCount) {
             break;
         }
         text[length++] = ch;
+        // The line end directly behind the last character that fits is not an empty line of its own.
+        if (length == maxCount && SkipLineEnd() == 1 && text[length - 1] == '\r')
+            --length;
     }
     text[length] = 0;
     return any || maxCount == 0 ? text : nullptr;

@@ -165,7 +165,8 @@ void CRecentFileList::WriteList() {
 // ---- CWinApp ----
 
 void CWinApp::LoadStdProfileSettings(UINT nMaxMRU) {
-    ASSERT(m_pRecentFileList == nullptr);
+    delete m_pRecentFileList;
+    m_pRecentFileList = nullptr;
     if (nMaxMRU == 0)
         return;
     m_pRecentFileList =

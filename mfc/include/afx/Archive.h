@@ -56,7 +56,8 @@ public:
     /// Writes the characters without their terminating zero.
     void WriteString(LPCTSTR text);
     /// Loads a line without its line end. The first form loads at most `maxCount` characters and appends a
-    /// zero, so `text` needs `maxCount` + 1 characters. At the end of the file, the first form returns null
+    /// zero, so `text` needs `maxCount` + 1 characters. A line of exactly `maxCount` characters is loaded with its
+    /// line end. At the end of the file, the first form returns null
     /// and the second form returns FALSE.
     LPTSTR ReadString(LPTSTR text, UINT maxCount);
     BOOL ReadString(CString& text);
@@ -153,6 +154,8 @@ private:
     void ReadAll(void* buffer, UINT count);
     void RequireMode(Mode mode) const;
     void FillBuffer();
+    /// Skips a line end at the present position. Returns its length in characters, 0 if there is none.
+    UINT SkipLineEnd();
     void WriteTag(DWORD index, bool isClass);
     DWORD NextIndex() const;
     CRuntimeClass* ReadNewClass(UINT& schema);

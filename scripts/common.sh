@@ -133,4 +133,5 @@ build_preset() {
 # Debian packages: for building and showing the program, for pictures of it, and for the tests.
 run_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-liberation fonts-wine)
 picture_packages=(xvfb xdotool imagemagick)
-test_packages=("${run_packages[@]}" xvfb g++ clang clang-format-14 g++-mingw-w64-i686-posix googletest tzdata imagemagick)
+test_packages=("${run_packages[@]}" xvfb g++ clang clang-format-14 g++-mingw-w64-i686-posix googletest tzdata imagemagick
+    doxygen)

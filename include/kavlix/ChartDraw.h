@@ -52,10 +52,10 @@ public:
     /// colours. The result is the dataset's index, counted from 0, or -1 when memory runs out; a
     /// message box then says so.
     int AddDataset();
-    int GetDatasetCount() const;
+    int GetDatasetCount() const; ///< number of datasets
     /// Removes a dataset. The indices of the later datasets decrease by one.
     BOOL RemoveDataset(int nDataset);
-    void RemoveAllDatasets();
+    void RemoveAllDatasets(); ///< leaves the chart without datasets
     /// Appends a point. FALSE when there is no such dataset, and when memory runs out; a message box then
     /// says so.
     BOOL AddData(int nDataset, double x, double y);
@@ -74,7 +74,7 @@ public:
 
     // ---- Attributes of datasets. FALSE when there is no such dataset. None of them repaints. ----
 
-    BOOL SetColor(int nDataset, COLORREF color);
+    BOOL SetColor(int nDataset, COLORREF color); ///< colour of line and markers
     /// Width of the line in pixels, clamped to 0..100; 0 and 1 both draw one pixel.
     BOOL SetLineSize(int nDataset, int nSize);
     /// Whether a line joins the points; default TRUE. In a dataset with a line and without markers, a point
@@ -89,33 +89,42 @@ public:
 
     // ---- Scales. None of them repaints. ----
 
+    /// @{
     /// Lets CalcDatas find the scale from the points: a range with round ends that holds all finite points of
     /// the visible datasets, in steps of 1, 2, 2.5 or 5 times a power of ten. This is the default.
     void SetAutoXScale();
     void SetAutoYScale();
+    /// @}
+    /// @{
     /// Fixes a scale. Points outside the scale are clipped. Ticks stand at the multiples of `dStep`; if their
     /// labels need more room, a multiple of `dStep` is the step. If `dStep` is 0 or far too small for the
     /// range, CalcDatas finds a round step. CalcDatas widens a range that is too narrow for ticks. FALSE,
     /// with nothing changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
     BOOL SetXScale(double dMin, double dMax, double dStep = 0);
     BOOL SetYScale(double dMin, double dMax, double dStep = 0);
+    /// @}
+    /// @{
     /// The scale at the last CalcDatas; 0 to 1 in steps of 0.2 before the first CalcDatas.
     void GetXScale(double& dMin, double& dMax, double& dStep) const;
     void GetYScale(double& dMin, double& dMax, double& dStep) const;
+    /// @}
 
     // ---- Properties. None of them repaints. ----
 
+    /// @{
     /// Title above the plot, and captions of the two axes. All are empty by default; an empty text takes no
     /// room. A text that is too long for the window is shortened and ends in dots.
     void SetTitle(CString text);
     void SetXLabel(CString text);
     void SetYLabel(CString text);
+    /// @}
     /// Whether lines cross the plot at the ticks of each scale; default both TRUE.
     void SetGrid(BOOL bGridX, BOOL bGridY);
     /// Font of all texts. `nSize` is in tenths of a point, clamped to 10..720. The title is a third larger
     /// and bold.
     void SetTextFont(int nSize, LPCTSTR pszFace);
-    void SetBkColor(COLORREF color) { m_BkColor = color; }
+    /// @{
+    void SetBkColor(COLORREF color) { m_BkColor = color; } ///< Colour of the element that the name says.
     void SetTitleColor(COLORREF color) { m_TitleColor = color; }
     void SetXLabelColor(COLORREF color) { m_XLabelColor = color; }
     void SetYLabelColor(COLORREF color) { m_YLabelColor = color; }
@@ -123,6 +132,7 @@ public:
     void SetYTickLabelColor(COLORREF color) { m_YTickLabelColor = color; }
     void SetAxisColor(COLORREF color) { m_AxisColor = color; }
     void SetGridColor(COLORREF color) { m_GridColor = color; }
+    /// @}
     /// Colour of the grid line at 0 of a scale that has negative and positive values.
     void SetZeroLineColor(COLORREF color) { m_ZeroLineColor = color; }
 
@@ -180,22 +190,28 @@ protected:
 
     // ---- Drawing. Each function draws one element and restores the DC's state. ----
 
-    virtual void PaintBkGnd(CDC& dc);
+    /// @{
+    virtual void PaintBkGnd(CDC& dc); ///< Draws the element that the name says.
     virtual void DrawTitle(CDC& dc);
     virtual void DrawGrid(CDC& dc);
+    /// @}
     /// Draws the axes' lines and captions.
     virtual void DrawAxes(CDC& dc);
+    /// @{
     /// Draws the ticks and numbers of a scale.
     virtual void DrawXScale(CDC& dc);
     virtual void DrawYScale(CDC& dc);
+    /// @}
     /// Draws the lines and markers of all visible datasets.
     virtual void DrawDatasets(CDC& dc);
 
-    void PreSubclassWindow() override;
+    void PreSubclassWindow() override; ///< prepares a dialog item
 
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    /// @{
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    /// @}
     DECLARE_MESSAGE_MAP()
 
 protected:

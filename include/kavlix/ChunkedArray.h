@@ -18,19 +18,21 @@ namespace kavlix {
 template <class T, std::size_t ChunkSize> class ChunkedArray {
 public:
     ChunkedArray() = default;
-    ChunkedArray(ChunkedArray&& other) noexcept { Swap(other); }
+    ChunkedArray(ChunkedArray&& other) noexcept { Swap(other); } ///< takes the elements
+    /// Takes the elements of `other`.
     ChunkedArray& operator=(ChunkedArray&& other) noexcept {
         ChunkedArray moved(std::move(other));
         Swap(moved);
         return *this;
     }
 
-    std::size_t Size() const { return m_size; }
-    bool IsEmpty() const { return m_size == 0; }
+    std::size_t Size() const { return m_size; }  ///< number of elements
+    bool IsEmpty() const { return m_size == 0; } ///< whether there is no element
     /// Element `i`, which must exist.
     T& operator[](std::size_t i) {
         return (*m_chunks)[(m_head + i) / ChunkSize]->elements[(m_head + i) % ChunkSize];
     }
+    /// Element `i`, which must exist.
     const T& operator[](std::size_t i) const {
         return (*m_chunks)[(m_head + i) / ChunkSize]->elements[(m_head + i) % ChunkSize];
     }
@@ -72,7 +74,7 @@ public:
         m_chunks.reset();
         m_head = m_size = 0;
     }
-    void Swap(ChunkedArray& other) noexcept {
+    void Swap(ChunkedArray& other) noexcept { ///< exchanges the elements
         m_chunks.swap(other.m_chunks);
         std::swap(m_head, other.m_head);
         std::swap(m_size, other.m_size);

@@ -66,10 +66,10 @@ public:
     /// The samples, for painting.
     const kavlix::SampleStore& Samples() const { return *m_Samples; }
 
-    MarkerType GetMarkerType() const { return m_MarkerType; }
-    int GetLineSize() const { return m_LineSize; }
-    COLORREF GetColor() const { return m_Color; }
-    void SetLegend(CString text) { m_Legend = std::move(text); }
+    MarkerType GetMarkerType() const { return m_MarkerType; }    ///< see m_MarkerType
+    int GetLineSize() const { return m_LineSize; }               ///< see m_LineSize
+    COLORREF GetColor() const { return m_Color; }                ///< see m_Color
+    void SetLegend(CString text) { m_Legend = std::move(text); } ///< see m_Legend
 
 private:
     BOOL AppendReporting(double y);

@@ -36,11 +36,12 @@ enum GraphType : int {
 /// The text of one legend row.
 class KAVLIX_API CGraphLegendText : public CStatic {
 public:
-    CGraphLegendText(int index, const CString& text) : legendIndex(index), legendText(text) {}
+    CGraphLegendText(int index, const CString& text)
+        : legendIndex(index), legendText(text) {} ///< a text with its group
     ~CGraphLegendText() override;
 
-    int legendIndex; ///< the `group` of CGraph::SetLegend; texts are found by position, not by this number
-    CString legendText;
+    int legendIndex;    ///< the `group` of CGraph::SetLegend; texts are found by position, not by this number
+    CString legendText; ///< the text of the row
 };
 
 /// The legend texts of a graph, in the order in which the host set them. Owns the texts.
@@ -57,8 +58,8 @@ public:
     CString TextAt(int position) const;
     /// Removes the text at `position`. A position that the list does not have changes nothing.
     void RemoveAt(int position);
-    void RemoveAll();
-    int GetCount() const { return static_cast<int>(legends->GetCount()); }
+    void RemoveAll();                                                      ///< removes all texts
+    int GetCount() const { return static_cast<int>(legends->GetCount()); } ///< number of texts
     /// GetLength() of the longest text added so far. Removing texts does not reduce the result.
     int GetMaxLength() const { return legendMaxLength; }
 
@@ -113,11 +114,11 @@ public:
     // ---- Settings. Setters store their arguments and repaint nothing. The default of a setting is the
     // initial value of its data member below. ----
 
-    void SetGraphType(int type) { graphType = type; }
+    void SetGraphType(int type) { graphType = type; } ///< one of the GraphType codes
     /// Angle of the series labels in degrees, counter-clockwise. Full turns do not change the direction. But
     /// with any angle except 0, so also with 360, SetXAxisLabel sets the height for labels below the plot.
     void SetXAxisAlignment(int degrees) { xAxisAlign = degrees; }
-    void SetGraphTitle(CString title) { graphTitle = title; }
+    void SetGraphTitle(CString title) { graphTitle = title; } ///< text above the plot
     /// Caption below the plot. The caption's GetLength() also sets the height for series labels below the
     /// plot if their angle is not 0, and in horizontal and scatter graphs the width for the labels on the
     /// left.
@@ -134,7 +135,7 @@ public:
     /// graphs the legend has a row for each series, and all points of a series have the colour of that row.
     /// Other types have rows for groups in either case. The rows' texts are always those of SetLegend.
     void SetLegendBySeries(BOOL bySeries) { legendBySeries = bySeries; }
-    void SetGridLines(BOOL show) { graphHasGridLines = show; }
+    void SetGridLines(BOOL show) { graphHasGridLines = show; } ///< whether lines cross the plot at the ticks
     /// 1: values grow upwards. 0: values grow to the right. A 3D line graph stores 1 whatever `alignment` is.
     /// Pies look the same for both; in a scatter graph values always grow upwards.
     void SetGraphAlignment(int alignment) { graphAlignment = graphType == GraphType3DLine ? 1 : alignment; }
@@ -185,7 +186,7 @@ public:
     void RemoveLegend(int index);
     /// Deletes all series. The number of groups stays.
     void RemoveAllSeries();
-    void RemoveAllColors();
+    void RemoveAllColors(); ///< empties the colour list
     /// Empties the list of legend texts. The legend keeps its width and is still drawn.
     void RemoveAllLegends();
     /// Removes all series, legend texts and colours.
@@ -254,7 +255,8 @@ protected:
     // ---- State. Each drawing computes the layout anew, in logical units of the DC. Font sizes are in
     // pixels, margins in twips. ----
 
-    int tickSpace = 10;
+    /// @{
+    int tickSpace = 10; ///< A setting, or a result of the last drawing.
     CObList* seriesList = nullptr;
     int graphType = GraphTypeBar;
     int graphAlignment = 1;
@@ -298,6 +300,7 @@ protected:
     int printBottom = 0;
     int printRight = 0;
     BOOL legendBySeries = FALSE;
+    /// @}
 
 public:
     /// The window whose client area DrawGraph fills; set by the host, not owned. With NULL DrawGraph draws

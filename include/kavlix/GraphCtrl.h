@@ -119,9 +119,9 @@ public:
     /// Setting GraphStyleTwoAxis also hides the legend and gives the labels of each value axis the colour of
     /// its dataset. Changing to another style restores neither.
     void SetGraphStyle(GraphStyle style);
-    GraphStyle GetGraphStyle() const { return m_GraphStyle; }
-    void SetTitleStyle(TitleStyle style) { m_TitleStyle = style; }
-    TitleStyle GetTitleStyle() const { return m_TitleStyle; }
+    GraphStyle GetGraphStyle() const { return m_GraphStyle; }      ///< the stored style
+    void SetTitleStyle(TitleStyle style) { m_TitleStyle = style; } ///< chooses what stands at the top
+    TitleStyle GetTitleStyle() const { return m_TitleStyle; }      ///< the stored style
     /// Whether a black border of one pixel is drawn round the client area.
     void ShowBorder(BOOL bShow) { m_ShowBorder = bShow; }
     /// Whether the context menu offers to remove the samples before the selection mark.
@@ -133,25 +133,25 @@ public:
     void SetAutoXVisible(BOOL bAuto) { m_AutoXVisible = bAuto; }
     /// Ends of the visible ranges, in values of their axis. On the X axis these are sample indices.
     void SetXVisibleMin(double x) { m_XVisibleMin = x; }
-    void SetXVisibleMax(double x) { m_XVisibleMax = x; }
-    void SetYVisibleMin(double y) { m_YVisibleMin = y; }
-    void SetYVisibleMax(double y) { m_YVisibleMax = y; }
-    void SetY2VisibleMin(double y) { m_Y2VisibleMin = y; }
-    void SetY2VisibleMax(double y) { m_Y2VisibleMax = y; }
+    void SetXVisibleMax(double x) { m_XVisibleMax = x; }   ///< right end of the X range
+    void SetYVisibleMin(double y) { m_YVisibleMin = y; }   ///< lower end of the Y range
+    void SetYVisibleMax(double y) { m_YVisibleMax = y; }   ///< upper end of the Y range
+    void SetY2VisibleMin(double y) { m_Y2VisibleMin = y; } ///< lower end of the Y2 range
+    void SetY2VisibleMax(double y) { m_Y2VisibleMax = y; } ///< upper end of the Y2 range
 
     /// Texts. At most the first 8192 UTF-16 units of a text are drawn, since GDI takes no more in one call.
     void SetTitle(CString text) { m_Title = std::move(text); }
-    void SetXLabel(CString text) { m_XLabel = std::move(text); }
-    void SetYLabel(CString text) { m_YLabel = std::move(text); }
-    void SetY2Label(CString text) { m_Y2Label = std::move(text); }
+    void SetXLabel(CString text) { m_XLabel = std::move(text); }   ///< below the X axis
+    void SetYLabel(CString text) { m_YLabel = std::move(text); }   ///< left of the Y axis, upwards
+    void SetY2Label(CString text) { m_Y2Label = std::move(text); } ///< right of the Y2 axis
     /// Whether the axis labels are shown. The Y2 label is shown in the two-axis style only.
     void ShowXLabel(BOOL bShow) { m_ShowXLabel = bShow; }
-    void ShowYLabel(BOOL bShow) { m_ShowYLabel = bShow; }
-    void ShowY2Label(BOOL bShow) { m_ShowY2Label = bShow; }
+    void ShowYLabel(BOOL bShow) { m_ShowYLabel = bShow; }   ///< see ShowXLabel
+    void ShowY2Label(BOOL bShow) { m_ShowY2Label = bShow; } ///< see ShowXLabel
 
     /// Whether the legend is shown. In the two-axis style this call always hides the legend.
     void ShowLegend(BOOL bShow);
-    BOOL GetShowLegend() const { return m_ShowLegend; }
+    BOOL GetShowLegend() const { return m_ShowLegend; } ///< whether the legend is shown
     /// Whether the legend stands on a filled board with a shadow.
     void ShowLegendBoard(BOOL bShow) { m_ShowLegendBoard = bShow; }
     /// Width of the legend in logical units.
@@ -167,14 +167,14 @@ public:
     void SetXTickLabelUpStringMaxLength(int nLength) { m_XTickLabelUpStringMaxLength = nLength; }
     /// Width of the bands of Y and Y2 tick labels in logical units.
     void SetYTickLabelWidth(int nWidth) { m_YTickLabelWidth = nWidth; }
-    void SetY2TickLabelWidth(int nWidth) { m_Y2TickLabelWidth = nWidth; }
+    void SetY2TickLabelWidth(int nWidth) { m_Y2TickLabelWidth = nWidth; } ///< see SetYTickLabelWidth
     /// Decimal places of the Y and Y2 tick labels; negative numbers count as 0, numbers above 8192 as 8192.
     void SetYTickLabelScale(int nDecimals) { m_YTickLabelScale = nDecimals; }
-    void SetY2TickLabelScale(int nDecimals) { m_Y2TickLabelScale = nDecimals; }
+    void SetY2TickLabelScale(int nDecimals) { m_Y2TickLabelScale = nDecimals; } ///< see SetYTickLabelScale
     /// Sets the unit text above the axis and the decimal places of the tick labels. Tick values are divided
     /// by 10 to the power of `nExponent` before they are printed.
     void SetYUnit(CString unit, int nExponent, int nDecimals);
-    void SetY2Unit(CString unit, int nExponent, int nDecimals);
+    void SetY2Unit(CString unit, int nExponent, int nDecimals); ///< see SetYUnit
 
     /// Whether the caption band has a maximize icon, and whether the icon is drawn in its "restore" form. The
     /// control does not maximize its window: the parent receives GCN_MAXIMIZE.
@@ -184,27 +184,27 @@ public:
     /// twice as high as the control.
     void SetCaptionFont(int nSize, LPCTSTR pszFace);
 
-    void SetBkColor(COLORREF color) { m_BkColor = color; }
-    void SetTitleColor(COLORREF color) { m_TitleColor = color; }
-    void SetXLabelColor(COLORREF color) { m_XLabelColor = color; }
-    void SetYLabelColor(COLORREF color) { m_YLabelColor = color; }
-    void SetY2LabelColor(COLORREF color) { m_Y2LabelColor = color; }
+    void SetBkColor(COLORREF color) { m_BkColor = color; }           ///< colour of the background
+    void SetTitleColor(COLORREF color) { m_TitleColor = color; }     ///< colour of the title
+    void SetXLabelColor(COLORREF color) { m_XLabelColor = color; }   ///< colour of the X label
+    void SetYLabelColor(COLORREF color) { m_YLabelColor = color; }   ///< colour of the Y label
+    void SetY2LabelColor(COLORREF color) { m_Y2LabelColor = color; } ///< colour of the Y2 label
     /// Colour of the axis lines and ticks. In the two-axis style the value axes have their dataset's colour.
     void SetAxisColor(COLORREF color) { m_AxisColor = color; }
-    void SetXTickLabelColor(COLORREF color) { m_XTickLabelColor = color; }
-    void SetYTickLabelColor(COLORREF color) { m_YTickLabelColor = color; }
-    void SetY2TickLabelColor(COLORREF color) { m_Y2TickLabelColor = color; }
-    void SetGridColor(COLORREF color) { m_GridColor = color; }
+    void SetXTickLabelColor(COLORREF color) { m_XTickLabelColor = color; }   ///< colour of the X tick labels
+    void SetYTickLabelColor(COLORREF color) { m_YTickLabelColor = color; }   ///< colour of the Y tick labels
+    void SetY2TickLabelColor(COLORREF color) { m_Y2TickLabelColor = color; } ///< colour of the Y2 tick labels
+    void SetGridColor(COLORREF color) { m_GridColor = color; }               ///< colour of the grid lines
     /// Colour of the legend's board.
     void SetLegendColor(COLORREF color) { m_LegendColor = color; }
-    void SetLegendTextColor(COLORREF color) { m_LegendTextColor = color; }
+    void SetLegendTextColor(COLORREF color) { m_LegendTextColor = color; } ///< colour of the legend's texts
     /// Colour of the selection mark's dotted line in the line styles; its triangle is always red.
     void SetLineCursorColor(COLORREF color) { m_LineCursorColor = color; }
     /// Colour of the selection mark in the bar style, a band behind the group of bars.
     void SetBoxCursorColor(COLORREF color) { m_BoxCursorColor = color; }
     /// Colour of the caption band and of the maximize icon's lines.
     void SetCaptionColor(COLORREF color) { m_CaptionColor = color; }
-    void SetCaptionTextColor(COLORREF color) { m_CaptionTextColor = color; }
+    void SetCaptionTextColor(COLORREF color) { m_CaptionTextColor = color; } ///< colour of the caption's text
 
     // ---- View ----
 
@@ -324,12 +324,13 @@ protected:
     void DrawLines(CDC& dc, const kavlix::XPositions& xPositions,
                    const std::function<kavlix::IndexRange(const CDataset&)>& rangeOf);
 
-    void PreSubclassWindow() override;
+    void PreSubclassWindow() override; ///< prepares a dialog item
     /// Passes messages that the control does not handle to the system's default window procedure, also in a
     /// window of another class: that class's procedure gets only the messages of creation and destruction.
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    /// @{
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
@@ -344,6 +345,7 @@ protected:
     afx_msg void OnEditCopy();
     afx_msg void OnHideSelectionMark();
     afx_msg void OnRemoveDataBeforeSelectionMark();
+    /// @}
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -358,11 +360,12 @@ private:
     static constexpr TCHAR kDefaultYLabel[] = _T("Y Label");
 
 protected:
-    GraphStyle m_GraphStyle = GraphStyleLine;
+    /// @{
+    GraphStyle m_GraphStyle = GraphStyleLine; ///< The stored value of this property.
     TitleStyle m_TitleStyle = TitleStyleText;
-    CDataset m_Datasets[DatasetCount];
-    kavlix::LabelStore m_XTickLabelUp;
-    kavlix::LabelStore m_XTickLabelDown;
+    CDataset m_Datasets[DatasetCount];   ///< the samples and how they are drawn
+    kavlix::LabelStore m_XTickLabelUp;   ///< upper lines of the X tick labels
+    kavlix::LabelStore m_XTickLabelDown; ///< lower lines of the X tick labels
     BOOL m_ShowBorder = FALSE;
 
     // Layout, in logical units except for the last two. Every paint sets these rectangles; before the first
@@ -438,6 +441,7 @@ protected:
     CString m_YLabel = kDefaultYLabel;
     CString m_Y2Label = _T("Y2 Label");
     BOOL m_ShowMenuRemoveDataBeforeSelectionMark = TRUE;
+    /// @}
     CFont m_YTickLabelFont; ///< Y and Y2 tick labels
     CFont m_XTickLabelFont; ///< X tick labels; text runs upwards
     CFont m_UnitFont;       ///< unit texts

@@ -10,7 +10,7 @@
 /// A number with a key: the value of a series for a group, or the colour of a group.
 class KAVLIX_API CGraphValue : public CStatic {
 public:
-    CGraphValue(int aKey, int aValue) : key(aKey), value(aValue) {}
+    CGraphValue(int aKey, int aValue) : key(aKey), value(aValue) {} ///< a number with its key
     ~CGraphValue() override;
 
     int key;   ///< the group, or the X value of a point
@@ -34,9 +34,11 @@ public:
     CGraphSeries(const CGraphSeries&) = delete;
     CGraphSeries& operator=(const CGraphSeries&) = delete;
 
+    /// @{
     /// The text at the axis; CGraph::RemoveSeries finds a series by its label.
     void SetLabel(CString label) { seriesLabel = label; }
     CString GetLabel() const { return seriesLabel; }
+    /// @}
 
     /// Stores the value of a group. An existing value of the group is replaced in its place in the list.
     /// Takes constant time on average. When memory runs out, nothing changes and the exception passes on.

@@ -18,18 +18,24 @@ namespace kavlix {
 /// leaves the array unchanged.
 class LabelStore {
 public:
+    /// @{
+    /// Number of texts.
     INT_PTR GetSize() const { return static_cast<INT_PTR>(m_texts.Size()); }
     INT_PTR GetCount() const { return GetSize(); }
-    BOOL IsEmpty() const { return m_texts.IsEmpty(); }
+    /// @}
+    BOOL IsEmpty() const { return m_texts.IsEmpty(); } ///< whether there is no text
     /// The greatest valid index, -1 if there is none.
     INT_PTR GetUpperBound() const { return GetSize() - 1; }
 
+    /// @{
+    /// The text at `index`.
     const CString& GetAt(INT_PTR index) const { return m_texts[Checked(index, GetSize() - 1)]; }
     CString& ElementAt(INT_PTR index) { return m_texts[Checked(index, GetSize() - 1)]; }
     const CString& ElementAt(INT_PTR index) const { return GetAt(index); }
     CString& operator[](INT_PTR index) { return ElementAt(index); }
     const CString& operator[](INT_PTR index) const { return GetAt(index); }
     void SetAt(INT_PTR index, const CString& text) { ElementAt(index) = text; }
+    /// @}
     /// Sets the text at `index`. A shorter array grows first, with empty texts before `index`.
     void SetAtGrow(INT_PTR index, const CString& text) {
         if (Checked(index) < m_texts.Size())

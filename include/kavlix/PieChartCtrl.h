@@ -20,11 +20,11 @@ public:
     CPieChartPiece();
     ~CPieChartPiece() override;
 
-    COLORREF m_crColor = 0; ///< fill colour of the sector
-    COLORREF m_crText = 0;  ///< colour of the texts in the sector while the piece is not selected
-    double m_dTotal = 0;    ///< the value of a full circle
-    double m_dValue = 0;    ///< the sector spans value / total * 360 degrees
-    CString m_strLabel;
+    COLORREF m_crColor = 0;     ///< fill colour of the sector
+    COLORREF m_crText = 0;      ///< colour of the texts in the sector while the piece is not selected
+    double m_dTotal = 0;        ///< the value of a full circle
+    double m_dValue = 0;        ///< the sector spans value / total * 360 degrees
+    CString m_strLabel;         ///< text beside or in the sector
     BOOL m_bSelected = FALSE;   ///< whether the piece is drawn in the colours of the selection
     CRect m_rcItem{0, 0, 0, 0}; ///< the label's box in the last paint, client pixels; empty without a label
 };
@@ -123,14 +123,16 @@ protected:
     /// label boxes to the pieces' `m_rcItem`. Restores the DC's state. Does nothing without a window.
     void DrawPie(CDC& dc);
 
-    void PreSubclassWindow() override;
+    void PreSubclassWindow() override; ///< prepares a dialog item
 
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    /// @{
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+    /// @}
     /// Selects the piece under `point` and sends NM_CLICK with an NMPIECHART to the parent window, if the
     /// control has one. A click on the centre, or on the line from the centre to twelve o'clock, changes
     /// nothing. A click on a part of the circle without a piece removes the selection.
@@ -138,15 +140,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 protected:
-    int m_nWaitMode = 0; ///< 0 while not waiting; see Wait
-    CString m_strWait;
+    int m_nWaitMode = 0;   ///< 0 while not waiting; see Wait
+    CString m_strWait;     ///< text shown while waiting
     int m_nStartAngle = 0; ///< degrees at which a paint begins the first piece; the hit test begins at 0
-    COLORREF m_crBack = RGB(255, 255, 255);
-    COLORREF m_crOutline = RGB(0, 0, 0);
-    COLORREF m_crSelected = RGB(255, 0, 0);
-    CObArray m_arrPieces;      ///< the CPieChartPiece objects, owned
-    CFont m_fontLarge;         ///< font of the wait text and "No Data"
-    CFont m_fontSmall;         ///< font of labels and percentages
+    COLORREF m_crBack = RGB(255, 255, 255); ///< background
+    COLORREF m_crOutline = RGB(0, 0, 0);    ///< outline of the sectors
+    COLORREF m_crSelected = RGB(255, 0, 0); ///< fill of a selected sector
+    CObArray m_arrPieces;                   ///< the CPieChartPiece objects, owned
+    CFont m_fontLarge;                      ///< font of the wait text and "No Data"
+    CFont m_fontSmall;                      ///< font of labels and percentages
     CRect m_rcPie{0, 0, 0, 0}; ///< the pie's square at the last paint, client pixels; empty before
 
 private:

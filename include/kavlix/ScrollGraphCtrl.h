@@ -131,10 +131,12 @@ public:
     /// that edge. `nUnit` is the tick step in seconds; the result is 0 when `nUnit` is below 1. `spacing`
     /// receives the distance between two ticks in logical units, `fullTime` the first tick's time as text.
     int ComputeFirstTickPos(int nIndex, int nUnit, int& spacing, CString& fullTime) const;
+    /// @{
     /// The distance of the first tick as in ComputeFirstTickPos, for a step in seconds, minutes or hours.
     int SecondTickPos(int nIndex, int nSeconds, CString& fullTime) const;
     int MinuteTickPos(int nIndex, int nMinutes, CString& fullTime) const;
     int HourTickPos(int nIndex, int nHours, CString& fullTime) const;
+    /// @}
     /// Full time text of the moment `nUnit` seconds after the local time `date` ("YYYY/MM/DD") `time`
     /// ("hh:mm:ss"). If these are no valid time of the years 1900 to 9999, the result is both texts,
     /// unchanged, with a blank between. When clocks go back, one hour of local time occurs twice, and the
@@ -159,13 +161,15 @@ protected:
     int GetIndexFromPt(CPoint point) override;
     CPoint GetPtFromIndex(int nIndex) override;
 
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    /// @{
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnSendSelectionMarkInfoToTindro();
+    /// @}
     DECLARE_MESSAGE_MAP()
 
 protected:
@@ -183,12 +187,12 @@ protected:
     double m_dViewWidth = 1200.0; ///< width of the view, x units
 
     int m_nUnitsPerSecond = 20; ///< x units a second in SetHorzRange and SelectTickUnit; elsewhere always 20
-    bool m_bTindroMode = false;
-    CString m_strSelectionMarkTime;
-    int m_bScrollSync = FALSE;
-    int m_bFollowed = FALSE; ///< whether the last AddData moved the view
-    int m_nDrawFirst = -1;   ///< first sample drawn at the last paint in a line style; -1 before that paint
-    int m_nDrawLast = -1;    ///< last sample drawn at the last paint in a line style; -1 for none
+    bool m_bTindroMode = false; ///< see SetTindroMode
+    CString m_strSelectionMarkTime; ///< see GetTimeInfoFromSelectionMark
+    int m_bScrollSync = FALSE;      ///< see SetScrollSync
+    int m_bFollowed = FALSE;        ///< whether the last AddData moved the view
+    int m_nDrawFirst = -1; ///< first sample drawn at the last paint in a line style; -1 before that paint
+    int m_nDrawLast = -1;  ///< last sample drawn at the last paint in a line style; -1 for none
 
 private:
     int m_nToldPos = -1;  ///< position that UpdateScrollInfo passed to the scroll bar last

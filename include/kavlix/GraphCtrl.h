@@ -161,9 +161,9 @@ public:
 
     /// Height of the band of X tick labels, whose text runs upwards, in logical units.
     void SetXTickLabelHeight(int nHeight) { m_XTickLabelHeight = nHeight; }
-    /// Length up to which an X tick label without a lower text stays one line, in characters of the process
-    /// code page. Of a longer text, the characters beyond this length become the lower line. A character of
-    /// several bytes counts once, as does a letter with its combining marks.
+    /// Length up to which an X tick label without a lower text stays one line, in characters. Of a longer
+    /// text, the characters beyond this length become the lower line. A character of several TCHARs counts
+    /// once, as does a letter with its combining marks.
     void SetXTickLabelUpStringMaxLength(int nLength) { m_XTickLabelUpStringMaxLength = nLength; }
     /// Width of the bands of Y and Y2 tick labels in logical units.
     void SetYTickLabelWidth(int nWidth) { m_YTickLabelWidth = nWidth; }

@@ -10,9 +10,8 @@
 namespace kavlix {
 
 /// Saves the picture that `draw` draws, `size` in pixels. The extension of `path` chooses the format: .png,
-/// .bmp or .emf, in upper or lower case. `path` is in the process code page. `draw` gets a DC whose logical
-/// units are pixels, with the picture's top left corner at (0, 0). A .png or .bmp picture is white at first,
-/// an .emf picture has no background.
+/// .bmp or .emf, in upper or lower case. `draw` gets a DC whose logical units are pixels, with the picture's
+/// top left corner at (0, 0). A .png or .bmp picture is white at first, an .emf picture has no background.
 ///
 /// False for a null `path`, for another extension, for an empty size or a side above 32,767 pixels, when
 /// memory or GDI objects run out, and when the picture cannot be encoded or the file cannot be written. The

@@ -24,7 +24,7 @@ constexpr UINT WM_GRAPH_SELMARK = WM_USER + 100;
 
 /// Sent to the parent when the scrolling graph exports the time of the selection mark. wParam: 0; lParam: the
 /// time text "YYYY/MM/DD hh:mm:ss" of the last sample exported, empty if there was none; a zero-terminated
-/// string that is valid only during the call.
+/// TCHAR string (LPCTSTR) that is valid only during the call.
 constexpr UINT WM_GRAPH_SELMARKTIME = 1327;
 
 // Codes of the WM_NOTIFY messages with an NMGRAPHCTRL record: when the parent gets each, and the record's

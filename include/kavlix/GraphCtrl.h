@@ -32,8 +32,7 @@ struct TickRoom;
 /// and destruction only; the control paints the item and handles its input.
 ///
 /// Units: a logical unit is 1/30 pixel in both directions, at every size of the window; y grows downwards.
-/// Colours are COLORREF. Values are doubles. Every conversion of a value to a position truncates toward
-/// zero and saturates.
+/// Colours are COLORREF. Values are doubles. Positions of values are truncated toward zero and saturate.
 ///
 /// Repainting: the setters and the operations on data store their arguments and invalidate nothing.
 /// RemoveHeadData and SetSelectionMarkPos are the exceptions. Call Redraw after changing properties and
@@ -41,11 +40,9 @@ struct TickRoom;
 ///
 /// Values without a position: a NaN sample leaves a gap in its line and gets no bar. An infinite sample lies
 /// far outside the plot. Datasets whose visible range has the width 0 are not drawn. A value axis whose
-/// minimum is above its maximum is upside down. An X range whose minimum is above its maximum shows neither
-/// ticks nor bars.
+/// minimum is above its maximum is upside down. Such an X range shows neither ticks nor bars.
 ///
-/// A mirrored parent window (WS_EX_LAYOUTRTL) does not mirror the control: picture and mouse positions run from
-/// left to right.
+/// A mirrored parent window (WS_EX_LAYOUTRTL) mirrors neither the picture nor the mouse positions.
 class KAVLIX_API CGraphCtrl : public CWnd {
 public:
     /// How the datasets are drawn. With any other value neither data nor X ticks are drawn.
@@ -112,9 +109,8 @@ public:
     /// Empties all legend texts.
     void ResetLegend();
 
-    // ---- Properties. Setters store their arguments unchecked. No repaint. ----
-
-    // The default of a property is the initial value of its data member below.
+    // ---- Properties. Setters store their arguments unchecked. No repaint. The default of a property is the
+    // initial value of its data member below. ----
 
     /// Setting GraphStyleTwoAxis also hides the legend and gives the labels of each value axis the colour of
     /// its dataset. Changing to another style restores neither.
@@ -215,8 +211,7 @@ public:
     void RedrawData();
     /// Puts the selection mark on sample `nPos`, or removes it for -1, and calls RedrawData. Ignores an
     /// `nPos` below -1 or beyond the last sample of dataset 0. The parent gets no notification. Assistive
-    /// tools get an event whenever the selection mark changes: sample i is child i + 1 of the control's
-    /// client object.
+    /// tools get an event at every change of the mark: sample i is child i + 1 of the client object.
     void SetSelectionMarkPos(int nPos);
     /// Puts the picture on the clipboard as an enhanced metafile. Result 1; 0 when there is no window or
     /// memory, or when GDI cannot make the metafile. The result does not tell whether another program
@@ -455,14 +450,12 @@ private:
     void ClearSamples(CDataset& dataset);
 
     void MakeFonts();
-    /// Computes the layout for the client area `client` (logical units) and stores it in the m_rect...
-    /// members.
+    /// Computes the layout for the client area `client` (logical units) into the m_rect... members.
     kavlix::GraphLayout LayOut(const CRect& client);
     /// Draws the X label, the Y label and, in the two-axis style, the Y2 label.
     void DrawAxisLabels(CDC& dc, const kavlix::GraphLayout& layout);
     /// Draws the legend and, if it is switched on, the legend's board. `right` is the right edge of the
-    /// client area in logical units. `clientClip` is the clip region of `dc`, which is selected again
-    /// afterwards.
+    /// client area in logical units. `clientClip` is the clip region of `dc`, selected again at the end.
     void DrawLegendArea(CDC& dc, int right, CRgn& clientClip);
     /// Draws ticks and tick labels of the X axis in the line styles. The caller has selected `axisPen`.
     void DrawLineTicks(CDC& dc, const CRect& rectLabel, const CRect& rectAxis, CPen& axisPen,

@@ -163,8 +163,11 @@ LPTSTR CArchive::ReadString(LPTSTR text, UINT maxCount) {
         }
         text[length++] = ch;
         // The line end directly behind the last character that fits is not an empty line of its own.
-        if (length == maxCount && SkipLineEnd() == 1 && text[length - 1] == '\r')
-            --length;
+        if (length == maxCount) {
+            if (SkipLineEnd() == 1 && text[length - 1] == '\r')
+                --length;
+            break;
+        }
     }
     text[length] = 0;
     return any || maxCount == 0 ? text : nullptr;

@@ -113,17 +113,16 @@ void CRecentFileList::UpdateMenu(CCmdUI* pCmdUI) {
         return;
     if (m_strOriginal.IsEmpty())
         menu->GetMenuString(pCmdUI->m_nID, m_strOriginal, MF_BYCOMMAND);
+    for (int i = 1; i < m_nSize; ++i)
+        menu->DeleteMenu(pCmdUI->m_nID + static_cast<UINT>(i), MF_BYCOMMAND);
     if (m_arrNames[0].IsEmpty()) {
-        for (int i = 1; i < m_nSize; ++i)
-            menu->DeleteMenu(pCmdUI->m_nID + static_cast<UINT>(i), MF_BYCOMMAND);
         if (!m_strOriginal.IsEmpty())
             pCmdUI->SetText(m_strOriginal);
         pCmdUI->Enable(FALSE);
         pCmdUI->m_nIndexMax = menu->GetMenuItemCount();
         return;
     }
-    for (int i = 0; i < m_nSize; ++i)
-        menu->DeleteMenu(pCmdUI->m_nID + static_cast<UINT>(i), MF_BYCOMMAND);
+    menu->DeleteMenu(pCmdUI->m_nID, MF_BYCOMMAND);
 
     TCHAR folder[MAX_PATH + 1] = {};
     ::GetCurrentDirectory(MAX_PATH, folder);

@@ -5,6 +5,8 @@
 #include "afx/Export.h"
 #include <commctrl.h>
 
+AFX_BEGIN_OWN_CREATE
+
 /// The common controls. Create() first loads the system's common-control library.
 
 /// A status bar. Panes count from 0; number 255 is the pane of the simple mode.
@@ -178,3 +180,5 @@ public:
     int GetMaxTipWidth() const { return afx_control::Ask(m_hWnd, TTM_GETMAXTIPWIDTH); }
     void Pop() { afx_control::Ask(m_hWnd, TTM_POP); }
 };
+
+AFX_END_OWN_CREATE

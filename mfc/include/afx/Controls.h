@@ -5,6 +5,8 @@
 #include "afx/GdiObject.h"
 #include "afx/Wnd.h"
 
+AFX_BEGIN_OWN_CREATE
+
 /// The controls of the system. Create() makes the control as a child of `pParentWnd` with the ID `nID`, in
 /// client coordinates of the parent, and returns FALSE on failure. Members send messages to the control, so
 /// the window must exist.
@@ -192,8 +194,11 @@ public:
     /// Both functions fill in lpScrollInfo->cbSize; GetScrollInfo() also fills in fMask.
     BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    /// The largest position that the user can reach: nMax - (nPage - 1), or nMax if nPage is 0.
+    /// The largest position that the user can reach: nMax - (nPage - 1), or nMax if nPage is 0; at least
+    /// nMin.
     int GetScrollLimit();
 };
+
+AFX_END_OWN_CREATE
 
 #include "afx/ListControls.h"

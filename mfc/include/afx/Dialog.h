@@ -4,6 +4,8 @@
 #include "afx/Export.h"
 #include "afx/Wnd.h"
 
+AFX_BEGIN_OWN_CREATE
+
 /// A dialog box, made from a template in the resource chain or in memory.
 ///
 /// Modal dialogs: construct the object with the template, then call DoModal(). Modeless dialogs: use the
@@ -94,3 +96,5 @@ private:
     CWnd* m_pParentWnd = nullptr;
     bool m_bCenter = false;
 };
+
+AFX_END_OWN_CREATE

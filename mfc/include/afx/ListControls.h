@@ -3,6 +3,8 @@
 
 #include "afx/Controls.h"
 
+AFX_BEGIN_OWN_CREATE
+
 /// A list box. Indices count from 0. LB_ERR (-1) means failure or "none"; LB_ERRSPACE (-2) means that memory
 /// ran out.
 class MFC_API CListBox : public CWnd {
@@ -211,3 +213,5 @@ protected:
 private:
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
+
+AFX_END_OWN_CREATE

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+AFX_BEGIN_OWN_CREATE
+
 /// A dialog with a tab for each of its pages, or a wizard, which leads from page to page. The sheet is the system's;
 /// its pages are CPropertyPage objects, counted from 0.
 class MFC_API CPropertySheet : public CWnd {
@@ -104,3 +106,5 @@ private:
     DWORD m_dwStyle = 0; // styles of a modeless sheet
     DWORD m_dwExStyle = 0;
 };
+
+AFX_END_OWN_CREATE

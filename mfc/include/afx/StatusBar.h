@@ -7,6 +7,8 @@
 
 #include <vector>
 
+AFX_BEGIN_OWN_CREATE
+
 /// Styles of a pane: the normal border, no border, a raised border, drawn by DrawItem().
 #define SBPS_NORMAL 0x00000000
 #define SBPS_NOBORDERS SBT_NOBORDERS
@@ -92,3 +94,5 @@ private:
     mutable CStatusBarCtrl m_control; // refers to the window of this object
     int m_nMinHeight = 0;
 };
+
+AFX_END_OWN_CREATE

@@ -3,6 +3,8 @@
 
 #include "afx/CommonControls.h"
 
+AFX_BEGIN_OWN_CREATE
+
 /// A row of tabs, counted from 0. The parent gets TCN_SELCHANGE as a WM_NOTIFY notification when the user chooses
 /// another tab, and shows the window of that tab itself.
 class MFC_API CTabCtrl : public CWnd {
@@ -73,3 +75,5 @@ protected:
 private:
     static WPARAM Param(int value) { return static_cast<WPARAM>(static_cast<INT_PTR>(value)); }
 };
+
+AFX_END_OWN_CREATE

@@ -15,6 +15,17 @@ struct CCreateContext;
 #undef GetNextWindow
 #undef SubclassWindow
 
+// Derived classes hide CWnd::Create() by a Create() with arguments of their own, which some compilers warn about. The
+// macros disable the warning around these classes.
+#if defined(__GNUC__)
+#define AFX_BEGIN_OWN_CREATE                                                                                 \
+    _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Woverloaded-virtual\"")
+#define AFX_END_OWN_CREATE _Pragma("GCC diagnostic pop")
+#else
+#define AFX_BEGIN_OWN_CREATE
+#define AFX_END_OWN_CREATE
+#endif
+
 /// Flags of CWnd::RunModalLoop().
 #define MLF_NOIDLEMSG 0x0001  // the loop does not send WM_ENTERIDLE to the parent
 #define MLF_NOKICKIDLE 0x0002 // the loop does not send WM_KICKIDLE to the window

@@ -207,6 +207,11 @@ TEST_F(Recorder, RecentFilesOutliveTheProgram) {
     EXPECT_STREQ(_T("here & now.csv"), Frame().m_strFile);
     const std::vector<CString> left{_T("&1 here && now.csv"), _T("&2 two.csv"), _T("&3 one.csv")};
     EXPECT_EQ(left, RecentFiles());
+    for (const CString& file : m_files)
+        ::DeleteFile(file);
+    for (std::size_t i = 0; i < left.size(); ++i)
+        User::Choose(ID_FILE_MRU_FILE1);
+    EXPECT_EQ(std::vector<CString>{_T("Recent File")}, RecentFiles()) << "all are gone";
     ::SetCurrentDirectory(_T("\\"));
 }
 

@@ -203,6 +203,27 @@ TEST(Archive, BytesThatMakeNoSenseAreRefused) {
     EXPECT_TRUE(Throws<CMemoryException>([&] { numbers.Serialize(huge.Archive()); }));
 }
 
+TEST(Archive, LinesOfExactlyTheLimitAreReadWithTheirEnd) {
+    CMemFile file;
+    {
+        CArchive out(&file, CArchive::store);
+        out.WriteString(_T("abc\r\nd\r\n\nabcdef\r\n"));
+    }
+    const std::vector<CString> expected[] = {{_T("abc"), _T("d"), _T(""), _T("abc"), _T("def")},
+                                             {_T("abc"), _T("d"), _T(""), _T("abcd"), _T("ef")}};
+    for (const UINT most : {3u, 4u}) {
+        for (int size = 4; size < 24; ++size) {
+            BYTE buffer[24];
+            file.SeekToBegin();
+            CArchive in(&file, CArchive::load, size, buffer);
+            std::vector<CString> lines;
+            for (TCHAR line[5]; in.ReadString(line, most) != nullptr;)
+                lines.push_back(line);
+            EXPECT_EQ(expected[most - 3], lines) << most << ' ' << size;
+        }
+    }
+}
+
 TEST(Archive, KnowsItsDirection) {
     CMemFile file;
     {

@@ -100,6 +100,13 @@ TEST_F(File, EveryKindActsLikeATextUnderRandomCalls) {
     EXPECT_EQ(CFile::hFileNull, file.m_hFile);
     second->SetLength(4); // still open
     EXPECT_EQ(4u, second->GetLength());
+    {
+        CFile owner(Path(_T("own.bin")), CFile::modeCreate | CFile::modeWrite | CFile::shareExclusive);
+        delete CFile(owner.m_hFile).Duplicate();
+    }
+    CFile again;
+    EXPECT_TRUE(again.Open(Path(_T("own.bin")), CFile::modeWrite | CFile::shareExclusive))
+        << "a duplicate closes its handle, also that of a file that does not own its own";
 
     CStdioFile stream(Path(_T("stream.bin")), mode | CFile::typeBinary);
     ActsLikeAText(stream);

@@ -54,6 +54,16 @@ TEST_F(Controls, ListBoxItems) {
     EXPECT_EQ(tuple(3, -1), tuple(chosen[2], chosen[3]));
 }
 
+TEST_F(Controls, ScrollLimitLiesInTheRange) {
+    CScrollBar bar;
+    ASSERT_TRUE(bar.Create(kStyle | SBS_HORZ, m_rect, &m_parent, 8));
+    for (const auto& [page, limit] : {std::pair(0u, 20), std::pair(4u, 17), std::pair(400u, 5)}) {
+        SCROLLINFO info{sizeof(info), SIF_RANGE | SIF_PAGE, 5, 20, page, 0, 0};
+        bar.SetScrollInfo(&info);
+        EXPECT_EQ(limit, bar.GetScrollLimit());
+    }
+}
+
 TEST_F(Controls, ComboBoxItemsAndEditField) {
     CComboBox combo;
     ASSERT_TRUE(combo.Create(kStyle | CBS_DROPDOWN | CBS_AUTOHSCROLL, m_rect, &m_parent, 9));

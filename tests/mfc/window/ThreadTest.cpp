@@ -143,7 +143,11 @@ public:
     }
 
 protected:
-    void OnWork(WPARAM wParam, LPARAM) { s_steps += static_cast<int>(wParam); }
+    void OnWork(WPARAM wParam, LPARAM) {
+        if (wParam == 0)
+            AfxThrowUserException();
+        s_steps += static_cast<int>(wParam);
+    }
     void OnEnd(WPARAM, LPARAM) { AfxPostQuitMessage(0); }
     DECLARE_MESSAGE_MAP()
 
@@ -169,7 +173,8 @@ TEST_F(ThreadTest, AThreadOfItsOwnRunsFromInitToExit) {
     thread->ResumeThread();
     const DWORD start = ::GetTickCount();
     while (!thread->PostThreadMessage(workMessage, 100, 0) && ::GetTickCount() - start < 10000)
-        ::Sleep(1); // the thread has no queue yet
+        ::Sleep(1);                               // the thread has no queue yet
+    thread->PostThreadMessage(workMessage, 0, 0); // the exception does not end the thread
     thread->PostThreadMessage(endMessage, 0, 0);
     ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, 10000), WAIT_OBJECT_0);
     DWORD status = 0;

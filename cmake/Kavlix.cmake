@@ -30,37 +30,42 @@ function(kavlix_character_set target set)
     endif()
 endfunction()
 
+# Gives targets the names by which hosts know them, the same as in the installed package. In another project they are built
+# when a program of it links them.
+function(kavlix_public_targets)
+    foreach(target ${ARGN})
+        get_target_property(name ${target} EXPORT_NAME)
+        if(NOT name)
+            set(name ${target})
+        endif()
+        add_library(Kavlix::${name} ALIAS ${target})
+        if(NOT PROJECT_IS_TOP_LEVEL AND NOT KAVLIX_INSTALL)
+            set_target_properties(${target} PROPERTIES EXCLUDE_FROM_ALL ON)
+        endif()
+    endforeach()
+endfunction()
+
 # Resource scripts are read by windres, which knows the include roots only when told, and does not tell what it has
 # included.
 function(kavlix_resources target script)
     target_sources(${target} PRIVATE ${script})
     file(GLOB included CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/module/*.rc ${PROJECT_SOURCE_DIR}/gdi/StringIds.h
          ${PROJECT_SOURCE_DIR}/monitor/*.rc ${PROJECT_BINARY_DIR}/generated/Monitor.manifest
-         ${PROJECT_SOURCE_DIR}/monitor/resource.h ${PROJECT_SOURCE_DIR}/include/kavlix/GraphNotify.h)
-    set_source_files_properties(
-        ${script} PROPERTIES INCLUDE_DIRECTORIES
-                             "${PROJECT_SOURCE_DIR};${PROJECT_BINARY_DIR}/generated;${PROJECT_SOURCE_DIR}/mfc/include"
-                             OBJECT_DEPENDS "${included}")
+         ${PROJECT_SOURCE_DIR}/monitor/resource.h ${PROJECT_SOURCE_DIR}/include/kavlix/GraphNotify.h
+         ${PROJECT_BINARY_DIR}/generated/include/kavlix/Version.h)
+    set(folders ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include ${PROJECT_BINARY_DIR}/generated
+                ${PROJECT_BINARY_DIR}/generated/include ${PROJECT_SOURCE_DIR}/mfc/include)
+    set_source_files_properties(${script} PROPERTIES INCLUDE_DIRECTORIES "${folders}" OBJECT_DEPENDS "${included}")
 endfunction()
 
-# The DLLs of the compiler's own run time stand beside the programs: exceptions cross DLL borders here, so
-# every module must share one copy of them.
+# Programs of the build tree run from its folder, together with the DLLs of the compiler's own run time.
 function(kavlix_copy_compiler_runtime)
-    if(NOT MINGW)
-        return()
+    if(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+        kavlix_compiler_runtime(files)
+        if(files)
+            file(COPY ${files} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+        endif()
     endif()
-    foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libgcc_s_dw2-1.dll libwinpthread-1.dll)
-        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name} OUTPUT_VARIABLE path
-                        OUTPUT_STRIP_TRAILING_WHITESPACE)
-        if(NOT IS_ABSOLUTE "${path}" AND CMAKE_FIND_ROOT_PATH)
-            find_file(KAVLIX_${name} ${name} PATHS ${CMAKE_FIND_ROOT_PATH} PATH_SUFFIXES lib NO_DEFAULT_PATH
-                      NO_CMAKE_FIND_ROOT_PATH)
-            set(path "${KAVLIX_${name}}")
-        endif()
-        if(IS_ABSOLUTE "${path}" AND EXISTS "${path}")
-            file(COPY "${path}" DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-        endif()
-    endforeach()
 endfunction()
 
 # Adds the sources of all targets of a folder and its subfolders to the list `result`.

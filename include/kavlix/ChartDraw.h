@@ -281,3 +281,5 @@ private:
     bool m_ShowCaptions = false;
     bool m_ShowScales = false;
 };
+
+KAVLIX_CHECK_HOST(CChartDraw)

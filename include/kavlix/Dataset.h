@@ -83,3 +83,5 @@ public:
     CString m_Legend;      ///< text of the legend row; no row if empty
     BOOL m_Visible = TRUE; ///< whether the series is drawn
 };
+
+KAVLIX_CHECK_HOST(CDataset)

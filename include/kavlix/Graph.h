@@ -312,3 +312,7 @@ private:
 
     DECLARE_MESSAGE_MAP()
 };
+
+KAVLIX_CHECK_HOST(CGraphLegendText)
+KAVLIX_CHECK_HOST(CGraphLegendList)
+KAVLIX_CHECK_HOST(CGraph)

@@ -491,3 +491,5 @@ private:
 /// left unchanged. Call this function from DoDataExchange. Throws CNotSupportedException* when the item
 /// cannot be subclassed.
 KAVLIX_API void DDX_GraphControl(CDataExchange* pDX, int nIDC, CGraphCtrl& control);
+
+KAVLIX_CHECK_HOST(CGraphCtrl)

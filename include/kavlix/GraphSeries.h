@@ -62,3 +62,6 @@ private:
     std::unordered_map<int, CGraphValue*>
         firstRecords; ///< the first value of each key; `dataValues` owns them
 };
+
+KAVLIX_CHECK_HOST(CGraphValue)
+KAVLIX_CHECK_HOST(CGraphSeries)

@@ -11,3 +11,4 @@
 #include <kavlix/PictureFile.h>
 #include <kavlix/PieChartCtrl.h>
 #include <kavlix/ScrollGraphCtrl.h>
+#include <kavlix/Version.h>

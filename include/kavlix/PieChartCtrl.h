@@ -167,3 +167,6 @@ private:
     CRect PlaceMessage(CDC& dc, const CRect& client, const CString& text);
     void DrawMessage(CDC& dc, const CRect& client, const CString& text, const CRect& band, bool bBand);
 };
+
+KAVLIX_CHECK_HOST(CPieChartPiece)
+KAVLIX_CHECK_HOST(CPieChartCtrl)

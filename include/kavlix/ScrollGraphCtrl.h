@@ -207,3 +207,5 @@ private:
     int TickPos(int nIndex, int nStep, int (*secondsToRound)(const kavlix::CalendarTime&, int),
                 CString& fullTime) const;
 };
+
+KAVLIX_CHECK_HOST(CScrollGraphCtrl)

@@ -1,0 +1,73 @@
+// KavlixCheckHost: ends a host that was built with headers of another Kavlix than this DLL.
+#include <kavlix/Kavlix.h>
+
+#include <cstring>
+#include <cwchar>
+
+namespace {
+
+struct ClassSize {
+    const char* name;
+    unsigned int size;
+};
+
+#define CLASS_SIZE(class_name)                                                                               \
+    { #class_name, static_cast < unsigned int>(sizeof(class_name)) }
+
+constexpr ClassSize kClasses[] = {
+    CLASS_SIZE(CChartDraw),     CLASS_SIZE(CDataset),         CLASS_SIZE(CGraph),
+    CLASS_SIZE(CGraphCtrl),     CLASS_SIZE(CGraphLegendList), CLASS_SIZE(CGraphLegendText),
+    CLASS_SIZE(CGraphSeries),   CLASS_SIZE(CGraphValue),      CLASS_SIZE(CPieChartCtrl),
+    CLASS_SIZE(CPieChartPiece), CLASS_SIZE(CScrollGraphCtrl)};
+
+/// The size of a class in this DLL. 0 for a class that only newer headers have.
+unsigned int SizeInDll(const char* name) {
+    for (const ClassSize& known : kClasses)
+        if (std::strcmp(known.name, name) == 0)
+            return known.size;
+    return 0;
+}
+
+/// The file of a module. Cut to the length of the buffer.
+struct ModulePath {
+    wchar_t text[MAX_PATH] = L"";
+
+    explicit ModulePath(HMODULE module) { ::GetModuleFileNameW(module, text, MAX_PATH); }
+};
+
+HMODULE ThisDll() {
+    HMODULE module = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                             GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCWSTR>(&KavlixCheckHost), &module);
+    return module;
+}
+
+} // namespace
+
+bool KavlixCheckHost(const char* pszClass, unsigned int nSize, unsigned int nVersion) {
+    constexpr unsigned int kPatches =
+        100; // KAVLIX_VERSION without its last number, which stands for corrections
+    const unsigned int size = SizeInDll(pszClass);
+    const bool fits = nVersion / (100 * kPatches) == KAVLIX_VERSION_MAJOR &&
+                      nVersion / kPatches <= KAVLIX_VERSION / kPatches && nSize == size;
+    if (fits)
+        return true;
+
+    const ModulePath program(nullptr), dll(ThisDll());
+    wchar_t text[2 * MAX_PATH + 1000];
+    std::swprintf(text, sizeof text / sizeof *text,
+                  L"This program was built with the headers of Kavlix %u.%u.%u, in which %hs has %u bytes.\n"
+                  L"The DLL that it has loaded is Kavlix %u.%u.%u, in which %hs has %u bytes.\n\n"
+                  L"Program: %ls\nDLL: %ls\n\n"
+                  L"Put the DLL that belongs to the headers beside the program, or build the program again "
+                  L"with the headers of the DLL.",
+                  nVersion / (100 * kPatches), nVersion / kPatches % 100, nVersion % kPatches, pszClass,
+                  nSize, KAVLIX_VERSION_MAJOR, KAVLIX_VERSION_MINOR, KAVLIX_VERSION_PATCH, pszClass, size,
+                  program.text, dll.text);
+    ::OutputDebugStringW(text);
+    ::MessageBoxW(nullptr, text, L"Kavlix", MB_OK | MB_ICONERROR | MB_SETFOREGROUND);
+    // The program's global objects are half constructed: none of its code may run any more.
+    ::TerminateProcess(::GetCurrentProcess(), ERROR_REVISION_MISMATCH);
+    return true;
+}

@@ -7,18 +7,10 @@ set(KAVLIX_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/Kavlix)
 
 # ---- Libraries and headers ----
 
-# Installs those of the targets that the build makes, with a folder of headers for the programs that link them.
-function(kavlix_install folder)
-    foreach(target ${ARGN})
-        get_target_property(excluded ${target} EXCLUDE_FROM_ALL)
-        if(NOT excluded)
-            install(TARGETS ${target} EXPORT KavlixTargets INCLUDES DESTINATION ${folder})
-        endif()
-    endforeach()
-endfunction()
-kavlix_install(${CMAKE_INSTALL_INCLUDEDIR} Kavlix KavlixU)
+install(TARGETS Kavlix KavlixU EXPORT KavlixTargets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(NOT KAVLIX_GENUINE_MFC)
-    kavlix_install(${CMAKE_INSTALL_INCLUDEDIR}/kavlix-mfc mfc mfc_main mfcU mfc_mainU)
+    install(TARGETS mfc mfcU mfc_main mfc_mainU EXPORT KavlixTargets
+            INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavlix-mfc)
 endif()
 if(TARGET KavlixMonitor)
     install(TARGETS KavlixMonitor)

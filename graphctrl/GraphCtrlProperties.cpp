@@ -21,7 +21,7 @@ BOOL CGraphCtrl::SetColor(int nDataset, COLORREF color) {
 BOOL CGraphCtrl::SetLineSize(int nDataset, int nSize) {
     if (!IsDataset(nDataset))
         return FALSE;
-    m_Datasets[nDataset].m_LineSize = std::clamp(nSize, 0, CDataset::MaxLineSize);
+    m_Datasets[nDataset].m_LineSize = std::clamp<int>(nSize, 0, CDataset::MaxLineSize);
     return TRUE;
 }
 

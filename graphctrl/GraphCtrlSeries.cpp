@@ -50,7 +50,7 @@ void CGraphCtrl::DrawLines(CDC& dc, const XPositions& xPositions,
     const LineSelectionMark selectionMark{m_SelectionMarkPos, plot, linePen, triangleBrush};
 
     // Dataset 0 is drawn last and covers the others.
-    const int drawn = m_GraphStyle == GraphStyleTwoAxis ? 2 : DatasetCount;
+    const int drawn = m_GraphStyle == GraphStyleTwoAxis ? 2 : int{DatasetCount};
     IndexRange ranges[DatasetCount];
     int reach = 0;
     for (int i = 0; i < drawn; ++i) {

@@ -53,7 +53,7 @@ void DrawSelectionMark(CDC& dc, const LineSelectionMark& selectionMark, CPen& se
 }
 
 int PenWidth(const CDataset& dataset) {
-    return std::clamp(dataset.GetLineSize(), 0, CDataset::MaxLineSize);
+    return std::clamp<int>(dataset.GetLineSize(), 0, CDataset::MaxLineSize);
 }
 
 int PenPixels(const CDC& dc, int width) {

@@ -31,7 +31,7 @@ public:
     };
 
     /// The widest line that is drawn, in logical units (1/30 pixel). Larger line sizes draw this width.
-    static constexpr int MaxLineSize = 1000;
+    enum : int { MaxLineSize = 1000 };
 
     /// An empty series.
     CDataset();

@@ -6,7 +6,8 @@
 // The rule for exported classes. A host compiles the size and the layout of a class into itself, so that a new data member
 // or a new virtual function breaks every program that exists. New state of a class therefore stands behind one private
 // pointer, `std::unique_ptr<kavlix::...State>`, declared in the header and defined in a source. New virtual functions come
-// with a new major version.
+// with a new major version. A public constant is an enumerator: a static data member would have to be exported, and whether
+// the compiler emits a constexpr one depends on its optimizations.
 
 // ---- Settings ----
 

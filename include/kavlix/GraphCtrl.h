@@ -60,7 +60,7 @@ public:
     };
 
     /// Number of datasets of every control. A dataset's number, `nDataset`, is 0 to DatasetCount - 1.
-    static constexpr int DatasetCount = 13;
+    enum : int { DatasetCount = 13 };
 
     /// Registers the window class if needed and makes the fonts; creates no window. Throws
     /// CResourceException* when Windows refuses to register the class.

@@ -39,7 +39,7 @@ endif()
 # ---- Documents and licences ----
 
 install(FILES README.md DESTINATION ${KAVLIX_DOC_DIR})
-install(FILES LICENSE CHANGES.md DESTINATION ${KAVLIX_DOC_DIR} OPTIONAL)
+install(FILES LICENSE CHANGES.md CONTRIBUTING.md DESTINATION ${KAVLIX_DOC_DIR} OPTIONAL)
 install(DIRECTORY docs DESTINATION ${KAVLIX_DOC_DIR})
 
 # The compiler's run time has licences of its own, which Debian's packages contain.
@@ -65,5 +65,7 @@ set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_VENDOR Kavlix)
 set(CPACK_PACKAGE_FILE_NAME Kavlix-${PROJECT_VERSION}-windows-${CMAKE_SYSTEM_PROCESSOR})
 set(CPACK_STRIP_FILES ON)
+configure_file(cmake/ZipTop.cmake.in generated/ZipTop.cmake @ONLY)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_BINARY_DIR}/generated/ZipTop.cmake)
 set(CPACK_VERBATIM_VARIABLES ON)
 include(CPack)

@@ -67,25 +67,18 @@ private:
 
     /// Index of the lowest bit that is set in `word`, which must not be 0.
     static int LowestBit(std::uint64_t word) {
-#ifdef __GNUC__
-        return __builtin_ctzll(word);
-#else
         int bit = 0;
-        for (; (word & 1) == 0; word >>= 1)
-            ++bit;
+        for (int half = kBits / 2; half > 0; half /= 2)
+            if (word << (kBits - static_cast<std::size_t>(bit + half)) == 0)
+                bit += half;
         return bit;
-#endif
     }
     std::size_t IndexOf(const Point& pixel) const {
         return static_cast<std::size_t>(pixel.y - m_area.top) * m_rowWords +
                static_cast<std::size_t>(pixel.x - m_area.left) / kBits;
     }
-    std::uint64_t& WordOf(const Point& pixel) {
-        return m_words[IndexOf(pixel)];
-    }
-    const std::uint64_t& WordOf(const Point& pixel) const {
-        return m_words[IndexOf(pixel)];
-    }
+    std::uint64_t& WordOf(const Point& pixel) { return m_words[IndexOf(pixel)]; }
+    const std::uint64_t& WordOf(const Point& pixel) const { return m_words[IndexOf(pixel)]; }
     std::uint64_t BitOf(const Point& pixel) const {
         return std::uint64_t{1} << (static_cast<std::size_t>(pixel.x - m_area.left) % kBits);
     }

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "kavlix/ChunkedArray.h"
+#include "plot/Prefetch.h"
 
 namespace kavlix {
 
@@ -45,18 +46,10 @@ public:
 
     /// Prefetches the points of the lowest block that contains point `i`, if that point exists.
     static void Prefetch(const ChartPoints& points, std::int64_t i) {
-#if defined(__GNUC__)
-        constexpr std::size_t kLine = 64; // bytes
         if (i < 0 || static_cast<std::size_t>(i) >= points.Size())
             return;
-        const auto* block =
-            reinterpret_cast<const char*>(&points[static_cast<std::size_t>(i) / kFanOut * kFanOut]);
-        for (std::size_t at = 0; at < kFanOut * sizeof(ChartPoint); at += kLine)
-            __builtin_prefetch(block + at);
-#else
-        (void)points;
-        (void)i;
-#endif
+        const ChartPoint* const block = &points[static_cast<std::size_t>(i) / kFanOut * kFanOut];
+        PrefetchMemory(block, block + kFanOut);
     }
 
     /// Visits the points from `begin` to before `end` in order. `takeBox(box, first, last)` is called for the
@@ -118,9 +111,7 @@ private:
     static constexpr std::size_t kLevels = 6; ///< enough for as many points as an int counts
 
     /// Number of points in a block of a level; level 1 is the lowest.
-    static std::size_t Size(std::size_t level) {
-        return std::size_t{1} << (kShift * level);
-    }
+    static std::size_t Size(std::size_t level) { return std::size_t{1} << (kShift * level); }
     /// The highest level of which a block begins at point `i`; 0 when no block begins there.
     static std::size_t LevelAt(std::size_t i) {
         std::size_t level = 0;

@@ -6,6 +6,8 @@
 #include <new>
 #include <utility>
 
+#include "plot/Prefetch.h"
+
 #if defined(__SSE2__) || defined(_M_X64)
 #define KAVLIX_TWO_AT_ONCE
 #include <emmintrin.h>
@@ -93,17 +95,6 @@ private:
 };
 
 #endif
-
-void PrefetchMemory(const void* begin, const void* end) {
-#if defined(__GNUC__)
-    constexpr std::ptrdiff_t kLine = 64; // bytes of a cache line
-    for (auto at = static_cast<const char*>(begin); at < end; at += kLine)
-        __builtin_prefetch(at);
-#else
-    (void)begin;
-    (void)end;
-#endif
-}
 
 } // namespace
 

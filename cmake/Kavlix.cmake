@@ -3,7 +3,8 @@
 # Warnings, sanitizers and platform definitions of the project's own code.
 function(kavlix_compile_options target)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /utf-8)
+        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- /bigobj $<$<BOOL:${KAVLIX_WERROR}>:/WX>)
+        target_compile_definitions(${target} PRIVATE _CRT_SECURE_NO_WARNINGS)
     else()
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${KAVLIX_WERROR}>:-Werror>)
         if(KAVLIX_SANITIZE)
@@ -49,6 +50,9 @@ endfunction()
 # included.
 function(kavlix_resources target script)
     target_sources(${target} PRIVATE ${script})
+    if(MSVC)
+        target_link_options(${target} PRIVATE /MANIFEST:NO) # a manifest is among the resources
+    endif()
     file(GLOB included CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/module/*.rc ${PROJECT_SOURCE_DIR}/gdi/StringIds.h
          ${PROJECT_SOURCE_DIR}/monitor/*.rc ${PROJECT_BINARY_DIR}/generated/Monitor.manifest
          ${PROJECT_SOURCE_DIR}/monitor/resource.h ${PROJECT_SOURCE_DIR}/include/kavlix/GraphNotify.h

@@ -1,0 +1,11 @@
+# The MFC of Visual C++, as a shared DLL, under the names that our own class library's targets have.
+set(CMAKE_MFC_FLAG 2)
+foreach(set IN ITEMS "" U)
+    add_library(mfc${set} INTERFACE)
+    target_compile_definitions(mfc${set} INTERFACE _AFXDLL)
+    add_library(mfc_main${set} INTERFACE)
+    target_link_libraries(mfc_main${set} INTERFACE mfc${set})
+endforeach()
+target_compile_definitions(mfcU INTERFACE UNICODE _UNICODE)
+# The linker would look for the entry point of a narrow program.
+target_link_options(mfc_mainU INTERFACE /ENTRY:wWinMainCRTStartup)

@@ -1,5 +1,5 @@
 // What run-tests.cmd asks of a test program: its counts, and its end when it hangs.
-#include <windows.h>
+#include "tests/support/UnderWine.h"
 
 #include <gtest/gtest.h>
 
@@ -11,17 +11,26 @@ namespace {
 
 constexpr UINT kHung = 1460; // ERROR_TIMEOUT
 
-/// Writes the counts as commands into the file that KAVLIX_TEST_COUNTS names.
+/// Names the tests with notes, and writes the counts as commands into the file that KAVLIX_TEST_COUNTS names.
 class Counts : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { m_notesBefore = testkit::notes; }
+    void OnTestEnd(const testing::TestInfo& test) override {
+        if (testkit::notes != m_notesBefore)
+            std::printf("%d notes in %s.%s\n", testkit::notes - m_notesBefore, test.test_suite_name(),
+                        test.name());
+    }
     void OnTestProgramEnd(const testing::UnitTest& all) override {
         const char* const path = std::getenv("KAVLIX_TEST_COUNTS");
         std::FILE* const file = path != nullptr ? std::fopen(path, "w") : nullptr;
         if (file == nullptr)
             return;
-        std::fprintf(file, "set tests=%d\nset failed=%d\nset skipped=%d\n", all.test_to_run_count(),
-                     all.failed_test_count(), all.skipped_test_count());
+        std::fprintf(file, "set tests=%d\nset failed=%d\nset skipped=%d\nset notes=%d\n",
+                     all.test_to_run_count(), all.failed_test_count(), all.skipped_test_count(),
+                     testkit::notes);
         std::fclose(file);
     }
+
+    int m_notesBefore = 0;
 };
 
 /// Ends the process after the seconds that KAVLIX_TEST_SECONDS tells.

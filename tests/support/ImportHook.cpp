@@ -16,9 +16,18 @@ void Write(void** slot, void* value) {
     }
 }
 
+/// The loaded module of that name. With the genuine class library, its DLL stands for ours.
+HMODULE Loaded(const std::string& module) {
+#ifdef KAVLIX_CLASS_LIBRARY
+    if (module.rfind("KavlixMfc", 0) == 0)
+        return GetModuleHandleA(KAVLIX_CLASS_LIBRARY);
+#endif
+    return GetModuleHandleA(module.c_str());
+}
+
 /// Calls `visit(library, function, slot)` for everything that a loaded module imports by name.
 template <class Visit> void VisitImports(const std::string& module, Visit visit) {
-    const HMODULE base = GetModuleHandleA(module.c_str());
+    const HMODULE base = Loaded(module);
     if (base == nullptr)
         return;
     const auto* dos = At<IMAGE_DOS_HEADER>(base, 0);

@@ -3,7 +3,8 @@
 # Warnings, sanitizers and platform definitions of the project's own code.
 function(kavlix_compile_options target)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- /bigobj $<$<BOOL:${KAVLIX_WERROR}>:/WX>)
+        # C4251: private members of exported classes have types that are not exported.
+        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- /bigobj /wd4251 $<$<BOOL:${KAVLIX_WERROR}>:/WX>)
         target_compile_definitions(${target} PRIVATE _CRT_SECURE_NO_WARNINGS)
     else()
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${KAVLIX_WERROR}>:-Werror>)

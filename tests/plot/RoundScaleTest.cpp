@@ -1,6 +1,7 @@
 // Round scales: ticks and labels of chosen and of fixed ranges.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <random>

@@ -1,6 +1,7 @@
 // Shapes that the painters share: pies, solids.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 

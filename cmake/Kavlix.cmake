@@ -29,6 +29,10 @@ endfunction()
 function(kavlix_character_set target set)
     if(set STREQUAL "U")
         target_compile_definitions(${target} PUBLIC UNICODE _UNICODE)
+        if(KAVLIX_SANITIZE_TRAP)
+            # The same sources are checked for char. The traps are two thirds of the time that they take to compile.
+            target_compile_options(${target} PRIVATE -fno-sanitize=all)
+        endif()
     endif()
 endfunction()
 
@@ -55,6 +59,7 @@ function(kavlix_resources target script)
         target_link_options(${target} PRIVATE /MANIFEST:NO) # a manifest is among the resources
     endif()
     file(GLOB included CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/module/*.rc ${PROJECT_SOURCE_DIR}/gdi/StringIds.h
+         ${PROJECT_SOURCE_DIR}/mfc/*.rc
          ${PROJECT_SOURCE_DIR}/monitor/*.rc ${PROJECT_BINARY_DIR}/generated/Monitor.manifest
          ${PROJECT_SOURCE_DIR}/monitor/resource.h ${PROJECT_SOURCE_DIR}/include/kavlix/GraphNotify.h
          ${PROJECT_BINARY_DIR}/generated/include/kavlix/Version.h)

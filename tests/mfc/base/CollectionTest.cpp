@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "tests/support/Refusal.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -23,10 +24,10 @@ struct Key {
 std::string Join(CStringList& list) {
     std::string joined;
     for (POSITION position = list.GetHeadPosition(); position != nullptr;)
-        joined += list.GetNext(position).GetString();
+        joined += testkit::Utf8(list.GetNext(position).GetString());
     std::string backwards;
     for (POSITION position = list.GetTailPosition(); position != nullptr;)
-        backwards = list.GetPrev(position).GetString() + backwards;
+        backwards = testkit::Utf8(list.GetPrev(position).GetString()) + backwards;
     EXPECT_EQ(joined, backwards);
     return joined;
 }
@@ -88,11 +89,11 @@ TEST(List, WalkMayRemoveWhatItHasPassed) {
 TEST(Map, ActsLikeAMapUnderRandomCalls) {
     std::mt19937 random(21);
     CMap<Key, const Key&, CString, LPCTSTR> map; // comparison and hash from this file
-    std::map<Key, std::string> model;
+    std::map<Key, AfxText> model;
     map.InitHashTable(7);
     for (int step = 0; step < 4000; ++step) {
         const Key key{static_cast<int>(random() % 100) - 50};
-        const std::string value = std::to_string(step);
+        const AfxText value = CString(std::to_string(step).c_str()).GetString();
         switch (random() % 4) {
         case 0:
             map.SetAt(key, value.c_str());
@@ -115,12 +116,12 @@ TEST(Map, ActsLikeAMapUnderRandomCalls) {
         ASSERT_EQ(static_cast<INT_PTR>(model.size()), map.GetCount());
     }
     EXPECT_EQ(7u, map.GetHashTableSize());
-    std::map<Key, std::string> seen;
+    std::map<Key, AfxText> seen;
     for (auto* pair = map.PGetFirstAssoc(); pair != nullptr; pair = map.PGetNextAssoc(pair)) {
         EXPECT_EQ(model[pair->key], pair->value.GetString());
         EXPECT_EQ(pair, map.PLookup(pair->key));
         pair->value += "!";
-        seen[pair->key] = model[pair->key] += "!";
+        seen[pair->key] = model[pair->key] += '!';
     }
     EXPECT_TRUE(std::exchange(seen, {}) == model);
     EXPECT_EQ(nullptr, map.PLookup(Key{50}));
@@ -138,14 +139,14 @@ TEST(Map, ActsLikeAMapUnderRandomCalls) {
 
 TEST(Map, TextKeysCompareByCharacters) {
     CMapStringToString map;
-    map["key"] = "one";
-    char same[] = "key";
-    map.SetAt(same, "two");
+    map[_T("key")] = _T("one");
+    TCHAR same[] = _T("key");
+    map.SetAt(same, _T("two"));
     EXPECT_EQ(1, map.GetCount());
     CString value;
     EXPECT_TRUE(map.Lookup(CString("key"), value));
     EXPECT_STREQ(_T("two"), value);
-    EXPECT_FALSE(map.Lookup("Key", value));
+    EXPECT_FALSE(map.Lookup(_T("Key"), value));
 }
 
 } // namespace

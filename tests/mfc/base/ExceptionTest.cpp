@@ -10,6 +10,7 @@
 #include "tests/mfc/base/BaseTestIds.h"
 #include "tests/support/MessageBoxWatcher.h"
 #include "tests/support/Refusal.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -29,9 +30,9 @@ class CSpecialException : public CCountedException {
 IMPLEMENT_DYNAMIC(CSpecialException, CCountedException)
 
 std::string MessageOf(CException&& exception) {
-    char text[256] = "untouched";
-    const BOOL told = exception.GetErrorMessage(text, sizeof text);
-    return told ? text : "(none)";
+    TCHAR text[256] = _T("untouched");
+    const BOOL told = exception.GetErrorMessage(text, _countof(text));
+    return told ? testkit::Utf8(text) : "(none)";
 }
 
 TEST(Exception, CrossesTheDllBorderByItsOwnTypeAndByItsBases) {
@@ -75,12 +76,12 @@ TEST(Exception, MessagesAreCutToTheirBuffer) {
     EXPECT_EQ("C:\\data.csv was not found.", MessageOf(std::move(file)));
     EXPECT_NE("(none)", MessageOf(CFileException(4711))) << "an unknown cause reads as the generic one";
     EXPECT_NE(std::string::npos,
-              MessageOf(CArchiveException(CArchiveException::endOfFile, "a.bin")).find("a.bin"));
+              MessageOf(CArchiveException(CArchiveException::endOfFile, _T("a.bin"))).find("a.bin"));
 
-    char small[] = "1234567";
+    TCHAR small[] = _T("1234567");
     EXPECT_TRUE(file.GetErrorMessage(small, 4));
-    EXPECT_STREQ("C:\\", small);
-    EXPECT_STREQ("567", small + 4) << "nothing behind the limit is touched";
+    EXPECT_STREQ(_T("C:\\"), small);
+    EXPECT_STREQ(_T("567"), small + 4) << "nothing behind the limit is touched";
 }
 
 TEST(Exception, ReportErrorShowsTheTextOrSaysThereIsNone) {

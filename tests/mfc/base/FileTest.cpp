@@ -12,6 +12,7 @@
 #include "tests/support/Refusal.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/UnderWine.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ protected:
         std::filesystem::remove_all(m_folder.Path(), error);
         EXPECT_FALSE(error) << "a file was left open";
     }
-    CString Path(LPCTSTR name) const { return m_folder.Path(name).c_str(); }
+    CString Path(LPCTSTR name) const { return m_folder.Path(testkit::Utf8(name)).c_str(); }
     std::string Content(LPCTSTR name) const {
         CFile file(Path(name), CFile::modeRead | CFile::shareDenyNone);
         std::string content(static_cast<std::size_t>(file.GetLength()), '\0');
@@ -122,9 +123,9 @@ TEST_F(File, EveryKindActsLikeATextUnderRandomCalls) {
 TEST_F(File, ModesDecideWhatIsMadeAndKept) {
     m_folder.Write("a", "old");
     { CFile kept(Path(_T("a")), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite); }
-    EXPECT_EQ(_T("old"), Content(_T("a")));
+    EXPECT_EQ("old", Content(_T("a")));
     { CFile emptied(Path(_T("a")), CFile::modeCreate | CFile::modeWrite); }
-    EXPECT_EQ(_T(""), Content(_T("a")));
+    EXPECT_EQ("", Content(_T("a")));
     CFile readOnly(Path(_T("a")), CFile::modeRead);
     EXPECT_EQ(CFileException::accessDenied, CauseOf<CFileException>([&] { readOnly.Write("x", 1); }));
     readOnly.Write("", 0);
@@ -155,8 +156,8 @@ TEST_F(File, ShareFlagsKeepOthersOut) {
                  {CFile::shareDenyNone, CFile::modeReadWrite, -1}};
     for (const auto& c : cases) {
         CFile first(Path(_T("shared")), CFile::modeCreate | CFile::modeReadWrite | c.share);
-        EXPECT_EQ(c.cause,
-                  CauseOf<CFileException>([&] { CFile(Path("shared"), c.second | CFile::shareDenyNone); }));
+        EXPECT_EQ(c.cause, CauseOf<CFileException>(
+                               [&] { CFile(Path(_T("shared")), c.second | CFile::shareDenyNone); }));
     }
 }
 
@@ -165,16 +166,16 @@ TEST_F(File, TextFilesHaveOneLineEndInMemory) {
         CStdioFile file(Path(_T("t.txt")), CFile::modeCreate | CFile::modeWrite | CFile::typeText);
         file.WriteString("first\n\n" + CString('x', 2000) + "\nno end");
     }
-    EXPECT_EQ(_T("first\r\n\r\n") + std::string(2000, 'x') + _T("\r\nno end"), Content(_T("t.txt")));
+    EXPECT_EQ("first\r\n\r\n" + std::string(2000, 'x') + "\r\nno end", Content(_T("t.txt")));
     CStdioFile file(Path(_T("t.txt")), CFile::modeRead);
     CString line;
     for (const CString& expected : {CString("first"), CString(), CString('x', 2000)}) {
         EXPECT_TRUE(file.ReadString(line));
         EXPECT_TRUE(line == expected) << line;
     }
-    char piece[5];
+    TCHAR piece[5];
     EXPECT_EQ(piece, file.ReadString(piece, 5));
-    EXPECT_STREQ("no e", piece);
+    EXPECT_STREQ(_T("no e"), piece);
     EXPECT_TRUE(file.ReadString(line));
     EXPECT_STREQ(_T("nd"), line);
     EXPECT_FALSE(file.ReadString(line));

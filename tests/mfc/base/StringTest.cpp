@@ -20,27 +20,27 @@ namespace {
 // EXPECT_STREQ needs a pointer to characters.
 #define EXPECT_TEXT(expected, text) EXPECT_STREQ(expected, static_cast<LPCTSTR>(text))
 
-std::string Plain(const CString& text) {
-    return std::string(text.GetString(), static_cast<std::size_t>(text.GetLength()));
+AfxText Plain(const CString& text) {
+    return AfxText(text.GetString(), static_cast<std::size_t>(text.GetLength()));
 }
 
-std::string WithCase(std::string text, bool upper) {
-    for (char& ch : text)
-        ch = static_cast<char>(upper ? std::toupper(ch) : std::tolower(ch));
+AfxText WithCase(AfxText text, bool upper) {
+    for (TCHAR& ch : text)
+        ch = static_cast<TCHAR>(upper ? std::toupper(ch) : std::tolower(ch));
     return text;
 }
 
 /// Without the characters of `set` at its ends.
-std::string Trimmed(const std::string& text, const std::string& set, bool left, bool right) {
+AfxText Trimmed(const AfxText& text, const AfxText& set, bool left, bool right) {
     const std::size_t first = left ? text.find_first_not_of(set) : 0;
     const std::size_t last = right ? text.find_last_not_of(set) + 1 : text.size();
-    return first < last ? text.substr(first, last - first) : "";
+    return first < last ? text.substr(first, last - first) : AfxText();
 }
 
 /// `text` with every `before` replaced, from left to right, and how many there were.
-std::pair<std::string, int> Replaced(std::string text, const std::string& before, const std::string& after) {
+std::pair<AfxText, int> Replaced(AfxText text, const AfxText& before, const AfxText& after) {
     int count = 0;
-    for (std::size_t at = 0; !before.empty() && (at = text.find(before, at)) != std::string::npos; ++count) {
+    for (std::size_t at = 0; !before.empty() && (at = text.find(before, at)) != AfxText::npos; ++count) {
         text.replace(at, before.size(), after);
         at += after.size();
     }
@@ -48,15 +48,15 @@ std::pair<std::string, int> Replaced(std::string text, const std::string& before
 }
 
 /// The pieces between commas, the empty ones too.
-std::vector<std::string> Pieces(const std::string& text) {
-    std::vector<std::string> pieces(1);
-    for (const char ch : text)
+std::vector<AfxText> Pieces(const AfxText& text) {
+    std::vector<AfxText> pieces(1);
+    for (const TCHAR ch : text)
         ch == ',' ? void(pieces.emplace_back()) : void(pieces.back() += ch);
     return pieces;
 }
 
 int Index(std::size_t found) {
-    return static_cast<int>(found); // -1 for std::string::npos
+    return static_cast<int>(found); // -1 for AfxText::npos
 }
 
 int Sign(int order) {
@@ -70,9 +70,9 @@ template <class LEFT, class RIGHT> auto Relations(const LEFT& left, const RIGHT&
 TEST(String, ActsLikeAStdStringUnderRandomCalls) {
     std::mt19937 random(22);
     const auto below = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
-    const auto letter = [&] { return "aAbB ,\v"[below(7)]; };
+    const auto letter = [&] { return _T("aAbB ,\v")[below(7)]; };
     CString text;
-    std::string model;
+    AfxText model;
     for (int step = 0; step < 30000; ++step) {
         SCOPED_TRACE(step);
         const int length = static_cast<int>(model.size());
@@ -84,14 +84,14 @@ TEST(String, ActsLikeAStdStringUnderRandomCalls) {
         const int count = number();
         const std::size_t first = static_cast<std::size_t>(std::clamp(at, 0, length));
         const std::size_t many = static_cast<std::size_t>(std::max(count, 0));
-        const char ch = letter();
-        const char other = letter();
+        const TCHAR ch = letter();
+        const TCHAR other = letter();
         const bool own = below(4) == 0; // an argument that is a part of the text itself
-        std::string part = own ? model.substr(first) : std::string(random() % 4, ' ');
+        AfxText part = own ? model.substr(first) : AfxText(random() % 4, ' ');
         if (!own)
             std::generate(part.begin(), part.end(), letter);
         const LPCTSTR argument = own ? text.GetString() + first : part.c_str();
-        const std::string one(1, ch);
+        const AfxText one(1, ch);
 
         ASSERT_EQ(model.substr(first, many), Plain(text.Mid(at, count)));
         ASSERT_EQ(model.substr(first), Plain(text.Mid(at)));
@@ -112,16 +112,16 @@ TEST(String, ActsLikeAStdStringUnderRandomCalls) {
         CString piece("old");
         int index = 0;
         int position = 0;
-        for (const std::string& expected : Pieces(model)) {
+        for (const AfxText& expected : Pieces(model)) {
             ASSERT_TRUE(AfxExtractSubString(piece, text, index++, ','));
             ASSERT_EQ(expected, Plain(piece));
-            ASSERT_EQ(expected, expected.empty() ? _T("") : Plain(text.Tokenize(_T(","), position)));
+            ASSERT_EQ(expected, expected.empty() ? AfxText() : Plain(text.Tokenize(_T(","), position)));
         }
         ASSERT_FALSE(AfxExtractSubString(piece, text, index, ',') || !piece.IsEmpty());
         ASSERT_TRUE(position != -1 && text.Tokenize(_T(","), position).IsEmpty() && position == -1);
 
         const auto [replaced, changes] = Replaced(model, part, one + part);
-        const auto [exchanged, exchanges] = Replaced(model, one, std::string(1, other));
+        const auto [exchanged, exchanges] = Replaced(model, one, AfxText(1, other));
         switch (below(length > 60 ? 1 : 14)) {
         case 0:
             text = argument;
@@ -157,15 +157,15 @@ TEST(String, ActsLikeAStdStringUnderRandomCalls) {
             ASSERT_EQ(ch == other ? 0 : exchanges, text.Replace(ch, other));
             break;
         case 8:
-            model = Replaced(model, one, "").first;
+            model = Replaced(model, one, _T("")).first;
             ASSERT_EQ(length - static_cast<int>(model.size()), text.Remove(ch));
             break;
         case 9:
-            model = Trimmed(Trimmed(model, one, true, own), " \v", !own, true);
+            model = Trimmed(Trimmed(model, one, true, own), _T(" \v"), !own, true);
             (own ? text.Trim(ch).TrimRight() : text.TrimLeft(ch).Trim());
             break;
         case 10:
-            model = Trimmed(Trimmed(model, part, own, true), " \v", true, false);
+            model = Trimmed(Trimmed(model, part, own, true), _T(" \v"), true, false);
             (own ? text.Trim(part.c_str()) : text.TrimRight(part.c_str())).TrimLeft();
             break;
         case 11:
@@ -188,11 +188,11 @@ TEST(String, ActsLikeAStdStringUnderRandomCalls) {
 
 TEST(String, NothingAndTooMuchAreTakenWell) {
     const LPCTSTR none = nullptr;
-    EXPECT_TEXT("", CString(none));
-    EXPECT_TEXT("", CString('x', -5));
-    EXPECT_TEXT("xxx", CString('x', 3));
-    EXPECT_TEXT("abc", CString(_T("abcdef"), 3));
-    EXPECT_TEXT("wi", CString(L"wide", 2));
+    EXPECT_TEXT(_T(""), CString(none));
+    EXPECT_TEXT(_T(""), CString('x', -5));
+    EXPECT_TEXT(_T("xxx"), CString('x', 3));
+    EXPECT_TEXT(_T("abc"), CString(_T("abcdef"), 3));
+    EXPECT_TEXT(_T("wi"), CString(L"wide", 2));
     CString text("aa");
     text += none;
     EXPECT_TRUE(text != none && CString() == none && text.Find(none) == -1);
@@ -204,7 +204,7 @@ TEST(String, NothingAndTooMuchAreTakenWell) {
 
     text = "kept";
     EXPECT_TRUE(Throws<CMemoryException>([&] { text.GetBuffer(INT_MAX); }));
-    EXPECT_TEXT("kept", text);
+    EXPECT_TEXT(_T("kept"), text);
     EXPECT_REFUSED(text.GetAt(4));
     EXPECT_REFUSED(text.SetAt(-1, 'x'));
 }
@@ -226,14 +226,14 @@ TEST(String, BufferIsWritableToItsLastByte) {
     CString text("old");
     LPTSTR buffer = text.GetBuffer(10);
     EXPECT_STREQ(_T("old"), buffer);
-    std::memcpy(buffer, "0123456789", 11);
+    std::memcpy(buffer, _T("0123456789"), 11 * sizeof(TCHAR));
     text.ReleaseBuffer();
-    EXPECT_TEXT("0123456789", text);
-    std::memset(text.GetBufferSetLength(5), 'z', 5);
+    EXPECT_TEXT(_T("0123456789"), text);
+    std::fill_n(text.GetBufferSetLength(5), 5, _T('z'));
     text.GetBuffer(0);
     text.ReleaseBuffer(2);
     text.FreeExtra();
-    EXPECT_TEXT("zz", text);
+    EXPECT_TEXT(_T("zz"), text);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <tuple>
 
 #include "tests/support/ImportHook.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -16,11 +17,11 @@ constexpr __time64_t hour = 3600;
 constexpr __time64_t day = 24 * hour;
 
 std::string Local(CTime time) {
-    return time.Format(_T("%Y-%m-%d %H:%M:%S")).GetString();
+    return testkit::Utf8(time.Format(_T("%Y-%m-%d %H:%M:%S")));
 }
 
 std::string Gmt(CTime time) {
-    return time.FormatGmt(_T("%Y-%m-%d %H:%M:%S")).GetString();
+    return testkit::Utf8(time.FormatGmt(_T("%Y-%m-%d %H:%M:%S")));
 }
 
 /// Rules of zones in the format of the system: wDay is the number of the Sunday in the month, 5 the last.

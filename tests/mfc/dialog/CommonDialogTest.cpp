@@ -51,14 +51,14 @@ protected:
 
 TEST(FileDialog, TellsThePartsOfTheNameChosen) {
     const testkit::SeenUnderWine inside;
-    char folder[MAX_PATH] = {};
+    TCHAR folder[MAX_PATH] = {};
     ::GetTempPath(MAX_PATH, folder);
-    const std::string name = std::string(folder) + "some.notes.txt";
-    CQuickSave dialog(name.c_str());
+    const CString name = folder + CString("some.notes.txt");
+    CQuickSave dialog(name);
     ASSERT_EQ(IDOK, dialog.DoModal());
     EXPECT_STREQ(_T("some.notes.txt|txt|some.notes"),
                  dialog.GetFileName() + "|" + dialog.GetFileExt() + "|" + dialog.GetFileTitle());
-    EXPECT_EQ(0, dialog.GetPathName().CompareNoCase(name.c_str()));
+    EXPECT_EQ(0, dialog.GetPathName().CompareNoCase(name));
 
     CQuickSave refusing(_T("refused"), _T("txt"));
     refusing.refusals = 2;
@@ -68,8 +68,8 @@ TEST(FileDialog, TellsThePartsOfTheNameChosen) {
 
 TEST(FileDialog, FilterAndNamesAreKept) {
     CFileDialog dialog(TRUE, _T("csv"), _T("start.csv"), 0, _T("Tables|*.csv|All|*.*"));
-    const char expected[] = "Tables\0*.csv\0All\0*.*\0\0";
-    EXPECT_EQ(0, std::memcmp(expected, dialog.m_ofn.lpstrFilter, sizeof(expected) - 1))
+    const TCHAR expected[] = _T("Tables\0*.csv\0All\0*.*\0\0");
+    EXPECT_EQ(0, std::memcmp(expected, dialog.m_ofn.lpstrFilter, sizeof(expected) - sizeof(TCHAR)))
         << "ends with two zeros";
     EXPECT_STREQ(_T("start.csv"), dialog.m_ofn.lpstrFile);
 }
@@ -77,18 +77,18 @@ TEST(FileDialog, FilterAndNamesAreKept) {
 TEST(FileDialog, SeveralFilesAreListedOneByOne) {
     using namespace std::string_literals;
     struct {
-        std::string file;
+        AfxText file;
         WORD offset;
-        std::vector<std::string> paths;
+        std::vector<AfxText> paths;
     } cases[] = {
-        {"C:\\data\0one.csv\0two.csv\0"s, 8, {"C:\\data\\one.csv", "C:\\data\\two.csv"}},
-        {"C:\\data\\only.csv"s, 8, {"C:\\data\\only.csv"}},
+        {_T("C:\\data\0one.csv\0two.csv\0"s), 8, {_T("C:\\data\\one.csv"), _T("C:\\data\\two.csv")}},
+        {_T("C:\\data\\only.csv"s), 8, {_T("C:\\data\\only.csv")}},
     };
     for (auto& c : cases) {
         CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT);
         dialog.m_ofn.lpstrFile = c.file.data();
         dialog.m_ofn.nFileOffset = c.offset;
-        std::vector<std::string> paths;
+        std::vector<AfxText> paths;
         for (POSITION position = dialog.GetStartPosition(); position != nullptr;)
             paths.push_back(dialog.GetNextPathName(position).GetString());
         EXPECT_EQ(c.paths, paths);

@@ -16,7 +16,7 @@ class Controls : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(
-            m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr));
+            m_parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 300, 200, nullptr, nullptr));
     }
     void TearDown() override { m_parent.DestroyWindow(); }
     CWnd m_parent;
@@ -28,9 +28,9 @@ TEST_F(Controls, EditTextSelectionAndLines) {
     CEdit edit;
     ASSERT_TRUE(edit.Create(kStyle | ES_MULTILINE, m_rect, &m_parent, 5));
     edit.SetWindowText(_T("first\r\nsecond line\r\n\r\nlast"));
-    char line[32];
-    EXPECT_EQ(11, edit.GetLine(1, line, sizeof(line)));
-    EXPECT_EQ("second line", std::string(line, 11));
+    TCHAR line[32];
+    EXPECT_EQ(11, edit.GetLine(1, line, _countof(line)));
+    EXPECT_EQ("second line", CString(line, 11));
     edit.SetSel(7, 13);
     int start = 0, end = 0;
     edit.GetSel(start, end);

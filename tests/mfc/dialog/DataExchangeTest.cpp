@@ -94,18 +94,18 @@ TEST_F(DataExchange, IntegersOfEveryTypeAreShownReadAndRefused) {
     ExpectShownAndRead<short>(_T("-32768"), SHRT_MIN);
     ExpectShownAndRead<BYTE>(_T("255"), 255);
     EXPECT_EQ(INT_MAX, Read<int>(_T(" \t+2147483647 "), 0));
-    EXPECT_EQ(10, Read<int>(_T("010"), 0)) << _T("decimal, whatever it begins with");
+    EXPECT_EQ(10, Read<int>(_T("010"), 0)) << "decimal, whatever it begins with";
     const auto refused = [this](auto other, const char* prompt, std::initializer_list<LPCTSTR> texts) {
         for (LPCTSTR text : texts)
             EXPECT_EQ(other, Read(text, other)) << text;
         EXPECT_EQ(prompt, m_prompt);
     };
     refused(
-        -1, _T("Enter an integer."),
+        -1, "Enter an integer.",
         {_T(""), _T("  "), _T("x"), _T("12x"), _T("1 2"), _T("1.5"), _T("2147483648"), _T("-2147483649")});
-    refused(1u, _T("Enter a positive integer."),
+    refused(1u, "Enter a positive integer.",
             {_T("-1"), _T("4294967296"), _T("- 1"), _T(""), _T("-18446744073709551615")});
-    refused(BYTE{9}, _T("Enter an integer between 0 and 255."), {_T("256"), _T("-1"), _T("")});
+    refused(BYTE{9}, "Enter an integer between 0 and 255.", {_T("256"), _T("-1"), _T("")});
 }
 
 TEST_F(DataExchange, RealNumbersKeepTheDigitsTheyHave) {
@@ -117,7 +117,7 @@ TEST_F(DataExchange, RealNumbersKeepTheDigitsTheyHave) {
          {_T(""), _T("1,5"), _T("nan"), _T("inf"), _T("0x10"), _T("1e"), _T("1e999"), _T("."), _T("--1")})
         EXPECT_EQ(-9.0, Read<double>(text, -9.0)) << text;
     EXPECT_EQ("Enter a number.", m_prompt);
-    EXPECT_EQ(-9.0f, Read<float>(_T("1e39"), -9.0f)) << _T("too large for the member");
+    EXPECT_EQ(-9.0f, Read<float>(_T("1e39"), -9.0f)) << "too large for the member";
 }
 
 TEST_F(DataExchange, TextIsSetOnlyWhenItDiffers) {
@@ -184,7 +184,7 @@ TEST_F(DataExchange, RangesAreCheckedWhenSavingOnly) {
     EXPECT_STREQ(_T("50"), m_dialog.Text());
     for (LPCTSTR text : {_T("50"), _T("-5"), _T("10"), _T("0"), _T("-6")}) {
         m_dialog.SetText(text);
-        EXPECT_EQ(atoi(text) >= -5 && atoi(text) <= 10, Save(range) != FALSE) << text;
+        EXPECT_EQ(_ttoi(text) >= -5 && _ttoi(text) <= 10, Save(range) != FALSE) << text;
     }
     ASSERT_EQ(2u, prompts.Boxes().size());
     EXPECT_EQ("Enter an integer between -5 and 10.", prompts.Boxes()[1].text);

@@ -85,7 +85,7 @@ TEST(Dialog, OkTakesTheDataAndCancelLeavesIt) {
     ok.onInit = [](CTestDialog& dialog) {
         CString shown;
         dialog.GetDlgItemText(IDC_TEXT, shown);
-        EXPECT_STREQ(_T("before"), shown) << _T("members are shown before the dialog is");
+        EXPECT_STREQ(_T("before"), shown) << "members are shown before the dialog is";
         EXPECT_FALSE(dialog.IsWindowVisible());
         dialog.SetDlgItemText(IDC_TEXT, _T("after"));
         dialog.Press(IDOK);

@@ -139,10 +139,10 @@ TEST(GdiObject, PointFontsAreMeasuredInTheUnitsOfTheirDC) {
     dc.SetViewportOrg(17, 230);
     dc.SetWindowOrg(-400, 900);
     EXPECT_EQ(-pixels * kUnitsPerPixel,
-              height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, "Arial", &dc); }));
-    const std::string longName(100, 'x');
-    height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, longName.c_str()); });
-    EXPECT_EQ(std::string(LF_FACESIZE - 1, 'x'), record.lfFaceName);
+              height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, _T("Arial"), &dc); }));
+    const CString longName('x', 100);
+    height([&](CFont& font) { return font.CreatePointFont(kTenthsOfPoint, longName); });
+    EXPECT_EQ(CString('x', LF_FACESIZE - 1), record.lfFaceName);
 }
 
 } // namespace

@@ -9,9 +9,9 @@
 
 namespace {
 
-void SetName(LPCTSTR& name, const char* text) {
-    std::free(const_cast<char*>(name));
-    name = _strdup(text);
+void SetName(LPCTSTR& name, LPCTSTR text) {
+    std::free(const_cast<LPTSTR>(name));
+    name = _tcsdup(text);
 }
 
 /// Profile data in the registry (true) and in an INI file.
@@ -22,7 +22,7 @@ protected:
             app.SetRegistryKey(_T("Kavlix window tests"));
             EXPECT_STREQ(app.m_pszProfileName, _T("Scoped"));
         } else {
-            SetName(app.m_pszProfileName, folder.Path("profile.ini").c_str());
+            SetName(app.m_pszProfileName, CString(folder.Path("profile.ini").c_str()));
         }
     }
     void TearDown() override {
@@ -47,9 +47,9 @@ TEST_P(ProfileTest, ValuesComeBackAsTheyWereWritten) {
     EXPECT_EQ(static_cast<int>(app.GetProfileInt(_T("Section"), _T("Number"), 31)), -5);
 
     EXPECT_STREQ(app.GetProfileString(_T("Section"), _T("Text"), _T("fallback")), _T("fallback"));
-    const std::string longText(9000, 'x');
-    EXPECT_TRUE(app.WriteProfileString(_T("Section"), _T("Text"), longText.c_str()));
-    EXPECT_EQ(std::string(app.GetProfileString(_T("Section"), _T("Text"), _T("fallback"))), longText);
+    const CString longText('x', 9000);
+    EXPECT_TRUE(app.WriteProfileString(_T("Section"), _T("Text"), longText));
+    EXPECT_EQ(app.GetProfileString(_T("Section"), _T("Text"), _T("fallback")), longText);
 
     BYTE bytes[] = {0, 1, 0x7F, 0x80, 0xFF};
     EXPECT_TRUE(app.WriteProfileBinary(_T("Section"), _T("Bytes"), bytes, sizeof(bytes)));
@@ -70,30 +70,33 @@ TEST_P(ProfileTest, NothingInThePlaceOfAValueOrNameDeletes) {
 }
 
 TEST(CommandLineTest, FlagsAndNamesAreSorted) {
-    const auto parsed = [](CCommandLineInfo& info, std::vector<std::pair<const char*, BOOL>> parameters) {
+    const auto parsed = [](CCommandLineInfo& info, std::vector<std::pair<LPCTSTR, BOOL>> parameters) {
         for (std::size_t i = 0; i < parameters.size(); ++i)
             info.ParseParam(parameters[i].first, parameters[i].second, i + 1 == parameters.size());
         return info.m_nShellCommand;
     };
     CCommandLineInfo open, print;
-    EXPECT_EQ(parsed(open, {{"a file.txt", FALSE}}), CCommandLineInfo::FileOpen);
+    EXPECT_EQ(parsed(open, {{_T("a file.txt"), FALSE}}), CCommandLineInfo::FileOpen);
     EXPECT_STREQ(open.m_strFileName, _T("a file.txt"));
-    EXPECT_EQ(
-        parsed(print, {{"pt", TRUE}, {"f", FALSE}, {"printer", FALSE}, {"driver", FALSE}, {"port", FALSE}}),
-        CCommandLineInfo::FilePrintTo);
+    EXPECT_EQ(parsed(print, {{_T("pt"), TRUE},
+                             {_T("f"), FALSE},
+                             {_T("printer"), FALSE},
+                             {_T("driver"), FALSE},
+                             {_T("port"), FALSE}}),
+              CCommandLineInfo::FilePrintTo);
     EXPECT_STREQ(print.m_strFileName + _T("|") + print.m_strPrinterName + _T("|") + print.m_strPortName,
-                 "f|printer|port");
+                 _T("f|printer|port"));
 }
 
 TEST(AppTest, TheProgramIsKnownByItsNames) {
     CWinApp* const app = AfxGetApp();
-    char path[MAX_PATH] = "";
-    ::GetModuleFileName(nullptr, path, sizeof(path));
-    const std::string stem = std::string(path).substr(0, std::string(path).rfind('.'));
-    const std::string name = stem.substr(stem.rfind('\\') + 1);
-    EXPECT_EQ(std::string(app->m_pszExeName), name);
-    EXPECT_EQ(std::string(app->m_pszProfileName), name + ".INI");
-    EXPECT_EQ(std::string(app->m_pszHelpFilePath), stem + ".HLP");
+    TCHAR path[MAX_PATH] = _T("");
+    ::GetModuleFileName(nullptr, path, MAX_PATH);
+    const CString stem = CString(path).Left(CString(path).ReverseFind('.'));
+    const CString name = stem.Mid(stem.ReverseFind('\\') + 1);
+    EXPECT_EQ(app->m_pszExeName, name);
+    EXPECT_EQ(app->m_pszProfileName, name + _T(".INI"));
+    EXPECT_EQ(app->m_pszHelpFilePath, stem + _T(".HLP"));
 }
 
 TEST(AppTest, TheHourglassIsCounted) {

@@ -93,9 +93,9 @@ protected:
         ids.erase(0);
         return ids;
     }
-    std::string Text(UINT id) const {
-        char text[64] = "";
-        ::GetMenuString(popup, id, text, sizeof(text), MF_BYCOMMAND);
+    CString Text(UINT id) const {
+        CString text;
+        CMenu::FromHandle(popup)->GetMenuString(id, text, MF_BYCOMMAND);
         return text;
     }
     FrameApp app;

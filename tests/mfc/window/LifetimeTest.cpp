@@ -165,7 +165,7 @@ TEST_F(LifetimeTest, TheDestructorDestroysTheWindowWithoutTheDerivedHandlers) {
 }
 
 TEST_F(LifetimeTest, AFailedCreationCleansUpOnceAndLeavesNothing) {
-    const auto failsWith = [&](auto prepare, const char* className) {
+    const auto failsWith = [&](auto prepare, LPCTSTR className) {
         log.clear();
         LoggedWnd window(log);
         prepare(window);
@@ -176,11 +176,11 @@ TEST_F(LifetimeTest, AFailedCreationCleansUpOnceAndLeavesNothing) {
         log.erase(std::remove(log.begin(), log.end(), "destroy"), log.end());
         return log;
     };
-    const std::string plain = AfxRegisterWndClass(0);
-    EXPECT_EQ(failsWith([](LoggedWnd&) {}, "no such class at all"), Log{"post"});
-    EXPECT_EQ(failsWith([](LoggedWnd& window) { window.createAnswer = -1; }, plain.c_str()),
+    const CString plain = AfxRegisterWndClass(0);
+    EXPECT_EQ(failsWith([](LoggedWnd&) {}, _T("no such class at all")), Log{"post"});
+    EXPECT_EQ(failsWith([](LoggedWnd& window) { window.createAnswer = -1; }, plain),
               (Log{"subclass", "nccreate", "create", "ncdestroy", "post"}));
-    EXPECT_EQ(failsWith([](LoggedWnd& window) { window.ncCreateAnswer = FALSE; }, plain.c_str()),
+    EXPECT_EQ(failsWith([](LoggedWnd& window) { window.ncCreateAnswer = FALSE; }, plain),
               (Log{"subclass", "nccreate", "ncdestroy", "post"}));
 }
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "tests/mfc/window/WindowKit.h"
 #include "tests/mfc/window/window_ids.h"
 
@@ -13,10 +11,10 @@ constexpr UINT kavlixString = 5504; // in the same block of strings as IDS_IN_KA
 constexpr UINT nobodysString = 5488;
 
 std::string Loaded(UINT id) {
-    char text[256] = "rubbish";
+    TCHAR text[256] = _T("rubbish");
     const int length = AfxLoadString(id, text);
-    EXPECT_EQ(length, static_cast<int>(std::strlen(text)));
-    return text;
+    EXPECT_EQ(length, static_cast<int>(_tcslen(text)));
+    return testkit::Utf8(text);
 }
 
 /// Kavlix.dll as an extension DLL of this program.
@@ -88,24 +86,24 @@ TEST_F(ModuleTest, AManagedStateLendsItsResourcesForAScope) {
 TEST_F(ModuleTest, WindowClassesAreNamedByTheirProperties) {
     const HCURSOR cursor = ::LoadCursor(nullptr, IDC_CROSS);
     const auto brush = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
-    const std::string name = AfxRegisterWndClass(CS_DBLCLKS, cursor, brush);
-    EXPECT_NE(std::string(AfxRegisterWndClass(CS_DBLCLKS)), name);
-    EXPECT_EQ(std::string(AfxRegisterWndClass(CS_DBLCLKS, cursor, brush)), name);
+    const CString name = AfxRegisterWndClass(CS_DBLCLKS, cursor, brush);
+    EXPECT_NE(AfxRegisterWndClass(CS_DBLCLKS), name);
+    EXPECT_EQ(AfxRegisterWndClass(CS_DBLCLKS, cursor, brush), name);
     WNDCLASS found{};
-    ASSERT_TRUE(::GetClassInfo(program, name.c_str(), &found));
+    ASSERT_TRUE(::GetClassInfo(program, name, &found));
     EXPECT_TRUE(found.hCursor == cursor && found.hbrBackground == brush && found.style == CS_DBLCLKS);
 }
 
 TEST_F(ModuleTest, TextsAreCutAndFilledIn) {
-    char small[5] = "";
-    EXPECT_EQ(AfxLoadString(IDS_IN_KAVLIX_BLOCK, small, sizeof(small)), 4);
-    EXPECT_STREQ(small, "the ");
+    TCHAR small[5] = _T("");
+    EXPECT_EQ(AfxLoadString(IDS_IN_KAVLIX_BLOCK, small, _countof(small)), 4);
+    EXPECT_STREQ(small, _T("the "));
 
     CString text;
     AfxFormatString2(text, IDS_TEMPLATE, _T("first"), _T("second"));
     EXPECT_STREQ(text, _T("first of second (first), %%"));
     AfxFormatString1(text, IDS_TEMPLATE, _T("%2"));
-    EXPECT_STREQ(text, _T("%2 of  (%2), %%")) << _T("inserted text is not looked through again");
+    EXPECT_STREQ(text, _T("%2 of  (%2), %%")) << "inserted text is not looked through again";
 
     EXPECT_EQ(Loaded(AFX_IDP_PARSE_INT), "Enter an integer.") << "the library's own";
     EXPECT_EQ(Loaded(AFX_IDP_PARSE_BYTE), "the program's wording") << "goes first";

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/Utf8.h"
+
 namespace windowkit {
 
 /// Events in order.
@@ -73,7 +75,7 @@ public:
 
     std::vector<std::string> boxes; ///< texts of message boxes
     int DoMessageBox(LPCTSTR prompt, UINT, UINT) override {
-        boxes.emplace_back(prompt);
+        boxes.push_back(testkit::Utf8(prompt));
         return IDOK;
     }
 };

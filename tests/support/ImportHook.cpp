@@ -8,6 +8,23 @@ template <class T> const T* At(HMODULE module, DWORD offset) {
     return reinterpret_cast<const T*>(reinterpret_cast<const unsigned char*>(module) + offset);
 }
 
+#ifdef _UNICODE
+std::string OfCharacterSet(const std::string& module) {
+    return module == "Kavlix.dll" ? "KavlixU.dll" : module == "KavlixMfc.dll" ? "KavlixMfcU.dll" : module;
+}
+bool IsNamed(const std::string& function, const std::string& name) {
+    return name == function || (!function.empty() && function.back() == 'A' &&
+                                name == function.substr(0, function.size() - 1) + 'W');
+}
+#else
+const std::string& OfCharacterSet(const std::string& module) {
+    return module;
+}
+bool IsNamed(const std::string& function, const std::string& name) {
+    return name == function;
+}
+#endif
+
 void Write(void** slot, void* value) {
     DWORD old = 0;
     if (VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &old)) {
@@ -22,7 +39,7 @@ HMODULE Loaded(const std::string& module) {
     if (module.rfind("KavlixMfc", 0) == 0)
         return GetModuleHandleA(KAVLIX_CLASS_LIBRARY);
 #endif
-    return GetModuleHandleA(module.c_str());
+    return GetModuleHandleA(OfCharacterSet(module).c_str());
 }
 
 /// Calls `visit(library, function, slot)` for everything that a loaded module imports by name.
@@ -53,7 +70,7 @@ template <class Visit> void VisitImports(const std::string& module, Visit visit)
 
 ImportHook::ImportHook(const std::string& module, const std::string& function, void* replacement) {
     VisitImports(module, [&](const char*, const char* name, void** slot) {
-        if (function != name)
+        if (!IsNamed(function, name))
             return;
         m_original = *slot;
         m_slots.push_back(slot);

@@ -14,6 +14,7 @@ class ImportHook {
 public:
     /// `module` is the importing DLL ("Kavlix.dll"), `function` the imported name ("CreateCompatibleBitmap");
     /// the library that exports it does not matter. Installed tells whether the import was found.
+    /// With UNICODE, the names of the char build mean KavlixU.dll, KavlixMfcU.dll and functions that end in W.
     ImportHook(const std::string& module, const std::string& function, void* replacement);
     ImportHook(const ImportHook&) = delete;
     ImportHook& operator=(const ImportHook&) = delete;

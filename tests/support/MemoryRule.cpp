@@ -16,8 +16,8 @@ constexpr int kMostAllocations = 20000;
 
 int boxes = 0;
 
-int WINAPI CountedBox(HWND, LPCSTR text, LPCSTR, UINT type) {
-    boxes += *text != '\0' && (type & MB_TYPEMASK) == MB_OK;
+int WINAPI CountedBox(HWND, LPCTSTR text, LPCTSTR, UINT type) {
+    boxes += *text != 0 && (type & MB_TYPEMASK) == MB_OK;
     return IDOK;
 }
 

@@ -218,9 +218,9 @@ TEST(Dialog, ListsAreFilledFromTheResource) {
     ASSERT_TRUE(dialog.Create(IDD_LISTS));
     EXPECT_EQ(1, dialog.SendDlgItemMessage(IDC_LIST, LB_GETCOUNT));
     EXPECT_EQ(2, dialog.SendDlgItemMessage(IDC_COMBO, CB_GETCOUNT));
-    char text[20] = {};
+    TCHAR text[20] = {};
     dialog.SendDlgItemMessage(IDC_COMBO, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(text));
-    EXPECT_STREQ("Beta", text);
+    EXPECT_STREQ(_T("Beta"), text);
     dialog.DestroyWindow();
 }
 

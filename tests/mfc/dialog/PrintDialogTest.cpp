@@ -12,10 +12,10 @@ namespace {
 
 /// Settings of a printer as the system's dialog returns them.
 HGLOBAL MakeNames() {
-    const char text[] = "winspool\0Office printer\0LPT7:";
+    const TCHAR text[] = _T("winspool\0Office printer\0LPT7:");
     const HGLOBAL memory = GlobalAlloc(GHND, sizeof(DEVNAMES) + sizeof text);
     auto* const names = static_cast<DEVNAMES*>(GlobalLock(memory));
-    names->wDriverOffset = sizeof(DEVNAMES);
+    names->wDriverOffset = sizeof(DEVNAMES) / sizeof(TCHAR); // offsets count TCHARs
     names->wDeviceOffset = static_cast<WORD>(names->wDriverOffset + 9);
     names->wOutputOffset = static_cast<WORD>(names->wDeviceOffset + 15);
     std::memcpy(reinterpret_cast<char*>(names) + sizeof(DEVNAMES), text, sizeof text);

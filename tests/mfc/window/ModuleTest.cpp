@@ -17,13 +17,19 @@ std::string Loaded(UINT id) {
     return testkit::Utf8(text);
 }
 
+#ifdef _UNICODE
+constexpr LPCTSTR kavlixName = L"KavlixU.dll";
+#else
+constexpr LPCTSTR kavlixName = "Kavlix.dll";
+#endif
+
 /// Kavlix.dll as an extension DLL of this program.
 class ModuleTest : public testing::Test {
 protected:
     /// The first module of the chain with a version resource. Each module in these tests has one.
     static HINSTANCE VersionOwner() { return AfxFindResourceHandle(MAKEINTRESOURCE(1), RT_VERSION); }
     void SetUp() override {
-        kavlix = AfxLoadLibrary(_T("Kavlix.dll"));
+        kavlix = AfxLoadLibrary(kavlixName);
         ASSERT_NE(kavlix, nullptr);
     }
     void TearDown() override {

@@ -55,16 +55,20 @@ template <class Char> static BOOL IsValidText(const Char* text, int length) {
     if (length >= 0)
         return AfxIsValidAddress(text, static_cast<UINT_PTR>(length) * sizeof(Char), FALSE);
     constexpr UINT_PTR page = 4096;
+    const auto* at = reinterpret_cast<const BYTE*>(text); // UTF-16 can lie at an odd address
     for (;;) {
         // Memory protection applies to whole pages, so one readable byte makes the rest of its page readable.
-        if (!AfxIsValidAddress(text, sizeof(Char), FALSE))
+        if (!AfxIsValidAddress(at, sizeof(Char), FALSE))
             return FALSE;
         // A character that crosses the page's end is part of neither page's rest.
-        const UINT_PTR rest = (page - reinterpret_cast<UINT_PTR>(text) % page) / sizeof(Char);
-        const UINT_PTR left = rest == 0 ? 1 : rest;
-        if (std::char_traits<Char>::find(text, left, Char{0}) != nullptr)
-            return TRUE;
-        text += left;
+        const UINT_PTR rest = (page - reinterpret_cast<UINT_PTR>(at) % page) / sizeof(Char);
+        const BYTE* const end = at + (rest == 0 ? 1 : rest) * sizeof(Char);
+        for (; at != end; at += sizeof(Char)) {
+            Char ch;
+            std::memcpy(&ch, at, sizeof ch);
+            if (ch == 0)
+                return TRUE;
+        }
     }
 }
 

@@ -33,34 +33,60 @@ const char* ModeOf(UINT openFlags) {
 }
 
 #ifdef _UNICODE
-/// Reads the rest of a character of which fgets() has read the first bytes.
-void ReadRestOfCharacter(FILE* stream, std::string& bytes) {
-    constexpr int mostBytesLeft = 3;
-    for (int i = 0; i < mostBytesLeft && !bytes.empty() && (bytes.back() & 0x80) != 0; ++i) {
-        const int length = static_cast<int>(bytes.size());
-        if (::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, bytes.data(), length, nullptr, 0) > 0)
-            return;
-        const int next = std::fgetc(stream);
-        if (next == EOF)
-            return;
-        bytes += static_cast<char>(next);
-    }
+constexpr wchar_t kReplacement = 0xFFFD; // stands for what cannot be converted
+
+/// The number of bytes of a character in `codePage`, by its first byte.
+int LengthByFirstByte(BYTE first, UINT codePage) {
+    if (codePage == CP_UTF8)
+        return first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC0 ? 2 : 1;
+    return ::IsDBCSLeadByte(first) ? 2 : 1;
 }
 
-/// fgets() with the bytes converted from the code page of the process. A byte gives at most one UTF-16 unit, but the
-/// last character can be completed by bytes that were not counted, and give one more.
-LPWSTR ReadPiece(FILE* stream, LPWSTR text, int limit) {
-    if (limit <= 1) {
-        *text = 0;
-        return text;
+/// Reads the other bytes of a character and converts the character to at most `room` units. Returns the number of
+/// units.
+int ReadRestOfCharacter(FILE* stream, BYTE first, int length, UINT codePage, LPWSTR units, int room) {
+    char bytes[4] = {static_cast<char>(first)};
+    int count = 1;
+    for (; count < length; ++count) {
+        const int next = std::fgetc(stream);
+        const bool belongs = codePage == CP_UTF8 ? (next & 0xC0) == 0x80 : next >= ' ';
+        if (next == EOF || !belongs) {
+            std::ungetc(next, stream);
+            break;
+        }
+        bytes[count] = static_cast<char>(next);
     }
-    std::string bytes(static_cast<std::size_t>(std::clamp(limit - 1, 2, 4096)), '\0');
-    if (std::fgets(bytes.data(), static_cast<int>(bytes.size()), stream) == nullptr)
+    const int converted = ::MultiByteToWideChar(CP_ACP, 0, bytes, count, units, room);
+    if (converted > 0)
+        return converted;
+    *units = kReplacement;
+    return 1;
+}
+
+/// fgets() with the bytes converted from the code page of the process. A surrogate pair is not divided: a pair after
+/// the first position waits for the next call, and a pair that never fits becomes U+FFFD.
+LPWSTR ReadPiece(FILE* stream, LPWSTR text, int limit) {
+    const UINT codePage = ::GetACP();
+    int length = 0;
+    while (length < limit - 1 && (length == 0 || text[length - 1] != L'\n')) {
+        const int first = std::fgetc(stream);
+        if (first == EOF)
+            break;
+        if (first < 0x80) {
+            text[length++] = static_cast<wchar_t>(first);
+            continue;
+        }
+        const int room = std::min(limit - 1 - length, 2);
+        const int bytes = LengthByFirstByte(static_cast<BYTE>(first), codePage);
+        if (bytes == 4 && room < 2 && length > 0) {
+            std::ungetc(first, stream);
+            break;
+        }
+        length += ReadRestOfCharacter(stream, static_cast<BYTE>(first), bytes, codePage, text + length, room);
+    }
+    if (length == 0 && limit > 1)
         return nullptr;
-    bytes.resize(std::strlen(bytes.c_str()));
-    ReadRestOfCharacter(stream, bytes);
-    const CString converted(bytes.c_str());
-    ::lstrcpyn(text, converted, limit);
+    text[length] = 0;
     return text;
 }
 #else

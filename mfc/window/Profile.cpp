@@ -125,7 +125,8 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
     std::vector<BYTE> bytes;
     if (!ReadValue(section.Get(), lpszEntry, REG_SZ, bytes))
         return CString(fallback);
-    bytes.resize(bytes.size() + sizeof(TCHAR)); // a stored text may lack its terminating zero
+    // A stored text may lack its terminating zero, and UTF-16 may have an odd number of bytes.
+    bytes.resize(bytes.size() + 2 * sizeof(TCHAR));
     return CString(reinterpret_cast<LPCTSTR>(bytes.data()));
 }
 

@@ -22,6 +22,13 @@ inline std::string Utf8(LPCSTR text) {
     return text;
 }
 
+/// With UNICODE, a text that no code page can hold.
+#ifdef _UNICODE
+inline constexpr wchar_t kScripts[] = L"caf\u00E9 \u0395\u03BB \u65E5\u672C \U0001F600";
+#else
+inline constexpr char kScripts[] = "cafe";
+#endif
+
 } // namespace testkit
 
 /// Lets GoogleTest print a CString.

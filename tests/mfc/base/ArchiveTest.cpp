@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "tests/support/Refusal.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -98,6 +99,30 @@ TEST(Archive, TextsOfEveryLengthClassComeBack) {
         const std::size_t prefix = length < 255 ? 1 : length < 65534 ? 3 : 7;
         EXPECT_EQ(mark + prefix + static_cast<std::size_t>(length) * sizeof(TCHAR), stored);
     }
+}
+
+TEST(Archive, TextsOfEitherCharacterSetAreLoaded) {
+    using namespace std::string_literals;
+    for (const std::string& bytes : {"\2ab"s, "\xFF\xFE\xFF\2a\0b\0"s, "\xFF\xFE\xFF\xFF\2\0a\0b\0"s}) {
+        CString text;
+        Bytes(bytes).Archive() >> text;
+        EXPECT_EQ("ab", text) << testing::PrintToString(bytes);
+    }
+    const CString scripts(testkit::kScripts);
+    CMemFile file;
+    CArchive out(&file, CArchive::store);
+    out << scripts;
+    out.Close();
+    std::string stored(static_cast<std::size_t>(file.GetLength()), '\0');
+    file.SeekToBegin();
+    file.Read(stored.data(), static_cast<UINT>(stored.size()));
+    const auto* const characters = reinterpret_cast<const char*>(scripts.GetString());
+    const std::string prefix =
+        (sizeof(TCHAR) > 1 ? "\xFF\xFE\xFF"s : ""s) + static_cast<char>(scripts.GetLength());
+    EXPECT_EQ(prefix + std::string(characters, scripts.GetLength() * sizeof(TCHAR)), stored);
+    CString loaded;
+    Bytes(stored).Archive() >> loaded;
+    EXPECT_EQ(scripts, loaded);
 }
 
 TEST(Archive, ObjectsKeepTheirIdentity) {
@@ -190,7 +215,9 @@ TEST(Archive, BytesThatMakeNoSenseAreRefused) {
         {"\5\x80"s, CArchiveException::badIndex},                             // a class never met
         {"\xFF\xFF\1\0\4\0Node\0\1\0\0\0"s, CArchiveException::badIndex}, // a class where an object should be
         {"\xFF\xFF\1\0\4\0Node\xFF\xFF\xFF\xFF\xFF\xFF\x7Ftext"s,
-         CArchiveException::endOfFile}, // 2 GB of text
+         CArchiveException::endOfFile},                                            // 2 GB of text
+        {"\xFF\xFF\1\0\4\0Node\xFF\xFE\xFF\2a\0b"s, CArchiveException::endOfFile}, // half a character
+        {"\xFF\xFF\1\0\4\0Node\xFF\xFE\xFF\xFF\xFE\xFF\1a\0"s, CArchiveException::genericException},
     };
     for (const auto& c : cases) {
         Bytes bytes(c.bytes);

@@ -5,10 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <random>
 #include <string>
+#include <vector>
 
+#include "tests/support/ImportHook.h"
 #include "tests/support/Refusal.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/UnderWine.h"
@@ -24,7 +27,7 @@ protected:
         std::filesystem::remove_all(m_folder.Path(), error);
         EXPECT_FALSE(error) << "a file was left open";
     }
-    CString Path(LPCTSTR name) const { return m_folder.Path(testkit::Utf8(name)).c_str(); }
+    CString Path(LPCTSTR name) const { return CString(m_folder.Path().c_str()) + _T("\\") + name; }
     std::string Content(LPCTSTR name) const {
         CFile file(Path(name), CFile::modeRead | CFile::shareDenyNone);
         std::string content(static_cast<std::size_t>(file.GetLength()), '\0');
@@ -180,6 +183,59 @@ TEST_F(File, TextFilesHaveOneLineEndInMemory) {
     EXPECT_STREQ(_T("nd"), line);
     EXPECT_FALSE(file.ReadString(line));
 }
+
+#ifdef _UNICODE
+UINT WINAPI Utf8Page() {
+    return CP_UTF8;
+}
+int WINAPI FromUtf8(UINT, DWORD flags, LPCSTR text, int length, LPWSTR target, int room) {
+    return ::MultiByteToWideChar(CP_UTF8, flags, text, length, target, room);
+}
+int WINAPI ToUtf8(UINT, DWORD flags, LPCWSTR text, int length, LPSTR target, int room, LPCSTR, LPBOOL) {
+    return ::WideCharToMultiByte(CP_UTF8, flags, text, length, target, room, nullptr, nullptr);
+}
+
+TEST_F(File, NoCharacterOfATextFileIsCut) {
+    const testkit::ImportHook hooks[] = {
+        {"KavlixMfc.dll", "GetACP", reinterpret_cast<void*>(&Utf8Page)},
+        {"KavlixMfc.dll", "MultiByteToWideChar", reinterpret_cast<void*>(&FromUtf8)},
+        {"KavlixMfc.dll", "WideCharToMultiByte", reinterpret_cast<void*>(&ToUtf8)}};
+    for (const auto& hook : hooks)
+        ASSERT_TRUE(hook.Installed());
+    std::mt19937 random(27);
+    std::wstring whole, single; // `single` has U+FFFD in the place of each surrogate pair
+    for (int i = 0; i < 4000; ++i) {
+        const LPCWSTR part = std::array{L"a", L"b", L"\n", L"\u00E9", L"\u65E5", L"\U0001F600"}[random() % 6];
+        whole += part;
+        single += part[1] == 0 ? part : L"\uFFFD";
+    }
+    const CString name = Path(testkit::kScripts);
+    CStdioFile(name, CFile::modeCreate | CFile::modeWrite).WriteString(whole.c_str());
+    for (const UINT limit : {2u, 3u, 4u, 5u, 64u, 20000u}) {
+        SCOPED_TRACE(limit);
+        CStdioFile file(name, CFile::modeRead);
+        std::vector<wchar_t> piece(limit);
+        ASSERT_TRUE(file.ReadString(piece.data(), 1) && piece[0] == 0) << "there is no room for a character";
+        const std::wstring& expected = limit == 2 ? single : whole;
+        std::wstring read;
+        while (file.ReadString(piece.data(), limit) != nullptr) {
+            read += piece.data();
+            const std::size_t length = std::wcslen(piece.data());
+            const bool pairNext = read.size() < whole.size() && expected[read.size()] >= 0xD800;
+            ASSERT_TRUE(read.back() == L'\n' || length + 1 + pairNext >= limit ||
+                        read.size() == expected.size());
+            ASSERT_FALSE(IS_HIGH_SURROGATE(read.back()));
+        }
+        EXPECT_TRUE(read == expected);
+    }
+    m_folder.Write("damaged", "\xE9\n\xF0\x9F\nlast");
+    CStdioFile damaged(Path(_T("damaged")), CFile::modeRead);
+    CString line;
+    EXPECT_TRUE(damaged.ReadString(line) && line[0] == 0xFFFD);
+    EXPECT_TRUE(damaged.ReadString(line) && line[0] == 0xFFFD);
+    EXPECT_TRUE(damaged.ReadString(line) && line == "last") << "a cut character ends before the line's end";
+}
+#endif
 
 TEST(MemFile, FixedMemoryIsNotExceeded) {
     BYTE memory[9] = "12345678";

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include <memory>
 
 namespace {
@@ -60,6 +62,33 @@ TEST(Diagnostics, AssertionsStopADebugBuildOnly) {
     ASSERT(++evaluated == 0);
     EXPECT_EQ(1, evaluated) << "not evaluated";
 #endif
+}
+
+/// Texts at the end of readable memory, in the last page and across its start, at every alignment.
+template <class Char> void ExpectStringsAreCheckedToTheirEnd() {
+    constexpr std::size_t page = 4096;
+    auto* const memory =
+        static_cast<BYTE*>(::VirtualAlloc(nullptr, 3 * page, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE));
+    DWORD former = 0;
+    ::VirtualProtect(memory + 2 * page, page, PAGE_NOACCESS, &former);
+    for (const std::size_t length : {std::size_t{1}, std::size_t{3}, page / sizeof(Char) + 1})
+        for (const std::size_t shift : {0, 1}) {
+            std::memset(memory, 'x', 2 * page);
+            auto* const text = memory + 2 * page - length * sizeof(Char) - shift;
+            const auto valid = [&](int count) {
+                return AfxIsValidString(reinterpret_cast<const Char*>(text), count) != FALSE;
+            };
+            EXPECT_TRUE(valid(static_cast<int>(length)) && !valid(static_cast<int>(length) + 2)) << length;
+            EXPECT_FALSE(valid(-1)) << length << " from " << shift;
+            std::memset(text + (length - 1) * sizeof(Char), 0, sizeof(Char));
+            EXPECT_TRUE(valid(-1)) << length << " from " << shift;
+        }
+    ::VirtualFree(memory, 0, MEM_RELEASE);
+}
+
+TEST(Diagnostics, StringsAreValidIfReadableToTheirEnd) {
+    ExpectStringsAreCheckedToTheirEnd<char>();
+    ExpectStringsAreCheckedToTheirEnd<wchar_t>();
 }
 
 } // namespace

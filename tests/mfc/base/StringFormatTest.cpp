@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "tests/mfc/base/BaseTestIds.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -28,6 +31,38 @@ TEST(StringFormat, TakesStringsNumbersAndTheTargetItself) {
     text.AppendFormat(_T(" and %s"), name);
     text.AppendFormat(_T("<%s>"), text);
     EXPECT_TEXT(_T("plain and name<plain and name>"), text);
+}
+
+#ifdef _UNICODE
+#define OTHER(literal) literal
+#else
+#define OTHER(literal) L##literal
+#endif
+
+TEST(StringFormat, TakesTextsOfBothCharacterTypes) {
+    CString text;
+    text.Format(_T("%s|%hs|%ls|%S|%5s|%-5hs|%.2ls|%-4.3S|%%s"), _T("own"), "char", L"wide", OTHER("other"),
+                _T("own"), "char", L"wide", OTHER("other"));
+    EXPECT_TEXT(_T("own|char|wide|other|  own|char |wi|oth |%s"), text);
+    text.Format(_T("%c%hc%lc%C%3c%-3hc|%*c%d"), _T('a'), 'b', L'c', OTHER('d'), _T('e'), 'f', 2, _T('g'), 7);
+    EXPECT_TEXT(_T("abcd  ef  | g7"), text);
+#ifdef _UNICODE
+    text.Format(L"%s|%ws|%.2s|%7s|%c%c|%wc", testkit::kScripts, L"\u65E5", L"\u0395\u03BB\u65E5",
+                L"\u672C\u672C", 0xD83D, 0xDE00, L'\u03BB');
+    EXPECT_EQ(testkit::kScripts + CString(L"|\u65E5|\u0395\u03BB|     \u672C\u672C|\U0001F600|\u03BB"), text);
+    char expected[100];
+    for (const char* format :
+         {"%+d|%5d", "% d|%-5d", "%05d|%.4d", "%#x|%X", "%#o|%i", "%hd|%hhu", "%ld|%lu", "%u|%3d|%%"}) {
+        std::snprintf(expected, sizeof expected, format, -70000, 300);
+        text.Format(CString(format), -70000, 300);
+        EXPECT_EQ(expected, testkit::Utf8(text)) << format;
+    }
+    for (const char* format : {"%e|%.0f", "%+.3f|%g", "%#.3g|%G", "%10.2f|%-10.2fx", "%a|%A"}) {
+        std::snprintf(expected, sizeof expected, format, -0.000123456, 1e20);
+        text.Format(CString(format), -0.000123456, 1e20);
+        EXPECT_EQ(expected, testkit::Utf8(text)) << format;
+    }
+#endif
 }
 
 TEST(StringFormat, HasNoLongestText) {

@@ -7,6 +7,8 @@
 
 #include <tuple>
 
+#include "tests/support/Utf8.h"
+
 namespace {
 
 using std::tuple;
@@ -45,6 +47,9 @@ TEST_F(Controls, ListBoxItems) {
     CString text("unchanged");
     list.GetText(1, text);
     EXPECT_STREQ(_T("pear"), text);
+    list.GetText(list.AddString(testkit::kScripts), text);
+    EXPECT_STREQ(testkit::kScripts, text);
+    EXPECT_EQ(4, list.FindStringExact(-1, testkit::kScripts));
     list.GetText(9, text);
     EXPECT_STREQ(_T(""), text);
     list.SetSel(3);
@@ -74,6 +79,8 @@ TEST_F(Controls, ComboBoxItemsAndEditField) {
     CString text;
     combo.GetLBText(2, text);
     EXPECT_EQ(longText, text);
+    combo.GetLBText(combo.AddString(testkit::kScripts), text);
+    EXPECT_STREQ(testkit::kScripts, text);
     combo.GetLBText(7, text);
     EXPECT_STREQ(_T(""), text);
     EXPECT_EQ(1, combo.SelectString(-1, _T("tw")));
@@ -120,11 +127,11 @@ TEST_F(Controls, CommonControls) {
     CToolTipCtrl tips;
     ASSERT_TRUE(tips.Create(&m_parent));
     EXPECT_TRUE(tips.AddTool(&slider, _T("drag me")));
-    EXPECT_TRUE(tips.AddTool(&m_parent, _T("corner"), CRect(0, 0, 10, 10), 77));
+    EXPECT_TRUE(tips.AddTool(&m_parent, testkit::kScripts, CRect(0, 0, 10, 10), 77));
     EXPECT_EQ(2, tips.GetToolCount());
     CString text;
     tips.GetText(text, &m_parent, 77);
-    EXPECT_STREQ(_T("corner"), text);
+    EXPECT_STREQ(testkit::kScripts, text);
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 
 #include "tests/mfc/dialog/DialogIds.h"
 #include "tests/support/MessageBoxWatcher.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -121,7 +122,7 @@ TEST_F(DataExchange, RealNumbersKeepTheDigitsTheyHave) {
 }
 
 TEST_F(DataExchange, TextIsSetOnlyWhenItDiffers) {
-    CString text("the same");
+    CString text(testkit::kScripts);
     ASSERT_TRUE(Load([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, text); }));
     ::SendMessage(Item(IDC_TEXT), EM_SETSEL, 3, 5);
     ASSERT_TRUE(Load([&](CDataExchange* pDX) { DDX_Text(pDX, IDC_TEXT, text); }));

@@ -4,10 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Utf8.h"
+
 namespace {
 
 constexpr UINT kOpen = 100;
 constexpr UINT kSave = 101;
+constexpr UINT kScripts = 102;
 
 TEST(Menu, OwnsItsHandleUntilDetached) {
     HMENU destroyed = nullptr;
@@ -36,6 +39,10 @@ TEST(Menu, TextsOfAnyLengthAreReadAndRemovedPopupsLive) {
     CString text("unchanged");
     EXPECT_EQ(5, menu.GetMenuString(0, text, MF_BYPOSITION));
     EXPECT_STREQ(_T("&Save"), text);
+    menu.AppendMenu(MF_STRING, kScripts, testkit::kScripts);
+    menu.GetMenuString(kScripts, text, MF_BYCOMMAND);
+    EXPECT_STREQ(testkit::kScripts, text);
+    menu.DeleteMenu(kScripts, MF_BYCOMMAND);
     const CString longText('x', 3000);
     EXPECT_TRUE(menu.ModifyMenu(kSave, MF_BYCOMMAND | MF_STRING, kSave, longText));
     menu.GetMenuString(kSave, text, MF_BYCOMMAND);

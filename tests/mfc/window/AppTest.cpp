@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "tests/mfc/window/WindowKit.h"
+#include "tests/support/ImportHook.h"
 #include "tests/support/TempFolder.h"
 
 namespace {
@@ -22,7 +23,9 @@ protected:
             app.SetRegistryKey(_T("Kavlix window tests"));
             EXPECT_STREQ(app.m_pszProfileName, _T("Scoped"));
         } else {
-            SetName(app.m_pszProfileName, CString(folder.Path("profile.ini").c_str()));
+            // The system keeps UTF-16 in an INI file that begins with the byte-order mark, otherwise the code page.
+            const char* const start = sizeof(TCHAR) > 1 ? "\xFF\xFE" : "";
+            SetName(app.m_pszProfileName, CString(folder.Write("profile.ini", start).c_str()));
         }
     }
     void TearDown() override {
@@ -50,6 +53,9 @@ TEST_P(ProfileTest, ValuesComeBackAsTheyWereWritten) {
     const CString longText('x', 9000);
     EXPECT_TRUE(app.WriteProfileString(_T("Section"), _T("Text"), longText));
     EXPECT_EQ(app.GetProfileString(_T("Section"), _T("Text"), _T("fallback")), longText);
+
+    EXPECT_TRUE(app.WriteProfileString(_T("Section"), testkit::kScripts, testkit::kScripts));
+    EXPECT_STREQ(app.GetProfileString(_T("Section"), testkit::kScripts), testkit::kScripts);
 
     BYTE bytes[] = {0, 1, 0x7F, 0x80, 0xFF};
     EXPECT_TRUE(app.WriteProfileBinary(_T("Section"), _T("Bytes"), bytes, sizeof(bytes)));
@@ -87,6 +93,71 @@ TEST(CommandLineTest, FlagsAndNamesAreSorted) {
     EXPECT_STREQ(print.m_strFileName + _T("|") + print.m_strPrinterName + _T("|") + print.m_strPortName,
                  _T("f|printer|port"));
 }
+
+namespace {
+
+LPCWSTR g_line = nullptr;
+LPWSTR WINAPI CommandLineOfTest() {
+    return const_cast<LPWSTR>(g_line);
+}
+
+} // namespace
+
+TEST(CommandLineTest, QuotedWordsAreOne) {
+    const testkit::ImportHook hook("KavlixMfc.dll", "GetCommandLineW",
+                                   reinterpret_cast<void*>(&CommandLineOfTest));
+    ASSERT_TRUE(hook.Installed());
+    const CString name = testkit::kScripts + CString(".txt");
+    const CString line = "x.exe \"" + name + "\"";
+    const std::wstring scripts(line.GetString(), line.GetString() + line.GetLength());
+    const struct {
+        LPCWSTR line;
+        int command;
+        CString file, printer;
+    } cases[] = {
+        {L"x.exe", CCommandLineInfo::FileNew, "", ""},
+        {L"\"C:\\my programs\\x.exe\" /p \"a \\\"b\\\" c.txt\"", CCommandLineInfo::FilePrint, "a \"b\" c.txt",
+         ""},
+        {L"x.exe -pt f.txt \"the printer\" d p", CCommandLineInfo::FilePrintTo, "f.txt", "the printer"},
+        {scripts.c_str(), CCommandLineInfo::FileOpen, name, ""},
+    };
+    for (const auto& c : cases) {
+        g_line = c.line;
+        CCommandLineInfo info;
+        windowkit::ScopedApp().ParseCommandLine(info);
+        EXPECT_EQ(info.m_nShellCommand, c.command) << c.line;
+        EXPECT_EQ(info.m_strFileName, c.file);
+        EXPECT_EQ(info.m_strPrinterName, c.printer);
+    }
+}
+
+#ifdef _UNICODE
+TEST(CommandLineTest, WinMainPassesWhatFollowsTheProgramsName) {
+    struct App : windowkit::ScopedApp {
+        CString arguments;
+        BOOL InitInstance() override {
+            arguments = m_lpCmdLine;
+            return FALSE;
+        }
+        int ExitInstance() override { return 5; }
+    };
+    const testkit::ImportHook hook("mfc_windowU.exe", "GetCommandLineW",
+                                   reinterpret_cast<void*>(&CommandLineOfTest));
+    ASSERT_TRUE(hook.Installed());
+    const std::pair<LPCWSTR, LPCWSTR> cases[] = {
+        {L"\"C:\\my programs\\x.exe\"  /p \"\u65E5 \u0416\"", L"/p \"\u65E5 \u0416\""},
+        {L"C:\\my\" \"programs\\x.exe\t a b", L"a b"},
+        {L"x.exe", L""},
+        {L"\"x.exe", L""}};
+    for (const auto& [line, arguments] : cases) {
+        g_line = line;
+        App app;
+        EXPECT_EQ(WinMain(AfxGetInstanceHandle(), nullptr, nullptr, SW_HIDE), 5);
+        EXPECT_STREQ(app.arguments, arguments);
+    }
+    AfxWinInit(AfxGetInstanceHandle(), nullptr, ::GetCommandLine(), SW_HIDE); // WinMain ended the class library
+}
+#endif
 
 TEST(AppTest, TheProgramIsKnownByItsNames) {
     CWinApp* const app = AfxGetApp();

@@ -62,3 +62,28 @@ TEST_F(WindowApiTest, AnExchangeIsNotTakenForTheUsersInput) {
     window.SetDlgItemText(4, _T("set by hand"));
     EXPECT_EQ(window.changes, 1);
 }
+
+TEST_F(WindowApiTest, TextsAndClassNamesAreOfTheCharacterSet) {
+    EXPECT_EQ(::IsWindowUnicode(window) != FALSE, sizeof(TCHAR) > 1);
+    CString text;
+    window.SetWindowText(testkit::kScripts);
+    window.GetWindowText(text);
+    EXPECT_STREQ(text, testkit::kScripts);
+    EXPECT_EQ(window.GetWindowTextLength(), text.GetLength());
+
+    WNDCLASS named{};
+    named.lpfnWndProc = ::DefWindowProc;
+    named.hInstance = AfxGetInstanceHandle();
+    named.lpszClassName = testkit::kScripts;
+    ASSERT_TRUE(AfxRegisterClass(&named));
+    ApiWnd other;
+    ASSERT_TRUE(
+        other.CreateEx(0, testkit::kScripts, testkit::kScripts, WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+    TCHAR name[40] = _T("");
+    ::GetClassName(other, name, _countof(name));
+    EXPECT_STREQ(name, testkit::kScripts);
+    other.GetWindowText(text);
+    EXPECT_STREQ(text, testkit::kScripts);
+    other.DestroyWindow();
+    ::UnregisterClass(testkit::kScripts, AfxGetInstanceHandle());
+}

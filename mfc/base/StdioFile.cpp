@@ -56,11 +56,11 @@ int ReadRestOfCharacter(FILE* stream, BYTE first, int length, UINT codePage, LPW
         }
         bytes[count] = static_cast<char>(next);
     }
-    const int converted = ::MultiByteToWideChar(CP_ACP, 0, bytes, count, units, room);
-    if (converted > 0)
-        return converted;
-    *units = kReplacement;
-    return 1;
+    wchar_t converted[2] = {};
+    const int made = ::MultiByteToWideChar(CP_ACP, 0, bytes, count, converted, 2);
+    const bool fits = made > 0 && made <= room;
+    std::copy_n(fits ? converted : &kReplacement, fits ? made : 1, units);
+    return fits ? made : 1;
 }
 
 /// fgets() with the bytes converted from the code page of the process. A surrogate pair is not divided: a pair after

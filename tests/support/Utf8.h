@@ -26,7 +26,7 @@ inline std::string Utf8(LPCSTR text) {
 #ifdef _UNICODE
 inline constexpr wchar_t kScripts[] = L"caf\u00E9 \u0395\u03BB \u65E5\u672C \U0001F600";
 #else
-inline constexpr char kScripts[] = "cafe";
+inline constexpr char kScripts[] = "cafe au lait";
 #endif
 
 } // namespace testkit

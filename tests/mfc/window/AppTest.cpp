@@ -155,7 +155,8 @@ TEST(CommandLineTest, WinMainPassesWhatFollowsTheProgramsName) {
         EXPECT_EQ(WinMain(AfxGetInstanceHandle(), nullptr, nullptr, SW_HIDE), 5);
         EXPECT_STREQ(app.arguments, arguments);
     }
-    AfxWinInit(AfxGetInstanceHandle(), nullptr, ::GetCommandLine(), SW_HIDE); // WinMain ended the class library
+    AfxWinInit(AfxGetInstanceHandle(), nullptr, ::GetCommandLine(),
+               SW_HIDE); // WinMain ended the class library
 }
 #endif
 

@@ -85,7 +85,8 @@ public:
     UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
     BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
     CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
-    /// A NULL value deletes the entry. A NULL entry deletes the whole section.
+    /// A NULL value deletes the entry. A NULL entry deletes the whole section. An INI file keeps characters outside
+    /// the code page only if the file begins with the byte-order mark of UTF-16.
     BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
     /// Allocates the data with new BYTE[]; the caller deletes the block. If the entry does not exist or
     /// is not binary, returns FALSE and allocates nothing.

@@ -56,13 +56,15 @@ void CGraphCtrl::ResetData(int nDataset) {
 }
 
 void CGraphCtrl::ResetAll() {
+    // The texts may need memory, so they are made before anything changes.
+    CString title(kDefaultTitle), xLabel(kDefaultXLabel), yLabel(kDefaultYLabel);
     for (CDataset& dataset : m_Datasets)
         ClearSamples(dataset);
     ResetXTickLabel();
     ResetLegend();
-    SetTitle(kDefaultTitle);
-    SetXLabel(kDefaultXLabel);
-    SetYLabel(kDefaultYLabel);
+    SetTitle(std::move(title));
+    SetXLabel(std::move(xLabel));
+    SetYLabel(std::move(yLabel));
 }
 
 int CGraphCtrl::GetDatasetSize(int nDataset) const {

@@ -89,7 +89,8 @@ public:
     /// Stores the value of a sample in `y`. Result 0, `y` not written, when there is no such sample.
     BOOL GetYData(int nDataset, int nIndex, double& y) const;
     /// Removes all samples, tick labels, legend texts and the selection mark, and gives title, X label and Y
-    /// label their defaults. The Y2 label, colours, styles, ranges and switches stay.
+    /// label their defaults. The Y2 label, colours, styles, ranges and switches stay. When memory for these texts runs
+    /// out, CMemoryException* is thrown and nothing changes.
     void ResetAll();
 
     // ---- Attributes of a dataset. Result 1; 0 if there is no dataset `nDataset`. No repaint. ----

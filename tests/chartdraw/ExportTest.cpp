@@ -11,13 +11,13 @@ BOOL WINAPI DiskFull(HANDLE, LPCVOID, DWORD, LPDWORD written, LPOVERLAPPED) {
     ::SetLastError(ERROR_DISK_FULL);
     return FALSE;
 }
-HDC WINAPI NoMetafile(HDC, LPCSTR, const RECT*, LPCSTR) {
+HDC WINAPI NoMetafile(HDC, LPCTSTR, const RECT*, LPCTSTR) {
     return nullptr;
 }
 int WINAPI NoBits(HDC, HBITMAP, UINT, UINT, LPVOID, LPBITMAPINFO, UINT) {
     return 0;
 }
-HANDLE WINAPI DeniedA(LPCSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE) {
+HANDLE WINAPI Denied(LPCTSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE) {
     ::SetLastError(ERROR_ACCESS_DENIED);
     return INVALID_HANDLE_VALUE;
 }
@@ -68,14 +68,14 @@ protected:
 /// What the chart asks the file dialog for, and the dialog's answer: a name, or Cancel if
 /// `g_answer` is empty.
 DWORD g_flags = 0;
-std::string g_proposed, g_filter, g_extension, g_answer;
-BOOL WINAPI AnswerDialog(LPOPENFILENAMEA dialog) {
+CString g_proposed, g_filter, g_extension, g_answer;
+BOOL WINAPI AnswerDialog(LPOPENFILENAME dialog) {
     g_flags = dialog->Flags;
     g_extension = dialog->lpstrDefExt;
     g_proposed = dialog->lpstrFile;
     g_filter = dialog->lpstrFilter;
-    std::strcpy(dialog->lpstrFile, g_answer.c_str());
-    return !g_answer.empty();
+    ::lstrcpy(dialog->lpstrFile, g_answer);
+    return !g_answer.IsEmpty();
 }
 
 } // namespace
@@ -171,7 +171,7 @@ TEST_F(ChartExportTest, WhatCannotBeMadeWritesNothing) {
         ExpectNothingLeft([&] { EXPECT_FALSE(chart.CopyToFile(folder.Path("x.bmp").c_str())) << function; });
     };
     refused("Kavlix.dll", "GetDIBits", Address(&NoBits));
-    refused("KavlixMfc.dll", "CreateFileA", Address(&DeniedA)); // as in a folder that is read-only
+    refused("KavlixMfc.dll", "CreateFileA", Address(&Denied)); // as in a folder that is read-only
     const DWORD sequence = ::GetClipboardSequenceNumber();
     {
         const testkit::ImportHook hook("Kavlix.dll", "CreateEnhMetaFileA", Address(&NoMetafile));
@@ -192,7 +192,7 @@ TEST_F(ChartExportTest, TheDialogNamesTheFile) {
     const TempFolder folder;
     const testkit::ImportHook hook("KavlixMfc.dll", "GetSaveFileNameA", Address(&AnswerDialog));
     ASSERT_TRUE(hook.Installed());
-    g_answer.clear();
+    g_answer.Empty();
     EXPECT_FALSE(chart.CopyToFile()) << "cancelled";
     EXPECT_EQ(folder.Names(), Strings());
     EXPECT_EQ(g_proposed, "Chart");
@@ -200,7 +200,7 @@ TEST_F(ChartExportTest, TheDialogNamesTheFile) {
     EXPECT_EQ(g_extension, "BMP");
     EXPECT_EQ(g_flags & (OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY),
               DWORD(OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY));
-    g_answer = folder.Path("asked.bmp");
+    g_answer = folder.Path("asked.bmp").c_str();
     EXPECT_TRUE(chart.CopyToFile());
     EXPECT_EQ(folder.Names(), Strings{"asked.bmp"});
 }

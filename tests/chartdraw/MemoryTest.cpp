@@ -8,7 +8,7 @@ namespace {
 using testkit::OnFailure;
 
 std::string g_path;
-constexpr char kLongText[] = "A text that needs memory of its own, wherever it is kept";
+constexpr LPCTSTR kLongText = _T("A text that needs memory of its own, wherever it is kept");
 
 /// A chart after CalcDatas. The next point of its first dataset completes a box on two levels.
 struct FedChart {

@@ -2,6 +2,7 @@
 #include "tests/graph/MultiGraphTest.h"
 
 #include "tests/support/MemoryRule.h"
+#include "tests/support/Utf8.h"
 
 #include <climits>
 #include <tuple>
@@ -18,7 +19,7 @@ std::string Colours(const CObList* list) {
 std::string Legends(const CGraphLegendList& list) {
     std::string text;
     for (int i = 0; i < list.GetCount(); ++i)
-        text += std::string(list.TextAt(i)) + " ";
+        text += testkit::Utf8(list.TextAt(i)) + " ";
     return text;
 }
 
@@ -111,7 +112,7 @@ const CString kLongText('x', 40); // too long for a text without a block of its 
 /// A graph that is drawn into a DC.
 struct FedGraph {
     FedGraph() {
-        window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr);
+        window.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 300, 200, nullptr, nullptr);
         graph.parentWindow = &window;
         graph.SetLegend(0, "first");
         for (const char* label : {"a label that is long", "short"}) {

@@ -42,7 +42,7 @@ protected:
 
     void Resize(int width, int height) {
         window.DestroyWindow();
-        window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, width, height, nullptr, nullptr);
+        window.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, width, height, nullptr, nullptr);
         size = CSize(width, height);
     }
     /// A new graph of a type, with the four colours.

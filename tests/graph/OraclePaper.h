@@ -170,7 +170,7 @@ protected:
     template <class Read> auto WithFont(int size, int weight, int angle, Read read) {
         CFont& font = fonts[{size, weight, angle}];
         if (font.GetSafeHandle() == nullptr)
-            font.CreateFont(size, 0, angle * 10, 0, weight, 0, 0, 0, 0, 0, 0, 0, 16, "Arial");
+            font.CreateFont(size, 0, angle * 10, 0, weight, 0, 0, 0, 0, 0, 0, 0, 16, _T("Arial"));
         CFont* const before = dc.SelectObject(&font);
         const auto result = read();
         dc.SelectObject(before);
@@ -178,7 +178,7 @@ protected:
     }
     Size Measure(const std::string& text, int size, int weight = FW_NORMAL) {
         return WithFont(size, weight, 0, [&] {
-            const CSize extent = dc.GetTextExtent(text.c_str(), static_cast<int>(text.size()));
+            const CSize extent = dc.GetTextExtent(CString(text.c_str()));
             return Size{static_cast<double>(extent.cx), static_cast<double>(extent.cy)};
         });
     }

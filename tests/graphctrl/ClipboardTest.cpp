@@ -49,7 +49,8 @@ std::string Contents(HENHMETAFILE picture) {
 
 /// Empties the clipboard and puts a text there. `beforeClosing` runs while the clipboard is still open.
 void PutText(const char* text, const std::function<void()>& beforeClosing = nullptr) {
-    const HWND owner = ::CreateWindow("STATIC", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    const HWND owner =
+        ::CreateWindow(_T("STATIC"), _T(""), 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     EXPECT_TRUE(::OpenClipboard(owner));
     ::EmptyClipboard();
     const HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, std::strlen(text) + 1);
@@ -62,7 +63,7 @@ void PutText(const char* text, const std::function<void()>& beforeClosing = null
     ::DestroyWindow(owner);
 }
 
-HDC WINAPI NoMetafile(HDC, LPCSTR, const RECT*, LPCSTR) {
+HDC WINAPI NoMetafile(HDC, LPCTSTR, const RECT*, LPCTSTR) {
     return nullptr;
 }
 HENHMETAFILE WINAPI NoPicture(HDC dc) {

@@ -1,6 +1,7 @@
 // What the tests of the graph control share.
 
 #include "tests/graphctrl/GraphTest.h"
+#include "tests/support/Utf8.h"
 
 #include <sstream>
 #include <type_traits>
@@ -8,7 +9,7 @@
 namespace {
 
 std::string Shown(const CString& text) {
-    return "'" + std::string(text) + "'";
+    return "'" + testkit::Utf8(text) + "'";
 }
 /// Colours as 0x00BBGGRR in hexadecimal digits.
 template <class T> std::string Shown(T value) {

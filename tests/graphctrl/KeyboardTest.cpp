@@ -71,8 +71,8 @@ TEST_F(GraphKeyboardTest, WithoutAParentTheMouseDoesNothingAndKeysMoveTheMark) {
         if (message == WM_KEYDOWN || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST))
             handedOn.push_back(std::to_string(message));
     };
-    ASSERT_TRUE(
-        alone.CreateEx(0, "MFCGraphCtrl", "", WS_POPUP | WS_VISIBLE, 0, 210, 300, 200, nullptr, nullptr));
+    ASSERT_TRUE(alone.CreateEx(0, _T("MFCGraphCtrl"), _T(""), WS_POPUP | WS_VISIBLE, 0, 210, 300, 200,
+                               nullptr, nullptr));
     for (const double value : {1.0, 2.0, 3.0})
         alone.AddData(0, value, nullptr);
     alone.SetTitleStyle(CGraphCtrl::TitleStyleCaption);

@@ -1,6 +1,7 @@
 // The labels' array against the class library's own.
 
 #include "tests/support/AllocationGuard.h"
+#include "tests/support/Utf8.h"
 
 #include <afxcoll.h>
 
@@ -16,7 +17,7 @@ namespace {
 template <class Array> std::string Told(const Array& array) {
     std::string told = std::to_string(array.GetSize()) + ":";
     for (INT_PTR i = 0; i <= array.GetUpperBound(); ++i)
-        told += std::string(array[i]) + ",";
+        told += testkit::Utf8(array[i]) + ",";
     return told;
 }
 

@@ -92,7 +92,7 @@ TEST_F(GraphMenuTest, ItemsStandOnTopOfWhatTheMenuHolds) {
         CMenu menu;
         ASSERT_TRUE(menu.CreatePopupMenu());
         for (const std::string& item : each.before)
-            menu.AppendMenu(MF_STRING, static_cast<UINT_PTR>(std::stoi(item)), "Own");
+            menu.AppendMenu(MF_STRING, static_cast<UINT_PTR>(std::stoi(item)), _T("Own"));
         for (int i = 0; i < each.times; ++i)
             graph.InsertGraphMenu(menu);
         EXPECT_EQ(MenuItems(menu), each.items);
@@ -146,8 +146,8 @@ TEST_F(GraphMenuTest, MenuAndRemovalAreWhatADerivedClassMakesOfThem) {
         void OnContextGraphMenu(CPoint point) override { points.push_back(point); }
         void RemoveHeadData(int count) override { counts.push_back(count); }
     } derived;
-    ASSERT_TRUE(
-        derived.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(300, 0, 600, 200), &parent, 8));
+    ASSERT_TRUE(derived.Create(_T("MFCGraphCtrl"), _T(""), WS_CHILD | WS_VISIBLE, CRect(300, 0, 600, 200),
+                               &parent, 8));
     derived.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(12, 34));
     derived.SendMessage(WM_CONTEXTMENU, 0, MAKELPARAM(-1, -1));
     ASSERT_EQ(derived.points.size(), 2u);

@@ -76,7 +76,7 @@ protected:
         graph.SetGraphStyle(static_cast<CGraphCtrl::GraphStyle>(numbers.Below(numbers.OneIn(8) ? 4 : 3)));
         graph.SetTitleStyle(static_cast<CGraphCtrl::TitleStyle>(numbers.Below(3)));
         graph.ShowIconMaximize(Flag(), Flag());
-        graph.SetCaptionFont(40 + numbers.Below(120), numbers.OneIn(2) ? "Arial" : "Tahoma");
+        graph.SetCaptionFont(40 + numbers.Below(120), numbers.OneIn(2) ? _T("Arial") : _T("Tahoma"));
         graph.ShowBorder(Flag());
         graph.ShowXLabel(Flag());
         graph.ShowYLabel(Flag());

@@ -56,7 +56,7 @@ void PlainGraph::LayOut() {
         SetMapping(m_dc, CPoint(0, 0));
         Font(-PointsToPixels(30 * g.m_CaptionFontSize), 0, FW_NORMAL, g.m_CaptionFontFace);
         SIZE text = {};
-        ::GetTextExtentPoint32(m_dc, "Gg", 2, &text);
+        ::GetTextExtentPoint32(m_dc, _T("Gg"), 2, &text);
         Select(::GetStockObject(SYSTEM_FONT));
         caption = CRect(0, 0, g.m_ShowBorder ? R - 30 : R, text.cy + 120);
         if (g.m_ShowIconMaximize) {
@@ -468,7 +468,7 @@ void PlainGraph::Brush(COLORREF colour) {
 }
 
 /// The control's own fonts are Arial; `face` is the caption's.
-void PlainGraph::Font(int height, int escapement, int weight, const char* face) {
+void PlainGraph::Font(int height, int escapement, int weight, LPCTSTR face) {
     LOGFONT font = {};
     font.lfHeight = height;
     font.lfCharSet = DEFAULT_CHARSET;
@@ -480,7 +480,7 @@ void PlainGraph::Font(int height, int escapement, int weight, const char* face) 
         font.lfClipPrecision = CLIP_LH_ANGLES;
         font.lfQuality = PROOF_QUALITY;
     }
-    lstrcpynA(font.lfFaceName, face == nullptr ? "Arial" : face, LF_FACESIZE);
+    lstrcpyn(font.lfFaceName, face == nullptr ? _T("Arial") : face, LF_FACESIZE);
     Select(::CreateFontIndirect(&font));
 }
 

@@ -65,7 +65,7 @@ private:
     void Select(HGDIOBJ object) { ::DeleteObject(::SelectObject(m_dc, object)); }
     void Pen(COLORREF colour, int style = PS_SOLID, int width = 0);
     void Brush(COLORREF colour);
-    void Font(int height, int escapement = 0, int weight = FW_NORMAL, const char* face = nullptr);
+    void Font(int height, int escapement = 0, int weight = FW_NORMAL, LPCTSTR face = nullptr);
     void Clip(CRect pixels);
     void Box(const CRect& box) { ::Rectangle(m_dc, box.left, box.top, box.right, box.bottom); }
     void Stroke(int x1, int y1, int x2, int y2);

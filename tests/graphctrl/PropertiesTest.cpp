@@ -32,7 +32,7 @@ const Setter kSetters[] = {
     SETTER(SetY2Unit("mV", -3, 2), "Y2TickLabelScale=2 Y2UnitExponent=-3 Y2Unit='mV'"),
     SETTER(ShowIconMaximize(TRUE, FALSE), "ShowIconMaximize=1"),
     SETTER(ShowIconMaximize(FALSE, TRUE), "ShowIconMaximize=0 IconMaximized=1"),
-    SETTER(SetCaptionFont(120, "Arial"), "CaptionFontSize=120 CaptionFontFace='Arial'"),
+    SETTER(SetCaptionFont(120, _T("Arial")), "CaptionFontSize=120 CaptionFontFace='Arial'"),
     SETTER(SetLineSize(3, 5000), "3: FF6600 0 1000 '' 1 0"),
     SETTER(SetLineSize(3, -1), "3: FF6600 0 0 '' 1 0"),
     SETTER(SetMarkerType(3, static_cast<CDataset::MarkerType>(77)), "3: FF6600 77 0 '' 1 0"),
@@ -138,7 +138,7 @@ TEST(GraphPropertiesTest, EachSetterChangesWhatItNames) {
 TEST(GraphPropertiesTest, TheConstructorRegistersTheClass) {
     const OpenGraph graph;
     WNDCLASS info = {};
-    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), "MFCGraphCtrl", &info));
+    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), _T("MFCGraphCtrl"), &info));
     EXPECT_EQ(info.style, UINT(CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS));
     EXPECT_EQ(info.hCursor, ::LoadCursor(nullptr, IDC_ARROW));
     EXPECT_EQ(info.hbrBackground, reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));

@@ -70,7 +70,7 @@ template <class Graph> void PlayAnItemOf(const char* windowClass, DWORD style) {
     ::EnableWindow(item, FALSE);
     EXPECT_EQ(isIntact(), "") << "disabled";
     ::EnableWindow(item, TRUE);
-    ::SetWindowText(item, "another text");
+    ::SetWindowText(item, _T("another text"));
     ::SendMessage(item, WM_CHAR, 'x', 1);
     EXPECT_EQ(isIntact(), "") << "another text and a character";
     CString text;

@@ -19,7 +19,7 @@ TEST(ModuleTest, StringTableIsFoundFromTheHost) {
                                        {5507, "Send Selection Mark info to Tindro"}}) {
         CString text;
         EXPECT_TRUE(text.LoadString(static_cast<UINT>(id))) << id;
-        EXPECT_STREQ(text, expected);
+        EXPECT_EQ(text, expected);
     }
     EXPECT_EQ(AfxGetInstanceHandle(), ::GetModuleHandle(nullptr)) << "the program's state, not the library's";
 }

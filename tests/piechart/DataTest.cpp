@@ -1,6 +1,7 @@
 // Creation and data of the control, and every operation when memory runs out.
 #include "tests/piechart/PieTest.h"
 #include "tests/support/MemoryRule.h"
+#include "tests/support/Utf8.h"
 
 class PieDataTest : public PieTest {};
 
@@ -41,8 +42,8 @@ TEST_F(PieDataTest, PiecesAndTheirColours) {
     EXPECT_EQ(pie.m_arrPieces.GetSize(), 0);
     EXPECT_EQ(pie.m_nWaitMode, 0);
     EXPECT_TRUE(UpdateRect().IsRectEmpty()) << "Reset does not repaint";
-    pie.Wait("busy", 2);
-    EXPECT_STREQ(pie.m_strWait, "busy");
+    pie.Wait(_T("busy"), 2);
+    EXPECT_STREQ(pie.m_strWait, _T("busy"));
     EXPECT_EQ(pie.m_nWaitMode, 2);
     EXPECT_EQ(UpdateRect(), Client());
 }
@@ -77,12 +78,12 @@ struct FedPie {
         pie.UpdateWindow();
     }
     std::string State() {
-        std::string text = pie.m_strWait.GetString() + std::to_string(pie.m_nWaitMode);
+        std::string text = testkit::Utf8(pie.m_strWait) + std::to_string(pie.m_nWaitMode);
         for (int i = 0; i < pie.m_arrPieces.GetSize(); ++i)
-            text += pie.At(i).m_strLabel + (pie.At(i).m_bSelected ? "*" : " ");
+            text += testkit::Utf8(pie.At(i).m_strLabel) + (pie.At(i).m_bSelected ? "*" : " ");
         return text;
     }
-    bool Saves(const char* shortName) { // a short name needs no allocation when it becomes a CString
+    bool Saves(LPCTSTR shortName) { // a short name needs no allocation when it becomes a CString
         const bool saved = pie.SaveImage(shortName);
         ::DeleteFile(shortName);
         return saved;
@@ -104,8 +105,8 @@ TEST_F(PieDataTest, MemoryRunsOut) {
         {"reset", OnFailure::Never, [](FedPie& s) { return s.pie.Reset(), true; }},
         {"search", OnFailure::Never, [](FedPie& s) { return s.pie.GetPieceIndex(200) >= 0; }},
         {"refresh", OnFailure::Never, [](FedPie& s) { return s.pie.Refresh(), s.pie.RecalcRect(), true; }},
-        {"save pixels", OnFailure::False, [](FedPie& s) { return s.Saves("~kvxpie.bmp"); }},
-        {"save strokes", OnFailure::False, [](FedPie& s) { return s.Saves("~kvxpie.emf"); }},
+        {"save pixels", OnFailure::False, [](FedPie& s) { return s.Saves(_T("~k.bmp")); }},
+        {"save strokes", OnFailure::False, [](FedPie& s) { return s.Saves(_T("~k.emf")); }},
         {"paint", OnFailure::Message, [](FedPie& s) { return s.pie.Refresh(), s.pie.UpdateWindow(), true; }},
         {"click", OnFailure::Message,
          [](FedPie& s) { return s.pie.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(160, 80)), true; }},

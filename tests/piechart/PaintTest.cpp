@@ -93,7 +93,7 @@ TEST_F(PiePaintTest, LabelsThatBeginAlikeKeepTheirEnds) {
 
 TEST_F(PiePaintTest, Messages) {
     EXPECT_EQ(Texts(), Strings{"No Data 000000"});
-    pie.Wait("Wait here", 1);
+    pie.Wait(_T("Wait here"), 1);
     EXPECT_EQ(Texts(), Strings{"Wait here 000000"});
     pie.m_crBack = RGB(0, 0, 0);
     EXPECT_EQ(Texts(), Strings{"Wait here FFFFFF"}) << "legible on any background";
@@ -105,7 +105,7 @@ TEST_F(PiePaintTest, Messages) {
     Add({100});
     EXPECT_EQ(Texts(), (Strings{"100.0% 000000", "Wait here 000000"})) << "the chart stays";
     EXPECT_NE(Record()->Lines(testkit::kRectangle).at(0).find("pen solid 1 000000"), std::string::npos);
-    pie.Wait("Wait here", 0);
+    pie.Wait(_T("Wait here"), 0);
     EXPECT_EQ(Texts(), Strings{"100.0% 000000"});
     pie.Reset();
     EXPECT_EQ(Texts(), Strings{"No Data 000000"});

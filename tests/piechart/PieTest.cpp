@@ -29,7 +29,7 @@ void PieTest::SetUp() {
         return " flags " + std::to_string(record.nFlags) + " piece " + std::to_string(record.nIndex);
     });
     const CRect place(0, 0, 300, 200);
-    ASSERT_TRUE(pie.Create("PIE_CHART_CTRL", nullptr, WS_CHILD | WS_VISIBLE, place, &parent, kControlId));
+    ASSERT_TRUE(pie.Create(_T("PIE_CHART_CTRL"), nullptr, WS_CHILD | WS_VISIBLE, place, &parent, kControlId));
     Settle();
 }
 

@@ -2,6 +2,7 @@
 
 #include "tests/scrollgraph/FixedZone.h"
 #include "tests/scrollgraph/ScrollTest.h"
+#include "tests/support/Utf8.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ protected:
         Load(10);
         parent.onNoted = [this](const testkit::RecordingParent::Entry& entry) {
             if (entry.message == WM_GRAPH_SELMARKTIME)
-                texts.push_back(reinterpret_cast<const char*>(entry.lParam));
+                texts.push_back(testkit::Utf8(reinterpret_cast<LPCTSTR>(entry.lParam)));
         };
     }
     /// The traffic of the command, the exported text in place of its address.
@@ -62,7 +63,7 @@ TEST_F(ScrollExportTest, TheEntryStandsAtTheEnd) {
         ASSERT_TRUE(menu.CreatePopupMenu());
         for (const std::string& item : each.before)
             menu.AppendMenu(MF_STRING, static_cast<UINT_PTR>(std::stoi(item)),
-                            item.substr(item.find(' ') + 1).c_str());
+                            CString(item.substr(item.find(' ') + 1).c_str()));
         graph.InsertGraphMenu(menu);
         EXPECT_EQ(testkit::MenuItems(menu.m_hMenu), each.items) << each.name;
     }
@@ -70,7 +71,7 @@ TEST_F(ScrollExportTest, TheEntryStandsAtTheEnd) {
 
 TEST_F(ScrollExportTest, TheMarksTimeIsSent) {
     EXPECT_EQ(Export(), Strings{Sent("")});
-    EXPECT_STREQ(graph.GetTimeInfoFromSelectionMark(), "");
+    EXPECT_STREQ(graph.GetTimeInfoFromSelectionMark(), _T(""));
     graph.SetSelectionMarkPos(5);
     EXPECT_EQ(Export(), Strings{Sent("2023/11/14 22:13:25")});
     graph.SetSelectionMarkPos(9);
@@ -83,5 +84,5 @@ TEST_F(ScrollExportTest, TheMarksTimeIsSent) {
     texts.clear();
     Traffic([&] { graph.SendSelectionMarkTime(); });
     EXPECT_EQ(texts, Strings{"2023/11/14 22:13:29"});
-    EXPECT_STREQ(graph.GetTimeInfoFromSelectionMark(), "2023/11/14 22:13:29");
+    EXPECT_STREQ(graph.GetTimeInfoFromSelectionMark(), _T("2023/11/14 22:13:29"));
 }

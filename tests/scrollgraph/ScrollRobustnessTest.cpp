@@ -4,6 +4,7 @@
 #include "tests/support/GdiCounter.h"
 #include "tests/support/MemoryRule.h"
 #include "tests/support/MisbehavingParent.h"
+#include "tests/support/Utf8.h"
 
 #include <climits>
 #include <cmath>
@@ -18,7 +19,7 @@ constexpr UINT kCodes[] = {SB_LINELEFT, SB_LINERIGHT, SB_PAGELEFT, SB_PAGERIGHT,
 struct FedScroll {
     FedScroll() {
         EXPECT_TRUE(parent.CreateVisible(400, 300));
-        graph.Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 77);
+        graph.Create(_T("MFCGraphCtrl"), _T(""), WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 77);
         for (int i = 0; i < 1024; ++i) {
             graph.AddXTickLabel(kSomeTime + i);
             graph.AddDataForOffline(0, i, nullptr);
@@ -35,11 +36,11 @@ struct FedScroll {
         const int stamps = graph.GetCurDataIndex();
         out << stamps << " " << graph.GetTimeInfo(0) << " " << graph.GetTimeInfo(stamps - 1) << " "
             << graph.LowerBound(1e9) << " mark " << graph.m_SelectionMarkPos << " view " << graph.m_dScrollPos
-            << " " << graph.m_dScrollMax << " " << graph.m_strSelectionMarkTime.GetString();
+            << " " << graph.m_dScrollMax << " " << graph.m_strSelectionMarkTime;
         for (int i = 0; i < CGraphCtrl::DatasetCount; ++i)
             out << " " << graph.GetDatasetSize(i);
         for (const CString& text : texts)
-            out << "|" << text.GetString();
+            out << "|" << text;
         return out.str();
     }
     testkit::RecordingParent parent;

@@ -44,10 +44,10 @@ TEST_F(ScrollTimeAxisTest, FirstTicksOfTwelveThirtyFourFiftySix) {
     const double perSecond = kPlotWidth / 60.0;
     const struct {
         int step, delta;
-        const char* text;
-    } cases[] = {{5, 4, "2023/11/14 12:35:00"},
-                 {900, 604, "2023/11/14 12:45:00"},
-                 {7200, 5104, "2023/11/14 14:00:00"}};
+        LPCTSTR text;
+    } cases[] = {{5, 4, _T("2023/11/14 12:35:00")},
+                 {900, 604, _T("2023/11/14 12:45:00")},
+                 {7200, 5104, _T("2023/11/14 14:00:00")}};
     for (const auto& each : cases) {
         int spacing = 0;
         CString text;
@@ -59,22 +59,22 @@ TEST_F(ScrollTimeAxisTest, FirstTicksOfTwelveThirtyFourFiftySix) {
     CString second, minute, hour;
     EXPECT_EQ(graph.MinuteTickPos(0, 5, minute), static_cast<int>(perSecond * 4));
     EXPECT_EQ(graph.HourTickPos(0, 5, hour), static_cast<int>(perSecond * (2.0 * 3600 + 1504)));
-    EXPECT_STREQ(minute, "2023/11/14 12:35:00");
-    EXPECT_STREQ(hour, "2023/11/14 15:00:00");
+    EXPECT_STREQ(minute, _T("2023/11/14 12:35:00"));
+    EXPECT_STREQ(hour, _T("2023/11/14 15:00:00"));
     EXPECT_EQ(graph.SecondTickPos(0, 0, second), 0) << "a step of 0 leads nowhere";
 }
 
 TEST_F(ScrollTimeAxisTest, NextTickTime) {
     const struct {
-        const char *date, *time;
+        LPCTSTR date, time;
         int step;
-        const char* next;
+        LPCTSTR next;
     } cases[] = {
-        {"2023/12/31", "23:59:55", 5, "2024/01/01 00:00:00"},
-        {"2024/2/28", "22:0:0", 7200, "2024/02/29 00:00:00"},
-        {"", "", 10, " "},
-        {"2023/11/14", "noon", 10, "2023/11/14 noon"},
-        {"2023/02/30", "00:00:00", 10, "2023/02/30 00:00:00"},
+        {_T("2023/12/31"), _T("23:59:55"), 5, _T("2024/01/01 00:00:00")},
+        {_T("2024/2/28"), _T("22:0:0"), 7200, _T("2024/02/29 00:00:00")},
+        {_T(""), _T(""), 10, _T(" ")},
+        {_T("2023/11/14"), _T("noon"), 10, _T("2023/11/14 noon")},
+        {_T("2023/02/30"), _T("00:00:00"), 10, _T("2023/02/30 00:00:00")},
     };
     for (const auto& each : cases) {
         CString date = each.date, time = each.time;
@@ -86,10 +86,10 @@ TEST_F(ScrollTimeAxisTest, TextsOfSamples) {
     Stamp({1700006380, 1709208000, INT32_MAX});
     const struct {
         int index;
-        const char *date, *time, *full;
-    } cases[] = {{0, "11/14", "23:59:40", "2023/11/14 23:59:40"},
-                 {1, "02/29", "12:00:00", "2024/02/29 12:00:00"},
-                 {2, "01/19", "03:14:07", "2038/01/19 03:14:07"}};
+        LPCTSTR date, time, full;
+    } cases[] = {{0, _T("11/14"), _T("23:59:40"), _T("2023/11/14 23:59:40")},
+                 {1, _T("02/29"), _T("12:00:00"), _T("2024/02/29 12:00:00")},
+                 {2, _T("01/19"), _T("03:14:07"), _T("2038/01/19 03:14:07")}};
     CGraphCtrl& base = graph;
     for (const auto& each : cases) {
         CString date, time, full;

@@ -5,6 +5,7 @@
 #include "tests/scrollgraph/FixedZone.h"
 #include "tests/scrollgraph/ScrollTest.h"
 #include "tests/support/UnderWine.h"
+#include "tests/support/Utf8.h"
 
 #include <cstdlib>
 
@@ -45,12 +46,12 @@ protected:
         graph.GetFullTime(0, text);
         graph.GetXData(0, day, clock);
         EXPECT_EQ(text.Mid(5), day + " " + clock);
-        return std::string(text);
+        return testkit::Utf8(text);
     }
     /// What GetNextTickTime makes of "YYYY/MM/DD hh:mm:ss".
     std::string Next(const char* text, int step) {
         CString date = CString(text).Left(10), time = CString(text).Mid(11);
-        return std::string(graph.GetNextTickTime(step, date, time));
+        return testkit::Utf8(graph.GetNextTickTime(step, date, time));
     }
 
 private:

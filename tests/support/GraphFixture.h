@@ -33,8 +33,8 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(parent.CreateVisible(800, 640)) << "no display";
         parent.SetRecordSize(sizeof(NMGRAPHCTRL));
-        ASSERT_TRUE(graph.Create("MFCGraphCtrl", "window text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200),
-                                 &parent, kControlId));
+        ASSERT_TRUE(graph.Create(_T("MFCGraphCtrl"), _T("window text"), WS_CHILD | WS_VISIBLE,
+                                 CRect(0, 0, 300, 200), &parent, kControlId));
         parent.SetDescription([sender = graph.m_hWnd](const RecordingParent::Entry& entry) {
             return (entry.from == sender ? "" : " of another window") + RecordFields(entry);
         });

@@ -38,8 +38,8 @@ public:
     /// Puts a new control into the parent.
     void Make() {
         graph = new Paged<Graph>;
-        EXPECT_TRUE(
-            graph->Create("MFCGraphCtrl", "text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 77));
+        EXPECT_TRUE(graph->Create(_T("MFCGraphCtrl"), _T("text"), WS_CHILD | WS_VISIBLE,
+                                  CRect(0, 0, 300, 200), &parent, 77));
     }
     void Delete() {
         delete graph;

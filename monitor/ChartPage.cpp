@@ -12,6 +12,7 @@
 #include "monitor/ChartSeriesDlg.h"
 #include "monitor/Notifications.h"
 #include "monitor/PictureCopy.h"
+#include "monitor/TextConversion.h"
 #include "monitor/WindowPicture.h"
 #include "monitor/recording/NumberText.h"
 #include "monitor/recording/SampleText.h"
@@ -174,16 +175,16 @@ void CChartPage::OnEditCopy() {
 }
 
 void CChartPage::OnSaveAs() {
-    CFileDialog dialog(FALSE, "png", "chart.png", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kPictureFilter,
-                       this);
+    CFileDialog dialog(FALSE, _T("png"), _T("chart.png"), OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                       kPictureFilter, this);
     if (dialog.DoModal() != IDOK)
         return;
     const CString path = dialog.GetPathName();
     if (m_chart.SaveImage(path))
-        Host().Say("Saved: " + std::string(path));
+        Host().Say("Saved: " + ToUtf8(path));
     else
-        AfxMessageBox("The chart was not saved: " + path +
-                          " cannot be written, or its name ends neither in .png nor in .bmp or .emf.",
+        AfxMessageBox(_T("The chart was not saved: ") + path +
+                          _T(" cannot be written, or its name ends neither in .png nor in .bmp or .emf."),
                       MB_OK | MB_ICONEXCLAMATION);
 }
 

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "monitor/TextConversion.h"
+
 namespace kavlix::monitor {
 
 using recording::ChartChoice;
@@ -29,11 +31,11 @@ BOOL CChartSeriesDlg::OnInitDialog() {
     for (const int id : {IDC_CHART_X, IDC_CHART_Y}) {
         auto* const box = static_cast<CComboBox*>(GetDlgItem(id));
         for (const std::string& name : m_names)
-            box->AddString(name.c_str());
+            box->AddString(ToText(name));
     }
     auto* const x = static_cast<CComboBox*>(GetDlgItem(IDC_CHART_X));
-    x->AddString("(the same series, one sample before)");
-    x->AddString("(time)");
+    x->AddString(_T("(the same series, one sample before)"));
+    x->AddString(_T("(time)"));
     return CDialog::OnInitDialog();
 }
 

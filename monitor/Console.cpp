@@ -2,9 +2,7 @@
 
 #include "monitor/Console.h"
 
-#include <windows.h>
-
-#include <vector>
+#include "monitor/TextConversion.h"
 
 namespace kavlix::monitor {
 namespace {
@@ -17,19 +15,15 @@ HANDLE FindHandle(DWORD which) {
         return handle;
     if (!AttachConsole(ATTACH_PARENT_PROCESS) && GetLastError() != ERROR_ACCESS_DENIED)
         return nullptr;
-    const HANDLE console =
-        CreateFileA("CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                    OPEN_EXISTING, 0, nullptr);
+    const HANDLE console = CreateFile(_T("CONOUT$"), GENERIC_READ | GENERIC_WRITE,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
     return console == INVALID_HANDLE_VALUE ? nullptr : console;
 }
 
 bool WriteToConsole(HANDLE console, const std::string& text) {
-    const int length = static_cast<int>(text.size());
-    std::vector<WCHAR> wide(text.size() + 1);
-    const int count =
-        MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(), static_cast<int>(wide.size()));
+    const CString shown = ToText(text);
     DWORD written = 0;
-    return WriteConsoleW(console, wide.data(), static_cast<DWORD>(count), &written, nullptr) != FALSE;
+    return WriteConsole(console, shown, static_cast<DWORD>(shown.GetLength()), &written, nullptr) != FALSE;
 }
 
 bool WriteToFile(HANDLE file, const std::string& text) {

@@ -6,6 +6,7 @@
 
 #include "monitor/Notifications.h"
 #include "monitor/PictureCopy.h"
+#include "monitor/TextConversion.h"
 #include "monitor/recording/TextCut.h"
 
 namespace kavlix::monitor {
@@ -22,8 +23,8 @@ constexpr int kCaptionMargin = 10; // pixels on each side of the caption's text
 
 template <class Control> bool CFittedGraph<Control>::CreateChild(CWnd& parent, UINT id) {
     ShowFilling(false);
-    return this->Create("MFCGraphCtrl", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent,
-                        id) != FALSE;
+    return this->Create(_T("MFCGraphCtrl"), _T(""), WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0),
+                        &parent, id) != FALSE;
 }
 
 template <class Control> void CFittedGraph<Control>::ApplyLook(const GraphSettings& settings,
@@ -94,7 +95,7 @@ template <class Control> int CFittedGraph<Control>::FitLegend(const std::vector<
     LONG width = kMinLegendText;
     for (std::size_t i = 0; i < series.size() && i < CGraphCtrl::DatasetCount; ++i) {
         const std::string text = FitText(series[i].name, room, kTickFontHeight, FW_NORMAL);
-        this->SetLegend(static_cast<int>(i), text.c_str());
+        this->SetLegend(static_cast<int>(i), ToText(text));
         width = std::max(width, TextSize(text, kTickFontHeight, FW_NORMAL).cx);
     }
     return static_cast<int>(width) + 2 * this->m_LegendMargin + this->m_LegendItemHeight + kLegendGap;
@@ -111,7 +112,7 @@ template <class Control> void CFittedGraph<Control>::FitCaption(const std::vecto
     CClientDC dc(this);
     CFont font;
     if (!font.CreatePointFont(kCaptionSize, kFontFace, &dc)) {
-        this->SetWindowText(texts.back().c_str());
+        this->SetWindowText(ToText(texts.back()));
         return;
     }
     CFont* const old = dc.SelectObject(&font);
@@ -120,11 +121,11 @@ template <class Control> void CFittedGraph<Control>::FitCaption(const std::vecto
     // The text is centred in the band, so the icon at the right end takes the same width away on the left.
     const LONG icon = this->m_ShowIconMaximize ? this->m_rectIconMaximize.Width() / kPixel : 0;
     const LONG room = client.Width() - 2 * (kCaptionMargin + icon);
-    const auto fits = [&](const std::string& text) { return dc.GetTextExtent(text.c_str()).cx <= room; };
+    const auto fits = [&](const std::string& text) { return dc.GetTextExtent(ToText(text)).cx <= room; };
     const auto found = std::find_if(texts.begin(), texts.end(), fits);
     const std::string caption = found != texts.end() ? *found : recording::CutToFit(texts.back(), fits);
     dc.SelectObject(old);
-    this->SetWindowText(caption.c_str());
+    this->SetWindowText(ToText(caption));
 }
 
 template <class Control>
@@ -136,7 +137,7 @@ CSize CFittedGraph<Control>::TextSize(const std::string& text, int height, int w
                          CLIP_LH_ANGLES, PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, kFontFace))
         return CSize(0, 0);
     CFont* old = dc.SelectObject(&font);
-    const CSize size = dc.GetTextExtent(text.c_str());
+    const CSize size = dc.GetTextExtent(ToText(text));
     dc.SelectObject(old);
     return size;
 }

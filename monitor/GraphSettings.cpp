@@ -53,16 +53,16 @@ GraphSettings DefaultSettings(std::string title, const std::vector<std::string>&
 
 const std::vector<MarkerChoice>& MarkerChoices() {
     static const std::vector<MarkerChoice> choices = {
-        {CDataset::MarkerNone, "None"},       {CDataset::MarkerSquare, "Square"},
-        {CDataset::MarkerDiamond, "Diamond"}, {CDataset::MarkerTriangle, "Triangle"},
-        {CDataset::MarkerCircle, "Circle"},   {CDataset::MarkerCross, "Cross"}};
+        {CDataset::MarkerNone, _T("None")},       {CDataset::MarkerSquare, _T("Square")},
+        {CDataset::MarkerDiamond, _T("Diamond")}, {CDataset::MarkerTriangle, _T("Triangle")},
+        {CDataset::MarkerCircle, _T("Circle")},   {CDataset::MarkerCross, _T("Cross")}};
     return choices;
 }
 
 const std::vector<LineSizeChoice>& LineSizeChoices() {
-    static const std::vector<LineSizeChoice> choices = {{0, "1 pixel"},    {60, "2 pixels"},
-                                                        {90, "3 pixels"},  {120, "4 pixels"},
-                                                        {180, "6 pixels"}, {240, "8 pixels"}};
+    static const std::vector<LineSizeChoice> choices = {{0, _T("1 pixel")},    {60, _T("2 pixels")},
+                                                        {90, _T("3 pixels")},  {120, _T("4 pixels")},
+                                                        {180, _T("6 pixels")}, {240, _T("8 pixels")}};
     return choices;
 }
 

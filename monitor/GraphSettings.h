@@ -9,7 +9,7 @@
 namespace kavlix::monitor {
 
 /// The font face of the pages' texts.
-constexpr const char* kFontFace = "Arial";
+constexpr LPCTSTR kFontFace = _T("Arial");
 
 /// How one series is drawn.
 struct SeriesSettings {
@@ -46,13 +46,13 @@ GraphSettings DefaultSettings(std::string title, const std::vector<std::string>&
 /// A marker that the settings dialog offers.
 struct MarkerChoice {
     CDataset::MarkerType type;
-    const char* name;
+    LPCTSTR name;
 };
 
 /// A line width that the settings dialog offers.
 struct LineSizeChoice {
     int size; ///< logical units; 0: one pixel
-    const char* name;
+    LPCTSTR name;
 };
 
 const std::vector<MarkerChoice>& MarkerChoices();

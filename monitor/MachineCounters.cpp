@@ -45,7 +45,7 @@ std::optional<double> ReadMemoryPercent() {
 #ifdef _WIN64
 // A callback of EnumPageFiles, for 64-bit builds only: headers disagree on its calling convention, of which
 // 64-bit Windows has only one.
-BOOL AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCSTR) {
+BOOL AddPageFile(LPVOID memory, PENUM_PAGE_FILE_INFORMATION file, LPCTSTR) {
     // Both counts are in pages.
     SYSTEM_INFO system;
     GetSystemInfo(&system);
@@ -99,7 +99,7 @@ std::optional<recording::MachineMemory> ReadMachineMemory() {
     if (GetPerformanceInfo(&system, sizeof system) && system.KernelNonpaged > 0)
         memory.kernel = std::uint64_t{system.KernelNonpaged} * system.PageSize;
 #ifdef _WIN64
-    EnumPageFilesA(AddPageFile, &memory);
+    EnumPageFiles(AddPageFile, &memory);
 #endif
     return memory;
 }

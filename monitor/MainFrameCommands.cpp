@@ -8,6 +8,7 @@
 
 #include "monitor/MessagesDlg.h"
 #include "monitor/SettingsDlg.h"
+#include "monitor/TextConversion.h"
 #include "monitor/WindowPicture.h"
 #include "monitor/recording/CheckReport.h"
 #include "monitor/resource.h"
@@ -17,22 +18,22 @@ namespace {
 
 constexpr DWORD kFileNameRoom = 32768; // characters of the buffer for the names of all chosen files
 
-constexpr const char* kRecordingFilter = "Recordings (*.csv)|*.csv|All files (*.*)|*.*||";
+constexpr LPCTSTR kRecordingFilter = _T("Recordings (*.csv)|*.csv|All files (*.*)|*.*||");
 
 } // namespace
 
 void CMainFrame::OnFileOpen() {
-    CFileDialog dialog(TRUE, "csv", nullptr,
+    CFileDialog dialog(TRUE, _T("csv"), nullptr,
                        OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_ALLOWMULTISELECT | OFN_EXPLORER,
                        kRecordingFilter, this);
-    std::vector<char> names(kFileNameRoom);
+    std::vector<TCHAR> names(kFileNameRoom);
     dialog.m_ofn.lpstrFile = names.data();
     dialog.m_ofn.nMaxFile = kFileNameRoom;
     if (dialog.DoModal() != IDOK)
         return;
     std::vector<std::string> paths;
     for (POSITION position = dialog.GetStartPosition(); position != nullptr;)
-        paths.push_back(static_cast<LPCTSTR>(dialog.GetNextPathName(position)));
+        paths.push_back(ToUtf8(dialog.GetNextPathName(position)));
     if (!paths.empty())
         BeginReading(std::move(paths));
 }
@@ -46,13 +47,13 @@ void CMainFrame::OnUpdateFileLive(CCmdUI* pCmdUI) {
 }
 
 void CMainFrame::OnFileSavePicture() {
-    CFileDialog dialog(FALSE, "png", "graph.png", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kPictureFilter,
-                       this);
+    CFileDialog dialog(FALSE, _T("png"), _T("graph.png"), OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                       kPictureFilter, this);
     if (dialog.DoModal() != IDOK)
         return;
-    const std::string fault = SavePicture(*this, static_cast<LPCTSTR>(dialog.GetPathName()));
+    const std::string fault = SavePicture(*this, ToUtf8(dialog.GetPathName()));
     if (!fault.empty())
-        AfxMessageBox(("The picture was not saved: " + fault).c_str(), MB_OK | MB_ICONEXCLAMATION);
+        AfxMessageBox(ToText("The picture was not saved: " + fault), MB_OK | MB_ICONEXCLAMATION);
 }
 
 void CMainFrame::OnViewFill() {

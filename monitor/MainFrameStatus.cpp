@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "monitor/TextConversion.h"
 #include "monitor/recording/CheckReport.h"
 
 namespace kavlix::monitor {
@@ -24,7 +25,7 @@ bool FitsTitleBar(CWnd& frame, const std::string& title) {
     frame.GetWindowRect(&window);
     CWindowDC dc(&frame);
     CFont* const old = dc.SelectObject(&font);
-    const LONG width = dc.GetTextExtent(title.c_str()).cx;
+    const LONG width = dc.GetTextExtent(ToText(title)).cx;
     dc.SelectObject(old);
     return width <= window.Width() - kTitleButtons * ::GetSystemMetrics(SM_CXSIZE);
 }
@@ -66,8 +67,9 @@ void CMainFrame::ShowStatus() {
     }
     CString shown;
     GetWindowText(shown);
-    if (shown != title.c_str())
-        SetWindowText(title.c_str());
+    const CString wanted = ToText(title);
+    if (shown != wanted)
+        SetWindowText(wanted);
 }
 
 /// Shows a notice until ShowSelection, or for a short time. An empty notice removes the current one.

@@ -2,13 +2,15 @@
 
 #include "monitor/MessagesDlg.h"
 
+#include "monitor/TextConversion.h"
+
 namespace kavlix::monitor {
 
 CMessagesDlg::CMessagesDlg(const std::string& text, CWnd* parent)
-    : CDialog(CMessagesDlg::IDD, parent), m_text(text.c_str()) {
+    : CDialog(CMessagesDlg::IDD, parent), m_text(ToText(text)) {
     // An edit control breaks lines only at CRLF.
-    m_text.Replace("\r\n", "\n");
-    m_text.Replace("\n", "\r\n");
+    m_text.Replace(_T("\r\n"), _T("\n"));
+    m_text.Replace(_T("\n"), _T("\r\n"));
 }
 
 void CMessagesDlg::DoDataExchange(CDataExchange* pDX) {

@@ -2,13 +2,15 @@
 
 #include "monitor/MonitorApp.h"
 
-#include <cstdlib>
+#include <shellapi.h>
+
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "monitor/Console.h"
 #include "monitor/MainFrame.h"
+#include "monitor/TextConversion.h"
 #include "monitor/recording/CheckReport.h"
 #include "monitor/recording/Options.h"
 #include "monitor/recording/RecordingLoader.h"
@@ -19,14 +21,21 @@ namespace {
 
 constexpr int kNothing = static_cast<int>(recording::Status::Nothing);
 
+/// The arguments of the command line in UTF-8, without the program's name.
 std::vector<std::string> Arguments() {
-    return std::vector<std::string>(__argv + (__argc > 0 ? 1 : 0), __argv + __argc);
+    std::vector<std::string> arguments;
+    int count = 0;
+    LPWSTR* const all = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    for (int i = 1; all != nullptr && i < count; ++i)
+        arguments.push_back(ToUtf8(all[i]));
+    ::LocalFree(all);
+    return arguments;
 }
 
 /// Writes an error to standard error or, when that fails, shows it in a message box.
 void Tell(const std::string& text) {
     if (!WriteError(text + "\n"))
-        AfxMessageBox(text.c_str(), MB_OK | MB_ICONEXCLAMATION);
+        AfxMessageBox(ToText(text), MB_OK | MB_ICONEXCLAMATION);
 }
 
 } // namespace
@@ -35,7 +44,7 @@ BEGIN_MESSAGE_MAP(CMonitorApp, CWinApp)
     ON_COMMAND(ID_APP_ABOUT, &CMonitorApp::OnAppAbout)
 END_MESSAGE_MAP()
 
-CMonitorApp::CMonitorApp() : CWinApp("Kavlix Monitor") {
+CMonitorApp::CMonitorApp() : CWinApp(_T("Kavlix Monitor")) {
 }
 
 BOOL CMonitorApp::InitInstance() {

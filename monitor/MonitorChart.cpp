@@ -8,6 +8,7 @@
 
 #include "monitor/GraphSettings.h"
 #include "monitor/Notifications.h"
+#include "monitor/TextConversion.h"
 
 namespace kavlix::monitor {
 
@@ -64,9 +65,9 @@ void CMonitorChart::Show(ChartPicture picture) {
         SetXScale(m_picture.xCovers.min, m_picture.xCovers.max);
     if (m_picture.yCovers.any)
         SetYScale(m_picture.yCovers.min, m_picture.yCovers.max);
-    SetTitle(m_picture.title.c_str());
-    SetXLabel(m_picture.xLabel.c_str());
-    SetYLabel(m_picture.yLabel.c_str());
+    SetTitle(ToText(m_picture.title));
+    SetXLabel(ToText(m_picture.xLabel));
+    SetYLabel(ToText(m_picture.yLabel));
     Mark(row);
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "monitor/TextConversion.h"
 #include "monitor/recording/JoinedSamples.h"
 
 namespace kavlix::monitor {
@@ -203,7 +204,7 @@ void CMonitorGraph::FeedTail(std::size_t first) {
             AddData(static_cast<int>(series), values[i], nullptr);
     }
     for (std::size_t i = first; i < shown.times.size(); ++i)
-        AddXTickLabel(recording::MakeTimeLabel(m_labels, shown.times[i]).c_str(), CString());
+        AddXTickLabel(ToText(recording::MakeTimeLabel(m_labels, shown.times[i])), CString());
     // Take the times of the recording, not of m_shown. A bar has the time of its run's first sample, so the
     // last bar's time is before the last sample's.
     const std::vector<recording::Time>* const times =

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "monitor/TextConversion.h"
 #include "monitor/recording/NumberText.h"
 
 namespace kavlix::monitor {
@@ -16,10 +17,6 @@ namespace {
 constexpr int kMarkerRoom = 150;   // logical units: half a marker and a margin
 constexpr int kLabelFontLess = 50; // logical units by which a label's font is less high than the label
 constexpr int kMinLabelUnit = 300; // least height of a label in logical units: smaller ones are illegible
-
-CString ToText(const std::string& text) {
-    return CString(text.c_str());
-}
 
 ValueSpan SpanOfSeries(const recording::Recording& shown, std::size_t series) {
     return series < shown.series.size() ? recording::SpanOf(shown.series[series].values) : ValueSpan{};

@@ -27,8 +27,8 @@ END_MESSAGE_MAP()
 
 bool CMonitorPage::CreatePage(CWnd& frame, UINT id) {
     const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
-    return Create(windowClass, "", WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0), &frame,
-                  id) != FALSE;
+    return Create(windowClass, _T(""), WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0),
+                  &frame, id) != FALSE;
 }
 
 std::vector<std::string> CMonitorPage::ViewTexts() {

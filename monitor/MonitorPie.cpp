@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "monitor/Notifications.h"
+#include "monitor/TextConversion.h"
 
 namespace kavlix::monitor {
 namespace {
@@ -52,9 +53,9 @@ void CMonitorPie::Show(const std::vector<PieceSettings>& pieces, const std::stri
     m_message = message;
     Reset();
     for (const PieceSettings& piece : pieces)
-        AddPiece(piece.color, TextColorOn(piece.color), 1, piece.share, piece.label.c_str());
+        AddPiece(piece.color, TextColorOn(piece.color), 1, piece.share, ToText(piece.label));
     if (pieces.empty())
-        Wait(message.c_str(), message.empty() ? 0 : kWaiting);
+        Wait(ToText(message), message.empty() ? 0 : kWaiting);
     Select(selected);
     Invalidate(FALSE);
 }

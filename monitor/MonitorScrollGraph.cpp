@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "monitor/TextConversion.h"
 #include "monitor/recording/GraphUnits.h"
 #include "monitor/recording/NearestPoint.h"
 
@@ -305,7 +306,7 @@ bool CMonitorScrollGraph::FollowValues() {
         return false;
     SetYVisibleMin(m_scale.min);
     SetYVisibleMax(m_scale.max);
-    SetYUnit((m_scale.unit + m_axis.unit).c_str(), m_scale.unitExponent, m_scale.decimals);
+    SetYUnit(ToText(m_scale.unit + m_axis.unit), m_scale.unitExponent, m_scale.decimals);
     return true;
 }
 
@@ -322,7 +323,7 @@ CMonitorScrollGraph::Room CMonitorScrollGraph::FitAndMeasure() {
                         client.Width() * kPixel - room.legend >= kMinLegendPlot;
     ShowLegend(legend);
     ShowXLabel(legend);
-    SetXLabel("");
+    SetXLabel(CString());
     ShowYLabel(FALSE);
     const int labels = static_cast<int>(TextSize("00:00:00", kTimeFontHeight, FW_NORMAL).cx);
     SetXTickLabelHeight(labels + kTimeLabelMargin + (legend ? 0 : kScrollBarRoom));
@@ -341,9 +342,8 @@ void CMonitorScrollGraph::TakeRoom(const Room& room) {
     FitCaption({m_settings.title + names, m_settings.title});
     CRect client;
     GetClientRect(&client);
-    SetTitle(
-        FitText(m_settings.title, client.Width() * kPixel - 2 * kTickLabelGap, GetTitleTextHeight(), FW_BOLD)
-            .c_str());
+    SetTitle(ToText(FitText(m_settings.title, client.Width() * kPixel - 2 * kTickLabelGap,
+                            GetTitleTextHeight(), FW_BOLD)));
     Redraw();
 }
 

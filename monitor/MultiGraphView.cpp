@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "monitor/TextConversion.h"
 #include "monitor/recording/Periods.h"
 #include "monitor/recording/WholeScale.h"
 
@@ -92,7 +93,7 @@ ValueSpan SpanOfRows(const std::vector<Row>& rows, std::size_t periods, bool sta
 void AddSeries(CGraph& graph, const std::string& label, const std::vector<double>& values,
                const recording::WholeScale& scale) {
     auto series = std::make_unique<CGraphSeries>();
-    series->SetLabel(label.c_str());
+    series->SetLabel(ToText(label));
     for (std::size_t key = 0; key < values.size(); ++key)
         if (std::isfinite(values[key]))
             series->SetData(static_cast<int>(key), scale.ToWhole(values[key]));
@@ -144,17 +145,17 @@ Boxes BoxesOf(const Recording& recording, const GraphSettings& settings, const M
 } // namespace
 
 const std::vector<GraphTypeChoice>& GraphTypeChoices() {
-    static const std::vector<GraphTypeChoice> choices = {{GraphTypeBar, "Bars"},
-                                                         {GraphTypeLine, "Lines"},
-                                                         {GraphTypePie, "Pies"},
-                                                         {GraphTypeScatter, "Scatter"},
-                                                         {GraphTypeBoxWhisker, "Boxes and whiskers"},
-                                                         {GraphTypeStackedBar, "Stacked bars"},
-                                                         {GraphTypeXYLine, "XY lines"},
-                                                         {GraphType3DBar, "3D bars"},
-                                                         {GraphType3DLine, "3D lines"},
-                                                         {GraphType3DPie, "3D pies"},
-                                                         {GraphType3DStackedBar, "3D stacked bars"}};
+    static const std::vector<GraphTypeChoice> choices = {{GraphTypeBar, _T("Bars")},
+                                                         {GraphTypeLine, _T("Lines")},
+                                                         {GraphTypePie, _T("Pies")},
+                                                         {GraphTypeScatter, _T("Scatter")},
+                                                         {GraphTypeBoxWhisker, _T("Boxes and whiskers")},
+                                                         {GraphTypeStackedBar, _T("Stacked bars")},
+                                                         {GraphTypeXYLine, _T("XY lines")},
+                                                         {GraphType3DBar, _T("3D bars")},
+                                                         {GraphType3DLine, _T("3D lines")},
+                                                         {GraphType3DPie, _T("3D pies")},
+                                                         {GraphType3DStackedBar, _T("3D stacked bars")}};
     return choices;
 }
 
@@ -168,14 +169,14 @@ END_MESSAGE_MAP()
 
 bool CMultiGraphView::CreateChild(CWnd& parent, UINT id) {
     const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
-    return Create(windowClass, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &parent, id) != FALSE;
+    return Create(windowClass, _T(""), WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &parent, id) != FALSE;
 }
 
 void CMultiGraphView::Show(const Recording* recording, const GraphSettings& settings,
                            const MultiOptions& options) {
     auto graph = std::make_unique<CGraph>();
     graph->parentWindow = this;
-    graph->SetGraphTitle(settings.title.c_str());
+    graph->SetGraphTitle(ToText(settings.title));
     graph->SetLegendBySeries(TRUE);
     if (recording && !recording->times.empty() && !settings.series.empty()) {
         const Periods periods(recording->times);
@@ -197,7 +198,7 @@ void CMultiGraphView::Show(const Recording* recording, const GraphSettings& sett
         // set earlier.
         for (std::size_t i = 0; i < rows.size(); ++i) {
             graph->SetColor(static_cast<int>(i), rows[i].color);
-            graph->SetLegend(static_cast<int>(i), rows[i].name.c_str());
+            graph->SetLegend(static_cast<int>(i), ToText(rows[i].name));
         }
         for (std::size_t i = 0; i < boxes.colors.size(); ++i)
             graph->SetColor(static_cast<int>(i), boxes.colors[i]);
@@ -228,8 +229,8 @@ void CMultiGraphView::Show(const Recording* recording, const GraphSettings& sett
                                                         : "every " + every;
         // The graph's X label is below the horizontal axis, even if the values are along that axis.
         const bool level = options.horizontal && TurnsHorizontal(options.type);
-        graph->SetXAxisLabel((level ? of + unit : across).c_str());
-        graph->SetYAxisLabel((level ? across : of + unit).c_str());
+        graph->SetXAxisLabel(ToText(level ? of + unit : across));
+        graph->SetYAxisLabel(ToText(level ? across : of + unit));
         graph->SetGraphAlignment(options.horizontal ? 0 : 1);
         graph->SetGridLines(options.grid);
         graph->SetXAxisAlignment(options.labelAngle);

@@ -16,7 +16,7 @@ namespace kavlix::monitor {
 /// A type of graph as the panel offers it.
 struct GraphTypeChoice {
     int type; ///< a graph type of CGraph, such as GraphTypeBar
-    const char* name;
+    LPCTSTR name;
 };
 const std::vector<GraphTypeChoice>& GraphTypeChoices();
 

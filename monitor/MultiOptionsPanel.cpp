@@ -6,13 +6,15 @@
 #include <iterator>
 #include <utility>
 
+#include "monitor/TextConversion.h"
+
 namespace kavlix::monitor {
 namespace {
 
 constexpr int kAngles[] = {0, 30, 45, 60, 90, 135, 180, 270, 315}; // degrees
 constexpr int kDepths[] = {0, 2, 5, 10, 20, 40};                   // percent of the plot's width
 constexpr std::size_t kDefaultDepth = 2;                           // index into kDepths
-constexpr const char* kAllSeries = "(means of all series)";
+constexpr LPCTSTR kAllSeries = _T("(means of all series)");
 
 } // namespace
 
@@ -38,11 +40,11 @@ BOOL CMultiOptionsPanel::OnInitDialog() {
     types->SetCurSel(0);
     auto* const angles = static_cast<CComboBox*>(GetDlgItem(IDC_MULTI_ANGLE));
     for (const int angle : kAngles)
-        angles->AddString((std::to_string(angle) + "\xC2\xB0").c_str());
+        angles->AddString(ToText(std::to_string(angle) + "\xC2\xB0"));
     angles->SetCurSel(0);
     auto* const depths = static_cast<CComboBox*>(GetDlgItem(IDC_MULTI_DEPTH));
     for (const int depth : kDepths)
-        depths->AddString((std::to_string(depth) + " %").c_str());
+        depths->AddString(ToText(std::to_string(depth) + " %"));
     depths->SetCurSel(static_cast<int>(kDefaultDepth));
     CheckDlgButton(IDC_MULTI_GRID, BST_CHECKED);
     OfferSeries({});
@@ -69,7 +71,7 @@ void CMultiOptionsPanel::OfferSeries(const std::vector<std::string>& names) {
     box->ResetContent();
     box->AddString(kAllSeries);
     for (const std::string& name : names)
-        box->AddString(name.c_str());
+        box->AddString(ToText(name));
     // A single series shows all its statistics: the mean alone says little.
     box->SetCurSel(before >= 0 ? before : names.size() == 1 ? 1 : 0);
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "monitor/PictureCopy.h"
+#include "monitor/TextConversion.h"
 #include "monitor/resource.h"
 
 namespace kavlix::monitor {
@@ -94,16 +95,17 @@ void CMultiPage::OnFilePrint() {
     if (printed)
         Host().Say("Printed: the graph is with the printer");
     else if (chosen)
-        AfxMessageBox("The graph was not printed: the printer took no page.", MB_OK | MB_ICONEXCLAMATION);
+        AfxMessageBox(_T("The graph was not printed: the printer took no page."), MB_OK | MB_ICONEXCLAMATION);
 }
 
 bool CMultiPage::PrintOn(CDC& printer) {
     const auto twips = [&printer](int pixels, int pixelsPerInch) {
         return ::MulDiv(printer.GetDeviceCaps(pixels), kTwipsPerInch, printer.GetDeviceCaps(pixelsPerInch));
     };
+    const CString title = ToText(m_settings.title);
     DOCINFO document{};
     document.cbSize = sizeof document;
-    document.lpszDocName = m_settings.title.c_str();
+    document.lpszDocName = title;
     if (printer.StartDoc(&document) <= 0)
         return false;
     if (printer.StartPage() <= 0) {

@@ -28,7 +28,7 @@ bool CopyAsMetafile(CWnd& owner, const std::function<void(CDC&)>& draw) {
     // Without explicit bounds, GDI would include the clipped parts of the picture.
     const CRect bounds(0, 0, frame(client.right, HORZSIZE, HORZRES), frame(client.bottom, VERTSIZE, VERTRES));
     CDC dc;
-    if (!dc.Attach(::CreateEnhMetaFile(screen.m_hDC, nullptr, &bounds, "Kavlix Monitor\0Picture\0")))
+    if (!dc.Attach(::CreateEnhMetaFile(screen.m_hDC, nullptr, &bounds, _T("Kavlix Monitor\0Picture\0"))))
         return false;
     draw(dc);
     const HENHMETAFILE picture = ::CloseEnhMetaFile(dc.Detach());

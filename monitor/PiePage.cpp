@@ -11,9 +11,11 @@
 #include "monitor/MachineCounters.h"
 #include "monitor/Notifications.h"
 #include "monitor/PictureCopy.h"
+#include "monitor/TextConversion.h"
 #include "monitor/recording/JoinedSamples.h"
 #include "monitor/recording/MemoryParts.h"
 #include "monitor/recording/NumberText.h"
+#include "monitor/recording/TextCut.h"
 #include "monitor/resource.h"
 
 namespace kavlix::monitor {
@@ -44,8 +46,9 @@ std::string PercentText(double share) {
 void DrawLine(CDC& dc, CFont& font, COLORREF color, const std::string& text, CRect line) {
     CFont* const before = dc.SelectObject(&font);
     dc.SetTextColor(color);
-    ::DrawText(dc.m_hDC, text.c_str(), -1, &line,
-               DT_CENTER | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    const std::string shown = recording::CutToFit(
+        text, [&](const std::string& tried) { return dc.GetTextExtent(ToText(tried)).cx <= line.Width(); });
+    dc.DrawText(ToText(shown), line, DT_CENTER | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     dc.SelectObject(before);
 }
 

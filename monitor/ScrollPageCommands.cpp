@@ -12,6 +12,7 @@
 
 #include "monitor/KeepDlg.h"
 #include "monitor/PictureCopy.h"
+#include "monitor/TextConversion.h"
 #include "monitor/resource.h"
 
 namespace kavlix::monitor {
@@ -91,7 +92,7 @@ void CScrollPage::OnCaptionDoubleClick(UINT nID, NMHDR* pNMHDR, LRESULT* pResult
 }
 
 LRESULT CScrollPage::OnMarkTime(WPARAM, LPARAM lParam) {
-    const std::string text = reinterpret_cast<const char*>(lParam);
+    const std::string text = ToUtf8(reinterpret_cast<LPCTSTR>(lParam));
     Host().Say(text.empty() ? "For Tindro: nothing is marked" : "For Tindro: the mark is at " + text);
     return 0;
 }

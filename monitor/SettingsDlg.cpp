@@ -10,11 +10,13 @@
 #include <iterator>
 #include <utility>
 
+#include "monitor/TextConversion.h"
+
 namespace kavlix::monitor {
 namespace {
 
-constexpr const char* kStyleNames[] = {"Lines", "Bars", "Two axes"};
-constexpr const char* kTitleStyleNames[] = {"Text", "Caption band"};
+constexpr LPCTSTR kStyleNames[] = {_T("Lines"), _T("Bars"), _T("Two axes")};
+constexpr LPCTSTR kTitleStyleNames[] = {_T("Text"), _T("Caption band")};
 constexpr int kSwatchMargin = 4; // pixels from the button's edge to its colour
 
 template <class Choices, class Predicate> int IndexOf(const Choices& choices, Predicate predicate) {
@@ -102,10 +104,10 @@ void CSettingsDlg::FillChoices() {
         m_settings.series.size() >= 2 ? std::size(kStyleNames) : std::size(kStyleNames) - 1;
     for (std::size_t i = 0; i < styles; ++i)
         m_styleBox.AddString(kStyleNames[i]);
-    for (const char* name : kTitleStyleNames)
+    for (const LPCTSTR name : kTitleStyleNames)
         m_titleStyleBox.AddString(name);
     for (const SeriesSettings& series : m_settings.series)
-        m_seriesBox.AddString(series.name.c_str());
+        m_seriesBox.AddString(ToText(series.name));
     for (const LineSizeChoice& choice : LineSizeChoices())
         m_lineSizeBox.AddString(choice.name);
     for (const MarkerChoice& choice : MarkerChoices())
@@ -116,7 +118,7 @@ void CSettingsDlg::FillChoices() {
 }
 
 void CSettingsDlg::SettingsToMembers() {
-    m_title = m_settings.title.c_str();
+    m_title = ToText(m_settings.title);
     m_style = m_settings.style;
     m_titleStyle = m_settings.titleStyle;
     m_legend = m_settings.legend;
@@ -142,7 +144,7 @@ void CSettingsDlg::ShowSettings() {
 }
 
 void CSettingsDlg::MembersToSettings() {
-    m_settings.title = static_cast<LPCTSTR>(m_title);
+    m_settings.title = ToUtf8(m_title);
     if (m_style >= 0)
         m_settings.style = static_cast<CGraphCtrl::GraphStyle>(m_style);
     if (m_titleStyle >= 0)

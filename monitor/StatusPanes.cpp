@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "monitor/TextConversion.h"
 #include "monitor/recording/TextCut.h"
 
 namespace kavlix::monitor {
@@ -29,7 +30,7 @@ void CStatusPanes::Show(const StatusTexts& texts) {
     CClientDC dc(this);
     CFont* const old = dc.SelectObject(GetFont());
     const auto extent = [&dc](const std::string& text) {
-        return text.empty() ? 0 : static_cast<int>(dc.GetTextExtent(text.c_str()).cx) + kTextMargin;
+        return text.empty() ? 0 : static_cast<int>(dc.GetTextExtent(ToText(text)).cx) + kTextMargin;
     };
     PaneWidths wanted;
     const auto longest = [](const std::vector<std::string>& forms) {
@@ -65,7 +66,7 @@ void CStatusPanes::Show(const StatusTexts& texts) {
     for (int pane = 0; pane < kPanes; ++pane) {
         if (m_shown[pane] == shown[pane])
             continue;
-        SetText(shown[pane].c_str(), pane, 0);
+        SetText(ToText(shown[pane]), pane, 0);
         m_shown[pane] = shown[pane];
     }
     UpdateWindow();

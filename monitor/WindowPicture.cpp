@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+#include "monitor/recording/FilePath.h"
+
 namespace kavlix::monitor {
 namespace {
 
@@ -105,7 +107,7 @@ std::string SavePicture(CWnd& frame, const std::string& path) {
         return "there is not enough memory for a picture of this size";
     copy.SelectObject(&pixels);
     CopyWhole(frame, copy);
-    const bool saved = kavlix::SavePicture(path.c_str(), size, [&](CDC& picture) {
+    const bool saved = kavlix::SavePicture(recording::PathOf(path).c_str(), size, [&](CDC& picture) {
         picture.BitBlt(0, 0, size.cx, size.cy, &copy, 0, 0, SRCCOPY);
     });
     return saved ? "" : path + ": cannot be written, or the name does not end in .png, .bmp or .emf";

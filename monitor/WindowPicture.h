@@ -8,8 +8,8 @@
 namespace kavlix::monitor {
 
 /// The file types of pictures, for the dialog that asks for a file name.
-constexpr char kPictureFilter[] =
-    "PNG pictures (*.png)|*.png|Bitmaps (*.bmp)|*.bmp|Enhanced metafiles (*.emf)|*.emf||";
+constexpr TCHAR kPictureFilter[] =
+    _T("PNG pictures (*.png)|*.png|Bitmaps (*.bmp)|*.bmp|Enhanced metafiles (*.emf)|*.emf||");
 
 /// The area of the picture: menu bar and client area of the frame, in screen coordinates.
 CRect PictureArea(const CWnd& frame);
@@ -20,7 +20,7 @@ void SizePictureArea(CWnd& frame, CSize size);
 
 /// Saves the PictureArea of a visible window, copied from the screen, as a .png, .bmp or .emf file. When part
 /// of the area lies outside the screen, the window is moved to copy one part after another, and moved back.
-/// `path` is in the process code page. Returns an empty text, or a description of the failure.
+/// `path` is UTF-8. Returns an empty text, or a description of the failure.
 std::string SavePicture(CWnd& frame, const std::string& path);
 
 } // namespace kavlix::monitor

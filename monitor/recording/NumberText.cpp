@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+#include "monitor/recording/TextCut.h"
+
 namespace kavlix::recording {
 namespace {
 
@@ -138,12 +140,15 @@ std::string FormatCount(std::uint64_t count) {
 std::string QuoteForMessage(std::string_view text, std::size_t limit) {
     static constexpr char kHex[] = "0123456789ABCDEF";
     std::string quoted = "\"";
+    std::size_t whole = 0; // length of `quoted` up to the current character
     std::size_t at = 0;
     while (at < text.size()) {
         const unsigned char byte = static_cast<unsigned char>(text[at]);
         const std::size_t length = SequenceLength(text.substr(at));
+        if (length == 0 || BeginsCharacter(text, at))
+            whole = quoted.size();
         if (at + std::max<std::size_t>(length, 1) > limit)
-            return quoted + "\"...";
+            return quoted.substr(0, whole) + "\"...";
         if (length == 0 || IsControl(byte)) {
             quoted += "\\x";
             quoted += kHex[byte >> 4];

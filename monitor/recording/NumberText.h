@@ -31,7 +31,7 @@ std::string FormatNumber(double value);
 std::string FormatCount(std::uint64_t count);
 
 /// The text in quotes for a message. ASCII control characters and bytes that are no UTF-8 are written as
-/// \xNN. Text beyond `limit` bytes is cut, and `...` follows the closing quote.
+/// \xNN. Text beyond `limit` bytes is cut after a whole character, and `...` follows the closing quote.
 std::string QuoteForMessage(std::string_view text, std::size_t limit = 40);
 
 /// The text as valid UTF-8. A byte outside UTF-8 sequences is read as Latin-1; an ASCII control character

@@ -10,6 +10,7 @@
 #include <system_error>
 #include <utility>
 
+#include "monitor/recording/FilePath.h"
 #include "monitor/recording/TableJoin.h"
 #include "monitor/recording/TableReader.h"
 
@@ -26,7 +27,7 @@ std::string LastSystemError() {
 /// Size of a file in bytes; 0 when the system gives none (a device, a folder, no such file).
 std::uint64_t SizeOf(const std::string& path) {
     constexpr std::uint64_t kLargestPlausible = std::uint64_t{1} << 60;
-    std::ifstream stream(path, std::ios::binary | std::ios::ate);
+    std::ifstream stream(PathOf(path), std::ios::binary | std::ios::ate);
     const std::streamoff size = stream ? static_cast<std::streamoff>(stream.tellg()) : 0;
     return size > 0 && static_cast<std::uint64_t>(size) < kLargestPlausible ? static_cast<std::uint64_t>(size)
                                                                             : 0;
@@ -61,7 +62,7 @@ struct RecordingLoader::State {
         FileSummary& file = File();
         reader = std::make_unique<TableReader>(file, kMaxSeries - seriesTaken);
         errno = 0;
-        stream = std::ifstream(file.path, std::ios::binary);
+        stream = std::ifstream(PathOf(file.path), std::ios::binary);
         if (!stream) {
             Refuse("expected a file that can be read: " + LastSystemError());
             return false;

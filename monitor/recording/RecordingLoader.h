@@ -35,7 +35,7 @@ public:
     /// Size of a slice in bytes. Reading a slice takes a few milliseconds.
     static constexpr std::size_t kSlice = std::size_t{1} << 20;
 
-    /// `paths` are file names in the process code page. Messages show them as given.
+    /// `paths` are file names as PathOf takes them. Messages show them as given.
     explicit RecordingLoader(std::vector<std::string> paths);
     ~RecordingLoader();
 

@@ -1,19 +1,20 @@
 // Shortens UTF-8 text until it fits.
 #pragma once
 
-#include <algorithm>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace kavlix::recording {
 
+/// Whether a character begins at byte `at` of UTF-8 text; true at the ends of the text. A character is what a
+/// reader takes for one: a code point with its combining marks, variation selectors and skin tones, and code
+/// points that are linked by zero-width joiners.
+bool BeginsCharacter(std::string_view text, std::size_t at);
+
 /// Length in bytes of the longest beginning of `text` that has at most `bytes` bytes and ends with a whole
-/// UTF-8 character.
-inline std::size_t WholeCharacters(const std::string& text, std::size_t bytes) {
-    bytes = std::min(bytes, text.size());
-    while (bytes > 0 && bytes < text.size() && (static_cast<unsigned char>(text[bytes]) & 0xC0) == 0x80)
-        --bytes;
-    return bytes;
-}
+/// character.
+std::size_t WholeCharacters(std::string_view text, std::size_t bytes);
 
 /// The text, or the longest beginning of it that fits with `...` behind it; empty or only `...` when not even
 /// one character fits. `fits` returns whether there is room for a text; a shorter text must not need more

@@ -11,6 +11,7 @@
 #include "monitor/MainFrame.h"
 #include "monitor/resource.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/Utf8.h"
 
 namespace kavlix::test {
 
@@ -56,13 +57,13 @@ protected:
     /// The text of a pane of the status bar.
     std::string Pane(int pane) {
         auto* const status = static_cast<CStatusBarCtrl*>(m_frame->GetDlgItem(IDC_STATUS));
-        return static_cast<LPCTSTR>(status->GetText(pane));
+        return testkit::Utf8(status->GetText(pane));
     }
     std::string Text() { return Pane(0); }
     static std::string TitleOf(const CWnd& window) {
         CString text;
         window.GetWindowText(text);
-        return static_cast<LPCTSTR>(text);
+        return testkit::Utf8(text);
     }
     static void ClearClipboard() {
         ASSERT_TRUE(::OpenClipboard(nullptr));

@@ -9,6 +9,7 @@
 
 #include "tests/monitor/MadeRecordings.h"
 #include "tests/support/OpenGraph.h"
+#include "tests/support/Utf8.h"
 
 namespace kavlix::test {
 namespace {
@@ -28,19 +29,19 @@ public:
         return m_rectPlot;
     }
     int ValueTicks() { return Plot().Height() / 500; }
-    std::string XLabel() const { return m_ShowXLabel ? static_cast<LPCTSTR>(m_XLabel) : ""; }
+    std::string XLabel() const { return m_ShowXLabel ? testkit::Utf8(m_XLabel) : ""; }
     std::string Caption() const {
         CString text;
         GetWindowText(text);
-        return static_cast<LPCTSTR>(text);
+        return testkit::Utf8(text);
     }
-    std::string Legend(int i) const { return static_cast<LPCTSTR>(m_Datasets[i].m_Legend); }
+    std::string Legend(int i) const { return testkit::Utf8(m_Datasets[i].m_Legend); }
 };
 
 class MonitorGraph : public testing::Test {
 protected:
     MonitorGraph() {
-        m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, CRect(0, 0, 2000, 1500), nullptr, 0);
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, CRect(0, 0, 2000, 1500), nullptr, 0);
         EXPECT_TRUE(m_graph.CreateChild(m_parent, 1));
         Resize(900, 600);
     }

@@ -52,7 +52,7 @@ protected:
         const CObList& list = Inside::Series(View().Graph());
         for (POSITION at = list.GetHeadPosition(); at != nullptr;) {
             const auto* const series = static_cast<const CGraphSeries*>(list.GetNext(at));
-            text += std::string(series->GetLabel()) + ":";
+            text += testkit::Utf8(series->GetLabel()) + ":";
             const CObList& values = series->GetDataList();
             for (POSITION value = values.GetHeadPosition(); value != nullptr;) {
                 const auto* const one = static_cast<const CGraphValue*>(values.GetNext(value));
@@ -92,7 +92,7 @@ TEST_F(MultiPage, TypesAreFilledWithTheStatisticsOfEachPeriod) {
 TEST_F(MultiPage, EveryTypePaintsOnScreenAndPaper) {
     Open("multi", {Days()});
     for (std::size_t type = 0; type < GraphTypeChoices().size(); ++type) {
-        SCOPED_TRACE(GraphTypeChoices()[type].name);
+        SCOPED_TRACE(testkit::Utf8(GraphTypeChoices()[type].name));
         ChooseType(static_cast<int>(type));
         const auto recordsOf = [](const std::function<void(CDC&)>& draw) {
             testkit::MetafileRecorder picture;
@@ -108,7 +108,8 @@ TEST_F(MultiPage, EveryTypePaintsOnScreenAndPaper) {
          {std::pair(0, "mean"), std::pair(3, "number of the 6 hours, from 0")}) {
         ChooseType(type);
         EXPECT_EQ(Inside::Alignment(View().Graph()), 0);
-        EXPECT_STREQ(Inside::Across(View().Graph()), caption) << "the values have turned, or have not";
+        EXPECT_EQ(testkit::Utf8(Inside::Across(View().Graph())), caption)
+            << "the values have turned, or have not";
     }
     Command(ID_EDIT_COPY);
     EXPECT_EQ(Text().substr(0, 6), "Copied");

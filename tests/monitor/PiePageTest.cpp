@@ -38,7 +38,7 @@ protected:
         std::vector<std::string> labels;
         for (int i = 0; i < Inside::Pieces(Pie()).GetSize(); ++i)
             labels.push_back(
-                static_cast<LPCTSTR>(static_cast<CPieChartPiece*>(Inside::Pieces(Pie())[i])->m_strLabel));
+                testkit::Utf8(static_cast<CPieChartPiece*>(Inside::Pieces(Pie())[i])->m_strLabel));
         return labels;
     }
     void MarkInGraph(int sample) {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "monitor/GraphSettings.h"
+#include "monitor/TextConversion.h"
 #include "tests/support/TempFolder.h"
 
 #include <objidl.h>
@@ -24,7 +25,7 @@ using std::max, std::min;
 namespace kavlix::test {
 namespace {
 
-using testkit::TempFolder;
+using monitor::ToText, testkit::TempFolder;
 
 /// The result of a run of KavlixMonitor.exe.
 struct MonitorRun {
@@ -58,21 +59,21 @@ constexpr DWORD kPatience = 90'000; // milliseconds; a loaded machine may take l
 /// A new file whose handle a child process inherits.
 HANDLE OpenForProgram(const std::string& path) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-    return CreateFileA(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+    return CreateFile(ToText(path), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
 }
 
 std::string Content(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string CommandLine(const std::vector<std::string>& arguments) {
-    char program[MAX_PATH];
-    GetModuleFileNameA(nullptr, program, sizeof program);
-    std::string line =
-        '"' + std::filesystem::path(program).replace_filename("KavlixMonitor.exe").string() + '"';
+std::wstring CommandLine(const std::vector<std::string>& arguments) {
+    WCHAR program[MAX_PATH];
+    GetModuleFileName(nullptr, program, _countof(program));
+    std::wstring line =
+        L'"' + std::filesystem::path(program).replace_filename("KavlixMonitor.exe").wstring() + L'"';
     for (const std::string& argument : arguments)
-        line += " \"" + argument + "\"";
+        line += L" \"" + std::filesystem::u8path(argument).wstring() + L"\"";
     return line;
 }
 
@@ -81,15 +82,14 @@ MonitorRun RunMonitor(const std::vector<std::string>& arguments) {
     MonitorRun run;
     const TempFolder folder;
     const std::string output = folder.Path("output"), error = folder.Path("error");
-    STARTUPINFOA startup{};
+    STARTUPINFO startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = OpenForProgram(output);
     startup.hStdError = OpenForProgram(error);
     PROCESS_INFORMATION process{};
-    std::string line = CommandLine(arguments);
-    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
-                        &process))
+    std::wstring line = CommandLine(arguments);
+    if (!CreateProcess(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
         return run;
     DWORD status = 0;
     if (WaitForSingleObject(process.hProcess, kPatience) != WAIT_OBJECT_0)
@@ -112,7 +112,7 @@ Picture ReadPicture(const std::string& path) {
     ULONG_PTR token = 0;
     Gdiplus::GdiplusStartup(&token, &input, nullptr);
     {
-        Gdiplus::Bitmap bitmap(std::filesystem::path(path).c_str());
+        Gdiplus::Bitmap bitmap(std::filesystem::u8path(path).c_str());
         const Gdiplus::Rect all(0, 0, static_cast<INT>(bitmap.GetWidth()),
                                 static_cast<INT>(bitmap.GetHeight()));
         Gdiplus::BitmapData data;
@@ -129,7 +129,7 @@ Picture ReadPicture(const std::string& path) {
     return picture;
 }
 
-constexpr const char* kGood = "time,Load,Heat\n"
+constexpr const char* kGood = "time,Load,\u6E29\u5EA6 \U0001F321\n"
                               "2020-01-01 00:00:00,1,20\n"
                               "2020-01-01 00:05:00,,21\n"
                               "2020-01-01 00:10:00,3,22.5\n";
@@ -142,19 +142,33 @@ TEST(MonitorCheck, TellsWhatFilesHoldAndEndsWithWhatWasLeftOut) {
     const TempFolder folder;
     const std::string bad =
         folder.Write("bad.csv", std::string(kGood) + "yesterday,4,5\n2020-01-01 00:20:00,5,6\n");
-    const std::string good = folder.Write("name with blanks & (signs).csv", kGood);
-    const std::string none = folder.Path("none.csv");
+    const std::string good =
+        folder.Write("\u0395\u03BB (\u65E5\u672C) & \u05E2\u05D1 \U0001F321 e\u0301.csv", kGood);
+    const std::string none = folder.Path("\u0644\u0627.csv");
+    // Longer than 260 UTF-16 units.
+    const std::string deep = folder.Path(std::string(150, 'd'));
+    const std::string distant = deep + '\\' + std::string(150, 'e') + "\\\u65E5.csv";
+    const std::filesystem::path unlimited = L"\\\\?\\" + std::filesystem::u8path(distant).wstring();
+    std::filesystem::create_directories(unlimited.parent_path());
+    std::ofstream(unlimited) << kGood;
     const struct {
         std::string file;
         unsigned status;
         std::string told;
-    } cases[] = {{good, 0, "2020-01-01 00:10:00"}, {bad, 1, bad + ":5:1: "}, {none, 2, none}};
+    } cases[] = {{good, 0, good + "\n  rows: 3\n"},
+                 {good, 0, "series \"\u6E29\u5EA6 \U0001F321\": 3"},
+                 {distant, 0, distant},
+                 {bad, 1, bad + ":5:1: "},
+                 {none, 2, none}};
     for (const auto& given : cases) {
         const MonitorRun run = RunMonitor({"--check", given.file});
         EXPECT_EQ(run.status, given.status) << run.output << run.error;
         EXPECT_TRUE(given.status > 0 || run.error.empty()) << run.error;
         EXPECT_TRUE(Contains(run.output, given.told)) << run.output;
     }
+    for (std::filesystem::path left = unlimited; left.native().size() > deep.size();
+         left = left.parent_path())
+        std::filesystem::remove(left);
     const MonitorRun run = RunMonitor({"--size", "wide"});
     EXPECT_EQ(run.status, 2u);
     EXPECT_TRUE(Contains(run.error, "--size")) << run.error;
@@ -187,7 +201,7 @@ protected:
     /// Runs the Monitor with these arguments and --shot; returns the saved picture and checks the
     /// exit status.
     Picture Shot(std::vector<std::string> arguments, unsigned status = 0) {
-        const std::string shot = m_folder.Path("out.png");
+        const std::string shot = m_folder.Path("\u0395\u03BB \u65E5\u672C \u05E2\u05D1 \U0001F321.png");
         arguments.insert(arguments.end(), {"--shot", shot});
         m_run = RunMonitor(arguments);
         EXPECT_EQ(m_run.status, status) << m_run.error;
@@ -239,7 +253,8 @@ TEST_F(MonitorPicture, WhatIsWrongIsToldAndTheRestIsShown) {
     EXPECT_EQ(m_run.status, 2u);
     const std::string metafile = m_folder.Path("out.emf");
     EXPECT_EQ(RunMonitor({recording, "--shot", metafile}).status, 1u);
-    EXPECT_GT(std::filesystem::file_size(metafile), 100'000u) << "the pixels of the window";
+    EXPECT_GT(std::filesystem::file_size(std::filesystem::u8path(metafile)), 100'000u)
+        << "the pixels of the window";
 }
 
 TEST_F(MonitorPicture, LiveReadingsRunAsLongAsAsked) {

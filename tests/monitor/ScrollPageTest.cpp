@@ -54,7 +54,7 @@ struct Inside : CMonitorScrollGraph {
 class ScrollPage : public testing::Test, protected monitor::PageHost {
 protected:
     ScrollPage() : m_page(*this) {
-        m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, CRect(0, 0, 900, 600),
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP | WS_VISIBLE, CRect(0, 0, 900, 600),
                           nullptr, 0);
         EXPECT_TRUE(m_page.CreatePage(m_parent, 1));
         m_page.MoveWindow(0, 0, 900, 600);
@@ -283,7 +283,7 @@ TEST_F(ScrollPage, TheViewBeginsAtASampleWhereverItGoes) {
 }
 
 TEST(LocalStamps, StampsReadAsTheFileDoesAndNeverGoBack) {
-    const testkit::ImportHook zone("KavlixMfc.dll", "GetTimeZoneInformationForYear",
+    const testkit::ImportHook zone("KavlixMfcU.dll", "GetTimeZoneInformationForYear",
                                    reinterpret_cast<void*>(&NewYork));
     ASSERT_TRUE(zone.Installed());
     for (const recording::CivilTime& day :
@@ -305,11 +305,11 @@ TEST(LocalStamps, StampsReadAsTheFileDoesAndNeverGoBack) {
 }
 
 TEST_F(ScrollPage, LabelsAndTindroTellTheTimesOfTheFile) {
-    const testkit::ImportHook stamps("KavlixMfc.dll", "GetTimeZoneInformationForYear",
+    const testkit::ImportHook stamps("KavlixMfcU.dll", "GetTimeZoneInformationForYear",
                                      reinterpret_cast<void*>(&NewYork));
-    const testkit::ImportHook rules("Kavlix.dll", "GetTimeZoneInformationForYear",
+    const testkit::ImportHook rules("KavlixU.dll", "GetTimeZoneInformationForYear",
                                     reinterpret_cast<void*>(&NewYork));
-    const testkit::ImportHook zone("Kavlix.dll", "GetDynamicTimeZoneInformation",
+    const testkit::ImportHook zone("KavlixU.dll", "GetDynamicTimeZoneInformation",
                                    reinterpret_cast<void*>(&InNewYork));
     for (const recording::CivilTime& day :
          {recording::CivilTime{2021, 1, 12, 23, 59, 58, 0}, recording::CivilTime{1969, 7, 1, 23, 0, 0, 0}}) {

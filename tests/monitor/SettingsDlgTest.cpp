@@ -8,6 +8,7 @@
 #include <random>
 
 #include "monitor/SettingsDlg.h"
+#include "monitor/TextConversion.h"
 #include "tests/monitor/MadeRecordings.h"
 
 namespace kavlix::test {
@@ -60,7 +61,7 @@ TEST_F(SettingsDlg, OpensWithTheSettingsItWasGivenAndChangesNothing) {
     EXPECT_TRUE(Now() == SettingsOf(Waves(3), CGraphCtrl::GraphStyleTwoAxis));
     CString title;
     m_dialog->GetDlgItemText(IDC_TITLE, title);
-    EXPECT_STREQ(title, "Title");
+    EXPECT_STREQ(title, _T("Title"));
     EXPECT_EQ(Chosen(IDC_STYLE), 2);
     EXPECT_EQ(m_dialog->Preview().GetDatasetSize(2), 100) << "the preview shows the recording";
     EXPECT_FALSE(m_dialog->GetDlgItem(IDC_LEGEND)->IsWindowEnabled()) << "two axes have no legend";
@@ -85,7 +86,10 @@ TEST_F(SettingsDlg, EveryChangeReachesThePreviewAndNothingElse) {
         const std::size_t choice = random() % 3;
         const int item = static_cast<int>(choice);
         const std::function<void()> changes[] = {
-            [&] { m_dialog->SetDlgItemText(IDC_TITLE, (expected.title = std::to_string(step)).c_str()); },
+            [&] {
+                m_dialog->SetDlgItemText(
+                    IDC_TITLE, monitor::ToText(expected.title = std::to_string(step) + " \u65E5\U0001F321"));
+            },
             [&] { Choose(IDC_STYLE, expected.style = static_cast<CGraphCtrl::GraphStyle>(item)); },
             [&] {
                 Choose(IDC_TITLE_STYLE, expected.titleStyle = static_cast<CGraphCtrl::TitleStyle>(item % 2));
@@ -124,8 +128,8 @@ TEST_F(SettingsDlg, NoControlOverlapsAnotherOrTheBorder) {
     m_dialog->GetClientRect(&inside);
     std::vector<CRect> rects;
     for (CWnd* child = m_dialog->GetWindow(GW_CHILD); child; child = child->GetWindow(GW_HWNDNEXT)) {
-        char name[32];
-        GetClassNameA(child->m_hWnd, name, sizeof name);
+        TCHAR name[32];
+        GetClassName(child->m_hWnd, name, _countof(name));
         CRect rect;
         child->GetWindowRect(&rect);
         m_dialog->ScreenToClient(&rect);
@@ -133,7 +137,7 @@ TEST_F(SettingsDlg, NoControlOverlapsAnotherOrTheBorder) {
         common.IntersectRect(rect, inside);
         SCOPED_TRACE(child->GetDlgCtrlID());
         EXPECT_EQ(common, rect);
-        if (std::string(name) == "Button" && (child->GetStyle() & BS_TYPEMASK) == BS_GROUPBOX)
+        if (CString(name) == _T("Button") && (child->GetStyle() & BS_TYPEMASK) == BS_GROUPBOX)
             continue;
         for (const CRect& other : rects)
             EXPECT_FALSE(common.IntersectRect(rect, other));

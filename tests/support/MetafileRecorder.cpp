@@ -50,13 +50,15 @@ std::string FontText(const LOGFONTW& font) {
     return text.str();
 }
 
+/// The text as the tests of the character set write it: in UTF-8, or in the code page of the process.
 std::string Narrow(const WCHAR* text, UINT length) {
+    constexpr UINT kCodePage = sizeof(TCHAR) == sizeof(WCHAR) ? CP_UTF8 : CP_ACP;
     if (length == 0)
         return {};
     const int wide = static_cast<int>(length);
-    const int size = WideCharToMultiByte(CP_ACP, 0, text, wide, nullptr, 0, nullptr, nullptr);
+    const int size = WideCharToMultiByte(kCodePage, 0, text, wide, nullptr, 0, nullptr, nullptr);
     std::string narrow(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_ACP, 0, text, wide, &narrow[0], size, nullptr, nullptr);
+    WideCharToMultiByte(kCodePage, 0, text, wide, &narrow[0], size, nullptr, nullptr);
     return narrow;
 }
 

@@ -9,7 +9,7 @@
 
 namespace testkit {
 
-/// A new folder, removed with all files in it at the end.
+/// A new folder, removed with all files in it at the end. Names and paths are in UTF-8.
 class TempFolder {
 public:
     TempFolder() {
@@ -28,11 +28,11 @@ public:
 
     /// Path of a file in the folder, or of the folder itself.
     std::string Path(const std::string& name = {}) const {
-        return (name.empty() ? m_path : m_path / name).string();
+        return (name.empty() ? m_path : m_path / std::filesystem::u8path(name)).u8string();
     }
     /// Writes a file; returns its path.
     std::string Write(const std::string& name, std::string_view content) const {
-        std::ofstream(Path(name), std::ios::binary) << content;
+        std::ofstream(std::filesystem::u8path(Path(name)), std::ios::binary) << content;
         return Path(name);
     }
 

@@ -76,6 +76,7 @@ TEST(FormatCount, GroupsDigits) {
 TEST(MessageText, ShowsEveryByteAndIsCut) {
     EXPECT_EQ(QuoteForMessage(std::string_view("a\0\x7F\xFF", 4)), "\"a\\x00\\x7F\\xFF\"");
     EXPECT_EQ(QuoteForMessage("ab\xC3\xA4", 3), "\"ab\"..."); // a character is not cut through
+    EXPECT_EQ(QuoteForMessage("abe\u0301", 4), "\"ab\"...");  // nor its mark cut off
     EXPECT_LT(QuoteForMessage(std::string(1'000'000, '\0')).size(), 200u);
 }
 

@@ -12,11 +12,12 @@ struct SAMPLER
     CCriticalSection section;   // guards nSamples and nAtOnce
     CSemaphore places;
     CEvent start;
+    CEvent pair;                // two samplers have been there at the same time
     CMutex report;
     int nEach;
     int nSamples;
     LONG nAtOnce;
-    SAMPLER(int n) : places(2, 2), start(FALSE, TRUE), nEach(n), nSamples(0), nAtOnce(0) {}
+    SAMPLER(int n) : places(2, 2), start(FALSE, TRUE), pair(FALSE, TRUE), nEach(n), nSamples(0), nAtOnce(0) {}
 };
 
 UINT SampleProc(LPVOID pParam)
@@ -24,19 +25,24 @@ UINT SampleProc(LPVOID pParam)
     SAMPLER* p = (SAMPLER*)pParam;
     p->start.Lock();
     CSingleLock place(&p->places, TRUE);
+    CSingleLock lock(&p->section);
+    lock.Lock();
+    p->nAtOnce++;
+    g_nMostAtOnce = __max(g_nMostAtOnce, p->nAtOnce);
+    if (p->nAtOnce == 2)
+        p->pair.SetEvent();
+    lock.Unlock();
+    p->pair.Lock(10000);
     for (int i = 0; i < p->nEach; i++)
     {
-        CSingleLock lock(&p->section);
         lock.Lock();
-        p->nAtOnce += i == 0;
-        if (p->nAtOnce > g_nMostAtOnce)
-            g_nMostAtOnce = p->nAtOnce;
         int nBefore = p->nSamples;
         ::SwitchToThread();
         p->nSamples = nBefore + (TakeSample(i % 100) >= 0);
-        if (i == p->nEach - 1)
-            p->nAtOnce--;
+        lock.Unlock();
     }
+    lock.Lock();
+    p->nAtOnce--;
     return 0;
 }
 

@@ -237,7 +237,7 @@ BOOL CMainFrame::OnOpenRecent(UINT nID)
 
 void CMainFrame::OnRecordStart()
 {
-    m_nSamples += RecordSamples(4, 50);
+    m_nSamples += RecordSamples(4, 20);
 }
 
 void CMainFrame::OnRecordClear()

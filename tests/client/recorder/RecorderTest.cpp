@@ -5,6 +5,7 @@
 
 #include "tests/client/User.h"
 #include "tests/support/GdiCounter.h"
+#include "tests/support/SeenUnderWine.h"
 
 #include <afxpriv.h>
 #include <dlgs.h>
@@ -185,7 +186,7 @@ TEST_F(Recorder, RecentFilesOutliveTheProgram) {
     for (const LPCTSTR name : {_T("one.csv"), _T("two.csv"), _T("here & now.csv"), _T("four.csv")})
         MakeFile(name);
     PickFile(m_files[0]);
-    EXPECT_STREQ(_T("one.csv"), Frame().m_strFile) << "chosen in the system's dialog";
+    ONLY_SEEN_UNDER_WINE(EXPECT_STREQ(_T("one.csv"), Frame().m_strFile) << "chosen in the system's dialog");
     for (const CString& file : m_files)
         theApp.AddToRecentFileList(file);
     theApp.AddToRecentFileList(m_files[1]);
@@ -226,8 +227,8 @@ TEST_F(Recorder, OldFileDialogTellsItsSelection) {
         ::PostMessage(popup, WM_COMMAND, IDOK, 0);
     }});
     User::Choose(ID_FILE_OPEN);
-    EXPECT_STREQ(_T("item 0"), Frame().m_strSeen);
-    EXPECT_STREQ(_T("old.csv"), Frame().m_strFile);
+    ONLY_SEEN_UNDER_WINE(EXPECT_STREQ(_T("item 0"), Frame().m_strSeen)); // the insides of the system's dialog
+    ONLY_SEEN_UNDER_WINE(EXPECT_STREQ(_T("old.csv"), Frame().m_strFile));
     ::SetCurrentDirectory(_T("\\"));
 }
 
@@ -355,7 +356,7 @@ TEST_F(Recorder, PanelAndNoteStayBesideTheProgram) {
 
 TEST_F(Recorder, ThreadsRecordEverySampleTwoAtATime) {
     User::Choose(ID_RECORD_START);
-    EXPECT_EQ(4 * 50, Frame().m_nSamples);
+    EXPECT_EQ(4 * 20, Frame().m_nSamples);
     EXPECT_EQ(2, g_nMostAtOnce);
 
     EXPECT_EQ(99, TakeSample(99));

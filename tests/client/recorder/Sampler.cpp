@@ -37,7 +37,7 @@ UINT SampleProc(LPVOID pParam)
     {
         lock.Lock();
         int nBefore = p->nSamples;
-        ::SwitchToThread();
+        ::Sleep(1);             // the channel takes its time
         p->nSamples = nBefore + (TakeSample(i % 100) >= 0);
         lock.Unlock();
     }

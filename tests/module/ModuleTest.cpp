@@ -1,5 +1,6 @@
 // Kavlix.dll as a module: texts and numbers that hosts know.
 #include "tests/module/GraphDialog.h"
+#include "tests/support/MessageBoxWatcher.h"
 
 #include <afxwin.h>
 
@@ -36,4 +37,12 @@ TEST(ModuleTest, MessageNumbersAreThoseOfHosts) {
         GCN_MAXIMIZE,     GCN_MOUSEMOVE,        GCN_SELCHANGE, GCN_REMOVEDATA,     GCN_SCROLL};
     const UINT expected[] = {1124, 1327, 1224, 1225, 1226, 1234, 1244, 1254, 1255, 1264};
     EXPECT_TRUE(std::equal(std::begin(numbers), std::end(numbers), expected));
+}
+
+// A misfit would end this program: tests/consumer has hosts of that kind.
+TEST(ModuleTest, HeadersOfAnotherCorrectionFit) {
+    testkit::MessageBoxWatcher watcher;
+    for (const unsigned int version : {KAVLIX_VERSION / 100 * 100, KAVLIX_VERSION, KAVLIX_VERSION + 1})
+        EXPECT_TRUE(KavlixCheckHost("CGraphCtrl", sizeof(CGraphCtrl), version));
+    EXPECT_TRUE(watcher.Boxes().empty());
 }

@@ -25,7 +25,8 @@ foreach(text run-tests.cmd README.txt)
     configure_file(package/${text} ${texts}/${text} @ONLY NEWLINE_STYLE CRLF)
 endforeach()
 file(GLOB runtime ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lib*.dll)
-set(copied ${runtime} $<TARGET_FILE:KavlixMonitor>)
+# Beside what the programs link: what they start, and what they load as an extension module.
+set(copied ${runtime} $<TARGET_FILE:KavlixMonitor> $<TARGET_FILE:Kavlix> $<TARGET_FILE:KavlixU>)
 foreach(program ${programs})
     list(APPEND copied $<TARGET_FILE:${program}> $<TARGET_RUNTIME_DLLS:${program}>)
 endforeach()
@@ -49,6 +50,6 @@ add_custom_target(
     ${licences}
     COMMAND ${CMAKE_COMMAND} -E tar cf ${stage}.zip --format=zip ${name}
     COMMAND ${CMAKE_COMMAND} -E echo "The tests for Windows: ${stage}.zip"
-    DEPENDS ${programs} KavlixMonitor
+    DEPENDS ${programs} KavlixMonitor Kavlix KavlixU
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
     COMMAND_EXPAND_LISTS VERBATIM)

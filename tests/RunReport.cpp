@@ -45,7 +45,8 @@ DWORD WINAPI EndHungProgram(void* seconds) {
 }
 
 const bool installed = [] {
-    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX); // no boxes of the system wait for an answer
+    ::SetErrorMode(SEM_FAILCRITICALERRORS |
+                   SEM_NOGPFAULTERRORBOX); // no boxes of the system wait for an answer
     testing::UnitTest::GetInstance()->listeners().Append(new Counts);
     const char* const seconds = std::getenv("KAVLIX_TEST_SECONDS");
     if (seconds != nullptr)

@@ -7,5 +7,3 @@ foreach(set IN ITEMS "" U)
     target_link_libraries(mfc_main${set} INTERFACE mfc${set})
 endforeach()
 target_compile_definitions(mfcU INTERFACE UNICODE _UNICODE)
-# The linker would look for the entry point of a narrow program.
-target_link_options(mfc_mainU INTERFACE /ENTRY:wWinMainCRTStartup)

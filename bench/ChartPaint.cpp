@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Repaints of the chart window: one long line, a part of it in view, 13 lines, points in random order.
 
 #include "bench/GraphSeries.h"

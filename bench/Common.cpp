@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Clock, quantiles, resource counts and the test window.
 #include "bench/Common.h"
 

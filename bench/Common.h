@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What all rows of the benchmark share: clock, quantiles, output lines, test window, families.
 #pragma once
 

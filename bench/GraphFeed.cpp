@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Adding and removing samples: in 13 datasets directly, and through the control.
 
 #include "bench/GraphSeries.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The time of a step for histories of different length, and a day of readings on a live page.
 
 #include "bench/GraphSeries.h"

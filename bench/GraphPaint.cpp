@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Repaints of the whole graph control, and copies to the clipboard, with 13 series.
 
 #include "bench/GraphSeries.h"

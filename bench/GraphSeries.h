@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the rows about the graph control share: series, picture size, and the lines of times.
 #pragma once
 

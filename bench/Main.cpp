@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // bench [ROW...]: prints the rows of the named families as lines of JSON; of all families without a name.
 
 #include "bench/Common.h"

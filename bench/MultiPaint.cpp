@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Repaints of every type of the multi-type graph, beside bars of the graph control.
 
 #include "bench/GraphSeries.h"

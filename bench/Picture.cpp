@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The memory bitmap, and the rows' times of whole repaints.
 #include "bench/Picture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A memory picture of a control, and the measurement of whole repaints.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Repaints of the whole scrolling graph, with 13 series and a sample a second.
 
 #include "bench/GraphSeries.h"

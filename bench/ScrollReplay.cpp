@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A day of live readings: a sample a second for each of 13 datasets, of which the last hour is kept.
 
 #include "bench/Common.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Prints the measurements of `bench/run --peers` as a table: medians over the rounds, and ratios."""
 
 import json

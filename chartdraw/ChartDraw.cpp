@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: lifetime, scales and properties.
 #include <kavlix/ChartDraw.h>
 

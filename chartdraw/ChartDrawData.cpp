@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: datasets, their points and attributes.
 #include <kavlix/ChartDraw.h>
 

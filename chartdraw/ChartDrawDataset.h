@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw::Dataset, which the sources of CChartDraw share.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: packed DIB blocks, made from bitmaps and written to files.
 #include <kavlix/ChartDraw.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: copies the picture to the clipboard and saves it to files.
 #include <kavlix/ChartDraw.h>
 #include <kavlix/PictureFile.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: places of title, captions, scales and plot, the scales themselves, and fonts.
 #include <kavlix/ChartDraw.h>
 

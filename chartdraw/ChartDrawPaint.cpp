@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: paints background, title, grid, axes and scales. ChartDrawPaintData paints the datasets.
 #include <kavlix/ChartDraw.h>
 

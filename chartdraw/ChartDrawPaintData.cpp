@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: draws the lines and markers of datasets.
 #include <kavlix/ChartDraw.h>
 

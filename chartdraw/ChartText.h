@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sizes and texts that layout and painting of a chart share.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Guards for blocks of global memory that hold packed DIBs.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shapes at many pixels: painted together from a mask, or drawn one by one by GDI.
 #include "chartdraw/PixelStamps.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Drawing the same small shape at many pixels: markers, and the dots of points without neighbours.
 #pragma once
 

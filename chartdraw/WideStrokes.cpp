@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The cache of stroke shapes, and strokes of any length by GDI.
 #include "chartdraw/WideStrokes.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Strokes wider than a pixel: short ones are painted from cached shapes, the others by GDI.
 #pragma once
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The MFC of Visual C++, as a shared DLL, under the names that our own class library's targets have.
 set(CMAKE_MFC_FLAG 2)
 foreach(set IN ITEMS "" U)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # cmake --install, and cpack, which packs the installed files as a ZIP.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)

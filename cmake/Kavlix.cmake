@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Settings that all targets share.
 
 # Warnings, sanitizers and platform definitions of the project's own code.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # kavlix_deploy: the DLLs that a program needs, beside the program. Part of the installed package too.
 
 # Lists the DLLs of the compiler's own run time in `result`: libstdc++, libgcc, and threads. Empty for other compilers than

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Target package_tests: a ZIP of the test programs, of everything that they load, and of run-tests.cmd, which runs them on
 # a Windows machine and writes a report.
 set(KAVLIX_PACKAGE_SYSTEM win64)

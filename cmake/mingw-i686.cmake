@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Cross compiler for 32-bit Windows.
 set(KAVLIX_ARCH i686)
 include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What the cross compilers for KAVLIX_ARCH have in common. The variant with POSIX threads, since exceptions cross DLL
 # borders.
 set(CMAKE_SYSTEM_NAME Windows)

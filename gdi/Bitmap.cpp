@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes DIB sections.
 #include "gdi/Bitmap.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // DIB sections (bitmaps whose pixels lie in the process's memory), and the ownership of new GDI objects.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds the pixels in memory that a DC paints into, and checks once that PixelRaster paints as GDI does.
 #include "gdi/DirectPaint.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Direct access to the pixels behind a DC, for painting without a GDI call per stroke.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Learns the dots of GDI's dotted pen from trial lines, and draws them directly.
 #include "gdi/DottedPen.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dotted pen of grid lines.
 #pragma once
 

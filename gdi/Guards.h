@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scope guards for the state of a DC.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The controls' own mapping mode, and conversions between logical units and device pixels.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The shape of each marker type.
 #include "gdi/Markers.h"
 

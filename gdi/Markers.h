@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The markers at the points of a series.
 #pragma once
 

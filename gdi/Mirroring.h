@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Charts in mirrored windows (WS_EX_LAYOUTRTL): picture and mouse positions keep their direction.
 #pragma once
 

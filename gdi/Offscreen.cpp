@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes the bitmap of an off-screen surface.
 #include "gdi/Offscreen.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The off-screen surface that a control paints on before it copies the picture to the screen.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Turns exceptions for lack of memory or GDI objects into results that an operation can return to its host.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Records a picture into an enhanced metafile and gives it to the clipboard.
 #include "gdi/PictureClipboard.h"
 

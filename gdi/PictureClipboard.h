@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Enhanced metafiles and the clipboard.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Encodes pictures by GDI+ or as metafiles, and writes them to a file.
 #include <kavlix/PictureFile.h>
 

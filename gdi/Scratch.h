@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small picture on which GDI paints trial strokes, so that their pixels can be read.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Conversions between the platform-free points and rectangles and those of the class library.
 #pragma once
 

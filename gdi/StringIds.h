@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Identifiers of the strings in the resources of Kavlix.dll.
 #pragma once
 

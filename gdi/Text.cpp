@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts, which GDI gets in UTF-16.
 #include "gdi/Text.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fonts and texts: drawing, measuring and cutting texts. Lengths of texts count TCHARs.
 #pragma once
 

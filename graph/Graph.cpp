@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The model of CGraph: settings, and the lists of series, colours and legend texts.
 #include <kavlix/Graph.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The axes of a drawing: walls of the 3D types, grid lines, ticks and numbers. Series labels and captions
 // are in GraphAxisLabels.cpp.
 #include <kavlix/Graph.h>

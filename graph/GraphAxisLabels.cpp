@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The labels of the series, the captions of both axes, and the texts that are drawn over the series.
 #include <kavlix/Graph.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bars side by side and stacked bars.
 #include <algorithm>
 #include <cmath>

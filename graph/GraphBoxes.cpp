@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Box-and-whisker drawings.
 #include <algorithm>
 #include <utility>

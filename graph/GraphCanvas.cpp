@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Drawing with GDI: rounding, pens, brushes and fonts, and the faster of two calls that draw the same pixels.
 #include "graph/GraphCanvas.h"
 

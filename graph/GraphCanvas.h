@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A DC with the few drawing operations that a graph needs, on screen and paper alike.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The legend: a box at the right edge with a text and a colour for each group or series.
 #include <kavlix/Graph.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lines, XY lines, scattered points and the ribbons of 3D lines.
 #include <algorithm>
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The six shapes of markers.
 #include "graph/GraphMarker.h"
 

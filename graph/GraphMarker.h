@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The marker at a point of a line or scatter graph.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One drawing, step by step: background, title, layout, quadrants, series.
 #include <kavlix/Graph.h>
 

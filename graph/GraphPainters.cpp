@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The painters as members of CGraph: each paints the series as one graph type, whatever type is set.
 #include <kavlix/Graph.h>
 

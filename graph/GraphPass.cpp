@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Places in the plot, for horizontal and upright graphs alike.
 #include "graph/GraphPass.h"
 

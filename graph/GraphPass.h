@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The state of one drawing, which its steps and the series painters share.
 #pragma once
 

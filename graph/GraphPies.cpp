@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pies, flat and tilted: their arrangement in the plot, their sectors and rims, and the shares in percent.
 #include <algorithm>
 #include <cmath>

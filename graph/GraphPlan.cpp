@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Planning a drawing: plot, depth, scales, ticks and slots, before axes and series are drawn.
 #include <kavlix/Graph.h>
 

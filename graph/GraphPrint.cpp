@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Printing: the picture of DrawGraph, laid out in twips between the margins and on the page.
 #include <kavlix/Graph.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The values of a series.
 #include <kavlix/GraphSeries.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading the lists of a graph into a snapshot.
 #include "graph/GraphSnapshot.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The series and colours of a graph, copied from its lists for one drawing.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The solid bars of the 3D types.
 #include <algorithm>
 #include <cmath>

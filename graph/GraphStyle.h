@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lengths and colours that several sources of the graph share.
 #pragma once
 

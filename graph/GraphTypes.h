@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The graph types, one row each: the painter of its series, and what layout and axes do differently for it.
 #pragma once
 

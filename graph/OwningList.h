@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CObList as a list that owns its objects.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Paints one dataset as bars, and the selection mark of the bar style.
 #include "graphctrl/BarPainter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDataset: the samples of a series.
 #include <kavlix/Dataset.h>
 

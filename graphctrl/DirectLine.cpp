@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // DirectLine: the strokes that begin or end outside the pixel table.
 #include "graphctrl/DirectLine.h"
 

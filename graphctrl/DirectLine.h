@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws a line one pixel wide by writing into the pixels of a picture.
 #pragma once
 

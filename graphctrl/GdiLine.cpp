@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // GdiLine: pixels of the points, reduction of the line, and the calls of GDI.
 #include "graphctrl/GdiLine.h"
 

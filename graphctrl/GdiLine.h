@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws a line on a screen or memory DC, by calls of GDI.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: the message map, construction and the window class.
 #include <kavlix/GraphCtrl.h>
 

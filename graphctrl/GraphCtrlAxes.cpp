@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: the axes with ticks, tick labels, unit texts and grid. XTickPainter draws the X tick labels,
 // and the X ticks of the line styles with their grid lines.
 #include <kavlix/GraphCtrl.h>

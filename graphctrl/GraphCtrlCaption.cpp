@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: paints the caption band and its maximize icon. GraphCtrlInput handles clicks on the icon.
 #include <kavlix/GraphCtrl.h>
 

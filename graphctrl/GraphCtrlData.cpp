@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: samples and tick labels, added, read and removed.
 #include <kavlix/GraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: the picture on the clipboard and in files.
 #include <kavlix/GraphCtrl.h>
 #include <kavlix/PictureFile.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: mouse and keyboard. The context menu's messages are handled with the menu.
 #include <kavlix/GraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: the legend, its board and its rows.
 #include <kavlix/GraphCtrl.h>
 

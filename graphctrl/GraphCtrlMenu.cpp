@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: the context menu and its commands, except for copying (GraphCtrlExport).
 #include <kavlix/GraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: sends the WM_NOTIFY messages to the parent.
 #include <kavlix/GraphCtrl.h>
 

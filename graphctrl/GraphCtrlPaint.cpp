@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: WM_PAINT and WM_PRINTCLIENT, the layout, and the order in which the parts are drawn.
 #include <kavlix/GraphCtrl.h>
 

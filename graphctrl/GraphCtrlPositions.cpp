@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: conversions between samples, values, logical units and client pixels.
 #include <kavlix/GraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: the setters that do more than store one value.
 #include <kavlix/GraphCtrl.h>
 

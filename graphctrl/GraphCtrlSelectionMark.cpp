@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: moves the selection mark and reports the move. LinePainter and BarPainter draw the mark.
 #include <kavlix/GraphCtrl.h>
 

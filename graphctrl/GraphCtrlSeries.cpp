@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: paints the datasets in the graph style. LinePainter and BarPainter paint one dataset.
 #include <kavlix/GraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl in a window of another class, for example a dialog item, or with a mirrored parent: keeps the behaviour of
 // that class and the mirroring out.
 #include <kavlix/GraphCtrl.h>

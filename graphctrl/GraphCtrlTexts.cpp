@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: its fonts, the title and the axis labels. Not here: tick labels and legend rows.
 #include <kavlix/GraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Paints one dataset as a line with markers, sample by sample, and the selection mark of the line styles.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a line is drawn: the DC, the pixel table, and the map from values to positions.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // RecordedLine: which samples of a column are kept, and where strokes are cut.
 #include "graphctrl/RecordedLine.h"
 

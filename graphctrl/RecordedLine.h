@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws a line for a metafile or printer, which records strokes instead of painting pixels.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ReducedLines: chooses the samples of each column and passes them on to DirectLine, GdiLine or RecordedLine.
 #include "graphctrl/ReducedLines.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws the lines of a paint in time that grows with the number of pixels, not of samples.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // WideStroke: how a stroke from far away is shortened.
 #include "graphctrl/WideStroke.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One stroke of a pen wider than a pixel, and how a stroke from far away is shortened.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where samples stand along the X axis.
 #pragma once
 

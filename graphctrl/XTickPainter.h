@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Paints one tick of the X axis and its label.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // DDX_GraphControl: binds a dialog item to a graph control.
 #include <kavlix/GraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KavlixCheckHost: ends a host that was built with headers of another Kavlix than this DLL.
 #include <kavlix/Kavlix.h>
 

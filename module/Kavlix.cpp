@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The entry point of Kavlix.dll.
 #include <afxwin.h>
 

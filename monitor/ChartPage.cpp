@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The chart page: its choices, texts and commands.
 
 #include "monitor/ChartPage.h"

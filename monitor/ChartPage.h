@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The chart page: one series against another.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The choice boxes for X and Y.
 
 #include "monitor/ChartSeriesDlg.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialog that chooses the series of the chart page.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds the standard handles of a GUI program, and writes to them.
 
 #include "monitor/Console.h"

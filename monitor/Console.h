@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text for the person who started the program from a terminal.
 #pragma once
 

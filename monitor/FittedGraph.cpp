@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Look, layout and texts of the Monitor's graphs.
 
 #include "monitor/FittedGraph.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The base of CMonitorGraph and CMonitorScrollGraph.
 #pragma once
 

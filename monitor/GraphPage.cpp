@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The graph page's content, texts and notifications. Its commands are in GraphPageCommands.
 
 #include "monitor/GraphPage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The graph page: one graph over the samples.
 #pragma once
 

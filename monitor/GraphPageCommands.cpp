@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The graph page's commands.
 
 #include "monitor/GraphPage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Default settings, and the lists of markers and line widths.
 
 #include "monitor/GraphSettings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The person's choices about graphs, which all pages share.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The limits of the number of readings.
 
 #include "monitor/KeepDlg.h"

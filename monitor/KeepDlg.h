@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialog for the number of live readings to keep.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Adding and removing live readings, and the history that is made of them.
 
 #include "monitor/LiveReadings.h"

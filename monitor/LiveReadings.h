@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keeps the live readings of the machine.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds the offset from local time to UTC.
 
 #include "monitor/LocalStamps.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Time stamps for the scrolling graph.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the counters. Compiled without the precompiled header: winsock2.h must come before windows.h.
 
 #include <winsock2.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Asks the operating system for the counters of processor, memory and network.
 #pragma once
 

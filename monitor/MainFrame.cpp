@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window's life, layout and pages. Commands, sources and status bar have files of their own.
 
 #include "monitor/MainFrame.h"

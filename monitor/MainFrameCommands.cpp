@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The commands of the main window's menu.
 
 #include "monitor/MainFrame.h"

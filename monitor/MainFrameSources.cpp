@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the main window's content comes from: files or live readings; and how the program ends.
 
 #include "monitor/MainFrame.h"

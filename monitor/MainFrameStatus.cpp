@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window's texts: in the status bar, or in the title while a page fills the window.
 
 #include "monitor/MainFrame.h"

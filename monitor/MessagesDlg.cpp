@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shows text in an edit control.
 
 #include "monitor/MessagesDlg.h"

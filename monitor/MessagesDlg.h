@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialog with the messages about the files.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Start and end of the program.
 
 #include "monitor/MonitorApp.h"

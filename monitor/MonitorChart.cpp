@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Points, mark, mouse and keys of the chart.
 
 #include "monitor/MonitorChart.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The chart control of the chart page.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hands samples to the graph control. MonitorGraphFit chooses ranges and texts.
 
 #include "monitor/MonitorGraph.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The graph control of the graph page and of the settings dialog's preview.
 #pragma once
 

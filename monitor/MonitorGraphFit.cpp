@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the graph chooses from the window's size: ranges with round labels, and room for texts.
 
 #include "monitor/MonitorGraph.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The graph's mouse: the sample under the pointer, and notifications to the parent.
 
 #include "monitor/MonitorGraph.h"

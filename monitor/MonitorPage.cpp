@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What all pages have in common.
 
 #include "monitor/MonitorPage.h"

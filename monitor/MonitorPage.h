@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The content of the pages, and the base of all pages.
 #pragma once
 

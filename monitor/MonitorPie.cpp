@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pieces, selection and keys of the pie.
 
 #include "monitor/MonitorPie.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pie control of the pie page.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Samples, view and layout of a scrolling graph.
 
 #include "monitor/MonitorScrollGraph.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scrolling graph control of the scroll page.
 #pragma once
 

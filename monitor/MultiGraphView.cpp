@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fills and paints the multi-type graph.
 
 #include "monitor/MultiGraphView.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window with the multi-type graph.
 #pragma once
 

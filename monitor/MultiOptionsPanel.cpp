@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fills and reads the panel's controls.
 
 #include "monitor/MultiOptionsPanel.h"

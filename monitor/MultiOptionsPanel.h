@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The panel of choices beside the multi-type graph.
 #pragma once
 

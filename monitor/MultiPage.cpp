@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The multi page's layout, copy and print.
 
 #include "monitor/MultiPage.h"

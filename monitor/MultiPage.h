@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The multi page: a multi-type graph and its choices.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sends the notifications.
 
 #include "monitor/Notifications.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // WM_NOTIFY messages that the Monitor's controls send to their pages in addition to those of Kavlix.
 #pragma once
 

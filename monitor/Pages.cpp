@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table of all pages.
 
 #include "monitor/Pages.h"

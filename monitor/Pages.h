@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The list of all pages.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Copies a picture to the clipboard as a metafile, and checks whether a copy has reached the clipboard.
 
 #include "monitor/PictureCopy.h"

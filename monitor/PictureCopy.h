@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Copies pictures to the clipboard.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pie page: its two kinds of pies, heading, texts and commands.
 
 #include "monitor/PiePage.h"

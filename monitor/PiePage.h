@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pie page: the parts of a whole.
 #pragma once
 

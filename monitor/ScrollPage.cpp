@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scroll page's content: turns samples into rows. View and commands have files of their own.
 
 #include "monitor/ScrollPage.h"

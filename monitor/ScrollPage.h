@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scroll page: two graphs over time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scroll page's commands, and those of its graphs' notifications that change content or settings.
 
 #include "monitor/ScrollPage.h"

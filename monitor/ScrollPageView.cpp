@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scroll page's layout, view and texts.
 
 #include "monitor/ScrollPage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Moves the settings between the dialog's controls and the preview.
 
 #include "monitor/SettingsDlg.h"

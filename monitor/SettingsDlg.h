@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings dialog with its preview.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Widths and texts of the status bar's panes.
 
 #include "monitor/StatusPanes.h"

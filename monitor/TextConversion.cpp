@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Converts by the system's functions.
 
 #include "monitor/TextConversion.h"

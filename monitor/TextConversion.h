@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The Monitor's texts for Windows and back.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Copies a window from the screen into a picture file.
 
 #include "monitor/WindowPicture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Saves a picture of a window.
 #pragma once
 

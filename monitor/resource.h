@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Identifiers of the program's own resources and commands.
 #pragma once
 

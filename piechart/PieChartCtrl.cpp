@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPieChartCtrl: lifetime, data and geometry. Painting, labels and input have files of their own.
 #include <kavlix/PieChartCtrl.h>
 

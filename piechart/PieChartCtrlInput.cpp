@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPieChartCtrl: clicks, selection, notification and cursor.
 #include <kavlix/PieChartCtrl.h>
 

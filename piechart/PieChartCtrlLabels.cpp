@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPieChartCtrl: draws labels, percentages and leader lines. PlaceLabels decides where they stand.
 #include <kavlix/PieChartCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPieChartCtrl: paints sectors, outline and messages, on the screen and into picture files.
 #include <kavlix/PictureFile.h>
 #include <kavlix/PieChartCtrl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Abbreviation of labels by measuring candidate texts.
 #include "piechart/PieLabelAbbreviation.h"
 

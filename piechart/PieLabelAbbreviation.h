@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Abbreviates the labels of a pie so that labels with equal beginnings stay different.
 #pragma once
 

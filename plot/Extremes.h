@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The lowest and highest value of a range of samples.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Index ranges of samples, found from bounds of X and from the visible positions.
 #include "plot/IndexRange.h"
 

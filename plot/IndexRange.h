@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Index ranges of samples whose X is their index.
 #pragma once
 

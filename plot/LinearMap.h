@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The map between the values of an axis and positions on the screen.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The search for the item nearest to a position, as hit tests need.
 #pragma once
 

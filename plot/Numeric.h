@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pi, the limits of GDI, and conversions from double to int that are defined for every value.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Groups successive samples by the pixel column that they are drawn in.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Set-up of the pixel table, and the check for equal pixel sizes.
 #include "plot/PixelEdges.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table of pixel borders along one axis, in logical units.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The choice of a stroke's longer side, and the part of the stroke inside a rectangle.
 #include "plot/PixelLine.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pixels that GDI paints for a stroke of one pixel's width, found by integer arithmetic.
 #pragma once
 

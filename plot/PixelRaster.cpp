@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Strokes, dotted lines and rectangles written straight into memory.
 #include "plot/PixelRaster.h"
 

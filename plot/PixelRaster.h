@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A picture's pixels in memory, painted as GDI paints them but without calling GDI.
 #pragma once
 

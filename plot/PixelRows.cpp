@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pixel rows by one multiplication per value, two values at a time where the processor allows it.
 #include "plot/PixelRows.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pixel rows of sample values, computed faster than through LinearMap and PixelEdges.
 #pragma once
 

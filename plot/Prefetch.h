@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Asks the processor for memory that is soon read.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The choice of round axis steps, and the texts of tick labels.
 #include "plot/RoundScale.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Round axis scales: range, ticks and tick labels of one axis.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs of points in one pixel column, one row or beyond one edge, and what is kept of them.
 #include "plot/SeriesReduction.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Removes the points of a long line that cannot change a pixel.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Point and rectangle of the platform-free code.
 #pragma once
 

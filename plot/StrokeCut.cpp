@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Nearer ends for long strokes, found with integer arithmetic on their slopes.
 #include "plot/StrokeCut.h"
 

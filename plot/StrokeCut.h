@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shortens strokes whose ends lie far outside the view. Their pixels inside the view stay the same.
 #pragma once
 

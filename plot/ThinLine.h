@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A line of many points, one pixel wide, painted into a PixelRaster.
 #pragma once
 

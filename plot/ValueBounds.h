@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The smallest and largest value of a series, from which a scale is chosen.
 #pragma once
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Functions for the scripts (bash): packages, the display, Wine, builds, and the end of started processes.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scrolling graph's message map, creation, and the window of its scroll bar.
 #include <kavlix/ScrollGraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The time axis: choice of the tick step, ticks, labels and vertical grid lines.
 #include <kavlix/ScrollGraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Samples and time stamps: adding, removing, and their texts in local time.
 #include <kavlix/ScrollGraphCtrl.h>
 

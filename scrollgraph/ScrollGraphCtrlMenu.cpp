@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu item that exports the selection mark's time.
 #include <kavlix/ScrollGraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Painting of the samples in view, and hit tests against them.
 #include <kavlix/ScrollGraphCtrl.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The view on the time line: scroll bar, wheel, range and GCN_SCROLL.
 #include <kavlix/ScrollGraphCtrl.h>
 

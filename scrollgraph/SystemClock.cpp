@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Local time by the rules of the system's time zone.
 #include "scrollgraph/SystemClock.h"
 

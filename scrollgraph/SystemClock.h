@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // LocalClock for the system's time zone, and a cache of the zone's rules.
 #pragma once
 

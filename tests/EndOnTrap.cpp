@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ends a test program at the first trap or access violation in it.
 #include <windows.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What run-tests.cmd asks of a test program: its counts, and its end when it hangs.
 #include "tests/support/UnderWine.h"
 

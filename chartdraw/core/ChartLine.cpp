@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Cutting strokes at the border of the range that GDI can draw.
 #include "chartdraw/core/ChartLine.h"
 

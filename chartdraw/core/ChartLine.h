@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Conversion of a line's exact positions, of any size, to pixels.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reduction of a series, column by column.
 #include "chartdraw/core/ChartReduction.h"
 

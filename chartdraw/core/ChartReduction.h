@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reduction of a series to the points that can change a pixel, by means of bounding boxes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Appending to a series, all or nothing.
 #include "chartdraw/core/ChartSeries.h"
 

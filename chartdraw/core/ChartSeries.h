@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The points of one dataset, with what painting and scales need to know about them.
 #pragma once
 

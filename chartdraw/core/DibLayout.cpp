@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sizes of rows, images and colour tables.
 #include "chartdraw/core/DibLayout.h"
 

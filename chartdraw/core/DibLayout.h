@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The arithmetic of packed device-independent bitmaps and of bitmap files. Sizes are in bytes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Receivers of a line's pixels: the interface, and the receiver that leaves out what changes no pixel.
 #pragma once
 

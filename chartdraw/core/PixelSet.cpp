@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Stamping a shape on all pixels of a set, 64 pixels at a time.
 #include "chartdraw/core/PixelSet.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A set of the pixels of a rectangle, one bit each.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Adding points to boxes and boxes to levels.
 #include "chartdraw/core/PointBoxTree.h"
 

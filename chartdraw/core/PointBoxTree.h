@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bounding boxes of consecutive points, in several levels.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Long strokes: which of their columns are painted already, and the exact pixels of the other columns.
 #include "chartdraw/core/RasterPath.h"
 

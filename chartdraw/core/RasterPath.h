@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Painting of thin lines into pixels, fast also if their points jump back and forth across the view.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Quartiles by interpolation, and the whiskers that follow from them.
 #include "graph/core/BoxStatistics.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Median, quartiles and whiskers of a set of values.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Angles in degrees.
 #pragma once
 

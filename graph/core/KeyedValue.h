@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A value of a series with its key.
 #pragma once
 

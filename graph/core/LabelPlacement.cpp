@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Geometry of turned labels.
 #include "graph/core/LabelPlacement.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where turned labels stand beside an axis, and how many of them have room.
 #pragma once
 

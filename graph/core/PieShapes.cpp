@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Geometry of sectors and rims.
 #include "graph/core/PieShapes.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sectors, rims and the arrangement of pies. The rim is the side wall of a tilted pie.
 #pragma once
 

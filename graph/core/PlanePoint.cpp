@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Cutting strokes at a rectangle.
 #include "graph/core/PlanePoint.h"
 

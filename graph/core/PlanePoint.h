@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Points and rectangles of a picture, with fractional coordinates.
 #pragma once
 

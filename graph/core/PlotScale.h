@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Values to positions along an axis.
 #pragma once
 

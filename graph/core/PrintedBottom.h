@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How far down the page a graph is printed.
 #pragma once
 

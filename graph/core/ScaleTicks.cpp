@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Choosing strides of 1, 2 or 5 times a power of ten.
 #include "graph/core/ScaleTicks.h"
 

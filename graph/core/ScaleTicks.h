@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ticks and round limits of an axis of whole numbers.
 #pragma once
 

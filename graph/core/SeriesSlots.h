@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The places of series and of their bars along an axis.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Geometry and shading of boxes and ribbons.
 #include "graph/core/Solid.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The boxes and ribbons of 3D graphs: depth, faces and light.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Stacking upwards and downwards from 0.
 #include "graph/core/StackSegments.h"
 

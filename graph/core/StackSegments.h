@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Stacks of positive and negative values.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The values and texts of a value axis' ticks.
 #include "graphctrl/core/AxisTicks.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The ticks of value axes, and the choice of labelled ticks along the X axis.
 #pragma once
 

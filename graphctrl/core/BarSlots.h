@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The division of the plot's width among bars.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The layout of a graph control.
 #include "graphctrl/core/GraphLayout.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The layout of a graph control: where title, labels, axes, plot and legend stand.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which sample a point belongs to.
 #include "graphctrl/core/HitTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which sample a point belongs to, and where a group of bars stands.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // SampleStore: memory of the chunks, and the extremes of blocks, halves and chunks.
 #include "graphctrl/core/SampleStore.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // SampleStore: the values of a dataset, with the extremes of ranges of values.
 #pragma once
 

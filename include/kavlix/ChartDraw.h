@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CChartDraw: a chart window that draws datasets of points and exports its picture.
 #pragma once
 

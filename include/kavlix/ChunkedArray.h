@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ChunkedArray: an array in chunks of a fixed size, for samples and labels that arrive one by one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDataset: one series of a graph control, its samples and how they are drawn.
 #pragma once
 

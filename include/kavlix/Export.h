@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // KAVLIX_API: the linkage of every exported declaration, and the checks that a host's settings and headers fit the DLL.
 #pragma once
 

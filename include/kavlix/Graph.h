@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraph: a graph of whole numbers in eleven types, painted and printed on the host's demand.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphCtrl: the graph control over sample indices, and the base of the graph over time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What passes between the controls and their parent windows: messages, codes, commands and records.
 #pragma once
 

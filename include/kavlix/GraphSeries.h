@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGraphSeries: a named series of whole numbers for CGraph.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // All public headers of Kavlix, for hosts that include a single one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // LabelStore: the tick labels of a graph control.
 #pragma once
 

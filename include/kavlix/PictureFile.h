@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Saves pictures as .png, .bmp or .emf files.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPieChartCtrl: a pie chart control, and CPieChartPiece, one piece of its data.
 #pragma once
 

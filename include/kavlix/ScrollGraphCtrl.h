@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CScrollGraphCtrl: the graph over time.
 #pragma once
 

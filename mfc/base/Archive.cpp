@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CArchive: the buffer, numbers and texts. Objects and classes are in ArchiveObjects.cpp.
 
 #include <afxtempl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CArchive: objects and classes.
 
 #include <afxtempl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tables of classes and objects inside an archive.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lower and upper case: ASCII directly, other characters through UTF-16.
 
 #include "mfc/base/CaseFold.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lower and upper case of CString's characters.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The ready-made collections: class information, and collections that cannot be serialised.
 
 #include <afxcoll.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Assertions, checks of memory, traces and CDumpContext.
 
 #include <afx.h>

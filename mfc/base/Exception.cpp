@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The exception classes without data, and CException.
 
 #include <afx.h>

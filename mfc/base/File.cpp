@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFile: files of the system, without a buffer.
 
 #include <afx.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFileException and CArchiveException: messages, and causes of error numbers.
 
 #include <afx.h>

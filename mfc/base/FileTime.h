@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Conversions between FILETIME and seconds since 1970.
 #pragma once
 

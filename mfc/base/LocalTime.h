@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Local time of the system's zone, with the daylight-saving rules of the year.
 #pragma once
 

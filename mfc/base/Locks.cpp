@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CSingleLock and CMultiLock.
 
 #include "afx/Locks.h"

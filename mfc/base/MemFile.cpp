@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMemFile: a file in memory.
 
 #include <afx.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CObject, CRuntimeClass and the list of classes.
 
 #include <afx.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts for callers' buffers and for files.
 #pragma once
 

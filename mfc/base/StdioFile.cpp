@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CStdioFile: a file with the buffer of the C library.
 
 #include <afx.h>

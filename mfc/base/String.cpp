@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CString: construction, assignment, comparison, buffers. StringEdit.cpp and StringFormat.cpp have the rest.
 
 #include <afx.h>

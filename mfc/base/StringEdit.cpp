@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CString: members that search, extract and change.
 
 #include <afxtempl.h>

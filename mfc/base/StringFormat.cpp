@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CString: formats and string resources.
 
 #include <afxtempl.h>

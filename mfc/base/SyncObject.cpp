@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CSyncObject, CSemaphore, CMutex, CEvent and CCriticalSection.
 
 #include "afx/SyncObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CTime and CTimeSpan: conversions and formats.
 
 #include <afx.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CButton.
 
 #include "afx/Controls.h"

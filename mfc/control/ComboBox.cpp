@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CComboBox.
 
 #include "afx/Controls.h"

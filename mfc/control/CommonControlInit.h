@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loading the system's common controls.
 #pragma once
 

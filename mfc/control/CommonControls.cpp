@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CStatusBarCtrl and CProgressCtrl.
 
 #include "afx/CommonControls.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CEdit.
 
 #include "afx/Controls.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CListBox.
 
 #include "afx/Controls.h"

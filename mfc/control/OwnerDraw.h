@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The owner-draw messages of list boxes and combo boxes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CScrollBar.
 
 #include "afx/Controls.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CSliderCtrl and CSpinButtonCtrl.
 
 #include "afx/CommonControls.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CStatic.
 
 #include "afx/Controls.h"

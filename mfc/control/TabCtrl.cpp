@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CTabCtrl.
 
 #include "afx/TabCtrl.h"

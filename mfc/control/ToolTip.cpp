@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CToolTipCtrl.
 
 #include "afx/CommonControls.h"

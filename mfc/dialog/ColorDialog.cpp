@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CColorDialog.
 
 #include <afxdlgs.h>

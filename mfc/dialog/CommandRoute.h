@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a dialog sends the commands that it does not handle.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CCommonDialog, the base of the system's dialogs.
 
 #include <afxdlgs.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDialog.
 
 #include <afxwin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Dialog templates: position and styles, and the list data of RT_DLGINIT resources.
 
 #include "mfc/dialog/DialogTemplate.h"

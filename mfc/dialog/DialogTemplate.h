@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Dialog templates and list data from resources.
 #pragma once
 

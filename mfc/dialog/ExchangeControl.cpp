@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // DDX_ routines for states, selections, positions and control objects.
 
 #include <afxdd_.h>

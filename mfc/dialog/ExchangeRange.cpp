@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // DDV_ routines for ranges.
 
 #include <afxdd_.h>

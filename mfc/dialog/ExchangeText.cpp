@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // DDX_Text for numbers and texts, and DDV_MaxChars.
 
 #include <afxdd_.h>

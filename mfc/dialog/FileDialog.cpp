@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFileDialog.
 
 #include <afxdlgs.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The windows that a modal dialog disables.
 
 #include "mfc/dialog/ModalOwner.h"

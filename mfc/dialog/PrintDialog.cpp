@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPrintDialog.
 
 #include <afxdlgs.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPrintInfo.
 
 #include <afxdlgs.h>

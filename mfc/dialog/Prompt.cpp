@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Messages about wrong input.
 
 #include "mfc/dialog/Prompt.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Messages about wrong input.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPropertyPage.
 
 #include <afxdlgs.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPropertySheet: the system's property sheet in a message loop of this library.
 
 #include <afxdlgs.h>

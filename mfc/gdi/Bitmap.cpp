@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CBitmap.
 
 #include "afx/DC.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC: handles, creation, saved states. The other members are in the other DC*.cpp files.
 
 #include "afx/DC.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC: drawing attributes and clips.
 
 #include "afx/DC.h"

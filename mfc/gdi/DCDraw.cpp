@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC: lines, fills and pictures.
 
 #include "afx/DC.h"

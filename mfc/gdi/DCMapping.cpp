@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC: mapping modes, and conversions between units.
 
 #include "afx/DC.h"

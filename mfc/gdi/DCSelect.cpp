@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC: selected objects and the halftone brush.
 
 #include "afx/DC.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC: text and its measures.
 
 #include "afx/DC.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGdiObject.
 
 #include "afx/GdiObject.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPen, CBrush, CFont and CPalette.
 
 #include "afx/DC.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Handles of objects that may be NULL, calls that may run out of memory, and settings of both DCs of a CDC.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMenu.
 
 #include "afx/Menu.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CRgn.
 
 #include "afx/DC.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Creation and deletion of the handle maps of a thread.
 
 #include "mfc/gdi/ThreadMaps.h"

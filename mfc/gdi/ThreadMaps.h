@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The handle maps of DCs, menus and GDI objects, one set for each thread.
 #pragma once
 

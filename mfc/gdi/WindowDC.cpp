@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPaintDC, CClientDC, CWindowDC and CMetaFileDC.
 
 #include "afx/WindowDC.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Foundation of the class library: diagnostics, CObject, CString, exceptions, files, archives, times, CRect.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The common controls: status bar, progress bar, slider, up-down control, tooltip, tabs.
 #pragma once
 

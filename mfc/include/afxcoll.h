@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The collections of ready-made element types.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Dialog data exchange (DDX_) and validation (DDV_) routines.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What programs with ActiveX controls include. The library has no Automation and no ActiveX controls.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Property sheets, and the system's own dialogs: open and save, colour, font, print.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The status bar, extension DLLs, CPrintInfo and the system's dialogs. Splitters, tool bars and form views do not
 // exist in this library.
 #pragma once

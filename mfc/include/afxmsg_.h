@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Message-map rows for Windows messages and for the notifications of the standard controls.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Objects that synchronise threads, and locks on them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Messages that the framework sends to its own windows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Standard command, control and string IDs.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The collection templates CArray, CList and CMap, and the typed views of pointer collections.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Windows, dialogs, controls, drawing and the application.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // WinMain, the entry point of a program of the class library.
 
 #include <afxwin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWinApp, and the start and end of a program. The profile data are in Profile.cpp, recent files in RecentFiles.cpp.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Starting threads: AfxBeginThread() and CWinThread::CreateThread().
 
 #include "mfc/window/ThreadState.h"

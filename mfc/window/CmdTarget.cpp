@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CCmdTarget: from a command or notification to its handler.
 
 #include "afx/CmdTarget.h"

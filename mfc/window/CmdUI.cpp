@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CCmdUI: updates of menu items and buttons.
 
 #include "afx/CmdTarget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CCommandLineInfo: the conventional flags of a command line.
 
 #include "afx/App.h"

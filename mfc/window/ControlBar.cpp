@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CControlBar, and the layout of bars in a window.
 
 #include "afx/ControlBar.h"

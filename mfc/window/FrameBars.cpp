@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFrameWnd: control bars, and the messages in the status bar.
 
 #include "afx/App.h"

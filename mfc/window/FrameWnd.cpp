@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFrameWnd. What concerns its control bars and messages is in FrameBars.cpp.
 
 #include "mfc/window/ThreadState.h"

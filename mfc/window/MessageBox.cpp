@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Message boxes and texts with inserts.
 
 #include "afx/App.h"

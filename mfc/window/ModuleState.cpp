@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Module states: the program's state, the states of DLLs, and the current state of a thread.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWinApp: profile data in the registry (after SetRegistryKey()) or in an INI file.
 
 #include "afx/App.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CRecentFileList, and CWinApp's list of recent files.
 
 #include "afx/RecentFiles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Extension DLLs, the chain of modules with resources, and window classes.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CStatusBar: panes on the system's status bar control.
 
 #include "afx/StatusBar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWinThread: the message loop, idle work, uncaught exceptions.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The state of each thread.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Per-thread state of the window classes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: state, text, menus and timers, as calls of the Win32 functions.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: commands, notifications, and messages that a parent hands back to a control.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: from the window procedure to the handler of a message.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: related windows, and messages to several windows.
 
 #include "mfc/window/ThreadState.h"

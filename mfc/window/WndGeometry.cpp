@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: position, coordinates and painting.
 
 #include "mfc/window/ThreadState.h"

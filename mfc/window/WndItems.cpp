@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: children by ID, data exchange and updates of buttons.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: creation, subclassing, attaching, destruction.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: translation of queued messages, and modal loops.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd: scroll bars and scrolled contents.
 
 #include "mfc/window/ThreadState.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pairs the values of two series, or of one series with its predecessor or with time.
 
 #include "monitor/recording/ChartPoints.h"

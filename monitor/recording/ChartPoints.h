@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The points of the chart page: one series against another, against its own previous value, or against time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Puts the reports together from the files' summaries.
 
 #include "monitor/recording/CheckReport.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reports on what was read and what was wrong, as text.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scanning for rows, quotes and line ends of comma-separated text.
 
 #include "monitor/recording/CsvReader.h"

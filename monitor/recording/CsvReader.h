@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Splits comma-separated text into rows and cells. What the cells mean is TableReader's concern.
 #pragma once
 

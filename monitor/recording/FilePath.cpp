@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Decodes file names, and lifts the limit of their length on Windows.
 
 #include "monitor/recording/FilePath.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // File names in UTF-8 for the streams of the C++ library.
 #pragma once
 

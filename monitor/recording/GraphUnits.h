@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fixed measures of the graph controls that the Monitor's own arithmetic depends on.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds a series' value in the rows beside a row of another file.
 
 #include "monitor/recording/JoinedSamples.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Values at a row of joined files, whose series have their samples at different times.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Divides differences of counters by the time that passed, and chooses units for the rates.
 
 #include "monitor/recording/MachineRates.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Rates of processor, memory and network, computed from two readings of the machine's counters.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Divides the machine's memory into parts, and writes numbers of bytes.
 
 #include "monitor/recording/MemoryParts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The parts of the machine's memory on the pie page. MachineCounters reads the counters.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keeps and counts messages, and writes them as lines.
 
 #include "monitor/recording/Messages.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Messages about what is wrong with a file, limited in number.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Distances on axes, and the search for the nearest sample or value.
 
 #include "monitor/recording/NearestPoint.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds the sample nearest to the mouse pointer, and the value nearest to a gap.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads and writes numbers; makes text safe for messages and for UTF-8.
 
 #include "monitor/recording/NumberText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Numbers as text and back, independent of the locale; text made safe for messages.
 #pragma once
 

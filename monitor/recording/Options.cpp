@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the command line; the text of --help.
 
 #include "monitor/recording/Options.h"

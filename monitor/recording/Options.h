@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The Monitor's command line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Divides the width of the status bar.
 
 #include "monitor/recording/PaneWidths.h"

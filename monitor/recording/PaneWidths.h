@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the panes of the status bar share its width.
 #pragma once
 

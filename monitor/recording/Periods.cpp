@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Chooses the periods of a recording and computes their statistics.
 
 #include "monitor/recording/Periods.h"

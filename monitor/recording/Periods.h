@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Equal periods of a recording's time, and statistics of the values in each period.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Computes the shares of values in their sum.
 
 #include "monitor/recording/PieShares.h"

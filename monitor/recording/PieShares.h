@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The shares of a pie: how values divide into a whole, and which values cannot be part of one.
 #pragma once
 

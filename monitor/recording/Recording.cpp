@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Questions about a whole recording, and spans of values.
 
 #include "monitor/recording/Recording.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What was read: the times and series of joined files, and a summary of each file.
 #pragma once
 

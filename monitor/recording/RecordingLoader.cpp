@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opens the files one after another, feeds their bytes to a table reader, and joins the tables.
 
 #include "monitor/recording/RecordingLoader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads recordings from files, piece by piece.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Replaces runs of samples by their lowest and highest value, or by their mean.
 
 #include "monitor/recording/Reduction.h"

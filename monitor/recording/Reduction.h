@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reduces a long recording to the samples that are handed to the graph control.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes the time, names and values of a sample.
 
 #include "monitor/recording/SampleText.h"

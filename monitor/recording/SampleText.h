@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text of one sample for the status bar.
 #pragma once
 

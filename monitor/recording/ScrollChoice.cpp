@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which series of a recording share a graph, and how wide the view is.
 
 #include "monitor/recording/ScrollChoice.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the scroll page chooses for a recording: which series share a graph, and the width of the view.
 #pragma once
 

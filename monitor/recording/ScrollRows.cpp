@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lays a recording out over whole seconds.
 
 #include "monitor/recording/ScrollRows.h"

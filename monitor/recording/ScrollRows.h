@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rows of the scrolling graph: one for each second that has samples, and rows without values for gaps.
 #pragma once
 

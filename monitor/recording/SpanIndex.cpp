@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Spans of blocks of 256 values.
 
 #include "monitor/recording/SpanIndex.h"

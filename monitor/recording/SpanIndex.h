@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lowest and highest value of any part of a long series, without looking at every value.
 #pragma once
 

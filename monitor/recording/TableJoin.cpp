@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Joins tables on time and makes the names of their series distinct.
 
 #include "monitor/recording/TableJoin.h"

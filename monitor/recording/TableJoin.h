@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Joins the tables of several files into one recording.
 #pragma once
 

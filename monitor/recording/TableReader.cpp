@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads header and rows of a file, and describes every fault in a message.
 
 #include "monitor/recording/TableReader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes a table of times and numbers from the rows of one file.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds the characters of UTF-8 text.
 
 #include "monitor/recording/TextCut.h"

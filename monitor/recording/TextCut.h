@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shortens UTF-8 text until it fits.
 #pragma once
 

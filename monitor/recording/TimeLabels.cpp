@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Chooses form and precision of the time labels, and writes them.
 
 #include "monitor/recording/TimeLabels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The labels of the graph page's time axis.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The calendar, and reading and writing of times.
 
 #include "monitor/recording/TimeText.h"

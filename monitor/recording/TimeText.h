@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Times: the calendar, times as text, and text as times.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Chooses a range with round ticks that covers the values.
 
 #include "monitor/recording/ValueScale.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The range and the labels of a value axis.
 #pragma once
 

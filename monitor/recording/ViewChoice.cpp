@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Chooses ranges, labels and the visible part for each style of the graph page.
 
 #include "monitor/recording/ViewChoice.h"

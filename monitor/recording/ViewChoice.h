@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the graph page chooses for a recording: ranges, labels, and the visible part.
 #pragma once
 

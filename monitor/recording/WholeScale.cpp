@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Chooses a power of ten and an axis for values that must become whole numbers.
 
 #include "monitor/recording/WholeScale.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Turns numbers into whole numbers for the multi-type graph, which draws integers only.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The geometry that decides whether leader lines can be told apart.
 #include "piechart/core/LeaderGeometry.h"
 

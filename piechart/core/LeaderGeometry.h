@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Distances between leader lines, and between a leader line and a point.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Contrast by relative luminance, similarity by channel differences.
 #include "piechart/core/PieColors.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Contrast and similarity of colours. Colours are 0x00BBGGRR.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Angles, sectors and points of a pie.
 #include "piechart/core/PieGeometry.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the pieces of a pie are. Angles are degrees, clockwise from twelve o'clock; positions are pixels.
 #pragma once
 

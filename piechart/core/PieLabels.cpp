@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts inside sectors, and the choice of what goes beside the pie.
 #include "piechart/core/PieLabels.h"
 

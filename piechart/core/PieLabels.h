@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the texts of a pie stand: each inside its sector or beside the pie. No texts overlap.
 #pragma once
 

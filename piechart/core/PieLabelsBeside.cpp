@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text blocks beside the pie: where each stands, and its leader line to the sector.
 #include "piechart/core/PieLabelsBeside.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Placement of the texts that do not fit into their sectors: two columns beside the pie, with leader lines.
 #pragma once
 

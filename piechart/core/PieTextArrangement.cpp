@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The choice between the arrangements of a piece's texts, from the most complete one down.
 #include "piechart/core/PieTextArrangement.h"
 

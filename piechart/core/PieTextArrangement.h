@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the label and the percentage of one piece share a box of given width.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts of local times.
 #include "scrollgraph/core/LocalClock.h"
 

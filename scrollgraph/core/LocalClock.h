@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Local times and their texts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // StampStore: chunks of time stamps, and their change from one byte a stamp to four.
 #include "scrollgraph/core/StampStore.h"
 

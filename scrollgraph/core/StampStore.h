@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Compact storage for the time stamps of a history.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TimeLine: 32-bit x units, binary searches and runs of ascending time.
 #include "scrollgraph/core/TimeLine.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The time stamps of a scrolling graph, and searches among them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TimeMap: positions and the nearest sample.
 #include "scrollgraph/core/TimeMap.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Converts time stamps to positions in the plot, and finds the sample nearest to a position.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TimeTicks: round steps in local time, and the choice of ticks with labels.
 #include "scrollgraph/core/TimeTicks.h"
 

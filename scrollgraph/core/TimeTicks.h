@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tick steps, ticks and labels of the time axis.
 #pragma once
 

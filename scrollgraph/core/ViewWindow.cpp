@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ViewWindow: hosts rely on the order of its comparisons.
 #include "scrollgraph/core/ViewWindow.h"
 

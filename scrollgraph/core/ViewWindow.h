@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The view of a scrolling graph: following, scrolling, and the state of the scroll bar.
 #pragma once
 

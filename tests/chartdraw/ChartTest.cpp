@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files and handles, as the chart's tests ask for them.
 #include "tests/chartdraw/ChartTest.h"
 

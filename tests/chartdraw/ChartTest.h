@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fixture of the chart's tests: a chart in a visible parent.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Data, scales and invalidation of a chart.
 #include "tests/chartdraw/ChartTest.h"
 

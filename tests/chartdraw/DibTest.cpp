@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Packed DIB blocks and bitmap files, byte by byte.
 #include "tests/chartdraw/ChartTest.h"
 

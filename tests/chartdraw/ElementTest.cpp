@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The elements of a chart and their texts, also long ones and in small windows.
 #include "tests/chartdraw/ChartTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pictures on the clipboard and in files, and what becomes of every failure.
 #include "tests/chartdraw/ChartTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every operation of the chart when each of its allocations fails.
 
 #include "tests/chartdraw/ChartTest.h"

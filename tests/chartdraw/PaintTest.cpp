@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pictures of a chart: order, random data against a plain walk, markers.
 #include "tests/chartdraw/ChartTest.h"
 #include "tests/support/SeenUnderWine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files for another program, which compares their pixels with those that were drawn.
 #include "tests/chartdraw/ChartTest.h"
 

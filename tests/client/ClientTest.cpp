@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The thermostat program as its user meets it: menu, accelerators, dialog, start and end.
 #include "stdafx.h"
 

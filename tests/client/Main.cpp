@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Starts the class library and the tests of a client program.
 #include <afxwin.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The thermostat program's classes.
 #include "stdafx.h"
 #include "Thermostat.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small program in the ordinary style of the class library: application, frame and dialog.
 #if !defined(AFX_THERMOSTAT_H__INCLUDED_)
 #define AFX_THERMOSTAT_H__INCLUDED_

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The user of the client programs, and the running program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Resource and command IDs of the thermostat program.
 #define IDR_MAINFRAME                   128
 #define IDD_SETTINGS                    129

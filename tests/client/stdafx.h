@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Precompiled header of the thermostat program.
 #if !defined(AFX_STDAFX_H__THERMOSTAT__INCLUDED_)
 #define AFX_STDAFX_H__THERMOSTAT__INCLUDED_

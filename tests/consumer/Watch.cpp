@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // watch: starts a program, looks at its window from outside, and ends it. It uses nothing but Windows.
 //
 //   watch PICTURE.bmp RRGGBB... PROGRAM   waits until each colour is seen across the program's window, saves the window's

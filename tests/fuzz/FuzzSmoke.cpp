@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Calls the fuzz target with random recordings where there is no libFuzzer.
 //
 // The first argument is the number of recordings, by default 20,000. They are the same in every run.

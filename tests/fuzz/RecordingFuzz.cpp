@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fuzz target: feeds arbitrary bytes to all readers of recordings and checks what must hold for any input.
 
 #include <algorithm>

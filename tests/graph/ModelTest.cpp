@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Settings, lists and ownership, and the rule that operations happen whole or not at all.
 #include "tests/graph/MultiGraphTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tests of CGraph share: a graph in a window, and its drawings.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plain painter's axes: walls, grid, ticks, numbers, labels and captions.
 #pragma once
 

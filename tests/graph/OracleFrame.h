@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plain painter's frame: background, title, legend, and where plot, axes and series stand.
 #pragma once
 

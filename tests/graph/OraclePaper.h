@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plain painter's paper: the facts of a graph, and the records of what is drawn. The painter is slow and
 // plain: OracleFrame.h, OracleAxes.h and OracleSeries.h each add a layer.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plain painter's series: bars, lines, points and boxes. Pies and ribbons have tests of their own.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random graphs, compared with the plain painter of OracleSeries.h.
 #include "tests/graph/OracleSeries.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Printing against the picture on the screen.
 #include "tests/graph/MultiGraphTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Extreme settings, sizes and numbers of series, and device contexts of all kinds.
 #include "tests/graph/MultiGraphTest.h"
 

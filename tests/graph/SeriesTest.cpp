@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The series that the plain painter leaves out: pies and ribbons.
 #include "tests/graph/MultiGraphTest.h"
 

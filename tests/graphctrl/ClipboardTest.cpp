@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What programs find on the clipboard after a copy.
 
 #include "tests/graphctrl/GraphTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Samples, tick labels and the selection mark under random calls, against vectors.
 
 #include "tests/graphctrl/GraphTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tests of the graph control share.
 
 #include "tests/graphctrl/GraphTest.h"

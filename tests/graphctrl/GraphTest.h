@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fixture of the graph control, and its default look.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The maximize icon: pressed, left, entered again, released, and the mouse lost in between.
 
 #include "tests/graphctrl/InputTest.h"

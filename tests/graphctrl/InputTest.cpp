@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Notes what the control does with input.
 
 #include "tests/graphctrl/InputTest.h"

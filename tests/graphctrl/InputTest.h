@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The harness of tests of mouse, keyboard and menu: all traffic in order.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keys, what a dialog is told about them, and a control that has no parent.
 
 #include "tests/graphctrl/InputTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The labels' array against the class library's own.
 
 #include "tests/support/AllocationGuard.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The control when memory runs out or the system's calls fail.
 
 #include "tests/graphctrl/GraphTest.h"

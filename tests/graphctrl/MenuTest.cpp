@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The context menu, by mouse and by keyboard, and the commands behind it.
 
 #include "tests/graphctrl/InputTest.h"

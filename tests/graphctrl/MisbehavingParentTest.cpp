@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A parent that destroys or changes the control while the control waits for it.
 
 #include "tests/support/MisbehavingParent.h"

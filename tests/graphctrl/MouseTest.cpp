@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a click, a key or a command leaves before the host hears of it, and mouse moves.
 
 #include "tests/graphctrl/InputTest.h"

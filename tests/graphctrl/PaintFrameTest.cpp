@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How pictures reach the screen: off-screen, in parts, without a bitmap.
 
 #include "tests/graphctrl/GraphTest.h"

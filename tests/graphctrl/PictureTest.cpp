@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pictures, layout and hits of random controls, compared with the literal painter's.
 
 #include "tests/graphctrl/InputTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The literal painter: one function for each part of the picture.
 
 #include "tests/graphctrl/PlainGraph.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A literal painter and hit test of the graph control. Tests compare the control with it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Defaults, and what each setter changes.
 
 #include "tests/graphctrl/GraphTest.h"

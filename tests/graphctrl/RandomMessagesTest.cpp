@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Many messages of all kinds in any order.
 
 #include "tests/graphctrl/GraphTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Properties and texts of any size.
 
 #include "tests/graphctrl/GraphTest.h"

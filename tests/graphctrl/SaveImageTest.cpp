@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The saved picture. Formats and failures are tested with the chart, which shares the code.
 
 #include "tests/graphctrl/GraphTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The helpers themselves: a check that cannot see a planted fault would prove nothing elsewhere.
 
 #include "tests/support/AllocationGuard.h"

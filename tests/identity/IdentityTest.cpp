@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Compares the pictures of all painting shortcuts with those of a plain walk over every sample, in random
 // views.
 #include "tests/identity/PlainWalk.h"

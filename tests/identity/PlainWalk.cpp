@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which samples of a graph are drawn, and where.
 #include "tests/identity/PlainWalk.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reference picture of a graph's lines, drawn without any shortcut.
 #pragma once
 

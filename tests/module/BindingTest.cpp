@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // DDX_GraphControl: dialog items of many window classes become the control.
 #include "tests/module/GraphDialog.h"
 #include "tests/support/DibSurface.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The control among other items of a dialog, used with the keyboard only.
 #include "tests/module/GraphDialog.h"
 #include "tests/support/RecordingParent.h"

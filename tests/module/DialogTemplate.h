@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Dialog templates without resource scripts.
 #pragma once
 

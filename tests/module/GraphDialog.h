@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A dialog with a graph control among its items, and what both test files of dialogs share.
 #pragma once
 

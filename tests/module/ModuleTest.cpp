@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Kavlix.dll as a module: texts and numbers that hosts know.
 #include "tests/module/GraphDialog.h"
 #include "tests/support/MessageBoxWatcher.h"

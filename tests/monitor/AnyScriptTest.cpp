@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Paths and texts of several scripts in the main window, its pages and its dialogs.
 
 #include <dlgs.h>

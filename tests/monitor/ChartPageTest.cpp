@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The chart page: choices, mark, pointer and texts.
 
 #include <afxres.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A fixture with the main window on one of its pages.
 #pragma once
 

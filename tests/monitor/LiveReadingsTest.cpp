@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Rates from the system's counters, and the live readings made of them.
 
 #include <gtest/gtest.h>

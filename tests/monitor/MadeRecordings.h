@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Recordings made in memory for tests of the graph and the settings dialog.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Mouse, keyboard and commands in the main window, on the graph page.
 
 #include <afxres.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the Monitor's graph chooses from its data and the size of its window.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The multi page: the contents of its graph for each type, copy and print.
 
 #include <afxres.h>

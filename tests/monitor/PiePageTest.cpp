@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The pie page: its sample, its selection and its copy.
 
 #include <afxres.h>

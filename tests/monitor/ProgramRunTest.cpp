@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs of KavlixMonitor.exe: output, exit status and saved pictures.
 
 #include <afxwin.h>

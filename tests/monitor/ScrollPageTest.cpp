@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scroll page: what moves together, what stays, and the texts.
 
 #include <afxres.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings dialog: its controls change the preview and the settings that the caller takes.
 
 #include <gtest/gtest.h>

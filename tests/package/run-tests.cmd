@@ -1,3 +1,4 @@
+@rem SPDX-License-Identifier: MIT
 @echo off
 rem Runs the test programs in the folder "programs" and writes report.txt beside this file.
 rem usage: run-tests.cmd [PROGRAM...]      without a name all programs run

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Clicks at the edges of pieces, the search, and parents that act during the notification.
 #include "tests/piechart/PieTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Creation and data of the control, and every operation when memory runs out.
 #include "tests/piechart/PieTest.h"
 #include "tests/support/MemoryRule.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts, messages, destinations and failures of painting. RandomTest compares the pixels of the sectors.
 #include "tests/piechart/PieTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fixture of the pie's tests: a control in a visible parent.
 #pragma once
 

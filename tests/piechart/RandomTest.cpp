@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random pies against a literal painter: the piece that each pixel shows, and the piece that a click selects.
 #include "tests/piechart/PieTest.h"
 

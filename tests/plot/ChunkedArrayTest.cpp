@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ChunkedArray against a deque.
 #include "kavlix/ChunkedArray.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The indices to draw against the segments that touch the window.
 #include "plot/IndexRange.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // LinearMap, and the conversions from double to int.
 #include "plot/LinearMap.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pixel columns against a walk over every sample.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // PixelRaster, ThinLine and CutStroke against walks over single pixels.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pixel rows against the exact positions.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Round scales: ticks and labels of chosen and of fixed ranges.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // SeriesReduction against the whole line.
 #include "plot/SeriesReduction.h"
 

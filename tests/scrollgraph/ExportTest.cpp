@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu's export entry and what it sends.
 
 #include "tests/scrollgraph/FixedZone.h"

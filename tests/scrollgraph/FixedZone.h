@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lets the controls live in a time zone that a test chooses.
 #pragma once
 

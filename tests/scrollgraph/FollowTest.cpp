@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What samples and the host's calls do to the view.
 
 #include "tests/scrollgraph/ScrollTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scrolling graph beside a plain model: random feeding, scrolling and sizes; view, scroll bar, notifications, drawn
 // samples, hits and the whole time axis are compared. tests/identity compares the pixels of the lines.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scroll bar: where it lies and what it is told.
 
 #include "tests/scrollgraph/ScrollTest.h"

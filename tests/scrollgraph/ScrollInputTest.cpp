@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scroll bar and wheel, with everything they cause.
 
 #include "tests/scrollgraph/ScrollTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Odd views, odd times, lost memory, and parents that do what they should not.
 
 #include "tests/scrollgraph/ScrollTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fixture of the scrolling graph's tests.
 #include "tests/scrollgraph/ScrollTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The time axis, in UTC whatever the machine's zone is.
 
 #include "tests/scrollgraph/FixedZone.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is drawn of the samples, and which one a point means.
 
 #include "tests/scrollgraph/ScrollTest.h"

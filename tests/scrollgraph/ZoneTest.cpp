@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Labels in the zones of real places, written by hand from the places' own rules. In a process whose
 // environment names the place (TZ; CTest starts some) Wine tells the zone's rules by itself, as the system does
 // for users there; elsewhere they are asked of the system by the zone's name.

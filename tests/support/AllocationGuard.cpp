@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The replacements of malloc, calloc, realloc and free.
 #include "tests/support/AllocationGuard.h"
 

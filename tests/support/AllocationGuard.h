@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Memory of the code under test: failing allocations, leaks, and writes behind a block.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pixels of memory pictures: reading, counting and comparing them.
 #include "tests/support/DibSurface.h"
 

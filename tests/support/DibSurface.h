@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pictures in memory whose pixels tests read and compare.
 #pragma once
 

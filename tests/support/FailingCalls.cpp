@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes a small machine-code function for each import, which either fails or calls the original.
 #include "tests/support/FailingCalls.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lets calls into the system's libraries fail inside the DLLs under test.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The exception handler that counts accesses.
 #include "tests/support/ForbiddenPages.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Detects accesses to objects after their deletion.
 #pragma once
 

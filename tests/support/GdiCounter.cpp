@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the process's table of GDI objects, and enumerates its windows and menus.
 #include "tests/support/GdiCounter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Counts the system objects of this process, to find leaks.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How notifications, menus and rectangles read as text.
 
 #include "tests/support/GraphFixture.h"

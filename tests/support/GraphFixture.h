@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The fixture that the tests of both graph controls share.
 #pragma once
 

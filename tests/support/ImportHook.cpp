@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Walks the import tables of loaded modules.
 #include "tests/support/ImportHook.h"
 

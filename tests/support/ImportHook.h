@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Replaces imported functions of a loaded module.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs the operations of a table with failing allocations, and checks each outcome.
 #include "tests/support/MemoryRule.h"
 

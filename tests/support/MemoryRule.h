@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rule for operations that run out of memory, checked at each of their allocations.
 #pragma once
 

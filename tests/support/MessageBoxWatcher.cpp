@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The hook that finds message boxes, reads their texts and ends them.
 #include "tests/support/MessageBoxWatcher.h"
 

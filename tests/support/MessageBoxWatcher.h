@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Answers the message boxes of the code under test.
 #pragma once
 

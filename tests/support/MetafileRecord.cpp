@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text form of one metafile record.
 #include "tests/support/MetafileRecorder.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the records of a metafile, and keeps track of the DC's state and of the objects in use.
 #include "tests/support/MetafileRecorder.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Records what the code under test draws, as text lines that tests compare.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A parent that destroys or changes a graph control while the control waits for it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random numbers for tests.
 #pragma once
 

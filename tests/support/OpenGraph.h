@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A graph control with everything protected open, and its virtual calls noted.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The line walk, the shapes of markers, and the selection mark.
 
 #include "tests/support/PlainLines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws the line of a dataset sample by sample, with markers and the selection mark. The pictures of the graph
 // controls are compared with it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Mouse input through SetCursorPos and SendInput.
 #include "tests/support/Pointer.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The real mouse pointer, moved and pressed through the system's input.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the parent window records, and the message pump of the tests.
 #include "tests/support/RecordingParent.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A parent window that records the messages of the controls under test.
 #pragma once
 

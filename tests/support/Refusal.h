@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What tests of errors share: refused arguments and thrown exceptions.
 #pragma once
 

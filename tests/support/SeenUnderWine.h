@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Expectations that rest on what only Wine was seen to do.
 #pragma once
 

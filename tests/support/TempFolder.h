@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A folder for the files of one test.
 #pragma once
 

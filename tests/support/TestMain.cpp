@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main function of the test programs that use windows.
 #include <afxwin.h>
 

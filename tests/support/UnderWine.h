@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whether the tests run under Wine, and notes of what differs elsewhere.
 #pragma once
 

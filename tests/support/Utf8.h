@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts of the class library as std::string.
 #pragma once
 

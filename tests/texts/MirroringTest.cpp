@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Charts in mirrored windows: the picture and the mouse positions are those of an unmirrored window.
 #include <kavlix/Kavlix.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts of several scripts in the controls' pictures and file names: nothing is lost and no character is cut.
 #include <kavlix/Kavlix.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWinApp, the application object, and CCommandLineInfo.
 #pragma once
 

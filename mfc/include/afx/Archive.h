@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CArchive: objects and values stored in a file or loaded from a file.
 #pragma once
 

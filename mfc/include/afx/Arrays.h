@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The arrays with a fixed element type. They have the members of CArray.
 #pragma once
 

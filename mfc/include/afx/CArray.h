@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CArray, an array that grows as needed.
 #pragma once
 

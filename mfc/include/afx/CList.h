@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CList, a doubly linked list.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMap, a hash table of keys and values.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CCmdTarget, the base of all classes with message maps, and CCmdUI, which updates menu items and buttons.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The classes of the common controls.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The file, colour and font dialogs of the system.
 #pragma once
 

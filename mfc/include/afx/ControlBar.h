@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CControlBar, a bar at an edge of a frame window.
 #pragma once
 

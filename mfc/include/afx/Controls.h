@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The classes of the system's controls: static, button, edit, scroll bar.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC, a device context.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDataExchange, the state of one exchange between members and controls.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Assertions, traces, checks of memory, and CDumpContext.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDialog, a dialog box made from a template.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The exception classes, the functions that throw them, and the macros of older programs.
 #pragma once
 

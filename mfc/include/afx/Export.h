@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Import and export of the library's symbols.
 #pragma once
 

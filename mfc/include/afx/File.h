@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFile, CStdioFile and CMemFile.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFrameWnd, a top-level window with title, menu and accelerators.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGdiObject and the classes of pens, brushes, fonts, bitmaps, palettes and regions.
 #pragma once
 

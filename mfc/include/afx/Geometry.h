@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CSize, CPoint and CRect.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // HandleMap: from a system handle to the object that wraps it.
 #pragma once
 

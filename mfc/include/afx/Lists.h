@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The lists with a fixed element type. They have the members of CList.
 #pragma once
 

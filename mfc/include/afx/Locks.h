@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CSingleLock and CMultiLock: locks that end with a scope.
 #pragma once
 

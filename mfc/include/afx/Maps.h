@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The maps with fixed types. They have the members of CMap and the types that CTypedPtrMap needs.
 #pragma once
 

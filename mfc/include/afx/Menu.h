@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMenu, a menu and the handle that it owns.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The handler of a message-map row: its type, and how a message's parameters become its arguments.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Message maps: constant tables from messages, commands and notifications to member functions.
 #pragma once
 

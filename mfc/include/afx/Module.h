@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Modules: program and DLLs, the chain of modules with resources, window classes, message boxes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CObject and run-time class information.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPrintDialog, the print dialogs of the system.
 #pragma once
 

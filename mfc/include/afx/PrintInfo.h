@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPrintInfo, the data of a print job.
 #pragma once
 

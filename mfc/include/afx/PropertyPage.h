@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPropertyPage, a page of a property sheet or wizard.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPropertySheet, a dialog of several pages, and wizards.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CRecentFileList, the files that the user opened last.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CStatusBar, the status bar of a frame window.
 #pragma once
 

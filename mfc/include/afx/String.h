@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CString, text in the code page of the process or, with UNICODE, in UTF-16.
 #pragma once
 

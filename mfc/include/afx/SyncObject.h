@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CSyncObject and the objects that synchronise threads: critical section, event, mutex, semaphore.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CTabCtrl, the system's tab control.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Helpers of the collection templates: positions, element functions, raw memory.
 #pragma once
 

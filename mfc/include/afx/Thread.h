@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWinThread, a thread with a message loop or a worker thread.
 #pragma once
 

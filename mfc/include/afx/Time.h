@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CTime, a point in time, and CTimeSpan, a number of seconds.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Typed views of pointer collections.
 #pragma once
 

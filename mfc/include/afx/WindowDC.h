@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The DCs of windows and of metafiles.
 #pragma once
 

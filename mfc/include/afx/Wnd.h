@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWnd, a window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the strokes of a chart line cross the view when their ends are far away.
 #include "chartdraw/core/ChartLine.h"
 

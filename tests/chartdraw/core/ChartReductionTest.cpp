@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reduced lines against plain walks over all points.
 #include "chartdraw/core/ChartReduction.h"
 #include "chartdraw/core/RasterPath.h"

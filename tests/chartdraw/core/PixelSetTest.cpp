@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sets of pixels against std::set.
 #include "chartdraw/core/PixelSet.h"
 

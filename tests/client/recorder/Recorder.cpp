@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The recorder's application, frame and dialogs.
 #include "stdafx.h"
 #include "Recorder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A data recorder in the ordinary style of the class library: frame with status bar and recent files, settings and
 // set-up in property sheets, threads that record.
 #if !defined(AFX_RECORDER_H__INCLUDED_)

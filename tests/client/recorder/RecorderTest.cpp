@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The recorder program as its user meets it: status bar, recent files, settings, set-up, recording.
 #include "stdafx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The recorder's threads. Compiled as in a release: there ENSURE throws and does not stop the program.
 #undef _DEBUG
 #include "stdafx.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Resource and command IDs of the recorder program.
 #define IDR_MAINFRAME                   128
 #define IDD_RATE                        130

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Precompiled header of the recorder program.
 #if !defined(AFX_STDAFX_H__RECORDER__INCLUDED_)
 #define AFX_STDAFX_H__RECORDER__INCLUDED_

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shapes that the painters share: pies, solids.
 #include <gtest/gtest.h>
 

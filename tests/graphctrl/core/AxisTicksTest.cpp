@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts of value ticks, and which points of a crowded axis get a tick.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Smallest sides, and sizes of any magnitude.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Nearest samples and groups of bars against walks over every sample.
 
 #include <gtest/gtest.h>

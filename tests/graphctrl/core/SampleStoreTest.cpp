@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The store of samples against a vector.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What CArchive stores and loads again: values, texts, objects with their identity, and bytes it refuses.
 
 #include <afxtempl.h>

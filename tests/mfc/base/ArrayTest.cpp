@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CArray and the arrays made of it: random calls against std::vector, and memory that runs out.
 
 #include <afxtempl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // String resources of the base tests.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CList, CMap and the collections made of them.
 
 #include <afxtempl.h>

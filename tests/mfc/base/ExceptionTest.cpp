@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Exceptions across the border of the DLL, the macros of old programs, and the texts for users.
 
 #include <afxtempl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFile, CStdioFile and CMemFile: random calls against a text, names, modes and sharing.
 
 #include <afx.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPoint, CSize and CRect: the arithmetic of their members and operators.
 
 #include <afx.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Run-time class information and assertions.
 
 #include <afx.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CString's formats and string resources.
 
 #include <afxwin.h>

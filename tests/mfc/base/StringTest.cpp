@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CString without its formats: random calls against std::string, and what such a model cannot show.
 
 #include <afx.h>

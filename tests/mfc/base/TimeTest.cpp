@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CTime and CTimeSpan: local time by the rules of a zone and year, formats, other forms of dates.
 
 #include <afxwin.h>

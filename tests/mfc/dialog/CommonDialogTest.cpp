@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The system's file, colour and font dialogs. A user presses a button in each at once. How they take that
 // was only seen under Wine.
 

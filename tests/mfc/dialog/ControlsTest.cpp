@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The control classes: what they do beyond sending the message of a member's name.
 
 #include <afxcmn.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Data exchange between members and controls: the DDX_ and DDV_ routines, and what the user is shown.
 
 #include <afxcmn.h>

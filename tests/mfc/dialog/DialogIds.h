@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // IDs of the dialogs of these tests, for the sources and the resource script.
 #pragma once
 

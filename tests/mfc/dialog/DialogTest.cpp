@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDialog: modal and modeless life, owners, keys, places, lists from resources, and a template in memory.
 
 #include <afxwin.h>

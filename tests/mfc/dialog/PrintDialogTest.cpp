@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CPrintDialog and CPrintInfo: what they answer from the record of the system's dialog.
 
 #include <afxdlgs.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CDC: selected objects, output and attributes in two DCs, mapping, clips and fills.
 
 #include <afxwin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CGdiObject and its classes: ownership, wrappers of handles, threads, fonts measured in points.
 
 #include <afxwin.h>

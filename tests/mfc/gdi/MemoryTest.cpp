@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Handles when memory runs out: none is lost, none stays selected or taken.
 
 #include "tests/support/AllocationGuard.h"

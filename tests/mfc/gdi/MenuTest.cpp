@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMenu: ownership of handles, texts of any length, and popups that are removed or deleted.
 
 #include <afxwin.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CMetaFileDC: recording, playing back, and answers from an attribute DC.
 
 #include <afxwin.h>

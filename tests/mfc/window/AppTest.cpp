@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CWinApp: profile data, command line, names, message boxes, the hourglass.
 
 #include <gtest/gtest.h>

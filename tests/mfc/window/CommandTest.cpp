@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Commands and notifications: by ID, range and code, reflected to the control, passed to the parent.
 
 #include <gtest/gtest.h>

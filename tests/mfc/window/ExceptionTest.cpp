@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Exceptions that leave message handlers.
 
 #include <gtest/gtest.h>

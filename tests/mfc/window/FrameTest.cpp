@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // CFrameWnd: menus brought up to date, command routing, the pane.
 
 #include <gtest/gtest.h>

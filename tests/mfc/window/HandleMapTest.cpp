@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Temporary window objects: when they are shared, replaced and deleted.
 
 #include <gtest/gtest.h>

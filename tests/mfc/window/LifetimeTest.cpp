@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How a window and its object begin and end together, in each order and after each failure.
 
 #include <gtest/gtest.h>

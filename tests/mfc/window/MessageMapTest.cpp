@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Message maps: parameters taken apart for each kind of handler, inheritance, registered messages.
 
 #include <gtest/gtest.h>

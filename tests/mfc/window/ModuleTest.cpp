@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The chain of modules that resources are found in, module states, window classes, texts with inserts.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Subclassed windows: the former procedure, its restoration, and subclassing by others on top.
 
 #include <gtest/gtest.h>

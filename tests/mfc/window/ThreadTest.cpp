@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Message loops: idle work, modal loops, and threads with windows of their own.
 
 #include <afxpriv.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What CWnd adds to the Win32 functions of its members' names.
 
 #include <gtest/gtest.h>

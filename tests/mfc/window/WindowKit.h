@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Windows, logs and an application for the tests of windows.
 #pragma once
 

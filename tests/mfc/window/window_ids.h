@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Resource and command IDs of the window tests.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The points of one series against another, in single and in joined files.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Rows, cells, places and faults of comma-separated text, whatever the pieces it is fed in.
 
 #include <gtest/gtest.h>

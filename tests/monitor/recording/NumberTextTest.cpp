@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading and writing numbers, and texts for messages.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Periods, their statistics, and the scale of whole numbers.
 
 #include <gtest/gtest.h>

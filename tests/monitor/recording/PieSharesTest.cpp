@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shares of a whole, values at a row of joined files, and parts of the memory.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading and joining files, progress and cancelling, and the reports.
 
 #include <gtest/gtest.h>

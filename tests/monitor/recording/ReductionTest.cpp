@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What of a long recording reaches the graph, compared with a literal reduction of random recordings.
 
 #include <gtest/gtest.h>

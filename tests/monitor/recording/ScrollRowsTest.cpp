@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Recordings as rows of whole seconds, and the choices of the scroll page.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts and panes of the status bar, and the sample under the pointer.
 
 #include <gtest/gtest.h>

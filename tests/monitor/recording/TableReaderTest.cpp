@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rows of one file: what is kept, and the message for every fault.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading and writing times, and the calendar.
 
 #include <gtest/gtest.h>

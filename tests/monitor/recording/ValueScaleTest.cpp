@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ranges and labels of value axes.
 
 #include <gtest/gtest.h>

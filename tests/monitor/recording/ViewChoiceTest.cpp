@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Time labels, and the view of the graph page.
 
 #include <gtest/gtest.h>

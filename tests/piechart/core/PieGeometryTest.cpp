@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Angles, points and sectors against formulas and a plain sum.
 #include <gtest/gtest.h>
 

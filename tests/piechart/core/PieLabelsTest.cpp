@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Layouts of labels: what must hold of each, and how many texts must find room.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // StampStore beside a vector.
 #include "scrollgraph/core/StampStore.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Time stamps, searches among them and positions.
 #include "scrollgraph/core/TimeLine.h"
 

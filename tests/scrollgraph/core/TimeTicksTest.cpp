@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Labels of the time axis in zones with changes of the clock.
 #include "scrollgraph/core/TimeTicks.h"
 

@@ -2,6 +2,8 @@
 // Texts, which GDI gets in UTF-16.
 #include "gdi/Text.h"
 
+#include <kavlix/Characters.h>
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -49,30 +51,13 @@ CodePoint FirstCodePoint(const char* text, int length) {
 }
 #endif
 
-constexpr char32_t kZeroWidthJoiner = 0x200D;
-
-/// Whether a code point belongs to the character before it.
-bool IsMark(char32_t value) {
-    if (value < 0x80)
-        return false;
-    if (value == kZeroWidthJoiner || (value >= 0xFE00 && value <= 0xFE0F) || // variation selectors
-        (value >= 0x1F3FB && value <= 0x1F3FF) ||                            // skin tones
-        (value >= 0xE0100 && value <= 0xE01EF))                              // more variation selectors
-        return true;
-    const wchar_t unit = static_cast<wchar_t>(value);
-    WORD type = 0;
-    // Windows reports C3_NONSPACING for letters with a built-in accent too, but then together with C3_ALPHA.
-    return value <= 0xFFFF && ::GetStringTypeW(CT_CTYPE3, &unit, 1, &type) &&
-           (type & (C3_NONSPACING | C3_ALPHA)) == C3_NONSPACING;
-}
-
 /// Length of the first character of `text`.
 template <class Char> int FirstCharacter(const Char* text, int length) {
     CodePoint last = FirstCodePoint(text, length);
     int end = last.length;
     while (end < length) {
         const CodePoint next = FirstCodePoint(text + end, length - end);
-        if (!IsMark(next.value) && last.value != kZeroWidthJoiner)
+        if (!ContinuesCharacter(last.value, next.value))
             break;
         end += next.length;
         last = next;

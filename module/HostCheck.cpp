@@ -12,14 +12,19 @@ struct ClassSize {
     unsigned int size;
 };
 
-#define CLASS_SIZE(class_name)                                                                               \
-    { #class_name, static_cast < unsigned int>(sizeof(class_name)) }
-
 constexpr ClassSize kClasses[] = {
-    CLASS_SIZE(CChartDraw),     CLASS_SIZE(CDataset),         CLASS_SIZE(CGraph),
-    CLASS_SIZE(CGraphCtrl),     CLASS_SIZE(CGraphLegendList), CLASS_SIZE(CGraphLegendText),
-    CLASS_SIZE(CGraphSeries),   CLASS_SIZE(CGraphValue),      CLASS_SIZE(CPieChartCtrl),
-    CLASS_SIZE(CPieChartPiece), CLASS_SIZE(CScrollGraphCtrl)};
+    {"CChartDraw", sizeof(CChartDraw)},
+    {"CDataset", sizeof(CDataset)},
+    {"CGraph", sizeof(CGraph)},
+    {"CGraphCtrl", sizeof(CGraphCtrl)},
+    {"CGraphLegendList", sizeof(CGraphLegendList)},
+    {"CGraphLegendText", sizeof(CGraphLegendText)},
+    {"CGraphSeries", sizeof(CGraphSeries)},
+    {"CGraphValue", sizeof(CGraphValue)},
+    {"CPieChartCtrl", sizeof(CPieChartCtrl)},
+    {"CPieChartPiece", sizeof(CPieChartPiece)},
+    {"CScrollGraphCtrl", sizeof(CScrollGraphCtrl)},
+};
 
 /// The size of a class in this DLL. 0 for a class that only newer headers have.
 unsigned int SizeInDll(const char* name) {
@@ -47,8 +52,7 @@ HMODULE ThisDll() {
 } // namespace
 
 bool KavlixCheckHost(const char* pszClass, unsigned int nSize, unsigned int nVersion) {
-    constexpr unsigned int kPatches =
-        100; // KAVLIX_VERSION without its last number, which stands for corrections
+    constexpr unsigned int kPatches = 100; // versions that differ by corrections only
     const unsigned int size = SizeInDll(pszClass);
     const bool fits = nVersion / (100 * kPatches) == KAVLIX_VERSION_MAJOR &&
                       nVersion / kPatches <= KAVLIX_VERSION / kPatches && nSize == size;

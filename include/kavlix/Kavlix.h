@@ -2,6 +2,7 @@
 // All public headers of Kavlix, for hosts that include a single one.
 #pragma once
 
+#include <kavlix/Characters.h>
 #include <kavlix/ChartDraw.h>
 #include <kavlix/Dataset.h>
 #include <kavlix/Export.h>

@@ -37,6 +37,7 @@ const Script kScripts[] = {
     {"Japanese", {L"\u6E29", L"\u5EA6", L"\u8A08", L"\u6E2C", L"\u304B\u3099", L"\u30CF\u309A"}},
     {"Arabic", {L"\u062F", L"\u0631", L"\u062C\u064E", L"\u0629\u064C", L"\u062D\u0651\u0650"}},
     {"Hebrew", {L"\u05E9\u05C1\u05B8", L"\u05DC", L"\u05D5\u05B9", L"\u05DD", L"\u05D1\u05BC"}},
+    {"Devanagari", {L"\u0924\u093E", L"\u092A", L"\u092E\u093E", L"\u0928\u094D", L"\u0915\u093F\u0902"}},
     {"BeyondTheBasicPlane",
      {L"\U0001F321\uFE0F", L"\U0001D4AF", L"\U00020BB7", L"\U0001F44D\U0001F3FD",
       L"\U0001F468\u200D\U0001F469\u200D\U0001F467"}}};

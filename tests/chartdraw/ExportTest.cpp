@@ -118,7 +118,7 @@ TEST_F(ChartExportTest, AScreenOfManyColoursNeedsNoPalette) {
 TEST_F(ChartExportTest, EveryFailureHasItsResultAndLeavesNothing) {
     const TempFolder folder;
     const std::string umlauts = ::GetACP() == CP_UTF8 ? "\xC3\xA4\xC3\xB6" : "\xE4\xF6";
-    const std::pair<std::string, bool> cases[] = {{folder.Path(umlauts), true},
+    const std::pair<std::string, bool> cases[] = {{folder.Path() + "\\" + umlauts, true},
                                                   {folder.Path("existing"), true},
                                                   {folder.Path(std::string(5000, 'n')), false},
                                                   {folder.Path("none\\chart"), false}};

@@ -13,8 +13,11 @@
 
 using namespace kavlix;
 
+struct kavlix::ChartDrawState {};
+
 BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
     ON_WM_NCCREATE()
+    ON_MESSAGE(WM_STYLECHANGING, &CChartDraw::OnStyleChanging)
 
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
@@ -40,6 +43,11 @@ void CChartDraw::PreSubclassWindow() {
 BOOL CChartDraw::OnNcCreate(LPCREATESTRUCT) {
     StopMirroring(*this);
     return static_cast<BOOL>(Default());
+}
+
+LRESULT CChartDraw::OnStyleChanging(WPARAM wParam, LPARAM lParam) {
+    RefuseMirroring(wParam, lParam);
+    return Default();
 }
 
 void CChartDraw::Redraw() {

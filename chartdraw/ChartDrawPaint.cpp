@@ -8,6 +8,7 @@
 
 #include "chartdraw/ChartText.h"
 #include "gdi/Guards.h"
+#include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
 #include "plot/LinearMap.h"
 #include "plot/RoundScale.h"
@@ -74,6 +75,7 @@ LRESULT CChartDraw::OnPrintClient(WPARAM wParam, LPARAM) {
     if (dc == nullptr)
         return Default();
     CalcDatas();
+    const UnmirroredGuard unmirrored(*dc, m_rectChart.Width());
     DrawChart(*dc);
     return 0;
 }

@@ -10,7 +10,7 @@ set(KAVLIX_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/Kavlix)
 
 install(TARGETS Kavlix KavlixU EXPORT KavlixTargets INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(NOT KAVLIX_GENUINE_MFC)
-    install(TARGETS mfc mfcU mfc_main mfc_mainU EXPORT KavlixTargets
+    install(TARGETS kavlix_mfc kavlix_mfcU kavlix_mfc_main kavlix_mfc_mainU EXPORT KavlixTargets
             INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavlix-mfc)
 endif()
 if(TARGET KavlixMonitor)

@@ -26,14 +26,17 @@ function(kavlix_compile_options target)
 endfunction()
 
 # The DLLs and what is linked with them exist for each character set: targets named without suffix are for char, targets
-# named with the suffix U are for UTF-16 (UNICODE). `set` is the suffix. Programs that link the target get the definitions.
+# named with the suffix U are for UTF-16 (UNICODE). `set` is the suffix. Programs that link the target get the definitions;
+# kavlix/Export.h and afx/Export.h compare KAVLIX_NARROW and KAVLIX_WIDE to the program's setting.
 function(kavlix_character_set target set)
     if(set STREQUAL "U")
-        target_compile_definitions(${target} PUBLIC UNICODE _UNICODE)
+        target_compile_definitions(${target} PUBLIC UNICODE _UNICODE INTERFACE KAVLIX_WIDE)
         if(KAVLIX_SANITIZE_TRAP)
             # The same sources are checked for char. The traps are two thirds of the time that they take to compile.
             target_compile_options(${target} PRIVATE -fno-sanitize=all)
         endif()
+    else()
+        target_compile_definitions(${target} INTERFACE KAVLIX_NARROW)
     endif()
 endfunction()
 
@@ -71,7 +74,7 @@ endfunction()
 
 # Programs of the build tree run from its folder, together with the DLLs of the compiler's own run time.
 function(kavlix_copy_compiler_runtime)
-    if(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+    if(PROJECT_IS_TOP_LEVEL)
         kavlix_compiler_runtime(files)
         if(files)
             file(COPY ${files} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})

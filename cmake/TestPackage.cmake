@@ -33,7 +33,12 @@ foreach(program ${programs})
 endforeach()
 
 # Licences of what the package holds: the compiler's run time and GoogleTest, as Debian tells them.
-set(licences COMMAND ${CMAKE_COMMAND} -E make_directory ${stage}/licences)
+set(licences COMMAND ${CMAKE_COMMAND} -E make_directory ${stage}/licences
+             COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_SOURCE_DIR}/LICENSE ${stage}
+             COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_SOURCE_DIR}/cmake/runtime-licences.txt ${stage}/licences/README.txt)
+if(EXISTS /usr/share/common-licenses/GPL-3)
+    list(APPEND licences COMMAND ${CMAKE_COMMAND} -E copy /usr/share/common-licenses/GPL-3 ${stage}/licences/gpl-3.txt)
+endif()
 foreach(package gcc-mingw-w64-base mingw-w64-common googletest)
     if(EXISTS /usr/share/doc/${package}/copyright)
         list(APPEND licences COMMAND ${CMAKE_COMMAND} -E copy /usr/share/doc/${package}/copyright

@@ -55,10 +55,12 @@ CodePoint FirstCodePoint(const char* text, int length) {
 template <class Char> int FirstCharacter(const Char* text, int length) {
     CodePoint last = FirstCodePoint(text, length);
     int end = last.length;
+    bool isHalfFlag = IsRegionalIndicator(last.value);
     while (end < length) {
         const CodePoint next = FirstCodePoint(text + end, length - end);
-        if (!ContinuesCharacter(last.value, next.value))
+        if (!ContinuesCharacter(last.value, next.value) && !(isHalfFlag && IsRegionalIndicator(next.value)))
             break;
+        isHalfFlag = false;
         end += next.length;
         last = next;
     }

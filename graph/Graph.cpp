@@ -13,6 +13,8 @@
 
 using namespace kavlix;
 
+struct kavlix::GraphState {};
+
 BEGIN_MESSAGE_MAP(CGraph, CStatic)
 END_MESSAGE_MAP()
 

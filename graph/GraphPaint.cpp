@@ -49,11 +49,11 @@ void CGraph::DrawGraph(CDC* pDC) {
     GraphFrame frame;
     frame.width = client.Width();
     frame.height = client.Height();
+    const UnmirroredGuard unmirrored(*pDC, client.Width());
     DrawPicture(*pDC, frame);
 }
 
 void CGraph::DrawPicture(CDC& dc, const GraphFrame& frame) {
-    const UnmirroredGuard unmirrored(dc);
     GraphPass shared(dc, frame, {*seriesList, colorList, seriesSize}, GraphTypeOf(graphType));
     shared.bySeries = legendBySeries && shared.type.Has(kColourBySeries);
     shared.labelFont = xTickFontSize;

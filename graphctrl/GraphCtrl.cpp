@@ -16,8 +16,11 @@ constexpr COLORREF kDatasetColors[CGraphCtrl::DatasetCount] = {
 
 } // namespace
 
+struct kavlix::GraphCtrlState {};
+
 BEGIN_MESSAGE_MAP(CGraphCtrl, CWnd)
     ON_WM_NCCREATE()
+    ON_MESSAGE(WM_STYLECHANGING, &CGraphCtrl::OnStyleChanging)
 
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CGraphCtrl::OnPrintClient)

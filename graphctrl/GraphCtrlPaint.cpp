@@ -7,6 +7,7 @@
 
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
+#include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
 #include "gdi/ShapeConversion.h"
 #include "graphctrl/core/GraphLayout.h"
@@ -55,6 +56,9 @@ LRESULT CGraphCtrl::OnPrintClient(WPARAM wParam, LPARAM) {
     CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
     if (dc == nullptr)
         return Default();
+    CRect client;
+    GetClientRect(&client);
+    const UnmirroredGuard unmirrored(*dc, client.Width());
     SavedDcGuard saved(*dc);
     // The sender may have moved the origin of its DC to place the picture: keep the place.
     CPoint origin(0, 0);

@@ -36,6 +36,11 @@ BOOL CGraphCtrl::OnNcCreate(LPCREATESTRUCT) {
     return static_cast<BOOL>(Default());
 }
 
+LRESULT CGraphCtrl::OnStyleChanging(WPARAM wParam, LPARAM lParam) {
+    RefuseMirroring(wParam, lParam);
+    return Default();
+}
+
 LRESULT CGraphCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND window = m_hWnd;
     switch (message) {

@@ -51,7 +51,7 @@ HMODULE ThisDll() {
 
 } // namespace
 
-bool KavlixCheckHost(const char* pszClass, unsigned int nSize, unsigned int nVersion) {
+bool __cdecl KavlixCheckHost(const char* pszClass, unsigned int nSize, unsigned int nVersion) {
     constexpr unsigned int kPatches = 100; // versions that differ by corrections only
     const unsigned int size = SizeInDll(pszClass);
     const bool fits = nVersion / (100 * kPatches) == KAVLIX_VERSION_MAJOR &&

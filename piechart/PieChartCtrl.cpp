@@ -25,8 +25,11 @@ void MakePieFont(CFont& font, int height) {
 
 } // namespace
 
+struct kavlix::PieChartCtrlState {};
+
 BEGIN_MESSAGE_MAP(CPieChartCtrl, CWnd)
     ON_WM_NCCREATE()
+    ON_MESSAGE(WM_STYLECHANGING, &CPieChartCtrl::OnStyleChanging)
 
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CPieChartCtrl::OnPrintClient)
@@ -60,6 +63,11 @@ void CPieChartCtrl::PreSubclassWindow() {
 BOOL CPieChartCtrl::OnNcCreate(LPCREATESTRUCT) {
     StopMirroring(*this);
     return static_cast<BOOL>(Default());
+}
+
+LRESULT CPieChartCtrl::OnStyleChanging(WPARAM wParam, LPARAM lParam) {
+    RefuseMirroring(wParam, lParam);
+    return Default();
 }
 
 BOOL CPieChartCtrl::RegisterWndClass(HINSTANCE hInstance) {

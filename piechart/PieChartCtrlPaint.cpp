@@ -8,6 +8,7 @@
 
 #include "gdi/Guards.h"
 #include "gdi/Mapping.h"
+#include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
 #include "gdi/ShapeConversion.h"
 #include "gdi/Text.h"
@@ -65,6 +66,9 @@ LRESULT CPieChartCtrl::OnPrintClient(WPARAM wParam, LPARAM) {
     CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
     if (dc == nullptr)
         return Default();
+    CRect client;
+    GetClientRect(&client);
+    const UnmirroredGuard unmirrored(*dc, client.Width());
     DrawPie(*dc);
     return 0;
 }

@@ -19,6 +19,8 @@ constexpr int kBarHeight = 14; // pixels
 
 } // namespace
 
+struct kavlix::ScrollGraphCtrlState {};
+
 BEGIN_MESSAGE_MAP(CScrollGraphCtrl, CGraphCtrl)
     ON_WM_CREATE()
     ON_WM_PAINT()

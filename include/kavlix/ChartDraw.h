@@ -12,6 +12,7 @@
 #include <vector>
 
 namespace kavlix {
+struct ChartDrawState;
 class ChartSeries;
 class LinearMap;
 class Offscreen;
@@ -209,7 +210,8 @@ protected:
     void PreSubclassWindow() override; ///< prepares a dialog item
 
     /// @{
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message or command.
+    afx_msg LRESULT OnStyleChanging(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     /// @}
@@ -247,6 +249,8 @@ private:
     void DrawLine(CDC& dc, const Dataset& dataset) const;
     void DrawMarkers(CDC& dc, const Dataset& dataset) const;
 
+    std::unique_ptr<kavlix::ChartDrawState>
+        m_State;                                  ///< members of later versions; the size of the class stays
     std::unique_ptr<kavlix::Offscreen> m_Picture; ///< WM_PAINT draws into this bitmap and keeps it
     std::vector<std::unique_ptr<Dataset>> m_Datasets;
     std::size_t m_NextColor = 0; ///< index of the colour that AddDataset takes next

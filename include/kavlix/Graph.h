@@ -5,13 +5,16 @@
 #include <afxwin.h>
 
 #include <kavlix/Export.h>
+
 #include <kavlix/GraphSeries.h>
+#include <memory>
 
 #include <cstdint>
 
 struct CPrintInfo;
 
 namespace kavlix {
+struct GraphState;
 struct GraphPass;
 struct GraphFrame;
 struct ScaleTicks;
@@ -310,6 +313,8 @@ public:
 
 private:
     kavlix::GraphPass* pass = nullptr; ///< the state of the drawing in progress; nullptr outside a drawing
+
+    std::unique_ptr<kavlix::GraphState> m_State; ///< members of later versions; the size of the class stays
 
     DECLARE_MESSAGE_MAP()
 };

@@ -15,6 +15,7 @@
 #include <utility>
 
 namespace kavlix {
+struct GraphCtrlState;
 class LinearMap;
 class Offscreen;
 class XPositions;
@@ -327,7 +328,8 @@ protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     /// @{
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message or command.
+    afx_msg LRESULT OnStyleChanging(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
@@ -445,6 +447,8 @@ protected:
     CFont m_LegendFont;     ///< legend rows
 
 private:
+    std::unique_ptr<kavlix::GraphCtrlState>
+        m_State;                                  ///< members of later versions; the size of the class stays
     std::unique_ptr<kavlix::Offscreen> m_Picture; ///< the bitmap that WM_PAINT reuses from paint to paint
     bool m_MaximizeNotified = false;              ///< GCN_MAXIMIZE of the current press has been sent
 

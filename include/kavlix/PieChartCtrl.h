@@ -8,9 +8,11 @@
 #include <kavlix/Export.h>
 #include <kavlix/GraphNotify.h>
 
+#include <memory>
 #include <vector>
 
 namespace kavlix {
+struct PieChartCtrlState;
 struct PieLabel;
 struct PieSector;
 } // namespace kavlix
@@ -127,7 +129,8 @@ protected:
     void PreSubclassWindow() override; ///< prepares a dialog item
 
     /// @{
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message or command.
+    afx_msg LRESULT OnStyleChanging(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
@@ -167,6 +170,9 @@ private:
                    const CString& strText, int nBreak);
     CRect PlaceMessage(CDC& dc, const CRect& client, const CString& text);
     void DrawMessage(CDC& dc, const CRect& client, const CString& text, const CRect& band, bool bBand);
+
+    std::unique_ptr<kavlix::PieChartCtrlState>
+        m_State; ///< members of later versions; the size of the class stays
 };
 
 KAVLIX_CHECK_HOST(CPieChartPiece)

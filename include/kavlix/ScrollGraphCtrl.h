@@ -7,6 +7,7 @@
 #include <memory>
 
 namespace kavlix {
+struct ScrollGraphCtrlState;
 class TimeLine;
 class TimeMap;
 class ZoneRules;
@@ -163,7 +164,7 @@ protected:
     CPoint GetPtFromIndex(int nIndex) override;
 
     /// @{
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message.
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message or command.
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -177,6 +178,8 @@ protected:
     CScrollBar m_wndScrollBar; ///< under the plot; has no window when the control is bound to a dialog item
 
 private:
+    std::unique_ptr<kavlix::ScrollGraphCtrlState>
+        m_State; ///< members of later versions; the size of the class stays
     std::unique_ptr<kavlix::TimeLine> m_arrTime;
     std::unique_ptr<kavlix::ZoneRules> m_zoneRules; ///< the system's rules of local time, kept for the labels
 

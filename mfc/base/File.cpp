@@ -8,29 +8,34 @@
 #include <memory>
 
 #include "mfc/base/FileTime.h"
+#include "mfc/base/PathNames.h"
 
 IMPLEMENT_DYNAMIC(CFile, CObject)
 
 const HANDLE CFile::hFileNull = INVALID_HANDLE_VALUE;
 
-namespace {
-
-CString FullPath(LPCTSTR fileName) {
+CString AfxFullPath(LPCTSTR name) {
     CString path;
-    const DWORD needed = ::GetFullPathName(fileName, 0, nullptr, nullptr);
+    const DWORD needed = ::GetFullPathName(name, 0, nullptr, nullptr);
     if (needed == 0)
-        return fileName;
-    const DWORD length =
-        ::GetFullPathName(fileName, needed, path.GetBuffer(static_cast<int>(needed)), nullptr);
+        return name;
+    const DWORD length = ::GetFullPathName(name, needed, path.GetBuffer(static_cast<int>(needed)), nullptr);
     path.ReleaseBuffer(length < needed ? static_cast<int>(length) : 0);
     return path;
 }
 
-CString LastPart(const CString& path) {
+CString AfxLastPart(const CString& path) {
     const int slash =
         path.FindOneOf(_T("\\/")) < 0 ? -1 : std::max(path.ReverseFind('\\'), path.ReverseFind('/'));
     return path.Mid(slash + 1);
 }
+
+CString AfxWithoutExtension(const CString& name) {
+    const int dot = name.ReverseFind(_T('.'));
+    return dot > 0 ? name.Left(dot) : name;
+}
+
+namespace {
 
 DWORD AccessOf(UINT openFlags) {
     switch (openFlags & (CFile::modeWrite | CFile::modeReadWrite)) {
@@ -103,7 +108,7 @@ BOOL CFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
         creation = (openFlags & modeNoTruncate) ? OPEN_ALWAYS : CREATE_ALWAYS;
 
     m_bCloseOnDelete = FALSE;
-    m_strFileName = FullPath(fileName);
+    m_strFileName = AfxFullPath(fileName);
     const HANDLE file = ::CreateFile(fileName, AccessOf(openFlags), ShareOf(openFlags), &security, creation,
                                      FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
@@ -225,7 +230,7 @@ void CFile::UnlockRange(ULONGLONG position, ULONGLONG count) {
 }
 
 CString CFile::GetFileName() const {
-    return LastPart(m_strFileName);
+    return AfxLastPart(m_strFileName);
 }
 
 CString CFile::GetFileTitle() const {
@@ -259,7 +264,7 @@ BOOL CFile::GetStatus(LPCTSTR fileName, CFileStatus& status) {
     if (!::GetFileAttributesEx(fileName, GetFileExInfoStandard, &info))
         return FALSE;
     status = CFileStatus{};
-    CopyPath(status.m_szFullName, FullPath(fileName));
+    CopyPath(status.m_szFullName, AfxFullPath(fileName));
     TakeInfo(status, info);
     return TRUE;
 }

@@ -5,16 +5,9 @@
 
 #include <cstring>
 
+#include "mfc/base/PathNames.h"
+
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
-
-namespace {
-
-CString WithoutExtension(const CString& name) {
-    const int dot = name.ReverseFind(_T('.'));
-    return dot > 0 ? name.Left(dot) : name;
-}
-
-} // namespace
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
                          LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD dwSize, BOOL)
@@ -99,7 +92,7 @@ CString CFileDialog::GetFileExt() const {
 }
 
 CString CFileDialog::GetFileTitle() const {
-    return WithoutExtension(GetFileName());
+    return AfxWithoutExtension(GetFileName());
 }
 
 POSITION CFileDialog::GetStartPosition() const {

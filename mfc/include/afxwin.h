@@ -20,6 +20,7 @@
 #include "afx/Dialog.h"
 #include "afx/FrameWnd.h"
 #include "afx/GdiObject.h"
+#include "afx/HostCheck.h"
 #include "afx/Menu.h"
 #include "afx/Module.h"
 #include "afx/Thread.h"

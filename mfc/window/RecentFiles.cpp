@@ -9,22 +9,9 @@
 
 #include <shlwapi.h>
 
+#include "mfc/base/PathNames.h"
+
 namespace {
-
-CString FullPath(LPCTSTR name) {
-    TCHAR path[MAX_PATH] = {};
-    const DWORD length = ::GetFullPathName(name, MAX_PATH, path, nullptr);
-    return length == 0 || length >= MAX_PATH ? CString(name) : CString(path);
-}
-
-CString WithoutFolder(const CString& path) {
-    return ::PathFindFileName(path);
-}
-
-CString WithoutExtension(const CString& name) {
-    const int dot = name.ReverseFind(_T('.'));
-    return dot > 0 ? name.Left(dot) : name;
-}
 
 /// The path with "..." for folders in its middle; empty if the name of the file does not fit too.
 CString Compacted(const CString& path, int length) {
@@ -32,7 +19,7 @@ CString Compacted(const CString& path, int length) {
     if (length >= MAX_PATH || !::PathCompactPathEx(text, path, static_cast<UINT>(length + 1), 0))
         return CString();
     const CString compacted(text);
-    const CString name = _T('\\') + WithoutFolder(path);
+    const CString name = _T('\\') + AfxLastPart(path);
     return compacted.Right(name.GetLength()) == name ? compacted : CString();
 }
 
@@ -69,7 +56,7 @@ CString& CRecentFileList::operator[](int nIndex) {
 
 void CRecentFileList::Add(LPCTSTR lpszPathName) {
     ASSERT(lpszPathName != nullptr && lpszPathName[0] != 0);
-    const CString path = FullPath(lpszPathName);
+    const CString path = AfxFullPath(lpszPathName);
     int place = 0; // of the same file, else of the last one
     while (place < m_nSize - 1 && m_arrNames[place].CompareNoCase(path) != 0)
         ++place;
@@ -90,7 +77,7 @@ BOOL CRecentFileList::GetDisplayName(CString& strName, int nIndex, LPCTSTR lpszC
     if (nIndex < 0 || nIndex >= m_nSize || m_arrNames[nIndex].IsEmpty())
         return FALSE;
     const CString& path = m_arrNames[nIndex];
-    const CString name = WithoutFolder(path);
+    const CString name = AfxLastPart(path);
     const bool here = nCurDir == path.GetLength() - name.GetLength() &&
                       path.Left(nCurDir).CompareNoCase(CString(lpszCurDir, nCurDir)) == 0;
     strName = here ? name : path;
@@ -102,7 +89,7 @@ BOOL CRecentFileList::GetDisplayName(CString& strName, int nIndex, LPCTSTR lpszC
     if (strName.IsEmpty())
         strName = name;
     if (isTooLong())
-        strName = WithoutExtension(name);
+        strName = AfxWithoutExtension(name);
     if (isTooLong() && !bAtLeastName)
         strName.Empty();
     return TRUE;

@@ -26,7 +26,9 @@ std::filesystem::path PathOf(const std::string& name) {
     try {
         std::filesystem::path path = std::filesystem::u8path(name);
         constexpr bool isWindows = std::filesystem::path::preferred_separator == '\\';
-        return isWindows && path.native().size() > kUsualLimit ? Unlimited(path) : path;
+        if (isWindows && std::filesystem::absolute(path).native().size() > kUsualLimit)
+            return Unlimited(path);
+        return path;
     } catch (const std::system_error&) {
         return {};
     }

@@ -26,6 +26,13 @@ char32_t CodePointAt(std::string_view text, std::size_t at) {
     return value;
 }
 
+/// Where the code point in front of `at` begins.
+std::size_t CodePointBefore(std::string_view text, std::size_t at) {
+    while (--at > 0 && IsContinuation(text[at]))
+        ;
+    return at;
+}
+
 } // namespace
 
 bool BeginsCharacter(std::string_view text, std::size_t at) {
@@ -33,10 +40,17 @@ bool BeginsCharacter(std::string_view text, std::size_t at) {
         return true;
     if (IsContinuation(text[at]))
         return false;
-    std::size_t before = at - 1;
-    while (before > 0 && IsContinuation(text[before]))
-        --before;
-    return !ContinuesCharacter(CodePointAt(text, before), CodePointAt(text, at));
+    const std::size_t before = CodePointBefore(text, at);
+    const char32_t value = CodePointAt(text, at);
+    if (ContinuesCharacter(CodePointAt(text, before), value))
+        return false;
+    bool isSecondOfFlag = false;
+    for (std::size_t i = at; IsRegionalIndicator(value) && i > 0; isSecondOfFlag = !isSecondOfFlag) {
+        i = CodePointBefore(text, i);
+        if (!IsRegionalIndicator(CodePointAt(text, i)))
+            break;
+    }
+    return !isSecondOfFlag;
 }
 
 std::size_t WholeCharacters(std::string_view text, std::size_t bytes) {

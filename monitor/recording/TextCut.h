@@ -9,8 +9,8 @@
 namespace kavlix::recording {
 
 /// Whether a character begins at byte `at` of UTF-8 text; true at the ends of the text. A character is what a
-/// reader takes for one: a code point with its combining marks, variation selectors and skin tones, and code
-/// points that are linked by zero-width joiners.
+/// reader takes for one: a code point with its combining marks, variation selectors and skin tones, code
+/// points that are linked by zero-width joiners, and the two letters of a flag.
 bool BeginsCharacter(std::string_view text, std::size_t at);
 
 /// Length in bytes of the longest beginning of `text` that has at most `bytes` bytes and ends with a whole

@@ -16,6 +16,7 @@ using testkit::RecordingParent;
 namespace {
 
 const CRect kPlace(0, 0, 320, 240);
+constexpr int kMargin = 20;
 constexpr UINT kId = 7;
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE;
 
@@ -62,6 +63,8 @@ BOOL Show(CWnd& control, CWnd& parent, bool isBound) {
 
 struct Seen {
     std::shared_ptr<DibSurface> picture = std::make_shared<DibSurface>(kPlace.right, kPlace.bottom);
+    std::shared_ptr<DibSurface> printed =
+        std::make_shared<DibSurface>(kPlace.right + 2 * kMargin, kPlace.bottom + 2 * kMargin);
     std::vector<std::string> messages; ///< of clicks at three places of the screen
 };
 
@@ -72,6 +75,7 @@ Seen Watch(CWnd& control, bool isBound, DWORD exStyle) {
     EXPECT_TRUE(parent.CreateVisible(kPlace.right, kPlace.bottom)) << "no display";
     parent.ModifyStyleEx(0, exStyle);
     EXPECT_TRUE(Show(control, parent, isBound));
+    control.ModifyStyleEx(0, exStyle);
     control.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     testkit::Pump();
     CRect place;
@@ -88,6 +92,9 @@ Seen Watch(CWnd& control, bool isBound, DWORD exStyle) {
     }
     testkit::Pump();
     seen.messages = parent.Log();
+    ::SetLayout(seen.printed->Dc(), exStyle != 0 ? LAYOUT_RTL : 0);
+    ::SetViewportOrgEx(seen.printed->Dc(), kMargin, kMargin, nullptr);
+    control.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(seen.printed->Dc()), PRF_CLIENT);
     control.DestroyWindow();
     return seen;
 }
@@ -108,6 +115,7 @@ TEST(Mirroring, ParentsDoNotMirrorTheirCharts) {
             const Seen plain = Watch(*kind.make(), isBound, 0);
             const Seen mirrored = Watch(*kind.make(), isBound, WS_EX_LAYOUTRTL);
             EXPECT_EQ(Difference(*plain.picture, *mirrored.picture), "");
+            EXPECT_EQ(Difference(*plain.printed, *mirrored.printed), "");
             EXPECT_EQ(plain.messages, mirrored.messages);
         }
     }

@@ -40,7 +40,7 @@ const Script kScripts[] = {
     {"Devanagari", {L"\u0924\u093E", L"\u092A", L"\u092E\u093E", L"\u0928\u094D", L"\u0915\u093F\u0902"}},
     {"BeyondTheBasicPlane",
      {L"\U0001F321\uFE0F", L"\U0001D4AF", L"\U00020BB7", L"\U0001F44D\U0001F3FD",
-      L"\U0001F468\u200D\U0001F469\u200D\U0001F467"}}};
+      L"\U0001F468\u200D\U0001F469\u200D\U0001F467", L"\U0001F1EC\U0001F1F7", L"\u1112\u1161\u11AB"}}};
 
 /// A random text of `count` characters of a script, with a blank now and then.
 class RandomText {

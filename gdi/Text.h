@@ -21,9 +21,9 @@ std::wstring ToWide(LPCTSTR text, int length);
 
 /// Length of the first `characters` characters of `text`; `length` when the text has fewer characters. A
 /// character is what a reader takes for one: a code point with its combining marks, variation selectors and
-/// skin tones, code points that are linked by zero-width joiners, and the two letters of a flag. A code point takes several bytes in
-/// double-byte code pages and in UTF-8, and beyond the basic plane two UTF-16 units. An invalid TCHAR counts
-/// as one character.
+/// skin tones, code points that are linked by zero-width joiners, and the two letters of a flag. A code point
+/// takes several bytes in double-byte code pages and in UTF-8, and beyond the basic plane two UTF-16 units. An
+/// invalid TCHAR counts as one character.
 int LengthOfCharacters(LPCTSTR text, int length, int characters);
 /// The largest length, at most `most`, at which `text` can be cut without cutting a character.
 int WholeCharacters(LPCTSTR text, int length, int most);

@@ -40,18 +40,18 @@
 
 // ---- Headers ----
 
-/// Compares what a host was compiled with to the DLL that it has loaded: the size of an exported class in the host, and
-/// the KAVLIX_VERSION of the host's headers. The DLL accepts headers of its own major version whose minor version is
-/// not newer. When they do not fit, or a size differs, a message box says so, and the process ends with the exit code 1306
-/// (ERROR_REVISION_MISMATCH), without running the program's clean-up code. The result is always true.
+/// Compares what a host was compiled with to the DLL that it has loaded: the size of an exported class in the host,
+/// and the KAVLIX_VERSION of the host's headers. The DLL accepts headers of its own major version whose minor version
+/// is not newer. When they do not fit, or a size differs, a message box says so, and the process ends with the exit
+/// code 1306 (ERROR_REVISION_MISMATCH), without running the program's clean-up code. The result is always true.
 ///
 /// The function keeps its name and its parameters in all versions.
 extern "C" KAVLIX_API bool __cdecl KavlixCheckHost(const char* pszClass, unsigned int nSize,
                                                    unsigned int nVersion);
 
-// KAVLIX_CHECK_HOST(class) stands after an exported class: the host calls KavlixCheckHost before its main function, and
-// before its own global objects that follow the header. A host that loads the DLL later than that (/DELAYLOAD), and a host
-// that is a DLL itself and must not end the process, define KAVLIX_NO_HOST_CHECK.
+// KAVLIX_CHECK_HOST(class) stands after an exported class: the host calls KavlixCheckHost before its main function,
+// and before its own global objects that follow the header. A host that loads the DLL later than that (/DELAYLOAD),
+// and a host that is a DLL itself and must not end the process, define KAVLIX_NO_HOST_CHECK.
 #if defined(KAVLIX_BUILD) || defined(KAVLIX_NO_HOST_CHECK)
 #define KAVLIX_CHECK_HOST(class_name)
 #else

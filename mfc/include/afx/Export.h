@@ -2,12 +2,13 @@
 // Import and export of the library's symbols.
 #pragma once
 
-// A program and the DLLs that it links have the same character set. The CMake targets define KAVLIX_NARROW or KAVLIX_WIDE.
+// A program and the DLLs that it links have the same character set. The CMake targets define KAVLIX_NARROW or
+// KAVLIX_WIDE.
 #if defined(UNICODE) != defined(_UNICODE)
 #error "Kavlix: define both UNICODE and _UNICODE (text is wchar_t), or neither (text is char)."
 #endif
 #if defined(KAVLIX_NARROW) && defined(UNICODE)
-#error "Kavlix: this program is a UNICODE program but links the targets for char. Link those with the suffix U."
+#error "Kavlix: this UNICODE program links the targets for char. Link those with the suffix U."
 #endif
 #if defined(KAVLIX_WIDE) && !defined(UNICODE)
 #error "Kavlix: this program undefines UNICODE but links the targets with the suffix U. Link those without."

@@ -18,8 +18,8 @@ inline constexpr unsigned int AfxClassSizes[] = {sizeof(CString), sizeof(CDC),  
 /// with the exit code 1306 (ERROR_REVISION_MISMATCH). The result is always true.
 extern "C" MFC_API bool __cdecl AfxCheckHost(const unsigned int* sizes, unsigned int count);
 
-// The check runs before main(). A program that loads the DLL later (/DELAYLOAD), and a DLL that must not end the process of
-// its host, define KAVLIX_NO_HOST_CHECK.
+// The check runs before main(). A program that loads the DLL later (/DELAYLOAD), and a DLL that must not end the
+// process of its host, define KAVLIX_NO_HOST_CHECK.
 #if !defined(MFC_BUILD) && !defined(KAVLIX_NO_HOST_CHECK)
 inline const bool AfxHostFits = AfxCheckHost(AfxClassSizes, sizeof(AfxClassSizes) / sizeof(*AfxClassSizes));
 #endif

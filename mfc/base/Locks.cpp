@@ -3,6 +3,15 @@
 
 #include "afx/Locks.h"
 
+namespace {
+
+/// Only semaphores count. The other objects take Unlock() without arguments.
+bool IsSemaphore(const CSyncObject& object) {
+    return object.IsKindOf(RUNTIME_CLASS(CSemaphore)) != FALSE;
+}
+
+} // namespace
+
 CSingleLock::CSingleLock(CSyncObject* pObject, BOOL bInitialLock) : m_pObject(pObject) {
     ASSERT(pObject != nullptr);
     if (bInitialLock)
@@ -27,6 +36,8 @@ BOOL CSingleLock::Unlock() {
 }
 
 BOOL CSingleLock::Unlock(LONG lCount, LPLONG lPrevCount) {
+    if (!IsSemaphore(*m_pObject))
+        return Unlock();
     const BOOL unlocked = m_bAcquired && m_pObject->Unlock(lCount, lPrevCount);
     if (unlocked)
         m_bAcquired = FALSE;
@@ -48,6 +59,10 @@ CMultiLock::~CMultiLock() {
 }
 
 DWORD CMultiLock::Lock(DWORD dwTimeOut, BOOL bWaitForAll, DWORD dwWakeMask) {
+    if (m_items.size() > MAXIMUM_WAIT_OBJECTS) {
+        ::SetLastError(ERROR_INVALID_PARAMETER);
+        return WAIT_FAILED;
+    }
     HANDLE handles[MAXIMUM_WAIT_OBJECTS];
     DWORD count = 0;
     for (const Item& item : m_items)
@@ -67,25 +82,28 @@ DWORD CMultiLock::Lock(DWORD dwTimeOut, BOOL bWaitForAll, DWORD dwWakeMask) {
     return result;
 }
 
-template <class Release> BOOL CMultiLock::ReleaseAll(Release release) {
+BOOL CMultiLock::Unlock() {
     BOOL all = TRUE;
     for (Item& item : m_items) {
         if (!item.locked)
             continue;
-        if (release(*item.object))
-            item.locked = false;
-        else
-            all = FALSE;
+        item.locked = !item.object->Unlock();
+        all = all && !item.locked;
     }
     return all;
 }
 
-BOOL CMultiLock::Unlock() {
-    return ReleaseAll([](CSyncObject& object) { return object.Unlock(); });
-}
-
 BOOL CMultiLock::Unlock(LONG lCount, LPLONG lPrevCount) {
-    return ReleaseAll([&](CSyncObject& object) { return object.Unlock(lCount, lPrevCount); });
+    BOOL all = TRUE;
+    bool any = false;
+    for (Item& item : m_items) {
+        if (!item.locked || !IsSemaphore(*item.object))
+            continue;
+        item.locked = !item.object->Unlock(lCount, lPrevCount);
+        all = all && !item.locked;
+        any = true;
+    }
+    return any && all;
 }
 
 BOOL CMultiLock::IsLocked(DWORD dwObject) {

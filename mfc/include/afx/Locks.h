@@ -19,7 +19,7 @@ public:
     BOOL Lock(DWORD dwTimeOut = INFINITE);
     /// Unlocks the object, if this lock holds it. Returns whether the object was unlocked.
     BOOL Unlock();
-    /// Like Unlock(), with the arguments of CSyncObject::Unlock().
+    /// Like Unlock(), for a semaphore with the arguments of CSyncObject::Unlock().
     BOOL Unlock(LONG lCount, LPLONG lPrevCount = nullptr);
     BOOL IsLocked() { return m_bAcquired; }
 
@@ -39,12 +39,14 @@ public:
 
     /// Waits for all objects, or with `bWaitForAll` FALSE for one. Returns the result of the system's wait
     /// function: WAIT_OBJECT_0 + index of the object, WAIT_ABANDONED_0 + index, WAIT_TIMEOUT or WAIT_FAILED. If
-    /// `dwWakeMask` holds QS_ flags, such messages in the thread's queue end the wait too; the result is then
-    /// WAIT_OBJECT_0 + number of objects.
+    /// `dwWakeMask` holds QS_ flags, such messages in the thread's queue end the wait for one object too; the result
+    /// is then WAIT_OBJECT_0 + number of objects. With `bWaitForAll` the system waits for all objects and such a
+    /// message.
     DWORD Lock(DWORD dwTimeOut = INFINITE, BOOL bWaitForAll = TRUE, DWORD dwWakeMask = 0);
     /// Unlocks the objects that this lock holds. Returns whether all of them were unlocked.
     BOOL Unlock();
-    /// Unlocks as Unlock() does, each object with the arguments of CSyncObject::Unlock().
+    /// Unlocks only the semaphores that this lock holds, with the arguments of CSyncObject::Unlock(). Returns whether
+    /// there was one, and all of them were unlocked.
     BOOL Unlock(LONG lCount, LPLONG lPrevCount = nullptr);
     /// Whether this lock holds the object with this index.
     BOOL IsLocked(DWORD dwObject);
@@ -54,7 +56,6 @@ private:
         CSyncObject* object;
         bool locked;
     };
-    template <class Release> BOOL ReleaseAll(Release release);
 
     std::vector<Item> m_items;
 };

@@ -24,22 +24,6 @@ INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
-/// Destroys the window of a modal dialog, also when an exception ends the loop. The owners must be enabled
-/// before the window is destroyed or hidden: otherwise Windows would activate a window of another program.
-class ModalWindow {
-public:
-    ModalWindow(CDialog& dialog, HWND owner) : m_dialog(dialog), m_owner(owner) {}
-    ~ModalWindow() { m_dialog.DestroyWindow(); }
-    ModalWindow(const ModalWindow&) = delete;
-    ModalWindow& operator=(const ModalWindow&) = delete;
-
-    void HandOver() { ::HandOver(m_dialog.m_hWnd, m_owner); }
-
-private:
-    CDialog& m_dialog;
-    HWND m_owner;
-};
-
 } // namespace
 
 CDialog::CDialog() = default;

@@ -2,9 +2,7 @@
 // The windows that a modal dialog disables.
 #pragma once
 
-#include <windows.h>
-
-class CWnd;
+#include "afx/Wnd.h"
 
 /// The owner of a modal dialog: the top-level window of `parent`. Without a parent, the popup of the main
 /// window that was active last, else the main window, else NULL.
@@ -35,4 +33,20 @@ public:
 
 private:
     HWND m_window;
+};
+
+/// Destroys the window of a modal dialog at the end of its scope, also when an exception ends the loop.
+class ModalWindow {
+public:
+    ModalWindow(CWnd& dialog, HWND owner) : m_dialog(dialog), m_owner(owner) {}
+    ~ModalWindow() { m_dialog.DestroyWindow(); }
+    ModalWindow(const ModalWindow&) = delete;
+    ModalWindow& operator=(const ModalWindow&) = delete;
+
+    /// The owners must be enabled before.
+    void HandOver() { ::HandOver(m_dialog.m_hWnd, m_owner); }
+
+private:
+    CWnd& m_dialog;
+    HWND m_owner;
 };

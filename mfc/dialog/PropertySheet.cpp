@@ -65,7 +65,7 @@ CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
 
 CPropertySheet::~CPropertySheet() {
     DestroyWindow();
-    m_tabs.Detach();
+    m_tabs.m_hWnd = nullptr; // the sheet's, so that its destructor must not destroy it
 }
 
 void CPropertySheet::Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage) {
@@ -129,14 +129,21 @@ INT_PTR CPropertySheet::DoModal() {
     m_nModalResult = IDCANCEL;
     HWND const owner = ModalOwner(m_pParentWnd);
     int result = -1;
-    {
-        const DisabledWindow disabledOwner(owner);
-        const DisabledWindow disabledTop(TopmostOwner(owner));
-        if (CreateSheet(owner))
-            result = RunModalLoop(MLF_NOIDLEMSG);
+    m_bContinueModal = TRUE; // EndDialog() during the creation needs the flag before RunModalLoop() sets it
+    try {
+        ModalWindow modal(*this, owner);
+        {
+            const DisabledWindow disabledOwner(owner);
+            const DisabledWindow disabledTop(TopmostOwner(owner));
+            if (CreateSheet(owner))
+                result = m_bContinueModal ? RunModalLoop(MLF_NOIDLEMSG) : m_nModalResult;
+        }
+        modal.HandOver();
+    } catch (...) {
+        m_bContinueModal = FALSE;
+        throw;
     }
-    HandOver(m_hWnd, owner);
-    DestroyWindow();
+    m_bContinueModal = FALSE;
     return result;
 }
 
@@ -181,7 +188,9 @@ void CPropertySheet::AddPage(CPropertyPage* pPage) {
 }
 
 void CPropertySheet::RemovePage(CPropertyPage* pPage) {
-    RemovePage(GetPageIndex(pPage));
+    const int index = GetPageIndex(pPage);
+    if (index >= 0)
+        RemovePage(index);
 }
 
 void CPropertySheet::RemovePage(int nPage) {
@@ -208,7 +217,8 @@ int CPropertySheet::GetActiveIndex() const {
     const auto found = std::find_if(m_pages.begin(), m_pages.end(), [&](const CPropertyPage* page) {
         return active != nullptr && page->m_hWnd == active;
     });
-    return found != m_pages.end() ? static_cast<int>(found - m_pages.begin()) : GetTabControl()->GetCurSel();
+    return found != m_pages.end() ? static_cast<int>(found - m_pages.begin())
+                                  : afx_control::Ask(TabWindow(), TCM_GETCURSEL);
 }
 
 CPropertyPage* CPropertySheet::GetActivePage() const {
@@ -217,22 +227,24 @@ CPropertyPage* CPropertySheet::GetActivePage() const {
 }
 
 BOOL CPropertySheet::SetActivePage(int nPage) {
+    if (nPage < 0)
+        return FALSE;
     if (m_hWnd != nullptr)
         return SendMessage(PSM_SETCURSEL, static_cast<WPARAM>(nPage)) != 0;
     m_psh.nStartPage = static_cast<UINT>(nPage);
     return TRUE;
 }
 
+HWND CPropertySheet::TabWindow() const {
+    return reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL));
+}
+
 CTabCtrl* CPropertySheet::GetTabControl() const {
     if (m_hWnd == nullptr)
         return nullptr;
-    HWND const tabs = reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL));
-    CWnd* const present = FromHandlePermanent(tabs);
-    if (present != nullptr)
-        return DYNAMIC_DOWNCAST(CTabCtrl, present); // the program has subclassed the tabs
-    m_tabs.Detach();
-    m_tabs.Attach(tabs);
-    return &m_tabs;
+    m_tabs.m_hWnd = TabWindow(); // not attached, so that the program can subclass the tabs
+    auto* const subclassed = DYNAMIC_DOWNCAST(CTabCtrl, FromHandlePermanent(m_tabs.m_hWnd));
+    return subclassed != nullptr ? subclassed : &m_tabs;
 }
 
 void CPropertySheet::SetTitle(LPCTSTR lpszText, UINT nStyle) {
@@ -298,11 +310,15 @@ LRESULT CPropertySheet::HandleKickIdle(WPARAM wParam, LPARAM lParam) {
 BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (CWnd::OnCommand(wParam, lParam))
         return TRUE;
-    if (!m_bModeless)
-        return FALSE;
+    const bool wasOpen = ActiveWindow() != nullptr;
     Default();
-    if (ActiveWindow() == nullptr)
-        DestroyWindow(); // the command closed the sheet, and no DoModal() waits for that
+    if (wasOpen && ActiveWindow() == nullptr) {
+        // The command has closed the sheet.
+        if (m_bModeless)
+            DestroyWindow();
+        else
+            EndModalLoop(m_nModalResult);
+    }
     return TRUE;
 }
 
@@ -314,7 +330,7 @@ void CPropertySheet::OnClose() {
 }
 
 void CPropertySheet::OnNcDestroy() {
-    m_tabs.Detach();
+    m_tabs.m_hWnd = nullptr;
     CWnd::OnNcDestroy();
 }
 

@@ -42,6 +42,7 @@ public:
 
     /// The sheet does not own its pages. Also while the sheet is open.
     void AddPage(CPropertyPage* pPage);
+    /// Does nothing if the page is not in the sheet.
     void RemovePage(CPropertyPage* pPage);
     void RemovePage(int nPage);
     int GetPageCount() const { return static_cast<int>(m_pages.size()); }
@@ -51,10 +52,10 @@ public:
     int GetActiveIndex() const;
     /// NULL before the sheet is open.
     CPropertyPage* GetActivePage() const;
-    /// FALSE if the active page stays, because its OnKillActive() refused.
+    /// FALSE if the page is not in the sheet, or if the active page stays because its OnKillActive() refused.
     BOOL SetActivePage(int nPage);
     BOOL SetActivePage(CPropertyPage* pPage) { return SetActivePage(GetPageIndex(pPage)); }
-    /// NULL before the sheet is open.
+    /// NULL before the sheet is open. The program may subclass the window of the control.
     CTabCtrl* GetTabControl() const;
 
     /// `nStyle` PSH_PROPTITLE: the system adds words such as "Properties".
@@ -95,13 +96,14 @@ private:
     static int CALLBACK Callback(HWND window, UINT message, LPARAM lParam);
     BOOL CreateSheet(HWND owner);
     HWND ActiveWindow() const;
-    bool IsWizard() const { return (m_psh.dwFlags & PSH_WIZARD) != 0; }
+    HWND TabWindow() const;
+    bool IsWizard() const { return (m_psh.dwFlags & (PSH_WIZARD | PSH_WIZARD97)) != 0; }
     void RemoveButtons();
 
     std::vector<CPropertyPage*> m_pages;
     CWnd* m_pParentWnd = nullptr;
     CString m_strCaption;
-    mutable CTabCtrl m_tabs; // refers to the tab control of the system's sheet
+    mutable CTabCtrl m_tabs; // refers to the tab control of the system's sheet, without being attached
     bool m_bStacked = true;
     bool m_bModeless = false;
     DWORD m_dwStyle = 0; // styles of a modeless sheet

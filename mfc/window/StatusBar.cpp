@@ -64,6 +64,7 @@ private:
 } // namespace
 
 CStatusBar::~CStatusBar() {
+    m_bAutoDelete = FALSE; // the object is being deleted already
     DestroyWindow();
     m_control.m_hWnd = nullptr;
 }
@@ -80,10 +81,12 @@ BOOL CStatusBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, UI
     SetBarStyle(dwStyle & alignStyles);
     // The frame's layout decides about the place of the bar, not the control.
     const DWORD style = (dwStyle & ~alignStyles) | dwCtrlStyle | CCS_NOPARENTALIGN | CCS_NORESIZE;
-    if (!CWnd::CreateEx(0, STATUSCLASSNAME, nullptr, style | WS_CHILD, CRect(0, 0, 0, 0), pParentWnd, nID))
-        return FALSE;
-    m_control.m_hWnd = m_hWnd;
-    return TRUE;
+    return CWnd::CreateEx(0, STATUSCLASSNAME, nullptr, style | WS_CHILD, CRect(0, 0, 0, 0), pParentWnd, nID);
+}
+
+void CStatusBar::PreSubclassWindow() {
+    CControlBar::PreSubclassWindow();
+    m_control.m_hWnd = m_hWnd; // a derived class may set the panes in its OnCreate()
 }
 
 void CStatusBar::OnNcDestroy() {

@@ -95,11 +95,22 @@ CString CFileDialog::GetFileTitle() const {
     return AfxWithoutExtension(GetFileName());
 }
 
+/// The first of several names; NULL if the user chose one file. The names follow their folder. Each text ends with a
+/// zero, in the old dialog with a blank. The old dialog uses short names, which contain no blanks.
+static LPTSTR FirstOfSeveral(const OPENFILENAME& choice) {
+    if ((choice.Flags & OFN_ALLOWMULTISELECT) == 0)
+        return nullptr;
+    const bool hasOffset = choice.nFileOffset > 0;
+    const LPTSTR before = choice.lpstrFile + (hasOffset ? choice.nFileOffset - 1 : 0);
+    if ((choice.Flags & OFN_EXPLORER) != 0)
+        return hasOffset && *before == 0 ? before + 1 : nullptr;
+    const LPTSTR blank = _tcschr(before, _T(' '));
+    return blank == nullptr ? nullptr : blank + 1;
+}
+
 POSITION CFileDialog::GetStartPosition() const {
-    const LPTSTR file = m_ofn.lpstrFile;
-    const bool several = (m_ofn.Flags & OFN_ALLOWMULTISELECT) != 0 && m_ofn.nFileOffset > 0 &&
-                         file[m_ofn.nFileOffset - 1] == 0;
-    return reinterpret_cast<POSITION>(several ? file + m_ofn.nFileOffset : file);
+    const LPTSTR first = FirstOfSeveral(m_ofn);
+    return reinterpret_cast<POSITION>(first != nullptr ? first : m_ofn.lpstrFile);
 }
 
 CString CFileDialog::GetNextPathName(POSITION& pos) const {
@@ -108,13 +119,13 @@ CString CFileDialog::GetNextPathName(POSITION& pos) const {
         pos = nullptr;
         return name;
     }
-    // With several files, the buffer holds the folder and then the names, each with its zero. An empty name
-    // ends the list.
-    CString path = m_ofn.lpstrFile;
+    CString path(m_ofn.lpstrFile, static_cast<int>(FirstOfSeveral(m_ofn) - 1 - m_ofn.lpstrFile));
     if (path.Right(1) != _T("\\"))
         path += _T('\\');
-    path += name;
-    const LPCTSTR next = name + _tcslen(name) + 1;
+    const LPCTSTR end = name + _tcscspn(name, IsExplorer() ? _T("") : _T(" "));
+    path += CString(name, static_cast<int>(end - name));
+    // The list of the Explorer's dialog ends with an empty name, the one of the old dialog with its only zero.
+    const LPCTSTR next = *end != 0 || IsExplorer() ? end + 1 : end;
     pos = *next == 0 ? nullptr : reinterpret_cast<POSITION>(const_cast<LPTSTR>(next));
     return path;
 }

@@ -187,8 +187,14 @@ BOOL CWinApp::OnOpenRecentFile(UINT nID) {
     if (m_pRecentFileList == nullptr || index < 0 || index >= m_pRecentFileList->GetSize() ||
         (*m_pRecentFileList)[index].IsEmpty())
         return FALSE;
-    const CString path = (*m_pRecentFileList)[index]; // opening the file may change the list
-    if (OpenDocumentFile(path) == nullptr)
-        m_pRecentFileList->Remove(index);
+    const CString path = (*m_pRecentFileList)[index];
+    if (OpenDocumentFile(path) != nullptr)
+        return TRUE;
+    // The attempt may have changed the order of the list.
+    for (int i = 0; i < m_pRecentFileList->GetSize(); ++i)
+        if ((*m_pRecentFileList)[i].CompareNoCase(path) == 0) {
+            m_pRecentFileList->Remove(i);
+            break;
+        }
     return TRUE;
 }

@@ -36,7 +36,8 @@ std::wstring StandardFormat(LPCWSTR format) {
 }
 
 int Print(LPWSTR text, std::size_t room, LPCWSTR format, va_list args) {
-    return ::__mingw_vsnwprintf(text, room, StandardFormat(format).c_str(), args);
+    const std::wstring standard = AfxWithMemory([&] { return StandardFormat(format); });
+    return ::__mingw_vsnwprintf(text, room, standard.c_str(), args);
 }
 #else
 int Print(LPSTR text, std::size_t room, LPCSTR format, va_list args) {

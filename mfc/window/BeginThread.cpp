@@ -6,6 +6,7 @@
 #include "afx/App.h"
 #include "afxres.h"
 
+#include <new>
 #include <process.h>
 
 /// The function that a new thread runs, and the functions that start a thread.
@@ -28,6 +29,10 @@ struct AfxThreadStart {
             // The C library's frames below must not be unwound.
             exception->ReportError(MB_ICONSTOP, AFX_IDP_INTERNAL_FAILURE);
             exception->Delete();
+            status = static_cast<unsigned>(-1);
+        } catch (const std::bad_alloc&) {
+            CMemoryException exception(FALSE);
+            exception.ReportError(MB_ICONSTOP, AFX_IDP_INTERNAL_FAILURE);
             status = static_cast<unsigned>(-1);
         }
         UnhookMessageFilter();

@@ -175,6 +175,12 @@ BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext*) {
 int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
+    std::vector<HWND>& frames = CurrentThreadState().frames;
+    const auto isStale = [this](HWND frame) {
+        return frame == m_hWnd || FromHandlePermanent(frame) == nullptr;
+    };
+    frames.erase(std::remove_if(frames.begin(), frames.end(), isStale), frames.end());
+    frames.push_back(m_hWnd);
     if (!OnCreateClient(lpCreateStruct, static_cast<CCreateContext*>(lpCreateStruct->lpCreateParams)))
         return -1;
     RecalcLayout();

@@ -7,6 +7,8 @@
 #include "afxpriv.h"
 #include "afxres.h"
 
+#include <new>
+
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
 BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
@@ -23,6 +25,15 @@ LRESULT CALLBACK FilterMessage(int nCode, WPARAM wParam, LPARAM lParam) {
         thread->ProcessMessageFilter(nCode, reinterpret_cast<LPMSG>(lParam)))
         return 1;
     return ::CallNextHookEx(CurrentThreadState().messageFilterHook, nCode, wParam, lParam);
+}
+
+/// Asks the bars of a visible window to bring their items up to date. A handler may destroy the window.
+void UpdateBars(CWnd& window) {
+    const HWND handle = window.m_hWnd;
+    if (handle == nullptr || !::IsWindowVisible(handle))
+        return;
+    AfxCallWndProc(&window, handle, WM_IDLEUPDATECMDUI, TRUE, 0);
+    CWnd::SendMessageToDescendants(handle, WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
 }
 
 } // namespace
@@ -96,10 +107,14 @@ BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
 
 BOOL CWinThread::OnIdle(LONG lCount) {
     if (lCount <= 0) {
-        CWnd* const main = m_pMainWnd;
-        if (main != nullptr && main->m_hWnd != nullptr && main->IsWindowVisible()) {
-            AfxCallWndProc(main, main->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
-            main->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+        const HWND main = SafeWindow(m_pMainWnd);
+        if (main != nullptr)
+            UpdateBars(*m_pMainWnd);
+        const std::vector<HWND>& frames = CurrentThreadState().frames;
+        for (std::size_t i = 0; i < frames.size(); ++i) { // a handler may create a frame
+            CWnd* const frame = CWnd::FromHandlePermanent(frames[i]);
+            if (frame != nullptr && frame->IsFrameWnd() && frames[i] != main && !::IsChild(main, frames[i]))
+                UpdateBars(*frame);
         }
     }
     DeleteTemporariesWhenIdle();
@@ -117,6 +132,9 @@ BOOL CWinThread::DispatchThreadMessage(MSG* pMsg) {
         } catch (CException* exception) {
             ProcessWndProcException(exception, pMsg);
             exception->Delete();
+        } catch (const std::bad_alloc&) {
+            CMemoryException exception(FALSE);
+            ProcessWndProcException(&exception, pMsg);
         }
         return TRUE;
     }

@@ -8,6 +8,7 @@
 #include "afx/Wnd.h"
 
 #include <memory>
+#include <vector>
 
 /// Wrap() creates a temporary window object. Unwrap() clears its handle, so that its destructor does not
 /// destroy the window.
@@ -21,6 +22,7 @@ struct ThreadState {
     HandleMap<CWnd, HWND, AfxWndMapTraits> windows;
     MSG currentMessage{};             ///< the message whose handler is running
     int messageDepth = 0;             ///< number of nested handlers that are running
+    std::vector<HWND> frames;         ///< windows of CFrameWnds, some of which may be gone
     CWnd* windowInCreation = nullptr; ///< the object that the next created window belongs to
     HHOOK creationHook = nullptr;
     int creationHookDepth = 0;

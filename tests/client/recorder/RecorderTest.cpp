@@ -52,6 +52,20 @@ bool CanApply(CPropertySheet* sheet) {
     return ::IsWindowEnabled(::GetDlgItem(*sheet, ID_APPLY_NOW)) != FALSE;
 }
 
+/// A bar that sets its panes while it is created.
+class EarlyBar : public CStatusBar {
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        const LRESULT result = CStatusBar::WindowProc(message, wParam, lParam);
+        const UINT pane = AFX_IDS_IDLEMESSAGE;
+        return message == WM_CREATE && !SetIndicators(&pane, 1) ? -1 : result;
+    }
+};
+
+/// A sheet that ends while it is created.
+class BriefSheet : public CSettingsSheet {
+    BOOL OnInitDialog() override { EndDialog(55); return CSettingsSheet::OnInitDialog(); }
+};
+
 class Recorder : public RunningClient {
 protected:
     void SetUp() override {
@@ -172,6 +186,18 @@ TEST_F(Recorder, PanesShowMessagesStatesAndKeys) {
     Bar().RedrawWindow();
     EXPECT_STREQ(_T("later"), Shown(0));
     EXPECT_FALSE(Bar().SetPaneText(9, _T("")));
+
+    auto* const second = new CMainFrame; // not the main window
+    ASSERT_TRUE(second->LoadFrame(IDR_MAINFRAME));
+    second->ShowWindow(SW_SHOWNA);
+    second->m_nSamples = 8;
+    User::Pump();
+    EXPECT_STREQ(_T("8 samples"), second->m_wndStatusBar.GetPaneText(samples));
+    second->DestroyWindow();
+
+    EarlyBar early;
+    ASSERT_TRUE(early.Create(&Frame(), WS_CHILD, 1));
+    EXPECT_STREQ(_T("Ready"), early.GetStatusBarCtrl().GetText(0));
 }
 
 TEST_F(Recorder, MenuIsUpToDateBehindItemsThatItsHandlersRemove) {
@@ -231,6 +257,14 @@ TEST_F(Recorder, OldFileDialogTellsItsSelection) {
     ONLY_SEEN_UNDER_WINE(EXPECT_STREQ(_T("item 0"), Frame().m_strSeen)); // the insides of the system's dialog
     ONLY_SEEN_UNDER_WINE(EXPECT_STREQ(_T("old.csv"), Frame().m_strFile));
     ::SetCurrentDirectory(_T("\\"));
+
+    CPickDlg several(nullptr, TRUE);
+    several.m_ofn.Flags |= OFN_ALLOWMULTISELECT;
+    ::lstrcpy(several.m_ofn.lpstrFile, _T("C:\\DATA A.CSV B.CSV"));
+    CString paths;
+    for (POSITION at = several.GetStartPosition(); at != nullptr;)
+        paths += several.GetNextPathName(at) + _T("|");
+    EXPECT_STREQ(_T("C:\\DATA\\A.CSV|C:\\DATA\\B.CSV|"), paths);
 }
 
 TEST_F(Recorder, SettingsAreAppliedPageByPage) {
@@ -241,6 +275,10 @@ TEST_F(Recorder, SettingsAreAppliedPageByPage) {
                    EXPECT_STREQ(_T("Settings"), TextOf(popup));
                    EXPECT_EQ(2, sheet->GetPageCount());
                    EXPECT_EQ(2, sheet->GetTabControl()->GetItemCount());
+                   CTabCtrl own;
+                   EXPECT_TRUE(own.SubclassWindow(*sheet->GetTabControl()));
+                   EXPECT_EQ(&own, sheet->GetTabControl());
+                   own.UnsubclassWindow();
                    EXPECT_EQ(10u, sheet->GetPage(0)->GetDlgItemInt(IDC_RATE));
                    EXPECT_EQ(nullptr, sheet->GetPage(1)->m_hWnd) << "created when the user comes to it";
                    SetRate(sheet, _T("20"));
@@ -324,6 +362,9 @@ TEST_F(Recorder, SetUpLeadsFromPageToPage) {
     User third({[](HWND popup) { SheetOf(popup)->EndDialog(77); }});
     User::Choose(ID_VIEW_SETUP);
     EXPECT_EQ(77, Frame().m_nLastResult);
+    User late({[](HWND popup) { SheetOf(popup)->EndDialog(0); }});
+    EXPECT_EQ(55, BriefSheet().DoModal());
+    const User none({}); // the sheet has closed without its user
 }
 
 TEST_F(Recorder, PanelAndNoteStayBesideTheProgram) {
@@ -410,6 +451,15 @@ TEST_F(Recorder, LocksTellWhatTheyHold) {
     EXPECT_TRUE(held.Unlock() && mutex.Unlock());
     EXPECT_FALSE(mutex.Unlock());
     EXPECT_FALSE(held.Unlock() || held.IsLocked());
+
+    EXPECT_TRUE(held.Lock(0) && held.Unlock(1));
+    EXPECT_FALSE(mutex.Unlock()) << "nobody holds it";
+    CSyncObject* const kinds[] = {&same, &places};
+    CMultiLock both(const_cast<CSyncObject**>(kinds), 2);
+    EXPECT_FALSE(both.Unlock(1)) << "nothing is locked";
+    EXPECT_EQ(WAIT_OBJECT_0, both.Lock(0));
+    EXPECT_TRUE(both.Unlock(1) && !both.IsLocked(1) && both.IsLocked(0)) << "a mutex does not count";
+    EXPECT_TRUE(both.Unlock() && !mutex.Unlock());
 }
 
 TEST_F(Recorder, SessionsFreeEverything) {

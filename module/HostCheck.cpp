@@ -49,6 +49,16 @@ HMODULE ThisDll() {
     return module;
 }
 
+/// ", in which CDataset has 72 bytes"; empty if the size is the same on the other side.
+struct SizeText {
+    wchar_t text[100] = L"";
+
+    SizeText(const char* name, unsigned int size, unsigned int other) {
+        if (size != other)
+            std::swprintf(text, sizeof text / sizeof *text, L", in which %.50hs has %u bytes", name, size);
+    }
+};
+
 } // namespace
 
 bool __cdecl KavlixCheckHost(const char* pszClass, unsigned int nSize, unsigned int nVersion) {
@@ -62,14 +72,14 @@ bool __cdecl KavlixCheckHost(const char* pszClass, unsigned int nSize, unsigned 
     const ModulePath program(nullptr), dll(ThisDll());
     wchar_t text[2 * MAX_PATH + 1000];
     std::swprintf(text, sizeof text / sizeof *text,
-                  L"This program was built with the headers of Kavlix %u.%u.%u, in which %hs has %u bytes.\n"
-                  L"The DLL that it has loaded is Kavlix %u.%u.%u, in which %hs has %u bytes.\n\n"
+                  L"This program was built with the headers of Kavlix %u.%u.%u%ls.\n"
+                  L"The DLL that it has loaded is Kavlix %hs%ls.\n\n"
                   L"Program: %ls\nDLL: %ls\n\n"
                   L"Put the DLL that belongs to the headers beside the program, or build the program again "
                   L"with the headers of the DLL.",
-                  nVersion / (100 * kPatches), nVersion / kPatches % 100, nVersion % kPatches, pszClass,
-                  nSize, KAVLIX_VERSION_MAJOR, KAVLIX_VERSION_MINOR, KAVLIX_VERSION_PATCH, pszClass, size,
-                  program.text, dll.text);
+                  nVersion / (100 * kPatches), nVersion / kPatches % 100, nVersion % kPatches,
+                  SizeText(pszClass, nSize, size).text, KAVLIX_VERSION_TEXT,
+                  SizeText(pszClass, size, nSize).text, program.text, dll.text);
     ::OutputDebugStringW(text);
     ::MessageBoxW(nullptr, text, L"Kavlix", MB_OK | MB_ICONERROR | MB_SETFOREGROUND);
     // The program's global objects are half constructed: none of its code may run any more.

@@ -12,6 +12,9 @@
 
 // ---- Settings ----
 
+#if defined(_MSVC_LANG) ? _MSVC_LANG < 201703L : __cplusplus < 201703L
+#error "Kavlix: compile as C++17 (/std:c++17, -std=c++17)."
+#endif
 #if defined(UNICODE) != defined(_UNICODE)
 #error "Kavlix: define both UNICODE and _UNICODE (text is wchar_t), or neither (text is char)."
 #endif

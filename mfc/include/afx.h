@@ -4,6 +4,8 @@
 
 // The collections have headers of their own: afxcoll.h for the ready-made ones, afxtempl.h for the templates.
 
+#include <afx/Export.h>
+
 #include <windows.h>
 
 #include <tchar.h>

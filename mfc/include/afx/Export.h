@@ -2,6 +2,9 @@
 // Import and export of the library's symbols.
 #pragma once
 
+#if __cplusplus < 201703L
+#error "Kavlix: compile as C++17 (-std=c++17)."
+#endif
 // A program and the DLLs that it links have the same character set. The CMake targets define KAVLIX_NARROW or
 // KAVLIX_WIDE.
 #if defined(UNICODE) != defined(_UNICODE)

@@ -40,8 +40,9 @@ endif()
 # ---- Documents and licences ----
 
 install(FILES README.md DESTINATION ${KAVLIX_DOC_DIR})
-install(FILES LICENSE CHANGES.md CONTRIBUTING.md DESTINATION ${KAVLIX_DOC_DIR} OPTIONAL)
-install(DIRECTORY docs DESTINATION ${KAVLIX_DOC_DIR})
+install(FILES LICENSE CHANGES.md DESTINATION ${KAVLIX_DOC_DIR} OPTIONAL)
+# Not those for people who change Kavlix: they speak of the sources.
+install(DIRECTORY docs DESTINATION ${KAVLIX_DOC_DIR} PATTERN house.md EXCLUDE PATTERN Doxyfile EXCLUDE)
 
 # The compiler's run time has licences of its own, which Debian's packages contain.
 if(runtime)

@@ -26,8 +26,11 @@ endfunction()
 # Copies the DLLs beside the program `target` after each build: those that the program links, in its character set, and the
 # compiler's run time, of which all modules must share one copy, because exceptions cross DLL borders.
 function(kavlix_deploy target)
-    # A program of a newer compiler needs the newer run time, which serves older modules too.
-    if(KAVLIX_RUNTIME_DLLS AND NOT CMAKE_CXX_COMPILER_VERSION VERSION_GREATER KAVLIX_COMPILER_VERSION)
+    # A program of a newer compiler needs the newer run time, which serves older modules too. Compilers of the same major
+    # version have the same run time.
+    string(REGEX MATCH "^[0-9]+" compiler "${CMAKE_CXX_COMPILER_VERSION}")
+    string(REGEX MATCH "^[0-9]+" packaged "${KAVLIX_COMPILER_VERSION}")
+    if(KAVLIX_RUNTIME_DLLS AND NOT compiler GREATER packaged)
         set(runtime ${KAVLIX_RUNTIME_DLLS})
     else()
         kavlix_compiler_runtime(runtime)

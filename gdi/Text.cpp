@@ -191,8 +191,12 @@ CSize MeasureTextIn(CDC& dc, const CString& text, int width, UINT format) {
 
 TextBreak BreakInTwo(CDC& dc, const CString& text) {
     TextBreak best;
+    const int length = text.GetLength();
+    if (length > kLongestBroken)
+        return best;
     for (int at = text.Find(' '); at >= 0; at = text.Find(' ', at + 1)) {
-        if (at == 0 || at + 1 == text.GetLength())
+        // A blank with a combining mark is a character that stays whole.
+        if (at == 0 || at + 1 == length || WholeCharacters(text, length, at + 1) != at + 1)
             continue;
         const int width = std::max(MeasureText(dc, text.Left(at)).cx, MeasureText(dc, text.Mid(at + 1)).cx);
         if (best.width == 0 || width < best.width)

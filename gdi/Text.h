@@ -74,7 +74,9 @@ struct TextBreak {
     int at = 0; ///< index of the blank at the break, which belongs to neither line
 };
 
-/// The break that makes the wider line as narrow as possible.
+/// The break that makes the wider line as narrow as possible. Every blank is tried, so texts of more than
+/// kLongestBroken TCHARs, which fit into no two lines beside a chart, are not broken.
+constexpr int kLongestBroken = 500;
 TextBreak BreakInTwo(CDC& dc, const CString& text);
 
 } // namespace kavlix

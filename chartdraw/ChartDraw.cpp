@@ -7,13 +7,12 @@
 #include <utility>
 
 #include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/ChartDrawState.h"
 #include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
 #include "plot/RoundScale.h"
 
 using namespace kavlix;
-
-struct kavlix::ChartDrawState {};
 
 BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
     ON_WM_NCCREATE()
@@ -24,7 +23,8 @@ BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
 END_MESSAGE_MAP()
 
 CChartDraw::CChartDraw()
-    : m_XScale(std::make_unique<RoundScale>()), m_YScale(std::make_unique<RoundScale>()) {
+    : m_State(std::make_unique<ChartDrawState>(*this)), m_XScale(std::make_unique<RoundScale>()),
+      m_YScale(std::make_unique<RoundScale>()) {
 }
 
 CChartDraw::~CChartDraw() = default;

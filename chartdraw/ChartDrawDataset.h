@@ -14,4 +14,13 @@ struct CChartDraw::Dataset {
     CDataset::MarkerType markerType = CDataset::MarkerNone;
     bool showLine = true;
     bool visible = true;
+
+    CString name;
+    CChartDraw::DrawStyle style = CChartDraw::StyleLine;
+    double barWidth = 0;             ///< units of x; 0: a pixel
+    double baseline = 0;             ///< y at which bars, impulses and areas begin
+    const Dataset* fillTo = nullptr; ///< the dataset to whose line the area reaches; null: the baseline
+    COLORREF fillColor = CLR_NONE;   ///< CLR_NONE: derived from `color`
+    bool usesY2 = false;
+    double origin = 0; ///< value of the X axis at which x is 0
 };

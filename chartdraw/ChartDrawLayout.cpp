@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartText.h"
 #include "gdi/Guards.h"
 #include "plot/RoundScale.h"
@@ -88,6 +89,7 @@ void CChartDraw::Calculate() {
         *part = false;
         LayOut(dc);
     }
+    m_State->PlaceLegend(dc);
 }
 
 void CChartDraw::LayOut(CDC& dc) {
@@ -97,6 +99,7 @@ void CChartDraw::LayOut(CDC& dc) {
     plot.DeflateRect(margin, margin);
     if (m_ShowTitle && !m_Title.IsEmpty())
         plot.top += m_TitleHeight + margin;
+    m_State->LayOutLegend(dc, plot);
     if (m_ShowCaptions && !m_XLabel.IsEmpty())
         plot.bottom -= m_TextHeight + heights(kCaptionGap);
     if (m_ShowCaptions && !m_YLabel.IsEmpty())

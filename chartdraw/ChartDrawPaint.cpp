@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartText.h"
 #include "gdi/Guards.h"
 #include "gdi/Mirroring.h"
@@ -143,6 +144,7 @@ void CChartDraw::DrawGrid(CDC& dc) {
                     DrawStroke(dc, m_rectPlot.left, y, m_rectPlot.right, y);
             });
     }
+    m_State->DrawBands(dc);
 }
 
 void CChartDraw::DrawAxes(CDC& dc) {
@@ -210,6 +212,7 @@ void CChartDraw::DrawXScale(CDC& dc) {
             free = x + half + m_TextHeight / 2;
         });
     });
+    m_State->DrawOverlay(dc);
 }
 
 void CChartDraw::DrawYScale(CDC& dc) {

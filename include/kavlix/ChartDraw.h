@@ -4,6 +4,12 @@
 
 #include <afxwin.h>
 
+#include <kavlix/ChartAxis.h>
+#include <kavlix/ChartCursor.h>
+#include <kavlix/ChartLegend.h>
+#include <kavlix/ChartNotify.h>
+#include <kavlix/ChartReferences.h>
+#include <kavlix/ChartStatistics.h>
 #include <kavlix/Dataset.h>
 #include <kavlix/Export.h>
 
@@ -31,7 +37,11 @@ typedef HANDLE HDIB;
 /// finite points influence the scales.
 ///
 /// Data and properties can be set without a window. Setting them does not repaint: call Redraw. Use the chart
-/// on the thread that owns its window.
+/// on the thread that owns its window; only PostData may be called on any thread.
+///
+/// Beside these members stand parts with classes of their own: the axes (linear, logarithmic, time), the legend,
+/// the cursors, and reference lines and bands. All of them are off, and the user cannot change the view, until the
+/// host asks for it (SetViewFlags).
 ///
 /// A mirrored parent window (WS_EX_LAYOUTRTL) does not mirror the control: picture and mouse positions run from
 /// left to right.
@@ -74,6 +84,52 @@ public:
     /// Writes a point's values to `x` and `y`. FALSE, with neither written, when there is no such point.
     BOOL GetData(int nDataset, int nIndex, double& x, double& y) const;
 
+    /// Inserts a point that comes late: behind the last point whose x is not greater. In a dataset whose x do not
+    /// ascend the point is appended. Results as AddData.
+    BOOL InsertData(int nDataset, double x, double y);
+    /// Replaces the y of the newest point. FALSE when there is no such dataset or no point.
+    BOOL ReplaceLastData(int nDataset, double y);
+    /// Removes the `nCount` oldest points, at most all. FALSE when there is no such dataset or `nCount` is negative.
+    BOOL RemoveHeadData(int nDataset, int nCount);
+    /// Lets the points of an empty dataset stand at `dStart`, `dStart` + `dStep` ... without memory for their x. Add
+    /// them by AddEvenData. A point added otherwise ends this. FALSE when there is no such dataset, it has points, or
+    /// a value is not finite, and unless `dStep` > 0.
+    BOOL SetEvenX(int nDataset, double dStart, double dStep);
+    /// Appends a point at the next x of SetEvenX; without SetEvenX x is the number of the point. As AddData.
+    BOOL AddEvenData(int nDataset, double y);
+    /// Limits the history of a dataset to its newest `nMostPoints` points (0: no limit) and to the points within
+    /// `dSpan` of the newest x (0: no limit). Older points are removed now and as points are appended. FALSE when
+    /// there is no such dataset, and for negative numbers and NaN.
+    BOOL SetHistory(int nDataset, int nMostPoints, double dSpan);
+    /// Interrupts the line between two points whose x differ by more than `dLimit`; 0, the default: never. FALSE when
+    /// there is no such dataset, and for negative numbers and NaN.
+    BOOL SetGapLimit(int nDataset, double dLimit);
+    /// Interrupts the line between two points whose x differ by more than `dFactor` times the median distance of the
+    /// dataset's points (found to within 2 %); 0, the default: never. With a limit too, the smaller one holds. Results
+    /// as SetGapLimit.
+    BOOL SetGapFactor(int nDataset, double dFactor);
+    /// The x at which the x of this dataset count 0; default 0. See CChartAxis::SetOrigin. FALSE when there is no such
+    /// dataset, and unless `dOrigin` is finite.
+    BOOL SetDatasetOrigin(int nDataset, double dOrigin);
+    /// Index of the point whose x is nearest to `x`, a value of the X axis; -1 when there is none.
+    int FindData(int nDataset, double x) const;
+    /// Figures of the points with `dFrom` <= x <= `dTo`, values of the X axis. Found without reading all points while x
+    /// ascend. FALSE, with nothing written, when there is no such dataset or a bound is NaN.
+    BOOL GetStatistics(int nDataset, double dFrom, double dTo, ChartStatistics& statistics) const;
+
+    // ---- Data from other threads ----
+
+    /// Queues a point, as by InsertData, from any thread. The chart's thread takes all queued points together when it
+    /// next handles messages, repaints, and sends CDN_POSTED. FALSE, with nothing queued, when the queue is full, memory
+    /// runs out, or the chart has no window. The window must not be created or destroyed meanwhile.
+    BOOL PostData(int nDataset, double x, double y);
+    /// Queues `nCount` points. The result is the number of points queued, from the first one on: fewer than `nCount`
+    /// when the queue is full; 0 as above and for null pointers.
+    int PostData(int nDataset, const double* pX, const double* pY, int nCount);
+    /// Most points that the queue of PostData holds; default 1,048,576, clamped to 1..134,217,728. Queued points stay.
+    void SetPostCapacity(int nPoints);
+    int GetPostedCount() const; ///< number of points in the queue of PostData
+
     // ---- Attributes of datasets. FALSE when there is no such dataset. None of them repaints. ----
 
     BOOL SetColor(int nDataset, COLORREF color); ///< colour of line and markers
@@ -88,6 +144,37 @@ public:
     BOOL SetMarkerType(int nDataset, CDataset::MarkerType type);
     /// Whether the dataset is drawn and influences the scales; default TRUE.
     BOOL ShowDataset(int nDataset, BOOL bShow);
+    BOOL IsDatasetShown(int nDataset) const; ///< FALSE also when there is no such dataset
+
+    /// How a dataset is drawn.
+    enum DrawStyle {
+        StyleLine,     ///< straight lines from point to point; the default
+        StyleStep,     ///< horizontally to the x of the next point, then vertically
+        StyleImpulses, ///< a vertical line from the baseline to each point
+        StyleBars,     ///< a bar from the baseline to each point
+        StyleFill      ///< the area between line and baseline, or between two lines, and the line
+    };
+    /// How the line is drawn. ShowLine(FALSE) leaves the line out and keeps markers, bars and filled area.
+    BOOL SetDrawStyle(int nDataset, DrawStyle style);
+    /// Width of bars in units of x, centred on the point; 0, the default: a pixel. FALSE also for NaN, infinite and
+    /// negative widths.
+    BOOL SetBarWidth(int nDataset, double dWidth);
+    /// The y at which bars, impulses and filled areas begin; default 0. On a logarithmic axis a baseline of 0 and below
+    /// is the axis' lower end. FALSE also unless `dValue` is finite.
+    BOOL SetBaseline(int nDataset, double dValue);
+    /// Fills the area between the lines of two datasets instead of down to the baseline; -1, the default: the baseline.
+    /// The other dataset's index follows when datasets are removed. FALSE when there is no such dataset, and for the
+    /// dataset itself.
+    BOOL SetFillTo(int nDataset, int nOther);
+    /// Colour of bars and of filled areas; CLR_NONE, the default: the dataset's colour for bars, a lighter one for areas.
+    BOOL SetFillColor(int nDataset, COLORREF color);
+    /// @{
+    /// Name for legend, readout and saved data; default empty. GetDatasetName is empty when there is no such dataset.
+    BOOL SetDatasetName(int nDataset, CString name);
+    CString GetDatasetName(int nDataset) const;
+    /// @}
+    /// Draws the dataset by the second Y axis; default FALSE.
+    BOOL UseSecondYAxis(int nDataset, BOOL bSecond);
 
     // ---- Scales. None of them repaints. ----
 
@@ -138,7 +225,48 @@ public:
     /// Colour of the grid line at 0 of a scale that has negative and positive values.
     void SetZeroLineColor(COLORREF color) { m_ZeroLineColor = color; }
 
+    // ---- Parts. The chart owns them. ----
+
+    /// @{
+    /// The axes: X, Y on the left, Y on the right.
+    CChartAxis& GetXAxis();
+    CChartAxis& GetYAxis();
+    CChartAxis& GetY2Axis();
+    /// @}
+    CChartLegend& GetLegend();         ///< list of the datasets
+    CChartCursor& GetCursor();         ///< values under the pointer
+    CChartReferences& GetReferences(); ///< lines and bands at values and times
+
     // ---- View ----
+
+    /// What the user can do to the view; see SetViewFlags.
+    enum ViewFlags : UINT {
+        ViewFixed = 0x00, ///< nothing; the default. Mouse and keyboard messages go to Default().
+        ViewZoomX = 0x01, ///< zoom the X axis
+        ViewZoomY = 0x02, ///< zoom the Y axes
+        ViewPanX = 0x04,  ///< pan along the X axis
+        ViewPanY = 0x08,  ///< pan along the Y axes
+        ViewKeys = 0x10,  ///< do by keys what the mouse is allowed to; the chart takes the focus at a click
+        ViewMenu = 0x20,  ///< context menu with Copy, Save picture, Save data, Fit, Back
+        ViewMenuPrint = 0x40, ///< the menu has Print too, see CDN_PRINT
+        ViewTime = 0x35,      ///< for values over time: X by mouse and keys, and the menu
+        ViewAll = 0x3F        ///< everything but Print
+    };
+    /// What the user can do to the view by mouse, touch pad and keyboard, flags of ViewFlags. The guide has a table of
+    /// mouse and keys. The parent is told every change by CDN_VIEW. Without ViewFlags the cursors, the legend and movable
+    /// reference lines still work.
+    void SetViewFlags(UINT nFlags);
+    UINT GetViewFlags() const; ///< what the user can do to the view
+    /// Shows the whole data on all axes, or on Y axes in the mode VisibleData the visible data. The present view enters
+    /// the history of ViewBack. Repaints.
+    void FitView();
+    /// Goes back to the previous view. FALSE when there is none. Repaints.
+    BOOL ViewBack();
+    /// Shares the view of the X axis and the position of the cursor with `pOther` and all charts that are linked with
+    /// `pOther`: a change in one changes all, and repaints them. A chart leaves its charts when it is linked again or
+    /// destroyed; null only leaves. All linked charts belong to the same thread. The X ranges are taken from `pOther`.
+    /// FALSE for the chart itself, and when memory runs out.
+    BOOL LinkView(CChartDraw* pOther);
 
     /// Invalidates the whole client area without erase. Does nothing without a window.
     void Redraw();
@@ -183,6 +311,13 @@ public:
     /// 32,767 pixels, when memory runs out, or when the file cannot be written. After a failure an existing
     /// file is unchanged, and no incomplete file is left.
     bool SaveImage(CString strFileName);
+    /// Asks the user for a file name and calls SaveData(CString, BOOL) for the range in view. As CopyToFile().
+    bool SaveData();
+    /// Saves the points of the visible datasets as a table of comma-separated values in UTF-8: one row for each x, one
+    /// column for each dataset, named by SetDatasetName; the x of a time axis in ISO 8601 in UTC. With `bVisibleOnly`
+    /// only the points whose x is in view. False when the file cannot be written or memory runs out. After a failure an
+    /// existing file is unchanged, and no incomplete file is left.
+    bool SaveData(CString strFileName, BOOL bVisibleOnly);
 
 protected:
     /// Lays the chart out in the client rectangle and computes the scales. Every paint calls this function.
@@ -212,8 +347,30 @@ protected:
     /// @{
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct); ///< Handles its message or command.
     afx_msg LRESULT OnStyleChanging(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
+    afx_msg LRESULT OnMouseHWheel(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    afx_msg void OnEditCopy();
+    afx_msg void OnSavePicture();
+    afx_msg void OnSaveData();
+    afx_msg void OnFilePrint();
+    afx_msg void OnFit();
+    afx_msg void OnBack();
+    afx_msg LRESULT OnPostedData(WPARAM wParam, LPARAM lParam);
     /// @}
     DECLARE_MESSAGE_MAP()
 
@@ -222,6 +379,11 @@ protected:
     CRect m_rectPlot{0, 0, 0, 0};  ///< the part of m_rectChart in which data is drawn, pixels
 
 private:
+    friend struct kavlix::ChartDrawState;
+    friend class CChartAxis;
+    friend class CChartCursor;
+    friend class CChartLegend;
+    friend class CChartReferences;
     struct Dataset;
     struct FixedScale {
         bool fixed = false; ///< false: CalcDatas finds the scale and ignores the other members
@@ -249,9 +411,8 @@ private:
     void DrawLine(CDC& dc, const Dataset& dataset) const;
     void DrawMarkers(CDC& dc, const Dataset& dataset) const;
 
-    std::unique_ptr<kavlix::ChartDrawState>
-        m_State;                                  ///< members of later versions; the size of the class stays
-    std::unique_ptr<kavlix::Offscreen> m_Picture; ///< WM_PAINT draws into this bitmap and keeps it
+    std::unique_ptr<kavlix::ChartDrawState> m_State; ///< parts and view; the size of the class stays
+    std::unique_ptr<kavlix::Offscreen> m_Picture;    ///< WM_PAINT draws into this bitmap and keeps it
     std::vector<std::unique_ptr<Dataset>> m_Datasets;
     std::size_t m_NextColor = 0; ///< index of the colour that AddDataset takes next
     FixedScale m_XFixed;

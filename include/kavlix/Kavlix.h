@@ -3,7 +3,13 @@
 #pragma once
 
 #include <kavlix/Characters.h>
+#include <kavlix/ChartAxis.h>
+#include <kavlix/ChartCursor.h>
 #include <kavlix/ChartDraw.h>
+#include <kavlix/ChartLegend.h>
+#include <kavlix/ChartNotify.h>
+#include <kavlix/ChartReferences.h>
+#include <kavlix/ChartStatistics.h>
 #include <kavlix/Dataset.h>
 #include <kavlix/Export.h>
 #include <kavlix/Graph.h>

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// ChartDrawState: the parts of a chart behind CChartDraw::m_State, and how the parts reach one another.
+#pragma once
+
+#include <kavlix/ChartDraw.h>
+
+#include <memory>
+
+#include "plot/AxisMap.h"
+#include "plot/ValueBounds.h"
+
+namespace kavlix {
+
+struct ChartInputState; // chartdraw/ChartInputState.h: view, history, gestures
+struct ChartLinkState;  // chartdraw/ChartLink.h: the charts that share an X view
+class PostQueue;        // chartdraw/core/PostQueue.h: points of other threads
+
+/// The parts of a chart. Their sources reach the chart's private members by the functions here.
+///
+/// Drawing: PaintBkGnd, DrawTitle, DrawGrid (grid, then DrawBands), DrawDatasets, DrawAxes, DrawYScale (both Y axes),
+/// DrawXScale (X axis, then DrawOverlay).
+struct ChartDrawState {
+    explicit ChartDrawState(CChartDraw& chart);
+    ~ChartDrawState();
+
+    static constexpr int kAxes = 3;
+    enum AxisNumber { kX, kY, kY2 };
+
+    CChartDraw& chart;
+    CChartAxis xAxis, yAxis, y2Axis;
+    CChartLegend legend;
+    CChartCursor cursor;
+    CChartReferences references;
+    std::unique_ptr<ChartInputState> input;
+    std::unique_ptr<ChartLinkState> link;
+    std::unique_ptr<PostQueue> posted;
+
+    CChartAxis& Axis(int axis) { return axis == kX ? xAxis : axis == kY ? yAxis : y2Axis; }
+
+    // ---- Maps of the last layout, values to client pixels (chartdraw/ChartAxis.cpp) ----
+
+    AxisMap Map(int axis) const; ///< values of an axis
+    AxisMap
+    XMap(const CChartDraw::Dataset& dataset) const; ///< x of a dataset, which count from its own origin
+    AxisMap YMap(const CChartDraw::Dataset& dataset) const; ///< y of a dataset on the axis that it uses
+    bool HasSecondYAxis() const;                            ///< whether it is shown
+    /// Value of the X axis for an x of a dataset.
+    double ToAxis(const CChartDraw::Dataset& dataset, double x) const;
+    /// x of a dataset for a value of the X axis.
+    double ToDataset(const CChartDraw::Dataset& dataset, double value) const;
+
+    // ---- Layout and drawing ----
+
+    /// Takes the room of a legend beside or below the plot from `room`, before the axes are laid out (ChartLegend.cpp).
+    void LayOutLegend(CDC& dc, CRect& room);
+    /// Places the legend inside the plot after the axes are laid out (ChartLegend.cpp).
+    void PlaceLegend(CDC& dc);
+    void DrawBands(CDC& dc);          ///< reference bands, behind the data (ChartReferences.cpp)
+    void DrawOverlay(CDC& dc);        ///< reference lines, legend, cursors, zoom box, in this order
+    void DrawReferenceLines(CDC& dc); ///< ChartReferences.cpp
+    void DrawLegend(CDC& dc);         ///< ChartLegend.cpp
+    void DrawCursors(CDC& dc);        ///< ChartCursor.cpp
+    void DrawZoomBox(CDC& dc);        ///< ChartDrawInput.cpp
+    /// Whether the dataset is drawn in a highlighted way: the mouse is over its row in the legend (ChartLegend.cpp).
+    bool IsHighlighted(int nDataset) const;
+    /// Selects the font of the chart's texts for the time of the result.
+    BOOL MakeTextFont(CFont& font) const { return chart.MakeTextFont(font, 0, false); }
+    int TextHeight() const { return chart.m_TextHeight; } ///< of the last layout, pixels
+    const CRect& Plot() const { return chart.m_rectPlot; }
+    const CRect& Client() const { return chart.m_rectChart; }
+    int DatasetCount() const { return chart.GetDatasetCount(); }
+    CChartDraw::Dataset& Dataset(int nDataset) const;
+    /// Marks the layout as outdated. A setter that can change the picture calls it.
+    void Changed() { chart.m_Changed = true; }
+
+    // ---- Mouse and keys. The handlers of ChartDrawInput.cpp call these in this order; true: it is dealt with. ----
+
+    bool PressReference(CPoint point);      ///< begins to move a line (ChartReferences.cpp)
+    void MoveReference(CPoint point);       ///< moves it
+    void ReleaseReference(bool keep);       ///< ends moving; !keep: restores the values
+    bool PressLegend(CPoint point);         ///< hides or shows the dataset of the row (ChartLegend.cpp)
+    void HoverLegend(const CPoint* pPoint); ///< highlights the dataset of the row; null: the mouse has left
+    void
+    HoverCursor(const CPoint* pPoint); ///< moves the first cursor; null: the mouse has left (ChartCursor.cpp)
+    bool StepCursor(int nSamples, int nDatasets); ///< moves the shown cursor by samples or to another dataset
+
+    // ---- View (chartdraw/ChartDrawView.cpp, which also has CChartAxis' members on ranges) ----
+
+    /// The range that an axis must show. With `isExact` false the layout finds a scale around the data, or uses the one
+    /// of SetXScale and SetYScale.
+    struct WantedRange {
+        bool isExact = false;
+        double min = 0;
+        double max = 1;
+    };
+    WantedRange RangeOf(int axis) const;
+    /// Bounds of the finite points of the visible datasets on an axis, as values of the axis: all, or for a Y axis those
+    /// between two values of the X axis.
+    ValueBounds DataBounds(int axis) const;
+    ValueBounds DataBounds(int axis, double xMin, double xMax) const;
+    /// The layout tells the range that it shows.
+    void LaidOut(int axis, double min, double max);
+    /// The host sets a scale by SetXScale, SetAutoXScale and the like: the view's range of the axis ends.
+    void ResetRange(int axis);
+
+    /// Every change of the X view and of Y views passes here: clamps, stores, marks the layout, repaints, shares the
+    /// X range with linked charts, and if `tell`, sends CDN_VIEW. For a range that cannot be shown nothing changes.
+    bool SetView(int axis, double min, double max, bool tell);
+    /// Called when points were added or removed: follow mode moves the view.
+    void DataChanged(int nDataset);
+
+    // ---- Links (chartdraw/ChartLink.cpp) ----
+
+    void ShareView();              ///< gives the X range to linked charts
+    void ShareCursor(int nCursor); ///< gives the position of a cursor to linked charts
+
+    /// Sends a notification to the parent and returns its result. `record.hdr.code` and the code's fields are set.
+    /// The parent may destroy the window or the chart meanwhile: `alive` is false then, and nothing of the chart may
+    /// be touched.
+    LRESULT Notify(NMCHARTDRAW& record, bool& alive);
+
+    bool IsOwnerThread() const; ///< for assertions: no window, or the caller's thread owns it
+};
+
+} // namespace kavlix

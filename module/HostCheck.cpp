@@ -13,7 +13,11 @@ struct ClassSize {
 };
 
 constexpr ClassSize kClasses[] = {
+    {"CChartAxis", sizeof(CChartAxis)},
+    {"CChartCursor", sizeof(CChartCursor)},
     {"CChartDraw", sizeof(CChartDraw)},
+    {"CChartLegend", sizeof(CChartLegend)},
+    {"CChartReferences", sizeof(CChartReferences)},
     {"CDataset", sizeof(CDataset)},
     {"CGraph", sizeof(CGraph)},
     {"CGraphCtrl", sizeof(CGraphCtrl)},

@@ -101,3 +101,5 @@ private:
 
     std::unique_ptr<kavlix::ChartAxisState> m_State;
 };
+
+KAVLIX_CHECK_HOST(CChartAxis)

@@ -66,3 +66,5 @@ private:
 
     std::unique_ptr<kavlix::ChartCursorState> m_State;
 };
+
+KAVLIX_CHECK_HOST(CChartCursor)

@@ -54,3 +54,5 @@ private:
 
     std::unique_ptr<kavlix::ChartLegendState> m_State;
 };
+
+KAVLIX_CHECK_HOST(CChartLegend)

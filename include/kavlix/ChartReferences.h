@@ -63,3 +63,5 @@ private:
 
     std::unique_ptr<kavlix::ChartReferencesState> m_State;
 };
+
+KAVLIX_CHECK_HOST(CChartReferences)

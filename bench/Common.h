@@ -72,5 +72,8 @@ void ChartPaint(int count);
 void MultiPaint();
 void ChartLines(int count);
 void ChartRandom(bool markers);
+void ChartTime(int count);
+void ChartPan(int count);
+void ChartZoom(int count);
 
 } // namespace bench

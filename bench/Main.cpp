@@ -47,6 +47,11 @@ constexpr struct {
     {"chart_lines_1000000", [] { bench::ChartLines(1000000); }},
     {"chart_random", [] { bench::ChartRandom(false); }},
     {"chart_random_points", [] { bench::ChartRandom(true); }},
+    {"chart_time_1000", [] { bench::ChartTime(1000); }},
+    {"chart_time_100000", [] { bench::ChartTime(100000); }},
+    {"chart_time_1000000", [] { bench::ChartTime(1000000); }},
+    {"chart_pan", [] { bench::ChartPan(1000000); }},
+    {"chart_zoom", [] { bench::ChartZoom(1000000); }},
     {"graph_growth", &bench::GraphGrowth},
     {"graph_day", &bench::GraphDay},
 };

@@ -14,6 +14,8 @@ CASES = [
     ("bars", "bars, 13 x 50 groups"),
     ("append", "append, one call a sample"),
     ("steady", "append 1, drop 1 of 1,000,000"),
+    ("time_1000000", "chart over time, 13 x 1,000,000"),
+    ("wall", "24 live charts, 4 series, 600 points in view, a step of all"),
     ("random", "chart, 13 x 100,000 in random order of x, lines"),
     ("random_points", "the same, squares of 7 pixels"),
 ]
@@ -67,7 +69,8 @@ def main():
         elif case == "steady":
             first, second = None, figure("graph_steady", "median_steps_per_s")
         else:
-            row = "chart_" + case if case.startswith("random") else "graph_" + case.split("_")[0]
+            row = case if case.startswith("random") else case.split("_")[0]
+            row = ("chart_" if case.startswith(("random", "time", "wall")) else "graph_") + row
             first, second = figure(row, "window_median_ms"), figure(row, "memory_median_ms")
 
         def ratios(value):

@@ -15,6 +15,7 @@ CASES = [
     ("append", "append, one call a sample"),
     ("steady", "append 1, drop 1 of 1,000,000"),
     ("time_1000000", "chart over time, 13 x 1,000,000"),
+    ("pan", "the same, half of it in view, panned by a pixel"),
     ("wall", "24 live charts, 4 series, 600 points in view, a step of all"),
     ("random", "chart, 13 x 100,000 in random order of x, lines"),
     ("random_points", "the same, squares of 7 pixels"),
@@ -27,7 +28,7 @@ def read(path):
     with open(path, encoding="utf-8") as lines:
         for line in lines:
             row = json.loads(line)
-            case = row["table"]
+            case = "pan" if row.get("case") == "PAN" or row.get("row") == "chart_pan" else row["table"]
             if "peer" in row:
                 name = row["peer"].split("-")[0]
                 peers.setdefault(case, {}).setdefault(name, {}).setdefault(row["variant"], []).append(row["median"])
@@ -70,8 +71,9 @@ def main():
             first, second = None, figure("graph_steady", "median_steps_per_s")
         else:
             row = case if case.startswith("random") else case.split("_")[0]
-            row = ("chart_" if case.startswith(("random", "time", "wall")) else "graph_") + row
-            first, second = figure(row, "window_median_ms"), figure(row, "memory_median_ms")
+            row = ("chart_" if case.startswith(("random", "time", "wall", "pan")) else "graph_") + row
+            first = figure(row, "pan_ms" if case == "pan" else "window_median_ms")
+            second = figure(row, "memory_median_ms")
 
         def ratios(value):
             if value is None or not found:

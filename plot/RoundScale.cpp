@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "plot/NumberFormat.h"
+
 namespace kavlix {
 namespace {
 
@@ -21,20 +23,11 @@ constexpr double kRoomAround = 0.5; // space on each side of a single value, as 
 /// Tolerance for rounding errors, as a share of a step: a number this close to a multiple of the step counts
 /// as this multiple.
 constexpr double kRounding = 1e-9;
-constexpr int kMostDecimals = 12;
 constexpr std::size_t kLongestPlainLabel = 8; // characters
 
-/// `value` * 10^`exponent`. The intermediate results do not overflow.
+/// `value` * 10^`exponent`.
 double Shift(double value, int exponent) {
-    constexpr int kSafe = 300;
-    if (exponent < -kSafe)
-        return value / std::pow(10.0, kSafe) / std::pow(10.0, -exponent - kSafe);
-    // A negative power of ten is not exact in a double: divide by the positive power instead.
-    return exponent < 0 ? value / std::pow(10.0, -exponent) : value * std::pow(10.0, exponent);
-}
-
-int ExponentOf(double value) {
-    return value == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(value))));
+    return Scaled(value, -exponent);
 }
 
 std::string Plain(double value, int decimals) {
@@ -136,11 +129,7 @@ void RoundScale::FindTicks() {
         m_decimals = std::max(0, -(m_exponent + (wholePower ? 1 : 0)));
         return;
     }
-    for (m_decimals = 0; m_decimals < kMostDecimals; ++m_decimals) {
-        const double shifted = Shift(step, m_decimals);
-        if (std::abs(shifted - std::round(shifted)) <= shifted * kRounding)
-            break;
-    }
+    m_decimals = DecimalsOfStep(step);
 }
 
 double RoundScale::Tick(int i) const {
@@ -164,23 +153,8 @@ std::string RoundScale::Label(int i) const {
 }
 
 std::string RoundScale::PowerLabel(double value) const {
-    if (value == 0)
-        return "0";
-    constexpr int kMostDigits = 15;
-    int exponent = ExponentOf(value);
-    // As many digits as the step needs. Rounding can turn 9.99 into 10.0, which must become 1 with the next
-    // exponent.
-    const int stepEnd = m_found ? m_exponent + (m_mantissa != 25 ? 1 : 0) : -m_decimals;
-    const int digits = std::clamp(exponent - stepEnd, 0, kMostDigits);
-    std::string mantissa = Plain(Shift(value, -exponent), digits);
-    if (mantissa.substr(0, mantissa.find('.')).find("10") != std::string::npos)
-        mantissa = Plain(Shift(value, -++exponent), digits);
-    if (mantissa.find('.') != std::string::npos) {
-        mantissa.erase(mantissa.find_last_not_of('0') + 1);
-        if (mantissa.back() == '.')
-            mantissa.pop_back();
-    }
-    return mantissa + "e" + std::to_string(exponent);
+    // As many digits as the step needs.
+    return PowerText(value, m_found ? m_exponent + (m_mantissa != 25 ? 1 : 0) : -m_decimals);
 }
 
 } // namespace kavlix

@@ -40,10 +40,6 @@ std::vector<double> TicksOf(const LogStep& step, double min, double max) {
         }
 }
 
-std::string PlainText(double value) {
-    return FixedText(value, DecimalsOfStep(value));
-}
-
 std::string PowerLabel(double value) {
     constexpr int kDigits = 9; // as far as rounding errors of ticks cannot reach
     return PowerText(value, ExponentOf(value) - kDigits);
@@ -77,8 +73,10 @@ LogScale::LogScale(double min, double max, int length, int room) {
         for (int i = 0; i < scale.TickCount(); ++i)
             if (const double value = scale.Tick(i); value >= min && value <= max)
                 ticks.push_back(value);
-        if (ticks.size() > m_ticks.size())
+        if (ticks.size() > m_ticks.size()) {
             m_ticks = ticks;
+            m_decimals = scale.Decimals();
+        }
     }
 
     const LogStep minors[] = {
@@ -92,17 +90,21 @@ LogScale::LogScale(double min, double max, int length, int room) {
         }
 }
 
+std::string LogScale::PlainLabel(double value) const {
+    return FixedText(value, m_decimals >= 0 ? m_decimals : DecimalsOfStep(value));
+}
+
 std::string LogScale::Label(int i) const {
     std::size_t plain = 0;
     std::size_t power = 0;
     constexpr std::size_t kLongestPlainLabel = 8; // characters
     for (const double tick : m_ticks) {
         plain = std::max(plain,
-                         DecimalsOfStep(tick) == kMostDecimals ? std::string::npos : PlainText(tick).size());
+                         DecimalsOfStep(tick) == kMostDecimals ? std::string::npos : PlainLabel(tick).size());
         power = std::max(power, PowerLabel(tick).size());
     }
     const double value = m_ticks[static_cast<std::size_t>(i)];
-    return plain <= kLongestPlainLabel || plain <= power ? PlainText(value) : PowerLabel(value);
+    return plain <= kLongestPlainLabel || plain <= power ? PlainLabel(value) : PowerLabel(value);
 }
 
 } // namespace kavlix

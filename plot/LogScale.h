@@ -28,7 +28,11 @@ public:
     static constexpr int kMinorTickRoom = 3; ///< pixels
 
 private:
+    std::string PlainLabel(double value) const;
+
     std::vector<double> m_ticks;
+    int m_decimals =
+        -1; ///< of round steps as on a linear axis; otherwise -1, and every label has its own number
     std::vector<double> m_minorTicks;
 };
 

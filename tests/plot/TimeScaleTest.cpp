@@ -80,7 +80,8 @@ TEST(TimeScaleTest, TicksStandWhereAWalkAlongTheLocalClockFindsThem) {
                                        : 7200 + random.Below(random.OneIn(4) ? 12 * kSecondsPerDay : 50000);
         const auto changes = zone.Changes(from, from + 366 * kSecondsPerDay);
         if (!isLong && !changes.empty() && random.OneIn(2))
-            from = changes[0].time - static_cast<std::int64_t>(random.Next() % range);
+            from = changes[0].time + (random.OneIn(4) ? random.Below(kHour / 2)
+                                                      : -static_cast<std::int64_t>(random.Next() % range));
         const double origin = static_cast<double>(from - random.Below(1000));
         const TimeScale scale(static_cast<double>(from) - origin, static_cast<double>(from + range) - origin,
                               origin, 150 + random.Below(900), 6, zone, Widths);

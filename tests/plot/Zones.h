@@ -45,7 +45,7 @@ inline ZoneOffsets Samoa() {
 inline ZoneOffsets Borders() {
     return ZoneOffsets([](int year) {
         return year == 2014 ? ZoneYear{3 * kHour, 4 * kHour, {12, 0, 0, 31, 86400}, {1, 0, 0, 1, 0}}
-                            : ZoneYear{year < 2014 ? 4 * kHour : 3 * kHour, 0, {}, {}};
+                            : ZoneYear{year < 2014 ? 4 * kHour : 2 * kHour, 0, {}, {}};
     });
 }
 

@@ -2,26 +2,13 @@
 // Local time by the rules of the system's time zone.
 #include "scrollgraph/SystemClock.h"
 
-#include <cstring>
-#include <cwchar>
+#include "gdi/SystemZone.h"
 
 namespace kavlix {
 namespace {
 
 constexpr std::int64_t kTicksPerSecond = 10000000;   // of a FILETIME
 constexpr std::int64_t kSecondsTo1970 = 11644473600; // from 1601-01-01, where FILETIME begins
-
-bool AreEqual(const SYSTEMTIME& a, const SYSTEMTIME& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0; // eight WORDs without padding
-}
-
-/// Whether two zones have the same rules and key; the names of standard and daylight time may differ.
-bool AreEqual(const DYNAMIC_TIME_ZONE_INFORMATION& a, const DYNAMIC_TIME_ZONE_INFORMATION& b) {
-    return a.Bias == b.Bias && a.StandardBias == b.StandardBias && a.DaylightBias == b.DaylightBias &&
-           AreEqual(a.StandardDate, b.StandardDate) && AreEqual(a.DaylightDate, b.DaylightDate) &&
-           !a.DynamicDaylightTimeDisabled == !b.DynamicDaylightTimeDisabled &&
-           std::wcscmp(a.TimeZoneKeyName, b.TimeZoneKeyName) == 0;
-}
 
 /// The UTC calendar time of `time`, in seconds since 1970-01-01 00:00 UTC; none before 1601, and none beyond
 /// the range of a FILETIME.
@@ -48,9 +35,7 @@ std::optional<std::int64_t> TimeOf(const SYSTEMTIME& utc) {
 } // namespace
 
 void ZoneRules::Refresh() {
-    DYNAMIC_TIME_ZONE_INFORMATION zone = {};
-    if (::GetDynamicTimeZoneInformation(&zone) == TIME_ZONE_ID_INVALID)
-        zone = {};
+    const DYNAMIC_TIME_ZONE_INFORMATION zone = LocalZone();
     if (AreEqual(zone, m_zone))
         return;
     m_years.clear();
@@ -61,16 +46,7 @@ const TIME_ZONE_INFORMATION& ZoneRules::OfYear(WORD year) {
     const auto known = m_years.find(year);
     if (known != m_years.end())
         return known->second;
-    TIME_ZONE_INFORMATION rules = {};
-    if (!::GetTimeZoneInformationForYear(year, &m_zone, &rules)) {
-        rules = {};
-        rules.Bias = m_zone.Bias;
-        rules.StandardBias = m_zone.StandardBias;
-        rules.DaylightBias = m_zone.DaylightBias;
-        rules.StandardDate = m_zone.StandardDate;
-        rules.DaylightDate = m_zone.DaylightDate;
-    }
-    return m_years.emplace(year, rules).first->second;
+    return m_years.emplace(year, RulesOfYear(m_zone, year)).first->second;
 }
 
 CalendarTime SystemClock::ToLocal(std::int64_t time) const {

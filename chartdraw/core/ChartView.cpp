@@ -3,38 +3,33 @@
 #include "chartdraw/core/ChartView.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kavlix {
 namespace {
 
 constexpr double kNewestShare = 0.9;     // the share beyond which new data moves the view
+constexpr double kRounding = 1e-9;       // a difference of shares that no pixel shows
+constexpr double kLastDigits = 1e-15;    // the digits of a double that a row of moves can change
 constexpr std::uint32_t kRunPause = 500; // longest pause inside a run, milliseconds
+
+/// Whether both ranges are the same but for rounding.
+bool IsSame(const ViewAxis::Span& a, const ViewAxis::Span& b) {
+    const double tolerance = kRounding * a.width + kLastDigits * std::max(std::abs(a.min), std::abs(a.max));
+    return std::abs(a.min - b.min) + std::abs(a.max - b.max) <= tolerance;
+}
 
 } // namespace
 
-bool ChartView::SetAutomatic(ChartAxis axis, ScaleMode mode) {
-    End();
-    m_modes[Index(axis)] = mode;
-    return m_axes[Index(axis)].Fit();
-}
-
-bool ChartView::SetFixed(ChartAxis axis, const ViewRange& range) {
+bool ChartView::SetMode(ChartAxis axis, ScaleMode mode) {
     End();
     ViewAxis& changed = m_axes[Index(axis)];
-    m_modes[Index(axis)] = ScaleMode::Fixed;
-    const bool isHomeNew = changed.SetHome(range);
-    return changed.Fit() || isHomeNew;
-}
-
-bool ChartView::SetFollow(double width) {
-    End();
-    const ViewRange before = X().Range();
-    m_modes[0] = ScaleMode::Follow;
-    m_followWidth = width > 0 ? width : 0;
+    m_modes[Index(axis)] = mode;
+    if (mode != ScaleMode::Follow)
+        return changed.Fit();
+    changed.Set(changed.Range());
     m_isFollowing = true;
-    SetFollowHome();
-    X().Fit();
-    return X().Range() != before;
+    return CatchUp();
 }
 
 bool ChartView::SetLogarithmic(ChartAxis axis, bool isLogarithmic) {
@@ -44,47 +39,28 @@ bool ChartView::SetLogarithmic(ChartAxis axis, bool isLogarithmic) {
     return m_axes[Index(axis)].SetLogarithmic(isLogarithmic);
 }
 
-bool ChartView::NeedsHome(ChartAxis axis) const {
-    const ScaleMode mode = Mode(axis);
-    return mode != ScaleMode::Fixed && (mode != ScaleMode::Follow || m_followWidth == 0);
-}
-
-bool ChartView::SetHome(ChartAxis axis, const ViewRange& home) {
-    return NeedsHome(axis) && m_axes[Index(axis)].SetHome(home);
-}
-
 bool ChartView::SetData(ChartAxis axis, const ValueBounds& data) {
     m_axes[Index(axis)].SetData(data);
-    if (axis != ChartAxis::X || !IsFollowMode())
+    if (axis != ChartAxis::X)
         return false;
     m_isDataNew = true;
     return !m_isInGesture && CatchUp();
-}
-
-/// The home range of the mode Follow: begins at the first data until the newest data has crossed it.
-void ChartView::SetFollowHome() {
-    if (!IsFollowMode() || m_followWidth == 0)
-        return;
-    const double first = XData().IsEmpty() ? 0 : XData().min;
-    const double newest = XData().IsEmpty() ? 0 : XData().max;
-    const double min = std::max(first, newest - kNewestShare * m_followWidth);
-    X().SetHome({min, min + m_followWidth});
 }
 
 /// Moves X to the newest data, if the view follows.
 bool ChartView::CatchUp() {
     const ViewRange before = X().Range();
     m_isDataNew = false;
-    SetFollowHome();
     if (IsFollowMode() && m_isFollowing && X().IsMoved() && !XData().IsEmpty()) {
         const double share = X().ShareOf(XData().max);
-        if (share < 0 || share > kNewestShare)
+        const bool isFar = share < 0 || share > 1;
+        if (isFar || share > kNewestShare + kRounding)
             X().Place(XData().max, kNewestShare);
-        // Data that begins anew: do not show the time before it.
-        if (share < 0 && X().ShareOf(XData().min) > 0)
+        // Data that begins here or begins anew: do not show the time before it.
+        if (isFar && X().ShareOf(XData().min) > 0)
             X().Place(XData().min, 0);
     }
-    m_isFollowing = IsNewestVisible();
+    m_isFollowing = !X().IsMoved() || IsNewestVisible();
     return X().Range() != before;
 }
 
@@ -103,16 +79,16 @@ bool ChartView::Restore(const State& state) {
     m_isFollowing = state.isFollowing;
     CatchUp();
     for (std::size_t i = 0; i < kAxes; ++i)
-        if (m_axes[i].Range() != before.axes[i].span.values)
+        if (!IsSame(m_axes[i].Save().span, before.axes[i].span))
             return true;
     return false;
 }
 
 bool ChartView::IsAt(const State& state) const {
     for (std::size_t i = 0; i < kAxes; ++i) {
-        const ViewAxis& axis = m_axes[i];
-        if (axis.IsMoved() != state.axes[i].isMoved ||
-            (axis.IsMoved() && axis.Range() != state.axes[i].span.values))
+        const bool isMoved = m_axes[i].IsMoved();
+        if (isMoved != state.axes[i].isMoved ||
+            (isMoved && !IsSame(m_axes[i].Save().span, state.axes[i].span)))
             return false;
     }
     return true;
@@ -137,7 +113,7 @@ void ChartView::End() {
         m_history.Add(m_begin);
     m_canRun = isChanged || m_isRun;
     if (X().Range() != m_begin.axes[0].span.values)
-        m_isFollowing = IsNewestVisible();
+        m_isFollowing = !X().IsMoved() || IsNewestVisible();
     if (m_isDataNew)
         CatchUp();
 }
@@ -157,7 +133,7 @@ template <class Move> bool ChartView::MoveAxes(AxisSet axes, Move move) {
         if ((axes & (1U << i)) != 0)
             isChanged = move(m_axes[i], i == 0) || isChanged;
     if ((axes & kAxisX) != 0 && !m_isInGesture)
-        m_isFollowing = IsNewestVisible();
+        m_isFollowing = !X().IsMoved() || IsNewestVisible();
     return isChanged;
 }
 
@@ -203,10 +179,10 @@ bool ChartView::GoToFirst() {
 }
 
 bool ChartView::GoToNewest() {
-    const bool isAtNewest = IsFollowMode() && m_followWidth > 0 && !X().IsMoved();
-    return !isAtNewest && !IsAllVisible() && MoveAxes(kAxisX, [&](ViewAxis& axis, bool) {
-        return axis.Place(XData().max, IsFollowMode() ? kNewestShare : 1);
-    });
+    return !IsAllVisible() &&
+           MoveAxes(
+               kAxisX, [&](ViewAxis& axis,
+                           bool) { return axis.Place(XData().max, IsFollowMode() ? kNewestShare : 1); });
 }
 
 bool ChartView::Back() {

@@ -19,12 +19,11 @@ constexpr AxisSet kAxisX = 1;
 constexpr AxisSet kAxesY = 6; ///< both Y axes; the user always moves them together
 constexpr AxisSet kAllAxes = kAxisX | kAxesY;
 
-/// How an axis finds the range that it shows while it is not moved, its home range.
+/// The home range of an axis.
 enum class ScaleMode {
-    Whole,   ///< all data; the caller finds the range (SetHome)
-    Visible, ///< Y only: the data inside the visible range of X; the caller finds the range (SetHome)
-    Fixed,   ///< a range of the host's choice
-    Follow,  ///< X only: a range of the width that the host chose, which moves with the newest data
+    Whole,   ///< all data
+    Visible, ///< Y axes: the data inside the visible range of X
+    Follow,  ///< X: all data; the range of an axis that is moved follows the newest data
 };
 
 /// What the user does. A run of wheel turns, or of keys, with pauses of at most half a second counts as one
@@ -46,9 +45,9 @@ struct ViewBox {
 /// Moves outside of a gesture are the host's and leave no entry. Times are in milliseconds of any clock that
 /// wraps at 2^32.
 ///
-/// In the mode Follow the newest data is the largest X. While it is visible, new data moves the view so that the
-/// newest data lies at nine tenths of the width at most. When the user has moved it out of sight, the view stays;
-/// when it is brought into sight, the view follows again. During a gesture the view does not follow.
+/// In the mode Follow the newest data, that with the largest X, moves the view. While it is visible, new data moves
+/// the view so that the newest data lies at nine tenths of the width at most. When the user has moved it out of sight,
+/// the view stays; when it is brought into sight, the view follows again. During a gesture the view does not follow.
 ///
 /// The results of the functions that move the view say whether a visible range changed.
 class ChartView {
@@ -56,22 +55,13 @@ public:
     const ViewAxis& Axis(ChartAxis axis) const { return m_axes[Index(axis)]; }
     ScaleMode Mode(ChartAxis axis) const { return m_modes[Index(axis)]; }
 
-    // ---- The host's choices. They end a gesture, and the axis shows its home range. ----
-
-    /// `mode` is Whole or Visible.
-    bool SetAutomatic(ChartAxis axis, ScaleMode mode);
-    bool SetFixed(ChartAxis axis, const ViewRange& range);
-    /// Lets X follow the newest data with a range of `width`. If `width` is not positive, the home range is
-    /// found as in the mode Whole, and the view follows after it has been moved.
-    bool SetFollow(double width);
-    /// Changes the kind of an axis and forgets the history.
+    /// Sets the mode; a gesture ends. The axis shows its home range, but in the mode Follow it keeps its width and
+    /// goes to the newest data.
+    bool SetMode(ChartAxis axis, ScaleMode mode);
+    /// Changes the kind of an axis, which then shows its home range, and forgets the history.
     bool SetLogarithmic(ChartAxis axis, bool isLogarithmic);
-
-    // ---- What the caller finds out about the data ----
-
-    /// Whether the caller must find the home range of the axis and tell it with SetHome.
-    bool NeedsHome(ChartAxis axis) const;
-    bool SetHome(ChartAxis axis, const ViewRange& home);
+    /// Sets the range of an axis that is not moved, as the caller found it.
+    bool SetHome(ChartAxis axis, const ViewRange& home) { return m_axes[Index(axis)].SetHome(home); }
     /// Sets the bounds of all data of an axis, on a logarithmic axis of the positive data. The view follows new
     /// bounds of X.
     bool SetData(ChartAxis axis, const ValueBounds& data);
@@ -124,13 +114,11 @@ private:
     State Save() const;
     bool Restore(const State& state);
     bool IsAt(const State& state) const;
-    void SetFollowHome();
     bool CatchUp();
     template <class Move> bool MoveAxes(AxisSet axes, Move move);
 
     std::array<ViewAxis, kAxes> m_axes;
     std::array<ScaleMode, kAxes> m_modes{};
-    double m_followWidth = 0;
     bool m_isFollowing = true; ///< whether new data moves X, in the mode Follow
 
     bool m_isInGesture = false;

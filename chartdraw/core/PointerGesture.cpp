@@ -70,9 +70,7 @@ DragBox BoxBetween(const Rect& plot, Point from, Point to, AxisSet allowed, int 
     }
     const bool isWide = (box.axes & kAxisX) != 0 && right - left > least;
     const bool isHigh = (box.axes & kAxesY) != 0 && bottom - top > least;
-    if (!isWide && !isHigh)
-        box.axes = 0;
-    return box;
+    return isWide || isHigh ? box : DragBox{};
 }
 
 double WheelFactor(int delta) {

@@ -54,7 +54,7 @@ private:
 
 /// The part of the plot that a box chooses.
 struct DragBox {
-    AxisSet axes = 0; ///< the axes that the box zooms; 0 when the box is too small
+    AxisSet axes = 0; ///< the axes that the box zooms; 0, with an empty area, when the box is too small
     Rect area;        ///< the plot's whole width or height for an axis that the box does not zoom
 };
 

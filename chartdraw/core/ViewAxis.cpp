@@ -122,11 +122,10 @@ bool ViewAxis::Show(const Span& span) {
     return Range() != before;
 }
 
-/// Shows a range of the width `width` from `min` + `rest`, or the nearest one inside the reach.
-bool ViewAxis::ShowWithin(double min, double width, double rest) {
+/// Shows a range of the width `width` from `min` + `rest`, or the nearest one inside `reach`.
+bool ViewAxis::ShowWithin(const Span& reach, double min, double width, double rest) {
     if (std::isnan(min) || std::isnan(width))
         return false;
-    const Span reach = Reach();
     const auto place = [&](double wanted, double wantedWidth) {
         width = std::min(wantedWidth, reach.width);
         min = std::clamp(wanted, reach.min, reach.max - width);
@@ -152,7 +151,7 @@ bool ViewAxis::Zoom(double share, double factor) {
     const Span now = Shown();
     const double narrowest = std::min(NarrowestAt(now.min + share * now.width, 0), now.width);
     const double width = std::min(std::max(now.width * factor, narrowest), Reach().width);
-    return ShowWithin(now.min + (now.rest + share * (now.width - width)), width, 0);
+    return ShowWithin(Reach(), now.min + (now.rest + share * (now.width - width)), width, 0);
 }
 
 bool ViewAxis::Pan(double share) {
@@ -162,17 +161,17 @@ bool ViewAxis::Pan(double share) {
     const double min = now.min + step;
     const double added = min - now.min;
     const double rest = (now.min - (min - added)) + (step - added);
-    return ShowWithin(min, now.width, rest);
+    return ShowWithin(Reach(), min, now.width, rest);
 }
 
 bool ViewAxis::ZoomTo(double from, double to) {
     const Span& now = Shown();
-    return ShowWithin(now.min + std::min(from, to) * now.width, std::abs(to - from) * now.width, 0);
+    return ShowWithin(Reach(), now.min + std::min(from, to) * now.width, std::abs(to - from) * now.width, 0);
 }
 
 bool ViewAxis::Place(double value, double share) {
     const double width = Shown().width;
-    return ShowWithin(ToScale(value) - share * width, width, 0);
+    return ShowWithin(Between(-Limit(), Limit()), ToScale(value) - share * width, width, 0);
 }
 
 bool ViewAxis::Restore(const State& state) {

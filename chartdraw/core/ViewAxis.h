@@ -78,7 +78,7 @@ public:
     bool Pan(double share);
     /// Shows the range between two shares, in any order.
     bool ZoomTo(double from, double to);
-    /// Moves the range so that `value` lies at `share`.
+    /// Moves the range so that `value` lies at `share`, also outside of the reach.
     bool Place(double value, double share);
 
     State Save() const { return {IsMoved(), Shown()}; }
@@ -96,7 +96,7 @@ private:
     double FromScale(double position) const;
     Span SpanOf(const ViewRange& range) const;
     Span Reach() const;
-    bool ShowWithin(double min, double width, double rest);
+    bool ShowWithin(const Span& reach, double min, double width, double rest);
     bool Show(const Span& span);
 
     bool m_isLogarithmic = false;

@@ -20,6 +20,8 @@ class PostQueue;        // chartdraw/core/PostQueue.h: points of other threads
 /// Drawing: PaintBkGnd, DrawTitle, DrawGrid (grid, then DrawBands), DrawDatasets, DrawAxes, DrawYScale (both Y axes),
 /// DrawXScale (X axis, then DrawOverlay).
 struct ChartDrawState {
+    using ChartDataset = CChartDraw::Dataset; ///< for functions that are no friends of CChartDraw
+
     explicit ChartDrawState(CChartDraw& chart);
     ~ChartDrawState();
 

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// ChartDrawState: paints the legend.
+#include <kavlix/ChartDraw.h>
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/ChartDrawState.h"
+#include "chartdraw/ChartLegendState.h"
+#include "gdi/Colors.h"
+#include "gdi/Guards.h"
+#include "gdi/Markers.h"
+#include "gdi/ShapeConversion.h"
+
+using namespace kavlix;
+
+namespace {
+
+constexpr int kPale = 55;      // percent of the background in the texts of hidden datasets
+constexpr int kHighlight = 82; // percent of the background behind the row under the mouse
+constexpr int kAreaPale = 70;  // percent of the background in a filled area
+constexpr int kWidestSwatchLine = 8;
+constexpr int kMarkerHalf = 3;
+
+void DrawPath(CDC& dc, std::initializer_list<CPoint> points) {
+    dc.Polyline(points.begin(), static_cast<int>(points.size()));
+}
+
+/// The bars of a swatch, from left to right.
+template <class Draw> void ForBars(const CRect& box, Draw draw) {
+    constexpr int kBars = 3;
+    const int step = std::max(box.Width() / kBars, 2);
+    const int heights[kBars] = {box.Height() * 2 / 3, box.Height(), box.Height() / 2};
+    for (int i = 0; i < kBars; ++i)
+        draw(CRect(CPoint(box.left + i * step, box.bottom - heights[i]), CSize(step - 1, heights[i])));
+}
+
+} // namespace
+
+void ChartLegendState::DrawSwatch(CDC& dc, const CRect& box, const ChartDrawState::ChartDataset& dataset,
+                                  COLORREF background) {
+    const int size = std::clamp(dataset.lineSize, 1, std::max(std::min(kWidestSwatchLine, box.Height()), 1));
+    const COLORREF fill = dataset.fillColor != CLR_NONE ? dataset.fillColor
+                          : dataset.style == CChartDraw::StyleFill
+                              ? MixColors(dataset.color, background, kAreaPale)
+                              : dataset.color;
+    CBrush brush;
+    brush.CreateSolidBrush(fill);
+    CPen pen;
+    pen.CreatePen(PS_SOLID, size, dataset.color);
+    CPen thin;
+    thin.CreatePen(PS_SOLID, 1, dataset.color);
+    SavedDcGuard saved(dc);
+    Select(dc, ::GetStockObject(NULL_BRUSH));
+    const CPoint middle = box.CenterPoint();
+    const bool isArea = dataset.style == CChartDraw::StyleBars || dataset.style == CChartDraw::StyleFill;
+    const bool hasMarker = HasShape(dataset.markerType);
+    if (!dataset.visible) {
+        Select(dc, thin);
+        dc.Rectangle(box);
+        return;
+    }
+    if (dataset.style == CChartDraw::StyleBars)
+        ForBars(box, [&](const CRect& bar) { dc.FillRect(bar, &brush); });
+    else if (dataset.style == CChartDraw::StyleFill)
+        dc.FillRect(CRect(box.left, middle.y, box.right, box.bottom), &brush);
+    else if (!dataset.showLine && !hasMarker)
+        dc.FillRect(box, &brush);
+    const int left = box.left + size / 2; // round ends extend by half of the line's width
+    const int right = box.right - size / 2;
+    Select(dc, pen);
+    if (dataset.showLine && dataset.style == CChartDraw::StyleImpulses)
+        ForBars(box, [&](const CRect& bar) {
+            DrawPath(dc, {CPoint(bar.CenterPoint().x, bar.top), CPoint(bar.CenterPoint().x, bar.bottom)});
+        });
+    else if (dataset.showLine && dataset.style == CChartDraw::StyleStep)
+        DrawPath(dc,
+                 {CPoint(left, middle.y + box.Height() / 4), CPoint(middle.x, middle.y + box.Height() / 4),
+                  CPoint(middle.x, middle.y - box.Height() / 4), CPoint(right, middle.y - box.Height() / 4)});
+    else if (dataset.showLine && (!isArea || dataset.style == CChartDraw::StyleFill))
+        DrawPath(dc, {CPoint(left, middle.y), CPoint(right, middle.y)});
+    Select(dc, thin);
+    if (hasMarker)
+        DrawMarker(dc, dataset.markerType, middle.x, middle.y, kMarkerHalf, 1);
+}
+
+void ChartDrawState::DrawLegend(CDC& dc) {
+    const ChartLegendState& state = *legend.m_State;
+    if (state.rect.IsRectEmpty())
+        return;
+    CBrush brush;
+    brush.CreateSolidBrush(state.background);
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 1, state.border);
+    CFont font;
+    MakeTextFont(font);
+    SavedDcGuard saved(dc);
+    Select(dc, brush);
+    Select(dc, pen);
+    Select(dc, font);
+    dc.Rectangle(state.rect);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextAlign(TA_LEFT | TA_TOP);
+    dc.IntersectClipRect(state.rect); // texts on a printer can be wider than those that were measured
+    for (int i = 0; i < state.layout.Count(); ++i) {
+        const ChartLegendState::Row& row = state.rows[static_cast<std::size_t>(i)];
+        if (row.dataset >= DatasetCount())
+            break;
+        const ChartDrawState::ChartDataset& dataset = Dataset(row.dataset);
+        const CRect place = ToCRect(state.layout.Row(i)) + state.rect.TopLeft();
+        if (row.dataset == state.highlighted) {
+            CBrush highlight;
+            highlight.CreateSolidBrush(MixColors(dataset.color, state.background, kHighlight));
+            dc.FillRect(place, &highlight);
+        }
+        CRect swatch(place.TopLeft(), CSize(state.swatchWidth, place.Height()));
+        swatch.DeflateRect(1, place.Height() / 5);
+        ChartLegendState::DrawSwatch(dc, swatch, dataset, state.background);
+        dc.SetTextColor(dataset.visible ? state.textColor
+                                        : MixColors(state.textColor, state.background, kPale));
+        DrawTextAt(dc, place.right - state.layout.TextRoom(i),
+                   place.top + (place.Height() - TextHeight()) / 2, row.text);
+    }
+}

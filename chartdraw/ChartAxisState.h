@@ -1,8 +1,18 @@
 // SPDX-License-Identifier: MIT
-// What a host has set for an axis of a chart.
+// What a host has set for an axis of a chart, and what the layout finds for it.
 #pragma once
 
 #include <kavlix/ChartDraw.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "chartdraw/AxisLayout.h"
+#include "chartdraw/TextWidths.h"
+#include "chartdraw/TickTexts.h"
+#include "chartdraw/TimeZones.h"
 
 namespace kavlix {
 
@@ -21,6 +31,28 @@ struct ChartAxisState {
     CChartAxis::LabelFunction label;
     double origin = 0;
     bool alwaysShown = false;
+    AxisZone zone;
+
+    AxisLayout layout;
+    TextWidths widths;
+    /// Widths of the labels of time steps, by unit and count.
+    std::map<std::pair<TimeStep::Unit, std::int64_t>, TimeLabelWidths> stepWidths;
+
+    /// The font in which widths are measured from now on.
+    void UseFont(int pixels, const CString& face) {
+        if (widths.UseFont(pixels, face))
+            stepWidths.clear();
+    }
+
+    /// Texts of times, made when the first time axis is laid out.
+    const TickTexts& Texts() {
+        if (!texts)
+            texts = std::make_unique<TickTexts>();
+        return *texts;
+    }
+
+private:
+    std::unique_ptr<TickTexts> texts;
 };
 
 } // namespace kavlix

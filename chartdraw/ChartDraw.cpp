@@ -10,7 +10,6 @@
 #include "chartdraw/ChartDrawState.h"
 #include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
-#include "plot/RoundScale.h"
 
 using namespace kavlix;
 
@@ -22,9 +21,7 @@ BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
     ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
 END_MESSAGE_MAP()
 
-CChartDraw::CChartDraw()
-    : m_State(std::make_unique<ChartDrawState>(*this)), m_XScale(std::make_unique<RoundScale>()),
-      m_YScale(std::make_unique<RoundScale>()) {
+CChartDraw::CChartDraw() : m_State(std::make_unique<ChartDrawState>(*this)) {
 }
 
 CChartDraw::~CChartDraw() = default;
@@ -79,18 +76,6 @@ BOOL CChartDraw::FixScale(FixedScale& scale, double dMin, double dMax, double dS
     scale = {true, dMin, dMax, dStep};
     m_Changed = true;
     return TRUE;
-}
-
-void CChartDraw::GetXScale(double& dMin, double& dMax, double& dStep) const {
-    dMin = m_XScale->Min();
-    dMax = m_XScale->Max();
-    dStep = m_XScale->Step();
-}
-
-void CChartDraw::GetYScale(double& dMin, double& dMax, double& dStep) const {
-    dMin = m_YScale->Min();
-    dMax = m_YScale->Max();
-    dStep = m_YScale->Step();
 }
 
 void CChartDraw::SetTitle(CString text) {

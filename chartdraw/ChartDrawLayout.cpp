@@ -4,36 +4,62 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "chartdraw/AxisTicks.h"
+#include "chartdraw/ChartAxisState.h"
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartText.h"
 #include "gdi/Guards.h"
+#include "plot/NumberFormat.h"
 #include "plot/RoundScale.h"
 
 using namespace kavlix;
 
 namespace {
 
-constexpr double kCaptionGap = 0.3; // text heights between a caption and the scale beside it
-constexpr double kYLabelRoom = 2.5; // text heights from a Y label's top to the next one's, if possible
-constexpr double kXLabelGap = 1.2;  // text heights between two X labels, if possible
 // Text heights: if the plot is narrower or lower, captions, title and scales are left out, in this order.
 constexpr double kSmallestPlot = 4;
 
 constexpr int kTenthsOfPointPerInch = 720;
-constexpr int kMostTicks = 100;
 
-int WidestLabel(CDC& dc, const RoundScale& scale) {
-    int widest = 0;
-    for (int i = 0; i < std::min(scale.TickCount(), kMostTicks); ++i)
-        widest = std::max(widest, TextWidth(dc, scale.Label(i)));
-    return widest;
-}
+/// Keeps the ticks of all axes and gives them back unless the layout is complete.
+class KeptLayouts {
+public:
+    explicit KeptLayouts(ChartDrawState& state) : m_state(state) {
+        for (int axis = 0; axis < ChartDrawState::kAxes; ++axis)
+            m_kept[axis] = std::move(state.AxisState(axis).layout);
+    }
+    KeptLayouts(const KeptLayouts&) = delete;
+    KeptLayouts& operator=(const KeptLayouts&) = delete;
+    ~KeptLayouts() {
+        for (int axis = 0; axis < ChartDrawState::kAxes && !m_isComplete; ++axis)
+            m_state.AxisState(axis).layout = std::move(m_kept[axis]);
+    }
+    void Complete() { m_isComplete = true; }
 
-/// Number of steps of `room` pixels that fit into `length` pixels, limited to 2 to kMostTicks.
-int StepsIn(int length, double room) {
-    return std::clamp(static_cast<int>(length / std::max(room, 1.0)), 2, kMostTicks);
+private:
+    ChartDrawState& m_state;
+    AxisLayout m_kept[ChartDrawState::kAxes];
+    bool m_isComplete = false;
+};
+
+/// The range of a logarithmic axis around values above 0: from 1, 2 or 5 times a power of ten to another one.
+ValueBounds RoundDecades(const ValueBounds& values) {
+    const auto round = [](double value, bool isUp) {
+        const int exponent = ExponentOf(value);
+        double best = Scaled(isUp ? 10 : 1, -exponent);
+        for (const double mantissa : {1.0, 2.0, 5.0}) {
+            const double candidate = Scaled(mantissa, -exponent);
+            if (isUp ? candidate >= value && candidate < best : candidate <= value && candidate > best)
+                best = candidate;
+        }
+        return best;
+    };
+    const double min = round(values.min, false);
+    const double max = round(values.max, true);
+    return min < max ? ValueBounds{min, max} : ValueBounds{min / 10, max * 10};
 }
 
 } // namespace
@@ -44,19 +70,19 @@ void CChartDraw::CalcDatas() {
     m_Changed = true;
     const CRect chart = m_rectChart;
     const CRect plot = m_rectPlot;
-    const RoundScale xScale = *m_XScale;
-    const RoundScale yScale = *m_YScale;
+    KeptLayouts layouts(*m_State);
     try {
         Calculate();
     } catch (...) {
         m_rectChart = chart;
         m_rectPlot = plot;
-        *m_XScale = xScale;
-        *m_YScale = yScale;
         throw;
     }
+    layouts.Complete();
     m_CalcSize = m_rectChart.Size();
     m_Changed = false;
+    for (int axis = 0; axis < AxisCount(); ++axis)
+        m_State->LaidOut(axis, m_State->Layout(axis).min, m_State->Layout(axis).max);
 }
 
 void CChartDraw::Calculate() {
@@ -77,6 +103,8 @@ void CChartDraw::Calculate() {
     makeFont(font, false);
     SelectGuard selected(dc, font);
     m_TextHeight = TextHeight(dc);
+    for (int axis = 0; axis < ChartDrawState::kAxes; ++axis)
+        m_State->AxisState(axis).UseFont(m_FontPixels, m_FontFace);
 
     // In a small window the plot has priority: leave out one part after the other until the
     // plot is large enough.
@@ -92,57 +120,105 @@ void CChartDraw::Calculate() {
     m_State->PlaceLegend(dc);
 }
 
+int CChartDraw::AxisCount() const {
+    return m_State->HasSecondYAxis() ? ChartDrawState::kAxes : ChartDrawState::kY2;
+}
+
+int CChartDraw::CaptionGap() const {
+    return static_cast<int>(kCaptionGap * m_TextHeight);
+}
+
+int CChartDraw::ScaleRoom(int axis) const {
+    if (!m_ShowScales)
+        return 0;
+    const bool isTime = m_State->Axis(axis).GetKind() == CChartAxis::Time;
+    const int labels =
+        axis == ChartDrawState::kX ? m_TextHeight * (isTime ? 2 : 1) : m_State->Layout(axis).WidestLabel();
+    return kTickLength + kTickLabelGap + labels;
+}
+
 void CChartDraw::LayOut(CDC& dc) {
-    const auto heights = [&](double count) { return static_cast<int>(count * m_TextHeight); };
-    const int margin = heights(kChartMargin);
+    const auto hasCaption = [&](int axis) {
+        return m_ShowCaptions && !m_State->Caption(axis).IsEmpty();
+    };
+    const int margin = static_cast<int>(kChartMargin * m_TextHeight);
+    const int caption = m_TextHeight + CaptionGap();
+    const bool hasY2 = AxisCount() > ChartDrawState::kY2;
     CRect plot = m_rectChart;
     plot.DeflateRect(margin, margin);
     if (m_ShowTitle && !m_Title.IsEmpty())
         plot.top += m_TitleHeight + margin;
     m_State->LayOutLegend(dc, plot);
-    if (m_ShowCaptions && !m_XLabel.IsEmpty())
-        plot.bottom -= m_TextHeight + heights(kCaptionGap);
-    if (m_ShowCaptions && !m_YLabel.IsEmpty())
-        plot.left += m_TextHeight + heights(kCaptionGap);
-    if (m_ShowScales)
-        plot.bottom -= kTickLength + kTickLabelGap + m_TextHeight;
+    const int right = plot.right;
+    if (hasCaption(ChartDrawState::kX))
+        plot.bottom -= caption;
+    if (hasCaption(ChartDrawState::kY))
+        plot.left += caption;
+    if (hasY2 && hasCaption(ChartDrawState::kY2))
+        plot.right -= caption;
+    plot.bottom -= ScaleRoom(ChartDrawState::kX);
 
-    *m_YScale = FindScale(false, StepsIn(plot.Height(), kYLabelRoom * m_TextHeight));
-    if (m_ShowScales)
-        plot.left += WidestLabel(dc, *m_YScale) + kTickLabelGap + kTickLength;
-    FitXScale(dc, plot.Width());
-    // The last X label is centred on the plot's right edge. Half a margin stays free to the right of it.
-    if (m_ShowScales && m_XScale->TickCount() > 0) {
-        const int half = TextWidth(dc, m_XScale->Label(m_XScale->TickCount() - 1)) / 2;
-        plot.right -= std::max(0, half - margin / 2);
+    FindTicks(dc, ChartDrawState::kY, plot.Height());
+    plot.left += ScaleRoom(ChartDrawState::kY);
+    if (hasY2) {
+        FindTicks(dc, ChartDrawState::kY2, plot.Height());
+        plot.right -= ScaleRoom(ChartDrawState::kY2);
+    }
+    FindTicks(dc, ChartDrawState::kX, plot.Width());
+    // The last X label is centred on the plot's right edge. Half a margin stays free to the right of it. In other
+    // ranges the last label lies anywhere, and the plot keeps its width.
+    const AxisLayout& x = m_State->Layout(ChartDrawState::kX);
+    if (m_ShowScales && !x.ticks.empty() && !m_State->RangeOf(ChartDrawState::kX).isExact &&
+        m_State->xAxis.GetKind() != CChartAxis::Time) {
+        const int half = x.ticks.back().width / 2;
+        plot.right = std::min<int>(plot.right, right - half + margin / 2);
     }
     if (plot.right <= plot.left || plot.bottom <= plot.top)
         plot.SetRectEmpty();
     m_rectPlot = plot;
 }
 
-void CChartDraw::FitXScale(CDC& dc, int width) {
-    double refused = 0; // the last step whose labels did not fit
-    for (int steps = StepsIn(width, 2 * m_TextHeight); steps >= 2; --steps) {
-        *m_XScale = FindScale(true, steps);
-        if (m_XScale->Step() == refused)
-            continue;
-        refused = m_XScale->Step();
-        const double distance = refused / (m_XScale->Max() - m_XScale->Min()) * width;
-        if (WidestLabel(dc, *m_XScale) + kXLabelGap * m_TextHeight <= distance)
-            break;
-    }
-}
+void CChartDraw::FindTicks(CDC& dc, int axis, int length) {
+    ChartAxisState& state = m_State->AxisState(axis);
+    const AxisRoom room = {length, m_TextHeight, axis == ChartDrawState::kX,
+                           [&](const CString& text) { return state.widths.Of(dc, text); }};
+    const FixedScale none; // the second Y axis has no SetYScale
+    const FixedScale& fixed = axis == ChartDrawState::kX   ? m_XFixed
+                              : axis == ChartDrawState::kY ? m_YFixed
+                                                           : none;
+    const ChartDrawState::WantedRange range = m_State->RangeOf(axis);
+    ValueBounds values;
+    if (!range.isExact && !fixed.fixed)
+        values = m_State->DataBounds(axis);
 
-RoundScale CChartDraw::FindScale(bool x, int mostSteps) const {
-    const FixedScale& fixed = x ? m_XFixed : m_YFixed;
-    if (fixed.fixed)
-        return RoundScale::Fixed(fixed.min, fixed.max, fixed.step, mostSteps);
-    ValueBounds bounds;
-    for (const auto& dataset : m_Datasets)
-        if (dataset->visible)
-            bounds.Add(x ? dataset->points.XBounds() : dataset->points.YBounds());
-    return RoundScale::Around(bounds, mostSteps);
+    if (state.kind == CChartAxis::Linear) {
+        state.layout = FindLinearTicks(state, room, [&](int mostSteps) {
+            if (range.isExact)
+                return RoundScale::Fixed(range.min, range.max, 0, mostSteps);
+            return fixed.fixed ? RoundScale::Fixed(fixed.min, fixed.max, fixed.step, mostSteps)
+                               : RoundScale::Around(values, mostSteps);
+        });
+        return;
+    }
+    ValueBounds shown = range.isExact ? ValueBounds{range.min, range.max} : values;
+    if (!range.isExact && fixed.fixed)
+        shown = {fixed.min, fixed.max};
+    if (state.kind == CChartAxis::Logarithmic) {
+        // Nothing above 0: any decade.
+        if (shown.IsEmpty() || !(shown.max > 0))
+            shown = {1, 10};
+        if (!(shown.min > 0))
+            shown.min = shown.max / 1000;
+        if (!range.isExact && !fixed.fixed)
+            shown = RoundDecades(shown);
+        state.layout = FindLogTicks(state, room, shown.min, shown.max);
+        return;
+    }
+    if (shown.IsEmpty())
+        shown = {0, 1};
+    if (!(shown.min < shown.max)) // a single time
+        shown = {shown.min - 1, shown.min + 1};
+    state.layout = FindTimeTicks(state, room, shown.min, shown.max);
 }
 
 BOOL CChartDraw::MakeTextFont(CFont& font, int escapement, bool title) const {

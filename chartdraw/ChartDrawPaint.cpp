@@ -6,13 +6,15 @@
 #include <memory>
 #include <utility>
 
+#include "chartdraw/ChartAxisState.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartText.h"
 #include "gdi/Guards.h"
 #include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
-#include "plot/LinearMap.h"
-#include "plot/RoundScale.h"
+#include "gdi/Text.h"
+#include "plot/AxisMap.h"
+#include "plot/LabelRow.h"
 
 using namespace kavlix;
 
@@ -25,15 +27,11 @@ void DrawStroke(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.LineTo(x2, y2);
 }
 
-/// Calls `draw(tick, position)` for every tick of a scale that has a position on `map`.
-template <class Draw> void ForTicks(const RoundScale& scale, const LinearMap& map, Draw draw) {
-    for (int i = 0; i < scale.TickCount(); ++i)
-        if (const auto position = map.Position(scale.Tick(i)))
-            draw(i, *position);
-}
-
-bool GoesThroughZero(const RoundScale& scale, int tick) {
-    return scale.Tick(tick) == 0 && scale.Min() < 0 && scale.Max() > 0;
+/// Calls `draw(label, position)` for every label that has a position on `map`.
+template <class Draw> void ForLabels(const std::vector<AxisLabel>& labels, const AxisMap& map, Draw draw) {
+    for (const AxisLabel& label : labels)
+        if (const auto position = map.Position(label.value))
+            draw(label, *position);
 }
 
 /// Draws a text centred in `inner`, or in `outer` if `inner` is too narrow. A text that is too wide for both
@@ -94,11 +92,11 @@ void CChartDraw::DrawChart(CDC& dc) {
 }
 
 LinearMap CChartDraw::XMap() const {
-    return LinearMap(m_XScale->Min(), m_XScale->Max(), m_rectPlot.left, m_rectPlot.Width() - 1);
+    return m_State->Map(ChartDrawState::kX).Linear();
 }
 
 LinearMap CChartDraw::YMap() const {
-    return LinearMap(m_YScale->Min(), m_YScale->Max(), m_rectPlot.bottom - 1, -(m_rectPlot.Height() - 1));
+    return m_State->Map(ChartDrawState::kY).Linear();
 }
 
 void CChartDraw::PaintBkGnd(CDC& dc) {
@@ -133,16 +131,19 @@ void CChartDraw::DrawGrid(CDC& dc) {
     // The lines at 0 are drawn last, in front of the others.
     for (const bool zero : {false, true}) {
         Select(dc, zero ? zeroPen : gridPen);
-        if (m_GridX)
-            ForTicks(*m_XScale, XMap(), [&](int tick, int x) {
-                if (GoesThroughZero(*m_XScale, tick) == zero)
-                    DrawStroke(dc, x, m_rectPlot.top, x, m_rectPlot.bottom);
+        for (const int axis : {ChartDrawState::kX, ChartDrawState::kY}) {
+            if (!(axis == ChartDrawState::kX ? m_GridX : m_GridY))
+                continue;
+            const AxisLayout& layout = m_State->Layout(axis);
+            ForLabels(layout.ticks, m_State->Map(axis), [&](const AxisLabel& tick, int at) {
+                if ((tick.value == 0 && layout.goesThroughZero) != zero)
+                    return;
+                if (axis == ChartDrawState::kX)
+                    DrawStroke(dc, at, m_rectPlot.top, at, m_rectPlot.bottom);
+                else
+                    DrawStroke(dc, m_rectPlot.left, at, m_rectPlot.right, at);
             });
-        if (m_GridY)
-            ForTicks(*m_YScale, YMap(), [&](int tick, int y) {
-                if (GoesThroughZero(*m_YScale, tick) == zero)
-                    DrawStroke(dc, m_rectPlot.left, y, m_rectPlot.right, y);
-            });
+        }
     }
     m_State->DrawBands(dc);
 }
@@ -152,38 +153,50 @@ void CChartDraw::DrawAxes(CDC& dc) {
         return;
     CPen pen;
     pen.CreatePen(PS_SOLID, 0, m_AxisColor);
-    CFont font;
-    MakeTextFont(font, 0, false);
-    CFont upFont;
-    MakeTextFont(upFont, kUpwards, false);
     SavedDcGuard saved(dc);
     Select(dc, pen);
     DrawStroke(dc, m_rectPlot.left, m_rectPlot.top, m_rectPlot.left, m_rectPlot.bottom);
     DrawStroke(dc, m_rectPlot.left, m_rectPlot.bottom - 1, m_rectPlot.right, m_rectPlot.bottom - 1);
-    if (!m_ShowCaptions)
-        return;
+    if (AxisCount() > ChartDrawState::kY2)
+        DrawStroke(dc, m_rectPlot.right - 1, m_rectPlot.top, m_rectPlot.right - 1, m_rectPlot.bottom);
+    if (m_ShowCaptions)
+        DrawCaptions(dc);
+}
+
+void CChartDraw::DrawCaptions(CDC& dc) const {
+    const auto caption = [&](int axis) {
+        return axis < AxisCount() ? m_State->Caption(axis) : CString();
+    };
     dc.SetBkMode(TRANSPARENT);
     const int margin = static_cast<int>(kChartMargin * m_TextHeight);
     CRect room = m_rectChart;
     room.DeflateRect(margin, margin);
-    if (!m_XLabel.IsEmpty()) {
-        Select(dc, font);
+    if (const CString x = caption(ChartDrawState::kX); !x.IsEmpty()) {
+        CFont font;
+        MakeTextFont(font, 0, false);
+        SelectGuard selected(dc, font);
         dc.SetTextColor(m_XLabelColor);
-        DrawWithin(dc, m_rectPlot, room, room.bottom - m_TextHeight, m_XLabel);
+        DrawWithin(dc, m_rectPlot, room, m_rectPlot.bottom + ScaleRoom(ChartDrawState::kX) + CaptionGap(), x);
+        room.bottom -= m_TextHeight + margin;
     }
-    if (!m_YLabel.IsEmpty()) {
-        Select(dc, upFont);
-        dc.SetTextColor(m_YLabelColor);
-        if (m_ShowTitle && !m_Title.IsEmpty())
-            room.top += m_TitleHeight + margin;
-        if (!m_XLabel.IsEmpty())
-            room.bottom -= m_TextHeight + margin;
-        DrawWithin(dc, m_rectPlot, room, room.left, m_YLabel, true);
-    }
+    const CString y = caption(ChartDrawState::kY);
+    const CString y2 = caption(ChartDrawState::kY2);
+    if (y.IsEmpty() && y2.IsEmpty())
+        return;
+    CFont font;
+    MakeTextFont(font, kUpwards, false);
+    SelectGuard selected(dc, font);
+    dc.SetTextColor(m_YLabelColor);
+    if (m_ShowTitle && !m_Title.IsEmpty())
+        room.top += m_TitleHeight + margin;
+    if (!y.IsEmpty())
+        DrawWithin(dc, m_rectPlot, room, room.left, y, true);
+    if (!y2.IsEmpty())
+        DrawWithin(dc, m_rectPlot, room, m_rectPlot.right + ScaleRoom(ChartDrawState::kY2) + CaptionGap(), y2,
+                   true);
 }
 
-void CChartDraw::DrawScale(CDC& dc, COLORREF textColor, UINT align,
-                           const std::function<void()>& drawTicks) const {
+void CChartDraw::DrawScale(CDC& dc, COLORREF textColor, const std::function<void()>& drawTicks) const {
     if (!m_ShowScales || m_rectPlot.IsRectEmpty())
         return;
     CPen pen;
@@ -195,38 +208,85 @@ void CChartDraw::DrawScale(CDC& dc, COLORREF textColor, UINT align,
     Select(dc, font);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(textColor);
-    dc.SetTextAlign(align);
     drawTicks();
 }
 
 void CChartDraw::DrawXScale(CDC& dc) {
-    int free = m_rectChart.left; // least x at which the next label may begin
-    DrawScale(dc, m_XTickLabelColor, TA_CENTER | TA_TOP, [&] {
-        ForTicks(*m_XScale, XMap(), [&](int tick, int x) {
-            DrawStroke(dc, x, m_rectPlot.bottom, x, m_rectPlot.bottom + kTickLength);
-            const std::string label = m_XScale->Label(tick);
-            const int half = TextWidth(dc, label) / 2;
-            if (x - half < free || x + half > m_rectChart.right)
-                return;
-            DrawTextAt(dc, x, m_rectPlot.bottom + kTickLength + kTickLabelGap, CString(label.c_str()));
-            free = x + half + m_TextHeight / 2;
+    DrawScale(dc, m_XTickLabelColor, [&] {
+        const AxisLayout& layout = m_State->Layout(ChartDrawState::kX);
+        const AxisMap map = m_State->Map(ChartDrawState::kX);
+        const int bottom = m_rectPlot.bottom;
+        for (const double value : layout.minorTicks)
+            if (const auto x = map.Position(value))
+                DrawStroke(dc, *x, bottom, *x, bottom + kMinorTickLength);
+        dc.SetTextAlign(TA_CENTER | TA_TOP);
+        const int top = bottom + kTickLength + kTickLabelGap;
+        LabelRow row(m_rectChart.left, m_rectChart.right, m_TextHeight / 2);
+        ForLabels(layout.ticks, map, [&](const AxisLabel& label, int x) {
+            DrawStroke(dc, x, bottom, x, bottom + kTickLength);
+            const int half = label.width / 2;
+            if (row.Take(x - half, 2 * half))
+                DrawTextAt(dc, x, top, label.text);
         });
+        dc.SetTextAlign(TA_LEFT | TA_TOP);
+        LabelRow periods(m_rectChart.left, m_rectChart.right, m_TextHeight / 2);
+        const auto draw = [&](const AxisLabel& label, int left) {
+            if (const auto place = periods.TakeNear(left, label.width))
+                DrawTextAt(dc, *place, top + m_TextHeight, label.text);
+        };
+        ForLabels(layout.periods, map,
+                  [&](const AxisLabel& label, int x) { draw(label, x - label.width / 2); });
+        // The date at the beginning of the view, unless another date needs the place.
+        if (!layout.start.text.IsEmpty())
+            draw(layout.start, layout.isInverted ? m_rectPlot.right - layout.start.width : m_rectPlot.left);
+        DrawNote(dc, ChartDrawState::kX);
     });
     m_State->DrawOverlay(dc);
 }
 
 void CChartDraw::DrawYScale(CDC& dc) {
-    const int right = m_rectPlot.left - kTickLength;
-    int free = m_rectChart.bottom + m_TextHeight; // greatest y at which the next label may end
-    DrawScale(dc, m_YTickLabelColor, TA_RIGHT | TA_TOP, [&] {
-        ForTicks(*m_YScale, YMap(), [&](int tick, int y) {
-            DrawStroke(dc, right, y, m_rectPlot.left, y);
-            const int top = y - m_TextHeight / 2;
-            if (top + m_TextHeight > free)
-                return;
-            const std::string label = m_YScale->Label(tick);
-            DrawTextAt(dc, right - kTickLabelGap, top, CString(label.c_str()));
-            free = top;
+    DrawScale(
+        dc, m_YTickLabelColor,
+        [&] {
+            for (int axis = ChartDrawState::kY; axis < AxisCount(); ++axis)
+                DrawYTicks(dc, axis);
         });
+}
+
+void CChartDraw::DrawYTicks(CDC& dc, int axis) const {
+    const AxisLayout& layout = m_State->Layout(axis);
+    const AxisMap map = m_State->Map(axis);
+    const bool isLeft = axis == ChartDrawState::kY;
+    const auto drawTick = [&](int y, int length) {
+        const int edge = isLeft ? m_rectPlot.left - length : m_rectPlot.right;
+        DrawStroke(dc, edge, y, edge + length, y);
+    };
+    for (const double value : layout.minorTicks)
+        if (const auto y = map.Position(value))
+            drawTick(*y, kMinorTickLength);
+    dc.SetTextAlign((isLeft ? TA_RIGHT : TA_LEFT) | TA_TOP);
+    const int distance = kTickLength + kTickLabelGap;
+    const int x = isLeft ? m_rectPlot.left - distance : m_rectPlot.right + distance;
+    LabelRow row(m_rectChart.top, m_rectChart.bottom, 0);
+    ForLabels(layout.ticks, map, [&](const AxisLabel& label, int y) {
+        drawTick(y, kTickLength);
+        const int top = y - m_TextHeight / 2;
+        if (row.Take(top, m_TextHeight))
+            DrawTextAt(dc, x, top, label.text);
     });
+    DrawNote(dc, axis);
+}
+
+void CChartDraw::DrawNote(CDC& dc, int axis) const {
+    const AxisLayout& layout = m_State->Layout(axis);
+    if (layout.note.IsEmpty())
+        return;
+    const int gap = m_TextHeight / 3;
+    CRect room = m_rectPlot;
+    room.DeflateRect(gap, gap);
+    const bool isLeft = axis == ChartDrawState::kY;
+    dc.SetTextAlign((isLeft ? TA_LEFT : TA_RIGHT) | TA_TOP);
+    // Beside the Y axes at the top, beside the X axis at the bottom.
+    const int top = axis == ChartDrawState::kX ? room.bottom - m_TextHeight : room.top;
+    DrawTextAt(dc, isLeft ? room.left : room.right, top, Shortened(dc, layout.note, room.Width() / 2));
 }

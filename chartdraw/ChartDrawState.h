@@ -11,6 +11,8 @@
 
 namespace kavlix {
 
+struct ChartAxisState;  // chartdraw/ChartAxisState.h: properties and layout of an axis
+struct AxisLayout;      // chartdraw/AxisLayout.h: ticks and texts of an axis
 struct ChartInputState; // chartdraw/ChartInputState.h: view, history, gestures
 struct ChartLinkState;  // chartdraw/ChartLink.h: the charts that share an X view
 class PostQueue;        // chartdraw/core/PostQueue.h: points of other threads
@@ -37,14 +39,17 @@ struct ChartDrawState {
     std::unique_ptr<ChartLinkState> link;
     std::unique_ptr<PostQueue> posted;
 
+    ChartAxisState& AxisState(int axis) { return *Axis(axis).m_State; }
     CChartAxis& Axis(int axis) { return axis == kX ? xAxis : axis == kY ? yAxis : y2Axis; }
 
     // ---- Maps of the last layout, values to client pixels (chartdraw/ChartAxis.cpp) ----
 
-    AxisMap Map(int axis) const; ///< values of an axis
+    AxisMap Map(int axis) const;              ///< values of an axis
+    const AxisLayout& Layout(int axis) const; ///< ticks and texts of an axis
     AxisMap
     XMap(const CChartDraw::Dataset& dataset) const; ///< x of a dataset, which count from its own origin
     AxisMap YMap(const CChartDraw::Dataset& dataset) const; ///< y of a dataset on the axis that it uses
+    CString Caption(int axis) const;                        ///< title of an axis with its unit
     bool HasSecondYAxis() const;                            ///< whether it is shown
     /// Value of the X axis for an x of a dataset.
     double ToAxis(const CChartDraw::Dataset& dataset, double x) const;

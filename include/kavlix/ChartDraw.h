@@ -22,7 +22,6 @@ struct ChartDrawState;
 class ChartSeries;
 class LinearMap;
 class Offscreen;
-class RoundScale;
 } // namespace kavlix
 
 /// A packed device-independent bitmap in a block of global memory: header, colour table, pixels.
@@ -400,14 +399,21 @@ private:
     bool WriteBitmapFile(const CString& name);
     /// Makes the font of the title or of all other texts. `escapement` is in tenths of a degree.
     BOOL MakeTextFont(CFont& font, int escapement, bool title) const;
-    kavlix::RoundScale FindScale(bool x, int mostSteps) const;
     void Calculate();
     void LayOut(CDC& dc);
-    void FitXScale(CDC& dc, int width);
+    void FindTicks(CDC& dc, int axis, int length);
     kavlix::LinearMap XMap() const;
     kavlix::LinearMap YMap() const;
+    /// Number of the axes that are shown; the second Y axis is the last one.
+    int AxisCount() const;
+    /// Pixels from the plot to the outer edge of an axis' labels; 0 when scales are not shown.
+    int ScaleRoom(int axis) const;
+    int CaptionGap() const; ///< pixels between a caption and the labels beside it
+    void DrawCaptions(CDC& dc) const;
     /// If scales are shown, selects the axes' pen and the texts' font and calls `drawTicks`.
-    void DrawScale(CDC& dc, COLORREF textColor, UINT align, const std::function<void()>& drawTicks) const;
+    void DrawScale(CDC& dc, COLORREF textColor, const std::function<void()>& drawTicks) const;
+    void DrawYTicks(CDC& dc, int axis) const;
+    void DrawNote(CDC& dc, int axis) const;
     void DrawLine(CDC& dc, const Dataset& dataset) const;
     void DrawMarkers(CDC& dc, const Dataset& dataset) const;
 
@@ -417,8 +423,7 @@ private:
     std::size_t m_NextColor = 0; ///< index of the colour that AddDataset takes next
     FixedScale m_XFixed;
     FixedScale m_YFixed;
-    std::unique_ptr<kavlix::RoundScale> m_XScale;
-    std::unique_ptr<kavlix::RoundScale> m_YScale;
+    void* m_Reserved[2] = {}; ///< unused; keeps the places of the members that follow
     CString m_Title;
     CString m_XLabel;
     CString m_YLabel;

@@ -19,6 +19,29 @@ BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
 
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
+
+    ON_WM_MOUSEMOVE()
+    ON_MESSAGE(WM_MOUSELEAVE, &CChartDraw::OnMouseLeave)
+    ON_WM_MOUSEWHEEL()
+    ON_MESSAGE(WM_MOUSEHWHEEL, &CChartDraw::OnMouseHWheel)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_SETCURSOR()
+
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
+
+    ON_WM_CONTEXTMENU()
+    ON_COMMAND(ID_EDIT_COPY, &CChartDraw::OnEditCopy)
+    ON_COMMAND(ID_CHART_SAVE_PICTURE, &CChartDraw::OnSavePicture)
+    ON_COMMAND(ID_CHART_SAVE_DATA, &CChartDraw::OnSaveData)
+    ON_COMMAND(ID_FILE_PRINT, &CChartDraw::OnFilePrint)
+    ON_COMMAND(ID_CHART_FIT, &CChartDraw::OnFit)
+    ON_COMMAND(ID_CHART_BACK, &CChartDraw::OnBack)
 END_MESSAGE_MAP()
 
 CChartDraw::CChartDraw() : m_State(std::make_unique<ChartDrawState>(*this)) {

@@ -1,15 +1,119 @@
 // SPDX-License-Identifier: MIT
-// CChartDraw: the ranges in view, and what changes them.
+// CChartDraw: the ranges in view, and what changes them except for mouse and keys.
 #include <kavlix/ChartDraw.h>
 
+#include <algorithm>
+#include <cmath>
+
+#include "chartdraw/ChartAxisState.h"
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartInputState.h"
+#include "gdi/OutOfMemory.h"
+#include "plot/RoundScale.h"
 
 using namespace kavlix;
 
-ChartDrawState::WantedRange ChartDrawState::RangeOf(int) const {
-    return {};
+namespace {
+
+constexpr int kVisibleSteps = 8; // most steps of the round range around the visible data
+
+ChartAxis ToChartAxis(int axis) {
+    return static_cast<ChartAxis>(axis);
+}
+
+bool IsLogarithmic(const ChartDrawState& state, int axis) {
+    const CChartAxis& asked = axis == ChartDrawState::kX   ? state.xAxis
+                              : axis == ChartDrawState::kY ? state.yAxis
+                                                           : state.y2Axis;
+    return asked.GetKind() == CChartAxis::Logarithmic;
+}
+
+/// Bounds of the finite y of the points with `xMin` <= x <= `xMax`, or of the y above 0.
+ValueBounds BoundsBetween(const ChartSeries& points, double xMin, double xMax, bool positiveOnly) {
+    ValueBounds bounds;
+    const auto add = [&](double y) {
+        if (std::isfinite(y) && (y > 0 || !positiveOnly))
+            bounds.Add(y);
+    };
+    points.Boxes().Visit(
+        0, points.Size(),
+        [&](const PointBox& box, int, int) {
+            if (box.left > xMax || box.right < xMin)
+                return true;
+            const bool isInside = box.left >= xMin && box.right <= xMax && std::isfinite(box.low) &&
+                                  std::isfinite(box.high) && (box.low > 0 || !positiveOnly);
+            if (isInside) {
+                bounds.Add(box.low);
+                bounds.Add(box.high);
+            }
+            return isInside;
+        },
+        [&](int first, int behind) {
+            for (int i = first; i < behind; ++i)
+                if (points[i].x >= xMin && points[i].x <= xMax)
+                    add(points[i].y);
+        });
+    return bounds;
+}
+
+/// A range with round ends around the visible data. They keep a Y axis still while data moves through the view.
+ViewRange RoundRangeAround(const ValueBounds& bounds, bool isLogarithmic) {
+    if (!isLogarithmic) {
+        const RoundScale scale = RoundScale::Around(bounds, kVisibleSteps);
+        return {scale.Min(), scale.Max()};
+    }
+    constexpr double kRoom = 0.05; // as a share of the decades
+    const double room = std::pow(bounds.max / bounds.min, kRoom);
+    return bounds.min < bounds.max ? ViewRange{bounds.min / room, bounds.max * room}
+                                   : ViewRange{bounds.min / 2, bounds.max * 2};
+}
+
+/// Tells that the view has followed new data. `timer` is the address of the chart's state.
+void CALLBACK OnFollowTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
+    ::KillTimer(window, timer);
+    if (CWnd::FromHandlePermanent(window) == nullptr)
+        return;
+    auto& state = *reinterpret_cast<ChartDrawState*>(timer);
+    ViewRanges before = state.input->Ranges();
+    before[0] = state.input->followedFrom;
+    state.input->isFollowTimed = false;
+    WithinResources([&] {
+        RefreshView(state);
+        ViewChanged(state, before, ViewCause::User);
+    });
+}
+
+} // namespace
+
+ViewRanges ChartInputState::Ranges() const {
+    ViewRanges ranges;
+    for (int axis = 0; axis < ChartDrawState::kAxes; ++axis)
+        ranges[static_cast<std::size_t>(axis)] = view.Axis(ToChartAxis(axis)).Range();
+    return ranges;
+}
+
+// ---- Layout and data ----
+
+ChartDrawState::WantedRange ChartDrawState::RangeOf(int axis) const {
+    ChartView& view = input->view;
+    const ChartAxis number = ToChartAxis(axis);
+    view.SetLogarithmic(number, IsLogarithmic(*this, axis));
+    if (axis == kX)
+        view.SetData(number, DataBounds(axis)); // the view follows
+    if (!view.Axis(number).IsMoved()) {
+        const ViewAxis& x = view.Axis(ChartAxis::X);
+        const bool isXFixed = chart.m_XFixed.fixed;
+        if (view.Mode(number) != ScaleMode::Visible || (!x.IsMoved() && !isXFixed))
+            return {};
+        const ViewRange inView = x.IsMoved() ? x.Range() : ViewRange{chart.m_XFixed.min, chart.m_XFixed.max};
+        const ValueBounds bounds = DataBounds(axis, inView.min, inView.max);
+        if (bounds.IsEmpty())
+            return {};
+        view.SetHome(number, RoundRangeAround(bounds, IsLogarithmic(*this, axis)));
+    }
+    const ViewRange& range = view.Axis(number).Range();
+    return {true, range.min, range.max};
 }
 
 ValueBounds ChartDrawState::DataBounds(int axis) const {
@@ -25,6 +129,158 @@ ValueBounds ChartDrawState::DataBounds(int axis) const {
     return bounds;
 }
 
+ValueBounds ChartDrawState::DataBounds(int axis, double xMin, double xMax) const {
+    ValueBounds bounds;
+    for (const auto& dataset : chart.m_Datasets)
+        if (dataset->visible && dataset->usesY2 == (axis == kY2))
+            bounds.Add(BoundsBetween(dataset->points, ToDataset(*dataset, xMin), ToDataset(*dataset, xMax),
+                                     IsLogarithmic(*this, axis)));
+    return bounds;
+}
+
 void ChartDrawState::LaidOut(int axis, double min, double max) {
-    input->shown[axis] = {min, max};
+    input->shown[static_cast<std::size_t>(axis)] = {min, max};
+    const ChartAxis number = ToChartAxis(axis);
+    if (!input->view.Axis(number).IsMoved())
+        input->view.SetHome(number, {min, max});
+}
+
+void ChartDrawState::ResetRange(int axis) {
+    input->view.SetMode(ToChartAxis(axis), ScaleMode::Whole);
+    Changed();
+}
+
+void kavlix::RefreshView(ChartDrawState& state) {
+    for (int axis = 0; axis < ChartDrawState::kAxes; ++axis) {
+        state.input->view.SetLogarithmic(ToChartAxis(axis), IsLogarithmic(state, axis));
+        state.input->view.SetData(ToChartAxis(axis), state.DataBounds(axis));
+    }
+}
+
+// ---- Changes ----
+
+bool kavlix::ViewChanged(ChartDrawState& state, const ViewRanges& before, ViewCause cause) {
+    ChartInputState& input = *state.input;
+    if (input.Ranges() == before)
+        return true;
+    state.Changed();
+    for (const int axis : {ChartDrawState::kY, ChartDrawState::kY2})
+        state.RangeOf(axis); // in the mode Visible a new range of X changes those of Y
+    input.shown = input.Ranges();
+    CChartDraw& chart = state.chart;
+    if (cause != ViewCause::Setter)
+        chart.Redraw();
+    bool isAlive = true;
+    if (input.shown[0] != before[0]) {
+        // Linked charts tell their parents, which may destroy this chart.
+        const HWND window = chart.m_hWnd;
+        state.ShareView();
+        isAlive = window == nullptr || CWnd::FromHandlePermanent(window) == &chart;
+    }
+    if (isAlive && cause == ViewCause::User) {
+        NMCHARTDRAW record = {};
+        record.hdr.code = CDN_VIEW;
+        state.Notify(record, isAlive);
+    }
+    return isAlive;
+}
+
+bool ChartDrawState::SetView(int axis, double min, double max, bool tell) {
+    const ViewRanges before = input->Ranges();
+    RefreshView(*this);
+    if (!input->view.Axis(ToChartAxis(axis)).CanShow({min, max}))
+        return false;
+    input->view.SetRange(ToChartAxis(axis), {min, max});
+    ViewChanged(*this, before, tell ? ViewCause::User : ViewCause::Host);
+    return true;
+}
+
+void ChartDrawState::DataChanged(int) {
+    if (input->view.Mode(ChartAxis::X) != ScaleMode::Follow || input->isFollowTimed ||
+        chart.m_hWnd == nullptr)
+        return;
+    // The layout lets the view follow. The parent and linked charts are told later, once for all data that has come
+    // by then, so that no message runs inside of AddData.
+    input->followedFrom = input->view.Axis(ChartAxis::X).Range();
+    input->isFollowTimed = ::SetTimer(chart.m_hWnd, reinterpret_cast<UINT_PTR>(this), 0, &OnFollowTimer) != 0;
+}
+
+// ---- The axes' members ----
+
+void CChartAxis::SetRangeMode(RangeMode mode) {
+    CChartDraw& chart = m_State->chart;
+    ChartDrawState& state = *chart.m_State;
+    ChartView& view = state.input->view;
+    const ViewRanges before = state.input->Ranges();
+    const ChartAxis axis = ToChartAxis(m_State->axis);
+    const bool isX = axis == ChartAxis::X;
+    RefreshView(state);
+    if (mode == Fixed) {
+        const ViewRange range = view.Axis(axis).Range();
+        view.SetMode(axis, ScaleMode::Whole);
+        view.SetRange(axis, range);
+    } else if (mode == Follow && isX) {
+        view.SetMode(axis, ScaleMode::Follow);
+    } else if (mode == WholeData || mode == VisibleData) {
+        view.SetMode(axis, mode == VisibleData && !isX ? ScaleMode::Visible : ScaleMode::Whole);
+        if (axis != ChartAxis::Y2)
+            (isX ? chart.m_XFixed : chart.m_YFixed).fixed = false;
+    }
+    state.Changed();
+    ViewChanged(state, before, ViewCause::Setter);
+}
+
+CChartAxis::RangeMode CChartAxis::GetRangeMode() const {
+    const ChartView& view = m_State->chart.m_State->input->view;
+    const ChartAxis axis = ToChartAxis(m_State->axis);
+    if (view.Mode(axis) == ScaleMode::Follow)
+        return Follow;
+    const bool isScaleFixed = (axis == ChartAxis::X && m_State->chart.m_XFixed.fixed) ||
+                              (axis == ChartAxis::Y && m_State->chart.m_YFixed.fixed);
+    if (view.Axis(axis).IsMoved() || isScaleFixed)
+        return Fixed;
+    return view.Mode(axis) == ScaleMode::Visible ? VisibleData : WholeData;
+}
+
+BOOL CChartAxis::SetRange(double dMin, double dMax) {
+    ChartDrawState& state = *m_State->chart.m_State;
+    ChartView& view = state.input->view;
+    const ChartAxis axis = ToChartAxis(m_State->axis);
+    const ViewRanges before = state.input->Ranges();
+    RefreshView(state);
+    if (!view.Axis(axis).CanShow({dMin, dMax}))
+        return FALSE;
+    if (view.Mode(axis) == ScaleMode::Follow)
+        view.SetMode(axis, ScaleMode::Whole);
+    view.SetRange(axis, {dMin, dMax});
+    state.Changed();
+    ViewChanged(state, before, ViewCause::Setter);
+    return TRUE;
+}
+
+void CChartAxis::GetRange(double& dMin, double& dMax) const {
+    const ViewRange& shown = m_State->chart.m_State->input->shown[static_cast<std::size_t>(m_State->axis)];
+    dMin = shown.min;
+    dMax = shown.max;
+}
+
+// ---- The chart's members ----
+
+void CChartDraw::SetViewFlags(UINT nFlags) {
+    EndDrag(*m_State, false);
+    m_State->input->flags = nFlags;
+}
+
+UINT CChartDraw::GetViewFlags() const {
+    return m_State->input->flags;
+}
+
+void CChartDraw::FitView() {
+    FitAll(
+        *m_State, ViewCause::Host, [this] { CalcDatas(); });
+}
+
+BOOL CChartDraw::ViewBack() {
+    return GoBack(
+        *m_State, ViewCause::Host, [this] { CalcDatas(); });
 }

@@ -34,6 +34,7 @@ public:
     bool Cancel();
 
     bool IsPressed() const { return m_isPressed; }
+    bool IsPressed(MouseButton button) const { return m_isPressed && m_button == button; }
     bool IsDragging() const { return m_isDragging; }
     /// Whether a drag with this purpose is under way.
     bool IsDragging(DragPurpose purpose) const { return m_isDragging && m_purpose == purpose; }

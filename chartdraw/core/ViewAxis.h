@@ -70,6 +70,8 @@ public:
 
     /// Shows the home range.
     bool Fit();
+    /// Whether Set shows exactly this range.
+    bool CanShow(const ViewRange& range) const { return SpanOf(range).values == range; }
     /// Shows a range of the host's choice, also outside of the reach.
     bool Set(const ViewRange& range);
     /// Multiplies the width by `factor`. The value at `share` stays there, unless the reach ends.

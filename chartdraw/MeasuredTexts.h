@@ -12,7 +12,8 @@
 namespace kavlix {
 
 /// The widths of a list of texts, and the texts shortened to a room. Measuring a text is slow, so a text is
-/// measured again only when the text, the font or the room changes.
+/// measured again only when the text, the font or the room changes. Widths include some slack: drawn texts can be
+/// a little wider than measured ones, and on a printer more than on the screen.
 class MeasuredTexts {
 public:
     /// Tells the font that the texts are measured in. `pixels` is its height.
@@ -30,7 +31,7 @@ public:
         if (entry.width <= room)
             return entry.text;
         if (entry.room != room)
-            entry.shortened = Shortened(dc, text, room);
+            entry.shortened = Shortened(dc, text, room - Slack(room));
         entry.room = room;
         return entry.shortened;
     }
@@ -47,10 +48,13 @@ private:
         if (index >= m_entries.size())
             m_entries.resize(index + 1);
         Entry& entry = m_entries[index];
-        if (entry.width < 0 || entry.text != text)
-            entry = {text, static_cast<int>(MeasureText(dc, text).cx), -1, CString()};
+        if (entry.width < 0 || entry.text != text) {
+            const int width = static_cast<int>(MeasureText(dc, text).cx);
+            entry = {text, width + Slack(width), -1, CString()};
+        }
         return entry;
     }
+    static int Slack(int width) { return (width + 49) / 50; } ///< 2 percent
 
     std::vector<Entry> m_entries;
     int m_pixels = 0;

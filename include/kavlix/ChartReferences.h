@@ -42,14 +42,16 @@ public:
     BOOL SetValues(int nId, double dFrom, double dTo);
     BOOL GetValues(int nId, double& dFrom, double& dTo) const;
     /// @}
-    BOOL SetText(int nId, CString text);     ///< text beside the line, or in the band; default as added
-    BOOL SetColor(int nId, COLORREF color);  ///< colour; default as added
-    BOOL SetLineSize(int nId, int nSize);    ///< width of a line in pixels, clamped to 1..20; default 1
-    BOOL SetDashed(int nId, BOOL bDashed);   ///< whether a line is dashed; default FALSE
-    BOOL SetMovable(int nId, BOOL bMovable); ///< whether the user can move it by the mouse; default FALSE
-    BOOL Show(int nId, BOOL bShow);          ///< whether it is drawn; default TRUE
-    /// The line, or the edge of a band, that the user can move at a position in client pixels: its identifier, or
-    /// -1. A line is hit within 4 pixels.
+    BOOL SetText(int nId, CString text);    ///< text beside the line, or in the band; default as added
+    BOOL SetColor(int nId, COLORREF color); ///< colour; default as added
+    BOOL SetLineSize(int nId, int nSize);   ///< width of a line in pixels, clamped to 1..20; default 1
+    BOOL SetDashed(int nId, BOOL bDashed);  ///< whether a line is dashed; default FALSE
+    /// Whether the user can move it by the mouse, a band as a whole or by one of its edges; default FALSE. The
+    /// parent is told by CDN_REFERENCE. It may set other values meanwhile, for instance rounded ones.
+    BOOL SetMovable(int nId, BOOL bMovable);
+    BOOL Show(int nId, BOOL bShow); ///< whether it is drawn; default TRUE
+    /// The line or band that the user can move at a position in client pixels: its identifier, or -1. A line is
+    /// hit within 4 pixels, and comes before a band.
     int HitTest(CPoint point) const;
 
     CChartReferences(const CChartReferences&) = delete;

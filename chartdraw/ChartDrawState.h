@@ -62,10 +62,11 @@ struct ChartDrawState {
     void LayOutLegend(CDC& dc, CRect& room);
     /// Places the legend inside the plot after the axes are laid out (ChartLegend.cpp).
     void PlaceLegend(CDC& dc);
-    void DrawBands(CDC& dc);          ///< reference bands, behind the data (ChartReferences.cpp)
+    void DrawBands(CDC& dc);          ///< reference bands, behind the data (ChartReferencesPaint.cpp)
     void DrawOverlay(CDC& dc);        ///< reference lines, legend, cursors, zoom box, in this order
-    void DrawReferenceLines(CDC& dc); ///< ChartReferences.cpp
-    void DrawLegend(CDC& dc);         ///< ChartLegend.cpp
+    void DrawReferenceLines(CDC& dc); ///< with all texts (ChartReferencesPaint.cpp)
+    void DrawReferenceTexts(CDC& dc);
+    void DrawLegend(CDC& dc);         ///< ChartLegendPaint.cpp
     void DrawCursors(CDC& dc);        ///< ChartCursor.cpp
     void DrawZoomBox(CDC& dc);        ///< ChartDrawInput.cpp
     /// Whether the dataset is drawn in a highlighted way: the mouse is over its row in the legend (ChartLegend.cpp).

@@ -49,6 +49,14 @@ void FillLine(CDC& dc, const CRect& line, const ChartReference& item, CBrush& br
     }
 }
 
+Rect PlaceText(LabelPlaces& places, const ChartReference& item, const Rect& rect, int width, int height) {
+    if (item.axis == CChartReferences::X)
+        return item.isBand ? places.InColumns(rect.left, rect.right, width, height)
+                           : places.BesideColumns(rect.left, rect.right, width, height);
+    return item.isBand ? places.InRows(rect.top, rect.bottom, width, height)
+                       : places.BesideRows(rect.top, rect.bottom, width, height);
+}
+
 } // namespace
 
 CRect ChartReferencesState::RectOf(const ChartDrawState& state, const ChartReference& item) const {
@@ -96,9 +104,20 @@ void ChartDrawState::DrawBands(CDC& dc) {
 }
 
 void ChartDrawState::DrawReferenceLines(CDC& dc) {
-    ChartReferencesState& state = *references.m_State;
+    const ChartReferencesState& state = *references.m_State;
     if (state.items.empty() || Plot().IsRectEmpty())
         return;
+    for (const ChartReference& item : state.items)
+        if (!item.isBand) {
+            CBrush brush;
+            brush.CreateSolidBrush(item.color);
+            FillLine(dc, state.RectOf(*this, item), item, brush);
+        }
+    DrawReferenceTexts(dc);
+}
+
+void ChartDrawState::DrawReferenceTexts(CDC& dc) {
+    ChartReferencesState& state = *references.m_State;
     CFont font;
     MakeTextFont(font);
     SavedDcGuard saved(dc);
@@ -118,23 +137,11 @@ void ChartDrawState::DrawReferenceLines(CDC& dc) {
     for (std::size_t i = 0; i < state.items.size(); ++i) {
         const ChartReference& item = state.items[i];
         const CRect rect = state.RectOf(*this, item);
-        if (rect.IsRectEmpty())
-            continue;
-        if (!item.isBand) {
-            CBrush brush;
-            brush.CreateSolidBrush(item.color);
-            FillLine(dc, rect, item, brush);
-        }
-        if (item.text.IsEmpty())
+        if (rect.IsRectEmpty() || item.text.IsEmpty())
             continue;
         const CString& text = state.texts.ShortenedTo(dc, i, item.text, area.Width());
         const int width = std::min(state.texts.Width(dc, i, item.text), static_cast<int>(area.Width()));
-        const bool isX = item.axis == CChartReferences::X;
-        const Rect line = ToRect(rect);
-        const Rect place = item.isBand ? isX ? places.InColumns(line.left, line.right, width, TextHeight())
-                                             : places.InRows(line.top, line.bottom, width, TextHeight())
-                           : isX ? places.BesideColumns(line.left, line.right, width, TextHeight())
-                                       : places.BesideRows(line.top, line.bottom, width, TextHeight());
+        const Rect place = PlaceText(places, item, ToRect(rect), width, TextHeight());
         if (place == Rect{})
             continue;
         dc.SetTextColor(MixColors(item.color, ContrastTo(chart.m_BkColor), kTextShade));

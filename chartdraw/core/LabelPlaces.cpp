@@ -16,11 +16,9 @@ bool LabelPlaces::IsFree(const Rect& rect) const {
         });
 }
 
-/// Takes the first free of the places inside the area; if none is free, the first one.
+/// Takes the first free one of the places inside the area.
 Rect LabelPlaces::Take(const std::vector<int>& lefts, const std::vector<int>& tops, bool rowByRow, int width,
                        int height) {
-    Rect first;
-    bool hasFirst = false;
     const std::vector<int>& outer = rowByRow ? tops : lefts;
     const std::vector<int>& inner = rowByRow ? lefts : tops;
     for (const int a : outer)
@@ -29,17 +27,12 @@ Rect LabelPlaces::Take(const std::vector<int>& lefts, const std::vector<int>& to
             const int top = rowByRow ? a : b;
             const Rect place = {left, top, left + width, top + height};
             if (left < m_area.left || place.right > m_area.right || top < m_area.top ||
-                place.bottom > m_area.bottom)
+                place.bottom > m_area.bottom || !IsFree(place))
                 continue;
-            if (IsFree(place)) {
-                m_taken.push_back(place);
-                return place;
-            }
-            if (!hasFirst)
-                first = place;
-            hasFirst = true;
+            m_taken.push_back(place);
+            return place;
         }
-    return first;
+    return {};
 }
 
 // A free stretch begins and ends at an edge of the area or of a label, so these are the only places to try.
@@ -57,10 +50,15 @@ Rect LabelPlaces::InRows(int top, int bottom, int width, int height) {
     for (const Rect& taken : m_taken)
         lefts.push_back(taken.right + m_gap);
     std::sort(lefts.begin(), lefts.end());
-    const int centred = (top + bottom - height) / 2;
-    const int inside = bottom - top < height ? centred : std::max(top, m_area.top);
+    const int from = std::max(top, m_area.top);
+    const int to = std::min(bottom, m_area.bottom) - height; // the lowest place inside the band
     const int lowest = std::max(m_area.top, m_area.bottom - height);
-    return Take(lefts, {std::clamp(inside, m_area.top, lowest)}, false, width, height);
+    std::vector<int> tops = {from <= to ? from : std::clamp((top + bottom - height) / 2, m_area.top, lowest)};
+    for (const Rect& taken : m_taken)
+        if (taken.bottom > from && taken.bottom <= to)
+            tops.push_back(taken.bottom);
+    std::sort(tops.begin(), tops.end());
+    return Take(lefts, tops, true, width, height);
 }
 
 Rect LabelPlaces::BesideColumns(int left, int right, int width, int height) {

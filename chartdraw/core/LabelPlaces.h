@@ -8,8 +8,8 @@
 
 namespace kavlix {
 
-/// Finds a place for one label after the other. A label lies inside the area; without room for that its rectangle
-/// is empty. Where some place keeps the label clear of the labels before it, such a place is taken.
+/// Finds a place for one label after the other: inside the area and clear of the labels before it. The rectangle
+/// of a label for which there is no place is empty.
 class LabelPlaces {
 public:
     /// `gap` is the space between two labels in a row, and between a vertical line and a label, pixels.
@@ -21,7 +21,7 @@ public:
     Rect BesideRows(int top, int bottom, int width, int height);
     /// To the right or left of a vertical line of the columns `left` to before `right`, as high as possible.
     Rect BesideColumns(int left, int right, int width, int height);
-    /// In a horizontal band, as far left as possible.
+    /// In a horizontal band, as high and then as far left as possible; over the middle of a band that is too low.
     Rect InRows(int top, int bottom, int width, int height);
     /// In a vertical band, as high as possible; across its right edge if the band is too narrow.
     Rect InColumns(int left, int right, int width, int height);

@@ -33,6 +33,7 @@ struct ChartAxisState {
     bool alwaysShown = false;
     AxisZone zone;
 
+    bool showsPeriods = true; ///< whether the layout has room for the second row of a time axis
     AxisLayout layout;
     TextWidths widths;
     /// Widths of the labels of time steps, by unit and count.

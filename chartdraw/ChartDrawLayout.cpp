@@ -19,7 +19,7 @@ using namespace kavlix;
 
 namespace {
 
-// Text heights: if the plot is narrower or lower, captions, title and scales are left out, in this order.
+// Text heights: if the plot is narrower or lower, captions, title, the dates below the clock and scales are left out, in this order.
 constexpr double kSmallestPlot = 4;
 
 constexpr int kTenthsOfPointPerInch = 720;
@@ -109,9 +109,10 @@ void CChartDraw::Calculate() {
     // In a small window the plot has priority: leave out one part after the other until the
     // plot is large enough.
     const int smallest = static_cast<int>(kSmallestPlot * m_TextHeight);
-    m_ShowCaptions = m_ShowTitle = m_ShowScales = true;
+    bool& showPeriods = m_State->AxisState(ChartDrawState::kX).showsPeriods;
+    m_ShowCaptions = m_ShowTitle = m_ShowScales = showPeriods = true;
     LayOut(dc);
-    for (bool* part : {&m_ShowCaptions, &m_ShowTitle, &m_ShowScales}) {
+    for (bool* part : {&m_ShowCaptions, &m_ShowTitle, &showPeriods, &m_ShowScales}) {
         if (m_rectPlot.Width() >= smallest && m_rectPlot.Height() >= smallest)
             break;
         *part = false;
@@ -131,16 +132,15 @@ int CChartDraw::CaptionGap() const {
 int CChartDraw::ScaleRoom(int axis) const {
     if (!m_ShowScales)
         return 0;
-    const bool isTime = m_State->Axis(axis).GetKind() == CChartAxis::Time;
+    const ChartAxisState& state = m_State->AxisState(axis);
+    const bool hasPeriods = state.kind == CChartAxis::Time && state.showsPeriods;
     const int labels =
-        axis == ChartDrawState::kX ? m_TextHeight * (isTime ? 2 : 1) : m_State->Layout(axis).WidestLabel();
+        axis == ChartDrawState::kX ? m_TextHeight * (hasPeriods ? 2 : 1) : state.layout.WidestLabel();
     return kTickLength + kTickLabelGap + labels;
 }
 
 void CChartDraw::LayOut(CDC& dc) {
-    const auto hasCaption = [&](int axis) {
-        return m_ShowCaptions && !m_State->Caption(axis).IsEmpty();
-    };
+    const auto hasCaption = [&](int axis) { return m_ShowCaptions && !m_State->Caption(axis).IsEmpty(); };
     const int margin = static_cast<int>(kChartMargin * m_TextHeight);
     const int caption = m_TextHeight + CaptionGap();
     const bool hasY2 = AxisCount() > ChartDrawState::kY2;

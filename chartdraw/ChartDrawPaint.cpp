@@ -164,9 +164,7 @@ void CChartDraw::DrawAxes(CDC& dc) {
 }
 
 void CChartDraw::DrawCaptions(CDC& dc) const {
-    const auto caption = [&](int axis) {
-        return axis < AxisCount() ? m_State->Caption(axis) : CString();
-    };
+    const auto caption = [&](int axis) { return axis < AxisCount() ? m_State->Caption(axis) : CString(); };
     dc.SetBkMode(TRANSPARENT);
     const int margin = static_cast<int>(kChartMargin * m_TextHeight);
     CRect room = m_rectChart;
@@ -228,20 +226,26 @@ void CChartDraw::DrawXScale(CDC& dc) {
             if (row.Take(x - half, 2 * half))
                 DrawTextAt(dc, x, top, label.text);
         });
-        dc.SetTextAlign(TA_LEFT | TA_TOP);
-        LabelRow periods(m_rectChart.left, m_rectChart.right, m_TextHeight / 2);
-        const auto draw = [&](const AxisLabel& label, int left) {
-            if (const auto place = periods.TakeNear(left, label.width))
-                DrawTextAt(dc, *place, top + m_TextHeight, label.text);
-        };
-        ForLabels(layout.periods, map,
-                  [&](const AxisLabel& label, int x) { draw(label, x - label.width / 2); });
-        // The date at the beginning of the view, unless another date needs the place.
-        if (!layout.start.text.IsEmpty())
-            draw(layout.start, layout.isInverted ? m_rectPlot.right - layout.start.width : m_rectPlot.left);
+        if (m_State->AxisState(ChartDrawState::kX).showsPeriods)
+            DrawPeriods(dc, top + m_TextHeight);
         DrawNote(dc, ChartDrawState::kX);
     });
     m_State->DrawOverlay(dc);
+}
+
+void CChartDraw::DrawPeriods(CDC& dc, int top) const {
+    const AxisLayout& layout = m_State->Layout(ChartDrawState::kX);
+    dc.SetTextAlign(TA_LEFT | TA_TOP);
+    LabelRow row(m_rectChart.left, m_rectChart.right, m_TextHeight / 2);
+    const auto draw = [&](const AxisLabel& label, int left) {
+        if (const auto place = row.TakeNear(left, label.width))
+            DrawTextAt(dc, *place, top, label.text);
+    };
+    ForLabels(layout.periods, m_State->Map(ChartDrawState::kX),
+              [&](const AxisLabel& label, int x) { draw(label, x - label.width / 2); });
+    // The date at the beginning of the view, unless another date needs the place.
+    if (!layout.start.text.IsEmpty())
+        draw(layout.start, layout.isInverted ? m_rectPlot.right - layout.start.width : m_rectPlot.left);
 }
 
 void CChartDraw::DrawYScale(CDC& dc) {

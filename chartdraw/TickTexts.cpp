@@ -144,6 +144,8 @@ CString TickTexts::Label(const TimeStep& step, const TimeTick& tick) const {
     } else if (step.unit == TimeStep::Unit::Month) {
         text =
             CString((step.IsYears() ? Number(tick.local.year, 4) : m_months[tick.local.month - 1]).c_str());
+    } else if (step.IsBelowMillisecond()) {
+        text = Text({{L's', 2, {}}}, tick.local, tick.nano, step.FractionDigits());
     } else {
         const bool hasSeconds = step.unit == TimeStep::Unit::Nanosecond || step.count < 60;
         text = Text(hasSeconds         ? m_seconds
@@ -157,6 +159,8 @@ CString TickTexts::Label(const TimeStep& step, const TimeTick& tick) const {
 CString TickTexts::Period(const TimeStep& step, const CalendarStamp& stamp) const {
     if (step.IsYears())
         return CString();
+    if (step.IsBelowMillisecond())
+        return Full(stamp, 0, 0);
     return step.IsBelowDay() ? Text(m_date, stamp) : CString(Number(stamp.year, 4).c_str());
 }
 
@@ -181,7 +185,7 @@ std::vector<CString> TickTexts::WidestLabels(const TimeStep& step) const {
 std::vector<CString> TickTexts::WidestPeriods(const TimeStep& step) const {
     std::vector<CString> texts;
     for (int month = 1; month <= (step.IsBelowDay() ? 12 : 1); ++month)
-        texts.push_back(Period(step, {2000, month, 28, 0, 0, 0}));
+        texts.push_back(Period(step, {2000, month, 28, 22, 58, 58}));
     return texts;
 }
 

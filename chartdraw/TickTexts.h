@@ -27,7 +27,8 @@ public:
     /// First row: "14:05", "14:05:30.25", "2 PM", "22 Nov", "Nov" or "2026". A time that the clock shows for the second
     /// time is marked: "02:00 (2)".
     CString Label(const TimeStep& step, const TimeTick& tick) const;
-    /// Second row: the date for steps below a day, the year for steps below a year.
+    /// Second row: the date for steps below a day, the year for steps below a year. For steps below a millisecond date and
+    /// clock, and the first row has only the seconds: "30.000005".
     CString Period(const TimeStep& step, const CalendarStamp& stamp) const;
     /// Labels, and periods, of which one is as wide as the widest that the step can have.
     std::vector<CString> WidestLabels(const TimeStep& step) const;

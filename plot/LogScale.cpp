@@ -64,7 +64,13 @@ LogScale::LogScale(double min, double max, int length, int room) {
     }
     m_ticks = TicksOf(labels, min, max);
 
-    if (m_ticks.size() < 2) {
+    if (m_ticks.size() < 2 && decades >= 1) {
+        // Too little room: two ticks far from each other.
+        std::vector<double> ticks = TicksOf({{1}, 1, 1}, min, max);
+        if (ticks.size() < 2)
+            ticks = TicksOf({{1, 2, 5}, 1, kDecadesOf2}, min, max);
+        m_ticks = {ticks.front(), ticks.back()};
+    } else if (m_ticks.size() < 2) {
         // On an axis of ratios, equal steps are narrowest at the upper end.
         const double roomAtMax = max * std::log(10.0) * room / pixels;
         const int steps = TruncateToInt((max - min) / roomAtMax, 1, 20);

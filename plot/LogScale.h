@@ -9,7 +9,8 @@ namespace kavlix {
 
 /// Ticks of an axis on which equal distances are equal ratios. The finest that leaves room for the labels is taken
 /// of: round steps as on a linear axis, in ranges with fewer than two ticks of the others; 1, 2 and 5 times every
-/// power of ten; every power of ten; every second, third, fifth, tenth … one.
+/// power of ten; every power of ten; every second, third, fifth, tenth … one. Where the room is too small for two
+/// of them, the first and the last power of ten have labels, closer together.
 class LogScale {
 public:
     LogScale() = default; ///< no ticks

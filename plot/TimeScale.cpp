@@ -73,7 +73,7 @@ template <class Visit> void VisitTicks(const TimeStep& step, const TimePoint& fr
         break;
     case TimeStep::Unit::Day: {
         constexpr std::int64_t kMonday = 4; // 1970-01-05
-        const std::int64_t base = step.count == 1 ? 0 : kMonday;
+        const std::int64_t base = step.count == 7 ? kMonday : 0;
         const std::int64_t day = FloorDivide(local, kSecondsPerDay) - 1;
         VisitDates(
             FloorDivide(day - base, step.count), begin, to.second, zone,
@@ -98,13 +98,15 @@ template <class Visit> void VisitTicks(const TimeStep& step, const TimePoint& fr
 
 /// Whether two ticks of `step` belong to the same entry of the second row.
 bool SharePeriod(const TimeStep& step, const CalendarStamp& a, const CalendarStamp& b) {
+    if (step.IsBelowMillisecond())
+        return SecondsOf(a) == SecondsOf(b);
     return step.IsYears() || (step.IsBelowDay() ? a.HasDateOf(b) : a.year == b.year);
 }
 
 /// Least distance of two neighbouring entries of the second row, seconds.
 double PeriodSeconds(const TimeStep& step) {
     constexpr double kDay = 86400;
-    return step.IsBelowDay() ? kDay : 365 * kDay;
+    return step.IsBelowMillisecond() ? 1 : step.IsBelowDay() ? kDay : 365 * kDay;
 }
 
 /// Whether the clock is set back in a time that can have labels below a day.

@@ -46,15 +46,15 @@ struct TimeTick {
     int nano = 0;        ///< nanoseconds of the second
     /// Whether the local clock shows this time for the second time, because it was set back.
     bool isRepeated = false;
-    /// Whether the second row shows the tick's date, or below days its year: it differs from the tick before, at
-    /// the first tick from the start of the range.
+    /// Whether the second row changes here. It shows the date; for days and months the year; for steps below a
+    /// millisecond date and clock to the second. The first tick is compared with the start of the range.
     bool startsPeriod = false;
 };
 
 /// Widths of the widest labels, in pixels.
 struct TimeLabelWidths {
-    int label = 0;  ///< of the first row: the clock, the day, the month or the year
-    int period = 0; ///< of the second row: the date or the year
+    int label = 0;  ///< of the first row
+    int period = 0; ///< of the second row
     int mark = 0;   ///< of what marks a repeated time, beside the clock
 };
 

@@ -46,7 +46,7 @@ const std::vector<TimeStep>& RoundTimeSteps() {
                 all.push_back({Unit::Second, count * unit});
         for (const int hours : {1, 3, 6, 12})
             all.push_back({Unit::Second, hours * 3600});
-        for (const int days : {1, 7})
+        for (const int days : {1, 2, 7})
             all.push_back({Unit::Day, days});
         for (const int months : {1, 3})
             all.push_back({Unit::Month, months});

@@ -25,6 +25,7 @@ TEST(LogScaleTest, LabelsAreAsDenseAsTheLengthAllows) {
     EXPECT_EQ(Labels(0.1, 1000, 300), "0.1 1 10 100 1000");
     EXPECT_EQ(Labels(1e-12, 1000, 300), "1e-12 1e-10 1e-8 1e-6 1e-4 1e-2 1e0 1e2");
     EXPECT_EQ(Labels(2.1, 4.9, 400), "2.5 3.0 3.5 4.0 4.5") << "no tick of 1, 2, 5 in the range";
+    EXPECT_EQ(Labels(0.0002, 500, 40), "0.001 100");
     EXPECT_EQ(Labels(3, 3, 300), "");
     EXPECT_EQ(Labels(0, 3, 300), "");
 }

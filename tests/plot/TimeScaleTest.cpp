@@ -30,7 +30,7 @@ std::int64_t PeriodOf(const TimeStep& step, std::int64_t local) {
     if (step.unit == TimeStep::Unit::Month)
         return FloorDivide(std::int64_t{stamp.year} * 12 + stamp.month - 1, step.count);
     std::int64_t day = FloorDivide(local, kSecondsPerDay);
-    while (step.count == 7 && WeekdayOf(day) != 1)
+    while (step.count == 7 ? WeekdayOf(day) != 1 : day % step.count != 0)
         --day;
     return day;
 }
@@ -144,8 +144,8 @@ TEST(TimeScaleTest, AnyRangeHasRoundTicksWithRoomForTheirLabels) {
             }
             before = &tick;
         }
-        // A step is at most seven times as long as the next finer one.
-        if (length >= 15 * (widths.period + 10 + kGap)) {
+        // A step is at most five times as long as the next finer one.
+        if (length >= 11 * (widths.period + 10 + kGap)) {
             ASSERT_GE(scale.Ticks().size(), 2u);
         }
         for (std::size_t i = 1; i < scale.MinorTicks().size(); ++i)

@@ -219,7 +219,7 @@ void CChartDraw::DrawXScale(CDC& dc) {
                 DrawStroke(dc, *x, bottom, *x, bottom + kMinorTickLength);
         dc.SetTextAlign(TA_CENTER | TA_TOP);
         const int top = bottom + kTickLength + kTickLabelGap;
-        LabelRow row(m_rectChart.left, m_rectChart.right, m_TextHeight / 2);
+        LabelRow row = XLabelRow(dc);
         ForLabels(layout.ticks, map, [&](const AxisLabel& label, int x) {
             DrawStroke(dc, x, bottom, x, bottom + kTickLength);
             const int half = label.width / 2;
@@ -233,10 +233,25 @@ void CChartDraw::DrawXScale(CDC& dc) {
     m_State->DrawOverlay(dc);
 }
 
+LabelRow CChartDraw::XLabelRow(CDC& dc) const {
+    // The caption of a Y axis that is longer than the plot reaches down to the labels of the X axis.
+    const auto reachesDown = [&](int axis) {
+        return m_ShowCaptions && axis < AxisCount() &&
+               m_State->AxisState(axis).widths.Of(dc, m_State->Caption(axis)) > m_rectPlot.Height();
+    };
+    int left = m_rectChart.left;
+    int right = m_rectChart.right;
+    if (reachesDown(ChartDrawState::kY))
+        left = m_rectPlot.left - ScaleRoom(ChartDrawState::kY);
+    if (reachesDown(ChartDrawState::kY2))
+        right = m_rectPlot.right + ScaleRoom(ChartDrawState::kY2);
+    return LabelRow(left, right, m_TextHeight / 2);
+}
+
 void CChartDraw::DrawPeriods(CDC& dc, int top) const {
     const AxisLayout& layout = m_State->Layout(ChartDrawState::kX);
     dc.SetTextAlign(TA_LEFT | TA_TOP);
-    LabelRow row(m_rectChart.left, m_rectChart.right, m_TextHeight / 2);
+    LabelRow row = XLabelRow(dc);
     const auto draw = [&](const AxisLabel& label, int left) {
         if (const auto place = row.TakeNear(left, label.width))
             DrawTextAt(dc, *place, top, label.text);

@@ -20,6 +20,7 @@
 namespace kavlix {
 struct ChartDrawState;
 class ChartSeries;
+class LabelRow;
 class LinearMap;
 class Offscreen;
 } // namespace kavlix
@@ -413,6 +414,7 @@ private:
     /// If scales are shown, selects the axes' pen and the texts' font and calls `drawTicks`.
     void DrawScale(CDC& dc, COLORREF textColor, const std::function<void()>& drawTicks) const;
     void DrawYTicks(CDC& dc, int axis) const;
+    kavlix::LabelRow XLabelRow(CDC& dc) const;
     void DrawPeriods(CDC& dc, int top) const;
     void DrawNote(CDC& dc, int axis) const;
     void DrawLine(CDC& dc, const Dataset& dataset) const;

@@ -75,5 +75,7 @@ void ChartRandom(bool markers);
 void ChartTime(int count);
 void ChartPan(int count);
 void ChartZoom(int count);
+void ChartAgainstGraph(int count, bool uneven);
+void ChartTenMillion(bool uneven);
 
 } // namespace bench

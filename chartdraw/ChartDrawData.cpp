@@ -83,7 +83,7 @@ int CChartDraw::GetDatasetSize(int nDataset) const {
 BOOL CChartDraw::GetData(int nDataset, int nIndex, double& x, double& y) const {
     if (nIndex < 0 || nIndex >= GetDatasetSize(nDataset))
         return FALSE;
-    const ChartSeries::Value& value = m_Datasets[static_cast<std::size_t>(nDataset)]->points[nIndex];
+    const ChartSeries::Value value = m_Datasets[static_cast<std::size_t>(nDataset)]->points[nIndex];
     x = value.x;
     y = value.y;
     return TRUE;

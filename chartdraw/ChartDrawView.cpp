@@ -29,34 +29,6 @@ bool IsLogarithmic(const ChartDrawState& state, int axis) {
     return asked.GetKind() == CChartAxis::Logarithmic;
 }
 
-/// Bounds of the finite y of the points with `xMin` <= x <= `xMax`, or of the y above 0.
-ValueBounds BoundsBetween(const ChartSeries& points, double xMin, double xMax, bool positiveOnly) {
-    ValueBounds bounds;
-    const auto add = [&](double y) {
-        if (std::isfinite(y) && (y > 0 || !positiveOnly))
-            bounds.Add(y);
-    };
-    points.Boxes().Visit(
-        0, points.Size(),
-        [&](const PointBox& box, int, int) {
-            if (box.left > xMax || box.right < xMin)
-                return true;
-            const bool isInside = box.left >= xMin && box.right <= xMax && std::isfinite(box.low) &&
-                                  std::isfinite(box.high) && (box.low > 0 || !positiveOnly);
-            if (isInside) {
-                bounds.Add(box.low);
-                bounds.Add(box.high);
-            }
-            return isInside;
-        },
-        [&](int first, int behind) {
-            for (int i = first; i < behind; ++i)
-                if (points[i].x >= xMin && points[i].x <= xMax)
-                    add(points[i].y);
-        });
-    return bounds;
-}
-
 /// A range with round ends around the visible data. They keep a Y axis still while data moves through the view.
 ViewRange RoundRangeAround(const ValueBounds& bounds, bool isLogarithmic) {
     if (!isLogarithmic) {
@@ -133,8 +105,8 @@ ValueBounds ChartDrawState::DataBounds(int axis, double xMin, double xMax) const
     ValueBounds bounds;
     for (const auto& dataset : chart.m_Datasets)
         if (dataset->visible && dataset->usesY2 == (axis == kY2))
-            bounds.Add(BoundsBetween(dataset->points, ToDataset(*dataset, xMin), ToDataset(*dataset, xMax),
-                                     IsLogarithmic(*this, axis)));
+            bounds.Add(dataset->points.YBoundsBetween(ToDataset(*dataset, xMin), ToDataset(*dataset, xMax),
+                                                      IsLogarithmic(*this, axis)));
     return bounds;
 }
 

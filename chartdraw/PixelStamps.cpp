@@ -49,26 +49,22 @@ std::vector<Point> PixelsOf(const StampShape& shape) {
 
 } // namespace
 
-void DrawStamps(CDC& dc, const PixelSet& places, COLORREF colour, const StampShape& shape) {
+void DrawStamps(CDC& dc, const std::optional<PixelRaster>& raster, const POINT& origin,
+                const PixelSet& places, COLORREF colour, const StampShape& shape) {
     if (places.IsEmpty())
         return;
-    if (::GetMapMode(dc.GetSafeHdc()) == MM_TEXT) {
-        const std::optional<std::uint32_t> ink = DirectColour(colour);
-        const std::optional<PixelRaster> raster = ink ? DirectRaster(dc) : std::nullopt;
-        const std::vector<Point> pixels = raster ? PixelsOf(shape) : std::vector<Point>();
-        if (!pixels.empty()) {
-            POINT origin = {0, 0};
-            ::LPtoDP(dc.GetSafeHdc(), &origin, 1);
-            places.Stamped(pixels, shape.reach).VisitRuns([&](const Rect& run) {
-                raster->Fill(
-                    {run.left + origin.x, run.top + origin.y, run.right + origin.x, run.bottom + origin.y},
-                    *ink);
-            });
-            return;
-        }
+    const std::optional<std::uint32_t> ink = DirectColour(colour);
+    const std::vector<Point> pixels = raster && ink ? PixelsOf(shape) : std::vector<Point>();
+    if (pixels.empty()) {
+        const Ink pens(dc, colour, shape.isFilled);
+        places.Visit([&](const Point& place) { shape.draw(dc, place.x, place.y); });
+        return;
     }
-    const Ink ink(dc, colour, shape.isFilled);
-    places.Visit([&](const Point& place) { shape.draw(dc, place.x, place.y); });
+    ::GdiFlush(); // GDI must finish its pending calls before pixels are written directly
+    places.Stamped(pixels, shape.reach).VisitRuns([&](const Rect& run) {
+        raster->Fill({run.left + origin.x, run.top + origin.y, run.right + origin.x, run.bottom + origin.y},
+                     *ink);
+    });
 }
 
 } // namespace kavlix

@@ -5,8 +5,10 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <optional>
 
 #include "chartdraw/core/PixelSet.h"
+#include "plot/PixelRaster.h"
 
 namespace kavlix {
 
@@ -18,8 +20,10 @@ struct StampShape {
     std::function<void(CDC&, int x, int y)> draw;
 };
 
-/// Draws the shape at each of the places. If the pixels of `dc` can be painted directly, GDI draws the shape
-/// only once, into a scratch picture; the pixels found there are then painted at all places in one pass.
-void DrawStamps(CDC& dc, const PixelSet& places, COLORREF colour, const StampShape& shape);
+/// Draws the shape at each of the places. With `raster`, which gives access to the pixels of `dc`, GDI draws the
+/// shape only once, into a scratch picture; the pixels found there are then painted at all places in one pass.
+/// `origin` is the device point of the logical origin.
+void DrawStamps(CDC& dc, const std::optional<PixelRaster>& raster, const POINT& origin,
+                const PixelSet& places, COLORREF colour, const StampShape& shape);
 
 } // namespace kavlix

@@ -2,6 +2,7 @@
 // A picture's pixels in memory, painted as GDI paints them but without calling GDI.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -29,6 +30,12 @@ public:
     PixelRaster(std::uint32_t* origin, std::ptrdiff_t stride, const Rect& clip);
 
     const Rect& Clip() const { return m_clip; }
+    /// The same pixels with the part of the clip that lies inside `area`.
+    PixelRaster ClippedTo(const Rect& area) const {
+        return PixelRaster(m_origin, m_stride,
+                           {std::max(m_clip.left, area.left), std::max(m_clip.top, area.top),
+                            std::min(m_clip.right, area.right), std::min(m_clip.bottom, area.bottom)});
+    }
 
     /// Paints a stroke without its last pixel.
     void Stroke(const Point& from, const Point& to, std::uint32_t colour) const;

@@ -56,6 +56,7 @@ void ChartLine::Add(double x, double y) {
         m_path.Add(pixel);
     }
     m_last = place;
+    m_isLastNear = IsNear(place);
     m_started = true;
 }
 

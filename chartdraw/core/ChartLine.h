@@ -31,6 +31,20 @@ public:
         m_isLone = m_isLone && pixel == m_first;
         m_path.Add(pixel);
     }
+    /// As Add, for a point that is near and has this pixel. False, with nothing added, when the last point is not
+    /// near: use Add. Before the next call of Add, tell the point's position by SetLast.
+    bool AddNear(const Point& pixel) {
+        if (m_started && !m_isLastNear)
+            return false;
+        if (!m_started)
+            m_first = pixel;
+        m_isLone = (m_isLone || !m_started) && pixel == m_first;
+        m_path.Add(pixel);
+        m_started = m_isLastNear = true;
+        return true;
+    }
+    /// Sets the exact position of the last point, which AddNear has added.
+    void SetLast(double x, double y) { m_last = {x, y}; }
     /// Ends the line; the next point begins another line.
     void End();
 
@@ -38,15 +52,17 @@ public:
     /// pixel to which it truncates.
     static bool IsNear(double position) { return std::abs(position) <= kNear; }
 
+    /// The largest coordinate, in pixels, that is passed on. GDI draws strokes between points in this range
+    /// exactly.
+    static constexpr int kNearest = 1 << 22;
+
 private:
     struct Place {
         double x = 0;
         double y = 0;
     };
 
-    /// The largest coordinate, in pixels, that is passed on. GDI draws strokes between points in this range
-    /// exactly.
-    static constexpr double kNear = 1 << 22;
+    static constexpr double kNear = kNearest;
 
     static bool IsNear(const Place& place) { return IsNear(place.x) && IsNear(place.y); }
     static void Narrow(double start, double step, double& from, double& to);
@@ -56,9 +72,10 @@ private:
     PixelPath& m_path;
     PixelSet& m_lonePixels;
     Place m_last;
-    Point m_first;          ///< pixel of the line's first point
-    bool m_isLone = false;  ///< the line has points, and all of them fall on m_first
-    bool m_started = false; ///< the line has a point
+    Point m_first;             ///< pixel of the line's first point
+    bool m_isLone = false;     ///< the line has points, and all of them fall on m_first
+    bool m_started = false;    ///< the line has a point
+    bool m_isLastNear = false; ///< the last point is near
 };
 
 } // namespace kavlix

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "chartdraw/core/SortedReduction.h"
+
 namespace kavlix {
 namespace {
 
@@ -14,9 +16,28 @@ constexpr int kFewPoints = 4; // a column with at most this number of points pas
 
 } // namespace
 
+void Reduce(const ChartSeries& series, const ColumnBorders& borders, const AxisMap& yMap, const Rect& view,
+            ChartLine& line) {
+    const AxisMap& xMap = borders.Pixels().Map();
+    if (!series.IsSorted()) {
+        ChartReduction(series.Unsorted(), xMap, yMap, view, line).Run();
+        return;
+    }
+    if (xMap.IsMonotonic() && yMap.IsMonotonic()) {
+        SortedReduction(series, borders, yMap, line).Run();
+        return;
+    }
+    for (int i = 0; i < series.Size(); ++i) {
+        if (series.IsGapBefore(i))
+            line.End();
+        line.Add(xMap.ExactPosition(series[i].x), yMap.ExactPosition(series[i].y));
+    }
+    line.End();
+}
+
 void ChartReduction::Run() {
-    m_series.Boxes().Visit(
-        0, m_series.Size(),
+    m_points.Visit(
+        0, m_points.Size(),
         [this](const PointBox& box, int first, int last) { return TakeBox(box, first, last); },
         [this](int first, int behind) { TakePoints(first, behind); });
     FlushColumn();
@@ -26,7 +47,7 @@ void ChartReduction::Run() {
 /// Deals with a block of points as a whole if possible. False otherwise: the parts of the block are then
 /// tried one by one.
 bool ChartReduction::TakeBox(const PointBox& box, int first, int last) {
-    if (box.HasGap())
+    if (box.HasGap() || !m_rows.HasPosition(box.low))
         return false;
     if (m_first <= m_last && IsInColumn(box.left) && IsInColumn(box.right)) {
         m_last = last;
@@ -51,18 +72,19 @@ bool ChartReduction::TakeBox(const PointBox& box, int first, int last) {
 
 /// Whether a block lies completely beyond one edge of the view. A NaN position counts as not beyond.
 bool ChartReduction::IsBeyond(double left, double right, const PointBox& box) const {
-    if (std::isnan(left) || std::isnan(right))
-        return false;
-    if (ToCoordinate(right) < m_view.left || ToCoordinate(left) >= m_view.right)
-        return true;
-    const double top = m_yMap.ExactPosition(box.high); // values grow upwards
-    const double bottom = m_yMap.ExactPosition(box.low);
-    return !std::isnan(top) && !std::isnan(bottom) &&
-           (ToCoordinate(bottom) < m_view.top || ToCoordinate(top) >= m_view.bottom);
+    // An axis may run in either direction.
+    const auto isBeyond = [](double a, double b, int begin, int end) {
+        return !std::isnan(a) && !std::isnan(b) &&
+               (ToCoordinate(std::max(a, b)) < begin || ToCoordinate(std::min(a, b)) >= end);
+    };
+    return !std::isnan(left) && !std::isnan(right) &&
+           (isBeyond(left, right, m_view.left, m_view.right) ||
+            isBeyond(m_yMap.ExactPosition(box.high), m_yMap.ExactPosition(box.low), m_view.top,
+                     m_view.bottom));
 }
 
 void ChartReduction::TakePoints(int first, int behind) {
-    const ChartPoint* points = &m_series[first];
+    const ChartPoint* points = &m_points[first];
     const int count = behind - first;
     for (int i = 0; i < count; ++i) {
         if (m_first <= m_last) {
@@ -73,7 +95,8 @@ void ChartReduction::TakePoints(int first, int behind) {
             double low = m_low;
             double high = m_high;
             const int start = i;
-            for (; i < count && points[i].x > begin && points[i].x < end && !std::isnan(points[i].y); ++i) {
+            for (; i < count && points[i].x > begin && points[i].x < end && m_rows.HasPosition(points[i].y);
+                 ++i) {
                 low = std::min(low, points[i].y);
                 high = std::max(high, points[i].y);
             }
@@ -89,7 +112,7 @@ void ChartReduction::TakePoints(int first, int behind) {
 
 void ChartReduction::TakePoint(int i, const ChartPoint& point) {
     const double x = m_xMap.ExactPosition(point.x);
-    if (!std::isnan(point.y) && ChartLine::IsNear(x)) {
+    if (m_rows.HasPosition(point.y) && ChartLine::IsNear(x)) {
         Extend(ToCoordinate(x), i, i, point.y, point.y);
         return;
     }
@@ -111,7 +134,7 @@ void ChartReduction::Extend(int column, int first, int last, double low, double 
     // as many points as the last column, and prefetch the points near the border that is kAhead columns
     // ahead.
     constexpr std::int64_t kAhead = 3; // columns
-    PointBoxTree::Prefetch(m_series.Values(), first + kAhead * (std::int64_t{first} - m_first));
+    m_points.Prefetch(first + kAhead * (std::int64_t{first} - m_first));
     m_first = first;
     m_last = last;
     m_low = low;
@@ -147,7 +170,7 @@ void ChartReduction::FlushColumn() {
 
 /// Passes on the first point of the open column, its two extreme pixels, and its last point.
 void ChartReduction::AddColumn(int bottom, int top) {
-    const int last = Row(m_series[m_last].y);
+    const int last = Row(m_points[m_last].y);
     int before = -1;
     Add(m_first);
     if (last == top || last == bottom) {
@@ -161,7 +184,7 @@ void ChartReduction::AddColumn(int bottom, int top) {
             return;
         }
         PointBox box;
-        m_series.Boxes().Visit(
+        m_points.Visit(
             m_first, before + 1,
             [&](const PointBox& part, int, int) {
                 box.Add(part);
@@ -169,7 +192,7 @@ void ChartReduction::AddColumn(int bottom, int top) {
             },
             [&](int first, int behind) {
                 for (int i = first; i < behind; ++i)
-                    box.Add(m_series[i]);
+                    box.Add(m_points[i]);
             });
         bottom = Row(box.low);
         top = Row(box.high);
@@ -183,14 +206,14 @@ void ChartReduction::AddColumn(int bottom, int top) {
 
 /// The last point of the open column in a row other than `row`; m_first - 1 when there is none.
 int ChartReduction::LastElsewhere(int row) const {
-    return m_series.Boxes().FindLast(
+    return m_points.FindLast(
         m_first, m_last + 1,
         [&](const PointBox& box) { return !box.HasGap() && Row(box.low) == row && Row(box.high) == row; },
-        [&](int i) { return Row(m_series[i].y) != row; });
+        [&](int i) { return Row(m_points[i].y) != row; });
 }
 
 void ChartReduction::Add(int i) {
-    const ChartPoint& point = m_series[i];
+    const ChartPoint& point = m_points[i];
     m_line.Add(m_xMap.ExactPosition(point.x), m_yMap.ExactPosition(point.y));
 }
 

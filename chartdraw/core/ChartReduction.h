@@ -1,25 +1,29 @@
 // SPDX-License-Identifier: MIT
-// Reduction of a series to the points that can change a pixel, by means of bounding boxes.
+// Reduction of a series to the points that can change a pixel.
 #pragma once
 
 #include "chartdraw/core/ChartLine.h"
 #include "chartdraw/core/ChartSeries.h"
-#include "plot/LinearMap.h"
+#include "chartdraw/core/ColumnBorders.h"
+#include "plot/AxisMap.h"
 
 namespace kavlix {
 
-/// Passes the points of a series to a ChartLine and leaves out points that change no pixel. The picture is
-/// the same, pixel for pixel, as that of all points. For many consecutive points in one pixel column, only a
-/// few points are passed on, among them the extremes; for a block of points (see PointBoxTree) beyond one
-/// edge of the view, only the first and the last. So where x ascends, the cost grows with the pixels and not
-/// with the points. Lines that go back and forth between columns are passed on point by point.
+/// Passes the points of a series to `line` and leaves out points that change no pixel. The picture is the same,
+/// pixel for pixel, as that of all points. Where x ascends, the cost grows with the pixels and not with the points.
+/// A pen at a point outside `view` must not paint a visible pixel. `borders` are those of the columns of `view`.
+void Reduce(const ChartSeries& series, const ColumnBorders& borders, const AxisMap& yMap, const Rect& view,
+            ChartLine& line);
+
+/// The reduction of an unsorted series. For many consecutive points in one pixel column, only a few points are
+/// passed on, among them the extremes; for a block of points (see PointBoxTree) beyond one edge of the view, only
+/// the first and the last. Lines that go back and forth between columns are passed on point by point.
 class ChartReduction {
 public:
-    /// A pen at a point outside `view` must not paint a visible pixel. The object copies `view`; all other
-    /// arguments must outlive the object.
-    ChartReduction(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, const Rect& view,
+    /// Arguments as of Reduce. The object copies `view`; all other arguments must outlive the object.
+    ChartReduction(const UnsortedPoints& points, const AxisMap& xMap, const AxisMap& yMap, const Rect& view,
                    ChartLine& line)
-        : m_series(series), m_xMap(xMap), m_yMap(yMap), m_view(view), m_line(line) {}
+        : m_points(points), m_xMap(xMap), m_yMap(yMap), m_rows(yMap), m_view(view), m_line(line) {}
     ChartReduction(const ChartReduction&) = delete;
     ChartReduction& operator=(const ChartReduction&) = delete;
 
@@ -36,12 +40,13 @@ private:
     void FlushColumn();
     void AddColumn(int bottom, int top);
     void Add(int i);
-    int Row(double y) const { return ToCoordinate(m_yMap.ExactPosition(y)); }
+    int Row(double y) const { return m_rows.Of(y); }
     int LastElsewhere(int row) const;
 
-    const ChartSeries& m_series;
-    const LinearMap& m_xMap;
-    const LinearMap& m_yMap;
+    const UnsortedPoints& m_points;
+    const AxisMap& m_xMap;
+    const AxisMap& m_yMap;
+    AxisPixels m_rows;
     Rect m_view;
     ChartLine& m_line;
 

@@ -6,7 +6,9 @@ namespace kavlix {
 
 PixelSet PixelSet::Stamped(const std::vector<Point>& shape, int reach) const {
     PixelSet stamped({m_area.left - reach, m_area.top - reach, m_area.right + reach, m_area.bottom + reach});
-    stamped.m_isEmpty = m_isEmpty;
+    if (IsEmpty())
+        return stamped;
+    stamped.m_words.resize(stamped.m_rowWords * static_cast<std::size_t>(stamped.m_area.Height()));
     for (std::size_t row = 0; row < static_cast<std::size_t>(m_area.Height()); ++row) {
         const std::uint64_t* source = &m_words[row * m_rowWords];
         std::size_t first = 0;

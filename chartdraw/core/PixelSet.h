@@ -16,20 +16,20 @@ namespace kavlix {
 class PixelSet {
 public:
     explicit PixelSet(const Rect& area)
-        : m_area(area), m_rowWords((static_cast<std::size_t>(area.Width()) + kBits - 1) / kBits),
-          m_words(m_rowWords * static_cast<std::size_t>(area.Height())) {}
+        : m_area(area), m_rowWords((static_cast<std::size_t>(area.Width()) + kBits - 1) / kBits) {}
 
     const Rect& Area() const { return m_area; }
-    bool IsEmpty() const { return m_isEmpty; }
+    bool IsEmpty() const { return m_words.empty(); }
     /// Adds a pixel. Pixels outside the area are ignored.
     void Add(const Point& pixel) {
         if (!m_area.Contains(pixel))
             return;
-        m_isEmpty = false;
+        if (m_words.empty())
+            m_words.resize(m_rowWords * static_cast<std::size_t>(m_area.Height()));
         WordOf(pixel) |= BitOf(pixel);
     }
     /// Whether the set contains `pixel`, which must lie inside the area.
-    bool Has(const Point& pixel) const { return (WordOf(pixel) & BitOf(pixel)) != 0; }
+    bool Has(const Point& pixel) const { return !IsEmpty() && (WordOf(pixel) & BitOf(pixel)) != 0; }
     /// Calls `take(pixel)` for each pixel, row by row.
     template <class Take> void Visit(Take take) const {
         VisitRuns([&](const Rect& run) {
@@ -40,7 +40,7 @@ public:
     /// Calls `take(run)` for each run of neighbouring pixels in a row, row by row. A run is a
     /// Rect one pixel high.
     template <class Take> void VisitRuns(Take take) const {
-        for (int row = 0; row < m_area.Height(); ++row) {
+        for (int row = 0; row < m_area.Height() && !IsEmpty(); ++row) {
             const std::uint64_t* words = &m_words[static_cast<std::size_t>(row) * m_rowWords];
             const int y = m_area.top + row;
             std::optional<int> begin; // x of the open run's first pixel
@@ -86,8 +86,7 @@ private:
 
     Rect m_area;
     std::size_t m_rowWords;
-    std::vector<std::uint64_t> m_words;
-    bool m_isEmpty = true;
+    std::vector<std::uint64_t> m_words; ///< empty until the first pixel is added
 };
 
 } // namespace kavlix

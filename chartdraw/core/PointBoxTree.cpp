@@ -7,6 +7,14 @@ namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
+/// The box of the newest block of the level above `parts`: of the last points, or of the last boxes.
+template <class Parts> PointBox BoxOfLast(const Parts& parts, std::size_t count) {
+    PointBox box;
+    for (std::size_t i = parts.Size() - count; i < parts.Size(); ++i)
+        box.Add(parts[i]);
+    return box;
+}
+
 } // namespace
 
 void PointBox::Add(const ChartPoint& point) {
@@ -28,22 +36,26 @@ void PointBox::Add(const PointBox& box) {
 }
 
 void PointBoxTree::Update(const ChartPoints& points) {
-    // The box of the newest block: of the last kFanOut points, or of the last kFanOut boxes.
-    const auto boxOf = [](const auto& parts) {
-        PointBox box;
-        for (std::size_t i = parts.Size() - kFanOut; i < parts.Size(); ++i)
-            box.Add(parts[i]);
-        return box;
-    };
     std::size_t level = 1;
     try {
         for (; level <= kLevels && points.Size() % Size(level) == 0; ++level)
-            m_levels[level - 1].Add(level == 1 ? boxOf(points) : boxOf(m_levels[level - 2]));
+            m_levels[level - 1].Add(NewestBox(points, level));
     } catch (...) {
         while (--level > 0)
             m_levels[level - 1].RemoveTail(1);
         throw;
     }
+}
+
+void PointBoxTree::UpdateLast(const ChartPoints& points) {
+    for (std::size_t level = 1; level <= kLevels && points.Size() % Size(level) == 0; ++level) {
+        Boxes& boxes = m_levels[level - 1];
+        boxes[boxes.Size() - 1] = NewestBox(points, level);
+    }
+}
+
+PointBox PointBoxTree::NewestBox(const ChartPoints& points, std::size_t level) const {
+    return level == 1 ? BoxOfLast(points, kFanOut) : BoxOfLast(m_levels[level - 2], kFanOut);
 }
 
 } // namespace kavlix

@@ -44,6 +44,8 @@ public:
     /// Call this after each point that is added to `points`. Throws std::bad_alloc, with nothing changed,
     /// when memory runs out.
     void Update(const ChartPoints& points);
+    /// Call this after the last point of `points` has changed.
+    void UpdateLast(const ChartPoints& points);
 
     /// Prefetches the points of the lowest block that contains point `i`, if that point exists.
     static void Prefetch(const ChartPoints& points, std::int64_t i) {
@@ -120,6 +122,8 @@ private:
             ++level;
         return level;
     }
+
+    PointBox NewestBox(const ChartPoints& points, std::size_t level) const;
 
     std::array<Boxes, kLevels> m_levels; ///< element 0 is level 1
 };

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <string>
 #include <vector>
 
 using namespace kavlix;
@@ -34,7 +35,7 @@ struct Canvas {
     }
 };
 
-void WalkAll(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, Canvas& canvas) {
+void WalkAll(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
     std::vector<Point> part;
     const auto flush = [&] {
         if (part.size() > 1)
@@ -44,6 +45,8 @@ void WalkAll(const ChartSeries& series, const LinearMap& xMap, const LinearMap& 
         part.clear();
     };
     for (int i = 0; i < series.Size(); ++i) {
+        if (series.IsGapBefore(i))
+            flush();
         const auto x = xMap.Position(series[i].x);
         const auto y = yMap.Position(series[i].y);
         if (x && y)
@@ -54,16 +57,38 @@ void WalkAll(const ChartSeries& series, const LinearMap& xMap, const LinearMap& 
     flush();
 }
 
-void WalkReduced(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, Canvas& canvas) {
+void WalkReduced(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
     ReducedPath path(kView, [&](const Point* points, int count) { canvas.Draw(points, count); });
     ChartLine line(path, canvas.lone);
-    ChartReduction(series, xMap, yMap, kView, line).Run();
+    Reduce(series, ColumnBorders(xMap, kView.left, kView.right), yMap, kView, line);
 }
 
-void WalkPainted(const ChartSeries& series, const LinearMap& xMap, const LinearMap& yMap, Canvas& canvas) {
+void WalkPainted(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
     RasterPath path(canvas.raster, kInk);
     ChartLine line(path, canvas.lone);
-    ChartReduction(series, xMap, yMap, kView, line).Run();
+    Reduce(series, ColumnBorders(xMap, kView.left, kView.right), yMap, kView, line);
+}
+
+/// The place of the first pixel that differs, and its two values.
+std::string FirstDifference(const Canvas& a, const Canvas& b) {
+    const auto [own, other] = std::mismatch(a.pixels.begin(), a.pixels.end(), b.pixels.begin());
+    if (own == a.pixels.end())
+        return "";
+    const auto place = own - a.pixels.begin();
+    return std::to_string(place % kWidth) + "," + std::to_string(place / kWidth) + ": " +
+           std::to_string(*own) + " for " + std::to_string(*other);
+}
+
+/// As WalkAll, for points so far away that their strokes must be cut.
+void WalkFar(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
+    ReducedPath path(kView, [&](const Point* points, int count) { canvas.Draw(points, count); });
+    ChartLine line(path, canvas.lone);
+    for (int i = 0; i < series.Size(); ++i) {
+        if (series.IsGapBefore(i))
+            line.End();
+        line.Add(xMap.ExactPosition(series[i].x), yMap.ExactPosition(series[i].y));
+    }
+    line.End();
 }
 
 const LinearMap kWholeY(0, kHeight - 1, kHeight - 1, 1 - kHeight);
@@ -73,35 +98,60 @@ const LinearMap kWholeY(0, kHeight - 1, kHeight - 1, 1 - kHeight);
 TEST(ChartReduction, DrawsWhatTheWholeLineDraws) {
     std::mt19937 random(5);
     const auto unit = [&] { return random() / 4294967296.0; };
-    for (int round = 0; round < 3000; ++round) {
-        const int count = 1 + static_cast<int>(std::pow(unit(), 3) * 9000);
-        // From steep noise to long runs in one row, with x in order or back and forth.
+    const auto oneIn = [&](int rounds) { return random() % static_cast<unsigned>(rounds) == 0; };
+    for (int round = 0; round < 4000; ++round) {
+        const int count = 1 + static_cast<int>(std::pow(unit(), 3) * (round % 100 == 0 ? 60000 : 9000));
+        // From steep noise to long runs in one row, with x even, in order, or back and forth.
         const double rows = std::pow(10, unit() * 2.5);
         const double step = std::pow(10, unit() * 4 - 3);
-        const double gaps = round % 12 == 0 ? 0.4 : round % 4 == 0 ? 0.003 : 0;
-        const bool backwards = round % 7 == 0;
-        const bool isRandom = round % 5 == 0;
+        const double gaps = oneIn(12) ? 0.4 : oneIn(4) ? 0.003 : 0;
+        const double far = oneIn(6) ? 0.01 : 0;
+        const bool backwards = oneIn(7), isRandom = oneIn(5), isEven = oneIn(3);
+        const bool isLogX = oneIn(5), isLogY = oneIn(5);
         const double xStep = 1.0 / count;
+        const auto xOf = [&](double x) { return isLogX ? std::pow(10, 3 * x) - 1.5 : x; };
+        const auto yOf = [&](double y) { return isLogY ? std::pow(10, y) : y; };
         ChartSeries series;
+        series.SetEven(isLogX ? -0.2 : 0.1, xStep);
+        if (oneIn(4))
+            series.SetGapLimit(xStep * (oneIn(2) ? 1.9 : 1.9999) * (isLogX ? 1000 : 1));
         double x = 0, y = unit();
         for (int i = 0; i < count; ++i) {
             x = isRandom ? unit() : x + (backwards ? (unit() - 0.5) * 0.05 : xStep * 2 * unit());
             y += unit() < step ? (unit() - 0.5) * 0.5 : 0;
-            series.Append(x,
-                          unit() < gaps ? (unit() < 0.5 ? NAN : unit() - 0.5) : std::round(y * rows) / rows);
+            double value = yOf(std::round(y * rows) / rows);
+            if (unit() < gaps)
+                value = unit() < 0.5 ? NAN : unit() - 0.5;
+            else if (unit() < far)
+                value = (unit() < 0.5 ? 1 : -1) * (unit() < 0.1 ? INFINITY : std::pow(10, 20 * unit()));
+            if (isEven)
+                series.AppendEven(value);
+            else
+                series.Append(xOf(x), value);
         }
-        const double xRange = round % 2 == 0 ? 1 : std::pow(10, -3 * unit());
-        const double yRange = round % 3 == 0 ? 2 : std::pow(10, 0.5 - 2 * unit());
+        const double xRange = oneIn(2) ? 1 : std::pow(10, -3 * unit());
+        const double yRange = oneIn(3) ? 2 : std::pow(10, 0.5 - 2 * unit());
         const double xMin = (1 - xRange) * unit(), yMin = y - yRange * unit();
-        const LinearMap xMap(xMin, xMin + xRange, 0, kWidth - 1);
-        const LinearMap yMap(yMin, yMin + yRange, kHeight - 1, 1 - kHeight);
+        double left = isEven || !isLogX ? xMin : std::pow(10, 3 * xMin);
+        double right = isEven || !isLogX ? xMin + xRange : std::pow(10, 3 * (xMin + xRange));
+        if (isLogX && isEven)
+            left = std::max(left, right / 1000);
+        double low = yOf(yMin), high = yOf(yMin + yRange);
+        if (oneIn(4))
+            std::swap(left, right);
+        if (oneIn(4))
+            std::swap(low, high);
+        const AxisMap xMap(isLogX, left, right, oneIn(4) ? -3 : 0, kWidth - 1);
+        const AxisMap yMap(isLogY, low, high, kHeight - 1, 1 - kHeight);
         Canvas reduced, painted, whole;
         WalkReduced(series, xMap, yMap, reduced);
         WalkPainted(series, xMap, yMap, painted);
-        WalkAll(series, xMap, yMap, whole);
+        (far > 0 ? WalkFar : WalkAll)(series, xMap, yMap, whole);
         for (Canvas* canvas : {&whole, &reduced, &painted}) {
             canvas->lone.Visit([&](Point at) { canvas->raster.Run(at.x, at.y, at.y, 2 * kInk); });
-            ASSERT_EQ(canvas->pixels, whole.pixels) << "round " << round << ", " << count << " points";
+            ASSERT_EQ(FirstDifference(*canvas, whole), "")
+                << "round " << round << ", " << count << " points, sorted " << series.IsSorted() << isEven
+                << isLogX << isLogY << " far " << far << " gaps " << gaps << " limit " << series.GapLimit();
         }
     }
 }

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// DatasetPainter: draws the lines and markers of a chart's datasets.
+#pragma once
+
+#include <afxwin.h>
+
+#include <kavlix/Dataset.h>
+
+#include <cstdint>
+#include <optional>
+
+#include "chartdraw/core/ChartSeries.h"
+#include "chartdraw/core/ColumnBorders.h"
+#include "plot/AxisMap.h"
+#include "plot/PixelRaster.h"
+
+namespace kavlix {
+
+class PixelPath;
+class PixelSet;
+
+/// A dataset as it is drawn. The maps lead from values to logical units of one pixel.
+struct DrawnDataset {
+    const ChartSeries& points;
+    AxisMap xMap;
+    AxisMap yMap;
+    COLORREF color;
+    int lineSize; ///< pixels; 0 and 1 both draw one pixel
+    CDataset::MarkerType markerType;
+};
+
+/// Draws datasets into one plot of a DC. What all of them need is found only once: the pixels of the DC, if they can
+/// be written directly, and the borders of the pixel columns.
+class DatasetPainter {
+public:
+    /// `plot` is in logical units and is not empty. `dc` must outlive the object.
+    DatasetPainter(CDC& dc, const CRect& plot);
+    DatasetPainter(const DatasetPainter&) = delete;
+    DatasetPainter& operator=(const DatasetPainter&) = delete;
+
+    /// Draws the line, cut at the plot's edges.
+    void DrawLine(const DrawnDataset& dataset);
+    /// Draws a marker at each point inside the plot.
+    void DrawMarkers(const DrawnDataset& dataset);
+
+private:
+    const ColumnBorders& BordersOf(const AxisMap& xMap, const Rect& view);
+    void Walk(const DrawnDataset& dataset, const Rect& view, PixelPath& path, PixelSet& lonePixels);
+    void DrawByGdi(const DrawnDataset& dataset, const Rect& view, PixelSet& lonePixels);
+
+    CDC& m_dc;
+    CRect m_plot;
+    POINT m_origin = {0, 0};                 ///< device point of the logical origin
+    std::optional<PixelRaster> m_raster;     ///< the pixels of the DC
+    std::optional<PixelRaster> m_plotRaster; ///< the part of m_raster inside the plot
+    std::optional<ColumnBorders> m_borders;  ///< of the last dataset
+};
+
+} // namespace kavlix

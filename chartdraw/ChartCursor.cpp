@@ -1,19 +1,162 @@
 // SPDX-License-Identifier: MIT
-// CChartCursor: cursors at samples, and their readout.
+// CChartCursor: properties, and what the mouse and keys do to the cursors.
 #include <kavlix/ChartDraw.h>
 
+#include <cmath>
+#include <limits>
+
+#include "chartdraw/ChartCursorState.h"
+#include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 
 using namespace kavlix;
 
-struct kavlix::ChartCursorState {
-    CChartDraw& chart;
-};
+namespace {
 
-CChartCursor::CChartCursor(CChartDraw& chart) : m_State(new ChartCursorState{chart}) {
+/// Sends CDN_CURSOR. The chart may be destroyed meanwhile.
+void Tell(ChartDrawState& state, int cursor, const CursorReading& reading) {
+    NMCHARTDRAW record = {};
+    record.hdr.code = CDN_CURSOR;
+    record.nIndex = reading.dataset;
+    record.nItem = cursor;
+    record.dValue = reading.IsValid() ? reading.x : std::numeric_limits<double>::quiet_NaN();
+    bool alive = true;
+    state.Notify(record, alive);
+}
+
+/// The sample `steps` samples away from another one, or the last one before the end; gaps do not count.
+int StepFrom(const ChartSeries& points, int sample, int steps) {
+    const int direction = steps < 0 ? -1 : 1;
+    for (int i = sample + direction; steps != 0 && i >= 0 && i < points.Size(); i += direction)
+        if (std::isfinite(points[i].x) && std::isfinite(points[i].y)) {
+            sample = i;
+            steps -= direction;
+        }
+    return sample;
+}
+
+} // namespace
+
+CChartCursor::CChartCursor(CChartDraw& chart) : m_State(std::make_unique<ChartCursorState>(chart)) {
 }
 
 CChartCursor::~CChartCursor() = default;
 
-void ChartDrawState::DrawCursors(CDC&) {
+void CChartCursor::SetMode(Mode mode) {
+    m_State->mode = mode;
+    if (mode == Off)
+        for (ChartCursorState::Place& place : m_State->places)
+            place.isShown = false;
+}
+
+CChartCursor::Mode CChartCursor::GetMode() const {
+    return m_State->mode;
+}
+
+void CChartCursor::ShowReadout(BOOL bShow) {
+    m_State->hasReadout = bShow != FALSE;
+}
+
+void CChartCursor::SetColors(COLORREF line, COLORREF text, COLORREF background, COLORREF border) {
+    m_State->lineColor = line;
+    m_State->textColor = text;
+    m_State->background = background;
+    m_State->border = border;
+}
+
+BOOL CChartCursor::SetPosition(int nCursor, double x) {
+    if (m_State->mode == Off || nCursor < 0 || nCursor >= ChartCursorState::kCursors || !std::isfinite(x))
+        return FALSE;
+    const ChartDrawState& state = *m_State->chart.m_State;
+    const CursorReading reading = ChartCursorState::Nearest(state, x, m_State->places[nCursor].dataset);
+    if (reading.IsValid())
+        m_State->Set(state, nCursor, reading);
+    return reading.IsValid();
+}
+
+void CChartCursor::Hide(int nCursor) {
+    if (nCursor >= 0 && nCursor < ChartCursorState::kCursors)
+        m_State->places[nCursor].isShown = false;
+}
+
+BOOL CChartCursor::GetPosition(int nCursor, double& x) const {
+    const CursorReading reading = m_State->Read(*m_State->chart.m_State, nCursor);
+    if (reading.IsValid())
+        x = reading.x;
+    return reading.IsValid();
+}
+
+int CChartCursor::GetDataset(int nCursor) const {
+    return m_State->Read(*m_State->chart.m_State, nCursor).dataset;
+}
+
+int CChartCursor::GetSample(int nCursor, int nDataset) const {
+    const CChartDraw& chart = m_State->chart;
+    return chart.IsDataset(nDataset) ? m_State->Read(*chart.m_State, nCursor, nDataset).sample : -1;
+}
+
+BOOL CChartCursor::MoveBySamples(int nCursor, int nSamples) {
+    return m_State->chart.m_State->MoveCursor(nCursor, nSamples, false);
+}
+
+BOOL CChartCursor::GetStatistics(int nDataset, ChartStatistics& statistics) const {
+    const ChartDrawState& state = *m_State->chart.m_State;
+    if (!m_State->chart.IsDataset(nDataset) || !m_State->Read(state, 0).IsValid() ||
+        !m_State->Read(state, 1).IsValid())
+        return FALSE;
+    statistics = m_State->Statistics(state, nDataset);
+    return TRUE;
+}
+
+bool ChartDrawState::MoveCursor(int nCursor, int nSamples, bool tell) {
+    CursorReading reading = cursor.m_State->Read(*this, nCursor);
+    if (!reading.IsValid())
+        return false;
+    const CChartDraw::Dataset& dataset = Dataset(reading.dataset);
+    const int sample = StepFrom(dataset.points, reading.sample, nSamples);
+    if (sample == reading.sample)
+        return false;
+    reading.sample = sample;
+    reading.point = dataset.points[sample];
+    reading.x = ToAxis(dataset, reading.point.x);
+    cursor.m_State->Set(*this, nCursor, reading);
+    if (tell) {
+        chart.Redraw();
+        Tell(*this, nCursor, reading);
+    }
+    return true;
+}
+
+void ChartDrawState::HoverCursor(const CPoint* pPoint) {
+    ChartCursorState& state = *cursor.m_State;
+    if (state.mode == CChartCursor::Off)
+        return;
+    const bool isInside =
+        pPoint != nullptr && Plot().PtInRect(*pPoint) && !legend.GetRect().PtInRect(*pPoint);
+    const CursorReading reading = isInside ? state.Nearest(*this, *pPoint) : CursorReading();
+    if (!state.Set(*this, 0, reading))
+        return;
+    chart.Redraw();
+    Tell(*this, 0, reading);
+}
+
+bool ChartDrawState::StepCursor(int nSamples, int nDatasets) {
+    ChartCursorState& state = *cursor.m_State;
+    const int shown = state.IsShown(0) ? 0 : 1;
+    if (nSamples != 0 && MoveCursor(shown, nSamples, true))
+        return true;
+    const CursorReading reading = state.Read(*this, shown);
+    if (!reading.IsValid() || nDatasets == 0)
+        return reading.IsValid();
+    const int direction = nDatasets < 0 ? -1 : 1;
+    for (int i = reading.dataset + direction; i >= 0 && i < DatasetCount(); i += direction) {
+        const CursorReading other = Dataset(i).visible ? state.Read(*this, shown, i) : CursorReading();
+        if (!other.IsValid())
+            continue;
+        state.Set(*this, shown, other);
+        chart.Redraw();
+        Tell(*this, shown, other);
+        break;
+    }
+    return true;
 }

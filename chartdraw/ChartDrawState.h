@@ -66,9 +66,10 @@ struct ChartDrawState {
     void DrawOverlay(CDC& dc);        ///< reference lines, legend, cursors, zoom box, in this order
     void DrawReferenceLines(CDC& dc); ///< with all texts (ChartReferencesPaint.cpp)
     void DrawReferenceTexts(CDC& dc);
-    void DrawLegend(CDC& dc);         ///< ChartLegendPaint.cpp
-    void DrawCursors(CDC& dc);        ///< ChartCursor.cpp
-    void DrawZoomBox(CDC& dc);        ///< ChartDrawInput.cpp
+    void DrawLegend(CDC& dc);  ///< ChartLegendPaint.cpp
+    void DrawCursors(CDC& dc); ///< with their readout (ChartReadoutPaint.cpp)
+    void DrawReadout(CDC& dc);
+    void DrawZoomBox(CDC& dc); ///< ChartDrawInput.cpp
     /// Whether the dataset is drawn in a highlighted way: the mouse is over its row in the legend (ChartLegend.cpp).
     bool IsHighlighted(int nDataset) const;
     /// Selects the font of the chart's texts for the time of the result.
@@ -91,6 +92,8 @@ struct ChartDrawState {
     void
     HoverCursor(const CPoint* pPoint); ///< moves the first cursor; null: the mouse has left (ChartCursor.cpp)
     bool StepCursor(int nSamples, int nDatasets); ///< moves the shown cursor by samples or to another dataset
+    /// CChartCursor::MoveBySamples; with `tell` for the user.
+    bool MoveCursor(int nCursor, int nSamples, bool tell);
 
     // ---- View (chartdraw/ChartDrawView.cpp, which also has CChartAxis' members on ranges) ----
 

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+// ChartCursorState: the samples that cursors are at, and the figures between them.
+#include "chartdraw/ChartCursorState.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/core/NearestSample.h"
+
+namespace kavlix {
+namespace {
+
+/// The points of a dataset, searched by their bounding boxes.
+class Samples {
+public:
+    explicit Samples(const ChartSeries& points) : m_points(points) {}
+
+    int Size() const { return m_points.Size(); }
+    ChartPoint operator[](int i) const { return m_points[i]; }
+    bool IsSorted() const { return false; }
+    int NearestInX(double) const { return 0; }
+    ValueBounds YBoundsBetween(double, double, bool) const { return m_points.YBounds(); }
+    const Samples& Unsorted() const { return *this; }
+    template <class TakeBox, class TakePoints>
+    void Visit(int begin, int end, TakeBox takeBox, TakePoints takePoints) const {
+        m_points.Boxes().Visit(begin, end, takeBox, takePoints);
+    }
+
+private:
+    const ChartSeries& m_points;
+};
+
+CursorReading ReadingOf(const ChartDrawState& state, int dataset, int sample) {
+    if (sample < 0)
+        return {};
+    const ChartPoint point = state.Dataset(dataset).points[sample];
+    return {dataset, sample, point, state.ToAxis(state.Dataset(dataset), point.x)};
+}
+
+/// The place of a sample in a list of visible datasets; -1 for a dataset that is hidden or removed.
+int IndexOf(const ChartDrawState& state, const ChartDrawState::ChartDataset* dataset) {
+    for (int i = 0; i < state.DatasetCount(); ++i)
+        if (&state.Dataset(i) == dataset)
+            return state.Dataset(i).visible ? i : -1;
+    return -1;
+}
+
+/// The sample of a series at `point`; if there is none, the nearest one in x.
+int FindSample(const ChartSeries& points, const ChartPoint& point) {
+    const int nearest = FindNearestInX(Samples(points), point.x).index;
+    if (nearest < 0 || points[nearest].x != point.x || points[nearest].y == point.y)
+        return nearest;
+    // Several samples have this x: look for the one with this y.
+    const auto along = [&](double x) {
+        constexpr double kInfinity = std::numeric_limits<double>::infinity();
+        return x < point.x ? -kInfinity : x > point.x ? kInfinity : 0;
+    };
+    const auto across = [&](double y) { return y - point.y; };
+    const NearestSample same = FindNearestSample(Samples(points), point.x, along, across, false);
+    return same.distance == 0 ? same.index : nearest;
+}
+
+ChartStatistics StatisticsBetween(const ChartSeries& points, double from, double to) {
+    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+    ChartStatistics figures = {0, kNaN, kNaN, kNaN, kNaN, kNaN};
+    double sum = 0;
+    for (int i = 0; i < points.Size(); ++i) {
+        const ChartPoint point = points[i];
+        if (!(point.x >= from && point.x <= to) || point.y != point.y)
+            continue;
+        if (figures.count == 0)
+            figures = {0, point.y, point.y, kNaN, point.y, point.y};
+        ++figures.count;
+        figures.min = std::min(figures.min, point.y);
+        figures.max = std::max(figures.max, point.y);
+        figures.last = point.y;
+        sum += point.y;
+        figures.mean = sum / static_cast<double>(figures.count);
+    }
+    return figures;
+}
+
+} // namespace
+
+CursorReading ChartCursorState::Read(const ChartDrawState& state, int cursor) const {
+    if (!IsShown(cursor))
+        return {};
+    const Place& place = places[cursor];
+    const int dataset = IndexOf(state, place.dataset);
+    const int sample = dataset < 0 ? -1 : FindSample(state.Dataset(dataset).points, place.point);
+    return sample >= 0 ? ReadingOf(state, dataset, sample) : Nearest(state, place.x, nullptr);
+}
+
+CursorReading ChartCursorState::Read(const ChartDrawState& state, int cursor, int dataset) const {
+    const CursorReading own = Read(state, cursor);
+    if (!own.IsValid() || own.dataset == dataset)
+        return own;
+    const double x = state.ToDataset(state.Dataset(dataset), own.x);
+    return ReadingOf(state, dataset, FindNearestInX(Samples(state.Dataset(dataset).points), x).index);
+}
+
+CursorReading ChartCursorState::Nearest(const ChartDrawState& state, double x,
+                                        const ChartDrawState::ChartDataset* preferred) {
+    NearestSample best;
+    int bestDataset = -1;
+    for (int i = 0; i < state.DatasetCount(); ++i) {
+        const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
+        if (!dataset.visible)
+            continue;
+        const NearestSample found = FindNearestInX(Samples(dataset.points), state.ToDataset(dataset, x));
+        if (found.distance < best.distance || (found.distance == best.distance && &dataset == preferred)) {
+            best = found;
+            bestDataset = i;
+        }
+    }
+    return ReadingOf(state, bestDataset, best.index);
+}
+
+CursorReading ChartCursorState::Nearest(const ChartDrawState& state, CPoint point) const {
+    NearestSample best;
+    int bestDataset = -1;
+    for (int i = 0; i < state.DatasetCount(); ++i) {
+        const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
+        if (!dataset.visible)
+            continue;
+        const AxisMap xMap = state.XMap(dataset);
+        const AxisMap yMap = state.YMap(dataset);
+        const auto along = [&](double x) { return xMap.ExactPosition(x) - point.x; };
+        const auto across = [&](double y) { return yMap.ExactPosition(y) - point.y; };
+        const auto anywhere = [](double) { return 0.0; };
+        const double x = xMap.Value(point.x);
+        const NearestSample found =
+            mode == CChartCursor::All
+                ? FindNearestSample(Samples(dataset.points), x, along, anywhere, false)
+                : FindNearestSample(Samples(dataset.points), x, along, across, yMap.IsLogarithmic());
+        if (found.distance < best.distance) {
+            best = found;
+            bestDataset = i;
+        }
+    }
+    return ReadingOf(state, bestDataset, best.index);
+}
+
+bool ChartCursorState::Set(const ChartDrawState& state, int cursor, const CursorReading& reading) {
+    const Place before = places[cursor];
+    Place& place = places[cursor];
+    place.isShown = reading.IsValid();
+    if (!place.isShown)
+        return before.isShown;
+    place.dataset = &state.Dataset(reading.dataset);
+    place.point = reading.point;
+    place.x = reading.x;
+    return !before.isShown || before.dataset != place.dataset || before.point.x != place.point.x ||
+           before.point.y != place.point.y;
+}
+
+ChartStatistics ChartCursorState::Statistics(const ChartDrawState& state, int dataset) const {
+    const ChartDrawState::ChartDataset& record = state.Dataset(dataset);
+    const auto bound = [&](int cursor) {
+        const CursorReading own = Read(state, cursor);
+        return own.dataset == dataset ? own.point.x : state.ToDataset(record, own.x);
+    };
+    return StatisticsBetween(record.points, std::min(bound(0), bound(1)), std::max(bound(0), bound(1)));
+}
+
+} // namespace kavlix

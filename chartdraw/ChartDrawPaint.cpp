@@ -123,6 +123,7 @@ void CChartDraw::DrawTitle(CDC& dc) {
 void CChartDraw::DrawGrid(CDC& dc) {
     if (m_rectPlot.IsRectEmpty())
         return;
+    m_State->DrawBands(dc);
     CPen gridPen;
     gridPen.CreatePen(PS_SOLID, 0, m_GridColor);
     CPen zeroPen;
@@ -145,7 +146,6 @@ void CChartDraw::DrawGrid(CDC& dc) {
             });
         }
     }
-    m_State->DrawBands(dc);
 }
 
 void CChartDraw::DrawAxes(CDC& dc) {

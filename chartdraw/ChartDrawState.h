@@ -19,7 +19,7 @@ class PostQueue;        // chartdraw/core/PostQueue.h: points of other threads
 
 /// The parts of a chart. Their sources reach the chart's private members by the functions here.
 ///
-/// Drawing: PaintBkGnd, DrawTitle, DrawGrid (grid, then DrawBands), DrawDatasets, DrawAxes, DrawYScale (both Y axes),
+/// Drawing: PaintBkGnd, DrawTitle, DrawGrid (DrawBands, then the grid), DrawDatasets, DrawAxes, DrawYScale (both Y axes),
 /// DrawXScale (X axis, then DrawOverlay).
 struct ChartDrawState {
     using ChartDataset = CChartDraw::Dataset; ///< for functions that are no friends of CChartDraw

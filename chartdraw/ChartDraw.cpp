@@ -8,6 +8,7 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
+#include "chartdraw/ChartPost.h"
 #include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
 
@@ -16,6 +17,7 @@ using namespace kavlix;
 BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
     ON_WM_NCCREATE()
     ON_MESSAGE(WM_STYLECHANGING, &CChartDraw::OnStyleChanging)
+    ON_WM_DESTROY()
 
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CChartDraw::OnPrintClient)
@@ -34,6 +36,8 @@ BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
 
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
+
+    ON_REGISTERED_MESSAGE(g_postedMessage, &CChartDraw::OnPostedData)
 
     ON_WM_CONTEXTMENU()
     ON_COMMAND(ID_EDIT_COPY, &CChartDraw::OnEditCopy)
@@ -58,6 +62,13 @@ BOOL CChartDraw::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT 
 void CChartDraw::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
     StopMirroring(*this);
+    m_State->OpenPosting();
+}
+
+void CChartDraw::OnDestroy() {
+    m_State->ClosePosting();
+    m_State->LeaveLink();
+    CWnd::OnDestroy();
 }
 
 BOOL CChartDraw::OnNcCreate(LPCREATESTRUCT) {

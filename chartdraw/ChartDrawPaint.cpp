@@ -49,6 +49,7 @@ void DrawWithin(CDC& dc, const CRect& inner, const CRect& outer, int edge, const
 } // namespace
 
 void CChartDraw::OnPaint() {
+    m_State->ReadyToTake();
     CPaintDC paintDc(this);
     CalcDatas();
     CRect client;

@@ -11,7 +11,7 @@ using namespace kavlix;
 
 ChartDrawState::ChartDrawState(CChartDraw& chart)
     : chart(chart), xAxis(chart, kX), yAxis(chart, kY), y2Axis(chart, kY2), legend(chart), cursor(chart),
-      references(chart), input(std::make_unique<ChartInputState>()) {
+      references(chart), input(std::make_unique<ChartInputState>()), posted(std::make_unique<PostQueue>()) {
 }
 
 ChartDrawState::~ChartDrawState() = default;

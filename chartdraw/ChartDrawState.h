@@ -5,6 +5,7 @@
 #include <kavlix/ChartDraw.h>
 
 #include <memory>
+#include <optional>
 
 #include "plot/AxisMap.h"
 #include "plot/ValueBounds.h"
@@ -14,8 +15,10 @@ namespace kavlix {
 struct ChartAxisState;  // chartdraw/ChartAxisState.h: properties and layout of an axis
 struct AxisLayout;      // chartdraw/AxisLayout.h: ticks and texts of an axis
 struct ChartInputState; // chartdraw/ChartInputState.h: view, history, gestures
-struct ChartLinkState;  // chartdraw/ChartLink.h: the charts that share an X view
-class PostQueue;        // chartdraw/core/PostQueue.h: points of other threads
+struct CsvTable;        // chartdraw/core/CsvWriter.h: what is saved
+struct LinkedRange;
+struct ChartLinkState; // chartdraw/ChartLink.h: the charts that share an X view
+class PostQueue;       // chartdraw/core/PostQueue.h: points of other threads
 
 /// The parts of a chart. Their sources reach the chart's private members by the functions here.
 ///
@@ -120,10 +123,25 @@ struct ChartDrawState {
     /// Called when points were added or removed: follow mode moves the view.
     void DataChanged(int nDataset);
 
+    CsvTable Table(bool visibleOnly); ///< the visible datasets for saving (chartdraw/ChartDrawSaveData.cpp)
+
     // ---- Links (chartdraw/ChartLink.cpp) ----
 
-    void ShareView();              ///< gives the X range to linked charts
-    void ShareCursor(int nCursor); ///< gives the position of a cursor to linked charts
+    /// Gives the X range to linked charts, which send CDN_VIEW. A handler can destroy this chart meanwhile: nothing of
+    /// it may be touched behind this call, unless the result is true.
+    bool ShareView();
+    void ShareCursor(int nCursor);              ///< gives the position of a cursor to linked charts
+    void LeaveLink();                           ///< the chart's window goes
+    std::optional<LinkedRange> ShownRange();    ///< the range of X; empty when the chart has no layout
+    bool Shows(const LinkedRange& range) const; ///< whether this is exactly the range of X
+    void ShowRange(const LinkedRange& range, bool tell); ///< as SetView for the X axis
+
+    // ---- Data from other threads (chartdraw/ChartDrawPost.cpp) ----
+
+    void OpenPosting();  ///< the chart has a window now
+    void ClosePosting(); ///< its window goes: queued points are dropped
+    void TakePosted();   ///< queued points enter the datasets
+    void ReadyToTake();  ///< every paint calls this: further points may come
 
     /// Sends a notification to the parent and returns its result. `record.hdr.code` and the code's fields are set.
     /// The parent may destroy the window or the chart meanwhile: `alive` is false then, and nothing of the chart may

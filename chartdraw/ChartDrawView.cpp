@@ -146,8 +146,8 @@ bool kavlix::ViewChanged(ChartDrawState& state, const ViewRanges& before, ViewCa
     if (input.shown[0] != before[0]) {
         // Linked charts tell their parents, which may destroy this chart.
         const HWND window = chart.m_hWnd;
-        state.ShareView();
-        isAlive = window == nullptr || CWnd::FromHandlePermanent(window) == &chart;
+        const bool isKept = state.ShareView();
+        isAlive = window == nullptr ? isKept : CWnd::FromHandlePermanent(window) == &chart;
     }
     if (isAlive && cause == ViewCause::User) {
         NMCHARTDRAW record = {};

@@ -16,10 +16,10 @@ using std::min;
 #include <gdiplus.h>
 
 #include "gdi/Bitmap.h"
+#include "gdi/FileReplacement.h"
 #include "gdi/Guards.h"
 #include "gdi/OutOfMemory.h"
 #include "gdi/PictureClipboard.h"
-#include "gdi/Text.h"
 
 namespace kavlix {
 namespace {
@@ -141,40 +141,6 @@ std::vector<BYTE> EncodeMetafile(CSize size, const std::function<void(CDC&)>& dr
     return bytes;
 }
 
-/// Creates a new file in the folder of `path`, under a name that no file has yet, and stores its path in
-/// `name`. INVALID_HANDLE_VALUE on failure.
-HANDLE MakeFileBeside(const std::wstring& path, std::wstring& name) {
-    constexpr unsigned kMostTries = 1000;
-    const std::size_t folderEnd = path.find_last_of(L"\\/:");
-    const std::wstring folder(path, 0, folderEnd == std::wstring::npos ? 0 : folderEnd + 1);
-    for (unsigned i = 0; i < kMostTries; ++i) {
-        WCHAR leaf[64];
-        ::wsprintfW(leaf, L"~kvx%lu_%u.tmp", ::GetCurrentProcessId(), i);
-        name = folder;
-        name += leaf;
-        const HANDLE file = ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                          FILE_ATTRIBUTE_NORMAL, nullptr);
-        if (file != INVALID_HANDLE_VALUE || ::GetLastError() != ERROR_FILE_EXISTS)
-            return file;
-    }
-    return INVALID_HANDLE_VALUE;
-}
-
-bool PutInPlace(const std::wstring& path, const std::vector<BYTE>& bytes) {
-    std::wstring name;
-    const HANDLE file = MakeFileBeside(path, name);
-    if (file == INVALID_HANDLE_VALUE)
-        return false;
-    DWORD written = 0;
-    bool whole = ::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-                 written == bytes.size();
-    whole = ::CloseHandle(file) && whole;
-    if (whole && ::MoveFileExW(name.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING))
-        return true;
-    ::DeleteFileW(name.c_str());
-    return false;
-}
-
 } // namespace
 
 bool SavePicture(LPCTSTR path, CSize size, const std::function<void(CDC&)>& draw) {
@@ -192,7 +158,10 @@ bool SavePicture(LPCTSTR path, CSize size, const std::function<void(CDC&)>& draw
             bytes = EncodePixels(L"image/bmp", size, draw);
         else if (extension.CompareNoCase(_T(".emf")) == 0)
             bytes = EncodeMetafile(size, draw);
-        return !bytes.empty() && PutInPlace(ToWide(name, name.GetLength()), bytes);
+        if (bytes.empty())
+            return false;
+        FileReplacement file(name);
+        return file.Write(bytes.data(), bytes.size()) && file.PutInPlace();
     });
 }
 

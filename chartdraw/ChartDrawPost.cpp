@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+// CChartDraw: points that other threads post. PostQueue says when the chart's thread is woken.
+#include <kavlix/ChartDraw.h>
+
+#include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/ChartDrawState.h"
+#include "chartdraw/ChartPost.h"
+#include "chartdraw/core/PostQueue.h"
+#include "gdi/OutOfMemory.h"
+
+using namespace kavlix;
+
+const UINT kavlix::g_postedMessage = ::RegisterWindowMessage(_T("Kavlix.CChartDraw.PostedData"));
+
+void ChartDrawState::OpenPosting() {
+    const HWND window = chart.m_hWnd;
+    posted->Open([window] { return ::PostMessage(window, g_postedMessage, 0, 0) != 0; });
+}
+
+void ChartDrawState::ClosePosting() {
+    posted->Close();
+}
+
+void ChartDrawState::ReadyToTake() {
+    posted->Ready();
+}
+
+void ChartDrawState::TakePosted() {
+    const std::vector<PostedPoint>& points = posted->Take();
+    const int count = static_cast<int>(points.size());
+    int refused = 0;
+    for (std::size_t i = 0; i < points.size();) {
+        const int index = points[i].dataset;
+        if (!chart.IsDataset(index)) {
+            ++refused;
+            ++i;
+            continue;
+        }
+        ChartSeries& series = Dataset(index).points;
+        const bool done = WithinResources([&] {
+            for (; i < points.size() && points[i].dataset == index; ++i)
+                series.Append(points[i].x, points[i].y);
+        });
+        if (!done) {
+            ++refused;
+            ++i;
+        }
+        DataChanged(index);
+    }
+    posted->Release();
+    Changed();
+    chart.Redraw();
+    if (!::GetUpdateRect(chart.m_hWnd, nullptr, FALSE)) // nothing of the window can be seen: no paint comes
+        ReadyToTake();
+    if (count == 0)
+        return;
+    NMCHARTDRAW record = {};
+    record.hdr.code = CDN_POSTED;
+    record.nItem = count;
+    record.nIndex = refused;
+    bool alive = true;
+    Notify(record, alive);
+}
+
+BOOL CChartDraw::PostData(int nDataset, double x, double y) {
+    return PostData(nDataset, &x, &y, 1) == 1;
+}
+
+int CChartDraw::PostData(int nDataset, const double* pX, const double* pY, int nCount) {
+    if (pX == nullptr || pY == nullptr)
+        return 0;
+    int queued = 0;
+    WithinResources([&] { queued = m_State->posted->Push(nDataset, pX, pY, nCount); });
+    return queued;
+}
+
+void CChartDraw::SetPostCapacity(int nPoints) {
+    m_State->posted->SetCapacity(nPoints);
+}
+
+int CChartDraw::GetPostedCount() const {
+    return m_State->posted->Count();
+}
+
+LRESULT CChartDraw::OnPostedData(WPARAM, LPARAM) {
+    m_State->TakePosted();
+    return 0;
+}

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-// CChartDraw: datasets, their points and attributes.
+// CChartDraw: datasets and their points. ChartDrawAttributes has the attributes of datasets.
 #include <kavlix/ChartDraw.h>
 
-#include <algorithm>
+#include <cmath>
 
 #include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/ChartDrawState.h"
+#include "chartdraw/core/PostQueue.h"
+#include "chartdraw/core/StatisticsBetween.h"
 #include "gdi/OutOfMemory.h"
 
 using namespace kavlix;
@@ -17,7 +20,19 @@ constexpr COLORREF kDatasetColors[] = {
 
 } // namespace
 
+/// Calls `change` with the points of a dataset. Inlined in every caller: AddData runs millions of times a second.
+template <class Change> BOOL ChartDrawState::ChangePoints(int nDataset, Change change) {
+    ASSERT(IsOwnerThread());
+    if (!chart.IsDataset(nDataset))
+        return FALSE;
+    Changed();
+    const BOOL isDone = ReportingExhaustion([&] { change(Dataset(nDataset).points); });
+    DataChanged(nDataset);
+    return isDone;
+}
+
 int CChartDraw::AddDataset() {
+    ASSERT(m_State->IsOwnerThread());
     const BOOL added = ReportingExhaustion([this] {
         auto dataset = std::make_unique<Dataset>();
         dataset->color = kDatasetColors[m_NextColor];
@@ -35,82 +50,117 @@ int CChartDraw::GetDatasetCount() const {
 }
 
 BOOL CChartDraw::RemoveDataset(int nDataset) {
+    ASSERT(m_State->IsOwnerThread());
     if (!IsDataset(nDataset))
         return FALSE;
-    m_Datasets.erase(m_Datasets.begin() + nDataset);
+    const auto removed = m_Datasets.begin() + nDataset;
+    for (const auto& dataset : m_Datasets)
+        if (dataset->fillTo == removed->get())
+            dataset->fillTo = nullptr;
+    m_Datasets.erase(removed);
+    m_State->posted->RemoveDataset(nDataset);
     m_Changed = true;
     return TRUE;
 }
 
 void CChartDraw::RemoveAllDatasets() {
+    ASSERT(m_State->IsOwnerThread());
     m_Datasets.clear();
+    m_State->posted->RemoveAllDatasets();
     m_NextColor = 0;
     m_Changed = true;
 }
 
-BOOL CChartDraw::ChangeDataset(int nDataset, const std::function<void(Dataset&)>& change) {
-    if (!IsDataset(nDataset))
-        return FALSE;
-    change(*m_Datasets[static_cast<std::size_t>(nDataset)]);
-    m_Changed = true;
-    return TRUE;
-}
+// ---- Points that come ----
 
 BOOL CChartDraw::AddData(int nDataset, double x, double y) {
-    if (!IsDataset(nDataset))
-        return FALSE;
-    m_Changed = true;
-    return ReportingExhaustion([&] { m_Datasets[static_cast<std::size_t>(nDataset)]->points.Append(x, y); });
+    return m_State->ChangePoints(
+        nDataset, [=](ChartSeries& points) { points.Append(x, y); });
+}
+
+BOOL CChartDraw::InsertData(int nDataset, double x, double y) {
+    return m_State->ChangePoints(
+        nDataset, [=](ChartSeries& points) { points.Insert(x, y); });
+}
+
+BOOL CChartDraw::AddEvenData(int nDataset, double y) {
+    return m_State->ChangePoints(
+        nDataset, [=](ChartSeries& points) { points.AppendEven(y); });
 }
 
 BOOL CChartDraw::SetData(int nDataset, const double* pX, const double* pY, int nCount) {
-    if (nCount < 0 || (nCount > 0 && pY == nullptr) || !IsDataset(nDataset))
+    if (nCount < 0 || (nCount > 0 && pY == nullptr))
         return FALSE;
-    m_Changed = true;
-    return ReportingExhaustion(
-        [&] { m_Datasets[static_cast<std::size_t>(nDataset)]->points.Assign(pX, pY, nCount); });
+    return m_State->ChangePoints(nDataset, [=](ChartSeries& points) { points.Assign(pX, pY, nCount); });
 }
+
+BOOL CChartDraw::ReplaceLastData(int nDataset, double y) {
+    return GetDatasetSize(nDataset) > 0 && m_State->ChangePoints(
+                                               nDataset, [=](ChartSeries& points) { points.ReplaceLast(y); });
+}
+
+BOOL CChartDraw::SetEvenX(int nDataset, double dStart, double dStep) {
+    bool isSet = false;
+    m_State->ChangePoints(nDataset, [&](ChartSeries& points) { isSet = points.SetEven(dStart, dStep); });
+    return isSet;
+}
+
+// ---- Points that go ----
 
 BOOL CChartDraw::ResetData(int nDataset) {
-    return ChangeDataset(
-        nDataset, [](Dataset& dataset) { dataset.points.Clear(); });
+    return m_State->ChangePoints(
+        nDataset, [](ChartSeries& points) { points.Clear(); });
 }
 
+BOOL CChartDraw::RemoveHeadData(int nDataset, int nCount) {
+    return nCount >= 0 && m_State->ChangePoints(
+                              nDataset, [=](ChartSeries& points) { points.RemoveHead(nCount); });
+}
+
+BOOL CChartDraw::SetHistory(int nDataset, int nMostPoints, double dSpan) {
+    return nMostPoints >= 0 && dSpan >= 0 &&
+           m_State->ChangePoints(
+               nDataset, [=](ChartSeries& points) { points.SetLimit(nMostPoints, dSpan); });
+}
+
+BOOL CChartDraw::SetGapLimit(int nDataset, double dLimit) {
+    return dLimit >= 0 && m_State->ChangePoints(
+                              nDataset, [=](ChartSeries& points) { points.SetGapLimit(dLimit); });
+}
+
+BOOL CChartDraw::SetGapFactor(int nDataset, double dFactor) {
+    return dFactor >= 0 && m_State->ChangePoints(
+                               nDataset, [=](ChartSeries& points) { points.SetGapFactor(dFactor); });
+}
+
+// ---- Points that are there ----
+
 int CChartDraw::GetDatasetSize(int nDataset) const {
-    return IsDataset(nDataset) ? m_Datasets[static_cast<std::size_t>(nDataset)]->points.Size() : -1;
+    return IsDataset(nDataset) ? m_State->Dataset(nDataset).points.Size() : -1;
 }
 
 BOOL CChartDraw::GetData(int nDataset, int nIndex, double& x, double& y) const {
     if (nIndex < 0 || nIndex >= GetDatasetSize(nDataset))
         return FALSE;
-    const ChartSeries::Value value = m_Datasets[static_cast<std::size_t>(nDataset)]->points[nIndex];
-    x = value.x;
-    y = value.y;
+    const ChartPoint point = m_State->Dataset(nDataset).points[nIndex];
+    x = point.x;
+    y = point.y;
     return TRUE;
 }
 
-BOOL CChartDraw::SetColor(int nDataset, COLORREF color) {
-    return ChangeDataset(
-        nDataset, [=](Dataset& dataset) { dataset.color = color; });
+int CChartDraw::FindData(int nDataset, double x) const {
+    if (!IsDataset(nDataset) || std::isnan(x))
+        return -1;
+    const Dataset& dataset = m_State->Dataset(nDataset);
+    return dataset.points.NearestInX(m_State->ToDataset(dataset, x));
 }
 
-BOOL CChartDraw::SetLineSize(int nDataset, int nSize) {
-    constexpr int kWidestLine = 100;
-    return ChangeDataset(nDataset,
-                         [=](Dataset& dataset) { dataset.lineSize = std::clamp(nSize, 0, kWidestLine); });
-}
-
-BOOL CChartDraw::ShowLine(int nDataset, BOOL bShow) {
-    return ChangeDataset(
-        nDataset, [=](Dataset& dataset) { dataset.showLine = bShow != FALSE; });
-}
-
-BOOL CChartDraw::SetMarkerType(int nDataset, CDataset::MarkerType type) {
-    return ChangeDataset(
-        nDataset, [=](Dataset& dataset) { dataset.markerType = type; });
-}
-
-BOOL CChartDraw::ShowDataset(int nDataset, BOOL bShow) {
-    return ChangeDataset(
-        nDataset, [=](Dataset& dataset) { dataset.visible = bShow != FALSE; });
+BOOL CChartDraw::GetStatistics(int nDataset, double dFrom, double dTo, ChartStatistics& statistics) const {
+    if (!IsDataset(nDataset) || std::isnan(dFrom) || std::isnan(dTo))
+        return FALSE;
+    const Dataset& dataset = m_State->Dataset(nDataset);
+    const SpanStatistics found = StatisticsBetween(dataset.points, m_State->ToDataset(dataset, dFrom),
+                                                   m_State->ToDataset(dataset, dTo));
+    statistics = {found.count, found.min, found.max, found.mean, found.first, found.last};
+    return TRUE;
 }

@@ -39,7 +39,7 @@ void ChartDrawState::TakePosted() {
         ChartSeries& series = Dataset(index).points;
         const bool done = WithinResources([&] {
             for (; i < points.size() && points[i].dataset == index; ++i)
-                series.Append(points[i].x, points[i].y);
+                series.Insert(points[i].x, points[i].y);
         });
         if (!done) {
             ++refused;

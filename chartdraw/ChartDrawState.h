@@ -120,8 +120,10 @@ struct ChartDrawState {
     /// Every change of the X view and of Y views passes here: clamps, stores, marks the layout, repaints, shares the
     /// X range with linked charts, and if `tell`, sends CDN_VIEW. For a range that cannot be shown nothing changes.
     bool SetView(int axis, double min, double max, bool tell);
-    /// Called when points were added or removed: follow mode moves the view.
+    /// Called when points were added or removed: follow mode moves the view. Runs at every point: it sends nothing.
     void DataChanged(int nDataset);
+    /// Changes the points of a dataset by `change` (chartdraw/ChartDrawData.cpp). A message box reports lack of memory.
+    template <class Change> BOOL ChangePoints(int nDataset, Change change);
 
     CsvTable Table(bool visibleOnly); ///< the visible datasets for saving (chartdraw/ChartDrawSaveData.cpp)
 

@@ -33,6 +33,8 @@ bool ChartView::SetMode(ChartAxis axis, ScaleMode mode) {
 }
 
 bool ChartView::SetLogarithmic(ChartAxis axis, bool isLogarithmic) {
+    if (Axis(axis).IsLogarithmic() == isLogarithmic)
+        return false;
     End();
     m_history.Clear();
     m_canRun = false;

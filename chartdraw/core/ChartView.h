@@ -58,7 +58,7 @@ public:
     /// Sets the mode; a gesture ends. The axis shows its home range, but in the mode Follow it keeps its width and
     /// goes to the newest data.
     bool SetMode(ChartAxis axis, ScaleMode mode);
-    /// Changes the kind of an axis, which then shows its home range, and forgets the history.
+    /// Another kind of an axis ends a gesture, shows the axis's home range and forgets the history.
     bool SetLogarithmic(ChartAxis axis, bool isLogarithmic);
     /// Sets the range of an axis that is not moved, as the caller found it.
     bool SetHome(ChartAxis axis, const ViewRange& home) { return m_axes[Index(axis)].SetHome(home); }

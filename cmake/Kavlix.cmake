@@ -23,6 +23,39 @@ function(kavlix_compile_options target)
         target_compile_definitions(${target} PRIVATE NOMINMAX _WIN32_WINNT=0x0601 WINVER=0x0601
                                                      $<$<CONFIG:Debug>:_DEBUG>)
     endif()
+    if(CMAKE_UNITY_BUILD)
+        kavlix_compile_together(${target})
+    endif()
+endfunction()
+
+# Compiles sources of a folder together, up to 20 at a time: starting the compiler and reading headers takes longer than
+# the sources themselves. Names in anonymous namespaces of a folder must differ, because a new file moves the sources
+# between the units. KAVLIX_COMPILED_ALONE are those that have a name of another source, or include a header that
+# changes others.
+set(KAVLIX_COMPILED_ALONE
+    graph/GraphSolidBars.cpp mfc/dialog/PropertyPage.cpp mfc/window/FrameWnd.cpp mfc/window/WndDispatch.cpp
+    monitor/MachineCounters.cpp monitor/PiePage.cpp monitor/ScrollPage.cpp plot/RoundScale.cpp tests/EndOnTrap.cpp)
+function(kavlix_compile_together target)
+    get_target_property(sources ${target} SOURCES)
+    foreach(source ${sources})
+        # A target for char comes before that for UNICODE, which may leave sources out: the units are those of the first.
+        get_source_file_property(unit ${source} UNITY_GROUP)
+        cmake_path(ABSOLUTE_PATH source NORMALIZE OUTPUT_VARIABLE path)
+        cmake_path(RELATIVE_PATH path BASE_DIRECTORY ${PROJECT_SOURCE_DIR})
+        if(NOT unit AND NOT path IN_LIST KAVLIX_COMPILED_ALONE)
+            cmake_path(GET path PARENT_PATH folder)
+            string(MAKE_C_IDENTIFIER "${folder}" folder)
+            list(APPEND in_${folder} ${path})
+            list(LENGTH in_${folder} count)
+            math(EXPR unit "(${count} - 1) / 20")
+            set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${folder}_${unit})
+        endif()
+    endforeach()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD_MODE GROUP)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # The compiler takes sources for headers there, where classes must not use anonymous namespaces.
+        target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+    endif()
 endfunction()
 
 # In the build with traps the sources of the UNICODE targets compile as fast as they can: without traps, which the same

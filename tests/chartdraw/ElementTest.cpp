@@ -4,12 +4,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr COLORREF kRed = RGB(255, 0, 0);
-
-} // namespace
-
 class ChartElementTest : public ChartTest {};
 
 TEST_F(ChartElementTest, EachMemberDrawsItsElementAndLeavesNothingBehind) {
@@ -68,7 +62,7 @@ TEST_F(ChartElementTest, LongTextsEndInDotsInsideTheWindow) {
     chart.SetYLabelColor(kRed);
     testkit::DibSurface surface(300, 200);
     PaintInto(surface);
-    const RECT bounds = surface.Bounds(kRed);
+    const RECT bounds = surface.Bounds(RGB(255, 0, 0));
     EXPECT_TRUE(bounds.top > 20 && bounds.bottom < 180) << "clear of title and X caption";
 }
 

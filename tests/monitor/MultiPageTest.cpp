@@ -15,12 +15,12 @@ namespace {
 
 using monitor::CMultiGraphView, monitor::CMultiOptionsPanel, monitor::GraphTypeChoices;
 
-struct Inside : CGraph {
-    static int Low(const CGraph& graph) { return graph.*(&Inside::minTick); }
-    static int High(const CGraph& graph) { return graph.*(&Inside::maxTick); }
-    static int Alignment(const CGraph& graph) { return graph.*(&Inside::graphAlignment); }
-    static CString Across(const CGraph& graph) { return graph.*(&Inside::axisXLabel); }
-    static const CObList& Series(const CGraph& graph) { return *(graph.*(&Inside::seriesList)); }
+struct InsideGraph : CGraph {
+    static int Low(const CGraph& graph) { return graph.*(&InsideGraph::minTick); }
+    static int High(const CGraph& graph) { return graph.*(&InsideGraph::maxTick); }
+    static int Alignment(const CGraph& graph) { return graph.*(&InsideGraph::graphAlignment); }
+    static CString Across(const CGraph& graph) { return graph.*(&InsideGraph::axisXLabel); }
+    static const CObList& Series(const CGraph& graph) { return *(graph.*(&InsideGraph::seriesList)); }
 };
 
 class MultiPage : public FrameWithPage {
@@ -50,7 +50,7 @@ protected:
     /// `label: key=value ...;` for every series.
     std::string Contents() {
         std::string text;
-        const CObList& list = Inside::Series(View().Graph());
+        const CObList& list = InsideGraph::Series(View().Graph());
         for (POSITION at = list.GetHeadPosition(); at != nullptr;) {
             const auto* const series = static_cast<const CGraphSeries*>(list.GetNext(at));
             text += testkit::Utf8(series->GetLabel()) + ":";
@@ -71,8 +71,8 @@ TEST_F(MultiPage, TypesAreFilledWithTheStatisticsOfEachPeriod) {
     ChooseType(1);
     EXPECT_EQ(Contents().substr(0, 50), "01-01 00:00: 0=10 1=-10; 01-01 06:00: 0=34 1=-34; ");
     EXPECT_NE(Contents().find("01-03 06:00:; "), std::string::npos);
-    EXPECT_LE(Inside::Low(View().Graph()), -112);
-    EXPECT_GE(Inside::High(View().Graph()), 112);
+    EXPECT_LE(InsideGraph::Low(View().Graph()), -112);
+    EXPECT_GE(InsideGraph::High(View().Graph()), 112);
     ChooseData(1);
     EXPECT_EQ(Contents().substr(0, 57), "01-01 00:00: 0=0 1=10 2=20; 01-01 06:00: 0=24 1=34 2=44; ");
     for (const int type : {3, 6}) {
@@ -83,11 +83,11 @@ TEST_F(MultiPage, TypesAreFilledWithTheStatisticsOfEachPeriod) {
     ChooseType(4);
     EXPECT_EQ(Contents().substr(0, 43), "01-01 00:00: 0=0 1=4 2=8 3=12 4=16 5=20; 01");
     ChooseData(0);
-    EXPECT_EQ(Inside::Series(View().Graph()).GetCount(), 2);
+    EXPECT_EQ(InsideGraph::Series(View().Graph()).GetCount(), 2);
     ChooseData(1);
     ChooseType(5);
-    EXPECT_EQ(Inside::Low(View().Graph()), 0);
-    EXPECT_GE(Inside::High(View().Graph()), 102 + 112 + 122) << "what stacks add up to";
+    EXPECT_EQ(InsideGraph::Low(View().Graph()), 0);
+    EXPECT_GE(InsideGraph::High(View().Graph()), 102 + 112 + 122) << "what stacks add up to";
 }
 
 TEST_F(MultiPage, EveryTypePaintsOnScreenAndPaper) {
@@ -108,8 +108,8 @@ TEST_F(MultiPage, EveryTypePaintsOnScreenAndPaper) {
     for (const auto& [type, caption] :
          {std::pair(0, "mean"), std::pair(3, "number of the 6 hours, from 0")}) {
         ChooseType(type);
-        EXPECT_EQ(Inside::Alignment(View().Graph()), 0);
-        EXPECT_EQ(testkit::Utf8(Inside::Across(View().Graph())), caption)
+        EXPECT_EQ(InsideGraph::Alignment(View().Graph()), 0);
+        EXPECT_EQ(testkit::Utf8(InsideGraph::Across(View().Graph())), caption)
             << "the values have turned, or have not";
     }
     Command(ID_EDIT_COPY);

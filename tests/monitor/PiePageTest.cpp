@@ -13,8 +13,8 @@ namespace {
 
 using monitor::CMonitorGraph, monitor::CMonitorPie;
 
-struct Inside : CMonitorPie {
-    static const CObArray& Pieces(const CMonitorPie& pie) { return pie.*(&Inside::m_arrPieces); }
+struct InsidePie : CMonitorPie {
+    static const CObArray& Pieces(const CMonitorPie& pie) { return pie.*(&InsidePie::m_arrPieces); }
 };
 
 class PiePage : public FrameWithPage {
@@ -37,9 +37,9 @@ protected:
     void Press(UINT key) { Pie().SendMessage(WM_KEYDOWN, key, 1); }
     std::vector<std::string> Labels() {
         std::vector<std::string> labels;
-        for (int i = 0; i < Inside::Pieces(Pie()).GetSize(); ++i)
+        for (int i = 0; i < InsidePie::Pieces(Pie()).GetSize(); ++i)
             labels.push_back(
-                testkit::Utf8(static_cast<CPieChartPiece*>(Inside::Pieces(Pie())[i])->m_strLabel));
+                testkit::Utf8(static_cast<CPieChartPiece*>(InsidePie::Pieces(Pie())[i])->m_strLabel));
         return labels;
     }
     void MarkInGraph(int sample) {
@@ -98,8 +98,8 @@ TEST_F(PiePage, LiveMemoryIsAWholeUnderItsHeadingAndKeepsTheSelection) {
     for (int i = 0; i < 3; ++i) {
         Tick();
         double whole = 0;
-        for (int k = 0; k < Inside::Pieces(Pie()).GetSize(); ++k)
-            whole += static_cast<CPieChartPiece*>(Inside::Pieces(Pie())[k])->m_dValue;
+        for (int k = 0; k < InsidePie::Pieces(Pie()).GetSize(); ++k)
+            whole += static_cast<CPieChartPiece*>(InsidePie::Pieces(Pie())[k])->m_dValue;
         EXPECT_NEAR(whole, 1, 1e-9);
         EXPECT_EQ(Text().substr(0, 16), "Kavlix Monitor: ");
     }

@@ -45,10 +45,10 @@ DWORD WINAPI InNewYork(PDYNAMIC_TIME_ZONE_INFORMATION zone) {
     return TIME_ZONE_ID_UNKNOWN;
 }
 
-struct Inside : CMonitorScrollGraph {
-    static CRect Plot(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_rectPlot); }
-    static double Width(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_dViewWidth); }
-    static double High(const CMonitorScrollGraph& graph) { return graph.*(&Inside::m_YVisibleMax); }
+struct InsideScroll : CMonitorScrollGraph {
+    static CRect Plot(const CMonitorScrollGraph& graph) { return graph.*(&InsideScroll::m_rectPlot); }
+    static double Width(const CMonitorScrollGraph& graph) { return graph.*(&InsideScroll::m_dViewWidth); }
+    static double High(const CMonitorScrollGraph& graph) { return graph.*(&InsideScroll::m_YVisibleMax); }
 };
 
 /// The page in a host that gives it the content of the test.
@@ -141,9 +141,9 @@ protected:
     void Command(UINT id) { m_page.OnCmdMsg(id, CN_COMMAND, nullptr, nullptr); }
     void Click(int graph, int row) {
         m_graph[graph]->UpdateWindow();
-        const CRect plot = Inside::Plot(*m_graph[graph]);
+        const CRect plot = InsideScroll::Plot(*m_graph[graph]);
         const double x = (m_graph[graph]->GetXOffset(row) * kX - Position(graph)) * plot.Width() /
-                         Inside::Width(*m_graph[graph]);
+                         InsideScroll::Width(*m_graph[graph]);
         m_graph[graph]->SendMessage(
             WM_LBUTTONDOWN, 0,
             MAKELPARAM(static_cast<int>((plot.left + x) / kPixel + 0.5), plot.CenterPoint().y / kPixel));
@@ -163,7 +163,7 @@ TEST_F(ScrollPage, LiveReadingsStayCompleteAndInPlaceWhateverThePersonDoes) {
     std::mt19937 random(14);
     BeginLive();
     Live(400);
-    EXPECT_EQ(Inside::Width(*m_graph[1]), 300 * kX);
+    EXPECT_EQ(InsideScroll::Width(*m_graph[1]), 300 * kX);
     const CMonitorScrollGraph& graph = *m_graph[0];
     std::uint64_t first = 0; // the oldest reading in the graphs
     std::uint64_t end = 400; // and the number behind the newest one
@@ -213,8 +213,9 @@ TEST_F(ScrollPage, LiveReadingsStayCompleteAndInPlaceWhateverThePersonDoes) {
             ASSERT_EQ(m_graph[0]->ValueOf(0, row), reading(row) % 100);
             ASSERT_EQ(m_graph[1]->ValueOf(0, row), 1000 * reading(row));
         }
-        ASSERT_EQ(Inside::High(*m_graph[0]), 100) << "percents";
-        ASSERT_GE(Inside::High(*m_graph[1]), 1000 * reading(graph.LastVisible())) << "what is in view fits";
+        ASSERT_EQ(InsideScroll::High(*m_graph[0]), 100) << "percents";
+        ASSERT_GE(InsideScroll::High(*m_graph[1]), 1000 * reading(graph.LastVisible()))
+            << "what is in view fits";
         ASSERT_EQ(m_page.ViewTexts()[0].find("Paused: ") == 0, paused);
         if (action < 5 || removes) {
             // When the samples left are all in view, the view follows the next ones.
@@ -236,7 +237,7 @@ TEST_F(ScrollPage, TheWheelMovesBothGraphs) {
     m_graph[1]->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20), 0);
     EXPECT_EQ(Position(), before);
     m_graph[0]->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20), 0);
-    EXPECT_EQ(Position(), before - 0.01 * Inside::Width(*m_graph[0]));
+    EXPECT_EQ(Position(), before - 0.01 * InsideScroll::Width(*m_graph[0]));
     EXPECT_EQ(Position(1), Position());
 }
 
@@ -250,7 +251,7 @@ TEST_F(ScrollPage, RangesKeepWhatThePersonLooksAt) {
     const int middle = (m_graph[0]->FirstVisible() + m_graph[0]->LastVisible()) / 2;
     for (const UINT id : {ID_SCROLL_RANGE_24_HOURS, ID_SCROLL_RANGE_15_MINUTES, ID_SCROLL_RANGE_7_DAYS}) {
         Command(id);
-        EXPECT_EQ(Inside::Width(*m_graph[0]), recording::kViewRanges[id - ID_SCROLL_RANGE_FIRST] * kX);
+        EXPECT_EQ(InsideScroll::Width(*m_graph[0]), recording::kViewRanges[id - ID_SCROLL_RANGE_FIRST] * kX);
         EXPECT_NEAR((m_graph[0]->FirstVisible() + m_graph[0]->LastVisible()) / 2, middle, 3) << id;
     }
     Click(1, middle + 2000);
@@ -353,8 +354,8 @@ TEST_F(ScrollPage, GraphFillsThePageAndNothingLiesUnderTheScrollBar) {
             CRect bar;
             graph->GetDlgItem(100)->GetWindowRect(&bar);
             graph->ScreenToClient(&bar);
-            EXPECT_LE(Inside::Plot(*graph).bottom, bar.top * kPixel);
-            EXPECT_EQ(Inside::Plot(*graph).left, Inside::Plot(*m_graph[0]).left);
+            EXPECT_LE(InsideScroll::Plot(*graph).bottom, bar.top * kPixel);
+            EXPECT_EQ(InsideScroll::Plot(*graph).left, InsideScroll::Plot(*m_graph[0]).left);
         }
     }
     m_graph[1]->SetFocus();

@@ -11,7 +11,6 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = NAN;
 constexpr Time kMinute = kMicrosPerMinute;
 
 /// `row:x,y` of every point; `row:-` of a gap.
@@ -30,7 +29,7 @@ TEST(ChartPoints, OfOneFileMakesARowAPointAndAMissingValueAGap) {
     Recording recording;
     for (int row = 0; row < 5; ++row)
         recording.times.push_back((row + 100) * kMinute);
-    recording.series = {{"a", 0, {1, 2, kGap, 4, 5}}, {"b", 0, {10, kGap, 30, 40, 50}}};
+    recording.series = {{"a", 0, {1, 2, NAN, 4, 5}}, {"b", 0, {10, NAN, 30, 40, 50}}};
     recording.files.resize(1);
     const struct {
         ChartChoice choice;
@@ -47,8 +46,8 @@ TEST(ChartPoints, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
     // a at 0, 10, 20, 90, 100 minutes, b at 4, 14, 93 minutes.
     for (const int minute : {0, 4, 10, 14, 20, 90, 93, 100})
         recording.times.push_back(minute * kMinute);
-    recording.series = {{"a", 0, {1, kGap, 2, kGap, 3, 9, kGap, 10}},
-                        {"b", 1, {kGap, 40, kGap, 50, kGap, kGap, 90, kGap}}};
+    recording.series = {{"a", 0, {1, NAN, 2, NAN, 3, 9, NAN, 10}},
+                        {"b", 1, {NAN, 40, NAN, 50, NAN, NAN, 90, NAN}}};
     recording.files.resize(2);
     recording.files[0].interval = recording.files[1].interval = 10 * kMinute;
     EXPECT_EQ(TextOf(ChartPointsOf(recording, {ChartX::Series, 0, 1})),

@@ -12,8 +12,6 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = NAN;
-
 TEST(Periods, BeginAtRoundTimesAndAreFew) {
     const struct {
         CivilTime first;
@@ -42,7 +40,7 @@ TEST(Periods, StatisticsLeaveOutWhatIsMissingAndHoldTheLargestNumbers) {
     Recording recording;
     for (const int minute : {0, 20, 40, 60, 180, 200})
         recording.times.push_back(minute * kMicrosPerMinute);
-    recording.series = {{"a", 0, {3, kGap, 1, -2, DBL_MAX, DBL_MAX}}};
+    recording.series = {{"a", 0, {3, NAN, 1, -2, DBL_MAX, DBL_MAX}}};
     const Periods periods(recording.times);
     ASSERT_EQ(periods.LengthText(), "15 minutes");
     const PeriodStatistics found = StatisticsOf(recording, 0, periods);
@@ -50,7 +48,7 @@ TEST(Periods, StatisticsLeaveOutWhatIsMissingAndHoldTheLargestNumbers) {
     EXPECT_TRUE(std::isnan(found.mean[1]) && std::isnan(found.lowest[1]) && std::isnan(found.highest[1]));
 
     recording.times = {0, 1, 2, 3, 4, 5};
-    recording.series[0].values = {3, kGap, 1, -2, 4, 4};
+    recording.series[0].values = {3, NAN, 1, -2, 4, 4};
     const PeriodStatistics all = StatisticsOf(recording, 0, Periods(recording.times));
     EXPECT_DOUBLE_EQ(all.mean[0], 2);
     EXPECT_EQ(all.highest[0], 4);

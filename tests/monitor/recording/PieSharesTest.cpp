@@ -13,8 +13,6 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = NAN;
-
 TEST(PieShares, TakesPartsOfAWholeAndNamesTheRest) {
     struct {
         std::vector<double> values;
@@ -23,7 +21,7 @@ TEST(PieShares, TakesPartsOfAWholeAndNamesTheRest) {
         double total;
         const char* leftOut;
     } const cases[] = {
-        {{-1, 6, kGap, 2, -0.5}, {1, 3}, {0.75, 0.25}, 8, "Left out: a, e (negative), c (no value)"},
+        {{-1, 6, NAN, 2, -0.5}, {1, 3}, {0.75, 0.25}, 8, "Left out: a, e (negative), c (no value)"},
         {{INFINITY, -2}, {}, {}, 0, "Left out: b (negative), a (no value)"},
         {{0, 0}, {0, 1}, {0, 0}, 0, ""},
         {{1e308, 1e308}, {0, 1}, {0.5, 0.5}, INFINITY, ""},
@@ -45,7 +43,7 @@ TEST(PieShares, TakesPartsOfAWholeAndNamesTheRest) {
 TEST(PieShares, OfJoinedFilesTakesTheValueBesideTheRowWithinTheFilesOwnInterval) {
     Recording recording;
     recording.times = {0, 20, 60, 80, 300, 320};
-    recording.series = {{"even", 0, {1, kGap, 2, kGap, 3, kGap}}, {"odd", 1, {kGap, 5, kGap, 6, kGap, 7}}};
+    recording.series = {{"even", 0, {1, NAN, 2, NAN, 3, NAN}}, {"odd", 1, {NAN, 5, NAN, 6, NAN, 7}}};
     recording.files.resize(2);
     for (FileSummary& file : recording.files)
         file.interval = 60;

@@ -12,14 +12,12 @@
 namespace kavlix::recording {
 namespace {
 
-constexpr double kGap = NAN;
-
 TEST(SampleTexts, HaveTimeAndEverySeriesThatHasAValueInShorterAndShorterForms) {
     const Time time = FromCivil({2013, 12, 2, 21, 15, 0, 0});
     const auto longest = [](Time at, const std::vector<NamedValue>& values, ValueDigits digits) {
         return SampleTexts(at, values, digits).front();
     };
-    EXPECT_EQ(longest(time, {{"a", 73.96732207}, {"b", kGap}, {"c", -2}}, ValueDigits::AsRead),
+    EXPECT_EQ(longest(time, {{"a", 73.96732207}, {"b", NAN}, {"c", -2}}, ValueDigits::AsRead),
               "2013-12-02 21:15:00   a: 73.96732207   c: -2");
     EXPECT_EQ(longest(time + 250'000, {{"a", 100.0 / 3}}, ValueDigits::Computed),
               "2013-12-02 21:15:00.250   a: 33.3333");
@@ -39,10 +37,10 @@ TEST(SampleTexts, HaveTimeAndEverySeriesThatHasAValueInShorterAndShorterForms) {
 
 TEST(NearestPoint, TakesTheLeastDistanceOnEachAxis) {
     EXPECT_DOUBLE_EQ(AxisDistance(25, {100, 0}, 0.5), 0.25);
-    EXPECT_TRUE(std::isnan(AxisDistance(kGap, {0, 100}, 0.5)));
-    EXPECT_EQ(Nearest({kGap, 0.5, 0.2, 0.2}), 2u);
+    EXPECT_TRUE(std::isnan(AxisDistance(NAN, {0, 100}, 0.5)));
+    EXPECT_EQ(Nearest({NAN, 0.5, 0.2, 0.2}), 2u);
 
-    const double values[] = {1, kGap, kGap, kGap, 5, kGap};
+    const double values[] = {1, NAN, NAN, NAN, 5, NAN};
     EXPECT_EQ(NearestValue(values, 6, 2, 1), std::nullopt);
     EXPECT_EQ(NearestValue(values, 6, 2, 2), 0u);
     EXPECT_EQ(NearestValue(values, 6, 3, 9), 4u);

@@ -30,11 +30,12 @@ endfunction()
 
 # Compiles sources of a folder together, up to 20 at a time: starting the compiler and reading headers takes longer than
 # the sources themselves. Names in anonymous namespaces of a folder must differ, because a new file moves the sources
-# between the units. KAVLIX_COMPILED_ALONE are those that have a name of another source, or include a header that
-# changes others.
+# between the units. KAVLIX_COMPILED_ALONE are those that share a name with another source, and those whose macros or
+# headers would change other sources.
 set(KAVLIX_COMPILED_ALONE
     graph/GraphSolidBars.cpp mfc/dialog/PropertyPage.cpp mfc/window/FrameWnd.cpp mfc/window/WndDispatch.cpp
-    monitor/MachineCounters.cpp monitor/PiePage.cpp monitor/ScrollPage.cpp plot/RoundScale.cpp tests/EndOnTrap.cpp)
+    monitor/MachineCounters.cpp monitor/PiePage.cpp monitor/ScrollPage.cpp plot/RoundScale.cpp tests/EndOnTrap.cpp
+    tests/client/Thermostat.cpp tests/client/recorder/Sampler.cpp)
 function(kavlix_compile_together target)
     get_target_property(sources ${target} SOURCES)
     foreach(source ${sources})
@@ -53,7 +54,7 @@ function(kavlix_compile_together target)
     endforeach()
     set_target_properties(${target} PROPERTIES UNITY_BUILD_MODE GROUP)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        # The compiler takes sources for headers there, where classes must not use anonymous namespaces.
+        # For the compiler the sources are headers there, in which exported classes must not have members of such namespaces.
         target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
     endif()
 endfunction()

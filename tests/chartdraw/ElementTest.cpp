@@ -13,7 +13,7 @@ TEST_F(ChartElementTest, EachMemberDrawsItsElementAndLeavesNothingBehind) {
     chart.SetXScale(0, 4, 2);
     chart.SetYScale(-1, 1, 1);
     const int dataset = chart.AddDataset();
-    chart.SetColor(dataset, kRed);
+    chart.SetColor(dataset, RGB(255, 0, 0));
     chart.AddData(dataset, 1, 0.5);
     chart.AddData(dataset, 3, -0.5);
     chart.CalcDatas();
@@ -59,7 +59,7 @@ TEST_F(ChartElementTest, LongTextsEndInDotsInsideTheWindow) {
             EXPECT_EQ(shown, text.substr(0, shown.size() - 3) + "...");
         }
     }
-    chart.SetYLabelColor(kRed);
+    chart.SetYLabelColor(RGB(255, 0, 0));
     testkit::DibSurface surface(300, 200);
     PaintInto(surface);
     const RECT bounds = surface.Bounds(RGB(255, 0, 0));

@@ -23,7 +23,6 @@ using monitor::CMonitorScrollGraph, monitor::CScrollPage, monitor::GraphSettings
 
 constexpr Time S = recording::kMicrosPerSecond;
 constexpr double kX = recording::kTimeUnitsPerSecond;
-constexpr int kPixel = recording::kUnitsPerPixel;
 
 /// A day without a change of the clocks in any zone: 2021-01-12 10:00:00.
 const Time kStart = recording::FromCivil({2021, 1, 12, 10, 0, 0, 0});
@@ -146,7 +145,8 @@ protected:
                          InsideScroll::Width(*m_graph[graph]);
         m_graph[graph]->SendMessage(
             WM_LBUTTONDOWN, 0,
-            MAKELPARAM(static_cast<int>((plot.left + x) / kPixel + 0.5), plot.CenterPoint().y / kPixel));
+            MAKELPARAM(static_cast<int>((plot.left + x) / recording::kUnitsPerPixel + 0.5),
+                       plot.CenterPoint().y / recording::kUnitsPerPixel));
     }
 
     CWnd m_parent;
@@ -354,7 +354,7 @@ TEST_F(ScrollPage, GraphFillsThePageAndNothingLiesUnderTheScrollBar) {
             CRect bar;
             graph->GetDlgItem(100)->GetWindowRect(&bar);
             graph->ScreenToClient(&bar);
-            EXPECT_LE(InsideScroll::Plot(*graph).bottom, bar.top * kPixel);
+            EXPECT_LE(InsideScroll::Plot(*graph).bottom, bar.top * recording::kUnitsPerPixel);
             EXPECT_EQ(InsideScroll::Plot(*graph).left, InsideScroll::Plot(*m_graph[0]).left);
         }
     }

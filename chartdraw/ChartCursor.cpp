@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "chartdraw/AxisLayout.h"
 #include "chartdraw/ChartCursorState.h"
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
@@ -13,8 +14,10 @@ using namespace kavlix;
 
 namespace {
 
-/// Sends CDN_CURSOR. The chart may be destroyed meanwhile.
-void Tell(ChartDrawState& state, int cursor, const CursorReading& reading) {
+/// The user has moved or hidden a cursor. False when the parent has destroyed the chart or its window.
+bool Tell(ChartDrawState& state, int cursor, const CursorReading& reading) {
+    state.chart.Redraw();
+    state.ShareCursor(cursor);
     NMCHARTDRAW record = {};
     record.hdr.code = CDN_CURSOR;
     record.nIndex = reading.dataset;
@@ -22,6 +25,25 @@ void Tell(ChartDrawState& state, int cursor, const CursorReading& reading) {
     record.dValue = reading.IsValid() ? reading.x : std::numeric_limits<double>::quiet_NaN();
     bool alive = true;
     state.Notify(record, alive);
+    return alive;
+}
+
+/// Pans the view to a value of the X axis that lies outside of it, a little farther than to the edge.
+void PanTo(ChartDrawState& state, double x, bool tell) {
+    constexpr int kBeyond = 10; // the part of the plot's width that is panned farther
+    const CRect& plot = state.Plot();
+    const AxisMap map = state.Map(ChartDrawState::kX);
+    const double at = map.ExactPosition(x);
+    const int margin = static_cast<int>(plot.Width()) / kBeyond;
+    const double by = at < plot.left ? at - (static_cast<int>(plot.left) + margin)
+                      : at > static_cast<int>(plot.right) - 1
+                          ? at - (static_cast<int>(plot.right) - 1 - margin)
+                          : 0;
+    if (by == 0 || plot.IsRectEmpty())
+        return;
+    const AxisLayout& layout = state.Layout(ChartDrawState::kX);
+    state.SetView(ChartDrawState::kX, map.Value(map.ExactPosition(layout.min) + by),
+                  map.Value(map.ExactPosition(layout.max) + by), tell);
 }
 
 /// The sample `steps` samples away from another one, or the last one before the end; gaps do not count.
@@ -67,16 +89,18 @@ void CChartCursor::SetColors(COLORREF line, COLORREF text, COLORREF background, 
 BOOL CChartCursor::SetPosition(int nCursor, double x) {
     if (m_State->mode == Off || nCursor < 0 || nCursor >= ChartCursorState::kCursors || !std::isfinite(x))
         return FALSE;
-    const ChartDrawState& state = *m_State->chart.m_State;
+    ChartDrawState& state = *m_State->chart.m_State;
     const CursorReading reading = ChartCursorState::Nearest(state, x, m_State->places[nCursor].dataset);
-    if (reading.IsValid())
-        m_State->Set(state, nCursor, reading);
+    if (reading.IsValid() && m_State->Set(state, nCursor, reading))
+        state.ShareCursor(nCursor);
     return reading.IsValid();
 }
 
 void CChartCursor::Hide(int nCursor) {
-    if (nCursor >= 0 && nCursor < ChartCursorState::kCursors)
-        m_State->places[nCursor].isShown = false;
+    if (!m_State->IsShown(nCursor))
+        return;
+    m_State->places[nCursor].isShown = false;
+    m_State->chart.m_State->ShareCursor(nCursor);
 }
 
 BOOL CChartCursor::GetPosition(int nCursor, double& x) const {
@@ -120,10 +144,14 @@ bool ChartDrawState::MoveCursor(int nCursor, int nSamples, bool tell) {
     reading.point = dataset.points[sample];
     reading.x = ToAxis(dataset, reading.point.x);
     cursor.m_State->Set(*this, nCursor, reading);
-    if (tell) {
-        chart.Redraw();
-        Tell(*this, nCursor, reading);
+    if (!tell) {
+        ShareCursor(nCursor);
+    } else {
+        cursor.m_State->resting = cursor.m_State->pointer;
+        if (!Tell(*this, nCursor, reading))
+            return true;
     }
+    PanTo(*this, reading.x, tell);
     return true;
 }
 
@@ -131,12 +159,17 @@ void ChartDrawState::HoverCursor(const CPoint* pPoint) {
     ChartCursorState& state = *cursor.m_State;
     if (state.mode == CChartCursor::Off)
         return;
+    if (pPoint != nullptr) {
+        state.pointer = *pPoint;
+        if (state.resting == *pPoint)
+            return;
+    }
+    state.resting.reset();
     const bool isInside =
         pPoint != nullptr && Plot().PtInRect(*pPoint) && !legend.GetRect().PtInRect(*pPoint);
     const CursorReading reading = isInside ? state.Nearest(*this, *pPoint) : CursorReading();
     if (!state.Set(*this, 0, reading))
         return;
-    chart.Redraw();
     Tell(*this, 0, reading);
 }
 
@@ -154,7 +187,7 @@ bool ChartDrawState::StepCursor(int nSamples, int nDatasets) {
         if (!other.IsValid())
             continue;
         state.Set(*this, shown, other);
-        chart.Redraw();
+        state.resting = state.pointer;
         Tell(*this, shown, other);
         break;
     }

@@ -9,29 +9,10 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/core/NearestSample.h"
+#include "chartdraw/core/StatisticsBetween.h"
 
 namespace kavlix {
 namespace {
-
-/// The points of a dataset, searched by their bounding boxes.
-class Samples {
-public:
-    explicit Samples(const ChartSeries& points) : m_points(points) {}
-
-    int Size() const { return m_points.Size(); }
-    ChartPoint operator[](int i) const { return m_points[i]; }
-    bool IsSorted() const { return false; }
-    int NearestInX(double) const { return 0; }
-    ValueBounds YBoundsBetween(double, double, bool) const { return m_points.YBounds(); }
-    const Samples& Unsorted() const { return *this; }
-    template <class TakeBox, class TakePoints>
-    void Visit(int begin, int end, TakeBox takeBox, TakePoints takePoints) const {
-        m_points.Boxes().Visit(begin, end, takeBox, takePoints);
-    }
-
-private:
-    const ChartSeries& m_points;
-};
 
 CursorReading ReadingOf(const ChartDrawState& state, int dataset, int sample) {
     if (sample < 0)
@@ -50,7 +31,7 @@ int IndexOf(const ChartDrawState& state, const ChartDrawState::ChartDataset* dat
 
 /// The sample of a series at `point`; if there is none, the nearest one in x.
 int FindSample(const ChartSeries& points, const ChartPoint& point) {
-    const int nearest = FindNearestInX(Samples(points), point.x).index;
+    const int nearest = FindNearestInX(points, point.x).index;
     if (nearest < 0 || points[nearest].x != point.x || points[nearest].y == point.y)
         return nearest;
     // Several samples have this x: look for the one with this y.
@@ -59,28 +40,8 @@ int FindSample(const ChartSeries& points, const ChartPoint& point) {
         return x < point.x ? -kInfinity : x > point.x ? kInfinity : 0;
     };
     const auto across = [&](double y) { return y - point.y; };
-    const NearestSample same = FindNearestSample(Samples(points), point.x, along, across, false);
+    const NearestSample same = FindNearestSample(points, point.x, along, across, false);
     return same.distance == 0 ? same.index : nearest;
-}
-
-ChartStatistics StatisticsBetween(const ChartSeries& points, double from, double to) {
-    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-    ChartStatistics figures = {0, kNaN, kNaN, kNaN, kNaN, kNaN};
-    double sum = 0;
-    for (int i = 0; i < points.Size(); ++i) {
-        const ChartPoint point = points[i];
-        if (!(point.x >= from && point.x <= to) || point.y != point.y)
-            continue;
-        if (figures.count == 0)
-            figures = {0, point.y, point.y, kNaN, point.y, point.y};
-        ++figures.count;
-        figures.min = std::min(figures.min, point.y);
-        figures.max = std::max(figures.max, point.y);
-        figures.last = point.y;
-        sum += point.y;
-        figures.mean = sum / static_cast<double>(figures.count);
-    }
-    return figures;
 }
 
 } // namespace
@@ -99,7 +60,7 @@ CursorReading ChartCursorState::Read(const ChartDrawState& state, int cursor, in
     if (!own.IsValid() || own.dataset == dataset)
         return own;
     const double x = state.ToDataset(state.Dataset(dataset), own.x);
-    return ReadingOf(state, dataset, FindNearestInX(Samples(state.Dataset(dataset).points), x).index);
+    return ReadingOf(state, dataset, FindNearestInX(state.Dataset(dataset).points, x).index);
 }
 
 CursorReading ChartCursorState::Nearest(const ChartDrawState& state, double x,
@@ -110,7 +71,7 @@ CursorReading ChartCursorState::Nearest(const ChartDrawState& state, double x,
         const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
         if (!dataset.visible)
             continue;
-        const NearestSample found = FindNearestInX(Samples(dataset.points), state.ToDataset(dataset, x));
+        const NearestSample found = FindNearestInX(dataset.points, state.ToDataset(dataset, x));
         if (found.distance < best.distance || (found.distance == best.distance && &dataset == preferred)) {
             best = found;
             bestDataset = i;
@@ -134,8 +95,8 @@ CursorReading ChartCursorState::Nearest(const ChartDrawState& state, CPoint poin
         const double x = xMap.Value(point.x);
         const NearestSample found =
             mode == CChartCursor::All
-                ? FindNearestSample(Samples(dataset.points), x, along, anywhere, false)
-                : FindNearestSample(Samples(dataset.points), x, along, across, yMap.IsLogarithmic());
+                ? FindNearestSample(dataset.points, x, along, anywhere, false)
+                : FindNearestSample(dataset.points, x, along, across, yMap.IsLogarithmic());
         if (found.distance < best.distance) {
             best = found;
             bestDataset = i;
@@ -163,7 +124,11 @@ ChartStatistics ChartCursorState::Statistics(const ChartDrawState& state, int da
         const CursorReading own = Read(state, cursor);
         return own.dataset == dataset ? own.point.x : state.ToDataset(record, own.x);
     };
-    return StatisticsBetween(record.points, std::min(bound(0), bound(1)), std::max(bound(0), bound(1)));
+    const double first = bound(0);
+    const double second = bound(1);
+    const SpanStatistics found =
+        StatisticsBetween(record.points, std::min(first, second), std::max(first, second));
+    return {found.count, found.min, found.max, found.mean, found.first, found.last};
 }
 
 } // namespace kavlix

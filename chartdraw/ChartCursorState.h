@@ -4,7 +4,7 @@
 
 #include <kavlix/ChartDraw.h>
 
-#include <vector>
+#include <optional>
 
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/MeasuredTexts.h"
@@ -44,7 +44,11 @@ struct ChartCursorState {
     COLORREF background = RGB(255, 255, 255);
     COLORREF border = RGB(160, 160, 160);
     Place places[kCursors];
-    MeasuredTexts texts; ///< of the readout
+    /// The pointer where keys have moved the first cursor away from it. Windows sends further mouse messages for a
+    /// pointer that rests.
+    std::optional<CPoint> resting;
+    CPoint pointer{0, 0}; ///< where it was last
+    MeasuredTexts texts;  ///< of the readout
 
     bool IsShown(int cursor) const {
         return mode != CChartCursor::Off && cursor >= 0 && cursor < kCursors && places[cursor].isShown;

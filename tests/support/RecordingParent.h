@@ -16,7 +16,7 @@ namespace testkit {
 class RecordingParent : public CWnd {
 public:
     /// The largest number of bytes of a notification record that is copied.
-    static constexpr std::size_t kRecordBytes = 64;
+    static constexpr std::size_t kRecordBytes = 80;
 
     struct Entry {
         UINT message;

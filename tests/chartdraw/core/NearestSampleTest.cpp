@@ -6,51 +6,20 @@
 
 #include <random>
 
+#include "chartdraw/core/ChartSeries.h"
 #include "plot/AxisMap.h"
 
 namespace kavlix {
 namespace {
 
-/// Points in order of arrival, with their boxes.
-class Points {
+/// Counts the points that are read.
+class CountedSeries : public ChartSeries {
 public:
-    void Append(double x, double y) {
-        m_isSorted = m_isSorted && (m_points.Size() == 0 || x >= m_points.Back().x) && x == x;
-        m_points.Add({x, y});
-        m_boxes.Update(m_points);
-    }
-    int Size() const { return static_cast<int>(m_points.Size()); }
     ChartPoint operator[](int i) const {
         ++reads;
-        return m_points[static_cast<std::size_t>(i)];
-    }
-    bool IsSorted() const { return m_isSorted; }
-    int NearestInX(double x) const {
-        int best = -1;
-        for (int i = 0; i < Size(); ++i)
-            if (best < 0 || std::fabs(At(i).x - x) < std::fabs(At(best).x - x))
-                best = i;
-        return best;
-    }
-    ValueBounds YBoundsBetween(double from, double to, bool positiveOnly) const {
-        ValueBounds bounds;
-        for (int i = 0; i < Size(); ++i)
-            if (At(i).x >= from && At(i).x <= to && std::isfinite(At(i).y) && (!positiveOnly || At(i).y > 0))
-                bounds.Add(At(i).y);
-        return bounds;
-    }
-    const Points& Unsorted() const { return *this; }
-    template <class TakeBox, class TakePoints>
-    void Visit(int begin, int end, TakeBox takeBox, TakePoints takePoints) const {
-        m_boxes.Visit(begin, end, takeBox, takePoints);
+        return ChartSeries::operator[](i);
     }
     mutable int reads = 0;
-
-private:
-    const ChartPoint& At(int i) const { return m_points[static_cast<std::size_t>(i)]; }
-    bool m_isSorted = true;
-    ChartPoints m_points;
-    PointBoxTree m_boxes;
 };
 
 TEST(NearestSampleTest, IsThatOfAWalkAndReadsFewPoints) {
@@ -60,7 +29,7 @@ TEST(NearestSampleTest, IsThatOfAWalkAndReadsFewPoints) {
     };
     std::int64_t reads = 0, points = 0;
     for (int round = 0; round < 250; ++round) {
-        Points series;
+        CountedSeries series;
         const int kind = round % 5; // 0 to 2 sorted
         const int count = round % 4 == 0 ? static_cast<int>(uniform(0, 40)) : 3000;
         double x = uniform(-50, 50), y = 0;

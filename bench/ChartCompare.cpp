@@ -16,7 +16,7 @@ constexpr int kWarm = 3;
 constexpr int kMany = 10000000;
 constexpr int kMillion = kMany / 10;
 
-/// The times of whole repaints of one control.
+/// The times of whole repaints of one control, without other load on the machine.
 class Paints {
 public:
     explicit Paints(CWnd& control) : m_control(control), m_picture(kWidth, kHeight) {}
@@ -35,8 +35,8 @@ public:
         m_window.clear();
         m_memory.clear();
     }
-    double Window() { return Quantile(m_window, kMedian) / kMicrosecondsPerMillisecond; }
-    double Memory() { return Quantile(m_memory, kMedian) / kMicrosecondsPerMillisecond; }
+    double Window() { return Quantile(m_window, kTenth) / kMicrosecondsPerMillisecond; }
+    double Memory() { return Quantile(m_memory, kTenth) / kMicrosecondsPerMillisecond; }
 
 private:
     CWnd& m_control;
@@ -45,7 +45,7 @@ private:
     std::vector<double> m_memory;
 };
 
-/// Paints both controls in turns and adds the medians, and `second` as a multiple of `first`.
+/// Paints both controls in turns and adds their times, and `second` as a multiple of `first`.
 void AddRatios(Row& row, CWnd& first, const std::string& firstName, CWnd& second,
                const std::string& secondName) {
     Paints a(first);

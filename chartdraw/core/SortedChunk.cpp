@@ -106,6 +106,7 @@ void SortedChunk::SummarizeFrom(int k) {
 
 void SortedChunk::SummarizeWhole() {
     SummarizeFrom(m_size);
+    m_lastX = X(m_size - 1);
     Summary whole;
     whole.values = {kInfinity, -kInfinity};
     whole.positiveLow = kInfinity;
@@ -140,6 +141,10 @@ double SortedChunk::StepBound() const {
 void SortedChunk::Prefetch(int k) const {
     const double* block = m_values.get() + k / kBlock * kBlock;
     PrefetchMemory(block, block + kBlock);
+    if (m_xs) {
+        constexpr int kNear = 8; // points beside the guessed border of a column
+        PrefetchMemory(m_xs.get() + std::max(k - kNear, 0), m_xs.get() + std::min(k + kNear, m_capacity));
+    }
     PrefetchMemory(&GroupOf(0), Groups() + m_capacity / kGroup);
     PrefetchMemory(&BlockOf(k / kGroup * kGroup), &BlockOf(k / kGroup * kGroup) + kGroup / kBlock);
 }
@@ -158,14 +163,12 @@ void SortedChunk::Insert(int k, double x, double y) {
 }
 
 SortedChunk::Memory SortedChunk::Close(const SortedChunk* before) {
+    Memory freed;
+    if (m_xs && m_size == m_capacity && FindFormula(before))
+        freed = std::move(m_xs);
     m_isClosed = true;
-    if (m_xs && m_size == m_capacity && FindFormula(before)) {
-        Memory freed = std::move(m_xs);
-        SummarizeWhole();
-        return freed;
-    }
     SummarizeWhole();
-    return nullptr;
+    return freed;
 }
 
 bool SortedChunk::Follows(const Formula& formula) const {

@@ -74,7 +74,7 @@ public:
     const double* Ys() const { return m_values.get(); }
     const double* Xs() const { return m_xs.get(); } ///< null when x follow a rule
     double FirstX() const { return X(0); }
-    double LastX() const { return X(m_size - 1); }
+    double LastX() const { return m_isClosed ? m_lastX : X(m_size - 1); }
 
     /// Number of points whose blocks have extremes, a multiple of 32.
     int Summarized() const { return m_summarized; }
@@ -129,6 +129,7 @@ private:
     Memory m_values;
     Memory m_xs;
     Formula m_formula;
+    double m_lastX = 0; ///< of a closed chunk: kept here because searches for columns read it
     std::uint64_t m_gaps[kMasks] = {};
     Summary m_whole;
 };

@@ -20,11 +20,7 @@ int WholeBlocks(int count) {
 /// Most chunks have the same size, so the place is guessed from the end; a binary search follows when the
 /// guess is wrong.
 std::size_t SortedPoints::IndexOfChunk(std::int64_t number) const {
-    const auto last = static_cast<std::int64_t>(m_chunks.size()) - 1;
-    const std::int64_t behind = m_tail->First() - number;
-    if (behind <= 0)
-        return static_cast<std::size_t>(last);
-    const std::int64_t guess = last - (behind + SortedChunk::kMost - 1) / SortedChunk::kMost;
+    const std::int64_t guess = GuessChunk(number);
     if (guess >= 0) {
         const SortedChunk& chunk = *m_chunks[static_cast<std::size_t>(guess)];
         if (number >= chunk.First() && number < chunk.End())

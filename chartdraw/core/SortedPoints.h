@@ -114,6 +114,13 @@ public:
         const SortedChunk& chunk = ChunkOf(i);
         chunk.Prefetch(PlaceIn(chunk, i));
     }
+    /// Prefetches the summaries of the chunks of `range`, whose points exist. Reads no chunk but the last one.
+    void PrefetchSummaries(IndexRange range) const {
+        const std::int64_t last = GuessChunk(m_begin + range.last);
+        for (std::int64_t i = std::max<std::int64_t>(GuessChunk(m_begin + range.first), 0); i <= last; ++i)
+            PrefetchMemory(m_chunks[static_cast<std::size_t>(i)].get(),
+                           m_chunks[static_cast<std::size_t>(i)].get() + 1);
+    }
     /// Calls `take(before, x)` with the x of the point before and of each point of `range` that begins a chunk. The
     /// range is empty or lies behind point 0.
     template <class Take> void ForChunkStarts(IndexRange range, Take take) const {
@@ -231,6 +238,12 @@ private:
     static bool IsUnwantedChunk(const SortedChunk& chunk, IsUnwanted& isUnwanted) {
         const SortedChunk::Summary& whole = chunk.Whole();
         return isUnwanted(whole.values, whole.numbers < chunk.Size(), whole.largestStep);
+    }
+    /// The chunk of a point if all chunks have the same size; may be negative. Number `number` exists.
+    std::int64_t GuessChunk(std::int64_t number) const {
+        const std::int64_t behind = m_tail->First() - number;
+        const auto last = static_cast<std::int64_t>(m_chunks.size()) - 1;
+        return behind <= 0 ? last : last - (behind + SortedChunk::kMost - 1) / SortedChunk::kMost;
     }
     std::size_t IndexOfChunk(std::int64_t number) const;
     void AddChunk(const SortedChunk::Formula* rule);

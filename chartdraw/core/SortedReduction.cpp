@@ -39,14 +39,25 @@ void SortedReduction::Run() {
         const int column = m_borders.Pixels().Of(m_reader.X(i));
         const int next = EndOfColumn(i, end, column, guess);
         guess = next - i;
-        if (guess > kPrefetchedColumn && guess < (end - next) / kAhead)
-            m_points.Prefetch(next + kAhead * guess);
+        PrefetchAhead(next, end, guess);
         AddColumn(column, i, next - 1);
         i = next;
     }
     if (end < size)
         AddOutside(end);
     m_line.End();
+}
+
+/// Prefetches what columns of `count` points read, some columns behind point `next`.
+void SortedReduction::PrefetchAhead(int next, int end, int count) const {
+    if (count <= kPrefetchedColumn)
+        return;
+    const std::int64_t summaries = next + std::int64_t{2 * kAhead} * count;
+    if (summaries + count < end)
+        m_points.PrefetchSummaries({static_cast<int>(summaries), static_cast<int>(summaries) + count});
+    const std::int64_t border = next + std::int64_t{kAhead} * count;
+    if (border < end)
+        m_points.Prefetch(static_cast<int>(border));
 }
 
 /// The first point behind point `first` that has passed `column`; `end` when there is none. `guess` is the number
@@ -61,7 +72,7 @@ int SortedReduction::EndOfColumn(int first, int end, int column, int guess) {
         const SortedChunk& chunk = m_reader.ChunkAt(next);
         int inside = m_points.PlaceIn(chunk, next) - 1; // the place before may lie in the chunk before
         int outside = std::min(chunk.Size(), m_points.PlaceIn(chunk, end)) - 1;
-        if (!isPast(chunk.X(outside))) {
+        if (!isPast(outside + 1 == chunk.Size() ? chunk.LastX() : chunk.X(outside))) {
             next = m_points.IndexAt(chunk, outside) + 1;
             continue;
         }

@@ -30,6 +30,7 @@ public:
     void Run();
 
 private:
+    void PrefetchAhead(int next, int end, int count) const;
     int EndOfColumn(int first, int end, int column, int guess);
     void AddColumn(int column, int first, int last);
     bool FindExtremes(IndexRange range, Extremes& extremes) const;

@@ -1,51 +1,58 @@
 // SPDX-License-Identifier: MIT
-// The chart page: its choices, texts and commands.
+// The chart page's content, texts and notifications. Its commands are in ChartPageCommands.
 
 #include "monitor/ChartPage.h"
 
-#include <afxdlgs.h>
 #include <afxres.h>
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
-#include "monitor/ChartSeriesDlg.h"
 #include "monitor/Notifications.h"
-#include "monitor/PictureCopy.h"
-#include "monitor/TextConversion.h"
-#include "monitor/WindowPicture.h"
+#include "monitor/recording/JoinedSamples.h"
 #include "monitor/recording/NumberText.h"
-#include "monitor/recording/SampleText.h"
 #include "monitor/resource.h"
 
 namespace kavlix::monitor {
 
-using recording::ChartX;
-
-namespace {
-
-constexpr std::size_t kPointsWithLines = 500; // with more points, the lines between them hide the picture
-
-} // namespace
+using recording::ChartPoint, recording::ChartX;
 
 BEGIN_MESSAGE_MAP(CChartPage, CMonitorPage)
     ON_WM_CREATE()
 
-    ON_NOTIFY(MCN_SELECTION, IDC_CHART, &CChartPage::OnSelection)
-    ON_NOTIFY(MCN_POINTER, IDC_CHART, &CChartPage::OnPointer)
+    ON_NOTIFY(MCN_SELECTION, IDC_CHART, &CChartPage::OnMarked)
+    ON_NOTIFY(CDN_CURSOR, IDC_CHART, &CChartPage::OnCursor)
+    ON_NOTIFY(CDN_VIEW, IDC_CHART, &CChartPage::OnView)
+    ON_NOTIFY(CDN_DATASET, IDC_CHART, &CChartPage::OnDatasetShown)
+    ON_NOTIFY(CDN_MENU, IDC_CHART, &CChartPage::OnMenu)
 
     ON_COMMAND(ID_EDIT_COPY, &CChartPage::OnEditCopy)
-    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CChartPage::OnUpdateWithPoints)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &CChartPage::OnUpdateWithSamples)
     ON_COMMAND(ID_CHART_SAVE_AS, &CChartPage::OnSaveAs)
-    ON_UPDATE_COMMAND_UI(ID_CHART_SAVE_AS, &CChartPage::OnUpdateWithPoints)
+    ON_COMMAND(ID_CHART_SAVE_PICTURE, &CChartPage::OnSaveAs)
+    ON_UPDATE_COMMAND_UI(ID_CHART_SAVE_AS, &CChartPage::OnUpdateWithSamples)
+    ON_COMMAND(ID_CHART_SAVE_DATA, &CChartPage::OnSaveData)
+    ON_UPDATE_COMMAND_UI(ID_CHART_SAVE_DATA, &CChartPage::OnUpdateWithSamples)
 
     ON_COMMAND(ID_CHART_SERIES, &CChartPage::OnChooseSeries)
-    ON_UPDATE_COMMAND_UI(ID_CHART_SERIES, &CChartPage::OnUpdateWithPoints)
+    ON_UPDATE_COMMAND_UI(ID_CHART_SERIES, &CChartPage::OnUpdateWithSamples)
     ON_COMMAND(ID_CHART_SWAP, &CChartPage::OnSwap)
     ON_UPDATE_COMMAND_UI(ID_CHART_SWAP, &CChartPage::OnUpdateSwap)
     ON_COMMAND_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnStyle)
     ON_UPDATE_COMMAND_UI_RANGE(ID_CHART_POINTS, ID_CHART_BOTH, &CChartPage::OnUpdateStyle)
+    ON_COMMAND(ID_VIEW_LEGEND, &CChartPage::OnLegend)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_LEGEND, &CChartPage::OnUpdateLegend)
+
+    ON_COMMAND_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_LATER, &CChartPage::OnViewRange)
+    ON_COMMAND(ID_VIEW_FULL_RANGE, &CChartPage::OnFit)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_FULL_RANGE, &CChartPage::OnUpdateViewRange)
+    ON_COMMAND(ID_CHART_FIT, &CChartPage::OnFit)
+    ON_UPDATE_COMMAND_UI(ID_CHART_FIT, &CChartPage::OnUpdateWithSamples)
+    ON_COMMAND(ID_CHART_BACK, &CChartPage::OnBack)
+    ON_UPDATE_COMMAND_UI(ID_CHART_BACK, &CChartPage::OnUpdateWithSamples)
+    ON_COMMAND(ID_SCROLL_NEWEST, &CChartPage::OnNewest)
+    ON_UPDATE_COMMAND_UI(ID_SCROLL_NEWEST, &CChartPage::OnUpdateNewest)
 
     ON_COMMAND(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnClearMark)
     ON_UPDATE_COMMAND_UI(ID_GRAPH_CLEAR_SELECTION_MARK, &CChartPage::OnUpdateClearMark)
@@ -62,180 +69,149 @@ void CChartPage::Update() {
     const PageContent& content = Content();
     if (std::exchange(m_contentMark, content.marked) != content.marked)
         m_mark = content.marked;
-    bool changed = false;
-    if (std::exchange(m_generation, content.generation) != content.generation) {
-        std::vector<std::size_t> visible;
-        for (std::size_t i = 0; i < content.settings.series.size(); ++i)
-            if (content.settings.series[i].visible)
-                visible.push_back(i);
-        m_choice = recording::DefaultChartChoice(visible);
+    const auto removed = static_cast<std::size_t>(content.lost - std::exchange(m_lost, content.lost));
+    const ChartPicture& shown = m_chart.Picture();
+    const auto recording = content.Source().recording;
+    const bool isNew = std::exchange(m_generation, content.generation) != content.generation;
+    if (isNew) {
+        m_choice = {};
+        m_choice.y = content.settings.series.size() > 1 ? 1 : 0;
         m_style.reset();
         m_mark = content.marked;
-        changed = true;
     }
-    auto recording = content.Source().recording;
-    changed = changed || recording != m_recording || !(content.settings == m_settings);
-    m_recording = std::move(recording);
-    m_settings = content.settings;
-    if (changed)
-        Rebuild();
+    if (isNew || (recording && !m_chart.HasSamples()))
+        ShowPicture(true);
+    else if (content.live && m_chart.IsOverTime() && recording != shown.recording &&
+             content.settings == shown.settings)
+        m_chart.Grow(recording, removed);
+    else if (recording != shown.recording || !(content.settings == shown.settings))
+        ShowPicture(false);
     const bool there = m_mark && *m_mark >= content.lost;
     m_chart.Mark(there ? std::optional(static_cast<std::size_t>(*m_mark - content.lost)) : std::nullopt);
 }
 
-/// Shows the points of the choice.
-void CChartPage::Rebuild() {
+/// Shows the content as the person has chosen.
+void CChartPage::ShowPicture(bool asNew) {
+    const GraphSource source = Content().Source();
     ChartPicture picture;
-    picture.title = m_settings.title;
-    if (m_recording && m_choice.y < m_settings.series.size()) {
-        picture.points = recording::ChartPointsOf(*m_recording, m_choice);
-        picture.xLabel = XText(*m_recording);
-        picture.yLabel = m_settings.series[m_choice.y].name;
-        picture.color = m_settings.series[m_choice.y].color;
-        picture.style = m_choice.kind == ChartX::Time               ? ChartStyle::Lines
-                        : picture.points.size() <= kPointsWithLines ? ChartStyle::Both
-                                                                    : ChartStyle::Points;
-        // A fixed scale for live readings, which never leave it.
-        picture.yCovers = Content().Source().axisCovers;
-        if (m_choice.kind != ChartX::Time)
-            picture.xCovers = picture.yCovers;
-        picture.style = m_style.value_or(picture.style);
+    picture.recording = source.recording;
+    picture.settings = Content().settings;
+    picture.choice = m_choice;
+    picture.style = m_style;
+    picture.covers = source.axisCovers; // a fixed scale for live readings, which never leave it
+    picture.isLive = Content().live != nullptr;
+    m_chart.Show(std::move(picture), asNew);
+}
+
+/// Texts of a row: over time the values of all series, otherwise those of the point.
+std::vector<std::string> CChartPage::TextsOf(std::size_t row) {
+    const recording::Recording& recording = *m_chart.Picture().recording;
+    const std::vector<SeriesSettings>& series = m_chart.Picture().settings.series;
+    const auto digits = Content().live ? recording::ValueDigits::Computed : recording::ValueDigits::AsRead;
+    if (m_chart.IsOverTime()) {
+        std::vector<double> values;
+        std::vector<recording::Time> times;
+        for (std::size_t i = 0; i < recording.series.size(); ++i) {
+            const std::size_t beside =
+                recording::SampleBeside(recording, {0, recording.times.size() - 1}, i, row);
+            values.push_back(recording.series[i].values[beside]);
+            times.push_back(recording.times[beside]);
+        }
+        return TextsOfSample(recording.times[row], values, times, digits);
     }
-    m_chart.Show(std::move(picture));
-}
-
-std::string CChartPage::XText(const recording::Recording& recording) const {
-    const std::vector<SeriesSettings>& series = m_settings.series;
-    if (m_choice.kind == ChartX::Series)
-        return series[m_choice.x].name;
-    if (m_choice.kind == ChartX::Predecessor)
-        return series[m_choice.y].name + ", one sample before";
-    if (recording.times.empty())
+    const ChartPoint* const point = m_chart.PointOf(row);
+    if (!point)
         return {};
-    const recording::Time first = recording.times.front();
-    return std::string(recording::TimeUnitOf(recording.times.back() - first).name) + " since " +
-           recording::FormatDateTime(first, recording::TimePrecision::Seconds) +
-           (recording.Zoned() ? " UTC" : "");
-}
-
-std::vector<std::string> CChartPage::TextsOf(const recording::ChartPoint& point) const {
     std::vector<recording::NamedValue> values;
-    if (m_choice.kind == ChartX::Series)
-        values.push_back({m_settings.series[m_choice.x].name, point.x, {}});
-    else if (m_choice.kind == ChartX::Predecessor)
-        values.push_back({"before", point.x, {}});
-    values.push_back({m_settings.series[m_choice.y].name, point.y, {}});
-    return recording::SampleTexts(m_recording->times[point.row], values,
-                                  Content().live ? recording::ValueDigits::Computed
-                                                 : recording::ValueDigits::AsRead);
+    values.push_back({m_choice.kind == ChartX::Series ? series[m_choice.x].name : "before", point->x, {}});
+    values.push_back({series[m_choice.y].name, point->y, {}});
+    return recording::SampleTexts(recording.times[row], values, digits);
 }
 
 std::vector<std::string> CChartPage::MarkTexts() {
-    const recording::ChartPoint* const point = m_chart.Marked();
-    return point ? TextsOf(*point) : std::vector<std::string>();
+    const auto row = MarkedSample();
+    return row ? TextsOf(*row) : std::vector<std::string>();
 }
 
 std::vector<std::string> CChartPage::PointerTexts() {
-    const recording::ChartPoint* const point = m_chart.Pointed();
-    return point ? TextsOf(*point) : std::vector<std::string>();
+    const auto row = m_chart.Pointed();
+    return row ? TextsOf(*row) : std::vector<std::string>();
 }
 
 std::vector<std::string> CChartPage::ViewTexts() {
-    const std::vector<recording::ChartPoint>& points = m_chart.Picture().points;
-    if (points.empty() || Content().live)
+    if (!m_chart.HasSamples() || Content().live)
         return CMonitorPage::ViewTexts();
-    const auto whole = static_cast<std::size_t>(
-        std::count_if(points.begin(), points.end(), [](const recording::ChartPoint& point) {
+    const recording::Recording& recording = *m_chart.Picture().recording;
+    if (m_chart.IsOverTime())
+        return {RangeText(recording, m_chart.Visible()) +
+                (recording.cancelled ? "   reading was stopped" : "")};
+    const std::vector<ChartPoint>& points = m_chart.Points();
+    const auto whole =
+        static_cast<std::size_t>(std::count_if(points.begin(), points.end(), [](const ChartPoint& point) {
             return std::isfinite(point.x) && std::isfinite(point.y);
         }));
-    return {recording::FormatCount(whole) + (whole == 1 ? " point" : " points") + ": " +
-                m_chart.Picture().yLabel + " against " + m_chart.Picture().xLabel,
-            recording::FormatCount(whole) + (whole == 1 ? " point" : " points")};
+    const std::string count = recording::FormatCount(whole) + (whole == 1 ? " point" : " points");
+    return {count + ": " + m_chart.YText() + " against " + m_chart.XText(), count};
 }
 
+/// The marked row: of several rows with the same time the one that was handed to this page.
 std::optional<std::size_t> CChartPage::MarkedSample() {
-    const recording::ChartPoint* const point = m_chart.Marked();
-    return point ? std::optional(point->row) : std::nullopt;
+    const auto shown = m_chart.Marked();
+    if (!shown)
+        return std::nullopt;
+    return m_mark && *m_mark >= Content().lost ? static_cast<std::size_t>(*m_mark - Content().lost) : *shown;
 }
 
-void CChartPage::OnSelection(NMHDR*, LRESULT* pResult) {
-    const auto marked = MarkedSample();
+recording::VisibleRange CChartPage::VisibleSamples() {
+    return m_chart.HasSamples() ? m_chart.Visible() : CMonitorPage::VisibleSamples();
+}
+
+/// The person has marked another sample in the chart, or none.
+void CChartPage::TakeMark() {
+    const auto marked = m_chart.Marked();
     m_mark = marked ? std::optional(Content().lost + *marked) : std::nullopt;
     Host().ShowSelection();
+}
+
+void CChartPage::OnMarked(NMHDR*, LRESULT* pResult) {
+    TakeMark();
     *pResult = 0;
 }
 
-void CChartPage::OnPointer(NMHDR*, LRESULT* pResult) {
-    Host().ShowPointer();
-    *pResult = 0;
-}
-
-void CChartPage::OnEditCopy() {
-    Host().Say(CopyTextOf(CopyReaches(
-        m_chart, [this] { return m_chart.CopyToClipboard(); })));
-}
-
-void CChartPage::OnSaveAs() {
-    CFileDialog dialog(FALSE, _T("png"), _T("chart.png"), OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                       kPictureFilter, this);
-    if (dialog.DoModal() != IDOK)
-        return;
-    const CString path = dialog.GetPathName();
-    if (m_chart.SaveImage(path))
-        Host().Say("Saved: " + ToUtf8(path));
+void CChartPage::OnCursor(NMHDR* pNMHDR, LRESULT* pResult) {
+    if (reinterpret_cast<const NMCHARTDRAW*>(pNMHDR)->nItem == 0)
+        Host().ShowPointer();
     else
-        AfxMessageBox(_T("The chart was not saved: ") + path +
-                          _T(" cannot be written, or its name ends neither in .png nor in .bmp or .emf."),
-                      MB_OK | MB_ICONEXCLAMATION);
+        TakeMark();
+    *pResult = 0;
 }
 
-void CChartPage::OnChooseSeries() {
-    std::vector<std::string> names;
-    for (const SeriesSettings& series : m_settings.series)
-        names.push_back(series.name);
-    CChartSeriesDlg dialog(names, m_choice, this);
-    if (dialog.DoModal() != IDOK)
+void CChartPage::OnView(NMHDR*, LRESULT* pResult) {
+    Host().ShowSelection();
+    *pResult = 0;
+}
+
+void CChartPage::OnDatasetShown(NMHDR* pNMHDR, LRESULT* pResult) {
+    *pResult = 0;
+    const int dataset = reinterpret_cast<const NMCHARTDRAW*>(pNMHDR)->nIndex;
+    GraphSettings settings = Content().settings;
+    if (!m_chart.IsOverTime() || dataset < 0 || static_cast<std::size_t>(dataset) >= settings.series.size())
         return;
-    m_choice = dialog.Choice();
-    Rebuild();
-    Update();
-    Host().ShowSelection();
+    settings.series[static_cast<std::size_t>(dataset)].visible = m_chart.IsDatasetShown(dataset) != FALSE;
+    Host().ChangeSettings(std::move(settings));
 }
 
-void CChartPage::OnSwap() {
-    std::swap(m_choice.x, m_choice.y);
-    Rebuild();
-    Update();
-    Host().ShowSelection();
-}
-
-void CChartPage::OnUpdateSwap(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(m_choice.kind == ChartX::Series && !m_chart.Picture().points.empty());
-}
-
-void CChartPage::OnStyle(UINT nID) {
-    m_style = static_cast<ChartStyle>(nID - ID_CHART_POINTS);
-    Rebuild();
-    Update();
-}
-
-void CChartPage::OnUpdateStyle(CCmdUI* pCmdUI) {
-    pCmdUI->SetRadio(static_cast<UINT>(m_chart.Picture().style) == pCmdUI->m_nID - ID_CHART_POINTS);
-    OnUpdateWithPoints(pCmdUI);
-}
-
-void CChartPage::OnClearMark() {
-    m_mark.reset();
-    m_chart.Mark({});
-    Host().ShowSelection();
-}
-
-void CChartPage::OnUpdateClearMark(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(HasMark());
-}
-
-void CChartPage::OnUpdateWithPoints(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(!m_chart.Picture().points.empty());
+void CChartPage::OnMenu(NMHDR* pNMHDR, LRESULT* pResult) {
+    *pResult = 0;
+    CMenu* const menu = CMenu::FromHandle(reinterpret_cast<const NMCHARTDRAW*>(pNMHDR)->hMenu);
+    if (!menu || !m_chart.HasSamples())
+        return;
+    menu->AppendMenu(MF_SEPARATOR);
+    if (Content().live && m_chart.IsOverTime())
+        menu->AppendMenu(MF_STRING, ID_SCROLL_NEWEST, _T("Follow &Newest"));
+    menu->AppendMenu(MF_STRING, ID_CHART_SERIES, _T("Choose &Series..."));
+    menu->AppendMenu(m_chart.Marked() ? MF_STRING : MF_STRING | MF_GRAYED, ID_GRAPH_CLEAR_SELECTION_MARK,
+                     _T("Clear Selection &Mark"));
 }
 
 } // namespace kavlix::monitor

@@ -12,6 +12,10 @@ namespace kavlix::monitor {
 using recording::ChartChoice;
 using recording::ChartX;
 
+BEGIN_MESSAGE_MAP(CChartSeriesDlg, CDialog)
+    ON_CBN_SELCHANGE(IDC_CHART_X, &CChartSeriesDlg::OnXChosen)
+END_MESSAGE_MAP()
+
 CChartSeriesDlg::CChartSeriesDlg(std::vector<std::string> names, ChartChoice choice, CWnd* parent)
     : CDialog(CChartSeriesDlg::IDD, parent), m_names(std::move(names)), m_y(static_cast<int>(choice.y)) {
     const auto count = static_cast<int>(m_names.size());
@@ -36,8 +40,16 @@ BOOL CChartSeriesDlg::OnInitDialog() {
     }
     auto* const x = static_cast<CComboBox*>(GetDlgItem(IDC_CHART_X));
     x->AddString(_T("(the same series, one sample before)"));
-    x->AddString(_T("(time)"));
-    return CDialog::OnInitDialog();
+    x->AddString(_T("(time: all series)"));
+    const BOOL focus = CDialog::OnInitDialog();
+    OnXChosen();
+    return focus;
+}
+
+/// Over time all series are along Y.
+void CChartSeriesDlg::OnXChosen() {
+    const int chosen = static_cast<CComboBox*>(GetDlgItem(IDC_CHART_X))->GetCurSel();
+    GetDlgItem(IDC_CHART_Y)->EnableWindow(chosen <= static_cast<int>(m_names.size()));
 }
 
 void CChartSeriesDlg::DoDataExchange(CDataExchange* pDX) {

@@ -27,6 +27,9 @@ protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
 
+    afx_msg void OnXChosen();
+    DECLARE_MESSAGE_MAP()
+
 private:
     std::vector<std::string> m_names;
     int m_x; ///< index in the X box: the series, then the previous value, then time

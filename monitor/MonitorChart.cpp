@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Points, mark, mouse and keys of the chart.
+// Mark, mouse and keys of the chart. What it shows is in MonitorChartData.
 
 #include "monitor/MonitorChart.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
-#include "monitor/GraphSettings.h"
 #include "monitor/Notifications.h"
-#include "monitor/TextConversion.h"
 
 namespace kavlix::monitor {
 
@@ -18,9 +17,9 @@ using recording::ChartPoint;
 namespace {
 
 constexpr COLORREF kMarkColor = RGB(200, 0, 0);
-constexpr int kMarkHalf = 4;  // pixels from the mark's centre to its edge
-constexpr int kReach = 12;    // pixels from the pointer to the farthest point that counts as under it
 constexpr int kFontSize = 90; // size of the texts, in tenths of a point
+constexpr int kPointer = 0;   // the cursor that follows the pointer
+constexpr int kMark = 1;      // the cursor at the mark
 
 bool IsPoint(const ChartPoint& point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
@@ -30,129 +29,71 @@ bool IsPoint(const ChartPoint& point) {
 
 BEGIN_MESSAGE_MAP(CMonitorChart, CChartDraw)
     ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
 
     ON_WM_LBUTTONDOWN()
-    ON_WM_MOUSEMOVE()
-    ON_WM_MOUSELEAVE()
+    ON_WM_LBUTTONUP()
 
     ON_WM_KEYDOWN()
-    ON_WM_GETDLGCODE()
 END_MESSAGE_MAP()
 
 bool CMonitorChart::CreateChild(CWnd& parent, UINT id) {
-    AddDataset();
     SetTextFont(kFontSize, kFontFace);
+    SetViewFlags(ViewAll);
     return Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id) != FALSE;
 }
 
-void CMonitorChart::Show(ChartPicture picture) {
-    const ChartPoint* const marked = Marked();
-    const auto row = marked ? std::optional(marked->row) : std::nullopt;
-    m_picture = std::move(picture);
-    m_pointed.reset();
-    std::vector<double> x;
-    std::vector<double> y;
-    for (const ChartPoint& point : m_picture.points) {
-        x.push_back(point.x);
-        y.push_back(point.y);
-    }
-    SetData(0, x.data(), y.data(), static_cast<int>(x.size()));
-    SetColor(0, m_picture.color);
-    ShowLine(0, m_picture.style != ChartStyle::Points);
-    SetMarkerType(0, m_picture.style != ChartStyle::Lines ? CDataset::MarkerCircle : CDataset::MarkerNone);
-    SetAutoXScale();
-    SetAutoYScale();
-    if (m_picture.xCovers.any)
-        SetXScale(m_picture.xCovers.min, m_picture.xCovers.max);
-    if (m_picture.yCovers.any)
-        SetYScale(m_picture.yCovers.min, m_picture.yCovers.max);
-    SetTitle(ToText(m_picture.title));
-    SetXLabel(ToText(m_picture.xLabel));
-    SetYLabel(ToText(m_picture.yLabel));
-    Mark(row);
+const ChartPoint* CMonitorChart::PointOf(std::size_t row) const {
+    // A row may have two entries: a gap, then its point.
+    const auto found = std::find_if(
+        std::lower_bound(m_points.begin(), m_points.end(), row,
+                         [](const ChartPoint& point, std::size_t wanted) { return point.row < wanted; }),
+        m_points.end(), [row](const ChartPoint& point) { return point.row > row || IsPoint(point); });
+    return found != m_points.end() && found->row == row ? &*found : nullptr;
 }
 
 void CMonitorChart::Mark(std::optional<std::size_t> row) {
-    m_marked.reset();
-    const std::vector<ChartPoint>& points = m_picture.points;
-    if (row) {
-        // A row may have two entries: a gap, then its point.
-        const auto found = std::find_if(
-            std::lower_bound(points.begin(), points.end(), *row,
-                             [](const ChartPoint& point, std::size_t wanted) { return point.row < wanted; }),
-            points.end(), [row](const ChartPoint& point) { return point.row > *row || IsPoint(point); });
-        if (found != points.end() && found->row == *row)
-            m_marked = static_cast<std::size_t>(found - points.begin());
+    if (IsOverTime()) {
+        if (!row || !HasSamples() || *row >= m_picture.recording->times.size() ||
+            !GetCursor().SetPosition(kMark,
+                                     recording::SecondsFrom(m_origin, m_picture.recording->times[*row])))
+            GetCursor().Hide(kMark);
+    } else {
+        CChartReferences& lines = GetReferences();
+        lines.RemoveAll();
+        const ChartPoint* const point = row ? PointOf(*row) : nullptr;
+        m_marked = point ? row : std::nullopt;
+        if (point) {
+            lines.SetDashed(lines.AddLine(CChartReferences::X, point->x, _T(""), kMarkColor), TRUE);
+            lines.SetDashed(lines.AddLine(CChartReferences::Y, point->y, _T(""), kMarkColor), TRUE);
+        }
     }
     Redraw();
 }
 
-const ChartPoint* CMonitorChart::Marked() const {
-    return m_marked ? &m_picture.points[*m_marked] : nullptr;
-}
-
-const ChartPoint* CMonitorChart::Pointed() const {
-    return m_pointed ? &m_picture.points[*m_pointed] : nullptr;
-}
-
-std::optional<CPoint> CMonitorChart::PlaceOf(const ChartPoint& point) const {
-    if (!IsPoint(point) || m_rectPlot.IsRectEmpty())
+std::optional<std::size_t> CMonitorChart::RowAtCursor(int cursor) {
+    double x = 0;
+    if (!HasSamples() || !GetCursor().GetPosition(cursor, x))
         return std::nullopt;
-    double xMin = 0;
-    double xMax = 1;
-    double yMin = 0;
-    double yMax = 1;
-    double step = 0;
-    GetXScale(xMin, xMax, step);
-    GetYScale(yMin, yMax, step);
-    const double x = m_rectPlot.left + (point.x - xMin) / (xMax - xMin) * (m_rectPlot.Width() - 1);
-    const double y = m_rectPlot.bottom - 1 - (point.y - yMin) / (yMax - yMin) * (m_rectPlot.Height() - 1);
-    constexpr double farthest = 32767; // largest coordinate of a window, in pixels
-    if (!(std::abs(x) < farthest) || !(std::abs(y) < farthest))
-        return std::nullopt;
-    return CPoint(static_cast<int>(x), static_cast<int>(y));
+    return recording::RowNear(m_picture.recording->times, m_origin, x);
 }
 
-std::optional<std::size_t> CMonitorChart::PointUnder(CPoint position) const {
-    std::optional<std::size_t> nearest;
-    LONG least = kReach * kReach + 1;
-    for (std::size_t i = 0; i < m_picture.points.size(); ++i) {
-        const auto place = PlaceOf(m_picture.points[i]);
-        if (!place)
-            continue;
-        const CSize away = *place - position;
-        if (std::abs(away.cx) > kReach || std::abs(away.cy) > kReach)
-            continue;
-        const LONG distance = away.cx * away.cx + away.cy * away.cy;
-        if (distance < least) {
-            least = distance;
-            nearest = i;
-        }
-    }
-    return nearest;
+std::optional<std::size_t> CMonitorChart::Marked() {
+    return IsOverTime() ? RowAtCursor(kMark) : m_marked;
 }
 
-void CMonitorChart::DrawDatasets(CDC& dc) {
-    CChartDraw::DrawDatasets(dc);
-    const auto place = m_marked ? PlaceOf(m_picture.points[*m_marked]) : std::nullopt;
-    if (!place)
-        return;
-    const int state = dc.SaveDC();
-    dc.IntersectClipRect(&m_rectPlot);
-    {
-        CPen dots(PS_DOT, 1, kMarkColor);
-        CPen* const before = dc.SelectObject(&dots);
-        dc.SetBkMode(TRANSPARENT);
-        dc.MoveTo(m_rectPlot.left, place->y);
-        dc.LineTo(m_rectPlot.right, place->y);
-        dc.MoveTo(place->x, m_rectPlot.top);
-        dc.LineTo(place->x, m_rectPlot.bottom);
-        dc.SelectObject(before);
-    }
-    CRect square(*place, *place);
-    square.InflateRect(kMarkHalf, kMarkHalf, kMarkHalf + 1, kMarkHalf + 1);
-    dc.FillSolidRect(square, kMarkColor);
-    dc.RestoreDC(state);
+std::optional<std::size_t> CMonitorChart::Pointed() {
+    if (IsOverTime())
+        return RowAtCursor(kPointer);
+    const int point = GetCursor().GetSample(kPointer, 0);
+    return point < 0 ? std::nullopt : std::optional(m_points[static_cast<std::size_t>(point)].row);
+}
+
+BOOL CMonitorChart::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    // The page adds its own commands to the chart's menu, and says what came of the chart's.
+    const bool isCommand = nCode == CN_COMMAND || nCode == CN_UPDATE_COMMAND_UI;
+    return (isCommand && GetParent()->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) ||
+           CChartDraw::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 BOOL CMonitorChart::OnEraseBkgnd(CDC*) {
@@ -160,38 +101,33 @@ BOOL CMonitorChart::OnEraseBkgnd(CDC*) {
     return TRUE;
 }
 
+void CMonitorChart::OnSize(UINT nType, int cx, int cy) {
+    CChartDraw::OnSize(nType, cx, cy);
+    PlaceLegend();
+}
+
 void CMonitorChart::OnLButtonDown(UINT nFlags, CPoint point) {
     SetFocus();
+    m_pressed = point;
     CChartDraw::OnLButtonDown(nFlags, point);
-    const auto found = PointUnder(point);
-    if (!found)
+}
+
+void CMonitorChart::OnLButtonUp(UINT nFlags, CPoint point) {
+    CChartDraw::OnLButtonUp(nFlags, point);
+    const CSize moved = point - std::exchange(m_pressed, CPoint(-1, -1));
+    const auto pointed = Pointed();
+    if (!pointed || GetLegend().HitTest(point) >= 0 || std::abs(moved.cx) >= ::GetSystemMetrics(SM_CXDRAG) ||
+        std::abs(moved.cy) >= ::GetSystemMetrics(SM_CYDRAG))
         return;
-    m_marked = found;
-    Redraw();
+    Mark(pointed);
     NotifyParent(*this, MCN_SELECTION);
 }
 
-void CMonitorChart::OnMouseMove(UINT nFlags, CPoint point) {
-    if (!m_watchingLeave)
-        m_watchingLeave = WatchMouseLeave(*this);
-    CChartDraw::OnMouseMove(nFlags, point);
-    Point(PointUnder(point));
-}
-
-void CMonitorChart::OnMouseLeave() {
-    m_watchingLeave = false;
-    Point({});
-}
-
-void CMonitorChart::Point(std::optional<std::size_t> point) {
-    if (std::exchange(m_pointed, point) != point)
-        NotifyParent(*this, MCN_POINTER);
-}
-
 void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
-    if (nChar == VK_RIGHT || nChar == VK_LEFT) {
+    const bool isPlain = ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0;
+    if (isPlain && (nChar == VK_RIGHT || nChar == VK_LEFT)) {
         Step(nChar == VK_RIGHT ? 1 : -1);
-    } else if (nChar == VK_ESCAPE && m_marked) {
+    } else if (nChar == VK_ESCAPE && Marked()) {
         Mark({});
         NotifyParent(*this, MCN_SELECTION);
     } else {
@@ -199,24 +135,28 @@ void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     }
 }
 
-UINT CMonitorChart::OnGetDlgCode() {
-    return DLGC_WANTARROWS;
-}
-
 /// Moves the mark to the next point (`direction` 1) or the previous one (-1). Without a mark, marks the first
-/// or the last point.
+/// or the last point in view.
 void CMonitorChart::Step(int direction) {
-    const auto count = static_cast<std::ptrdiff_t>(m_picture.points.size());
-    std::ptrdiff_t at = direction > 0 ? -1 : count;
-    if (m_marked)
-        at = static_cast<std::ptrdiff_t>(*m_marked);
-    do
-        at += direction;
-    while (at >= 0 && at < count && !IsPoint(m_picture.points[static_cast<std::size_t>(at)]));
-    if (at < 0 || at >= count)
+    if (!HasSamples())
         return;
-    m_marked = static_cast<std::size_t>(at);
-    Redraw();
+    const auto marked = Marked();
+    if (IsOverTime()) {
+        if (!marked)
+            Mark(direction > 0 ? Visible().first : Visible().last);
+        else if (!GetCursor().MoveBySamples(kMark, direction))
+            return;
+        Redraw();
+    } else {
+        const auto rows = static_cast<std::ptrdiff_t>(m_picture.recording->times.size());
+        std::ptrdiff_t row = marked ? static_cast<std::ptrdiff_t>(*marked) : direction > 0 ? -1 : rows;
+        do
+            row += direction;
+        while (row >= 0 && row < rows && !PointOf(static_cast<std::size_t>(row)));
+        if (row < 0 || row >= rows)
+            return;
+        Mark(static_cast<std::size_t>(row));
+    }
     NotifyParent(*this, MCN_SELECTION);
 }
 

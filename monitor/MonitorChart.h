@@ -4,10 +4,12 @@
 
 #include <kavlix/ChartDraw.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "monitor/GraphSettings.h"
 #include "monitor/recording/ChartPoints.h"
 
 namespace kavlix::monitor {
@@ -17,63 +19,77 @@ enum class ChartStyle { Points, Lines, Both };
 
 /// What a chart shows.
 struct ChartPicture {
-    std::vector<recording::ChartPoint> points;
-    std::string title;
-    std::string xLabel;
-    std::string yLabel;
-    COLORREF color = RGB(0, 0, 0);
-    ChartStyle style = ChartStyle::Both;
-    recording::ValueSpan xCovers; ///< fixed ends of the X scale; none: the scale follows the points
-    recording::ValueSpan yCovers; ///< fixed ends of the Y scale; none: the scale follows the points
+    std::shared_ptr<const recording::Recording> recording; ///< null or without times: an empty chart
+    GraphSettings settings;
+    recording::ChartChoice choice;
+    std::optional<ChartStyle>
+        style;                   ///< none: lines over time, with the markers of the settings; else by count
+    recording::ValueSpan covers; ///< fixed ends of the scales of values; none: they follow the data
+    bool isLive = false;         ///< samples are added: the view follows the newest one
 };
 
-/// The chart control with the samples of a recording. One sample may be marked: by a click near it, by the
-/// arrow keys, which move the mark in time, or by the host. Escape removes the mark.
+/// The chart control with the samples of a recording: all series over time, or one against another. One sample
+/// may be marked: by a click, by the arrow keys, which move the mark in time, or by the host. Escape removes the
+/// mark. Over time the mark is the chart's second cursor.
 class CMonitorChart : public CChartDraw {
 public:
     /// Creates the control as a child window that takes part in the tab order.
     bool CreateChild(CWnd& parent, UINT id);
 
-    /// Shows another picture. The mark stays on its row if the new picture has a point for it. Repaints.
-    void Show(ChartPicture picture);
+    /// Shows another picture. With `asNew` the view is the whole picture; otherwise it stays. Removes the mark.
+    /// Repaints.
+    void Show(ChartPicture picture, bool asNew);
+    /// Shows the same series over time with rows removed at the head and rows added. View and mark stay. Repaints.
+    void Grow(std::shared_ptr<const recording::Recording> recording, std::size_t removed);
     const ChartPicture& Picture() const { return m_picture; }
+    ChartStyle Style() const;
+    bool IsOverTime() const { return m_picture.choice.kind == recording::ChartX::Time; }
+    bool HasSamples() const { return m_picture.recording && !m_picture.recording->times.empty(); }
 
-    /// Marks the point of this row of the recording; removes the mark when there is no such point. Repaints.
+    /// Marks a row of the recording; removes the mark when the chart shows no sample of the row. Repaints.
     void Mark(std::optional<std::size_t> row);
+    /// The marked row; none without a mark.
+    std::optional<std::size_t> Marked();
+    /// The row of the sample at the chart's first cursor, which follows the pointer; none without one.
+    std::optional<std::size_t> Pointed();
 
-    /// The marked point; null without a mark. Valid until the next Show.
-    const recording::ChartPoint* Marked() const;
+    /// The points of one series against another; empty over time.
+    const std::vector<recording::ChartPoint>& Points() const { return m_points; }
+    /// The point of a row; null for a gap, and when there is none.
+    const recording::ChartPoint* PointOf(std::size_t row) const;
+    /// The captions of one series against another.
+    std::string XText() const;
+    std::string YText() const { return m_picture.settings.series[m_picture.choice.y].name; }
+    /// The rows in view. The recording must have rows.
+    recording::VisibleRange Visible();
 
-    /// The point under the mouse pointer; null without one. Valid until the next Show.
-    const recording::ChartPoint* Pointed() const;
+    /// Moves the X axis to the newest sample, and on with each one that is added.
+    void FollowNewest();
 
-    /// The point nearest to a position (client pixels), as an index into the picture's points. None when all
-    /// are more than 12 pixels away.
-    std::optional<std::size_t> PointUnder(CPoint position) const;
-
-    /// Where a point is painted, in client pixels. None for a gap, for a place beyond the largest coordinate
-    /// of a window (32,767), and before the first paint.
-    std::optional<CPoint> PlaceOf(const recording::ChartPoint& point) const;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
 protected:
-    void DrawDatasets(CDC& dc) override;
-
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnMouseLeave();
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     DECLARE_MESSAGE_MAP()
 
 private:
-    void Point(std::optional<std::size_t> point);
+    void ShowOverTime(bool asNew, bool newSamples);
+    void ShowPoints();
+    void ApplySettings();
+    void ResetView();
+    void PlaceLegend();
     void Step(int direction);
+    std::optional<std::size_t> RowAtCursor(int cursor);
 
     ChartPicture m_picture;
-    std::optional<std::size_t> m_marked;  ///< index into the points
-    std::optional<std::size_t> m_pointed; ///< index into the points
-    bool m_watchingLeave = false;         ///< Windows will send WM_MOUSELEAVE
+    std::vector<recording::ChartPoint> m_points;
+    recording::Time m_origin = 0;        ///< where the seconds of the X axis count from, over time
+    std::optional<std::size_t> m_marked; ///< the row of the marked point; over time the second cursor has it
+    CPoint m_pressed{-1, -1};            ///< where the left button went down, client pixels
 };
 
 } // namespace kavlix::monitor

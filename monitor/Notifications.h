@@ -11,7 +11,6 @@ constexpr UINT MGN_MOUSELEAVE = 1400; ///< a graph: the mouse pointer left the w
 constexpr UINT MGN_COPIED = 1401;     ///< a graph: the picture is on the clipboard
 constexpr UINT MGN_NOTCOPIED = 1402;  ///< a graph: the picture did not reach the clipboard
 constexpr UINT MPN_SELECTION = 1410;  ///< the pie: a click, or a key that changed the selection
-constexpr UINT MCN_POINTER = 1420;    ///< the chart: another point, or none, is under the mouse pointer
 constexpr UINT MCN_SELECTION = 1421;  ///< the chart: the person clicked a point, moved the mark or removed it
 
 /// Sends a notification to the window's parent.

@@ -3,6 +3,7 @@
 
 #include "monitor/recording/ChartPoints.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <tuple>
@@ -59,7 +60,6 @@ std::vector<ChartPoint> ChartPointsOf(const Recording& recording, const ChartCho
     const std::vector<double>& others = joined && against ? beside : recording.series[choice.y].values;
     const std::vector<Time>& times = recording.times;
     const Time longestStep = LongestStep(IntervalOf(recording, leader));
-    const TimeUnit unit = times.empty() ? TimeUnit{} : TimeUnitOf(times.back() - times.front());
 
     std::vector<ChartPoint> points;
     std::optional<std::size_t> last; // the last row with a value of the leading series
@@ -73,9 +73,7 @@ std::vector<ChartPoint> ChartPointsOf(const Recording& recording, const ChartCho
         if (joined && last && !follows)
             points.push_back({row, kNoValue, kNoValue});
         double x = leading[row];
-        if (choice.kind == ChartX::Time)
-            x = static_cast<double>(times[row] - times.front()) / static_cast<double>(unit.length);
-        else if (choice.kind == ChartX::Predecessor)
+        if (choice.kind == ChartX::Predecessor)
             x = follows ? leading[*last] : kNoValue;
         points.push_back({row, x, others[row]});
         last = row;
@@ -83,21 +81,42 @@ std::vector<ChartPoint> ChartPointsOf(const Recording& recording, const ChartCho
     return points;
 }
 
-ChartChoice DefaultChartChoice(const std::vector<std::size_t>& series) {
-    if (series.size() >= 2)
-        return {ChartX::Series, series[0], series[1]};
-    return {ChartX::Predecessor, 0, series.empty() ? 0 : series[0]};
+TimedSamples SamplesOverTime(const Recording& recording, std::size_t series, Time origin,
+                             std::size_t firstRow) {
+    TimedSamples samples;
+    for (std::size_t row = firstRow; row < recording.times.size(); ++row) {
+        if (!recording.HasRow(series, row))
+            continue;
+        samples.x.push_back(SecondsFrom(origin, recording.times[row]));
+        samples.y.push_back(recording.series[series].values[row]);
+    }
+    return samples;
 }
 
-TimeUnit TimeUnitOf(Time span) {
-    constexpr int enough = 2; // least number of units in a span
-    if (span < enough * kMicrosPerMinute)
-        return {kMicrosPerSecond, "seconds"};
-    if (span < enough * kMicrosPerHour)
-        return {kMicrosPerMinute, "minutes"};
-    if (span < enough * kMicrosPerDay)
-        return {kMicrosPerHour, "hours"};
-    return {kMicrosPerDay, "days"};
+double SecondsFrom(Time origin, Time time) {
+    return static_cast<double>(time - origin) / static_cast<double>(kMicrosPerSecond);
+}
+
+std::size_t RowNear(const std::vector<Time>& times, Time origin, double seconds) {
+    const auto isBefore = [origin](Time time, double wanted) { return SecondsFrom(origin, time) < wanted; };
+    auto found = std::lower_bound(times.begin(), times.end(), seconds, isBefore);
+    if (found == times.end() || (found != times.begin() && seconds - SecondsFrom(origin, *(found - 1)) <=
+                                                               SecondsFrom(origin, *found) - seconds))
+        found = std::lower_bound(times.begin(), times.end(), *(found - 1));
+    return static_cast<std::size_t>(found - times.begin());
+}
+
+VisibleRange RowsBetween(const std::vector<Time>& times, Time origin, double from, double to) {
+    const auto isBefore = [origin](Time time, double wanted) { return SecondsFrom(origin, time) < wanted; };
+    const auto isBehind = [origin](double wanted, Time time) { return wanted < SecondsFrom(origin, time); };
+    const auto first = std::lower_bound(times.begin(), times.end(), from, isBefore);
+    const auto end = std::upper_bound(first, times.end(), to, isBehind);
+    if (first == end) {
+        const std::size_t near = RowNear(times, origin, from);
+        return {near, near};
+    }
+    return {static_cast<std::size_t>(first - times.begin()),
+            static_cast<std::size_t>(end - times.begin()) - 1};
 }
 
 } // namespace kavlix::recording

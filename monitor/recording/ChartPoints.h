@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The points of the chart page: one series against another, against its own previous value, or against time.
+// The points of the chart page: series over time, one series against another, or against its own previous value.
 #pragma once
 
 #include <cstddef>
@@ -12,16 +12,16 @@ namespace kavlix::recording {
 
 /// What the X axis of the chart shows.
 enum class ChartX {
-    Series,      ///< another series
-    Predecessor, ///< the previous value of the same series
-    Time
+    Time,       ///< time; along Y are all visible series
+    Series,     ///< another series
+    Predecessor ///< the previous value of the same series
 };
 
 /// Which series the chart shows, and against what.
 struct ChartChoice {
-    ChartX kind = ChartX::Series;
+    ChartX kind = ChartX::Time;
     std::size_t x = 0; ///< index of the series along X; used with ChartX::Series only
-    std::size_t y = 0; ///< index of the series along Y
+    std::size_t y = 0; ///< index of the series along Y; not used with ChartX::Time
 
     bool operator==(const ChartChoice& other) const;
 };
@@ -33,8 +33,7 @@ struct ChartPoint {
     double y = 0;
 };
 
-/// The points of a choice, in the order of time. With ChartX::Time, x is the time since the recording's first
-/// time, in the unit that TimeUnitOf gives for the recording's length.
+/// The points of a choice other than ChartX::Time, in the order of time.
 ///
 /// In a single file every row is a point. The point is a gap when either of its two values is missing.
 ///
@@ -45,17 +44,25 @@ struct ChartPoint {
 /// points that are farther apart than LongestStep of the leading series' file.
 std::vector<ChartPoint> ChartPointsOf(const Recording& recording, const ChartChoice& choice);
 
-/// The choice that the chart begins with. `series` are indices: the second series is along Y, the first along
-/// X. A single series is shown against its previous value.
-ChartChoice DefaultChartChoice(const std::vector<std::size_t>& series);
-
-/// A unit of time for the labels of an axis.
-struct TimeUnit {
-    Time length = 1;
-    const char* name = ""; ///< `seconds`, `minutes`, `hours` or `days`
+/// Samples of a series as coordinates.
+struct TimedSamples {
+    std::vector<double> x; ///< seconds since an origin
+    std::vector<double> y; ///< kNoValue for a gap
 };
 
-/// The largest unit that fits into `span` at least twice; seconds for shorter spans.
-TimeUnit TimeUnitOf(Time span);
+/// The samples of a series from row `firstRow` on: of joined files only the rows of the series' own file.
+TimedSamples SamplesOverTime(const Recording& recording, std::size_t series, Time origin,
+                             std::size_t firstRow = 0);
+
+/// Seconds from `origin` to `time`, exact to the microsecond over 285 years.
+double SecondsFrom(Time origin, Time time);
+
+/// The row whose time is nearest to `seconds` after `origin`: the first one of equal times, the earlier one of two
+/// equally near ones. `times` ascends and is not empty.
+std::size_t RowNear(const std::vector<Time>& times, Time origin, double seconds);
+
+/// The rows with `from` <= time <= `to`, in seconds after `origin`; without any, the row nearest to `from`. `times`
+/// ascends and is not empty.
+VisibleRange RowsBetween(const std::vector<Time>& times, Time origin, double from, double to);
 
 } // namespace kavlix::recording

@@ -49,6 +49,8 @@ Recording WithoutHead(const Recording& source, std::size_t count) {
     left.times = rest(source.times);
     for (const Series& series : source.series)
         left.series.push_back({series.name, series.file, rest(series.values)});
+    for (const std::vector<bool>& rows : source.rowsOf)
+        left.rowsOf.push_back(rest(rows));
     left.files = source.files;
     left.cancelled = source.cancelled;
     left.removed = source.removed + count;

@@ -69,11 +69,18 @@ struct Recording {
     std::vector<Time> times;
     std::vector<Series> series;     ///< at most kMaxSeries, in the order of the files and their columns
     std::vector<FileSummary> files; ///< in the order of the command line or the dialog
-    bool cancelled = false;         ///< reading was cancelled: the recording is incomplete
-    std::uint64_t removed = 0;      ///< number of rows that WithoutHead removed
+    /// For each joined file, whether it has a row at each time. Empty when all rows come from one file.
+    std::vector<std::vector<bool>> rowsOf;
+    bool cancelled = false;    ///< reading was cancelled: the recording is incomplete
+    std::uint64_t removed = 0; ///< number of rows that WithoutHead removed
 
     /// Whether there is no value at all.
     bool Empty() const;
+
+    /// Whether the file of a series has a row at this time; a series without a value there then has a gap.
+    bool HasRow(std::size_t oneSeries, std::size_t row) const {
+        return rowsOf.empty() || rowsOf[series[oneSeries].file][row];
+    }
 
     /// Sum of FileSummary::rowsLeftOut over all files.
     std::uint64_t RowsLeftOut() const;

@@ -70,6 +70,9 @@ public:
         return any;
     }
 
+    /// Whether the current step took a row from the file.
+    bool HasTaken(std::size_t file) const { return m_taken[file]; }
+
     /// The value in the current step's row; kNoValue when the step took no row from the file.
     double Value(std::size_t file, std::size_t column) const {
         return m_taken[file] ? m_tables[file].columns[column][m_next[file] - 1] : kNoValue;
@@ -89,15 +92,18 @@ void MergeRows(const std::vector<Table>& tables, Recording& recording) {
     for (const Table& table : tables)
         longest = std::max(longest, table.times.size());
     recording.times.reserve(longest);
+    recording.rowsOf.resize(tables.size());
     for (Series& series : recording.series)
         series.values.reserve(longest);
     Merge merge(tables);
     for (Time time = 0; merge.Step(time);) {
         recording.times.push_back(time);
         std::size_t target = 0;
-        for (std::size_t file = 0; file < tables.size(); ++file)
+        for (std::size_t file = 0; file < tables.size(); ++file) {
+            recording.rowsOf[file].push_back(merge.HasTaken(file));
             for (std::size_t column = 0; column < tables[file].columns.size(); ++column)
                 recording.series[target++].values.push_back(merge.Value(file, column));
+        }
     }
 }
 

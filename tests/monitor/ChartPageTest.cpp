@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The chart page: choices, mark, pointer and texts.
+// The chart page: series over time, one against another, mark, pointer, view and texts.
 
 #include <afxres.h>
+
+#include <cmath>
 
 #include "monitor/ChartPage.h"
 #include "monitor/ChartSeriesDlg.h"
@@ -17,66 +19,163 @@ using monitor::ChartStyle, monitor::CMonitorChart, monitor::CMonitorGraph, recor
 class ChartPage : public FrameWithPage {
 protected:
     CMonitorChart& Chart() { return ControlOf<CMonitorChart>(IDC_CHART); }
-    std::string Labels() { return Chart().Picture().yLabel + " / " + Chart().Picture().xLabel; }
-    CPoint Place(std::size_t point) {
+    /// The place of a sample, in client pixels.
+    CPoint Place(int dataset, int sample) {
         Chart().UpdateWindow();
-        return Chart().PlaceOf(Chart().Picture().points[point]).value_or(CPoint(-1, -1));
+        double x = 0;
+        double y = 0;
+        int left = -1;
+        int top = -1;
+        if (Chart().GetData(dataset, sample, x, y) && Chart().GetXAxis().GetPosition(x, left))
+            Chart().GetYAxis().GetPosition(y, top);
+        return {left, top};
     }
     void Mouse(UINT message, CPoint point) { Chart().SendMessage(message, 0, MAKELPARAM(point.x, point.y)); }
+    void Click(CPoint point) {
+        Mouse(WM_MOUSEMOVE, point);
+        Mouse(WM_LBUTTONDOWN, point);
+        Mouse(WM_LBUTTONUP, point);
+    }
+    void Wheel(CPoint point, short delta) {
+        Chart().ClientToScreen(&point);
+        Chart().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, delta), MAKELPARAM(point.x, point.y));
+    }
     void Press(UINT key) { Chart().SendMessage(WM_KEYDOWN, key, 1); }
     std::string Pointer() { return Pane(1); }
+    /// The samples of a dataset: `x:y` each, `-` for a gap.
+    std::string Samples(int dataset) {
+        std::string text;
+        double x = 0;
+        double y = 0;
+        for (int i = 0; Chart().GetData(dataset, i, x, y); ++i) {
+            char part[64] = "";
+            std::snprintf(part, sizeof part, "%.10g:%g ", x, y);
+            text += std::isnan(y) ? "- " : part;
+        }
+        return text;
+    }
+    /// Seconds of the X axis in view, from and to.
+    std::pair<double, double> View() {
+        Chart().UpdateWindow();
+        std::pair<double, double> view;
+        Chart().GetXAxis().GetRange(view.first, view.second);
+        return view;
+    }
+    /// Opens the dialog "Choose Series" by its command, and chooses there by index.
+    void Choose(int x, int y) {
+        static int chosenX;
+        static int chosenY;
+        chosenX = x;
+        chosenY = y;
+        const auto choose = [](HWND, UINT, UINT_PTR timer, DWORD) {
+            const HWND dialog = ::FindWindow(nullptr, _T("Choose Series"));
+            if (!dialog)
+                return;
+            ::KillTimer(nullptr, timer);
+            ::SendDlgItemMessage(dialog, IDC_CHART_X, CB_SETCURSEL, static_cast<WPARAM>(chosenX), 0);
+            ::SendDlgItemMessage(dialog, IDC_CHART_Y, CB_SETCURSEL, static_cast<WPARAM>(chosenY), 0);
+            ::SendMessage(dialog, WM_COMMAND, IDOK, 0);
+        };
+        ::SetTimer(nullptr, 0, 1, choose);
+        Command(ID_CHART_SERIES);
+    }
     std::string Walk() {
         return m_folder.Write("walk.csv", "time,a,b,c\n0,1,10,3\n60,2,40,3\n120,,20,3\n180,4,30,3\n");
     }
 };
 
+TEST_F(ChartPage, TwoLoggersStandWholeOverTimeEachWithItsOwnSamples) {
+    Open("chart", {m_folder.Write("a.csv", "t,a\n10,1\n11,\n12,3\n"),
+                   m_folder.Write("b.csv", "t,b\n10.300001,5\n12.8,6\n")});
+    EXPECT_EQ(Samples(0), "0:1 - 2:3 ");
+    EXPECT_EQ(Samples(1), "0.300001:5 2.8:6 ");
+    EXPECT_EQ(Chart().GetXAxis().GetKind(), CChartAxis::Time);
+    const auto [from, to] = View();
+    EXPECT_TRUE(from <= 0 && to >= 2.8) << from << " to " << to;
+    EXPECT_EQ(Text(), "1970-01-01 00:00:10  to  1970-01-01 00:00:12");
+}
+
 TEST_F(ChartPage, AClickAndTheArrowKeysTellTheSampleAndHandItOn) {
     Open("chart", {Walk()});
-    EXPECT_EQ(Labels(), "b / a");
-    EXPECT_EQ(Text(), "3 points: b against a");
-    Mouse(WM_MOUSEMOVE, Place(3));
-    EXPECT_EQ(Pointer(), "1970-01-01 00:03:00   a: 4   b: 30");
-    Mouse(WM_MOUSEMOVE, Place(3) + CSize(13, 0));
-    EXPECT_EQ(Pointer(), "");
-    Mouse(WM_LBUTTONDOWN, Place(1) + CSize(-5, 3));
-    EXPECT_EQ(Text(), "1970-01-01 00:01:00   a: 2   b: 40");
-    Press(VK_RIGHT);
-    EXPECT_EQ(Text(), "1970-01-01 00:03:00   a: 4   b: 30") << "over the gap";
-    Press(VK_LEFT);
+    EXPECT_EQ(Text(), "1970-01-01 00:00:00  to  1970-01-01 00:03:00");
+    Mouse(WM_MOUSEMOVE, Place(1, 3));
+    EXPECT_EQ(Pointer(), "1970-01-01 00:03:00   a: 4   b: 30   c: 3");
+    Click(Place(1, 1));
+    EXPECT_EQ(Text(), "1970-01-01 00:01:00   a: 2   b: 40   c: 3");
     Command(ID_PAGE_PIE);
     EXPECT_EQ(Text(), "walk.csv, 1970-01-01 00:01:00 (marked)");
     Command(ID_PAGE_CHART);
-    EXPECT_EQ(Text(), "1970-01-01 00:01:00   a: 2   b: 40") << "and it is still marked here";
+    EXPECT_EQ(Text(), "1970-01-01 00:01:00   a: 2   b: 40   c: 3") << "and it is still marked here";
     Press(VK_ESCAPE);
-    EXPECT_EQ(Text(), "3 points: b against a");
+    EXPECT_EQ(Text(), "1970-01-01 00:00:00  to  1970-01-01 00:03:00");
+    Press(VK_LEFT);
+    EXPECT_EQ(Text(), "1970-01-01 00:03:00   a: 4   b: 30   c: 3") << "the last one in view";
 
     Command(ID_PAGE_GRAPH);
     ControlOf<CMonitorGraph>(IDC_GRAPH).SetSelectionMarkPos(0);
     Command(ID_PAGE_CHART);
-    EXPECT_EQ(Text(), "1970-01-01 00:00:00   a: 1   b: 10") << "what was marked in the graph";
-    Command(ID_CHART_SWAP);
-    EXPECT_EQ(Labels(), "a / b");
-    EXPECT_EQ(Text(), "1970-01-01 00:00:00   b: 10   a: 1");
-    Chart().UpdateWindow();
-    const CPoint first = Place(0);
-    const CPoint last = Place(3);
-    EXPECT_TRUE(first.x < last.x && first.y > last.y) << "10 to 30 to the right, 1 to 4 upwards";
+    EXPECT_EQ(Text(), "1970-01-01 00:00:00   a: 1   b: 10   c: 3") << "what was marked in the graph";
 }
 
-TEST_F(ChartPage, ASingleSeriesIsDrawnAgainstItselfAndManySamplesWithoutLines) {
-    Open("chart", {m_folder.Write("one.csv", "time,a\n0,1\n60,2\n120,5\n")});
-    EXPECT_EQ(Text(), "2 points: a against a, one sample before");
-    EXPECT_EQ(Chart().Picture().style, ChartStyle::Both);
-    Command(ID_CHART_POINTS);
-    EXPECT_EQ(Chart().Picture().style, ChartStyle::Points);
+TEST_F(ChartPage, TheWheelZoomsAndSettingsKeepTheView) {
+    Open("chart", {Walk()});
+    const auto whole = View();
+    Wheel(Place(1, 1), 120);
+    const auto zoomed = View();
+    EXPECT_LT(zoomed.second - zoomed.first, whole.second - whole.first);
+    Command(ID_VIEW_LEGEND);
+    Command(ID_CHART_LINES);
+    EXPECT_EQ(View(), zoomed);
+    Command(ID_VIEW_ZOOM_IN);
+    EXPECT_LT(View().second - View().first, zoomed.second - zoomed.first) << "the key that the menu took";
+    Command(ID_CHART_BACK);
+    EXPECT_EQ(View(), zoomed);
+    Command(ID_VIEW_FULL_RANGE);
+    EXPECT_EQ(View(), whole);
+}
 
+TEST_F(ChartPage, LiveReadingsAreAppendedAndFollowed) {
+    Open("chart", {});
+    for (int i = 0; i < 3; ++i)
+        Tick();
+    EXPECT_EQ(Chart().GetXAxis().GetRangeMode(), CChartAxis::Follow);
+    const int before = Chart().GetDatasetSize(0);
+    EXPECT_EQ(before, static_cast<int>(Chart().Picture().recording->times.size()));
+    const std::string samples = Samples(0);
+    Tick();
+    EXPECT_EQ(Chart().GetDatasetSize(0), before + 1);
+    EXPECT_EQ(Samples(0).substr(0, samples.size()), samples);
+}
+
+TEST_F(ChartPage, OneSeriesIsShownAgainstAnother) {
+    Open("chart", {Walk()});
+    Choose(0, 1);
+    EXPECT_EQ(Text(), "3 points: b against a");
+    EXPECT_EQ(Samples(0), "1:10 2:40 - 4:30 ");
+    Mouse(WM_MOUSEMOVE, Place(0, 3));
+    EXPECT_EQ(Pointer(), "1970-01-01 00:03:00   a: 4   b: 30");
+    Click(Place(0, 1));
+    EXPECT_EQ(Text(), "1970-01-01 00:01:00   a: 2   b: 40");
+    Press(VK_RIGHT);
+    EXPECT_EQ(Text(), "1970-01-01 00:03:00   a: 4   b: 30") << "over the gap";
+    Command(ID_CHART_SWAP);
+    EXPECT_EQ(Text(), "1970-01-01 00:03:00   b: 30   a: 4");
+    Choose(3, 0);
+    EXPECT_EQ(Samples(0), "- 1:2 - - ") << "each against the one before";
+    Choose(4, 0);
+    EXPECT_EQ(Chart().GetDatasetCount(), 3) << "all over time again";
+}
+
+TEST_F(ChartPage, ManyPointsAreDrawnWithoutLines) {
     std::string many = "time,a,b\n";
     for (int i = 0; i < 600; ++i)
         many += std::to_string(i) + "," + std::to_string(i % 7) + "," + std::to_string(i % 5) + "\n";
     Open("chart", {m_folder.Write("many.csv", many)});
-    EXPECT_EQ(Chart().Picture().style, ChartStyle::Points);
+    EXPECT_EQ(Chart().Style(), ChartStyle::Lines);
+    Choose(0, 1);
+    EXPECT_EQ(Chart().Style(), ChartStyle::Points);
     Command(ID_CHART_BOTH);
-    EXPECT_EQ(Chart().Picture().style, ChartStyle::Both);
+    EXPECT_EQ(Chart().Style(), ChartStyle::Both);
 }
 
 TEST_F(ChartPage, SeriesAreChosenInTheDialog) {

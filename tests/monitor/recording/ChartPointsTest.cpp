@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
-// The points of one series against another, in single and in joined files.
+// The points of series over time and of one against another, in single and in joined files.
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <random>
 
 #include "monitor/recording/ChartPoints.h"
+#include "monitor/recording/RecordingLoader.h"
+#include "tests/support/TempFolder.h"
 
 namespace kavlix::recording {
 namespace {
@@ -35,8 +39,7 @@ TEST(ChartPoints, OfOneFileMakesARowAPointAndAMissingValueAGap) {
         ChartChoice choice;
         const char* points;
     } cases[] = {{{ChartX::Series, 0, 1}, "0:1,10 1:- 2:- 3:4,40 4:5,50 "},
-                 {{ChartX::Predecessor, 0, 0}, "0:- 1:1,2 2:- 3:- 4:4,5 "},
-                 {{ChartX::Time, 0, 1}, "0:0,10 1:- 2:2,30 3:3,40 4:4,50 "}};
+                 {{ChartX::Predecessor, 0, 0}, "0:- 1:1,2 2:- 3:- 4:4,5 "}};
     for (const auto& given : cases)
         EXPECT_EQ(TextOf(ChartPointsOf(recording, given.choice)), given.points);
 }
@@ -58,12 +61,48 @@ TEST(ChartPoints, OfJoinedFilesTakesTheNearestValueWithinTheFilesInterval) {
     EXPECT_EQ(TextOf(ChartPointsOf(recording, {ChartX::Series, 0, 1})), "0:1,40 2:2,50 4:- 5:- 5:9,90 7:- ");
 }
 
-TEST(ChartPoints, ChoosesWhatThereIsAndUnitsOfPeoplesSize) {
-    EXPECT_EQ(DefaultChartChoice({2, 5, 6}), (ChartChoice{ChartX::Series, 2, 5}));
-    EXPECT_EQ(DefaultChartChoice({3}), (ChartChoice{ChartX::Predecessor, 0, 3}));
-    EXPECT_EQ(DefaultChartChoice({}), (ChartChoice{ChartX::Predecessor, 0, 0}));
-    EXPECT_STREQ(TimeUnitOf(2 * kMinute).name, "minutes");
-    EXPECT_STREQ(TimeUnitOf(120 * kMinute).name, "hours");
+TEST(ChartPoints, OverTimeASeriesHasTheRowsOfItsFile) {
+    const testkit::TempFolder folder;
+    const Recording recording =
+        RecordingLoader::Load({folder.Write("slow.csv", "t,a,b\n10,1,2\n20,,\n30,,6\n"),
+                               folder.Write("fast.csv", "t,c\n20.3,7\n20.800001,8\n30,9\n")});
+    const auto text = [](const Recording& of, std::size_t series, std::size_t firstRow) {
+        const TimedSamples samples = SamplesOverTime(of, series, 10 * kMicrosPerSecond, firstRow);
+        std::vector<ChartPoint> points;
+        for (std::size_t i = 0; i < samples.x.size(); ++i)
+            points.push_back({i, samples.x[i], samples.y[i]});
+        return TextOf(points);
+    };
+    EXPECT_EQ(text(recording, 0, 0), "0:0,1 1:- 2:- ") << "a row without values is a gap";
+    EXPECT_EQ(text(recording, 1, 0), "0:0,2 1:- 2:20,6 ");
+    EXPECT_EQ(text(recording, 2, 0), "0:10.3,7 1:10.8,8 2:20,9 ") << "rows of the other file are not";
+    EXPECT_EQ(text(WithoutHead(recording, 2), 2, 1), "0:10.8,8 1:20,9 ");
+    EXPECT_EQ(text(WithoutHead(recording, 2), 1, 0), "0:20,6 ");
+}
+
+TEST(ChartPoints, RowsAreFoundByTimeAsAPlainWalkFindsThem) {
+    std::mt19937 random(3);
+    for (int round = 0; round < 300; ++round) {
+        std::vector<Time> times(1 + random() % 12);
+        for (Time& time : times)
+            time = static_cast<Time>(random() % 20) * kMicrosPerSecond - 10 * kMicrosPerSecond;
+        std::sort(times.begin(), times.end());
+        const Time origin = static_cast<Time>(random() % 5) * kMicrosPerSecond;
+        const double from = static_cast<double>(random() % 60) / 2 - 20;
+        const double to = from + static_cast<double>(random() % 20) / 2;
+        std::size_t nearest = 0;
+        std::vector<std::size_t> inside;
+        for (std::size_t row = 0; row < times.size(); ++row) {
+            const auto away = [&](std::size_t of) { return std::abs(SecondsFrom(origin, times[of]) - from); };
+            nearest = away(row) < away(nearest) ? row : nearest;
+            if (SecondsFrom(origin, times[row]) >= from && SecondsFrom(origin, times[row]) <= to)
+                inside.push_back(row);
+        }
+        ASSERT_EQ(RowNear(times, origin, from), nearest);
+        const VisibleRange found = RowsBetween(times, origin, from, to);
+        ASSERT_EQ(found.first, inside.empty() ? nearest : inside.front());
+        ASSERT_EQ(found.last, inside.empty() ? nearest : inside.back());
+    }
 }
 
 } // namespace

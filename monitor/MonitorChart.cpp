@@ -21,6 +21,21 @@ constexpr int kFontSize = 90; // size of the texts, in tenths of a point
 constexpr int kPointer = 0;   // the cursor that follows the pointer
 constexpr int kMark = 1;      // the cursor at the mark
 
+/// While one exists, the user cannot zoom the scale of values: over time, the wheel and the keys + and - zoom time.
+class TimeZoom {
+public:
+    explicit TimeZoom(CMonitorChart& chart) : m_chart(chart) {
+        if (chart.IsOverTime())
+            chart.SetViewFlags(CChartDraw::ViewAll & ~static_cast<UINT>(CChartDraw::ViewZoomY));
+    }
+    ~TimeZoom() { m_chart.SetViewFlags(CChartDraw::ViewAll); }
+    TimeZoom(const TimeZoom&) = delete;
+    TimeZoom& operator=(const TimeZoom&) = delete;
+
+private:
+    CMonitorChart& m_chart;
+};
+
 bool IsPoint(const ChartPoint& point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
 }
@@ -33,6 +48,7 @@ BEGIN_MESSAGE_MAP(CMonitorChart, CChartDraw)
 
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
+    ON_WM_MOUSEWHEEL()
 
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
@@ -123,6 +139,15 @@ void CMonitorChart::OnLButtonUp(UINT nFlags, CPoint point) {
     NotifyParent(*this, MCN_SELECTION);
 }
 
+BOOL CMonitorChart::OnMouseWheel(UINT nFlags, short zDelta, CPoint point) {
+    CPoint inClient = point;
+    ScreenToClient(&inClient);
+    if ((nFlags & MK_CONTROL) != 0 || !m_rectPlot.PtInRect(inClient))
+        return CChartDraw::OnMouseWheel(nFlags, zDelta, point);
+    const TimeZoom onlyTime(*this);
+    return CChartDraw::OnMouseWheel(nFlags, zDelta, point);
+}
+
 void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     const bool isPlain = ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0;
     if (isPlain && (nChar == VK_RIGHT || nChar == VK_LEFT)) {
@@ -130,6 +155,9 @@ void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     } else if (nChar == VK_ESCAPE && Marked()) {
         Mark({});
         NotifyParent(*this, MCN_SELECTION);
+    } else if (isPlain) {
+        const TimeZoom onlyTime(*this);
+        CChartDraw::OnKeyDown(nChar, nRepCnt, nFlags);
     } else {
         CChartDraw::OnKeyDown(nChar, nRepCnt, nFlags);
     }

@@ -195,7 +195,7 @@ void CMonitorChart::Grow(std::shared_ptr<const Recording> recording, std::size_t
 
 recording::VisibleRange CMonitorChart::Visible() {
     const std::vector<recording::Time>& times = m_picture.recording->times;
-    if (!IsOverTime())
+    if (!IsOverTime() || GetXAxis().GetRangeMode() == CChartAxis::WholeData)
         return {0, times.size() - 1};
     double from = 0;
     double to = 0;

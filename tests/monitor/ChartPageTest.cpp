@@ -50,7 +50,7 @@ protected:
         for (int i = 0; Chart().GetData(dataset, i, x, y); ++i) {
             char part[64] = "";
             std::snprintf(part, sizeof part, "%.10g:%g ", x, y);
-            text += std::isnan(y) ? "- " : part;
+            text += std::isnan(x) || std::isnan(y) ? "- " : part;
         }
         return text;
     }

@@ -149,16 +149,16 @@ BOOL CMonitorChart::OnMouseWheel(UINT nFlags, short zDelta, CPoint point) {
 }
 
 void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
-    const bool isPlain = ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_SHIFT) >= 0;
-    if (isPlain && (nChar == VK_RIGHT || nChar == VK_LEFT)) {
+    const bool isControl = ::GetKeyState(VK_CONTROL) < 0;
+    if (!isControl && (nChar == VK_RIGHT || nChar == VK_LEFT)) {
         Step(nChar == VK_RIGHT ? 1 : -1);
     } else if (nChar == VK_ESCAPE && Marked()) {
         Mark({});
         NotifyParent(*this, MCN_SELECTION);
-    } else if (isPlain) {
-        const TimeZoom onlyTime(*this);
+    } else if (isControl) {
         CChartDraw::OnKeyDown(nChar, nRepCnt, nFlags);
     } else {
+        const TimeZoom onlyTime(*this);
         CChartDraw::OnKeyDown(nChar, nRepCnt, nFlags);
     }
 }

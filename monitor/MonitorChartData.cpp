@@ -16,9 +16,9 @@ using recording::ChartPoint, recording::ChartX, recording::Recording;
 
 namespace {
 
-/// Neighbouring samples farther apart than this number of median steps are not joined: more than the jitter of a
-/// clock, and less than a hole that a person looks for.
-constexpr double kGapFactor = 3;
+/// Neighbouring samples farther apart than this number of median steps are not joined. A smaller factor would tear
+/// the line of samples that come at irregular times.
+constexpr double kGapFactor = 5;
 
 constexpr double kLiveSeconds = 60;           // of live readings in view at first
 constexpr std::size_t kPointsWithLines = 500; // with more points, the lines between them hide the picture

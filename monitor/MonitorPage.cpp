@@ -66,10 +66,14 @@ std::vector<std::string> CMonitorPage::TextsOfSample(recording::Time time, const
 }
 
 std::string CMonitorPage::RangeText(const recording::Recording& recording, recording::VisibleRange range) {
-    constexpr auto precision = recording::TimePrecision::Seconds;
-    return recording::FormatDateTime(recording.times[range.first], precision) + "  to  " +
-           recording::FormatDateTime(recording.times[range.last], precision) +
-           (recording.Zoned() ? "  UTC" : "");
+    constexpr recording::Time shortSpan = 10 * recording::kMicrosPerSecond;
+    const recording::Time first = recording.times[range.first];
+    const recording::Time last = recording.times[range.last];
+    const auto text = [&](recording::Time time) {
+        return last - first < shortSpan ? recording::FormatExact(time)
+                                        : recording::FormatDateTime(time, recording::TimePrecision::Seconds);
+    };
+    return text(first) + "  to  " + text(last) + (recording.Zoned() ? "  UTC" : "");
 }
 
 void CMonitorPage::OnSize(UINT nType, int cx, int cy) {

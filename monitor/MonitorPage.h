@@ -137,7 +137,7 @@ protected:
                                            const std::vector<recording::Time>& times,
                                            recording::ValueDigits digits) const;
 
-    /// First and last time of a part of the recording as text.
+    /// First and last time of a part of the recording as text, with fractions of seconds in less than 10 seconds.
     static std::string RangeText(const recording::Recording& recording, recording::VisibleRange range);
 
     afx_msg void OnSize(UINT nType, int cx, int cy);

@@ -92,7 +92,7 @@ TEST_F(ChartPage, TwoLoggersStandWholeOverTimeEachWithItsOwnSamples) {
     EXPECT_EQ(Chart().GetXAxis().GetKind(), CChartAxis::Time);
     const auto [from, to] = View();
     EXPECT_TRUE(from <= 0 && to >= 2.8) << from << " to " << to;
-    EXPECT_EQ(Text(), "1970-01-01 00:00:10  to  1970-01-01 00:00:12");
+    EXPECT_EQ(Text(), "1970-01-01 00:00:10  to  1970-01-01 00:00:12.800");
 }
 
 TEST_F(ChartPage, AClickAndTheArrowKeysTellTheSampleAndHandItOn) {

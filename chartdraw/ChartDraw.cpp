@@ -8,6 +8,7 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
+#include "chartdraw/ChartInputState.h"
 #include "chartdraw/ChartPost.h"
 #include "gdi/Mirroring.h"
 #include "gdi/Offscreen.h"
@@ -62,6 +63,7 @@ BOOL CChartDraw::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT 
 void CChartDraw::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
     StopMirroring(*this);
+    m_State->input->BeginWindow();
     m_State->OpenPosting();
 }
 

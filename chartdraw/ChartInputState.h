@@ -25,6 +25,13 @@ struct ChartInputState {
     bool isFollowTimed = false;
 
     ViewRanges Ranges() const;
+    /// Ends what belonged to a window that is gone. A window that is destroyed during a drag gets no message about
+    /// its capture.
+    void BeginWindow() {
+        pointer.Cancel();
+        view.End();
+        isTracked = isFollowTimed = false;
+    }
     /// The axes that the user can zoom and pan.
     AxisSet ZoomAxes() const { return Axes(CChartDraw::ViewZoomX, CChartDraw::ViewZoomY); }
     AxisSet PanAxes() const { return Axes(CChartDraw::ViewPanX, CChartDraw::ViewPanY); }

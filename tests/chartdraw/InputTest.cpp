@@ -445,6 +445,9 @@ TEST_F(ChartInputTest, NoInputSpoilsTheView) {
             if (below(10) == 0)
                 chart.GetYAxis().SetRangeMode(below(2) == 0 ? CChartAxis::VisibleData
                                                             : CChartAxis::WholeData);
+            if (below(10) == 0)
+                chart.GetYAxis().SetKind(below(2) == 0 ? CChartAxis::Logarithmic : CChartAxis::Linear);
+            chart.GetXAxis().SetInverted(below(2));
             chart.GetXAxis().SetRange(newest - below(1000), newest + below(1000) - 500);
             break;
         default:
@@ -478,7 +481,7 @@ TEST_F(ChartInputTest, TheParentMayDestroyTheChart) {
         };
         const CRect plot = chart.m_rectPlot;
         input();
-        EXPECT_EQ(chart.m_hWnd, nullptr);
+        ASSERT_EQ(chart.m_hWnd, nullptr) << "input " << &input - inputs;
         parent.onNoted = nullptr;
         ASSERT_TRUE(chart.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &parent, 5));
         chart.FitView();

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartInputState.h"
@@ -167,11 +168,14 @@ void ChartDrawState::DrawZoomBox(CDC& dc) {
     if (!input->pointer.IsDragging(DragPurpose::Box))
         return;
     const DragBox box = BoxOf(*this);
-    CBrush brush;
-    if (box.axes == 0 || !brush.CreateSolidBrush(chart.m_AxisColor))
-        return;
-    const CRect area = ToCRect(box.area);
-    dc.FrameRect(&area, &brush);
+    CRect area = ToCRect(box.area);
+    // The inner frame keeps the outer one visible on lines of its colour.
+    for (const COLORREF color : {chart.m_AxisColor, chart.m_BkColor}) {
+        CBrush brush;
+        if (box.axes != 0 && brush.CreateSolidBrush(color))
+            dc.FrameRect(&area, &brush);
+        area.DeflateRect(1, 1);
+    }
 }
 
 void CChartDraw::OnLButtonDown(UINT nFlags, CPoint point) {
@@ -246,6 +250,7 @@ void CChartDraw::OnRButtonDown(UINT, CPoint point) {
     if (input.pointer.IsPressed())
         return;
     const bool isBox = input.ZoomAxes() != 0 && m_rectPlot.PtInRect(point);
+    input.isRightDown = isBox;
     if (isBox && !Press(*m_State, MouseButton::Right, point, DragPurpose::Box))
         return;
     if (input.Has(ViewKeys))
@@ -256,10 +261,10 @@ void CChartDraw::OnRButtonDown(UINT, CPoint point) {
 
 void CChartDraw::OnRButtonUp(UINT, CPoint point) {
     const HWND window = m_hWnd;
-    const PointerGesture& pointer = m_State->input->pointer;
-    const bool isBox = pointer.IsPressed(MouseButton::Right);
-    if (pointer.IsPressed() && !isBox)
-        return; // the left button drags
+    ChartInputState& input = *m_State->input;
+    if (input.pointer.IsPressed(MouseButton::Left))
+        return;
+    const bool isBox = std::exchange(input.isRightDown, false);
     const bool isClick = Release(*m_State, MouseButton::Right, point) == PointerGesture::Step::Click;
     if ((isClick || !isBox) && IsAlive(window, this))
         Default(); // sends WM_CONTEXTMENU
@@ -309,8 +314,14 @@ LRESULT CChartDraw::OnMouseHWheel(WPARAM wParam, LPARAM) {
 
 BOOL CChartDraw::OnSetCursor(CWnd*, UINT, UINT) {
     const PointerGesture& pointer = m_State->input->pointer;
-    if (!pointer.IsDragging(DragPurpose::Pan) && !pointer.IsDragging(DragPurpose::Box))
+    CPoint point;
+    ::GetCursorPos(&point);
+    ScreenToClient(&point);
+    if (pointer.IsDragging(DragPurpose::Pan) || pointer.IsDragging(DragPurpose::Box))
+        ShowDragCursor(pointer.Purpose());
+    else if (m_State->references.HitTest(point) >= 0)
+        ::SetCursor(::LoadCursor(nullptr, IDC_HAND));
+    else
         return static_cast<BOOL>(Default());
-    ShowDragCursor(pointer.Purpose());
     return TRUE;
 }

@@ -17,11 +17,12 @@ using ViewRanges = std::array<ViewRange, ChartDrawState::kAxes>;
 
 struct ChartInputState {
     UINT flags = CChartDraw::ViewFixed;
-    ViewRanges shown;       ///< what CChartAxis::GetRange tells: the ranges of the last layout or change
-    ChartView view;         ///< see RefreshView
-    PointerGesture pointer; ///< the press of a mouse button
-    bool isTracked = false; ///< whether WM_MOUSELEAVE will come
-    ViewRange followedFrom; ///< X before the data that the parent does not know of yet
+    ViewRanges shown;         ///< what CChartAxis::GetRange tells: the ranges of the last layout or change
+    ChartView view;           ///< see RefreshView
+    PointerGesture pointer;   ///< the press of a mouse button
+    bool isRightDown = false; ///< a press of the right button began a box, even if the box has ended
+    bool isTracked = false;   ///< whether WM_MOUSELEAVE will come
+    ViewRange followedFrom;   ///< X before the data that the parent does not know of yet
     bool isFollowTimed = false;
 
     ViewRanges Ranges() const;
@@ -30,7 +31,7 @@ struct ChartInputState {
     void BeginWindow() {
         pointer.Cancel();
         view.End();
-        isTracked = isFollowTimed = false;
+        isRightDown = isTracked = isFollowTimed = false;
     }
     /// The axes that the user can zoom and pan.
     AxisSet ZoomAxes() const { return Axes(CChartDraw::ViewZoomX, CChartDraw::ViewZoomY); }

@@ -220,6 +220,13 @@ TEST_F(ChartInputTest, DraggingPansAndBoxesZoom) {
     }
     chart.FitView();
     Settle();
+    // Neither a box that Escape has ended nor its release does anything more.
+    Mouse(WM_RBUTTONDOWN, from);
+    Mouse(WM_MOUSEMOVE, to);
+    Key(VK_ESCAPE);
+    Mouse(WM_RBUTTONUP, to);
+    ExpectView(whole, "a box and Escape");
+    EXPECT_TRUE(parent.Entries().empty());
 
     const CPoint corner(from.x + 50, from.y + 40);
     const View boxed = {XAt(from.x), XAt(corner.x), YAt(corner.y), YAt(from.y)};

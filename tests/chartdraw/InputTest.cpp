@@ -379,6 +379,11 @@ TEST_F(ChartInputTest, TheViewFollowsTheNewestDataInSight) {
     EXPECT_NEAR(Now()[1], 209, 1e-9);
     append(200, 1);
     EXPECT_NEAR(Now()[1], 210, 1e-9);
+    Key('F');
+    EXPECT_EQ(Now()[0], 0);
+    Wheel(120, CPoint(chart.m_rectPlot.right - 1, 50)); // zooms in at the newest data, and follows again
+    append(300, 1);
+    EXPECT_NEAR(Now()[0] + 0.9 * (Now()[1] - Now()[0]), 300, 1e-9);
     EXPECT_EQ(x.GetRangeMode(), CChartAxis::Follow);
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "chartdraw/ChartAxisState.h"
@@ -138,6 +139,23 @@ AxisMap ChartDrawState::YMap(const CChartDraw::Dataset& dataset) const {
 const AxisLayout& ChartDrawState::Layout(int axis) const {
     const CChartAxis& asked = axis == kX ? xAxis : axis == kY ? yAxis : y2Axis;
     return asked.m_State->layout;
+}
+
+std::int64_t ChartDrawState::CountNotShown(int axis) const {
+    std::int64_t count = 0;
+    for (const auto& dataset : chart.m_Datasets) {
+        const ChartSeries& points = dataset->points;
+        if (!dataset->visible || points.Size() == 0 || (axis != kX && dataset->usesY2 != (axis == kY2)))
+            continue;
+        if (axis != kX)
+            count += points.YBounds().min > 0 ? 0 : points.CountNotPositive({0, points.Size() - 1});
+        else if (points.IsSorted())
+            count += points.IndicesBetween(-std::numeric_limits<double>::infinity(), 0).Count();
+        else
+            for (int i = 0; i < points.Size(); ++i)
+                count += points[i].x <= 0 ? 1 : 0;
+    }
+    return count;
 }
 
 CString ChartDrawState::Caption(int axis) const {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <utility>
 
 #include "chartdraw/AxisTicks.h"
@@ -12,6 +13,7 @@
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartText.h"
 #include "gdi/Guards.h"
+#include "gdi/StringIds.h"
 #include "plot/NumberFormat.h"
 #include "plot/RoundScale.h"
 
@@ -60,6 +62,15 @@ ValueBounds RoundDecades(const ValueBounds& values) {
     const double min = round(values.min, false);
     const double max = round(values.max, true);
     return min < max ? ValueBounds{min, max} : ValueBounds{min / 10, max * 10};
+}
+
+/// What tells that `count` values are not shown; empty for 0. The text is a resource that hosts can replace.
+CString NotShownText(std::int64_t count) {
+    CString text;
+    if (count > 0)
+        text.LoadString(count == 1 ? IDS_CHART_NOT_SHOWN_ONE : IDS_CHART_NOT_SHOWN);
+    text.Replace(_T("%1"), CString(std::to_string(count).c_str()));
+    return text;
 }
 
 } // namespace
@@ -212,6 +223,7 @@ void CChartDraw::FindTicks(CDC& dc, int axis, int length) {
         if (!range.isExact && !fixed.fixed)
             shown = RoundDecades(shown);
         state.layout = FindLogTicks(state, room, shown.min, shown.max);
+        state.layout.note = NotShownText(m_State->CountNotShown(axis));
         return;
     }
     if (shown.IsEmpty())

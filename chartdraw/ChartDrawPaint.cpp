@@ -92,14 +92,6 @@ void CChartDraw::DrawChart(CDC& dc) {
     DrawXScale(dc);
 }
 
-LinearMap CChartDraw::XMap() const {
-    return m_State->Map(ChartDrawState::kX).Linear();
-}
-
-LinearMap CChartDraw::YMap() const {
-    return m_State->Map(ChartDrawState::kY).Linear();
-}
-
 void CChartDraw::PaintBkGnd(CDC& dc) {
     CBrush brush;
     if (brush.CreateSolidBrush(m_BkColor))

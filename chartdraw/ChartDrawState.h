@@ -4,6 +4,7 @@
 
 #include <kavlix/ChartDraw.h>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -52,8 +53,10 @@ struct ChartDrawState {
     AxisMap
     XMap(const CChartDraw::Dataset& dataset) const; ///< x of a dataset, which count from its own origin
     AxisMap YMap(const CChartDraw::Dataset& dataset) const; ///< y of a dataset on the axis that it uses
-    CString Caption(int axis) const;                        ///< title of an axis with its unit
-    bool HasSecondYAxis() const;                            ///< whether it is shown
+    /// Number of values of the visible datasets that a logarithmic axis cannot show: those of 0 and below.
+    std::int64_t CountNotShown(int axis) const;
+    CString Caption(int axis) const; ///< title of an axis with its unit
+    bool HasSecondYAxis() const;     ///< whether it is shown
     /// Value of the X axis for an x of a dataset.
     double ToAxis(const CChartDraw::Dataset& dataset, double x) const;
     /// x of a dataset for a value of the X axis.
@@ -108,7 +111,8 @@ struct ChartDrawState {
         double max = 1;
     };
     WantedRange RangeOf(int axis) const;
-    /// Bounds of the finite points of the visible datasets on an axis, as values of the axis: all, or for a Y axis those
+    /// Bounds of the finite points of the visible datasets on an axis, as values of the axis, on a logarithmic axis of
+    /// those above 0: all, or for a Y axis those
     /// between two values of the X axis.
     ValueBounds DataBounds(int axis) const;
     ValueBounds DataBounds(int axis, double xMin, double xMax) const;

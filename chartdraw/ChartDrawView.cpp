@@ -89,11 +89,14 @@ ChartDrawState::WantedRange ChartDrawState::RangeOf(int axis) const {
 }
 
 ValueBounds ChartDrawState::DataBounds(int axis) const {
+    const bool isLogarithmic = IsLogarithmic(*this, axis);
     ValueBounds bounds;
     for (const auto& dataset : chart.m_Datasets) {
         if (!dataset->visible || (axis != kX && dataset->usesY2 != (axis == kY2)))
             continue;
-        ValueBounds own = axis == kX ? dataset->points.XBounds() : dataset->points.YBounds();
+        const ChartSeries& points = dataset->points;
+        ValueBounds own = isLogarithmic ? (axis == kX ? points.PositiveXBounds() : points.PositiveYBounds())
+                                        : (axis == kX ? points.XBounds() : points.YBounds());
         if (axis == kX && !own.IsEmpty())
             own = {ToAxis(*dataset, own.min), ToAxis(*dataset, own.max)};
         bounds.Add(own);

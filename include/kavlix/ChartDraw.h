@@ -21,7 +21,6 @@ namespace kavlix {
 struct ChartDrawState;
 class ChartSeries;
 class LabelRow;
-class LinearMap;
 class Offscreen;
 } // namespace kavlix
 
@@ -403,8 +402,6 @@ private:
     void Calculate();
     void LayOut(CDC& dc);
     void FindTicks(CDC& dc, int axis, int length);
-    kavlix::LinearMap XMap() const;
-    kavlix::LinearMap YMap() const;
     /// Number of the axes that are shown; the second Y axis is the last one.
     int AxisCount() const;
     /// Pixels from the plot to the outer edge of an axis' labels; 0 when scales are not shown.

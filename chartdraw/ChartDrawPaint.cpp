@@ -298,7 +298,12 @@ void CChartDraw::DrawNote(CDC& dc, int axis) const {
     room.DeflateRect(gap, gap);
     const bool isLeft = axis == ChartDrawState::kY;
     dc.SetTextAlign((isLeft ? TA_LEFT : TA_RIGHT) | TA_TOP);
-    // Beside the Y axes at the top, beside the X axis at the bottom.
-    const int top = axis == ChartDrawState::kX ? room.bottom - m_TextHeight : room.top;
-    DrawTextAt(dc, isLeft ? room.left : room.right, top, Shortened(dc, layout.note, room.Width() / 2));
+    // Beside the Y axes at the top, one below the other, beside the X axis at the bottom. Lines do not cross the text.
+    const int top = isLeft                        ? room.top
+                    : axis == ChartDrawState::kY2 ? room.top + m_TextHeight
+                                                  : room.bottom - m_TextHeight;
+    dc.SetBkMode(OPAQUE);
+    dc.SetBkColor(m_BkColor);
+    DrawTextAt(dc, isLeft ? room.left : room.right, top, Shortened(dc, layout.note, room.Width()));
+    dc.SetBkMode(TRANSPARENT);
 }

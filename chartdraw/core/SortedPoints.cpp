@@ -22,12 +22,12 @@ int WholeBlocks(int count) {
 std::size_t SortedPoints::IndexOfChunk(std::int64_t number) const {
     const std::int64_t guess = GuessChunk(number);
     if (guess >= 0) {
-        const SortedChunk& chunk = *m_chunks[static_cast<std::size_t>(guess)];
+        const SortedChunk& chunk = m_chunks[static_cast<std::size_t>(guess)];
         if (number >= chunk.First() && number < chunk.End())
             return static_cast<std::size_t>(guess);
     }
     const auto found = std::partition_point(m_chunks.begin(), m_chunks.end(),
-                                            [=](const auto& chunk) { return chunk->End() <= number; });
+                                            [=](const auto& chunk) { return chunk.End() <= number; });
     return static_cast<std::size_t>(found - m_chunks.begin());
 }
 
@@ -42,39 +42,39 @@ void SortedPoints::AddChunk(const SortedChunk::Formula* rule) {
         return isLarge && spare ? std::move(spare) : allocate(capacity);
     };
     SortedChunk::Memory values = take(m_spareValues, &SortedChunk::NewValues);
-    auto chunk = rule != nullptr ? std::make_unique<SortedChunk>(m_end, capacity, std::move(values), *rule)
-                                 : std::make_unique<SortedChunk>(m_end, capacity, std::move(values),
-                                                                 take(m_spareXs, &SortedChunk::NewXs));
-    m_chunks.push_back(std::move(chunk));
+    if (rule != nullptr)
+        m_chunks.emplace_back(m_end, capacity, std::move(values), *rule);
+    else
+        m_chunks.emplace_back(m_end, capacity, std::move(values), take(m_spareXs, &SortedChunk::NewXs));
     if (m_tail != nullptr) {
-        const SortedChunk* before = m_chunks.size() > 2 ? m_chunks[m_chunks.size() - 3].get() : nullptr;
-        SortedChunk::Memory freed = m_tail->Close(before);
-        if (freed && m_tail->Capacity() == kMost && !m_spareXs)
+        const std::size_t closed = m_chunks.size() - 2;
+        SortedChunk::Memory freed = m_chunks[closed].Close(closed > 0 ? &m_chunks[closed - 1] : nullptr);
+        if (freed && m_chunks[closed].Capacity() == kMost && !m_spareXs)
             m_spareXs = std::move(freed);
     }
-    m_tail = m_chunks.back().get();
+    m_tail = &m_chunks.back();
 }
 
 /// A full chunk is split, and a chunk whose x follow a rule gets a small chunk of stored x in its middle.
 void SortedPoints::Insert(int i, double x, double y) {
     constexpr int kBlock = SortedChunk::kBlock;
     const std::size_t at = IndexOfChunk(m_begin + i);
-    const SortedChunk& old = *m_chunks[at];
+    const SortedChunk& old = m_chunks[at];
     const int k = PlaceIn(old, i);
     std::size_t count = 1;     // pieces
     std::size_t receiving = 0; // the piece that gets the point
     if (!old.StoresX() || !old.HasRoom()) {
         const bool isTail = m_tail == &old;
         const int size = old.Size();
-        std::vector<std::unique_ptr<SortedChunk>> pieces;
+        std::vector<SortedChunk> pieces;
+        pieces.reserve(3);
         const auto add = [&](int from, int to, bool receives) {
             if (from == to)
                 return;
             if (receives)
                 receiving = pieces.size();
             const int room = old.StoresX() || receives ? kLateRoom : 0;
-            pieces.push_back(std::make_unique<SortedChunk>(old, from, to, WholeBlocks(to - from) + room,
-                                                           old.StoresX() || receives));
+            pieces.emplace_back(old, from, to, WholeBlocks(to - from) + room, old.StoresX() || receives);
         };
         if (!old.StoresX()) {
             const int from = k / kBlock * kBlock;
@@ -88,38 +88,44 @@ void SortedPoints::Insert(int i, double x, double y) {
             add(half, size, k >= half);
         }
         count = pieces.size();
-        m_chunks.reserve(m_chunks.size() + count - 1);
+        if (m_chunks.capacity() < m_chunks.size() + count)
+            m_chunks.reserve(m_chunks.size() * 2 + count);
         for (std::size_t piece = 0; piece < count; ++piece)
             if (!isTail || piece + 1 < count)
-                static_cast<void>(pieces[piece]->Close(nullptr));
+                static_cast<void>(pieces[piece].Close(nullptr));
         m_chunks[at] = std::move(pieces[0]);
         m_chunks.insert(m_chunks.begin() + static_cast<std::ptrdiff_t>(at) + 1,
                         std::make_move_iterator(pieces.begin() + 1), std::make_move_iterator(pieces.end()));
-        m_tail = m_chunks.back().get();
+        m_tail = &m_chunks.back();
     }
-    SortedChunk& chunk = *m_chunks[at + receiving];
+    SortedChunk& chunk = m_chunks[at + receiving];
     chunk.Insert(static_cast<int>(m_begin + i - chunk.First()), x, y);
     for (std::size_t later = at + receiving + 1; later < m_chunks.size(); ++later)
-        m_chunks[later]->MoveFirst(1);
+        m_chunks[later].MoveFirst(1);
     ++m_end;
 }
 
 void SortedPoints::RemoveHead(int count) {
     m_begin += count;
-    std::size_t gone = 0;
-    while (gone < m_chunks.size() && m_chunks[gone]->End() <= m_begin)
-        ++gone;
-    if (gone == 0)
-        return;
-    SortedChunk& last = *m_chunks[gone - 1];
-    if (last.Capacity() == SortedChunk::kMost) {
-        m_spareValues = last.TakeValues();
-        if (last.StoresX())
-            m_spareXs = last.TakeXs();
+    for (; m_gone < m_chunks.size() && m_chunks[m_gone].End() <= m_begin; ++m_gone) {
+        SortedChunk& chunk = m_chunks[m_gone];
+        SortedChunk::Memory values = chunk.TakeValues();
+        SortedChunk::Memory xs = chunk.TakeXs();
+        if (chunk.Capacity() == SortedChunk::kMost) {
+            m_spareValues = std::move(values);
+            if (xs)
+                m_spareXs = std::move(xs);
+        }
     }
-    m_chunks.erase(m_chunks.begin(), m_chunks.begin() + static_cast<std::ptrdiff_t>(gone));
-    if (m_chunks.empty())
+    if (m_gone == m_chunks.size()) {
+        m_chunks.clear();
+        m_gone = 0;
         m_tail = nullptr;
+    } else if (m_gone * 2 > m_chunks.size()) {
+        m_chunks.erase(m_chunks.begin(), m_chunks.begin() + static_cast<std::ptrdiff_t>(m_gone));
+        m_gone = 0;
+        m_tail = &m_chunks.back();
+    }
 }
 
 } // namespace kavlix

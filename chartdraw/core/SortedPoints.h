@@ -14,8 +14,8 @@
 
 namespace kavlix {
 
-/// Points in chunks (see SortedChunk). Appending moves no stored point; it adds at most one pointer to a table
-/// of pointers to chunks. Removing from the head takes time in proportion to the number of points removed.
+/// Points in chunks (see SortedChunk). Appending moves no stored point; a chunk adds one entry to a table, which
+/// doubles when it is full. Removing from the head takes time in proportion to the number of points removed.
 /// Inserting moves the points of at most one chunk. Where x runs evenly, x takes no memory.
 class SortedPoints {
 public:
@@ -61,24 +61,24 @@ public:
         if (IsEmpty())
             return 0;
         const auto chunk = std::partition_point(m_chunks.begin(), m_chunks.end(), [&](const auto& each) {
-            return each->End() <= m_begin || isBefore(each->LastX());
+            return each.End() <= m_begin || isBefore(each.LastX());
         });
         if (chunk == m_chunks.end())
             return Size();
-        int begin = static_cast<int>(std::max<std::int64_t>(m_begin - (*chunk)->First(), 0));
-        int end = (*chunk)->Size() - 1;
+        int begin = static_cast<int>(std::max<std::int64_t>(m_begin - chunk->First(), 0));
+        int end = chunk->Size() - 1;
         while (begin < end) {
             const int middle = begin + (end - begin) / 2;
-            if (isBefore((*chunk)->X(middle)))
+            if (isBefore(chunk->X(middle)))
                 begin = middle + 1;
             else
                 end = middle;
         }
-        return static_cast<int>((*chunk)->First() + begin - m_begin);
+        return static_cast<int>(chunk->First() + begin - m_begin);
     }
 
     /// The chunk of point `i`, which exists, and the chunk behind another one, null behind the last one.
-    const SortedChunk& ChunkOf(int i) const { return *m_chunks[IndexOfChunk(m_begin + i)]; }
+    const SortedChunk& ChunkOf(int i) const { return m_chunks[IndexOfChunk(m_begin + i)]; }
     /// The place of point `i` in its chunk, and back.
     int PlaceIn(const SortedChunk& chunk, int i) const {
         return static_cast<int>(m_begin + i - chunk.First());
@@ -118,8 +118,8 @@ public:
     void PrefetchSummaries(IndexRange range) const {
         const std::int64_t last = GuessChunk(m_begin + range.last);
         for (std::int64_t i = std::max<std::int64_t>(GuessChunk(m_begin + range.first), 0); i <= last; ++i)
-            PrefetchMemory(m_chunks[static_cast<std::size_t>(i)].get(),
-                           m_chunks[static_cast<std::size_t>(i)].get() + 1);
+            PrefetchMemory(&m_chunks[static_cast<std::size_t>(i)],
+                           &m_chunks[static_cast<std::size_t>(i)] + 1);
     }
     /// Calls `take(before, x)` with the x of the point before and of each point of `range` that begins a chunk. The
     /// range is empty or lies behind point 0.
@@ -127,9 +127,9 @@ public:
         if (range.IsEmpty())
             return;
         for (std::size_t i = IndexOfChunk(m_begin + range.first - 1) + 1; i < m_chunks.size(); ++i) {
-            if (m_chunks[i]->First() > m_begin + range.last)
+            if (m_chunks[i].First() > m_begin + range.last)
                 return;
-            take(m_chunks[i - 1]->LastX(), m_chunks[i]->FirstX());
+            take(m_chunks[i - 1].LastX(), m_chunks[i].FirstX());
         }
     }
 
@@ -144,7 +144,7 @@ public:
         std::int64_t next = m_begin + range.first;
         const std::int64_t end = m_begin + range.last + 1;
         for (std::size_t i = IndexOfChunk(next); next < end; ++i) {
-            const SortedChunk& chunk = *m_chunks[i];
+            const SortedChunk& chunk = m_chunks[i];
             const int from = static_cast<int>(next - chunk.First());
             const int to = static_cast<int>(std::min(end, chunk.End()) - chunk.First());
             if (from != 0 || to != chunk.Size() || !chunk.IsClosed() || !takeChunk(chunk))
@@ -201,7 +201,7 @@ public:
         std::int64_t end = m_begin + range.last + 1;
         const std::int64_t begin = m_begin + range.first;
         for (std::size_t i = IndexOfChunk(end - 1); end > begin; --i) {
-            const SortedChunk& chunk = *m_chunks[i];
+            const SortedChunk& chunk = m_chunks[i];
             const int from = static_cast<int>(std::max(begin, chunk.First()) - chunk.First());
             int to = static_cast<int>(end - chunk.First());
             end = chunk.First() + from;
@@ -252,7 +252,9 @@ private:
         return own.start == rule.start && own.step == rule.step && own.offset + m_tail->Size() == rule.offset;
     }
 
-    std::vector<std::unique_ptr<SortedChunk>> m_chunks;
+    // The chunks' summaries lie one behind another, so that searches and painting touch little memory.
+    std::vector<SortedChunk> m_chunks;
+    std::size_t m_gone = 0;        ///< chunks at the table's head that are removed and hold no points
     SortedChunk* m_tail = nullptr; ///< the last chunk
     std::int64_t m_begin = 0;      ///< number of point 0
     std::int64_t m_end = 0;        ///< number behind the last point

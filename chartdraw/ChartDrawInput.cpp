@@ -312,14 +312,14 @@ LRESULT CChartDraw::OnMouseHWheel(WPARAM wParam, LPARAM) {
     return 0;
 }
 
-BOOL CChartDraw::OnSetCursor(CWnd*, UINT, UINT) {
+BOOL CChartDraw::OnSetCursor(CWnd*, UINT nHitTest, UINT) {
     const PointerGesture& pointer = m_State->input->pointer;
     CPoint point;
     ::GetCursorPos(&point);
     ScreenToClient(&point);
     if (pointer.IsDragging(DragPurpose::Pan) || pointer.IsDragging(DragPurpose::Box))
         ShowDragCursor(pointer.Purpose());
-    else if (m_State->references.HitTest(point) >= 0)
+    else if (nHitTest == HTCLIENT && m_State->references.HitTest(point) >= 0)
         ::SetCursor(::LoadCursor(nullptr, IDC_HAND));
     else
         return static_cast<BOOL>(Default());

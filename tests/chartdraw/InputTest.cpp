@@ -403,6 +403,19 @@ TEST_F(ChartInputTest, YFitsTheDataInView) {
     EXPECT_GE(Now()[2], 1030);
     EXPECT_GE(Now()[3], 1100);
     EXPECT_LE(Now()[3], 1120);
+
+    // On a logarithmic axis the values above 0 make the range.
+    const double mixed[] = {-5, 0.002, 0, 3e5};
+    chart.SetData(0, nullptr, mixed, 4);
+    chart.GetXAxis().SetRangeMode(CChartAxis::WholeData);
+    chart.GetYAxis().SetKind(CChartAxis::Logarithmic);
+    for (const auto mode : {CChartAxis::WholeData, CChartAxis::VisibleData}) {
+        chart.GetYAxis().SetRangeMode(mode);
+        chart.CalcDatas();
+        EXPECT_TRUE(Now()[2] <= 0.002 && Now()[2] >= 0.0005) << Now()[2];
+        EXPECT_TRUE(Now()[3] >= 3e5 && Now()[3] <= 1e6) << Now()[3];
+        chart.GetXAxis().SetRange(-1, 4);
+    }
 }
 
 // Any input mixed with data: the ranges stay usable, and the parent is told each change once.

@@ -15,7 +15,7 @@ using namespace kavlix;
 namespace {
 
 /// The user has moved or hidden a cursor. False when the parent has destroyed the chart or its window.
-bool Tell(ChartDrawState& state, int cursor, const CursorReading& reading) {
+bool TellCursor(ChartDrawState& state, int cursor, const CursorReading& reading) {
     state.chart.Redraw();
     state.ShareCursor(cursor);
     NMCHARTDRAW record = {};
@@ -148,7 +148,7 @@ bool ChartDrawState::MoveCursor(int nCursor, int nSamples, bool tell) {
         ShareCursor(nCursor);
     } else {
         cursor.m_State->resting = cursor.m_State->pointer;
-        if (!Tell(*this, nCursor, reading))
+        if (!TellCursor(*this, nCursor, reading))
             return true;
     }
     PanTo(*this, reading.x, tell);
@@ -170,7 +170,7 @@ void ChartDrawState::HoverCursor(const CPoint* pPoint) {
     const CursorReading reading = isInside ? state.Nearest(*this, *pPoint) : CursorReading();
     if (!state.Set(*this, 0, reading))
         return;
-    Tell(*this, 0, reading);
+    TellCursor(*this, 0, reading);
 }
 
 bool ChartDrawState::StepCursor(int nSamples, int nDatasets) {
@@ -188,7 +188,7 @@ bool ChartDrawState::StepCursor(int nSamples, int nDatasets) {
             continue;
         state.Set(*this, shown, other);
         state.resting = state.pointer;
-        Tell(*this, shown, other);
+        TellCursor(*this, shown, other);
         break;
     }
     return true;

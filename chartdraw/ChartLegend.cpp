@@ -15,10 +15,10 @@ namespace {
 
 // In text heights.
 constexpr double kRowHeight = 1.15;
-constexpr double kSwatch = 1.6;
+constexpr double kLegendSwatch = 1.6;
 constexpr double kSwatchGap = 0.4; // between swatch and text
-constexpr double kPadding = 0.35;
-constexpr double kColumnGap = 0.8;
+constexpr double kLegendPadding = 0.35;
+constexpr double kLegendColumnGap = 0.8;
 constexpr double kSmallestText = 3;
 constexpr double kDistance = 0.5; // between the legend and the plot, or the plot's edges
 
@@ -78,9 +78,9 @@ void ChartLegendState::LayOut(CDC& dc, ChartDrawState& chartState, CSize most, L
         widths.push_back(names.Width(dc, rows.size(), name));
         rows.push_back({i, name});
     }
-    swatchWidth = pixels(kSwatch);
+    swatchWidth = pixels(kLegendSwatch);
     const LegendSizes sizes = {std::max(pixels(kRowHeight), 1), swatchWidth + pixels(kSwatchGap),
-                               pixels(kPadding), pixels(kColumnGap), pixels(kSmallestText)};
+                               pixels(kLegendPadding), pixels(kLegendColumnGap), pixels(kSmallestText)};
     layout = LegendLayout(widths, sizes, most.cx, most.cy, order);
     rect = CRect(0, 0, layout.Width(), layout.Height());
     for (int i = 0; i < layout.Count(); ++i) {

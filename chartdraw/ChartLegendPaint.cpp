@@ -21,7 +21,7 @@ constexpr int kPale = 55;      // percent of the background in the texts of hidd
 constexpr int kHighlight = 82; // percent of the background behind the row under the mouse
 constexpr int kAreaPale = 70;  // percent of the background in a filled area
 constexpr int kWidestSwatchLine = 8;
-constexpr int kMarkerHalf = 3;
+constexpr int kSwatchMarkerHalf = 3;
 
 void DrawPath(CDC& dc, std::initializer_list<CPoint> points) {
     dc.Polyline(points.begin(), static_cast<int>(points.size()));
@@ -82,7 +82,7 @@ void ChartLegendState::DrawSwatch(CDC& dc, const CRect& box, const ChartDrawStat
         DrawPath(dc, {CPoint(left, middle.y), CPoint(right, middle.y)});
     Select(dc, thin);
     if (hasMarker)
-        DrawMarker(dc, dataset.markerType, middle.x, middle.y, kMarkerHalf, 1);
+        DrawMarker(dc, dataset.markerType, middle.x, middle.y, kSwatchMarkerHalf, 1);
 }
 
 void ChartDrawState::DrawLegend(CDC& dc) {

@@ -19,10 +19,10 @@ namespace {
 constexpr int kRingHalf = 4; // pixels from a sample to the edge of the ring around it
 
 // In text heights.
-constexpr double kPadding = 0.4;
-constexpr double kColumnGap = 0.8;
-constexpr double kBlockGap = 1.5;
-constexpr double kSwatch = 0.8; // with the gap behind it
+constexpr double kReadoutPadding = 0.4;
+constexpr double kReadoutColumnGap = 0.8;
+constexpr double kReadoutBlockGap = 1.5;
+constexpr double kReadoutSwatch = 0.8; // with the gap behind it
 constexpr double kLongestName = 12;
 
 void DrawRings(CDC& dc, const ChartDrawState& state, const ChartCursorState& cursors, int cursor) {
@@ -104,7 +104,7 @@ private:
             brush.CreateSolidBrush(color);
             const CPoint corner(place.left, (place.top + place.bottom - size) / 2);
             m_dc.FillRect(CRect(corner + m_corner, CSize(size, size)), &brush);
-            place.left += static_cast<int>(kSwatch * m_textHeight);
+            place.left += static_cast<int>(kReadoutSwatch * m_textHeight);
         }
         DrawCell(Cell(row + headers, column), place, column > 0);
     }
@@ -156,7 +156,7 @@ void ChartDrawState::DrawReadout(CDC& dc) {
 
     const auto pixels = [&](double heights) { return static_cast<int>(heights * TextHeight()); };
     const CRect& plot = Plot();
-    const int room = static_cast<int>(plot.Width()) - 2 * pixels(kPadding);
+    const int room = static_cast<int>(plot.Width()) - 2 * pixels(kReadoutPadding);
     state.texts.SetFont(chart.m_FontPixels, chart.m_FontFace);
     std::size_t text = 0; // index of the next text
     const auto fit = [&](CString& each, int most) {
@@ -169,14 +169,14 @@ void ChartDrawState::DrawReadout(CDC& dc) {
     std::vector<std::vector<int>> cells;
     for (ChartReadout::Row& row : readout.rows) {
         cells.emplace_back();
-        const int swatch = row.color == CLR_NONE ? 0 : pixels(kSwatch);
+        const int swatch = row.color == CLR_NONE ? 0 : pixels(kReadoutSwatch);
         for (std::size_t column = 0; column < row.cells.size(); ++column)
             cells.back().push_back(column == 0
                                        ? swatch + fit(row.cells[0], std::min(pixels(kLongestName), room / 2))
                                        : fit(row.cells[column], room));
     }
-    const ReadoutSizes sizes = {std::max(TextHeight(), 1), pixels(kPadding), pixels(kColumnGap),
-                                pixels(kBlockGap)};
+    const ReadoutSizes sizes = {std::max(TextHeight(), 1), pixels(kReadoutPadding), pixels(kReadoutColumnGap),
+                                pixels(kReadoutBlockGap)};
     const ReadoutLayout layout(titles, cells, readout.hasHeader, sizes, plot.Width(), plot.Height(),
                                plot.Width() / 2);
     if (layout.IsEmpty())

@@ -30,7 +30,7 @@ int AddItem(ChartReferencesState& state, ChartReference item) {
 }
 
 /// Sends CDN_REFERENCE. The chart may be destroyed meanwhile.
-void Tell(ChartDrawState& state, const ChartReference& item, bool isLast) {
+void TellReference(ChartDrawState& state, const ChartReference& item, bool isLast) {
     NMCHARTDRAW record = {};
     record.hdr.code = CDN_REFERENCE;
     record.nFlags = isLast ? TRUE : FALSE;
@@ -230,7 +230,7 @@ void ChartDrawState::MoveReference(CPoint point) {
     item->to = to;
     move.hasMoved = true;
     chart.Redraw();
-    Tell(*this, *item, false);
+    TellReference(*this, *item, false);
 }
 
 void ChartDrawState::ReleaseReference(bool keep) {
@@ -243,5 +243,5 @@ void ChartDrawState::ReleaseReference(bool keep) {
         item->to = move.to;
         chart.Redraw();
     }
-    Tell(*this, *item, true);
+    TellReference(*this, *item, true);
 }

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
 
 class ChartPartsTest : public ChartTest {
 protected:
@@ -265,7 +265,7 @@ TEST_F(ChartPartsTest, ReferencesAreMovedByTheMouse) {
 
 TEST_F(ChartPartsTest, TheCursorFollowsThePointerAndKeys) {
     const double xs[] = {0, 10, 20, 30, 30, 40};
-    const double low[] = {10, 20, kNaN, 30, 40, 20}, high[] = {90, 80, 70, 60, 95, 80};
+    const double low[] = {10, 20, kGap, 30, 40, 20}, high[] = {90, 80, 70, 60, 95, 80};
     const int first = chart.AddDataset(), second = chart.AddDataset();
     chart.SetData(first, xs, low, 6);
     chart.SetData(second, xs, high, 6);
@@ -338,7 +338,7 @@ TEST_F(ChartPartsTest, FiguresBetweenTheCursorsAreThoseOfAWalk) {
         for (int i = 0; i < 500; ++i) {
             x += round % 4 == 3 ? Below(5) - 2 : Below(3) / 3.0;
             xs.push_back(x);
-            ys.push_back(Below(10) == 0 ? kNaN : Below(1000) - 500);
+            ys.push_back(Below(10) == 0 ? kGap : Below(1000) - 500);
         }
         chart.SetData(dataset, xs.data(), ys.data(), 500);
         double ends[2] = {};

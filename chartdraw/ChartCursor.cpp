@@ -193,3 +193,16 @@ bool ChartDrawState::StepCursor(int nSamples, int nDatasets) {
     }
     return true;
 }
+
+bool ChartDrawState::PinCursor() {
+    ChartCursorState& state = *cursor.m_State;
+    const CursorReading first = state.Read(*this, 0);
+    if (!first.IsValid())
+        return false;
+    const CursorReading second = state.Read(*this, 1);
+    const bool isThere = second.dataset == first.dataset && second.sample == first.sample;
+    const CursorReading pinned = isThere ? CursorReading() : first;
+    state.Set(*this, 1, pinned);
+    TellCursor(*this, 1, pinned);
+    return true;
+}

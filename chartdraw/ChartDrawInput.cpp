@@ -83,15 +83,17 @@ bool Press(ChartDrawState& state, MouseButton button, CPoint point, DragPurpose 
 }
 
 /// The part of the chart that a press of the left button is for.
-enum class Part { None, Line, Legend };
+enum class Part { None, Line, Legend, Cursor };
 
-/// Hands a press to the reference lines and to the legend. The caller checks whether the chart still exists.
+/// Hands a press to the reference lines, to the legend and, with Ctrl, to the second cursor. The caller checks whether the chart still exists.
 Part PressPart(ChartDrawState& state, CPoint point) {
     if (state.PressReference(point)) {
         Press(state, MouseButton::Left, point, DragPurpose::Object);
         return Part::Line;
     }
-    return state.PressLegend(point) ? Part::Legend : Part::None;
+    if (state.PressLegend(point))
+        return Part::Legend;
+    return ::GetKeyState(VK_CONTROL) < 0 && state.PinCursor() ? Part::Cursor : Part::None;
 }
 
 /// Takes the release of a button: ends the drag and zooms to the box. The result is the pointer's step; None also when

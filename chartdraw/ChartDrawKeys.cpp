@@ -68,7 +68,7 @@ bool MoveByKey(ChartDrawState& state, UINT key, bool isControl) {
     return true;
 }
 
-/// Moves a shown cursor by an arrow key.
+/// Moves a shown cursor by an arrow key, and places the second cursor by the space bar.
 bool StepCursor(ChartDrawState& state, UINT key) {
     switch (key) {
     case VK_LEFT:
@@ -79,6 +79,8 @@ bool StepCursor(ChartDrawState& state, UINT key) {
         return state.StepCursor(0, -1);
     case VK_DOWN:
         return state.StepCursor(0, 1);
+    case VK_SPACE:
+        return state.PinCursor();
     default:
         return false;
     }

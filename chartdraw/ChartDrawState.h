@@ -98,6 +98,8 @@ struct ChartDrawState {
     void
     HoverCursor(const CPoint* pPoint); ///< moves the first cursor; null: the mouse has left (ChartCursor.cpp)
     bool StepCursor(int nSamples, int nDatasets); ///< moves the shown cursor by samples or to another dataset
+    /// Places the second cursor where the first one is, or hides it if it is there. False without the first one.
+    bool PinCursor();
     /// CChartCursor::MoveBySamples; with `tell` for the user.
     bool MoveCursor(int nCursor, int nSamples, bool tell);
 

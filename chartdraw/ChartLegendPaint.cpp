@@ -36,53 +36,67 @@ template <class Draw> void ForBars(const CRect& box, Draw draw) {
         draw(CRect(CPoint(box.left + i * step, box.bottom - heights[i]), CSize(step - 1, heights[i])));
 }
 
+template <class Draw> void WithPen(CDC& dc, int size, COLORREF color, Draw draw) {
+    CPen pen;
+    pen.CreatePen(PS_SOLID, size, color);
+    const SelectGuard selected(dc, pen.GetSafeHandle());
+    draw();
+}
+
+/// The bars or the filled area of a dataset; for a dataset without line and marker a box of its colour.
+void DrawSwatchArea(CDC& dc, const CRect& box, const ChartDrawState::ChartDataset& dataset, bool hasMarker,
+                    COLORREF background) {
+    const bool isFill = dataset.style == CChartDraw::StyleFill;
+    const bool isBars = dataset.style == CChartDraw::StyleBars;
+    if (!isFill && !isBars && (dataset.showLine || hasMarker))
+        return;
+    CBrush brush;
+    brush.CreateSolidBrush(dataset.fillColor != CLR_NONE ? dataset.fillColor
+                           : isFill                      ? MixColors(dataset.color, background, kAreaPale)
+                                                         : dataset.color);
+    if (isBars)
+        ForBars(box, [&](const CRect& bar) { dc.FillRect(bar, &brush); });
+    else
+        dc.FillRect(isFill ? CRect(box.left, box.CenterPoint().y, box.right, box.bottom) : box, &brush);
+}
+
+/// A piece of a line with the pen that is selected, which is `size` pixels wide.
+void DrawSwatchLine(CDC& dc, const CRect& box, CChartDraw::DrawStyle style, int size) {
+    const CPoint middle = box.CenterPoint();
+    const int left = static_cast<int>(box.left) + size / 2; // round ends extend by half of the line's width
+    const int right = static_cast<int>(box.right) - size / 2;
+    const int rise = static_cast<int>(box.Height()) / 4;
+    if (style == CChartDraw::StyleImpulses)
+        ForBars(box, [&](const CRect& bar) {
+            DrawPath(dc, {CPoint(bar.CenterPoint().x, bar.top), CPoint(bar.CenterPoint().x, bar.bottom)});
+        });
+    else if (style == CChartDraw::StyleStep)
+        DrawPath(dc, {CPoint(left, middle.y + rise), CPoint(middle.x, middle.y + rise),
+                      CPoint(middle.x, middle.y - rise), CPoint(right, middle.y - rise)});
+    else
+        DrawPath(dc, {CPoint(left, middle.y), CPoint(right, middle.y)});
+}
+
 } // namespace
 
 void ChartLegendState::DrawSwatch(CDC& dc, const CRect& box, const ChartDrawState::ChartDataset& dataset,
                                   COLORREF background) {
-    const int size = std::clamp(dataset.lineSize, 1, std::max(std::min(kWidestSwatchLine, box.Height()), 1));
-    const COLORREF fill = dataset.fillColor != CLR_NONE ? dataset.fillColor
-                          : dataset.style == CChartDraw::StyleFill
-                              ? MixColors(dataset.color, background, kAreaPale)
-                              : dataset.color;
-    CBrush brush;
-    brush.CreateSolidBrush(fill);
-    CPen pen;
-    pen.CreatePen(PS_SOLID, size, dataset.color);
-    CPen thin;
-    thin.CreatePen(PS_SOLID, 1, dataset.color);
-    SavedDcGuard saved(dc);
-    Select(dc, ::GetStockObject(NULL_BRUSH));
-    const CPoint middle = box.CenterPoint();
-    const bool isArea = dataset.style == CChartDraw::StyleBars || dataset.style == CChartDraw::StyleFill;
-    const bool hasMarker = HasShape(dataset.markerType);
+    const SelectGuard hollow(dc, ::GetStockObject(NULL_BRUSH));
     if (!dataset.visible) {
-        Select(dc, thin);
-        dc.Rectangle(box);
+        WithPen(dc, 1, dataset.color, [&] { dc.Rectangle(box); });
         return;
     }
-    if (dataset.style == CChartDraw::StyleBars)
-        ForBars(box, [&](const CRect& bar) { dc.FillRect(bar, &brush); });
-    else if (dataset.style == CChartDraw::StyleFill)
-        dc.FillRect(CRect(box.left, middle.y, box.right, box.bottom), &brush);
-    else if (!dataset.showLine && !hasMarker)
-        dc.FillRect(box, &brush);
-    const int left = box.left + size / 2; // round ends extend by half of the line's width
-    const int right = box.right - size / 2;
-    Select(dc, pen);
-    if (dataset.showLine && dataset.style == CChartDraw::StyleImpulses)
-        ForBars(box, [&](const CRect& bar) {
-            DrawPath(dc, {CPoint(bar.CenterPoint().x, bar.top), CPoint(bar.CenterPoint().x, bar.bottom)});
-        });
-    else if (dataset.showLine && dataset.style == CChartDraw::StyleStep)
-        DrawPath(dc,
-                 {CPoint(left, middle.y + box.Height() / 4), CPoint(middle.x, middle.y + box.Height() / 4),
-                  CPoint(middle.x, middle.y - box.Height() / 4), CPoint(right, middle.y - box.Height() / 4)});
-    else if (dataset.showLine && (!isArea || dataset.style == CChartDraw::StyleFill))
-        DrawPath(dc, {CPoint(left, middle.y), CPoint(right, middle.y)});
-    Select(dc, thin);
+    const bool hasMarker = HasShape(dataset.markerType);
+    DrawSwatchArea(dc, box, dataset, hasMarker, background);
+    if (dataset.showLine && dataset.style != CChartDraw::StyleBars) {
+        const int widest = std::clamp(static_cast<int>(box.Height()), 1, kWidestSwatchLine);
+        const int size = std::clamp(dataset.lineSize, 1, widest);
+        WithPen(dc, size, dataset.color, [&] { DrawSwatchLine(dc, box, dataset.style, size); });
+    }
+    const CPoint middle = box.CenterPoint();
     if (hasMarker)
-        DrawMarker(dc, dataset.markerType, middle.x, middle.y, kSwatchMarkerHalf, 1);
+        WithPen(dc, 1, dataset.color,
+                [&] { DrawMarker(dc, dataset.markerType, middle.x, middle.y, kSwatchMarkerHalf, 1); });
 }
 
 void ChartDrawState::DrawLegend(CDC& dc) {

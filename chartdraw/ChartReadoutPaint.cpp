@@ -23,7 +23,8 @@ constexpr double kReadoutPadding = 0.4;
 constexpr double kReadoutColumnGap = 0.8;
 constexpr double kReadoutBlockGap = 1.5;
 constexpr double kReadoutSwatch = 0.8; // with the gap behind it
-constexpr double kLongestName = 12;
+constexpr double kLongestName = 20;
+constexpr double kLongestNameInTable = 12;
 
 void DrawRings(CDC& dc, const ChartDrawState& state, const ChartCursorState& cursors, int cursor) {
     CBrush brush;
@@ -122,6 +123,36 @@ private:
     CPoint m_corner;
 };
 
+/// Widths of a readout's texts, pixels.
+struct ReadoutWidths {
+    std::vector<int> titles;
+    std::vector<std::vector<int>> cells;
+};
+
+/// Shortens the texts of a readout to `room` pixels, and measures them.
+ReadoutWidths FitTexts(const CDC& dc, MeasuredTexts& texts, ChartReadout& readout, int textHeight, int room) {
+    std::size_t next = 0; // index of the next text
+    const auto fit = [&](CString& text, int most) {
+        const int width = std::min(texts.Width(dc, next, text), most);
+        text = CString(texts.ShortenedTo(dc, next, text, most));
+        ++next;
+        return width;
+    };
+    const double longest = readout.hasHeader ? kLongestNameInTable : kLongestName;
+    const int nameRoom = std::min(static_cast<int>(longest * textHeight), room / 2);
+    ReadoutWidths widths;
+    for (CString& title : readout.titles)
+        widths.titles.push_back(fit(title, room));
+    for (ChartReadout::Row& row : readout.rows) {
+        widths.cells.emplace_back();
+        const int swatch = row.color == CLR_NONE ? 0 : static_cast<int>(kReadoutSwatch * textHeight);
+        for (std::size_t column = 0; column < row.cells.size(); ++column)
+            widths.cells.back().push_back(column == 0 ? swatch + fit(row.cells[0], nameRoom)
+                                                      : fit(row.cells[column], room));
+    }
+    return widths;
+}
+
 } // namespace
 
 void ChartDrawState::DrawCursors(CDC& dc) {
@@ -154,33 +185,28 @@ void ChartDrawState::DrawReadout(CDC& dc) {
     Select(dc, brush);
     Select(dc, pen);
 
-    const auto pixels = [&](double heights) { return static_cast<int>(heights * TextHeight()); };
     const CRect& plot = Plot();
-    const int room = static_cast<int>(plot.Width()) - 2 * pixels(kReadoutPadding);
-    state.texts.SetFont(chart.m_FontPixels, chart.m_FontFace);
-    std::size_t text = 0; // index of the next text
-    const auto fit = [&](CString& each, int most) {
-        each = state.texts.ShortenedTo(dc, text, each, most);
-        return std::min(state.texts.Width(dc, text++, each), most);
-    };
-    std::vector<int> titles;
-    for (CString& title : readout.titles)
-        titles.push_back(fit(title, room));
-    std::vector<std::vector<int>> cells;
-    for (ChartReadout::Row& row : readout.rows) {
-        cells.emplace_back();
-        const int swatch = row.color == CLR_NONE ? 0 : pixels(kReadoutSwatch);
-        for (std::size_t column = 0; column < row.cells.size(); ++column)
-            cells.back().push_back(column == 0
-                                       ? swatch + fit(row.cells[0], std::min(pixels(kLongestName), room / 2))
-                                       : fit(row.cells[column], room));
-    }
+    const auto pixels = [&](double heights) { return static_cast<int>(heights * TextHeight()); };
     const ReadoutSizes sizes = {std::max(TextHeight(), 1), pixels(kReadoutPadding), pixels(kReadoutColumnGap),
                                 pixels(kReadoutBlockGap)};
-    const ReadoutLayout layout(titles, cells, readout.hasHeader, sizes, plot.Width(), plot.Height(),
-                               plot.Width() / 2);
+    state.texts.SetFont(chart.m_FontPixels, chart.m_FontFace);
+    const auto layOut = [&] {
+        const ReadoutWidths widths = FitTexts(dc, state.texts, readout, TextHeight(),
+                                              static_cast<int>(plot.Width()) - 2 * sizes.padding);
+        return ReadoutLayout(widths.titles, widths.cells, readout.hasHeader, sizes, plot.Width(),
+                             plot.Height(), plot.Width() / 2);
+    };
+    ReadoutLayout layout = layOut();
+    if (layout.IsEmpty()) { // rather the values alone
+        readout.titles.clear();
+        layout = layOut();
+    }
     if (layout.IsEmpty())
         return;
+    CRect covered;
+    if (covered.IntersectRect(legend.GetRect(), plot))
+        for (const CPoint& point : {covered.TopLeft(), covered.CenterPoint(), covered.BottomRight()})
+            readout.points.push_back(ToPoint(point));
     const CRect box = ToCRect(PlaceReadout(ToRect(plot), layout.Width(), layout.Height(), readout.points));
     dc.Rectangle(box);
     dc.IntersectClipRect(box);

@@ -16,9 +16,11 @@ struct ChartDrawState;
 } // namespace kavlix
 
 /// The two cursors of a CChartDraw, see CChartDraw::GetCursor: crosshairs at samples, and a readout of their
-/// values. The first cursor follows the pointer; the second one stays where it is set, and the readout then shows
-/// difference, minimum, maximum, mean and number of samples between both. The chart owns its cursor. Setters do
-/// not repaint.
+/// values. The first cursor follows the pointer, and arrow keys move it. The user places the second cursor at the
+/// first one, or takes it away there, by Ctrl and a click or by the space bar. The second cursor stays where it is
+/// set, and the readout then shows difference, minimum, maximum, mean and number of samples between both. A cursor
+/// keeps its sample while other points come and go. Samples are the points whose x and y are finite. The chart owns
+/// its cursor. Setters do not repaint.
 class KAVLIX_API CChartCursor {
 public:
     /// Which samples the cursors show.

@@ -300,6 +300,10 @@ TEST_F(ChartPartsTest, TheCursorFollowsThePointerAndKeys) {
     EXPECT_EQ(cursor.GetSample(0, second), 3) << "a pointer that rests does not take the cursor back";
     chart.SendMessage(WM_KEYDOWN, VK_UP, 1);
     EXPECT_EQ(at(), std::make_pair(first, 30.0));
+    chart.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    EXPECT_EQ(at(1), at()) << "the space bar places the second cursor";
+    chart.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    EXPECT_EQ(at(1).first, -1) << "and takes it away";
     EXPECT_EQ(cursor.MoveBySamples(0, -1), TRUE);
     EXPECT_EQ(at(), std::make_pair(first, 10.0)) << "across the gap";
     EXPECT_EQ(cursor.MoveBySamples(0, -5), TRUE);

@@ -28,12 +28,6 @@ CString Wide(const std::string& ascii) {
     return CString(ascii.c_str());
 }
 
-CString EngineeringText(const ChartAxisState& axis, const std::string& number, int exponent) {
-    const CString prefix = PrefixText(exponent) == "u" ? CString(L"\u00b5") : Wide(PrefixText(exponent));
-    const CString unit = prefix + axis.unit;
-    return unit.IsEmpty() ? Wide(number) : Wide(number) + _T(" ") + unit;
-}
-
 /// Text of a value by the properties of the axis; empty when none of them says how.
 CString ChosenText(const ChartAxisState& axis, double value) {
     if (axis.label)
@@ -67,7 +61,7 @@ AxisLayout LinearLayout(const ChartAxisState& axis, const AxisRoom& room, const 
         const double value = scale.Tick(i);
         const CString text =
             isChosen           ? ChosenText(axis, value)
-            : axis.engineering ? EngineeringText(axis, FixedText(Scaled(value, exponent), decimals), exponent)
+            : axis.engineering ? Wide(FixedText(Scaled(value, exponent), decimals)) + axis.UnitText(exponent)
                                : Wide(scale.Label(i));
         layout.ticks.push_back(Label(room, value, text));
     }
@@ -85,9 +79,8 @@ AxisLayout LogLayout(const ChartAxisState& axis, const AxisRoom& room, double mi
             const int exponent = PrefixExponent(value);
             const double scaled = Scaled(value, exponent);
             constexpr int kDigits = 6;
-            text = EngineeringText(
-                axis, axis.decimals >= 0 ? FixedText(scaled, axis.decimals) : ShortText(scaled, kDigits),
-                exponent);
+            text = Wide(axis.decimals >= 0 ? FixedText(scaled, axis.decimals) : ShortText(scaled, kDigits)) +
+                   axis.UnitText(exponent);
         } else if (!axis.label && axis.decimals < 0) {
             text = Wide(scale.Label(i));
         }

@@ -13,6 +13,7 @@
 #include "chartdraw/TextWidths.h"
 #include "chartdraw/TickTexts.h"
 #include "chartdraw/TimeZones.h"
+#include "plot/NumberFormat.h"
 
 namespace kavlix {
 
@@ -45,6 +46,14 @@ struct ChartAxisState {
             stepWidths.clear();
     }
 
+    /// A blank and the unit with the prefix of 10^`exponent`; empty when there is neither.
+    CString UnitText(int exponent) const {
+        constexpr int kMicro = -6;
+        const CString prefix =
+            exponent == kMicro ? CString(L"\u00b5") : CString(PrefixText(exponent).c_str());
+        const CString text = prefix + unit;
+        return text.IsEmpty() ? text : _T(" ") + text;
+    }
     /// Texts of times, made when the first time axis is laid out.
     const TickTexts& Texts() {
         if (!texts)

@@ -34,9 +34,7 @@ CString NumberText(ChartDrawState& state, int axis, double value) {
     const double scaled = Scaled(value, exponent);
     const std::string number =
         properties.decimals >= 0 ? FixedText(scaled, properties.decimals) : ShortText(scaled, digits);
-    const CString prefix = exponent == -6 ? CString(L"\u00b5") : CString(PrefixText(exponent).c_str());
-    const CString unit = prefix + properties.unit;
-    return CString(number.c_str()) + (unit.IsEmpty() ? CString() : _T(" ") + unit);
+    return CString(number.c_str()) + properties.UnitText(exponent);
 }
 
 } // namespace
@@ -51,7 +49,9 @@ CString ValueText(ChartDrawState& state, int axis, double value) {
     constexpr int kNanoDigits = 9;
     const double resolution = std::max(Resolution(state, axis) * kSharesOfPixel, 1e-9); // a pixel
     const int digits = resolution >= 1 ? 0 : std::clamp(-ExponentOf(resolution), 0, kNanoDigits);
-    return properties.Texts().Full(properties.zone.Offsets().ToLocal(point.second), point.nano, digits);
+    const ZoneOffsets& zone = properties.zone.Offsets();
+    const CString text = properties.Texts().Full(zone.ToLocal(point.second), point.nano, digits);
+    return zone.IsRepeated(point.second) ? text + TickTexts::Mark() : text;
 }
 
 CString DistanceText(ChartDrawState& state, int axis, double distance) {

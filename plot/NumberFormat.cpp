@@ -34,8 +34,9 @@ int ExponentOf(double value) {
 }
 
 std::string FixedText(double value, int decimals) {
+    constexpr int kMost = 15;
     char text[400]; // 309 digits before the decimal point
-    std::snprintf(text, sizeof text, "%.*f", std::clamp(decimals, 0, kMostDecimals), value);
+    std::snprintf(text, sizeof text, "%.*f", std::clamp(decimals, 0, kMost), value);
     return WithoutNegativeZero(text);
 }
 

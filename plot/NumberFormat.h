@@ -6,14 +6,14 @@
 
 namespace kavlix {
 
-constexpr int kMostDecimals = 12;
+constexpr int kMostDecimals = 12; ///< of steps
 
 /// `value` / 10^`exponent`, without overflow on the way. Rounded once for exponents from -300 to 300.
 double Scaled(double value, int exponent);
 /// The exponent of the first digit of `value`; 0 for 0.
 int ExponentOf(double value);
 
-/// `value` with `decimals` decimals, limited to 0 to kMostDecimals. Never "-0": a value that rounds to 0 has no
+/// `value` with `decimals` decimals, limited to 0 to 15. Never "-0": a value that rounds to 0 has no
 /// sign. "inf", "-inf" and "nan" for what is no number.
 std::string FixedText(double value, int decimals);
 /// `value` with up to `digits` significant digits (1 to 15) and without trailing zeros: "12.5". With an exponent

@@ -177,7 +177,7 @@ TimeScale::TimeScale(double min, double max, double origin, int length, int gap,
         [&](const TimePoint& point) {
             const std::int64_t local = point.second + zone.At(point.second);
             TimeTick tick{base.Value(point), StampOf(local), point.nano};
-            tick.isRepeated = mayRepeat && m_step.IsBelowDay() && zone.FirstInstant(local) < point.second;
+            tick.isRepeated = mayRepeat && m_step.IsBelowDay() && zone.IsRepeated(point.second);
             tick.startsPeriod = !SharePeriod(m_step, before, tick.local);
             before = tick.local;
             m_ticks.push_back(tick);

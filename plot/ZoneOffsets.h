@@ -58,6 +58,9 @@ public:
     /// a later time.
     std::int64_t FirstInstant(std::int64_t local) const;
 
+    /// Whether the local clock shows the time of this instant again, because it was set back.
+    bool IsRepeated(std::int64_t time) const { return FirstInstant(time + At(time)) < time; }
+
 private:
     /// Offsets of one year; the first one holds from the year's first instant.
     using Offsets = std::vector<OffsetChange>;

@@ -60,6 +60,11 @@ constexpr struct {
     {"chart_uneven_1000000", [] { bench::ChartAgainstGraph(1000000, true); }},
     {"chart_ten_million", [] { bench::ChartTenMillion(false); }},
     {"chart_ten_million_uneven", [] { bench::ChartTenMillion(true); }},
+    {"chart_append", &bench::ChartAppend},
+    {"chart_post", &bench::ChartPost},
+    {"chart_late", &bench::ChartLate},
+    {"chart_wall", &bench::ChartWall},
+    {"chart_save", &bench::ChartSave},
     {"graph_growth", &bench::GraphGrowth},
     {"graph_day", &bench::GraphDay},
 };

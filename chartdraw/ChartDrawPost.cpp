@@ -26,6 +26,7 @@ void ChartDrawState::ReadyToTake() {
 }
 
 void ChartDrawState::TakePosted() {
+    const bool isPaintDue = ::GetUpdateRect(chart.m_hWnd, nullptr, FALSE) != FALSE;
     const std::vector<PostedPoint>& points = posted->Take();
     const int count = static_cast<int>(points.size());
     int refused = 0;
@@ -50,7 +51,10 @@ void ChartDrawState::TakePosted() {
     posted->Release();
     Changed();
     chart.Redraw();
-    if (!::GetUpdateRect(chart.m_hWnd, nullptr, FALSE)) // nothing of the window can be seen: no paint comes
+    if (isPaintDue) // the queue did not wait for the paint: points come so fast that paints would never get their turn
+        chart.UpdateWindow();
+    else if (!::GetUpdateRect(chart.m_hWnd, nullptr,
+                              FALSE)) // nothing of the window can be seen: no paint comes
         ReadyToTake();
     if (count == 0)
         return;

@@ -51,7 +51,8 @@ void ChartDrawState::TakePosted() {
     posted->Release();
     Changed();
     chart.Redraw();
-    if (isPaintDue) // the queue did not wait for the paint: points come so fast that paints would never get their turn
+    // A paint is still due when points come faster than they can be taken. It would never get its turn otherwise.
+    if (isPaintDue)
         chart.UpdateWindow();
     else if (!::GetUpdateRect(chart.m_hWnd, nullptr,
                               FALSE)) // nothing of the window can be seen: no paint comes

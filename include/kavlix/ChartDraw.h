@@ -91,10 +91,10 @@ public:
     /// Removes the `nCount` oldest points, at most all. FALSE when there is no such dataset or `nCount` is negative.
     BOOL RemoveHeadData(int nDataset, int nCount);
     /// Lets the points of an empty dataset stand at `dStart`, `dStart` + `dStep` ... without memory for their x. Add
-    /// them by AddEvenData. A point added otherwise ends this. FALSE when there is no such dataset, it has points, or
+    /// them by AddEvenData; points added otherwise do not count. Stays after ResetData, which begins at `dStart` again. FALSE when there is no such dataset, it has points, or
     /// a value is not finite, and unless `dStep` > 0.
     BOOL SetEvenX(int nDataset, double dStart, double dStep);
-    /// Appends a point at the next x of SetEvenX; without SetEvenX x is the number of the point. As AddData.
+    /// Appends a point at the next x of SetEvenX; without SetEvenX x is 0, 1, 2 ... As AddData.
     BOOL AddEvenData(int nDataset, double y);
     /// Limits the history of a dataset to its newest `nMostPoints` points (0: no limit) and to the points within
     /// `dSpan` of the newest x (0: no limit). Older points are removed now and as points are appended. FALSE when
@@ -119,8 +119,10 @@ public:
     // ---- Data from other threads ----
 
     /// Queues a point, as by InsertData, from any thread. The chart's thread takes all queued points together when it
-    /// next handles messages, repaints, and sends CDN_POSTED. FALSE, with nothing queued, when the queue is full, memory
-    /// runs out, or the chart has no window. The window must not be created or destroyed meanwhile.
+    /// next handles messages, repaints, and sends CDN_POSTED; a visible chart is painted before it takes further points.
+    /// FALSE, with nothing queued, when the queue is full, memory runs out, Windows refuses the message to the chart's
+    /// thread, or the chart has no window. Points that are still queued when the window is destroyed are dropped. The
+    /// chart object must exist during the call.
     BOOL PostData(int nDataset, double x, double y);
     /// Queues `nCount` points. The result is the number of points queued, from the first one on: fewer than `nCount`
     /// when the queue is full; 0 as above and for null pointers.
@@ -262,9 +264,12 @@ public:
     /// Goes back to the previous view. FALSE when there is none. Repaints.
     BOOL ViewBack();
     /// Shares the view of the X axis and the position of the cursor with `pOther` and all charts that are linked with
-    /// `pOther`: a change in one changes all, and repaints them. A chart leaves its charts when it is linked again or
-    /// destroyed; null only leaves. All linked charts belong to the same thread. The X ranges are taken from `pOther`.
-    /// FALSE for the chart itself, and when memory runs out.
+    /// `pOther`: a change in one changes all, repaints them, and sends their CDN_VIEW. Ranges are the same times and
+    /// values, whatever the origins of the axes are; a chart that cannot show a range keeps its own. A chart leaves its
+    /// charts when it is linked again, or when it or its window is destroyed; null only leaves. All linked charts belong
+    /// to the same thread. The range is taken from `pOther` and then fixed, as by the user. A chart that shows its whole
+    /// data shares its range when the view changes, not when data is added. FALSE for the chart itself, and when memory
+    /// runs out.
     BOOL LinkView(CChartDraw* pOther);
 
     /// Invalidates the whole client area without erase. Does nothing without a window.
@@ -312,10 +317,16 @@ public:
     bool SaveImage(CString strFileName);
     /// Asks the user for a file name and calls SaveData(CString, BOOL) for the range in view. As CopyToFile().
     bool SaveData();
-    /// Saves the points of the visible datasets as a table of comma-separated values in UTF-8: one row for each x, one
-    /// column for each dataset, named by SetDatasetName; the x of a time axis in ISO 8601 in UTC. With `bVisibleOnly`
-    /// only the points whose x is in view. False when the file cannot be written or memory runs out. After a failure an
-    /// existing file is unchanged, and no incomplete file is left.
+    /// Saves the points of the visible datasets as a table of comma-separated values (RFC 4180: CR LF ends a line) in
+    /// UTF-8. The first line has the title of the X axis ("x" if empty) and the names of the datasets ("y1", "y2" ... if
+    /// empty). Then there is a line for each x: x as a value of the X axis, and a value for each dataset that has a point
+    /// there. Points with the same x in one dataset have lines of their own; points whose x do not ascend keep their
+    /// order. The x of a time axis is in ISO 8601 in UTC, with 0, 3, 6 or 9 decimals, as many as all times of the table
+    /// need. Numbers have the digits that are needed to read the same double again. NaN is an empty field.
+    ///
+    /// With `bVisibleOnly` only the points whose x is in view; without a window and a fixed range, all. False when the
+    /// file cannot be written or memory runs out. After a failure an existing file is unchanged, and no incomplete file
+    /// is left.
     bool SaveData(CString strFileName, BOOL bVisibleOnly);
 
 protected:

@@ -159,8 +159,8 @@ void CMonitorChart::ShowPoints() {
 }
 
 void CMonitorChart::ResetView() {
-    SetAutoXScale();
-    SetAutoYScale();
+    GetXAxis().SetRangeMode(CChartAxis::WholeData);
+    GetYAxis().SetRangeMode(CChartAxis::WholeData);
     const recording::ValueSpan& covers = m_picture.covers;
     if (covers.any)
         SetYScale(covers.min, covers.max);

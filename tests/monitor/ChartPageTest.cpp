@@ -162,8 +162,10 @@ TEST_F(ChartPage, OneSeriesIsShownAgainstAnother) {
     EXPECT_EQ(Text(), "1970-01-01 00:03:00   b: 30   a: 4");
     Choose(3, 0);
     EXPECT_EQ(Samples(0), "- 1:2 - - ") << "each against the one before";
+    Wheel(Place(0, 1), 120);
     Choose(4, 0);
     EXPECT_EQ(Chart().GetDatasetCount(), 3) << "all over time again";
+    EXPECT_EQ(View().second, 180) << "and the whole of them";
 }
 
 TEST_F(ChartPage, ManyPointsAreDrawnWithoutLines) {

@@ -136,15 +136,22 @@ TEST_F(ChartPage, TheWheelZoomsAndSettingsKeepTheView) {
 
 TEST_F(ChartPage, LiveReadingsAreAppendedAndFollowed) {
     Open("chart", {});
-    for (int i = 0; i < 3; ++i)
-        Tick();
-    EXPECT_EQ(Chart().GetXAxis().GetRangeMode(), CChartAxis::Follow);
-    const int before = Chart().GetDatasetSize(0);
-    EXPECT_EQ(before, static_cast<int>(Chart().Picture().recording->times.size()));
-    const std::string samples = Samples(0);
     Tick();
-    EXPECT_EQ(Chart().GetDatasetSize(0), before + 1);
-    EXPECT_EQ(Samples(0).substr(0, samples.size()), samples);
+    EXPECT_EQ(Chart().GetXAxis().GetRangeMode(), CChartAxis::Follow);
+    const recording::Time origin = recording::FloorTo(Chart().Picture().recording->times[0], 1'000'000);
+    constexpr std::size_t most = monitor::LiveReadings::kHistory;
+    for (std::size_t i = 0; i < most + 3; ++i)
+        Tick();
+    const recording::Recording& recording = *Chart().Picture().recording;
+    ASSERT_EQ(recording.times.size(), most) << "the oldest readings have left";
+    ASSERT_EQ(Chart().GetDatasetSize(1), static_cast<int>(most));
+    for (std::size_t row = 0; row < most; ++row) {
+        double x = 0;
+        double y = 0;
+        ASSERT_TRUE(Chart().GetData(1, static_cast<int>(row), x, y));
+        ASSERT_EQ(x, recording::SecondsFrom(origin, recording.times[row]));
+        ASSERT_EQ(y, recording.series[1].values[row]);
+    }
 }
 
 TEST_F(ChartPage, OneSeriesIsShownAgainstAnother) {

@@ -7,10 +7,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include "monitor/Notifications.h"
-#include "monitor/recording/JoinedSamples.h"
 #include "monitor/recording/NumberText.h"
 #include "monitor/resource.h"
 
@@ -103,39 +103,39 @@ void CChartPage::ShowPicture(bool asNew) {
     m_chart.Show(std::move(picture), asNew);
 }
 
-/// Texts of a row: over time the values of all series, otherwise those of the point.
-std::vector<std::string> CChartPage::TextsOf(std::size_t row) {
+/// Texts of the row at a cursor: over time the values of all series, otherwise those of the point.
+std::vector<std::string> CChartPage::TextsOf(std::size_t row, CMonitorChart::Cursor cursor) {
     const recording::Recording& recording = *m_chart.Picture().recording;
-    const std::vector<SeriesSettings>& series = m_chart.Picture().settings.series;
     const auto digits = Content().live ? recording::ValueDigits::Computed : recording::ValueDigits::AsRead;
     if (m_chart.IsOverTime()) {
         std::vector<double> values;
         std::vector<recording::Time> times;
         for (std::size_t i = 0; i < recording.series.size(); ++i) {
-            const std::size_t beside =
-                recording::SampleBeside(recording, {0, recording.times.size() - 1}, i, row);
-            values.push_back(recording.series[i].values[beside]);
-            times.push_back(recording.times[beside]);
+            // In joined files a series of another file has its samples at other times.
+            const std::size_t own = m_chart.RowOfSeries(cursor, i).value_or(row);
+            const recording::Time away = std::abs(recording.times[own] - recording.times[row]);
+            const bool isBeside = away < recording.IntervalOf(i);
+            values.push_back(recording.series[i].values[isBeside ? own : row]);
+            times.push_back(recording.times[isBeside ? own : row]);
         }
         return TextsOfSample(recording.times[row], values, times, digits);
     }
     const ChartPoint* const point = m_chart.PointOf(row);
     if (!point)
         return {};
-    std::vector<recording::NamedValue> values;
-    values.push_back({m_choice.kind == ChartX::Series ? series[m_choice.x].name : "before", point->x, {}});
-    values.push_back({series[m_choice.y].name, point->y, {}});
-    return recording::SampleTexts(recording.times[row], values, digits);
+    const std::string before = m_choice.kind == ChartX::Series ? m_chart.XText() : "before";
+    return recording::SampleTexts(recording.times[row],
+                                  {{before, point->x, {}}, {m_chart.YText(), point->y, {}}}, digits);
 }
 
 std::vector<std::string> CChartPage::MarkTexts() {
     const auto row = MarkedSample();
-    return row ? TextsOf(*row) : std::vector<std::string>();
+    return row ? TextsOf(*row, CMonitorChart::MarkCursor) : std::vector<std::string>();
 }
 
 std::vector<std::string> CChartPage::PointerTexts() {
     const auto row = m_chart.Pointed();
-    return row ? TextsOf(*row) : std::vector<std::string>();
+    return row ? TextsOf(*row, CMonitorChart::PointerCursor) : std::vector<std::string>();
 }
 
 std::vector<std::string> CChartPage::ViewTexts() {

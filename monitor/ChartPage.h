@@ -56,7 +56,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    std::vector<std::string> TextsOf(std::size_t row);
+    std::vector<std::string> TextsOf(std::size_t row, CMonitorChart::Cursor cursor);
     void ShowPicture(bool asNew);
     void ChangePicture(bool asNew);
     void TakeMark();

@@ -18,8 +18,6 @@ namespace {
 
 constexpr COLORREF kMarkColor = RGB(200, 0, 0);
 constexpr int kFontSize = 90; // size of the texts, in tenths of a point
-constexpr int kPointer = 0;   // the cursor that follows the pointer
-constexpr int kMark = 1;      // the cursor at the mark
 
 /// While one exists, the user cannot zoom the scale of values: over time, the wheel and the keys + and - zoom time.
 class TimeZoom {
@@ -71,9 +69,9 @@ const ChartPoint* CMonitorChart::PointOf(std::size_t row) const {
 void CMonitorChart::Mark(std::optional<std::size_t> row) {
     if (IsOverTime()) {
         if (!row || !HasSamples() || *row >= m_picture.recording->times.size() ||
-            !GetCursor().SetPosition(kMark,
+            !GetCursor().SetPosition(MarkCursor,
                                      recording::SecondsFrom(m_origin, m_picture.recording->times[*row])))
-            GetCursor().Hide(kMark);
+            GetCursor().Hide(MarkCursor);
     } else {
         CChartReferences& lines = GetReferences();
         lines.RemoveAll();
@@ -87,21 +85,30 @@ void CMonitorChart::Mark(std::optional<std::size_t> row) {
     Redraw();
 }
 
-std::optional<std::size_t> CMonitorChart::RowAtCursor(int cursor) {
+std::optional<std::size_t> CMonitorChart::RowAtCursor(Cursor cursor) {
     double x = 0;
     if (!HasSamples() || !GetCursor().GetPosition(cursor, x))
         return std::nullopt;
     return recording::RowNear(m_picture.recording->times, m_origin, x);
 }
 
+std::optional<std::size_t> CMonitorChart::RowOfSeries(Cursor cursor, std::size_t series) {
+    const int dataset = static_cast<int>(series);
+    double x = 0;
+    double y = 0;
+    if (!HasSamples() || !GetData(dataset, GetCursor().GetSample(cursor, dataset), x, y))
+        return std::nullopt;
+    return recording::RowNear(m_picture.recording->times, m_origin, x);
+}
+
 std::optional<std::size_t> CMonitorChart::Marked() {
-    return IsOverTime() ? RowAtCursor(kMark) : m_marked;
+    return IsOverTime() ? RowAtCursor(MarkCursor) : m_marked;
 }
 
 std::optional<std::size_t> CMonitorChart::Pointed() {
     if (IsOverTime())
-        return RowAtCursor(kPointer);
-    const int point = GetCursor().GetSample(kPointer, 0);
+        return RowAtCursor(PointerCursor);
+    const int point = GetCursor().GetSample(PointerCursor, 0);
     return point < 0 ? std::nullopt : std::optional(m_points[static_cast<std::size_t>(point)].row);
 }
 
@@ -172,7 +179,7 @@ void CMonitorChart::Step(int direction) {
     if (IsOverTime()) {
         if (!marked)
             Mark(direction > 0 ? Visible().first : Visible().last);
-        else if (!GetCursor().MoveBySamples(kMark, direction))
+        else if (!GetCursor().MoveBySamples(MarkCursor, direction))
             return;
         Redraw();
     } else {

@@ -33,6 +33,9 @@ struct ChartPicture {
 /// mark. Over time the mark is the chart's second cursor.
 class CMonitorChart : public CChartDraw {
 public:
+    /// The cursors of the chart.
+    enum Cursor { PointerCursor, MarkCursor };
+
     /// Creates the control as a child window that takes part in the tab order.
     bool CreateChild(CWnd& parent, UINT id);
 
@@ -52,6 +55,8 @@ public:
     std::optional<std::size_t> Marked();
     /// The row of the sample at the chart's first cursor, which follows the pointer; none without one.
     std::optional<std::size_t> Pointed();
+    /// The row of the sample of a series at a cursor over time; none without one.
+    std::optional<std::size_t> RowOfSeries(Cursor cursor, std::size_t series);
 
     /// The points of one series against another; empty over time.
     const std::vector<recording::ChartPoint>& Points() const { return m_points; }
@@ -84,7 +89,7 @@ private:
     void ResetView();
     void PlaceLegend();
     void Step(int direction);
-    std::optional<std::size_t> RowAtCursor(int cursor);
+    std::optional<std::size_t> RowAtCursor(Cursor cursor);
 
     ChartPicture m_picture;
     std::vector<recording::ChartPoint> m_points;

@@ -11,11 +11,6 @@
 namespace kavlix::recording {
 namespace {
 
-Time IntervalOf(const Recording& recording, std::size_t series) {
-    const std::size_t file = recording.series[series].file;
-    return file < recording.files.size() ? recording.files[file].interval : 0;
-}
-
 /// For every row, its own value of the series or, without one, the value nearest in time, the earlier of two
 /// equally near ones; NaN when no value is less than one median interval of the series' file away. One pass
 /// forwards and one backwards.
@@ -23,7 +18,7 @@ std::vector<double> ValuesBeside(const Recording& recording, std::size_t series)
     const std::vector<double>& values = recording.series[series].values;
     const std::size_t count = values.size();
     std::vector<double> beside(count, kNoValue);
-    std::vector<Time> distances(count, IntervalOf(recording, series));
+    std::vector<Time> distances(count, recording.IntervalOf(series));
     const auto pass = [&](auto rowOf) {
         std::optional<std::size_t> last;
         for (std::size_t i = 0; i < count; ++i) {
@@ -59,7 +54,7 @@ std::vector<ChartPoint> ChartPointsOf(const Recording& recording, const ChartCho
         joined && against ? ValuesBeside(recording, choice.y) : std::vector<double>();
     const std::vector<double>& others = joined && against ? beside : recording.series[choice.y].values;
     const std::vector<Time>& times = recording.times;
-    const Time longestStep = LongestStep(IntervalOf(recording, leader));
+    const Time longestStep = LongestStep(recording.IntervalOf(leader));
 
     std::vector<ChartPoint> points;
     std::optional<std::size_t> last; // the last row with a value of the leading series

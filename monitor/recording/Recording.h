@@ -82,6 +82,12 @@ struct Recording {
         return rowsOf.empty() || rowsOf[series[oneSeries].file][row];
     }
 
+    /// Median time between neighbouring rows of the series' file; 0 when it is not known.
+    Time IntervalOf(std::size_t oneSeries) const {
+        const std::size_t file = series[oneSeries].file;
+        return file < files.size() ? files[file].interval : 0;
+    }
+
     /// Sum of FileSummary::rowsLeftOut over all files.
     std::uint64_t RowsLeftOut() const;
 

@@ -85,14 +85,16 @@ protected:
 };
 
 TEST_F(ChartPage, TwoLoggersStandWholeOverTimeEachWithItsOwnSamples) {
-    Open("chart", {m_folder.Write("a.csv", "t,a\n10,1\n11,\n12,3\n"),
-                   m_folder.Write("b.csv", "t,b\n10.300001,5\n12.8,6\n")});
-    EXPECT_EQ(Samples(0), "0:1 - 2:3 ");
-    EXPECT_EQ(Samples(1), "0.300001:5 2.8:6 ");
+    Open("chart", {m_folder.Write("a.csv", "t,a\n9,\n10,1\n11,2\n12,3\n"),
+                   m_folder.Write("b.csv", "t,b\n10.300001,5\n11.9,6\n")});
+    EXPECT_EQ(Samples(0), "- 1:1 2:2 3:3 ");
+    EXPECT_EQ(Samples(1), "1.300001:5 2.9:6 ");
     EXPECT_EQ(Chart().GetXAxis().GetKind(), CChartAxis::Time);
     const auto [from, to] = View();
-    EXPECT_TRUE(from <= 0 && to >= 2.8) << from << " to " << to;
-    EXPECT_EQ(Text(), "1970-01-01 00:00:10  to  1970-01-01 00:00:12.800");
+    EXPECT_TRUE(from <= 1 && to >= 3) << from << " to " << to;
+    EXPECT_EQ(Text(), "1970-01-01 00:00:09  to  1970-01-01 00:00:12");
+    Mouse(WM_MOUSEMOVE, Place(1, 1));
+    EXPECT_EQ(Pointer(), "1970-01-01 00:00:11.900   a: 3 (00:00:12)   b: 6") << "the nearest in time";
 }
 
 TEST_F(ChartPage, AClickAndTheArrowKeysTellTheSampleAndHandItOn) {

@@ -10,6 +10,7 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/core/NearestSample.h"
 #include "chartdraw/core/StatisticsBetween.h"
+#include "plot/Numeric.h"
 
 namespace kavlix {
 namespace {
@@ -35,10 +36,7 @@ int FindSample(const ChartSeries& points, const ChartPoint& point) {
     if (nearest < 0 || points[nearest].x != point.x || points[nearest].y == point.y)
         return nearest;
     // Several samples have this x: look for the one with this y.
-    const auto along = [&](double x) {
-        constexpr double kInfinity = std::numeric_limits<double>::infinity();
-        return x < point.x ? -kInfinity : x > point.x ? kInfinity : 0;
-    };
+    const auto along = [&](double x) { return x < point.x ? -kInfinity : x > point.x ? kInfinity : 0; };
     const auto across = [&](double y) { return y - point.y; };
     const NearestSample same = FindNearestSample(points, point.x, along, across, false);
     return same.distance == 0 ? same.index : nearest;

@@ -58,7 +58,7 @@ CString DistanceText(ChartDrawState& state, int axis, double distance) {
     if (state.AxisState(axis).kind != CChartAxis::Time)
         return NumberText(state, axis, distance);
     constexpr int kDigits = 6;
-    return CString(ShortText(distance, kDigits).c_str()) + _T(" s");
+    return CString(DurationText(distance, kDigits).c_str());
 }
 
 } // namespace kavlix

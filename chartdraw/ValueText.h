@@ -12,7 +12,7 @@ namespace kavlix {
 /// decimals, prefix or function if the host has set one, with the unit. It tells values apart that are a
 /// hundredth of a pixel from each other at the last layout.
 CString ValueText(ChartDrawState& state, int axis, double value);
-/// The distance of two values of an axis, on a time axis in seconds.
+/// The distance of two values of an axis, on a time axis in seconds, minutes, hours and days.
 CString DistanceText(ChartDrawState& state, int axis, double distance);
 
 } // namespace kavlix

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "plot/Extremes.h"
+#include "plot/Numeric.h"
 
 #if defined(__SSE2__) || defined(_M_X64)
 #define KAVLIX_EXTREMES_OF_PAIRS
@@ -42,7 +43,6 @@ public:
     bool HasGap() const { return _mm_movemask_pd(m_gaps) != 0; }
     /// Both NaN when one of the values is NaN.
     Extremes Result() const {
-        constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
         if (HasGap())
             return {kNoNumber, kNoNumber};
         double low[2];
@@ -79,10 +79,7 @@ public:
     }
     bool HasGap() const { return m_hasGap; }
     /// Both NaN when one of the values is NaN.
-    Extremes Result() const {
-        constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-        return m_hasGap ? Extremes{kNoNumber, kNoNumber} : Extremes{m_low, m_high};
-    }
+    Extremes Result() const { return m_hasGap ? Extremes{kNoNumber, kNoNumber} : Extremes{m_low, m_high}; }
 
 private:
     void Add(double low, double high) {

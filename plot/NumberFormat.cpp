@@ -85,6 +85,33 @@ int DecimalsOfStep(double step) {
     return decimals;
 }
 
+std::string DurationText(double seconds, int digits) {
+    constexpr double kMinute = 60, kHour = 3600, kDay = 86400;
+    const double length = std::abs(seconds);
+    if (!(length >= kMinute) || length > kDay * 1e9)
+        return ShortText(seconds, digits) + " s";
+    const int decimals = std::clamp(digits - 1 - ExponentOf(length), 0, kMostDecimals);
+    const double unit = std::pow(10.0, decimals);
+    const double whole = std::round(length * unit) / unit; // so that no part shows 60
+    const double days = std::floor(whole / kDay);
+    const double hours = std::floor((whole - days * kDay) / kHour);
+    const double minutes = std::floor((whole - days * kDay - hours * kHour) / kMinute);
+    std::string part = FixedText(whole - days * kDay - hours * kHour - minutes * kMinute, decimals);
+    if (decimals > 0)
+        part.erase(part.find_last_not_of('0') + 1);
+    if (!part.empty() && part.back() == '.')
+        part.pop_back();
+    if (part.size() == 1 || part[1] == '.')
+        part.insert(0, 1, '0');
+    char text[64];
+    const bool hasHours = whole >= kHour;
+    const int used = days > 0 ? std::snprintf(text, sizeof text, "%.0f d %.0f:%02.0f:", days, hours, minutes)
+                     : hasHours ? std::snprintf(text, sizeof text, "%.0f:%02.0f:", hours, minutes)
+                                : std::snprintf(text, sizeof text, "%.0f:", minutes);
+    return (seconds < 0 ? "-" : "") + std::string(text, static_cast<std::size_t>(used)) + part +
+           (hasHours ? " h" : " min");
+}
+
 int PrefixExponent(double value) {
     if (value == 0 || !std::isfinite(value))
         return 0;

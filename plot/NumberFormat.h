@@ -25,6 +25,10 @@ std::string PowerText(double value, int lastDigit);
 /// The number of decimals that the multiples of `step` need, at most kMostDecimals.
 int DecimalsOfStep(double step);
 
+/// A length of time as a reader counts it: "0.25 s", "2:05.5 min", "3:02:05 h", "12 d 6:00:00 h"; parts of a second with
+/// up to `digits` significant digits of the whole, 1 to 15.
+std::string DurationText(double seconds, int digits);
+
 /// The exponent of the prefix with which `value` is 1 to below 1000: a multiple of 3, limited to -24 to 24. 0
 /// for 0 and for what is no number.
 int PrefixExponent(double value);

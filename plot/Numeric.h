@@ -9,6 +9,8 @@
 namespace kavlix {
 
 constexpr double kPi = 3.14159265358979323846;
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 /// Positions are limited to this value, in both directions, before GDI gets them. So marker sizes and margins
 /// can be added to them without overflow.

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "plot/Numeric.h"
+
 #if defined(__SSE2__) || defined(_M_X64)
 #define KAVLIX_TWO_AT_ONCE
 #include <emmintrin.h>
@@ -18,8 +20,6 @@ namespace {
 // the error of both is less than a billionth of a row.
 constexpr double kSmallestRange = 1e-280;
 constexpr double kLargestRange = 1e280;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 } // namespace
 

@@ -12,6 +12,7 @@
 #include "chartdraw/core/StepHistogram.h"
 #include "chartdraw/core/UnsortedPoints.h"
 #include "plot/IndexRange.h"
+#include "plot/Numeric.h"
 #include "plot/ValueBounds.h"
 
 namespace kavlix {
@@ -138,8 +139,6 @@ private:
     ValueBounds XBoundsOf(IndexRange range) const;
     int EndNumber(IndexRange range, bool first) const;
     ValueBounds YBoundsOf(IndexRange range, bool positiveOnly) const;
-
-    static constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
     SortedPoints m_sorted;
     std::unique_ptr<UnsortedPoints> m_unsorted; ///< null while the series is sorted

@@ -8,11 +8,10 @@
 #include <cstdlib>
 
 #include "plot/Calendar.h"
+#include "plot/Numeric.h"
 
 namespace kavlix {
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// A text that goes to a sink in large pieces.
 class TextStream {

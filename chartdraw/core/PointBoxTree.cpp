@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Adding points to boxes and boxes to levels.
 #include "chartdraw/core/PointBoxTree.h"
+#include "plot/Numeric.h"
 
 namespace kavlix {
 namespace {
-
-constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 /// The box of the newest block of the level above `parts`: of the last points, or of the last boxes.
 template <class Parts> PointBox BoxOfLast(const Parts& parts, std::size_t count) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // SortedChunk: extremes of blocks, summaries of chunks, inserted points and the search for the rule of x.
 #include "chartdraw/core/SortedChunk.h"
+#include "plot/Numeric.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +12,6 @@
 namespace kavlix {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
 constexpr int kFewest = 8; // points for which a rule of x is searched
 

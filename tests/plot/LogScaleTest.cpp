@@ -70,6 +70,10 @@ TEST(NumberFormatTest, TextsOfNumbers) {
     EXPECT_EQ(PowerText(-2.5e-9, -10), "-2.5e-9");
     EXPECT_EQ(DecimalsOfStep(2.5e-3), 4);
     EXPECT_EQ(DecimalsOfStep(50), 0);
+    EXPECT_EQ(DurationText(2.5e-6, 6), "2.5e-6 s");
+    EXPECT_EQ(DurationText(125.5, 6), "2:05.5 min");
+    EXPECT_EQ(DurationText(-119.99999, 6), "-2:00 min");
+    EXPECT_EQ(DurationText(259200, 6), "3 d 0:00:00 h");
 }
 
 TEST(NumberFormatTest, PrefixesScaleToOneToAThousand) {

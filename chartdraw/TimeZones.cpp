@@ -46,7 +46,7 @@ bool IsKnown(const std::wstring& name) {
 }
 
 /// The rules of a zone. Asking for those of a century, year by year, takes a tenth of a second, but they differ in a
-/// few years only: earlier and later years have the rules of the first and the last of these.
+/// few years only: all years before these have the same rules, and all years after them.
 class YearlyRules {
 public:
     explicit YearlyRules(const DYNAMIC_TIME_ZONE_INFORMATION& zone) : m_zone(zone) {
@@ -58,13 +58,16 @@ public:
                                &size) == ERROR_SUCCESS)
                 year = static_cast<int>(std::clamp<DWORD>(value, kFirstYear, kLastYear));
         };
-        ask(L"FirstEntry", m_first);
-        m_last = m_first;
-        ask(L"LastEntry", m_last);
+        int first = m_first;
+        int last = m_first;
+        ask(L"FirstEntry", first);
+        ask(L"LastEntry", last);
+        m_first = first - 1;
+        m_last = std::max(first, last) + 1;
     }
 
     ZoneYear operator()(int year) {
-        const int known = std::clamp(year, m_first, std::max(m_first, m_last));
+        const int known = std::clamp(year, m_first, m_last);
         auto rules = m_years.find(known);
         if (rules == m_years.end())
             rules = m_years.emplace(known, RulesOfYear(m_zone, static_cast<WORD>(known))).first;
@@ -72,8 +75,8 @@ public:
     }
 
 private:
-    static constexpr DWORD kFirstYear = 1601; // of Windows' calendar
-    static constexpr DWORD kLastYear = 30827;
+    static constexpr DWORD kFirstYear = 1602; // Windows' calendar goes from 1601 to 30827
+    static constexpr DWORD kLastYear = 30826;
 
     static ZoneYear YearOf(const TIME_ZONE_INFORMATION& rules, int year) {
         ZoneYear result;
@@ -88,7 +91,8 @@ private:
     }
 
     DYNAMIC_TIME_ZONE_INFORMATION m_zone;
-    int m_first = 2000; // a zone without rules by year has the same ones in every year
+    int m_first =
+        2000; ///< these years can have rules of their own; in a zone without rules by year any years
     int m_last = 2000;
     std::map<int, TIME_ZONE_INFORMATION> m_years;
 };

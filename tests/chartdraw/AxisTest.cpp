@@ -218,23 +218,33 @@ TEST_F(ChartAxisTest, TimesFollowTheUsersFormats) {
         expect(TimeTexts(-2.2e9, 4.1e9, _T("UTC")), {"1920", "1940", "2080"});
     }
     // A chart asks for the formats once.
+    chart.DestroyWindow();
     OpenChart other;
     ASSERT_TRUE(other.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 600, 200), &parent, 6));
     const UserFormats american(false);
     other.GetXAxis().SetKind(CChartAxis::Time);
     ASSERT_TRUE(other.GetXAxis().SetTimeZone(_T("Eastern Standard Time")));
-    ASSERT_TRUE(other.GetXAxis().SetRange(kNight, kNight + 8 * 3600));
-    other.CalcDatas();
-    testkit::MetafileRecorder recorder;
-    CDC dc;
-    dc.Attach(recorder.Dc());
-    other.DrawXScale(dc);
-    dc.Detach();
-    recorder.Close();
-    std::string all;
-    for (const std::string& text : recorder.Texts())
-        all += text + "|";
-    expect(all, {"9 PM", "12 AM", "3 AM", "Oct 25, 2026", "Oct 24, 2026"});
+    const struct {
+        double start;
+        Strings texts;
+    } views[] = {{kNight, {"8 PM", "12 AM", "Oct 25, 2026", "Oct 24, 2026"}},
+                 {1142856000, {"7 AM", "Mar 20, 2006"}},  // 12:00 UTC, daylight saving began in April
+                 {1900238400, {"8 AM", "Mar 20, 2030"}}}; // 12:00 UTC, it began in March
+    for (const auto& view : views) {
+        ASSERT_TRUE(other.GetXAxis().SetRange(view.start - 600, view.start + 5 * 3600));
+        other.CalcDatas();
+        testkit::MetafileRecorder recorder;
+        CDC dc;
+        dc.Attach(recorder.Dc());
+        other.DrawXScale(dc);
+        dc.Detach();
+        recorder.Close();
+        std::string all;
+        for (const std::string& text : recorder.Texts())
+            all += text + "|";
+        expect(all, view.texts);
+        EXPECT_EQ(recorder.Texts()[0], view.texts[0]) << "the first hour";
+    }
 }
 
 TEST_F(ChartAxisTest, AnUnknownZoneChangesNothing) {

@@ -112,6 +112,10 @@ protected:
 
 TEST_F(ChartAxisTest, LabelsOfAnyAxesNeitherTouchNorAreCutOff) {
     testkit::Numbers random(9);
+    for (const TCHAR* name : {_T("First"), _T("The second one")}) {
+        const int dataset = Add({-1, 0, 3, 7});
+        chart.SetDatasetName(dataset, name);
+    }
     for (int round = 0; round < 250; ++round) {
         for (CChartAxis* axis : {&chart.GetXAxis(), &chart.GetYAxis(), &chart.GetY2Axis()}) {
             axis->SetKind(static_cast<CChartAxis::Kind>(random.Below(3)));
@@ -131,6 +135,9 @@ TEST_F(ChartAxisTest, LabelsOfAnyAxesNeitherTouchNorAreCutOff) {
                 axis->SetRange(from, from + width);
         }
         chart.GetY2Axis().SetAlwaysShown(random.OneIn(2));
+        const CChartLegend::Place places[] = {CChartLegend::Hidden, CChartLegend::Right,
+                                              CChartLegend::Bottom};
+        chart.GetLegend().SetPlace(places[random.Below(3)]);
         chart.SetTitle(random.OneIn(2) ? _T("Title") : _T(""));
         Resize(60 + random.Below(900), 40 + random.Below(500));
         const std::vector<CRect> boxes = TextBoxes();

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-// CChartDraw: the mouse. The keyboard's messages are handled in ChartDrawKeys.cpp, the context menu's in ChartDrawMenu.cpp.
+// CChartDraw: the buttons and the moves of the mouse.
 #include <kavlix/ChartDraw.h>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -14,8 +13,6 @@
 using namespace kavlix;
 
 namespace {
-
-constexpr double kWheelPan = 0.1; // what a notch of the wheel pans, as a share of the view
 
 DragBox BoxOf(const ChartDrawState& state) {
     const PointerGesture& pointer = state.input->pointer;
@@ -120,13 +117,6 @@ PointerGesture::Step Release(ChartDrawState& state, MouseButton button, CPoint p
             return PointerGesture::Step::None;
     }
     return isDrag ? PointerGesture::Step::Drop : PointerGesture::Step::Click;
-}
-
-/// Pans along X by turns of the wheel to the right. Results as ViewChanged.
-bool PanByWheel(ChartDrawState& state, int delta) {
-    const double share = ShareOfPixels(state, ChartDrawState::kX, 1) < 0 ? -kWheelPan : kWheelPan;
-    return MoveView(state, GestureKind::Wheel, ViewCause::User,
-                    [&](ChartView& view) { view.Pan(share * delta / WHEEL_DELTA, 0); });
 }
 
 } // namespace
@@ -276,42 +266,6 @@ void CChartDraw::OnCaptureChanged(CWnd* pWnd) {
     // SetCapture on this window also sends the message, with this window as the new owner.
     if (pWnd != this)
         EndDrag(*m_State, true);
-}
-
-BOOL CChartDraw::OnMouseWheel(UINT nFlags, short zDelta, CPoint point) {
-    const ChartInputState& input = *m_State->input;
-    ScreenToClient(&point);
-    if (!m_rectChart.PtInRect(point))
-        return static_cast<BOOL>(Default());
-    if (input.pointer.IsPressed())
-        return TRUE;
-    if ((nFlags & MK_SHIFT) != 0 && input.Has(ViewPanX)) {
-        PanByWheel(*m_State, -zDelta);
-        return TRUE;
-    }
-    AxisSet axes = input.ZoomAxes();
-    const bool isBeside = point.x < m_rectPlot.left || point.x >= m_rectPlot.right;
-    const bool isAboveOrBelow = point.y < m_rectPlot.top || point.y >= m_rectPlot.bottom;
-    if ((nFlags & MK_CONTROL) != 0 || (isBeside && !isAboveOrBelow))
-        axes &= kAxesY;
-    else if (isAboveOrBelow && !isBeside)
-        axes &= kAxisX;
-    if ((nFlags & MK_SHIFT) != 0 || axes == 0)
-        return static_cast<BOOL>(Default());
-    const double x = std::clamp(ShareAt(*m_State, ChartDrawState::kX, point.x), 0.0, 1.0);
-    const double y = std::clamp(ShareAt(*m_State, ChartDrawState::kY, point.y), 0.0, 1.0);
-    MoveView(*m_State, GestureKind::Wheel, ViewCause::User,
-             [&](ChartView& view) { view.Zoom(axes, x, y, WheelFactor(zDelta)); });
-    return TRUE;
-}
-
-LRESULT CChartDraw::OnMouseHWheel(WPARAM wParam, LPARAM) {
-    const ChartInputState& input = *m_State->input;
-    if (!input.Has(ViewPanX))
-        return Default();
-    if (!input.pointer.IsPressed())
-        PanByWheel(*m_State, GET_WHEEL_DELTA_WPARAM(wParam));
-    return 0;
 }
 
 BOOL CChartDraw::OnSetCursor(CWnd*, UINT nHitTest, UINT) {

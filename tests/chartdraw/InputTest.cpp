@@ -182,6 +182,15 @@ TEST_F(ChartInputTest, TheWheelZoomsAtThePointerAndPans) {
         chart.FitView();
         Settle();
     }
+    // The cursor stays under the pointer.
+    chart.GetCursor().SetMode(CChartCursor::All);
+    Mouse(WM_MOUSEMOVE, at);
+    for (const int delta : {600, 600, -1200}) {
+        Wheel(delta, at, delta < 0 ? MK_SHIFT : 0);
+        double cursor = 0;
+        ASSERT_TRUE(chart.GetCursor().GetPosition(0, cursor));
+        EXPECT_NEAR(cursor, XAt(at.x), (Now()[1] - Now()[0]) / 20 + 0.5);
+    }
     // Several turns are one paint.
     ::ValidateRect(chart, nullptr);
     Wheel(120, at);

@@ -82,7 +82,8 @@ bool Press(ChartDrawState& state, MouseButton button, CPoint point, DragPurpose 
 /// The part of the chart that a press of the left button is for.
 enum class Part { None, Line, Legend, Cursor };
 
-/// Hands a press to the reference lines, to the legend and, with Ctrl, to the second cursor. The caller checks whether the chart still exists.
+/// Hands a press to the reference lines, to the legend and, with Ctrl, to the second cursor. The caller checks
+/// whether the chart still exists.
 Part PressPart(ChartDrawState& state, CPoint point) {
     if (state.PressReference(point)) {
         Press(state, MouseButton::Left, point, DragPurpose::Object);

@@ -216,6 +216,7 @@ TEST_F(ChartInputTest, DraggingPansAndBoxesZoom) {
         Mouse(WM_MOUSEMOVE, to);
         ExpectView(panned, "during the drag");
         EXPECT_EQ(::GetCapture(), chart.m_hWnd);
+        ::SetCapture(chart.m_hWnd); // sends WM_CAPTURECHANGED too
         if (keeps)
             ::SetCapture(parent.m_hWnd);
         else
@@ -373,7 +374,10 @@ TEST_F(ChartInputTest, TheViewFollowsTheNewestDataInSight) {
                ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kLongest, QS_ALLINPUT) == WAIT_OBJECT_0)
             testkit::Pump();
     };
-    append(101, 50);
+    chart.AddData(0, 101, 0);
+    chart.CalcDatas(); // a paint does not wait for the message
+    ExpectView({11, 111, Now()[2], Now()[3]}, "one more point");
+    append(102, 49);
     EXPECT_EQ(Told(), 1);
     ExpectView({60, 160, Now()[2], Now()[3]}, "more data");
     Drag(Middle(), Middle() + CPoint(90, 0)); // looks back

@@ -116,7 +116,8 @@ int CChartCursor::GetDataset(int nCursor) const {
 
 int CChartCursor::GetSample(int nCursor, int nDataset) const {
     const CChartDraw& chart = m_State->chart;
-    return chart.IsDataset(nDataset) ? m_State->Read(*chart.m_State, nCursor, nDataset).sample : -1;
+    const CursorReading own = m_State->Read(*chart.m_State, nCursor);
+    return chart.IsDataset(nDataset) ? ChartCursorState::ReadAt(*chart.m_State, own, nDataset).sample : -1;
 }
 
 BOOL CChartCursor::MoveBySamples(int nCursor, int nSamples) {
@@ -125,10 +126,11 @@ BOOL CChartCursor::MoveBySamples(int nCursor, int nSamples) {
 
 BOOL CChartCursor::GetStatistics(int nDataset, ChartStatistics& statistics) const {
     const ChartDrawState& state = *m_State->chart.m_State;
-    if (!m_State->chart.IsDataset(nDataset) || !m_State->Read(state, 0).IsValid() ||
-        !m_State->Read(state, 1).IsValid())
+    const CursorReading first = m_State->Read(state, 0);
+    const CursorReading second = m_State->Read(state, 1);
+    if (!m_State->chart.IsDataset(nDataset) || !first.IsValid() || !second.IsValid())
         return FALSE;
-    statistics = m_State->Statistics(state, nDataset);
+    statistics = ChartCursorState::Statistics(state, first, second, nDataset);
     return TRUE;
 }
 
@@ -183,7 +185,8 @@ bool ChartDrawState::StepCursor(int nSamples, int nDatasets) {
         return reading.IsValid();
     const int direction = nDatasets < 0 ? -1 : 1;
     for (int i = reading.dataset + direction; i >= 0 && i < DatasetCount(); i += direction) {
-        const CursorReading other = Dataset(i).visible ? state.Read(*this, shown, i) : CursorReading();
+        const CursorReading other =
+            Dataset(i).visible ? ChartCursorState::ReadAt(*this, reading, i) : CursorReading();
         if (!other.IsValid())
             continue;
         state.Set(*this, shown, other);

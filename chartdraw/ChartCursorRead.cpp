@@ -53,8 +53,7 @@ CursorReading ChartCursorState::Read(const ChartDrawState& state, int cursor) co
     return sample >= 0 ? ReadingOf(state, dataset, sample) : Nearest(state, place.x, nullptr);
 }
 
-CursorReading ChartCursorState::Read(const ChartDrawState& state, int cursor, int dataset) const {
-    const CursorReading own = Read(state, cursor);
+CursorReading ChartCursorState::ReadAt(const ChartDrawState& state, const CursorReading& own, int dataset) {
     if (!own.IsValid() || own.dataset == dataset)
         return own;
     const double x = state.ToDataset(state.Dataset(dataset), own.x);
@@ -116,16 +115,15 @@ bool ChartCursorState::Set(const ChartDrawState& state, int cursor, const Cursor
            before.point.y != place.point.y;
 }
 
-ChartStatistics ChartCursorState::Statistics(const ChartDrawState& state, int dataset) const {
+ChartStatistics ChartCursorState::Statistics(const ChartDrawState& state, const CursorReading& first,
+                                             const CursorReading& second, int dataset) {
     const ChartDrawState::ChartDataset& record = state.Dataset(dataset);
-    const auto bound = [&](int cursor) {
-        const CursorReading own = Read(state, cursor);
+    const auto bound = [&](const CursorReading& own) { // x of an own sample needs no conversion, which rounds
         return own.dataset == dataset ? own.point.x : state.ToDataset(record, own.x);
     };
-    const double first = bound(0);
-    const double second = bound(1);
-    const SpanStatistics found =
-        StatisticsBetween(record.points, std::min(first, second), std::max(first, second));
+    const double a = bound(first);
+    const double b = bound(second);
+    const SpanStatistics found = StatisticsBetween(record.points, std::min(a, b), std::max(a, b));
     return {found.count, found.min, found.max, found.mean, found.first, found.last};
 }
 

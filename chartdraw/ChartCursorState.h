@@ -55,8 +55,8 @@ struct ChartCursorState {
     }
     /// The sample that a cursor is at: the one where it has been set, or else the nearest one in x.
     CursorReading Read(const ChartDrawState& state, int cursor) const;
-    /// The sample of a dataset nearest in x to a cursor.
-    CursorReading Read(const ChartDrawState& state, int cursor, int dataset) const;
+    /// The sample of a dataset nearest in x to the sample of a cursor.
+    static CursorReading ReadAt(const ChartDrawState& state, const CursorReading& own, int dataset);
     /// The sample nearest in x to `x` among the visible datasets, of equally near ones that of `preferred`.
     static CursorReading Nearest(const ChartDrawState& state, double x,
                                  const ChartDrawState::ChartDataset* preferred);
@@ -64,8 +64,9 @@ struct ChartCursorState {
     CursorReading Nearest(const ChartDrawState& state, CPoint point) const;
     /// Sets a cursor to a sample, or hides it. Whether that is a change.
     bool Set(const ChartDrawState& state, int cursor, const CursorReading& reading);
-    /// Figures of a dataset between the cursors, which are both shown.
-    ChartStatistics Statistics(const ChartDrawState& state, int dataset) const;
+    /// Figures of a dataset between the samples of the cursors.
+    static ChartStatistics Statistics(const ChartDrawState& state, const CursorReading& first,
+                                      const CursorReading& second, int dataset);
 };
 
 } // namespace kavlix

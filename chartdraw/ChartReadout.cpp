@@ -36,45 +36,49 @@ void AddPoint(const ChartDrawState& state, const CursorReading& reading, std::ve
         points.push_back({*x, *y});
 }
 
-/// The datasets of a readout: that of the cursor, or in the mode All each visible one with a sample.
-std::vector<int> DatasetsOf(const ChartDrawState& state, const ChartCursorState& cursors, int cursor) {
+/// The samples of a readout: that of the cursor, or in the mode All that of each visible dataset.
+std::vector<CursorReading> ReadDatasets(const ChartDrawState& state, const ChartCursorState& cursors,
+                                        const CursorReading& own) {
     if (cursors.mode != CChartCursor::All)
-        return {cursors.Read(state, cursor).dataset};
-    std::vector<int> datasets;
+        return {own};
+    std::vector<CursorReading> readings;
     for (int i = 0; i < state.DatasetCount(); ++i)
-        if (state.Dataset(i).visible && cursors.Read(state, cursor, i).IsValid())
-            datasets.push_back(i);
-    return datasets;
+        if (state.Dataset(i).visible)
+            readings.push_back(ChartCursorState::ReadAt(state, own, i));
+    const auto isEmpty = [](const CursorReading& reading) { return !reading.IsValid(); };
+    readings.erase(std::remove_if(readings.begin(), readings.end(), isEmpty), readings.end());
+    return readings;
 }
 
 /// The values at one cursor.
-ChartReadout ReadOne(ChartDrawState& state, const ChartCursorState& cursors, int cursor) {
+ChartReadout ReadOne(ChartDrawState& state, const ChartCursorState& cursors, const CursorReading& own) {
     ChartReadout readout;
-    const CursorReading own = cursors.Read(state, cursor);
     const CString x = ValueText(state, ChartDrawState::kX, own.x);
     readout.titles.push_back(x);
     AddPoint(state, own, readout.points);
-    for (const int i : DatasetsOf(state, cursors, cursor)) {
-        const CursorReading reading = cursors.Read(state, cursor, i);
+    bool hasOwnX = false;
+    for (const CursorReading& reading : ReadDatasets(state, cursors, own)) {
         AddPoint(state, reading, readout.points);
-        const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
+        const ChartDrawState::ChartDataset& dataset = state.Dataset(reading.dataset);
         // The x of a sample is told only where it differs from that of the cursor.
-        const CString ownX = ValueText(state, ChartDrawState::kX, reading.x);
+        const CString ownX = reading.x == own.x ? CString() : ValueText(state, ChartDrawState::kX, reading.x);
+        const bool isOther = !ownX.IsEmpty() && ownX != x;
+        hasOwnX = hasOwnX || isOther;
         readout.rows.push_back(
-            {dataset.color, {dataset.name, YText(state, i, reading.point.y), ownX == x ? CString() : ownX}});
+            {dataset.color,
+             {dataset.name, YText(state, reading.dataset, reading.point.y), isOther ? ownX : CString()}});
     }
-    const auto hasOwnX = [](const ChartReadout::Row& row) { return !row.cells.back().IsEmpty(); };
-    if (std::none_of(readout.rows.begin(), readout.rows.end(), hasOwnX))
+    if (!hasOwnX)
         for (ChartReadout::Row& row : readout.rows)
             row.cells.pop_back();
     return readout;
 }
 
 /// The texts of the figures of a dataset between both cursors.
-std::vector<CString> FigureTexts(ChartDrawState& state, const ChartCursorState& cursors, int dataset) {
-    const ChartStatistics figures = cursors.Statistics(state, dataset);
-    const double difference =
-        cursors.Read(state, 1, dataset).point.y - cursors.Read(state, 0, dataset).point.y;
+std::vector<CString> FigureTexts(ChartDrawState& state, const CursorReading (&ends)[2], int dataset) {
+    const ChartStatistics figures = ChartCursorState::Statistics(state, ends[0], ends[1], dataset);
+    const double difference = ChartCursorState::ReadAt(state, ends[1], dataset).point.y -
+                              ChartCursorState::ReadAt(state, ends[0], dataset).point.y;
     CString count;
     count.Format(_T("%I64d"), figures.count);
     const auto text = [&](double value) { return YText(state, dataset, value); };
@@ -82,9 +86,9 @@ std::vector<CString> FigureTexts(ChartDrawState& state, const ChartCursorState& 
 }
 
 /// The figures between both cursors: of one dataset below one another, of several ones in a table.
-ChartReadout ReadSpan(ChartDrawState& state, const ChartCursorState& cursors) {
+ChartReadout ReadSpan(ChartDrawState& state, const ChartCursorState& cursors,
+                      const CursorReading (&ends)[2]) {
     ChartReadout readout;
-    const CursorReading ends[] = {cursors.Read(state, 0), cursors.Read(state, 1)};
     for (const CursorReading& end : ends) {
         readout.titles.push_back(ValueText(state, ChartDrawState::kX, end.x));
         AddPoint(state, end, readout.points);
@@ -99,10 +103,10 @@ ChartReadout ReadSpan(ChartDrawState& state, const ChartCursorState& cursors) {
         const int dataset = ends[0].dataset;
         for (int i = 0; i < ChartCursorState::kCursors; ++i)
             readout.titles[static_cast<std::size_t>(i)] +=
-                _T(":  ") + YText(state, dataset, cursors.Read(state, i, dataset).point.y);
+                _T(":  ") + YText(state, dataset, ChartCursorState::ReadAt(state, ends[i], dataset).point.y);
         if (!state.Dataset(dataset).name.IsEmpty())
             readout.titles.insert(readout.titles.begin(), state.Dataset(dataset).name);
-        const std::vector<CString> texts = FigureTexts(state, cursors, dataset);
+        const std::vector<CString> texts = FigureTexts(state, ends, dataset);
         for (std::size_t i = 0; i < labels.size(); ++i)
             readout.rows.push_back({CLR_NONE, {labels[i], texts[i]}});
         return readout;
@@ -113,18 +117,23 @@ ChartReadout ReadSpan(ChartDrawState& state, const ChartCursorState& cursors) {
     };
     readout.hasHeader = true;
     addRow(CLR_NONE, CString(), labels);
-    for (const int i : DatasetsOf(state, cursors, 0))
-        addRow(state.Dataset(i).color, state.Dataset(i).name, FigureTexts(state, cursors, i));
+    for (const CursorReading& reading : ReadDatasets(state, cursors, ends[0])) {
+        const ChartDrawState::ChartDataset& dataset = state.Dataset(reading.dataset);
+        addRow(dataset.color, dataset.name, FigureTexts(state, ends, reading.dataset));
+    }
     return readout;
 }
 
 } // namespace
 
 ChartReadout ReadCursors(ChartDrawState& state, const ChartCursorState& cursors) {
-    const bool isShown[] = {cursors.Read(state, 0).IsValid(), cursors.Read(state, 1).IsValid()};
-    if (isShown[0] && isShown[1])
-        return ReadSpan(state, cursors);
-    return isShown[0] || isShown[1] ? ReadOne(state, cursors, isShown[0] ? 0 : 1) : ChartReadout();
+    const CursorReading ends[] = {cursors.Read(state, 0), cursors.Read(state, 1)};
+    if (ends[0].IsValid() && ends[1].IsValid())
+        return ReadSpan(state, cursors, ends);
+    for (const CursorReading& end : ends)
+        if (end.IsValid())
+            return ReadOne(state, cursors, end);
+    return {};
 }
 
 } // namespace kavlix

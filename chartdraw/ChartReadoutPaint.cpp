@@ -26,15 +26,15 @@ constexpr double kReadoutSwatch = 0.8; // with the gap behind it
 constexpr double kLongestName = 20;
 constexpr double kLongestNameInTable = 12;
 
-void DrawRings(CDC& dc, const ChartDrawState& state, const ChartCursorState& cursors, int cursor) {
+void DrawRings(CDC& dc, const ChartDrawState& state, const ChartCursorState& cursors,
+               const CursorReading& own) {
     CBrush brush;
     brush.CreateSolidBrush(cursors.background);
-    const int own = cursors.Read(state, cursor).dataset;
     for (int i = 0; i < state.DatasetCount(); ++i) {
         const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
-        if (cursors.mode == CChartCursor::All ? !dataset.visible : i != own)
+        if (cursors.mode == CChartCursor::All ? !dataset.visible : i != own.dataset)
             continue;
-        const CursorReading reading = cursors.Read(state, cursor, i);
+        const CursorReading reading = ChartCursorState::ReadAt(state, own, i);
         const auto x = state.XMap(dataset).Position(reading.point.x);
         const auto y = state.YMap(dataset).Position(reading.point.y);
         if (!reading.IsValid() || !x || !y || !state.Plot().PtInRect(CPoint(*x, *y)))
@@ -65,7 +65,7 @@ void DrawCrosshair(CDC& dc, const ChartDrawState& state, const ChartCursorState&
     const auto y = state.YMap(dataset).Position(reading.point.y);
     if (y && cursors.mode == CChartCursor::Nearest)
         fill(CRect(plot.left, *y, plot.right, *y + 1));
-    DrawRings(dc, state, cursors, cursor);
+    DrawRings(dc, state, cursors, reading);
 }
 
 /// Paints the box of a readout at its place.

@@ -100,6 +100,8 @@ TEST(LegendLayoutTest, TextsAreWholeWhereThereIsRoomAndTheWidestIsShortenedFirst
     EXPECT_EQ(narrow.TextRoom(0), 30);
     EXPECT_EQ(narrow.TextRoom(1), 50);
     EXPECT_EQ(narrow.TextRoom(2), 70);
+    const LegendLayout exact(texts, sizes, across.Width(), 28, LegendLayout::Order::Across);
+    EXPECT_EQ(exact.Height(), 18) << "one row suffices";
     const LegendLayout wrapped(texts, sizes, 4 + 150 + 3 * 20 + 2 * 6 + 4, 28, LegendLayout::Order::Across);
     EXPECT_EQ(wrapped.Row(2).top, 14) << "a second row rather than dots";
     EXPECT_EQ(wrapped.TextRoom(2), 100);

@@ -101,6 +101,10 @@ BOOL WINAPI RefusePost(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
+BOOL WINAPI RefuseWrite(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED) {
+    return FALSE;
+}
+
 } // namespace
 
 // ---- Posting ----
@@ -404,7 +408,7 @@ TEST_F(LiveTest, SavedTablesHoldTheVisibleDatasetsAndReplaceFilesWhole) {
                            "C\",y2\r\n1970-01-01T00:00:01Z,2.5,7\r\n");
     EXPECT_FALSE(chart.SaveData(folder.Path("none\\b.csv").c_str(), FALSE));
     {
-        const testkit::ImportHook hook("Kavlix.dll", "WriteFile", reinterpret_cast<void*>(&RefusePost));
+        const testkit::ImportHook hook("Kavlix.dll", "WriteFile", reinterpret_cast<void*>(&RefuseWrite));
         ASSERT_TRUE(hook.Installed());
         EXPECT_FALSE(chart.SaveData(folder.Path("a.csv").c_str(), FALSE));
     }

@@ -43,6 +43,7 @@ struct FedChart {
         using CChartDraw::CalcDatas;
         using CChartDraw::m_rectPlot;
     } chart;
+    CChartDraw other;
 
 private:
     CString m_paths[2] = {g_path.c_str(), g_path.c_str()};
@@ -61,6 +62,11 @@ TEST(ChartMemoryTest, EveryOperationHappensWholeOrNotAtAll) {
         {"AddData to none", OnFailure::Reports, [](FedChart& s) { return s.chart.AddData(1, 1, 2) != 0; }},
         {"SetData", OnFailure::Reports,
          [](FedChart& s) { return s.chart.SetData(0, nullptr, values.data(), 1500) != 0; }},
+        {"InsertData", OnFailure::Reports, [](FedChart& s) { return s.chart.InsertData(0, 3.5, 2) != 0; }},
+        {"AddEvenData", OnFailure::Reports, [](FedChart& s) { return s.chart.AddEvenData(1, 2) != 0; }},
+        {"SetGapFactor", OnFailure::Reports, [](FedChart& s) { return s.chart.SetGapFactor(0, 3) != 0; }},
+        {"PostData", OnFailure::False, [](FedChart& s) { return s.chart.PostData(0, 1, 2) != 0; }},
+        {"LinkView", OnFailure::False, [](FedChart& s) { return s.chart.LinkView(&s.other) != 0; }},
         {"ResetData", OnFailure::Never, [](FedChart& s) { return s.chart.ResetData(0) != 0; }},
         {"RemoveDataset", OnFailure::Never, [](FedChart& s) { return s.chart.RemoveDataset(0) != 0; }},
         {"RemoveAllDatasets", OnFailure::Never,
@@ -73,6 +79,7 @@ TEST(ChartMemoryTest, EveryOperationHappensWholeOrNotAtAll) {
          [](FedChart& s) { return s.chart.Redraw(), s.chart.UpdateWindow(), true; }},
         {"CopyToClipboard", OnFailure::False, [](FedChart& s) { return s.chart.CopyToClipboard(); }},
         {"CopyToFile", OnFailure::False, [](FedChart& s) { return s.chart.CopyToFile(s.NextPath()); }},
+        {"SaveData", OnFailure::False, [](FedChart& s) { return s.chart.SaveData(s.NextPath(), FALSE); }},
         {"SaveImage", OnFailure::False, [](FedChart& s) { return s.chart.SaveImage(s.NextPath()); }},
     });
     EXPECT_GT(failures, 100);

@@ -60,8 +60,8 @@ struct LiveStage {
     PaintedChart chart;
 };
 
-/// Posts points from another thread, `batch` at a time, while this thread paints.
-void Post(int count, int batch, const std::string& name, Row& row) {
+/// Posts points from another thread, `batch` at a time and at most `mostPerSecond`, while this thread paints.
+void Post(int count, int batch, double mostPerSecond, const std::string& name, Row& row) {
     LiveStage live;
     std::atomic<int> posted{0};
     std::atomic<bool> isDone{false};
@@ -73,6 +73,8 @@ void Post(int count, int batch, const std::string& name, Row& row) {
         std::vector<double> ys(xs.size());
         int sent = 0;
         while (sent < count) {
+            while (batch > 1 && (Now() - begin) * mostPerSecond < sent * kMicrosecondsPerSecond)
+                std::this_thread::yield();
             for (std::size_t i = 0; i < xs.size(); ++i) {
                 xs[i] = kFirstTime + (sent + static_cast<int>(i)) / LiveStage::kPerSecond;
                 ys[i] = (sent + static_cast<int>(i)) % 100 * 0.02;
@@ -122,8 +124,11 @@ void ChartPost() {
     constexpr int kPoints = 30000000;
     constexpr int kBatch = 1000;
     Row row("chart_post");
-    Post(kPoints / 3, 1, "single", row);
-    Post(kPoints, kBatch, "batch", row);
+    constexpr double kPerSecond = 5e6;
+    constexpr double kUnlimited = 1e12;
+    Post(kPoints / 2, kBatch, kPerSecond, "paced", row);
+    Post(kPoints / 3, 1, kUnlimited, "single", row);
+    Post(kPoints, kBatch, kUnlimited, "batch", row);
     row.Print();
 }
 

@@ -46,7 +46,7 @@ BEGIN_MESSAGE_MAP(CChartPage, CMonitorPage)
 
     ON_COMMAND_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_LATER, &CChartPage::OnViewRange)
     ON_COMMAND(ID_VIEW_FULL_RANGE, &CChartPage::OnFit)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_FULL_RANGE, &CChartPage::OnUpdateViewRange)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ZOOM_IN, ID_VIEW_FULL_RANGE, &CChartPage::OnUpdateWithSamples)
     ON_COMMAND(ID_CHART_FIT, &CChartPage::OnFit)
     ON_UPDATE_COMMAND_UI(ID_CHART_FIT, &CChartPage::OnUpdateWithSamples)
     ON_COMMAND(ID_CHART_BACK, &CChartPage::OnBack)
@@ -187,7 +187,9 @@ void CChartPage::OnCursor(NMHDR* pNMHDR, LRESULT* pResult) {
 }
 
 void CChartPage::OnView(NMHDR*, LRESULT* pResult) {
-    Host().ShowSelection();
+    // The view of live readings moves by itself, and the status bar does not tell it: a notice stays.
+    if (!Content().live)
+        Host().ShowSelection();
     *pResult = 0;
 }
 

@@ -52,7 +52,6 @@ protected:
     afx_msg void OnClearMark();
     afx_msg void OnUpdateClearMark(CCmdUI* pCmdUI);
     afx_msg void OnUpdateWithSamples(CCmdUI* pCmdUI);
-    afx_msg void OnUpdateViewRange(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -102,15 +102,11 @@ void CChartPage::OnLegend() {
 
 void CChartPage::OnUpdateLegend(CCmdUI* pCmdUI) {
     pCmdUI->SetCheck(m_chart.IsOverTime() && Content().settings.legend);
-    OnUpdateViewRange(pCmdUI);
+    pCmdUI->Enable(m_chart.IsOverTime() && m_chart.HasSamples());
 }
 
 void CChartPage::OnViewRange(UINT nID) {
     m_chart.SendMessage(WM_KEYDOWN, kViewKeys[nID - ID_VIEW_ZOOM_IN]);
-}
-
-void CChartPage::OnUpdateViewRange(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(m_chart.IsOverTime() && m_chart.HasSamples());
 }
 
 void CChartPage::OnFit() {
@@ -124,12 +120,15 @@ void CChartPage::OnBack() {
 }
 
 void CChartPage::OnNewest() {
-    m_chart.FollowNewest();
+    if (Content().live && m_chart.IsOverTime())
+        m_chart.FollowNewest();
+    else
+        m_chart.SendMessage(WM_KEYDOWN, VK_END);
 }
 
 void CChartPage::OnUpdateNewest(CCmdUI* pCmdUI) {
     pCmdUI->SetCheck(m_chart.GetXAxis().GetRangeMode() == CChartAxis::Follow);
-    pCmdUI->Enable(Content().live != nullptr && m_chart.IsOverTime() && m_chart.HasSamples());
+    OnUpdateWithSamples(pCmdUI);
 }
 
 void CChartPage::OnClearMark() {

@@ -58,7 +58,7 @@ bool MoveByKey(ChartDrawState& state, UINT key, bool isControl) {
     };
     const double panX = input.Has(CChartDraw::ViewPanX) ? towards(ChartDrawState::kX, move->panX) : 0;
     const double panY = input.Has(CChartDraw::ViewPanY) ? towards(ChartDrawState::kY, move->panY) : 0;
-    const AxisSet zoomed = input.ZoomAxes() & move->zoomed;
+    const AxisSet zoomed = move->zoomed == kAllAxes ? input.PlainZoomAxes() : input.ZoomAxes() & move->zoomed;
     if (panX == 0 && panY == 0 && zoomed == 0)
         return false;
     MoveView(state, GestureKind::Key, ViewCause::User, [&](ChartView& view) {

@@ -242,8 +242,12 @@ void CChartAxis::GetRange(double& dMin, double& dMax) const {
 // ---- The chart's members ----
 
 void CChartDraw::SetViewFlags(UINT nFlags) {
-    EndDrag(*m_State, false);
-    m_State->input->flags = nFlags;
+    ChartInputState& input = *m_State->input;
+    input.flags = nFlags;
+    const DragPurpose purpose = input.pointer.Purpose();
+    if ((purpose == DragPurpose::Pan && input.PanAxes() == 0) ||
+        (purpose == DragPurpose::Box && input.ZoomAxes() == 0))
+        EndDrag(*m_State, false);
 }
 
 UINT CChartDraw::GetViewFlags() const {

@@ -28,7 +28,7 @@ AxisSet WheelAxes(const ChartDrawState& state, CPoint point, bool isControl) {
     const AxisSet axes = state.input->ZoomAxes();
     if (isControl || (isBeside && !isAboveOrBelow))
         return axes & kAxesY;
-    return isAboveOrBelow && !isBeside ? axes & kAxisX : axes;
+    return isAboveOrBelow && !isBeside ? axes & kAxisX : state.input->PlainZoomAxes();
 }
 
 /// Results as ViewChanged.

@@ -36,6 +36,11 @@ struct ChartInputState {
     /// The axes that the user can zoom and pan.
     AxisSet ZoomAxes() const { return Axes(CChartDraw::ViewZoomX, CChartDraw::ViewZoomY); }
     AxisSet PanAxes() const { return Axes(CChartDraw::ViewPanX, CChartDraw::ViewPanY); }
+    /// The axes that the wheel over the plot and the keys + and - zoom.
+    AxisSet PlainZoomAxes() const {
+        const AxisSet axes = ZoomAxes();
+        return (axes & kAxisX) != 0 && !Has(CChartDraw::ViewZoomBoth) ? kAxisX : axes;
+    }
     bool Has(UINT flag) const { return (flags & flag) != 0; }
 
 private:

@@ -19,21 +19,6 @@ namespace {
 constexpr COLORREF kMarkColor = RGB(200, 0, 0);
 constexpr int kFontSize = 90; // size of the texts, in tenths of a point
 
-/// While one exists, the user cannot zoom the scale of values: over time, the wheel and the keys + and - zoom time.
-class TimeZoom {
-public:
-    explicit TimeZoom(CMonitorChart& chart) : m_chart(chart) {
-        if (chart.IsOverTime())
-            chart.SetViewFlags(CChartDraw::ViewAll & ~static_cast<UINT>(CChartDraw::ViewZoomY));
-    }
-    ~TimeZoom() { m_chart.SetViewFlags(CChartDraw::ViewAll); }
-    TimeZoom(const TimeZoom&) = delete;
-    TimeZoom& operator=(const TimeZoom&) = delete;
-
-private:
-    CMonitorChart& m_chart;
-};
-
 bool IsPoint(const ChartPoint& point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
 }
@@ -46,14 +31,12 @@ BEGIN_MESSAGE_MAP(CMonitorChart, CChartDraw)
 
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
-    ON_WM_MOUSEWHEEL()
 
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
 
 bool CMonitorChart::CreateChild(CWnd& parent, UINT id) {
     SetTextFont(kFontSize, kFontFace);
-    SetViewFlags(ViewAll);
     return Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id) != FALSE;
 }
 
@@ -146,26 +129,13 @@ void CMonitorChart::OnLButtonUp(UINT nFlags, CPoint point) {
     NotifyParent(*this, MCN_SELECTION);
 }
 
-BOOL CMonitorChart::OnMouseWheel(UINT nFlags, short zDelta, CPoint point) {
-    CPoint inClient = point;
-    ScreenToClient(&inClient);
-    if ((nFlags & MK_CONTROL) != 0 || !m_rectPlot.PtInRect(inClient))
-        return CChartDraw::OnMouseWheel(nFlags, zDelta, point);
-    const TimeZoom onlyTime(*this);
-    return CChartDraw::OnMouseWheel(nFlags, zDelta, point);
-}
-
 void CMonitorChart::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
-    const bool isControl = ::GetKeyState(VK_CONTROL) < 0;
-    if (!isControl && (nChar == VK_RIGHT || nChar == VK_LEFT)) {
+    if (::GetKeyState(VK_CONTROL) >= 0 && (nChar == VK_RIGHT || nChar == VK_LEFT)) {
         Step(nChar == VK_RIGHT ? 1 : -1);
     } else if (nChar == VK_ESCAPE && Marked()) {
         Mark({});
         NotifyParent(*this, MCN_SELECTION);
-    } else if (isControl) {
-        CChartDraw::OnKeyDown(nChar, nRepCnt, nFlags);
     } else {
-        const TimeZoom onlyTime(*this);
         CChartDraw::OnKeyDown(nChar, nRepCnt, nFlags);
     }
 }

@@ -50,6 +50,7 @@ ChartStyle CMonitorChart::Style() const {
 void CMonitorChart::Show(ChartPicture picture, bool asNew) {
     const bool newSamples = asNew || picture.recording != m_picture.recording;
     m_picture = std::move(picture);
+    SetViewFlags(IsOverTime() ? ViewAll : ViewAll | ViewZoomBoth);
     m_points.clear();
     m_marked.reset();
     GetReferences().RemoveAll();

@@ -250,8 +250,11 @@ public:
         ViewKeys = 0x10,  ///< do by keys what the mouse is allowed to; the chart takes the focus at a click
         ViewMenu = 0x20,  ///< context menu with Copy, Save picture, Save data, Fit, Back
         ViewMenuPrint = 0x40, ///< the menu has Print too, see CDN_PRINT
-        ViewTime = 0x35,      ///< for values over time: X by mouse and keys, and the menu
-        ViewAll = 0x3F        ///< everything but Print
+        /// With ViewZoomX and ViewZoomY, the wheel over the plot and the keys + and - zoom the Y axes together with X.
+        /// Without it they zoom X alone.
+        ViewZoomBoth = 0x80,
+        ViewTime = 0x35, ///< for values over time: X by mouse and keys, and the menu
+        ViewAll = 0x3F   ///< everything but ViewMenuPrint and ViewZoomBoth
     };
     /// What the user can do to the view by mouse, touch pad and keyboard, flags of ViewFlags. The guide has a table of
     /// mouse and keys. The parent is told every change by CDN_VIEW. Without ViewFlags the cursors, the legend and movable

@@ -39,7 +39,7 @@ protected:
         parent.SetRecordSize(sizeof(NMCHARTDRAW));
         ASSERT_TRUE(m_menu.Installed());
         MenuLoop::chosen = 0;
-        chart.SetViewFlags(CChartDraw::ViewAll);
+        chart.SetViewFlags(CChartDraw::ViewAll | CChartDraw::ViewZoomBoth);
         std::vector<double> values(101);
         for (std::size_t i = 0; i < values.size(); ++i)
             values[i] = std::sin(static_cast<double>(i) / 8);
@@ -182,6 +182,12 @@ TEST_F(ChartInputTest, TheWheelZoomsAtThePointerAndPans) {
         chart.FitView();
         Settle();
     }
+    chart.SetViewFlags(CChartDraw::ViewAll);
+    Wheel(120, at);
+    ExpectView({left, right, whole[2], whole[3]}, "X alone");
+    chart.FitView();
+    Key(VK_ADD);
+    ExpectView({10, 90, whole[2], whole[3]}, "X alone");
     // The cursor stays under the pointer.
     chart.GetCursor().SetMode(CChartCursor::All);
     Mouse(WM_MOUSEMOVE, at);

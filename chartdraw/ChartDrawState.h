@@ -18,6 +18,7 @@ struct AxisLayout;      // chartdraw/AxisLayout.h: ticks and texts of an axis
 struct ChartInputState; // chartdraw/ChartInputState.h: view, history, gestures
 struct CsvTable;        // chartdraw/core/CsvWriter.h: what is saved
 struct LinkedRange;
+struct DrawnDataset;    // chartdraw/DatasetPainter.h
 struct ChartLinkState; // chartdraw/ChartLink.h: the charts that share an X view
 class PostQueue;       // chartdraw/core/PostQueue.h: points of other threads
 
@@ -78,6 +79,8 @@ struct ChartDrawState {
     void DrawZoomBox(CDC& dc); ///< ChartDrawInput.cpp
     /// Whether the dataset is drawn in a highlighted way: the mouse is over its row in the legend (ChartLegend.cpp).
     bool IsHighlighted(int nDataset) const;
+    /// What DatasetPainter draws of a dataset (ChartDrawPaintData.cpp).
+    DrawnDataset Drawn(const CChartDraw::Dataset& dataset) const;
     /// Selects the font of the chart's texts for the time of the result.
     BOOL MakeTextFont(CFont& font) const { return chart.MakeTextFont(font, 0, false); }
     int TextHeight() const { return chart.m_TextHeight; } ///< of the last layout, pixels

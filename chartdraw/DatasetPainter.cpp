@@ -88,7 +88,7 @@ const ColumnBorders& DatasetPainter::BordersOf(const AxisMap& xMap, const Rect& 
 
 void DatasetPainter::Walk(const DrawnDataset& dataset, const Rect& view, PixelPath& path,
                           PixelSet& lonePixels) {
-    ChartLine line(path, lonePixels);
+    ChartLine line(path, lonePixels, dataset.isStepped ? ChartLine::Steps : ChartLine::Straight);
     Reduce(dataset.points, BordersOf(dataset.xMap, view), dataset.yMap, view, line);
 }
 

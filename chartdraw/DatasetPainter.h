@@ -16,6 +16,8 @@
 
 namespace kavlix {
 
+class BarShape;
+class ColumnRows;
 class PixelPath;
 class PixelSet;
 
@@ -27,6 +29,7 @@ struct DrawnDataset {
     COLORREF color;
     int lineSize; ///< pixels; 0 and 1 both draw one pixel
     CDataset::MarkerType markerType;
+    bool isStepped; ///< the line goes horizontally, then vertically
 };
 
 /// Draws datasets into one plot of a DC. What all of them need is found only once: the pixels of the DC, if they can
@@ -40,11 +43,22 @@ public:
 
     /// Draws the line, cut at the plot's edges.
     void DrawLine(const DrawnDataset& dataset);
+    /// Fills the area from the line to `baseline`.
+    void DrawArea(const DrawnDataset& dataset, double baseline, COLORREF color);
+    /// Fills the area between the lines of two datasets.
+    void DrawArea(const DrawnDataset& dataset, const DrawnDataset& other, COLORREF color);
+    /// Draws bars from `baseline` to each point, `width` wide in units of x and at least a pixel.
+    void DrawBars(const DrawnDataset& dataset, double baseline, double width, COLORREF color);
+    /// Draws strokes from `baseline` to each point, as wide as the line.
+    void DrawImpulses(const DrawnDataset& dataset, double baseline);
     /// Draws a marker at each point inside the plot.
     void DrawMarkers(const DrawnDataset& dataset);
 
 private:
     const ColumnBorders& BordersOf(const AxisMap& xMap, const Rect& view);
+    ColumnRows OutlineOf(const DrawnDataset& dataset);
+    void DrawBars(const DrawnDataset& dataset, double baseline, const BarShape& bars, COLORREF color);
+    void Fill(const ColumnRows& rows, COLORREF color);
     void Walk(const DrawnDataset& dataset, const Rect& view, PixelPath& path, PixelSet& lonePixels);
     void DrawByGdi(const DrawnDataset& dataset, const Rect& view, PixelSet& lonePixels);
 

@@ -44,7 +44,14 @@ void ChartLine::Add(double x, double y) {
         End();
         return;
     }
-    const Place place{std::clamp(x, -kFarthest, kFarthest), std::clamp(y, -kFarthest, kFarthest)};
+    const double farthestY = m_mode == Straight || m_mode == Steps ? kFarthest : kNear;
+    const Place place{std::clamp(x, -kFarthest, kFarthest), std::clamp(y, -farthestY, farthestY)};
+    if (m_started && IsStepped())
+        AddPlace({place.x, m_last.y});
+    AddPlace(place);
+}
+
+void ChartLine::AddPlace(const Place& place) {
     if (m_started && !(IsNear(m_last) && IsNear(place))) {
         m_isLone = false;
         AddCut(place);
@@ -55,6 +62,8 @@ void ChartLine::Add(double x, double y) {
         m_isLone = (m_isLone || !m_started) && pixel == m_first;
         m_path.Add(pixel);
     }
+    if (IsNear(place))
+        m_lastPixel = ToPixel(place.x, place.y);
     m_last = place;
     m_isLastNear = IsNear(place);
     m_started = true;

@@ -16,10 +16,18 @@ namespace kavlix {
 /// position that is not a number makes a gap in the line.
 class ChartLine {
 public:
+    /// How a line leads from point to point.
+    enum Mode {
+        Straight,      ///< by straight strokes
+        Steps,         ///< horizontally to the x of the next point, then vertically
+        Outline,       ///< as Straight, but y are limited to the range of GDI, so that each column has pixels
+        SteppedOutline ///< as Steps, with limited y
+    };
     /// `path` and `lonePixels` must outlive the line. The visible part of the path must lie within
     /// 32,000 pixels of (0, 0). A line whose points all fall on one pixel has no stroke; its pixel is
     /// added to `lonePixels`.
-    ChartLine(PixelPath& path, PixelSet& lonePixels) : m_path(path), m_lonePixels(lonePixels) {}
+    ChartLine(PixelPath& path, PixelSet& lonePixels, Mode mode = Straight)
+        : m_path(path), m_lonePixels(lonePixels), m_mode(mode) {}
     ChartLine(const ChartLine&) = delete;
     ChartLine& operator=(const ChartLine&) = delete;
 
@@ -38,9 +46,12 @@ public:
             return false;
         if (!m_started)
             m_first = pixel;
+        else if (IsStepped())
+            m_path.Add({pixel.x, m_lastPixel.y});
         m_isLone = (m_isLone || !m_started) && pixel == m_first;
         m_path.Add(pixel);
         m_started = m_isLastNear = true;
+        m_lastPixel = pixel;
         return true;
     }
     /// Sets the exact position of the last point, which AddNear has added.
@@ -64,6 +75,8 @@ private:
 
     static constexpr double kNear = kNearest;
 
+    bool IsStepped() const { return m_mode == Steps || m_mode == SteppedOutline; }
+    void AddPlace(const Place& place);
     static bool IsNear(const Place& place) { return IsNear(place.x) && IsNear(place.y); }
     static void Narrow(double start, double step, double& from, double& to);
     static double Along(double start, double step, double part);
@@ -71,7 +84,9 @@ private:
 
     PixelPath& m_path;
     PixelSet& m_lonePixels;
+    Mode m_mode;
     Place m_last;
+    Point m_lastPixel;         ///< pixel of the last point, if that is near
     Point m_first;             ///< pixel of the line's first point
     bool m_isLone = false;     ///< the line has points, and all of them fall on m_first
     bool m_started = false;    ///< the line has a point

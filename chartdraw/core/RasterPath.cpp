@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "chartdraw/core/StrokeColumns.h"
+
 namespace kavlix {
 namespace {
 
@@ -92,45 +94,8 @@ void RasterPath::FindCommonRows(std::size_t block) {
 /// Paints the same pixels as PixelRaster::Stroke, but only in the columns from `first` to `last`. The stroke
 /// must cross these columns.
 void RasterPath::PaintColumns(const Point& from, const Point& to, int first, int last) {
-    const bool isLeftwards = to.x < from.x;
-    const bool isUpwards = to.y < from.y;
-    const std::int64_t dx = std::llabs(std::int64_t{to.x} - from.x);
-    const std::int64_t dy = std::llabs(std::int64_t{to.y} - from.y);
-    const int way = isUpwards ? -1 : 1;
-    const int count = last - first + 1;
-    const int begin = isLeftwards ? last : first;
-    const std::int64_t start = std::llabs(std::int64_t{begin} - from.x);
-    if (dy > dx) {
-        // Halfway between two pixels, the line takes the smaller coordinate.
-        const std::int64_t atHalf = isLeftwards ? 0 : 1;
-        const auto stepOf = [&](std::int64_t column) {
-            return column == 0 ? 0 : std::min(((2 * column - 1) * dy + atHalf + 2 * dx - 1) / (2 * dx), dy);
-        };
-        std::int64_t step = stepOf(start);
-        for (int i = 0; i < count; ++i) {
-            const std::int64_t next = stepOf(start + i + 1);
-            if (next > step) {
-                const int a = from.y + way * static_cast<int>(step);
-                const int b = from.y + way * static_cast<int>(next - 1);
-                PaintColumn(isLeftwards ? begin - i : begin + i, std::min(a, b), std::max(a, b));
-            }
-            step = next;
-        }
-        return;
-    }
-    const std::int64_t atHalf = isUpwards ? 0 : 1;
-    std::int64_t error = 2 * start * dy + dx - atHalf;
-    const std::int64_t moves = error / (2 * dx);
-    error -= moves * 2 * dx;
-    int y = from.y + way * static_cast<int>(moves);
-    for (int i = 0; i < count && start + i < dx; ++i) {
-        PaintColumn(isLeftwards ? begin - i : begin + i, y, y);
-        error += 2 * dy;
-        if (error >= 2 * dx) {
-            error -= 2 * dx;
-            y += way;
-        }
-    }
+    VisitStrokeColumns(
+        from, to, first, last, [this](int x, int top, int bottom) { PaintColumn(x, top, bottom); });
 }
 
 void RasterPath::PaintColumn(int x, int top, int bottom) {

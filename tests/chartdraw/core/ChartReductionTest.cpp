@@ -35,7 +35,8 @@ struct Canvas {
     }
 };
 
-void WalkAll(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
+void WalkAll(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, ChartLine::Mode mode,
+             Canvas& canvas) {
     std::vector<Point> part;
     const auto flush = [&] {
         if (part.size() > 1)
@@ -49,6 +50,8 @@ void WalkAll(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap
             flush();
         const auto x = xMap.Position(series[i].x);
         const auto y = yMap.Position(series[i].y);
+        if (x && y && mode == ChartLine::Steps && !part.empty())
+            part.push_back({*x, part.back().y});
         if (x && y)
             part.push_back({*x, *y});
         else
@@ -57,15 +60,17 @@ void WalkAll(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap
     flush();
 }
 
-void WalkReduced(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
+void WalkReduced(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, ChartLine::Mode mode,
+                 Canvas& canvas) {
     ReducedPath path(kView, [&](const Point* points, int count) { canvas.Draw(points, count); });
-    ChartLine line(path, canvas.lone);
+    ChartLine line(path, canvas.lone, mode);
     Reduce(series, ColumnBorders(xMap, kView.left, kView.right), yMap, kView, line);
 }
 
-void WalkPainted(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
+void WalkPainted(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, ChartLine::Mode mode,
+                 Canvas& canvas) {
     RasterPath path(canvas.raster, kInk);
-    ChartLine line(path, canvas.lone);
+    ChartLine line(path, canvas.lone, mode);
     Reduce(series, ColumnBorders(xMap, kView.left, kView.right), yMap, kView, line);
 }
 
@@ -80,9 +85,10 @@ std::string FirstDifference(const Canvas& a, const Canvas& b) {
 }
 
 /// As WalkAll, for points so far away that their strokes must be cut.
-void WalkFar(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, Canvas& canvas) {
+void WalkFar(const ChartSeries& series, const AxisMap& xMap, const AxisMap& yMap, ChartLine::Mode mode,
+             Canvas& canvas) {
     ReducedPath path(kView, [&](const Point* points, int count) { canvas.Draw(points, count); });
-    ChartLine line(path, canvas.lone);
+    ChartLine line(path, canvas.lone, mode);
     for (int i = 0; i < series.Size(); ++i) {
         if (series.IsGapBefore(i))
             line.End();
@@ -144,14 +150,16 @@ TEST(ChartReduction, DrawsWhatTheWholeLineDraws) {
         const AxisMap xMap(isLogX, left, right, oneIn(4) ? -3 : 0, kWidth - 1);
         const AxisMap yMap(isLogY, low, high, kHeight - 1, 1 - kHeight);
         Canvas reduced, painted, whole;
-        WalkReduced(series, xMap, yMap, reduced);
-        WalkPainted(series, xMap, yMap, painted);
-        (far > 0 ? WalkFar : WalkAll)(series, xMap, yMap, whole);
+        const ChartLine::Mode mode = oneIn(3) ? ChartLine::Steps : ChartLine::Straight;
+        WalkReduced(series, xMap, yMap, mode, reduced);
+        WalkPainted(series, xMap, yMap, mode, painted);
+        (far > 0 ? WalkFar : WalkAll)(series, xMap, yMap, mode, whole);
         for (Canvas* canvas : {&whole, &reduced, &painted}) {
             canvas->lone.Visit([&](Point at) { canvas->raster.Run(at.x, at.y, at.y, 2 * kInk); });
             ASSERT_EQ(FirstDifference(*canvas, whole), "")
                 << "round " << round << ", " << count << " points, sorted " << series.IsSorted() << isEven
-                << isLogX << isLogY << " far " << far << " gaps " << gaps << " limit " << series.GapLimit();
+                << isLogX << isLogY << mode << " far " << far << " gaps " << gaps << " limit "
+                << series.GapLimit();
         }
     }
 }
@@ -169,7 +177,8 @@ TEST(ChartReduction, HandsOnWhatThePixelsTake) {
     } views[] = {{"all", 0, count, 6 * kWidth}, {"inside", 150000, 150100, 200}, {"behind", 4e5, 5e5, 20}};
     for (const auto& view : views) {
         Canvas canvas;
-        WalkReduced(series, LinearMap(view.min, view.max, 0, kWidth - 1), kWholeY, canvas);
+        WalkReduced(series, LinearMap(view.min, view.max, 0, kWidth - 1), kWholeY, ChartLine::Straight,
+                    canvas);
         EXPECT_LE(canvas.handedOn, view.most) << view.name;
     }
 }

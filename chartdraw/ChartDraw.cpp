@@ -41,10 +41,8 @@ BEGIN_MESSAGE_MAP(CChartDraw, CWnd)
     ON_REGISTERED_MESSAGE(g_postedMessage, &CChartDraw::OnPostedData)
 
     ON_WM_CONTEXTMENU()
-    ON_COMMAND(ID_EDIT_COPY, &CChartDraw::OnEditCopy)
     ON_COMMAND(ID_CHART_SAVE_PICTURE, &CChartDraw::OnSavePicture)
     ON_COMMAND(ID_CHART_SAVE_DATA, &CChartDraw::OnSaveData)
-    ON_COMMAND(ID_FILE_PRINT, &CChartDraw::OnFilePrint)
     ON_COMMAND(ID_CHART_FIT, &CChartDraw::OnFit)
     ON_COMMAND(ID_CHART_BACK, &CChartDraw::OnBack)
 END_MESSAGE_MAP()
@@ -90,27 +88,27 @@ void CChartDraw::Redraw() {
 
 void CChartDraw::SetAutoXScale() {
     m_XFixed.fixed = false;
-    m_Changed = true;
+    m_State->ResetRange(ChartDrawState::kX);
 }
 
 void CChartDraw::SetAutoYScale() {
     m_YFixed.fixed = false;
-    m_Changed = true;
+    m_State->ResetRange(ChartDrawState::kY);
 }
 
 BOOL CChartDraw::SetXScale(double dMin, double dMax, double dStep) {
-    return FixScale(m_XFixed, dMin, dMax, dStep);
+    return FixScale(m_XFixed, ChartDrawState::kX, dMin, dMax, dStep);
 }
 
 BOOL CChartDraw::SetYScale(double dMin, double dMax, double dStep) {
-    return FixScale(m_YFixed, dMin, dMax, dStep);
+    return FixScale(m_YFixed, ChartDrawState::kY, dMin, dMax, dStep);
 }
 
-BOOL CChartDraw::FixScale(FixedScale& scale, double dMin, double dMax, double dStep) {
+BOOL CChartDraw::FixScale(FixedScale& scale, int axis, double dMin, double dMax, double dStep) {
     if (!std::isfinite(dMin) || !std::isfinite(dMax) || !(dMin < dMax) || !std::isfinite(dStep) || dStep < 0)
         return FALSE;
     scale = {true, dMin, dMax, dStep};
-    m_Changed = true;
+    m_State->ResetRange(axis);
     return TRUE;
 }
 

@@ -122,6 +122,7 @@ void CChartDraw::Calculate() {
     const int smallest = static_cast<int>(kSmallestPlot * m_TextHeight);
     bool& showPeriods = m_State->AxisState(ChartDrawState::kX).showsPeriods;
     m_ShowCaptions = m_ShowTitle = m_ShowScales = showPeriods = true;
+    m_State->RangeOf(ChartDrawState::kX); // X follows the newest data before Y is fitted to what is in view
     LayOut(dc);
     for (bool* part : {&m_ShowCaptions, &m_ShowTitle, &showPeriods, &m_ShowScales}) {
         if (m_rectPlot.Width() >= smallest && m_rectPlot.Height() >= smallest)

@@ -8,6 +8,7 @@
 
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartInputState.h"
+#include "chartdraw/LoadedText.h"
 #include "gdi/OutOfMemory.h"
 #include "gdi/StringIds.h"
 
@@ -18,14 +19,8 @@ namespace {
 /// The extensions of the rows of IDS_CHART_PICTURE_FILTER.
 constexpr LPCTSTR kPictureExtensions[] = {_T(".png"), _T(".bmp"), _T(".emf")};
 
-CString LoadText(UINT id) {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
-
 void Append(CMenu& menu, UINT command, UINT textId, bool isEnabled = true) {
-    menu.AppendMenu(MF_STRING | (isEnabled ? MF_ENABLED : MF_GRAYED), command, LoadText(textId));
+    menu.AppendMenu(MF_STRING | (isEnabled ? MF_ENABLED : MF_GRAYED), command, LoadedText(textId));
 }
 
 void FillMenu(CMenu& menu, const ChartInputState& input) {
@@ -81,10 +76,22 @@ void CChartDraw::OnContextMenu(CWnd*, CPoint point) {
     // The menu runs a message loop, in which the host may destroy the window or delete this chart.
     const UINT command = static_cast<UINT>(::TrackPopupMenu(menu.m_hMenu, TPM_RIGHTBUTTON | TPM_RETURNCMD,
                                                             point.x, point.y, 0, window, nullptr));
-    // The chart handles its own commands. Those that the parent has added go to the parent.
-    if (command != 0 && kavlix::IsAlive(window, this) && !OnCommand(MAKEWPARAM(command, 0), 0) &&
-        kavlix::IsAlive(window, this) && GetParent() != nullptr)
+    if (command == 0 || !kavlix::IsAlive(window, this) || OnCommand(MAKEWPARAM(command, 0), 0) ||
+        !kavlix::IsAlive(window, this))
+        return;
+    // The message map has no entry for these two: hosts route the same commands of their own menus through the chart.
+    if (command == ID_EDIT_COPY)
+        OnEditCopy();
+    else if (command == ID_FILE_PRINT)
+        OnFilePrint();
+    else if (GetParent() != nullptr) // a command that the parent has added
         GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(command, 0), 0);
+}
+
+void ChartDrawState::TellNotSaved(const CString& path) {
+    CString text;
+    AfxFormatString1(text, IDS_CHART_NOT_SAVED, path);
+    AfxMessageBox(text, MB_OK | MB_ICONEXCLAMATION);
 }
 
 void CChartDraw::OnEditCopy() {
@@ -94,9 +101,12 @@ void CChartDraw::OnEditCopy() {
 void CChartDraw::OnSavePicture() {
     WithinResources([&] {
         CFileDialog dialog(FALSE, nullptr, nullptr, OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                           LoadText(IDS_CHART_PICTURE_FILTER));
-        if (dialog.DoModal() == IDOK)
-            SaveImage(WithExtension(dialog.GetPathName(), dialog.m_ofn.nFilterIndex));
+                           LoadedText(IDS_CHART_PICTURE_FILTER));
+        if (dialog.DoModal() != IDOK)
+            return;
+        const CString path = WithExtension(dialog.GetPathName(), dialog.m_ofn.nFilterIndex);
+        if (!SaveImage(path))
+            m_State->TellNotSaved(path);
     });
 }
 

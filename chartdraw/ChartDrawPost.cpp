@@ -57,7 +57,8 @@ void ChartDrawState::TakePosted() {
     else if (!::GetUpdateRect(chart.m_hWnd, nullptr,
                               FALSE)) // nothing of the window can be seen: no paint comes
         ReadyToTake();
-    if (count == 0)
+    // WM_TIMER waits for an idle queue, which posted points may never leave.
+    if (!TellFollowed() || count == 0)
         return;
     NMCHARTDRAW record = {};
     record.hdr.code = CDN_POSTED;

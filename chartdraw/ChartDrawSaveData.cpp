@@ -10,6 +10,7 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartLink.h"
+#include "chartdraw/LoadedText.h"
 #include "chartdraw/core/CsvWriter.h"
 #include "gdi/FileReplacement.h"
 #include "gdi/OutOfMemory.h"
@@ -56,11 +57,15 @@ CsvTable ChartDrawState::Table(bool visibleOnly) {
 bool CChartDraw::SaveData() {
     ASSERT(m_State->IsOwnerThread());
     return UnlessRefused([&] {
-        CString filter;
-        filter.LoadString(IDS_CHART_DATA_FILTER);
         CFileDialog dialog(FALSE, _T("csv"), _T("Chart"),
-                           OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, filter);
-        return dialog.DoModal() == IDOK && SaveData(dialog.GetPathName(), TRUE);
+                           OFN_LONGNAMES | OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                           LoadedText(IDS_CHART_DATA_FILTER));
+        if (dialog.DoModal() != IDOK)
+            return false;
+        const bool isSaved = SaveData(dialog.GetPathName(), TRUE);
+        if (!isSaved)
+            m_State->TellNotSaved(dialog.GetPathName());
+        return isSaved;
     });
 }
 

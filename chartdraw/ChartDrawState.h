@@ -18,7 +18,7 @@ struct AxisLayout;      // chartdraw/AxisLayout.h: ticks and texts of an axis
 struct ChartInputState; // chartdraw/ChartInputState.h: view, history, gestures
 struct CsvTable;        // chartdraw/core/CsvWriter.h: what is saved
 struct LinkedRange;
-struct DrawnDataset;    // chartdraw/DatasetPainter.h
+struct DrawnDataset;   // chartdraw/DatasetPainter.h
 struct ChartLinkState; // chartdraw/ChartLink.h: the charts that share an X view
 class PostQueue;       // chartdraw/core/PostQueue.h: points of other threads
 
@@ -76,7 +76,8 @@ struct ChartDrawState {
     void DrawLegend(CDC& dc);  ///< ChartLegendPaint.cpp
     void DrawCursors(CDC& dc); ///< with their readout (ChartReadoutPaint.cpp)
     void DrawReadout(CDC& dc);
-    void DrawZoomBox(CDC& dc); ///< ChartDrawInput.cpp
+    void TellNotSaved(const CString& path); ///< a message box (ChartDrawMenu.cpp)
+    void DrawZoomBox(CDC& dc);              ///< ChartDrawInput.cpp
     /// Whether the dataset is drawn in a highlighted way: the mouse is over its row in the legend (ChartLegend.cpp).
     bool IsHighlighted(int nDataset) const;
     /// What DatasetPainter draws of a dataset (ChartDrawPaintData.cpp).
@@ -120,6 +121,7 @@ struct ChartDrawState {
     /// those above 0: all, or for a Y axis those
     /// between two values of the X axis.
     ValueBounds DataBounds(int axis) const;
+    ValueBounds OwnDataBounds(int axis) const; ///< of this chart without those that are linked with it
     ValueBounds DataBounds(int axis, double xMin, double xMax) const;
     /// The layout tells the range that it shows.
     void LaidOut(int axis, double min, double max);
@@ -129,6 +131,11 @@ struct ChartDrawState {
     /// Every change of the X view and of Y views passes here: clamps, stores, marks the layout, repaints, shares the
     /// X range with linked charts, and if `tell`, sends CDN_VIEW. For a range that cannot be shown nothing changes.
     bool SetView(int axis, double min, double max, bool tell);
+    void SetFixedHomes(); ///< gives the view the ranges of SetXScale and SetYScale
+    /// Tells the parent and linked charts that the view has followed new data, if it has. False when the parent has
+    /// destroyed the chart or its window meanwhile. A timer of the window calls this after DataChanged.
+    bool TellFollowed();
+    static void TellFollowed(CChartDraw& chart, UINT_PTR timer);
     /// Called when points were added or removed: follow mode moves the view. Runs at every point: it sends nothing.
     void DataChanged(int nDataset);
     /// Changes the points of a dataset by `change` (chartdraw/ChartDrawData.cpp). A message box reports lack of memory.
@@ -141,10 +148,11 @@ struct ChartDrawState {
     /// Gives the X range to linked charts, which send CDN_VIEW. A handler can destroy this chart meanwhile: nothing of
     /// it may be touched behind this call, unless the result is true.
     bool ShareView();
-    void ShareCursor(int nCursor);              ///< gives the position of a cursor to linked charts
-    void LeaveLink();                           ///< the chart's window goes
-    std::optional<LinkedRange> ShownRange();    ///< the range of X; empty when the chart has no layout
-    bool Shows(const LinkedRange& range) const; ///< whether this is exactly the range of X
+    void ShareCursor(int nCursor);           ///< gives the position of a cursor to linked charts
+    void LeaveLink();                        ///< the chart's window goes
+    std::optional<LinkedRange> ShownRange(); ///< the range of X; empty when the chart has no layout
+    LinkedRange SharedRange() const;         ///< what linked charts show
+    ValueBounds LinkedDataBounds() const;    ///< of X, of all linked charts, as values of this chart's axis
     void ShowRange(const LinkedRange& range, bool tell); ///< as SetView for the X axis
 
     // ---- Data from other threads (chartdraw/ChartDrawPost.cpp) ----

@@ -9,6 +9,7 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartInputState.h"
+#include "chartdraw/ChartLink.h"
 #include "gdi/OutOfMemory.h"
 #include "plot/RoundScale.h"
 
@@ -41,19 +42,12 @@ ViewRange RoundRangeAround(const ValueBounds& bounds, bool isLogarithmic) {
                                    : ViewRange{bounds.min / 2, bounds.max * 2};
 }
 
-/// Tells that the view has followed new data. `timer` is the address of the chart's state.
+/// `timer` is the address of the chart's state.
 void CALLBACK OnFollowTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
     ::KillTimer(window, timer);
-    if (CWnd::FromHandlePermanent(window) == nullptr)
-        return;
-    auto& state = *reinterpret_cast<ChartDrawState*>(timer);
-    ViewRanges before = state.input->Ranges();
-    before[0] = state.input->followedFrom;
-    state.input->isFollowTimed = false;
-    WithinResources([&] {
-        RefreshView(state);
-        ViewChanged(state, before, ViewCause::User);
-    });
+    auto* const chart = dynamic_cast<CChartDraw*>(CWnd::FromHandlePermanent(window));
+    if (chart != nullptr)
+        ChartDrawState::TellFollowed(*chart, timer);
 }
 
 } // namespace
@@ -76,6 +70,12 @@ ChartDrawState::WantedRange ChartDrawState::RangeOf(int axis) const {
     if (!view.Axis(number).IsMoved()) {
         const ViewAxis& x = view.Axis(ChartAxis::X);
         const bool isXFixed = chart.m_XFixed.fixed;
+        if (axis == kX && link && !isXFixed) {
+            // All linked charts show the same range, not one rounded to their own ticks.
+            const ValueBounds& whole = x.Data();
+            if (whole.min < whole.max)
+                return {true, whole.min, whole.max};
+        }
         if (view.Mode(number) != ScaleMode::Visible || (!x.IsMoved() && !isXFixed))
             return {};
         const ViewRange inView = x.IsMoved() ? x.Range() : ViewRange{chart.m_XFixed.min, chart.m_XFixed.max};
@@ -89,6 +89,10 @@ ChartDrawState::WantedRange ChartDrawState::RangeOf(int axis) const {
 }
 
 ValueBounds ChartDrawState::DataBounds(int axis) const {
+    return axis == kX && link ? LinkedDataBounds() : OwnDataBounds(axis);
+}
+
+ValueBounds ChartDrawState::OwnDataBounds(int axis) const {
     const bool isLogarithmic = IsLogarithmic(*this, axis);
     ValueBounds bounds;
     for (const auto& dataset : chart.m_Datasets) {
@@ -120,12 +124,25 @@ void ChartDrawState::LaidOut(int axis, double min, double max) {
         input->view.SetHome(number, {min, max});
 }
 
+void ChartDrawState::SetFixedHomes() {
+    if (chart.m_XFixed.fixed)
+        input->view.SetHome(ChartAxis::X, {chart.m_XFixed.min, chart.m_XFixed.max});
+    if (chart.m_YFixed.fixed)
+        input->view.SetHome(ChartAxis::Y, {chart.m_YFixed.min, chart.m_YFixed.max});
+}
+
 void ChartDrawState::ResetRange(int axis) {
+    const ViewRanges before = input->Ranges();
+    const bool wasMoved = input->view.Axis(ToChartAxis(axis)).IsMoved();
     input->view.SetMode(ToChartAxis(axis), ScaleMode::Whole);
     Changed();
+    ViewChanged(*this, before, ViewCause::Setter);
+    if (axis == kX && !wasMoved)
+        ShareView();
 }
 
 void kavlix::RefreshView(ChartDrawState& state) {
+    state.SetFixedHomes();
     for (int axis = 0; axis < ChartDrawState::kAxes; ++axis) {
         state.input->view.SetLogarithmic(ToChartAxis(axis), IsLogarithmic(state, axis));
         state.input->view.SetData(ToChartAxis(axis), state.DataBounds(axis));
@@ -168,6 +185,27 @@ bool ChartDrawState::SetView(int axis, double min, double max, bool tell) {
     input->view.SetRange(ToChartAxis(axis), {min, max});
     ViewChanged(*this, before, tell ? ViewCause::User : ViewCause::Host);
     return true;
+}
+
+void ChartDrawState::TellFollowed(CChartDraw& chart, UINT_PTR timer) {
+    // Another chart can have the window of the one that set the timer.
+    if (reinterpret_cast<UINT_PTR>(chart.m_State.get()) == timer)
+        chart.m_State->TellFollowed();
+}
+
+bool ChartDrawState::TellFollowed() {
+    if (!input->isFollowTimed)
+        return true;
+    ::KillTimer(chart.m_hWnd, reinterpret_cast<UINT_PTR>(this));
+    input->isFollowTimed = false;
+    ViewRanges before = input->Ranges();
+    before[0] = input->followedFrom;
+    bool isAlive = true;
+    WithinResources([&] {
+        RefreshView(*this);
+        isAlive = ViewChanged(*this, before, ViewCause::User);
+    });
+    return isAlive;
 }
 
 void ChartDrawState::DataChanged(int) {

@@ -4,6 +4,7 @@
 
 #include "chartdraw/ChartAxisState.h"
 #include "chartdraw/ChartDrawState.h"
+#include "chartdraw/ChartInputState.h"
 #include "gdi/OutOfMemory.h"
 
 using namespace kavlix;
@@ -39,27 +40,50 @@ std::optional<LinkedRange> ChartDrawState::ShownRange() {
     return shown;
 }
 
-bool ChartDrawState::Shows(const LinkedRange& range) const {
-    const WantedRange wanted = RangeOf(kX);
-    return wanted.isExact && range.IsSameAs({wanted.min, wanted.max, xAxis.m_State->origin});
+LinkedRange ChartDrawState::SharedRange() const {
+    const double origin = xAxis.m_State->origin;
+    const ViewAxis& view = input->view.Axis(ChartAxis::X);
+    if (view.IsMoved())
+        return {view.Range().min, view.Range().max, origin, false};
+    return {chart.m_XFixed.min, chart.m_XFixed.max, origin, !chart.m_XFixed.fixed};
 }
 
 void ChartDrawState::ShowRange(const LinkedRange& range, bool tell) {
+    if (SharedRange().IsSameAs(range))
+        return;
     const LinkedRange own = range.From(xAxis.m_State->origin);
-    if (!Shows(range))
+    if (!own.isWhole) {
         SetView(kX, own.min, own.max, tell);
+        return;
+    }
+    const ViewRanges before = input->Ranges();
+    chart.m_XFixed.fixed = false;
+    RefreshView(*this);
+    input->view.Fit(kAxisX);
+    Changed();
+    ViewChanged(*this, before, tell ? ViewCause::User : ViewCause::Host);
+    chart.Redraw();
+}
+
+ValueBounds ChartDrawState::LinkedDataBounds() const {
+    ValueBounds bounds;
+    for (const ChartLinkState* const member : link->group->members) {
+        ValueBounds own = member->chart->OwnDataBounds(kX);
+        const double shift = member->chart->xAxis.m_State->origin - xAxis.m_State->origin;
+        if (!own.IsEmpty())
+            bounds.Add(ValueBounds{own.min + shift, own.max + shift});
+    }
+    return bounds;
 }
 
 bool ChartDrawState::ShareView() {
     if (!link)
         return true;
     const std::shared_ptr<ChartLinkGroup> group = link->group; // can outlive this chart
-    const std::optional<LinkedRange> range = ShownRange();
-    if (!range)
-        return true;
+    const LinkedRange range = SharedRange();
     if (group->isSharing) {
-        // SetView was called by the loop below, or by a handler, which can set another range.
-        if (!range->IsSameAs(group->shared))
+        // The view was set by the loop below, or by a handler, which can set another range.
+        if (!range.IsSameAs(group->shared))
             group->next = range;
         return true;
     }
@@ -120,7 +144,6 @@ BOOL CChartDraw::LinkView(CChartDraw* pOther) {
     if (!isJoined)
         return FALSE;
     m_State->link = std::move(joined); // ends the former membership
-    if (const auto range = other.ShownRange())
-        m_State->ShowRange(*range, false);
+    m_State->ShowRange(other.SharedRange(), false);
     return TRUE;
 }

@@ -19,11 +19,16 @@ struct LinkedRange {
     double min = 0;
     double max = 1;
     double origin = 0;
+    bool isWhole = false; ///< the whole data of all linked charts instead of the range
 
     /// The same range, counted from another origin.
-    LinkedRange From(double other) const { return {min + (origin - other), max + (origin - other), other}; }
+    LinkedRange From(double other) const {
+        return {min + (origin - other), max + (origin - other), other, isWhole};
+    }
     /// Whether the ranges are equal but for the rounding of origins.
     bool IsSameAs(const LinkedRange& other) const {
+        if (isWhole || other.isWhole)
+            return isWhole == other.isWhole;
         constexpr double kTolerance = 1e-9;
         const LinkedRange moved = other.From(origin);
         const double most = kTolerance * (max - min);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "chartdraw/ChartDrawDataset.h"
+#include "chartdraw/LoadedText.h"
 #include "chartdraw/ValueText.h"
 #include "gdi/StringIds.h"
 
@@ -19,13 +20,6 @@ int YAxisOf(const ChartDrawState::ChartDataset& dataset) {
 
 CString YText(ChartDrawState& state, int dataset, double value) {
     return std::isnan(value) ? CString(_T("-")) : ValueText(state, YAxisOf(state.Dataset(dataset)), value);
-}
-
-CString Loaded(UINT id) {
-    CString text;
-    if (!text.LoadString(id))
-        text.Empty();
-    return text;
 }
 
 void AddPoint(const ChartDrawState& state, const CursorReading& reading, std::vector<Point>& points) {
@@ -96,9 +90,9 @@ ChartReadout ReadSpan(ChartDrawState& state, const ChartCursorState& cursors,
     const double distance = ends[1].x - ends[0].x;
     readout.titles.back() +=
         (distance < 0 ? _T("  (") : _T("  (+")) + DistanceText(state, ChartDrawState::kX, distance) + _T(")");
-    const std::vector<CString> labels = {Loaded(IDS_CHART_DIFFERENCE), Loaded(IDS_CHART_MINIMUM),
-                                         Loaded(IDS_CHART_MAXIMUM), Loaded(IDS_CHART_MEAN),
-                                         Loaded(IDS_CHART_COUNT)};
+    const std::vector<CString> labels = {LoadedText(IDS_CHART_DIFFERENCE), LoadedText(IDS_CHART_MINIMUM),
+                                         LoadedText(IDS_CHART_MAXIMUM), LoadedText(IDS_CHART_MEAN),
+                                         LoadedText(IDS_CHART_COUNT)};
     if (cursors.mode != CChartCursor::All) {
         const int dataset = ends[0].dataset;
         for (int i = 0; i < ChartCursorState::kCursors; ++i)

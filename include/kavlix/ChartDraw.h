@@ -408,7 +408,7 @@ private:
     bool IsDataset(int nDataset) const { return nDataset >= 0 && nDataset < GetDatasetCount(); }
     /// Calls `change` with the dataset and marks the layout as outdated. FALSE when there is no such dataset.
     BOOL ChangeDataset(int nDataset, const std::function<void(Dataset&)>& change);
-    BOOL FixScale(FixedScale& scale, double dMin, double dMax, double dStep);
+    BOOL FixScale(FixedScale& scale, int axis, double dMin, double dMax, double dStep);
     bool PrepareExport();
     bool WriteBitmapFile(const CString& name);
     /// Makes the font of the title or of all other texts. `escapement` is in tenths of a degree.

@@ -4,8 +4,9 @@
 
 // The numbers never change. Resource scripts may include this header for the command identifiers.
 
-// Commands of the chart's context menu, sent as WM_COMMAND to the chart itself. The menu's "Copy" has the
-// framework's identifier ID_EDIT_COPY, "Print" has ID_FILE_PRINT.
+// Commands of the chart's context menu. A host can send them to the chart as WM_COMMAND. The menu's "Copy" has the
+// framework's identifier ID_EDIT_COPY, "Print" has ID_FILE_PRINT; these two work in the menu only, so that they can be
+// routed through the chart to the host's own handlers.
 #define ID_CHART_SAVE_PICTURE 1330
 #define ID_CHART_SAVE_DATA 1331
 #define ID_CHART_FIT 1332

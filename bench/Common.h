@@ -82,5 +82,7 @@ void ChartPan(int count);
 void ChartZoom(int count);
 void ChartAgainstGraph(int count, bool uneven);
 void ChartTenMillion(bool uneven);
+void ChartAppend();
+void ChartStyles();
 
 } // namespace bench

@@ -65,6 +65,8 @@ constexpr struct {
     {"chart_late", &bench::ChartLate},
     {"chart_wall", &bench::ChartWall},
     {"chart_save", &bench::ChartSave},
+    {"chart_append", &bench::ChartAppend},
+    {"chart_styles", &bench::ChartStyles},
     {"graph_growth", &bench::GraphGrowth},
     {"graph_day", &bench::GraphDay},
 };

@@ -7,6 +7,7 @@
 
 #include "chartdraw/core/ChartAreas.h"
 #include "gdi/DirectPaint.h"
+#include "gdi/Guards.h"
 #include "gdi/ShapeConversion.h"
 
 namespace kavlix {
@@ -64,8 +65,10 @@ void DatasetPainter::Fill(const ColumnRows& rows, COLORREF color) {
     CBrush brush;
     if (!brush.CreateSolidBrush(color))
         return;
+    SavedDcGuard saved(m_dc);
+    Select(m_dc, brush);
     rows.VisitAreas(ToRect(m_plot), [&](const Rect& area) {
-        m_dc.FillRect(CRect(area.left, area.top, area.right, area.bottom), &brush);
+        m_dc.PatBlt(area.left, area.top, area.Width(), area.Height(), PATCOPY);
     });
 }
 

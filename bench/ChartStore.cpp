@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// The chart's store: memory of a point, time to append with and without a history limit, late points, styles.
+
+#include "bench/GraphSeries.h"
+
+#include <kavlix/ChartDraw.h>
+
+#include <vector>
+
+namespace bench {
+
+namespace {
+
+constexpr int kMillion = 1000000;
+constexpr int kStep = 100; // points of a step whose time is measured
+constexpr int kLate = 100;
+constexpr double kBytesPerKib = 1024;
+
+/// Appends points in steps and adds the rate and the times of the steps.
+void AppendAll(Row& row, const std::string& name, int count, int history, bool even) {
+    CChartDraw chart;
+    chart.AddDataset();
+    chart.SetHistory(0, history, 0);
+    const std::vector<double> values = WalkValues(0, kMillion);
+    int next = 0;
+    const double begin = Now();
+    std::vector<double> steps = Time(count / kStep, 0, [&] {
+        for (const int end = next + kStep; next < end; ++next) {
+            const double value = values[static_cast<std::size_t>(next % kMillion)];
+            if (even)
+                chart.AddEvenData(0, value);
+            else
+                chart.AddData(0, next + 0.1 * value, value);
+        }
+    });
+    row.Add(name + "_points_per_us", count / (Now() - begin));
+    constexpr double kRare = 0.999;
+    row.Add(name + "_step_999_us", Quantile(steps, kRare)).Add(name + "_step_max_us", Quantile(steps, 1));
+}
+
+double BytesPerPoint(bool even) {
+    constexpr int kPoints = 4 * kMillion;
+    const std::vector<double> values = WalkValues(0, kMillion);
+    CChartDraw chart;
+    chart.AddDataset();
+    const double before = static_cast<double>(Count().memory);
+    for (int i = 0; i < kPoints; ++i) {
+        const double value = values[static_cast<std::size_t>(i % kMillion)];
+        if (even)
+            chart.AddEvenData(0, value);
+        else
+            chart.AddData(0, i + 0.1 * value, value);
+    }
+    return (static_cast<double>(Count().memory) - before) * kBytesPerKib / kPoints;
+}
+
+void SetStyle(CChartDraw& chart, CChartDraw::DrawStyle style) {
+    for (int i = 0; i < kSeries; ++i)
+        chart.SetDrawStyle(i, style);
+}
+
+} // namespace
+
+void ChartAppend() {
+    Row row("chart_append");
+    row.Add("points_a_step", kStep);
+    AppendAll(row, "all", 10 * kMillion, 0, false);
+    AppendAll(row, "history", 10 * kMillion, kMillion, false);
+    AppendAll(row, "even_history", 10 * kMillion, kMillion, true);
+    row.Add("bytes_per_point", BytesPerPoint(false)).Add("bytes_per_even_point", BytesPerPoint(true)).Print();
+}
+
+void ChartStyles() {
+    Stage stage(kWidth, kHeight);
+    CChartDraw chart;
+    chart.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &stage, 1);
+    chart.SetXScale(0, kMillion - 1);
+    chart.SetYScale(kYMin, kYMax);
+    for (int i = 0; i < kSeries; ++i)
+        chart.SetData(chart.AddDataset(), nullptr, WalkValues(i, kMillion).data(), kMillion);
+    Pump();
+    Row row("chart_styles");
+    row.Add("samples", kMillion);
+    const struct {
+        const char* name;
+        CChartDraw::DrawStyle style;
+    } styles[] = {{"line_", CChartDraw::StyleLine},
+                  {"step_", CChartDraw::StyleStep},
+                  {"impulses_", CChartDraw::StyleImpulses},
+                  {"bars_", CChartDraw::StyleBars},
+                  {"fill_", CChartDraw::StyleFill}};
+    for (const auto& each : styles) {
+        SetStyle(chart, each.style);
+        AddPaints(row, chart, each.name);
+    }
+    SetStyle(chart, CChartDraw::StyleLine);
+    Randoms randoms(3);
+    for (int i = 0; i < kSeries; ++i)
+        for (int k = 0; k < kLate; ++k)
+            chart.InsertData(i, kMillion * std::fabs(randoms.Next()), 0);
+    AddPaints(row, chart, "late_").Print();
+}
+
+} // namespace bench

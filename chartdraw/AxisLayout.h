@@ -28,7 +28,6 @@ struct AxisLayout {
     std::vector<double> minorTicks;
     std::vector<AxisLabel> periods; ///< second row of a time axis: dates, or years
     AxisLabel start;                ///< of the second row, at the lower end of the range
-    CString note;                   ///< what the axis cannot show
 
     int WidestLabel() const {
         constexpr std::size_t kMost = 100;

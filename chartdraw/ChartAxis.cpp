@@ -141,15 +141,20 @@ const AxisLayout& ChartDrawState::Layout(int axis) const {
     return asked.m_State->layout;
 }
 
-std::int64_t ChartDrawState::CountNotShown(int axis) const {
+std::int64_t ChartDrawState::CountNotShown() const {
+    const auto isLogarithmic = [](const CChartAxis& axis) {
+        return axis.GetKind() == CChartAxis::Logarithmic;
+    };
     std::int64_t count = 0;
     for (const auto& dataset : chart.m_Datasets) {
         const ChartSeries& points = dataset->points;
-        if (!dataset->visible || points.Size() == 0 || (axis != kX && dataset->usesY2 != (axis == kY2)))
+        if (!dataset->visible || points.Size() == 0)
             continue;
-        if (axis != kX)
-            count += points.YBounds().min > 0 ? 0 : points.CountNotPositive({0, points.Size() - 1});
-        else if (points.IsSorted())
+        if (isLogarithmic(dataset->usesY2 ? y2Axis : yAxis) && !(points.YBounds().min > 0))
+            count += points.CountNotPositive({0, points.Size() - 1});
+        if (!isLogarithmic(xAxis))
+            continue;
+        if (points.IsSorted())
             count += points.IndicesBetween(-std::numeric_limits<double>::infinity(), 0).Count();
         else
             for (int i = 0; i < points.Size(); ++i)

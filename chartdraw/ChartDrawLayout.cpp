@@ -117,6 +117,8 @@ void CChartDraw::Calculate() {
     for (int axis = 0; axis < ChartDrawState::kAxes; ++axis)
         m_State->AxisState(axis).UseFont(m_FontPixels, m_FontFace);
 
+    m_State->note = NotShownText(m_State->CountNotShown());
+
     // In a small window the plot has priority: leave out one part after the other until the
     // plot is large enough.
     const int smallest = static_cast<int>(kSmallestPlot * m_TextHeight);
@@ -161,6 +163,8 @@ void CChartDraw::LayOut(CDC& dc) {
     if (m_ShowTitle && !m_Title.IsEmpty())
         plot.top += m_TitleHeight + margin;
     m_State->LayOutLegend(dc, plot);
+    if (m_ShowCaptions && !m_State->note.IsEmpty())
+        plot.top += caption;
     const int right = plot.right;
     if (hasCaption(ChartDrawState::kX))
         plot.bottom -= caption;
@@ -224,7 +228,6 @@ void CChartDraw::FindTicks(CDC& dc, int axis, int length) {
         if (!range.isExact && !fixed.fixed)
             shown = RoundDecades(shown);
         state.layout = FindLogTicks(state, room, shown.min, shown.max);
-        state.layout.note = NotShownText(m_State->CountNotShown(axis));
         return;
     }
     if (shown.IsEmpty())

@@ -221,7 +221,6 @@ void CChartDraw::DrawXScale(CDC& dc) {
         });
         if (m_State->AxisState(ChartDrawState::kX).showsPeriods)
             DrawPeriods(dc, top + m_TextHeight);
-        DrawNote(dc, ChartDrawState::kX);
     });
     m_State->DrawOverlay(dc);
 }
@@ -262,6 +261,11 @@ void CChartDraw::DrawYScale(CDC& dc) {
         [&] {
             for (int axis = ChartDrawState::kY; axis < AxisCount(); ++axis)
                 DrawYTicks(dc, axis);
+            if (m_ShowCaptions && !m_State->note.IsEmpty()) {
+                dc.SetTextAlign(TA_LEFT | TA_TOP);
+                DrawTextAt(dc, m_rectPlot.left, m_rectPlot.top - CaptionGap() - m_TextHeight,
+                           Shortened(dc, m_State->note, m_rectPlot.Width()));
+            }
         });
 }
 
@@ -286,24 +290,4 @@ void CChartDraw::DrawYTicks(CDC& dc, int axis) const {
         if (row.Take(top, m_TextHeight))
             DrawTextAt(dc, x, top, label.text);
     });
-    DrawNote(dc, axis);
-}
-
-void CChartDraw::DrawNote(CDC& dc, int axis) const {
-    const AxisLayout& layout = m_State->Layout(axis);
-    if (layout.note.IsEmpty())
-        return;
-    const int gap = m_TextHeight / 3;
-    CRect room = m_rectPlot;
-    room.DeflateRect(gap, gap);
-    const bool isLeft = axis == ChartDrawState::kY;
-    dc.SetTextAlign((isLeft ? TA_LEFT : TA_RIGHT) | TA_TOP);
-    // Beside the Y axes at the top, one below the other, beside the X axis at the bottom. Lines do not cross the text.
-    const int top = isLeft                        ? room.top
-                    : axis == ChartDrawState::kY2 ? room.top + m_TextHeight
-                                                  : room.bottom - m_TextHeight;
-    dc.SetBkMode(OPAQUE);
-    dc.SetBkColor(m_BkColor);
-    DrawTextAt(dc, isLeft ? room.left : room.right, top, Shortened(dc, layout.note, room.Width()));
-    dc.SetBkMode(TRANSPARENT);
 }

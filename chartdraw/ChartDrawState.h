@@ -54,8 +54,9 @@ struct ChartDrawState {
     AxisMap
     XMap(const CChartDraw::Dataset& dataset) const; ///< x of a dataset, which count from its own origin
     AxisMap YMap(const CChartDraw::Dataset& dataset) const; ///< y of a dataset on the axis that it uses
-    /// Number of values of the visible datasets that a logarithmic axis cannot show: those of 0 and below.
-    std::int64_t CountNotShown(int axis) const;
+    /// Number of values of the visible datasets that logarithmic axes cannot show: those of 0 and below.
+    std::int64_t CountNotShown() const;
+    CString note;                    ///< tells the number; above the plot
     CString Caption(int axis) const; ///< title of an axis with its unit
     bool HasSecondYAxis() const;     ///< whether it is shown
     /// Value of the X axis for an x of a dataset.

@@ -427,7 +427,6 @@ private:
     void DrawYTicks(CDC& dc, int axis) const;
     kavlix::LabelRow XLabelRow(CDC& dc) const;
     void DrawPeriods(CDC& dc, int top) const;
-    void DrawNote(CDC& dc, int axis) const;
 
     std::unique_ptr<kavlix::ChartDrawState> m_State; ///< parts and view; the size of the class stays
     std::unique_ptr<kavlix::Offscreen> m_Picture;    ///< WM_PAINT draws into this bitmap and keeps it

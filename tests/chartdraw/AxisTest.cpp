@@ -283,24 +283,29 @@ TEST_F(ChartAxisTest, TheSecondYAxisTakesRoomOnlyWhenItIsShown) {
     EXPECT_LT(chart.m_rectPlot.right, plot.right);
 }
 
-TEST_F(ChartAxisTest, ALogarithmicAxisTellsWhatItCannotShow) {
+TEST_F(ChartAxisTest, LogarithmicAxesTellWhatTheyCannotShow) {
     Resize(900, 500);
-    const auto note = [&](void (OpenChart::*draw)(CDC&)) {
-        const std::string texts = Texts(draw);
+    const auto note = [&] {
+        const std::string texts = Texts(&OpenChart::DrawYScale);
         const std::size_t at = texts.find("not shown");
         return at == std::string::npos ? "" : texts.substr(texts.rfind('|', at) + 1);
     };
-    const int dataset = Add({0.5, -1, 0, 300, std::nan(""), 20});
+    const int dataset = Add({0.5, 0, 300, std::nan(""), 20});
+    chart.CalcDatas();
+    const int top = chart.m_rectPlot.top;
     chart.GetYAxis().SetKind(CChartAxis::Logarithmic);
-    EXPECT_EQ(note(&OpenChart::DrawYScale), "2 values of 0 or less are not shown");
+    EXPECT_EQ(note(), "1 value of 0 or less is not shown");
+    EXPECT_GT(chart.m_rectPlot.top, top) << "the note has room of its own";
     double min = 0, max = 0, step = 1;
     chart.GetYScale(min, max, step);
     EXPECT_EQ(Strings({std::to_string(min), std::to_string(max), std::to_string(step)}),
               Strings({"0.500000", "500.000000", "0.000000"}));
     chart.GetXAxis().SetKind(CChartAxis::Logarithmic);
-    EXPECT_EQ(note(&OpenChart::DrawXScale), "1 value of 0 or less is not shown") << "the index 0";
-    chart.AddData(dataset, -7, 1); // the x do not ascend any more
-    EXPECT_EQ(note(&OpenChart::DrawXScale), "2 values of 0 or less are not shown");
+    EXPECT_EQ(note(), "2 values of 0 or less are not shown") << "the index 0";
+    chart.AddData(dataset, -7, -1); // the x do not ascend any more
+    EXPECT_EQ(note(), "4 values of 0 or less are not shown");
+    chart.UseSecondYAxis(dataset, TRUE);
+    EXPECT_EQ(note(), "2 values of 0 or less are not shown") << "of X";
     chart.ShowDataset(dataset, FALSE);
-    EXPECT_EQ(note(&OpenChart::DrawXScale) + note(&OpenChart::DrawYScale), "");
+    EXPECT_EQ(note(), "");
 }

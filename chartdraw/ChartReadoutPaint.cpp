@@ -138,17 +138,24 @@ ReadoutWidths FitTexts(const CDC& dc, MeasuredTexts& texts, ChartReadout& readou
         ++next;
         return width;
     };
-    const double longest = readout.hasHeader ? kLongestNameInTable : kLongestName;
-    const int nameRoom = std::min(static_cast<int>(longest * textHeight), room / 2);
     ReadoutWidths widths;
     for (CString& title : readout.titles)
         widths.titles.push_back(fit(title, room));
+    int widestSecond = 0;
     for (ChartReadout::Row& row : readout.rows) {
-        widths.cells.emplace_back();
-        const int swatch = row.color == CLR_NONE ? 0 : static_cast<int>(kReadoutSwatch * textHeight);
-        for (std::size_t column = 0; column < row.cells.size(); ++column)
-            widths.cells.back().push_back(column == 0 ? swatch + fit(row.cells[0], nameRoom)
-                                                      : fit(row.cells[column], room));
+        widths.cells.emplace_back(row.cells.size());
+        for (std::size_t column = 1; column < row.cells.size(); ++column)
+            widths.cells.back()[column] = fit(row.cells[column], room);
+        if (row.cells.size() > 1)
+            widestSecond = std::max(widestSecond, widths.cells.back()[1]);
+    }
+    // The names leave room for the second column.
+    const auto pixels = [&](double heights) { return static_cast<int>(heights * textHeight); };
+    const int longest = pixels(readout.hasHeader ? kLongestNameInTable : kLongestName);
+    const int nameRoom = std::min(longest, room - widestSecond - pixels(kReadoutColumnGap));
+    for (std::size_t i = 0; i < readout.rows.size(); ++i) {
+        const int swatch = readout.rows[i].color == CLR_NONE ? 0 : pixels(kReadoutSwatch);
+        widths.cells[i][0] = swatch + fit(readout.rows[i].cells[0], std::max(nameRoom - swatch, 0));
     }
     return widths;
 }

@@ -25,7 +25,8 @@ ReadoutLayout::ReadoutLayout(const std::vector<int>& titles, const std::vector<s
         m_widths.push_back(widest);
         left += widest + sizes.gap;
     }
-    if (m_lefts.empty())
+    const std::size_t fewest = std::min<std::size_t>(cells.front().size(), 2); // a name alone tells nothing
+    if (m_lefts.size() < fewest)
         return;
     const int blockWidth = left - sizes.gap - sizes.padding;
     m_blockStep = blockWidth + sizes.blockGap;

@@ -24,7 +24,7 @@ public:
     ReadoutLayout() = default;
     /// Widths of the titles and of the cells: `cells[row][column]`, all rows of the same length. With `hasHeader` the
     /// first row stands above each block. The box is at most `width` x `height`; two and more blocks are together at
-    /// most `blocksWidth`. Empty when not even one row fits.
+    /// most `blocksWidth`. Empty when not even one row with its first two cells fits.
     ReadoutLayout(const std::vector<int>& titles, const std::vector<std::vector<int>>& cells, bool hasHeader,
                   const ReadoutSizes& sizes, int width, int height, int blocksWidth);
 

@@ -38,7 +38,8 @@ TEST(ReadoutLayoutTest, RandomReadouts) {
         };
         const int lines =
             (height - 2 * sizes.padding) / sizes.row - static_cast<int>(titles.size()) - headers;
-        ASSERT_EQ(layout.IsEmpty(), lines < 1 || widest(0) + 2 * sizes.padding > width);
+        const int fewest = columns == 1 ? widest(0) : widest(0) + sizes.gap + widest(1);
+        ASSERT_EQ(layout.IsEmpty(), lines < 1 || fewest + 2 * sizes.padding > width);
         if (layout.IsEmpty()) {
             ++empty;
             continue;

@@ -6,7 +6,7 @@
 
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
-#include "chartdraw/core/PostQueue.h"
+#include "chartdraw/ChartPost.h"
 #include "chartdraw/core/StatisticsBetween.h"
 #include "gdi/OutOfMemory.h"
 
@@ -58,7 +58,7 @@ BOOL CChartDraw::RemoveDataset(int nDataset) {
         if (dataset->fillTo == removed->get())
             dataset->fillTo = nullptr;
     m_Datasets.erase(removed);
-    m_State->posted->RemoveDataset(nDataset);
+    m_State->posted->queue.RemoveDataset(nDataset);
     m_Changed = true;
     return TRUE;
 }
@@ -66,7 +66,7 @@ BOOL CChartDraw::RemoveDataset(int nDataset) {
 void CChartDraw::RemoveAllDatasets() {
     ASSERT(m_State->IsOwnerThread());
     m_Datasets.clear();
-    m_State->posted->RemoveAllDatasets();
+    m_State->posted->queue.RemoveAllDatasets();
     m_NextColor = 0;
     m_Changed = true;
 }

@@ -5,29 +5,51 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartPost.h"
-#include "chartdraw/core/PostQueue.h"
 #include "gdi/OutOfMemory.h"
 
 using namespace kavlix;
 
 const UINT kavlix::g_postedMessage = ::RegisterWindowMessage(_T("Kavlix.CChartDraw.PostedData"));
 
+namespace {
+
+/// Ends a pause. `timer` is the address of the chart's ChartPostState.
+void CALLBACK OnPauseTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
+    ::KillTimer(window, timer);
+    if (CWnd::FromHandlePermanent(window) == nullptr)
+        return;
+    auto& posted = *reinterpret_cast<ChartPostState*>(timer);
+    posted.isPausing = false;
+    posted.queue.Ready();
+}
+
+} // namespace
+
 void ChartDrawState::OpenPosting() {
     const HWND window = chart.m_hWnd;
-    posted->Open([window] { return ::PostMessage(window, g_postedMessage, 0, 0) != 0; });
+    posted->isPausing = false;
+    posted->queue.Open([window] { return ::PostMessage(window, g_postedMessage, 0, 0) != 0; });
 }
 
 void ChartDrawState::ClosePosting() {
-    posted->Close();
+    posted->queue.Close();
 }
 
 void ChartDrawState::ReadyToTake() {
-    posted->Ready();
+    constexpr UINT kPause = 10; // milliseconds
+    if (posted->isPausing || posted->queue.ReadyIfEmpty())
+        return;
+    // Points have come since the last ones were taken, so there is a flow of them. A pause bounds the rate of paints.
+    // A message at once would leave no time for the host's timers and idle work, which come after all other messages.
+    posted->isPausing =
+        ::SetTimer(chart.m_hWnd, reinterpret_cast<UINT_PTR>(posted.get()), kPause, &OnPauseTimer) != 0;
+    if (!posted->isPausing)
+        posted->queue.Ready();
 }
 
 void ChartDrawState::TakePosted() {
     const bool isPaintDue = ::GetUpdateRect(chart.m_hWnd, nullptr, FALSE) != FALSE;
-    const std::vector<PostedPoint>& points = posted->Take();
+    const std::vector<PostedPoint>& points = posted->queue.Take();
     const int count = static_cast<int>(points.size());
     int refused = 0;
     for (std::size_t i = 0; i < points.size();) {
@@ -48,7 +70,7 @@ void ChartDrawState::TakePosted() {
         }
         DataChanged(index);
     }
-    posted->Release();
+    posted->queue.Release();
     Changed();
     chart.Redraw();
     // A paint is still due when points come faster than they can be taken. It would never get its turn otherwise.
@@ -76,16 +98,16 @@ int CChartDraw::PostData(int nDataset, const double* pX, const double* pY, int n
     if (pX == nullptr || pY == nullptr)
         return 0;
     int queued = 0;
-    WithinResources([&] { queued = m_State->posted->Push(nDataset, pX, pY, nCount); });
+    WithinResources([&] { queued = m_State->posted->queue.Push(nDataset, pX, pY, nCount); });
     return queued;
 }
 
 void CChartDraw::SetPostCapacity(int nPoints) {
-    m_State->posted->SetCapacity(nPoints);
+    m_State->posted->queue.SetCapacity(nPoints);
 }
 
 int CChartDraw::GetPostedCount() const {
-    return m_State->posted->Count();
+    return m_State->posted->queue.Count();
 }
 
 LRESULT CChartDraw::OnPostedData(WPARAM, LPARAM) {

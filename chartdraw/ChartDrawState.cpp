@@ -5,13 +5,14 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartInputState.h"
 #include "chartdraw/ChartLink.h"
-#include "chartdraw/core/PostQueue.h"
+#include "chartdraw/ChartPost.h"
 
 using namespace kavlix;
 
 ChartDrawState::ChartDrawState(CChartDraw& chart)
     : chart(chart), xAxis(chart, kX), yAxis(chart, kY), y2Axis(chart, kY2), legend(chart), cursor(chart),
-      references(chart), input(std::make_unique<ChartInputState>()), posted(std::make_unique<PostQueue>()) {
+      references(chart), input(std::make_unique<ChartInputState>()),
+      posted(std::make_unique<ChartPostState>()) {
 }
 
 ChartDrawState::~ChartDrawState() = default;

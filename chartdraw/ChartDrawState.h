@@ -20,7 +20,7 @@ struct CsvTable;        // chartdraw/core/CsvWriter.h: what is saved
 struct LinkedRange;
 struct DrawnDataset;   // chartdraw/DatasetPainter.h
 struct ChartLinkState; // chartdraw/ChartLink.h: the charts that share an X view
-class PostQueue;       // chartdraw/core/PostQueue.h: points of other threads
+struct ChartPostState; // chartdraw/ChartPost.h: points of other threads
 
 /// The parts of a chart. Their sources reach the chart's private members by the functions here.
 ///
@@ -42,7 +42,7 @@ struct ChartDrawState {
     CChartReferences references;
     std::unique_ptr<ChartInputState> input;
     std::unique_ptr<ChartLinkState> link;
-    std::unique_ptr<PostQueue> posted;
+    std::unique_ptr<ChartPostState> posted;
 
     ChartAxisState& AxisState(int axis) { return *Axis(axis).m_State; }
     CChartAxis& Axis(int axis) { return axis == kX ? xAxis : axis == kY ? yAxis : y2Axis; }

@@ -92,6 +92,16 @@ void PostQueue::Ready() {
     WakeIfDue();
 }
 
+bool PostQueue::ReadyIfEmpty() {
+    const Lock lock(m_mutex);
+    if (m_state != State::Taken)
+        return true;
+    if (!m_points.empty())
+        return false;
+    m_state = State::Waiting;
+    return true;
+}
+
 void PostQueue::RemoveDataset(int dataset) {
     const Lock lock(m_mutex);
     for (PostedPoint& point : m_points)

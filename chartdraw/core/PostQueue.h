@@ -46,6 +46,8 @@ public:
     void Release();
     /// The owner is ready for more points: the queue wakes it now, or as soon as there are points.
     void Ready();
+    /// The same, but false, with nothing changed, when there are points already.
+    bool ReadyIfEmpty();
 
     /// Moves queued points with their datasets, whose indices decrease by one behind `dataset`. The points of
     /// `dataset` keep their place and belong to dataset -1.

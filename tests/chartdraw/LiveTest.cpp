@@ -126,6 +126,27 @@ TEST(LiveHostTest, ReadingsOfAWorkerArriveInTheChart) {
     EXPECT_FALSE(host.m_chart.PostData(host.m_channel, 0, 0)) << "no window";
 }
 
+TEST_F(LiveTest, AWorkerMayPostWhileTheWindowComesAndGoes) {
+    chart.AddDataset();
+    std::atomic<bool> isOver{false};
+    std::atomic<int> posted{0};
+    std::thread worker([&] {
+        while (!isOver)
+            posted += chart.PostData(0, posted, 1);
+    });
+    for (int i = 0; i < 20; ++i) {
+        while (chart.GetDatasetSize(0) < 10)
+            testkit::Pump();
+        chart.DestroyWindow();
+        chart.ResetData(0);
+        ASSERT_TRUE(
+            chart.Create(WS_CHILD | (i % 2 == 0 ? WS_VISIBLE : 0), CRect(0, 0, 300, 200), &parent, 5));
+    }
+    isOver = true;
+    worker.join();
+    EXPECT_LE(chart.GetPostedCount(), posted);
+}
+
 TEST_F(LiveTest, PostedPointsEnterTogetherAndThoseOfRemovedDatasetsAreCounted) {
     for (int i = 0; i < 3; ++i)
         chart.AddDataset();
@@ -195,8 +216,16 @@ TEST_F(LiveTest, RandomChangesAgreeWithAVectorOfPoints) {
                                   (span > 0 && model.front().x < model.back().x - span)))
             model.erase(model.begin());
     };
+    constexpr int kSorted = 2500; // steps; in the later ones x come in any order
     for (int step = 0; step < 3000; ++step) {
         const double newest = model.empty() ? 0 : model.back().x;
+        if (step == kSorted) {
+            limit = 0;
+            span = 0;
+            model.push_back({-1e6, 0});
+            EXPECT_TRUE(chart.SetHistory(0, 0, 0) && chart.AddData(0, -1e6, 0));
+        }
+        const bool isSorted = step < kSorted;
         const double y = numbers.OneIn(9) ? std::nan("") : numbers.Below(1000);
         switch (numbers.Below(10)) {
         case 0: {
@@ -215,23 +244,25 @@ TEST_F(LiveTest, RandomChangesAgreeWithAVectorOfPoints) {
         case 3: {
             const double x = newest - numbers.Below(30);
             EXPECT_TRUE(chart.InsertData(0, x, y));
-            model.insert(std::upper_bound(model.begin(), model.end(), x,
-                                          [](double value, const Point& point) { return value < point.x; }),
-                         {x, y});
+            model.insert(
+                isSorted ? std::upper_bound(model.begin(), model.end(), x,
+                                            [](double value, const Point& point) { return value < point.x; })
+                         : model.end(),
+                {x, y});
             break;
         }
         case 4:
-            if (numbers.OneIn(20)) {
+            if (isSorted && numbers.OneIn(20)) {
                 limit = numbers.Below(100);
                 span = numbers.Below(3) * 40;
                 EXPECT_TRUE(chart.SetHistory(0, limit, span));
-            } else if (numbers.OneIn(20)) {
+            } else if (isSorted && numbers.OneIn(20)) {
                 chart.ResetData(0);
                 model.clear();
             }
             break;
         default:
-            model.push_back({newest + numbers.Below(4), y});
+            model.push_back({newest + numbers.Below(isSorted ? 4 : 40), y});
             EXPECT_TRUE(chart.AddData(0, model.back().x, y));
         }
         trim();

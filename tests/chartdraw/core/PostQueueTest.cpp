@@ -37,7 +37,7 @@ TEST(PostQueueTest, AnyCallsAgreeWithALiteralModel) {
     for (int step = 0; step < 20000; ++step) {
         canWake = !numbers.OneIn(5);
         const int dataset = numbers.Below(4);
-        switch (numbers.Below(12)) {
+        switch (numbers.Below(13)) {
         case 0: {
             const auto& taken = queue.Take();
             ASSERT_EQ(taken.size(), model.size());
@@ -56,6 +56,10 @@ TEST(PostQueueTest, AnyCallsAgreeWithALiteralModel) {
                 isBusy = false;
                 wakeIfDue();
             }
+            break;
+        case 5:
+            ASSERT_EQ(queue.ReadyIfEmpty(), !isBusy || model.empty());
+            isBusy = isBusy && !model.empty();
             break;
         case 2:
             capacity = static_cast<std::size_t>(1 + numbers.Below(60));

@@ -127,9 +127,7 @@ AxisMap ChartDrawState::Map(int axis) const {
 }
 
 AxisMap ChartDrawState::XMap(const CChartDraw::Dataset& dataset) const {
-    const AxisLayout& layout = Layout(kX);
-    const double shift = layout.isLogarithmic ? 0 : dataset.origin - xAxis.m_State->origin;
-    return MapOf(layout, chart.m_rectPlot, true, shift);
+    return MapOf(Layout(kX), chart.m_rectPlot, true, ToAxis(dataset, 0));
 }
 
 AxisMap ChartDrawState::YMap(const CChartDraw::Dataset& dataset) const {
@@ -179,11 +177,12 @@ bool ChartDrawState::HasSecondYAxis() const {
 }
 
 double ChartDrawState::ToAxis(const CChartDraw::Dataset& dataset, double x) const {
-    return x + (dataset.origin - xAxis.m_State->origin);
+    const bool isLogarithmic = xAxis.m_State->kind == CChartAxis::Logarithmic;
+    return isLogarithmic ? x : x + (dataset.origin - xAxis.m_State->origin);
 }
 
 double ChartDrawState::ToDataset(const CChartDraw::Dataset& dataset, double value) const {
-    return value - (dataset.origin - xAxis.m_State->origin);
+    return value - ToAxis(dataset, 0);
 }
 
 void CChartDraw::GetXScale(double& dMin, double& dMax, double& dStep) const {

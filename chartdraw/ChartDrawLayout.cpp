@@ -12,6 +12,7 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartText.h"
+#include "chartdraw/core/ViewAxis.h"
 #include "gdi/Guards.h"
 #include "gdi/StringIds.h"
 #include "plot/NumberFormat.h"
@@ -62,6 +63,15 @@ ValueBounds RoundDecades(const ValueBounds& values) {
     const double min = round(values.min, false);
     const double max = round(values.max, true);
     return min < max ? ValueBounds{min, max} : ValueBounds{min / 10, max * 10};
+}
+
+/// The range itself, or a similar one that an axis can show.
+ValueBounds Usable(const ValueBounds& range, CChartAxis::Kind kind) {
+    ViewAxis axis;
+    axis.SetTime(kind == CChartAxis::Time);
+    axis.SetLogarithmic(kind == CChartAxis::Logarithmic);
+    axis.SetHome({range.min, range.max});
+    return {axis.Range().min, axis.Range().max};
 }
 
 /// What tells that `count` values are not shown; empty for 0. The text is a resource that hosts can replace.
@@ -227,6 +237,7 @@ void CChartDraw::FindTicks(CDC& dc, int axis, int length) {
             shown.min = shown.max / 1000;
         if (!range.isExact && !fixed.fixed)
             shown = RoundDecades(shown);
+        shown = Usable(shown, state.kind);
         state.layout = FindLogTicks(state, room, shown.min, shown.max);
         return;
     }
@@ -234,6 +245,7 @@ void CChartDraw::FindTicks(CDC& dc, int axis, int length) {
         shown = {0, 1};
     if (!(shown.min < shown.max)) // a single time
         shown = {shown.min - 1, shown.min + 1};
+    shown = Usable(shown, state.kind);
     state.layout = FindTimeTicks(state, room, shown.min, shown.max);
 }
 

@@ -23,11 +23,20 @@ ChartAxis ToChartAxis(int axis) {
     return static_cast<ChartAxis>(axis);
 }
 
-bool IsLogarithmic(const ChartDrawState& state, int axis) {
+CChartAxis::Kind KindOf(const ChartDrawState& state, int axis) {
     const CChartAxis& asked = axis == ChartDrawState::kX   ? state.xAxis
                               : axis == ChartDrawState::kY ? state.yAxis
                                                            : state.y2Axis;
-    return asked.GetKind() == CChartAxis::Logarithmic;
+    return asked.GetKind();
+}
+
+bool IsLogarithmic(const ChartDrawState& state, int axis) {
+    return KindOf(state, axis) == CChartAxis::Logarithmic;
+}
+
+void SetKind(const ChartDrawState& state, int axis) {
+    state.input->view.SetTime(ToChartAxis(axis), KindOf(state, axis) == CChartAxis::Time);
+    state.input->view.SetLogarithmic(ToChartAxis(axis), IsLogarithmic(state, axis));
 }
 
 /// A range with round ends around the visible data. They keep a Y axis still while data moves through the view.
@@ -64,7 +73,7 @@ ViewRanges ChartInputState::Ranges() const {
 ChartDrawState::WantedRange ChartDrawState::RangeOf(int axis) const {
     ChartView& view = input->view;
     const ChartAxis number = ToChartAxis(axis);
-    view.SetLogarithmic(number, IsLogarithmic(*this, axis));
+    SetKind(*this, axis);
     if (axis == kX)
         view.SetData(number, DataBounds(axis)); // the view follows
     if (!view.Axis(number).IsMoved()) {
@@ -144,7 +153,7 @@ void ChartDrawState::ResetRange(int axis) {
 void kavlix::RefreshView(ChartDrawState& state) {
     state.SetFixedHomes();
     for (int axis = 0; axis < ChartDrawState::kAxes; ++axis) {
-        state.input->view.SetLogarithmic(ToChartAxis(axis), IsLogarithmic(state, axis));
+        SetKind(state, axis);
         state.input->view.SetData(ToChartAxis(axis), state.DataBounds(axis));
     }
 }

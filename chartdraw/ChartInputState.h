@@ -73,13 +73,14 @@ template <class Move> bool MoveView(ChartDrawState& state, GestureKind kind, Vie
     return ViewChanged(state, before, cause);
 }
 
-/// Shows the home ranges of all axes. `layOut` lays the chart out, so that the new ranges are known when they are
+/// Shows the home ranges of all axes, for the user of those that the user may move. `layOut` lays the chart out, so that the new ranges are known when they are
 /// told. Results as ViewChanged.
 template <class LayOut> bool FitAll(ChartDrawState& state, ViewCause cause, LayOut layOut) {
     return MoveView(
         state, GestureKind::Command, cause,
         [&](ChartView& view) {
-            view.Fit(kAllAxes);
+            const ChartInputState& input = *state.input;
+            view.Fit(cause == ViewCause::User ? input.ZoomAxes() | input.PanAxes() : kAllAxes);
             state.Changed();
             WithinResources(layOut);
         });

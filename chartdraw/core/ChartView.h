@@ -60,6 +60,9 @@ public:
     bool SetMode(ChartAxis axis, ScaleMode mode);
     /// Another kind of an axis ends a gesture, shows the axis's home range and forgets the history.
     bool SetLogarithmic(ChartAxis axis, bool isLogarithmic);
+    void SetTime(ChartAxis axis, bool isTime) {
+        m_axes[Index(axis)].SetTime(isTime);
+    } ///< as ViewAxis::SetTime
     /// Sets the range of an axis that is not moved, as the caller found it.
     bool SetHome(ChartAxis axis, const ViewRange& home) { return m_axes[Index(axis)].SetHome(home); }
     /// Sets the bounds of all data of an axis, on a logarithmic axis of the positive data. The view follows new

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace kavlix {
@@ -14,6 +15,9 @@ constexpr double kMostDecades = 300;
 /// Twice the narrowest range of RoundScale, so that ticks never widen a visible range.
 constexpr double kNarrowestRange = 2e-12;
 constexpr double kSmallestRange = 2e-290;
+/// The narrowest range of a time axis: ten of its finest steps, and a few steps of a double.
+constexpr double kNarrowestTime = 1e-8; // seconds
+constexpr double kNarrowestTimeSteps = 16 * std::numeric_limits<double>::epsilon();
 constexpr double kFewestDecades = 1e-9;
 /// Panning keeps the width until the narrowest range of the new place exceeds it by this factor; otherwise the
 /// width would change by a few bits with each step.
@@ -42,7 +46,9 @@ double ViewAxis::Limit() const {
 double ViewAxis::NarrowestAt(double min, double width) const {
     if (m_isLogarithmic)
         return kFewestDecades;
-    return std::max(std::max(std::abs(min), std::abs(min + width)) * kNarrowestRange, kSmallestRange);
+    const double largest = std::max(std::abs(min), std::abs(min + width));
+    return m_isTime ? std::max(largest * kNarrowestTimeSteps, kNarrowestTime)
+                    : std::max(largest * kNarrowestRange, kSmallestRange);
 }
 
 /// `range` in the units of the axis. What cannot be shown is replaced: ends that are NaN or have no logarithm,

@@ -23,8 +23,8 @@ inline bool operator!=(const ViewRange& a, const ViewRange& b) {
 ///
 /// A range is never empty, inverted, infinite or NaN. Its ends lie within 1e300; on a logarithmic axis they
 /// lie between 1e-300 and 1e300. The width is at least 2e-12 of the larger end, because in a narrower range a
-/// double has too few digits for pixels and ticks. For seconds since 1970 this is about 3 ms; for less, the
-/// host counts time from an origin of its own. A logarithmic range spans at least 1e-9 decades.
+/// double has too few digits for pixels and ticks. On a time axis the width is at least 10 ns and 16 steps of a double,
+/// 6 microseconds near today; for less, the host counts time from an origin of its own. A logarithmic range spans at least 1e-9 decades.
 ///
 /// The user's zooming and panning end at the reach: all data and the home range, with half of their width as
 /// room on either side. A range that lies outside of the reach already does not jump; it can only come
@@ -52,6 +52,8 @@ public:
     bool IsLogarithmic() const { return m_isLogarithmic; }
     /// Changes the kind of the axis. The axis then shows its home range.
     bool SetLogarithmic(bool isLogarithmic);
+    /// Whether a linear axis shows time, in seconds; only the narrowest range depends on this.
+    void SetTime(bool isTime) { m_isTime = isTime; }
     /// Sets the range of an axis that is not moved. An unusable range is replaced by a similar usable one.
     bool SetHome(const ViewRange& home);
     const ViewRange& Home() const { return m_home.values; }
@@ -102,6 +104,7 @@ private:
     bool Show(const Span& span);
 
     bool m_isLogarithmic = false;
+    bool m_isTime = false;
     Span m_home;
     ValueBounds m_data;
     State m_state;

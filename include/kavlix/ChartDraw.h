@@ -259,6 +259,8 @@ public:
     /// What the user can do to the view by mouse, touch pad and keyboard, flags of ViewFlags. The guide has a table of
     /// mouse and keys. The parent is told every change by CDN_VIEW. Without ViewFlags the cursors, the legend and movable
     /// reference lines still work.
+    ///
+    /// A drag that is going on is undone.
     void SetViewFlags(UINT nFlags);
     UINT GetViewFlags() const; ///< what the user can do to the view
     /// Shows the whole data on all axes, or on Y axes in the mode VisibleData the visible data. The present view enters

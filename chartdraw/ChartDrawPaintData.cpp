@@ -7,23 +7,17 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/DatasetPainter.h"
+#include "gdi/Colors.h"
 
 using namespace kavlix;
 
-namespace {
-
-/// The colour of an area whose colour is not set: three parts of the background, two parts of the line.
-COLORREF AreaColor(COLORREF line, COLORREF background) {
-    constexpr int kLineParts = 2;
-    constexpr int kBackgroundParts = 3;
-    const auto mix = [](int a, int b) {
-        return (a * kLineParts + b * kBackgroundParts) / (kLineParts + kBackgroundParts);
-    };
-    return RGB(mix(GetRValue(line), GetRValue(background)), mix(GetGValue(line), GetGValue(background)),
-               mix(GetBValue(line), GetBValue(background)));
+COLORREF ChartDrawState::FillColor(const CChartDraw::Dataset& dataset) const {
+    constexpr int kPale = 60; // percent of the background in an area whose colour is not set
+    if (dataset.fillColor != CLR_NONE)
+        return dataset.fillColor;
+    return dataset.style == CChartDraw::StyleFill ? MixColors(dataset.color, chart.m_BkColor, kPale)
+                                                  : dataset.color;
 }
-
-} // namespace
 
 DrawnDataset ChartDrawState::Drawn(const CChartDraw::Dataset& dataset) const {
     return {dataset.points,
@@ -45,8 +39,7 @@ void CChartDraw::DrawDatasets(CDC& dc) {
         if (!dataset->visible || dataset->style != StyleFill)
             continue;
         const DrawnDataset drawn = m_State->Drawn(*dataset);
-        const COLORREF color =
-            dataset->fillColor == CLR_NONE ? AreaColor(dataset->color, m_BkColor) : dataset->fillColor;
+        const COLORREF color = m_State->FillColor(*dataset);
         if (dataset->fillTo != nullptr)
             painter.DrawArea(drawn, m_State->Drawn(*dataset->fillTo), color);
         else
@@ -62,8 +55,7 @@ void CChartDraw::DrawDatasets(CDC& dc) {
             if (isHighlighted)
                 drawn.lineSize = std::max(drawn.lineSize, 1) + kHighlight;
             if (dataset.style == StyleBars)
-                painter.DrawBars(drawn, dataset.baseline, dataset.barWidth,
-                                 dataset.fillColor == CLR_NONE ? dataset.color : dataset.fillColor);
+                painter.DrawBars(drawn, dataset.baseline, dataset.barWidth, m_State->FillColor(dataset));
             else if (dataset.showLine && dataset.style == StyleImpulses)
                 painter.DrawImpulses(drawn, dataset.baseline);
             else if (dataset.showLine)

@@ -83,6 +83,7 @@ struct ChartDrawState {
     bool IsHighlighted(int nDataset) const;
     /// What DatasetPainter draws of a dataset (ChartDrawPaintData.cpp).
     DrawnDataset Drawn(const CChartDraw::Dataset& dataset) const;
+    COLORREF FillColor(const CChartDraw::Dataset& dataset) const; ///< colour of bars and of the filled area
     /// Selects the font of the chart's texts for the time of the result.
     BOOL MakeTextFont(CFont& font) const { return chart.MakeTextFont(font, 0, false); }
     int TextHeight() const { return chart.m_TextHeight; } ///< of the last layout, pixels

@@ -19,7 +19,6 @@ namespace {
 
 constexpr int kPale = 55;      // percent of the background in the texts of hidden datasets
 constexpr int kHighlight = 82; // percent of the background behind the row under the mouse
-constexpr int kAreaPale = 70;  // percent of the background in a filled area
 constexpr int kWidestSwatchLine = 8;
 constexpr int kSwatchMarkerHalf = 3;
 
@@ -44,16 +43,13 @@ template <class Draw> void WithPen(CDC& dc, int size, COLORREF color, Draw draw)
 }
 
 /// The bars or the filled area of a dataset; for a dataset without line and marker a box of its colour.
-void DrawSwatchArea(CDC& dc, const CRect& box, const ChartDrawState::ChartDataset& dataset, bool hasMarker,
-                    COLORREF background) {
+void DrawSwatchArea(CDC& dc, const CRect& box, const ChartDrawState::ChartDataset& dataset, COLORREF fill) {
     const bool isFill = dataset.style == CChartDraw::StyleFill;
     const bool isBars = dataset.style == CChartDraw::StyleBars;
-    if (!isFill && !isBars && (dataset.showLine || hasMarker))
+    if (!isFill && !isBars && (dataset.showLine || HasShape(dataset.markerType)))
         return;
     CBrush brush;
-    brush.CreateSolidBrush(dataset.fillColor != CLR_NONE ? dataset.fillColor
-                           : isFill                      ? MixColors(dataset.color, background, kAreaPale)
-                                                         : dataset.color);
+    brush.CreateSolidBrush(fill);
     if (isBars)
         ForBars(box, [&](const CRect& bar) { dc.FillRect(bar, &brush); });
     else
@@ -80,21 +76,20 @@ void DrawSwatchLine(CDC& dc, const CRect& box, CChartDraw::DrawStyle style, int 
 } // namespace
 
 void ChartLegendState::DrawSwatch(CDC& dc, const CRect& box, const ChartDrawState::ChartDataset& dataset,
-                                  COLORREF background) {
+                                  COLORREF fill) {
     const SelectGuard hollow(dc, ::GetStockObject(NULL_BRUSH));
     if (!dataset.visible) {
         WithPen(dc, 1, dataset.color, [&] { dc.Rectangle(box); });
         return;
     }
-    const bool hasMarker = HasShape(dataset.markerType);
-    DrawSwatchArea(dc, box, dataset, hasMarker, background);
+    DrawSwatchArea(dc, box, dataset, fill);
     if (dataset.showLine && dataset.style != CChartDraw::StyleBars) {
         const int widest = std::clamp(static_cast<int>(box.Height()), 1, kWidestSwatchLine);
         const int size = std::clamp(dataset.lineSize, 1, widest);
         WithPen(dc, size, dataset.color, [&] { DrawSwatchLine(dc, box, dataset.style, size); });
     }
     const CPoint middle = box.CenterPoint();
-    if (hasMarker)
+    if (HasShape(dataset.markerType))
         WithPen(dc, 1, dataset.color,
                 [&] { DrawMarker(dc, dataset.markerType, middle.x, middle.y, kSwatchMarkerHalf, 1); });
 }
@@ -130,7 +125,7 @@ void ChartDrawState::DrawLegend(CDC& dc) {
         }
         CRect swatch(place.TopLeft(), CSize(state.swatchWidth, place.Height()));
         swatch.DeflateRect(1, place.Height() / 5);
-        ChartLegendState::DrawSwatch(dc, swatch, dataset, state.background);
+        ChartLegendState::DrawSwatch(dc, swatch, dataset, FillColor(dataset));
         dc.SetTextColor(dataset.visible ? state.textColor
                                         : MixColors(state.textColor, state.background, kPale));
         DrawTextAt(dc, place.right - state.layout.TextRoom(i),

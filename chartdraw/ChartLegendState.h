@@ -38,9 +38,9 @@ struct ChartLegendState {
     /// Lays out the rows of the datasets that have a name, in at most `most` pixels. The texts' font is selected
     /// into `dc`. Sets all results but the place of `rect`.
     void LayOut(CDC& dc, ChartDrawState& chartState, CSize most, LegendLayout::Order order);
-    /// Draws the sample of a dataset's line, marker or area into `box`.
+    /// Draws the sample of a dataset's line, marker or area into `box`. `fill` is the colour of bars and areas.
     static void DrawSwatch(CDC& dc, const CRect& box, const ChartDrawState::ChartDataset& dataset,
-                           COLORREF background);
+                           COLORREF fill);
 };
 
 } // namespace kavlix

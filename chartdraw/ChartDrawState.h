@@ -88,8 +88,6 @@ struct ChartDrawState {
     BOOL MakeTextFont(CFont& font) const { return chart.MakeTextFont(font, 0, false); }
     int TextHeight() const { return chart.m_TextHeight; } ///< of the last layout, pixels
     const CRect& Plot() const { return chart.m_rectPlot; }
-    /// The plot without the rows in which axes tell what they cannot show.
-    CRect PlotBesideNotes() const;
     const CRect& Client() const { return chart.m_rectChart; }
     int DatasetCount() const { return chart.GetDatasetCount(); }
     CChartDraw::Dataset& Dataset(int nDataset) const;

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "chartdraw/AxisLayout.h"
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartLegendState.h"
@@ -115,18 +114,9 @@ void ChartDrawState::LayOutLegend(CDC& dc, CRect& room) {
         pixels(kDistance) + (isBeside ? state.rect.Width() : state.rect.Height());
 }
 
-CRect ChartDrawState::PlotBesideNotes() const {
-    CRect room = Plot();
-    const auto hasNote = [this](int axis) { return !Layout(axis).note.IsEmpty(); };
-    constexpr int kRowsOfY2 = 2; // the note of the second Y axis stands below that of the first one
-    room.top += TextHeight() * (HasSecondYAxis() && hasNote(kY2) ? kRowsOfY2 : hasNote(kY) ? 1 : 0);
-    room.bottom -= hasNote(kX) ? TextHeight() : 0;
-    return room;
-}
-
 void ChartDrawState::PlaceLegend(CDC& dc) {
     ChartLegendState& state = *legend.m_State;
-    CRect room = state.place == CChartLegend::Bottom ? Plot() : PlotBesideNotes();
+    CRect room = Plot();
     if (room.IsRectEmpty())
         state.rect.SetRectEmpty();
     if (room.IsRectEmpty() || state.place == CChartLegend::Hidden || state.place == CChartLegend::Right)

@@ -128,7 +128,7 @@ void ChartDrawState::DrawReferenceTexts(CDC& dc) {
     state.texts.SetFont(chart.m_FontPixels, chart.m_FontFace);
 
     const int gap = std::max(static_cast<int>(kTextGap * TextHeight()), 1);
-    CRect area = PlotBesideNotes();
+    CRect area = Plot();
     area.DeflateRect(gap, 1);
     LabelPlaces places(ToRect(area), gap);
     CRect behindLegend;

@@ -242,6 +242,9 @@ void CChartAxis::SetRangeMode(RangeMode mode) {
         view.SetMode(axis, ScaleMode::Whole);
         view.SetRange(axis, range);
     } else if (mode == Follow && isX) {
+        const ValueBounds& data = view.Axis(axis).Data();
+        if (chart.m_Changed && !view.Axis(axis).IsMoved() && !data.IsEmpty()) // the home range is outdated
+            view.SetHome(axis, RoundRangeAround(data, view.Axis(axis).IsLogarithmic()));
         view.SetMode(axis, ScaleMode::Follow);
     } else if (mode == WholeData || mode == VisibleData) {
         view.SetMode(axis, mode == VisibleData && !isX ? ScaleMode::Visible : ScaleMode::Whole);

@@ -27,7 +27,9 @@ bool ChartView::SetMode(ChartAxis axis, ScaleMode mode) {
     m_modes[Index(axis)] = mode;
     if (mode != ScaleMode::Follow)
         return changed.Fit();
-    changed.Set(changed.Range());
+    if (changed.IsMoved() ||
+        !XData().IsEmpty()) // without data, all data to come is shown until the user zooms in
+        changed.Set(changed.Range());
     m_isFollowing = true;
     return CatchUp();
 }

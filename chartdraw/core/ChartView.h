@@ -56,7 +56,7 @@ public:
     ScaleMode Mode(ChartAxis axis) const { return m_modes[Index(axis)]; }
 
     /// Sets the mode; a gesture ends. The axis shows its home range, but in the mode Follow it keeps its width and
-    /// goes to the newest data.
+    /// goes to the newest data, if there is any or the axis is moved.
     bool SetMode(ChartAxis axis, ScaleMode mode);
     /// Another kind of an axis ends a gesture, shows the axis's home range and forgets the history.
     bool SetLogarithmic(ChartAxis axis, bool isLogarithmic);

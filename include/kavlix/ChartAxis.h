@@ -74,7 +74,8 @@ public:
 
     /// @{
     /// Where the range comes from. SetRange and the user set Fixed. Follow keeps the range's present width, and
-    /// moves it to the newest point.
+    /// moves it to the newest point. Without data and without a range of its own it shows all data to come, and follows
+    /// once the user zooms in.
     void SetRangeMode(RangeMode mode);
     RangeMode GetRangeMode() const;
     /// @}

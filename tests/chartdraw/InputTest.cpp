@@ -406,6 +406,24 @@ TEST_F(ChartInputTest, TheViewFollowsTheNewestDataInSight) {
     EXPECT_EQ(x.GetRangeMode(), CChartAxis::Follow);
 }
 
+TEST_F(ChartInputTest, FollowingNeedsNoLayout) {
+    for (const bool hasData : {false, true}) {
+        chart.GetXAxis().SetRangeMode(CChartAxis::WholeData);
+        chart.ResetData(0);
+        if (!hasData) {
+            chart.CalcDatas();
+            chart.GetXAxis().SetRangeMode(CChartAxis::Follow);
+        }
+        for (int i = 0; i <= 60; ++i)
+            chart.AddData(0, 1.7e9 + i, i);
+        if (hasData)
+            chart.GetXAxis().SetRangeMode(CChartAxis::Follow);
+        chart.CalcDatas();
+        EXPECT_TRUE(Now()[0] <= 1.7e9 + 10 && Now()[0] >= 1.7e9 - 10) << hasData;
+        EXPECT_TRUE(Now()[1] >= 1.7e9 + 60 && Now()[1] <= 1.7e9 + 80) << hasData;
+    }
+}
+
 TEST_F(ChartInputTest, YFitsTheDataInView) {
     chart.GetYAxis().SetRangeMode(CChartAxis::VisibleData);
     for (int i = 0; i < 200; ++i)

@@ -310,8 +310,9 @@ private:
         m_model.isFollowMode = Below(2) == 0;
         m_view.SetMode(ChartAxis::X, m_model.isFollowMode ? ScaleMode::Follow : ScaleMode::Whole);
         ModelAxis& x = m_model.X();
+        const bool hasRange = x.isMoved || x.HasData();
         x.Show(x.Low(), x.High());
-        x.isMoved = m_model.isFollowMode;
+        x.isMoved = m_model.isFollowMode && hasRange;
         if (m_model.isFollowMode) {
             m_model.isFollowing = true;
             m_model.CatchUp();

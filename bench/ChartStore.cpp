@@ -14,7 +14,6 @@ namespace {
 constexpr int kMillion = 1000000;
 constexpr int kStep = 100; // points of a step whose time is measured
 constexpr int kLate = 100;
-constexpr double kBytesPerKib = 1024;
 
 /// Appends points in steps and adds the rate and the times of the steps.
 void AppendAll(Row& row, const std::string& name, int count, int history, bool even) {
@@ -43,7 +42,7 @@ double BytesPerPoint(bool even) {
     const std::vector<double> values = WalkValues(0, kMillion);
     CChartDraw chart;
     chart.AddDataset();
-    const double before = static_cast<double>(Count().memory);
+    const double before = UsedBytes();
     for (int i = 0; i < kPoints; ++i) {
         const double value = values[static_cast<std::size_t>(i % kMillion)];
         if (even)
@@ -51,7 +50,7 @@ double BytesPerPoint(bool even) {
         else
             chart.AddData(0, i + 0.1 * value, value);
     }
-    return (static_cast<double>(Count().memory) - before) * kBytesPerKib / kPoints;
+    return (UsedBytes() - before) / kPoints;
 }
 
 void SetStyle(CChartDraw& chart, CChartDraw::DrawStyle style) {
@@ -61,8 +60,8 @@ void SetStyle(CChartDraw& chart, CChartDraw::DrawStyle style) {
 
 } // namespace
 
-void ChartAppend() {
-    Row row("chart_append");
+void ChartStore() {
+    Row row("chart_store");
     row.Add("points_a_step", kStep);
     AppendAll(row, "all", 10 * kMillion, 0, false);
     AppendAll(row, "history", 10 * kMillion, kMillion, false);

@@ -82,7 +82,7 @@ void ChartPan(int count);
 void ChartZoom(int count);
 void ChartAgainstGraph(int count, bool uneven);
 void ChartTenMillion(bool uneven);
-void ChartAppend();
+void ChartStore();
 void ChartStyles();
 
 } // namespace bench

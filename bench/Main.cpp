@@ -65,7 +65,7 @@ constexpr struct {
     {"chart_late", &bench::ChartLate},
     {"chart_wall", &bench::ChartWall},
     {"chart_save", &bench::ChartSave},
-    {"chart_append", &bench::ChartAppend},
+    {"chart_store", &bench::ChartStore},
     {"chart_styles", &bench::ChartStyles},
     {"graph_growth", &bench::GraphGrowth},
     {"graph_day", &bench::GraphDay},

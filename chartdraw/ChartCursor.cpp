@@ -9,6 +9,7 @@
 #include "chartdraw/ChartCursorState.h"
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
+#include "chartdraw/ChartInputState.h"
 
 using namespace kavlix;
 
@@ -65,10 +66,9 @@ CChartCursor::CChartCursor(CChartDraw& chart) : m_State(std::make_unique<ChartCu
 CChartCursor::~CChartCursor() = default;
 
 void CChartCursor::SetMode(Mode mode) {
+    for (int i = 0; mode == Off && i < ChartCursorState::kCursors; ++i)
+        Hide(i);
     m_State->mode = mode;
-    if (mode == Off)
-        for (ChartCursorState::Place& place : m_State->places)
-            place.isShown = false;
 }
 
 CChartCursor::Mode CChartCursor::GetMode() const {
@@ -145,6 +145,10 @@ bool ChartDrawState::MoveCursor(int nCursor, int nSamples, bool tell) {
     reading.sample = sample;
     reading.point = dataset.points[sample];
     reading.x = ToAxis(dataset, reading.point.x);
+    // The user can leave the view only if the user may move it.
+    const AxisLayout& layout = Layout(kX);
+    if (tell && !input->Has(CChartDraw::ViewPanX) && !(reading.x >= layout.min && reading.x <= layout.max))
+        return false;
     cursor.m_State->Set(*this, nCursor, reading);
     if (!tell) {
         ShareCursor(nCursor);

@@ -57,6 +57,7 @@ BOOL CChartDraw::RemoveDataset(int nDataset) {
     for (const auto& dataset : m_Datasets)
         if (dataset->fillTo == removed->get())
             dataset->fillTo = nullptr;
+    m_State->DatasetRemoved(nDataset);
     m_Datasets.erase(removed);
     m_State->posted->queue.RemoveDataset(nDataset);
     m_Changed = true;
@@ -65,6 +66,8 @@ BOOL CChartDraw::RemoveDataset(int nDataset) {
 
 void CChartDraw::RemoveAllDatasets() {
     ASSERT(m_State->IsOwnerThread());
+    for (int i = GetDatasetCount() - 1; i >= 0; --i)
+        m_State->DatasetRemoved(i);
     m_Datasets.clear();
     m_State->posted->queue.RemoveAllDatasets();
     m_NextColor = 0;

@@ -29,7 +29,10 @@ bool PanToPointer(ChartDrawState& state) {
     const double y = ShareOfPixels(state, ChartDrawState::kY, start.y - last.y);
     const ViewRanges before = input.Ranges();
     RefreshView(state);
-    input.view.PanFromBegin((axes & kAxisX) != 0 ? x : 0, (axes & kAxesY) != 0 ? y : 0);
+    // Y axes that are fitted to what is in view stay fitted.
+    const bool isYFitted =
+        input.view.Mode(ChartAxis::Y) == ScaleMode::Visible && !input.view.Axis(ChartAxis::Y).IsMoved();
+    input.view.PanFromBegin((axes & kAxisX) != 0 ? x : 0, (axes & kAxesY) != 0 && !isYFitted ? y : 0);
     return ViewChanged(state, before, ViewCause::User);
 }
 
@@ -193,6 +196,8 @@ void CChartDraw::OnLButtonDown(UINT nFlags, CPoint point) {
 void CChartDraw::OnLButtonDblClk(UINT, CPoint point) {
     const HWND window = m_hWnd;
     const ChartInputState& input = *m_State->input;
+    if (::GetKeyState(VK_CONTROL) < 0 && m_State->cursor.GetMode() != CChartCursor::Off)
+        return; // the first click has placed the second cursor
     const Part part = input.pointer.IsPressed() ? Part::Legend : PressPart(*m_State, point);
     if (part != Part::None || !IsAlive(window, this))
         return;
@@ -227,7 +232,7 @@ LRESULT CChartDraw::OnMouseLeave(WPARAM, LPARAM) {
     m_State->HoverLegend(nullptr);
     if (IsAlive(window, this))
         m_State->HoverCursor(nullptr);
-    return 0;
+    return IsAlive(window, this) ? Default() : 0;
 }
 
 void CChartDraw::OnLButtonUp(UINT, CPoint point) {
@@ -265,8 +270,8 @@ void CChartDraw::OnRButtonUp(UINT, CPoint point) {
 
 void CChartDraw::OnCaptureChanged(CWnd* pWnd) {
     // SetCapture on this window also sends the message, with this window as the new owner.
-    if (pWnd != this)
-        EndDrag(*m_State, true);
+    if (pWnd == this || EndDrag(*m_State, true))
+        Default();
 }
 
 BOOL CChartDraw::OnSetCursor(CWnd*, UINT nHitTest, UINT) {

@@ -2,8 +2,10 @@
 // ChartDrawState: lifetime, and what all parts use.
 #include "chartdraw/ChartDrawState.h"
 
+#include "chartdraw/ChartCursorState.h"
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartInputState.h"
+#include "chartdraw/ChartLegendState.h"
 #include "chartdraw/ChartLink.h"
 #include "chartdraw/ChartPost.h"
 
@@ -19,6 +21,13 @@ ChartDrawState::~ChartDrawState() = default;
 
 CChartDraw::Dataset& ChartDrawState::Dataset(int nDataset) const {
     return *chart.m_Datasets[static_cast<std::size_t>(nDataset)];
+}
+
+void ChartDrawState::DatasetRemoved(int nDataset) {
+    legend.m_State->DatasetRemoved(nDataset);
+    for (ChartCursorState::Place& place : cursor.m_State->places)
+        if (place.dataset == &Dataset(nDataset))
+            place.dataset = nullptr; // a new dataset can get the same address
 }
 
 void ChartDrawState::DrawOverlay(CDC& dc) {

@@ -58,7 +58,8 @@ struct ChartDrawState {
     std::int64_t CountNotShown() const;
     CString note;                    ///< tells the number; above the plot
     CString Caption(int axis) const; ///< title of an axis with its unit
-    bool HasSecondYAxis() const;     ///< whether it is shown
+    bool HasAxis(int axis) const { return axis != kY2 || HasSecondYAxis(); }
+    bool HasSecondYAxis() const; ///< whether it is shown
     /// Value of the X axis for an x of a dataset.
     double ToAxis(const CChartDraw::Dataset& dataset, double x) const;
     /// x of a dataset for a value of the X axis.
@@ -91,6 +92,8 @@ struct ChartDrawState {
     const CRect& Client() const { return chart.m_rectChart; }
     int DatasetCount() const { return chart.GetDatasetCount(); }
     CChartDraw::Dataset& Dataset(int nDataset) const;
+    /// The parts forget a dataset that is about to be removed (ChartCursor.cpp, ChartLegend.cpp).
+    void DatasetRemoved(int nDataset);
     /// Marks the layout as outdated. A setter that can change the picture calls it.
     void Changed() { chart.m_Changed = true; }
 

@@ -152,6 +152,7 @@ void ChartDrawState::ResetRange(int axis) {
 
 void kavlix::RefreshView(ChartDrawState& state) {
     state.SetFixedHomes();
+    state.input->view.SetY2Mirrored(state.yAxis.IsInverted() != state.y2Axis.IsInverted());
     for (int axis = 0; axis < ChartDrawState::kAxes; ++axis) {
         SetKind(state, axis);
         state.input->view.SetData(ToChartAxis(axis), state.DataBounds(axis));

@@ -137,6 +137,12 @@ void ChartDrawState::PlaceLegend(CDC& dc) {
                           isTop ? room.top : room.bottom - state.rect.Height());
 }
 
+void ChartLegendState::DatasetRemoved(int dataset) {
+    for (Row& row : rows)
+        row.dataset = row.dataset == dataset ? -1 : row.dataset - (row.dataset > dataset ? 1 : 0);
+    highlighted = -1;
+}
+
 bool ChartDrawState::IsHighlighted(int nDataset) const {
     return nDataset == legend.m_State->highlighted;
 }

@@ -35,6 +35,8 @@ struct ChartLegendState {
 
     MeasuredTexts names;
 
+    /// Dataset `dataset` is removed; the later ones get the index before theirs.
+    void DatasetRemoved(int dataset);
     /// Lays out the rows of the datasets that have a name, in at most `most` pixels. The texts' font is selected
     /// into `dc`. Sets all results but the place of `rect`.
     void LayOut(CDC& dc, ChartDrawState& chartState, CSize most, LegendLayout::Order order);

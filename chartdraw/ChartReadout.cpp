@@ -39,7 +39,11 @@ std::vector<CursorReading> ReadDatasets(const ChartDrawState& state, const Chart
     for (int i = 0; i < state.DatasetCount(); ++i)
         if (state.Dataset(i).visible)
             readings.push_back(ChartCursorState::ReadAt(state, own, i));
-    const auto isEmpty = [](const CursorReading& reading) { return !reading.IsValid(); };
+    // In a hole of its data a dataset has no value to read.
+    const auto isEmpty = [&](const CursorReading& reading) {
+        return !reading.IsValid() ||
+               std::abs(reading.x - own.x) > state.Dataset(reading.dataset).points.GapLimit();
+    };
     readings.erase(std::remove_if(readings.begin(), readings.end(), isEmpty), readings.end());
     return readings;
 }
@@ -122,7 +126,8 @@ ChartReadout ReadSpan(ChartDrawState& state, const ChartCursorState& cursors,
 
 ChartReadout ReadCursors(ChartDrawState& state, const ChartCursorState& cursors) {
     const CursorReading ends[] = {cursors.Read(state, 0), cursors.Read(state, 1)};
-    if (ends[0].IsValid() && ends[1].IsValid())
+    const bool isSame = ends[0].dataset == ends[1].dataset && ends[0].sample == ends[1].sample;
+    if (ends[0].IsValid() && ends[1].IsValid() && !isSame)
         return ReadSpan(state, cursors, ends);
     for (const CursorReading& end : ends)
         if (end.IsValid())

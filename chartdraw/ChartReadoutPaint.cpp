@@ -179,7 +179,11 @@ void ChartDrawState::DrawCursors(CDC& dc) {
 void ChartDrawState::DrawReadout(CDC& dc) {
     ChartCursorState& state = *cursor.m_State;
     ChartReadout readout = ReadCursors(*this, state);
-    if (readout.IsEmpty() || readout.points.empty())
+    // Without a sample in view there is no crosshair either.
+    const auto isInView = [&](const Point& point) {
+        return point.x >= Plot().left && point.x < Plot().right;
+    };
+    if (readout.IsEmpty() || std::none_of(readout.points.begin(), readout.points.end(), isInView))
         return;
     CFont font;
     MakeTextFont(font);

@@ -157,7 +157,7 @@ const ChartReference* ChartReferencesState::Hit(const ChartDrawState& state, CPo
     if (!state.Plot().PtInRect(point))
         return nullptr;
     for (const ChartReference& item : items) {
-        if (!item.isMovable || !item.isShown)
+        if (!item.isMovable || !item.isShown || !state.HasAxis(item.axis))
             continue;
         const bool isX = item.axis == CChartReferences::X;
         const int at = isX ? point.x : point.y;

@@ -62,7 +62,7 @@ Rect PlaceText(LabelPlaces& places, const ChartReference& item, const Rect& rect
 CRect ChartReferencesState::RectOf(const ChartDrawState& state, const ChartReference& item) const {
     const CRect& plot = state.Plot();
     const bool isX = item.axis == CChartReferences::X;
-    if (!item.isShown || plot.IsRectEmpty())
+    if (!item.isShown || plot.IsRectEmpty() || !state.HasAxis(item.axis))
         return CRect(0, 0, 0, 0);
     const AxisMap map = state.Map(item.axis);
     // An infinite value, and one without a position on a logarithmic axis, lies at the end of the axis.

@@ -135,7 +135,7 @@ template <class Move> bool ChartView::MoveAxes(AxisSet axes, Move move) {
     bool isChanged = false;
     for (std::size_t i = 0; i < kAxes; ++i)
         if ((axes & (1U << i)) != 0)
-            isChanged = move(m_axes[i], i == 0) || isChanged;
+            isChanged = move(m_axes[i], static_cast<ChartAxis>(i)) || isChanged;
     if ((axes & kAxisX) != 0 && !m_isInGesture)
         m_isFollowing = !X().IsMoved() || IsNewestVisible();
     return isChanged;
@@ -143,50 +143,58 @@ template <class Move> bool ChartView::MoveAxes(AxisSet axes, Move move) {
 
 bool ChartView::Zoom(AxisSet axes, double shareX, double shareY, double factor) {
     return MoveAxes(
-        axes, [&](ViewAxis& axis, bool isX) { return axis.Zoom(isX ? shareX : shareY, factor); });
+        axes,
+        [&](ViewAxis& axis, ChartAxis which) {
+            return axis.Zoom(which == ChartAxis::X ? shareX : PlaceOnY(which, shareY), factor);
+        });
 }
 
 bool ChartView::Pan(double shareX, double shareY) {
     return MoveAxes((shareX != 0 ? kAxisX : 0) | (shareY != 0 ? kAxesY : 0),
-                    [&](ViewAxis& axis, bool isX) { return axis.Pan(isX ? shareX : shareY); });
+                    [&](ViewAxis& axis, ChartAxis which) {
+                        return axis.Pan(which == ChartAxis::X ? shareX : MoveOnY(which, shareY));
+                    });
 }
 
 bool ChartView::PanFromBegin(double shareX, double shareY) {
     if (!m_isInGesture)
         return false;
     const auto* begin = m_begin.axes.data();
-    return MoveAxes(kAllAxes,
-                    [&](ViewAxis& axis, bool isX) { return axis.PanFrom(*begin++, isX ? shareX : shareY); });
+    return MoveAxes(kAllAxes, [&](ViewAxis& axis, ChartAxis which) {
+        return axis.PanFrom(*begin++, which == ChartAxis::X ? shareX : MoveOnY(which, shareY));
+    });
 }
 
 bool ChartView::ZoomTo(const ViewBox& box) {
     return MoveAxes(
         box.axes,
-        [&](ViewAxis& axis, bool isX) {
-            return isX ? axis.ZoomTo(box.left, box.right) : axis.ZoomTo(box.low, box.high);
+        [&](ViewAxis& axis, ChartAxis which) {
+            return which == ChartAxis::X ? axis.ZoomTo(box.left, box.right)
+                                         : axis.ZoomTo(PlaceOnY(which, box.low), PlaceOnY(which, box.high));
         });
 }
 
 bool ChartView::SetRange(ChartAxis axis, const ViewRange& range) {
     return MoveAxes(
-        1U << Index(axis), [&](ViewAxis& moved, bool) { return moved.Set(range); });
+        1U << Index(axis), [&](ViewAxis& moved, ChartAxis) { return moved.Set(range); });
 }
 
 bool ChartView::Fit(AxisSet axes) {
     return MoveAxes(
-        axes, [](ViewAxis& axis, bool) { return axis.Fit(); });
+        axes, [](ViewAxis& axis, ChartAxis) { return axis.Fit(); });
 }
 
 bool ChartView::GoToFirst() {
-    return !IsAllVisible() && MoveAxes(
-                                  kAxisX, [&](ViewAxis& axis, bool) { return axis.Place(XData().min, 0); });
+    return !IsAllVisible() &&
+           MoveAxes(
+               kAxisX, [&](ViewAxis& axis, ChartAxis) { return axis.Place(XData().min, 0); });
 }
 
 bool ChartView::GoToNewest() {
     return !IsAllVisible() &&
            MoveAxes(
                kAxisX, [&](ViewAxis& axis,
-                           bool) { return axis.Place(XData().max, IsFollowMode() ? kNewestShare : 1); });
+                           ChartAxis) { return axis.Place(XData().max, IsFollowMode() ? kNewestShare : 1); });
 }
 
 bool ChartView::Back() {

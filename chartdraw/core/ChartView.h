@@ -69,6 +69,9 @@ public:
     /// bounds of X.
     bool SetData(ChartAxis axis, const ValueBounds& data);
 
+    /// Whether the second Y axis grows the other way than the first one. Shares of Y are those of the first one.
+    void SetY2Mirrored(bool isMirrored) { m_isY2Mirrored = isMirrored; }
+
     // ---- Gestures ----
 
     /// Begins a gesture; ends the one before it.
@@ -114,6 +117,9 @@ private:
     bool IsAllVisible() const {
         return IsNewestVisible() && (XData().IsEmpty() || m_axes[0].Shows(XData().min));
     }
+    bool IsMirrored(ChartAxis axis) const { return axis == ChartAxis::Y2 && m_isY2Mirrored; }
+    double PlaceOnY(ChartAxis axis, double share) const { return IsMirrored(axis) ? 1 - share : share; }
+    double MoveOnY(ChartAxis axis, double share) const { return IsMirrored(axis) ? -share : share; }
     State Save() const;
     bool Restore(const State& state);
     bool IsAt(const State& state) const;
@@ -122,6 +128,7 @@ private:
 
     std::array<ViewAxis, kAxes> m_axes;
     std::array<ScaleMode, kAxes> m_modes{};
+    bool m_isY2Mirrored = false;
     bool m_isFollowing = true; ///< whether new data moves X, in the mode Follow
 
     bool m_isInGesture = false;

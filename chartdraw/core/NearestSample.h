@@ -66,6 +66,8 @@ private:
     void SearchSorted(double x) {
         const int size = m_series.Size();
         int right = std::max(m_series.NearestInX(x), 0); // the next point to the right, and to the left
+        if (right < size && std::isnan(m_along(m_series[right].x)))
+            right = FirstWithPosition(right);
         int left = right - 1;
         for (int count = kFewest; right < size || left >= 0; count = std::min(2 * count, size)) {
             if (right < size && !IsWithinReach(right))
@@ -83,6 +85,18 @@ private:
                 left = first - 1;
             }
         }
+    }
+    /// The first point from `first` on whose x has a position: on a logarithmic axis the first x above 0.
+    int FirstWithPosition(int first) const {
+        int end = m_series.Size();
+        while (first < end) {
+            const int middle = first + (end - first) / 2;
+            if (std::isnan(m_along(m_series[middle].x)))
+                first = middle + 1;
+            else
+                end = middle;
+        }
+        return first;
     }
     bool IsWithinReach(int i) const {
         const double dx = m_along(m_series[i].x);

@@ -17,18 +17,29 @@ int WholeBlocks(int count) {
 
 } // namespace
 
-/// Most chunks have the same size, so the place is guessed from the end; a binary search follows when the
-/// guess is wrong.
-std::size_t SortedPoints::IndexOfChunk(std::int64_t number) const {
-    const std::int64_t guess = GuessChunk(number);
-    if (guess >= 0) {
-        const SortedChunk& chunk = m_chunks[static_cast<std::size_t>(guess)];
-        if (number >= chunk.First() && number < chunk.End())
-            return static_cast<std::size_t>(guess);
+/// Looks at the chunk that was found last and at the next one. Otherwise searches from the guessed chunk in steps of
+/// growing size, then by halves.
+std::size_t SortedPoints::IndexOfChunk(std::int64_t number, std::size_t& lastFound) const {
+    if (IsInChunk(lastFound, number))
+        return lastFound;
+    if (IsInChunk(lastFound + 1, number))
+        return ++lastFound;
+    auto begin = static_cast<std::size_t>(GuessChunk(number));
+    auto end = begin + 1; // the chunk is from `begin` to before `end`
+    for (std::size_t step = 1; m_chunks[begin].First() > number; step *= 2) {
+        end = begin;
+        begin -= std::min(step, begin - m_gone);
     }
-    const auto found = std::partition_point(m_chunks.begin(), m_chunks.end(),
-                                            [=](const auto& chunk) { return chunk.End() <= number; });
-    return static_cast<std::size_t>(found - m_chunks.begin());
+    for (std::size_t step = 1; m_chunks[end - 1].End() <= number; step *= 2) {
+        begin = end;
+        end = std::min(end + step, m_chunks.size());
+    }
+    while (end - begin > 1) {
+        const std::size_t middle = begin + (end - begin) / 2;
+        (m_chunks[middle].First() <= number ? begin : end) = middle;
+    }
+    lastFound = begin;
+    return begin;
 }
 
 /// The first chunks are small, so that a short series takes little memory.
@@ -88,6 +99,7 @@ void SortedPoints::Insert(int i, double x, double y) {
             add(half, size, k >= half);
         }
         count = pieces.size();
+        m_isSplit = true;
         if (m_chunks.capacity() < m_chunks.size() + count)
             m_chunks.reserve(m_chunks.size() * 2 + count);
         for (std::size_t piece = 0; piece < count; ++piece)
@@ -120,6 +132,7 @@ void SortedPoints::RemoveHead(int count) {
     if (m_gone == m_chunks.size()) {
         m_chunks.clear();
         m_gone = 0;
+        m_isSplit = false;
         m_tail = nullptr;
     } else if (m_gone * 2 > m_chunks.size()) {
         m_chunks.erase(m_chunks.begin(), m_chunks.begin() + static_cast<std::ptrdiff_t>(m_gone));

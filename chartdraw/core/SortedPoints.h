@@ -111,13 +111,13 @@ public:
     };
     /// Prefetches what FindFirst, FindLast and Visit read around point `i`, which exists.
     void Prefetch(int i) const {
-        const SortedChunk& chunk = ChunkOf(i);
+        const SortedChunk& chunk = m_chunks[IndexOfChunk(m_begin + i, m_lastPrefetched)];
         chunk.Prefetch(PlaceIn(chunk, i));
     }
     /// Prefetches the summaries of the chunks of `range`, whose points exist. Reads no chunk but the last one.
     void PrefetchSummaries(IndexRange range) const {
         const std::int64_t last = GuessChunk(m_begin + range.last);
-        for (std::int64_t i = std::max<std::int64_t>(GuessChunk(m_begin + range.first), 0); i <= last; ++i)
+        for (std::int64_t i = GuessChunk(m_begin + range.first); i <= last; ++i)
             PrefetchMemory(&m_chunks[static_cast<std::size_t>(i)],
                            &m_chunks[static_cast<std::size_t>(i)] + 1);
     }
@@ -239,13 +239,26 @@ private:
         const SortedChunk::Summary& whole = chunk.Whole();
         return isUnwanted(whole.values, whole.numbers < chunk.Size(), whole.largestStep);
     }
-    /// The chunk of a point if all chunks have the same size; may be negative. Number `number` exists.
+    /// A chunk at or near that of point `number`, which exists. Most chunks have the same size, so their number is
+    /// counted from the end; where late points have split chunks, the place in the table is found in proportion.
     std::int64_t GuessChunk(std::int64_t number) const {
-        const std::int64_t behind = m_tail->First() - number;
         const auto last = static_cast<std::int64_t>(m_chunks.size()) - 1;
-        return behind <= 0 ? last : last - (behind + SortedChunk::kMost - 1) / SortedChunk::kMost;
+        const std::int64_t behind = m_tail->First() - number;
+        if (behind <= 0)
+            return last;
+        const auto first = static_cast<std::int64_t>(m_gone);
+        const std::int64_t guess =
+            m_isSplit ? last - static_cast<std::int64_t>(static_cast<double>(behind) *
+                                                         static_cast<double>(last - first) /
+                                                         static_cast<double>(m_tail->First() - m_begin))
+                      : last - (behind + SortedChunk::kMost - 1) / SortedChunk::kMost;
+        return std::max(guess, first);
     }
-    std::size_t IndexOfChunk(std::int64_t number) const;
+    bool IsInChunk(std::size_t i, std::int64_t number) const {
+        return i < m_chunks.size() && number >= m_chunks[i].First() && number < m_chunks[i].End();
+    }
+    std::size_t IndexOfChunk(std::int64_t number) const { return IndexOfChunk(number, m_lastFound); }
+    std::size_t IndexOfChunk(std::int64_t number, std::size_t& lastFound) const;
     void AddChunk(const SortedChunk::Formula* rule);
     bool Continues(const SortedChunk::Formula& rule) const {
         const SortedChunk::Formula& own = m_tail->Rule();
@@ -256,8 +269,12 @@ private:
     std::vector<SortedChunk> m_chunks;
     std::size_t m_gone = 0;        ///< chunks at the table's head that are removed and hold no points
     SortedChunk* m_tail = nullptr; ///< the last chunk
-    std::int64_t m_begin = 0;      ///< number of point 0
-    std::int64_t m_end = 0;        ///< number behind the last point
+    // Searches for chunks begin where the last one ended. Any value is valid.
+    mutable std::size_t m_lastFound = 0;
+    mutable std::size_t m_lastPrefetched = 0;
+    bool m_isSplit = false;   ///< late points have split chunks
+    std::int64_t m_begin = 0; ///< number of point 0
+    std::int64_t m_end = 0;   ///< number behind the last point
     // Free lists of one element each. Reusing the memory of removed chunks avoids slow heap allocations.
     SortedChunk::Memory m_spareValues;
     SortedChunk::Memory m_spareXs;

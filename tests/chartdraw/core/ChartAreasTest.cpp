@@ -14,28 +14,28 @@
 namespace kavlix {
 namespace {
 
-constexpr int kWidth = 60;
-constexpr int kHeight = 40;
+constexpr int kPlotWidth = 60;
+constexpr int kPlotHeight = 40;
 constexpr int kTall = 3000; // rows above and below row 0 that the plain walk of lines knows
-const Rect kFrame{0, 0, kWidth, kHeight};
-using Pixels = std::vector<int>;
+const Rect kFrame{0, 0, kPlotWidth, kPlotHeight};
+using PixelGrid = std::vector<int>;
 
 /// The pixels of the areas inside the frame.
-Pixels Painted(const ColumnRows& rows) {
-    Pixels pixels(kWidth * kHeight);
+PixelGrid Painted(const ColumnRows& rows) {
+    PixelGrid pixels(kPlotWidth * kPlotHeight);
     rows.VisitAreas(kFrame, [&](const Rect& area) {
-        EXPECT_TRUE(area.left < area.right && area.top >= 0 && area.bottom <= kHeight);
+        EXPECT_TRUE(area.left < area.right && area.top >= 0 && area.bottom <= kPlotHeight);
         for (int y = area.top; y < area.bottom; ++y)
             for (int x = area.left; x < area.right; ++x)
-                ++pixels[static_cast<std::size_t>(y * kWidth + x)];
+                ++pixels[static_cast<std::size_t>(y * kPlotWidth + x)];
     });
     return pixels;
 }
 
-void FillPlainly(Pixels& pixels, int x, int a, int b) {
-    for (int y = std::max(std::min(a, b), 0); y <= std::min(std::max(a, b), kHeight - 1); ++y)
-        if (x >= 0 && x < kWidth)
-            pixels[static_cast<std::size_t>(y * kWidth + x)] = 1;
+void FillPlainly(PixelGrid& pixels, int x, int a, int b) {
+    for (int y = std::max(std::min(a, b), 0); y <= std::min(std::max(a, b), kPlotHeight - 1); ++y)
+        if (x >= 0 && x < kPlotWidth)
+            pixels[static_cast<std::size_t>(y * kPlotWidth + x)] = 1;
 }
 
 /// A random series, and the maps of a random view of it.
@@ -70,8 +70,8 @@ public:
         if (OneIn(4))
             std::swap(low, high);
         barWidth = OneIn(4) ? 0 : (isLogX ? 30 : 1) * std::pow(10, -3 * Unit());
-        xMap = AxisMap(isLogX, left, right, 0, kWidth - 1);
-        yMap = AxisMap(isLogY, low, high, kHeight - 1, 1 - kHeight);
+        xMap = AxisMap(isLogX, left, right, 0, kPlotWidth - 1);
+        yMap = AxisMap(isLogY, low, high, kPlotHeight - 1, 1 - kPlotHeight);
         baseline = OneIn(3) ? 0 : low + (high - low) * Unit();
     }
 
@@ -89,7 +89,7 @@ private:
 
 /// The row of the baseline: the lower end of a logarithmic axis stands for values that it cannot show.
 int BaseOf(const Scene& scene) {
-    return scene.yMap.Position(scene.baseline).value_or(kHeight - 1);
+    return scene.yMap.Position(scene.baseline).value_or(kPlotHeight - 1);
 }
 
 TEST(ChartAreas, BarsAreThoseOfEachPoint) {
@@ -97,7 +97,7 @@ TEST(ChartAreas, BarsAreThoseOfEachPoint) {
     for (int round = 0; round < 800; ++round) {
         Scene scene(random);
         const int wide = scene.OneIn(3) ? 1 + static_cast<int>(scene.Unit() * 6) : 0; // impulses
-        Pixels expected(kWidth * kHeight);
+        PixelGrid expected(kPlotWidth * kPlotHeight);
         for (int i = 0; i < scene.series.Size(); ++i) {
             const ChartPoint point = scene.series[i];
             const auto x = scene.xMap.Position(point.x), y = scene.yMap.Position(point.y);
@@ -114,10 +114,10 @@ TEST(ChartAreas, BarsAreThoseOfEachPoint) {
                 left = *x - wide / 2;
                 right = left + wide;
             }
-            for (int column = std::max(left, 0); column < std::min(right, kWidth); ++column)
+            for (int column = std::max(left, 0); column < std::min(right, kPlotWidth); ++column)
                 FillPlainly(expected, column, BaseOf(scene), *y);
         }
-        ColumnRows rows(0, kWidth);
+        ColumnRows rows(0, kPlotWidth);
         const BarShape bars = wide > 0 ? BarShape(scene.xMap, wide) : BarShape(scene.xMap, scene.barWidth);
         ASSERT_EQ(BaselineRow(scene.yMap, scene.baseline), BaseOf(scene));
         CoverBars(scene.series, bars, scene.yMap, BaseOf(scene), rows);
@@ -127,8 +127,8 @@ TEST(ChartAreas, BarsAreThoseOfEachPoint) {
 
 /// For each column the highest and the lowest pixel of the strokes between all points, and of the points.
 ColumnRows WalkLine(const Scene& scene, bool isStepped) {
-    std::vector<std::uint32_t> memory(kWidth * 2 * kTall);
-    const PixelRaster raster(memory.data() + kTall * kWidth, kWidth, {0, -kTall, kWidth, kTall});
+    std::vector<std::uint32_t> memory(kPlotWidth * 2 * kTall);
+    const PixelRaster raster(memory.data() + kTall * kPlotWidth, kPlotWidth, {0, -kTall, kPlotWidth, kTall});
     bool isOpen = false;
     Point last;
     const auto strokeTo = [&](Point to) {
@@ -146,10 +146,10 @@ ColumnRows WalkLine(const Scene& scene, bool isStepped) {
         if (x && y)
             strokeTo({*x, *y});
     }
-    ColumnRows rows(0, kWidth);
+    ColumnRows rows(0, kPlotWidth);
     for (int y = -kTall; y < kTall; ++y)
-        for (int x = 0; x < kWidth; ++x)
-            if (memory[static_cast<std::size_t>((y + kTall) * kWidth + x)] != 0)
+        for (int x = 0; x < kPlotWidth; ++x)
+            if (memory[static_cast<std::size_t>((y + kTall) * kPlotWidth + x)] != 0)
                 rows.Cover(x, y, y);
     return rows;
 }
@@ -159,9 +159,9 @@ TEST(ChartAreas, AreasFollowTheLinesOfAllPoints) {
     for (int round = 0; round < 400; ++round) {
         Scene scene(random), other(random);
         const bool isStepped = scene.OneIn(3);
-        Pixels toBase(kWidth * kHeight), toOther(kWidth * kHeight);
+        PixelGrid toBase(kPlotWidth * kPlotHeight), toOther(kPlotWidth * kPlotHeight);
         const ColumnRows line = WalkLine(scene, isStepped), otherLine = WalkLine(other, false);
-        for (int x = 0; x < kWidth; ++x) {
+        for (int x = 0; x < kPlotWidth; ++x) {
             const ColumnRows::Rows &a = line.At(x), &b = otherLine.At(x);
             if (a.IsEmpty())
                 continue;
@@ -169,9 +169,9 @@ TEST(ChartAreas, AreasFollowTheLinesOfAllPoints) {
             if (!b.IsEmpty())
                 FillPlainly(toOther, x, std::min(a.top, b.top), std::max(a.bottom, b.bottom));
         }
-        ColumnRows rows(0, kWidth), otherRows(0, kWidth);
-        CoverLine(scene.series, ColumnBorders(scene.xMap, 0, kWidth), scene.yMap, isStepped, rows);
-        CoverLine(other.series, ColumnBorders(other.xMap, 0, kWidth), other.yMap, false, otherRows);
+        ColumnRows rows(0, kPlotWidth), otherRows(0, kPlotWidth);
+        CoverLine(scene.series, ColumnBorders(scene.xMap, 0, kPlotWidth), scene.yMap, isStepped, rows);
+        CoverLine(other.series, ColumnBorders(other.xMap, 0, kPlotWidth), other.yMap, false, otherRows);
         ColumnRows between = rows;
         rows.ExtendTo(BaseOf(scene));
         between.ExtendTo(otherRows);
@@ -184,13 +184,15 @@ TEST(ChartAreas, InfiniteValuesFillToTheEdge) {
     ChartSeries series;
     for (const double y : {0.5, double(INFINITY), 0.5, -1e300, 0.5})
         series.Append(series.Size(), y);
-    const LinearMap xMap(0, 4, 0, kWidth - 1), yMap(0, 1, kHeight - 1, 1 - kHeight);
-    ColumnRows rows(0, kWidth);
-    CoverLine(series, ColumnBorders(xMap, 0, kWidth), yMap, false, rows);
-    rows.ExtendTo(kHeight / 2);
-    const Pixels pixels = Painted(rows);
-    for (int x = 1; x < kWidth - 1; ++x) // above the baseline up to the middle, then below it
-        EXPECT_EQ(pixels[static_cast<std::size_t>((x < kWidth / 2 ? 0 : kHeight - 1) * kWidth + x)], 1) << x;
+    const LinearMap xMap(0, 4, 0, kPlotWidth - 1), yMap(0, 1, kPlotHeight - 1, 1 - kPlotHeight);
+    ColumnRows rows(0, kPlotWidth);
+    CoverLine(series, ColumnBorders(xMap, 0, kPlotWidth), yMap, false, rows);
+    rows.ExtendTo(kPlotHeight / 2);
+    const PixelGrid pixels = Painted(rows);
+    for (int x = 1; x < kPlotWidth - 1; ++x) // above the baseline up to the middle, then below it
+        EXPECT_EQ(
+            pixels[static_cast<std::size_t>((x < kPlotWidth / 2 ? 0 : kPlotHeight - 1) * kPlotWidth + x)], 1)
+            << x;
 }
 
 } // namespace

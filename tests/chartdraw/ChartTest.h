@@ -18,6 +18,8 @@
 #include <string>
 #include <vector>
 
+constexpr COLORREF kRed = RGB(255, 0, 0);
+
 using Strings = std::vector<std::string>;
 
 /// The chart with its protected members made public. It records the calls of the drawing members. The member

@@ -14,7 +14,6 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr COLORREF kRed = RGB(255, 0, 0);
 
 /// The literal painter: draws one stroke from each point of a dataset to the next, and a dot where all points
 /// of a line are on one pixel.

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
 class ChartStyleTest : public ChartTest {

@@ -3,6 +3,7 @@
 #include "tests/chartdraw/ChartTest.h"
 #include "tests/support/SeenUnderWine.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -19,14 +20,16 @@ protected:
         chart.replaced = "axes";
         chart.SetYScale(-1, 1);
     }
-    /// Adds a random walk with gaps, with 30 or many points.
+    /// Adds a random walk with about 20 gaps or fewer.
     int AddWalk(int count, double start) {
         std::vector<double> xs, ys;
         double y = start;
         for (int i = 0; i < count; ++i) {
             y += (static_cast<double>(m_random() % 1000) / 1000 - 0.5) * 2 / std::sqrt(count);
             xs.push_back(30.0 * i / count);
-            ys.push_back(m_random() % 40 == 0 ? std::numeric_limits<double>::quiet_NaN() : y);
+            ys.push_back(m_random() % static_cast<unsigned>(std::max(count / 20, 8)) == 0
+                             ? std::numeric_limits<double>::quiet_NaN()
+                             : y);
         }
         const int dataset = chart.AddDataset();
         chart.SetData(dataset, xs.data(), ys.data(), count);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The chart's store: memory of a point, time to append with and without a history limit, late points, styles.
+// The chart's store: time to append with and without a history limit, late points, styles.
 
 #include "bench/GraphSeries.h"
 
@@ -37,22 +37,6 @@ void AppendAll(Row& row, const std::string& name, int count, int history, bool e
     row.Add(name + "_step_999_us", Quantile(steps, kRare)).Add(name + "_step_max_us", Quantile(steps, 1));
 }
 
-double BytesPerPoint(bool even) {
-    constexpr int kPoints = 4 * kMillion;
-    const std::vector<double> values = WalkValues(0, kMillion);
-    CChartDraw chart;
-    chart.AddDataset();
-    const double before = UsedBytes();
-    for (int i = 0; i < kPoints; ++i) {
-        const double value = values[static_cast<std::size_t>(i % kMillion)];
-        if (even)
-            chart.AddEvenData(0, value);
-        else
-            chart.AddData(0, i + 0.1 * value, value);
-    }
-    return (UsedBytes() - before) / kPoints;
-}
-
 void SetStyle(CChartDraw& chart, CChartDraw::DrawStyle style) {
     for (int i = 0; i < kSeries; ++i)
         chart.SetDrawStyle(i, style);
@@ -66,7 +50,7 @@ void ChartStore() {
     AppendAll(row, "all", 10 * kMillion, 0, false);
     AppendAll(row, "history", 10 * kMillion, kMillion, false);
     AppendAll(row, "even_history", 10 * kMillion, kMillion, true);
-    row.Add("bytes_per_point", BytesPerPoint(false)).Add("bytes_per_even_point", BytesPerPoint(true)).Print();
+    row.Print();
 }
 
 void ChartStyles() {

@@ -80,6 +80,7 @@ void ChartSave();
 void ChartTime(int count);
 void ChartPan(int count);
 void ChartZoom(int count);
+void ChartParts(int count);
 void ChartAgainstGraph(int count, bool uneven);
 void ChartTenMillion(bool uneven);
 void ChartStore();

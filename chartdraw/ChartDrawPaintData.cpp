@@ -7,6 +7,7 @@
 #include "chartdraw/ChartDrawDataset.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/DatasetPainter.h"
+#include "chartdraw/KeptDatasets.h"
 #include "gdi/Colors.h"
 
 using namespace kavlix;
@@ -29,38 +30,40 @@ DrawnDataset ChartDrawState::Drawn(const CChartDraw::Dataset& dataset) const {
             dataset.style == CChartDraw::StyleStep};
 }
 
-void CChartDraw::DrawDatasets(CDC& dc) {
-    if (m_rectPlot.IsRectEmpty())
-        return;
-    constexpr int kHighlight = 2; // pixels that the line of the highlighted dataset is wider
-    DatasetPainter painter(dc, m_rectPlot);
+void ChartDrawState::PaintDatasets(CDC& dc, const CRect& part, ColumnEnds* ends) const {
+    DatasetPainter painter(dc, part, ends);
     // All areas lie behind all lines.
-    for (const auto& dataset : m_Datasets) {
-        if (!dataset->visible || dataset->style != StyleFill)
+    for (const auto& dataset : chart.m_Datasets) {
+        if (!dataset->visible || dataset->style != CChartDraw::StyleFill)
             continue;
-        const DrawnDataset drawn = m_State->Drawn(*dataset);
-        const COLORREF color = m_State->FillColor(*dataset);
+        const DrawnDataset drawn = Drawn(*dataset);
+        const COLORREF color = FillColor(*dataset);
         if (dataset->fillTo != nullptr)
-            painter.DrawArea(drawn, m_State->Drawn(*dataset->fillTo), color);
+            painter.DrawArea(drawn, Drawn(*dataset->fillTo), color);
         else
             painter.DrawArea(drawn, dataset->baseline, color);
     }
     // The highlighted dataset comes last, in front of the others.
     for (const bool isHighlighted : {false, true})
-        for (int i = 0; i < GetDatasetCount(); ++i) {
-            const Dataset& dataset = m_State->Dataset(i);
-            if (!dataset.visible || m_State->IsHighlighted(i) != isHighlighted)
+        for (int i = 0; i < DatasetCount(); ++i) {
+            const ChartDataset& dataset = Dataset(i);
+            if (!dataset.visible || IsHighlighted(i) != isHighlighted)
                 continue;
-            DrawnDataset drawn = m_State->Drawn(dataset);
+            DrawnDataset drawn = Drawn(dataset);
             if (isHighlighted)
-                drawn.lineSize = std::max(drawn.lineSize, 1) + kHighlight;
-            if (dataset.style == StyleBars)
-                painter.DrawBars(drawn, dataset.baseline, dataset.barWidth, m_State->FillColor(dataset));
-            else if (dataset.showLine && dataset.style == StyleImpulses)
+                drawn.lineSize = std::max(drawn.lineSize, 1) + kHighlightWider;
+            if (dataset.style == CChartDraw::StyleBars)
+                painter.DrawBars(drawn, dataset.baseline, dataset.barWidth, FillColor(dataset));
+            else if (dataset.showLine && dataset.style == CChartDraw::StyleImpulses)
                 painter.DrawImpulses(drawn, dataset.baseline);
             else if (dataset.showLine)
                 painter.DrawLine(drawn);
             if (dataset.markerType != CDataset::MarkerNone)
                 painter.DrawMarkers(drawn);
         }
+}
+
+void CChartDraw::DrawDatasets(CDC& dc) {
+    if (!m_rectPlot.IsRectEmpty())
+        m_State->kept->Draw(dc, *m_State);
 }

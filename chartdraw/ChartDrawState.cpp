@@ -8,13 +8,14 @@
 #include "chartdraw/ChartLegendState.h"
 #include "chartdraw/ChartLink.h"
 #include "chartdraw/ChartPost.h"
+#include "chartdraw/KeptDatasets.h"
 
 using namespace kavlix;
 
 ChartDrawState::ChartDrawState(CChartDraw& chart)
     : chart(chart), xAxis(chart, kX), yAxis(chart, kY), y2Axis(chart, kY2), legend(chart), cursor(chart),
       references(chart), input(std::make_unique<ChartInputState>()),
-      posted(std::make_unique<ChartPostState>()) {
+      posted(std::make_unique<ChartPostState>()), kept(std::make_unique<KeptDatasets>()) {
 }
 
 ChartDrawState::~ChartDrawState() = default;

@@ -21,6 +21,8 @@ struct LinkedRange;
 struct DrawnDataset;   // chartdraw/DatasetPainter.h
 struct ChartLinkState; // chartdraw/ChartLink.h: the charts that share an X view
 struct ChartPostState; // chartdraw/ChartPost.h: points of other threads
+class ColumnEnds;
+class KeptDatasets; // chartdraw/KeptDatasets.h: the painted datasets of the last paint
 
 /// The parts of a chart. Their sources reach the chart's private members by the functions here.
 ///
@@ -43,6 +45,7 @@ struct ChartDrawState {
     std::unique_ptr<ChartInputState> input;
     std::unique_ptr<ChartLinkState> link;
     std::unique_ptr<ChartPostState> posted;
+    std::unique_ptr<KeptDatasets> kept;
 
     ChartAxisState& AxisState(int axis) { return *Axis(axis).m_State; }
     CChartAxis& Axis(int axis) { return axis == kX ? xAxis : axis == kY ? yAxis : y2Axis; }
@@ -82,6 +85,9 @@ struct ChartDrawState {
     void DrawZoomBox(CDC& dc);              ///< ChartDrawInput.cpp
     /// Whether the dataset is drawn in a highlighted way: the mouse is over its row in the legend (ChartLegend.cpp).
     bool IsHighlighted(int nDataset) const;
+    /// Paints the datasets inside a part of the plot, as one picture or for KeptDatasets; `ends` as for DatasetPainter
+    /// (ChartDrawPaintData.cpp).
+    void PaintDatasets(CDC& dc, const CRect& part, ColumnEnds* ends) const;
     /// What DatasetPainter draws of a dataset (ChartDrawPaintData.cpp).
     DrawnDataset Drawn(const CChartDraw::Dataset& dataset) const;
     COLORREF FillColor(const CChartDraw::Dataset& dataset) const; ///< colour of bars and of the filled area
@@ -90,6 +96,7 @@ struct ChartDrawState {
     int TextHeight() const { return chart.m_TextHeight; } ///< of the last layout, pixels
     const CRect& Plot() const { return chart.m_rectPlot; }
     const CRect& Client() const { return chart.m_rectChart; }
+    COLORREF BackgroundColor() const { return chart.m_BkColor; }
     int DatasetCount() const { return chart.GetDatasetCount(); }
     CChartDraw::Dataset& Dataset(int nDataset) const;
     /// The parts forget a dataset that is about to be removed (ChartCursor.cpp, ChartLegend.cpp).

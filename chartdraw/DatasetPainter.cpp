@@ -60,15 +60,10 @@ StampShape DotOf(int lineSize) {
             }};
 }
 
-bool AreSame(const AxisMap& a, const AxisMap& b) {
-    return a.IsLogarithmic() == b.IsLogarithmic() && a.Linear().Min() == b.Linear().Min() &&
-           a.Linear().Range() == b.Linear().Range() && a.Linear().Edge() == b.Linear().Edge() &&
-           a.Linear().Slope() == b.Linear().Slope();
-}
-
 } // namespace
 
-DatasetPainter::DatasetPainter(CDC& dc, const CRect& plot) : m_dc(dc), m_plot(plot) {
+DatasetPainter::DatasetPainter(CDC& dc, const CRect& plot, ColumnEnds* ends)
+    : m_dc(dc), m_plot(plot), m_ends(ends) {
     ::LPtoDP(dc.GetSafeHdc(), &m_origin, 1);
     if (::GetMapMode(dc.GetSafeHdc()) != MM_TEXT)
         return;
@@ -80,7 +75,7 @@ DatasetPainter::DatasetPainter(CDC& dc, const CRect& plot) : m_dc(dc), m_plot(pl
 }
 
 const ColumnBorders& DatasetPainter::BordersOf(const AxisMap& xMap, const Rect& view) {
-    if (!m_borders || !AreSame(m_borders->Pixels().Map(), xMap) || m_borders->Left() != view.left ||
+    if (!m_borders || !(m_borders->Pixels().Map() == xMap) || m_borders->Left() != view.left ||
         m_borders->Right() != view.right)
         m_borders.emplace(xMap, view.left, view.right);
     return *m_borders;
@@ -89,7 +84,7 @@ const ColumnBorders& DatasetPainter::BordersOf(const AxisMap& xMap, const Rect& 
 void DatasetPainter::Walk(const DrawnDataset& dataset, const Rect& view, PixelPath& path,
                           PixelSet& lonePixels) {
     ChartLine line(path, lonePixels, dataset.isStepped ? ChartLine::Steps : ChartLine::Straight);
-    Reduce(dataset.points, BordersOf(dataset.xMap, view), dataset.yMap, view, line);
+    Reduce(dataset.points, BordersOf(dataset.xMap, view), dataset.yMap, view, line, m_ends);
 }
 
 void DatasetPainter::DrawLine(const DrawnDataset& dataset) {
@@ -110,6 +105,8 @@ void DatasetPainter::DrawLine(const DrawnDataset& dataset) {
     // marker either, a dot shows it.
     if (dataset.markerType != CDataset::MarkerNone || lonePixels.IsEmpty())
         return;
+    if (m_ends != nullptr)
+        m_ends->AddDot();
     SavedDcGuard saved(m_dc);
     m_dc.IntersectClipRect(&m_plot);
     DrawStamps(m_dc, m_plotRaster, m_origin, lonePixels, dataset.color, DotOf(dataset.lineSize));

@@ -17,6 +17,7 @@
 namespace kavlix {
 
 class BarShape;
+class ColumnEnds;
 class ColumnRows;
 class PixelPath;
 class PixelSet;
@@ -32,12 +33,16 @@ struct DrawnDataset {
     bool isStepped; ///< the line goes horizontally, then vertically
 };
 
+/// Pixels by which the line of the highlighted dataset is wider.
+constexpr int kHighlightWider = 2;
+
 /// Draws datasets into one plot of a DC. What all of them need is found only once: the pixels of the DC, if they can
 /// be written directly, and the borders of the pixel columns.
 class DatasetPainter {
 public:
-    /// `plot` is in logical units and is not empty. `dc` must outlive the object.
-    DatasetPainter(CDC& dc, const CRect& plot);
+    /// `plot` is in logical units and is not empty. `ends` receives the points of each column of the lines, see Reduce,
+    /// unless it is null. `dc` and `ends` must outlive the object.
+    DatasetPainter(CDC& dc, const CRect& plot, ColumnEnds* ends);
     DatasetPainter(const DatasetPainter&) = delete;
     DatasetPainter& operator=(const DatasetPainter&) = delete;
 
@@ -64,6 +69,7 @@ private:
 
     CDC& m_dc;
     CRect m_plot;
+    ColumnEnds* m_ends;
     POINT m_origin = {0, 0};                 ///< device point of the logical origin
     std::optional<PixelRaster> m_raster;     ///< the pixels of the DC
     std::optional<PixelRaster> m_plotRaster; ///< the part of m_raster inside the plot

@@ -51,4 +51,11 @@ private:
     bool m_isLogarithmic = false;
 };
 
+/// Whether both maps give every value the same position.
+inline bool operator==(const AxisMap& a, const AxisMap& b) {
+    return a.IsLogarithmic() == b.IsLogarithmic() && a.Linear().Min() == b.Linear().Min() &&
+           a.Linear().Range() == b.Linear().Range() && a.Linear().Edge() == b.Linear().Edge() &&
+           a.Linear().Slope() == b.Linear().Slope();
+}
+
 } // namespace kavlix

@@ -4,10 +4,33 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 #include "plot/PixelLine.h"
 
 namespace kavlix {
+namespace {
+
+/// Copies the pixels without the highest bit, which kSeeThrough has.
+template <int kCount> void OverlayBlock(const std::uint32_t* from, std::uint32_t* to) {
+    constexpr int kHighest = 31;
+    std::uint32_t layer[kCount];
+    std::uint32_t below[kCount];
+    std::memcpy(layer, from, sizeof layer);
+    std::uint32_t all = ~std::uint32_t{0};
+    for (int i = 0; i < kCount; ++i)
+        all &= layer[i];
+    if (all >> kHighest != 0)
+        return;
+    std::memcpy(below, to, sizeof below);
+    for (int i = 0; i < kCount; ++i) {
+        const std::uint32_t mask = ~std::uint32_t{0} * (layer[i] >> kHighest);
+        below[i] = (below[i] & mask) | (layer[i] & ~mask);
+    }
+    std::memcpy(to, below, sizeof below);
+}
+
+} // namespace
 
 PixelRaster::PixelRaster(std::uint32_t* origin, std::ptrdiff_t stride, const Rect& clip)
     : m_origin(origin), m_stride(stride), m_clip(clip) {
@@ -76,6 +99,20 @@ void PixelRaster::DotColumns(const std::vector<int>& columns, int from, int to, 
             for (const int column : seen)
                 row[column] = colour;
         }
+    }
+}
+
+void PixelRaster::Overlay(const std::uint32_t* pixels, std::ptrdiff_t stride, const Rect& area) const {
+    constexpr int kBlock = 16; // pixels that are looked at together, without a branch for each
+    const Rect seen = ClippedTo(area).Clip();
+    for (int y = seen.top; y < seen.bottom; ++y) {
+        const std::uint32_t* from = pixels + stride * (y - area.top) + (seen.left - area.left);
+        std::uint32_t* to = At(seen.left, y);
+        int left = seen.Width();
+        for (; left >= kBlock; left -= kBlock, from += kBlock, to += kBlock)
+            OverlayBlock<kBlock>(from, to);
+        for (; left > 0; --left)
+            OverlayBlock<1>(from++, to++);
     }
 }
 

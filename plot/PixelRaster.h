@@ -59,6 +59,12 @@ public:
     /// Paints the pixels of `area`.
     void Fill(const Rect& area, std::uint32_t colour) const;
 
+    /// A pixel of a layer that shows what is behind it. GDI paints no pixel of this value.
+    static constexpr std::uint32_t kSeeThrough = 0xFF000000;
+    /// Paints the pixels of a layer, apart from those with the bits of kSeeThrough. `pixels` points to the layer's
+    /// pixel for the top left corner of `area`; `stride` is that of the layer.
+    void Overlay(const std::uint32_t* pixels, std::ptrdiff_t stride, const Rect& area) const;
+
 private:
     std::uint32_t* At(int x, int y) const { return m_origin + m_stride * y + x; }
 

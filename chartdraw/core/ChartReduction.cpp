@@ -17,14 +17,14 @@ constexpr int kFewPoints = 4; // a column with at most this number of points pas
 } // namespace
 
 void Reduce(const ChartSeries& series, const ColumnBorders& borders, const AxisMap& yMap, const Rect& view,
-            ChartLine& line) {
+            ChartLine& line, ColumnEnds* ends) {
     const AxisMap& xMap = borders.Pixels().Map();
     if (!series.IsSorted()) {
         ChartReduction(series.Unsorted(), xMap, yMap, view, line).Run();
         return;
     }
     if (xMap.IsMonotonic() && yMap.IsMonotonic()) {
-        SortedReduction(series, borders, yMap, line).Run();
+        SortedReduction(series, borders, yMap, line, ends).Run();
         return;
     }
     for (int i = 0; i < series.Size(); ++i) {

@@ -5,6 +5,7 @@
 #include "chartdraw/core/ChartLine.h"
 #include "chartdraw/core/ChartSeries.h"
 #include "chartdraw/core/ColumnBorders.h"
+#include "chartdraw/core/ColumnEnds.h"
 #include "plot/AxisMap.h"
 
 namespace kavlix {
@@ -12,8 +13,9 @@ namespace kavlix {
 /// Passes the points of a series to `line` and leaves out points that change no pixel. The picture is the same,
 /// pixel for pixel, as that of all points. Where x ascends, the cost grows with the pixels and not with the points.
 /// A pen at a point outside `view` must not paint a visible pixel. `borders` are those of the columns of `view`.
+/// `ends` receives the points of each column of a sorted series with monotonic maps, unless it is null.
 void Reduce(const ChartSeries& series, const ColumnBorders& borders, const AxisMap& yMap, const Rect& view,
-            ChartLine& line);
+            ChartLine& line, ColumnEnds* ends = nullptr);
 
 /// The reduction of an unsorted series. For many consecutive points in one pixel column, only a few points are
 /// passed on, among them the extremes; for a block of points (see PointBoxTree) beyond one edge of the view, only

@@ -3,6 +3,7 @@
 #include "chartdraw/core/ChartSeries.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <new>
 #include <utility>
@@ -61,6 +62,7 @@ void ChartSeries::AppendUnsorted(double x, double y) {
 }
 
 void ChartSeries::FinishAppend(double x, double y) {
+    m_stamp = 0;
     AddToBounds(x, y);
     if (m_countLimit != 0 || m_spanLimit != 0)
         EnforceLimit();
@@ -91,6 +93,7 @@ int ChartSeries::Insert(double x, double y) {
 bool ChartSeries::ReplaceLast(double y) {
     if (Size() == 0)
         return false;
+    m_stamp = 0;
     const ChartPoint last = (*this)[Size() - 1];
     ForgetBoundsOf(last);
     if (m_unsorted)
@@ -121,6 +124,7 @@ void ChartSeries::Assign(const double* pX, const double* pY, int count) {
 void ChartSeries::Clear() {
     m_sorted = SortedPoints();
     m_unsorted.reset();
+    m_stamp = 0;
     m_dropped = 0;
     m_even.offset = 0;
     m_steps = StepHistogram();
@@ -134,6 +138,7 @@ void ChartSeries::RemoveHead(int count) {
     count = std::clamp(count, 0, Size());
     if (count == 0)
         return;
+    m_stamp = 0;
     m_isXKnown = false;
     if (count > kFew || m_unsorted)
         m_isYKnown = false;
@@ -178,6 +183,7 @@ bool ChartSeries::SetEven(double start, double step) {
 }
 
 void ChartSeries::SetGapLimit(double dx) {
+    m_stamp = 0;
     m_gapLimit = dx > 0 ? dx : 0;
     m_effectiveGapLimit.reset();
 }
@@ -190,6 +196,7 @@ void ChartSeries::SetGapFactor(double k) {
         steps.Prepare(step);
         steps.Add(step, 1);
     }
+    m_stamp = 0;
     m_steps = std::move(steps);
     m_gapFactor = factor;
     m_effectiveGapLimit.reset();
@@ -200,6 +207,13 @@ void ChartSeries::CountStep(double from, double to, int count) {
         return;
     m_steps.Add(to - from, count);
     m_effectiveGapLimit.reset();
+}
+
+std::uint64_t ChartSeries::Stamp() const {
+    static std::atomic<std::uint64_t> last{0};
+    if (m_stamp == 0)
+        m_stamp = ++last;
+    return m_stamp;
 }
 
 double ChartSeries::GapLimit() const {

@@ -62,6 +62,9 @@ public:
     /// Number of points removed from the head since the last Clear or Assign.
     std::int64_t Dropped() const { return m_dropped; }
 
+    /// A number of this state of points and gaps, which no other state of any series in the process has had.
+    std::uint64_t Stamp() const;
+
     /// Keeps at most the last `count` points, and of these the points from the last x - `span` on; 0 is no
     /// limit. The limits apply at once and at each new point.
     void SetLimit(int count, double span);
@@ -143,6 +146,7 @@ private:
     SortedPoints m_sorted;
     std::unique_ptr<UnsortedPoints> m_unsorted; ///< null while the series is sorted
     std::int64_t m_dropped = 0;
+    mutable std::uint64_t m_stamp = 0; ///< 0: points or gaps have changed since the last Stamp
     int m_countLimit = 0;
     double m_spanLimit = 0;
     SortedChunk::Formula m_even; ///< x of the next point of AppendEven

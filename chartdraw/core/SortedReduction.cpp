@@ -3,6 +3,7 @@
 #include "chartdraw/core/SortedReduction.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "plot/ExtremesAccumulator.h"
 
@@ -40,6 +41,8 @@ void SortedReduction::Run() {
         const int next = EndOfColumn(i, end, column, guess);
         guess = next - i;
         PrefetchAhead(next, end, guess);
+        if (m_ends != nullptr)
+            m_ends->Add(column, m_reader.X(i), m_reader.X(next - 1));
         AddColumn(column, i, next - 1);
         i = next;
     }
@@ -281,6 +284,8 @@ void SortedReduction::EndAtStepGap(int i) {
 void SortedReduction::AddExactly(int i) {
     const AxisMap& xMap = m_borders.Pixels().Map();
     const AxisMap& yMap = m_rows.Map();
+    if (m_ends != nullptr && std::abs(yMap.ExactPosition(m_reader.Y(i))) >= ChartLine::kNearest)
+        m_ends->AddFar();
     if (m_pending >= 0)
         m_line.SetLast(xMap.ExactPosition(m_reader.X(m_pending)), yMap.ExactPosition(m_reader.Y(m_pending)));
     m_pending = -1;

@@ -9,6 +9,7 @@
 #include "chartdraw/core/ChartLine.h"
 #include "chartdraw/core/ChartSeries.h"
 #include "chartdraw/core/ColumnBorders.h"
+#include "chartdraw/core/ColumnEnds.h"
 
 namespace kavlix {
 
@@ -18,10 +19,11 @@ namespace kavlix {
 class SortedReduction {
 public:
     /// The columns of `borders` are those of the view; a pen at a point outside must not paint a visible pixel.
-    /// `yMap` is monotonic. All arguments must outlive the object.
+    /// `yMap` is monotonic. `ends` receives the points of each column unless it is null. All arguments must outlive
+    /// the object.
     SortedReduction(const ChartSeries& series, const ColumnBorders& borders, const AxisMap& yMap,
-                    ChartLine& line)
-        : m_points(series.Sorted()), m_borders(borders), m_rows(yMap), m_line(line),
+                    ChartLine& line, ColumnEnds* ends = nullptr)
+        : m_points(series.Sorted()), m_borders(borders), m_rows(yMap), m_line(line), m_ends(ends),
           m_gapLimit(series.GapLimit()), m_reader(m_points) {}
     SortedReduction(const SortedReduction&) = delete;
     SortedReduction& operator=(const SortedReduction&) = delete;
@@ -50,6 +52,7 @@ private:
     const ColumnBorders& m_borders;
     AxisPixels m_rows;
     ChartLine& m_line;
+    ColumnEnds* m_ends;
     double m_gapLimit;
     SortedPoints::Reader m_reader;
     int m_pending = -1; ///< the last point, if the line knows only its pixel

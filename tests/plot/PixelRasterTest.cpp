@@ -86,6 +86,20 @@ void PaintFill(Random& random, const PixelRaster& raster, Picture& plain) {
                 Set(plain, raster.Clip(), {x, y});
 }
 
+void PaintLayer(Random& random, const PixelRaster& raster, Picture& plain) {
+    const Point corner = random.Near();
+    const Rect area{corner.x, corner.y, corner.x + random.Within(0, 50), corner.y + random.Within(0, 20)};
+    const int stride = area.Width() + random.Within(0, 3);
+    Picture layer(static_cast<std::size_t>(stride * area.Height()) + 1);
+    for (std::uint32_t& pixel : layer)
+        pixel = random.OneIn(3) ? kInk : PixelRaster::kSeeThrough;
+    raster.Overlay(layer.data(), stride, area);
+    for (int y = 0; y < area.Height(); ++y)
+        for (int x = 0; x < area.Width(); ++x)
+            if (layer[static_cast<std::size_t>(y * stride + x)] == kInk)
+                Set(plain, raster.Clip(), {area.left + x, area.top + y});
+}
+
 TEST(PixelRasterTest, PaintsThePixelsOfAWalkInsideTheClip) {
     Random random(21);
     const Rect clips[] = {{0, 0, kSide, kSide}, {7, 11, 31, 29}, {20, 0, 21, kSide}, {5, 5, 5, 9}};
@@ -99,6 +113,8 @@ TEST(PixelRasterTest, PaintsThePixelsOfAWalkInsideTheClip) {
             PaintDots(random, raster, plain);
         else if (round % 10 < 4)
             PaintFill(random, raster, plain);
+        else if (round % 10 < 5)
+            PaintLayer(random, raster, plain);
         else
             PaintLine(random, raster, plain, round % 7 == 0 ? 3000 : round % 3 == 0 ? 100 : 3);
         for (int y = 0; isUpwards && y < kSide / 2; ++y)

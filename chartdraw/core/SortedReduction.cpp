@@ -10,7 +10,7 @@
 namespace kavlix {
 namespace {
 
-constexpr int kFewPoints = 4; // a column with at most this number of points passes on all of them
+constexpr int kFewInColumn = 4; // a column with at most this number of points passes on all of them
 // Prefetch distance: columns with more points than this miss the cache, so their blocks are prefetched `kAhead`
 // columns early.
 constexpr int kPrefetchedColumn = 64;
@@ -68,7 +68,7 @@ void SortedReduction::PrefetchAhead(int next, int end, int count) const {
 int SortedReduction::EndOfColumn(int first, int end, int column, int guess) {
     const auto isPast = [&](double x) { return m_borders.IsPast(x, column); };
     int next = first + 1;
-    for (int few = guess <= kFewPoints ? 2 * kFewPoints : 0; few > 0; --few, ++next)
+    for (int few = guess <= kFewInColumn ? 2 * kFewInColumn : 0; few > 0; --few, ++next)
         if (next >= end || isPast(m_reader.X(next)))
             return next;
     for (; next < end;) {
@@ -107,7 +107,7 @@ int SortedReduction::EndOfColumn(int first, int end, int column, int guess) {
 
 void SortedReduction::AddColumn(int column, int first, int last) {
     Extremes extremes;
-    if (last - first < kFewPoints)
+    if (last - first < kFewInColumn)
         for (int i = first; i <= last; ++i)
             Add(i, column);
     else if (FindExtremes({first, last}, extremes))
@@ -205,7 +205,7 @@ void SortedReduction::AddBetweenGaps(int column, int first, int last) {
 /// Passes on consecutive points of a column without a gap, whose y lie between `extremes`: the first, the two
 /// extreme pixels, and the last point.
 void SortedReduction::AddWithoutGap(int column, int first, int last, Extremes extremes) {
-    if (last - first < kFewPoints) {
+    if (last - first < kFewInColumn) {
         for (int i = first; i <= last; ++i)
             Add(i, column);
         return;

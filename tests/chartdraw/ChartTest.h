@@ -15,10 +15,12 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <vector>
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 using Strings = std::vector<std::string>;
 

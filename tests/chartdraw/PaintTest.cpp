@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// The literal painter: draws one stroke from each point of a dataset to the next, and a dot where all points

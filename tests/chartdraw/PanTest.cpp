@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
 /// What a dataset is made of.
 struct Lines {
     std::vector<double> xs, ys;

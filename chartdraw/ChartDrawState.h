@@ -102,7 +102,10 @@ struct ChartDrawState {
     /// The parts forget a dataset that is about to be removed (ChartCursor.cpp, ChartLegend.cpp).
     void DatasetRemoved(int nDataset);
     /// Marks the layout as outdated. A setter that can change the picture calls it.
-    void Changed() { chart.m_Changed = true; }
+    void Changed() {
+        ASSERT(IsOwnerThread());
+        chart.m_Changed = true;
+    }
 
     // ---- Mouse and keys. The handlers of ChartDrawInput.cpp call these in this order; true: it is dealt with. ----
 

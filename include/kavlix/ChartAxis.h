@@ -19,7 +19,8 @@ struct ChartDrawState;
 /// axes. Setters do not repaint: call CChartDraw::Redraw.
 ///
 /// A time axis shows seconds since 1970-01-01 00:00 UTC. Near today a double resolves 0.24 microseconds. For
-/// finer times set an origin: values of the axis then count from the origin.
+/// finer times set an origin: values of the axis then count from the origin. The narrowest range is 2e-12 of its larger
+/// end, on a logarithmic axis 1e-9 decades, and on a time axis 10 ns but at least 16 steps of a double.
 class KAVLIX_API CChartAxis {
 public:
     /// What the axis shows.
@@ -56,7 +57,8 @@ public:
     /// Labels with an engineering prefix, such as "2.5 k" or "10 µ"; default FALSE.
     void SetEngineering(BOOL bEngineering);
     /// Calls `function` for the text of each label; an empty function, the default, restores the built-in texts.
-    /// The function runs while the chart is laid out. It must not call the chart.
+    /// The function runs while the chart is laid out, and for values that are no ticks while a readout is painted. It must
+    /// not call the chart.
     void SetLabelFunction(LabelFunction function);
     /// Time zone of a time axis: an empty name is the local zone, the default; "UTC"; or a name that Windows
     /// knows, such as "W. Europe Standard Time". FALSE, with nothing changed, for an unknown name.
@@ -83,7 +85,7 @@ public:
     /// FALSE, with nothing changed, unless both are finite, dMin < dMax, both are positive on a logarithmic
     /// axis, and a double can show the range.
     BOOL SetRange(double dMin, double dMax);
-    /// The range in view at the last layout; 0 to 1 before the first one.
+    /// The range in view: that of the last layout, or one set since then; 0 to 1 before both.
     void GetRange(double& dMin, double& dMax) const;
     /// Position in client pixels of a value at the last layout; FALSE when there is none (no layout, a value
     /// of 0 or below on a logarithmic axis, NaN). Positions are limited to 2^27.

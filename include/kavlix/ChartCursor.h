@@ -50,7 +50,8 @@ public:
     int GetDataset(int nCursor) const;
     /// Index of the sample of `nDataset` nearest to a cursor; -1 while the cursor is hidden, and when there is none.
     int GetSample(int nCursor, int nDataset) const;
-    /// Moves a cursor by `nSamples` samples of its dataset, and pans the view if the sample is not in it. FALSE
+    /// Moves a cursor by `nSamples` samples of its dataset, and pans the view if the sample is not in it, which repaints
+    /// and is told to linked charts. FALSE
     /// when the cursor is hidden or at the end.
     BOOL MoveBySamples(int nCursor, int nSamples);
     /// Statistics of a dataset between the two cursors; FALSE, with nothing written, unless both are shown and the

@@ -68,7 +68,8 @@ public:
     BOOL RemoveDataset(int nDataset);
     void RemoveAllDatasets(); ///< leaves the chart without datasets
     /// Appends a point. FALSE when there is no such dataset, and when memory runs out; a message box then
-    /// says so.
+    /// says so. The first point whose x is NaN or less than the x before makes the dataset one in any order, until
+    /// SetData or ResetData: then gap limits have no effect, and inserting is appending. Use InsertData for late points.
     BOOL AddData(int nDataset, double x, double y);
     /// Replaces all points of a dataset by `nCount` points, copied from `pX` and `pY`. If `pX` is null, each
     /// point's x is its index. FALSE, with nothing changed, when there is no such dataset, when `nCount` is
@@ -91,8 +92,8 @@ public:
     /// Removes the `nCount` oldest points, at most all. FALSE when there is no such dataset or `nCount` is negative.
     BOOL RemoveHeadData(int nDataset, int nCount);
     /// Lets the points of an empty dataset stand at `dStart`, `dStart` + `dStep` ... without memory for their x. Add
-    /// them by AddEvenData; points added otherwise do not count. Stays after ResetData, which begins at `dStart` again. FALSE when there is no such dataset, it has points, or
-    /// a value is not finite, and unless `dStep` > 0.
+    /// them by AddEvenData; points added otherwise do not count. Stays after ResetData, which begins at `dStart` again.
+    /// FALSE when there is no such dataset, it has points, or a value is not finite, and unless `dStep` > 0.
     BOOL SetEvenX(int nDataset, double dStart, double dStep);
     /// Appends a point at the next x of SetEvenX; without SetEvenX x is 0, 1, 2 ... As AddData.
     BOOL AddEvenData(int nDataset, double y);
@@ -100,11 +101,11 @@ public:
     /// `dSpan` of the newest x (0: no limit). Older points are removed now and as points are appended. FALSE when
     /// there is no such dataset, and for negative numbers and NaN.
     BOOL SetHistory(int nDataset, int nMostPoints, double dSpan);
-    /// Interrupts the line between two points whose x differ by more than `dLimit`; 0, the default: never. FALSE when
-    /// there is no such dataset, and for negative numbers and NaN.
+    /// Interrupts the line between two points whose x differ by more than `dLimit`, while x ascend; 0, the default:
+    /// never. In units of x. FALSE when there is no such dataset, and for negative numbers and NaN.
     BOOL SetGapLimit(int nDataset, double dLimit);
     /// Interrupts the line between two points whose x differ by more than `dFactor` times the median distance of the
-    /// dataset's points (found to within 2 %); 0, the default: never. With a limit too, the smaller one holds. Results
+    /// dataset's points (found to within 1 %); 0, the default: never. With a limit too, the smaller one holds. Results
     /// as SetGapLimit.
     BOOL SetGapFactor(int nDataset, double dFactor);
     /// The x at which the x of this dataset count 0; default 0. See CChartAxis::SetOrigin. FALSE when there is no such
@@ -188,13 +189,15 @@ public:
     /// @{
     /// Fixes a scale. Points outside the scale are clipped. Ticks stand at the multiples of `dStep`; if their
     /// labels need more room, a multiple of `dStep` is the step. If `dStep` is 0 or far too small for the
-    /// range, CalcDatas finds a round step. CalcDatas widens a range that is too narrow for ticks. FALSE,
-    /// with nothing changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
+    /// range, CalcDatas finds a round step. CalcDatas widens a range that is too narrow for ticks. Logarithmic and time
+    /// axes take no step; a logarithmic axis begins above 0. Ends what the user has zoomed or panned. FALSE, with nothing
+    /// changed, unless `dMin` < `dMax`, `dStep` >= 0 and all three are finite.
     BOOL SetXScale(double dMin, double dMax, double dStep = 0);
     BOOL SetYScale(double dMin, double dMax, double dStep = 0);
     /// @}
     /// @{
-    /// The scale at the last CalcDatas; 0 to 1 in steps of 0.2 before the first CalcDatas.
+    /// The scale at the last CalcDatas; 0 to 1 in steps of 0.2 before the first CalcDatas. The step of a logarithmic axis
+    /// is 0, that of a time axis the shortest distance of two ticks in seconds.
     void GetXScale(double& dMin, double& dMax, double& dStep) const;
     void GetYScale(double& dMin, double& dMax, double& dStep) const;
     /// @}
@@ -263,8 +266,9 @@ public:
     /// A drag that is going on is undone.
     void SetViewFlags(UINT nFlags);
     UINT GetViewFlags() const; ///< what the user can do to the view
-    /// Shows the whole data on all axes, or on Y axes in the mode VisibleData the visible data. The present view enters
-    /// the history of ViewBack. Repaints.
+    /// Ends what the user, SetRange or a linked chart have set: each axis shows the whole data, the visible data (Y axes
+    /// in the mode VisibleData), or the scale of SetXScale and SetYScale. The present view enters the history of ViewBack.
+    /// Repaints.
     void FitView();
     /// Goes back to the previous view. FALSE when there is none. Repaints.
     BOOL ViewBack();
@@ -272,8 +276,8 @@ public:
     /// `pOther`: a change in one changes all, repaints them, and sends their CDN_VIEW. Ranges are the same times and
     /// values, whatever the origins of the axes are; a chart that cannot show a range keeps its own. A chart leaves its
     /// charts when it is linked again, or when it or its window is destroyed; null only leaves. All linked charts belong
-    /// to the same thread. The range is taken from `pOther` and then fixed, as by the user. A chart that shows its whole
-    /// data shares its range when the view changes, not when data is added. FALSE for the chart itself, and when memory
+    /// to the same thread. The range is taken from `pOther`. Charts that show their whole data show the data of all of
+    /// them; data that is added to one moves another at its next repaint. FALSE for the chart itself, and when memory
     /// runs out.
     BOOL LinkView(CChartDraw* pOther);
 
@@ -350,7 +354,8 @@ protected:
     /// Draws the axes' lines and captions.
     virtual void DrawAxes(CDC& dc);
     /// @{
-    /// Draws the ticks and numbers of a scale.
+    /// Draws the ticks and numbers of a scale. DrawXScale, the last member that is called, then draws what lies in front
+    /// of everything: reference lines, legend and cursors. DrawGrid begins with the reference bands.
     virtual void DrawXScale(CDC& dc);
     virtual void DrawYScale(CDC& dc);
     /// @}
@@ -436,7 +441,6 @@ private:
     std::size_t m_NextColor = 0; ///< index of the colour that AddDataset takes next
     FixedScale m_XFixed;
     FixedScale m_YFixed;
-    void* m_Reserved[2] = {}; ///< unused; keeps the places of the members that follow
     CString m_Title;
     CString m_XLabel;
     CString m_YLabel;

@@ -28,7 +28,7 @@ constexpr UINT CDN_CURSOR = 1281;
 /// The user showed or hid a dataset by the legend. nIndex: the dataset.
 constexpr UINT CDN_DATASET = 1282;
 /// The user moved a reference line or band. nItem: its identifier; dValue, dSecond: its values. Sent at every
-/// step; nFlags is TRUE when the user has let go.
+/// step; nFlags is TRUE when the user has let go, or has undone the move by Escape.
 constexpr UINT CDN_REFERENCE = 1283;
 /// The context menu is about to open. hMenu: the menu, to which the parent may add items of its own; pt: the
 /// position. A nonzero result suppresses the menu.

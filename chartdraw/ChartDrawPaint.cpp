@@ -227,9 +227,10 @@ void CChartDraw::DrawXScale(CDC& dc) {
 
 LabelRow CChartDraw::XLabelRow(CDC& dc) const {
     // The caption of a Y axis that is longer than the plot reaches down to the labels of the X axis.
+    constexpr int kTurned = 2; // pixels by which a turned text may be longer
     const auto reachesDown = [&](int axis) {
         return m_ShowCaptions && axis < AxisCount() &&
-               m_State->AxisState(axis).widths.Of(dc, m_State->Caption(axis)) > m_rectPlot.Height();
+               m_State->AxisState(axis).widths.Of(dc, m_State->Caption(axis)) > m_rectPlot.Height() - kTurned;
     };
     int left = m_rectChart.left;
     int right = m_rectChart.right;

@@ -5,7 +5,7 @@
 #define IDR_FRAME 150
 #define IDS_TEMPLATE 160
 // A number in a block of sixteen strings that Kavlix.dll uses too.
-#define IDS_IN_KAVLIX_BLOCK 5510
+#define IDS_IN_KAVLIX_BLOCK 5530
 
 #define ID_KNOWN 32771
 #define ID_NOBODYS 32772

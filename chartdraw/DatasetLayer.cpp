@@ -58,6 +58,11 @@ void DatasetLayer::MovePixels(int columns) {
     m_offset = target;
 }
 
+void DatasetLayer::PaintAll(const Paint& paint) {
+    m_ends = ColumnEnds(m_plot.left, m_plot.right);
+    PaintColumns({static_cast<int>(m_plot.left), static_cast<int>(m_plot.right)}, 0, paint);
+}
+
 void DatasetLayer::PaintColumns(const ColumnSpan& span, int reach, const Paint& paint) {
     CRect painted(span.from == m_plot.left ? m_area.left : span.from, m_area.top,
                   span.to == m_plot.right ? m_area.right : span.to, m_area.bottom);

@@ -33,6 +33,9 @@ public:
     const ColumnEnds& Ends() const { return m_ends; }
     /// Moves what is painted by `columns` to the left, or if negative to the right.
     void MoveLeft(int columns);
+    const CRect& Plot() const { return m_plot; }
+    /// Lets `paint` draw the whole plot anew.
+    void PaintAll(const Paint& paint);
     /// Clears the columns of `span` and lets `paint` draw them. Markers and dots up to `reach` columns beside are drawn
     /// as well.
     void PaintColumns(const ColumnSpan& span, int reach, const Paint& paint);

@@ -18,6 +18,7 @@ namespace {
 constexpr int kLargestLayer = 1 << 23; // pixels
 constexpr int kMarkerReach = 4;        // columns beside its point that a marker covers
 constexpr int kWaits = 8;              // see m_waits
+constexpr int kMostUnused = 8;         // see m_unused
 
 /// Whether both are the same apart from the X map.
 bool AreAlike(const KeptDataset& a, const KeptDataset& b) {
@@ -113,7 +114,9 @@ bool KeptDatasets::DrawLayer(CDC& dc, const ChartDrawState& chart) {
     const bool isSame = m_last && AreSame(*m_last, now);
     const std::optional<int> shift = m_last && !isSame ? ShiftBetween(*m_last, now) : std::nullopt;
     if ((!isSame && !shift) || PixelsOf(now.plot) > kLargestLayer) {
-        m_layer.reset();
+        if (++m_unused > kMostUnused)
+            m_layer.reset();
+        m_isCurrent = false;
         m_last = std::move(now);
         m_waits = 0;
         return false;
@@ -122,27 +125,27 @@ bool KeptDatasets::DrawLayer(CDC& dc, const ChartDrawState& chart) {
         ::GetMapMode(dc.GetSafeHdc()) == MM_TEXT ? DirectRaster(dc) : std::nullopt;
     if (!raster)
         return false;
-    std::unique_ptr<DatasetLayer> layer = std::move(m_layer); // dropped when something below throws
-    if (layer && shift && !Pan(*layer, now, *shift, chart)) {
-        layer.reset();
+    m_unused = 0;
+    bool isCurrent = std::exchange(m_isCurrent, false); // also when something below throws
+    if (isCurrent && shift && !Pan(*m_layer, now, *shift, chart)) {
+        isCurrent = false;
         m_waits = kWaits;
     }
-    if (!layer && (isSame || m_waits-- <= 0)) {
+    if (!isCurrent && (isSame || m_waits-- <= 0)) {
         m_waits = 0;
-        layer = std::make_unique<DatasetLayer>(now.plot);
-        if (layer->IsReady())
-            layer->PaintColumns({static_cast<int>(now.plot.left), static_cast<int>(now.plot.right)}, 0,
-                                PaintOf(chart));
-        else
-            layer.reset();
+        if (!m_layer || m_layer->Plot() != now.plot)
+            m_layer = std::make_unique<DatasetLayer>(now.plot);
+        isCurrent = m_layer->IsReady();
+        if (isCurrent)
+            m_layer->PaintAll(PaintOf(chart));
     }
     m_last = std::move(now);
-    if (!layer)
+    if (!isCurrent)
         return false;
     POINT origin = {0, 0};
     ::LPtoDP(dc.GetSafeHdc(), &origin, 1);
-    layer->LayOver(*raster, origin);
-    m_layer = std::move(layer);
+    m_layer->LayOver(*raster, origin);
+    m_isCurrent = true;
     return true;
 }
 

@@ -47,8 +47,8 @@ struct KeptPicture {
 /// as nothing but the X range changes, and that by whole pixels, a paint then needs only to move the layer, to paint
 /// the columns that come into view, and to lay it over the background. The picture is the same, pixel for pixel.
 ///
-/// The layer takes 4 bytes for a pixel of the plot and of a margin, no memory for points. It is freed when a paint
-/// needs another one.
+/// The layer takes 4 bytes for a pixel of the plot and of a margin, no memory for points. It is freed after some
+/// paints that could not use it.
 class KeptDatasets {
 public:
     KeptDatasets();
@@ -65,7 +65,9 @@ private:
 
     std::optional<KeptPicture> m_last; ///< of the last paint
     std::unique_ptr<DatasetLayer> m_layer;
-    int m_waits = 0; ///< pans without a layer until the next try, after a pan that a layer was of no use for
+    bool m_isCurrent = false; ///< the layer shows m_last
+    int m_unused = 0; ///< paints since the layer was of use; making one takes longer than painting into it
+    int m_waits = 0;  ///< pans without a layer until the next try, after a pan that a layer was of no use for
 };
 
 } // namespace kavlix

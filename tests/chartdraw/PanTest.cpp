@@ -161,15 +161,13 @@ TEST_F(ChartPanTest, TheLayerIsKeptWhileOnlyTheViewMoves) {
         Paint(chart, surface);
         EXPECT_EQ(Kept(before), 1) << columns;
     }
-    chart.SetColor(0, RGB(1, 2, 3));
-    Paint(chart, surface);
-    EXPECT_EQ(Kept(before), 0) << "a changed dataset";
+    for (int i = 0; i < 20; ++i) {
+        chart.SetColor(0, RGB(1, 2, i));
+        Paint(chart, surface);
+    }
+    EXPECT_EQ(Kept(before), 0) << "changed data with every paint";
     Pan(2);
     Show(chart);
     Paint(chart, surface);
     EXPECT_EQ(Kept(before), 1) << "a pan";
-    Pan(0.5);
-    Show(chart);
-    Paint(chart, surface);
-    EXPECT_EQ(Kept(before), 0) << "a part of a pixel";
 }

@@ -60,6 +60,11 @@ CursorReading ChartCursorState::ReadAt(const ChartDrawState& state, const Cursor
     return ReadingOf(state, dataset, FindNearestInX(state.Dataset(dataset).points, x).index);
 }
 
+bool ChartCursorState::IsBeyondGap(const ChartDrawState& state, const CursorReading& own,
+                                   const CursorReading& reading) {
+    return std::abs(reading.x - own.x) > state.Dataset(reading.dataset).points.GapLimit();
+}
+
 CursorReading ChartCursorState::Nearest(const ChartDrawState& state, double x,
                                         const ChartDrawState::ChartDataset* preferred) {
     NearestSample best;

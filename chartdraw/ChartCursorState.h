@@ -57,6 +57,10 @@ struct ChartCursorState {
     CursorReading Read(const ChartDrawState& state, int cursor) const;
     /// The sample of a dataset nearest in x to the sample of a cursor.
     static CursorReading ReadAt(const ChartDrawState& state, const CursorReading& own, int dataset);
+    /// Whether the sample of a dataset is farther from the cursor's sample than the dataset's gap limit: the dataset has
+    /// no value there.
+    static bool IsBeyondGap(const ChartDrawState& state, const CursorReading& own,
+                            const CursorReading& reading);
     /// The sample nearest in x to `x` among the visible datasets, of equally near ones that of `preferred`.
     static CursorReading Nearest(const ChartDrawState& state, double x,
                                  const ChartDrawState::ChartDataset* preferred);

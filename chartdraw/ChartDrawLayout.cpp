@@ -104,6 +104,7 @@ void CChartDraw::CalcDatas() {
     m_Changed = false;
     for (int axis = 0; axis < AxisCount(); ++axis)
         m_State->LaidOut(axis, m_State->Layout(axis).min, m_State->Layout(axis).max);
+    m_State->RedrawMisaligned();
 }
 
 void CChartDraw::Calculate() {
@@ -190,6 +191,7 @@ void CChartDraw::LayOut(CDC& dc) {
         FindTicks(dc, ChartDrawState::kY2, plot.Height());
         plot.right -= ScaleRoom(ChartDrawState::kY2);
     }
+    m_State->AlignWithLinked(plot);
     FindTicks(dc, ChartDrawState::kX, plot.Width());
     // The last X label is centred on the plot's right edge. Half a margin stays free to the right of it. In other
     // ranges the last label lies anywhere, and the plot keeps its width.

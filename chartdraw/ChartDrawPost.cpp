@@ -16,11 +16,12 @@ namespace {
 /// Ends a pause. `timer` is the address of the chart's ChartPostState.
 void CALLBACK OnPauseTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
     ::KillTimer(window, timer);
-    if (CWnd::FromHandlePermanent(window) == nullptr)
+    ChartDrawState* const state = ChartDrawState::Of(window);
+    // Another chart can have the window of the one that set the timer.
+    if (state == nullptr || reinterpret_cast<UINT_PTR>(state->posted.get()) != timer)
         return;
-    auto& posted = *reinterpret_cast<ChartPostState*>(timer);
-    posted.isPausing = false;
-    posted.queue.Ready();
+    state->posted->isPausing = false;
+    state->posted->queue.Ready();
 }
 
 } // namespace

@@ -20,6 +20,11 @@ ChartDrawState::ChartDrawState(CChartDraw& chart)
 
 ChartDrawState::~ChartDrawState() = default;
 
+ChartDrawState* ChartDrawState::Of(HWND window) {
+    const auto* const chart = dynamic_cast<CChartDraw*>(CWnd::FromHandlePermanent(window));
+    return chart != nullptr ? chart->m_State.get() : nullptr;
+}
+
 CChartDraw::Dataset& ChartDrawState::Dataset(int nDataset) const {
     return *chart.m_Datasets[static_cast<std::size_t>(nDataset)];
 }

@@ -34,6 +34,9 @@ struct ChartDrawState {
     explicit ChartDrawState(CChartDraw& chart);
     ~ChartDrawState();
 
+    /// The state of the chart that has this window; null without one.
+    static ChartDrawState* Of(HWND window);
+
     static constexpr int kAxes = 3;
     enum AxisNumber { kX, kY, kY2 };
 
@@ -137,6 +140,7 @@ struct ChartDrawState {
     /// between two values of the X axis.
     ValueBounds DataBounds(int axis) const;
     ValueBounds OwnDataBounds(int axis) const; ///< of this chart without those that are linked with it
+    ValueBounds OwnDataBounds(int axis, bool visibleOnly) const;
     ValueBounds DataBounds(int axis, double xMin, double xMax) const;
     /// The layout tells the range that it shows.
     void LaidOut(int axis, double min, double max);
@@ -150,7 +154,6 @@ struct ChartDrawState {
     /// Tells the parent and linked charts that the view has followed new data, if it has. False when the parent has
     /// destroyed the chart or its window meanwhile. A timer of the window calls this after DataChanged.
     bool TellFollowed();
-    static void TellFollowed(CChartDraw& chart, UINT_PTR timer);
     /// Called when points were added or removed: follow mode moves the view. Runs at every point: it sends nothing.
     void DataChanged(int nDataset);
     /// Changes the points of a dataset by `change` (chartdraw/ChartDrawData.cpp). A message box reports lack of memory.
@@ -163,8 +166,11 @@ struct ChartDrawState {
     /// Gives the X range to linked charts, which send CDN_VIEW. A handler can destroy this chart meanwhile: nothing of
     /// it may be touched behind this call, unless the result is true.
     bool ShareView();
-    void ShareCursor(int nCursor);           ///< gives the position of a cursor to linked charts
-    void LeaveLink();                        ///< the chart's window goes
+    void ShareCursor(int nCursor); ///< gives the position of a cursor to linked charts
+    /// Lets the plots of linked charts begin and end at the same distances from the edges of their windows.
+    void AlignWithLinked(CRect& plot);
+    void RedrawMisaligned(); ///< repaints linked charts whose plots are not aligned with the last layout
+    void LeaveLink();        ///< the chart's window goes
     std::optional<LinkedRange> ShownRange(); ///< the range of X; empty when the chart has no layout
     LinkedRange SharedRange() const;         ///< what linked charts show
     ValueBounds LinkedDataBounds() const;    ///< of X, of all linked charts, as values of this chart's axis

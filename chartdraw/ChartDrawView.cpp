@@ -54,9 +54,10 @@ ViewRange RoundRangeAround(const ValueBounds& bounds, bool isLogarithmic) {
 /// `timer` is the address of the chart's state.
 void CALLBACK OnFollowTimer(HWND window, UINT, UINT_PTR timer, DWORD) {
     ::KillTimer(window, timer);
-    auto* const chart = dynamic_cast<CChartDraw*>(CWnd::FromHandlePermanent(window));
-    if (chart != nullptr)
-        ChartDrawState::TellFollowed(*chart, timer);
+    ChartDrawState* const state = ChartDrawState::Of(window);
+    // Another chart can have the window of the one that set the timer.
+    if (reinterpret_cast<UINT_PTR>(state) == timer)
+        state->TellFollowed();
 }
 
 } // namespace
@@ -102,10 +103,17 @@ ValueBounds ChartDrawState::DataBounds(int axis) const {
 }
 
 ValueBounds ChartDrawState::OwnDataBounds(int axis) const {
+    const ValueBounds bounds = OwnDataBounds(axis, true);
+    // An axis whose datasets the user has hidden by the legend keeps its range.
+    return bounds.IsEmpty() && legend.GetPlace() != CChartLegend::Hidden ? OwnDataBounds(axis, false)
+                                                                         : bounds;
+}
+
+ValueBounds ChartDrawState::OwnDataBounds(int axis, bool visibleOnly) const {
     const bool isLogarithmic = IsLogarithmic(*this, axis);
     ValueBounds bounds;
     for (const auto& dataset : chart.m_Datasets) {
-        if (!dataset->visible || (axis != kX && dataset->usesY2 != (axis == kY2)))
+        if ((visibleOnly && !dataset->visible) || (axis != kX && dataset->usesY2 != (axis == kY2)))
             continue;
         const ChartSeries& points = dataset->points;
         ValueBounds own = isLogarithmic ? (axis == kX ? points.PositiveXBounds() : points.PositiveYBounds())
@@ -195,12 +203,6 @@ bool ChartDrawState::SetView(int axis, double min, double max, bool tell) {
     input->view.SetRange(ToChartAxis(axis), {min, max});
     ViewChanged(*this, before, tell ? ViewCause::User : ViewCause::Host);
     return true;
-}
-
-void ChartDrawState::TellFollowed(CChartDraw& chart, UINT_PTR timer) {
-    // Another chart can have the window of the one that set the timer.
-    if (reinterpret_cast<UINT_PTR>(chart.m_State.get()) == timer)
-        chart.m_State->TellFollowed();
 }
 
 bool ChartDrawState::TellFollowed() {

@@ -41,7 +41,10 @@ bool ZoomByWheel(ChartDrawState& state, AxisSet axes, CPoint point, int delta) {
 
 /// Moves the first cursor to the data that is under the resting pointer now.
 template <class LayOut> void HoverAgain(ChartDrawState& state, CPoint point, LayOut layOut) {
-    if (state.cursor.GetMode() != CChartCursor::Off && WithinResources(layOut))
+    const CChartDraw* const chart = &state.chart;
+    const HWND window = chart->m_hWnd;
+    // A host's CalcDatas can change linked views, whose parents can destroy this chart.
+    if (state.cursor.GetMode() != CChartCursor::Off && WithinResources(layOut) && IsAlive(window, chart))
         state.HoverCursor(&point);
 }
 

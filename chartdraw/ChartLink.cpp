@@ -2,6 +2,8 @@
 // CChartDraw: charts that share the view of the X axis and the cursors.
 #include "chartdraw/ChartLink.h"
 
+#include <algorithm>
+
 #include "chartdraw/ChartAxisState.h"
 #include "chartdraw/ChartDrawState.h"
 #include "chartdraw/ChartInputState.h"
@@ -120,6 +122,31 @@ void ChartDrawState::ShareCursor(int nCursor) {
             other.cursor.Hide(nCursor);
         other.chart.Redraw();
     }
+}
+
+void ChartDrawState::AlignWithLinked(CRect& plot) {
+    if (!link)
+        return;
+    const CRect& client = Client();
+    link->needed = {static_cast<int>(plot.left - client.left), static_cast<int>(client.right - plot.right)};
+    link->used = link->needed;
+    for (const ChartLinkState* const member : link->group->members) {
+        link->used.left = std::max(link->used.left, member->needed.left);
+        link->used.right = std::max(link->used.right, member->needed.right);
+    }
+    CRect aligned = plot;
+    aligned.left = client.left + link->used.left;
+    aligned.right = client.right - link->used.right;
+    if (aligned.Width() >= plot.Width() / 2) // a chart much narrower than the others keeps its own plot
+        plot = aligned;
+}
+
+void ChartDrawState::RedrawMisaligned() {
+    if (!link)
+        return;
+    for (const ChartLinkState* const member : link->group->members)
+        if (member != link.get() && !(member->used == link->used))
+            member->chart->chart.Redraw();
 }
 
 void ChartDrawState::LeaveLink() {

@@ -51,6 +51,14 @@ struct ChartLinkGroup {
     ChartLinkState* NextMember() const;
 };
 
+/// Pixels from the window's left and right edge to the plot.
+struct LinkedRoom {
+    int left = 0;
+    int right = 0;
+
+    bool operator==(const LinkedRoom& other) const { return left == other.left && right == other.right; }
+};
+
 /// Membership of a chart in a group; ends with this object.
 struct ChartLinkState {
     ChartLinkState(std::shared_ptr<ChartLinkGroup> joined, ChartDrawState* chart)
@@ -66,7 +74,9 @@ struct ChartLinkState {
 
     std::shared_ptr<ChartLinkGroup> group;
     ChartDrawState* chart;
-    unsigned round; ///< number of the last range that the chart has got
+    unsigned round;    ///< number of the last range that the chart has got
+    LinkedRoom needed; ///< what the last layout needs
+    LinkedRoom used;   ///< the most that a chart of the group needed then
 };
 
 inline bool ChartLinkGroup::Has(const ChartDrawState* chart) const {

@@ -41,8 +41,7 @@ std::vector<CursorReading> ReadDatasets(const ChartDrawState& state, const Chart
             readings.push_back(ChartCursorState::ReadAt(state, own, i));
     // In a hole of its data a dataset has no value to read.
     const auto isEmpty = [&](const CursorReading& reading) {
-        return !reading.IsValid() ||
-               std::abs(reading.x - own.x) > state.Dataset(reading.dataset).points.GapLimit();
+        return !reading.IsValid() || ChartCursorState::IsBeyondGap(state, own, reading);
     };
     readings.erase(std::remove_if(readings.begin(), readings.end(), isEmpty), readings.end());
     return readings;
@@ -125,7 +124,8 @@ ChartReadout ReadSpan(ChartDrawState& state, const ChartCursorState& cursors,
 } // namespace
 
 ChartReadout ReadCursors(ChartDrawState& state, const ChartCursorState& cursors) {
-    const CursorReading ends[] = {cursors.Read(state, 0), cursors.Read(state, 1)};
+    // From the second cursor, which stays where it is, to the first one, which follows the pointer.
+    const CursorReading ends[] = {cursors.Read(state, 1), cursors.Read(state, 0)};
     const bool isSame = ends[0].dataset == ends[1].dataset && ends[0].sample == ends[1].sample;
     if (ends[0].IsValid() && ends[1].IsValid() && !isSame)
         return ReadSpan(state, cursors, ends);

@@ -37,7 +37,8 @@ void DrawRings(CDC& dc, const ChartDrawState& state, const ChartCursorState& cur
         const CursorReading reading = ChartCursorState::ReadAt(state, own, i);
         const auto x = state.XMap(dataset).Position(reading.point.x);
         const auto y = state.YMap(dataset).Position(reading.point.y);
-        if (!reading.IsValid() || !x || !y || !state.Plot().PtInRect(CPoint(*x, *y)))
+        if (!reading.IsValid() || !x || !y || ChartCursorState::IsBeyondGap(state, own, reading) ||
+            !state.Plot().PtInRect(CPoint(*x, *y)))
             continue;
         CPen pen;
         pen.CreatePen(PS_SOLID, 2, dataset.color);

@@ -124,7 +124,7 @@ void ChartDrawState::DrawReferenceTexts(CDC& dc) {
     Select(dc, font);
     dc.IntersectClipRect(Plot());
     dc.SetTextAlign(TA_LEFT | TA_TOP);
-    dc.SetBkMode(OPAQUE);
+    dc.SetBkMode(TRANSPARENT);
     state.texts.SetFont(chart.m_FontPixels, chart.m_FontFace);
 
     const int gap = std::max(static_cast<int>(kTextGap * TextHeight()), 1);
@@ -144,8 +144,11 @@ void ChartDrawState::DrawReferenceTexts(CDC& dc) {
         const Rect place = PlaceText(places, item, ToRect(rect), width, TextHeight());
         if (place == Rect{})
             continue;
+        // A rim of one pixel keeps the text readable over data, of which it hides little.
+        dc.SetTextColor(item.isBand ? MixColors(item.color, chart.m_BkColor, kBandPale) : chart.m_BkColor);
+        for (const CPoint by : {CPoint(-1, 0), CPoint(1, 0), CPoint(0, -1), CPoint(0, 1)})
+            DrawTextAt(dc, place.left + static_cast<int>(by.x), place.top + static_cast<int>(by.y), text);
         dc.SetTextColor(MixColors(item.color, ContrastTo(chart.m_BkColor), kTextShade));
-        dc.SetBkColor(item.isBand ? MixColors(item.color, chart.m_BkColor, kBandPale) : chart.m_BkColor);
         DrawTextAt(dc, place.left, place.top, text);
     }
 }

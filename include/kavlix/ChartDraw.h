@@ -277,7 +277,8 @@ public:
     /// values, whatever the origins of the axes are; a chart that cannot show a range keeps its own. A chart leaves its
     /// charts when it is linked again, or when it or its window is destroyed; null only leaves. All linked charts belong
     /// to the same thread. The range is taken from `pOther`. Charts that show their whole data show the data of all of
-    /// them; data that is added to one moves another at its next repaint. FALSE for the chart itself, and when memory
+    /// them; data that is added to one moves another at its next repaint. The plots begin and end at the same distances from
+    /// the edges of the windows. FALSE for the chart itself, and when memory
     /// runs out.
     BOOL LinkView(CChartDraw* pOther);
 

@@ -96,7 +96,12 @@ protected:
             CFont used;
             used.CreateFontIndirect(&form);
             CFont* before = dc.SelectObject(&used);
-            CSize size = dc.GetTextExtent(CString(record.text.c_str()));
+            std::wstring text(record.text.size(), L'\0');
+            text.resize(static_cast<std::size_t>(::MultiByteToWideChar(
+                sizeof(TCHAR) == sizeof(WCHAR) ? CP_UTF8 : CP_ACP, 0, record.text.data(),
+                static_cast<int>(record.text.size()), &text[0], static_cast<int>(text.size()))));
+            CSize size;
+            ::GetTextExtentPoint32W(dc.GetSafeHdc(), text.data(), static_cast<int>(text.size()), &size);
             dc.SelectObject(before);
             const UINT across = record.state.textAlign & TA_CENTER;
             CPoint corner = record.points[0];

@@ -43,7 +43,7 @@ struct MetafileRecord {
     RecordKind kind;
     RECT box = {0, 0, 0, 0};   ///< of a rectangle, ellipse, region or clip
     std::vector<POINT> points; ///< of a line or polygon; the reference point of a text
-    std::string text;          ///< of a text, in the process code page
+    std::string text;          ///< of a text, in the process code page; UTF-8 in UNICODE programs
     std::string brush;         ///< what fills a region
     MetafileState state;       ///< of the DC at this record
 

@@ -135,7 +135,7 @@ void ChartPost() {
 void ChartLate() {
     constexpr int kPoints = 1000000;
     constexpr int kNever = 2 * kPoints;
-    for (const int every : {kNever, 100, 10}) { // one of so many points is late by up to 1000 points
+    for (const int every : {kNever, 100, 10}) { // one point of this number is late, by up to 1000 points
         Stage stage(kWidth, kHeight);
         CChartDraw chart;
         chart.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &stage, 1);

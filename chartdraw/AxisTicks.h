@@ -18,7 +18,7 @@ struct AxisRoom {
     std::function<int(const CString& text)> width; ///< of a text, pixels
 };
 
-/// Ticks of a linear axis. `scale` finds a scale with at most so many steps. The finest one is taken whose labels
+/// Ticks of a linear axis. `scale` finds a scale with at most `mostSteps` steps. The finest one is taken whose labels
 /// leave some room between them.
 AxisLayout FindLinearTicks(const ChartAxisState& axis, const AxisRoom& room,
                            const std::function<RoundScale(int mostSteps)>& scale);

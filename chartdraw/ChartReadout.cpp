@@ -57,7 +57,7 @@ ChartReadout ReadOne(ChartDrawState& state, const ChartCursorState& cursors, con
     for (const CursorReading& reading : ReadDatasets(state, cursors, own)) {
         AddPoint(state, reading, readout.points);
         const ChartDrawState::ChartDataset& dataset = state.Dataset(reading.dataset);
-        // The x of a sample is told only where it differs from that of the cursor.
+        // The x of a sample is shown only where it differs from that of the cursor.
         const CString ownX = reading.x == own.x ? CString() : ValueText(state, ChartDrawState::kX, reading.x);
         const bool isOther = !ownX.IsEmpty() && ownX != x;
         hasOwnX = hasOwnX || isOther;

@@ -57,7 +57,7 @@ public:
     void Assign(const double* pX, const double* pY, int count);
     /// Removes all points and frees their memory. Limits, gaps and the rule of SetEven stay.
     void Clear();
-    /// Removes the first `count` points; all when there are not so many.
+    /// Removes the first `count` points; all when there are fewer.
     void RemoveHead(int count);
     /// Number of points removed from the head since the last Clear or Assign.
     std::int64_t Dropped() const { return m_dropped; }

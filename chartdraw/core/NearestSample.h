@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    static constexpr int kFewest = 32; ///< so many points are read one by one
+    static constexpr int kFewest = 32; ///< parts of at most this number of points are read one by one
 
     /// Square of the distance of an interval, given the distances of its ends. 0 when one of them is unknown.
     static double OfInterval(double a, double b) {

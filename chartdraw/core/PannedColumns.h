@@ -24,7 +24,7 @@ struct PannedPlot {
     int shift;      ///< columns by which the picture moves to the left, see PannedBy
     int left;       ///< the columns of the plot
     int right;
-    int reach; ///< a point paints at most so many columns beside its own one, apart from strokes
+    int reach; ///< most columns beside its own one that a point paints, apart from strokes
 };
 
 /// The columns by which the map `after` moves pixels to the left of those of `before`. Empty when the maps differ by

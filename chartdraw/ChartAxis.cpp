@@ -135,8 +135,7 @@ AxisMap ChartDrawState::YMap(const CChartDraw::Dataset& dataset) const {
 }
 
 const AxisLayout& ChartDrawState::Layout(int axis) const {
-    const CChartAxis& asked = axis == kX ? xAxis : axis == kY ? yAxis : y2Axis;
-    return asked.m_State->layout;
+    return Axis(axis).m_State->layout;
 }
 
 std::int64_t ChartDrawState::CountNotShown() const {
@@ -162,7 +161,7 @@ std::int64_t ChartDrawState::CountNotShown() const {
 }
 
 CString ChartDrawState::Caption(int axis) const {
-    const ChartAxisState& state = *(axis == kX ? xAxis : axis == kY ? yAxis : y2Axis).m_State;
+    const ChartAxisState& state = *Axis(axis).m_State;
     const CString& text = axis == kX ? chart.m_XLabel : axis == kY ? chart.m_YLabel : state.title;
     if (state.unit.IsEmpty())
         return text;

@@ -42,6 +42,25 @@ int FindSample(const ChartSeries& points, const ChartPoint& point) {
     return same.distance == 0 ? same.index : nearest;
 }
 
+/// The nearest of the samples that `find` finds in each visible dataset; of equally near ones that of `preferred`,
+/// otherwise the first.
+template <class Find> CursorReading
+NearestOfVisible(const ChartDrawState& state, const ChartDrawState::ChartDataset* preferred, Find find) {
+    NearestSample best;
+    int bestDataset = -1;
+    for (int i = 0; i < state.DatasetCount(); ++i) {
+        const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
+        if (!dataset.visible)
+            continue;
+        const NearestSample found = find(dataset);
+        if (found.distance < best.distance || (found.distance == best.distance && &dataset == preferred)) {
+            best = found;
+            bestDataset = i;
+        }
+    }
+    return ReadingOf(state, bestDataset, best.index);
+}
+
 } // namespace
 
 CursorReading ChartCursorState::Read(const ChartDrawState& state, int cursor) const {
@@ -67,44 +86,27 @@ bool ChartCursorState::IsBeyondGap(const ChartDrawState& state, const CursorRead
 
 CursorReading ChartCursorState::Nearest(const ChartDrawState& state, double x,
                                         const ChartDrawState::ChartDataset* preferred) {
-    NearestSample best;
-    int bestDataset = -1;
-    for (int i = 0; i < state.DatasetCount(); ++i) {
-        const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
-        if (!dataset.visible)
-            continue;
-        const NearestSample found = FindNearestInX(dataset.points, state.ToDataset(dataset, x));
-        if (found.distance < best.distance || (found.distance == best.distance && &dataset == preferred)) {
-            best = found;
-            bestDataset = i;
-        }
-    }
-    return ReadingOf(state, bestDataset, best.index);
+    return NearestOfVisible(
+        state, preferred,
+        [&](const ChartDrawState::ChartDataset& dataset) {
+            return FindNearestInX(dataset.points, state.ToDataset(dataset, x));
+        });
 }
 
 CursorReading ChartCursorState::Nearest(const ChartDrawState& state, CPoint point) const {
-    NearestSample best;
-    int bestDataset = -1;
-    for (int i = 0; i < state.DatasetCount(); ++i) {
-        const ChartDrawState::ChartDataset& dataset = state.Dataset(i);
-        if (!dataset.visible)
-            continue;
-        const AxisMap xMap = state.XMap(dataset);
-        const AxisMap yMap = state.YMap(dataset);
-        const auto along = [&](double x) { return xMap.ExactPosition(x) - point.x; };
-        const auto across = [&](double y) { return yMap.ExactPosition(y) - point.y; };
-        const auto anywhere = [](double) { return 0.0; };
-        const double x = xMap.Value(point.x);
-        const NearestSample found =
-            mode == CChartCursor::All
-                ? FindNearestSample(dataset.points, x, along, anywhere, false)
-                : FindNearestSample(dataset.points, x, along, across, yMap.IsLogarithmic());
-        if (found.distance < best.distance) {
-            best = found;
-            bestDataset = i;
-        }
-    }
-    return ReadingOf(state, bestDataset, best.index);
+    return NearestOfVisible(
+        state, nullptr,
+        [&](const ChartDrawState::ChartDataset& dataset) {
+            const AxisMap xMap = state.XMap(dataset);
+            const AxisMap yMap = state.YMap(dataset);
+            const auto along = [&](double x) { return xMap.ExactPosition(x) - point.x; };
+            const auto across = [&](double y) { return yMap.ExactPosition(y) - point.y; };
+            const auto anywhere = [](double) { return 0.0; };
+            const double x = xMap.Value(point.x);
+            return mode == CChartCursor::All
+                       ? FindNearestSample(dataset.points, x, along, anywhere, false)
+                       : FindNearestSample(dataset.points, x, along, across, yMap.IsLogarithmic());
+        });
 }
 
 bool ChartCursorState::Set(const ChartDrawState& state, int cursor, const CursorReading& reading) {

@@ -27,7 +27,7 @@ template <class Change> BOOL ChartDrawState::ChangePoints(int nDataset, Change c
         return FALSE;
     Changed();
     const BOOL isDone = ReportingExhaustion([&] { change(Dataset(nDataset).points); });
-    DataChanged(nDataset);
+    DataChanged();
     return isDone;
 }
 

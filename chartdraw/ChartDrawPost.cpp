@@ -69,7 +69,7 @@ void ChartDrawState::TakePosted() {
             ++refused;
             ++i;
         }
-        DataChanged(index);
+        DataChanged();
     }
     posted->queue.Release();
     Changed();

@@ -52,6 +52,7 @@ struct ChartDrawState {
 
     ChartAxisState& AxisState(int axis) { return *Axis(axis).m_State; }
     CChartAxis& Axis(int axis) { return axis == kX ? xAxis : axis == kY ? yAxis : y2Axis; }
+    const CChartAxis& Axis(int axis) const { return axis == kX ? xAxis : axis == kY ? yAxis : y2Axis; }
 
     // ---- Maps of the last layout, values to client pixels (chartdraw/ChartAxis.cpp) ----
 
@@ -155,7 +156,7 @@ struct ChartDrawState {
     /// destroyed the chart or its window meanwhile. A timer of the window calls this after DataChanged.
     bool TellFollowed();
     /// Called when points were added or removed: follow mode moves the view. Runs at every point: it sends nothing.
-    void DataChanged(int nDataset);
+    void DataChanged();
     /// Changes the points of a dataset by `change` (chartdraw/ChartDrawData.cpp). A message box reports lack of memory.
     template <class Change> BOOL ChangePoints(int nDataset, Change change);
 

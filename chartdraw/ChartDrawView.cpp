@@ -24,10 +24,7 @@ ChartAxis ToChartAxis(int axis) {
 }
 
 CChartAxis::Kind KindOf(const ChartDrawState& state, int axis) {
-    const CChartAxis& asked = axis == ChartDrawState::kX   ? state.xAxis
-                              : axis == ChartDrawState::kY ? state.yAxis
-                                                           : state.y2Axis;
-    return asked.GetKind();
+    return state.Axis(axis).GetKind();
 }
 
 bool IsLogarithmic(const ChartDrawState& state, int axis) {
@@ -220,12 +217,12 @@ bool ChartDrawState::TellFollowed() {
     return isAlive;
 }
 
-void ChartDrawState::DataChanged(int) {
+void ChartDrawState::DataChanged() {
     if (input->view.Mode(ChartAxis::X) != ScaleMode::Follow || input->isFollowTimed ||
         chart.m_hWnd == nullptr)
         return;
-    // The layout lets the view follow. The parent and linked charts are told later, once for all data that has come
-    // by then, so that no message runs inside of AddData.
+    // The layout lets the view follow. CDN_VIEW goes to the parent later, and the range to linked charts, once for
+    // all data that has come by then, so that no message runs inside of AddData.
     input->followedFrom = input->view.Axis(ChartAxis::X).Range();
     input->isFollowTimed = ::SetTimer(chart.m_hWnd, reinterpret_cast<UINT_PTR>(this), 0, &OnFollowTimer) != 0;
 }

@@ -24,7 +24,8 @@ TEST(PostQueueTest, AnyCallsAgreeWithALiteralModel) {
 
     std::vector<PostedPoint> model;
     std::size_t capacity = PostQueue::kDefaultCapacity;
-    bool isOpen = true, isAwake = false, isBusy = false; // the owner is told; has taken, and is not ready
+    bool isOpen = true, isAwake = false,
+         isBusy = false; // a wake message is on its way; the owner has taken points and is not ready
     int expectedWakes = 0, refusals = 0;
     const auto wakeIfDue = [&] {
         if (!isOpen || isAwake || model.empty() || (isBusy && model.size() * 2 < capacity))
